@@ -1,0 +1,20 @@
+# One interface target carries the warnings and the instrumentation of the whole build.
+add_library(nimb_build INTERFACE)
+if(MSVC)
+  target_compile_options(nimb_build INTERFACE /W4 /utf-8 $<$<BOOL:${NIMB_WERROR}>:/WX>)
+else()
+  target_compile_options(nimb_build INTERFACE
+    -Wall -Wextra -Wshadow -Wconversion -Wnon-virtual-dtor -Wold-style-cast
+    $<$<BOOL:${NIMB_WERROR}>:-Werror>)
+endif()
+if(NIMB_SANITIZE)
+  target_compile_options(nimb_build INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(nimb_build INTERFACE -fsanitize=address,undefined)
+endif()
+if(NIMB_COVERAGE)
+  target_compile_options(nimb_build INTERFACE --coverage)
+  target_link_options(nimb_build INTERFACE --coverage)
+endif()
+target_compile_definitions(nimb_build INTERFACE
+  QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_JAVA_STYLE_ITERATORS
+  QT_DISABLE_DEPRECATED_BEFORE=0x060400)

@@ -1,0 +1,94 @@
+#include "app/form_opener.h"
+
+#include "core/frmMain.h"
+#include "core/pictures.h"
+#include "dialogs/frmLogin.h"
+#include "dialogs/frmNotify.h"
+#include "private/frmPrivate.h"
+#include "private/rich_text_log.h"
+
+namespace nimb
+{
+
+FormOpener::FormOpener() = default;
+FormOpener::~FormOpener() = default;
+
+void FormOpener::loadNotify()
+{
+    m_notify = std::make_unique<frmNotify>();
+}
+
+bool FormOpener::showLogin(Login &login, Prompts &prompts)
+{
+    frmLogin dialog(login, prompts);
+    m_login = &dialog;
+    const bool chosen = dialog.exec() == QDialog::Accepted;
+    m_login = nullptr;
+    return chosen;
+}
+
+bool FormOpener::closeLogin()
+{
+    if (!m_login)
+        return false;
+    m_login->reject();
+    return true;
+}
+
+frmMain &FormOpener::makeMain()
+{
+    // The window takes the log over as a child.
+    auto *const log = new RichTextLogEdit(nullptr);
+    log->setFrameShape(QFrame::NoFrame);
+    log->setInsets(frmMain::logInsetAbove, frmMain::logInsetBelow);
+    m_main = std::make_unique<frmMain>(frmMain::Log{*log, *log});
+    return *m_main;
+}
+
+void FormOpener::connectMain(Messenger &engine, Common &common, const DropCounts &drops, std::function<void()> ended)
+{
+    m_engine = &engine;
+    m_main->connectControls({engine.mainWindow(), engine.contacts(), engine.contactCommands(), engine.ownState(),
+                             engine.announcement(), engine.log(), common, [&drops] { return drops.summary(); }},
+                            std::move(ended));
+}
+
+void FormOpener::destroyMain()
+{
+    m_main.reset();
+}
+
+QIcon FormOpener::trayIcon() const
+{
+    return m_notify->windowIcon();
+}
+
+ViewPtr<PrivateChatView> FormOpener::makePrivateForm(PrivateChat &chat)
+{
+    // Owned by the chat, which lets it go.
+    return ViewPtr<PrivateChatView>(new frmPrivate(chat));
+}
+
+void FormOpener::unloadPrivateWindows()
+{
+    m_engine->privateWindows().unloadAll();
+}
+
+void FormOpener::unloadNotify()
+{
+    m_notify.reset();
+}
+
+void FormOpener::add(const QString &text, Picture picture)
+{
+    if (m_notify)
+        m_notify->add(text, picture);
+}
+
+void FormOpener::startTimer()
+{
+    if (m_notify)
+        m_notify->startTimer();
+}
+
+} // namespace nimb

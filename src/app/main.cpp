@@ -1,0 +1,21 @@
+// Sub Main: the program's entry.
+#include "app/program.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+
+int main(int argc, char *argv[])
+{
+    const QString commandLine = nimb::commandLineOf(argc, argv);
+    // Qt would take words such as -style for itself, but every word is part of the nickname.
+    int programNameAlone = 1;
+    QApplication application(programNameAlone, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("NIMB-Chat"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.2.0"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("nimb-chat"));
+    // Windows come and go; only the main window's unloading ends the program.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+
+    nimb::Program program(nimb::Environment::fromSystem());
+    return program.run(commandLine);
+}

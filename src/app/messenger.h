@@ -1,0 +1,59 @@
+// Makes one whole engine and ties its parts together.
+#pragma once
+
+#include "core/contact_commands.h"
+#include "core/main_window.h"
+#include "core/notifications.h"
+#include "private/private_windows.h"
+#include "protocol/receive_dispatcher.h"
+
+namespace nimb
+{
+
+/// What the engine needs from the system and from the windows; all of it outlives the engine.
+struct Surroundings {
+    Winsock &socket;
+    SettingsStore &store;
+    Timers &timers;
+    const WallClock &clock;
+    Prompts &prompts;
+    Notifications &notifications;
+    TrayIcon &tray;
+    SecondaryWindows &windows;
+    PrivateForms &privateForms;
+    MainWindowView &mainView;
+    DropCounts &drops;
+};
+
+/// The engine of one copy from the loading of the main window to its end. A process may hold any number of them.
+class Messenger
+{
+public:
+    Messenger(Common &common, const Surroundings &surroundings);
+    ~Messenger();
+
+    MainWindow &mainWindow() { return m_mainWindow; }
+    ContactList &contacts() { return m_contacts; }
+    ContactCommands &contactCommands() { return m_contactCommands; }
+    OwnState &ownState() { return m_ownState; }
+    Announcement &announcement() { return m_announcement; }
+    MainLog &log() { return m_log; }
+    PrivateWindows &privateWindows() { return m_privateWindows; }
+    ReceiveDispatcher &dispatcher() { return m_dispatcher; }
+
+private:
+    Winsock &m_socket;
+    ContactList m_contacts;
+    MainLog m_log;
+    PresenceSender m_sender;
+    Announcement m_announcement;
+    OwnState m_ownState;
+    PortWatch m_port;
+    PrivateWindows m_privateWindows;
+    Presence m_presence;
+    ContactCommands m_contactCommands;
+    ReceiveDispatcher m_dispatcher;
+    MainWindow m_mainWindow;
+};
+
+} // namespace nimb

@@ -1,0 +1,141 @@
+#include "app/program.h"
+
+#include "core/frmMain.h"
+#include "core/sub_main.h"
+#include "platform/own_identity.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLocale>
+#include <QSessionManager>
+#include <QStandardPaths>
+
+namespace nimb
+{
+namespace
+{
+
+std::optional<QString> variable(const char *name)
+{
+    const QString value = qEnvironmentVariable(name);
+    return value.isEmpty() ? std::nullopt : std::optional(value);
+}
+
+} // namespace
+
+QString commandLineOf(int argc, char *argv[])
+{
+    QStringList words;
+    for (int i = 1; i < argc; ++i)
+        words.append(QString::fromLocal8Bit(argv[i]));
+    return words.join(QLatin1Char(' '));
+}
+
+Environment Environment::fromSystem()
+{
+    const QString standard
+        = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QLatin1String("/NIMB-Chat");
+    return {variable("NIMBCHAT_ADDRESS"), variable("NIMBCHAT_HOSTNAME"),
+            QDir(variable("NIMBCHAT_PROFILE").value_or(standard)).absolutePath()};
+}
+
+Program::Program(const Environment &environment) :
+    m_store(environment.profileFolder), m_instance(environment.profileFolder),
+    m_socket(m_drops, environment.address, environment.hostName)
+{
+    qApp->installEventFilter(&m_toolTips);
+}
+
+int Program::run(const QString &commandLine)
+{
+    listenToTheSystem();
+    if (SubMain(commandLine, m_common, m_store, *this) != Started::running)
+        return 0;
+    const int status = QCoreApplication::exec();
+    m_forms.destroyMain();
+    m_engine.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return status;
+}
+
+void Program::listenToTheSystem()
+{
+    m_signals.emplace([this] { end(UnloadMode::code); });
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &m_instance,
+                     [this](QSessionManager &session) { endSession(session); });
+    // A restored session would start the program with words that it takes for a nickname.
+    QObject::connect(qApp, &QGuiApplication::saveStateRequest, &m_instance,
+                     [](QSessionManager &session) { session.setRestartHint(QSessionManager::RestartNever); });
+}
+
+void Program::endSession(QSessionManager &session)
+{
+    session.setRestartHint(QSessionManager::RestartNever);
+    end(UnloadMode::sessionEnd);
+}
+
+void Program::end(UnloadMode mode)
+{
+    m_prompts.setUnattended();
+    if (frmMain *const window = m_forms.main())
+        window->unload(mode);
+    else
+        m_forms.closeLogin();
+}
+
+bool Program::anotherCopyRuns()
+{
+    return !m_instance.acquire();
+}
+
+void Program::restoreOtherCopy(const QString &caption)
+{
+    m_instance.handOver(caption);
+}
+
+void Program::secondStart(const QString &caption)
+{
+    frmMain *const window = m_forms.main();
+    if (window && window->caption() == caption)
+        window->restore();
+}
+
+void Program::loadNotify()
+{
+    m_instance.secondStart = [this](const QString &caption) { secondStart(caption); };
+    m_login.emplace(m_common, m_store, m_socket);
+    m_forms.loadNotify();
+}
+
+void Program::showLogin()
+{
+    m_forms.showLogin(*m_login, m_prompts);
+}
+
+void Program::loadAndUnloadLogin()
+{
+    m_login->Form_Load();
+}
+
+void Program::loadMain()
+{
+    frmMain &window = m_forms.makeMain();
+    m_prompts.setParentWindow(&window);
+    m_tray.emplace(m_forms.trayIcon(), [&window] { window.restore(); });
+    m_engine.emplace(m_common, Surroundings{m_socket, m_store, m_timers, m_clock, m_prompts, m_forms, *m_tray,
+                                            m_forms, m_forms, window, m_drops});
+    m_forms.connectMain(*m_engine, m_common, m_drops, [] { QCoreApplication::exit(0); });
+    window.Form_Load();
+}
+
+void Program::showMain()
+{
+    m_forms.main()->show();
+}
+
+void Program::minimiseMain()
+{
+    m_forms.main()->showMinimized();
+}
+
+} // namespace nimb

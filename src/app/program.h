@@ -1,0 +1,76 @@
+// One run of the program: makes the objects, hands them to each other, starts and ends.
+#pragma once
+
+#include "app/form_opener.h"
+#include "app/messenger.h"
+#include "core/Tray.h"
+#include "core/plain_tool_tips.h"
+#include "core/windows.h"
+#include "platform/qt_timers.h"
+#include "platform/single_instance.h"
+#include "platform/sqlite_settings_store.h"
+#include "platform/udp_winsock.h"
+#include "platform/unix_signals.h"
+
+#include <optional>
+
+class QSessionManager;
+
+namespace nimb
+{
+
+/// All arguments joined by single blanks.
+QString commandLineOf(int argc, char *argv[]);
+
+/// What the program is told by its environment.
+struct Environment {
+    std::optional<QString> address; ///< NIMBCHAT_ADDRESS: dotted IPv4 to bind to
+    std::optional<QString> hostName; ///< NIMBCHAT_HOSTNAME
+    QString profileFolder; ///< NIMBCHAT_PROFILE, or NIMB-Chat in the user's configuration folder
+
+    static Environment fromSystem();
+};
+
+class Program : public StartUpSteps
+{
+public:
+    explicit Program(const Environment &environment);
+
+    /// Returns the exit status.
+    int run(const QString &commandLine);
+
+    bool anotherCopyRuns() override;
+    void restoreOtherCopy(const QString &caption) override;
+    void InitEmoticonTables() override {}
+    void loadNotify() override;
+    void showLogin() override;
+    void loadAndUnloadLogin() override;
+    void loadMain() override;
+    void showMain() override;
+    void minimiseMain() override;
+    void showTipOfTheDay() override {}
+
+private:
+    void listenToTheSystem();
+    void endSession(QSessionManager &session);
+    /// Ends the program without anybody there to answer questions.
+    void end(UnloadMode mode);
+    void secondStart(const QString &caption);
+
+    DropCounts m_drops;
+    Common m_common;
+    SqliteSettingsStore m_store;
+    SingleInstance m_instance;
+    QtTimers m_timers;
+    SystemClock m_clock;
+    UdpWinsock m_socket;
+    MessageBoxes m_prompts;
+    PlainToolTips m_toolTips;
+    FormOpener m_forms;
+    std::optional<Login> m_login;
+    std::optional<Tray> m_tray;
+    std::optional<Messenger> m_engine;
+    std::optional<UnixSignals> m_signals;
+};
+
+} // namespace nimb

@@ -1,0 +1,78 @@
+// The state that the whole program shares. Data only: made once, handed by reference to whoever needs it.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstdint>
+
+namespace nimb
+{
+
+/// Font of the logs and input boxes of private and conference windows.
+struct LogFont {
+    QString face = QStringLiteral("MS Sans Serif");
+    std::int16_t size = 8; ///< points
+    QString style; ///< holds "b" for bold and "i" for italic, in any order
+
+    bool bold() const { return style.contains(u'b'); }
+    bool italic() const { return style.contains(u'i'); }
+    bool operator==(const LogFont &) const = default;
+};
+
+/// The option flags, 16-bit integers as they are stored. Where only one value has a meaning, every other value
+/// behaves like its opposite.
+struct Options {
+    std::int16_t ShowStatusOnPrivate = 1;
+    std::int16_t BuzzLocal = 0;
+    std::int16_t BuzzRemote = 1;
+    std::int16_t PrivateBehaviour = 0;
+    std::int16_t DontDestroyWindow = 0;
+    std::int16_t NotifyWin = 1;
+    std::int16_t LiveType = 1;
+    std::int16_t CloseButtonDoesMinimize = 0;
+};
+
+/// Where the main window stands: its frame's corner and its height without the frame, in twips.
+struct WindowPlace {
+    double left = 1000;
+    double top = 1000;
+    double height = 6200;
+};
+
+struct AutoReply {
+    bool onBusy = false;
+    bool onAway = false;
+    QString busyText = QStringLiteral("I'm busy, please do not disturb");
+    QString awayText = QStringLiteral("At the moment I'm not at my PC");
+};
+
+struct Common {
+    Common() = default;
+    Common(const Common &) = delete;
+    Common &operator=(const Common &) = delete;
+
+    QString ownIP; ///< dotted IPv4, read once from the socket
+    QString ownHostName;
+    QString ownNickname;
+
+    /// "Online" until the first choice, then "ONLINE", "BUSY", "AWAY" or "Invisible"; compared as written.
+    QString ownState = QStringLiteral("Online");
+    QString ownStateText; ///< the personalised text, empty for a plain state
+    bool announcing = false; ///< an announcement waits for answers
+
+    Options options;
+    AutoReply autoReply;
+    LogFont logFont;
+    QString avatarHead; ///< empty: no avatar
+    QByteArray avatarBody; ///< 7500 bytes, or empty
+    std::uint16_t udpPort = 5549;
+    WindowPlace mainPlace;
+
+    bool windowFlashingAvailable = false;
+    bool buzzmute = false;
+
+    bool isInvisible() const { return ownState == QLatin1String("Invisible"); }
+};
+
+} // namespace nimb

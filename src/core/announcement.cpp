@@ -1,0 +1,97 @@
+#include "core/announcement.h"
+
+#include "core/limits.h"
+#include "protocol/send_datagram.h"
+#include "protocol/wire_text.h"
+
+namespace nimb
+{
+namespace
+{
+
+wire::Identity ownIdentity(const Common &common)
+{
+    return {toWire(common.ownIP), toWire(common.ownHostName), toWire(common.ownNickname)};
+}
+
+} // namespace
+
+void PresenceSender::question(const QString &ip) const
+{
+    sendDatagram(m_socket, ip, wire::OnlineQuestion{ownIdentity(m_common)});
+}
+
+void PresenceSender::answer(const QString &ip) const
+{
+    sendDatagram(m_socket, ip, wire::OnlineAnswer{ownIdentity(m_common)});
+}
+
+void PresenceSender::farewell(const QString &ip) const
+{
+    sendDatagram(m_socket, ip, wire::Offline{ownIdentity(m_common)});
+}
+
+void PresenceSender::status(const QString &ip) const
+{
+    sendDatagram(m_socket, ip, wire::Status{toWire(m_common.ownState), toWire(m_common.ownStateText)});
+}
+
+void PresenceSender::statusUnlessOnline(const QString &ip) const
+{
+    if (m_common.ownState != QLatin1String("ONLINE"))
+        status(ip);
+}
+
+Announcement::Announcement(Common &common, ContactList &contacts, PresenceSender &sender, Timers &timers,
+                           AnnouncementView &view) :
+    m_common(common), m_contacts(contacts), m_sender(sender), m_view(view),
+    m_nextBatch(timers.oneShot(std::chrono::milliseconds(0), [this] { askNextBatch(); })),
+    m_timer1(timers.oneShot(limits::announcementTime, [this] { Timer1_Timer(); }))
+{
+}
+
+void Announcement::run()
+{
+    m_timer1->stop();
+    m_common.announcing = true;
+    m_view.setRescanEnabled(false);
+    m_toAsk = m_contacts.addresses();
+    m_asked = 0;
+    askNextBatch();
+}
+
+void Announcement::askNextBatch()
+{
+    const qsizetype end = qMin(m_toAsk.size(), m_asked + limits::announcementBatch);
+    while (m_asked < end)
+        ask(m_toAsk.at(m_asked++));
+    if (m_asked < m_toAsk.size())
+        m_nextBatch->start();
+    else
+        m_timer1->start();
+}
+
+void Announcement::ask(const QString &ip)
+{
+    const bool stillThere = m_contacts.change(ip, [](Contact &contact) {
+        contact.setPresence(Picture::yellow);
+        contact.state.clear();
+    });
+    if (!stillThere)
+        return;
+    m_sender.question(ip);
+    m_sender.statusUnlessOnline(ip);
+}
+
+void Announcement::Timer1_Timer()
+{
+    for (const QString &ip : m_contacts.addresses()) {
+        if (m_contacts.find(ip)->picture == Picture::yellow)
+            m_contacts.change(ip, [](Contact &contact) { contact.setPresence(Picture::red); });
+    }
+    m_view.refreshContextMenu();
+    m_view.setRescanEnabled(true);
+    m_common.announcing = false;
+}
+
+} // namespace nimb

@@ -1,0 +1,57 @@
+// The announcement: every contact is asked whether it is there, and the silent ones turn offline.
+#pragma once
+
+#include "core/Common.h"
+#include "core/contact_list.h"
+#include "core/main_window_view.h"
+#include "core/timers.h"
+#include "protocol/winsock.h"
+
+namespace nimb
+{
+
+/// Sends a contact the presence datagram that goes with the own state; see the functions for which.
+class PresenceSender
+{
+public:
+    PresenceSender(const Common &common, Winsock &socket) : m_common(common), m_socket(socket) {}
+
+    void question(const QString &ip) const;
+    void answer(const QString &ip) const;
+    void farewell(const QString &ip) const;
+    /// The own state word, with its text where it has one.
+    void status(const QString &ip) const;
+    /// The same, unless the own state word is "ONLINE".
+    void statusUnlessOnline(const QString &ip) const;
+
+private:
+    const Common &m_common;
+    Winsock &m_socket;
+};
+
+/// At start, on demand and after leaving Invisible. Asks in batches, so that answers are read in between, and waits
+/// limits::announcementTime after the last question. Running again starts over.
+class Announcement
+{
+public:
+    Announcement(Common &common, ContactList &contacts, PresenceSender &sender, Timers &timers,
+                 AnnouncementView &view);
+
+    void run();
+
+private:
+    void askNextBatch();
+    void ask(const QString &ip);
+    void Timer1_Timer();
+
+    Common &m_common;
+    ContactList &m_contacts;
+    PresenceSender &m_sender;
+    AnnouncementView &m_view;
+    QStringList m_toAsk; ///< the list's order when the announcement began
+    qsizetype m_asked = 0;
+    std::unique_ptr<Timer> m_nextBatch;
+    std::unique_ptr<Timer> m_timer1;
+};
+
+} // namespace nimb

@@ -1,0 +1,54 @@
+// What the main window does with the selected contact, and the captions that name it.
+#pragma once
+
+#include "core/contact_list.h"
+#include "core/prompts.h"
+
+#include <QCoreApplication>
+
+namespace nimb
+{
+
+/// Captions of the context menu; "&" marks access keys and is doubled in names.
+struct ContactMenuCaptions {
+    QString mnuPrivateChat, mnuBuzzUser, mnuRemoveUser, mnusendcontacts, mnuinviteuser;
+};
+
+/// Opens private windows at the user's wish.
+class PrivateChats
+{
+public:
+    virtual ~PrivateChats() = default;
+    /// Shows the contact's private window, normal and active; makes it when there is none.
+    virtual void openPrivate(const QString &ip) = 0;
+    /// The contact has been removed from the list.
+    virtual void contactRemoved(const QString &ip) = 0;
+};
+
+/// Every command does nothing when there is no contact with the address, an empty one included.
+class ContactCommands
+{
+    Q_DECLARE_TR_FUNCTIONS(ContactCommands)
+
+public:
+    ContactCommands(ContactList &contacts, PrivateChats &chats, Prompts &prompts) :
+        m_contacts(contacts), m_chats(chats), m_prompts(prompts)
+    {
+    }
+
+    ContactMenuCaptions captions(const QString &ip) const;
+    /// Nickname and state text of the contact, as one line; empty when there is no such contact.
+    QString toolTip(const QString &ip) const;
+    /// The same with workstation and address.
+    QString details(const QString &ip) const;
+
+    void mnuPrivateChat(const QString &ip);
+    void mnuRemoveUser(const QString &ip);
+
+private:
+    ContactList &m_contacts;
+    PrivateChats &m_chats;
+    Prompts &m_prompts;
+};
+
+} // namespace nimb

@@ -1,0 +1,233 @@
+#include "core/contact_list.h"
+
+#include <algorithm>
+
+namespace nimb
+{
+namespace
+{
+
+const QString usersSection = QStringLiteral("Users");
+
+/// UTF-16 orders surrogates before U+E000 to U+FFFF; lifting them above restores the order of code points.
+uint codePointRank(char16_t unit)
+{
+    return QChar::isSurrogate(unit) ? uint(unit) + 0x10000 : uint(unit);
+}
+
+} // namespace
+
+int compareCodePoints(const QString &left, const QString &right)
+{
+    const auto [l, r] = std::mismatch(left.begin(), left.end(), right.begin(), right.end());
+    if (l == left.end() || r == right.end())
+        return (l != left.end()) - (r != right.end());
+    return codePointRank(l->unicode()) < codePointRank(r->unicode()) ? -1 : 1;
+}
+
+void Contact::setPresence(Picture presence)
+{
+    picture = presence;
+    sortKey = sortPrefix(presence) + nickname.toUpper();
+}
+
+ContactList::~ContactList() = default;
+
+const Contact *ContactList::find(const QString &ip) const
+{
+    const Row *row = m_byAddress.value(ip);
+    return row ? &row->contact : nullptr;
+}
+
+const Contact &ContactList::at(int row) const
+{
+    return m_rows.at(static_cast<std::size_t>(row))->contact;
+}
+
+int ContactList::rowOf(const QString &ip) const
+{
+    const Row *row = m_byAddress.value(ip);
+    return row ? position(*row) : -1;
+}
+
+QStringList ContactList::addresses() const
+{
+    QStringList list;
+    list.reserve(rowCount());
+    for (const auto &row : m_rows)
+        list.append(row->contact.ip);
+    return list;
+}
+
+bool ContactList::before(const Row &left, const Row &right)
+{
+    const int order = compareCodePoints(left.contact.sortKey, right.contact.sortKey);
+    return order != 0 ? order < 0 : left.arrival < right.arrival;
+}
+
+int ContactList::position(const Row &row) const
+{
+    const auto found = std::lower_bound(m_rows.begin(), m_rows.end(), row,
+                                        [](const auto &element, const Row &value) { return before(*element, value); });
+    return static_cast<int>(found - m_rows.begin());
+}
+
+bool ContactList::add(Contact contact)
+{
+    if (contact.ip.isEmpty() || m_byAddress.contains(contact.ip))
+        return false;
+    auto row = std::make_unique<Row>(Row{std::move(contact), ++m_arrivals});
+    const int where = position(*row);
+    beginInsertRows({}, where, where);
+    m_byAddress.insert(row->contact.ip, row.get());
+    m_rows.insert(m_rows.begin() + where, std::move(row));
+    endInsertRows();
+    return true;
+}
+
+bool ContactList::change(const QString &ip, const std::function<void(Contact &)> &edit)
+{
+    Row *row = m_byAddress.value(ip);
+    if (!row)
+        return false;
+    const int from = position(*row);
+    Row edited = *row;
+    edit(edited.contact);
+    Q_ASSERT(edited.contact.ip == ip);
+    if (edited.contact.sortKey != row->contact.sortKey)
+        moveRow(from, edited);
+    row->contact = std::move(edited.contact);
+    const int now = position(*row);
+    Q_EMIT dataChanged(index(now, 0), index(now, ColumnCount - 1));
+    return true;
+}
+
+void ContactList::moveRow(int from, Row &row)
+{
+    // Among the other rows, which are still in order, the row itself counts as absent.
+    const auto own = m_rows.begin() + from;
+    const auto less = [](const auto &element, const Row &value) { return before(*element, value); };
+    auto target = std::lower_bound(m_rows.begin(), own, row, less);
+    if (target == own)
+        target = std::lower_bound(own + 1, m_rows.end(), row, less);
+    const int to = static_cast<int>(target - m_rows.begin());
+    if (to == from || to == from + 1) {
+        m_rows[static_cast<std::size_t>(from)]->contact.sortKey = row.contact.sortKey;
+        return;
+    }
+    beginMoveRows({}, from, from, {}, to);
+    (*own)->contact.sortKey = row.contact.sortKey;
+    if (to < from)
+        std::rotate(target, own, own + 1);
+    else
+        std::rotate(own, own + 1, target);
+    endMoveRows();
+}
+
+bool ContactList::remove(const QString &ip)
+{
+    const int row = rowOf(ip);
+    if (row < 0)
+        return false;
+    beginRemoveRows({}, row, row);
+    m_byAddress.remove(ip);
+    m_rows.erase(m_rows.begin() + row);
+    endRemoveRows();
+    return true;
+}
+
+void ContactList::load(const SettingsStore &store)
+{
+    for (int n = 1;; ++n) {
+        const QString number = QString::number(n);
+        const QString ip = store.read(usersSection, QLatin1String("IP") + number, endOfStoredContacts);
+        if (ip == endOfStoredContacts)
+            return;
+        Contact contact;
+        contact.ip = ip;
+        contact.nickname = store.read(usersSection, QLatin1String("Nn") + number, unknownName);
+        contact.workstation = store.read(usersSection, QLatin1String("Ws") + number, unknownName);
+        contact.sortKey = sortPrefix(Picture::yellow) + contact.nickname;
+        add(std::move(contact));
+    }
+}
+
+void ContactList::saveContact(SettingsStore &store, int number, const Contact &contact)
+{
+    const QString n = QString::number(number);
+    store.write(usersSection, QLatin1String("IP") + n, contact.ip);
+    store.write(usersSection, QLatin1String("Nn") + n, contact.nickname);
+    store.write(usersSection, QLatin1String("Ws") + n, contact.workstation);
+}
+
+void ContactList::saveEnd(SettingsStore &store, int count)
+{
+    store.write(usersSection, QLatin1String("IP") + QString::number(count + 1), endOfStoredContacts);
+}
+
+int ContactList::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int ContactList::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant ContactList::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    const Contact &contact = at(index.row());
+    if (role == KeyRole)
+        return QString(QLatin1String("IP") + contact.ip);
+    if (role == TagRole)
+        return contact.ip;
+    if (role == PictureRole)
+        return pictureKey(contact.picture);
+    if (role != Qt::DisplayRole)
+        return {};
+    switch (index.column()) {
+    case Nickname:
+        return contact.nickname;
+    case Workstation:
+        return contact.workstation;
+    case IpAddress:
+        return contact.ip;
+    case State:
+        return contact.sortKey;
+    case PrivateWin:
+        return contact.privateWindow > 0 ? QString::number(contact.privateWindow) : QString();
+    case AvatarNum:
+        return contact.avatarNumber;
+    default:
+        return contact.state;
+    }
+}
+
+QVariant ContactList::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    switch (section) {
+    case Nickname:
+        return tr("Nickname");
+    case Workstation:
+        return tr("Workstation");
+    case IpAddress:
+        return tr("IP Address");
+    case State:
+        return tr("State");
+    case PrivateWin:
+        return tr("PrivateWin");
+    case AvatarNum:
+        return tr("AvatarNum");
+    case StateText:
+        return tr("Status");
+    default:
+        return {};
+    }
+}
+
+} // namespace nimb

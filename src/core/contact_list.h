@@ -1,0 +1,95 @@
+// The user's own list of peers: an item model that keeps itself sorted.
+#pragma once
+
+#include "core/presence_picture.h"
+#include "core/settings_store.h"
+#include "protocol/handlers.h"
+
+#include <QAbstractTableModel>
+#include <QHash>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace nimb
+{
+
+/// What stands where a peer's nickname or workstation is not known. Stored and compared, so never translated.
+inline const QString unknownName = QStringLiteral("[unknown]");
+/// Address that ends the stored list.
+inline const QString endOfStoredContacts = QStringLiteral("255.255.255.255");
+
+struct Contact {
+    QString nickname; ///< the row's text
+    QString workstation;
+    QString ip; ///< the row's tag: where every datagram to this contact goes
+    Picture picture = Picture::yellow;
+    QString sortKey;
+    int privateWindow = 0; ///< number of the peer's private window, 0 when none is open
+    QString avatarNumber; ///< number of the peer's avatar, empty when none is known
+    QString state; ///< last reported state text
+
+    /// Shows the presence and writes the sort key that goes with it, with the nickname in capitals.
+    void setPresence(Picture presence);
+};
+
+/// Keyed rows, no two with the same address, sorted ascending on the sort key by code point; equal keys keep the
+/// order of arrival. Rows move one by one, the list is never sorted as a whole.
+class ContactList : public QAbstractTableModel, public Senders
+{
+    Q_OBJECT
+
+public:
+    enum Column { Nickname, Workstation, IpAddress, State, PrivateWin, AvatarNum, StateText, ColumnCount };
+    enum Role { KeyRole = Qt::UserRole, TagRole, PictureRole };
+
+    using QAbstractTableModel::QAbstractTableModel;
+    ~ContactList() override;
+
+    /// The contact with this address, or null. The pointer is good until the contact is removed; rows changed through
+    /// change() only.
+    const Contact *find(const QString &ip) const;
+    bool isContact(const QString &ip) const override { return find(ip) != nullptr; }
+    const Contact &at(int row) const;
+    int rowOf(const QString &ip) const; ///< -1 when there is none
+    /// Addresses in list order.
+    QStringList addresses() const;
+
+    /// False, and nothing changes, when the address is there already or empty.
+    bool add(Contact contact);
+    /// Applies the edit to the contact with this address and moves its row to where it belongs now. The edit must not
+    /// touch the address. False when there is no such contact.
+    bool change(const QString &ip, const std::function<void(Contact &)> &edit);
+    bool remove(const QString &ip);
+
+    /// Reads the stored list; every contact starts as not yet known. The list must be empty.
+    void load(const SettingsStore &store);
+    /// Notes contact number n, counted from 1, for saving.
+    static void saveContact(SettingsStore &store, int number, const Contact &contact);
+    /// Notes the end of a stored list of this many contacts.
+    static void saveEnd(SettingsStore &store, int count);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    struct Row {
+        Contact contact;
+        quint64 arrival = 0;
+    };
+    static bool before(const Row &left, const Row &right);
+    int position(const Row &row) const;
+    void moveRow(int from, Row &row);
+
+    std::vector<std::unique_ptr<Row>> m_rows;
+    QHash<QString, Row *> m_byAddress;
+    quint64 m_arrivals = 0;
+};
+
+/// The compound order of code points, which differs from that of UTF-16 units beyond U+FFFF.
+int compareCodePoints(const QString &left, const QString &right);
+
+} // namespace nimb

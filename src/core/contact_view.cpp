@@ -1,0 +1,198 @@
+#include "core/contact_view.h"
+
+#include "core/contact_list.h"
+#include "core/muted_colour.h"
+#include "core/pictures.h"
+#include "core/remote_text.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+namespace nimb
+{
+namespace
+{
+
+constexpr int rowHeight = 24;
+
+class ContactDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const QSize hint = QStyledItemDelegate::sizeHint(option, index);
+        return {hint.width(), qMax(rowHeight, hint.height())};
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->text = paintedName(option->text);
+        option->textElideMode = Qt::ElideRight;
+        if (index.column() == ContactList::Nickname) {
+            option->features |= QStyleOptionViewItem::HasDecoration;
+            option->decorationSize = QSize(16, 16);
+            option->icon = namedPicture(index.data(ContactList::PictureRole).toString());
+        } else {
+            option->palette.setColor(QPalette::Text, mutedTextColour(option->palette));
+        }
+    }
+};
+
+} // namespace
+
+RoomyHeader::RoomyHeader(QWidget *parent) : QHeaderView(Qt::Horizontal, parent)
+{
+    setMinimumSectionSize(0);
+    setSectionsClickable(false);
+    setHighlightSections(false);
+    setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void RoomyHeader::setRoom(int room)
+{
+    m_room = room;
+    updateGeometry();
+}
+
+void RoomyHeader::setCaptionsShown(bool shown)
+{
+    m_captionsShown = shown;
+    updateGeometry();
+    viewport()->update();
+}
+
+QSize RoomyHeader::sizeHint() const
+{
+    const QSize hint = QHeaderView::sizeHint();
+    return {hint.width(), m_room + (m_captionsShown ? hint.height() : 0)};
+}
+
+void RoomyHeader::paintEvent(QPaintEvent *)
+{
+    QPainter painter(viewport());
+    painter.fillRect(viewport()->rect(), palette().window());
+    if (!m_captionsShown)
+        return;
+    for (int section = 0; section < count(); ++section) {
+        const QRect place(sectionViewportPosition(section), m_room, sectionSize(section), height() - m_room);
+        if (!isSectionHidden(section))
+            paintSection(&painter, place, section);
+    }
+}
+
+ContactView::ContactView(QWidget *parent) :
+    QTreeView(parent), m_header(new RoomyHeader(this)), m_scrollBarRoom(new QWidget(this))
+{
+    setHeader(m_header);
+    m_header->setStretchLastSection(false);
+    addScrollBarWidget(m_scrollBarRoom, Qt::AlignTop);
+    setItemDelegate(new ContactDelegate(this));
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(SingleSelection);
+    setFrameShape(NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setMouseTracking(true);
+}
+
+void ContactView::setRoomAbove(int room)
+{
+    m_header->setRoom(room);
+    m_scrollBarRoom->setFixedHeight(room);
+}
+
+void ContactView::setDetailColumns(int workstation, int ipAddress, int stateText)
+{
+    const auto set = [this](int column, int width) {
+        m_header->setSectionResizeMode(column, QHeaderView::Fixed);
+        m_header->setSectionHidden(column, width == 0);
+        if (width > 0)
+            m_header->resizeSection(column, width);
+    };
+    m_header->setSectionResizeMode(ContactList::Nickname, QHeaderView::Stretch);
+    set(ContactList::Workstation, workstation);
+    set(ContactList::IpAddress, ipAddress);
+    set(ContactList::State, 0);
+    set(ContactList::PrivateWin, 0);
+    set(ContactList::AvatarNum, 0);
+    set(ContactList::StateText, stateText);
+    m_header->setCaptionsShown(ipAddress > 0);
+    updateGeometries();
+}
+
+QString ContactView::selectedAddress() const
+{
+    const QModelIndexList rows = selectionModel() ? selectionModel()->selectedRows() : QModelIndexList();
+    return rows.isEmpty() ? QString() : rows.front().data(ContactList::TagRole).toString();
+}
+
+QString ContactView::addressAt(const QPoint &position) const
+{
+    return indexAt(position).data(ContactList::TagRole).toString();
+}
+
+void ContactView::mousePressEvent(QMouseEvent *event)
+{
+    m_pressed = event->button();
+    QTreeView::mousePressEvent(event);
+}
+
+void ContactView::mouseReleaseEvent(QMouseEvent *event)
+{
+    QTreeView::mouseReleaseEvent(event);
+    if (m_pressed == Qt::RightButton)
+        Q_EMIT menuWanted(event->globalPosition().toPoint());
+}
+
+void ContactView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    QTreeView::mouseDoubleClickEvent(event);
+    const QString ip = addressAt(event->position().toPoint());
+    if (m_pressed == Qt::LeftButton && event->button() == Qt::LeftButton && !ip.isEmpty())
+        Q_EMIT contactOpened(ip);
+}
+
+void ContactView::mouseMoveEvent(QMouseEvent *event)
+{
+    QTreeView::mouseMoveEvent(event);
+    Q_EMIT pointedAt(addressAt(event->position().toPoint()));
+}
+
+void ContactView::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && !selectedAddress().isEmpty())
+        Q_EMIT contactOpened(selectedAddress());
+    else
+        QTreeView::keyPressEvent(event);
+}
+
+void ContactView::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        Q_EMIT menuWanted(viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()));
+    event->accept();
+}
+
+void ContactView::paintEvent(QPaintEvent *event)
+{
+    QTreeView::paintEvent(event);
+    if (!model() || model()->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(mutedTextColour(palette()));
+    painter.drawText(viewport()->rect().adjusted(24, 0, -24, 0), Qt::AlignCenter | Qt::TextWordWrap,
+                     tr("No contacts yet: scan the network or add one"));
+}
+
+} // namespace nimb

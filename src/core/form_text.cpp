@@ -1,0 +1,30 @@
+#include "core/form_text.h"
+
+#include <QPlainTextEdit>
+#include <QTextDocument>
+
+namespace nimb
+{
+
+QString typedText(const QPlainTextEdit &box)
+{
+    return box.toPlainText().replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+}
+
+void setTypedText(QPlainTextEdit &box, const QString &text)
+{
+    box.setPlainText(QString(text).replace(QLatin1String("\r\n"), QLatin1String("\n")));
+    box.moveCursor(QTextCursor::End);
+}
+
+void setWindowCaption(QWidget &window, const QString &caption)
+{
+    window.setWindowTitle(QString(caption).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
+}
+
+QString plainToolTip(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
+
+} // namespace nimb

@@ -1,0 +1,160 @@
+// The main window.
+#pragma once
+
+#include "core/main_window_view.h"
+#include "core/unload_mode.h"
+
+#include <QMainWindow>
+
+#include <functional>
+
+class QAbstractItemModel;
+class QCheckBox;
+class QComboBox;
+class QFrame;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+class QTabBar;
+
+namespace nimb
+{
+
+class Announcement;
+class ContactCommands;
+class ContactList;
+class ContactView;
+class DropCounts;
+class MainLog;
+class MainWindow;
+class OwnState;
+
+/// The engine behind the main window; outlives it.
+struct MainWindowEngine {
+    MainWindow &window;
+    ContactList &contacts;
+    ContactCommands &commands;
+    OwnState &ownState;
+    Announcement &announcement;
+    MainLog &log;
+    Common &common;
+    std::function<QString()> dropSummary; ///< for the status bar's tool tip
+};
+
+/// Made in two steps, for the engine writes into the window from the moment it exists: the controls with the
+/// constructor, their engine with connectControls().
+class frmMain : public QMainWindow, public MainWindowView
+{
+    Q_OBJECT
+
+public:
+    /// A log and the widget that shows it; the window becomes the widget's parent.
+    struct Log {
+        QWidget &widget;
+        RichTextLog &text;
+    };
+    /// Empty strips above and below the text of the log, for its prescribed height reaches beyond the list's.
+    static constexpr int logInsetAbove = 9;
+    static constexpr int logInsetBelow = 11;
+
+    explicit frmMain(const Log &log);
+
+    /// ended: called once, when the window has been unloaded.
+    void connectControls(const MainWindowEngine &engine, std::function<void()> ended);
+    void Form_Load();
+    /// Closes for this reason, as far as that reason allows.
+    void unload(UnloadMode mode);
+    /// Brings the window back from the tray, the task bar or the background.
+    void restore();
+
+    RichTextLog &outtext() override { return m_outtext; }
+    void setRescanEnabled(bool enabled) override;
+    void refreshContextMenu() override;
+    void addOwnState(const OwnStateEntry &entry) override;
+    void selectOwnState(int position) override;
+    void setStatusPanel(const QString &text) override;
+    void setRescanToolTip(const QString &text) override;
+    void setAutoReply(const std::optional<AutoReplyPanel> &panel) override;
+    void setPersonalizedStateVisible(bool visible) override;
+    void setCaption(const QString &caption) override;
+    QString caption() const override { return m_caption; }
+    void setPlace(const WindowPlace &place) override;
+    WindowPlace place() const override;
+    void setTroublePanel(const QString &text) override;
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void buildControls();
+    void buildMenuBar();
+    void buildPopUpMenu();
+    void buildOwnState(QWidget *parent);
+    void buildPersonalizedState(QWidget *parent);
+    void buildAutoReply(QWidget *parent);
+    void buildContacts(QWidget *parent);
+    void buildStatusBar();
+    void connectContacts();
+    void connectOwnState();
+    QAction *menuEntry(const char *name) const;
+
+    void Form_Resize();
+    void placeBottomRows();
+    void placePanels();
+    void noteGeometry();
+    void moveOntoScreen();
+    void finish();
+
+    QString selectedContact() const;
+    void ListView1_DblClick(const QString &ip);
+    void ListView1_MouseMove(const QString &ip);
+    void mnuPopUp_Show(const QPoint &position);
+    void ListDetails_Click();
+    void TabStrip1_Click(int tab);
+    void RescanBtn_Click();
+    void clearbtn_Click();
+    void ImageCombo1_Click(int index);
+    void PersonalizedOkbtn_Click();
+    void PersonalizedCancel_Click();
+    void AutoReplyTxt_GotFocus();
+    void AutoReplyTxt_LostFocus();
+    void showItemDetails();
+
+    std::optional<MainWindowEngine> m_engine;
+    std::function<void()> m_ended;
+    QString m_caption;
+    WindowPlace m_place;
+    int m_chosenState = 0;
+
+    QWidget &m_outtextWidget;
+    RichTextLog &m_outtext;
+    QMenu *mnuPopUp = nullptr;
+    QComboBox *ImageCombo1 = nullptr;
+    QTabBar *TabStrip1 = nullptr;
+    ContactView *ListView1 = nullptr;
+    QPushButton *RescanBtn = nullptr;
+    QCheckBox *buzzmute = nullptr;
+    QCheckBox *ListDetails = nullptr;
+    QLineEdit *ItemDetailstxt = nullptr;
+    QPushButton *clearbtn = nullptr;
+    QFrame *PersonalizedStateFrame = nullptr;
+    QComboBox *ImageComboPers = nullptr;
+    QLineEdit *PersonalizedMessageText = nullptr;
+    QPushButton *PersonalizedOkbtn = nullptr;
+    QPushButton *m_personalizedCancel = nullptr;
+    QCheckBox *AutoReplyOn = nullptr;
+    QPushButton *Autoreplybtn = nullptr;
+    QGroupBox *AutoreplyFrame = nullptr;
+    QPlainTextEdit *AutoReplyTxt = nullptr;
+    QPushButton *Autoreplypanelclosebtn = nullptr;
+    QLabel *m_status = nullptr;
+    QLabel *m_activity = nullptr;
+    QLabel *m_trouble = nullptr;
+};
+
+} // namespace nimb

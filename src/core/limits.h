@@ -1,0 +1,38 @@
+// Every limit of the program, each with its reason.
+#pragma once
+
+#include <QtGlobal>
+
+#include <chrono>
+
+namespace nimb::limits
+{
+
+/// Characters of one message: even as three-byte UTF-8 it fits a datagram that most networks carry.
+constexpr qsizetype messageLength = 2000;
+/// Characters of a nickname or workstation name that are kept; more is no name but an attack on the layout.
+constexpr qsizetype nameLength = 255;
+/// Characters of a name that menus, lists and the pop-up paint before an ellipsis.
+constexpr qsizetype paintedNameLength = 64;
+/// Characters of a received text that are shown: laying out one line of 64,000 takes seconds.
+constexpr qsizetype shownTextLength = 8000;
+/// Lines a log holds; beyond it re-layout and memory grow without use to anybody.
+constexpr int logLines = 50000;
+/// Lines dropped at a time from a full log: dropping one by one lays the document out anew for each line.
+constexpr int logLinesDropped = 1000;
+/// Contact rows that strangers can cause: a subnet of 65,000 forged addresses must not fill the list.
+constexpr qsizetype contactsFromStrangers = 10000;
+/// Rows that wait in the notification window.
+constexpr qsizetype notifications = 100;
+/// Contacts asked in one turn of the event loop during an announcement, so that their answers are read between.
+constexpr qsizetype announcementBatch = 64;
+/// How long an announcement waits for answers.
+constexpr std::chrono::milliseconds announcementTime{1000};
+/// At most one automatic reply in this time: two copies that answer each other would never stop.
+constexpr std::chrono::milliseconds autoReplyPause{1000};
+/// Time between two attempts to get a port that another program holds.
+constexpr std::chrono::milliseconds bindRetry{5000};
+/// Personalised states that the store keeps.
+constexpr int storedPersonalizedStates = 8;
+
+} // namespace nimb::limits

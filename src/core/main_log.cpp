@@ -1,0 +1,68 @@
+#include "core/main_log.h"
+
+#include "core/clock_text.h"
+#include "core/remote_text.h"
+
+namespace nimb
+{
+
+void MainLog::line(const QString &text, Colour colour)
+{
+    appendText(m_log, text + QLatin1String("\r\n"), colour);
+}
+
+QString MainLog::opening() const
+{
+    const QDateTime now = m_clock.now();
+    return QStringLiteral("--- %1 @ %2 - ").arg(shortDate(now), shortTime(now));
+}
+
+void MainLog::banner()
+{
+    const QDateTime now = m_clock.now();
+    line(tr("« NIMB-Chat [today:%1 - now:%2] Ready »").arg(shortDate(now), longTime(now)), colours::banner);
+    m_log.setSelStart(m_log.textLength());
+}
+
+void MainLog::clear()
+{
+    m_log.clear();
+    banner();
+}
+
+void MainLog::wentOnline(const QString &name)
+{
+    line(opening() + tr("%1 went online ---").arg(name), colours::presence);
+}
+
+void MainLog::wentOffline(const QString &name)
+{
+    line(opening() + tr("%1 has gone offline ---").arg(name), colours::presence);
+}
+
+void MainLog::changedState(const QString &name, const QString &state)
+{
+    line(opening() + tr("%1 changed his state to '%2'  ---").arg(name, state), colours::stateChange);
+}
+
+void MainLog::unsupportedCommand(const QString &data)
+{
+    line(tr("--- unsupported command received (%1) ---").arg(shownText(remoteLine(data))), colours::unknownDatagram);
+}
+
+void MainLog::garbage(const QString &data)
+{
+    line(tr("--- garbage received  (%1) ---").arg(shownText(remoteLine(data))), colours::unknownDatagram);
+}
+
+void MainLog::fault(const QString &sentence)
+{
+    line(sentence, colours::fault);
+}
+
+void MainLog::remark(const QString &sentence)
+{
+    line(sentence, colours::banner);
+}
+
+} // namespace nimb

@@ -1,0 +1,45 @@
+// The main window's log: which lines it has, and in which colours.
+#pragma once
+
+#include "core/rich_text.h"
+#include "core/timers.h"
+#include "protocol/handlers.h"
+
+#include <QCoreApplication>
+
+namespace nimb
+{
+
+class MainLog : public UnknownDatagramHandler
+{
+    Q_DECLARE_TR_FUNCTIONS(MainLog)
+
+public:
+    MainLog(RichTextLog &log, const WallClock &clock) : m_log(log), m_clock(clock) {}
+
+    /// The line with which a log begins.
+    void banner();
+    /// Empties the log down to its banner.
+    void clear();
+
+    void wentOnline(const QString &name);
+    void wentOffline(const QString &name);
+    /// state: the state word alone.
+    void changedState(const QString &name, const QString &state);
+    void unsupportedCommand(const QString &data) override;
+    void garbage(const QString &data) override;
+    /// A fault of the program's own surroundings (port, store), one sentence.
+    void fault(const QString &sentence);
+    /// Something worth knowing that is no fault.
+    void remark(const QString &sentence);
+
+private:
+    void line(const QString &text, Colour colour);
+    /// "--- date @ time - "
+    QString opening() const;
+
+    RichTextLog &m_log;
+    const WallClock &m_clock;
+};
+
+} // namespace nimb

@@ -1,0 +1,58 @@
+// The life of the main window: loading, closing and ending, in the prescribed order.
+#pragma once
+
+#include "core/announcement.h"
+#include "core/contact_list.h"
+#include "core/main_log.h"
+#include "core/own_state.h"
+#include "core/port_watch.h"
+#include "core/prompts.h"
+#include "core/settings_store.h"
+#include "core/unload_mode.h"
+#include "core/windows.h"
+
+#include <QCoreApplication>
+
+namespace nimb
+{
+
+/// "NIMB-Chat 1.2 - " followed by the nickname; a second start looks for exactly this.
+QString mainCaption(const QString &nickname);
+
+class MainWindow
+{
+    Q_DECLARE_TR_FUNCTIONS(MainWindow)
+
+public:
+    struct Parts {
+        Common &common;
+        SettingsStore &store;
+        ContactList &contacts;
+        OwnState &ownState;
+        PresenceSender &sender;
+        Announcement &announcement;
+        PortWatch &port;
+        MainLog &log;
+        Prompts &prompts;
+        SecondaryWindows &windows;
+        TrayIcon &tray;
+        MainWindowView &view;
+    };
+
+    explicit MainWindow(const Parts &parts) : m(parts) {}
+
+    void Form_Load();
+    /// Whether the window is to be unloaded, or what else happens to it.
+    CloseDecision Form_QueryUnload(UnloadMode mode) const;
+    /// Ends everything that the window owns: windows are unloaded, contacts told, contacts and settings saved.
+    void Form_Unload();
+
+private:
+    void loadSettings(QStringList &notices);
+    void sayFarewellAndSaveContacts();
+    void save();
+
+    Parts m;
+};
+
+} // namespace nimb

@@ -1,0 +1,67 @@
+// What the engine shows in the main window, named after what is seen.
+#pragma once
+
+#include "core/Common.h"
+#include "core/own_state_entry.h"
+#include "core/rich_text.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace nimb
+{
+
+class MainLogView
+{
+public:
+    virtual ~MainLogView() = default;
+    virtual RichTextLog &outtext() = 0;
+};
+
+class AnnouncementView
+{
+public:
+    virtual ~AnnouncementView() = default;
+    virtual void setRescanEnabled(bool enabled) = 0;
+    /// The captions of the context menu are to be read again for the selected contact.
+    virtual void refreshContextMenu() = 0;
+};
+
+/// What the automatic-reply controls show; see OwnState.
+struct AutoReplyPanel {
+    bool on = false;
+    QString text;
+    QString caption;
+};
+
+class OwnStateView
+{
+public:
+    virtual ~OwnStateView() = default;
+    virtual void addOwnState(const OwnStateEntry &entry) = 0;
+    /// position: counted from 1.
+    virtual void selectOwnState(int position) = 0;
+    virtual void setStatusPanel(const QString &text) = 0;
+    virtual void setRescanEnabled(bool enabled) = 0;
+    virtual void setRescanToolTip(const QString &text) = 0;
+    /// Empty: the automatic-reply controls and their frame are hidden.
+    virtual void setAutoReply(const std::optional<AutoReplyPanel> &panel) = 0;
+    virtual void setPersonalizedStateVisible(bool visible) = 0;
+};
+
+class MainWindowView : public MainLogView, public AnnouncementView, public OwnStateView
+{
+public:
+    void setRescanEnabled(bool enabled) override = 0;
+
+    virtual void setCaption(const QString &caption) = 0;
+    virtual QString caption() const = 0;
+    virtual void setPlace(const WindowPlace &place) = 0;
+    /// The place of the normal window, also while it is minimised or hidden.
+    virtual WindowPlace place() const = 0;
+    /// Something that is wrong for as long as it stands in the status bar; empty when all is well.
+    virtual void setTroublePanel(const QString &text) = 0;
+};
+
+} // namespace nimb

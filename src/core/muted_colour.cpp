@@ -1,0 +1,63 @@
+#include "core/muted_colour.h"
+
+#include <cmath>
+
+namespace nimb
+{
+namespace
+{
+
+constexpr double readableContrast = 4.5;
+/// Below this a colour vanishes on its ground, whatever somebody meant by it.
+constexpr double visibleContrast = 2.0;
+
+double linear(double channel)
+{
+    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor &colour)
+{
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+QColor mixed(const QColor &colour, const QColor &with, double share)
+{
+    const auto mix = [share](float a, float b) { return static_cast<float>(a + (b - a) * share); };
+    return QColor::fromRgbF(mix(colour.redF(), with.redF()), mix(colour.greenF(), with.greenF()),
+                            mix(colour.blueF(), with.blueF()));
+}
+
+/// Moves the colour towards another until it stands out enough from the ground.
+QColor moved(const QColor &colour, const QColor &towards, const QColor &ground)
+{
+    QColor result = colour;
+    for (int step = 1; step <= 20 && contrast(result, ground) < readableContrast; ++step)
+        result = mixed(colour, towards, step / 20.0);
+    return result;
+}
+
+} // namespace
+
+double contrast(const QColor &one, const QColor &other)
+{
+    const double a = luminance(one);
+    const double b = luminance(other);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+QColor mutedTextColour(const QPalette &palette)
+{
+    const QColor text = palette.color(QPalette::Text);
+    return moved(mixed(text, palette.color(QPalette::Base), 0.4), text, palette.color(QPalette::Base));
+}
+
+QColor readableOn(const QColor &colour, const QColor &ground)
+{
+    const bool dark = luminance(ground) < 0.18;
+    if (dark)
+        return moved(colour, Qt::white, ground);
+    return contrast(colour, ground) < visibleContrast ? moved(colour, Qt::black, ground) : colour;
+}
+
+} // namespace nimb

@@ -1,0 +1,66 @@
+// The user's own presence: the chooser's entries, what a choice does, and the automatic-reply settings.
+#pragma once
+
+#include "core/announcement.h"
+#include "core/contact_list.h"
+#include "core/main_log.h"
+#include "core/main_window_view.h"
+
+#include <QCoreApplication>
+
+#include <vector>
+
+namespace nimb
+{
+
+class OwnState
+{
+    Q_DECLARE_TR_FUNCTIONS(OwnState)
+
+public:
+    /// The four plain states and the entry that adds a personalised one stand first.
+    static constexpr int plainEntries = 5;
+
+    OwnState(Common &common, ContactList &contacts, PresenceSender &sender, Announcement &announcement, MainLog &log,
+             OwnStateView &view);
+
+    /// Fills the chooser: the plain entries, then those of the stored values that are personalised states. Returns
+    /// the values that are none.
+    QStringList load(const QStringList &storedValues);
+    /// The personalised states in list order, as they are stored: a digit and the text.
+    QStringList storedValues() const;
+
+    /// The user chose an entry; position counted from 1. A position that does not exist does nothing.
+    void choose(int position);
+    /// Adds a personalised state on one of the base states green, busy and away, and chooses it. An empty text adds
+    /// nothing. True when it was added.
+    bool addPersonalized(Picture base, const QString &text);
+
+    /// The check box beside the chooser: automatic reply in the present state.
+    void setAutoReply(bool on);
+    /// The text box lost the focus.
+    void setAutoReplyText(const QString &text);
+
+    const std::vector<OwnStateEntry> &entries() const { return m_entries; }
+    /// "Online", "Busy" or "Away"; any other picture's key with a capital letter.
+    static QString baseName(Picture picture);
+
+private:
+    void append(OwnStateEntry entry);
+    void setState(const QString &word, const QString &text, bool wasInvisible);
+    void goInvisible();
+    void showAutoReply(bool on, const QString &text, const QString &caption);
+    void showRescanHint();
+    /// Calls the sender for every contact known to be present.
+    void tellPresentContacts(void (PresenceSender::*tell)(const QString &) const);
+
+    Common &m_common;
+    ContactList &m_contacts;
+    PresenceSender &m_sender;
+    Announcement &m_announcement;
+    MainLog &m_log;
+    OwnStateView &m_view;
+    std::vector<OwnStateEntry> m_entries;
+};
+
+} // namespace nimb

@@ -1,0 +1,39 @@
+// Gets the port, and keeps trying while another program holds it.
+#pragma once
+
+#include "core/main_log.h"
+#include "core/main_window_view.h"
+#include "core/timers.h"
+#include "protocol/winsock.h"
+
+#include <QCoreApplication>
+
+namespace nimb
+{
+
+class PortWatch
+{
+    Q_DECLARE_TR_FUNCTIONS(PortWatch)
+
+public:
+    /// gained: called each time that listening begins after a failure.
+    PortWatch(Winsock &socket, const Common &common, Timers &timers, MainLog &log, MainWindowView &view,
+              std::function<void()> gained);
+
+    /// Sets both ports of the socket and listens.
+    void open();
+    /// Says what open() met, once the log is ready for it.
+    void report();
+
+private:
+    void tryAgain();
+
+    Winsock &m_socket;
+    const Common &m_common;
+    MainLog &m_log;
+    MainWindowView &m_view;
+    std::function<void()> m_gained;
+    std::unique_ptr<Timer> m_retry;
+};
+
+} // namespace nimb

@@ -1,0 +1,133 @@
+#include "core/presence.h"
+
+#include "core/clock_text.h"
+#include "core/limits.h"
+#include "core/remote_text.h"
+
+namespace nimb
+{
+namespace
+{
+
+QString nameOrUnknown(const QString &remote)
+{
+    const QString name = remoteName(remote);
+    return name.isEmpty() ? unknownName : name;
+}
+
+/// The names of the own-state table, in the order in which they are tried; a peer's state word matches by its first
+/// characters, without regard to case.
+Picture pictureOfState(const QString &state)
+{
+    struct Name {
+        QString upperCase;
+        Picture picture;
+    };
+    static const std::array names = {Name{QStringLiteral("ONLINE"), Picture::green},
+                                     Name{QStringLiteral("BUSY"), Picture::busy},
+                                     Name{QStringLiteral("AWAY"), Picture::away}};
+    for (const Name &name : names) {
+        if (state.left(name.upperCase.size()).toUpper() == name.upperCase)
+            return name.picture;
+    }
+    return Picture::green;
+}
+
+} // namespace
+
+Presence::Presence(const Common &common, ContactList &contacts, PresenceSender &sender, MainLog &log,
+                   PrivateLogs &privateLogs, Notifications &notifications, const WallClock &clock, DropCounts &drops) :
+    m_common(common), m_contacts(contacts), m_sender(sender), m_log(log), m_privateLogs(privateLogs),
+    m_notifications(notifications), m_clock(clock), m_drops(drops)
+{
+}
+
+void Presence::strangerSeen(const QString &ip, const PeerIdentity &peer, bool online)
+{
+    if (ip == m_common.ownIP || ip == QLatin1String("127.0.0.1"))
+        return;
+    if (!isUnicastAddress(ip))
+        return m_drops.count(Drop::badAddress);
+    if (m_strangersAdded >= limits::contactsFromStrangers)
+        return m_drops.count(Drop::tooManyContacts);
+    Contact contact;
+    contact.ip = ip;
+    contact.nickname = nameOrUnknown(peer.nick);
+    contact.workstation = nameOrUnknown(peer.host);
+    contact.setPresence(online ? Picture::green : Picture::red);
+    m_contacts.add(std::move(contact));
+    ++m_strangersAdded;
+}
+
+void Presence::cameOnline(const QString &ip, const std::optional<PeerIdentity> &peer, bool asks)
+{
+    const bool wasPresent = m_contacts.find(ip)->sortKey.startsWith(QLatin1Char('A'));
+    m_contacts.change(ip, [&peer](Contact &contact) {
+        if (peer) {
+            contact.nickname = nameOrUnknown(peer->nick);
+            contact.workstation = nameOrUnknown(peer->host);
+        }
+        contact.setPresence(Picture::green);
+        contact.state.clear();
+    });
+    const Contact &contact = *m_contacts.find(ip);
+    if (!wasPresent)
+        notify(tr("%1 is online").arg(paintedName(contact.nickname)), Picture::green);
+    m_log.wentOnline(contact.nickname);
+    tellPrivateWindow(contact, tr("%1 is online").arg(contact.nickname));
+    if (asks)
+        answer(ip);
+}
+
+void Presence::wentOffline(const QString &ip)
+{
+    m_contacts.change(ip, [](Contact &contact) {
+        contact.setPresence(Picture::red);
+        contact.state.clear();
+    });
+    const Contact &contact = *m_contacts.find(ip);
+    notify(tr("%1 is offline").arg(paintedName(contact.nickname)), Picture::red);
+    m_log.wentOffline(contact.nickname);
+    tellPrivateWindow(contact, tr("%1 has gone offline").arg(contact.nickname));
+}
+
+void Presence::changedState(const QString &ip, const QString &state, const QString &text)
+{
+    const QString shownState = remoteName(state);
+    const QString personalized = remoteName(text);
+    const QString whole = personalized.isEmpty() ? shownState : shownState + QLatin1String(" - ") + personalized;
+    m_contacts.change(ip, [&](Contact &contact) {
+        contact.setPresence(pictureOfState(state));
+        contact.state = whole;
+    });
+    const Contact &contact = *m_contacts.find(ip);
+    m_log.changedState(contact.nickname, shownState);
+    tellPrivateWindow(contact, tr("%1 changed his state to '%2'").arg(contact.nickname, whole));
+}
+
+void Presence::notify(const QString &text, Picture picture)
+{
+    if (m_common.announcing)
+        return;
+    m_notifications.add(text, picture);
+    m_notifications.startTimer();
+}
+
+void Presence::tellPrivateWindow(const Contact &contact, const QString &sentence)
+{
+    if (contact.privateWindow <= 0 || m_common.options.ShowStatusOnPrivate != 1 || m_common.announcing)
+        return;
+    const QDateTime now = m_clock.now();
+    const QString opening = QStringLiteral("[%1 @ %2] ").arg(shortDate(now), shortTime(now));
+    m_privateLogs.appendPresence(contact.privateWindow, opening + sentence);
+}
+
+void Presence::answer(const QString &ip)
+{
+    if (m_common.isInvisible())
+        return;
+    m_sender.answer(ip);
+    m_sender.statusUnlessOnline(ip);
+}
+
+} // namespace nimb

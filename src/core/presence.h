@@ -1,0 +1,51 @@
+// What presence datagrams do: contacts come online, change state and go offline.
+#pragma once
+
+#include "core/announcement.h"
+#include "core/contact_list.h"
+#include "core/main_log.h"
+#include "core/notifications.h"
+#include "protocol/drop_counts.h"
+
+namespace nimb
+{
+
+/// The logs of open private windows, for lines about a peer's presence.
+class PrivateLogs
+{
+public:
+    virtual ~PrivateLogs() = default;
+    /// window: its number in the table of private windows; a number without a window is ignored.
+    virtual void appendPresence(int window, const QString &line) = 0;
+};
+
+class Presence : public PresenceHandler
+{
+    Q_DECLARE_TR_FUNCTIONS(Presence)
+
+public:
+    Presence(const Common &common, ContactList &contacts, PresenceSender &sender, MainLog &log,
+             PrivateLogs &privateLogs, Notifications &notifications, const WallClock &clock, DropCounts &drops);
+
+    void strangerSeen(const QString &ip, const PeerIdentity &peer, bool online) override;
+    void cameOnline(const QString &ip, const std::optional<PeerIdentity> &peer, bool asks) override;
+    void wentOffline(const QString &ip) override;
+    void changedState(const QString &ip, const QString &state, const QString &text) override;
+
+private:
+    void notify(const QString &text, Picture picture);
+    void tellPrivateWindow(const Contact &contact, const QString &sentence);
+    void answer(const QString &ip);
+
+    const Common &m_common;
+    ContactList &m_contacts;
+    PresenceSender &m_sender;
+    MainLog &m_log;
+    PrivateLogs &m_privateLogs;
+    Notifications &m_notifications;
+    const WallClock &m_clock;
+    DropCounts &m_drops;
+    qsizetype m_strangersAdded = 0;
+};
+
+} // namespace nimb

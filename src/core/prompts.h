@@ -1,0 +1,19 @@
+// Message boxes, as the engine asks for them.
+#pragma once
+
+#include <QString>
+
+namespace nimb
+{
+
+class Prompts
+{
+public:
+    virtual ~Prompts() = default;
+    /// An OK/Cancel box; true for OK. Text and title are plain text.
+    virtual bool confirm(const QString &text, const QString &title) = 0;
+    /// A box with OK alone. May be silent when nobody is there to read it, as at the end of a session.
+    virtual void tell(const QString &text, const QString &title) = 0;
+};
+
+} // namespace nimb

@@ -1,0 +1,163 @@
+#include "core/remote_text.h"
+
+#include "core/limits.h"
+
+#include <QCoreApplication>
+#include <QVector>
+
+namespace nimb
+{
+namespace
+{
+
+constexpr char16_t carriageReturn = u'\r';
+constexpr char16_t lineFeed = u'\n';
+constexpr char16_t popDirectionalFormatting = 0x202C;
+constexpr char16_t popDirectionalIsolate = 0x2069;
+
+bool opensEmbedding(char16_t c)
+{
+    return c == 0x202A || c == 0x202B || c == 0x202D || c == 0x202E;
+}
+
+bool opensIsolate(char16_t c)
+{
+    return c >= 0x2066 && c <= 0x2068;
+}
+
+bool isDirectionControl(char16_t c)
+{
+    return opensEmbedding(c) || opensIsolate(c) || c == popDirectionalFormatting || c == popDirectionalIsolate;
+}
+
+bool isLineBreak(char16_t c)
+{
+    return c == carriageReturn || c == lineFeed || c == 0x0B || c == 0x0C || c == 0x85 || c == 0x2028 || c == 0x2029;
+}
+
+/// Control characters, and the characters that Qt's documents keep for their own marks.
+bool isUnshowable(char16_t c)
+{
+    const bool control = c < 0x20 || (c >= 0x7F && c <= 0x9F);
+    const bool documentMark = c == 0xFFFC || (c >= 0xFDD0 && c <= 0xFDEF) || c >= 0xFFFE;
+    return control || documentMark;
+}
+
+qsizetype lengthOfBreak(const QString &text, qsizetype at)
+{
+    const bool pair = text[at] == carriageReturn && at + 1 < text.size() && text[at + 1] == lineFeed;
+    return pair ? 2 : 1;
+}
+
+/// Ends what a line opened, innermost first, so that it cannot turn what stands behind it.
+QString closingsOf(const QString &line)
+{
+    QString open;
+    for (const QChar c : line) {
+        if (opensEmbedding(c.unicode()))
+            open.prepend(QChar(popDirectionalFormatting));
+        else if (opensIsolate(c.unicode()))
+            open.prepend(QChar(popDirectionalIsolate));
+        else if (!open.isEmpty() && c == open.front())
+            open.remove(0, 1);
+    }
+    return open;
+}
+
+QString withClosedDirections(const QString &text)
+{
+    QStringList lines = text.split(QStringLiteral("\r\n"));
+    for (QString &line : lines)
+        line += closingsOf(line);
+    return lines.join(QStringLiteral("\r\n"));
+}
+
+} // namespace
+
+QString cutText(const QString &text, qsizetype length)
+{
+    if (text.size() <= length)
+        return text;
+    if (length <= 0)
+        return {};
+    const QChar last = text[length - 1];
+    const QChar next = text[length];
+    const bool splits
+        = (last.isHighSurrogate() && next.isLowSurrogate()) || (last == carriageReturn && next == lineFeed);
+    return text.left(splits ? length - 1 : length);
+}
+
+QString remoteLine(const QString &text)
+{
+    QString line;
+    line.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t c = text[i].unicode();
+        if (isDirectionControl(c))
+            continue;
+        if (isLineBreak(c))
+            i += lengthOfBreak(text, i) - 1;
+        line += isLineBreak(c) || isUnshowable(c) ? QChar(u' ') : QChar(c);
+    }
+    return line;
+}
+
+QString remoteName(const QString &text)
+{
+    return cutText(remoteLine(text), limits::nameLength);
+}
+
+QString remoteBody(const QString &text)
+{
+    QString body;
+    body.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t c = text[i].unicode();
+        if (isLineBreak(c)) {
+            i += lengthOfBreak(text, i) - 1;
+            body += QStringLiteral("\r\n");
+        } else {
+            body += isUnshowable(c) && c != u'\t' ? QChar(u' ') : QChar(c);
+        }
+    }
+    return body;
+}
+
+QString shownText(const QString &text)
+{
+    const QString shown = withClosedDirections(cutText(text, limits::shownTextLength));
+    if (text.size() <= limits::shownTextLength)
+        return shown;
+    const qsizetype more = text.size() - cutText(text, limits::shownTextLength).size();
+    return shown + QCoreApplication::translate("RemoteText", "... (%1 more characters)").arg(more);
+}
+
+QString paintedName(const QString &name)
+{
+    if (name.size() <= limits::paintedNameLength)
+        return name;
+    return cutText(name, limits::paintedNameLength) + QChar(0x2026);
+}
+
+QString menuName(const QString &name)
+{
+    return paintedName(name).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+bool isUnicastAddress(const QString &address)
+{
+    const QStringList parts = address.split(QLatin1Char('.'));
+    if (parts.size() != 4)
+        return false;
+    for (const QString &part : parts) {
+        bool isNumber = false;
+        const uint value = part.toUInt(&isNumber);
+        const bool plain = isNumber && part == QString::number(value);
+        if (!plain || value > 255)
+            return false;
+    }
+    const uint first = parts.front().toUInt();
+    return first >= 1 && first <= 223;
+}
+
+} // namespace nimb

@@ -1,0 +1,37 @@
+// A rich-text log, as the engine writes it.
+#pragma once
+
+#include "core/Common.h"
+#include "core/colour.h"
+
+#include <QString>
+
+namespace nimb
+{
+
+/// A log to which text is only ever appended. Text is plain text always: nothing in it is taken for markup.
+class RichTextLog
+{
+public:
+    virtual ~RichTextLog() = default;
+
+    virtual qsizetype textLength() const = 0;
+    /// Places the caret before the character at this position.
+    virtual void setSelStart(qsizetype position) = 0;
+    /// Colour of what is inserted from now on.
+    virtual void setSelColor(Colour colour) = 0;
+    virtual void setSelFont(const LogFont &font) = 0;
+    /// Replaces the selection by plain text; CR LF is a line break.
+    virtual void setSelText(const QString &text) = 0;
+    virtual void clear() = 0;
+};
+
+/// Appends text at the end of the log in this colour and leaves the caret behind it.
+inline void appendText(RichTextLog &log, const QString &text, Colour colour)
+{
+    log.setSelStart(log.textLength());
+    log.setSelColor(colour);
+    log.setSelText(text);
+}
+
+} // namespace nimb

@@ -1,0 +1,163 @@
+#include "core/settings.h"
+
+#include "core/limits.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace nimb
+{
+namespace
+{
+
+/// Where a 16-bit option is kept while the program runs, in the order of loading and saving.
+struct OptionMember {
+    const char *key;
+    std::int16_t Options::*member;
+};
+constexpr std::array optionMembers = {
+    OptionMember{"ShowStatusOnPrivate", &Options::ShowStatusOnPrivate},
+    OptionMember{"BuzzLocal", &Options::BuzzLocal},
+    OptionMember{"BuzzRemote", &Options::BuzzRemote},
+    OptionMember{"PrivateBehaviour", &Options::PrivateBehaviour},
+    OptionMember{"DontDestroyWindow", &Options::DontDestroyWindow},
+    OptionMember{"NotifyWin", &Options::NotifyWin},
+    OptionMember{"LiveType", &Options::LiveType},
+    OptionMember{"CloseButtonDoesMinimize", &Options::CloseButtonDoesMinimize},
+};
+
+QString personalizedStateKey(int number)
+{
+    return QLatin1String("PersonalizedState") + QString::number(number);
+}
+
+/// Reads numbers and remembers which of them were none.
+class Reader
+{
+public:
+    Reader(const SettingsStore &store, QStringList &notices) : m_store(store), m_notices(notices) {}
+
+    QString text(const char *key) const { return readSetting(m_store, QLatin1String(key)); }
+
+    template <class Number> Number number(const char *key, Number lowest, Number highest)
+    {
+        const QString stored = text(key);
+        bool isNumber = false;
+        const double value = QLocale::c().toDouble(stored.trimmed(), &isNumber);
+        const bool whole = std::is_floating_point_v<Number> || value == std::floor(value);
+        if (isNumber && std::isfinite(value) && whole && value >= double(lowest) && value <= double(highest))
+            return static_cast<Number>(value);
+        return reject<Number>(key, stored);
+    }
+
+    std::int16_t integer16(const char *key)
+    {
+        using Range = std::numeric_limits<std::int16_t>;
+        return number<std::int16_t>(key, Range::min(), Range::max());
+    }
+
+    /// Twips; no screen is wider than a million of them.
+    double twips(const char *key) { return number<double>(key, -1e6, 1e6); }
+
+    bool flag(const char *key) { return number<double>(key, -1e9, 1e9) != 0; }
+
+private:
+    template <class Number> Number reject(const char *key, const QString &stored)
+    {
+        const QString fallback = QLatin1String(settingKey(QLatin1String(key)).defaultValue);
+        m_notices.append(
+            QCoreApplication::translate("Settings", "The stored setting %1 cannot be \"%2\"; %3 is used instead.")
+                .arg(QLatin1String(key), stored.left(40), fallback));
+        return static_cast<Number>(fallback.toDouble());
+    }
+
+    const SettingsStore &m_store;
+    QStringList &m_notices;
+};
+
+QString numberText(double value)
+{
+    return QString::number(value, 'f', QLocale::FloatingPointShortest);
+}
+
+QString flagText(bool value)
+{
+    return value ? QStringLiteral("-1") : QStringLiteral("0");
+}
+
+} // namespace
+
+const SettingKey &settingKey(QLatin1String key)
+{
+    const auto *const found = std::find_if(settingKeys.begin(), settingKeys.end(),
+                                           [key](const SettingKey &row) { return key == QLatin1String(row.key); });
+    Q_ASSERT(found != settingKeys.end());
+    return *found;
+}
+
+QString readSetting(const SettingsStore &store, QLatin1String key)
+{
+    const SettingKey &row = settingKey(key);
+    return store.read(QLatin1String(row.section), key, QLatin1String(row.defaultValue));
+}
+
+void writeSetting(SettingsStore &store, QLatin1String key, const QString &value)
+{
+    store.write(QLatin1String(settingKey(key).section), key, value);
+}
+
+LoadedSettings loadSettings(const SettingsStore &store, Common &common)
+{
+    LoadedSettings loaded;
+    Reader read(store, loaded.notices);
+    common.mainPlace.left = read.twips("MainLeft");
+    common.mainPlace.top = read.twips("MainTop");
+    common.mainPlace.height = read.twips("MainHeight");
+    common.udpPort = read.number<std::uint16_t>("UDPPort", 1, 65535);
+    for (const OptionMember &option : optionMembers)
+        common.options.*option.member = read.integer16(option.key);
+    common.avatarHead = read.text("AvatarHead");
+    common.avatarBody = read.text("AvatarBody").toLatin1();
+    common.autoReply.onBusy = read.flag("AutoReplyonBusyActive");
+    common.autoReply.onAway = read.flag("AutoReplyonAwayActive");
+    common.autoReply.busyText = read.text("AutoReplyonBusyText");
+    common.autoReply.awayText = read.text("AutoReplyonawayText");
+    common.logFont.size = read.integer16("StandardFontSize");
+    common.logFont.face = read.text("StandardFontFace");
+    common.logFont.style = read.text("StandardFontStyle");
+    for (int n = 1; n <= limits::storedPersonalizedStates; ++n)
+        loaded.personalizedStates.append(
+            store.read(QLatin1String(settingKey(QLatin1String("PersonalizedState")).section), personalizedStateKey(n), {}));
+    return loaded;
+}
+
+void saveSettings(SettingsStore &store, const Common &common, const QStringList &personalizedStates)
+{
+    const auto write
+        = [&store](const char *key, const QString &value) { writeSetting(store, QLatin1String(key), value); };
+    write("UDPPort", QString::number(common.udpPort));
+    for (const OptionMember &option : optionMembers)
+        write(option.key, QString::number(common.options.*option.member));
+    write("MainLeft", numberText(common.mainPlace.left));
+    write("MainTop", numberText(common.mainPlace.top));
+    write("MainHeight", numberText(common.mainPlace.height));
+    write("AvatarHead", common.avatarHead);
+    write("AvatarBody", common.avatarHead.isEmpty() ? QString() : QString::fromLatin1(common.avatarBody));
+    write("AutoReplyonBusyActive", flagText(common.autoReply.onBusy));
+    write("AutoReplyonAwayActive", flagText(common.autoReply.onAway));
+    write("AutoReplyonBusyText", common.autoReply.busyText);
+    write("AutoReplyonawayText", common.autoReply.awayText);
+    write("StandardFontSize", QString::number(common.logFont.size));
+    write("StandardFontFace", common.logFont.face);
+    write("StandardFontStyle", common.logFont.style);
+    // Unused numbers are emptied, or entries of an earlier, longer list would come back.
+    for (int n = 1; n <= limits::storedPersonalizedStates; ++n)
+        store.write(QLatin1String(settingKey(QLatin1String("PersonalizedState")).section), personalizedStateKey(n),
+                    personalizedStates.value(n - 1));
+}
+
+} // namespace nimb

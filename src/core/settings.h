@@ -1,0 +1,88 @@
+// Every key of the settings store, and how the main window's settings are read and written.
+#pragma once
+
+#include "core/Common.h"
+#include "core/settings_store.h"
+
+#include <QStringList>
+
+#include <array>
+
+namespace nimb
+{
+
+/// How the stored text is read. Every value is stored as text, a number as its decimal digits.
+enum class SettingType {
+    text,
+    single, ///< a number that may have a fraction
+    integer16,
+    integer32,
+    flag, ///< a number, non-zero for true; true is written as -1
+    avatarData, ///< bytes, one a character, U+0000 to U+00FF
+};
+
+struct SettingKey {
+    const char *section;
+    const char *key;
+    SettingType type;
+    const char *defaultValue;
+    const char *meaning;
+};
+
+/// The whole store but for the contact list: section "Users", keys "IP", "Nn" and "Ws" followed by 1, 2, ...
+/// "PersonalizedState" stands for eight keys, followed by 1 to 8.
+inline constexpr std::array settingKeys = {
+    SettingKey{"Settings", "MyNickName", SettingType::text, "", "last nickname used"},
+    SettingKey{"Settings", "MainLeft", SettingType::single, "1000", "left edge of the main window, twips"},
+    SettingKey{"Settings", "MainTop", SettingType::single, "1000", "top edge of the main window, twips"},
+    SettingKey{"Settings", "MainHeight", SettingType::single, "6200", "height of the main window, twips"},
+    SettingKey{"Settings", "UDPPort", SettingType::integer32, "5549", "port to listen on and to send to"},
+    SettingKey{"Options", "ShowStatusOnPrivate", SettingType::integer16, "1", "1: presence lines in private windows"},
+    SettingKey{"Options", "BuzzLocal", SettingType::integer16, "0", "1: own buzzes sound here too"},
+    SettingKey{"Options", "BuzzRemote", SettingType::integer16, "1", "1: received buzzes sound"},
+    SettingKey{"Options", "PrivateBehaviour", SettingType::integer16, "0",
+               "1: a private window that a peer opens comes on top; otherwise minimised"},
+    SettingKey{"Options", "DontDestroyWindow", SettingType::integer16, "0",
+               "1: a closed private window is gone; otherwise only hidden"},
+    SettingKey{"Options", "NotifyWin", SettingType::integer16, "1", "1: the notification pop-up is used"},
+    SettingKey{"Options", "LiveType", SettingType::integer16, "1", "1: live typing is on in new private windows"},
+    SettingKey{"Options", "CloseButtonDoesMinimize", SettingType::integer16, "0",
+               "1: the main window's close box hides it"},
+    SettingKey{"Settings", "AvatarHead", SettingType::text, "", "time stamp of the own avatar, empty for none"},
+    SettingKey{"Settings", "AvatarBody", SettingType::avatarData, "", "the own avatar, 7500 bytes"},
+    SettingKey{"Settings", "AutoReplyonBusyActive", SettingType::flag, "0", "automatic reply while busy"},
+    SettingKey{"Settings", "AutoReplyonAwayActive", SettingType::flag, "0", "automatic reply while away"},
+    SettingKey{"Settings", "AutoReplyonBusyText", SettingType::text, "I'm busy, please do not disturb",
+               "its text while busy"},
+    SettingKey{"Settings", "AutoReplyonawayText", SettingType::text, "At the moment I'm not at my PC",
+               "its text while away"},
+    SettingKey{"Settings", "StandardFontSize", SettingType::integer16, "8", "log font, points"},
+    SettingKey{"Settings", "StandardFontFace", SettingType::text, "MS Sans Serif", "log font, face"},
+    SettingKey{"Settings", "StandardFontStyle", SettingType::text, "", "log font: b for bold, i for italic"},
+    SettingKey{"Settings", "PersonalizedState", SettingType::text, "", "picture digit and text of an own state"},
+    SettingKey{"Settings", "AutorefuseConf", SettingType::integer16, "0", "1: invitations are refused by age"},
+    SettingKey{"Settings", "AutorefuseConfMins", SettingType::text, "5", "that age, minutes"},
+    SettingKey{"Options", "TipOTDay", SettingType::text, "1", "exactly 1: a tip at every start"},
+    SettingKey{"Options", "TipOTDayNum", SettingType::integer16, "0", "number of the next tip"},
+};
+
+/// The row of the table; the key must be in it.
+const SettingKey &settingKey(QLatin1String key);
+
+/// The stored text, or the table's default.
+QString readSetting(const SettingsStore &store, QLatin1String key);
+void writeSetting(SettingsStore &store, QLatin1String key, const QString &value);
+
+/// What the main window reads when it loads.
+struct LoadedSettings {
+    QStringList personalizedStates; ///< the eight stored values, empty ones included
+    QStringList notices; ///< one sentence for each stored value that could not be used
+};
+
+/// Reads the main window's settings in their order. A stored number that is none gives the default and a notice.
+LoadedSettings loadSettings(const SettingsStore &store, Common &common);
+/// Notes them for saving, in their order. Of the personalised states the first eight are kept; without an avatar
+/// head no body is.
+void saveSettings(SettingsStore &store, const Common &common, const QStringList &personalizedStates);
+
+} // namespace nimb

@@ -1,0 +1,39 @@
+#include "core/sub_main.h"
+
+#include "core/main_window.h"
+#include "core/settings.h"
+#include "core/window_flashing.h"
+
+namespace nimb
+{
+
+Started SubMain(const QString &commandLine, Common &common, const SettingsStore &store, StartUpSteps &steps)
+{
+    if (steps.anotherCopyRuns()) {
+        steps.restoreOtherCopy(mainCaption(readSetting(store, QLatin1String("MyNickName"))));
+        return Started::handedOver;
+    }
+    steps.InitEmoticonTables();
+    common.avatarHead.clear();
+    common.avatarBody.clear();
+    common.windowFlashingAvailable = isWindowFlashingAvailable(runningSystem());
+    steps.loadNotify();
+    if (commandLine.isEmpty()) {
+        steps.showLogin();
+        if (common.ownNickname.isEmpty())
+            return Started::withoutNickname;
+        steps.loadMain();
+        steps.showMain();
+    } else {
+        steps.loadAndUnloadLogin();
+        common.ownNickname = commandLine;
+        steps.loadMain();
+        steps.showMain();
+        steps.minimiseMain();
+    }
+    if (readSetting(store, QLatin1String("TipOTDay")) == QLatin1String("1"))
+        steps.showTipOfTheDay();
+    return Started::running;
+}
+
+} // namespace nimb

@@ -1,0 +1,22 @@
+// Twips and pixels: the one place where they are converted.
+#pragma once
+
+#include <QtGlobal>
+
+namespace nimb
+{
+
+constexpr int twipsPerPixel = 15;
+
+/// Logical pixels, rounded.
+constexpr int pixels(double twips)
+{
+    return qRound(twips / twipsPerPixel);
+}
+
+constexpr double twips(int pixels)
+{
+    return pixels * twipsPerPixel;
+}
+
+} // namespace nimb

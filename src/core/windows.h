@@ -1,0 +1,53 @@
+// The windows that the start and the end of the program open and close.
+#pragma once
+
+#include <QString>
+
+namespace nimb
+{
+
+/// What the start of the program does outside the engine; SubMain calls it in the prescribed order.
+class StartUpSteps
+{
+public:
+    virtual ~StartUpSteps() = default;
+    /// True when another copy with the same profile runs.
+    virtual bool anotherCopyRuns() = 0;
+    /// Asks that copy to restore its main window if the window bears this caption.
+    virtual void restoreOtherCopy(const QString &caption) = 0;
+    virtual void InitEmoticonTables() = 0;
+    virtual void loadNotify() = 0;
+    /// Shows the login dialog until the user ends it; the own nickname is set then, unless it was closed.
+    virtual void showLogin() = 0;
+    /// Does what loading the login dialog does, without showing it.
+    virtual void loadAndUnloadLogin() = 0;
+    virtual void loadMain() = 0;
+    virtual void showMain() = 0;
+    virtual void minimiseMain() = 0;
+    virtual void showTipOfTheDay() = 0;
+};
+
+/// The windows that end with the main window, in the order of the calls.
+class SecondaryWindows
+{
+public:
+    virtual ~SecondaryWindows() = default;
+    virtual void unloadConferences() = 0;
+    virtual void unloadPrivateWindows() = 0;
+    virtual void unloadNotify() = 0;
+    virtual void unloadInvitations() = 0;
+    virtual void unloadTipOfTheDay() = 0;
+};
+
+/// The icon in the notification area.
+class TrayIcon
+{
+public:
+    virtual ~TrayIcon() = default;
+    virtual void AddIcon(const QString &ToolTip) = 0;
+    virtual void removeIcon() = 0;
+    /// True while the desktop shows the icon, so that a hidden window can be brought back by it.
+    virtual bool isShown() const = 0;
+};
+
+} // namespace nimb

@@ -1,0 +1,171 @@
+#include "platform/single_instance.h"
+
+#include "platform/instance_lock.h"
+#include "platform/profile_folder.h"
+
+#include <QCryptographicHash>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QStringDecoder>
+#include <QTimer>
+
+#include <algorithm>
+#include <chrono>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
+namespace nimb
+{
+namespace
+{
+
+using namespace std::chrono_literals;
+
+constexpr auto patience = 2s;
+
+// A message is the caption in UTF-8 and an end mark, which no command line can hold; the answer is one byte.
+constexpr char endMark = '\0';
+constexpr char acknowledgement = '!';
+
+QString folderOfSockets()
+{
+    const QString runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return !runtimeFolder.isEmpty() && QFileInfo(runtimeFolder).isDir() ? runtimeFolder : QDir::tempPath();
+}
+
+QString userName()
+{
+#ifdef Q_OS_UNIX
+    return QString::number(::geteuid());
+#else
+    return qEnvironmentVariable("USERNAME");
+#endif
+}
+
+/// The path of a socket has room for about a hundred bytes, so the folder enters by its hash.
+QString socketPathFor(const QString &folder)
+{
+    const QString canonical = QFileInfo(folder).canonicalFilePath();
+    const QByteArray name = QFile::encodeName(canonical.isEmpty() ? QDir(folder).absolutePath() : canonical);
+    const QByteArray hash = QCryptographicHash::hash(name, QCryptographicHash::Sha256).toHex().left(16);
+    return QStringLiteral("%1/nimb-chat-%2-%3").arg(folderOfSockets(), userName(), QString::fromLatin1(hash));
+}
+
+bool belongsToUs(const QString &path)
+{
+#ifdef Q_OS_UNIX
+    return QFileInfo(path).ownerId() == ::geteuid();
+#else
+    Q_UNUSED(path);
+    return true;
+#endif
+}
+
+int millisecondsLeft(const QDeadlineTimer &deadline) { return static_cast<int>(deadline.remainingTime()); }
+
+/// Cut between two characters if it is too long.
+QByteArray messageFor(const QString &caption)
+{
+    QByteArray text = caption.toUtf8();
+    text.replace(endMark, ' ');
+    const auto startsCharacter = [&text](qsizetype i) { return (static_cast<unsigned char>(text[i]) & 0xC0) != 0x80; };
+    qsizetype end = std::min(text.size(), SingleInstance::longestMessage - 1);
+    while (end > 0 && end < text.size() && !startsCharacter(end))
+        --end;
+    return text.left(end) + endMark;
+}
+
+} // namespace
+
+SingleInstance::SingleInstance(const QString &profileFolder, QObject *parent)
+    : QObject(parent), m_folder(QDir(profileFolder).absolutePath())
+{
+}
+
+SingleInstance::~SingleInstance() = default;
+
+bool SingleInstance::acquire()
+{
+    if (m_server)
+        return true;
+    makePrivateFolder(m_folder); // a failure shows in the next line
+    m_socketPath = socketPathFor(m_folder); // canonical only once the folder is there
+    if (!m_lock)
+        m_lock = std::make_unique<InstanceLock>(m_folder + QStringLiteral("/lock"));
+    switch (m_lock->tryToHold()) {
+    case InstanceLock::Outcome::heldElsewhere:
+        return false;
+    case InstanceLock::Outcome::impossible:
+        return true;
+    case InstanceLock::Outcome::held:
+        break;
+    }
+    m_server = std::make_unique<QLocalServer>();
+    m_server->setSocketOptions(QLocalServer::UserAccessOption);
+    connect(m_server.get(), &QLocalServer::newConnection, this, &SingleInstance::greet);
+    QLocalServer::removeServer(m_socketPath); // left behind by a copy that was killed
+    m_server->listen(m_socketPath);
+    return true;
+}
+
+void SingleInstance::handOver(const QString &expectedCaption)
+{
+    const QDeadlineTimer deadline(patience);
+    m_socketPath = socketPathFor(m_folder);
+    if (!belongsToUs(m_socketPath))
+        return;
+    QLocalSocket socket;
+    socket.connectToServer(m_socketPath);
+    if (!socket.waitForConnected(millisecondsLeft(deadline)))
+        return;
+    socket.write(messageFor(expectedCaption));
+    while (socket.bytesToWrite() > 0) {
+        if (!socket.waitForBytesWritten(millisecondsLeft(deadline)))
+            return;
+    }
+    socket.waitForReadyRead(millisecondsLeft(deadline)); // the acknowledgement, or the end of the connection
+}
+
+void SingleInstance::greet()
+{
+    while (QLocalSocket *client = m_server->nextPendingConnection()) {
+        client->setReadBufferSize(longestMessage);
+        connect(client, &QLocalSocket::disconnected, client, &QObject::deleteLater);
+        connect(client, &QLocalSocket::readyRead, this, [this, client] { readFrom(*client); });
+        QTimer::singleShot(patience, client, [client] {
+            client->abort();
+            client->deleteLater();
+        });
+        readFrom(*client); // what came before anybody listened
+    }
+}
+
+void SingleInstance::readFrom(QLocalSocket &client)
+{
+    const QByteArray message = client.peek(longestMessage);
+    const qsizetype end = message.indexOf(endMark);
+    if (end < 0) {
+        if (message.size() >= longestMessage)
+            client.abort();
+        return;
+    }
+    client.disconnect(this); // one message a client
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    const QString caption = decoder(QByteArrayView(message).first(end));
+    if (decoder.hasError()) {
+        client.abort();
+        return;
+    }
+    client.write(&acknowledgement, 1);
+    client.disconnectFromServer();
+    if (secondStart)
+        secondStart(caption);
+}
+
+} // namespace nimb

@@ -1,0 +1,54 @@
+// One running copy for each profile folder and user.
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+class QLocalServer;
+class QLocalSocket;
+
+namespace nimb
+{
+
+class InstanceLock;
+
+/// The first copy holds a lock that the system takes back when the process ends, however it ends. It listens for later
+/// starts, which say which window they look for and end.
+class SingleInstance : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr qsizetype longestMessage = 4096; ///< bytes
+
+    explicit SingleInstance(const QString &profileFolder, QObject *parent = nullptr);
+    ~SingleInstance() override;
+
+    /// True when this is the first copy; it listens from then on. Where no lock can be had at all (a folder that
+    /// cannot be made or written to) every copy counts as the first: the program starts rather than not.
+    bool acquire();
+
+    /// Tells the first copy that somebody started the program again. Returns after its acknowledgement, and after two
+    /// seconds at the latest when there is none. A caption of more than longestMessage bytes arrives cut.
+    void handOver(const QString &expectedCaption);
+
+    /// Full path of the socket on which the first copy listens.
+    QString socketPath() const { return m_socketPath; }
+
+    /// Called in the first copy for each later start, with the caption of the window to bring forward.
+    std::function<void(const QString &caption)> secondStart;
+
+private:
+    void greet();
+    void readFrom(QLocalSocket &client);
+
+    QString m_folder;
+    QString m_socketPath;
+    std::unique_ptr<InstanceLock> m_lock;
+    std::unique_ptr<QLocalServer> m_server; // closed before the lock is given back
+};
+
+} // namespace nimb

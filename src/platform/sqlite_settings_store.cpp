@@ -1,0 +1,322 @@
+#include "platform/sqlite_settings_store.h"
+
+#include "platform/profile_folder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStringDecoder>
+
+#include <sqlite3.h>
+
+namespace nimb
+{
+namespace
+{
+
+constexpr int busyTimeoutMs = 2000;
+
+constexpr auto createTable = "CREATE TABLE IF NOT EXISTS settings(section TEXT, key TEXT, value TEXT, "
+                             "PRIMARY KEY(section, key))";
+constexpr auto putValue = "INSERT INTO settings(section, key, value) VALUES(?1, ?2, ?3) "
+                          "ON CONFLICT(section, key) DO UPDATE SET value = excluded.value";
+
+/// Thrown and caught within this file only.
+struct Failure {
+    QString reason;
+};
+
+QString translated(const char *text) { return QCoreApplication::translate("SqliteSettingsStore", text); }
+
+/// Why the last call on the database failed, to be put in brackets. The code is an extended one.
+QString reasonFor(int code, sqlite3 *database)
+{
+    const int systemError = database != nullptr ? sqlite3_system_errno(database) : 0;
+    switch (code & 0xff) {
+    case SQLITE_FULL:
+        return translated(QT_TRANSLATE_NOOP("SqliteSettingsStore", "the disk is full"));
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return translated(QT_TRANSLATE_NOOP("SqliteSettingsStore", "another program is using the file"));
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return translated(QT_TRANSLATE_NOOP("SqliteSettingsStore", "the file is damaged or holds something else"));
+    case SQLITE_NOMEM:
+        return translated(QT_TRANSLATE_NOOP("SqliteSettingsStore", "memory has run out"));
+    case SQLITE_READONLY:
+        if (code == SQLITE_READONLY_DBMOVED)
+            return translated(QT_TRANSLATE_NOOP("SqliteSettingsStore", "the file has been moved or replaced"));
+        return translated(QT_TRANSLATE_NOOP("SqliteSettingsStore", "the file or its folder is read-only"));
+    case SQLITE_IOERR:
+    case SQLITE_CANTOPEN:
+        if (systemError != 0)
+            return qt_error_string(systemError);
+        break;
+    default:
+        break;
+    }
+    return QString::fromUtf8(database != nullptr ? sqlite3_errmsg(database) : sqlite3_errstr(code));
+}
+
+void check(int code, sqlite3 *database)
+{
+    if (code != SQLITE_OK)
+        throw Failure{reasonFor(code, database)};
+}
+
+/// One prepared statement. Texts go in and out with their lengths, so that they may hold U+0000.
+class Statement
+{
+public:
+    Statement(sqlite3 *database, const char *sql) : m_database(database)
+    {
+        check(sqlite3_prepare_v2(database, sql, -1, &m_statement, nullptr), database);
+    }
+    // What finalising returns is the failure of the last step, which was looked at when it happened.
+    ~Statement() { sqlite3_finalize(m_statement); }
+    Q_DISABLE_COPY_MOVE(Statement)
+
+    /// Runs to the next row; false when there is none left.
+    bool next()
+    {
+        const int code = sqlite3_step(m_statement);
+        if (code != SQLITE_ROW && code != SQLITE_DONE)
+            check(code, m_database);
+        return code == SQLITE_ROW;
+    }
+
+    bool isNull(int column) const { return sqlite3_column_type(m_statement, column) == SQLITE_NULL; }
+
+    QString text(int column) const
+    {
+        const unsigned char *bytes = sqlite3_column_text(m_statement, column);
+        if (bytes == nullptr)
+            throw Failure{reasonFor(SQLITE_NOMEM, m_database)}; // a NULL is sorted out by isNull()
+        const int size = sqlite3_column_bytes(m_statement, column);
+        // A first character U+FEFF is a character like any other.
+        QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+        return decoder(QByteArrayView(bytes, size));
+    }
+
+    /// The bytes must live until the statement has run.
+    void bind(int parameter, const QByteArray &utf8)
+    {
+        const auto size = static_cast<sqlite3_uint64>(utf8.size());
+        check(sqlite3_bind_text64(m_statement, parameter, utf8.constData(), size, SQLITE_STATIC, SQLITE_UTF8),
+              m_database);
+    }
+
+    /// Makes it ready to run once more.
+    void reset() { check(sqlite3_reset(m_statement), m_database); }
+
+private:
+    sqlite3 *m_database;
+    sqlite3_stmt *m_statement = nullptr;
+};
+
+void execute(sqlite3 *database, const char *sql)
+{
+    check(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), database);
+}
+
+QByteArray nameForSqlite(const QString &path)
+{
+#ifdef Q_OS_WIN
+    return path.toUtf8();
+#else
+    return QFile::encodeName(path);
+#endif
+}
+
+void checkIntegrity(sqlite3 *database)
+{
+    Statement integrity(database, "PRAGMA integrity_check(1)");
+    if (!integrity.next() || integrity.text(0) != u"ok")
+        throw Failure{reasonFor(SQLITE_CORRUPT, database)};
+}
+
+bool hasTable(sqlite3 *database)
+{
+    Statement table(database, "SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = 'settings'");
+    return table.next();
+}
+
+} // namespace
+
+void SqliteSettingsStore::CloseDatabase::operator()(sqlite3 *database) const { sqlite3_close_v2(database); }
+
+SqliteSettingsStore::SqliteSettingsStore(const QString &folder)
+    : m_folder(QDir(folder).absolutePath()), m_file(m_folder + QStringLiteral("/settings.sqlite3"))
+{
+    open();
+    m_valuesSeen = m_database != nullptr;
+}
+
+SqliteSettingsStore::~SqliteSettingsStore() = default;
+
+QString SqliteSettingsStore::read(const QString &section, const QString &key, const QString &defaultValue) const
+{
+    return m_values.value({section, key}, defaultValue);
+}
+
+void SqliteSettingsStore::write(const QString &section, const QString &key, const QString &value)
+{
+    m_pending.insert({section, key}, value);
+}
+
+std::optional<QString> SqliteSettingsStore::save()
+{
+    if (m_pending.isEmpty())
+        return std::nullopt;
+    try {
+        openForSaving();
+        writePending();
+    } catch (const Failure &failure) {
+        return tr("The settings were not saved in %1 (%2), so what was changed since the last save is not kept; "
+                  "what was stored before is unchanged.")
+            .arg(QDir::toNativeSeparators(m_file), failure.reason);
+    }
+    m_values.insert(m_pending);
+    m_pending.clear();
+    m_trouble = Trouble::none;
+    return std::nullopt;
+}
+
+std::optional<QString> SqliteSettingsStore::problem() const
+{
+    const QString folder = QDir::toNativeSeparators(m_folder);
+    const QString file = QDir::toNativeSeparators(m_file);
+    switch (m_trouble) {
+    case Trouble::none:
+        return std::nullopt;
+    case Trouble::folder:
+        return tr("The settings folder %1 cannot be made (%2), so the program starts with its defaults and keeps "
+                  "no settings.")
+            .arg(folder, m_reason);
+    case Trouble::file:
+        return tr("The settings file %1 cannot be made (%2), so the program starts with its defaults and keeps "
+                  "no settings.")
+            .arg(file, m_reason);
+    case Trouble::reading:
+        return tr("The settings in %1 cannot be read (%2), so the program starts with its defaults and leaves the "
+                  "file as it is.")
+            .arg(file, m_reason);
+    case Trouble::writing:
+        return tr("The settings in %1 cannot be changed (%2), so what you change is forgotten when the program ends.")
+            .arg(file, m_reason);
+    }
+    return std::nullopt;
+}
+
+/// Leaves the cause of a failure in m_trouble and m_reason.
+void SqliteSettingsStore::open()
+{
+    Trouble step = Trouble::folder;
+    try {
+        if (const std::optional<QString> reason = makePrivateFolder(m_folder))
+            throw Failure{*reason};
+        step = Trouble::file;
+        if (const std::optional<QString> reason = makePrivateFile(m_file))
+            throw Failure{*reason};
+        step = Trouble::reading;
+        readFile();
+        step = Trouble::writing;
+        checkWritable();
+        step = Trouble::none;
+    } catch (const Failure &failure) {
+        m_reason = failure.reason;
+    }
+    m_trouble = step;
+}
+
+void SqliteSettingsStore::readFile()
+{
+    sqlite3 *opened = nullptr;
+    const int code = sqlite3_open_v2(nameForSqlite(m_file).constData(), &opened, SQLITE_OPEN_READWRITE, nullptr);
+    std::unique_ptr<sqlite3, CloseDatabase> database(opened); // to be closed even when it could not be opened
+    check(code, opened);
+    check(sqlite3_extended_result_codes(opened, 1), opened);
+    check(sqlite3_busy_timeout(opened, busyTimeoutMs), opened);
+    execute(opened, "PRAGMA synchronous = FULL");
+    checkIntegrity(opened);
+
+    Values values;
+    if (hasTable(opened)) {
+        Statement all(opened, "SELECT section, key, value FROM settings");
+        while (all.next()) {
+            if (!all.isNull(0) && !all.isNull(1) && !all.isNull(2))
+                values.insert({all.text(0), all.text(1)}, all.text(2));
+        }
+    }
+    m_database = std::move(database);
+    m_values = std::move(values);
+}
+
+void SqliteSettingsStore::checkWritable() const
+{
+    // A first write would find out too, but only when the program ends.
+    if (sqlite3_db_readonly(m_database.get(), "main") != 0 || !QFileInfo(m_folder).isWritable())
+        throw Failure{reasonFor(SQLITE_READONLY, m_database.get())};
+    execute(m_database.get(), createTable);
+    Statement fitting(m_database.get(), putValue); // fails when a table of that name is not ours
+}
+
+void SqliteSettingsStore::openForSaving()
+{
+    if (m_database && !QFileInfo::exists(m_file)) {
+        // Somebody removed the file: all that is known goes into a new one.
+        Values everything = m_values;
+        everything.insert(m_pending);
+        m_pending = everything;
+        m_database.reset();
+    }
+    if (m_database)
+        return;
+    open();
+    if (!m_database)
+        throw Failure{m_reason};
+    if (m_valuesSeen || m_values.isEmpty()) {
+        m_valuesSeen = true;
+        return;
+    }
+    m_database.reset();
+    m_values.clear();
+    m_trouble = Trouble::reading;
+    m_reason = tr("they could not be read when the program started and would be lost");
+    throw Failure{m_reason};
+}
+
+void SqliteSettingsStore::writePending()
+{
+    sqlite3 *database = m_database.get();
+    try {
+        execute(database, "BEGIN IMMEDIATE");
+        execute(database, createTable);
+        Statement put(database, putValue);
+        for (auto entry = m_pending.cbegin(); entry != m_pending.cend(); ++entry) {
+            const QByteArray section = entry.key().first.toUtf8();
+            const QByteArray key = entry.key().second.toUtf8();
+            const QByteArray value = entry.value().toUtf8();
+            put.bind(1, section);
+            put.bind(2, key);
+            put.bind(3, value);
+            put.next();
+            put.reset();
+        }
+        execute(database, "COMMIT");
+    } catch (const Failure &) {
+        rollBack();
+        throw;
+    }
+}
+
+void SqliteSettingsStore::rollBack()
+{
+    if (sqlite3_get_autocommit(m_database.get()) != 0) // most failures have rolled back by themselves
+        return;
+    // Closing gives the transaction up as well, and what it left in the file is undone when it is opened next.
+    if (sqlite3_exec(m_database.get(), "ROLLBACK", nullptr, nullptr, nullptr) != SQLITE_OK)
+        m_database.reset();
+}
+
+} // namespace nimb

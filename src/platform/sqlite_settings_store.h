@@ -1,0 +1,63 @@
+// The settings in an SQLite file.
+#pragma once
+
+#include "core/settings_store.h"
+
+#include <QCoreApplication>
+#include <QMap>
+
+#include <memory>
+#include <utility>
+
+struct sqlite3;
+
+namespace nimb
+{
+
+/// Keeps the values in `settings.sqlite3` of one folder. They are read once, when the store is made, so that read()
+/// neither waits nor fails; save() writes what is pending in one transaction that is on the disk before it returns.
+/// A file that cannot be read is never replaced, and values that this run has not seen are never overwritten.
+class SqliteSettingsStore : public SettingsStore
+{
+    Q_DECLARE_TR_FUNCTIONS(SqliteSettingsStore)
+
+public:
+    /// Makes the folder (mode 0700) and an empty file (mode 0600) where they are missing. May wait two seconds for
+    /// another program that holds the file, as save() may.
+    explicit SqliteSettingsStore(const QString &folder);
+    ~SqliteSettingsStore() override;
+
+    /// Every character comes back as it was written, except that UTF-8 has no room for half a surrogate pair.
+    QString read(const QString &section, const QString &key, const QString &defaultValue) const override;
+    void write(const QString &section, const QString &key, const QString &value) override;
+    /// After a failure the values stay pending, and a further save() tries them again.
+    std::optional<QString> save() override;
+    std::optional<QString> problem() const override;
+
+private:
+    using Name = std::pair<QString, QString>; ///< section and key
+    using Values = QMap<Name, QString>;
+
+    struct CloseDatabase {
+        void operator()(sqlite3 *database) const;
+    };
+    enum class Trouble { none, folder, file, reading, writing };
+
+    void open();
+    void readFile();
+    void checkWritable() const;
+    void openForSaving();
+    void writePending();
+    void rollBack();
+
+    QString m_folder;
+    QString m_file;
+    std::unique_ptr<sqlite3, CloseDatabase> m_database; ///< empty unless its values could be read
+    Values m_values;
+    Values m_pending;
+    Trouble m_trouble = Trouble::none;
+    QString m_reason; ///< of the trouble, part of a sentence
+    bool m_valuesSeen = false; ///< the program works with what is in the file, not with defaults
+};
+
+} // namespace nimb

@@ -1,0 +1,82 @@
+// The UDP socket of the operating system behind the Winsock interface.
+#pragma once
+
+#include "platform/datagram_socket.h"
+#include "protocol/drop_counts.h"
+#include "protocol/winsock.h"
+
+#include <QObject>
+#include <QSocketNotifier>
+
+#include <memory>
+#include <optional>
+
+namespace nimb
+{
+
+/// Reads a bounded number of datagrams an activation and returns to the event loop between two batches, so that a
+/// flood starves neither windows nor timers. Handlers of DataArrival may send, and may run an event loop of their
+/// own: nothing further is read before they return. They must not destroy this object.
+class UdpWinsock : public QObject, public Winsock
+{
+    Q_OBJECT
+
+public:
+    static constexpr int batchSize = 64;
+    static constexpr int receiveBufferAsked = 4 * 1024 * 1024; ///< bytes
+
+    /// address: the dotted IPv4 address to bind to and to report as the own one; missing or malformed, the socket is
+    /// bound to every interface. hostName: reported in place of the system's. Losses are counted in drops, which must
+    /// outlive this object.
+    explicit UdpWinsock(DropCounts &drops, const std::optional<QString> &address = std::nullopt,
+                        const std::optional<QString> &hostName = std::nullopt, QObject *parent = nullptr);
+
+    void setLocalPort(std::uint16_t port) override { m_localPort = port; }
+    void setRemotePort(std::uint16_t port) override { m_remotePort = port; }
+    /// Names are not resolved: what is sent after anything but a dotted IPv4 address counts as not sent.
+    void setRemoteHost(const QString &address) override;
+
+    bool bind() override;
+    bool isBound() const override { return m_own.has_value(); }
+
+    void SendData(const std::string &bytes) override;
+    std::string GetData(std::size_t byteCount) override;
+    QString RemoteHostIP() const override;
+
+    /// NIMB-Chat's own address as other copies see it; asked of the system anew each time.
+    QString LocalIP() const override;
+    QString LocalHostName() const override;
+
+    /// Bytes that the system granted for waiting datagrams, comparable with receiveBufferAsked; 0 while not bound.
+    int receiveBufferBytes() const { return m_receiveBufferBytes; }
+
+private:
+    /// A socket together with what wakes us for it.
+    struct Ear {
+        DatagramSocket socket;
+        std::unique_ptr<QSocketNotifier> notifier; // goes before its socket
+    };
+
+    std::optional<Ear> listen(Ipv4Endpoint local, DatagramSocket::Sharing sharing, void (UdpWinsock::*arrivals)());
+    void readOwn() { readBatch(*m_own); }
+    void readBroadcasts() { readBatch(*m_broadcasts); }
+    void readBatch(Ear &ear);
+    void setListening(bool on);
+    void deliver(const DatagramSocket::Arrival &arrival);
+    void reportError() const;
+
+    DropCounts &m_drops;
+    std::optional<QString> m_fixedAddress;
+    std::optional<QString> m_fixedHostName;
+    std::uint16_t m_localPort = 0;
+    std::uint16_t m_remotePort = 0;
+    std::optional<std::uint32_t> m_remoteHost;
+    std::optional<std::uint32_t> m_lastSource;
+    DatagramSocket::Arrival m_waiting; ///< announced and not yet taken
+    DatagramSocket::Buffer m_buffer = {};
+    std::optional<Ear> m_own;
+    std::optional<Ear> m_broadcasts; ///< hears what is sent to every copy on the loopback network
+    int m_receiveBufferBytes = 0;
+};
+
+} // namespace nimb

@@ -1,0 +1,56 @@
+// The polite ways in which the system asks a program to end.
+#pragma once
+
+#include <QtGlobal>
+
+#include <functional>
+
+#ifdef Q_OS_UNIX
+#include <QObject>
+#include <QSocketNotifier>
+
+#include <array>
+#include <csignal>
+#include <memory>
+#endif
+
+namespace nimb
+{
+
+#ifdef Q_OS_UNIX
+
+/// While it lives, SIGTERM, SIGINT and SIGHUP call a function from the event loop, where everything may be done, and
+/// SIGPIPE is ignored. Signals that come together call it once. One object at a time; what was set before comes back
+/// with its end.
+class UnixSignals : public QObject
+{
+public:
+    explicit UnixSignals(std::function<void()> askedToEnd, QObject *parent = nullptr);
+    ~UnixSignals() override;
+
+private:
+    struct Previous {
+        int signal = 0;
+        struct sigaction action = {};
+    };
+
+    void take(Previous &previous, int signal, void (*handler)(int));
+    void wake();
+
+    std::function<void()> m_askedToEnd;
+    std::array<int, 2> m_pair = {-1, -1}; ///< the handler writes into the first, the event loop reads the second
+    std::unique_ptr<QSocketNotifier> m_notifier;
+    std::array<Previous, 4> m_previous;
+};
+
+#else
+
+class UnixSignals
+{
+public:
+    explicit UnixSignals(const std::function<void()> &) {}
+};
+
+#endif
+
+} // namespace nimb

@@ -1,0 +1,15 @@
+// The one routine that appends a message body to a log.
+#pragma once
+
+#include "core/rich_text.h"
+
+#include <QString>
+
+namespace nimb
+{
+
+/// Appends the body at the end of the log in this colour. The caller writes what stands before it and the line break
+/// behind it. The body is shown as far as limits::shownTextLength goes.
+void AddTextWithEmoticons(RichTextLog &log, const QString &text, Colour colour);
+
+} // namespace nimb

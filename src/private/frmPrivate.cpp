@@ -1,0 +1,276 @@
+#include "private/frmPrivate.h"
+
+#include "core/form_text.h"
+#include "core/log_font.h"
+#include "core/pictures.h"
+#include "private/message_input.h"
+#include "private/private_chat.h"
+#include "private/rich_text_log.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace nimb
+{
+namespace
+{
+constexpr int margin = 9;
+constexpr int spacing = 6;
+} // namespace
+
+frmPrivate::frmPrivate(PrivateChat &chat) : m_chat(&chat)
+{
+    setObjectName(QStringLiteral("frmPrivate"));
+    setWindowTitle(tr("NIMB-Chat - Private Chat"));
+    setWindowIcon(programIcon());
+    buildControls();
+    connectControls();
+    resize(600, 420);
+}
+
+void frmPrivate::buildControls()
+{
+    m_outtext = new RichTextLogEdit(this);
+    m_outtext->setObjectName(QStringLiteral("outtext"));
+    m_outtext->setAccessibleName(tr("Conversation"));
+    m_outtext->setTabChangesFocus(true);
+
+    futuretype = new QPlainTextEdit(this);
+    futuretype->setObjectName(QStringLiteral("futuretype"));
+    futuretype->setReadOnly(true);
+    futuretype->setFocusPolicy(Qt::NoFocus);
+    futuretype->hide();
+
+    intext = new MessageInput(this);
+    intext->setObjectName(QStringLiteral("intext"));
+    intext->setAccessibleName(tr("Message"));
+    intext->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+
+    sendbtn = new QPushButton(namedPicture(QStringLiteral("send")), tr("Send"), this);
+    sendbtn->setObjectName(QStringLiteral("sendbtn"));
+    sendbtn->setDefault(true);
+    sendbtn->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+
+    auto *const input = new QHBoxLayout;
+    input->setSpacing(spacing);
+    input->addWidget(intext);
+    input->addWidget(sendbtn);
+
+    auto *const column = new QVBoxLayout;
+    column->setContentsMargins(margin, margin, margin, spacing);
+    column->setSpacing(spacing);
+    column->addWidget(m_outtext, 1);
+    column->addLayout(makeToolRow());
+    column->addLayout(input);
+
+    auto *const whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->setSpacing(0);
+    whole->addLayout(column, 1);
+    whole->addWidget(makeStatusBar());
+    setTabOrder(intext, sendbtn);
+    intext->setFocus();
+}
+
+QToolButton *frmPrivate::makeToolButton(const QString &name, const QString &caption, const QString &picture)
+{
+    auto *const button = new QToolButton(this);
+    button->setObjectName(name);
+    button->setText(caption);
+    button->setIcon(namedPicture(picture));
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+QHBoxLayout *frmPrivate::makeToolRow()
+{
+    Emoticbtn = makeToolButton(QStringLiteral("Emoticbtn"), tr("Emoticons"), QStringLiteral("emoticons"));
+    BuzzBtn = makeToolButton(QStringLiteral("BuzzBtn"), tr("Buzz!"), QStringLiteral("buzz"));
+    BuzzBtn->setToolTip(tr("(CTRL+G)"));
+    datetimebtn = makeToolButton(QStringLiteral("datetimebtn"), tr("Date&&Time"), QStringLiteral("datetime"));
+    livetypebtn = new QCheckBox(tr("LiveType!"), this);
+    livetypebtn->setObjectName(QStringLiteral("livetypebtn"));
+    moodbtn = makeToolButton(QStringLiteral("moodbtn"), tr("Mood"), QStringLiteral("mood"));
+    AvatarBtn = makeToolButton(QStringLiteral("AvatarBtn"), tr("Avatar"), QStringLiteral("avatar"));
+    clearbtn = makeToolButton(QStringLiteral("clearbtn"), tr("Clear"), QStringLiteral("clear"));
+    for (QWidget *notYet : std::initializer_list<QWidget *>{Emoticbtn, BuzzBtn, livetypebtn, moodbtn, AvatarBtn})
+        notYet->setEnabled(false);
+
+    auto *const row = new QHBoxLayout;
+    row->setSpacing(2);
+    for (QWidget *tool :
+         std::initializer_list<QWidget *>{Emoticbtn, BuzzBtn, datetimebtn, livetypebtn, moodbtn, AvatarBtn, clearbtn})
+        row->addWidget(tool);
+    row->addStretch(1);
+    return row;
+}
+
+QWidget *frmPrivate::makeStatusBar()
+{
+    auto *const bar = new QWidget(this);
+    bar->setObjectName(QStringLiteral("StatusBar"));
+    auto *const row = new QHBoxLayout(bar);
+    row->setContentsMargins(margin, 0, margin, spacing);
+    row->setSpacing(2 * spacing);
+    for (int i = 0; i < 2; ++i) {
+        m_panels[i] = new QLabel(bar);
+        m_panels[i]->setObjectName(QStringLiteral("StatusBar_%1").arg(i + 1));
+        m_panels[i]->setTextFormat(Qt::PlainText);
+        row->addWidget(m_panels[i]);
+    }
+    row->addStretch(1);
+    rIP = new QLineEdit(bar);
+    rIP->setObjectName(QStringLiteral("rIP"));
+    rIP->setAccessibleName(tr("Address of the peer"));
+    rIP->setReadOnly(true);
+    rIP->setFrame(false);
+    rIP->setFocusPolicy(Qt::ClickFocus);
+    rIP->setAlignment(Qt::AlignRight);
+    rIP->setFixedWidth(120);
+    QPalette ground = rIP->palette();
+    ground.setColor(QPalette::Base, Qt::transparent);
+    rIP->setPalette(ground);
+    row->addWidget(rIP);
+    return bar;
+}
+
+void frmPrivate::connectControls()
+{
+    connect(sendbtn, &QPushButton::clicked, this, &frmPrivate::sendbtn_Click);
+    connect(intext, &MessageInput::entered, sendbtn, &QPushButton::click);
+    connect(clearbtn, &QToolButton::clicked, this, &frmPrivate::clearbtn_Click);
+    connect(datetimebtn, &QToolButton::clicked, this, &frmPrivate::datetimebtn_Click);
+    connect(m_outtext, &QTextEdit::textChanged, this, &frmPrivate::outtext_Change);
+}
+
+void frmPrivate::sendbtn_Click()
+{
+    if (m_chat->send(typedText(*intext)))
+        intext->clear();
+    intext->setFocus();
+}
+
+void frmPrivate::clearbtn_Click()
+{
+    m_chat->preparewindow();
+    intext->setFocus();
+}
+
+void frmPrivate::datetimebtn_Click()
+{
+    intext->insertPlainText(m_chat->dateAndTime());
+    intext->setFocus();
+}
+
+void frmPrivate::outtext_Change()
+{
+    if (m_chat)
+        m_chat->outtext_Change();
+}
+
+bool frmPrivate::Form_QueryUnload(UnloadMode mode)
+{
+    if (m_chat->Form_QueryUnload(mode) == CloseDecision::unload)
+        return true;
+    hide();
+    return false;
+}
+
+void frmPrivate::closeEvent(QCloseEvent *event)
+{
+    if (!m_chat)
+        return event->accept();
+    const UnloadMode mode = qApp->isSavingSession() ? UnloadMode::sessionEnd : UnloadMode::closeBox;
+    if (!Form_QueryUnload(mode))
+        return event->ignore();
+    event->accept();
+    m_chat->Form_Unload();
+}
+
+void frmPrivate::letGo()
+{
+    m_chat = nullptr;
+    hide();
+    deleteLater();
+}
+
+RichTextLog &frmPrivate::outtext()
+{
+    return *m_outtext;
+}
+
+void frmPrivate::setCaption(const QString &caption)
+{
+    setWindowCaption(*this, caption);
+}
+
+void frmPrivate::setPeerAddress(const QString &ip)
+{
+    rIP->setText(ip);
+}
+
+void frmPrivate::setLogFont(const LogFont &font)
+{
+    intext->setFont(fontOf(font));
+    m_outtext->setFont(fontOf(font));
+}
+
+void frmPrivate::setPanel(int number, const QString &text)
+{
+    m_panels[number - 1]->setText(text);
+}
+
+void frmPrivate::hideLiveType()
+{
+    futuretype->hide();
+}
+
+Colour frmPrivate::windowTextColour() const
+{
+    return logColour(palette().color(QPalette::WindowText));
+}
+
+void frmPrivate::showWindow(ShowMode mode)
+{
+    setAttribute(Qt::WA_ShowWithoutActivating, mode != ShowMode::active);
+    switch (mode) {
+    case ShowMode::minimised:
+        showMinimized();
+        break;
+    case ShowMode::onTop:
+        show();
+        raise();
+        break;
+    case ShowMode::active:
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+        show();
+        raise();
+        activateWindow();
+        break;
+    }
+}
+
+bool frmPrivate::isMinimisedOrInactive() const
+{
+    return isMinimized() || !isActiveWindow();
+}
+
+void frmPrivate::flash()
+{
+    if (QWidget::isHidden())
+        return;
+    QApplication::alert(this);
+    // From a timer of an idle program the hint would wait for the next request to the X server.
+    QGuiApplication::sync();
+}
+
+} // namespace nimb

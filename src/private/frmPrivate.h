@@ -1,0 +1,78 @@
+// The private window.
+#pragma once
+
+#include "core/unload_mode.h"
+#include "private/private_chat_view.h"
+
+#include <QWidget>
+
+class QCheckBox;
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+class QToolButton;
+
+namespace nimb
+{
+
+class MessageInput;
+class RichTextLogEdit;
+
+class frmPrivate : public QWidget, public PrivateChatView
+{
+    Q_OBJECT
+
+public:
+    explicit frmPrivate(PrivateChat &chat);
+
+    RichTextLog &outtext() override;
+    void setCaption(const QString &caption) override;
+    void setPeerAddress(const QString &ip) override;
+    void setLogFont(const LogFont &font) override;
+    void setPanel(int number, const QString &text) override;
+    void hideLiveType() override;
+    Colour windowTextColour() const override;
+    bool isHidden() const override { return QWidget::isHidden(); }
+    void showWindow(ShowMode mode) override;
+    void hideWindow() override { hide(); }
+    void letGo() override;
+    bool isMinimisedOrInactive() const override;
+    void flash() override;
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void buildControls();
+    QToolButton *makeToolButton(const QString &name, const QString &caption, const QString &picture);
+    QHBoxLayout *makeToolRow();
+    QWidget *makeStatusBar();
+    void connectControls();
+
+    void sendbtn_Click();
+    void clearbtn_Click();
+    void datetimebtn_Click();
+    void outtext_Change();
+    /// True when the window is to be unloaded; otherwise it has been hidden.
+    bool Form_QueryUnload(UnloadMode mode);
+
+    PrivateChat *m_chat; ///< null once the window was let go
+
+    QLineEdit *rIP = nullptr;
+    RichTextLogEdit *m_outtext = nullptr;
+    QPlainTextEdit *futuretype = nullptr;
+    MessageInput *intext = nullptr;
+    QPushButton *sendbtn = nullptr;
+    QToolButton *clearbtn = nullptr;
+    QToolButton *datetimebtn = nullptr;
+    QToolButton *Emoticbtn = nullptr;
+    QToolButton *BuzzBtn = nullptr;
+    QToolButton *moodbtn = nullptr;
+    QToolButton *AvatarBtn = nullptr;
+    QCheckBox *livetypebtn = nullptr;
+    QLabel *m_panels[2] = {};
+};
+
+} // namespace nimb

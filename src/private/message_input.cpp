@@ -1,0 +1,45 @@
+#include "private/message_input.h"
+
+#include "core/form_text.h"
+#include "core/limits.h"
+#include "core/remote_text.h"
+
+#include <QKeyEvent>
+
+namespace nimb
+{
+namespace
+{
+constexpr int visibleLines = 3;
+}
+
+MessageInput::MessageInput(QWidget *parent) : QPlainTextEdit(parent)
+{
+    setTabChangesFocus(true);
+    connect(this, &QPlainTextEdit::textChanged, this, &MessageInput::cut);
+}
+
+QSize MessageInput::sizeHint() const
+{
+    const int frame = 2 * frameWidth() + static_cast<int>(2 * document()->documentMargin());
+    return {QPlainTextEdit::sizeHint().width(), visibleLines * fontMetrics().lineSpacing() + frame};
+}
+
+void MessageInput::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && !(event->modifiers() & Qt::ShiftModifier))
+        Q_EMIT entered();
+    else
+        QPlainTextEdit::keyPressEvent(event);
+}
+
+void MessageInput::cut()
+{
+    const QString typed = typedText(*this);
+    const QString kept = cutText(typed, limits::messageLength);
+    if (kept.size() < typed.size())
+        setTypedText(*this, kept);
+}
+
+} // namespace nimb

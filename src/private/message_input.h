@@ -1,0 +1,29 @@
+// The box in which a message is typed.
+#pragma once
+
+#include <QPlainTextEdit>
+
+namespace nimb
+{
+
+/// Enter sends, Shift+Enter breaks the line, Tab leaves the box. Never holds more than limits::messageLength
+/// characters, a line break counted as two: what is beyond is cut and the caret goes to the end.
+class MessageInput : public QPlainTextEdit
+{
+    Q_OBJECT
+
+public:
+    explicit MessageInput(QWidget *parent = nullptr);
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void entered();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void cut();
+};
+
+} // namespace nimb

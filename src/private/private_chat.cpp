@@ -1,0 +1,112 @@
+#include "private/private_chat.h"
+
+#include "core/clock_text.h"
+#include "core/limits.h"
+#include "core/remote_text.h"
+#include "private/emoticons.h"
+#include "private/message_text.h"
+#include "protocol/send_datagram.h"
+#include "protocol/wire_text.h"
+
+namespace nimb
+{
+
+PrivateChat::PrivateChat(const Services &services, std::function<void()> unloaded) :
+    m_services(services), m_unloaded(std::move(unloaded)),
+    m_autoReplyTimer(services.timers.oneShot(limits::autoReplyPause, [] {})),
+    m_view(services.forms.makePrivateForm(*this))
+{
+    m_view->setLogFont(services.common.logFont);
+}
+
+void PrivateChat::setPeer(const QString &ip)
+{
+    m_rIP = ip;
+    m_view->setPeerAddress(ip);
+    sendDatagram(m_services.socket, m_rIP, wire::AvatarHeadQuestion{});
+}
+
+void PrivateChat::preparewindow()
+{
+    const LogFont &font = m_services.common.logFont;
+    m_view->setLogFont(font);
+    RichTextLog &log = m_view->outtext();
+    log.clear();
+    log.setSelStart(0);
+    log.setSelColor(colours::banner);
+    log.setSelFont(font);
+    const QDateTime now = m_services.clock.now();
+    log.setSelText(tr("« NIMB-Chat [today:%1 - now:%2] Ready »").arg(shortDate(now), longTime(now))
+                   + QLatin1String("\r\n"));
+    log.setSelStart(log.textLength());
+}
+
+void PrivateChat::appendMessage(const QString &nick, const QString &body, Colour colour)
+{
+    RichTextLog &log = m_view->outtext();
+    appendText(log, nick + QLatin1String("> "), colour);
+    AddTextWithEmoticons(log, body, colour);
+    appendText(log, QStringLiteral("\r\n"), colour);
+    log.setSelStart(log.textLength());
+}
+
+void PrivateChat::MessageReceived(const QString &nik, QString &msg)
+{
+    msg = TrimLeadingBreaks(TrimTrailingBreaks(msg));
+    appendMessage(nik, msg, colours::receivedMessage);
+    const QDateTime now = m_services.clock.now();
+    m_view->setPanel(1, tr("Last message: %1 @ %2").arg(shortDate(now), longTime(now)));
+    m_view->hideLiveType();
+    const AutoReply &reply = m_services.common.autoReply;
+    replyAutomatically("BUSY", reply.onBusy, reply.busyText);
+    replyAutomatically("AWAY", reply.onAway, reply.awayText);
+}
+
+void PrivateChat::replyAutomatically(const char *state, bool on, const QString &text)
+{
+    const bool inState = m_services.common.ownState.toUpper() == QLatin1String(state);
+    if (!inState || !on || m_autoReplyTimer->isActive())
+        return;
+    sendDatagram(m_services.socket, m_rIP, wire::PrivateMessage{toWire(QLatin1String("[AutoReply] ") + text)});
+    m_autoReplyTimer->start();
+}
+
+void PrivateChat::appendPresence(const QString &line)
+{
+    appendText(m_view->outtext(), line + QLatin1String("\r\n"), colours::presence);
+}
+
+bool PrivateChat::send(const QString &typed)
+{
+    if (typed.isEmpty())
+        return false;
+    const QString text = TrimLeadingBreaks(TrimTrailingBreaks(cutText(typed, limits::messageLength)));
+    sendDatagram(m_services.socket, m_rIP, wire::PrivateMessage{toWire(text)});
+    appendMessage(m_services.common.ownNickname, text, m_view->windowTextColour());
+    return true;
+}
+
+QString PrivateChat::dateAndTime() const
+{
+    const QDateTime now = m_services.clock.now();
+    return shortDate(now) + QLatin1Char(' ') + longTime(now);
+}
+
+void PrivateChat::outtext_Change()
+{
+    if (m_services.common.windowFlashingAvailable && m_view->isMinimisedOrInactive())
+        m_view->flash();
+}
+
+CloseDecision PrivateChat::Form_QueryUnload(UnloadMode mode) const
+{
+    const bool hides = mode == UnloadMode::closeBox && m_services.common.options.DontDestroyWindow != 1;
+    return hides ? CloseDecision::hide : CloseDecision::unload;
+}
+
+void PrivateChat::Form_Unload()
+{
+    m_unloaded();
+}
+
+} // namespace nimb

@@ -1,0 +1,69 @@
+// A conversation with one peer: what is written, sent and answered.
+#pragma once
+
+#include "core/Common.h"
+#include "core/timers.h"
+#include "core/unload_mode.h"
+#include "private/private_chat_view.h"
+#include "protocol/winsock.h"
+
+#include <QCoreApplication>
+
+#include <memory>
+
+namespace nimb
+{
+
+/// The engine half of frmPrivate. Its form lives as long as it does.
+class PrivateChat
+{
+    Q_DECLARE_TR_FUNCTIONS(PrivateChat)
+
+public:
+    /// What every private window shares.
+    struct Services {
+        const Common &common;
+        Winsock &socket;
+        Timers &timers;
+        const WallClock &clock;
+        PrivateForms &forms;
+    };
+
+    /// unloaded: called last of all when the user closes the window for good; it may destroy this chat.
+    PrivateChat(const Services &services, std::function<void()> unloaded);
+
+    /// Tells the window its peer, and asks that peer for its avatar.
+    void setPeer(const QString &ip);
+    const QString &rIP() const { return m_rIP; }
+    PrivateChatView &view() { return *m_view; }
+
+    /// Sets fonts, empties the log and writes its opening line.
+    void preparewindow();
+    /// Appends a received message and answers it automatically where that is switched on. msg is trimmed in place.
+    void MessageReceived(const QString &nik, QString &msg);
+    /// Appends a line about the peer's presence.
+    void appendPresence(const QString &line);
+
+    /// Sends what was typed; false when there was nothing, which sends nothing. Line breaks are CR LF.
+    bool send(const QString &typed);
+    /// Date and time for the input box.
+    QString dateAndTime() const;
+    /// Something was added to the log.
+    void outtext_Change();
+
+    CloseDecision Form_QueryUnload(UnloadMode mode) const;
+    /// The form has been closed for good.
+    void Form_Unload();
+
+private:
+    void appendMessage(const QString &nick, const QString &body, Colour colour);
+    void replyAutomatically(const char *state, bool on, const QString &text);
+
+    Services m_services;
+    std::function<void()> m_unloaded;
+    QString m_rIP;
+    std::unique_ptr<Timer> m_autoReplyTimer;
+    ViewPtr<PrivateChatView> m_view;
+};
+
+} // namespace nimb

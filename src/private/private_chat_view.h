@@ -1,0 +1,51 @@
+// What the engine shows in a private window, named after what is seen.
+#pragma once
+
+#include "core/attention.h"
+#include "core/rich_text.h"
+#include "core/view_ptr.h"
+
+#include <QString>
+
+namespace nimb
+{
+
+class PrivateChat;
+
+/// Ways to bring a private window into view.
+enum class ShowMode {
+    active, ///< normal, with the focus: the user asked for it
+    minimised, ///< without taking the focus
+    onTop, ///< as it last was, above the others, without taking the focus
+};
+
+class PrivateChatView : public AttentionView
+{
+public:
+    virtual RichTextLog &outtext() = 0;
+    virtual void setCaption(const QString &caption) = 0;
+    virtual void setPeerAddress(const QString &ip) = 0;
+    /// Font of the input box and of the log.
+    virtual void setLogFont(const LogFont &font) = 0;
+    /// Panel of the status bar, 1 or 2.
+    virtual void setPanel(int number, const QString &text) = 0;
+    virtual void hideLiveType() = 0;
+    /// The colour of own messages: the system's window-text colour.
+    virtual Colour windowTextColour() const = 0;
+
+    virtual bool isHidden() const = 0;
+    virtual void showWindow(ShowMode mode) = 0;
+    virtual void hideWindow() = 0;
+    /// The window is unloaded; see LetGo.
+    virtual void letGo() = 0;
+};
+
+/// Makes forms of private windows, hidden. The chat outlives its form's use of it.
+class PrivateForms
+{
+public:
+    virtual ~PrivateForms() = default;
+    virtual ViewPtr<PrivateChatView> makePrivateForm(PrivateChat &chat) = 0;
+};
+
+} // namespace nimb

@@ -1,0 +1,99 @@
+#include "private/private_windows.h"
+
+#include "core/remote_text.h"
+
+#include <algorithm>
+
+namespace nimb
+{
+
+PrivateWindows::PrivateWindows(const PrivateChat::Services &services, ContactList &contacts) :
+    m_services(services), m_contacts(contacts)
+{
+}
+
+PrivateChat *PrivateWindows::at(int window)
+{
+    if (window < 1 || window > static_cast<int>(m_table.size()))
+        return nullptr;
+    return m_table[static_cast<std::size_t>(window - 1)].get();
+}
+
+void PrivateWindows::privateMessage(const QString &ip, const QString &text)
+{
+    PrivateChat &chat = windowOf(ip);
+    if (chat.view().isHidden())
+        chat.view().showWindow(m_services.common.options.PrivateBehaviour == 1 ? ShowMode::onTop
+                                                                               : ShowMode::minimised);
+    QString body = remoteBody(text);
+    chat.MessageReceived(m_contacts.find(ip)->nickname, body);
+}
+
+void PrivateWindows::openPrivate(const QString &ip)
+{
+    if (m_contacts.isContact(ip))
+        windowOf(ip).view().showWindow(ShowMode::active);
+}
+
+PrivateChat &PrivateWindows::windowOf(const QString &ip)
+{
+    const Contact &contact = *m_contacts.find(ip);
+    if (PrivateChat *open = at(contact.privateWindow))
+        return *open;
+    // A contact that was removed and came back finds the window that still talks to its address.
+    if (const int number = numberOf(ip)) {
+        m_contacts.change(ip, [number](Contact &row) { row.privateWindow = number; });
+        return *at(number);
+    }
+    return make(contact);
+}
+
+PrivateChat &PrivateWindows::make(const Contact &contact)
+{
+    const int number = static_cast<int>(m_table.size()) + 1;
+    m_table.push_back(std::make_unique<PrivateChat>(m_services, [this, number] { unload(number); }));
+    m_contacts.change(contact.ip, [number](Contact &row) { row.privateWindow = number; });
+    PrivateChat &chat = *m_table.back();
+    chat.view().setCaption(tr("%1 - NIMB-Chat - Private Chat Window").arg(contact.nickname));
+    chat.setPeer(contact.ip);
+    chat.preparewindow();
+    return chat;
+}
+
+int PrivateWindows::numberOf(const QString &ip) const
+{
+    const auto found = std::find_if(m_table.begin(), m_table.end(),
+                                    [&ip](const auto &chat) { return chat && chat->rIP() == ip; });
+    return found == m_table.end() ? 0 : static_cast<int>(found - m_table.begin()) + 1;
+}
+
+void PrivateWindows::unload(int window)
+{
+    const std::unique_ptr<PrivateChat> gone = std::move(m_table[static_cast<std::size_t>(window - 1)]);
+    const Contact *contact = m_contacts.find(gone->rIP());
+    if (contact && contact->privateWindow == window)
+        m_contacts.change(gone->rIP(), [](Contact &row) { row.privateWindow = 0; });
+}
+
+void PrivateWindows::unloadAll()
+{
+    for (int window = 1; window <= static_cast<int>(m_table.size()); ++window) {
+        if (at(window))
+            unload(window);
+    }
+}
+
+void PrivateWindows::contactRemoved(const QString &ip)
+{
+    const int number = numberOf(ip);
+    if (number > 0 && at(number)->view().isHidden())
+        unload(number);
+}
+
+void PrivateWindows::appendPresence(int window, const QString &line)
+{
+    if (PrivateChat *chat = at(window))
+        chat->appendPresence(line);
+}
+
+} // namespace nimb

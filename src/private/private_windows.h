@@ -1,0 +1,48 @@
+// The table of private windows, and which contact has which.
+#pragma once
+
+#include "core/contact_commands.h"
+#include "core/contact_list.h"
+#include "core/presence.h"
+#include "private/private_chat.h"
+#include "protocol/handlers.h"
+
+#include <vector>
+
+namespace nimb
+{
+
+/// Numbered from 1 and only growing; the number of an unloaded window is not used again. A contact's row holds the
+/// number of its window.
+class PrivateWindows : public PrivateMessageHandler, public PrivateLogs, public PrivateChats
+{
+    Q_DECLARE_TR_FUNCTIONS(PrivateWindows)
+
+public:
+    PrivateWindows(const PrivateChat::Services &services, ContactList &contacts);
+
+    /// A message always reaches the user: a missing window is made, a hidden one shown, neither takes the focus.
+    void privateMessage(const QString &ip, const QString &text) override;
+    void openPrivate(const QString &ip) override;
+    /// A hidden window of a removed contact could never be seen again and is unloaded.
+    void contactRemoved(const QString &ip) override;
+    void appendPresence(int window, const QString &line) override;
+
+    void unloadAll();
+    /// The window with this number, or null.
+    PrivateChat *at(int window);
+
+private:
+    /// The contact's window; made, hidden and prepared when there is none. The contact must exist.
+    PrivateChat &windowOf(const QString &ip);
+    PrivateChat &make(const Contact &contact);
+    /// Number of a window whose peer has this address, or 0.
+    int numberOf(const QString &ip) const;
+    void unload(int window);
+
+    PrivateChat::Services m_services;
+    ContactList &m_contacts;
+    std::vector<std::unique_ptr<PrivateChat>> m_table;
+};
+
+} // namespace nimb

@@ -1,0 +1,35 @@
+// What was dropped, and why. Shown in the status bar's tool tip, never in a log.
+#pragma once
+
+#include <QHash>
+#include <QString>
+
+#include <cstdint>
+
+namespace nimb
+{
+
+enum class Drop {
+    stranger, ///< a datagram from an address that is no contact
+    incomplete, ///< a known command that lacks what it must carry
+    noFeature, ///< a known command that nothing here takes
+    badAddress, ///< an address that cannot become a contact
+    tooManyContacts, ///< strangers have filled the contact list
+    notSent, ///< the system refused to send, or the socket is not bound
+    notReceived, ///< arrived at the machine and was lost before the program could read it
+};
+
+/// Counts since the start of the program.
+class DropCounts
+{
+public:
+    void count(Drop reason, std::uint64_t times = 1) { m_counts[reason] += times; }
+    std::uint64_t of(Drop reason) const { return m_counts.value(reason, 0); }
+    /// One line a reason that occurred, ready to be shown; empty when nothing was dropped.
+    QString summary() const;
+
+private:
+    QHash<Drop, std::uint64_t> m_counts;
+};
+
+} // namespace nimb

@@ -1,0 +1,50 @@
+// The one UDP socket, as the program uses it.
+#pragma once
+
+#include <QString>
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string>
+
+namespace nimb
+{
+
+/// One UDP endpoint whose local port is also the port of every peer. Sending is always two steps: set the remote
+/// host, then send. Nothing is acknowledged, and no operation reports a failure to its caller: a datagram that
+/// cannot be sent is lost as one on the wire would be, and only counted.
+class Winsock
+{
+public:
+    virtual ~Winsock() = default;
+
+    /// The port to listen on, 1 to 65535. Takes effect with bind().
+    virtual void setLocalPort(std::uint16_t port) = 0;
+    /// The port that every datagram is sent to, 1 to 65535.
+    virtual void setRemotePort(std::uint16_t port) = 0;
+    /// Dotted IPv4 address that the following SendData() goes to.
+    virtual void setRemoteHost(const QString &address) = 0;
+
+    /// Listens on the local port, shared with nobody. False when the port is taken or may not be used; calling it
+    /// again tries again, and is free once bound.
+    virtual bool bind() = 0;
+    virtual bool isBound() const = 0;
+
+    /// Sends one datagram holding exactly these bytes. While the socket is not bound nothing leaves the machine.
+    virtual void SendData(const std::string &bytes) = 0;
+    /// Takes the datagram announced by DataArrival; byteCount is the count that came with it.
+    virtual std::string GetData(std::size_t byteCount) = 0;
+    /// Source address, dotted IPv4, of the datagram taken last.
+    virtual QString RemoteHostIP() const = 0;
+
+    virtual QString LocalIP() const = 0;
+    virtual QString LocalHostName() const = 0;
+
+    /// Called once for each datagram, zero-length ones included, with its size in bytes.
+    std::function<void(std::size_t byteCount)> DataArrival;
+    /// Called for every error of the socket. The program does nothing with it.
+    std::function<void()> Error;
+};
+
+} // namespace nimb

@@ -1,0 +1,783 @@
+#include "platform/sqlite_settings_store.h"
+
+#include "faulty_files.h"
+#include "ordinary_user.h"
+#include "store_values.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+#include <sqlite3.h>
+
+#include <csignal>
+#include <memory>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace nimb
+{
+void PrintTo(const std::optional<QString> &text, std::ostream *out)
+{
+    *out << (text ? text->toStdString() : "(nothing)");
+}
+} // namespace nimb
+
+namespace nimb::test
+{
+namespace
+{
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::Not;
+
+/// What other programs see in the file: SQLite without any of our code.
+class Database : public SettingsStore
+{
+public:
+    explicit Database(const QString &file)
+    {
+        EXPECT_EQ(sqlite3_open_v2(file.toUtf8().constData(), &m_database, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr),
+                  SQLITE_OK);
+    }
+    ~Database() override { sqlite3_close(m_database); }
+
+    void run(const char *sql)
+    {
+        EXPECT_EQ(sqlite3_exec(m_database, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(m_database);
+    }
+
+    /// The bytes of the first column of the first row.
+    std::string one(const char *sql) const
+    {
+        sqlite3_stmt *statement = nullptr;
+        EXPECT_EQ(sqlite3_prepare_v2(m_database, sql, -1, &statement, nullptr), SQLITE_OK) << sqlite3_errmsg(m_database);
+        std::string bytes = "(no row)";
+        if (sqlite3_step(statement) == SQLITE_ROW)
+            bytes = column(statement);
+        sqlite3_finalize(statement);
+        return bytes;
+    }
+
+    QString read(const QString &section, const QString &key, const QString &defaultValue) const override
+    {
+        sqlite3_stmt *statement = nullptr;
+        EXPECT_EQ(sqlite3_prepare_v2(m_database, "SELECT value FROM settings WHERE section = ? AND key = ?", -1,
+                                     &statement, nullptr),
+                  SQLITE_OK);
+        const QByteArray sectionText = section.toUtf8();
+        const QByteArray keyText = key.toUtf8();
+        sqlite3_bind_text(statement, 1, sectionText.constData(), -1, SQLITE_STATIC);
+        sqlite3_bind_text(statement, 2, keyText.constData(), -1, SQLITE_STATIC);
+        const QString value
+            = sqlite3_step(statement) == SQLITE_ROW ? QString::fromStdString(column(statement)) : defaultValue;
+        sqlite3_finalize(statement);
+        return value;
+    }
+    void write(const QString &, const QString &, const QString &) override { ADD_FAILURE(); }
+    std::optional<QString> save() override { return std::nullopt; }
+    std::optional<QString> problem() const override { return std::nullopt; }
+
+private:
+    static std::string column(sqlite3_stmt *statement)
+    {
+        const void *bytes = sqlite3_column_blob(statement, 0);
+        const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement, 0));
+        return size == 0 ? std::string() : std::string(static_cast<const char *>(bytes), size);
+    }
+
+    sqlite3 *m_database = nullptr;
+};
+
+class SqliteSettingsStoreTest : public testing::Test
+{
+protected:
+    SqliteSettingsStoreTest() { QFile::setPermissions(m_base.path(), everybodyMayEnter); }
+
+    void saveGeneration(const QString &generation)
+    {
+        SqliteSettingsStore store(folder);
+        writeGeneration(store, generation);
+        ASSERT_EQ(store.save(), std::nullopt);
+    }
+
+    QString generationOnDisk() const
+    {
+        return QFile::exists(file) && QFileInfo(file).size() > 0 ? generationIn(Database(file)) : "none";
+    }
+
+    void putFile(const QByteArray &bytes)
+    {
+        QDir().mkpath(folder);
+        QFile made(file);
+        ASSERT_TRUE(made.open(QIODevice::WriteOnly));
+        ASSERT_EQ(made.write(bytes), bytes.size());
+    }
+
+    QByteArray fileBytes() const
+    {
+        QFile existing(file);
+        existing.open(QIODevice::ReadOnly);
+        return existing.readAll();
+    }
+
+    static int modeOf(const QString &path)
+    {
+        struct stat information = {};
+        EXPECT_EQ(stat(path.toUtf8().constData(), &information), 0);
+        return static_cast<int>(information.st_mode & 0777);
+    }
+
+    static constexpr QFile::Permissions everybodyMayEnter = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner
+        | QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
+    static constexpr QFile::Permissions nobodyMayWrite
+        = everybodyMayEnter & ~QFile::Permissions(QFile::WriteOwner | QFile::WriteUser);
+
+    const QTemporaryDir m_base;
+    const QString folder = m_base.filePath("config/NIMB-Chat");
+    const QString file = folder + "/settings.sqlite3";
+};
+
+std::string sentence(const std::optional<QString> &text) { return text ? text->toStdString() : "(nothing)"; }
+
+/// What every message to the user must have: the path, the reason, one sentence.
+auto isSentenceWith(const QString &path, const char *reason)
+{
+    return AllOf(HasSubstr(path.toStdString()), HasSubstr(reason), testing::EndsWith("."), Not(HasSubstr("\n")),
+                 Not(HasSubstr(". ")));
+}
+
+TEST_F(SqliteSettingsStoreTest, AMissingFolderIsMadeForItsUserAloneAndIsNoProblem)
+{
+    const SqliteSettingsStore store(folder);
+
+    EXPECT_EQ(store.problem(), std::nullopt);
+    EXPECT_EQ(store.read("Settings", "UDPPort", "5549"), "5549");
+    EXPECT_EQ(modeOf(folder), 0700);
+    EXPECT_EQ(modeOf(m_base.filePath("config")), 0700);
+    EXPECT_EQ(modeOf(file), 0600);
+}
+
+TEST_F(SqliteSettingsStoreTest, AnExistingFolderKeepsItsMode)
+{
+    QDir().mkpath(folder);
+    QFile::setPermissions(folder, everybodyMayEnter);
+    const SqliteSettingsStore store(folder);
+    EXPECT_EQ(store.problem(), std::nullopt);
+    EXPECT_EQ(modeOf(folder), 0755);
+}
+
+TEST_F(SqliteSettingsStoreTest, AnEmptyFileIsAnEmptyStore)
+{
+    putFile("");
+    SqliteSettingsStore store(folder);
+    EXPECT_EQ(store.problem(), std::nullopt);
+    store.write("Options", "LiveType", "0");
+    EXPECT_EQ(store.save(), std::nullopt);
+    EXPECT_EQ(SqliteSettingsStore(folder).read("Options", "LiveType", "1"), "0");
+}
+
+TEST_F(SqliteSettingsStoreTest, KeepsTheFixedLayout)
+{
+    SqliteSettingsStore store(folder);
+    store.write("Users", "IP1", "10.0.0.2");
+    ASSERT_EQ(store.save(), std::nullopt);
+
+    const Database database(file);
+    EXPECT_EQ(database.one("SELECT value FROM settings WHERE section = 'Users' AND key = 'IP1'"), "10.0.0.2");
+    EXPECT_EQ(database.one("SELECT typeof(section) || typeof(key) || typeof(value) FROM settings"), "texttexttext");
+    EXPECT_EQ(database.one("SELECT group_concat(name || ' ' || type || ' ' || pk) FROM pragma_table_info('settings')"),
+              "section TEXT 1,key TEXT 2,value TEXT 0");
+}
+
+TEST_F(SqliteSettingsStoreTest, ReadsWhatAnotherProgramStored)
+{
+    QDir().mkpath(folder);
+    {
+        Database database(file);
+        database.run("CREATE TABLE settings(section TEXT, key TEXT, value TEXT, PRIMARY KEY(section, key))");
+        database.run("INSERT INTO settings VALUES('Settings', 'MyNickName', 'J\u00fcrgen'), ('Options', 'TipOTDayNum', 12)");
+        database.run("INSERT INTO settings VALUES('Options', 'LiveType', NULL), (NULL, NULL, 'x')");
+    }
+    const SqliteSettingsStore store(folder);
+    EXPECT_EQ(store.problem(), std::nullopt);
+    EXPECT_EQ(store.read("Settings", "MyNickName", ""), QString::fromUtf8("J\u00fcrgen"));
+    EXPECT_EQ(store.read("Options", "TipOTDayNum", "0"), "12");
+    EXPECT_EQ(store.read("Options", "LiveType", "1"), "1");
+}
+
+TEST_F(SqliteSettingsStoreTest, ReadDoesNotSeeAValueBeforeItIsSaved)
+{
+    SqliteSettingsStore store(folder);
+    store.write("Options", "LiveType", "0");
+    EXPECT_EQ(store.read("Options", "LiveType", "1"), "1");
+    ASSERT_EQ(store.save(), std::nullopt);
+    EXPECT_EQ(store.read("Options", "LiveType", "1"), "0");
+}
+
+TEST_F(SqliteSettingsStoreTest, TheLastValueWrittenWinsAndOthersStay)
+{
+    SqliteSettingsStore store(folder);
+    store.write("Options", "LiveType", "0");
+    store.write("Options", "NotifyWin", "0");
+    ASSERT_EQ(store.save(), std::nullopt);
+    store.write("Options", "LiveType", "2");
+    store.write("Options", "LiveType", "3");
+    ASSERT_EQ(store.save(), std::nullopt);
+
+    const SqliteSettingsStore next(folder);
+    EXPECT_EQ(next.read("Options", "LiveType", ""), "3");
+    EXPECT_EQ(next.read("Options", "NotifyWin", ""), "0");
+}
+
+TEST_F(SqliteSettingsStoreTest, SectionsAndKeysAreToldApartExactly)
+{
+    SqliteSettingsStore store(folder);
+    store.write("Settings", "AutoReplyonawayText", "lower");
+    store.write("Settings", "AutoReplyonAwayText", "upper");
+    store.write("Options", "AutoReplyonawayText", "section");
+    store.write("", "", "empty");
+    ASSERT_EQ(store.save(), std::nullopt);
+
+    const SqliteSettingsStore next(folder);
+    EXPECT_EQ(next.read("Settings", "AutoReplyonawayText", ""), "lower");
+    EXPECT_EQ(next.read("Settings", "AutoReplyonAwayText", ""), "upper");
+    EXPECT_EQ(next.read("Options", "AutoReplyonawayText", ""), "section");
+    EXPECT_EQ(next.read("", "", ""), "empty");
+    EXPECT_EQ(next.read("Settings", "", "default"), "default");
+}
+
+TEST_F(SqliteSettingsStoreTest, AnEmptyValueIsAValue)
+{
+    SqliteSettingsStore store(folder);
+    store.write("Settings", "AvatarHead", "");
+    store.write("Settings", "AvatarBody", QString());
+    ASSERT_EQ(store.save(), std::nullopt);
+
+    const SqliteSettingsStore next(folder);
+    EXPECT_EQ(next.read("Settings", "AvatarHead", "default"), "");
+    EXPECT_EQ(next.read("Settings", "AvatarBody", "default"), "");
+}
+
+TEST_F(SqliteSettingsStoreTest, AnAvatarOfEveryCharacterBelow256ComesBackWhole)
+{
+    SqliteSettingsStore store(folder);
+    store.write("Settings", "AvatarHead", avatarData(u'\0'));
+    store.write("Settings", "AvatarBody", QString(7500, QChar(0)));
+    ASSERT_EQ(store.save(), std::nullopt);
+
+    const SqliteSettingsStore next(folder);
+    EXPECT_TRUE(next.read("Settings", "AvatarHead", "") == avatarData(u'\0'));
+    EXPECT_TRUE(next.read("Settings", "AvatarBody", "") == QString(7500, QChar(0)));
+    // One byte each for U+0000 to U+007F, two for U+0080 to U+00FF: 30 times 76 of 256 short of 7680 characters.
+    EXPECT_EQ(Database(file).one("SELECT length(CAST(value AS BLOB)) FROM settings WHERE key = 'AvatarBody'"), "7500");
+    EXPECT_EQ(Database(file).one("SELECT hex(substr(CAST(value AS BLOB), 1, 3)) || hex(substr(CAST(value AS BLOB), 383, 2)) "
+                                 "FROM settings WHERE key = 'AvatarHead'"),
+              "000102C3BF");
+}
+
+TEST_F(SqliteSettingsStoreTest, AllOfUnicodeComesBackWhole)
+{
+    QString everything;
+    for (char32_t character = 0; character <= 0x10FFFF; ++character) {
+        if (!QChar::isSurrogate(character))
+            everything += QString::fromUcs4(&character, 1);
+    }
+    SqliteSettingsStore store(folder);
+    store.write("Settings", "everything", everything);
+    store.write(QString::fromUtf8("Sect\u00efon\n"), QString("k\0y", 3), QString::fromUtf8("\ufeffmark first\r\n"));
+    ASSERT_EQ(store.save(), std::nullopt);
+
+    const SqliteSettingsStore next(folder);
+    EXPECT_TRUE(next.read("Settings", "everything", "") == everything);
+    EXPECT_EQ(next.read(QString::fromUtf8("Sect\u00efon\n"), QString("k\0y", 3), ""), QString::fromUtf8("\ufeffmark first\r\n"));
+    EXPECT_EQ(next.read(QString::fromUtf8("Sect\u00efon\n"), "k", "other"), "other");
+}
+
+TEST_F(SqliteSettingsStoreTest, HoldsThousandsOfContacts)
+{
+    SqliteSettingsStore store(folder);
+    for (int n = 1; n <= 10000; ++n) {
+        store.write("Users", QString("IP%1").arg(n), QString("10.0.%1.%2").arg(n / 256).arg(n % 256));
+        store.write("Users", QString("Nn%1").arg(n), QString("Nick %1").arg(n));
+    }
+    ASSERT_EQ(store.save(), std::nullopt);
+    const SqliteSettingsStore next(folder);
+    EXPECT_EQ(next.read("Users", "IP10000", ""), "10.0.39.16");
+    EXPECT_EQ(next.read("Users", "Nn1", ""), "Nick 1");
+}
+
+TEST_F(SqliteSettingsStoreTest, SavingNothingTouchesNothing)
+{
+    saveGeneration("old");
+    const QByteArray before = fileBytes();
+    SqliteSettingsStore store(folder);
+    EXPECT_EQ(store.save(), std::nullopt);
+    EXPECT_TRUE(fileBytes() == before);
+}
+
+TEST_F(SqliteSettingsStoreTest, TheJournalOfASaveIsGoneAfterIt)
+{
+    saveGeneration("old");
+    EXPECT_EQ(QDir(folder).entryList(QDir::Files | QDir::Hidden), QStringList{"settings.sqlite3"});
+}
+
+// Failures: each call to the disk fails once and for good, with every code a write can give.
+
+struct Fault {
+    FaultyFiles::Lasting lasting;
+    int writeCode;
+};
+
+class EveryFault : public SqliteSettingsStoreTest, public testing::WithParamInterface<Fault>
+{
+};
+
+TEST_P(EveryFault, OfASaveLeavesTheOldStoreWholeAndTheNewValuesPending)
+{
+    FaultyFiles files;
+    saveGeneration("old");
+    int failures = 0;
+    for (int n = 1;; ++n) {
+        SqliteSettingsStore store(folder);
+        ASSERT_EQ(store.problem(), std::nullopt);
+        writeGeneration(store, "new");
+
+        files.failAt(n, GetParam().lasting, GetParam().writeCode);
+        const std::optional<QString> failure = store.save();
+        const bool happened = files.happened();
+        files.heal();
+
+        if (failure) {
+            ++failures;
+            EXPECT_THAT(sentence(failure), isSentenceWith(file, "what was stored before is unchanged"));
+            EXPECT_EQ(generationOnDisk(), "old") << "call " << n;
+            EXPECT_EQ(generationIn(store), "old") << "call " << n;
+            EXPECT_EQ(store.save(), std::nullopt) << "call " << n;
+        }
+        ASSERT_EQ(generationOnDisk(), "new") << "call " << n;
+        ASSERT_EQ(generationIn(store), "new") << "call " << n;
+        if (!happened)
+            break;
+        saveGeneration("old");
+    }
+    EXPECT_GT(failures, 20);
+}
+
+TEST_P(EveryFault, OfTheFirstReadingLosesNothing)
+{
+    FaultyFiles files;
+    saveGeneration("old");
+    const QByteArray before = fileBytes();
+    int problems = 0;
+    for (int n = 1;; ++n) {
+        files.failAt(n, GetParam().lasting, GetParam().writeCode);
+        SqliteSettingsStore store(folder);
+        const bool happened = files.happened();
+        files.heal();
+
+        if (store.problem()) {
+            ++problems;
+            EXPECT_THAT(sentence(store.problem()), isSentenceWith(file, "cannot be"));
+        } else {
+            EXPECT_EQ(generationIn(store), "old") << "call " << n;
+        }
+        EXPECT_TRUE(fileBytes() == before) << "call " << n;
+        if (generationIn(store) == "none") { // it works with defaults: they must not get into the file
+            writeGeneration(store, "defaults");
+            EXPECT_THAT(sentence(store.save()), isSentenceWith(file, "could not be read when the program started"));
+            EXPECT_THAT(sentence(store.save()), isSentenceWith(file, "could not be read when the program started"));
+            EXPECT_TRUE(fileBytes() == before) << "call " << n;
+        }
+        if (!happened)
+            break;
+    }
+    EXPECT_GT(problems, 5);
+}
+
+INSTANTIATE_TEST_SUITE_P(SqliteSettingsStore, EveryFault,
+                         testing::Values(Fault{FaultyFiles::Lasting::once, SQLITE_FULL},
+                                         Fault{FaultyFiles::Lasting::forGood, SQLITE_FULL},
+                                         Fault{FaultyFiles::Lasting::once, SQLITE_IOERR_WRITE},
+                                         Fault{FaultyFiles::Lasting::forGood, SQLITE_IOERR_WRITE}));
+
+TEST_F(SqliteSettingsStoreTest, AFullDiskIsCalledThat)
+{
+    FaultyFiles files;
+    saveGeneration("old");
+    SqliteSettingsStore store(folder);
+    writeGeneration(store, "new");
+    std::string message;
+    for (int n = 1; message.find("the disk is full") == std::string::npos && n < 100; ++n) {
+        files.failAt(n, FaultyFiles::Lasting::once, SQLITE_FULL);
+        message = sentence(store.save());
+    }
+    EXPECT_THAT(message, isSentenceWith(file, "(the disk is full)"));
+}
+
+TEST_F(SqliteSettingsStoreTest, TheSystemsOwnLimitLeavesTheOldStoreWhole)
+{
+    saveGeneration("old");
+    SqliteSettingsStore store(folder);
+    writeGeneration(store, "new");
+    for (int n = 1; n <= 1000; ++n)
+        store.write("Users", QString("IP%1").arg(n), QString(200, u'x'));
+
+    rlimit previous = {};
+    getrlimit(RLIMIT_FSIZE, &previous);
+    const auto previousHandler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit tight = {static_cast<rlim_t>(QFileInfo(file).size()), previous.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &tight);
+    const std::optional<QString> failure = store.save();
+    setrlimit(RLIMIT_FSIZE, &previous);
+    std::signal(SIGXFSZ, previousHandler);
+
+    EXPECT_THAT(sentence(failure), isSentenceWith(file, "(File too large)"));
+    EXPECT_EQ(generationOnDisk(), "old");
+    EXPECT_EQ(store.save(), std::nullopt);
+    EXPECT_EQ(generationOnDisk(), "new");
+}
+
+TEST_F(SqliteSettingsStoreTest, MemoryThatRunsOutLeavesTheOldStoreWhole)
+{
+    saveGeneration("old");
+    SqliteSettingsStore store(folder);
+    writeGeneration(store, "new");
+
+    const sqlite3_int64 previous = sqlite3_hard_heap_limit64(-1);
+    sqlite3_hard_heap_limit64(sqlite3_memory_used() + 1000);
+    const std::optional<QString> failure = store.save();
+    sqlite3_hard_heap_limit64(previous);
+
+    EXPECT_THAT(sentence(failure), isSentenceWith(file, "(memory has run out)"));
+    EXPECT_EQ(generationOnDisk(), "old");
+    EXPECT_EQ(store.save(), std::nullopt);
+    EXPECT_EQ(generationOnDisk(), "new");
+}
+
+TEST_F(SqliteSettingsStoreTest, AWriterElsewhereGivesAMessageAndTheSaveCanBeRepeated)
+{
+    saveGeneration("old");
+    SqliteSettingsStore store(folder);
+    writeGeneration(store, "new");
+    {
+        Database other(file);
+        other.run("BEGIN IMMEDIATE");
+        EXPECT_THAT(sentence(store.save()), isSentenceWith(file, "(another program is using the file)"));
+        other.run("ROLLBACK");
+    }
+    EXPECT_EQ(generationOnDisk(), "old");
+    EXPECT_EQ(store.save(), std::nullopt);
+    EXPECT_EQ(generationOnDisk(), "new");
+}
+
+TEST_F(SqliteSettingsStoreTest, AReaderElsewhereThatDoesNotEndGivesAMessage)
+{
+    saveGeneration("old");
+    SqliteSettingsStore store(folder);
+    writeGeneration(store, "new");
+    {
+        Database other(file);
+        other.run("BEGIN");
+        other.one("SELECT count(*) FROM settings");
+        EXPECT_THAT(sentence(store.save()), isSentenceWith(file, "(another program is using the file)"));
+        EXPECT_EQ(generationIn(other), "old");
+        other.run("COMMIT");
+    }
+    EXPECT_EQ(generationOnDisk(), "old");
+    EXPECT_EQ(store.save(), std::nullopt);
+    EXPECT_EQ(generationOnDisk(), "new");
+}
+
+TEST_F(SqliteSettingsStoreTest, AStoreHeldElsewhereAtTheStartIsAProblemAndIsNotOverwrittenLater)
+{
+    saveGeneration("old");
+    auto other = std::make_unique<Database>(file);
+    other->run("BEGIN EXCLUSIVE");
+    SqliteSettingsStore store(folder);
+    other.reset();
+
+    EXPECT_THAT(sentence(store.problem()), isSentenceWith(file, "(another program is using the file)"));
+    EXPECT_EQ(store.read("Settings", "MyNickName", "default"), "default");
+    writeGeneration(store, "defaults");
+    EXPECT_THAT(sentence(store.save()), isSentenceWith(file, "could not be read when the program started"));
+    EXPECT_EQ(generationOnDisk(), "old");
+}
+
+class Damaged : public SqliteSettingsStoreTest, public testing::WithParamInterface<QByteArray>
+{
+};
+
+TEST_P(Damaged, FileIsAProblemAndStaysAsItIs)
+{
+    putFile(GetParam());
+    SqliteSettingsStore store(folder);
+
+    EXPECT_THAT(sentence(store.problem()), isSentenceWith(file, "(the file is damaged or holds something else)"));
+    EXPECT_EQ(store.read("Settings", "UDPPort", "5549"), "5549");
+    writeGeneration(store, "new");
+    EXPECT_THAT(sentence(store.save()), isSentenceWith(file, "(the file is damaged or holds something else)"));
+    EXPECT_TRUE(fileBytes() == GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(SqliteSettingsStore, Damaged,
+                         testing::Values(QByteArray("x"), QByteArray("[Settings]\nMyNickName=Ann\n"), QByteArray(8192, '\0'),
+                                         QByteArray("SQLite format 3\0", 16) + QByteArray(4096, '\xff'),
+                                         QByteArray(100000, '\xa5')));
+
+TEST_F(SqliteSettingsStoreTest, AFileThatWasCutShortIsAProblemAndStaysAsItIs)
+{
+    saveGeneration("old");
+    const QByteArray whole = fileBytes();
+    ASSERT_GT(whole.size(), 20000);
+    for (qsizetype size = 1; size < whole.size(); size += 1021) {
+        putFile(whole.left(size));
+        SqliteSettingsStore store(folder);
+        EXPECT_THAT(sentence(store.problem()), isSentenceWith(file, "cannot be read")) << size;
+        EXPECT_EQ(generationIn(store), "none") << size;
+        writeGeneration(store, "new");
+        EXPECT_NE(store.save(), std::nullopt) << size;
+        EXPECT_TRUE(fileBytes() == whole.left(size)) << size;
+    }
+}
+
+TEST_F(SqliteSettingsStoreTest, DamageAnywhereNeverCrashesNorChangesTheFileUnasked)
+{
+    saveGeneration("old");
+    const QByteArray whole = fileBytes();
+    for (qsizetype offset = 0; offset < whole.size(); offset += 97) {
+        QByteArray damaged = whole;
+        for (qsizetype i = offset; i < std::min(offset + 8, whole.size()); ++i)
+            damaged[i] = static_cast<char>(~damaged[i]);
+        putFile(damaged);
+        const SqliteSettingsStore store(folder);
+        if (store.problem())
+            EXPECT_EQ(generationIn(store), "none") << offset;
+        EXPECT_TRUE(fileBytes() == damaged) << offset;
+    }
+}
+
+TEST_F(SqliteSettingsStoreTest, AFolderInPlaceOfTheFileIsAProblemAndStays)
+{
+    QDir().mkpath(file + "/inside");
+    SqliteSettingsStore store(folder);
+    EXPECT_THAT(sentence(store.problem()), isSentenceWith(file, "something that is no file stands in its place"));
+    EXPECT_EQ(store.read("Settings", "UDPPort", "5549"), "5549");
+    store.write("Settings", "UDPPort", "1");
+    EXPECT_THAT(sentence(store.save()), isSentenceWith(file, "something that is no file stands in its place"));
+    EXPECT_TRUE(QFileInfo(file + "/inside").isDir());
+}
+
+TEST_F(SqliteSettingsStoreTest, AFileInPlaceOfTheFolderIsAProblemAndStays)
+{
+    QDir().mkpath(m_base.filePath("config"));
+    QFile inTheWay(folder);
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    inTheWay.write("mine");
+    inTheWay.close();
+
+    SqliteSettingsStore store(folder);
+    EXPECT_THAT(sentence(store.problem()), isSentenceWith(folder, "(File exists)"));
+    store.write("Settings", "UDPPort", "1");
+    EXPECT_THAT(sentence(store.save()), isSentenceWith(folder, "(File exists)"));
+    EXPECT_EQ(QFileInfo(folder).size(), 4);
+}
+
+TEST_F(SqliteSettingsStoreTest, AnotherProgramsTableOfThatNameIsAProblemAndStays)
+{
+    QDir().mkpath(folder);
+    Database(file).run("CREATE TABLE settings(name TEXT, number INTEGER)");
+    const QByteArray before = fileBytes();
+    SqliteSettingsStore store(folder);
+    EXPECT_THAT(sentence(store.problem()), isSentenceWith(file, "no such column"));
+    store.write("Settings", "UDPPort", "1");
+    EXPECT_THAT(sentence(store.save()), isSentenceWith(file, "no such column"));
+    EXPECT_TRUE(fileBytes() == before);
+}
+
+TEST_F(SqliteSettingsStoreTest, AReadOnlyFileIsReadAndItsProblemTold)
+{
+    saveGeneration("old");
+    QFile::setPermissions(folder, everybodyMayEnter);
+    QFile::setPermissions(file, QFile::ReadOwner | QFile::ReadOther);
+    {
+        const OrdinaryUser user;
+        SqliteSettingsStore store(folder);
+        EXPECT_THAT(sentence(store.problem()), isSentenceWith(file, "(the file or its folder is read-only)"));
+        EXPECT_EQ(generationIn(store), "old");
+        writeGeneration(store, "new");
+        EXPECT_THAT(sentence(store.save()), isSentenceWith(file, "(the file or its folder is read-only)"));
+        EXPECT_EQ(generationIn(store), "old");
+    }
+    EXPECT_EQ(generationOnDisk(), "old");
+}
+
+TEST_F(SqliteSettingsStoreTest, AReadOnlyFolderIsReadAndItsProblemTold)
+{
+    saveGeneration("old");
+    QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther | QFile::WriteOther);
+    QFile::setPermissions(folder, nobodyMayWrite);
+    {
+        const OrdinaryUser user;
+        SqliteSettingsStore store(folder);
+        EXPECT_THAT(sentence(store.problem()), isSentenceWith(file, "(the file or its folder is read-only)"));
+        EXPECT_EQ(generationIn(store), "old");
+        writeGeneration(store, "new");
+        EXPECT_THAT(sentence(store.save()), isSentenceWith(file, "what was stored before is unchanged"));
+    }
+    QFile::setPermissions(folder, everybodyMayEnter);
+    EXPECT_EQ(generationOnDisk(), "old");
+}
+
+TEST_F(SqliteSettingsStoreTest, AnEmptyReadOnlyFolderIsAProblem)
+{
+    QDir().mkpath(folder);
+    QFile::setPermissions(m_base.filePath("config"), everybodyMayEnter);
+    QFile::setPermissions(folder, nobodyMayWrite);
+    {
+        const OrdinaryUser user;
+        SqliteSettingsStore store(folder);
+        EXPECT_THAT(sentence(store.problem()), isSentenceWith(file, "(Permission denied)"));
+        store.write("Settings", "UDPPort", "1");
+        EXPECT_THAT(sentence(store.save()), isSentenceWith(file, "(Permission denied)"));
+    }
+    QFile::setPermissions(folder, everybodyMayEnter);
+    EXPECT_FALSE(QFile::exists(file));
+}
+
+TEST_F(SqliteSettingsStoreTest, AFolderThatCannotBeMadeIsAProblem)
+{
+    QDir().mkpath(m_base.filePath("config"));
+    QFile::setPermissions(m_base.filePath("config"), nobodyMayWrite);
+    {
+        const OrdinaryUser user;
+        SqliteSettingsStore store(folder);
+        EXPECT_THAT(sentence(store.problem()), isSentenceWith(folder, "(Permission denied)"));
+    }
+    QFile::setPermissions(m_base.filePath("config"), everybodyMayEnter);
+}
+
+TEST_F(SqliteSettingsStoreTest, AFileThatMayNotBeReadIsAProblemAndIsNotOverwrittenOnceItMay)
+{
+    saveGeneration("old");
+    QFile::setPermissions(folder, everybodyMayEnter | QFile::WriteOther);
+    QFile::setPermissions(file, QFile::Permissions());
+    {
+        const OrdinaryUser user;
+        SqliteSettingsStore store(folder);
+        EXPECT_THAT(sentence(store.problem()), isSentenceWith(file, "(Permission denied)"));
+        EXPECT_EQ(generationIn(store), "none");
+        writeGeneration(store, "defaults");
+        user.pause([&] {
+            QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther | QFile::WriteOther);
+        });
+        EXPECT_THAT(sentence(store.save()), isSentenceWith(file, "could not be read when the program started"));
+    }
+    EXPECT_EQ(generationOnDisk(), "old");
+}
+
+TEST_F(SqliteSettingsStoreTest, AProblemThatWasSolvedNoLongerKeepsFromSaving)
+{
+    QDir().mkpath(file);
+    SqliteSettingsStore store(folder);
+    ASSERT_NE(store.problem(), std::nullopt);
+    writeGeneration(store, "new");
+    QDir().rmdir(file);
+
+    EXPECT_EQ(store.save(), std::nullopt);
+    EXPECT_EQ(store.problem(), std::nullopt);
+    EXPECT_EQ(generationOnDisk(), "new");
+}
+
+TEST_F(SqliteSettingsStoreTest, AFolderRemovedMeanwhileIsMadeAgainWithAllThatIsKnown)
+{
+    saveGeneration("old");
+    SqliteSettingsStore store(folder);
+    store.write("Settings", "UDPPort", "6000");
+    ASSERT_TRUE(QDir(folder).removeRecursively());
+
+    EXPECT_EQ(store.save(), std::nullopt);
+    EXPECT_EQ(generationOnDisk(), "old");
+    EXPECT_EQ(Database(file).one("SELECT value FROM settings WHERE key = 'UDPPort'"), "6000");
+}
+
+TEST_F(SqliteSettingsStoreTest, AFileReplacedMeanwhileIsNotWrittenToBlindly)
+{
+    saveGeneration("old");
+    SqliteSettingsStore store(folder);
+    store.write("Settings", "UDPPort", "6000");
+    ASSERT_TRUE(QFile::rename(file, file + ".away"));
+    ASSERT_TRUE(QFile::copy(file + ".away", file));
+
+    EXPECT_THAT(sentence(store.save()), isSentenceWith(file, "(the file has been moved or replaced)"));
+    EXPECT_EQ(generationOnDisk(), "old");
+}
+
+// A process that is killed in mid-save, at every call to the disk, with half of its write done.
+
+class Killed : public SqliteSettingsStoreTest
+{
+protected:
+    /// True when it came to its end without being killed.
+    static bool runToEnd(const QStringList &arguments)
+    {
+        QProcess helper;
+        helper.setProcessChannelMode(QProcess::ForwardedChannels);
+        helper.start(PLATFORM_HELPER, arguments);
+        EXPECT_TRUE(helper.waitForFinished(30000));
+        if (helper.exitStatus() == QProcess::CrashExit)
+            return false;
+        EXPECT_EQ(helper.exitCode(), 0);
+        return true;
+    }
+};
+
+TEST_F(Killed, InMidSaveLeavesTheOldStoreOrTheNewOneWhole)
+{
+    int oldOnes = 0;
+    int newOnes = 0;
+    for (int n = 1;; ++n) {
+        saveGeneration("old");
+        const bool finished = runToEnd({"save", folder, "new", "saving", QString::number(n)});
+        const SqliteSettingsStore store(folder);
+        EXPECT_EQ(store.problem(), std::nullopt) << "call " << n;
+        const QString generation = generationIn(store);
+        ASSERT_THAT(generation.toStdString(), testing::AnyOf("old", "new")) << "call " << n;
+        if (finished) {
+            EXPECT_EQ(generation, "new");
+            break;
+        }
+        ++(generation == "old" ? oldOnes : newOnes);
+    }
+    EXPECT_GT(oldOnes, 20);
+    RecordProperty("killed_before_it_counted", oldOnes);
+    RecordProperty("killed_after_it_counted", newOnes);
+}
+
+TEST_F(Killed, WhileMakingTheFileLeavesAnEmptyStoreThatWorks)
+{
+    int killed = 0;
+    for (int n = 1;; ++n) {
+        QDir(folder).removeRecursively();
+        const bool finished = runToEnd({"save", folder, "new", "opening", QString::number(n)});
+        if (finished)
+            break;
+        ++killed;
+        {
+            const SqliteSettingsStore store(folder);
+            EXPECT_EQ(store.problem(), std::nullopt) << "call " << n;
+            EXPECT_THAT(generationIn(store).toStdString(), testing::AnyOf("none", "new")) << "call " << n;
+        }
+        saveGeneration("next");
+        EXPECT_EQ(generationOnDisk(), "next") << "call " << n;
+    }
+    EXPECT_GT(killed, 10);
+}
+
+} // namespace
+} // namespace nimb::test

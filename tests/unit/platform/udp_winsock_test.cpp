@@ -1,0 +1,585 @@
+#include "platform/udp_winsock.h"
+
+#include "raw_peer.h"
+
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QFile>
+#include <QProcess>
+#include <QTest>
+#include <QTimer>
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace nimb::test
+{
+namespace
+{
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::Field;
+using testing::Optional;
+using namespace std::string_literals;
+
+struct Heard {
+    std::string bytes;
+    std::string source;
+
+    bool operator==(const Heard &) const = default;
+    friend void PrintTo(const Heard &heard, std::ostream *out)
+    {
+        *out << testing::PrintToString(heard.bytes.substr(0, 80)) << " from " << heard.source;
+    }
+};
+
+/// A copy's socket that notes all it hears.
+struct Copy {
+    explicit Copy(const std::optional<QString> &address = std::nullopt) : socket(drops, address)
+    {
+        socket.setLocalPort(testPort());
+        socket.setRemotePort(testPort());
+        socket.DataArrival = [this](std::size_t byteCount) {
+            const std::string bytes = socket.GetData(byteCount);
+            heard.push_back({bytes, socket.RemoteHostIP().toStdString()});
+        };
+        socket.Error = [this] { ++errors; };
+    }
+
+    void sendTo(const QString &address, const std::string &bytes)
+    {
+        socket.setRemoteHost(address);
+        socket.SendData(bytes);
+    }
+
+    bool hears(std::size_t count)
+    {
+        return QTest::qWaitFor([this, count] { return heard.size() >= count; }, 20000);
+    }
+
+    DropCounts drops;
+    UdpWinsock socket;
+    std::vector<Heard> heard;
+    int errors = 0;
+};
+
+std::string everyByte()
+{
+    std::string bytes;
+    for (int value = 0; value < 256; ++value)
+        bytes.push_back(static_cast<char>(value));
+    return bytes;
+}
+
+TEST(UdpWinsock, SendsExactlyTheBytesGivenFromItsOwnAddressAndPort)
+{
+    const RawPeer peer("127.0.1.2", testPort());
+    Copy copy("127.0.1.1");
+    ASSERT_TRUE(copy.socket.bind());
+
+    copy.sendTo("127.0.1.2", "?ONLINE 127.0.1.1 PC-ANN Ann Lee");
+    copy.sendTo("127.0.1.2", "");
+    copy.sendTo("127.0.1.2", "-a\0b\xff"s);
+
+    EXPECT_EQ(peer.receive(), (RawPeer::Datagram{"?ONLINE 127.0.1.1 PC-ANN Ann Lee", "127.0.1.1", testPort()}));
+    EXPECT_EQ(peer.receive(), (RawPeer::Datagram{"", "127.0.1.1", testPort()}));
+    EXPECT_EQ(peer.receive(), (RawPeer::Datagram{"-a\0b\xff"s, "127.0.1.1", testPort()}));
+    EXPECT_EQ(copy.drops.of(Drop::notSent), 0U);
+}
+
+TEST(UdpWinsock, AnnouncesEachDatagramWithItsSizeAndItsSource)
+{
+    const RawPeer ann("127.0.1.2", testPort());
+    const RawPeer ben("127.0.1.3", testPort());
+    Copy copy("127.0.1.1");
+    std::vector<std::size_t> sizes;
+    copy.socket.DataArrival = [&, note = copy.socket.DataArrival](std::size_t byteCount) {
+        sizes.push_back(byteCount);
+        note(byteCount);
+    };
+    ASSERT_TRUE(copy.socket.bind());
+
+    ann.send("127.0.1.1", testPort(), "!ONLINE 127.0.1.2 PC Ann");
+    ben.send("127.0.1.1", testPort(), "Buzz");
+
+    ASSERT_TRUE(copy.hears(2));
+    EXPECT_THAT(copy.heard, ElementsAre(Heard{"!ONLINE 127.0.1.2 PC Ann", "127.0.1.2"}, Heard{"Buzz", "127.0.1.3"}));
+    EXPECT_THAT(sizes, ElementsAre(24U, 4U));
+}
+
+TEST(UdpWinsock, KeepsReceivingAfterADatagramOfNoBytes)
+{
+    const RawPeer peer("127.0.1.2", testPort());
+    Copy copy("127.0.1.1");
+    ASSERT_TRUE(copy.socket.bind());
+
+    for (const char *bytes : {"", "one", "", "", "two"})
+        peer.send("127.0.1.1", testPort(), bytes);
+
+    ASSERT_TRUE(copy.hears(5));
+    EXPECT_THAT(copy.heard, ElementsAre(Heard{"", "127.0.1.2"}, Heard{"one", "127.0.1.2"}, Heard{"", "127.0.1.2"},
+                                        Heard{"", "127.0.1.2"}, Heard{"two", "127.0.1.2"}));
+}
+
+TEST(UdpWinsock, PassesEveryByteValueBothWays)
+{
+    const RawPeer peer("127.0.1.2", testPort());
+    Copy copy("127.0.1.1");
+    ASSERT_TRUE(copy.socket.bind());
+
+    copy.sendTo("127.0.1.2", everyByte());
+    const auto sent = peer.receive();
+    peer.send("127.0.1.1", testPort(), everyByte());
+
+    EXPECT_THAT(sent, Optional(Field(&RawPeer::Datagram::bytes, everyByte())));
+    ASSERT_TRUE(copy.hears(1));
+    EXPECT_EQ(copy.heard.front().bytes, everyByte());
+}
+
+TEST(UdpWinsock, PassesTheLargestDatagramBothWays)
+{
+    const RawPeer peer("127.0.1.2", testPort());
+    Copy copy("127.0.1.1");
+    ASSERT_TRUE(copy.socket.bind());
+    std::string largest(65507, 'x');
+    largest.front() = '<';
+    largest.back() = '>';
+
+    copy.sendTo("127.0.1.2", largest);
+    const auto sent = peer.receive();
+    ASSERT_TRUE(peer.send("127.0.1.1", testPort(), largest));
+
+    ASSERT_TRUE(sent);
+    EXPECT_TRUE(sent->bytes == largest) << sent->bytes.size() << " bytes";
+    ASSERT_TRUE(copy.hears(1));
+    EXPECT_TRUE(copy.heard.front().bytes == largest) << copy.heard.front().bytes.size() << " bytes";
+}
+
+TEST(UdpWinsock, CountsADatagramThatIsTooLargeAndGoesOn)
+{
+    const RawPeer peer("127.0.1.2", testPort());
+    Copy copy("127.0.1.1");
+    ASSERT_TRUE(copy.socket.bind());
+
+    copy.sendTo("127.0.1.2", std::string(65508, 'x'));
+    copy.sendTo("127.0.1.2", "next");
+
+    EXPECT_THAT(peer.receive(), Optional(Field(&RawPeer::Datagram::bytes, "next")));
+    EXPECT_EQ(copy.drops.of(Drop::notSent), 1U);
+    EXPECT_EQ(copy.errors, 1);
+}
+
+TEST(UdpWinsock, SharesItsPortWithNobody)
+{
+    auto first = std::make_unique<Copy>("127.0.1.1");
+    Copy second("127.0.1.1");
+    Copy onAllInterfaces;
+    ASSERT_TRUE(first->socket.bind());
+
+    EXPECT_FALSE(second.socket.bind());
+    EXPECT_FALSE(second.socket.isBound());
+    EXPECT_FALSE(onAllInterfaces.socket.bind());
+
+    first.reset();
+    EXPECT_TRUE(second.socket.bind());
+    EXPECT_TRUE(second.socket.isBound());
+}
+
+TEST(UdpWinsock, LetsNoOtherProgramShareItsPortEvenIfThatProgramIsWilling)
+{
+    Copy copy("127.0.1.1");
+    ASSERT_TRUE(copy.socket.bind());
+    EXPECT_FALSE(DatagramSocket::open({0x7F000101U, testPort()}, DatagramSocket::Sharing::shared));
+}
+
+TEST(UdpWinsock, IsFreeToBindAgainOnceBound)
+{
+    const RawPeer peer("127.0.1.2", testPort());
+    Copy copy("127.0.1.1");
+    EXPECT_TRUE(copy.socket.bind());
+    EXPECT_TRUE(copy.socket.bind());
+
+    peer.send("127.0.1.1", testPort(), "still here");
+    ASSERT_TRUE(copy.hears(1));
+    EXPECT_THAT(copy.heard, ElementsAre(Heard{"still here", "127.0.1.2"}));
+}
+
+TEST(UdpWinsock, DoesNotBindBeforeItHasAPort)
+{
+    DropCounts drops;
+    UdpWinsock socket(drops, "127.0.1.1");
+    EXPECT_FALSE(socket.bind());
+    socket.setLocalPort(testPort());
+    EXPECT_TRUE(socket.bind());
+}
+
+TEST(UdpWinsock, TwoCopiesOnDifferentPortsDoNotSeeEachOther)
+{
+    Copy here("127.0.1.1");
+    Copy there("127.0.1.2");
+    there.socket.setLocalPort(otherTestPort());
+    const RawPeer witness("127.0.1.3", testPort());
+    ASSERT_TRUE(here.socket.bind());
+    ASSERT_TRUE(there.socket.bind());
+
+    here.sendTo("127.0.1.2", "to nobody");
+    witness.send("127.0.1.2", otherTestPort(), "to you");
+
+    ASSERT_TRUE(there.hears(1));
+    EXPECT_THAT(there.heard, ElementsAre(Heard{"to you", "127.0.1.3"}));
+}
+
+TEST(UdpWinsock, WithoutAnAddressHearsWhateverReachesTheMachine)
+{
+    const RawPeer peer("127.0.1.2", otherTestPort());
+    Copy copy;
+    ASSERT_TRUE(copy.socket.bind());
+
+    peer.send("127.0.7.7", testPort(), "one");
+    peer.send("127.255.255.255", testPort(), "all");
+
+    ASSERT_TRUE(copy.hears(2));
+    EXPECT_THAT(copy.heard, ElementsAre(Heard{"one", "127.0.1.2"}, Heard{"all", "127.0.1.2"}));
+}
+
+TEST(UdpWinsock, TakesAMalformedAddressForNone)
+{
+    const RawPeer peer("127.0.1.2", otherTestPort());
+    Copy copy("127.0.1");
+    ASSERT_TRUE(copy.socket.bind());
+
+    peer.send("127.0.7.7", testPort(), "one");
+
+    ASSERT_TRUE(copy.hears(1));
+}
+
+TEST(UdpWinsock, EveryCopyOnTheLoopbackNetworkHearsABroadcastWithItsSendersAddress)
+{
+    Copy ann("127.0.1.1");
+    Copy ben("127.0.1.2");
+    Copy eve("127.0.1.3");
+    ASSERT_TRUE(ann.socket.bind());
+    ASSERT_TRUE(ben.socket.bind());
+    ASSERT_TRUE(eve.socket.bind());
+
+    eve.sendTo("127.255.255.255", "?ONLINE 127.0.1.3 PC Eve");
+
+    ASSERT_TRUE(ann.hears(1));
+    ASSERT_TRUE(ben.hears(1));
+    EXPECT_THAT(ann.heard, ElementsAre(Heard{"?ONLINE 127.0.1.3 PC Eve", "127.0.1.3"}));
+    EXPECT_THAT(ben.heard, ElementsAre(Heard{"?ONLINE 127.0.1.3 PC Eve", "127.0.1.3"}));
+}
+
+TEST(UdpWinsock, AnswersABroadcastFromItsOwnAddress)
+{
+    const RawPeer peer("127.0.1.2", testPort());
+    Copy copy("127.0.1.1");
+    copy.socket.DataArrival = [&](std::size_t byteCount) {
+        copy.socket.GetData(byteCount);
+        copy.sendTo(copy.socket.RemoteHostIP(), "answer");
+    };
+    ASSERT_TRUE(copy.socket.bind());
+
+    peer.send("127.255.255.255", testPort(), "question");
+    QTest::qWaitFor([&] { return peer.hasWaiting(); });
+
+    EXPECT_EQ(peer.receive(), (RawPeer::Datagram{"answer", "127.0.1.1", testPort()}));
+}
+
+TEST(UdpWinsock, DoesWithoutBroadcastsWhenAnotherProgramHoldsTheirAddress)
+{
+    const RawPeer greedy("127.255.255.255", testPort());
+    const RawPeer peer("127.0.1.2", testPort());
+    ASSERT_TRUE(greedy.isBound());
+    Copy copy("127.0.1.1");
+
+    ASSERT_TRUE(copy.socket.bind());
+
+    peer.send("127.0.1.1", testPort(), "hello");
+    ASSERT_TRUE(copy.hears(1));
+    EXPECT_THAT(copy.heard, ElementsAre(Heard{"hello", "127.0.1.2"}));
+}
+
+TEST(UdpWinsock, CountsWhatIsSentWhileNotBoundAndLetsNothingOut)
+{
+    const RawPeer peer("127.0.1.2", testPort());
+    Copy copy("127.0.1.1");
+
+    copy.sendTo("127.0.1.2", "one");
+    copy.sendTo("127.0.1.2", "two");
+    EXPECT_EQ(copy.drops.of(Drop::notSent), 2U);
+
+    ASSERT_TRUE(copy.socket.bind());
+    copy.sendTo("127.0.1.2", "three");
+    EXPECT_THAT(peer.receive(), Optional(Field(&RawPeer::Datagram::bytes, "three")));
+    EXPECT_EQ(copy.drops.of(Drop::notSent), 2U);
+}
+
+class NotADottedAddress : public testing::TestWithParam<const char16_t *>
+{
+};
+
+TEST_P(NotADottedAddress, IsCountedAndNotSentAnywhere)
+{
+    const RawPeer peer("127.0.1.2", testPort());
+    Copy copy("127.0.1.1");
+    ASSERT_TRUE(copy.socket.bind());
+
+    copy.sendTo("127.0.1.2", "before");
+    copy.sendTo(QString::fromUtf16(GetParam()), "lost");
+    copy.sendTo("127.0.1.2", "after");
+
+    EXPECT_THAT(peer.receive(), Optional(Field(&RawPeer::Datagram::bytes, "before")));
+    EXPECT_THAT(peer.receive(), Optional(Field(&RawPeer::Datagram::bytes, "after")));
+    EXPECT_EQ(copy.drops.of(Drop::notSent), 1U);
+}
+
+INSTANTIATE_TEST_SUITE_P(UdpWinsock, NotADottedAddress,
+                         testing::Values(u"", u"localhost", u"127.0.1", u"127.0.1.2.", u"127.0.1.256", u"127.0.1.-2",
+                                         u" 127.0.1.2", u"127.0.01.2", u"::1", u"127.0.1.2:80", u"2130706690",
+                                         u"127.0.1.\u0662"));
+
+TEST(UdpWinsock, SurvivesSendingToAPortWhereNobodyListens)
+{
+    Copy copy("127.0.1.1");
+    ASSERT_TRUE(copy.socket.bind());
+    for (int i = 0; i < 5; ++i)
+        copy.sendTo("127.0.1.2", "anybody?");
+    EXPECT_EQ(copy.drops.of(Drop::notSent), 0U);
+
+    const RawPeer peer("127.0.1.2", testPort());
+    copy.sendTo("127.0.1.2", "hello");
+    const auto sent = peer.receive();
+    peer.send("127.0.1.1", testPort(), "hello yourself");
+
+    EXPECT_THAT(sent, Optional(Field(&RawPeer::Datagram::bytes, "hello")));
+    ASSERT_TRUE(copy.hears(1));
+    EXPECT_THAT(copy.heard, ElementsAre(Heard{"hello yourself", "127.0.1.2"}));
+    EXPECT_TRUE(copy.socket.isBound());
+}
+
+TEST(UdpWinsock, AFloodLetsOtherEventsInAfterEveryBatch)
+{
+    Copy copy("127.0.1.1");
+    int arrivals = 0;
+    int sinceOtherEvent = 0;
+    int longestRun = 0;
+    int otherEvents = 0;
+    copy.socket.setRemoteHost("127.0.1.1");
+    copy.socket.DataArrival = [&](std::size_t byteCount) {
+        longestRun = std::max(longestRun, ++sinceOtherEvent);
+        const std::string bytes = copy.socket.GetData(byteCount);
+        if (++arrivals <= 20000)
+            copy.socket.SendData(bytes); // so there is always more to read
+    };
+    QTimer other;
+    other.callOnTimeout([&] {
+        sinceOtherEvent = 0;
+        ++otherEvents;
+    });
+    other.start(0);
+    ASSERT_TRUE(copy.socket.bind());
+    for (int i = 0; i < 200; ++i)
+        copy.socket.SendData("again");
+
+    ASSERT_TRUE(QTest::qWaitFor([&] { return arrivals == 20200; }, 50000)) << arrivals;
+    EXPECT_LE(longestRun, 64);
+    EXPECT_GE(otherEvents, 20200 / 64);
+}
+
+TEST(UdpWinsock, TimersKeepFiringThroughAFloodWithoutEnd)
+{
+    Copy copy("127.0.1.1");
+    int arrivals = 0;
+    int ticks = 0;
+    copy.socket.setRemoteHost("127.0.1.1");
+    copy.socket.DataArrival = [&](std::size_t byteCount) {
+        ++arrivals;
+        copy.socket.SendData(copy.socket.GetData(byteCount));
+    };
+    ASSERT_TRUE(copy.socket.bind());
+    for (int i = 0; i < 200; ++i)
+        copy.socket.SendData("again");
+
+    QEventLoop loop;
+    QTimer timer;
+    timer.callOnTimeout([&] {
+        if (++ticks == 20)
+            loop.quit();
+    });
+    timer.start(10);
+    loop.exec(); // the test's time limit ends it if the timer starves
+
+    EXPECT_EQ(ticks, 20);
+    EXPECT_GT(arrivals, 200);
+}
+
+TEST(UdpWinsock, HearsEveryDatagramOfABurstOrCountsItAsLost)
+{
+    const RawPeer peer("127.0.1.2", testPort());
+    Copy copy("127.0.1.1");
+    ASSERT_TRUE(copy.socket.bind());
+
+    std::thread burst([&peer] {
+        for (int i = 0; i < 20000; ++i)
+            peer.send("127.0.1.1", testPort(), "burst");
+    });
+    const auto accountedFor = [&copy] { return copy.heard.size() + copy.drops.of(Drop::notReceived); };
+    // What was lost last is told with the next datagram that arrives.
+    QTest::qWaitFor([&] { return accountedFor() == 20000; }, 500);
+    burst.join();
+    peer.send("127.0.1.1", testPort(), "end");
+
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !copy.heard.empty() && copy.heard.back().bytes == "end"; }, 20000));
+    EXPECT_EQ(accountedFor(), 20001U);
+}
+
+#ifdef __linux__
+TEST(UdpWinsock, CountsWhatTheSystemDroppedForWantOfRoom)
+{
+    const RawPeer peer("127.0.1.2", testPort());
+    Copy copy("127.0.1.1");
+    ASSERT_TRUE(copy.socket.bind());
+
+    for (int i = 0; i < 20000; ++i) // 28 million bytes: more than the buffer can hold
+        peer.send("127.0.1.1", testPort(), std::string(1400, 'x'));
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        peer.send("127.0.1.1", testPort(), "end");
+        QCoreApplication::processEvents();
+        return !copy.heard.empty() && copy.heard.back().bytes == "end";
+    }));
+
+    const auto ends = std::count_if(copy.heard.begin(), copy.heard.end(), [](const Heard &h) { return h.bytes == "end"; });
+    const std::size_t burstHeard = copy.heard.size() - static_cast<std::size_t>(ends);
+    EXPECT_GT(copy.drops.of(Drop::notReceived), 0U);
+    EXPECT_GE(burstHeard + copy.drops.of(Drop::notReceived), 20000U);
+}
+
+TEST(UdpWinsock, ReadsBackTheBufferThatTheSystemGranted)
+{
+    QFile limit("/proc/sys/net/core/rmem_max");
+    if (!limit.open(QIODevice::ReadOnly))
+        GTEST_SKIP() << "the system does not tell its limit";
+    const int most = limit.readAll().trimmed().toInt();
+    Copy copy("127.0.1.1");
+    EXPECT_EQ(copy.socket.receiveBufferBytes(), 0);
+
+    ASSERT_TRUE(copy.socket.bind());
+
+    EXPECT_EQ(copy.socket.receiveBufferBytes(), std::min(4194304, most));
+}
+#endif
+
+TEST(UdpWinsock, HandlesOneDatagramCompletelyBeforeTheNextEvenIfTheHandlerRunsAnEventLoop)
+{
+    const RawPeer peer("127.0.1.2", testPort());
+    Copy copy("127.0.1.1");
+    int depth = 0;
+    int deepest = 0;
+    copy.socket.DataArrival = [&, note = copy.socket.DataArrival](std::size_t byteCount) {
+        deepest = std::max(deepest, ++depth);
+        QEventLoop dialog;
+        QTimer::singleShot(20, &dialog, &QEventLoop::quit);
+        dialog.exec();
+        note(byteCount);
+        --depth;
+    };
+    ASSERT_TRUE(copy.socket.bind());
+
+    for (const char *bytes : {"1", "2", "3"})
+        peer.send("127.0.1.1", testPort(), bytes);
+    peer.send("127.255.255.255", testPort(), "4");
+
+    ASSERT_TRUE(copy.hears(4));
+    EXPECT_EQ(deepest, 1);
+    EXPECT_THAT(copy.heard, testing::UnorderedElementsAre(Heard{"1", "127.0.1.2"}, Heard{"2", "127.0.1.2"},
+                                                          Heard{"3", "127.0.1.2"}, Heard{"4", "127.0.1.2"}));
+}
+
+TEST(UdpWinsock, GivesOutADatagramOnceAndNeverMoreThanItHeld)
+{
+    const RawPeer peer("127.0.1.2", testPort());
+    Copy copy("127.0.1.1");
+    std::vector<std::string> taken;
+    copy.socket.DataArrival = [&](std::size_t) {
+        taken.push_back(copy.socket.GetData(3));
+        taken.push_back(copy.socket.GetData(3));
+    };
+    ASSERT_TRUE(copy.socket.bind());
+    EXPECT_EQ(copy.socket.GetData(10), "");
+
+    peer.send("127.0.1.1", testPort(), "four");
+    peer.send("127.0.1.1", testPort(), "2!");
+
+    ASSERT_TRUE(QTest::qWaitFor([&] { return taken.size() == 4; }));
+    EXPECT_THAT(taken, ElementsAre("fou", "", "2!", ""));
+}
+
+TEST(UdpWinsock, AHandlerThatTakesNothingDoesNotHoldUpTheNextDatagram)
+{
+    const RawPeer peer("127.0.1.2", testPort());
+    Copy copy("127.0.1.1");
+    int arrivals = 0;
+    copy.socket.DataArrival = [&, note = copy.socket.DataArrival](std::size_t byteCount) {
+        if (++arrivals == 2)
+            note(byteCount);
+    };
+    ASSERT_TRUE(copy.socket.bind());
+
+    peer.send("127.0.1.1", testPort(), "first");
+    peer.send("127.0.1.1", testPort(), "second");
+
+    ASSERT_TRUE(copy.hears(1));
+    EXPECT_THAT(copy.heard, ElementsAre(Heard{"second", "127.0.1.2"}));
+}
+
+TEST(UdpWinsock, NeedsNoHandlers)
+{
+    const RawPeer peer("127.0.1.2", testPort());
+    Copy copy("127.0.1.1");
+    const auto note = std::exchange(copy.socket.DataArrival, nullptr);
+    copy.socket.Error = nullptr;
+    ASSERT_TRUE(copy.socket.bind());
+
+    peer.send("127.0.1.1", testPort(), "unheard");
+    copy.sendTo("127.0.1.2", std::string(70000, 'x'));
+    QCoreApplication::processEvents();
+    copy.socket.DataArrival = note;
+    peer.send("127.0.1.1", testPort(), "heard");
+
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !copy.heard.empty() && copy.heard.back().bytes == "heard"; }));
+}
+
+TEST(UdpWinsock, ChildProcessesDoNotKeepItsPort)
+{
+    auto copy = std::make_unique<Copy>("127.0.1.1");
+    ASSERT_TRUE(copy->socket.bind());
+    QProcess child;
+    child.start("cat", {});
+    ASSERT_TRUE(child.waitForStarted());
+
+    copy.reset();
+    const RawPeer next("127.0.1.1", testPort());
+
+    EXPECT_TRUE(next.isBound());
+    child.closeWriteChannel();
+    child.waitForFinished();
+}
+
+TEST(UdpWinsock, TellsTheFixedIdentity)
+{
+    DropCounts drops;
+    const UdpWinsock socket(drops, "127.0.1.1", "PC-ANN");
+    EXPECT_EQ(socket.LocalIP(), "127.0.1.1");
+    EXPECT_EQ(socket.LocalHostName(), "PC-ANN");
+    EXPECT_EQ(socket.RemoteHostIP(), "");
+}
+
+} // namespace
+} // namespace nimb::test
