@@ -32,8 +32,14 @@ Ipv4Endpoint fromSystem(const sockaddr_in &address)
 }
 
 // The socket calls take every kind of address through a pointer to the general one.
-const sockaddr *general(const sockaddr_in &address) { return reinterpret_cast<const sockaddr *>(&address); }
-sockaddr *general(sockaddr_in &address) { return reinterpret_cast<sockaddr *>(&address); }
+const sockaddr *general(const sockaddr_in &address)
+{
+    return reinterpret_cast<const sockaddr *>(&address);
+}
+sockaddr *general(sockaddr_in &address)
+{
+    return reinterpret_cast<sockaddr *>(&address);
+}
 
 bool switchOn(int descriptor, int option)
 {
@@ -55,7 +61,10 @@ bool bindTo(int descriptor, Ipv4Endpoint local)
 }
 
 /// The error tells of an earlier datagram that nobody listened for, not of the call that returned it.
-bool isEchoOfClosedPort(int error) { return error == ECONNREFUSED || error == ECONNRESET; }
+bool isEchoOfClosedPort(int error)
+{
+    return error == ECONNREFUSED || error == ECONNRESET;
+}
 
 #ifdef SO_RXQ_OVFL
 /// The system's running count of lost datagrams; it comes along only once something was lost.
@@ -133,9 +142,8 @@ void DatagramSocket::growSendBuffer(int bytes)
 bool DatagramSocket::send(Ipv4Endpoint destination, std::string_view bytes)
 {
     const sockaddr_in address = toSystem(destination);
-    const auto attempt = [&] {
-        return ::sendto(m_descriptor, bytes.data(), bytes.size(), 0, general(address), sizeof address);
-    };
+    const auto attempt
+        = [&] { return ::sendto(m_descriptor, bytes.data(), bytes.size(), 0, general(address), sizeof address); };
     auto sent = attempt();
     if (sent < 0 && (errno == EINTR || isEchoOfClosedPort(errno)))
         sent = attempt();

@@ -22,7 +22,7 @@ class DatagramSocket
 public:
     enum class Sharing {
         exclusive, ///< fails while any other socket holds the address and port
-        shared, ///< for a broadcast address: every socket bound this way gets its own copy of each datagram
+        shared,    ///< for a broadcast address: every socket bound this way gets its own copy of each datagram
     };
     enum class Outcome { datagram, nothing, error };
 
@@ -57,7 +57,7 @@ public:
     Arrival receive(Buffer &buffer);
 
 private:
-    explicit DatagramSocket(int descriptor) : m_descriptor(descriptor) {}
+    explicit DatagramSocket(int descriptor) : m_descriptor(descriptor) { }
 
     int m_descriptor;
     std::uint32_t m_lostSoFar = 0;

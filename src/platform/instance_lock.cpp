@@ -16,7 +16,7 @@ namespace nimb
 
 #ifdef Q_OS_UNIX
 
-InstanceLock::InstanceLock(const QString &path) : m_path(path) {}
+InstanceLock::InstanceLock(const QString &path) : m_path(path) { }
 
 InstanceLock::~InstanceLock()
 {

@@ -26,7 +26,10 @@ std::optional<std::uint32_t> number0To255(const QString &text)
     return number <= 255 ? std::optional(number) : std::nullopt;
 }
 
-bool isUsable(std::uint32_t address) { return address != 0 && !isLoopback(address); }
+bool isUsable(std::uint32_t address)
+{
+    return address != 0 && !isLoopback(address);
+}
 
 std::optional<std::uint32_t> firstOfAnyInterface()
 {
@@ -55,9 +58,15 @@ std::optional<std::uint32_t> dottedIpv4(const QString &text)
     return address;
 }
 
-QString dottedText(std::uint32_t address) { return QHostAddress(address).toString(); }
+QString dottedText(std::uint32_t address)
+{
+    return QHostAddress(address).toString();
+}
 
-bool isLoopback(std::uint32_t address) { return address >> 24 == 127; }
+bool isLoopback(std::uint32_t address)
+{
+    return address >> 24 == 127;
+}
 
 QString ownAddress(const std::optional<QString> &fixed)
 {

@@ -46,6 +46,9 @@ std::unique_ptr<Timer> QtTimers::repeating(std::chrono::milliseconds interval, s
     return std::make_unique<QtTimer>(interval, false, std::move(fired));
 }
 
-QDateTime SystemClock::now() const { return QDateTime::currentDateTime(); }
+QDateTime SystemClock::now() const
+{
+    return QDateTime::currentDateTime();
+}
 
 } // namespace nimb

@@ -67,7 +67,10 @@ bool belongsToUs(const QString &path)
 #endif
 }
 
-int millisecondsLeft(const QDeadlineTimer &deadline) { return static_cast<int>(deadline.remainingTime()); }
+int millisecondsLeft(const QDeadlineTimer &deadline)
+{
+    return static_cast<int>(deadline.remainingTime());
+}
 
 /// Cut between two characters if it is too long.
 QByteArray messageFor(const QString &caption)
@@ -94,7 +97,7 @@ bool SingleInstance::acquire()
 {
     if (m_server)
         return true;
-    makePrivateFolder(m_folder); // a failure shows in the next line
+    makePrivateFolder(m_folder);            // a failure shows in the next line
     m_socketPath = socketPathFor(m_folder); // canonical only once the folder is there
     if (!m_lock)
         m_lock = std::make_unique<InstanceLock>(m_folder + QStringLiteral("/lock"));
@@ -155,8 +158,8 @@ void SingleInstance::readFrom(QLocalSocket &client)
             client.abort();
         return;
     }
-    client.disconnect(this); // one message a client
-    QStringDecoder decoder(QStringDecoder::Utf8);
+    client.disconnect(this);                                                       // one message a client
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless); // nothing follows
     const QString caption = decoder(QByteArrayView(message).first(end));
     if (decoder.hasError()) {
         client.abort();

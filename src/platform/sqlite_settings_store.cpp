@@ -26,7 +26,10 @@ struct Failure {
     QString reason;
 };
 
-QString translated(const char *text) { return QCoreApplication::translate("SqliteSettingsStore", text); }
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("SqliteSettingsStore", text);
+}
 
 /// Why the last call on the database failed, to be put in brackets. The code is an extended one.
 QString reasonFor(int code, sqlite3 *database)
@@ -94,7 +97,8 @@ public:
             throw Failure{reasonFor(SQLITE_NOMEM, m_database)}; // a NULL is sorted out by isNull()
         const int size = sqlite3_column_bytes(m_statement, column);
         // A first character U+FEFF is a character like any other.
-        QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+        QStringDecoder decoder(QStringDecoder::Utf8,
+                               QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
         return decoder(QByteArrayView(bytes, size));
     }
 
@@ -128,11 +132,20 @@ QByteArray nameForSqlite(const QString &path)
 #endif
 }
 
-void checkIntegrity(sqlite3 *database)
+QString damaged()
+{
+    return reasonFor(SQLITE_CORRUPT, nullptr);
+}
+
+void checkIntegrity(sqlite3 *database, const QString &path)
 {
     Statement integrity(database, "PRAGMA integrity_check(1)");
     if (!integrity.next() || integrity.text(0) != u"ok")
-        throw Failure{reasonFor(SQLITE_CORRUPT, database)};
+        throw Failure{damaged()};
+    // A last page that was cut off in the middle reads as if zeros followed, and a file of one byte as an empty one.
+    Statement pages(database, "PRAGMA page_size");
+    if (!pages.next() || QFileInfo(path).size() % pages.text(0).toInt() != 0)
+        throw Failure{damaged()};
 }
 
 bool hasTable(sqlite3 *database)
@@ -143,7 +156,10 @@ bool hasTable(sqlite3 *database)
 
 } // namespace
 
-void SqliteSettingsStore::CloseDatabase::operator()(sqlite3 *database) const { sqlite3_close_v2(database); }
+void SqliteSettingsStore::CloseDatabase::operator()(sqlite3 *database) const
+{
+    sqlite3_close_v2(database);
+}
 
 SqliteSettingsStore::SqliteSettingsStore(const QString &folder)
     : m_folder(QDir(folder).absolutePath()), m_file(m_folder + QStringLiteral("/settings.sqlite3"))
@@ -238,7 +254,7 @@ void SqliteSettingsStore::readFile()
     check(sqlite3_extended_result_codes(opened, 1), opened);
     check(sqlite3_busy_timeout(opened, busyTimeoutMs), opened);
     execute(opened, "PRAGMA synchronous = FULL");
-    checkIntegrity(opened);
+    checkIntegrity(opened, m_file);
 
     Values values;
     if (hasTable(opened)) {

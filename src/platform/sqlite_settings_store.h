@@ -56,7 +56,7 @@ private:
     Values m_values;
     Values m_pending;
     Trouble m_trouble = Trouble::none;
-    QString m_reason; ///< of the trouble, part of a sentence
+    QString m_reason;          ///< of the trouble, part of a sentence
     bool m_valuesSeen = false; ///< the program works with what is in the file, not with defaults
 };
 

@@ -20,13 +20,16 @@ constexpr int sendBufferAsked = 4 * 1024 * 1024;
 
 } // namespace
 
-UdpWinsock::UdpWinsock(DropCounts &drops, const std::optional<QString> &address,
-                       const std::optional<QString> &hostName, QObject *parent)
+UdpWinsock::UdpWinsock(DropCounts &drops, const std::optional<QString> &address, const std::optional<QString> &hostName,
+                       QObject *parent)
     : QObject(parent), m_drops(drops), m_fixedAddress(address), m_fixedHostName(hostName)
 {
 }
 
-void UdpWinsock::setRemoteHost(const QString &address) { m_remoteHost = dottedIpv4(address); }
+void UdpWinsock::setRemoteHost(const QString &address)
+{
+    m_remoteHost = dottedIpv4(address);
+}
 
 bool UdpWinsock::bind()
 {
@@ -43,8 +46,8 @@ bool UdpWinsock::bind()
 
     // A socket that is bound to one loopback address hears no broadcast; one bound to every interface does.
     if (isLoopback(address) && address != loopbackBroadcast) {
-        m_broadcasts = listen({loopbackBroadcast, m_localPort}, DatagramSocket::Sharing::shared,
-                              &UdpWinsock::readBroadcasts);
+        m_broadcasts
+            = listen({loopbackBroadcast, m_localPort}, DatagramSocket::Sharing::shared, &UdpWinsock::readBroadcasts);
         if (m_broadcasts)
             m_broadcasts->socket.growReceiveBuffer(receiveBufferAsked);
     }
@@ -84,9 +87,15 @@ QString UdpWinsock::RemoteHostIP() const
     return m_lastSource ? dottedText(*m_lastSource) : QString();
 }
 
-QString UdpWinsock::LocalIP() const { return ownAddress(m_fixedAddress); }
+QString UdpWinsock::LocalIP() const
+{
+    return ownAddress(m_fixedAddress);
+}
 
-QString UdpWinsock::LocalHostName() const { return ownHostName(m_fixedHostName); }
+QString UdpWinsock::LocalHostName() const
+{
+    return ownHostName(m_fixedHostName);
+}
 
 void UdpWinsock::readBatch(Ear &ear)
 {

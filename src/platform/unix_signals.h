@@ -48,7 +48,7 @@ private:
 class UnixSignals
 {
 public:
-    explicit UnixSignals(const std::function<void()> &) {}
+    explicit UnixSignals(const std::function<void()> &) { }
 };
 
 #endif

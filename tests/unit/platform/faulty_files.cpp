@@ -20,9 +20,15 @@ struct File {
     sqlite3_file *real() { return reinterpret_cast<sqlite3_file *>(this + 1); }
 };
 
-File &own(sqlite3_file *file) { return *reinterpret_cast<File *>(file); }
+File &own(sqlite3_file *file)
+{
+    return *reinterpret_cast<File *>(file);
+}
 
-FaultyFiles &faultsOf(sqlite3_vfs *vfs) { return *static_cast<FaultyFiles *>(vfs->pAppData); }
+FaultyFiles &faultsOf(sqlite3_vfs *vfs)
+{
+    return *static_cast<FaultyFiles *>(vfs->pAppData);
+}
 
 int closeFile(sqlite3_file *file)
 {
@@ -111,11 +117,10 @@ int deviceCharacteristics(sqlite3_file *file)
     return real->pMethods->xDeviceCharacteristics(real);
 }
 
-constexpr sqlite3_io_methods fileMethods = {
-    1,          closeFile,  readFile,          writeFile,   truncateFile, syncFile,
-    fileSize,   lockFile,   unlockFile,        checkReservedLock,
-    fileControl, sectorSize, deviceCharacteristics,
-    nullptr,    nullptr,    nullptr,           nullptr,     nullptr,      nullptr};
+constexpr sqlite3_io_methods fileMethods
+    = {1,          closeFile,         readFile,    writeFile,  truncateFile,          syncFile, fileSize, lockFile,
+       unlockFile, checkReservedLock, fileControl, sectorSize, deviceCharacteristics, nullptr,  nullptr,  nullptr,
+       nullptr,    nullptr,           nullptr};
 
 int openFile(sqlite3_vfs *vfs, const char *name, sqlite3_file *file, int flags, int *outFlags)
 {

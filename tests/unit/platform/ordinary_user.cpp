@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <grp.h>
 #include <unistd.h>
 
 namespace nimb::test
@@ -12,33 +13,41 @@ namespace
 constexpr unsigned superuser = 0;
 constexpr unsigned nobody = 65534;
 
+// The saved identity stays the superuser's, so that there is a way back. Groups have rights too.
+void becomeNobody()
+{
+    EXPECT_EQ(setgroups(0, nullptr), 0);
+    EXPECT_EQ(setresgid(nobody, nobody, superuser), 0);
+    EXPECT_EQ(setresuid(nobody, nobody, superuser), 0);
+}
+
+void becomeSuperuser()
+{
+    EXPECT_EQ(setresuid(superuser, superuser, superuser), 0);
+    EXPECT_EQ(setresgid(superuser, superuser, superuser), 0);
+}
+
 } // namespace
 
 OrdinaryUser::OrdinaryUser() : m_wasSuperuser(geteuid() == superuser)
 {
     if (m_wasSuperuser)
-        step(nobody);
+        becomeNobody();
 }
 
 OrdinaryUser::~OrdinaryUser()
 {
     if (m_wasSuperuser)
-        step(superuser);
+        becomeSuperuser();
 }
 
 void OrdinaryUser::pause(const std::function<void()> &action) const
 {
     if (m_wasSuperuser)
-        step(superuser);
+        becomeSuperuser();
     action();
     if (m_wasSuperuser)
-        step(nobody);
-}
-
-void OrdinaryUser::step(unsigned user) const
-{
-    // The saved user stays the superuser, so that there is a way back.
-    EXPECT_EQ(setresuid(user, user, superuser), 0);
+        becomeNobody();
 }
 
 } // namespace nimb::test

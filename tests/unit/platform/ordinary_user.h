@@ -19,8 +19,6 @@ public:
     void pause(const std::function<void()> &action) const;
 
 private:
-    void step(unsigned user) const;
-
     bool m_wasSuperuser;
 };
 

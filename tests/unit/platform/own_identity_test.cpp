@@ -1,5 +1,7 @@
 #include "platform/own_identity.h"
 
+#include "print_qt.h"
+
 #include <QHostInfo>
 #include <QSysInfo>
 
@@ -21,9 +23,10 @@ TEST(OwnIdentity, ReadsDottedAddresses)
 TEST(OwnIdentity, TakesNothingElseForAnAddress)
 {
     for (const char16_t *text :
-         {u"", u".", u"...", u"1.2.3", u"1.2.3.4.", u".1.2.3.4", u"1.2.3.4.5", u"1..3.4", u"1.2.3.256", u"1.2.3.1000",
-          u"1.2.3.4 ", u" 1.2.3.4", u"1.2.3.+4", u"1.2.3.-4", u"1.2.3.04", u"1.2.3.00", u"0x1.2.3.4", u"1.2.3.4/8",
-          u"1.2.3.4:80", u"16909060", u"host", u"::1", u"1.2.3.\u0664", u"1.2.3.4294967300"})
+         {u"",           u".",        u"...",       u"1.2.3",      u"1.2.3.4.",     u".1.2.3.4",
+          u"1.2.3.4.5",  u"1..3.4",   u"1.2.3.256", u"1.2.3.1000", u"1.2.3.4 ",     u" 1.2.3.4",
+          u"1.2.3.+4",   u"1.2.3.-4", u"1.2.3.04",  u"1.2.3.00",   u"0x1.2.3.4",    u"1.2.3.4/8",
+          u"1.2.3.4:80", u"16909060", u"host",      u"::1",        u"1.2.3.\u0664", u"1.2.3.4294967300"})
         EXPECT_EQ(dottedIpv4(QString::fromUtf16(text)), std::nullopt) << testing::PrintToString(text);
     EXPECT_EQ(dottedIpv4(QString("1.2.3.4") + QChar(0)), std::nullopt);
 }
@@ -42,7 +45,10 @@ TEST(OwnIdentity, KnowsTheLoopbackNetwork)
     EXPECT_FALSE(isLoopback(0x80000000U));
 }
 
-TEST(OwnIdentity, TheFixedAddressWins) { EXPECT_EQ(ownAddress("10.20.30.40"), "10.20.30.40"); }
+TEST(OwnIdentity, TheFixedAddressWins)
+{
+    EXPECT_EQ(ownAddress("10.20.30.40"), "10.20.30.40");
+}
 
 TEST(OwnIdentity, WithoutAFixedAddressThereIsAlwaysADottedOne)
 {
@@ -58,7 +64,10 @@ TEST(OwnIdentity, AMalformedFixedAddressIsNotTakenOver)
     EXPECT_EQ(ownAddress(""), ownAddress(std::nullopt));
 }
 
-TEST(OwnIdentity, TheFixedHostNameWins) { EXPECT_EQ(ownHostName("PC-ANN"), "PC-ANN"); }
+TEST(OwnIdentity, TheFixedHostNameWins)
+{
+    EXPECT_EQ(ownHostName("PC-ANN"), "PC-ANN");
+}
 
 TEST(OwnIdentity, WithoutAFixedHostNameItIsTheSystems)
 {

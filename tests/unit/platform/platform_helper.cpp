@@ -23,7 +23,10 @@ void say(const QString &line)
     std::fflush(stdout);
 }
 
-void killMyself() { kill(getpid(), SIGKILL); }
+void killMyself()
+{
+    kill(getpid(), SIGKILL);
+}
 
 /// Saves the values of that generation, and is killed at the n-th call to the disk: while opening or while saving.
 int save(const QString &folder, const QString &generation, const QString &phase, int n)

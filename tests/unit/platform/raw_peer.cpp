@@ -30,9 +30,15 @@ bool readable(int descriptor, int milliseconds)
 
 } // namespace
 
-std::uint16_t testPort() { return static_cast<std::uint16_t>(10000 + getpid() % 10000); }
+std::uint16_t testPort()
+{
+    return static_cast<std::uint16_t>(10000 + getpid() % 10000);
+}
 
-std::uint16_t otherTestPort() { return static_cast<std::uint16_t>(testPort() + 10000); }
+std::uint16_t otherTestPort()
+{
+    return static_cast<std::uint16_t>(testPort() + 10000);
+}
 
 RawPeer::RawPeer(const std::string &address, std::uint16_t port)
     : m_descriptor(socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0))
@@ -43,7 +49,10 @@ RawPeer::RawPeer(const std::string &address, std::uint16_t port)
     m_bound = bind(m_descriptor, reinterpret_cast<const sockaddr *>(&local), sizeof local) == 0;
 }
 
-RawPeer::~RawPeer() { close(m_descriptor); }
+RawPeer::~RawPeer()
+{
+    close(m_descriptor);
+}
 
 bool RawPeer::send(const std::string &address, std::uint16_t port, const std::string &bytes) const
 {
@@ -60,8 +69,8 @@ std::optional<RawPeer::Datagram> RawPeer::receive() const
     std::array<char, 65536> buffer;
     sockaddr_in source = {};
     socklen_t sourceSize = sizeof source;
-    const ssize_t size = recvfrom(m_descriptor, buffer.data(), buffer.size(), 0,
-                                  reinterpret_cast<sockaddr *>(&source), &sourceSize);
+    const ssize_t size
+        = recvfrom(m_descriptor, buffer.data(), buffer.size(), 0, reinterpret_cast<sockaddr *>(&source), &sourceSize);
     if (size < 0)
         return std::nullopt;
     std::array<char, INET_ADDRSTRLEN> text = {};
@@ -69,6 +78,9 @@ std::optional<RawPeer::Datagram> RawPeer::receive() const
     return Datagram{std::string(buffer.data(), static_cast<std::size_t>(size)), text.data(), ntohs(source.sin_port)};
 }
 
-bool RawPeer::hasWaiting() const { return readable(m_descriptor, 0); }
+bool RawPeer::hasWaiting() const
+{
+    return readable(m_descriptor, 0);
+}
 
 } // namespace nimb::test

@@ -2,6 +2,7 @@
 
 #include "faulty_files.h"
 #include "ordinary_user.h"
+#include "print_qt.h"
 #include "store_values.h"
 
 #include <QDir>
@@ -19,14 +20,6 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
-namespace nimb
-{
-void PrintTo(const std::optional<QString> &text, std::ostream *out)
-{
-    *out << (text ? text->toStdString() : "(nothing)");
-}
-} // namespace nimb
-
 namespace nimb::test
 {
 namespace
@@ -42,7 +35,8 @@ class Database : public SettingsStore
 public:
     explicit Database(const QString &file)
     {
-        EXPECT_EQ(sqlite3_open_v2(file.toUtf8().constData(), &m_database, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr),
+        EXPECT_EQ(sqlite3_open_v2(file.toUtf8().constData(), &m_database, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE,
+                                  nullptr),
                   SQLITE_OK);
     }
     ~Database() override { sqlite3_close(m_database); }
@@ -56,7 +50,8 @@ public:
     std::string one(const char *sql) const
     {
         sqlite3_stmt *statement = nullptr;
-        EXPECT_EQ(sqlite3_prepare_v2(m_database, sql, -1, &statement, nullptr), SQLITE_OK) << sqlite3_errmsg(m_database);
+        EXPECT_EQ(sqlite3_prepare_v2(m_database, sql, -1, &statement, nullptr), SQLITE_OK)
+            << sqlite3_errmsg(m_database);
         std::string bytes = "(no row)";
         if (sqlite3_step(statement) == SQLITE_ROW)
             bytes = column(statement);
@@ -98,6 +93,13 @@ class SqliteSettingsStoreTest : public testing::Test
 {
 protected:
     SqliteSettingsStoreTest() { QFile::setPermissions(m_base.path(), everybodyMayEnter); }
+
+    /// So that another user comes as far as the folder.
+    void letEverybodyIn() const
+    {
+        QFile::setPermissions(m_base.filePath("config"), everybodyMayEnter);
+        QFile::setPermissions(folder, everybodyMayEnter);
+    }
 
     void saveGeneration(const QString &generation)
     {
@@ -143,7 +145,10 @@ protected:
     const QString file = folder + "/settings.sqlite3";
 };
 
-std::string sentence(const std::optional<QString> &text) { return text ? text->toStdString() : "(nothing)"; }
+std::string sentence(const std::optional<QString> &text)
+{
+    return text ? text->toStdString() : "(nothing)";
+}
 
 /// What every message to the user must have: the path, the reason, one sentence.
 auto isSentenceWith(const QString &path, const char *reason)
@@ -201,7 +206,8 @@ TEST_F(SqliteSettingsStoreTest, ReadsWhatAnotherProgramStored)
     {
         Database database(file);
         database.run("CREATE TABLE settings(section TEXT, key TEXT, value TEXT, PRIMARY KEY(section, key))");
-        database.run("INSERT INTO settings VALUES('Settings', 'MyNickName', 'J\u00fcrgen'), ('Options', 'TipOTDayNum', 12)");
+        database.run(
+            "INSERT INTO settings VALUES('Settings', 'MyNickName', 'J\u00fcrgen'), ('Options', 'TipOTDayNum', 12)");
         database.run("INSERT INTO settings VALUES('Options', 'LiveType', NULL), (NULL, NULL, 'x')");
     }
     const SqliteSettingsStore store(folder);
@@ -276,13 +282,15 @@ TEST_F(SqliteSettingsStoreTest, AnAvatarOfEveryCharacterBelow256ComesBackWhole)
     EXPECT_TRUE(next.read("Settings", "AvatarBody", "") == QString(7500, QChar(0)));
     // One byte each for U+0000 to U+007F, two for U+0080 to U+00FF: 30 times 76 of 256 short of 7680 characters.
     EXPECT_EQ(Database(file).one("SELECT length(CAST(value AS BLOB)) FROM settings WHERE key = 'AvatarBody'"), "7500");
-    EXPECT_EQ(Database(file).one("SELECT hex(substr(CAST(value AS BLOB), 1, 3)) || hex(substr(CAST(value AS BLOB), 383, 2)) "
-                                 "FROM settings WHERE key = 'AvatarHead'"),
-              "000102C3BF");
+    EXPECT_EQ(
+        Database(file).one("SELECT hex(substr(CAST(value AS BLOB), 1, 3)) || hex(substr(CAST(value AS BLOB), 383, 2)) "
+                           "FROM settings WHERE key = 'AvatarHead'"),
+        "000102C3BF");
 }
 
 TEST_F(SqliteSettingsStoreTest, AllOfUnicodeComesBackWhole)
 {
+    const QString nulInside = QString::fromUtf8("k\0y", 3);
     QString everything;
     for (char32_t character = 0; character <= 0x10FFFF; ++character) {
         if (!QChar::isSurrogate(character))
@@ -290,12 +298,12 @@ TEST_F(SqliteSettingsStoreTest, AllOfUnicodeComesBackWhole)
     }
     SqliteSettingsStore store(folder);
     store.write("Settings", "everything", everything);
-    store.write(QString::fromUtf8("Sect\u00efon\n"), QString("k\0y", 3), QString::fromUtf8("\ufeffmark first\r\n"));
+    store.write(QString::fromUtf8("Sect\u00efon\n"), nulInside, QString::fromUtf8("\ufeffmark first\r\n"));
     ASSERT_EQ(store.save(), std::nullopt);
 
     const SqliteSettingsStore next(folder);
     EXPECT_TRUE(next.read("Settings", "everything", "") == everything);
-    EXPECT_EQ(next.read(QString::fromUtf8("Sect\u00efon\n"), QString("k\0y", 3), ""), QString::fromUtf8("\ufeffmark first\r\n"));
+    EXPECT_EQ(next.read(QString::fromUtf8("Sect\u00efon\n"), nulInside, ""), QString::fromUtf8("\ufeffmark first\r\n"));
     EXPECT_EQ(next.read(QString::fromUtf8("Sect\u00efon\n"), "k", "other"), "other");
 }
 
@@ -330,6 +338,7 @@ TEST_F(SqliteSettingsStoreTest, TheJournalOfASaveIsGoneAfterIt)
 // Failures: each call to the disk fails once and for good, with every code a write can give.
 
 struct Fault {
+    const char *name;
     FaultyFiles::Lasting lasting;
     int writeCode;
 };
@@ -401,10 +410,11 @@ TEST_P(EveryFault, OfTheFirstReadingLosesNothing)
 }
 
 INSTANTIATE_TEST_SUITE_P(SqliteSettingsStore, EveryFault,
-                         testing::Values(Fault{FaultyFiles::Lasting::once, SQLITE_FULL},
-                                         Fault{FaultyFiles::Lasting::forGood, SQLITE_FULL},
-                                         Fault{FaultyFiles::Lasting::once, SQLITE_IOERR_WRITE},
-                                         Fault{FaultyFiles::Lasting::forGood, SQLITE_IOERR_WRITE}));
+                         testing::Values(Fault{"DiskFullOnce", FaultyFiles::Lasting::once, SQLITE_FULL},
+                                         Fault{"DiskFullForGood", FaultyFiles::Lasting::forGood, SQLITE_FULL},
+                                         Fault{"DiskErrorOnce", FaultyFiles::Lasting::once, SQLITE_IOERR_WRITE},
+                                         Fault{"DiskErrorForGood", FaultyFiles::Lasting::forGood, SQLITE_IOERR_WRITE}),
+                         [](const auto &tested) { return std::string(tested.param.name); });
 
 TEST_F(SqliteSettingsStoreTest, AFullDiskIsCalledThat)
 {
@@ -443,20 +453,26 @@ TEST_F(SqliteSettingsStoreTest, TheSystemsOwnLimitLeavesTheOldStoreWhole)
     EXPECT_EQ(generationOnDisk(), "new");
 }
 
-TEST_F(SqliteSettingsStoreTest, MemoryThatRunsOutLeavesTheOldStoreWhole)
+TEST_F(SqliteSettingsStoreTest, MemoryThatRunsOutAtAnyPointLeavesTheOldStoreWhole)
 {
     saveGeneration("old");
-    SqliteSettingsStore store(folder);
-    writeGeneration(store, "new");
-
     const sqlite3_int64 previous = sqlite3_hard_heap_limit64(-1);
-    sqlite3_hard_heap_limit64(sqlite3_memory_used() + 1000);
-    const std::optional<QString> failure = store.save();
-    sqlite3_hard_heap_limit64(previous);
+    int failures = 0;
+    for (sqlite3_int64 room = 0;; room += 1009) {
+        SqliteSettingsStore store(folder);
+        writeGeneration(store, "new");
 
-    EXPECT_THAT(sentence(failure), isSentenceWith(file, "(memory has run out)"));
-    EXPECT_EQ(generationOnDisk(), "old");
-    EXPECT_EQ(store.save(), std::nullopt);
+        sqlite3_hard_heap_limit64(sqlite3_memory_used() + room);
+        const std::optional<QString> failure = store.save();
+        sqlite3_hard_heap_limit64(previous);
+
+        if (!failure)
+            break;
+        ++failures;
+        EXPECT_THAT(sentence(failure), isSentenceWith(file, "(memory has run out)")) << room;
+        ASSERT_EQ(generationOnDisk(), "old") << room;
+    }
+    EXPECT_GT(failures, 5);
     EXPECT_EQ(generationOnDisk(), "new");
 }
 
@@ -509,26 +525,35 @@ TEST_F(SqliteSettingsStoreTest, AStoreHeldElsewhereAtTheStartIsAProblemAndIsNotO
     EXPECT_EQ(generationOnDisk(), "old");
 }
 
-class Damaged : public SqliteSettingsStoreTest, public testing::WithParamInterface<QByteArray>
+struct Damage {
+    const char *name;
+    QByteArray bytes;
+};
+
+class Damaged : public SqliteSettingsStoreTest, public testing::WithParamInterface<Damage>
 {
 };
 
 TEST_P(Damaged, FileIsAProblemAndStaysAsItIs)
 {
-    putFile(GetParam());
+    putFile(GetParam().bytes);
     SqliteSettingsStore store(folder);
 
     EXPECT_THAT(sentence(store.problem()), isSentenceWith(file, "(the file is damaged or holds something else)"));
     EXPECT_EQ(store.read("Settings", "UDPPort", "5549"), "5549");
     writeGeneration(store, "new");
     EXPECT_THAT(sentence(store.save()), isSentenceWith(file, "(the file is damaged or holds something else)"));
-    EXPECT_TRUE(fileBytes() == GetParam());
+    EXPECT_TRUE(fileBytes() == GetParam().bytes);
 }
 
-INSTANTIATE_TEST_SUITE_P(SqliteSettingsStore, Damaged,
-                         testing::Values(QByteArray("x"), QByteArray("[Settings]\nMyNickName=Ann\n"), QByteArray(8192, '\0'),
-                                         QByteArray("SQLite format 3\0", 16) + QByteArray(4096, '\xff'),
-                                         QByteArray(100000, '\xa5')));
+INSTANTIATE_TEST_SUITE_P(
+    SqliteSettingsStore, Damaged,
+    testing::Values(Damage{"OneByte", "x"}, Damage{"TwoBytes", "xy"},
+                    Damage{"OtherText", "[Settings]\nMyNickName=Ann\n"}, Damage{"Zeros", QByteArray(8192, '\0')},
+                    Damage{"OnlyTheMark", QByteArray("SQLite format 3", 16)},
+                    Damage{"MarkAndRubbish", QByteArray("SQLite format 3", 16) + QByteArray(4096, '\xff')},
+                    Damage{"Rubbish", QByteArray(100000, '\xa5')}),
+    [](const auto &tested) { return std::string(tested.param.name); });
 
 TEST_F(SqliteSettingsStoreTest, AFileThatWasCutShortIsAProblemAndStaysAsItIs)
 {
@@ -556,8 +581,9 @@ TEST_F(SqliteSettingsStoreTest, DamageAnywhereNeverCrashesNorChangesTheFileUnask
             damaged[i] = static_cast<char>(~damaged[i]);
         putFile(damaged);
         const SqliteSettingsStore store(folder);
-        if (store.problem())
+        if (store.problem()) {
             EXPECT_EQ(generationIn(store), "none") << offset;
+        }
         EXPECT_TRUE(fileBytes() == damaged) << offset;
     }
 }
@@ -603,7 +629,8 @@ TEST_F(SqliteSettingsStoreTest, AnotherProgramsTableOfThatNameIsAProblemAndStays
 TEST_F(SqliteSettingsStoreTest, AReadOnlyFileIsReadAndItsProblemTold)
 {
     saveGeneration("old");
-    QFile::setPermissions(folder, everybodyMayEnter);
+    letEverybodyIn();
+    QFile::setPermissions(folder, everybodyMayEnter | QFile::WriteOther);
     QFile::setPermissions(file, QFile::ReadOwner | QFile::ReadOther);
     {
         const OrdinaryUser user;
@@ -620,6 +647,7 @@ TEST_F(SqliteSettingsStoreTest, AReadOnlyFileIsReadAndItsProblemTold)
 TEST_F(SqliteSettingsStoreTest, AReadOnlyFolderIsReadAndItsProblemTold)
 {
     saveGeneration("old");
+    letEverybodyIn();
     QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther | QFile::WriteOther);
     QFile::setPermissions(folder, nobodyMayWrite);
     {
@@ -637,7 +665,7 @@ TEST_F(SqliteSettingsStoreTest, AReadOnlyFolderIsReadAndItsProblemTold)
 TEST_F(SqliteSettingsStoreTest, AnEmptyReadOnlyFolderIsAProblem)
 {
     QDir().mkpath(folder);
-    QFile::setPermissions(m_base.filePath("config"), everybodyMayEnter);
+    letEverybodyIn();
     QFile::setPermissions(folder, nobodyMayWrite);
     {
         const OrdinaryUser user;
@@ -665,6 +693,7 @@ TEST_F(SqliteSettingsStoreTest, AFolderThatCannotBeMadeIsAProblem)
 TEST_F(SqliteSettingsStoreTest, AFileThatMayNotBeReadIsAProblemAndIsNotOverwrittenOnceItMay)
 {
     saveGeneration("old");
+    letEverybodyIn();
     QFile::setPermissions(folder, everybodyMayEnter | QFile::WriteOther);
     QFile::setPermissions(file, QFile::Permissions());
     {

@@ -23,7 +23,8 @@ inline void writeGeneration(SettingsStore &store, const QString &generation)
     store.write("Settings", "MyNickName", generation);
     store.write("Settings", "AvatarHead", avatarData(generation.isEmpty() ? u'\0' : generation[0].unicode()));
     for (int n = 1; n <= generationContacts; ++n)
-        store.write("Users", QString("Nn%1").arg(n), QString("%1 contact %2 %3").arg(generation).arg(n).arg(QString(100, u'.')));
+        store.write("Users", QString("Nn%1").arg(n),
+                    QString("%1 contact %2 %3").arg(generation).arg(n).arg(QString(100, u'.')));
 }
 
 /// The generation that the store holds whole, "none" for an empty store, "mixed" for anything else.
@@ -31,9 +32,9 @@ inline QString generationIn(const SettingsStore &store)
 {
     const QString missing = "<missing>";
     const QString generation = store.read("Settings", "MyNickName", missing);
-    bool whole = generation == missing
-        ? store.read("Settings", "AvatarHead", missing) == missing
-        : store.read("Settings", "AvatarHead", missing) == avatarData(generation.isEmpty() ? u'\0' : generation[0].unicode());
+    bool whole = generation == missing ? store.read("Settings", "AvatarHead", missing) == missing
+                                       : store.read("Settings", "AvatarHead", missing)
+            == avatarData(generation.isEmpty() ? u'\0' : generation[0].unicode());
     for (int n = 1; n <= generationContacts; ++n) {
         const QString expected = generation == missing
             ? missing

@@ -1,0 +1,281 @@
+#include "desktop.h"
+
+#include "child_process.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+
+#include <utility>
+
+namespace nimb::test
+{
+namespace
+{
+
+constexpr auto patienceMs = static_cast<int>(std::chrono::milliseconds(patience).count());
+
+/// Every character that a test types has a key of its own. Where one lacks, xdotool gives a spare key its meaning for a
+/// moment, and a program that learns of it a moment later types something else.
+constexpr char keyboard[] = R"keymap(
+xkb_keymap {
+    xkb_keycodes { include "evdev+aliases(qwerty)" };
+    xkb_types { include "complete" };
+    xkb_compat { include "complete" };
+    xkb_symbols {
+        include "pc+us+inet(evdev)"
+        replace key <FK19> { [ adiaeresis, Adiaeresis ] };
+        replace key <FK20> { [ odiaeresis, Odiaeresis ] };
+        replace key <FK21> { [ udiaeresis, Udiaeresis ] };
+        replace key <FK22> { [ ssharp, EuroSign ] };
+        replace key <FK23> { [ U1F600 ] };
+    };
+};
+)keymap";
+
+struct Outcome {
+    bool ok;
+    QByteArray output;
+};
+
+Outcome run(const QString &program, const QStringList &arguments, const QByteArray &input = {})
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForStarted(patienceMs)) {
+        ADD_FAILURE() << program.toStdString() << " cannot be started: " << process.errorString().toStdString();
+        return {false, {}};
+    }
+    process.write(input);
+    process.closeWriteChannel();
+    if (!process.waitForFinished(patienceMs)) {
+        ADD_FAILURE() << program.toStdString() << ' ' << arguments.join(' ').toStdString() << " does not end";
+        return {false, {}};
+    }
+    const bool ok = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    return {ok, process.readAllStandardOutput()};
+}
+
+/// For what works whenever the screen works.
+QByteArray act(const QStringList &arguments)
+{
+    const Outcome outcome = run(QStringLiteral("xdotool"), arguments);
+    EXPECT_TRUE(outcome.ok) << "xdotool " << arguments.join(' ').toStdString();
+    return outcome.output.trimmed();
+}
+
+QByteArray property(const QStringList &window, const char *name)
+{
+    return run(QStringLiteral("xprop"), window + QStringList{QStringLiteral("-notype"), QLatin1String(name)})
+        .output.trimmed();
+}
+
+QByteArray rootProperty(const char *name)
+{
+    return property({QStringLiteral("-root")}, name);
+}
+
+/// A pattern that matches this text alone.
+QString literally(const std::string &text)
+{
+    QString pattern = QStringLiteral("^");
+    for (const QChar c : QString::fromStdString(text)) {
+        if (QStringLiteral("\\^$.[]|()*+?{}").contains(c))
+            pattern += u'\\';
+        pattern += c;
+    }
+    return pattern + u'$';
+}
+
+} // namespace
+
+bool waitUntil(const std::function<bool()> &condition, std::chrono::milliseconds limit)
+{
+    return QTest::qWaitFor(condition, static_cast<int>(limit.count()));
+}
+
+void Desktop::SetUp()
+{
+    qunsetenv("DISPLAY");
+    ASSERT_NO_FATAL_FAILURE(startScreen());
+    ASSERT_NO_FATAL_FAILURE(loadKeyboard());
+    ASSERT_NO_FATAL_FAILURE(startWindowManager());
+}
+
+void Desktop::TearDown()
+{
+    endProcess(m_windowManager);
+    endProcess(m_screen);
+}
+
+void Desktop::startScreen()
+{
+    endWithParent(m_screen);
+    // The server picks a free number and writes it when it is ready.
+    m_screen.start(QStringLiteral("Xvfb"), {"-displayfd", "1", "-screen", "0", "1280x900x24", "-nolisten", "tcp",
+                                            "-noreset"});
+    QByteArray number;
+    while (!number.endsWith('\n') && m_screen.waitForReadyRead(patienceMs))
+        number += m_screen.readAllStandardOutput();
+    ASSERT_TRUE(number.endsWith('\n')) << "Xvfb does not start: " << m_screen.errorString().toStdString() << '\n'
+                                       << m_screen.readAllStandardError().toStdString();
+    qputenv("DISPLAY", ':' + number.trimmed());
+}
+
+void Desktop::loadKeyboard()
+{
+    const Outcome loaded = run(QStringLiteral("xkbcomp"), {"-w", "0", "-", qEnvironmentVariable("DISPLAY")}, keyboard);
+    ASSERT_TRUE(loaded.ok) << "xkbcomp cannot load the keyboard";
+}
+
+void Desktop::startWindowManager()
+{
+    endWithParent(m_windowManager);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), QStringLiteral("/nowhere")); // nobody's own key bindings
+    m_windowManager.setProcessEnvironment(environment);
+    m_windowManager.setStandardOutputFile(QProcess::nullDevice());
+    m_windowManager.setStandardErrorFile(QProcess::nullDevice());
+    m_windowManager.start(QStringLiteral("openbox"), {"--sm-disable"});
+    ASSERT_TRUE(m_windowManager.waitForStarted(patienceMs)) << m_windowManager.errorString().toStdString();
+    ASSERT_TRUE(waitUntil([] { return rootProperty("_NET_SUPPORTING_WM_CHECK").contains("0x"); }))
+        << "openbox does not take the screen";
+}
+
+std::vector<Window> Window::all(const std::string &caption)
+{
+    std::vector<Window> found;
+    const Outcome search = run(QStringLiteral("xdotool"), {"search", "--name", literally(caption)});
+    for (const QByteArray &id : search.output.split('\n')) {
+        const Window window(id.trimmed());
+        // The search knows no case, and finds helper windows that no window manager manages.
+        if (!window.isNull() && window.caption() == caption && window.property("WM_STATE").contains("window state"))
+            found.push_back(window);
+    }
+    return found;
+}
+
+Window Window::waitFor(const std::string &caption)
+{
+    std::vector<Window> found;
+    waitUntil([&] { return (found = all(caption)).size() == 1; });
+    EXPECT_EQ(found.size(), 1U) << "windows with the caption \"" << caption << '"';
+    return found.empty() ? Window() : found.front();
+}
+
+Window Window::active()
+{
+    const Outcome outcome = run(QStringLiteral("xdotool"), {"getactivewindow"});
+    return outcome.ok ? Window(outcome.output.trimmed()) : Window();
+}
+
+std::string Window::caption() const
+{
+    const Outcome outcome = run(QStringLiteral("xdotool"), {"getwindowname", m_id});
+    return outcome.output.endsWith('\n') ? outcome.output.chopped(1).toStdString() : std::string();
+}
+
+QByteArray Window::property(const char *name) const
+{
+    return nimb::test::property({QStringLiteral("-id"), m_id}, name);
+}
+
+Window::State Window::state() const
+{
+    const QByteArray state = property("WM_STATE");
+    if (state.contains("window state: Normal"))
+        return State::shown;
+    return state.contains("window state: Iconic") ? State::minimised : State::hidden;
+}
+
+bool Window::becomes(State expected) const
+{
+    return waitUntil([this, expected] { return state() == expected; });
+}
+
+bool Window::isActive() const
+{
+    return !isNull() && active() == *this;
+}
+
+bool Window::wantsAttention() const
+{
+    return property("_NET_WM_STATE").contains("_NET_WM_STATE_DEMANDS_ATTENTION");
+}
+
+std::pair<int, int> Window::framePosition() const
+{
+    const QList<QByteArray> lines = act({"getwindowgeometry", "--shell", m_id}).split('\n');
+    const auto valueOf = [&lines](const QByteArray &name) {
+        for (const QByteArray &line : lines) {
+            if (line.startsWith(name + '='))
+                return line.mid(name.size() + 1).toInt();
+        }
+        return -1;
+    };
+    // Left, right, top, bottom.
+    const QList<QByteArray> frame = property("_NET_FRAME_EXTENTS").split('=').last().split(',');
+    return {valueOf("X") - frame.value(0).trimmed().toInt(), valueOf("Y") - frame.value(2).trimmed().toInt()};
+}
+
+void Window::activate() const
+{
+    act({"windowactivate", m_id});
+    EXPECT_TRUE(waitUntil([this] { return isActive() && state() == State::shown; })) << caption() << " is not active";
+}
+
+void Window::minimise() const
+{
+    act({"windowminimize", m_id});
+    EXPECT_TRUE(becomes(State::minimised));
+}
+
+void Window::move(int x, int y) const
+{
+    act({"windowmove", m_id, QString::number(x), QString::number(y)});
+}
+
+void Window::close() const
+{
+    activate();
+    press("alt+F4");
+}
+
+void Window::click(int x, int y, int times, int button) const
+{
+    act({"mousemove", "--window", m_id, QString::number(x), QString::number(y), "click", "--repeat",
+         QString::number(times), "--delay", "20", QString::number(button)});
+}
+
+std::ostream &operator<<(std::ostream &out, Window::State state)
+{
+    switch (state) {
+    case Window::State::shown:
+        return out << "shown";
+    case Window::State::minimised:
+        return out << "minimised";
+    case Window::State::hidden:
+        return out << "hidden";
+    }
+    return out;
+}
+
+void type(const std::string &utf8)
+{
+    act({"type", "--delay", "2", "--", QString::fromStdString(utf8)});
+}
+
+void press(const std::string &key)
+{
+    act({"key", QString::fromStdString(key)});
+}
+
+void letWindowsSettle()
+{
+    // A request that the window manager answers in its turn. Twice: what it did for the first one it also hears of.
+    for (const QString &count : {QStringLiteral("5"), QStringLiteral("4")}) {
+        act({"set_num_desktops", count});
+        EXPECT_TRUE(waitUntil([&] { return act({"get_num_desktops"}) == count.toLatin1(); }));
+    }
+}
+
+} // namespace nimb::test

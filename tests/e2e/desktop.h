@@ -1,0 +1,94 @@
+// A screen that nobody sees, and the hands and eyes of a user who sits before it.
+#pragma once
+
+#include <QByteArray>
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace nimb::test
+{
+
+/// Longer than anything takes on a busy machine; only a failure waits for so long.
+constexpr std::chrono::seconds patience{20};
+
+/// Looks again and again while events are handled; false when the condition did not come true in time.
+bool waitUntil(const std::function<bool()> &condition, std::chrono::milliseconds limit = patience);
+
+/// Virtual screen and window manager of one test executable. While it is set up, DISPLAY names the screen, and every
+/// process that is started finds it. A machine on which they do not start fails every test.
+class Desktop : public testing::Environment
+{
+public:
+    void SetUp() override;
+    void TearDown() override;
+
+private:
+    void startScreen();
+    void loadKeyboard();
+    void startWindowManager();
+
+    QProcess m_screen;
+    QProcess m_windowManager;
+};
+
+/// A top-level window, seen from outside.
+class Window
+{
+public:
+    enum class State { shown, minimised, hidden };
+
+    /// All windows that the window manager knows by exactly this caption, in no order.
+    static std::vector<Window> all(const std::string &caption);
+    /// Waits for the one window of this caption; a test failure and a null window when there is none in time.
+    static Window waitFor(const std::string &caption);
+    static bool exists(const std::string &caption) { return !all(caption).empty(); }
+    /// The one that has the focus; null when there is none.
+    static Window active();
+
+    Window() = default;
+    bool isNull() const { return m_id.isEmpty(); }
+
+    std::string caption() const;
+    State state() const;
+    bool becomes(State state) const;
+    bool isActive() const;
+    bool wantsAttention() const;
+    /// Distance of the frame's upper left corner from the screen's, in pixels.
+    std::pair<int, int> framePosition() const;
+
+    /// As a click on its taskbar button does: the window is restored, raised and has the focus afterwards.
+    void activate() const;
+    void minimise() const;
+    void move(int x, int y) const;
+    /// Presses the close box (by the window manager's key for it).
+    void close() const;
+    /// Presses a mouse button this often, at a place counted from the window's upper left corner without its frame.
+    void click(int x, int y, int times = 1, int button = 1) const;
+
+    bool operator==(const Window &) const = default;
+
+private:
+    explicit Window(const QByteArray &id) : m_id(id) {}
+    QByteArray property(const char *name) const;
+
+    QByteArray m_id; ///< as the X server numbers it, decimal
+};
+
+std::ostream &operator<<(std::ostream &out, Window::State state);
+
+/// Types into whatever has the focus. The keyboard has every ASCII character, äöüß€ and 😀.
+void type(const std::string &utf8);
+/// Presses a key or a combination, as in "Return" or "ctrl+a".
+void press(const std::string &key);
+/// Returns when the window manager has dealt with everything that happened before.
+void letWindowsSettle();
+
+} // namespace nimb::test

@@ -1,0 +1,111 @@
+// One whole copy of the engine, with recorders around it.
+#pragma once
+
+#include "app/messenger.h"
+#include "recorders.h"
+#include "simulated_network.h"
+#include "virtual_time.h"
+
+#include <gmock/gmock.h>
+
+#include <map>
+
+namespace nimb::test
+{
+
+struct StoredContact {
+    QString ip;
+    QString nickname;
+    QString workstation = QStringLiteral("PC");
+};
+
+struct CopySetup {
+    QString ip = QStringLiteral("10.0.0.1");
+    QString host = QStringLiteral("HERE");
+    QString nickname = QStringLiteral("Me");
+    std::vector<StoredContact> contacts = {};
+    std::map<std::string, QString> settings = {}; ///< "section/key"
+    bool portTaken = false;
+    bool loaded = true; ///< the main window has been loaded
+};
+
+class Copy
+{
+public:
+    explicit Copy(const CopySetup &setup = {}, SimulatedNetwork *network = nullptr,
+                  std::shared_ptr<VirtualTime> sharedTime = std::make_shared<VirtualTime>()) :
+        time(std::move(sharedTime)), socket(setup.ip, setup.host, network)
+    {
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+        common.ownIP = setup.ip;
+        common.ownHostName = setup.host;
+        common.ownNickname = setup.nickname;
+        socket.portTaken = setup.portTaken;
+        store(setup);
+        windows.unloadAllPrivate = [this] { engine.privateWindows().unloadAll(); };
+        if (setup.loaded)
+            engine.mainWindow().Form_Load();
+    }
+
+    void announce() { engine.announcement().run(); }
+    void advance(std::chrono::milliseconds span) { time->advance(span); }
+    void arrive(const char *from, const std::string &bytes) { socket.arrive(QLatin1String(from), bytes); }
+    /// What was sent since the last call.
+    std::vector<To> sent() { return std::exchange(socket.sent, {}); }
+    /// Lets the announcement of the start end and forgets what it sent; whoever is named answers it.
+    void settleStart(const std::vector<const char *> &answering = {})
+    {
+        for (const char *ip : answering) {
+            const std::string nick = contact(ip).nickname.toStdString();
+            arrive(ip, "!ONLINE " + std::string(ip) + " PC " + nick);
+        }
+        advance(std::chrono::milliseconds(1000));
+        socket.sent.clear();
+        view.log.clear();
+        notifications.rows.clear();
+    }
+
+    bool knows(const char *ip) { return engine.contacts().isContact(QLatin1String(ip)); }
+    const Contact &contact(const char *ip) { return *engine.contacts().find(QLatin1String(ip)); }
+    std::vector<std::string> names()
+    {
+        std::vector<std::string> list;
+        for (int row = 0; row < engine.contacts().rowCount(); ++row)
+            list.push_back(engine.contacts().at(row).nickname.toStdString());
+        return list;
+    }
+    RecorderPrivateView &window(std::size_t number) { return *privateForms.views.at(number - 1); }
+
+    std::shared_ptr<VirtualTime> time;
+    Common common;
+    SimulatedWinsock socket;
+    MemoryStore settings;
+    RecorderMainView view;
+    RecorderPrivateForms privateForms;
+    RecorderNotifications notifications;
+    RecorderPrompts prompts;
+    Steps steps;
+    RecorderTray tray{steps};
+    RecorderWindows windows{steps};
+    DropCounts drops;
+    Messenger engine{common,
+                     {socket, settings, *time, *time, prompts, notifications, tray, windows, privateForms, view, drops}};
+
+private:
+    void store(const CopySetup &setup)
+    {
+        int n = 0;
+        for (const StoredContact &contact : setup.contacts) {
+            const QByteArray number = QByteArray::number(++n);
+            settings.put("Users", ("IP" + number).constData(), contact.ip);
+            settings.put("Users", ("Nn" + number).constData(), contact.nickname);
+            settings.put("Users", ("Ws" + number).constData(), contact.workstation);
+        }
+        for (const auto &[address, value] : setup.settings) {
+            const std::size_t slash = address.find('/');
+            settings.put(address.substr(0, slash).c_str(), address.substr(slash + 1).c_str(), value);
+        }
+    }
+};
+
+} // namespace nimb::test

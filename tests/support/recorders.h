@@ -1,0 +1,279 @@
+// What an engine shows and asks, written down for a test to read.
+#pragma once
+
+#include "core/main_window_view.h"
+#include "core/notifications.h"
+#include "core/prompts.h"
+#include "core/settings_store.h"
+#include "core/windows.h"
+#include "private/private_chat_view.h"
+
+#include <QStringList>
+
+#include <map>
+#include <vector>
+
+namespace nimb::test
+{
+
+/// Pieces of text with their colours; a caret that is not at the end is an error.
+class RecorderLog : public RichTextLog
+{
+public:
+    struct Piece {
+        QString text;
+        Colour colour = 0;
+    };
+
+    qsizetype textLength() const override { return text().size(); }
+    void setSelStart(qsizetype position) override { m_caretAtEnd = position == textLength(); }
+    void setSelColor(Colour colour) override { m_colour = colour; }
+    void setSelFont(const LogFont &font) override { lastFont = font; }
+    void setSelText(const QString &text) override
+    {
+        if (!m_caretAtEnd)
+            qFatal("text inserted before the end of a log");
+        pieces.push_back({text, m_colour});
+        if (changed)
+            changed();
+    }
+    void clear() override
+    {
+        pieces.clear();
+        m_caretAtEnd = true;
+    }
+
+    QString text() const
+    {
+        QString whole;
+        for (const Piece &piece : pieces)
+            whole += piece.text;
+        return whole;
+    }
+    /// Lines without their breaks, as UTF-8.
+    std::vector<std::string> lines() const
+    {
+        std::vector<std::string> result;
+        QStringList list = text().split(QStringLiteral("\r\n"));
+        if (list.back().isEmpty())
+            list.removeLast();
+        for (const QString &line : std::as_const(list))
+            result.push_back(line.toStdString());
+        return result;
+    }
+    std::string lastLine() const { return lines().empty() ? std::string() : lines().back(); }
+    Colour colourOfLastPiece() const { return pieces.empty() ? 0 : pieces.back().colour; }
+
+    std::vector<Piece> pieces;
+    std::optional<LogFont> lastFont;
+    std::function<void()> changed;
+
+private:
+    Colour m_colour = 0;
+    bool m_caretAtEnd = true;
+};
+
+class RecorderMainView : public MainWindowView
+{
+public:
+    RichTextLog &outtext() override { return log; }
+    void setRescanEnabled(bool enabled) override { rescanEnabled = enabled; }
+    void refreshContextMenu() override { ++menuRefreshes; }
+    void addOwnState(const OwnStateEntry &entry) override { ownStates.push_back(entry); }
+    void selectOwnState(int position) override { selectedState = position; }
+    void setStatusPanel(const QString &text) override { statusPanel = text; }
+    void setRescanToolTip(const QString &text) override { rescanToolTip = text; }
+    void setAutoReply(const std::optional<AutoReplyPanel> &panel) override { autoReply = panel; }
+    void setPersonalizedStateVisible(bool visible) override { personalizedVisible = visible; }
+    void setCaption(const QString &text) override { shownCaption = text; }
+    QString caption() const override { return shownCaption; }
+    void setPlace(const WindowPlace &place) override { shownPlace = place; }
+    WindowPlace place() const override { return shownPlace; }
+    void setTroublePanel(const QString &text) override { trouble = text; }
+
+    RecorderLog log;
+    bool rescanEnabled = true;
+    int menuRefreshes = 0;
+    std::vector<OwnStateEntry> ownStates;
+    int selectedState = 0;
+    QString statusPanel;
+    QString rescanToolTip;
+    std::optional<AutoReplyPanel> autoReply;
+    bool personalizedVisible = false;
+    QString shownCaption;
+    WindowPlace shownPlace;
+    QString trouble;
+};
+
+class RecorderPrivateView : public PrivateChatView
+{
+public:
+    explicit RecorderPrivateView(PrivateChat &engineHalf) : chat(engineHalf) {}
+
+    RichTextLog &outtext() override { return log; }
+    void setCaption(const QString &text) override { caption = text; }
+    void setPeerAddress(const QString &ip) override { peer = ip; }
+    void setLogFont(const LogFont &logFont) override { font = logFont; }
+    void setPanel(int number, const QString &text) override { panels[number] = text; }
+    void hideLiveType() override { ++liveTypeHidden; }
+    Colour windowTextColour() const override { return 0x123456; }
+    bool isHidden() const override { return hidden; }
+    void showWindow(ShowMode mode) override
+    {
+        hidden = false;
+        shows.push_back(mode);
+    }
+    void hideWindow() override { hidden = true; }
+    void letGo() override
+    {
+        hidden = true;
+        gone = true;
+    }
+    bool isMinimisedOrInactive() const override { return inBackground; }
+    void flash() override { ++flashes; }
+
+    PrivateChat &chat;
+    RecorderLog log;
+    QString caption;
+    QString peer;
+    LogFont font;
+    std::map<int, QString> panels;
+    int liveTypeHidden = 0;
+    bool hidden = true;
+    bool gone = false;
+    bool inBackground = true;
+    int flashes = 0;
+    std::vector<ShowMode> shows;
+};
+
+/// Keeps every window ever made, unloaded ones included.
+class RecorderPrivateForms : public PrivateForms
+{
+public:
+    ViewPtr<PrivateChatView> makePrivateForm(PrivateChat &chat) override
+    {
+        views.push_back(std::make_unique<RecorderPrivateView>(chat));
+        return ViewPtr<PrivateChatView>(views.back().get());
+    }
+
+    std::vector<std::unique_ptr<RecorderPrivateView>> views;
+};
+
+class RecorderNotifications : public Notifications
+{
+public:
+    void add(const QString &text, Picture picture) override
+    {
+        rows.push_back(text.toStdString() + " [" + pictureKey(picture).toStdString() + "]");
+    }
+    void startTimer() override { ++starts; }
+
+    std::vector<std::string> rows;
+    int starts = 0;
+};
+
+/// Answers questions as told and keeps what was said.
+class RecorderPrompts : public Prompts
+{
+public:
+    bool confirm(const QString &text, const QString &title) override
+    {
+        asked.push_back((title + QLatin1String(": ") + text).toStdString());
+        return answer;
+    }
+    void tell(const QString &text, const QString &title) override
+    {
+        told.push_back((title + QLatin1String(": ") + text).toStdString());
+    }
+
+    bool answer = true;
+    std::vector<std::string> asked;
+    std::vector<std::string> told;
+};
+
+/// One list of steps shared by everything whose order matters.
+using Steps = std::vector<std::string>;
+
+class RecorderTray : public TrayIcon
+{
+public:
+    explicit RecorderTray(Steps &order) : steps(order) {}
+    void AddIcon(const QString &ToolTip) override
+    {
+        shown = available;
+        steps.push_back("AddIcon " + ToolTip.toStdString());
+    }
+    void removeIcon() override
+    {
+        shown = false;
+        steps.push_back("remove icon");
+    }
+    bool isShown() const override { return shown; }
+
+    Steps &steps;
+    bool available = true;
+    bool shown = false;
+};
+
+class RecorderWindows : public SecondaryWindows
+{
+public:
+    explicit RecorderWindows(Steps &order) : steps(order) {}
+    void unloadConferences() override { steps.push_back("unload conferences"); }
+    void unloadPrivateWindows() override
+    {
+        steps.push_back("unload private windows");
+        if (unloadAllPrivate)
+            unloadAllPrivate();
+    }
+    void unloadNotify() override { steps.push_back("unload notify"); }
+    void unloadInvitations() override { steps.push_back("unload invitations"); }
+    void unloadTipOfTheDay() override { steps.push_back("unload tip"); }
+
+    Steps &steps;
+    std::function<void()> unloadAllPrivate;
+};
+
+/// A store in memory whose saves can be made to fail.
+class MemoryStore : public SettingsStore
+{
+public:
+    QString read(const QString &section, const QString &key, const QString &defaultValue) const override
+    {
+        const auto found = saved.find({section, key});
+        return found == saved.end() ? defaultValue : found->second;
+    }
+    void write(const QString &section, const QString &key, const QString &value) override
+    {
+        pending.push_back({{section, key}, value});
+        order.push_back((section + u'/' + key).toStdString());
+    }
+    std::optional<QString> save() override
+    {
+        if (failure)
+            return failure;
+        for (const auto &[address, value] : pending)
+            saved[address] = value;
+        pending.clear();
+        ++saves;
+        return std::nullopt;
+    }
+    std::optional<QString> problem() const override { return failure; }
+
+    std::string value(const char *section, const char *key) const
+    {
+        return read(QLatin1String(section), QLatin1String(key), QStringLiteral("(missing)")).toStdString();
+    }
+    void put(const char *section, const char *key, const QString &value)
+    {
+        saved[{QLatin1String(section), QLatin1String(key)}] = value;
+    }
+
+    std::map<std::pair<QString, QString>, QString> saved;
+    std::vector<std::pair<std::pair<QString, QString>, QString>> pending;
+    std::vector<std::string> order; ///< "section/key" of every write
+    int saves = 0;
+    std::optional<QString> failure;
+};
+
+} // namespace nimb::test

@@ -1,0 +1,124 @@
+// A network inside one process: datagrams in a queue, delivered when a test says so.
+#pragma once
+
+#include "protocol/winsock.h"
+
+#include <deque>
+#include <map>
+#include <ostream>
+#include <vector>
+
+namespace nimb::test
+{
+
+/// A datagram as a test expects it.
+struct To {
+    std::string ip;
+    std::string bytes;
+    bool operator==(const To &) const = default;
+    friend std::ostream &operator<<(std::ostream &out, const To &to) { return out << to.ip << " <- \"" << to.bytes << '"'; }
+};
+
+class SimulatedWinsock;
+
+/// Delivers in order, to the socket that has the address and listens; what goes elsewhere is lost.
+class SimulatedNetwork
+{
+public:
+    void attach(SimulatedWinsock &socket);
+    void detach(const SimulatedWinsock &socket);
+    void send(const QString &from, const QString &to, const std::string &bytes) { m_wire.push_back({from, to, bytes}); }
+    /// Delivers what is under way and everything that it provokes.
+    void settle();
+
+private:
+    struct Flight {
+        QString from, to;
+        std::string bytes;
+    };
+    std::map<QString, SimulatedWinsock *> m_sockets;
+    std::deque<Flight> m_wire;
+};
+
+class SimulatedWinsock : public Winsock
+{
+public:
+    SimulatedWinsock(QString ip, QString host, SimulatedNetwork *network) :
+        m_ip(std::move(ip)), m_host(std::move(host)), m_network(network)
+    {
+        if (m_network)
+            m_network->attach(*this);
+    }
+    ~SimulatedWinsock() override
+    {
+        if (m_network)
+            m_network->detach(*this);
+    }
+
+    void setLocalPort(std::uint16_t port) override { localPort = port; }
+    void setRemotePort(std::uint16_t port) override { remotePort = port; }
+    void setRemoteHost(const QString &address) override { m_remoteHost = address; }
+    bool bind() override
+    {
+        m_bound = !portTaken;
+        return m_bound;
+    }
+    bool isBound() const override { return m_bound; }
+    void SendData(const std::string &bytes) override
+    {
+        if (!m_bound)
+            return;
+        sent.push_back({m_remoteHost.toStdString(), bytes});
+        if (m_network)
+            m_network->send(m_ip, m_remoteHost, bytes);
+    }
+    std::string GetData(std::size_t byteCount) override { return m_arrived.substr(0, byteCount); }
+    QString RemoteHostIP() const override { return m_source; }
+    QString LocalIP() const override { return m_ip; }
+    QString LocalHostName() const override { return m_host; }
+
+    void arrive(const QString &from, const std::string &bytes)
+    {
+        m_source = from;
+        m_arrived = bytes;
+        if (DataArrival)
+            DataArrival(bytes.size());
+    }
+
+    bool portTaken = false;
+    std::uint16_t localPort = 0;
+    std::uint16_t remotePort = 0;
+    std::vector<To> sent;
+
+private:
+    QString m_ip;
+    QString m_host;
+    SimulatedNetwork *m_network;
+    QString m_remoteHost;
+    QString m_source;
+    std::string m_arrived;
+    bool m_bound = false;
+};
+
+inline void SimulatedNetwork::attach(SimulatedWinsock &socket)
+{
+    m_sockets[socket.LocalIP()] = &socket;
+}
+
+inline void SimulatedNetwork::detach(const SimulatedWinsock &socket)
+{
+    m_sockets.erase(socket.LocalIP());
+}
+
+inline void SimulatedNetwork::settle()
+{
+    while (!m_wire.empty()) {
+        const Flight flight = m_wire.front();
+        m_wire.pop_front();
+        const auto socket = m_sockets.find(flight.to);
+        if (socket != m_sockets.end() && socket->second->isBound())
+            socket->second->arrive(flight.from, flight.bytes);
+    }
+}
+
+} // namespace nimb::test

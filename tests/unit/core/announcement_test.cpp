@@ -1,0 +1,128 @@
+#include "copy.h"
+
+namespace nimb::test
+{
+namespace
+{
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(Announcement, AsksEveryContactInListOrderAndTellsTheFreshState)
+{
+    Copy copy({.contacts = {{"10.0.0.3", "Ben"}, {"10.0.0.2", "Ann"}}});
+    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!STATUS Online"},
+                                         To{"10.0.0.3", "?ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.3", "!STATUS Online"}));
+    EXPECT_FALSE(copy.view.rescanEnabled);
+    EXPECT_TRUE(copy.common.announcing);
+}
+
+TEST(Announcement, MarksOnlyTheSilentContactsOffline)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}}});
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC-ANN Ann");
+    copy.advance(999ms);
+    EXPECT_EQ(copy.contact("10.0.0.3").picture, Picture::yellow);
+    EXPECT_TRUE(copy.common.announcing);
+    copy.advance(1ms);
+    EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::green);
+    EXPECT_EQ(copy.contact("10.0.0.3").picture, Picture::red);
+    EXPECT_EQ(copy.contact("10.0.0.3").sortKey, QStringLiteral("C_BEN"));
+    EXPECT_TRUE(copy.view.rescanEnabled);
+    EXPECT_FALSE(copy.common.announcing);
+    EXPECT_EQ(copy.view.menuRefreshes, 1);
+}
+
+TEST(Announcement, TurnsContactsYellowWithCapitalKeysAndEmptiesTheirState)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.settleStart({"10.0.0.2"});
+    copy.arrive("10.0.0.2", "!STATUS BUSY");
+    copy.announce();
+    EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::yellow);
+    EXPECT_EQ(copy.contact("10.0.0.2").sortKey, QStringLiteral("B_ANN"));
+    EXPECT_EQ(copy.contact("10.0.0.2").state, QString());
+}
+
+TEST(Announcement, TheStateOnlineInCapitalsIsNotTold)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.engine.ownState().choose(1);
+    copy.sent();
+    copy.announce();
+    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Me"}));
+}
+
+TEST(Announcement, APersonalisedTextIsTold)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.settleStart();
+    copy.engine.ownState().addPersonalized(Picture::busy, QStringLiteral("In a meeting"));
+    copy.announce();
+    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!STATUS BUSY In a meeting"}));
+}
+
+TEST(Announcement, RunningAgainStartsTheSecondOver)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.advance(900ms);
+    copy.announce();
+    copy.advance(900ms);
+    EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::yellow);
+    copy.advance(100ms);
+    EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::red);
+}
+
+class LongAnnouncement : public testing::Test
+{
+protected:
+    static CopySetup thousand()
+    {
+        CopySetup setup;
+        for (int i = 0; i < 1000; ++i)
+            setup.contacts.push_back({QStringLiteral("10.0.%1.%2").arg(i / 200 + 1).arg(i % 200 + 1), QStringLiteral("N%1").arg(i, 4, 10, QLatin1Char('0'))});
+        return setup;
+    }
+    Copy copy{thousand()};
+};
+
+TEST_F(LongAnnouncement, ReadsAnswersBetweenItsBatches)
+{
+    EXPECT_LT(copy.socket.sent.size(), 2000u);
+    const QString first = QString::fromStdString(copy.socket.sent.front().ip);
+    copy.arrive(first.toLatin1().constData(), "!ONLINE x PC N0000");
+    copy.advance(0ms);
+    EXPECT_EQ(copy.sent().size(), 2000u);
+    copy.advance(1000ms);
+    EXPECT_EQ(copy.engine.contacts().find(first)->picture, Picture::green);
+    EXPECT_EQ(copy.engine.contacts().at(1).picture, Picture::red);
+    EXPECT_EQ(copy.engine.contacts().at(999).picture, Picture::red);
+}
+
+TEST_F(LongAnnouncement, TurnsAContactYellowOnlyWithItsOwnQuestion)
+{
+    copy.advance(1000ms);
+    copy.announce();
+    int yellow = 0;
+    for (int row = 0; row < 1000; ++row)
+        yellow += copy.engine.contacts().at(row).picture == Picture::yellow;
+    EXPECT_GT(yellow, 0);
+    EXPECT_LT(yellow, 1000);
+}
+
+TEST_F(LongAnnouncement, SkipsContactsRemovedMeanwhileAndWaitsAfterTheLastQuestion)
+{
+    copy.engine.contacts().remove(QStringLiteral("10.0.5.200"));
+    copy.advance(0ms);
+    for (const To &datagram : copy.sent())
+        EXPECT_NE(datagram.ip, "10.0.5.200");
+    EXPECT_TRUE(copy.common.announcing);
+    copy.advance(999ms);
+    EXPECT_TRUE(copy.common.announcing);
+    copy.advance(1ms);
+    EXPECT_FALSE(copy.common.announcing);
+}
+
+} // namespace
+} // namespace nimb::test

@@ -1,0 +1,109 @@
+#include "copy.h"
+
+namespace nimb::test
+{
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+QString ip(const char *address)
+{
+    return QLatin1String(address);
+}
+
+TEST(RemoveUser, AsksAndRemovesOnOk)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann", "PC-ANN"}}});
+    copy.sent();
+    copy.engine.contactCommands().mnuRemoveUser(ip("10.0.0.2"));
+    EXPECT_THAT(copy.prompts.asked, ElementsAre("Please confirm user removal: Are you sure you want to remove the user 'Ann' on "
+                                                "workstation 'PC-ANN' (10.0.0.2) ?"));
+    EXPECT_FALSE(copy.knows("10.0.0.2"));
+    EXPECT_THAT(copy.sent(), IsEmpty());
+}
+
+TEST(RemoveUser, ChangesNothingOnCancel)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.prompts.answer = false;
+    copy.engine.contactCommands().mnuRemoveUser(ip("10.0.0.2"));
+    EXPECT_TRUE(copy.knows("10.0.0.2"));
+}
+
+TEST(RemoveUser, DoesNothingWithoutASelectedRow)
+{
+    Copy copy;
+    copy.engine.contactCommands().mnuRemoveUser({});
+    EXPECT_THAT(copy.prompts.asked, IsEmpty());
+}
+
+TEST(RemoveUser, PlaceMarkersInNamesAreNames)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "%2 %3", "%1"}}});
+    copy.prompts.answer = false;
+    copy.engine.contactCommands().mnuRemoveUser(ip("10.0.0.2"));
+    EXPECT_THAT(copy.prompts.asked, ElementsAre("Please confirm user removal: Are you sure you want to remove the user '%2 %3' on "
+                                                "workstation '%1' (10.0.0.2) ?"));
+}
+
+TEST(ContextMenu, CaptionsNameTheSelectedContact)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.settleStart({"10.0.0.2"});
+    const ContactMenuCaptions captions = copy.engine.contactCommands().captions(ip("10.0.0.2"));
+    EXPECT_EQ(captions.mnuPrivateChat, QStringLiteral("Private chat with 'Ann'"));
+    EXPECT_EQ(captions.mnuBuzzUser, QStringLiteral("Buzz 'Ann'"));
+    EXPECT_EQ(captions.mnuRemoveUser, QStringLiteral("Remove 'Ann' from the list"));
+    EXPECT_EQ(captions.mnusendcontacts, QStringLiteral("Send &contacts to 'Ann'"));
+    EXPECT_EQ(captions.mnuinviteuser, QStringLiteral("I&nvite user 'Ann'"));
+}
+
+TEST(ContextMenu, AnOfflineContactIsReachedByNetSend)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.settleStart();
+    EXPECT_EQ(copy.engine.contactCommands().captions(ip("10.0.0.2")).mnuinviteuser, QStringLiteral("&Net send message to 'Ann'"));
+}
+
+TEST(ContextMenu, WithoutSelectionTheCaptionsNameNobody)
+{
+    const ContactMenuCaptions captions = Copy().engine.contactCommands().captions({});
+    EXPECT_EQ(captions.mnuPrivateChat, QStringLiteral("&Private Chat"));
+    EXPECT_EQ(captions.mnuBuzzUser, QStringLiteral("&Buzz User"));
+    EXPECT_EQ(captions.mnuRemoveUser, QStringLiteral("Re&move User"));
+    EXPECT_EQ(captions.mnusendcontacts, QStringLiteral("Send &Contacts"));
+    EXPECT_EQ(captions.mnuinviteuser, QStringLiteral("I&nvite user"));
+}
+
+TEST(ToolTip, ShowsNicknameAndState)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.settleStart({"10.0.0.2"});
+    EXPECT_EQ(copy.engine.contactCommands().toolTip(ip("10.0.0.2")), QStringLiteral("Ann"));
+    copy.arrive("10.0.0.2", "!STATUS BUSY In a meeting");
+    EXPECT_EQ(copy.engine.contactCommands().toolTip(ip("10.0.0.2")), QStringLiteral("Ann: BUSY - In a meeting"));
+    EXPECT_EQ(copy.engine.contactCommands().toolTip({}), QString());
+}
+
+TEST(PrivateChatCommand, DoesNothingForAContactNotYetKnown)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.engine.contactCommands().mnuPrivateChat(ip("10.0.0.2"));
+    EXPECT_THAT(copy.privateForms.views, IsEmpty());
+    copy.settleStart();
+    copy.engine.contactCommands().mnuPrivateChat(ip("10.0.0.2"));
+    ASSERT_EQ(copy.privateForms.views.size(), 1u);
+    EXPECT_THAT(copy.window(1).shows, ElementsAre(ShowMode::active));
+}
+
+TEST(PrivateChatCommand, DoesNothingWithoutASelectedRow)
+{
+    Copy copy;
+    copy.engine.contactCommands().mnuPrivateChat({});
+    EXPECT_THAT(copy.privateForms.views, IsEmpty());
+}
+
+} // namespace
+} // namespace nimb::test

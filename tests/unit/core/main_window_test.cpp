@@ -1,0 +1,134 @@
+#include "copy.h"
+
+namespace nimb::test
+{
+namespace
+{
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(MainWindowLoad, SetsCaptionPlaceBannerPortsContactsAndIcon)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}, .settings = {{"Settings/MainLeft", "300"}, {"Settings/UDPPort", "6000"}}});
+    EXPECT_EQ(copy.view.shownCaption, QStringLiteral("NIMB-Chat 1.2 - Me"));
+    EXPECT_EQ(copy.view.shownPlace.left, 300);
+    EXPECT_EQ(copy.view.shownPlace.height, 6200);
+    EXPECT_EQ(copy.socket.localPort, 6000);
+    EXPECT_EQ(copy.socket.remotePort, 6000);
+    EXPECT_THAT(copy.view.log.lines(), ElementsAre("« NIMB-Chat [today:21/11/2026 - now:14:05:09] Ready »"));
+    EXPECT_EQ(copy.view.log.colourOfLastPiece(), 0xA0A0A0u);
+    EXPECT_THAT(copy.names(), ElementsAre("Ann"));
+    EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::yellow);
+    EXPECT_THAT(copy.steps, ElementsAre("AddIcon NIMB-Chat"));
+}
+
+TEST(MainWindowLoad, WithNoSettingStoredThePortIs5549)
+{
+    EXPECT_EQ(Copy().socket.localPort, 5549);
+}
+
+TEST(MainWindowLoad, TheCaptionEndsWithTheWholeNickname)
+{
+    EXPECT_EQ(Copy({.nickname = QStringLiteral("Bob the Builder")}).view.shownCaption, QStringLiteral("NIMB-Chat 1.2 - Bob the Builder"));
+}
+
+TEST(MainWindowClose, TheCloseBoxHidesWhenTheOptionSaysSo)
+{
+    Copy copy({.settings = {{"Options/CloseButtonDoesMinimize", "1"}}});
+    EXPECT_EQ(copy.engine.mainWindow().Form_QueryUnload(UnloadMode::closeBox), CloseDecision::hide);
+    EXPECT_EQ(copy.engine.mainWindow().Form_QueryUnload(UnloadMode::code), CloseDecision::unload);
+    EXPECT_EQ(copy.engine.mainWindow().Form_QueryUnload(UnloadMode::sessionEnd), CloseDecision::unload);
+}
+
+TEST(MainWindowClose, WithoutATrayTheWindowIsMinimisedInsteadOfHidden)
+{
+    Copy copy({.settings = {{"Options/CloseButtonDoesMinimize", "1"}}});
+    copy.tray.shown = false;
+    EXPECT_EQ(copy.engine.mainWindow().Form_QueryUnload(UnloadMode::closeBox), CloseDecision::minimise);
+}
+
+TEST(MainWindowClose, TheCloseBoxEndsTheProgramOtherwise)
+{
+    for (const char *value : {"0", "2", "-1"}) {
+        Copy copy({.settings = {{"Options/CloseButtonDoesMinimize", QLatin1String(value)}}});
+        EXPECT_EQ(copy.engine.mainWindow().Form_QueryUnload(UnloadMode::closeBox), CloseDecision::unload) << value;
+    }
+}
+
+TEST(MainWindowUnload, EndsEverythingInOrder)
+{
+    Copy copy;
+    copy.steps.clear();
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_THAT(copy.steps, ElementsAre("unload conferences", "unload private windows", "unload notify", "unload invitations",
+                                        "unload tip", "remove icon"));
+}
+
+TEST(MainWindowUnload, EveryContactGetsItsOwnFarewellWhateverItsState)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}}});
+    copy.settleStart({"10.0.0.3"});
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.3", "!OFFLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!OFFLINE 10.0.0.1 HERE Me"}));
+}
+
+TEST(MainWindowUnload, SavesContactsThenTheirEndThenTheSettingsInOneSave)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.engine.mainWindow().Form_Unload();
+    ASSERT_GE(copy.settings.order.size(), 5u);
+    const std::vector<std::string> first(copy.settings.order.begin(), copy.settings.order.begin() + 5);
+    EXPECT_THAT(first, ElementsAre("Users/IP1", "Users/Nn1", "Users/Ws1", "Users/IP2", "Settings/UDPPort"));
+    EXPECT_EQ(copy.settings.order.back(), "Settings/PersonalizedState8");
+    EXPECT_EQ(copy.settings.saves, 1);
+}
+
+TEST(MainWindowUnload, SavesThePlaceOfTheNormalWindow)
+{
+    Copy copy;
+    copy.view.shownPlace = {1500, 750, 6000};
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_EQ(copy.settings.value("Settings", "MainLeft"), "1500");
+    EXPECT_EQ(copy.settings.value("Settings", "MainTop"), "750");
+    EXPECT_EQ(copy.settings.value("Settings", "MainHeight"), "6000");
+}
+
+TEST(MainWindowUnload, ClosesThePrivateWindowsWithoutAsking)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.arrive("10.0.0.2", "-hello");
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_TRUE(copy.window(1).gone);
+}
+
+TEST(MainWindowUnload, AFailedSaveIsToldToTheUser)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.settings.failure = QStringLiteral("The disk is full.");
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_THAT(copy.prompts.told, ElementsAre("NIMB-Chat: The disk is full."));
+    EXPECT_EQ(copy.settings.saves, 0);
+    EXPECT_EQ(copy.steps.back(), "remove icon");
+}
+
+TEST(MainWindowUnload, AStoreThatCannotBeUsedIsSaidAtTheStart)
+{
+    Copy copy({.loaded = false});
+    copy.settings.failure = QStringLiteral("The settings cannot be read.");
+    copy.engine.mainWindow().Form_Load();
+    EXPECT_EQ(copy.view.log.lastLine(), "The settings cannot be read.");
+    EXPECT_EQ(copy.view.log.colourOfLastPiece(), 0x0000FFu);
+}
+
+TEST(MainLog, ClearingLeavesExactlyOneBanner)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.arrive("10.0.0.2", "garbage");
+    copy.engine.log().clear();
+    EXPECT_THAT(copy.view.log.lines(), ElementsAre("« NIMB-Chat [today:21/11/2026 - now:14:05:09] Ready »"));
+}
+
+} // namespace
+} // namespace nimb::test

@@ -1,0 +1,46 @@
+#include "copy.h"
+
+namespace nimb::test
+{
+namespace
+{
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+TEST(PortWatch, ATakenPortIsSaidInTheLogAndTheStatusBar)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}, .portTaken = true});
+    EXPECT_EQ(copy.view.log.lines().size(), 2u);
+    EXPECT_THAT(copy.view.log.lastLine(), HasSubstr("Port 5549 is used by another program"));
+    EXPECT_EQ(copy.view.log.colourOfLastPiece(), 0x0000FFu);
+    EXPECT_EQ(copy.view.trouble, QStringLiteral("Port 5549 is taken"));
+    EXPECT_THAT(copy.sent(), IsEmpty());
+}
+
+TEST(PortWatch, TriesAgainEveryFiveSecondsAndThenAnnounces)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}, .portTaken = true});
+    copy.advance(14999ms);
+    EXPECT_EQ(copy.view.log.lines().size(), 2u);
+    copy.socket.portTaken = false;
+    EXPECT_FALSE(copy.socket.isBound());
+    copy.advance(1ms);
+    EXPECT_TRUE(copy.socket.isBound());
+    EXPECT_EQ(copy.view.trouble, QString());
+    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!STATUS Online"}));
+    copy.advance(60000ms);
+    EXPECT_THAT(copy.sent(), IsEmpty());
+}
+
+TEST(PortWatch, SaysNothingWhenThePortIsFree)
+{
+    Copy copy;
+    EXPECT_EQ(copy.view.log.lines().size(), 1u);
+    EXPECT_EQ(copy.view.trouble, QString());
+}
+
+} // namespace
+} // namespace nimb::test

@@ -1,0 +1,288 @@
+#include "copy.h"
+
+#include "core/limits.h"
+
+namespace nimb::test
+{
+namespace
+{
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// Ann is online, Ben offline; the announcement of the start is over.
+class PresenceTest : public testing::Test
+{
+protected:
+    PresenceTest() { copy.settleStart({"10.0.0.2"}); }
+
+    /// Opens Ann's private window and empties its log.
+    RecorderLog &annsLog()
+    {
+        copy.arrive("10.0.0.2", "-x");
+        copy.window(1).log.clear();
+        copy.sent();
+        return copy.window(1).log;
+    }
+
+    Copy copy{{.contacts = {{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}}}};
+};
+
+TEST_F(PresenceTest, AContactThatComesOnlineIsShownLoggedAndNotified)
+{
+    copy.arrive("10.0.0.3", "!ONLINE 10.0.0.3 PC-BEN Big Ben");
+    EXPECT_EQ(copy.contact("10.0.0.3").picture, Picture::green);
+    EXPECT_EQ(copy.contact("10.0.0.3").nickname, QStringLiteral("Big Ben"));
+    EXPECT_EQ(copy.contact("10.0.0.3").workstation, QStringLiteral("PC-BEN"));
+    EXPECT_EQ(copy.contact("10.0.0.3").sortKey, QStringLiteral("A_BIG BEN"));
+    EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- 21/11/2026 @ 14:05 - Big Ben went online ---"));
+    EXPECT_EQ(copy.view.log.colourOfLastPiece(), 0x808080u);
+    EXPECT_THAT(copy.notifications.rows, ElementsAre("Big Ben is online [green]"));
+    EXPECT_EQ(copy.notifications.starts, 1);
+    EXPECT_THAT(copy.sent(), IsEmpty());
+}
+
+TEST_F(PresenceTest, AnOnlineContactThatSaysSoAgainIsLoggedAgainButNotNotified)
+{
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
+    EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- 21/11/2026 @ 14:05 - Ann went online ---"));
+    EXPECT_THAT(copy.notifications.rows, IsEmpty());
+}
+
+TEST_F(PresenceTest, ABusyOrAwayContactThatComesOnlineIsNotNotified)
+{
+    copy.arrive("10.0.0.2", "!STATUS AWAY");
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
+    EXPECT_THAT(copy.notifications.rows, IsEmpty());
+    EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::green);
+    EXPECT_EQ(copy.contact("10.0.0.2").state, QString());
+}
+
+TEST_F(PresenceTest, AQuestionIsAnsweredWithPresenceAndState)
+{
+    copy.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC Ann");
+    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "!ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!STATUS Online"}));
+    copy.engine.ownState().choose(1);
+    copy.sent();
+    copy.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC Ann");
+    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "!ONLINE 10.0.0.1 HERE Me"}));
+    copy.engine.ownState().addPersonalized(Picture::away, QStringLiteral("Back at five"));
+    copy.sent();
+    copy.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC Ann");
+    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "!ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!STATUS AWAY Back at five"}));
+}
+
+TEST_F(PresenceTest, AnInvisibleCopyDoesNotAnswer)
+{
+    copy.engine.ownState().choose(4);
+    copy.sent();
+    copy.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC Ann");
+    EXPECT_THAT(copy.sent(), IsEmpty());
+}
+
+TEST_F(PresenceTest, WithFewerThanThreeSpacesARowKeepsItsTextsAndStillCounts)
+{
+    copy.arrive("10.0.0.3", "?ONLINE 10.0.0.3 OTHER");
+    EXPECT_EQ(copy.contact("10.0.0.3").nickname, QStringLiteral("Ben"));
+    EXPECT_EQ(copy.contact("10.0.0.3").workstation, QStringLiteral("PC"));
+    EXPECT_EQ(copy.contact("10.0.0.3").picture, Picture::green);
+    EXPECT_EQ(copy.sent().size(), 2u);
+    copy.arrive("10.0.0.3", "!OFFLINE");
+    EXPECT_EQ(copy.contact("10.0.0.3").picture, Picture::red);
+}
+
+TEST_F(PresenceTest, AFarewellIsShownLoggedAndNotified)
+{
+    copy.arrive("10.0.0.2", "!STATUS BUSY");
+    copy.view.log.clear();
+    copy.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Other Name");
+    EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::red);
+    EXPECT_EQ(copy.contact("10.0.0.2").sortKey, QStringLiteral("C_ANN"));
+    EXPECT_EQ(copy.contact("10.0.0.2").state, QString());
+    EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- 21/11/2026 @ 14:05 - Ann has gone offline ---"));
+    EXPECT_EQ(copy.view.log.colourOfLastPiece(), 0x808080u);
+    EXPECT_THAT(copy.notifications.rows, ElementsAre("Ann is offline [red]"));
+}
+
+TEST_F(PresenceTest, StateWordsMatchWithoutRegardToCase)
+{
+    for (const char *busy : {"!STATUS BUSY", "!STATUS busy", "!STATUS Busy", "!STATUS busybody"}) {
+        copy.arrive("10.0.0.2", busy);
+        EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::busy) << busy;
+        EXPECT_EQ(copy.contact("10.0.0.2").sortKey, QStringLiteral("AbANN"));
+    }
+    copy.arrive("10.0.0.2", "!STATUS aWaY");
+    EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::away);
+    EXPECT_EQ(copy.contact("10.0.0.2").sortKey, QStringLiteral("AwANN"));
+    for (const char *other : {"!STATUS ONLINE", "!STATUS Invisible", "!STATUS lunch", "!STATUS", "!STATUS bus"}) {
+        copy.arrive("10.0.0.2", other);
+        EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::green) << other;
+        EXPECT_EQ(copy.contact("10.0.0.2").sortKey, QStringLiteral("A_ANN"));
+    }
+}
+
+TEST_F(PresenceTest, AStateChangeIsLoggedWithoutItsText)
+{
+    copy.arrive("10.0.0.2", "!STATUS away Back at five");
+    EXPECT_EQ(copy.contact("10.0.0.2").state, QStringLiteral("away - Back at five"));
+    EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- 21/11/2026 @ 14:05 - Ann changed his state to 'away'  ---"));
+    EXPECT_EQ(copy.view.log.colourOfLastPiece(), 0xC08000u);
+}
+
+TEST_F(PresenceTest, ABusyContactSortsAfterAllOnlineOnesAndBeforeEveryAwayOne)
+{
+    copy.arrive("10.0.0.3", "!ONLINE 10.0.0.3 PC Zed");
+    copy.arrive("10.0.0.2", "!STATUS BUSY");
+    EXPECT_THAT(copy.names(), ElementsAre("Zed", "Ann"));
+    copy.arrive("10.0.0.3", "!STATUS AWAY");
+    EXPECT_THAT(copy.names(), ElementsAre("Ann", "Zed"));
+}
+
+TEST_F(PresenceTest, PresenceIsLoggedInThePrivateWindow)
+{
+    RecorderLog &log = annsLog();
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
+    copy.arrive("10.0.0.2", "!STATUS BUSY");
+    copy.arrive("10.0.0.2", "!STATUS BUSY till %1");
+    copy.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");
+    EXPECT_THAT(log.lines(), ElementsAre("[21/11/2026 @ 14:05] Ann is online", "[21/11/2026 @ 14:05] Ann changed his state to 'BUSY'",
+                                         "[21/11/2026 @ 14:05] Ann changed his state to 'BUSY - till %1'",
+                                         "[21/11/2026 @ 14:05] Ann has gone offline"));
+    EXPECT_EQ(log.colourOfLastPiece(), 0x808080u);
+}
+
+TEST_F(PresenceTest, PrivateWindowsStaySilentWhenTheOptionIsOff)
+{
+    RecorderLog &log = annsLog();
+    copy.common.options.ShowStatusOnPrivate = 0;
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
+    copy.arrive("10.0.0.2", "!STATUS BUSY");
+    copy.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");
+    EXPECT_THAT(log.lines(), IsEmpty());
+}
+
+TEST_F(PresenceTest, DuringAnAnnouncementOnlyTheMainLogTells)
+{
+    RecorderLog &log = annsLog();
+    copy.announce();
+    copy.view.log.clear();
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
+    copy.arrive("10.0.0.3", "!OFFLINE 10.0.0.3 PC Ben");
+    EXPECT_EQ(copy.view.log.lines().size(), 2u);
+    EXPECT_THAT(copy.notifications.rows, IsEmpty());
+    EXPECT_EQ(copy.notifications.starts, 0);
+    EXPECT_THAT(log.lines(), IsEmpty());
+}
+
+TEST_F(PresenceTest, UnknownCommandsAndGarbageAreLogged)
+{
+    copy.arrive("10.0.0.2", "!FOO");
+    copy.arrive("10.0.0.2", "?");
+    copy.arrive("10.0.0.2", "hello");
+    copy.arrive("10.0.0.2", "");
+    EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- unsupported command received (!FOO) ---", "--- unsupported command received (?) ---",
+                                                   "--- garbage received  (hello) ---", "--- garbage received  () ---"));
+    EXPECT_EQ(copy.view.log.colourOfLastPiece(), 0x0000C0u);
+    EXPECT_THAT(copy.sent(), IsEmpty());
+}
+
+TEST_F(PresenceTest, QuotedGarbageStaysOnItsLine)
+{
+    copy.arrive("10.0.0.2", "a\r\n--- Ben went online ---\tb");
+    EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- garbage received  (a --- Ben went online --- b) ---"));
+}
+
+TEST_F(PresenceTest, LongGarbageIsQuotedInPart)
+{
+    copy.arrive("10.0.0.2", std::string(60000, 'x'));
+    EXPECT_THAT(copy.view.log.lastLine(), testing::EndsWith("x... (52000 more characters)) ---"));
+}
+
+TEST_F(PresenceTest, NamesCannotForgeLines)
+{
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann\r\n--- Ben went online ---");
+    EXPECT_EQ(copy.view.log.lines().size(), 1u);
+    copy.arrive("10.0.0.2", "!STATUS a\r\nb");
+    EXPECT_EQ(copy.contact("10.0.0.2").state, QStringLiteral("a b"));
+}
+
+TEST_F(PresenceTest, ALongNameIsWholeInTheListAndShortInTheNotification)
+{
+    copy.arrive("10.0.0.3", "!ONLINE 10.0.0.3 PC " + std::string(300, 'n'));
+    EXPECT_EQ(copy.contact("10.0.0.3").nickname, QString(255, u'n'));
+    EXPECT_THAT(copy.notifications.rows, ElementsAre(std::string(64, 'n') + "… is online [green]"));
+}
+
+TEST_F(PresenceTest, AnEmptyNicknameIsUnknown)
+{
+    copy.arrive("10.0.0.3", "!ONLINE 10.0.0.3  ");
+    EXPECT_EQ(copy.contact("10.0.0.3").nickname, QStringLiteral("[unknown]"));
+    EXPECT_EQ(copy.contact("10.0.0.3").workstation, QStringLiteral("[unknown]"));
+}
+
+TEST_F(PresenceTest, ANewPeerIsAddedButItsFirstQuestionIsNotAnswered)
+{
+    copy.arrive("10.0.0.9", "?ONLINE 10.0.0.9 PC-ZOE Zoe the First");
+    ASSERT_TRUE(copy.knows("10.0.0.9"));
+    EXPECT_EQ(copy.contact("10.0.0.9").nickname, QStringLiteral("Zoe the First"));
+    EXPECT_EQ(copy.contact("10.0.0.9").workstation, QStringLiteral("PC-ZOE"));
+    EXPECT_EQ(copy.contact("10.0.0.9").picture, Picture::green);
+    EXPECT_EQ(copy.contact("10.0.0.9").sortKey, QStringLiteral("A_ZOE THE FIRST"));
+    EXPECT_EQ(copy.contact("10.0.0.9").state, QString());
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_THAT(copy.view.log.lines(), IsEmpty());
+    EXPECT_THAT(copy.notifications.rows, IsEmpty());
+    copy.arrive("10.0.0.9", "?ONLINE 10.0.0.9 PC-ZOE Zoe");
+    EXPECT_EQ(copy.sent().size(), 2u);
+}
+
+TEST_F(PresenceTest, AStrangersFarewellMakesAnOfflineRow)
+{
+    copy.arrive("10.0.0.9", "!OFFLINE 10.0.0.9 PC-ZOE Zoe");
+    EXPECT_EQ(copy.contact("10.0.0.9").picture, Picture::red);
+    EXPECT_EQ(copy.contact("10.0.0.9").sortKey, QStringLiteral("C_ZOE"));
+}
+
+TEST_F(PresenceTest, TheSourceAddressCountsNotTheClaimedOne)
+{
+    copy.arrive("10.0.0.9", "?ONLINE 10.0.0.77 PC-ZOE Zoe");
+    EXPECT_TRUE(copy.knows("10.0.0.9"));
+    EXPECT_FALSE(copy.knows("10.0.0.77"));
+}
+
+TEST_F(PresenceTest, OwnAndLoopbackDatagramsNeverAddARow)
+{
+    copy.arrive("10.0.0.1", "?ONLINE 10.0.0.1 HERE Me");
+    copy.arrive("127.0.0.1", "?ONLINE 127.0.0.1 HERE Me");
+    EXPECT_FALSE(copy.knows("10.0.0.1"));
+    EXPECT_FALSE(copy.knows("127.0.0.1"));
+}
+
+TEST_F(PresenceTest, OtherDatagramsOfStrangersLeaveNoTrace)
+{
+    copy.arrive("10.0.0.9", "?ONLINE 10.0.0.9 PC-ZOE");
+    copy.arrive("10.0.0.9", "-hello");
+    copy.arrive("10.0.0.9", "!STATUS BUSY");
+    copy.arrive("10.0.0.9", "nonsense");
+    EXPECT_FALSE(copy.knows("10.0.0.9"));
+    EXPECT_THAT(copy.view.log.lines(), IsEmpty());
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_THAT(copy.privateForms.views, IsEmpty());
+    EXPECT_EQ(copy.drops.of(Drop::stranger), 4u);
+}
+
+TEST_F(PresenceTest, StrangersCannotFillTheListWithoutEnd)
+{
+    for (int i = 0; i < 10050; ++i) {
+        const std::string ip = "20." + std::to_string(i / 65536) + '.' + std::to_string(i / 256 % 256) + '.' + std::to_string(i % 256);
+        copy.arrive(ip.c_str(), "!ONLINE " + ip + " PC N");
+    }
+    EXPECT_EQ(copy.engine.contacts().rowCount(), 10002);
+    EXPECT_EQ(copy.drops.of(Drop::tooManyContacts), 50u);
+    copy.arrive("224.0.0.5", "!ONLINE 224.0.0.5 PC N");
+    EXPECT_EQ(copy.drops.of(Drop::badAddress), 1u);
+}
+
+} // namespace
+} // namespace nimb::test

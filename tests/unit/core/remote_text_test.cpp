@@ -1,0 +1,78 @@
+#include "core/remote_text.h"
+
+#include <gtest/gtest.h>
+
+namespace nimb
+{
+namespace
+{
+
+TEST(RemoteText, ACutNeverSplitsASurrogatePairOrALineBreak)
+{
+    EXPECT_EQ(cutText(QStringLiteral("abcd"), 4), QStringLiteral("abcd"));
+    EXPECT_EQ(cutText(QStringLiteral("abcd"), 3), QStringLiteral("abc"));
+    EXPECT_EQ(cutText(QStringLiteral("ab\U0001F600"), 3), QStringLiteral("ab"));
+    EXPECT_EQ(cutText(QStringLiteral("ab\U0001F600x"), 4), QStringLiteral("ab\U0001F600"));
+    EXPECT_EQ(cutText(QStringLiteral("ab\r\ncd"), 3), QStringLiteral("ab"));
+    EXPECT_EQ(cutText(QStringLiteral("ab\r\ncd"), 4), QStringLiteral("ab\r\n"));
+    EXPECT_EQ(cutText(QStringLiteral("ab"), 0), QString());
+}
+
+TEST(RemoteText, ANameCannotForgeALine)
+{
+    EXPECT_EQ(remoteName(QStringLiteral("Ann\r\n--- Ben\tx\n")), QStringLiteral("Ann --- Ben x "));
+    EXPECT_EQ(remoteName(QString::fromUtf16(u"A\u2028B\u2029C\u0085D\u000BE")), QStringLiteral("A B C D E"));
+    EXPECT_EQ(remoteName(QString::fromUtf16(u"A\0B\uFDD0C\uFFFCD", 7)), QStringLiteral("A B C D"));
+}
+
+TEST(RemoteText, DirectionOverridesAreDroppedInNames)
+{
+    EXPECT_EQ(remoteName(QString::fromUtf16(u"A\u202Enn\u202C\u2067x\u2069")), QStringLiteral("Annx"));
+    // Marks that only say which way a letter goes belong to names of such scripts.
+    EXPECT_EQ(remoteName(QString::fromUtf16(u"A\u200Fb")), QString::fromUtf16(u"A\u200Fb"));
+}
+
+TEST(RemoteText, NamesAreKeptTo255Characters)
+{
+    EXPECT_EQ(remoteName(QString(300, u'x')).size(), 255);
+    EXPECT_EQ(remoteName(QString(255, u'x')).size(), 255);
+}
+
+TEST(RemoteText, EveryLineBreakOfAMessageIsCrLf)
+{
+    EXPECT_EQ(remoteBody(QStringLiteral("a\nb\rc\r\nd\te")), QStringLiteral("a\r\nb\r\nc\r\nd\te"));
+    EXPECT_EQ(remoteBody(QString::fromUtf16(u"a\u2029b")), QStringLiteral("a\r\nb"));
+    EXPECT_EQ(remoteBody(QString::fromUtf16(u"a\u0007b\u001Bc")), QStringLiteral("a b c"));
+}
+
+TEST(RemoteText, AnOpenDirectionOverrideEndsWithItsLine)
+{
+    EXPECT_EQ(shownText(QString::fromUtf16(u"a\u202Eb\r\nc")), QString::fromUtf16(u"a\u202Eb\u202C\r\nc"));
+    EXPECT_EQ(shownText(QString::fromUtf16(u"\u2067\u202Ex")), QString::fromUtf16(u"\u2067\u202Ex\u202C\u2069"));
+    EXPECT_EQ(shownText(QString::fromUtf16(u"\u202Ex\u202C")), QString::fromUtf16(u"\u202Ex\u202C"));
+}
+
+TEST(RemoteText, ALongTextIsShownInPartAndSaysSo)
+{
+    EXPECT_EQ(shownText(QString(8000, u'x')), QString(8000, u'x'));
+    EXPECT_EQ(shownText(QString(8123, u'x')), QString(8000, u'x') + QStringLiteral("... (123 more characters)"));
+}
+
+TEST(RemoteText, NamesInMenusAreShortAndBearNoAccessKey)
+{
+    EXPECT_EQ(menuName(QStringLiteral("A & B")), QStringLiteral("A && B"));
+    EXPECT_EQ(menuName(QString(65, u'x')), QString(64, u'x') + QChar(0x2026));
+    EXPECT_EQ(menuName(QString(64, u'x')), QString(64, u'x'));
+}
+
+TEST(RemoteText, OnlyUnicastAddressesMakeContacts)
+{
+    for (const char *good : {"10.0.0.2", "192.168.1.255", "127.0.1.2", "223.255.255.255", "1.0.0.0"})
+        EXPECT_TRUE(isUnicastAddress(QLatin1String(good))) << good;
+    for (const char *bad : {"", "10.0.0", "10.0.0.2.3", "10.0.0.256", "0.1.2.3", "224.0.0.1", "255.255.255.255",
+                            "240.0.0.1", "10.0.0.02", "10.0.0.-1", "10.0.0.+1", "10.0.0. 1", "a.b.c.d", "::1"})
+        EXPECT_FALSE(isUnicastAddress(QLatin1String(bad))) << bad;
+}
+
+} // namespace
+} // namespace nimb

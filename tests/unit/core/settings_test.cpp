@@ -1,0 +1,197 @@
+#include "copy.h"
+
+#include "core/settings.h"
+
+namespace nimb::test
+{
+namespace
+{
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+TEST(Settings, AnEmptyStoreGivesTheDefaults)
+{
+    Common common;
+    const LoadedSettings loaded = loadSettings(MemoryStore(), common);
+    EXPECT_EQ(common.mainPlace.left, 1000);
+    EXPECT_EQ(common.mainPlace.top, 1000);
+    EXPECT_EQ(common.mainPlace.height, 6200);
+    EXPECT_EQ(common.udpPort, 5549);
+    EXPECT_EQ(common.options.ShowStatusOnPrivate, 1);
+    EXPECT_EQ(common.options.BuzzLocal, 0);
+    EXPECT_EQ(common.options.BuzzRemote, 1);
+    EXPECT_EQ(common.options.PrivateBehaviour, 0);
+    EXPECT_EQ(common.options.DontDestroyWindow, 0);
+    EXPECT_EQ(common.options.NotifyWin, 1);
+    EXPECT_EQ(common.options.LiveType, 1);
+    EXPECT_EQ(common.options.CloseButtonDoesMinimize, 0);
+    EXPECT_EQ(common.autoReply.busyText, QStringLiteral("I'm busy, please do not disturb"));
+    EXPECT_EQ(common.autoReply.awayText, QStringLiteral("At the moment I'm not at my PC"));
+    EXPECT_FALSE(common.autoReply.onBusy);
+    EXPECT_FALSE(common.autoReply.onAway);
+    EXPECT_EQ(common.logFont.face, QStringLiteral("MS Sans Serif"));
+    EXPECT_EQ(common.logFont.size, 8);
+    EXPECT_EQ(common.logFont.style, QString());
+    EXPECT_EQ(common.avatarHead, QString());
+    EXPECT_TRUE(common.avatarBody.isEmpty());
+    EXPECT_EQ(loaded.personalizedStates.join(QString()), QString());
+    EXPECT_THAT(loaded.notices, IsEmpty());
+}
+
+TEST(Settings, TheDefaultsInMemoryAreThoseOfTheTable)
+{
+    Common loaded;
+    loadSettings(MemoryStore(), loaded);
+    const Common made;
+    EXPECT_EQ(made.udpPort, loaded.udpPort);
+    EXPECT_EQ(made.logFont, loaded.logFont);
+    EXPECT_EQ(made.autoReply.busyText, loaded.autoReply.busyText);
+    EXPECT_EQ(made.mainPlace.height, loaded.mainPlace.height);
+}
+
+TEST(Settings, TheTableHasEveryKeyOnceInItsSection)
+{
+    std::vector<std::string> options;
+    std::set<std::string> keys;
+    for (const SettingKey &row : settingKeys) {
+        EXPECT_TRUE(keys.insert(row.key).second) << row.key;
+        EXPECT_STRNE(row.meaning, "");
+        if (std::string(row.section) == "Options")
+            options.push_back(row.key);
+        else
+            EXPECT_STREQ(row.section, "Settings");
+    }
+    EXPECT_THAT(options, ElementsAre("ShowStatusOnPrivate", "BuzzLocal", "BuzzRemote", "PrivateBehaviour", "DontDestroyWindow",
+                                     "NotifyWin", "LiveType", "CloseButtonDoesMinimize", "TipOTDay", "TipOTDayNum"));
+    EXPECT_EQ(keys.size(), 27u);
+}
+
+TEST(Settings, SavingKeepsItsOrder)
+{
+    MemoryStore store;
+    saveSettings(store, Common(), {});
+    EXPECT_THAT(store.order,
+                ElementsAre("Settings/UDPPort", "Options/ShowStatusOnPrivate", "Options/BuzzLocal", "Options/BuzzRemote",
+                            "Options/PrivateBehaviour", "Options/DontDestroyWindow", "Options/NotifyWin", "Options/LiveType",
+                            "Options/CloseButtonDoesMinimize", "Settings/MainLeft", "Settings/MainTop", "Settings/MainHeight",
+                            "Settings/AvatarHead", "Settings/AvatarBody", "Settings/AutoReplyonBusyActive",
+                            "Settings/AutoReplyonAwayActive", "Settings/AutoReplyonBusyText", "Settings/AutoReplyonawayText",
+                            "Settings/StandardFontSize", "Settings/StandardFontFace", "Settings/StandardFontStyle",
+                            "Settings/PersonalizedState1", "Settings/PersonalizedState2", "Settings/PersonalizedState3",
+                            "Settings/PersonalizedState4", "Settings/PersonalizedState5", "Settings/PersonalizedState6",
+                            "Settings/PersonalizedState7", "Settings/PersonalizedState8"));
+}
+
+TEST(Settings, ATrueFlagIsStoredAsMinusOneAndReadAsActive)
+{
+    Common common;
+    common.autoReply.onBusy = true;
+    MemoryStore store;
+    saveSettings(store, common, {});
+    store.save();
+    EXPECT_EQ(store.value("Settings", "AutoReplyonBusyActive"), "-1");
+    EXPECT_EQ(store.value("Settings", "AutoReplyonAwayActive"), "0");
+    Common next;
+    loadSettings(store, next);
+    EXPECT_TRUE(next.autoReply.onBusy);
+    EXPECT_FALSE(next.autoReply.onAway);
+}
+
+TEST(Settings, AnyNonZeroNumberIsTrue)
+{
+    MemoryStore store;
+    store.put("Settings", "AutoReplyonAwayActive", QStringLiteral("1"));
+    Common common;
+    loadSettings(store, common);
+    EXPECT_TRUE(common.autoReply.onAway);
+}
+
+TEST(Settings, EverythingComesBackAsItWasSaved)
+{
+    Common common;
+    common.mainPlace = {-150, 2020.5, 7000};
+    common.udpPort = 65535;
+    common.options = {0, 1, 0, 1, 1, 0, 0, 1};
+    common.avatarHead = QStringLiteral("2026-11-21");
+    for (int i = 0; i < 7500; ++i)
+        common.avatarBody.append(static_cast<char>(i));
+    common.autoReply = {true, true, QStringLiteral("a\r\nb"), QStringLiteral("ü")};
+    common.logFont = {QStringLiteral("DejaVu Sans"), 24, QStringLiteral("bi")};
+    MemoryStore store;
+    saveSettings(store, common, {QStringLiteral("4x")});
+    store.save();
+    Common next;
+    const LoadedSettings loaded = loadSettings(store, next);
+    EXPECT_EQ(next.mainPlace.left, -150);
+    EXPECT_EQ(next.mainPlace.top, 2020.5);
+    EXPECT_EQ(next.udpPort, 65535);
+    EXPECT_EQ(next.options.PrivateBehaviour, 1);
+    EXPECT_EQ(next.options.ShowStatusOnPrivate, 0);
+    EXPECT_EQ(next.avatarBody, common.avatarBody);
+    EXPECT_EQ(next.autoReply.busyText, QStringLiteral("a\r\nb"));
+    EXPECT_EQ(next.autoReply.awayText, QStringLiteral("ü"));
+    EXPECT_EQ(next.logFont, common.logFont);
+    EXPECT_EQ(loaded.personalizedStates.front(), QStringLiteral("4x"));
+    EXPECT_THAT(loaded.notices, IsEmpty());
+}
+
+TEST(Settings, ABodyWithoutAHeadIsDropped)
+{
+    Common common;
+    common.avatarBody = QByteArray(7500, 'x');
+    MemoryStore store;
+    saveSettings(store, common, {});
+    store.save();
+    EXPECT_EQ(store.value("Settings", "AvatarHead"), "");
+    EXPECT_EQ(store.value("Settings", "AvatarBody"), "");
+}
+
+class MalformedSetting : public testing::TestWithParam<const char *>
+{
+};
+
+TEST_P(MalformedSetting, GivesTheDefaultAndOneNotice)
+{
+    MemoryStore store;
+    for (const char *key : {"MainLeft", "MainHeight", "UDPPort", "AutoReplyonBusyActive", "StandardFontSize"})
+        store.put("Settings", key, QString::fromUtf8(GetParam()));
+    store.put("Options", "BuzzRemote", QString::fromUtf8(GetParam()));
+    Common common;
+    const LoadedSettings loaded = loadSettings(store, common);
+    EXPECT_EQ(common.mainPlace.left, 1000);
+    EXPECT_EQ(common.mainPlace.height, 6200);
+    EXPECT_EQ(common.udpPort, 5549);
+    EXPECT_FALSE(common.autoReply.onBusy);
+    EXPECT_EQ(common.logFont.size, 8);
+    EXPECT_EQ(common.options.BuzzRemote, 1);
+    EXPECT_EQ(loaded.notices.size(), 6);
+    EXPECT_THAT(loaded.notices.front().toStdString(), HasSubstr("MainLeft"));
+}
+
+INSTANTIATE_TEST_SUITE_P(, MalformedSetting,
+                         testing::Values("", "abc", "12abc", "nan", "inf", "1e300", "99999999999999999999", "0x10", "--1", "1,5"));
+
+TEST(Settings, APortOutsideItsRangeIsThe5549)
+{
+    for (const char *port : {"0", "65536", "-1", "5549.5"}) {
+        MemoryStore store;
+        store.put("Settings", "UDPPort", QLatin1String(port));
+        Common common;
+        EXPECT_EQ(loadSettings(store, common).notices.size(), 1) << port;
+        EXPECT_EQ(common.udpPort, 5549) << port;
+    }
+}
+
+TEST(Settings, NoticesStandInTheMainLogAfterTheBanner)
+{
+    Copy copy({.settings = {{"Settings/UDPPort", "x"}}});
+    EXPECT_THAT(copy.view.log.lines(),
+                ElementsAre("« NIMB-Chat [today:21/11/2026 - now:14:05:09] Ready »",
+                            "The stored setting UDPPort cannot be \"x\"; 5549 is used instead."));
+    EXPECT_EQ(copy.view.log.colourOfLastPiece(), 0x0000FFu);
+}
+
+} // namespace
+} // namespace nimb::test

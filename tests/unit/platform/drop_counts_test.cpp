@@ -1,0 +1,62 @@
+#include "protocol/drop_counts.h"
+
+#include "print_qt.h"
+
+#include <gmock/gmock.h>
+
+namespace nimb::test
+{
+namespace
+{
+
+TEST(DropCounts, SayNothingWhenNothingWasDropped)
+{
+    EXPECT_EQ(DropCounts().summary(), "");
+    DropCounts counts;
+    counts.count(Drop::stranger, 0);
+    EXPECT_EQ(counts.summary(), "");
+}
+
+TEST(DropCounts, AddUpEachReasonByItself)
+{
+    DropCounts counts;
+    counts.count(Drop::stranger);
+    counts.count(Drop::stranger);
+    counts.count(Drop::notReceived, 5'000'000'000);
+    EXPECT_EQ(counts.of(Drop::stranger), 2U);
+    EXPECT_EQ(counts.of(Drop::notReceived), 5'000'000'000U);
+    EXPECT_EQ(counts.of(Drop::notSent), 0U);
+}
+
+TEST(DropCounts, SummaryHasOneLineForEachReasonThatOccurred)
+{
+    DropCounts counts;
+    counts.count(Drop::notReceived, 12345);
+    counts.count(Drop::stranger);
+    EXPECT_EQ(counts.summary(),
+              "From addresses that are no contacts: 1\n"
+              "Datagrams lost before they could be read: 12345");
+}
+
+TEST(DropCounts, SummaryKnowsEveryReason)
+{
+    DropCounts counts;
+    counts.count(Drop::stranger, 1);
+    counts.count(Drop::incomplete, 2);
+    counts.count(Drop::noFeature, 3);
+    counts.count(Drop::badAddress, 4);
+    counts.count(Drop::tooManyContacts, 5);
+    counts.count(Drop::notSent, 6);
+    counts.count(Drop::notReceived, 7);
+    EXPECT_EQ(counts.summary(),
+              "From addresses that are no contacts: 1\n"
+              "Incomplete commands: 2\n"
+              "Commands that nothing here takes: 3\n"
+              "Addresses that cannot become contacts: 4\n"
+              "New contacts while the list was full: 5\n"
+              "Datagrams that could not be sent: 6\n"
+              "Datagrams lost before they could be read: 7");
+}
+
+} // namespace
+} // namespace nimb::test
