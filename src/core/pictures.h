@@ -9,10 +9,7 @@ namespace nimb
 {
 
 /// A picture of the program by its name, such as "rescan".
-inline QIcon namedPicture(const QString &name)
-{
-    return QIcon(QLatin1String(":/pictures/") + name + QLatin1String(".svg"));
-}
+QIcon namedPicture(const QString &name);
 
 inline QIcon statePicture(Picture picture)
 {

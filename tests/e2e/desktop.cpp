@@ -2,7 +2,7 @@
 
 #include "child_process.h"
 
-#include <QElapsedTimer>
+#include <QFile>
 #include <QTest>
 
 #include <utility>
@@ -31,6 +31,25 @@ xkb_keymap {
     };
 };
 )keymap";
+
+/// Alt+F4 presses the close box, a click gives the focus, and nothing moves by itself: a window that is restored is
+/// where it belongs at once.
+constexpr char windowManagerConfiguration[] = R"config(<?xml version="1.0"?>
+<openbox_config xmlns="http://openbox.org/3.4/rc">
+  <focus><focusNew>yes</focusNew><followMouse>no</followMouse><focusLast>yes</focusLast></focus>
+  <placement><policy>Smart</policy></placement>
+  <theme><animateIconify>no</animateIconify></theme>
+  <keyboard>
+    <keybind key="A-F4"><action name="Close"/></keybind>
+  </keyboard>
+  <mouse>
+    <context name="Client">
+      <mousebind button="Left" action="Press"><action name="Focus"/><action name="Raise"/></mousebind>
+      <mousebind button="Right" action="Press"><action name="Focus"/><action name="Raise"/></mousebind>
+    </context>
+  </mouse>
+</openbox_config>
+)config";
 
 struct Outcome {
     bool ok;
@@ -96,6 +115,7 @@ bool waitUntil(const std::function<bool()> &condition, std::chrono::milliseconds
 void Desktop::SetUp()
 {
     qunsetenv("DISPLAY");
+    qputenv("LC_ALL", "C.UTF-8"); // xdotool types what its locale can read
     ASSERT_NO_FATAL_FAILURE(startScreen());
     ASSERT_NO_FATAL_FAILURE(loadKeyboard());
     ASSERT_NO_FATAL_FAILURE(startWindowManager());
@@ -129,13 +149,14 @@ void Desktop::loadKeyboard()
 
 void Desktop::startWindowManager()
 {
+    QFile configuration(m_folder.filePath(QStringLiteral("openbox.xml")));
+    ASSERT_TRUE(configuration.open(QFile::WriteOnly)) << configuration.errorString().toStdString();
+    configuration.write(windowManagerConfiguration);
+    configuration.close();
     endWithParent(m_windowManager);
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), QStringLiteral("/nowhere")); // nobody's own key bindings
-    m_windowManager.setProcessEnvironment(environment);
     m_windowManager.setStandardOutputFile(QProcess::nullDevice());
     m_windowManager.setStandardErrorFile(QProcess::nullDevice());
-    m_windowManager.start(QStringLiteral("openbox"), {"--sm-disable"});
+    m_windowManager.start(QStringLiteral("openbox"), {"--sm-disable", "--config-file", configuration.fileName()});
     ASSERT_TRUE(m_windowManager.waitForStarted(patienceMs)) << m_windowManager.errorString().toStdString();
     ASSERT_TRUE(waitUntil([] { return rootProperty("_NET_SUPPORTING_WM_CHECK").contains("0x"); }))
         << "openbox does not take the screen";
@@ -202,19 +223,25 @@ bool Window::wantsAttention() const
     return property("_NET_WM_STATE").contains("_NET_WM_STATE_DEMANDS_ATTENTION");
 }
 
-std::pair<int, int> Window::framePosition() const
+Window::Place Window::place() const
 {
-    const QList<QByteArray> lines = act({"getwindowgeometry", "--shell", m_id}).split('\n');
+    const QList<QByteArray> lines = run(QStringLiteral("xwininfo"), {"-id", m_id}).output.split('\n');
     const auto valueOf = [&lines](const QByteArray &name) {
         for (const QByteArray &line : lines) {
-            if (line.startsWith(name + '='))
-                return line.mid(name.size() + 1).toInt();
+            if (line.trimmed().startsWith(name + ':'))
+                return line.split(':').last().trimmed().toInt();
         }
-        return -1;
+        ADD_FAILURE() << "xwininfo does not tell " << name.constData();
+        return 0;
     };
-    // Left, right, top, bottom.
-    const QList<QByteArray> frame = property("_NET_FRAME_EXTENTS").split('=').last().split(',');
-    return {valueOf("X") - frame.value(0).trimmed().toInt(), valueOf("Y") - frame.value(2).trimmed().toInt()};
+    return {valueOf("Absolute upper-left X") - valueOf("Relative upper-left X"),
+            valueOf("Absolute upper-left Y") - valueOf("Relative upper-left Y"), valueOf("Width"), valueOf("Height")};
+}
+
+void Window::move(int left, int top) const
+{
+    act({"windowmove", m_id, QString::number(left), QString::number(top)});
+    EXPECT_TRUE(waitUntil([&] { return place().left == left && place().top == top; })) << caption() << " stays";
 }
 
 void Window::activate() const
@@ -227,11 +254,6 @@ void Window::minimise() const
 {
     act({"windowminimize", m_id});
     EXPECT_TRUE(becomes(State::minimised));
-}
-
-void Window::move(int x, int y) const
-{
-    act({"windowmove", m_id, QString::number(x), QString::number(y)});
 }
 
 void Window::close() const

@@ -5,6 +5,7 @@
 #include <QProcess>
 #include <QString>
 #include <QStringList>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -35,6 +36,7 @@ private:
     void loadKeyboard();
     void startWindowManager();
 
+    QTemporaryDir m_folder;
     QProcess m_screen;
     QProcess m_windowManager;
 };
@@ -44,6 +46,11 @@ class Window
 {
 public:
     enum class State { shown, minimised, hidden };
+
+    /// In pixels; the place is the frame's, the size what is inside it.
+    struct Place {
+        int left, top, width, height;
+    };
 
     /// All windows that the window manager knows by exactly this caption, in no order.
     static std::vector<Window> all(const std::string &caption);
@@ -61,13 +68,12 @@ public:
     bool becomes(State state) const;
     bool isActive() const;
     bool wantsAttention() const;
-    /// Distance of the frame's upper left corner from the screen's, in pixels.
-    std::pair<int, int> framePosition() const;
+    Place place() const;
 
     /// As a click on its taskbar button does: the window is restored, raised and has the focus afterwards.
     void activate() const;
     void minimise() const;
-    void move(int x, int y) const;
+    void move(int left, int top) const;
     /// Presses the close box (by the window manager's key for it).
     void close() const;
     /// Presses a mouse button this often, at a place counted from the window's upper left corner without its frame.

@@ -85,10 +85,20 @@ Rows contactRows(const std::vector<StoredContact> &contacts)
     return rows;
 }
 
+Rows profile(std::uint16_t port, const std::vector<StoredContact> &contacts, const Rows &further)
+{
+    Rows rows = further;
+    rows.merge(contactRows(contacts));
+    rows.insert({{"Settings", "UDPPort"}, std::to_string(port)});
+    return rows;
+}
+
 RunningCopy::RunningCopy(const Place &place) : m_place(place), m_profile(m_scratch.filePath(QStringLiteral("profile")))
 {
     EXPECT_TRUE(m_scratch.isValid()) << m_scratch.errorString().toStdString();
-    QDir(m_scratch.path()).mkdir(QStringLiteral("run"));
+    const QString run = m_scratch.filePath(QStringLiteral("run"));
+    QDir().mkdir(run);
+    QFile::setPermissions(run, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
 RunningCopy::RunningCopy(const Place &place, const Rows &rows) : RunningCopy(place)

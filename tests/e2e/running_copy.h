@@ -24,6 +24,8 @@ struct StoredContact {
     std::string ip, nickname, workstation;
 };
 Rows contactRows(const std::vector<StoredContact> &contacts);
+/// The same with the port, and with further rows on top.
+Rows profile(std::uint16_t port, const std::vector<StoredContact> &contacts, const Rows &further = {});
 
 class RunningCopy
 {

@@ -291,6 +291,7 @@ TEST_F(SqliteSettingsStoreTest, AnAvatarOfEveryCharacterBelow256ComesBackWhole)
 TEST_F(SqliteSettingsStoreTest, AllOfUnicodeComesBackWhole)
 {
     const QString nulInside = QString::fromUtf8("k\0y", 3);
+    const QString byteOrderMarkFirst = QChar(0xFEFF) + QString("mark first\r\n");
     QString everything;
     for (char32_t character = 0; character <= 0x10FFFF; ++character) {
         if (!QChar::isSurrogate(character))
@@ -298,12 +299,12 @@ TEST_F(SqliteSettingsStoreTest, AllOfUnicodeComesBackWhole)
     }
     SqliteSettingsStore store(folder);
     store.write("Settings", "everything", everything);
-    store.write(QString::fromUtf8("Sect\u00efon\n"), nulInside, QString::fromUtf8("\ufeffmark first\r\n"));
+    store.write(QString::fromUtf8("Sect\u00efon\n"), nulInside, byteOrderMarkFirst);
     ASSERT_EQ(store.save(), std::nullopt);
 
     const SqliteSettingsStore next(folder);
     EXPECT_TRUE(next.read("Settings", "everything", "") == everything);
-    EXPECT_EQ(next.read(QString::fromUtf8("Sect\u00efon\n"), nulInside, ""), QString::fromUtf8("\ufeffmark first\r\n"));
+    EXPECT_EQ(next.read(QString::fromUtf8("Sect\u00efon\n"), nulInside, ""), byteOrderMarkFirst);
     EXPECT_EQ(next.read(QString::fromUtf8("Sect\u00efon\n"), "k", "other"), "other");
 }
 

@@ -1,0 +1,114 @@
+#include "chat_windows.h"
+
+#include <cstdlib>
+
+namespace nimb::test
+{
+namespace
+{
+
+/// A point in pixels from the upper left corner of a window.
+struct Point {
+    int x, y;
+};
+
+// Main window, by its fixed layout: the chooser, the rows and the log below the menu bar, which is 20 to 30 high.
+constexpr Point stateChooser = {150, 47};
+constexpr Point firstRow = {150, 104};
+constexpr int rowHeight = 24;
+constexpr Point mainLog = {450, 200};
+
+// Private window: the log takes the upper part, the input box stands at the bottom above the status bar.
+constexpr Point privateLog = {200, 100};
+constexpr Point inputAboveBottom = {100, 70};
+
+void copyAllAt(const Window &window, Point log)
+{
+    window.activate();
+    window.click(log.x, log.y);
+    press("ctrl+a");
+    press("ctrl+c");
+}
+
+std::string sayClipboardTo(WirePeer &peer, const PrivateWindow &with)
+{
+    with.sayClipboard();
+    return peer.hearWhere([](const std::string &bytes) { return bytes.starts_with('-'); }).bytes;
+}
+
+} // namespace
+
+MainWindow MainWindow::of(const std::string &nickname)
+{
+    return MainWindow(waitFor("NIMB-Chat 1.2 - " + nickname));
+}
+
+void MainWindow::openContact(int row) const
+{
+    activate();
+    click(firstRow.x, firstRow.y + row * rowHeight, 2);
+}
+
+void MainWindow::chooseState(int entriesBelow) const
+{
+    activate();
+    click(stateChooser.x, stateChooser.y);
+    for (int i = 0; i < std::abs(entriesBelow); ++i)
+        press(entriesBelow > 0 ? "Down" : "Up");
+    press("Return");
+}
+
+void MainWindow::rescan() const
+{
+    activate();
+    press("alt+r");
+}
+
+void MainWindow::copyLog() const
+{
+    copyAllAt(*this, mainLog);
+}
+
+PrivateWindow PrivateWindow::with(const std::string &nickname)
+{
+    return PrivateWindow(waitFor(captionFor(nickname)));
+}
+
+std::string PrivateWindow::captionFor(const std::string &nickname)
+{
+    return nickname + " - NIMB-Chat - Private Chat Window";
+}
+
+void PrivateWindow::say(const std::string &utf8) const
+{
+    activate();
+    type(utf8);
+    press("Return");
+}
+
+void PrivateWindow::copyLog() const
+{
+    copyAllAt(*this, privateLog);
+}
+
+void PrivateWindow::sayClipboard() const
+{
+    activate();
+    click(inputAboveBottom.x, place().height - inputAboveBottom.y);
+    press("ctrl+v");
+    press("Return");
+}
+
+std::string logHeardBy(WirePeer &peer, const MainWindow &log, const PrivateWindow &with)
+{
+    log.copyLog();
+    return sayClipboardTo(peer, with);
+}
+
+std::string logHeardBy(WirePeer &peer, const PrivateWindow &log, const PrivateWindow &with)
+{
+    log.copyLog();
+    return sayClipboardTo(peer, with);
+}
+
+} // namespace nimb::test

@@ -1,0 +1,52 @@
+// What a user does in the program's windows.
+#pragma once
+
+#include "desktop.h"
+#include "wire_peer.h"
+
+#include <string>
+
+namespace nimb::test
+{
+
+class MainWindow : public Window
+{
+public:
+    /// Waits for it.
+    static MainWindow of(const std::string &nickname);
+
+    /// Double click on a row of the contact list, counted from 0.
+    void openContact(int row) const;
+    /// Chooses the entry of the own-state chooser that is so many below the chosen one; negative goes up.
+    void chooseState(int entriesBelow) const;
+    void rescan() const;
+    /// Into the clipboard.
+    void copyLog() const;
+
+private:
+    explicit MainWindow(const Window &window) : Window(window) {}
+};
+
+class PrivateWindow : public Window
+{
+public:
+    /// Waits for it.
+    static PrivateWindow with(const std::string &nickname);
+    static std::string captionFor(const std::string &nickname);
+
+    /// Types the text and sends it.
+    void say(const std::string &utf8) const;
+    /// Into the clipboard.
+    void copyLog() const;
+    /// Sends what is in the clipboard as a message.
+    void sayClipboard() const;
+
+private:
+    explicit PrivateWindow(const Window &window) : Window(window) {}
+};
+
+/// What stands in a log, for whoever is at the other end of the private window: the user copies it and says it.
+std::string logHeardBy(WirePeer &peer, const MainWindow &log, const PrivateWindow &with);
+std::string logHeardBy(WirePeer &peer, const PrivateWindow &log, const PrivateWindow &with);
+
+} // namespace nimb::test

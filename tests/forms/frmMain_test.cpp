@@ -1,0 +1,387 @@
+#include "real_windows.h"
+
+#include "core/contact_view.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTabBar>
+
+namespace nimb::test
+{
+namespace
+{
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr int twips(int value)
+{
+    return (value + 7) / 15;
+}
+
+class FrmMain : public testing::Test
+{
+protected:
+    FrmMain() { windows.settleStart({"10.0.0.2", "10.0.0.3"}); }
+
+    /// Where a control is seen: the log without the strips that show the window's ground.
+    QRect seen(const char *name)
+    {
+        const QRect place = windows.control(name).geometry();
+        if (std::string_view(name) != "outtext")
+            return place;
+        return place.adjusted(0, frmMain::logInsetAbove, 0, -frmMain::logInsetBelow);
+    }
+
+    RealWindows windows{{{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}, {"10.0.0.4", "Cleo"}}};
+};
+
+TEST_F(FrmMain, BearsItsPrescribedNames)
+{
+    EXPECT_EQ(windows.main().objectName(), QStringLiteral("frmMain"));
+    for (const char *name : {"ImageCombo1", "TabStrip1", "ListView1", "RescanBtn", "buzzmute", "ListDetails", "ItemDetailstxt", "outtext",
+                             "clearbtn", "StatusBar", "StatusBar_status", "StatusBar_activity", "PersonalizedStateFrame", "ImageComboPers",
+                             "PersonalizedMessageText", "PersonalizedOkbtn", "AutoReplyOn", "Autoreplybtn", "AutoreplyFrame", "AutoReplyTxt",
+                             "Autoreplypanelclosebtn", "mnuPopUp", "mnuFileExit", "mnuLogWindow", "mnuPrivateChat", "mnuBuzzUser",
+                             "mnuInvite2Conf1", "mnuInvite2Conf5", "mnusendcontacts", "mnuRemoveUser", "mnuinviteuser", "mnuNetworkscan",
+                             "mnuAddUser", "mnuToolsOptions", "mnuCreateNewConf", "mnushowinvitations", "mnuHelpContents",
+                             "mnuHelpSearchForHelpOn", "mnuHelpAbout", "mnuTOTD"})
+        EXPECT_TRUE(windows.main().findChild<QObject *>(QLatin1String(name))) << name;
+    EXPECT_EQ(windows.main().windowTitle(), QStringLiteral("NIMB-Chat 1.2 - Me"));
+}
+
+TEST_F(FrmMain, BearsItsPrescribedCaptions)
+{
+    EXPECT_EQ(windows.control<QPushButton>("RescanBtn").text(), QStringLiteral("&Rescan"));
+    EXPECT_EQ(windows.control<QCheckBox>("buzzmute").text(), QStringLiteral("Mute Buzz"));
+    EXPECT_EQ(windows.control<QCheckBox>("ListDetails").text(), QStringLiteral("Users &details"));
+    EXPECT_EQ(windows.control<QPushButton>("clearbtn").text(), QStringLiteral("Clear"));
+    auto &tabs = windows.control<QTabBar>("TabStrip1");
+    EXPECT_EQ(tabs.tabText(0), QStringLiteral("Nickname && status"));
+    EXPECT_EQ(tabs.tabText(1), QStringLiteral("User(s) full details"));
+    EXPECT_EQ(tabs.tabData(0).toString(), QStringLiteral("noinfo"));
+    EXPECT_EQ(tabs.tabData(1).toString(), QStringLiteral("fulldetail"));
+    EXPECT_EQ(windows.control<QLabel>("StatusBar_status").text(), QStringLiteral("Status: ONLINE"));
+}
+
+TEST_F(FrmMain, WidthFollowsTheLogPanelAndCannotBeChanged)
+{
+    EXPECT_EQ(windows.main().width(), 621);
+    windows.main().resize(900, 500);
+    EXPECT_EQ(windows.main().width(), 621);
+    windows.entry("mnuLogWindow").trigger();
+    EXPECT_EQ(windows.main().width(), 305);
+    EXPECT_FALSE(windows.control("outtext").isVisible());
+    windows.main().resize(900, 500);
+    EXPECT_EQ(windows.main().width(), 305);
+    windows.entry("mnuLogWindow").trigger();
+    EXPECT_EQ(windows.main().width(), 621);
+    EXPECT_TRUE(windows.control("outtext").isVisible());
+}
+
+TEST_F(FrmMain, AHeightOf3000IsSetBackTo4500)
+{
+    windows.main().resize(621, 200);
+    EXPECT_EQ(windows.main().height(), 300);
+}
+
+TEST_F(FrmMain, ControlsFollowTheHeight)
+{
+    for (const int height : {300, 413, 700}) {
+        windows.main().resize(621, height);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(windows.list().height(), twips(height * 15 - 1900)) << height;
+        EXPECT_EQ(windows.control("RescanBtn").y(), twips(height * 15 - 1650)) << height;
+        EXPECT_EQ(windows.control("buzzmute").y(), twips(height * 15 - 1650 + 60)) << height;
+        EXPECT_EQ(windows.control("outtext").height(), twips(height * 15 - 1900 + 300)) << height;
+    }
+}
+
+TEST_F(FrmMain, NoControlCoversAnother)
+{
+    const std::vector<const char *> names = {"ListView1", "RescanBtn", "buzzmute", "ListDetails", "ItemDetailstxt", "outtext", "clearbtn"};
+    for (const int height : {300, 413, 900}) {
+        windows.main().resize(621, height);
+        QCoreApplication::processEvents();
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            EXPECT_TRUE(windows.main().centralWidget()->rect().contains(seen(names[i]))) << names[i] << " at " << height;
+            for (std::size_t j = i + 1; j < names.size(); ++j)
+                EXPECT_FALSE(seen(names[i]).intersects(seen(names[j]))) << names[i] << " and " << names[j];
+        }
+    }
+}
+
+TEST_F(FrmMain, StartsNarrowAndTheDetailsSwitchWidensTheColumns)
+{
+    auto &view = windows.list();
+    EXPECT_FALSE(windows.control<QCheckBox>("ListDetails").isChecked());
+    EXPECT_EQ(view.columnWidth(1), 0);
+    EXPECT_EQ(view.columnWidth(2), 0);
+    EXPECT_EQ(view.columnWidth(6), twips(2600));
+    windows.control<QCheckBox>("ListDetails").click();
+    EXPECT_EQ(view.columnWidth(1), twips(1350));
+    EXPECT_EQ(view.columnWidth(2), twips(1250));
+    EXPECT_EQ(view.columnWidth(6), 0);
+    for (const int always : {3, 4, 5})
+        EXPECT_EQ(view.columnWidth(always), 0) << always;
+    EXPECT_EQ(windows.control<QTabBar>("TabStrip1").currentIndex(), 1);
+    EXPECT_EQ(windows.main().focusWidget()->objectName(), QStringLiteral("buzzmute"));
+}
+
+TEST_F(FrmMain, TheTabsSetAndClearTheDetailsSwitch)
+{
+    auto &tabs = windows.control<QTabBar>("TabStrip1");
+    QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(1).center());
+    EXPECT_TRUE(windows.control<QCheckBox>("ListDetails").isChecked());
+    QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(0).center());
+    EXPECT_FALSE(windows.control<QCheckBox>("ListDetails").isChecked());
+    EXPECT_EQ(windows.main().focusWidget()->objectName(), QStringLiteral("buzzmute"));
+}
+
+TEST_F(FrmMain, TheLogBeginsWithItsBannerAndIsClearedDownToIt)
+{
+    EXPECT_EQ(windows.logText().section(u'\n', 0, 0), QStringLiteral("« NIMB-Chat [today:21/11/2026 - now:14:05:09] Ready »"));
+    windows.arrive("10.0.0.2", "nonsense");
+    windows.control<QPushButton>("clearbtn").click();
+    EXPECT_EQ(windows.logText(), QStringLiteral("« NIMB-Chat [today:21/11/2026 - now:14:05:10] Ready »\n"));
+}
+
+TEST_F(FrmMain, ADoubleClickOpensAPrivateWindow)
+{
+    windows.doubleClick(1);
+    EXPECT_EQ(windows.privateWindow().windowTitle(), QStringLiteral("Ben - NIMB-Chat - Private Chat Window"));
+    EXPECT_TRUE(windows.privateWindow().isVisible());
+    EXPECT_FALSE(windows.privateWindow().isMinimized());
+}
+
+TEST_F(FrmMain, ADoubleClickOnAContactNotYetKnownOpensNothing)
+{
+    windows.engine.announcement().run();
+    windows.doubleClick(0);
+    EXPECT_THAT(RealWindows::privateWindows(), IsEmpty());
+}
+
+TEST_F(FrmMain, ADoubleClickWithTheRightButtonOpensNothing)
+{
+    windows.click(0, Qt::RightButton);
+    QTest::mouseDClick(windows.list().viewport(), Qt::RightButton, {}, windows.placeOf(0));
+    EXPECT_THAT(RealWindows::privateWindows(), IsEmpty());
+    windows.control<QMenu>("mnuPopUp").close();
+}
+
+TEST_F(FrmMain, TheEnterKeyOpensAPrivateWindowToo)
+{
+    windows.click(0);
+    QTest::keyClick(&windows.list(), Qt::Key_Return);
+    EXPECT_EQ(windows.privateWindow().windowTitle(), QStringLiteral("Ann - NIMB-Chat - Private Chat Window"));
+}
+
+TEST_F(FrmMain, TheRightButtonPopsUpTheMenuOfTheContact)
+{
+    windows.click(0, Qt::RightButton);
+    auto &menu = windows.control<QMenu>("mnuPopUp");
+    EXPECT_TRUE(menu.isVisible());
+    EXPECT_EQ(menu.defaultAction()->objectName(), QStringLiteral("mnuPrivateChat"));
+    EXPECT_EQ(windows.entry("mnuPrivateChat").text(), QStringLiteral("Private chat with 'Ann'"));
+    EXPECT_EQ(windows.entry("mnuRemoveUser").text(), QStringLiteral("Remove 'Ann' from the list"));
+    EXPECT_FALSE(windows.entry("mnuInvite2Conf1").isVisible());
+    menu.close();
+    windows.entry("mnuPrivateChat").trigger();
+    EXPECT_EQ(windows.privateWindow().windowTitle(), QStringLiteral("Ann - NIMB-Chat - Private Chat Window"));
+}
+
+TEST_F(FrmMain, RemovingAsksAndRemoves)
+{
+    windows.click(1);
+    windows.entry("mnuRemoveUser").trigger();
+    EXPECT_EQ(windows.prompts.asked.size(), 1u);
+    EXPECT_EQ(windows.list().model()->rowCount(), 2);
+}
+
+TEST_F(FrmMain, CommandsWithoutSelectionDoNothing)
+{
+    windows.entry("mnuRemoveUser").trigger();
+    windows.entry("mnuPrivateChat").trigger();
+    EXPECT_THAT(windows.prompts.asked, IsEmpty());
+    EXPECT_THAT(RealWindows::privateWindows(), IsEmpty());
+}
+
+TEST_F(FrmMain, TheToolTipFollowsThePointer)
+{
+    windows.arrive("10.0.0.2", "!STATUS BUSY In a meeting");
+    QWidget *const viewport = windows.list().viewport();
+    QTest::mouseMove(viewport, windows.placeOf(1));
+    QTest::mouseMove(viewport, windows.placeOf(1) + QPoint(1, 0));
+    QTRY_COMPARE_WITH_TIMEOUT(viewport->toolTip(), QStringLiteral("Ann: BUSY - In a meeting"), 5000);
+    QTest::mouseMove(viewport, windows.placeOf(2) + QPoint(0, 60));
+    QTRY_COMPARE_WITH_TIMEOUT(viewport->toolTip(), QString(), 5000);
+}
+
+TEST_F(FrmMain, RescanningAsksEveryContactAndDisablesItself)
+{
+    auto &button = windows.control<QPushButton>("RescanBtn");
+    EXPECT_TRUE(button.isEnabled());
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_FALSE(button.isEnabled());
+    EXPECT_EQ(windows.sent().size(), 6u);
+    windows.time.advance(1000ms);
+    EXPECT_TRUE(button.isEnabled());
+}
+
+TEST_F(FrmMain, ChoosingAStateTellsThePresentContacts)
+{
+    auto &chooser = windows.control<QComboBox>("ImageCombo1");
+    chooser.setFocus();
+    QTest::keyClick(&chooser, Qt::Key_Down);
+    EXPECT_THAT(windows.sent(), ElementsAre(To{"10.0.0.2", "!STATUS BUSY"}, To{"10.0.0.3", "!STATUS BUSY"}));
+    EXPECT_EQ(windows.control<QLabel>("StatusBar_status").text(), QStringLiteral("Status: BUSY"));
+    EXPECT_TRUE(windows.control("AutoReplyOn").isVisible());
+    EXPECT_TRUE(windows.control("Autoreplybtn").isVisible());
+    EXPECT_FALSE(windows.control("AutoreplyFrame").isVisible());
+}
+
+TEST_F(FrmMain, APersonalisedStateIsTypedAndChosen)
+{
+    auto &chooser = windows.control<QComboBox>("ImageCombo1");
+    Q_EMIT chooser.activated(4);
+    EXPECT_TRUE(windows.control("PersonalizedStateFrame").isVisible());
+    windows.control<QComboBox>("ImageComboPers").setCurrentIndex(1);
+    auto &text = windows.control<QLineEdit>("PersonalizedMessageText");
+    EXPECT_TRUE(windows.main().focusWidget() == &text);
+    QTest::keyClicks(&text, QStringLiteral("In a meeting"));
+    QTest::mouseClick(&windows.control("PersonalizedOkbtn"), Qt::LeftButton);
+    EXPECT_FALSE(windows.control("PersonalizedStateFrame").isVisible());
+    EXPECT_EQ(chooser.currentText(), QStringLiteral("Busy - In a meeting"));
+    EXPECT_THAT(windows.sent(), ElementsAre(To{"10.0.0.2", "!STATUS BUSY In a meeting"}, To{"10.0.0.3", "!STATUS BUSY In a meeting"}));
+}
+
+TEST_F(FrmMain, AnAutomaticReplyIsTypedAndKept)
+{
+    Q_EMIT windows.control<QComboBox>("ImageCombo1").activated(2);
+    QTest::mouseClick(&windows.control("Autoreplybtn"), Qt::LeftButton);
+    EXPECT_TRUE(windows.control("AutoreplyFrame").isVisible());
+    EXPECT_EQ(windows.control<QGroupBox>("AutoreplyFrame").title(), QStringLiteral("AutoReply text (when Away)"));
+    auto &text = windows.control<QPlainTextEdit>("AutoReplyTxt");
+    EXPECT_EQ(text.toPlainText(), QStringLiteral("At the moment I'm not at my PC"));
+    windows.main().activateWindow();
+    text.setFocus();
+    QTRY_VERIFY_WITH_TIMEOUT(text.hasFocus(), 5000);
+    EXPECT_EQ(text.palette().color(QPalette::Text), windows.main().palette().color(QPalette::Text));
+    text.selectAll();
+    QTest::keyClicks(&text, QStringLiteral("Lunch"));
+    windows.control<QCheckBox>("AutoReplyOn").click();
+    windows.control("RescanBtn").setFocus();
+    EXPECT_EQ(text.palette().color(QPalette::Text), QColor(0x80, 0x80, 0x80));
+    EXPECT_EQ(windows.common.autoReply.awayText, QStringLiteral("Lunch"));
+    EXPECT_TRUE(windows.common.autoReply.onAway);
+    QTest::mouseClick(&windows.control("Autoreplypanelclosebtn"), Qt::LeftButton);
+    EXPECT_FALSE(windows.control("AutoreplyFrame").isVisible());
+}
+
+TEST_F(FrmMain, TheCloseBoxEndsTheProgramAndSaves)
+{
+    windows.main().close();
+    EXPECT_TRUE(windows.ended);
+    EXPECT_FALSE(windows.main().isVisible());
+    EXPECT_EQ(windows.sent().size(), 3u);
+    EXPECT_EQ(windows.settings.saves, 1);
+}
+
+TEST_F(FrmMain, TheCloseBoxHidesWhenTheOptionSaysSo)
+{
+    windows.common.options.CloseButtonDoesMinimize = 1;
+    windows.main().close();
+    EXPECT_FALSE(windows.ended);
+    EXPECT_FALSE(windows.main().isVisible());
+    windows.main().restore();
+    EXPECT_TRUE(windows.main().isVisible());
+    windows.entry("mnuFileExit").trigger();
+    EXPECT_TRUE(windows.ended);
+    EXPECT_EQ(windows.sent().size(), 3u);
+}
+
+TEST_F(FrmMain, WithoutATrayTheCloseBoxMinimises)
+{
+    windows.common.options.CloseButtonDoesMinimize = 1;
+    windows.tray.shown = false;
+    windows.main().close();
+    EXPECT_FALSE(windows.ended);
+    EXPECT_TRUE(windows.main().isMinimized());
+}
+
+TEST_F(FrmMain, EndingUnloadsThePrivateWindows)
+{
+    windows.doubleClick(0);
+    windows.entry("mnuFileExit").trigger();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_THAT(RealWindows::privateWindows(), IsEmpty());
+}
+
+TEST_F(FrmMain, EndsOnlyOnce)
+{
+    windows.entry("mnuFileExit").trigger();
+    windows.main().unload(UnloadMode::code);
+    windows.main().close();
+    EXPECT_EQ(windows.settings.saves, 1);
+}
+
+TEST_F(FrmMain, DropsAreCountedInTheToolTipOfTheStatusBar)
+{
+    windows.arrive("10.0.0.99", "-hello");
+    QHelpEvent event(QEvent::ToolTip, QPoint(2, 2), windows.main().statusBar()->mapToGlobal(QPoint(2, 2)));
+    QCoreApplication::sendEvent(windows.main().statusBar(), &event);
+    EXPECT_EQ(windows.main().statusBar()->toolTip(), windows.drops.summary());
+    EXPECT_NE(windows.drops.summary(), QString());
+}
+
+TEST_F(FrmMain, PicturesOfAllStatesAreThere)
+{
+    auto &chooser = windows.control<QComboBox>("ImageCombo1");
+    for (int i = 0; i < 4; ++i)
+        EXPECT_FALSE(chooser.itemIcon(i).pixmap(16, 16).isNull()) << i;
+    EXPECT_TRUE(chooser.itemIcon(4).isNull());
+}
+
+TEST(FrmMainPlace, AStoredPlaceIsKeptToTheTwip)
+{
+    RealWindows windows({}, {{"Settings/MainLeft", "1000"}, {"Settings/MainTop", "1003"}, {"Settings/MainHeight", "6200"}});
+    windows.entry("mnuFileExit").trigger();
+    EXPECT_EQ(windows.settings.value("Settings", "MainLeft"), "1000");
+    EXPECT_EQ(windows.settings.value("Settings", "MainTop"), "1003");
+    EXPECT_EQ(windows.settings.value("Settings", "MainHeight"), "6200");
+}
+
+TEST(FrmMainPlace, AMovedWindowIsSavedWhereItStands)
+{
+    RealWindows windows;
+    windows.main().move(20, 30);
+    windows.main().resize(621, 500);
+    QCoreApplication::processEvents();
+    windows.entry("mnuFileExit").trigger();
+    EXPECT_EQ(windows.settings.value("Settings", "MainLeft"), "300");
+    EXPECT_EQ(windows.settings.value("Settings", "MainTop"), "450");
+    EXPECT_EQ(windows.settings.value("Settings", "MainHeight"), "7500");
+}
+
+TEST(FrmMainPlace, APlaceOffEveryScreenIsMovedIn)
+{
+    RealWindows windows({}, {{"Settings/MainLeft", "-900000"}, {"Settings/MainTop", "900000"}});
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_TRUE(screen.contains(windows.main().pos()));
+}
+
+TEST(FrmMainPlace, AStoredHeightBelowTheFloorIsTheFloor)
+{
+    RealWindows windows({}, {{"Settings/MainHeight", "3000"}});
+    EXPECT_EQ(windows.main().height(), 300);
+}
+
+} // namespace
+} // namespace nimb::test

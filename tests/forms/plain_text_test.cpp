@@ -1,0 +1,112 @@
+// Text of peers is shown as it is, wherever it is shown.
+#include "real_windows.h"
+
+#include "core/form_text.h"
+#include "core/message_boxes.h"
+#include "core/plain_tool_tips.h"
+
+#include <QHelpEvent>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <QToolTip>
+#include <QWindow>
+
+namespace nimb::test
+{
+namespace
+{
+
+constexpr const char *marked = "<b>Ann</b> & [*] %1";
+
+class PlainText : public testing::Test
+{
+protected:
+    PlainText() { windows.settleStart({"10.0.0.2"}); }
+
+    RealWindows windows{{{"10.0.0.2", marked}}};
+};
+
+TEST_F(PlainText, InTheListAndItsToolTip)
+{
+    EXPECT_EQ(windows.list().model()->index(0, 0).data().toString(), QString::fromUtf8(marked));
+    PlainToolTips filter;
+    QWidget *const viewport = windows.list().viewport();
+    viewport->setToolTip(windows.engine.contactCommands().toolTip(QStringLiteral("10.0.0.2")));
+    EXPECT_EQ(viewport->toolTip(), QString::fromUtf8(marked));
+    qApp->installEventFilter(&filter);
+    QHelpEvent event(QEvent::ToolTip, QPoint(5, 5), viewport->mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(viewport, &event);
+    qApp->removeEventFilter(&filter);
+    EXPECT_FALSE(QToolTip::text().contains(QLatin1String("<b>")));
+    EXPECT_TRUE(QToolTip::text().contains(QLatin1String("&lt;b&gt;Ann&lt;/b&gt;")));
+    QToolTip::hideText();
+}
+
+TEST_F(PlainText, InMenuCaptions)
+{
+    windows.click(0);
+    EXPECT_EQ(windows.entry("mnuPrivateChat").text(), QStringLiteral("Private chat with '<b>Ann</b> && [*] %1'"));
+}
+
+TEST_F(PlainText, InTheCaptionOfItsWindow)
+{
+    windows.doubleClick(0);
+    QWidget &window = windows.privateWindow();
+    // The window system is given the title with its place marker resolved.
+    EXPECT_EQ(window.windowHandle()->title(), QString::fromUtf8(marked) + QStringLiteral(" - NIMB-Chat - Private Chat Window"));
+}
+
+TEST_F(PlainText, InLogs)
+{
+    windows.arrive("10.0.0.2", "-<img src='file:///etc/passwd'><i>x</i>");
+    EXPECT_TRUE(RealWindows::control<QTextEdit>(windows.privateWindow(), "outtext")
+                    .toPlainText()
+                    .contains(QStringLiteral("<b>Ann</b> & [*] %1> <img src='file:///etc/passwd'><i>x</i>")));
+    windows.arrive("10.0.0.2", "!<b>x</b>");
+    EXPECT_TRUE(windows.logText().contains(QStringLiteral("(!<b>x</b>)")));
+}
+
+TEST_F(PlainText, InTheDetailsOfTheSelectedContact)
+{
+    windows.click(0);
+    EXPECT_EQ(windows.control<QLineEdit>("ItemDetailstxt").text(), QString::fromUtf8(marked) + QStringLiteral(" on PC (10.0.0.2)"));
+}
+
+TEST(PlainMessageBox, ShowsMarkupAndAnswersWithItsButtons)
+{
+    MessageBoxes boxes;
+    QString shown;
+    Qt::TextFormat format = Qt::AutoText;
+    const auto press = [&](QMessageBox::StandardButton button) {
+        QTimer::singleShot(0, [&shown, &format, button] {
+            auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            shown = box->text();
+            format = box->textFormat();
+            box->button(button)->click();
+        });
+    };
+    press(QMessageBox::Cancel);
+    EXPECT_FALSE(boxes.confirm(QStringLiteral("<b>x</b> ?"), QStringLiteral("t")));
+    EXPECT_EQ(shown, QStringLiteral("<b>x</b> ?"));
+    EXPECT_EQ(format, Qt::PlainText);
+    press(QMessageBox::Ok);
+    EXPECT_TRUE(boxes.confirm(QStringLiteral("x"), QStringLiteral("t")));
+    press(QMessageBox::Ok);
+    boxes.tell(QStringLiteral("<i>y</i>"), QStringLiteral("t"));
+    EXPECT_EQ(shown, QStringLiteral("<i>y</i>"));
+}
+
+TEST(UnattendedMessageBox, NeverWaits)
+{
+    MessageBoxes boxes;
+    boxes.setUnattended();
+    EXPECT_FALSE(boxes.confirm(QStringLiteral("x"), QStringLiteral("t")));
+    testing::internal::CaptureStderr();
+    boxes.tell(QStringLiteral("The disk is full."), QStringLiteral("NIMB-Chat"));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "NIMB-Chat: The disk is full.\n");
+}
+
+} // namespace
+} // namespace nimb::test

@@ -1,0 +1,130 @@
+// One copy with its real windows, on a simulated network and with virtual time.
+#pragma once
+
+#include "app/form_opener.h"
+#include "core/frmMain.h"
+#include "recorders.h"
+#include "simulated_network.h"
+#include "virtual_time.h"
+
+#include <gmock/gmock.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QTest>
+#include <QTextEdit>
+#include <QTreeView>
+
+namespace nimb::test
+{
+
+class RealWindows
+{
+public:
+    explicit RealWindows(const std::vector<std::pair<const char *, const char *>> &contacts = {},
+                         const std::map<std::string, QString> &stored = {})
+    {
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+        common.ownIP = QStringLiteral("10.0.0.1");
+        common.ownHostName = QStringLiteral("HERE");
+        common.ownNickname = QStringLiteral("Me");
+        int n = 0;
+        for (const auto &[ip, nickname] : contacts) {
+            const QByteArray number = QByteArray::number(++n);
+            settings.put("Users", ("IP" + number).constData(), QString::fromUtf8(ip));
+            settings.put("Users", ("Nn" + number).constData(), QString::fromUtf8(nickname));
+            settings.put("Users", ("Ws" + number).constData(), QStringLiteral("PC"));
+        }
+        for (const auto &[address, value] : stored) {
+            const std::size_t slash = address.find('/');
+            settings.put(address.substr(0, slash).c_str(), address.substr(slash + 1).c_str(), value);
+        }
+        forms.loadNotify();
+        main().show();
+        forms.connectMain(engine, common, drops, [this] { ended = true; });
+        main().Form_Load();
+        QCoreApplication::processEvents();
+    }
+    ~RealWindows()
+    {
+        forms.destroyMain();
+        engine.privateWindows().unloadAll();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    frmMain &main() { return m_main; }
+    template <class Widget = QWidget> Widget &control(const char *name) { return control<Widget>(main(), name); }
+    template <class Widget = QWidget> static Widget &control(QWidget &window, const char *name)
+    {
+        auto *const found = window.findChild<Widget *>(QLatin1String(name));
+        if (!found)
+            qFatal("no control %s", name);
+        return *found;
+    }
+    QTreeView &list() { return control<QTreeView>("ListView1"); }
+    QAction &entry(const char *name) { return *main().findChild<QAction *>(QLatin1String(name)); }
+    QString logText() { return control<QTextEdit>("outtext").toPlainText(); }
+
+    /// Private windows that have not been unloaded, in the order in which they were made.
+    static std::vector<QWidget *> privateWindows()
+    {
+        std::vector<QWidget *> windows;
+        for (QWidget *const window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == QLatin1String("frmPrivate"))
+                windows.push_back(window);
+        }
+        return windows;
+    }
+    QWidget &privateWindow()
+    {
+        const std::vector<QWidget *> windows = privateWindows();
+        if (windows.size() != 1)
+            qFatal("%zu private windows instead of one", windows.size());
+        return *windows.front();
+    }
+
+    void arrive(const char *from, const std::string &bytes)
+    {
+        socket.arrive(QLatin1String(from), bytes);
+        QCoreApplication::processEvents();
+    }
+    /// The contacts named answer the announcement of the start, which then ends.
+    void settleStart(const std::vector<const char *> &answering)
+    {
+        for (const char *const ip : answering)
+            arrive(ip, "!ONLINE");
+        time.advance(std::chrono::milliseconds(1000));
+        socket.sent.clear();
+    }
+    std::vector<To> sent() { return std::exchange(socket.sent, {}); }
+    QPoint placeOf(int row) { return list().visualRect(list().model()->index(row, 0)).center(); }
+    void click(int row, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QTest::mouseClick(list().viewport(), button, {}, placeOf(row));
+    }
+    void doubleClick(int row)
+    {
+        click(row);
+        QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, placeOf(row));
+    }
+
+    VirtualTime time;
+    Common common;
+    SimulatedWinsock socket{QStringLiteral("10.0.0.1"), QStringLiteral("HERE"), nullptr};
+    MemoryStore settings;
+    RecorderPrompts prompts;
+    Steps steps;
+    RecorderTray tray{steps};
+    DropCounts drops;
+    FormOpener forms;
+    bool ended = false;
+
+private:
+    frmMain &m_main = forms.makeMain();
+
+public:
+    Messenger engine{common, {socket, settings, time, time, prompts, forms, tray, forms, forms, m_main, drops}};
+};
+
+} // namespace nimb::test
