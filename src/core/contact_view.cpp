@@ -29,6 +29,19 @@ public:
         return {hint.width(), qMax(rowHeight, hint.height())};
     }
 
+    /// A nickname without a state beside it takes the state's room too.
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const bool hasState = !index.siblingAtColumn(ContactList::StateText).data().toString().isEmpty();
+        if (index.column() == ContactList::StateText && !hasState)
+            return;
+        QStyleOptionViewItem placed = option;
+        const auto *const view = qobject_cast<const QTreeView *>(option.widget);
+        if (view && index.column() == ContactList::Nickname && !hasState)
+            placed.rect.setWidth(placed.rect.width() + view->columnWidth(ContactList::StateText));
+        QStyledItemDelegate::paint(painter, placed, index);
+    }
+
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
     {
@@ -42,6 +55,23 @@ protected:
         } else {
             option->palette.setColor(QPalette::Text, mutedTextColour(option->palette));
         }
+        if (index.column() == ContactList::IpAddress)
+            shrinkToFit(*option);
+    }
+
+private:
+    /// The column of addresses has a fixed width, too narrow for long ones in many fonts; an address with an ellipsis
+    /// would be of no use.
+    static void shrinkToFit(QStyleOptionViewItem &option)
+    {
+        constexpr double smallest = 0.75;
+        constexpr int margins = 8;
+        const double room = option.rect.width() - margins;
+        const double share = room / qMax(1, QFontMetrics(option.font).horizontalAdvance(option.text));
+        if (share >= 1 || room <= 0)
+            return;
+        option.font.setPointSizeF(option.font.pointSizeF() * qMax(smallest, share));
+        option.fontMetrics = QFontMetrics(option.font);
     }
 };
 

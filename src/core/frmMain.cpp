@@ -208,6 +208,7 @@ void frmMain::buildStatusBar()
 {
     QStatusBar *const bar = named(statusBar(), "StatusBar");
     bar->setSizeGripEnabled(false);
+    bar->setContentsMargins(margin - 2, 0, margin - 2, 0);
     m_status = panel(bar, "StatusBar_status");
     m_status->setText(tr("Status: %1").arg(QStringLiteral("ONLINE")));
     m_activity = panel(bar, "StatusBar_activity");
@@ -262,8 +263,8 @@ void frmMain::connectOwnState()
     connect(PersonalizedMessageText, &QLineEdit::returnPressed, PersonalizedOkbtn, &QPushButton::click);
     connect(m_personalizedCancel, &QPushButton::clicked, this, &frmMain::PersonalizedCancel_Click);
     connect(AutoReplyOn, &QCheckBox::clicked, this, [this](bool on) { m_engine->ownState.setAutoReply(on); });
-    connect(Autoreplybtn, &QPushButton::clicked, AutoreplyFrame, &QWidget::show);
-    connect(Autoreplypanelclosebtn, &QPushButton::clicked, AutoreplyFrame, &QWidget::hide);
+    connect(Autoreplybtn, &QPushButton::clicked, this, &frmMain::Autoreplybtn_Click);
+    connect(Autoreplypanelclosebtn, &QPushButton::clicked, this, &frmMain::Autoreplypanelclosebtn_Click);
 }
 
 void frmMain::Form_Load()
@@ -552,6 +553,9 @@ void frmMain::PersonalizedCancel_Click()
 
 void frmMain::setPersonalizedStateVisible(bool visible)
 {
+    // Hiding a control that has the focus would pass it on to whatever comes next.
+    if (!visible && PersonalizedStateFrame->isAncestorOf(focusWidget()))
+        ImageCombo1->setFocus();
     PersonalizedStateFrame->setVisible(visible);
     PersonalizedStateFrame->raise();
     if (visible)
@@ -573,6 +577,19 @@ void frmMain::setAutoReply(const std::optional<AutoReplyPanel> &panel)
     AutoReplyOn->setChecked(panel->on);
     setTypedText(*AutoReplyTxt, panel->text);
     AutoreplyFrame->setTitle(panel->caption);
+}
+
+void frmMain::Autoreplybtn_Click()
+{
+    AutoreplyFrame->show();
+    AutoreplyFrame->raise();
+    AutoReplyTxt->setFocus();
+}
+
+void frmMain::Autoreplypanelclosebtn_Click()
+{
+    Autoreplybtn->setFocus();
+    AutoreplyFrame->hide();
 }
 
 void frmMain::AutoReplyTxt_GotFocus()

@@ -121,6 +121,8 @@ private:
     void ImageCombo1_Click(int index);
     void PersonalizedOkbtn_Click();
     void PersonalizedCancel_Click();
+    void Autoreplybtn_Click();
+    void Autoreplypanelclosebtn_Click();
     void AutoReplyTxt_GotFocus();
     void AutoReplyTxt_LostFocus();
     void showItemDetails();

@@ -1,0 +1,398 @@
+// Conversations: what one writes, the other reads, byte by byte, and no window comes between a user and what he does.
+#include "chat_windows.h"
+#include "running_copy.h"
+#include "wire_peer.h"
+
+#include <gmock/gmock.h>
+
+#include <csignal>
+
+namespace nimb::test
+{
+namespace
+{
+
+using testing::AllOf;
+using testing::ContainsRegex;
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using State = Window::State;
+
+const std::string prefixOfCaption = "NIMB-Chat 1.2 - ";
+
+class StoryPrivateMessage : public testing::Test
+{
+protected:
+    Rows withAnn(const Rows &further = {}) const { return profile(port, {{"127.0.32.2", "Ann", "ANN-PC"}}, further); }
+    Rows withAnnAndBen(const Rows &further = {}) const
+    {
+        return profile(port, {{"127.0.32.2", "Ann", "ANN-PC"}, {"127.0.32.3", "Ben", "BEN-PC"}}, further);
+    }
+
+    /// Started and heard by Ann.
+    void start(RunningCopy &copy)
+    {
+        copy.start({"Bob"});
+        ann.hearUntil("!STATUS Online");
+    }
+
+    const std::uint16_t port = freePort();
+    WirePeer ann{"127.0.32.2", port};
+};
+
+TEST_F(StoryPrivateMessage, AMessageOpensAWindowInWhichTheUserAnswers)
+{
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn());
+    start(bob);
+    ann.send("127.0.32.1", "-hello");
+    const PrivateWindow window = PrivateWindow::with("Ann");
+    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+
+    window.say("Hello Ann, how are you?");
+    EXPECT_EQ(ann.next(), "-Hello Ann, how are you?");
+    EXPECT_THAT(logHeardBy(ann, window, window),
+                ContainsRegex("^-\xAB NIMB-Chat \\[today:[^\n]+ - now:[0-9][0-9]:[0-9][0-9]:[0-9][0-9]\\] Ready \xBB\r\n"
+                              "Ann> hello\r\n"
+                              "Bob> Hello Ann, how are you\\?$"));
+}
+
+TEST_F(StoryPrivateMessage, TwoCopiesWriteToEachOther)
+{
+    RunningCopy bob({"127.0.32.1", "BOB-PC"},
+                    profile(port, {{"127.0.32.2", "Ann", "ANN-PC"}, {"127.0.32.4", "Cleo", "CLEO-PC"}}));
+    RunningCopy cleo({"127.0.32.4", "CLEO-PC"}, profile(port, {{"127.0.32.1", "Bob", "BOB-PC"}}));
+    start(bob);
+    cleo.start({"Cleo"});
+    // Cleo asks Bob, who answers; then she can open his row.
+    const MainWindow cleosMain = MainWindow::of("Cleo");
+    cleosMain.openContact(0);
+    const PrivateWindow cleosWindow = PrivateWindow::with("Bob");
+    cleosWindow.say("Are you there?");
+    const PrivateWindow bobsWindow = PrivateWindow::with("Cleo");
+    bobsWindow.say("Here I am.");
+    cleosWindow.say("Fine!");
+
+    ann.send("127.0.32.1", "-tell me everything");
+    const PrivateWindow withAnn = PrivateWindow::with("Ann");
+    EXPECT_TRUE(waitUntil([&] {
+        return logHeardBy(ann, bobsWindow, withAnn).ends_with("Cleo> Are you there?\r\nBob> Here I am.\r\nCleo> Fine!");
+    }));
+}
+
+TEST_F(StoryPrivateMessage, TheUserOpensAWindowByDoubleClickAndItIsActive)
+{
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn());
+    start(bob);
+    ann.send("127.0.32.1", "!ONLINE 127.0.32.2 ANN-PC Ann the Great");
+    const MainWindow main = MainWindow::of("Bob");
+    main.openContact(0);
+    const PrivateWindow window = PrivateWindow::with("Ann the Great");
+    EXPECT_TRUE(waitUntil([&] { return window.isActive(); }));
+    EXPECT_EQ(window.state(), State::shown);
+    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    type("first words");
+    press("Return");
+    EXPECT_EQ(ann.next(), "-first words");
+    main.openContact(0);
+    EXPECT_TRUE(waitUntil([&] { return window.isActive(); }));
+    EXPECT_EQ(Window::all(PrivateWindow::captionFor("Ann the Great")).size(), 1U);
+}
+
+TEST_F(StoryPrivateMessage, AMessageOfAStrangerOpensNothing)
+{
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn());
+    start(bob);
+    WirePeer stranger("127.0.32.9", port);
+    stranger.send("127.0.32.1", "-psst");
+    stranger.send("127.0.32.1", "!ONLINE 127.0.32.9 SHADY-PC Shady");
+    ann.send("127.0.32.1", "-hello");
+    PrivateWindow::with("Ann");
+    EXPECT_FALSE(Window::exists(PrivateWindow::captionFor("Shady")));
+    EXPECT_THAT(stranger.waiting(), IsEmpty());
+
+    stranger.send("127.0.32.1", "-now you know me");
+    PrivateWindow::with("Shady");
+}
+
+TEST_F(StoryPrivateMessage, BlanksAndBreaksAtTheEndsAreTrimmedBothWays)
+{
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn());
+    start(bob);
+    ann.send("127.0.32.1", "- \r\n  in  side\r\nof it \r\n\r\n ");
+    const PrivateWindow window = PrivateWindow::with("Ann");
+    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+
+    window.activate();
+    press("shift+Return");
+    type("  two  words");
+    press("shift+Return");
+    type("and a line  ");
+    press("shift+Return");
+    press("shift+Return");
+    press("Return");
+    EXPECT_EQ(ann.next(), "-two  words\r\nand a line");
+    window.say("   ");
+    EXPECT_EQ(ann.next(), "-");
+    press("Return"); // the box is empty: nothing goes out
+    window.say("end");
+    EXPECT_EQ(ann.next(), "-end");
+    EXPECT_THAT(logHeardBy(ann, window, window),
+                EndsWith("\r\nAnn> in  side\r\nof it\r\nBob> two  words\r\nand a line\r\nBob> \r\nBob> end"));
+}
+
+TEST_F(StoryPrivateMessage, UmlautsAndEmojiTravelAsTheirBytes)
+{
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn());
+    start(bob);
+    ann.send("127.0.32.1", "-Gr\xFC\xDF" "e f\xFCr 5 \x80"); // windows-1252
+    const PrivateWindow window = PrivateWindow::with("Ann");
+    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    EXPECT_THAT(logHeardBy(ann, window, window), EndsWith("\r\nAnn> Gr\xFC\xDF" "e f\xFCr 5 \x80"));
+
+    window.say("Schöne Grüße für 5 €");
+    EXPECT_EQ(ann.next(), "-Sch\xF6ne Gr\xFC\xDF" "e f\xFCr 5 \x80");
+    window.say("Prima 😀");
+    EXPECT_EQ(ann.next(), "-Prima \xF0\x9F\x98\x80");
+    window.say("Grüße 😀");
+    EXPECT_EQ(ann.next(), "-Gr\xC3\xBC\xC3\x9F" "e \xF0\x9F\x98\x80");
+
+    press("ctrl+a");
+    ann.send("127.0.32.1", "-\xF0\x9F\x98\x80 \xC3\xA4"); // UTF-8
+    std::string log;
+    EXPECT_TRUE(waitUntil([&] { return (log = logHeardBy(ann, window, window)).ends_with("\r\nAnn> \xF0\x9F\x98\x80 \xC3\xA4"); }))
+        << log;
+}
+
+TEST_F(StoryPrivateMessage, WhatIsMarkUpElsewhereIsPlainTextHere)
+{
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn());
+    start(bob);
+    ann.send("127.0.32.1", "-<b>bold</b> &amp; %1 <img src=\"/etc/passwd\"> \x01\x02.");
+    const PrivateWindow window = PrivateWindow::with("Ann");
+    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    EXPECT_THAT(logHeardBy(ann, window, window),
+                EndsWith("\r\nAnn> <b>bold</b> &amp; %1 <img src=\"/etc/passwd\">   ."));
+    window.say("<i>%1 & %2</i> \\n");
+    EXPECT_EQ(ann.next(), "-<i>%1 & %2</i> \\n");
+}
+
+TEST_F(StoryPrivateMessage, TwoThousandCharactersAreSentAndNoMore)
+{
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn());
+    start(bob);
+    ann.send("127.0.32.1", "-hello");
+    const PrivateWindow window = PrivateWindow::with("Ann");
+    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    window.activate();
+    type("0123456789abcdefghij");
+    for (int length = 20; length < 2000; length *= 2) {
+        press("ctrl+a");
+        press("ctrl+c");
+        press("ctrl+End");
+        press("ctrl+v");
+    }
+    press("Return");
+    std::string expected = "-";
+    for (int i = 0; i < 100; ++i)
+        expected += "0123456789abcdefghij";
+    EXPECT_EQ(ann.next(), expected);
+}
+
+TEST_F(StoryPrivateMessage, PastingAnEmptyClipboardIsHarmless)
+{
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn());
+    start(bob);
+    ann.send("127.0.32.1", "-hello");
+    const PrivateWindow window = PrivateWindow::with("Ann");
+    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    window.activate();
+    press("ctrl+v");
+    press("shift+Insert");
+    window.say("nothing to paste");
+    EXPECT_EQ(ann.next(), "-nothing to paste");
+}
+
+/// By the option "PrivateBehaviour": how a window that a peer opens appears.
+class OpenedByAPeer : public StoryPrivateMessage, public testing::WithParamInterface<std::pair<const char *, State>>
+{
+};
+
+TEST_P(OpenedByAPeer, DoesNotTakeTheFocusFromWhoIsTyping)
+{
+    const auto [behaviour, expected] = GetParam();
+    const WirePeer ben("127.0.32.3", port);
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnnAndBen({{{"Options", "PrivateBehaviour"}, behaviour}}));
+    start(bob);
+    ann.send("127.0.32.1", "-hello");
+    const PrivateWindow withAnn = PrivateWindow::with("Ann");
+    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    withAnn.activate();
+    type("While I type, ");
+
+    ben.send("127.0.32.1", "-hello from Ben");
+    const PrivateWindow withBen = PrivateWindow::with("Ben");
+    EXPECT_TRUE(withBen.becomes(expected)) << withBen.state();
+    EXPECT_TRUE(waitUntil([&] { return withBen.wantsAttention(); }));
+    letWindowsSettle();
+    EXPECT_TRUE(withAnn.isActive()) << Window::active().caption();
+    type("Ben writes.");
+    press("Return");
+    EXPECT_EQ(ann.next(), "-While I type, Ben writes.");
+    EXPECT_EQ(withBen.state(), expected);
+}
+
+TEST_P(OpenedByAPeer, DoesNotTakeTheFocusFromTheMainWindow)
+{
+    const auto [behaviour, expected] = GetParam();
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn({{{"Options", "PrivateBehaviour"}, behaviour}}));
+    start(bob);
+    const MainWindow main = MainWindow::of("Bob");
+    main.activate();
+    ann.send("127.0.32.1", "-hello");
+    const PrivateWindow withAnn = PrivateWindow::with("Ann");
+    EXPECT_TRUE(withAnn.becomes(expected)) << withAnn.state();
+    letWindowsSettle();
+    EXPECT_TRUE(main.isActive()) << Window::active().caption();
+
+    // Closed, it is only hidden; the next message shows it in the same way, with what it held.
+    withAnn.close();
+    EXPECT_TRUE(withAnn.becomes(State::hidden));
+    main.activate();
+    ann.send("127.0.32.1", "-hello again");
+    EXPECT_TRUE(withAnn.becomes(expected)) << withAnn.state();
+    letWindowsSettle();
+    EXPECT_TRUE(main.isActive()) << Window::active().caption();
+    EXPECT_THAT(logHeardBy(ann, withAnn, withAnn), EndsWith("\r\nAnn> hello\r\nAnn> hello again"));
+}
+
+TEST_P(OpenedByAPeer, StaysAsTheUserHasItWhenMoreMessagesCome)
+{
+    const auto [behaviour, expected] = GetParam();
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn({{{"Options", "PrivateBehaviour"}, behaviour}}));
+    start(bob);
+    ann.send("127.0.32.1", "-one");
+    const PrivateWindow withAnn = PrivateWindow::with("Ann");
+    EXPECT_TRUE(withAnn.becomes(expected)) << withAnn.state();
+    withAnn.activate();
+    ann.send("127.0.32.1", "-two");
+    ann.send("127.0.32.1", "?ONLINE 127.0.32.2 ANN-PC Ann");
+    ann.hearUntil("!STATUS Online");
+    letWindowsSettle();
+    EXPECT_EQ(withAnn.state(), State::shown);
+    EXPECT_TRUE(withAnn.isActive());
+    EXPECT_FALSE(withAnn.wantsAttention());
+}
+
+INSTANTIATE_TEST_SUITE_P(ByDefault, OpenedByAPeer, testing::Values(std::pair("0", State::minimised)));
+INSTANTIATE_TEST_SUITE_P(OnTop, OpenedByAPeer, testing::Values(std::pair("1", State::shown)));
+
+TEST_F(StoryPrivateMessage, AWindowThatIsDestroyedByClosingStartsAnew)
+{
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn({{{"Options", "DontDestroyWindow"}, "1"}}));
+    start(bob);
+    ann.send("127.0.32.1", "-old news");
+    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    PrivateWindow::with("Ann").close();
+    EXPECT_TRUE(waitUntil([] { return !Window::exists(PrivateWindow::captionFor("Ann")); }));
+
+    ann.send("127.0.32.1", "-good news");
+    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    const PrivateWindow anew = PrivateWindow::with("Ann");
+    EXPECT_THAT(logHeardBy(ann, anew, anew), AllOf(EndsWith(" Ready \xBB\r\nAnn> good news"), Not(HasSubstr("old news"))));
+}
+
+TEST_F(StoryPrivateMessage, PresenceOfThePeerStandsInTheWindow)
+{
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn());
+    start(bob);
+    ann.send("127.0.32.1", "-hello");
+    const PrivateWindow window = PrivateWindow::with("Ann");
+    // Not while the announcement at the start waits for answers; then it is.
+    std::string log;
+    EXPECT_TRUE(waitUntil([&] {
+        ann.send("127.0.32.1", "!STATUS away Back at five");
+        return (log = logHeardBy(ann, window, window)).ends_with("] Ann changed his state to 'away - Back at five'");
+    })) << log;
+    ann.send("127.0.32.1", "!OFFLINE 127.0.32.2 ANN-PC Ann");
+    ann.send("127.0.32.1", "!ONLINE 127.0.32.2 ANN-PC Ann");
+    EXPECT_TRUE(waitUntil([&] { return (log = logHeardBy(ann, window, window)).ends_with("] Ann is online"); })) << log;
+    EXPECT_THAT(log, ContainsRegex("\r\n\\[[^\n]+ @ [0-9][0-9]:[0-9][0-9]\\] Ann has gone offline\r\n"
+                                   "\\[[^\n]+ @ [0-9][0-9]:[0-9][0-9]\\] Ann is online$"));
+}
+
+TEST_F(StoryPrivateMessage, ABusyUserAnswersAutomaticallyAtMostOnceASecond)
+{
+    RunningCopy bob({"127.0.32.1", "BOB-PC"},
+                    withAnn({{{"Settings", "AutoReplyonBusyActive"}, "-1"},
+                             {{"Settings", "AutoReplyonBusyText"}, "Sp\xC3\xA4ter"}}));
+    start(bob);
+    const MainWindow main = MainWindow::of("Bob");
+    ann.send("127.0.32.1", "-one");
+    PrivateWindow::with("Ann");
+    EXPECT_EQ(ann.next(), "?AVATARHEAD"); // Online: no reply
+    main.chooseState(1);
+    EXPECT_TRUE(waitUntil([&] {
+        ann.send("127.0.32.1", "?ONLINE 127.0.32.2 ANN-PC Ann");
+        ann.next();
+        return ann.next() == "!STATUS BUSY";
+    }));
+    ann.waiting();
+    ann.send("127.0.32.1", "-two");
+    ann.send("127.0.32.1", "-three");
+    ann.send("127.0.32.1", "?ONLINE 127.0.32.2 ANN-PC Ann");
+    EXPECT_THAT(ann.hearUntil("!STATUS BUSY"),
+                ElementsAre("-[AutoReply] Sp\xE4ter", "!ONLINE 127.0.32.1 BOB-PC Bob", "!STATUS BUSY"));
+}
+
+/// What peers call themselves, and what becomes of it.
+struct RemoteName {
+    const char *label;
+    std::string bytes;
+    std::string stored;
+};
+
+class NamesOfPeers : public StoryPrivateMessage, public testing::WithParamInterface<RemoteName>
+{
+};
+
+TEST_P(NamesOfPeers, AreShownAndStoredAsPlainText)
+{
+    const RemoteName &name = GetParam();
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn());
+    start(bob);
+    ann.send("127.0.32.1", "!ONLINE 127.0.32.2 ANN-PC " + name.bytes);
+    ann.send("127.0.32.1", "-hello");
+    const PrivateWindow window = PrivateWindow::with(name.stored);
+    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    ann.send("127.0.32.1", "!OFFLINE");
+    const std::string log = logHeardBy(ann, MainWindow::of("Bob"), window);
+    EXPECT_THAT(log, HasSubstr(" has gone offline ---"));
+    EXPECT_THAT(log, Not(HasSubstr("\n--- forged ---")));
+
+    EXPECT_EQ(bob.end(), 0);
+    EXPECT_THAT(bob.storedContacts(), ElementsAre(StoredContact{"127.0.32.2", name.stored, "ANN-PC"}));
+}
+
+std::string labelOf(const testing::TestParamInfo<RemoteName> &parameter)
+{
+    return parameter.param.label;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    ThatAre, NamesOfPeers,
+    testing::Values(RemoteName{"MarkUp", "<b>Ann</b> <img src=x> &amp;", "<b>Ann</b> <img src=x> &amp;"},
+                    RemoteName{"PlaceHolders", "%1 %2 %n %s {0}", "%1 %2 %n %s {0}"},
+                    RemoteName{"TheMarkOfChangedDocuments", "a[*]b[*][*]c", "a[*]b[*][*]c"},
+                    RemoteName{"LineBreaks", "Ann\r\n--- forged ---\nx\ty", "Ann --- forged --- x y"},
+                    RemoteName{"NulBytes", std::string("An\0n\0", 5), "An n "},
+                    RemoteName{"Western", "J\xFCrgen \x80", "J\xC3\xBCrgen \xE2\x82\xAC"},
+                    RemoteName{"Utf8", "\xF0\x9F\x98\x80 \xC3\xBC", "\xF0\x9F\x98\x80 \xC3\xBC"},
+                    RemoteName{"Ampersands", "R&D && more", "R&D && more"},
+                    RemoteName{"RightToLeftOverrides", "a\xE2\x80\xAE" "cod.exe", "acod.exe"}),
+    labelOf);
+
+} // namespace
+} // namespace nimb::test

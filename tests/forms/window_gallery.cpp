@@ -1,0 +1,193 @@
+// Takes a picture of every window with realistic content: window_gallery FOLDER light|dark
+#include "dialogs/frmLogin.h"
+#include "real_windows.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTimer>
+
+#include <cstdio>
+
+namespace nimb::test
+{
+namespace
+{
+
+QPalette darkPalette()
+{
+    QPalette palette(QColor(53, 53, 53));
+    palette.setColor(QPalette::Base, QColor(35, 35, 35));
+    palette.setColor(QPalette::AlternateBase, QColor(45, 45, 45));
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
+        palette.setColor(role, QColor(235, 235, 235));
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(130, 130, 130));
+    palette.setColor(QPalette::ToolTipBase, QColor(53, 53, 53));
+    palette.setColor(QPalette::Highlight, QColor(42, 110, 180));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+class Gallery
+{
+public:
+    explicit Gallery(const QString &folder) : m_folder(folder) {}
+
+    void take(QWidget &window, const char *name)
+    {
+        QCoreApplication::processEvents();
+        const QString file = m_folder.filePath(QLatin1String(name) + QLatin1String(".png"));
+        if (!window.grab().save(file))
+            qFatal("cannot write %s", qPrintable(file));
+        std::printf("%s\n", qPrintable(file));
+    }
+
+private:
+    QDir m_folder;
+};
+
+const std::vector<std::pair<const char *, const char *>> everybody = {
+    {"192.168.1.12", "Ann"},
+    {"192.168.1.20", "Benedikt Freiherr von und zu Hohenstein-Waldburg"},
+    {"192.168.1.31", "Cleo"},
+    {"192.168.1.44", "Дмитрий"},
+    {"192.168.1.45", "Émile"},
+    {"192.168.1.99", "Frank (basement)"},
+    {"192.168.1.107", "山田"},
+};
+
+void fill(RealWindows &windows)
+{
+    windows.settleStart({"192.168.1.12", "192.168.1.20", "192.168.1.31", "192.168.1.44", "192.168.1.45"});
+    windows.arrive("192.168.1.20", "!STATUS BUSY In a meeting until the afternoon");
+    windows.arrive("192.168.1.44", "!STATUS AWAY Lunch");
+    windows.arrive("192.168.1.31", "!STATUS ONLINE");
+    windows.arrive("192.168.1.107", "!ONLINE 192.168.1.107 PC-YAMADA \xE5\xB1\xB1\xE7\x94\xB0");
+    windows.arrive("192.168.1.45", "!DANCE");
+    windows.arrive("192.168.1.45", "what is this?");
+    windows.click(0);
+}
+
+void takeMain(Gallery &gallery)
+{
+    RealWindows windows(everybody);
+    fill(windows);
+    gallery.take(windows.main(), "main");
+    windows.control<QTabBar>("TabStrip1").setCurrentIndex(1);
+    gallery.take(windows.main(), "main_full_details");
+    windows.control<QTabBar>("TabStrip1").setCurrentIndex(0);
+    windows.entry("mnuLogWindow").trigger();
+    gallery.take(windows.main(), "main_without_log");
+    windows.entry("mnuLogWindow").trigger();
+    auto &chooser = windows.control<QComboBox>("ImageCombo1");
+    chooser.setCurrentIndex(4);
+    Q_EMIT chooser.activated(4);
+    RealWindows::control<QLineEdit>(windows.main(), "PersonalizedMessageText").setText(QStringLiteral("In a meeting"));
+    gallery.take(windows.main(), "main_personalized_state");
+    windows.control<QPushButton>("PersonalizedOkbtn").click();
+    chooser.setCurrentIndex(2);
+    Q_EMIT chooser.activated(2);
+    windows.control<QPushButton>("Autoreplybtn").click();
+    gallery.take(windows.main(), "main_auto_reply");
+    auto &menu = windows.control<QMenu>("mnuPopUp");
+    windows.click(1, Qt::RightButton);
+    gallery.take(menu, "main_context_menu");
+    menu.close();
+}
+
+void takeMainInTrouble(Gallery &gallery)
+{
+    RealWindows windows;
+    gallery.take(windows.main(), "main_empty");
+    windows.main().setTroublePanel(QStringLiteral("Port 5549 is taken"));
+    windows.engine.log().fault(QStringLiteral("Port 5549 is used by another program, so nobody can reach you. Close that "
+                                              "program: NIMB-Chat tries again every 5 seconds."));
+    gallery.take(windows.main(), "main_port_taken");
+}
+
+void takeMainWithThousand(Gallery &gallery)
+{
+    std::vector<std::string> names;
+    std::vector<std::string> addresses;
+    for (int i = 0; i < 1000; ++i) {
+        names.push_back("Contact " + std::to_string(i));
+        addresses.push_back("10.0." + std::to_string(i / 250) + "." + std::to_string(i % 250 + 1));
+    }
+    std::vector<std::pair<const char *, const char *>> contacts;
+    for (std::size_t i = 0; i < names.size(); ++i)
+        contacts.emplace_back(addresses[i].c_str(), names[i].c_str());
+    RealWindows windows(contacts);
+    windows.settleStart({"10.0.0.1", "10.0.0.2"});
+    gallery.take(windows.main(), "main_thousand_contacts");
+}
+
+void takePrivate(Gallery &gallery)
+{
+    RealWindows windows(everybody);
+    fill(windows);
+    windows.doubleClick(0);
+    QWidget &form = windows.privateWindow();
+    PrivateChat &chat = *windows.engine.privateWindows().at(1);
+    windows.arrive("192.168.1.12", "-Hello! Did you see the new plan?");
+    chat.send(QStringLiteral("Not yet. Is it on the server?"));
+    windows.arrive("192.168.1.12", "-Yes, in the usual place. It is a long one, so take your time; the part about the "
+                                   "network in the basement is the one that matters for us.\r\nThere is a second line, too.");
+    chat.send(QStringLiteral("I'll read it after lunch"));
+    windows.arrive("192.168.1.12", "!STATUS AWAY Lunch");
+    RealWindows::control<QPlainTextEdit>(form, "intext").setPlainText(QStringLiteral("See you at"));
+    gallery.take(form, "private");
+}
+
+void takeLogin(Gallery &gallery)
+{
+    Common common;
+    MemoryStore store;
+    RecorderPrompts prompts;
+    SimulatedWinsock socket(QStringLiteral("192.168.1.5"), QStringLiteral("WORKSTATION-5"), nullptr);
+    Login login(common, store, socket);
+    frmLogin dialog(login, prompts);
+    dialog.show();
+    gallery.take(dialog, "login");
+}
+
+void takeMessageBox(Gallery &gallery)
+{
+    MessageBoxes boxes;
+    QTimer::singleShot(0, [&gallery] {
+        QWidget *const box = QApplication::activeModalWidget();
+        gallery.take(*box, "remove_question");
+        box->close();
+    });
+    boxes.confirm(QStringLiteral("Are you sure you want to remove the user 'Ann' on workstation 'PC-ANN' (192.168.1.12) ?"),
+                  QStringLiteral("Please confirm user removal"));
+}
+
+} // namespace
+} // namespace nimb::test
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    const QStringList words = QCoreApplication::arguments();
+    if (words.size() != 3) {
+        std::fprintf(stderr, "usage: window_gallery FOLDER light|dark\n");
+        return 2;
+    }
+    if (words[2] == QLatin1String("dark"))
+        QApplication::setPalette(nimb::test::darkPalette());
+    nimb::test::Gallery gallery(words[1]);
+    nimb::test::takeLogin(gallery);
+    nimb::test::takeMain(gallery);
+    nimb::test::takeMainInTrouble(gallery);
+    nimb::test::takeMainWithThousand(gallery);
+    nimb::test::takePrivate(gallery);
+    nimb::test::takeMessageBox(gallery);
+    return 0;
+}
