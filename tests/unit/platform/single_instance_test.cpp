@@ -266,6 +266,19 @@ INSTANTIATE_TEST_SUITE_P(SingleInstance, Garbage,
                                          Message{"AMillionBytes", QByteArray(1 << 20, 'x')}),
                          [](const auto &tested) { return std::string(tested.param.name); });
 
+TEST_F(SingleInstanceTest, AMessageThatIsTooLongIsNotWaitedFor)
+{
+    FirstCopy first(folder);
+    ASSERT_TRUE(first.instance.acquire());
+    QLocalSocket silent; // connected before, so its time is up first
+    ASSERT_TRUE(connectAndSend(silent, first.instance.socketPath(), ""));
+    QTest::qWait(1);
+    QLocalSocket client;
+    ASSERT_TRUE(connectAndSend(client, first.instance.socketPath(), QByteArray(4096, 'x')));
+    EXPECT_TRUE(isDropped(client));
+    EXPECT_EQ(silent.state(), QLocalSocket::ConnectedState);
+}
+
 TEST_F(SingleInstanceTest, AMessageMayComeInPieces)
 {
     FirstCopy first(folder);

@@ -1,0 +1,142 @@
+// Datagrams through a whole engine, with few and with many contacts: the time must not depend on their number.
+#include "app/messenger.h"
+#include "recorders.h"
+#include "simulated_network.h"
+#include "virtual_time.h"
+
+#include <benchmark/benchmark.h>
+
+namespace nimb::test
+{
+namespace
+{
+
+/// Writes nothing, so that the engine alone is timed.
+class SilentLog : public RichTextLog
+{
+public:
+    qsizetype textLength() const override { return 0; }
+    void setSelStart(qsizetype) override {}
+    void setSelColor(Colour) override {}
+    void setSelFont(const LogFont &) override {}
+    void setSelText(const QString &text) override { benchmark::DoNotOptimize(text.size()); }
+    void clear() override {}
+};
+
+class SilentMainView : public RecorderMainView
+{
+public:
+    RichTextLog &outtext() override { return silent; }
+    SilentLog silent;
+};
+
+class SilentPrivateView : public RecorderPrivateView
+{
+public:
+    using RecorderPrivateView::RecorderPrivateView;
+    RichTextLog &outtext() override { return silent; }
+    SilentLog silent;
+};
+
+class SilentForms : public PrivateForms
+{
+public:
+    ViewPtr<PrivateChatView> makePrivateForm(PrivateChat &chat) override
+    {
+        views.push_back(std::make_unique<SilentPrivateView>(chat));
+        return ViewPtr<PrivateChatView>(views.back().get());
+    }
+    std::vector<std::unique_ptr<SilentPrivateView>> views;
+};
+
+class SilentNotifications : public Notifications
+{
+public:
+    void add(const QString &text, Picture) override { benchmark::DoNotOptimize(text.size()); }
+    void startTimer() override {}
+};
+
+QString addressOf(int contact)
+{
+    return QStringLiteral("10.%1.%2.%3").arg(contact / 65536).arg(contact / 256 % 256).arg(contact % 256);
+}
+
+struct Engine {
+    explicit Engine(int contacts)
+    {
+        common.ownIP = QStringLiteral("11.0.0.1");
+        for (int i = 0; i < contacts; ++i) {
+            Contact contact;
+            contact.ip = addressOf(i);
+            contact.nickname = QStringLiteral("Contact %1").arg(i);
+            contact.setPresence(Picture::green);
+            messenger.contacts().add(contact);
+        }
+        socket.bind();
+    }
+
+    VirtualTime time;
+    Common common;
+    SimulatedWinsock socket{QStringLiteral("11.0.0.1"), QStringLiteral("HERE"), nullptr};
+    MemoryStore settings;
+    SilentMainView view;
+    SilentForms forms;
+    SilentNotifications notifications;
+    RecorderPrompts prompts;
+    Steps steps;
+    RecorderTray tray{steps};
+    RecorderWindows windows{steps};
+    DropCounts drops;
+    Messenger messenger{common, {socket, settings, time, time, prompts, notifications, tray, windows, forms, view, drops}};
+};
+
+void dispatch(benchmark::State &state, const char *bytes)
+{
+    const int contacts = static_cast<int>(state.range(0));
+    Engine engine(contacts);
+    const QString ip = addressOf(contacts / 2);
+    for (auto _ : state) {
+        engine.messenger.dispatcher().receive(ip, bytes);
+        engine.socket.sent.clear();
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+
+void message(benchmark::State &state)
+{
+    dispatch(state, "-Hello, how are you today?");
+}
+void onlineQuestion(benchmark::State &state)
+{
+    dispatch(state, "?ONLINE 10.0.0.1 PC Contact");
+}
+void stranger(benchmark::State &state)
+{
+    Engine engine(static_cast<int>(state.range(0)));
+    for (auto _ : state)
+        engine.messenger.dispatcher().receive(QStringLiteral("99.9.9.9"), "-Hello, how are you today?");
+    state.SetItemsProcessed(state.iterations());
+}
+/// Two states in turn, so that the row moves through the list each time.
+void stateChange(benchmark::State &state)
+{
+    const int contacts = static_cast<int>(state.range(0));
+    Engine engine(contacts);
+    const QString ip = addressOf(contacts / 2);
+    bool busy = false;
+    for (auto _ : state) {
+        busy = !busy;
+        engine.messenger.dispatcher().receive(ip, busy ? "!STATUS BUSY" : "!STATUS ONLINE");
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+
+BENCHMARK(message)->Arg(1)->Arg(100)->Arg(10000);
+BENCHMARK(onlineQuestion)->Arg(1)->Arg(100)->Arg(10000);
+BENCHMARK(stateChange)->Arg(1)->Arg(100)->Arg(10000);
+BENCHMARK(stranger)->Arg(1)->Arg(100)->Arg(10000);
+
+} // namespace
+} // namespace nimb::test
+
+BENCHMARK_MAIN();
