@@ -16,6 +16,7 @@ struct Point {
 constexpr Point stateChooser = {150, 47};
 constexpr Point firstRow = {150, 104};
 constexpr int rowHeight = 24;
+constexpr Point fourthMenuEntry = {40, 77}; // from where the menu was opened
 constexpr Point mainLog = {450, 200};
 
 // Private window: the log takes the upper part, the input box stands at the bottom above the status bar.
@@ -47,6 +48,26 @@ void MainWindow::openContact(int row) const
 {
     activate();
     click(firstRow.x, firstRow.y + row * rowHeight, 2);
+}
+
+PrivateWindow MainWindow::openWhenOnline(int row, const std::string &nickname) const
+{
+    const std::string caption = PrivateWindow::captionFor(nickname);
+    waitUntil([&] {
+        openContact(row);
+        return waitUntil([&] { return Window::exists(caption); }, std::chrono::milliseconds(500));
+    });
+    return PrivateWindow::with(nickname);
+}
+
+void MainWindow::chooseRemove(int row) const
+{
+    activate();
+    const std::size_t without = numberOfVisible();
+    const Point pointer = {firstRow.x, firstRow.y + row * rowHeight};
+    click(pointer.x, pointer.y, 1, 3);
+    EXPECT_TRUE(waitUntil([&] { return numberOfVisible() > without; })) << "no context menu";
+    click(pointer.x + fourthMenuEntry.x, pointer.y + fourthMenuEntry.y);
 }
 
 void MainWindow::chooseState(int entriesBelow) const

@@ -9,6 +9,8 @@
 namespace nimb::test
 {
 
+class PrivateWindow;
+
 class MainWindow : public Window
 {
 public:
@@ -17,6 +19,10 @@ public:
 
     /// Double click on a row of the contact list, counted from 0.
     void openContact(int row) const;
+    /// Tries until it opens a window of this name, for a contact that is not known to be there yet does not open.
+    PrivateWindow openWhenOnline(int row, const std::string &nickname) const;
+    /// Chooses "Remove" from the context menu of a row.
+    void chooseRemove(int row) const;
     /// Chooses the entry of the own-state chooser that is so many below the chosen one; negative goes up.
     void chooseState(int entriesBelow) const;
     void rescan() const;

@@ -183,6 +183,13 @@ Window Window::waitFor(const std::string &caption)
     return found.empty() ? Window() : found.front();
 }
 
+std::size_t Window::numberOfVisible()
+{
+    const Outcome search
+        = run(QStringLiteral("xdotool"), {"search", "--onlyvisible", "--class", "^nimb-chat$"});
+    return static_cast<std::size_t>(search.output.count('\n'));
+}
+
 Window Window::active()
 {
     const Outcome outcome = run(QStringLiteral("xdotool"), {"getactivewindow"});
@@ -254,6 +261,11 @@ void Window::minimise() const
 {
     act({"windowminimize", m_id});
     EXPECT_TRUE(becomes(State::minimised));
+}
+
+void Window::resize(int width, int height) const
+{
+    act({"windowsize", m_id, QString::number(width), QString::number(height)});
 }
 
 void Window::close() const

@@ -57,6 +57,8 @@ public:
     /// Waits for the one window of this caption; a test failure and a null window when there is none in time.
     static Window waitFor(const std::string &caption);
     static bool exists(const std::string &caption) { return !all(caption).empty(); }
+    /// How many of the program there are, menus included.
+    static std::size_t numberOfVisible();
     /// The one that has the focus; null when there is none.
     static Window active();
 
@@ -74,6 +76,8 @@ public:
     void activate() const;
     void minimise() const;
     void move(int left, int top) const;
+    /// Asks for this size inside the frame, as dragging the frame does.
+    void resize(int width, int height) const;
     /// Presses the close box (by the window manager's key for it).
     void close() const;
     /// Presses a mouse button this often, at a place counted from the window's upper left corner without its frame.

@@ -144,11 +144,8 @@ TEST_F(StoryPresence, TwoCopiesThatKnowEachOtherSeeEachOtherComeAndGo)
     // A contact that is not known to be there does not open by double click; this one does, under its new name. It is
     // the first of the list now, for Ann is silent.
     const MainWindow bobsMain = MainWindow::of("Bob");
-    const MainWindow cleosMain = MainWindow::of("Cleo");
-    bobsMain.openContact(0);
-    PrivateWindow::with("Cleo");
-    cleosMain.openContact(0);
-    PrivateWindow::with("Bob");
+    bobsMain.openWhenOnline(0, "Cleo");
+    MainWindow::of("Cleo").openWhenOnline(0, "Bob");
 
     ann.send("127.0.31.1", "-what do you see?");
     EXPECT_EQ(cleo.end(), 0);

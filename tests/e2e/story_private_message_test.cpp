@@ -5,8 +5,6 @@
 
 #include <gmock/gmock.h>
 
-#include <csignal>
-
 namespace nimb::test
 {
 namespace
@@ -20,8 +18,6 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using State = Window::State;
-
-const std::string prefixOfCaption = "NIMB-Chat 1.2 - ";
 
 class StoryPrivateMessage : public testing::Test
 {
@@ -66,10 +62,7 @@ TEST_F(StoryPrivateMessage, TwoCopiesWriteToEachOther)
     RunningCopy cleo({"127.0.32.4", "CLEO-PC"}, profile(port, {{"127.0.32.1", "Bob", "BOB-PC"}}));
     start(bob);
     cleo.start({"Cleo"});
-    // Cleo asks Bob, who answers; then she can open his row.
-    const MainWindow cleosMain = MainWindow::of("Cleo");
-    cleosMain.openContact(0);
-    const PrivateWindow cleosWindow = PrivateWindow::with("Bob");
+    const PrivateWindow cleosWindow = MainWindow::of("Cleo").openWhenOnline(0, "Bob");
     cleosWindow.say("Are you there?");
     const PrivateWindow bobsWindow = PrivateWindow::with("Cleo");
     bobsWindow.say("Here I am.");
@@ -86,7 +79,8 @@ TEST_F(StoryPrivateMessage, TheUserOpensAWindowByDoubleClickAndItIsActive)
 {
     RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn());
     start(bob);
-    ann.send("127.0.32.1", "!ONLINE 127.0.32.2 ANN-PC Ann the Great");
+    ann.send("127.0.32.1", "?ONLINE 127.0.32.2 ANN-PC Ann the Great");
+    ann.hearUntil("!STATUS Online");
     const MainWindow main = MainWindow::of("Bob");
     main.openContact(0);
     const PrivateWindow window = PrivateWindow::with("Ann the Great");
@@ -159,11 +153,10 @@ TEST_F(StoryPrivateMessage, UmlautsAndEmojiTravelAsTheirBytes)
     window.say("Grüße 😀");
     EXPECT_EQ(ann.next(), "-Gr\xC3\xBC\xC3\x9F" "e \xF0\x9F\x98\x80");
 
-    press("ctrl+a");
     ann.send("127.0.32.1", "-\xF0\x9F\x98\x80 \xC3\xA4"); // UTF-8
-    std::string log;
-    EXPECT_TRUE(waitUntil([&] { return (log = logHeardBy(ann, window, window)).ends_with("\r\nAnn> \xF0\x9F\x98\x80 \xC3\xA4"); }))
-        << log;
+    ann.send("127.0.32.1", "?ONLINE");
+    ann.hearUntil("!STATUS Online");
+    EXPECT_THAT(logHeardBy(ann, window, window), HasSubstr("\r\nAnn> \xF0\x9F\x98\x80 \xC3\xA4"));
 }
 
 TEST_F(StoryPrivateMessage, WhatIsMarkUpElsewhereIsPlainTextHere)
@@ -306,19 +299,22 @@ TEST_F(StoryPrivateMessage, AWindowThatIsDestroyedByClosingStartsAnew)
 
 TEST_F(StoryPrivateMessage, PresenceOfThePeerStandsInTheWindow)
 {
-    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn());
+    WirePeer ben("127.0.32.3", port);
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnnAndBen());
     start(bob);
     ann.send("127.0.32.1", "-hello");
+    ben.send("127.0.32.1", "-what does she do?");
     const PrivateWindow window = PrivateWindow::with("Ann");
+    const PrivateWindow withBen = PrivateWindow::with("Ben");
     // Not while the announcement at the start waits for answers; then it is.
     std::string log;
     EXPECT_TRUE(waitUntil([&] {
         ann.send("127.0.32.1", "!STATUS away Back at five");
-        return (log = logHeardBy(ann, window, window)).ends_with("] Ann changed his state to 'away - Back at five'");
+        return (log = logHeardBy(ben, window, withBen)).ends_with("] Ann changed his state to 'away - Back at five'");
     })) << log;
     ann.send("127.0.32.1", "!OFFLINE 127.0.32.2 ANN-PC Ann");
     ann.send("127.0.32.1", "!ONLINE 127.0.32.2 ANN-PC Ann");
-    EXPECT_TRUE(waitUntil([&] { return (log = logHeardBy(ann, window, window)).ends_with("] Ann is online"); })) << log;
+    EXPECT_TRUE(waitUntil([&] { return (log = logHeardBy(ben, window, withBen)).ends_with("] Ann is online"); })) << log;
     EXPECT_THAT(log, ContainsRegex("\r\n\\[[^\n]+ @ [0-9][0-9]:[0-9][0-9]\\] Ann has gone offline\r\n"
                                    "\\[[^\n]+ @ [0-9][0-9]:[0-9][0-9]\\] Ann is online$"));
 }
