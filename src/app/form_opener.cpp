@@ -45,11 +45,12 @@ frmMain &FormOpener::makeMain()
     return *m_main;
 }
 
-void FormOpener::connectMain(Messenger &engine, Common &common, const DropCounts &drops, std::function<void()> ended)
+void FormOpener::connectMain(Messenger &engine, Common &common, std::function<QString()> statusNotes,
+                             std::function<void()> ended)
 {
     m_engine = &engine;
     m_main->connectControls({engine.mainWindow(), engine.contacts(), engine.contactCommands(), engine.ownState(),
-                             engine.announcement(), engine.log(), common, [&drops] { return drops.summary(); }},
+                             engine.announcement(), engine.log(), common, std::move(statusNotes)},
                             std::move(ended));
 }
 

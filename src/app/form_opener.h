@@ -33,18 +33,20 @@ public:
     /// The main window, made once, without its engine.
     frmMain &makeMain();
     frmMain *main() { return m_main.get(); }
-    /// Ties window and engine together. ended: called when the window has been unloaded.
-    void connectMain(Messenger &engine, Common &common, const DropCounts &drops, std::function<void()> ended);
+    /// Ties window and engine together. statusNotes: what the status bar's tool tip says; ended: called when the
+    /// window has been unloaded.
+    void connectMain(Messenger &engine, Common &common, std::function<QString()> statusNotes,
+                     std::function<void()> ended);
     void destroyMain();
     QIcon trayIcon() const;
 
     ViewPtr<PrivateChatView> makePrivateForm(PrivateChat &chat) override;
 
-    void unloadConferences() override {}
+    void unloadConferences() override { }
     void unloadPrivateWindows() override;
     void unloadNotify() override;
-    void unloadInvitations() override {}
-    void unloadTipOfTheDay() override {}
+    void unloadInvitations() override { }
+    void unloadTipOfTheDay() override { }
 
     void add(const QString &text, Picture picture) override;
     void startTimer() override;

@@ -3,19 +3,19 @@
 namespace nimb
 {
 
-Messenger::Messenger(Common &common, const Surroundings &around) :
-    m_socket(around.socket), m_log(around.mainView.outtext(), around.clock), m_sender(common, around.socket),
-    m_announcement(common, m_contacts, m_sender, around.timers, around.mainView),
-    m_ownState(common, m_contacts, m_sender, m_announcement, m_log, around.mainView),
-    m_port(around.socket, common, around.timers, m_log, around.mainView, [this] { m_announcement.run(); }),
-    m_privateWindows({common, around.socket, around.timers, around.clock, around.privateForms}, m_contacts),
-    m_presence(common, m_contacts, m_sender, m_log, m_privateWindows, around.notifications, around.clock,
-               around.drops),
-    m_contactCommands(m_contacts, m_privateWindows, around.prompts),
-    m_dispatcher(m_contacts, {.presence = &m_presence, .unknown = &m_log, .privateMessages = &m_privateWindows},
+Messenger::Messenger(Common &common, const Surroundings &around)
+    : m_socket(around.socket), m_log(around.mainView.outtext(), around.clock), m_sender(common, around.socket),
+      m_announcement(common, m_contacts, m_sender, around.timers, around.mainView),
+      m_ownState(common, m_contacts, m_sender, m_announcement, m_log, around.mainView),
+      m_port(around.socket, common, around.timers, m_log, around.mainView, [this] { m_announcement.run(); }),
+      m_privateWindows({common, around.socket, around.timers, around.clock, around.privateForms}, m_contacts),
+      m_presence(common, m_contacts, m_sender, m_log, m_privateWindows, around.notifications, around.clock,
                  around.drops),
-    m_mainWindow({common, around.store, m_contacts, m_ownState, m_sender, m_announcement, m_port, m_log,
-                  around.prompts, around.windows, around.tray, around.mainView})
+      m_contactCommands(m_contacts, m_privateWindows, around.prompts),
+      m_dispatcher(m_contacts, {.presence = &m_presence, .unknown = &m_log, .privateMessages = &m_privateWindows},
+                   around.drops),
+      m_mainWindow({common, around.store, m_contacts, m_ownState, m_sender, m_announcement, m_port, m_log,
+                    around.prompts, around.windows, around.tray, around.mainView})
 {
     m_dispatcher.listenTo(m_socket);
 }

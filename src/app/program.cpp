@@ -39,9 +39,9 @@ Environment Environment::fromSystem()
             QDir(variable("NIMBCHAT_PROFILE").value_or(standard)).absolutePath()};
 }
 
-Program::Program(const Environment &environment) :
-    m_store(environment.profileFolder), m_instance(environment.profileFolder),
-    m_socket(m_drops, environment.address, environment.hostName)
+Program::Program(const Environment &environment)
+    : m_wantedAddress(environment.address), m_store(environment.profileFolder), m_instance(environment.profileFolder),
+      m_socket(m_drops, environment.address, environment.hostName)
 {
     qApp->installEventFilter(&m_toolTips);
 }
@@ -122,10 +122,29 @@ void Program::loadMain()
     frmMain &window = m_forms.makeMain();
     m_prompts.setParentWindow(&window);
     m_tray.emplace(m_forms.trayIcon(), [&window] { window.restore(); });
-    m_engine.emplace(m_common, Surroundings{m_socket, m_store, m_timers, m_clock, m_prompts, m_forms, *m_tray,
-                                            m_forms, m_forms, window, m_drops});
-    m_forms.connectMain(*m_engine, m_common, m_drops, [] { QCoreApplication::exit(0); });
+    m_engine.emplace(m_common,
+                     Surroundings{m_socket, m_store, m_timers, m_clock, m_prompts, m_forms, *m_tray, m_forms, m_forms,
+                                  window, m_drops});
+    m_forms.connectMain(
+        *m_engine, m_common, [this] { return statusNotes(); }, [] { QCoreApplication::exit(0); });
     window.Form_Load();
+    if (m_wantedAddress && !dottedIpv4(*m_wantedAddress))
+        m_engine->log().fault(
+            tr("NIMBCHAT_ADDRESS is \"%1\", which is no IPv4 address; NIMB-Chat listens on every interface instead.")
+                .arg(*m_wantedAddress));
+}
+
+QString Program::statusNotes() const
+{
+    QStringList notes;
+    if (const QString drops = m_drops.summary(); !drops.isEmpty())
+        notes.append(drops);
+    const int granted = m_socket.receiveBufferBytes();
+    if (m_socket.isBound() && granted < UdpWinsock::receiveBufferAsked)
+        notes.append(tr("The system grants %1 KiB for waiting datagrams instead of %2 KiB: sudden bursts may be lost.")
+                         .arg(granted / 1024)
+                         .arg(UdpWinsock::receiveBufferAsked / 1024));
+    return notes.join(QLatin1Char('\n'));
 }
 
 void Program::showMain()

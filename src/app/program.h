@@ -24,15 +24,17 @@ QString commandLineOf(int argc, char *argv[]);
 
 /// What the program is told by its environment.
 struct Environment {
-    std::optional<QString> address; ///< NIMBCHAT_ADDRESS: dotted IPv4 to bind to
+    std::optional<QString> address;  ///< NIMBCHAT_ADDRESS: dotted IPv4 to bind to
     std::optional<QString> hostName; ///< NIMBCHAT_HOSTNAME
-    QString profileFolder; ///< NIMBCHAT_PROFILE, or NIMB-Chat in the user's configuration folder
+    QString profileFolder;           ///< NIMBCHAT_PROFILE, or NIMB-Chat in the user's configuration folder
 
     static Environment fromSystem();
 };
 
 class Program : public StartUpSteps
 {
+    Q_DECLARE_TR_FUNCTIONS(Program)
+
 public:
     explicit Program(const Environment &environment);
 
@@ -41,14 +43,14 @@ public:
 
     bool anotherCopyRuns() override;
     void restoreOtherCopy(const QString &caption) override;
-    void InitEmoticonTables() override {}
+    void InitEmoticonTables() override { }
     void loadNotify() override;
     void showLogin() override;
     void loadAndUnloadLogin() override;
     void loadMain() override;
     void showMain() override;
     void minimiseMain() override;
-    void showTipOfTheDay() override {}
+    void showTipOfTheDay() override { }
 
 private:
     void listenToTheSystem();
@@ -56,7 +58,9 @@ private:
     /// Ends the program without anybody there to answer questions.
     void end(UnloadMode mode);
     void secondStart(const QString &caption);
+    QString statusNotes() const;
 
+    std::optional<QString> m_wantedAddress;
     DropCounts m_drops;
     Common m_common;
     SqliteSettingsStore m_store;

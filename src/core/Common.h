@@ -13,7 +13,7 @@ namespace nimb
 struct LogFont {
     QString face = QStringLiteral("MS Sans Serif");
     std::int16_t size = 8; ///< points
-    QString style; ///< holds "b" for bold and "i" for italic, in any order
+    QString style;         ///< holds "b" for bold and "i" for italic, in any order
 
     bool bold() const { return style.contains(u'b'); }
     bool italic() const { return style.contains(u'i'); }
@@ -58,13 +58,13 @@ struct Common {
 
     /// "Online" until the first choice, then "ONLINE", "BUSY", "AWAY" or "Invisible"; compared as written.
     QString ownState = QStringLiteral("Online");
-    QString ownStateText; ///< the personalised text, empty for a plain state
+    QString ownStateText;    ///< the personalised text, empty for a plain state
     bool announcing = false; ///< an announcement waits for answers
 
     Options options;
     AutoReply autoReply;
     LogFont logFont;
-    QString avatarHead; ///< empty: no avatar
+    QString avatarHead;    ///< empty: no avatar
     QByteArray avatarBody; ///< 7500 bytes, or empty
     std::uint16_t udpPort = 5549;
     WindowPlace mainPlace;

@@ -43,10 +43,10 @@ void PresenceSender::statusUnlessOnline(const QString &ip) const
 }
 
 Announcement::Announcement(Common &common, ContactList &contacts, PresenceSender &sender, Timers &timers,
-                           AnnouncementView &view) :
-    m_common(common), m_contacts(contacts), m_sender(sender), m_view(view),
-    m_nextBatch(timers.oneShot(std::chrono::milliseconds(0), [this] { askNextBatch(); })),
-    m_timer1(timers.oneShot(limits::announcementTime, [this] { Timer1_Timer(); }))
+                           AnnouncementView &view)
+    : m_common(common), m_contacts(contacts), m_sender(sender), m_view(view),
+      m_nextBatch(timers.oneShot(std::chrono::milliseconds(0), [this] { askNextBatch(); })),
+      m_timer1(timers.oneShot(limits::announcementTime, [this] { Timer1_Timer(); }))
 {
 }
 

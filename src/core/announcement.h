@@ -14,7 +14,7 @@ namespace nimb
 class PresenceSender
 {
 public:
-    PresenceSender(const Common &common, Winsock &socket) : m_common(common), m_socket(socket) {}
+    PresenceSender(const Common &common, Winsock &socket) : m_common(common), m_socket(socket) { }
 
     void question(const QString &ip) const;
     void answer(const QString &ip) const;
@@ -34,8 +34,7 @@ private:
 class Announcement
 {
 public:
-    Announcement(Common &common, ContactList &contacts, PresenceSender &sender, Timers &timers,
-                 AnnouncementView &view);
+    Announcement(Common &common, ContactList &contacts, PresenceSender &sender, Timers &timers, AnnouncementView &view);
 
     void run();
 

@@ -31,8 +31,8 @@ class ContactCommands
     Q_DECLARE_TR_FUNCTIONS(ContactCommands)
 
 public:
-    ContactCommands(ContactList &contacts, PrivateChats &chats, Prompts &prompts) :
-        m_contacts(contacts), m_chats(chats), m_prompts(prompts)
+    ContactCommands(ContactList &contacts, PrivateChats &chats, Prompts &prompts)
+        : m_contacts(contacts), m_chats(chats), m_prompts(prompts)
     {
     }
 

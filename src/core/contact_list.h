@@ -27,8 +27,8 @@ struct Contact {
     Picture picture = Picture::yellow;
     QString sortKey;
     int privateWindow = 0; ///< number of the peer's private window, 0 when none is open
-    QString avatarNumber; ///< number of the peer's avatar, empty when none is known
-    QString state; ///< last reported state text
+    QString avatarNumber;  ///< number of the peer's avatar, empty when none is known
+    QString state;         ///< last reported state text
 
     /// Shows the presence and writes the sort key that goes with it, with the nickname in capitals.
     void setPresence(Picture presence);

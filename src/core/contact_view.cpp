@@ -117,8 +117,8 @@ void RoomyHeader::paintEvent(QPaintEvent *)
     }
 }
 
-ContactView::ContactView(QWidget *parent) :
-    QTreeView(parent), m_header(new RoomyHeader(this)), m_scrollBarRoom(new QWidget(this))
+ContactView::ContactView(QWidget *parent)
+    : QTreeView(parent), m_header(new RoomyHeader(this)), m_scrollBarRoom(new QWidget(this))
 {
     setHeader(m_header);
     m_header->setStretchLastSection(false);

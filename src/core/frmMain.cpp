@@ -84,11 +84,13 @@ void frmMain::buildControls()
 void frmMain::buildMenuBar()
 {
     for (const Menu &entry : mainMenus) {
-        QMenu *const menu = named(menuBar()->addMenu(QCoreApplication::translate("MainMenu", entry.caption)), entry.name);
+        QMenu *const menu
+            = named(menuBar()->addMenu(QCoreApplication::translate("MainMenu", entry.caption)), entry.name);
         for (const MenuEntry &item : entry.entries) {
             if (!item.name)
                 continue;
-            QAction *const action = named(menu->addAction(QCoreApplication::translate("MainMenu", item.caption)), item.name);
+            QAction *const action
+                = named(menu->addAction(QCoreApplication::translate("MainMenu", item.caption)), item.name);
             action->setEnabled(false);
         }
     }
@@ -193,6 +195,7 @@ void frmMain::buildAutoReply(QWidget *parent)
     AutoReplyTxt->setAccessibleName(tr("AutoReply text"));
     AutoReplyTxt->setTabChangesFocus(true);
     AutoReplyTxt->installEventFilter(this);
+    showReplyUnfocused();
     Autoreplypanelclosebtn = named(new QPushButton(tr("Close"), AutoreplyFrame), "Autoreplypanelclosebtn");
     auto *const grid = new QGridLayout(AutoreplyFrame);
     grid->setContentsMargins(margin, spacing, margin, margin);
@@ -437,7 +440,7 @@ bool frmMain::eventFilter(QObject *watched, QEvent *event)
     else if (watched == AutoReplyTxt && event->type() == QEvent::FocusOut)
         AutoReplyTxt_LostFocus();
     else if (watched == statusBar() && event->type() == QEvent::ToolTip && m_engine)
-        statusBar()->setToolTip(m_engine->dropSummary());
+        statusBar()->setToolTip(m_engine->statusNotes());
     return QMainWindow::eventFilter(watched, event);
 }
 
@@ -597,11 +600,16 @@ void frmMain::AutoReplyTxt_GotFocus()
     AutoReplyTxt->setPalette({});
 }
 
-void frmMain::AutoReplyTxt_LostFocus()
+void frmMain::showReplyUnfocused()
 {
     QPalette grey = AutoReplyTxt->palette();
     grey.setColor(QPalette::Text, unfocusedReplyColour);
     AutoReplyTxt->setPalette(grey);
+}
+
+void frmMain::AutoReplyTxt_LostFocus()
+{
+    showReplyUnfocused();
     m_engine->ownState.setAutoReplyText(typedText(*AutoReplyTxt));
 }
 

@@ -26,7 +26,6 @@ class Announcement;
 class ContactCommands;
 class ContactList;
 class ContactView;
-class DropCounts;
 class MainLog;
 class MainWindow;
 class OwnState;
@@ -40,7 +39,7 @@ struct MainWindowEngine {
     Announcement &announcement;
     MainLog &log;
     Common &common;
-    std::function<QString()> dropSummary; ///< for the status bar's tool tip
+    std::function<QString()> statusNotes; ///< for the status bar's tool tip
 };
 
 /// Made in two steps, for the engine writes into the window from the moment it exists: the controls with the
@@ -125,6 +124,7 @@ private:
     void Autoreplypanelclosebtn_Click();
     void AutoReplyTxt_GotFocus();
     void AutoReplyTxt_LostFocus();
+    void showReplyUnfocused();
     void showItemDetails();
 
     std::optional<MainWindowEngine> m_engine;

@@ -15,7 +15,7 @@ class MainLog : public UnknownDatagramHandler
     Q_DECLARE_TR_FUNCTIONS(MainLog)
 
 public:
-    MainLog(RichTextLog &log, const WallClock &clock) : m_log(log), m_clock(clock) {}
+    MainLog(RichTextLog &log, const WallClock &clock) : m_log(log), m_clock(clock) { }
 
     /// The line with which a log begins.
     void banner();

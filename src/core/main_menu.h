@@ -20,7 +20,8 @@ struct Menu {
 };
 
 inline constexpr std::array mainMenus = {
-    Menu{"mnuFile", QT_TRANSLATE_NOOP("MainMenu", "&File"), {{{"mnuFileExit", QT_TRANSLATE_NOOP("MainMenu", "E&xit")}}}},
+    Menu{
+        "mnuFile", QT_TRANSLATE_NOOP("MainMenu", "&File"), {{{"mnuFileExit", QT_TRANSLATE_NOOP("MainMenu", "E&xit")}}}},
     Menu{"mnuUsers",
          QT_TRANSLATE_NOOP("MainMenu", "&Users"),
          {{{"mnuNetworkscan", QT_TRANSLATE_NOOP("MainMenu", "&Network scan...")},

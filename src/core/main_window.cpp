@@ -32,7 +32,8 @@ void MainWindow::loadSettings(QStringList &notices)
     m.view.setPlace(m.common.mainPlace);
     m.view.setCaption(mainCaption(m.common.ownNickname));
     for (const QString &value : m.ownState.load(loaded.personalizedStates))
-        notices.append(tr("The stored personalized state \"%1\" begins with no picture digit and is left out.").arg(value));
+        notices.append(
+            tr("The stored personalized state \"%1\" begins with no picture digit and is left out.").arg(value));
     m.port.open();
 }
 

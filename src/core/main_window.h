@@ -39,7 +39,7 @@ public:
         MainWindowView &view;
     };
 
-    explicit MainWindow(const Parts &parts) : m(parts) {}
+    explicit MainWindow(const Parts &parts) : m(parts) { }
 
     void Form_Load();
     /// Whether the window is to be unloaded, or what else happens to it.

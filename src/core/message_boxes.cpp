@@ -24,8 +24,7 @@ bool MessageBoxes::confirm(const QString &text, const QString &title)
 {
     if (m_unattended)
         return false;
-    return show(QMessageBox::Question, QMessageBox::Ok | QMessageBox::Cancel, text, title, m_window)
-        == QMessageBox::Ok;
+    return show(QMessageBox::Question, QMessageBox::Ok | QMessageBox::Cancel, text, title, m_window) == QMessageBox::Ok;
 }
 
 void MessageBoxes::tell(const QString &text, const QString &title)

@@ -22,8 +22,8 @@ std::optional<OwnStateEntry> entryOf(const QString &stored)
 } // namespace
 
 OwnState::OwnState(Common &common, ContactList &contacts, PresenceSender &sender, Announcement &announcement,
-                   MainLog &log, OwnStateView &view) :
-    m_common(common), m_contacts(contacts), m_sender(sender), m_announcement(announcement), m_log(log), m_view(view)
+                   MainLog &log, OwnStateView &view)
+    : m_common(common), m_contacts(contacts), m_sender(sender), m_announcement(announcement), m_log(log), m_view(view)
 {
 }
 

@@ -13,8 +13,8 @@ namespace nimb
 struct OwnStateEntry {
     QString text;
     std::optional<Picture> picture; ///< empty for the entry that adds a personalised state
-    QString key; ///< "_personalized", "Personalized" + number, or empty
-    QString personalizedText; ///< empty for a plain state
+    QString key;                    ///< "_personalized", "Personalized" + number, or empty
+    QString personalizedText;       ///< empty for a plain state
 
     bool operator==(const OwnStateEntry &) const = default;
 };

@@ -6,9 +6,9 @@ namespace nimb
 {
 
 PortWatch::PortWatch(Winsock &socket, const Common &common, Timers &timers, MainLog &log, MainWindowView &view,
-                     std::function<void()> gained) :
-    m_socket(socket), m_common(common), m_log(log), m_view(view), m_gained(std::move(gained)),
-    m_retry(timers.repeating(limits::bindRetry, [this] { tryAgain(); }))
+                     std::function<void()> gained)
+    : m_socket(socket), m_common(common), m_log(log), m_view(view), m_gained(std::move(gained)),
+      m_retry(timers.repeating(limits::bindRetry, [this] { tryAgain(); }))
 {
 }
 

@@ -23,9 +23,9 @@ Picture pictureOfState(const QString &state)
         QString upperCase;
         Picture picture;
     };
-    static const std::array names = {Name{QStringLiteral("ONLINE"), Picture::green},
-                                     Name{QStringLiteral("BUSY"), Picture::busy},
-                                     Name{QStringLiteral("AWAY"), Picture::away}};
+    static const std::array names
+        = {Name{QStringLiteral("ONLINE"), Picture::green}, Name{QStringLiteral("BUSY"), Picture::busy},
+           Name{QStringLiteral("AWAY"), Picture::away}};
     for (const Name &name : names) {
         if (state.left(name.upperCase.size()).toUpper() == name.upperCase)
             return name.picture;
@@ -36,9 +36,9 @@ Picture pictureOfState(const QString &state)
 } // namespace
 
 Presence::Presence(const Common &common, ContactList &contacts, PresenceSender &sender, MainLog &log,
-                   PrivateLogs &privateLogs, Notifications &notifications, const WallClock &clock, DropCounts &drops) :
-    m_common(common), m_contacts(contacts), m_sender(sender), m_log(log), m_privateLogs(privateLogs),
-    m_notifications(notifications), m_clock(clock), m_drops(drops)
+                   PrivateLogs &privateLogs, Notifications &notifications, const WallClock &clock, DropCounts &drops)
+    : m_common(common), m_contacts(contacts), m_sender(sender), m_log(log), m_privateLogs(privateLogs),
+      m_notifications(notifications), m_clock(clock), m_drops(drops)
 {
 }
 

@@ -39,7 +39,7 @@ QString personalizedStateKey(int number)
 class Reader
 {
 public:
-    Reader(const SettingsStore &store, QStringList &notices) : m_store(store), m_notices(notices) {}
+    Reader(const SettingsStore &store, QStringList &notices) : m_store(store), m_notices(notices) { }
 
     QString text(const char *key) const { return readSetting(m_store, QLatin1String(key)); }
 
@@ -130,8 +130,8 @@ LoadedSettings loadSettings(const SettingsStore &store, Common &common)
     common.logFont.face = read.text("StandardFontFace");
     common.logFont.style = read.text("StandardFontStyle");
     for (int n = 1; n <= limits::storedPersonalizedStates; ++n)
-        loaded.personalizedStates.append(
-            store.read(QLatin1String(settingKey(QLatin1String("PersonalizedState")).section), personalizedStateKey(n), {}));
+        loaded.personalizedStates.append(store.read(
+            QLatin1String(settingKey(QLatin1String("PersonalizedState")).section), personalizedStateKey(n), {}));
     return loaded;
 }
 

@@ -17,7 +17,7 @@ enum class SettingType {
     single, ///< a number that may have a fraction
     integer16,
     integer32,
-    flag, ///< a number, non-zero for true; true is written as -1
+    flag,       ///< a number, non-zero for true; true is written as -1
     avatarData, ///< bytes, one a character, U+0000 to U+00FF
 };
 
@@ -76,7 +76,7 @@ void writeSetting(SettingsStore &store, QLatin1String key, const QString &value)
 /// What the main window reads when it loads.
 struct LoadedSettings {
     QStringList personalizedStates; ///< the eight stored values, empty ones included
-    QStringList notices; ///< one sentence for each stored value that could not be used
+    QStringList notices;            ///< one sentence for each stored value that could not be used
 };
 
 /// Reads the main window's settings in their order. A stored number that is none gives the default and a notice.

@@ -10,7 +10,7 @@ namespace nimb
 
 enum class Started {
     running,
-    handedOver, ///< another copy runs; this one has nothing more to do
+    handedOver,      ///< another copy runs; this one has nothing more to do
     withoutNickname, ///< the login dialog was closed: no main window, nothing bound
 };
 

@@ -5,14 +5,14 @@ namespace nimb
 {
 
 enum class UnloadMode {
-    closeBox, ///< the window's own close box or system menu
-    code, ///< the program itself
+    closeBox,   ///< the window's own close box or system menu
+    code,       ///< the program itself
     sessionEnd, ///< the desktop session ends
 };
 
 enum class CloseDecision {
     unload,
-    hide, ///< the window stays, out of sight
+    hide,     ///< the window stays, out of sight
     minimise, ///< the window stays in the task bar, for nothing else could bring it back
 };
 

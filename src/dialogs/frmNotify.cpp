@@ -17,8 +17,8 @@ namespace
 constexpr double distanceFromScreenEdge = 120; // twips
 }
 
-frmNotify::frmNotify() :
-    QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus)
+frmNotify::frmNotify()
+    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus)
 {
     setObjectName(QStringLiteral("frmNotify"));
     setWindowTitle(tr("NIMBChat Notify!"));

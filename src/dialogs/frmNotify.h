@@ -21,7 +21,7 @@ public:
 
     void add(const QString &text, Picture picture) override;
     /// The window stays parked.
-    void startTimer() override {}
+    void startTimer() override { }
 
 private:
     void buildControls();

@@ -13,8 +13,8 @@ namespace nimb
 class Login
 {
 public:
-    Login(Common &common, SettingsStore &store, const Winsock &socket) :
-        m_common(common), m_store(store), m_socket(socket)
+    Login(Common &common, SettingsStore &store, const Winsock &socket)
+        : m_common(common), m_store(store), m_socket(socket)
     {
     }
 

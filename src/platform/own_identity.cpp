@@ -81,8 +81,10 @@ QString ownAddress(const std::optional<QString> &fixed)
 QString ownHostName(const std::optional<QString> &fixed)
 {
     for (const QString &name : {fixed.value_or(QString()), QSysInfo::machineHostName(), QHostInfo::localHostName()}) {
-        if (!name.isEmpty())
-            return name;
+        // A space would end the field in a datagram.
+        const QString oneWord = name.simplified().replace(QLatin1Char(' '), QLatin1Char('-'));
+        if (!oneWord.isEmpty())
+            return oneWord;
     }
     return QStringLiteral("localhost");
 }

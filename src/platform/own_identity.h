@@ -21,7 +21,7 @@ bool isLoopback(std::uint32_t address);
 /// of any interface that is not loopback, else 127.0.0.1.
 QString ownAddress(const std::optional<QString> &fixed);
 
-/// The fixed name unless it is empty; otherwise the system's. Never empty.
+/// The fixed name unless it is empty; otherwise the system's. Never empty, and one word: blanks become hyphens.
 QString ownHostName(const std::optional<QString> &fixed);
 
 } // namespace nimb

@@ -11,10 +11,10 @@
 namespace nimb
 {
 
-PrivateChat::PrivateChat(const Services &services, std::function<void()> unloaded) :
-    m_services(services), m_unloaded(std::move(unloaded)),
-    m_autoReplyTimer(services.timers.oneShot(limits::autoReplyPause, [] {})),
-    m_view(services.forms.makePrivateForm(*this))
+PrivateChat::PrivateChat(const Services &services, std::function<void()> unloaded)
+    : m_services(services), m_unloaded(std::move(unloaded)),
+      m_autoReplyTimer(services.timers.oneShot(limits::autoReplyPause, [] {})),
+      m_view(services.forms.makePrivateForm(*this))
 {
     m_view->setLogFont(services.common.logFont);
 }

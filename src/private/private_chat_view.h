@@ -14,9 +14,9 @@ class PrivateChat;
 
 /// Ways to bring a private window into view.
 enum class ShowMode {
-    active, ///< normal, with the focus: the user asked for it
+    active,    ///< normal, with the focus: the user asked for it
     minimised, ///< without taking the focus
-    onTop, ///< as it last was, above the others, without taking the focus
+    onTop,     ///< as it last was, above the others, without taking the focus
 };
 
 class PrivateChatView : public AttentionView

@@ -7,8 +7,8 @@
 namespace nimb
 {
 
-PrivateWindows::PrivateWindows(const PrivateChat::Services &services, ContactList &contacts) :
-    m_services(services), m_contacts(contacts)
+PrivateWindows::PrivateWindows(const PrivateChat::Services &services, ContactList &contacts)
+    : m_services(services), m_contacts(contacts)
 {
 }
 
@@ -23,8 +23,7 @@ void PrivateWindows::privateMessage(const QString &ip, const QString &text)
 {
     PrivateChat &chat = windowOf(ip);
     if (chat.view().isHidden())
-        chat.view().showWindow(m_services.common.options.PrivateBehaviour == 1 ? ShowMode::onTop
-                                                                               : ShowMode::minimised);
+        chat.view().showWindow(m_services.common.options.PrivateBehaviour == 1 ? ShowMode::onTop : ShowMode::minimised);
     QString body = remoteBody(text);
     chat.MessageReceived(m_contacts.find(ip)->nickname, body);
 }
@@ -62,8 +61,8 @@ PrivateChat &PrivateWindows::make(const Contact &contact)
 
 int PrivateWindows::numberOf(const QString &ip) const
 {
-    const auto found = std::find_if(m_table.begin(), m_table.end(),
-                                    [&ip](const auto &chat) { return chat && chat->rIP() == ip; });
+    const auto found
+        = std::find_if(m_table.begin(), m_table.end(), [&ip](const auto &chat) { return chat && chat->rIP() == ip; });
     return found == m_table.end() ? 0 : static_cast<int>(found - m_table.begin()) + 1;
 }
 

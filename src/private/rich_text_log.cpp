@@ -26,8 +26,8 @@ Colour logColour(const QColor &colour)
     return Colour(colour.red()) | Colour(colour.green()) << 8 | Colour(colour.blue()) << 16;
 }
 
-RichTextLogEdit::RichTextLogEdit(QWidget *parent) :
-    QTextEdit(parent), m_caret(document()), m_above(new QWidget(this)), m_below(new QWidget(this))
+RichTextLogEdit::RichTextLogEdit(QWidget *parent)
+    : QTextEdit(parent), m_caret(document()), m_above(new QWidget(this)), m_below(new QWidget(this))
 {
     setReadOnly(true);
     setUndoRedoEnabled(false);

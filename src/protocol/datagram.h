@@ -42,7 +42,7 @@ struct Offline {
 /// "!STATUS state" or "!STATUS state text".
 struct Status {
     std::string state; ///< one word; empty when the peer sent none
-    std::string text; ///< the personalised text, may hold spaces; empty for a plain state
+    std::string text;  ///< the personalised text, may hold spaces; empty for a plain state
     bool operator==(const Status &) const = default;
 };
 
@@ -176,11 +176,11 @@ struct Garbage {
     bool operator==(const Garbage &) const = default;
 };
 
-using Datagram = std::variant<OnlineQuestion, OnlineAnswer, Offline, Status, Buzz, SharedContact, Typing,
-                              AvatarHeadQuestion, AvatarHead, AvatarBodyQuestion, AvatarOff, AvatarBody, Mood, LiveType,
-                              ConferenceInvitation, ConferenceListQuestion, ConferenceAnswer, ConferenceList,
-                              ConferenceLeave, ConferenceClose, PrivateMessage, ConferenceMessage, Incomplete,
-                              Unsupported, Garbage>;
+using Datagram
+    = std::variant<OnlineQuestion, OnlineAnswer, Offline, Status, Buzz, SharedContact, Typing, AvatarHeadQuestion,
+                   AvatarHead, AvatarBodyQuestion, AvatarOff, AvatarBody, Mood, LiveType, ConferenceInvitation,
+                   ConferenceListQuestion, ConferenceAnswer, ConferenceList, ConferenceLeave, ConferenceClose,
+                   PrivateMessage, ConferenceMessage, Incomplete, Unsupported, Garbage>;
 
 /// Never fails: what fits no rule is Incomplete, Unsupported or Garbage. Command words are compared whole and
 /// case-sensitively, in a fixed order, before the first character decides.

@@ -10,13 +10,13 @@ namespace nimb
 {
 
 enum class Drop {
-    stranger, ///< a datagram from an address that is no contact
-    incomplete, ///< a known command that lacks what it must carry
-    noFeature, ///< a known command that nothing here takes
-    badAddress, ///< an address that cannot become a contact
+    stranger,        ///< a datagram from an address that is no contact
+    incomplete,      ///< a known command that lacks what it must carry
+    noFeature,       ///< a known command that nothing here takes
+    badAddress,      ///< an address that cannot become a contact
     tooManyContacts, ///< strangers have filled the contact list
-    notSent, ///< the system refused to send, or the socket is not bound
-    notReceived, ///< arrived at the machine and was lost before the program could read it
+    notSent,         ///< the system refused to send, or the socket is not bound
+    notReceived,     ///< arrived at the machine and was lost before the program could read it
 };
 
 /// Counts since the start of the program.

@@ -18,8 +18,8 @@ std::optional<PeerIdentity> textOf(const std::optional<wire::Identity> &identity
 class HandOver
 {
 public:
-    HandOver(const QString &ip, const wire::Datagram &datagram, const Handlers &handlers, DropCounts &drops) :
-        m_ip(ip), m_datagram(datagram), m_handlers(handlers), m_drops(drops)
+    HandOver(const QString &ip, const wire::Datagram &datagram, const Handlers &handlers, DropCounts &drops)
+        : m_ip(ip), m_datagram(datagram), m_handlers(handlers), m_drops(drops)
     {
     }
 
@@ -89,7 +89,8 @@ public:
 
 private:
     template <class Handler, class... Parameters, class... Arguments>
-    void to(Handler *handler, void (Handler::*procedure)(const QString &, Parameters...), const Arguments &...arguments) const
+    void to(Handler *handler, void (Handler::*procedure)(const QString &, Parameters...),
+            const Arguments &...arguments) const
     {
         if (handler)
             (handler->*procedure)(m_ip, arguments...);
@@ -107,8 +108,8 @@ private:
 
 } // namespace
 
-ReceiveDispatcher::ReceiveDispatcher(const Senders &senders, const Handlers &handlers, DropCounts &drops) :
-    m_senders(senders), m_handlers(handlers), m_drops(drops)
+ReceiveDispatcher::ReceiveDispatcher(const Senders &senders, const Handlers &handlers, DropCounts &drops)
+    : m_senders(senders), m_handlers(handlers), m_drops(drops)
 {
 }
 

@@ -16,11 +16,11 @@ class SilentLog : public RichTextLog
 {
 public:
     qsizetype textLength() const override { return 0; }
-    void setSelStart(qsizetype) override {}
-    void setSelColor(Colour) override {}
-    void setSelFont(const LogFont &) override {}
+    void setSelStart(qsizetype) override { }
+    void setSelColor(Colour) override { }
+    void setSelFont(const LogFont &) override { }
     void setSelText(const QString &text) override { benchmark::DoNotOptimize(text.size()); }
-    void clear() override {}
+    void clear() override { }
 };
 
 class SilentMainView : public RecorderMainView
@@ -53,7 +53,7 @@ class SilentNotifications : public Notifications
 {
 public:
     void add(const QString &text, Picture) override { benchmark::DoNotOptimize(text.size()); }
-    void startTimer() override {}
+    void startTimer() override { }
 };
 
 QString addressOf(int contact)
@@ -87,7 +87,8 @@ struct Engine {
     RecorderTray tray{steps};
     RecorderWindows windows{steps};
     DropCounts drops;
-    Messenger messenger{common, {socket, settings, time, time, prompts, notifications, tray, windows, forms, view, drops}};
+    Messenger messenger{common,
+                        {socket, settings, time, time, prompts, notifications, tray, windows, forms, view, drops}};
 };
 
 void dispatch(benchmark::State &state, const char *bytes)

@@ -46,13 +46,46 @@ protected:
 TEST_F(FrmMain, BearsItsPrescribedNames)
 {
     EXPECT_EQ(windows.main().objectName(), QStringLiteral("frmMain"));
-    for (const char *name : {"ImageCombo1", "TabStrip1", "ListView1", "RescanBtn", "buzzmute", "ListDetails", "ItemDetailstxt", "outtext",
-                             "clearbtn", "StatusBar", "StatusBar_status", "StatusBar_activity", "PersonalizedStateFrame", "ImageComboPers",
-                             "PersonalizedMessageText", "PersonalizedOkbtn", "AutoReplyOn", "Autoreplybtn", "AutoreplyFrame", "AutoReplyTxt",
-                             "Autoreplypanelclosebtn", "mnuPopUp", "mnuFileExit", "mnuLogWindow", "mnuPrivateChat", "mnuBuzzUser",
-                             "mnuInvite2Conf1", "mnuInvite2Conf5", "mnusendcontacts", "mnuRemoveUser", "mnuinviteuser", "mnuNetworkscan",
-                             "mnuAddUser", "mnuToolsOptions", "mnuCreateNewConf", "mnushowinvitations", "mnuHelpContents",
-                             "mnuHelpSearchForHelpOn", "mnuHelpAbout", "mnuTOTD"})
+    for (const char *name : {"ImageCombo1",
+                             "TabStrip1",
+                             "ListView1",
+                             "RescanBtn",
+                             "buzzmute",
+                             "ListDetails",
+                             "ItemDetailstxt",
+                             "outtext",
+                             "clearbtn",
+                             "StatusBar",
+                             "StatusBar_status",
+                             "StatusBar_activity",
+                             "PersonalizedStateFrame",
+                             "ImageComboPers",
+                             "PersonalizedMessageText",
+                             "PersonalizedOkbtn",
+                             "AutoReplyOn",
+                             "Autoreplybtn",
+                             "AutoreplyFrame",
+                             "AutoReplyTxt",
+                             "Autoreplypanelclosebtn",
+                             "mnuPopUp",
+                             "mnuFileExit",
+                             "mnuLogWindow",
+                             "mnuPrivateChat",
+                             "mnuBuzzUser",
+                             "mnuInvite2Conf1",
+                             "mnuInvite2Conf5",
+                             "mnusendcontacts",
+                             "mnuRemoveUser",
+                             "mnuinviteuser",
+                             "mnuNetworkscan",
+                             "mnuAddUser",
+                             "mnuToolsOptions",
+                             "mnuCreateNewConf",
+                             "mnushowinvitations",
+                             "mnuHelpContents",
+                             "mnuHelpSearchForHelpOn",
+                             "mnuHelpAbout",
+                             "mnuTOTD"})
         EXPECT_TRUE(windows.main().findChild<QObject *>(QLatin1String(name))) << name;
     EXPECT_EQ(windows.main().windowTitle(), QStringLiteral("NIMB-Chat 1.2 - Me"));
 }
@@ -106,12 +139,14 @@ TEST_F(FrmMain, ControlsFollowTheHeight)
 
 TEST_F(FrmMain, NoControlCoversAnother)
 {
-    const std::vector<const char *> names = {"ListView1", "RescanBtn", "buzzmute", "ListDetails", "ItemDetailstxt", "outtext", "clearbtn"};
+    const std::vector<const char *> names
+        = {"ListView1", "RescanBtn", "buzzmute", "ListDetails", "ItemDetailstxt", "outtext", "clearbtn"};
     for (const int height : {300, 413, 900}) {
         windows.main().resize(621, height);
         QCoreApplication::processEvents();
         for (std::size_t i = 0; i < names.size(); ++i) {
-            EXPECT_TRUE(windows.main().centralWidget()->rect().contains(seen(names[i]))) << names[i] << " at " << height;
+            EXPECT_TRUE(windows.main().centralWidget()->rect().contains(seen(names[i])))
+                << names[i] << " at " << height;
             for (std::size_t j = i + 1; j < names.size(); ++j)
                 EXPECT_FALSE(seen(names[i]).intersects(seen(names[j]))) << names[i] << " and " << names[j];
         }
@@ -147,7 +182,8 @@ TEST_F(FrmMain, TheTabsSetAndClearTheDetailsSwitch)
 
 TEST_F(FrmMain, TheLogBeginsWithItsBannerAndIsClearedDownToIt)
 {
-    EXPECT_EQ(windows.logText().section(u'\n', 0, 0), QStringLiteral("« NIMB-Chat [today:21/11/2026 - now:14:05:09] Ready »"));
+    EXPECT_EQ(windows.logText().section(u'\n', 0, 0),
+              QStringLiteral("« NIMB-Chat [today:21/11/2026 - now:14:05:09] Ready »"));
     windows.arrive("10.0.0.2", "nonsense");
     windows.control<QPushButton>("clearbtn").click();
     EXPECT_EQ(windows.logText(), QStringLiteral("« NIMB-Chat [today:21/11/2026 - now:14:05:10] Ready »\n"));
@@ -259,7 +295,8 @@ TEST_F(FrmMain, APersonalisedStateIsTypedAndChosen)
     QTest::mouseClick(&windows.control("PersonalizedOkbtn"), Qt::LeftButton);
     EXPECT_FALSE(windows.control("PersonalizedStateFrame").isVisible());
     EXPECT_EQ(chooser.currentText(), QStringLiteral("Busy - In a meeting"));
-    EXPECT_THAT(windows.sent(), ElementsAre(To{"10.0.0.2", "!STATUS BUSY In a meeting"}, To{"10.0.0.3", "!STATUS BUSY In a meeting"}));
+    EXPECT_THAT(windows.sent(),
+                ElementsAre(To{"10.0.0.2", "!STATUS BUSY In a meeting"}, To{"10.0.0.3", "!STATUS BUSY In a meeting"}));
 }
 
 TEST_F(FrmMain, AnAutomaticReplyIsTypedAndKept)
@@ -351,7 +388,8 @@ TEST_F(FrmMain, PicturesOfAllStatesAreThere)
 
 TEST(FrmMainPlace, AStoredPlaceIsKeptToTheTwip)
 {
-    RealWindows windows({}, {{"Settings/MainLeft", "1000"}, {"Settings/MainTop", "1003"}, {"Settings/MainHeight", "6200"}});
+    RealWindows windows({},
+                        {{"Settings/MainLeft", "1000"}, {"Settings/MainTop", "1003"}, {"Settings/MainHeight", "6200"}});
     windows.entry("mnuFileExit").trigger();
     EXPECT_EQ(windows.settings.value("Settings", "MainLeft"), "1000");
     EXPECT_EQ(windows.settings.value("Settings", "MainTop"), "1003");

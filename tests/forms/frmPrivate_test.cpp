@@ -33,15 +33,19 @@ protected:
     RichTextLogEdit &outtext() { return control<RichTextLogEdit>("outtext"); }
     void type(const QString &text) { QTest::keyClicks(&intext(), text); }
     QString lastLogLine() { return outtext().toPlainText().trimmed().section(u'\n', -1); }
-    QColor colourOfLine(int line) { return outtext().document()->findBlockByNumber(line).begin().fragment().charFormat().foreground().color(); }
+    QColor colourOfLine(int line)
+    {
+        return outtext().document()->findBlockByNumber(line).begin().fragment().charFormat().foreground().color();
+    }
 
     RealWindows windows{{{"10.0.0.2", "Ann"}}};
 };
 
 TEST_F(FrmPrivate, BearsItsPrescribedNamesAndCaptions)
 {
-    for (const char *name : {"rIP", "outtext", "intext", "StatusBar", "StatusBar_1", "StatusBar_2", "futuretype", "sendbtn", "clearbtn",
-                             "datetimebtn", "Emoticbtn", "BuzzBtn", "moodbtn", "AvatarBtn", "livetypebtn"})
+    for (const char *name :
+         {"rIP", "outtext", "intext", "StatusBar", "StatusBar_1", "StatusBar_2", "futuretype", "sendbtn", "clearbtn",
+          "datetimebtn", "Emoticbtn", "BuzzBtn", "moodbtn", "AvatarBtn", "livetypebtn"})
         EXPECT_TRUE(form().findChild<QWidget *>(QLatin1String(name))) << name;
     EXPECT_EQ(control<QPushButton>("sendbtn").text(), QStringLiteral("Send"));
     EXPECT_EQ(control<QToolButton>("clearbtn").text(), QStringLiteral("Clear"));

@@ -55,7 +55,8 @@ TEST_F(PlainText, InTheCaptionOfItsWindow)
     windows.doubleClick(0);
     QWidget &window = windows.privateWindow();
     // The window system is given the title with its place marker resolved.
-    EXPECT_EQ(window.windowHandle()->title(), QString::fromUtf8(marked) + QStringLiteral(" - NIMB-Chat - Private Chat Window"));
+    EXPECT_EQ(window.windowHandle()->title(),
+              QString::fromUtf8(marked) + QStringLiteral(" - NIMB-Chat - Private Chat Window"));
 }
 
 TEST_F(PlainText, InLogs)
@@ -71,7 +72,8 @@ TEST_F(PlainText, InLogs)
 TEST_F(PlainText, InTheDetailsOfTheSelectedContact)
 {
     windows.click(0);
-    EXPECT_EQ(windows.control<QLineEdit>("ItemDetailstxt").text(), QString::fromUtf8(marked) + QStringLiteral(" on PC (10.0.0.2)"));
+    EXPECT_EQ(windows.control<QLineEdit>("ItemDetailstxt").text(),
+              QString::fromUtf8(marked) + QStringLiteral(" on PC (10.0.0.2)"));
 }
 
 TEST(PlainMessageBox, ShowsMarkupAndAnswersWithItsButtons)

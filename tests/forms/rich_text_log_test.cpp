@@ -119,7 +119,8 @@ TEST(MutedColour, IsReadableOnEveryGround)
 
 TEST(ReadableOn, LeavesPrescribedColoursAloneOnWhite)
 {
-    for (const QColor prescribed : {QColor(160, 160, 160), QColor(128, 128, 128), QColor(0, 0, 192), QColor(0, 128, 192)})
+    for (const QColor prescribed :
+         {QColor(160, 160, 160), QColor(128, 128, 128), QColor(0, 0, 192), QColor(0, 128, 192)})
         EXPECT_EQ(readableOn(prescribed, Qt::white), prescribed);
     EXPECT_GE(contrast(readableOn(Qt::white, Qt::white), Qt::white), 4.5);
 }

@@ -24,7 +24,8 @@ QPalette darkPalette()
     QPalette palette(QColor(53, 53, 53));
     palette.setColor(QPalette::Base, QColor(35, 35, 35));
     palette.setColor(QPalette::AlternateBase, QColor(45, 45, 45));
-    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
         palette.setColor(role, QColor(235, 235, 235));
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, QColor(130, 130, 130));
@@ -37,7 +38,7 @@ QPalette darkPalette()
 class Gallery
 {
 public:
-    explicit Gallery(const QString &folder) : m_folder(folder) {}
+    explicit Gallery(const QString &folder) : m_folder(folder) { }
 
     void take(QWidget &window, const char *name)
     {
@@ -53,12 +54,9 @@ private:
 };
 
 const std::vector<std::pair<const char *, const char *>> everybody = {
-    {"192.168.1.12", "Ann"},
-    {"192.168.1.20", "Benedikt Freiherr von und zu Hohenstein-Waldburg"},
-    {"192.168.1.31", "Cleo"},
-    {"192.168.1.44", "Дмитрий"},
-    {"192.168.1.45", "Émile"},
-    {"192.168.1.99", "Frank (basement)"},
+    {"192.168.1.12", "Ann"},   {"192.168.1.20", "Benedikt Freiherr von und zu Hohenstein-Waldburg"},
+    {"192.168.1.31", "Cleo"},  {"192.168.1.44", "Дмитрий"},
+    {"192.168.1.45", "Émile"}, {"192.168.1.99", "Frank (basement)"},
     {"192.168.1.107", "山田"},
 };
 
@@ -106,8 +104,9 @@ void takeMainInTrouble(Gallery &gallery)
     RealWindows windows;
     gallery.take(windows.main(), "main_empty");
     windows.main().setTroublePanel(QStringLiteral("Port 5549 is taken"));
-    windows.engine.log().fault(QStringLiteral("Port 5549 is used by another program, so nobody can reach you. Close that "
-                                              "program: NIMB-Chat tries again every 5 seconds."));
+    windows.engine.log().fault(
+        QStringLiteral("Port 5549 is used by another program, so nobody can reach you. Close that "
+                       "program: NIMB-Chat tries again every 5 seconds."));
     gallery.take(windows.main(), "main_port_taken");
 }
 
@@ -136,8 +135,9 @@ void takePrivate(Gallery &gallery)
     PrivateChat &chat = *windows.engine.privateWindows().at(1);
     windows.arrive("192.168.1.12", "-Hello! Did you see the new plan?");
     chat.send(QStringLiteral("Not yet. Is it on the server?"));
-    windows.arrive("192.168.1.12", "-Yes, in the usual place. It is a long one, so take your time; the part about the "
-                                   "network in the basement is the one that matters for us.\r\nThere is a second line, too.");
+    windows.arrive("192.168.1.12",
+                   "-Yes, in the usual place. It is a long one, so take your time; the part about the "
+                   "network in the basement is the one that matters for us.\r\nThere is a second line, too.");
     chat.send(QStringLiteral("I'll read it after lunch"));
     windows.arrive("192.168.1.12", "!STATUS AWAY Lunch");
     RealWindows::control<QPlainTextEdit>(form, "intext").setPlainText(QStringLiteral("See you at"));
@@ -164,8 +164,9 @@ void takeMessageBox(Gallery &gallery)
         gallery.take(*box, "remove_question");
         box->close();
     });
-    boxes.confirm(QStringLiteral("Are you sure you want to remove the user 'Ann' on workstation 'PC-ANN' (192.168.1.12) ?"),
-                  QStringLiteral("Please confirm user removal"));
+    boxes.confirm(
+        QStringLiteral("Are you sure you want to remove the user 'Ann' on workstation 'PC-ANN' (192.168.1.12) ?"),
+        QStringLiteral("Please confirm user removal"));
 }
 
 } // namespace

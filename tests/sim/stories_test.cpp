@@ -14,9 +14,11 @@ class Story : public testing::Test
 protected:
     Copy &enter(const char *ip, const char *name, const std::vector<StoredContact> &contacts)
     {
-        m_copies.push_back(std::make_unique<Copy>(
-            CopySetup{.ip = QLatin1String(ip), .host = QLatin1String("PC"), .nickname = QLatin1String(name), .contacts = contacts},
-            &network, time));
+        m_copies.push_back(std::make_unique<Copy>(CopySetup{.ip = QLatin1String(ip),
+                                                            .host = QLatin1String("PC"),
+                                                            .nickname = QLatin1String(name),
+                                                            .contacts = contacts},
+                                                  &network, time));
         return *m_copies.back();
     }
     void leave(Copy &copy)

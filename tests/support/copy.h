@@ -33,8 +33,8 @@ class Copy
 {
 public:
     explicit Copy(const CopySetup &setup = {}, SimulatedNetwork *network = nullptr,
-                  std::shared_ptr<VirtualTime> sharedTime = std::make_shared<VirtualTime>()) :
-        time(std::move(sharedTime)), socket(setup.ip, setup.host, network)
+                  std::shared_ptr<VirtualTime> sharedTime = std::make_shared<VirtualTime>())
+        : time(std::move(sharedTime)), socket(setup.ip, setup.host, network)
     {
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
         common.ownIP = setup.ip;
@@ -88,8 +88,8 @@ public:
     RecorderTray tray{steps};
     RecorderWindows windows{steps};
     DropCounts drops;
-    Messenger engine{common,
-                     {socket, settings, *time, *time, prompts, notifications, tray, windows, privateForms, view, drops}};
+    Messenger engine{
+        common, {socket, settings, *time, *time, prompts, notifications, tray, windows, privateForms, view, drops}};
 
 private:
     void store(const CopySetup &setup)

@@ -42,7 +42,8 @@ public:
         }
         forms.loadNotify();
         main().show();
-        forms.connectMain(engine, common, drops, [this] { ended = true; });
+        forms.connectMain(
+            engine, common, [this] { return drops.summary(); }, [this] { ended = true; });
         main().Form_Load();
         QCoreApplication::processEvents();
     }

@@ -108,7 +108,7 @@ public:
 class RecorderPrivateView : public PrivateChatView
 {
 public:
-    explicit RecorderPrivateView(PrivateChat &engineHalf) : chat(engineHalf) {}
+    explicit RecorderPrivateView(PrivateChat &engineHalf) : chat(engineHalf) { }
 
     RichTextLog &outtext() override { return log; }
     void setCaption(const QString &text) override { caption = text; }
@@ -197,7 +197,7 @@ using Steps = std::vector<std::string>;
 class RecorderTray : public TrayIcon
 {
 public:
-    explicit RecorderTray(Steps &order) : steps(order) {}
+    explicit RecorderTray(Steps &order) : steps(order) { }
     void AddIcon(const QString &ToolTip) override
     {
         shown = available;
@@ -218,7 +218,7 @@ public:
 class RecorderWindows : public SecondaryWindows
 {
 public:
-    explicit RecorderWindows(Steps &order) : steps(order) {}
+    explicit RecorderWindows(Steps &order) : steps(order) { }
     void unloadConferences() override { steps.push_back("unload conferences"); }
     void unloadPrivateWindows() override
     {

@@ -16,7 +16,10 @@ struct To {
     std::string ip;
     std::string bytes;
     bool operator==(const To &) const = default;
-    friend std::ostream &operator<<(std::ostream &out, const To &to) { return out << to.ip << " <- \"" << to.bytes << '"'; }
+    friend std::ostream &operator<<(std::ostream &out, const To &to)
+    {
+        return out << to.ip << " <- \"" << to.bytes << '"';
+    }
 };
 
 class SimulatedWinsock;
@@ -43,8 +46,8 @@ private:
 class SimulatedWinsock : public Winsock
 {
 public:
-    SimulatedWinsock(QString ip, QString host, SimulatedNetwork *network) :
-        m_ip(std::move(ip)), m_host(std::move(host)), m_network(network)
+    SimulatedWinsock(QString ip, QString host, SimulatedNetwork *network)
+        : m_ip(std::move(ip)), m_host(std::move(host)), m_network(network)
     {
         if (m_network)
             m_network->attach(*this);

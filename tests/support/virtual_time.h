@@ -12,7 +12,7 @@ class VirtualTime : public Timers, public WallClock
 {
 public:
     /// 21 November 2026, 14:05:09: an hour and a day that look different in every form of date.
-    VirtualTime() : m_start(QDate(2026, 11, 21), QTime(14, 5, 9)) {}
+    VirtualTime() : m_start(QDate(2026, 11, 21), QTime(14, 5, 9)) { }
 
     std::unique_ptr<Timer> oneShot(std::chrono::milliseconds interval, std::function<void()> fired) override
     {
@@ -47,8 +47,8 @@ private:
     class VirtualTimer : public Timer
     {
     public:
-        VirtualTimer(VirtualTime &time, std::chrono::milliseconds interval, std::function<void()> fired, bool repeats) :
-            m_time(time), m_interval(interval), m_fired(std::move(fired)), m_repeats(repeats)
+        VirtualTimer(VirtualTime &time, std::chrono::milliseconds interval, std::function<void()> fired, bool repeats)
+            : m_time(time), m_interval(interval), m_fired(std::move(fired)), m_repeats(repeats)
         {
         }
         ~VirtualTimer() override { stop(); }

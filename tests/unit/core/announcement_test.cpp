@@ -12,8 +12,9 @@ using testing::IsEmpty;
 TEST(Announcement, AsksEveryContactInListOrderAndTellsTheFreshState)
 {
     Copy copy({.contacts = {{"10.0.0.3", "Ben"}, {"10.0.0.2", "Ann"}}});
-    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!STATUS Online"},
-                                         To{"10.0.0.3", "?ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.3", "!STATUS Online"}));
+    EXPECT_THAT(copy.sent(),
+                ElementsAre(To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!STATUS Online"},
+                            To{"10.0.0.3", "?ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.3", "!STATUS Online"}));
     EXPECT_FALSE(copy.view.rescanEnabled);
     EXPECT_TRUE(copy.common.announcing);
 }
@@ -60,7 +61,8 @@ TEST(Announcement, APersonalisedTextIsTold)
     copy.settleStart();
     copy.engine.ownState().addPersonalized(Picture::busy, QStringLiteral("In a meeting"));
     copy.announce();
-    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!STATUS BUSY In a meeting"}));
+    EXPECT_THAT(copy.sent(),
+                ElementsAre(To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!STATUS BUSY In a meeting"}));
 }
 
 TEST(Announcement, RunningAgainStartsTheSecondOver)
@@ -81,7 +83,8 @@ protected:
     {
         CopySetup setup;
         for (int i = 0; i < 1000; ++i)
-            setup.contacts.push_back({QStringLiteral("10.0.%1.%2").arg(i / 200 + 1).arg(i % 200 + 1), QStringLiteral("N%1").arg(i, 4, 10, QLatin1Char('0'))});
+            setup.contacts.push_back({QStringLiteral("10.0.%1.%2").arg(i / 200 + 1).arg(i % 200 + 1),
+                                      QStringLiteral("N%1").arg(i, 4, 10, QLatin1Char('0'))});
         return setup;
     }
     Copy copy{thousand()};

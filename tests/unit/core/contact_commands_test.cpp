@@ -18,8 +18,9 @@ TEST(RemoveUser, AsksAndRemovesOnOk)
     Copy copy({.contacts = {{"10.0.0.2", "Ann", "PC-ANN"}}});
     copy.sent();
     copy.engine.contactCommands().mnuRemoveUser(ip("10.0.0.2"));
-    EXPECT_THAT(copy.prompts.asked, ElementsAre("Please confirm user removal: Are you sure you want to remove the user 'Ann' on "
-                                                "workstation 'PC-ANN' (10.0.0.2) ?"));
+    EXPECT_THAT(copy.prompts.asked,
+                ElementsAre("Please confirm user removal: Are you sure you want to remove the user 'Ann' on "
+                            "workstation 'PC-ANN' (10.0.0.2) ?"));
     EXPECT_FALSE(copy.knows("10.0.0.2"));
     EXPECT_THAT(copy.sent(), IsEmpty());
 }
@@ -44,8 +45,9 @@ TEST(RemoveUser, PlaceMarkersInNamesAreNames)
     Copy copy({.contacts = {{"10.0.0.2", "%2 %3", "%1"}}});
     copy.prompts.answer = false;
     copy.engine.contactCommands().mnuRemoveUser(ip("10.0.0.2"));
-    EXPECT_THAT(copy.prompts.asked, ElementsAre("Please confirm user removal: Are you sure you want to remove the user '%2 %3' on "
-                                                "workstation '%1' (10.0.0.2) ?"));
+    EXPECT_THAT(copy.prompts.asked,
+                ElementsAre("Please confirm user removal: Are you sure you want to remove the user '%2 %3' on "
+                            "workstation '%1' (10.0.0.2) ?"));
 }
 
 TEST(ContextMenu, CaptionsNameTheSelectedContact)
@@ -64,7 +66,8 @@ TEST(ContextMenu, AnOfflineContactIsReachedByNetSend)
 {
     Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
     copy.settleStart();
-    EXPECT_EQ(copy.engine.contactCommands().captions(ip("10.0.0.2")).mnuinviteuser, QStringLiteral("&Net send message to 'Ann'"));
+    EXPECT_EQ(copy.engine.contactCommands().captions(ip("10.0.0.2")).mnuinviteuser,
+              QStringLiteral("&Net send message to 'Ann'"));
 }
 
 TEST(ContextMenu, WithoutSelectionTheCaptionsNameNobody)

@@ -54,7 +54,8 @@ TEST(ContactList, RowsShowTheirFieldsInTheColumns)
     ann.avatarNumber = QStringLiteral("2");
     ann.state = QStringLiteral("BUSY - later");
     list.add(ann);
-    const auto cell = [&list](int column, int role = Qt::DisplayRole) { return list.index(0, column).data(role).toString(); };
+    const auto cell
+        = [&list](int column, int role = Qt::DisplayRole) { return list.index(0, column).data(role).toString(); };
     EXPECT_EQ(cell(0), QStringLiteral("Ann"));
     EXPECT_EQ(cell(1), QStringLiteral("PC-ANN"));
     EXPECT_EQ(cell(2), QStringLiteral("192.168.0.7"));
@@ -141,7 +142,8 @@ TEST(ContactList, ChangingOrRemovingAStrangerDoesNothing)
 
 TEST(ContactList, ThreeContactsAreSavedWithTheirEndMarker)
 {
-    Copy copy({.contacts = {{"10.0.0.2", "Ann", "PC-ANN"}, {"10.0.0.3", "Ben", "PC-BEN"}, {"10.0.0.4", "Cleo", "PC-CLEO"}}});
+    Copy copy(
+        {.contacts = {{"10.0.0.2", "Ann", "PC-ANN"}, {"10.0.0.3", "Ben", "PC-BEN"}, {"10.0.0.4", "Cleo", "PC-CLEO"}}});
     copy.engine.mainWindow().Form_Unload();
     EXPECT_EQ(copy.settings.value("Users", "IP1"), "10.0.0.2");
     EXPECT_EQ(copy.settings.value("Users", "Nn1"), "Ann");
@@ -209,7 +211,8 @@ TEST(ContactList, TheMarkersAddressIsSkippedWhenSaving)
     EXPECT_EQ(copy.settings.value("Users", "IP1"), "10.0.0.2");
     EXPECT_EQ(copy.settings.value("Users", "IP2"), "10.0.0.3");
     EXPECT_EQ(copy.settings.value("Users", "IP3"), "255.255.255.255");
-    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "!OFFLINE 10.0.0.1 HERE Me"}, To{"10.0.0.3", "!OFFLINE 10.0.0.1 HERE Me"}));
+    EXPECT_THAT(copy.sent(),
+                ElementsAre(To{"10.0.0.2", "!OFFLINE 10.0.0.1 HERE Me"}, To{"10.0.0.3", "!OFFLINE 10.0.0.1 HERE Me"}));
 }
 
 } // namespace

@@ -11,7 +11,8 @@ using testing::IsEmpty;
 
 TEST(MainWindowLoad, SetsCaptionPlaceBannerPortsContactsAndIcon)
 {
-    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}, .settings = {{"Settings/MainLeft", "300"}, {"Settings/UDPPort", "6000"}}});
+    Copy copy(
+        {.contacts = {{"10.0.0.2", "Ann"}}, .settings = {{"Settings/MainLeft", "300"}, {"Settings/UDPPort", "6000"}}});
     EXPECT_EQ(copy.view.shownCaption, QStringLiteral("NIMB-Chat 1.2 - Me"));
     EXPECT_EQ(copy.view.shownPlace.left, 300);
     EXPECT_EQ(copy.view.shownPlace.height, 6200);
@@ -31,7 +32,8 @@ TEST(MainWindowLoad, WithNoSettingStoredThePortIs5549)
 
 TEST(MainWindowLoad, TheCaptionEndsWithTheWholeNickname)
 {
-    EXPECT_EQ(Copy({.nickname = QStringLiteral("Bob the Builder")}).view.shownCaption, QStringLiteral("NIMB-Chat 1.2 - Bob the Builder"));
+    EXPECT_EQ(Copy({.nickname = QStringLiteral("Bob the Builder")}).view.shownCaption,
+              QStringLiteral("NIMB-Chat 1.2 - Bob the Builder"));
 }
 
 TEST(MainWindowClose, TheCloseBoxHidesWhenTheOptionSaysSo)
@@ -62,8 +64,9 @@ TEST(MainWindowUnload, EndsEverythingInOrder)
     Copy copy;
     copy.steps.clear();
     copy.engine.mainWindow().Form_Unload();
-    EXPECT_THAT(copy.steps, ElementsAre("unload conferences", "unload private windows", "unload notify", "unload invitations",
-                                        "unload tip", "remove icon"));
+    EXPECT_THAT(copy.steps,
+                ElementsAre("unload conferences", "unload private windows", "unload notify", "unload invitations",
+                            "unload tip", "remove icon"));
 }
 
 TEST(MainWindowUnload, EveryContactGetsItsOwnFarewellWhateverItsState)
@@ -71,7 +74,8 @@ TEST(MainWindowUnload, EveryContactGetsItsOwnFarewellWhateverItsState)
     Copy copy({.contacts = {{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}}});
     copy.settleStart({"10.0.0.3"});
     copy.engine.mainWindow().Form_Unload();
-    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.3", "!OFFLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!OFFLINE 10.0.0.1 HERE Me"}));
+    EXPECT_THAT(copy.sent(),
+                ElementsAre(To{"10.0.0.3", "!OFFLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!OFFLINE 10.0.0.1 HERE Me"}));
 }
 
 TEST(MainWindowUnload, SavesContactsThenTheirEndThenTheSettingsInOneSave)

@@ -15,10 +15,7 @@ enum Position { online = 1, busy, away, invisible, addPersonalized, firstPersona
 class OwnStateTest : public testing::Test
 {
 protected:
-    OwnStateTest()
-    {
-        copy.settleStart({"10.0.0.2", "10.0.0.3"});
-    }
+    OwnStateTest() { copy.settleStart({"10.0.0.2", "10.0.0.3"}); }
     void choose(int position) { copy.engine.ownState().choose(position); }
 
     Copy copy{{.contacts = {{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}, {"10.0.0.4", "Cleo"}}}};
@@ -69,7 +66,8 @@ TEST_F(OwnStateTest, APersonalisedEntryIsShownSentAndStored)
     EXPECT_EQ(copy.view.ownStates.back().key, QStringLiteral("Personalized1"));
     EXPECT_EQ(copy.view.selectedState, firstPersonalized);
     EXPECT_FALSE(copy.view.personalizedVisible);
-    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "!STATUS BUSY In a meeting"}, To{"10.0.0.3", "!STATUS BUSY In a meeting"}));
+    EXPECT_THAT(copy.sent(),
+                ElementsAre(To{"10.0.0.2", "!STATUS BUSY In a meeting"}, To{"10.0.0.3", "!STATUS BUSY In a meeting"}));
     EXPECT_EQ(copy.view.statusPanel, QStringLiteral("Status: BUSY"));
     copy.engine.mainWindow().Form_Unload();
     EXPECT_EQ(copy.settings.value("Settings", "PersonalizedState1"), "4In a meeting");
@@ -116,7 +114,8 @@ TEST_F(OwnStateTest, GoingInvisibleSaysFarewellToPresentContacts)
 {
     copy.view.rescanEnabled = false;
     choose(invisible);
-    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "!OFFLINE 10.0.0.1 HERE Me"}, To{"10.0.0.3", "!OFFLINE 10.0.0.1 HERE Me"}));
+    EXPECT_THAT(copy.sent(),
+                ElementsAre(To{"10.0.0.2", "!OFFLINE 10.0.0.1 HERE Me"}, To{"10.0.0.3", "!OFFLINE 10.0.0.1 HERE Me"}));
     EXPECT_EQ(copy.view.statusPanel, QStringLiteral("Status: Invisible"));
     EXPECT_TRUE(copy.view.rescanEnabled);
     EXPECT_THAT(copy.view.rescanToolTip.toStdString(), testing::HasSubstr("invisible"));
@@ -135,8 +134,9 @@ TEST_F(OwnStateTest, FromInvisibleToOnlineAsksEveryContactAndSendsNoStatus)
     choose(invisible);
     copy.sent();
     choose(online);
-    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.3", "?ONLINE 10.0.0.1 HERE Me"},
-                                         To{"10.0.0.4", "?ONLINE 10.0.0.1 HERE Me"}));
+    EXPECT_THAT(copy.sent(),
+                ElementsAre(To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.3", "?ONLINE 10.0.0.1 HERE Me"},
+                            To{"10.0.0.4", "?ONLINE 10.0.0.1 HERE Me"}));
 }
 
 TEST_F(OwnStateTest, TheEntryThatAddsShowsThePanelAndLeavesTheState)
@@ -211,8 +211,9 @@ TEST(StoredStates, AreLoadedWithBaseNameAndPicture)
     std::vector<std::string> texts;
     for (const OwnStateEntry &entry : copy.view.ownStates)
         texts.push_back(entry.text.toStdString());
-    EXPECT_THAT(texts, ElementsAre("Online", "Busy", "Away", "Invisible", " ... add a personalized state...",
-                                   "Online - on the phone", "Busy - In a meeting", "Away - Lunch"));
+    EXPECT_THAT(texts,
+                ElementsAre("Online", "Busy", "Away", "Invisible", " ... add a personalized state...",
+                            "Online - on the phone", "Busy - In a meeting", "Away - Lunch"));
     EXPECT_EQ(copy.view.ownStates[5].picture, Picture::green);
     EXPECT_EQ(copy.view.ownStates[7].key, QStringLiteral("Personalized3"));
     copy.engine.mainWindow().Form_Unload();

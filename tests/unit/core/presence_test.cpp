@@ -70,7 +70,8 @@ TEST_F(PresenceTest, AQuestionIsAnsweredWithPresenceAndState)
     copy.engine.ownState().addPersonalized(Picture::away, QStringLiteral("Back at five"));
     copy.sent();
     copy.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC Ann");
-    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "!ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!STATUS AWAY Back at five"}));
+    EXPECT_THAT(copy.sent(),
+                ElementsAre(To{"10.0.0.2", "!ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!STATUS AWAY Back at five"}));
 }
 
 TEST_F(PresenceTest, AnInvisibleCopyDoesNotAnswer)
@@ -146,9 +147,11 @@ TEST_F(PresenceTest, PresenceIsLoggedInThePrivateWindow)
     copy.arrive("10.0.0.2", "!STATUS BUSY");
     copy.arrive("10.0.0.2", "!STATUS BUSY till %1");
     copy.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");
-    EXPECT_THAT(log.lines(), ElementsAre("[21/11/2026 @ 14:05] Ann is online", "[21/11/2026 @ 14:05] Ann changed his state to 'BUSY'",
-                                         "[21/11/2026 @ 14:05] Ann changed his state to 'BUSY - till %1'",
-                                         "[21/11/2026 @ 14:05] Ann has gone offline"));
+    EXPECT_THAT(log.lines(),
+                ElementsAre("[21/11/2026 @ 14:05] Ann is online",
+                            "[21/11/2026 @ 14:05] Ann changed his state to 'BUSY'",
+                            "[21/11/2026 @ 14:05] Ann changed his state to 'BUSY - till %1'",
+                            "[21/11/2026 @ 14:05] Ann has gone offline"));
     EXPECT_EQ(log.colourOfLastPiece(), 0x808080u);
 }
 
@@ -181,8 +184,9 @@ TEST_F(PresenceTest, UnknownCommandsAndGarbageAreLogged)
     copy.arrive("10.0.0.2", "?");
     copy.arrive("10.0.0.2", "hello");
     copy.arrive("10.0.0.2", "");
-    EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- unsupported command received (!FOO) ---", "--- unsupported command received (?) ---",
-                                                   "--- garbage received  (hello) ---", "--- garbage received  () ---"));
+    EXPECT_THAT(copy.view.log.lines(),
+                ElementsAre("--- unsupported command received (!FOO) ---", "--- unsupported command received (?) ---",
+                            "--- garbage received  (hello) ---", "--- garbage received  () ---"));
     EXPECT_EQ(copy.view.log.colourOfLastPiece(), 0x0000C0u);
     EXPECT_THAT(copy.sent(), IsEmpty());
 }
@@ -275,7 +279,8 @@ TEST_F(PresenceTest, OtherDatagramsOfStrangersLeaveNoTrace)
 TEST_F(PresenceTest, StrangersCannotFillTheListWithoutEnd)
 {
     for (int i = 0; i < 10050; ++i) {
-        const std::string ip = "20." + std::to_string(i / 65536) + '.' + std::to_string(i / 256 % 256) + '.' + std::to_string(i % 256);
+        const std::string ip
+            = "20." + std::to_string(i / 65536) + '.' + std::to_string(i / 256 % 256) + '.' + std::to_string(i % 256);
         copy.arrive(ip.c_str(), "!ONLINE " + ip + " PC N");
     }
     EXPECT_EQ(copy.engine.contacts().rowCount(), 10002);

@@ -63,8 +63,9 @@ TEST(Settings, TheTableHasEveryKeyOnceInItsSection)
         else
             EXPECT_STREQ(row.section, "Settings");
     }
-    EXPECT_THAT(options, ElementsAre("ShowStatusOnPrivate", "BuzzLocal", "BuzzRemote", "PrivateBehaviour", "DontDestroyWindow",
-                                     "NotifyWin", "LiveType", "CloseButtonDoesMinimize", "TipOTDay", "TipOTDayNum"));
+    EXPECT_THAT(options,
+                ElementsAre("ShowStatusOnPrivate", "BuzzLocal", "BuzzRemote", "PrivateBehaviour", "DontDestroyWindow",
+                            "NotifyWin", "LiveType", "CloseButtonDoesMinimize", "TipOTDay", "TipOTDayNum"));
     EXPECT_EQ(keys.size(), 27u);
 }
 
@@ -73,15 +74,16 @@ TEST(Settings, SavingKeepsItsOrder)
     MemoryStore store;
     saveSettings(store, Common(), {});
     EXPECT_THAT(store.order,
-                ElementsAre("Settings/UDPPort", "Options/ShowStatusOnPrivate", "Options/BuzzLocal", "Options/BuzzRemote",
-                            "Options/PrivateBehaviour", "Options/DontDestroyWindow", "Options/NotifyWin", "Options/LiveType",
-                            "Options/CloseButtonDoesMinimize", "Settings/MainLeft", "Settings/MainTop", "Settings/MainHeight",
-                            "Settings/AvatarHead", "Settings/AvatarBody", "Settings/AutoReplyonBusyActive",
-                            "Settings/AutoReplyonAwayActive", "Settings/AutoReplyonBusyText", "Settings/AutoReplyonawayText",
-                            "Settings/StandardFontSize", "Settings/StandardFontFace", "Settings/StandardFontStyle",
-                            "Settings/PersonalizedState1", "Settings/PersonalizedState2", "Settings/PersonalizedState3",
-                            "Settings/PersonalizedState4", "Settings/PersonalizedState5", "Settings/PersonalizedState6",
-                            "Settings/PersonalizedState7", "Settings/PersonalizedState8"));
+                ElementsAre("Settings/UDPPort", "Options/ShowStatusOnPrivate", "Options/BuzzLocal",
+                            "Options/BuzzRemote", "Options/PrivateBehaviour", "Options/DontDestroyWindow",
+                            "Options/NotifyWin", "Options/LiveType", "Options/CloseButtonDoesMinimize",
+                            "Settings/MainLeft", "Settings/MainTop", "Settings/MainHeight", "Settings/AvatarHead",
+                            "Settings/AvatarBody", "Settings/AutoReplyonBusyActive", "Settings/AutoReplyonAwayActive",
+                            "Settings/AutoReplyonBusyText", "Settings/AutoReplyonawayText", "Settings/StandardFontSize",
+                            "Settings/StandardFontFace", "Settings/StandardFontStyle", "Settings/PersonalizedState1",
+                            "Settings/PersonalizedState2", "Settings/PersonalizedState3", "Settings/PersonalizedState4",
+                            "Settings/PersonalizedState5", "Settings/PersonalizedState6", "Settings/PersonalizedState7",
+                            "Settings/PersonalizedState8"));
 }
 
 TEST(Settings, ATrueFlagIsStoredAsMinusOneAndReadAsActive)
@@ -171,7 +173,8 @@ TEST_P(MalformedSetting, GivesTheDefaultAndOneNotice)
 }
 
 INSTANTIATE_TEST_SUITE_P(, MalformedSetting,
-                         testing::Values("", "abc", "12abc", "nan", "inf", "1e300", "99999999999999999999", "0x10", "--1", "1,5"));
+                         testing::Values("", "abc", "12abc", "nan", "inf", "1e300", "99999999999999999999", "0x10",
+                                         "--1", "1,5"));
 
 TEST(Settings, APortOutsideItsRangeIsThe5549)
 {

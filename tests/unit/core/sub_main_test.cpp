@@ -13,7 +13,7 @@ using testing::ElementsAre;
 class RecorderSteps : public StartUpSteps
 {
 public:
-    explicit RecorderSteps(Common &shared) : common(shared) {}
+    explicit RecorderSteps(Common &shared) : common(shared) { }
 
     bool anotherCopyRuns() override
     {
@@ -53,14 +53,16 @@ protected:
 TEST_F(SubMainTest, WithoutCommandLineTheLoginDialogAsks)
 {
     EXPECT_EQ(start(""), Started::running);
-    EXPECT_THAT(steps.steps, ElementsAre("another copy?", "emoticons", "notify", "login", "load main as Ann", "show main", "tip"));
+    EXPECT_THAT(steps.steps,
+                ElementsAre("another copy?", "emoticons", "notify", "login", "load main as Ann", "show main", "tip"));
 }
 
 TEST_F(SubMainTest, TheWholeCommandLineIsTheNicknameAndStartsMinimised)
 {
     EXPECT_EQ(start("Bob the Builder"), Started::running);
-    EXPECT_THAT(steps.steps, ElementsAre("another copy?", "emoticons", "notify", "login unseen", "load main as Bob the Builder",
-                                         "show main", "minimise main", "tip"));
+    EXPECT_THAT(steps.steps,
+                ElementsAre("another copy?", "emoticons", "notify", "login unseen", "load main as Bob the Builder",
+                            "show main", "minimise main", "tip"));
 }
 
 TEST_F(SubMainTest, ClosingTheLoginDialogEndsTheProgramWithoutWindowOrTip)

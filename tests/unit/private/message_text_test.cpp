@@ -22,7 +22,8 @@ TEST(MessageText, LeadingSpacesAndBreaksGoInAnyMixture)
 
 TEST(MessageText, BreaksAndBlanksInsideStay)
 {
-    EXPECT_EQ(TrimLeadingBreaks(TrimTrailingBreaks(QStringLiteral(" a  b\r\n\r\nc "))), QStringLiteral("a  b\r\n\r\nc"));
+    EXPECT_EQ(TrimLeadingBreaks(TrimTrailingBreaks(QStringLiteral(" a  b\r\n\r\nc "))),
+              QStringLiteral("a  b\r\n\r\nc"));
 }
 
 TEST(MessageText, OnlySpacesAndWholeBreaksAreTrimmed)

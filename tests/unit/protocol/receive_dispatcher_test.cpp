@@ -25,19 +25,24 @@ public:
 
     void strangerSeen(const QString &ip, const PeerIdentity &peer, bool online) override
     {
-        note(QStringLiteral("stranger %1 %2 %3").arg(ip, online ? QStringLiteral("on") : QStringLiteral("off"), who(peer)));
+        note(QStringLiteral("stranger %1 %2 %3")
+                 .arg(ip, online ? QStringLiteral("on") : QStringLiteral("off"), who(peer)));
     }
     void cameOnline(const QString &, const std::optional<PeerIdentity> &peer, bool asks) override
     {
-        note(QStringLiteral("online %1 %2").arg(asks ? QStringLiteral("asks") : QStringLiteral("answers"),
-                                                peer ? who(*peer) : QStringLiteral("?")));
+        note(QStringLiteral("online %1 %2")
+                 .arg(asks ? QStringLiteral("asks") : QStringLiteral("answers"),
+                      peer ? who(*peer) : QStringLiteral("?")));
     }
     void wentOffline(const QString &) override { note(QStringLiteral("offline")); }
     void changedState(const QString &, const QString &state, const QString &text) override
     {
         note(QStringLiteral("state [%1] [%2]").arg(state, text));
     }
-    void privateMessage(const QString &, const QString &text) override { note(QStringLiteral("message [%1]").arg(text)); }
+    void privateMessage(const QString &, const QString &text) override
+    {
+        note(QStringLiteral("message [%1]").arg(text));
+    }
     void buzz(const QString &) override { note(QStringLiteral("buzz")); }
     void typing(const QString &) override { note(QStringLiteral("typing")); }
     void liveType(const QString &, const QString &text) override { note(QStringLiteral("live [%1]").arg(text)); }
@@ -47,7 +52,10 @@ public:
     void avatarHead(const QString &, const std::string &head) override { told.push_back("head [" + head + "]"); }
     void avatarBody(const QString &, const std::string &body) override { told.push_back("body [" + body + "]"); }
     void avatarOff(const QString &) override { note(QStringLiteral("avatar off")); }
-    void sharedContact(const QString &, const PeerIdentity &contact) override { note(QLatin1String("user ") + who(contact)); }
+    void sharedContact(const QString &, const PeerIdentity &contact) override
+    {
+        note(QLatin1String("user ") + who(contact));
+    }
     void conferenceDatagram(const QString &, const wire::Datagram &datagram) override
     {
         told.push_back("conference " + wire::serialise(datagram));
@@ -58,7 +66,10 @@ public:
     std::vector<std::string> told;
 
 private:
-    static QString who(const PeerIdentity &peer) { return QStringLiteral("%1/%2/%3").arg(peer.ip, peer.host, peer.nick); }
+    static QString who(const PeerIdentity &peer)
+    {
+        return QStringLiteral("%1/%2/%3").arg(peer.ip, peer.host, peer.nick);
+    }
     void note(const QString &what) { told.push_back(what.toStdString()); }
 };
 
@@ -81,9 +92,7 @@ protected:
     Everyone everyone;
     DropCounts drops;
     ReceiveDispatcher dispatcher{
-        everyone,
-        {&everyone, &everyone, &everyone, &everyone, &everyone, &everyone, &everyone},
-        drops};
+        everyone, {&everyone, &everyone, &everyone, &everyone, &everyone, &everyone, &everyone}, drops};
 };
 
 TEST_F(Dispatcher, HandsEachKindToItsFeature)
@@ -139,7 +148,8 @@ TEST_F(Dispatcher, OnlyWellFormedPresenceOfStrangersIsHandedOver)
     EXPECT_THAT(strangerSends("?ONLINE 1.2.3.4 PC-ZOE Zoe"), ElementsAre("stranger 10.0.0.9 on 1.2.3.4/PC-ZOE/Zoe"));
     EXPECT_THAT(strangerSends("!ONLINE 1.2.3.4 PC-ZOE Zoe"), ElementsAre("stranger 10.0.0.9 on 1.2.3.4/PC-ZOE/Zoe"));
     EXPECT_THAT(strangerSends("!OFFLINE 1.2.3.4 PC-ZOE Zoe"), ElementsAre("stranger 10.0.0.9 off 1.2.3.4/PC-ZOE/Zoe"));
-    for (const char *other : {"-hello", "!STATUS BUSY", "!BUZZ", "?CONF INVITE #1", "+1.2.3.4 #1 x", "!FOO", "hello", ""})
+    for (const char *other :
+         {"-hello", "!STATUS BUSY", "!BUZZ", "?CONF INVITE #1", "+1.2.3.4 #1 x", "!FOO", "hello", ""})
         EXPECT_THAT(strangerSends(other), IsEmpty()) << other;
     EXPECT_EQ(drops.of(Drop::stranger), 8u);
 }
