@@ -1,11 +1,14 @@
 #include "core/frmMain.h"
 
+#include "core/auto_reply_frame.h"
 #include "core/contact_commands.h"
 #include "core/contact_view.h"
+#include "core/form_layout.h"
 #include "core/form_text.h"
 #include "core/main_layout.h"
 #include "core/main_menu.h"
 #include "core/main_window.h"
+#include "core/personalized_state_frame.h"
 #include "core/pictures.h"
 #include "core/twips.h"
 
@@ -13,12 +16,9 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QGridLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QStatusBar>
@@ -29,20 +29,13 @@ namespace nimb
 namespace
 {
 
-constexpr int margin = 9;
-constexpr int spacing = 6;
+using form_layout::margin;
+using form_layout::spacing;
 constexpr int rowHeight = 26;
 constexpr int conferenceSlots = 5;
 /// Above the rows of the contact list: the own-state chooser, a gap, the tabs.
 constexpr int roomAboveRows = 2 * rowHeight + spacing;
 constexpr int narrowInnerWidth = pixels(main_layout::widthWithoutLog) - 2 * margin;
-const QColor unfocusedReplyColour(0x80, 0x80, 0x80);
-
-template <class Widget> Widget *named(Widget *widget, const char *name)
-{
-    widget->setObjectName(QLatin1String(name));
-    return widget;
-}
 
 QLabel *panel(QWidget *bar, const char *name)
 {
@@ -71,8 +64,6 @@ void frmMain::buildControls()
     setCentralWidget(area);
     buildContacts(area);
     buildOwnState(area);
-    buildPersonalizedState(area);
-    buildAutoReply(area);
 
     m_outtextWidget.setParent(area);
     m_outtextWidget.setObjectName(QStringLiteral("outtext"));
@@ -152,59 +143,12 @@ void frmMain::buildOwnState(QWidget *parent)
     ImageCombo1 = named(new QComboBox(parent), "ImageCombo1");
     ImageCombo1->setAccessibleName(tr("Own state"));
     ImageCombo1->setMaxVisibleItems(13);
-}
-
-void frmMain::buildPersonalizedState(QWidget *parent)
-{
-    PersonalizedStateFrame = named(new QFrame(parent), "PersonalizedStateFrame");
-    PersonalizedStateFrame->setFrameShape(QFrame::StyledPanel);
-    PersonalizedStateFrame->setAutoFillBackground(true);
-    PersonalizedStateFrame->hide();
-    auto *const base = new QLabel(tr("&State:"), PersonalizedStateFrame);
-    auto *const text = new QLabel(tr("&Text:"), PersonalizedStateFrame);
-    ImageComboPers = named(new QComboBox(PersonalizedStateFrame), "ImageComboPers");
-    for (const Picture picture : {Picture::green, Picture::busy, Picture::away})
-        ImageComboPers->addItem(statePicture(picture), OwnState::baseName(picture), QVariant::fromValue(int(picture)));
-    PersonalizedMessageText = named(new QLineEdit(PersonalizedStateFrame), "PersonalizedMessageText");
-    PersonalizedOkbtn = named(new QPushButton(tr("OK"), PersonalizedStateFrame), "PersonalizedOkbtn");
-    m_personalizedCancel = new QPushButton(tr("Cancel"), PersonalizedStateFrame);
-    base->setBuddy(ImageComboPers);
-    text->setBuddy(PersonalizedMessageText);
-    auto *const buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(PersonalizedOkbtn);
-    buttons->addWidget(m_personalizedCancel);
-    auto *const grid = new QGridLayout(PersonalizedStateFrame);
-    grid->setContentsMargins(margin, margin, margin, margin);
-    grid->setSpacing(spacing);
-    grid->addWidget(base, 0, 0);
-    grid->addWidget(ImageComboPers, 0, 1);
-    grid->addWidget(text, 1, 0);
-    grid->addWidget(PersonalizedMessageText, 1, 1);
-    grid->addLayout(buttons, 2, 0, 1, 2);
-    grid->setColumnStretch(1, 1);
-}
-
-void frmMain::buildAutoReply(QWidget *parent)
-{
+    m_personalizedState = new PersonalizedStateFrame(parent);
     AutoReplyOn = named(new QCheckBox(tr("AutoReply"), parent), "AutoReplyOn");
     Autoreplybtn = named(new QPushButton(tr("AutoReply text..."), parent), "Autoreplybtn");
-    AutoreplyFrame = named(new QGroupBox(parent), "AutoreplyFrame");
-    AutoreplyFrame->setAutoFillBackground(true);
-    AutoReplyTxt = named(new QPlainTextEdit(AutoreplyFrame), "AutoReplyTxt");
-    AutoReplyTxt->setAccessibleName(tr("AutoReply text"));
-    AutoReplyTxt->setTabChangesFocus(true);
-    AutoReplyTxt->installEventFilter(this);
-    showReplyUnfocused();
-    Autoreplypanelclosebtn = named(new QPushButton(tr("Close"), AutoreplyFrame), "Autoreplypanelclosebtn");
-    auto *const grid = new QGridLayout(AutoreplyFrame);
-    grid->setContentsMargins(margin, spacing, margin, margin);
-    grid->setSpacing(spacing);
-    grid->addWidget(AutoReplyTxt, 0, 0, 1, 2);
-    grid->addWidget(Autoreplypanelclosebtn, 1, 1);
-    grid->setColumnStretch(0, 1);
-    for (QWidget *control : std::initializer_list<QWidget *>{AutoReplyOn, Autoreplybtn, AutoreplyFrame})
-        control->hide();
+    m_autoReply = new AutoreplyFrame(parent);
+    AutoReplyOn->hide();
+    Autoreplybtn->hide();
 }
 
 void frmMain::buildStatusBar()
@@ -262,12 +206,13 @@ void frmMain::connectContacts()
 void frmMain::connectOwnState()
 {
     connect(ImageCombo1, &QComboBox::activated, this, &frmMain::ImageCombo1_Click);
-    connect(PersonalizedOkbtn, &QPushButton::clicked, this, &frmMain::PersonalizedOkbtn_Click);
-    connect(PersonalizedMessageText, &QLineEdit::returnPressed, PersonalizedOkbtn, &QPushButton::click);
-    connect(m_personalizedCancel, &QPushButton::clicked, this, &frmMain::PersonalizedCancel_Click);
+    connect(m_personalizedState, &PersonalizedStateFrame::chosen, this, &frmMain::personalizedStateChosen);
+    connect(m_personalizedState, &PersonalizedStateFrame::cancelled, this, &frmMain::personalizedStateCancelled);
     connect(AutoReplyOn, &QCheckBox::clicked, this, [this](bool on) { m_engine->ownState.setAutoReply(on); });
-    connect(Autoreplybtn, &QPushButton::clicked, this, &frmMain::Autoreplybtn_Click);
-    connect(Autoreplypanelclosebtn, &QPushButton::clicked, this, &frmMain::Autoreplypanelclosebtn_Click);
+    connect(Autoreplybtn, &QPushButton::clicked, m_autoReply, &AutoreplyFrame::edit);
+    connect(m_autoReply, &AutoreplyFrame::closed, this, &frmMain::autoReplyClosed);
+    connect(m_autoReply, &AutoreplyFrame::textLeft, this,
+            [this](const QString &text) { m_engine->ownState.setAutoReplyText(text); });
 }
 
 void frmMain::Form_Load()
@@ -303,9 +248,7 @@ void frmMain::unload(UnloadMode mode)
 void frmMain::finish()
 {
     const auto ended = std::exchange(m_ended, nullptr);
-    // A text still being typed counts as left.
-    if (AutoReplyTxt->hasFocus())
-        AutoReplyTxt_LostFocus();
+    m_autoReply->leaveText();
     m_engine->window.Form_Unload();
     hide();
     ended();
@@ -426,20 +369,14 @@ void frmMain::placeBottomRows()
 void frmMain::placePanels()
 {
     const int belowChooser = margin + rowHeight + 2;
-    PersonalizedStateFrame->setGeometry(margin, belowChooser, narrowInnerWidth,
-                                        PersonalizedStateFrame->sizeHint().height());
+    m_personalizedState->setGeometry(margin, belowChooser, narrowInnerWidth, m_personalizedState->sizeHint().height());
     constexpr int replyHeight = 130;
-    AutoreplyFrame->setGeometry(margin, ListView1->geometry().bottom() + 1 - replyHeight, narrowInnerWidth,
-                                replyHeight);
+    m_autoReply->setGeometry(margin, ListView1->geometry().bottom() + 1 - replyHeight, narrowInnerWidth, replyHeight);
 }
 
 bool frmMain::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == AutoReplyTxt && event->type() == QEvent::FocusIn)
-        AutoReplyTxt_GotFocus();
-    else if (watched == AutoReplyTxt && event->type() == QEvent::FocusOut)
-        AutoReplyTxt_LostFocus();
-    else if (watched == statusBar() && event->type() == QEvent::ToolTip && m_engine)
+    if (watched == statusBar() && event->type() == QEvent::ToolTip && m_engine)
         statusBar()->setToolTip(m_engine->statusNotes());
     return QMainWindow::eventFilter(watched, event);
 }
@@ -539,16 +476,15 @@ void frmMain::ImageCombo1_Click(int index)
     m_engine->ownState.choose(index + 1);
 }
 
-void frmMain::PersonalizedOkbtn_Click()
+void frmMain::personalizedStateChosen(Picture base, const QString &text)
 {
-    const auto base = static_cast<Picture>(ImageComboPers->currentData().toInt());
-    if (m_engine->ownState.addPersonalized(base, PersonalizedMessageText->text()))
-        PersonalizedMessageText->clear();
+    if (m_engine->ownState.addPersonalized(base, text))
+        m_personalizedState->clearText();
     else
-        PersonalizedMessageText->setFocus();
+        m_personalizedState->focusText();
 }
 
-void frmMain::PersonalizedCancel_Click()
+void frmMain::personalizedStateCancelled()
 {
     selectOwnState(m_chosenState + 1);
     setPersonalizedStateVisible(false);
@@ -556,13 +492,12 @@ void frmMain::PersonalizedCancel_Click()
 
 void frmMain::setPersonalizedStateVisible(bool visible)
 {
-    // Hiding a control that has the focus would pass it on to whatever comes next.
-    if (!visible && PersonalizedStateFrame->isAncestorOf(focusWidget()))
-        ImageCombo1->setFocus();
-    PersonalizedStateFrame->setVisible(visible);
-    PersonalizedStateFrame->raise();
     if (visible)
-        PersonalizedMessageText->setFocus();
+        return m_personalizedState->ask();
+    // Hiding a control that has the focus would pass it on to whatever comes next.
+    if (m_personalizedState->isAncestorOf(focusWidget()))
+        ImageCombo1->setFocus();
+    m_personalizedState->hide();
 }
 
 void frmMain::setStatusPanel(const QString &text)
@@ -576,41 +511,15 @@ void frmMain::setAutoReply(const std::optional<AutoReplyPanel> &panel)
     Autoreplybtn->setVisible(panel.has_value());
     ItemDetailstxt->setVisible(!panel);
     if (!panel)
-        return AutoreplyFrame->hide();
+        return m_autoReply->hide();
     AutoReplyOn->setChecked(panel->on);
-    setTypedText(*AutoReplyTxt, panel->text);
-    AutoreplyFrame->setTitle(panel->caption);
+    m_autoReply->setReply(panel->caption, panel->text);
 }
 
-void frmMain::Autoreplybtn_Click()
-{
-    AutoreplyFrame->show();
-    AutoreplyFrame->raise();
-    AutoReplyTxt->setFocus();
-}
-
-void frmMain::Autoreplypanelclosebtn_Click()
+void frmMain::autoReplyClosed()
 {
     Autoreplybtn->setFocus();
-    AutoreplyFrame->hide();
-}
-
-void frmMain::AutoReplyTxt_GotFocus()
-{
-    AutoReplyTxt->setPalette({});
-}
-
-void frmMain::showReplyUnfocused()
-{
-    QPalette grey = AutoReplyTxt->palette();
-    grey.setColor(QPalette::Text, unfocusedReplyColour);
-    AutoReplyTxt->setPalette(grey);
-}
-
-void frmMain::AutoReplyTxt_LostFocus()
-{
-    showReplyUnfocused();
-    m_engine->ownState.setAutoReplyText(typedText(*AutoReplyTxt));
+    m_autoReply->hide();
 }
 
 // --- what else is seen

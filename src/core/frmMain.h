@@ -11,11 +11,8 @@
 class QAbstractItemModel;
 class QCheckBox;
 class QComboBox;
-class QFrame;
-class QGroupBox;
 class QLabel;
 class QLineEdit;
-class QPlainTextEdit;
 class QPushButton;
 class QTabBar;
 
@@ -23,12 +20,14 @@ namespace nimb
 {
 
 class Announcement;
+class AutoreplyFrame;
 class ContactCommands;
 class ContactList;
 class ContactView;
 class MainLog;
 class MainWindow;
 class OwnState;
+class PersonalizedStateFrame;
 
 /// The engine behind the main window; outlives it.
 struct MainWindowEngine {
@@ -94,8 +93,6 @@ private:
     void buildMenuBar();
     void buildPopUpMenu();
     void buildOwnState(QWidget *parent);
-    void buildPersonalizedState(QWidget *parent);
-    void buildAutoReply(QWidget *parent);
     void buildContacts(QWidget *parent);
     void buildStatusBar();
     void connectContacts();
@@ -118,13 +115,9 @@ private:
     void RescanBtn_Click();
     void clearbtn_Click();
     void ImageCombo1_Click(int index);
-    void PersonalizedOkbtn_Click();
-    void PersonalizedCancel_Click();
-    void Autoreplybtn_Click();
-    void Autoreplypanelclosebtn_Click();
-    void AutoReplyTxt_GotFocus();
-    void AutoReplyTxt_LostFocus();
-    void showReplyUnfocused();
+    void personalizedStateChosen(Picture base, const QString &text);
+    void personalizedStateCancelled();
+    void autoReplyClosed();
     void showItemDetails();
 
     std::optional<MainWindowEngine> m_engine;
@@ -144,16 +137,10 @@ private:
     QCheckBox *ListDetails = nullptr;
     QLineEdit *ItemDetailstxt = nullptr;
     QPushButton *clearbtn = nullptr;
-    QFrame *PersonalizedStateFrame = nullptr;
-    QComboBox *ImageComboPers = nullptr;
-    QLineEdit *PersonalizedMessageText = nullptr;
-    QPushButton *PersonalizedOkbtn = nullptr;
-    QPushButton *m_personalizedCancel = nullptr;
+    PersonalizedStateFrame *m_personalizedState = nullptr;
     QCheckBox *AutoReplyOn = nullptr;
     QPushButton *Autoreplybtn = nullptr;
-    QGroupBox *AutoreplyFrame = nullptr;
-    QPlainTextEdit *AutoReplyTxt = nullptr;
-    QPushButton *Autoreplypanelclosebtn = nullptr;
+    AutoreplyFrame *m_autoReply = nullptr;
     QLabel *m_status = nullptr;
     QLabel *m_activity = nullptr;
     QLabel *m_trouble = nullptr;

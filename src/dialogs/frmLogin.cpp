@@ -1,5 +1,6 @@
 #include "dialogs/frmLogin.h"
 
+#include "core/form_layout.h"
 #include "core/pictures.h"
 
 #include <QGridLayout>
@@ -40,15 +41,16 @@ void frmLogin::buildControls()
     CmdOK->setDefault(true);
 
     auto *const grid = new QGridLayout(this);
-    grid->setContentsMargins(12, 12, 12, 12);
-    grid->setSpacing(6);
+    grid->setContentsMargins(form_layout::groupDistance, form_layout::groupDistance, form_layout::groupDistance,
+                             form_layout::groupDistance);
+    grid->setSpacing(form_layout::spacing);
     grid->addWidget(picture, 0, 0, 2, 1, Qt::AlignCenter);
     grid->addWidget(welcome, 0, 1);
     grid->addWidget(request, 1, 1);
-    grid->setRowMinimumHeight(2, 6);
+    grid->setRowMinimumHeight(2, form_layout::spacing);
     grid->addWidget(caption, 3, 0);
     grid->addWidget(txtUserName, 3, 1);
-    grid->setRowMinimumHeight(4, 6);
+    grid->setRowMinimumHeight(4, form_layout::spacing);
     grid->addWidget(CmdOK, 5, 1, Qt::AlignRight);
     grid->setSizeConstraint(QLayout::SetFixedSize);
 }

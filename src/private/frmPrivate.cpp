@@ -1,5 +1,6 @@
 #include "private/frmPrivate.h"
 
+#include "core/form_layout.h"
 #include "core/form_text.h"
 #include "core/log_font.h"
 #include "core/pictures.h"
@@ -21,8 +22,8 @@ namespace nimb
 {
 namespace
 {
-constexpr int margin = 9;
-constexpr int spacing = 6;
+using form_layout::margin;
+using form_layout::spacing;
 } // namespace
 
 frmPrivate::frmPrivate(PrivateChat &chat) : m_chat(&chat)
