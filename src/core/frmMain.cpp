@@ -70,6 +70,19 @@ void frmMain::buildControls()
     m_outtextWidget.setAccessibleName(tr("Log"));
     clearbtn = named(new QPushButton(namedPicture(QStringLiteral("clear")), tr("Clear"), area), "clearbtn");
     buildStatusBar();
+    orderControls();
+}
+
+/// The Tab key walks as the eye does: down the left side, then the log.
+void frmMain::orderControls()
+{
+    QWidget *previous = ImageCombo1;
+    for (QWidget *const next : std::initializer_list<QWidget *>{
+             m_personalizedState, TabStrip1, ListView1, m_autoReply, RescanBtn, buzzmute, ListDetails, ItemDetailstxt,
+             AutoReplyOn, Autoreplybtn, &m_outtextWidget, clearbtn}) {
+        setTabOrder(previous, next);
+        previous = next;
+    }
 }
 
 void frmMain::buildMenuBar()

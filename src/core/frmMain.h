@@ -95,6 +95,7 @@ private:
     void buildOwnState(QWidget *parent);
     void buildContacts(QWidget *parent);
     void buildStatusBar();
+    void orderControls();
     void connectContacts();
     void connectOwnState();
     QAction *menuEntry(const char *name) const;

@@ -29,7 +29,7 @@ PersonalizedStateFrame::PersonalizedStateFrame(QWidget *parent) : QFrame(parent)
 void PersonalizedStateFrame::buildControls()
 {
     auto *const base = new QLabel(tr("&State:"), this);
-    auto *const text = new QLabel(tr("&Text:"), this);
+    auto *const text = new QLabel(tr("Te&xt:"), this);
     ImageComboPers = named(new QComboBox(this), "ImageComboPers");
     for (const Picture picture : {Picture::green, Picture::busy, Picture::away})
         ImageComboPers->addItem(statePicture(picture), OwnState::baseName(picture), QVariant::fromValue(int(picture)));

@@ -170,6 +170,33 @@ TEST_F(FrmMain, StartsNarrowAndTheDetailsSwitchWidensTheColumns)
     EXPECT_EQ(windows.main().focusWidget()->objectName(), QStringLiteral("buzzmute"));
 }
 
+TEST_F(FrmMain, TheTabKeyWalksDownTheLeftSideAndThenThroughTheLog)
+{
+    windows.control("ImageCombo1").setFocus();
+    std::vector<std::string> walked;
+    for (int i = 0; i < 8; ++i) {
+        QTest::keyClick(windows.main().focusWidget(), Qt::Key_Tab);
+        walked.push_back(windows.main().focusWidget()->objectName().toStdString());
+    }
+    EXPECT_THAT(walked,
+                ElementsAre("TabStrip1", "ListView1", "RescanBtn", "buzzmute", "ListDetails", "ItemDetailstxt",
+                            "outtext", "clearbtn"));
+}
+
+TEST_F(FrmMain, TheEscapeKeyLeavesThePanels)
+{
+    Q_EMIT windows.control<QComboBox>("ImageCombo1").activated(4);
+    QTest::keyClick(windows.main().focusWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(windows.control("PersonalizedStateFrame").isVisible());
+    EXPECT_EQ(windows.control<QComboBox>("ImageCombo1").currentIndex(), 0);
+    EXPECT_EQ(windows.main().focusWidget()->objectName(), QStringLiteral("ImageCombo1"));
+    Q_EMIT windows.control<QComboBox>("ImageCombo1").activated(1);
+    windows.control<QPushButton>("Autoreplybtn").click();
+    QTest::keyClick(windows.main().focusWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(windows.control("AutoreplyFrame").isVisible());
+    EXPECT_EQ(windows.main().focusWidget()->objectName(), QStringLiteral("Autoreplybtn"));
+}
+
 TEST_F(FrmMain, TheTabsSetAndClearTheDetailsSwitch)
 {
     auto &tabs = windows.control<QTabBar>("TabStrip1");
