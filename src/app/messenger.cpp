@@ -14,8 +14,8 @@ Messenger::Messenger(Common &common, const Surroundings &around)
       m_contactCommands(m_contacts, m_privateWindows, around.prompts),
       m_dispatcher(m_contacts, {.presence = &m_presence, .unknown = &m_log, .privateMessages = &m_privateWindows},
                    around.drops),
-      m_mainWindow({common, around.store, m_contacts, m_ownState, m_sender, m_announcement, m_port, m_log,
-                    around.prompts, around.windows, around.tray, around.mainView})
+      m_mainWindow({common, around.store, around.socket, m_contacts, m_ownState, m_sender, m_announcement, m_port,
+                    m_log, around.prompts, around.windows, around.tray, around.mainView})
 {
     m_dispatcher.listenTo(m_socket);
 }

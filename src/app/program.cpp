@@ -109,7 +109,8 @@ void Program::loadNotify()
 
 void Program::showLogin()
 {
-    m_forms.showLogin(*m_login, m_prompts);
+    if (!m_forms.showLogin(*m_login, m_prompts))
+        m_common.ownNickname.clear();
 }
 
 void Program::loadAndUnloadLogin()

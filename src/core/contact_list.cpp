@@ -1,5 +1,7 @@
 #include "core/contact_list.h"
 
+#include "core/remote_text.h"
+
 #include <algorithm>
 
 namespace nimb
@@ -145,8 +147,8 @@ void ContactList::load(const SettingsStore &store)
             return;
         Contact contact;
         contact.ip = ip;
-        contact.nickname = store.read(usersSection, QLatin1String("Nn") + number, unknownName);
-        contact.workstation = store.read(usersSection, QLatin1String("Ws") + number, unknownName);
+        contact.nickname = remoteName(store.read(usersSection, QLatin1String("Nn") + number, unknownName));
+        contact.workstation = remoteName(store.read(usersSection, QLatin1String("Ws") + number, unknownName));
         contact.sortKey = sortPrefix(Picture::yellow) + contact.nickname;
         add(std::move(contact));
     }

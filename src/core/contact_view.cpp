@@ -214,6 +214,14 @@ void ContactView::contextMenuEvent(QContextMenuEvent *event)
     event->accept();
 }
 
+/// Whoever comes with the keyboard acts on the row that is marked, so that row is selected.
+void ContactView::focusInEvent(QFocusEvent *event)
+{
+    QTreeView::focusInEvent(event);
+    if (selectionModel() && !selectionModel()->hasSelection() && currentIndex().isValid())
+        selectionModel()->select(currentIndex(), QItemSelectionModel::SelectCurrent | QItemSelectionModel::Rows);
+}
+
 void ContactView::paintEvent(QPaintEvent *event)
 {
     QTreeView::paintEvent(event);

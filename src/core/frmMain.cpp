@@ -10,6 +10,7 @@
 #include "core/main_window.h"
 #include "core/personalized_state_frame.h"
 #include "core/pictures.h"
+#include "core/state_chooser.h"
 #include "core/twips.h"
 
 #include <QApplication>
@@ -31,10 +32,11 @@ namespace
 
 using form_layout::margin;
 using form_layout::spacing;
-constexpr int rowHeight = 26;
+constexpr int highestRow = 26;
 constexpr int conferenceSlots = 5;
 /// Above the rows of the contact list: the own-state chooser, a gap, the tabs.
-constexpr int roomAboveRows = 2 * rowHeight + spacing;
+constexpr int roomAboveRows = 2 * highestRow + spacing;
+constexpr double smallestFont = 6; ///< points
 constexpr int narrowInnerWidth = pixels(main_layout::widthWithoutLog) - 2 * margin;
 
 QLabel *panel(QWidget *bar, const char *name)
@@ -52,6 +54,8 @@ frmMain::frmMain(const Log &log) : m_outtextWidget(log.widget), m_outtext(log.te
     setWindowTitle(QStringLiteral("NIMB-Chat 1.2"));
     setWindowIcon(programIcon());
     setMinimumHeight(pixels(main_layout::lowestHeight));
+    // The width is fixed, so there is nothing to maximise.
+    setWindowFlag(Qt::WindowMaximizeButtonHint, false);
     buildControls();
     resize(pixels(main_layout::widthWithLog), pixels(m_place.height));
 }
@@ -71,6 +75,39 @@ void frmMain::buildControls()
     clearbtn = named(new QPushButton(namedPicture(QStringLiteral("clear")), tr("Clear"), area), "clearbtn");
     buildStatusBar();
     orderControls();
+    fitFonts();
+}
+
+/// The prescribed width leaves no room for a large desktop font in the rows of controls. They take the largest size
+/// that fits; the list and the logs keep the desktop's.
+void frmMain::fitFonts()
+{
+    const auto fits = [this] {
+        const int row = RescanBtn->sizeHint().width() + buzzmute->sizeHint().width() + ListDetails->sizeHint().width();
+        const int replyRow = AutoReplyOn->sizeHint().width() + Autoreplybtn->sizeHint().width();
+        const bool wide = qMax(row + 2 * spacing, replyRow + spacing) > narrowInnerWidth
+            || TabStrip1->sizeHint().width() > narrowInnerWidth;
+        return !wide && RescanBtn->fontMetrics().height() + 4 <= highestRow;
+    };
+    QFont font = this->font();
+    for (;;) {
+        for (QWidget *const control : std::initializer_list<QWidget *>{
+                 ImageCombo1, TabStrip1, RescanBtn, buzzmute, ListDetails, ItemDetailstxt, AutoReplyOn, Autoreplybtn,
+                 clearbtn, menuBar(), statusBar(), m_status, m_activity, m_trouble})
+            control->setFont(font);
+        if (fits() || font.pointSizeF() <= smallestFont)
+            return;
+        font.setPointSizeF(font.pointSizeF() - 0.5);
+    }
+}
+
+void frmMain::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::FontChange && clearbtn) {
+        fitFonts();
+        Form_Resize();
+    }
 }
 
 /// The Tab key walks as the eye does: down the left side, then the log.
@@ -146,6 +183,7 @@ void frmMain::buildContacts(QWidget *parent)
     ItemDetailstxt->setAccessibleName(tr("Selected contact"));
     ItemDetailstxt->setReadOnly(true);
     ItemDetailstxt->setFrame(false);
+    ItemDetailstxt->setFocusPolicy(Qt::ClickFocus);
     QPalette ground = ItemDetailstxt->palette();
     ground.setColor(QPalette::Base, Qt::transparent);
     ItemDetailstxt->setPalette(ground);
@@ -153,7 +191,7 @@ void frmMain::buildContacts(QWidget *parent)
 
 void frmMain::buildOwnState(QWidget *parent)
 {
-    ImageCombo1 = named(new QComboBox(parent), "ImageCombo1");
+    ImageCombo1 = named(new StateChooser(parent), "ImageCombo1");
     ImageCombo1->setAccessibleName(tr("Own state"));
     ImageCombo1->setMaxVisibleItems(13);
     m_personalizedState = new PersonalizedStateFrame(parent);
@@ -177,6 +215,9 @@ void frmMain::buildStatusBar()
     bar->addWidget(m_status);
     bar->addWidget(m_activity, 1);
     bar->addPermanentWidget(m_trouble);
+    bar->setAttribute(Qt::WA_Hover);
+    for (QLabel *const label : {m_status, m_activity, m_trouble})
+        label->setMouseTracking(true);
     bar->installEventFilter(this);
 }
 
@@ -220,7 +261,8 @@ void frmMain::connectOwnState()
 {
     connect(ImageCombo1, &QComboBox::activated, this, &frmMain::ImageCombo1_Click);
     connect(m_personalizedState, &PersonalizedStateFrame::chosen, this, &frmMain::personalizedStateChosen);
-    connect(m_personalizedState, &PersonalizedStateFrame::cancelled, this, &frmMain::personalizedStateCancelled);
+    connect(m_personalizedState, &PersonalizedStateFrame::cancelled, this,
+            [this] { m_engine->ownState.cancelPersonalized(); });
     connect(AutoReplyOn, &QCheckBox::clicked, this, [this](bool on) { m_engine->ownState.setAutoReply(on); });
     connect(Autoreplybtn, &QPushButton::clicked, m_autoReply, &AutoreplyFrame::edit);
     connect(m_autoReply, &AutoreplyFrame::closed, this, &frmMain::autoReplyClosed);
@@ -292,7 +334,7 @@ void frmMain::resizeEvent(QResizeEvent *event)
 /// kept, or it would drift with every run.
 void frmMain::noteGeometry()
 {
-    if (!isVisible() || isMinimized())
+    if (!isVisible() || windowState() & (Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen))
         return;
     const auto note = [](double &kept, int now) {
         if (pixels(kept) != now)
@@ -312,16 +354,27 @@ void frmMain::setPlace(const WindowPlace &place)
     moveOntoScreen();
 }
 
+/// A window whose title cannot be reached with the mouse is moved onto the first screen, and no window is higher than
+/// its screen.
 void frmMain::moveOntoScreen()
 {
-    const QRect frame(pos(), size());
-    for (const QScreen *screen : QGuiApplication::screens()) {
-        if (screen->availableGeometry().contains(frame.center()))
-            return;
+    constexpr QSize reachableTitle(100, 24);
+    const QRect title(pos(), QSize(width(), reachableTitle.height()));
+    const QScreen *home = nullptr;
+    for (const QScreen *const screen : QGuiApplication::screens()) {
+        const QRect seen = title & screen->availableGeometry();
+        if (seen.width() >= reachableTitle.width() && seen.height() >= reachableTitle.height())
+            home = screen;
     }
-    const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
-    const int left = qBound(available.left(), frame.left(), qMax(available.left(), available.right() - frame.width()));
-    const int top = qBound(available.top(), frame.top(), qMax(available.top(), available.bottom() - frame.height()));
+    const QRect available = (home ? home : QGuiApplication::primaryScreen())->availableGeometry();
+    if (height() > available.height()) {
+        resize(width(), available.height());
+        m_place.height = twips(height());
+    }
+    if (home)
+        return;
+    const int left = qBound(available.left(), x(), qMax(available.left(), available.right() + 1 - width()));
+    const int top = qBound(available.top(), y(), qMax(available.top(), available.bottom() + 1 - height()));
     move(left, top);
     m_place.left = twips(left);
     m_place.top = twips(top);
@@ -342,8 +395,8 @@ void frmMain::Form_Resize()
     const int listHeight = pixels(main_layout::listHeight(windowHeight));
 
     ListView1->setGeometry(margin, margin, narrowInnerWidth, listHeight);
-    ImageCombo1->setGeometry(margin, margin, narrowInnerWidth, rowHeight);
-    TabStrip1->setGeometry(margin, margin + rowHeight + spacing, narrowInnerWidth, rowHeight);
+    ImageCombo1->setGeometry(margin, margin, narrowInnerWidth, highestRow);
+    TabStrip1->setGeometry(margin, margin + highestRow + spacing, narrowInnerWidth, highestRow);
     placeBottomRows();
     placePanels();
 
@@ -351,26 +404,36 @@ void frmMain::Form_Resize()
     const int logWidth = pixels(main_layout::widthWithLog) - logLeft - margin;
     m_outtextWidget.setGeometry(logLeft, 0, logWidth, pixels(main_layout::logHeight(windowHeight)));
     const QSize button = clearbtn->sizeHint();
-    clearbtn->setGeometry(logLeft + logWidth - button.width(), RescanBtn->y(), button.width(), rowHeight);
+    clearbtn->setGeometry(logLeft + logWidth - button.width(), RescanBtn->y(), button.width(), bottomRowHeight());
     m_outtextWidget.setVisible(logShown);
     clearbtn->setVisible(logShown);
+}
+
+/// Two rows share what the prescribed place of the first one leaves above the status bar.
+int frmMain::bottomRowHeight() const
+{
+    const int room
+        = height() - menuBar()->height() - statusBar()->height() - pixels(main_layout::rescanTop(twips(height())));
+    return qMin(highestRow, (room - spacing / 2) / 2);
 }
 
 void frmMain::placeBottomRows()
 {
     const double windowHeight = twips(height());
     const int top = pixels(main_layout::rescanTop(windowHeight));
+    const int rowHeight = bottomRowHeight();
     const int right = margin + narrowInnerWidth;
     RescanBtn->setGeometry(margin, top, RescanBtn->sizeHint().width(), rowHeight);
-    const int checkHeight = buzzmute->sizeHint().height();
     const int checkTop = pixels(main_layout::buzzmuteTop(windowHeight));
+    const int checkHeight = rowHeight - 2 * (checkTop - top);
     const int detailsWidth = ListDetails->sizeHint().width();
     ListDetails->setGeometry(right - detailsWidth, checkTop, detailsWidth, checkHeight);
     const int muteWidth = buzzmute->sizeHint().width();
     const int gap = ListDetails->x() - RescanBtn->geometry().right() - 1 - muteWidth;
     buzzmute->setGeometry(RescanBtn->geometry().right() + 1 + gap / 2, checkTop, muteWidth, checkHeight);
 
-    const int second = top + rowHeight + spacing;
+    const int room = height() - menuBar()->height() - statusBar()->height() - top;
+    const int second = top + qMin(rowHeight + spacing, room - rowHeight);
     const int replyWidth = Autoreplybtn->sizeHint().width();
     ItemDetailstxt->setGeometry(margin, second, narrowInnerWidth, rowHeight);
     AutoReplyOn->setGeometry(margin, second, narrowInnerWidth - replyWidth - spacing, rowHeight);
@@ -381,7 +444,7 @@ void frmMain::placeBottomRows()
 /// controls that open it.
 void frmMain::placePanels()
 {
-    const int belowChooser = margin + rowHeight + 2;
+    const int belowChooser = margin + highestRow + 2;
     m_personalizedState->setGeometry(margin, belowChooser, narrowInnerWidth, m_personalizedState->sizeHint().height());
     constexpr int replyHeight = 130;
     m_autoReply->setGeometry(margin, ListView1->geometry().bottom() + 1 - replyHeight, narrowInnerWidth, replyHeight);
@@ -389,7 +452,8 @@ void frmMain::placePanels()
 
 bool frmMain::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == statusBar() && event->type() == QEvent::ToolTip && m_engine)
+    const bool pointed = event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverMove;
+    if (watched == statusBar() && pointed && m_engine)
         statusBar()->setToolTip(m_engine->statusNotes());
     return QMainWindow::eventFilter(watched, event);
 }
@@ -420,6 +484,9 @@ void frmMain::mnuPopUp_Show(const QPoint &position)
 void frmMain::refreshContextMenu()
 {
     const ContactMenuCaptions captions = m_engine->commands.captions(selectedContact());
+    const bool selected = !selectedContact().isEmpty();
+    menuEntry("mnuPrivateChat")->setEnabled(selected);
+    menuEntry("mnuRemoveUser")->setEnabled(selected);
     menuEntry("mnuPrivateChat")->setText(captions.mnuPrivateChat);
     menuEntry("mnuBuzzUser")->setText(captions.mnuBuzzUser);
     menuEntry("mnuRemoveUser")->setText(captions.mnuRemoveUser);
@@ -479,13 +546,10 @@ void frmMain::addOwnState(const OwnStateEntry &entry)
 void frmMain::selectOwnState(int position)
 {
     ImageCombo1->setCurrentIndex(position - 1);
-    m_chosenState = position - 1;
 }
 
 void frmMain::ImageCombo1_Click(int index)
 {
-    if (ImageCombo1->itemData(index).toString() != QLatin1String("_personalized"))
-        m_chosenState = index;
     m_engine->ownState.choose(index + 1);
 }
 
@@ -495,12 +559,6 @@ void frmMain::personalizedStateChosen(Picture base, const QString &text)
         m_personalizedState->clearText();
     else
         m_personalizedState->focusText();
-}
-
-void frmMain::personalizedStateCancelled()
-{
-    selectOwnState(m_chosenState + 1);
-    setPersonalizedStateVisible(false);
 }
 
 void frmMain::setPersonalizedStateVisible(bool visible)

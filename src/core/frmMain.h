@@ -86,6 +86,7 @@ protected:
     void closeEvent(QCloseEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -96,11 +97,13 @@ private:
     void buildContacts(QWidget *parent);
     void buildStatusBar();
     void orderControls();
+    void fitFonts();
     void connectContacts();
     void connectOwnState();
     QAction *menuEntry(const char *name) const;
 
     void Form_Resize();
+    int bottomRowHeight() const;
     void placeBottomRows();
     void placePanels();
     void noteGeometry();
@@ -117,7 +120,6 @@ private:
     void clearbtn_Click();
     void ImageCombo1_Click(int index);
     void personalizedStateChosen(Picture base, const QString &text);
-    void personalizedStateCancelled();
     void autoReplyClosed();
     void showItemDetails();
 
@@ -125,7 +127,6 @@ private:
     std::function<void()> m_ended;
     QString m_caption;
     WindowPlace m_place;
-    int m_chosenState = 0;
 
     QWidget &m_outtextWidget;
     RichTextLog &m_outtext;

@@ -20,8 +20,8 @@ constexpr qsizetype shownTextLength = 8000;
 constexpr int logLines = 50000;
 /// Lines dropped at a time from a full log: dropping one by one lays the document out anew for each line.
 constexpr int logLinesDropped = 1000;
-/// Contact rows that strangers can cause: a subnet of 65,000 forged addresses must not fill the list.
-constexpr qsizetype contactsFromStrangers = 10000;
+/// Contact rows up to which strangers are added: a subnet of 65,000 forged addresses must not fill the list.
+constexpr int contactsFromStrangers = 10000;
 /// Rows that wait in the notification window.
 constexpr qsizetype notifications = 100;
 /// Contacts asked in one turn of the event loop during an announcement, so that their answers are read between.

@@ -1,5 +1,6 @@
 #include "core/main_window.h"
 
+#include "core/remote_text.h"
 #include "core/settings.h"
 
 namespace nimb
@@ -14,68 +15,71 @@ void MainWindow::Form_Load()
 {
     QStringList notices;
     loadSettings(notices);
-    m.log.banner();
-    if (const std::optional<QString> problem = m.store.problem())
-        m.log.fault(*problem);
+    m_parts.log.banner();
+    if (const std::optional<QString> problem = m_parts.store.problem())
+        m_parts.log.fault(*problem);
     for (const QString &notice : std::as_const(notices))
-        m.log.fault(notice);
-    m.port.report();
-    m.contacts.load(m.store);
-    m.announcement.run();
-    m.tray.AddIcon(QStringLiteral("NIMB-Chat"));
+        m_parts.log.fault(notice);
+    m_parts.port.report();
+    m_parts.contacts.load(m_parts.store);
+    m_parts.announcement.run();
+    m_parts.tray.AddIcon(QStringLiteral("NIMB-Chat"));
 }
 
 void MainWindow::loadSettings(QStringList &notices)
 {
-    const LoadedSettings loaded = nimb::loadSettings(m.store, m.common);
+    const LoadedSettings loaded = nimb::loadSettings(m_parts.store, m_parts.common);
     notices = loaded.notices;
-    m.view.setPlace(m.common.mainPlace);
-    m.view.setCaption(mainCaption(m.common.ownNickname));
-    for (const QString &value : m.ownState.load(loaded.personalizedStates))
-        notices.append(
-            tr("The stored personalized state \"%1\" begins with no picture digit and is left out.").arg(value));
-    m.port.open();
+    m_parts.view.setPlace(m_parts.common.mainPlace);
+    m_parts.view.setCaption(mainCaption(m_parts.common.ownNickname));
+    for (const QString &value : m_parts.ownState.load(loaded.personalizedStates))
+        notices.append(tr("The stored personalized state \"%1\" begins with no picture digit and is left out, and gone "
+                          "for good once NIMB-Chat ends.")
+                           .arg(remoteLine(value)));
+    m_parts.port.open();
 }
 
 CloseDecision MainWindow::Form_QueryUnload(UnloadMode mode) const
 {
-    if (mode != UnloadMode::closeBox || m.common.options.CloseButtonDoesMinimize != 1)
+    if (mode != UnloadMode::closeBox || m_parts.common.options.CloseButtonDoesMinimize != 1)
         return CloseDecision::unload;
-    return m.tray.isShown() ? CloseDecision::hide : CloseDecision::minimise;
+    return m_parts.tray.isShown() ? CloseDecision::hide : CloseDecision::minimise;
 }
 
 void MainWindow::Form_Unload()
 {
-    m.windows.unloadConferences();
-    m.windows.unloadPrivateWindows();
-    m.windows.unloadNotify();
-    m.windows.unloadInvitations();
-    m.windows.unloadTipOfTheDay();
+    // Who is leaving answers nobody, however long the end takes.
+    m_parts.socket.DataArrival = nullptr;
+    m_parts.windows.unloadConferences();
+    m_parts.windows.unloadPrivateWindows();
+    m_parts.windows.unloadNotify();
+    m_parts.windows.unloadInvitations();
+    m_parts.windows.unloadTipOfTheDay();
     sayFarewellAndSaveContacts();
     save();
-    m.tray.removeIcon();
+    m_parts.tray.removeIcon();
 }
 
 void MainWindow::sayFarewellAndSaveContacts()
 {
     int saved = 0;
-    for (int row = 0; row < m.contacts.rowCount(); ++row) {
-        const Contact &contact = m.contacts.at(row);
+    for (int row = 0; row < m_parts.contacts.rowCount(); ++row) {
+        const Contact &contact = m_parts.contacts.at(row);
         // This address would end the stored list, and whatever stands behind it would be lost.
         if (contact.ip == endOfStoredContacts)
             continue;
-        m.sender.farewell(contact.ip);
-        ContactList::saveContact(m.store, ++saved, contact);
+        m_parts.sender.farewell(contact.ip);
+        ContactList::saveContact(m_parts.store, ++saved, contact);
     }
-    ContactList::saveEnd(m.store, saved);
+    ContactList::saveEnd(m_parts.store, saved);
 }
 
 void MainWindow::save()
 {
-    m.common.mainPlace = m.view.place();
-    saveSettings(m.store, m.common, m.ownState.storedValues());
-    if (const std::optional<QString> problem = m.store.save())
-        m.prompts.tell(*problem, QStringLiteral("NIMB-Chat"));
+    m_parts.common.mainPlace = m_parts.view.place();
+    saveSettings(m_parts.store, m_parts.common, m_parts.ownState.storedValues());
+    if (const std::optional<QString> problem = m_parts.store.save())
+        m_parts.prompts.tell(*problem, QStringLiteral("NIMB-Chat"));
 }
 
 } // namespace nimb

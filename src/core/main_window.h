@@ -27,6 +27,7 @@ public:
     struct Parts {
         Common &common;
         SettingsStore &store;
+        Winsock &socket;
         ContactList &contacts;
         OwnState &ownState;
         PresenceSender &sender;
@@ -39,7 +40,7 @@ public:
         MainWindowView &view;
     };
 
-    explicit MainWindow(const Parts &parts) : m(parts) { }
+    explicit MainWindow(const Parts &parts) : m_parts(parts) { }
 
     void Form_Load();
     /// Whether the window is to be unloaded, or what else happens to it.
@@ -52,7 +53,7 @@ private:
     void sayFarewellAndSaveContacts();
     void save();
 
-    Parts m;
+    Parts m_parts;
 };
 
 } // namespace nimb

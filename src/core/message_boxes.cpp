@@ -1,30 +1,34 @@
 #include "core/message_boxes.h"
 
-#include <QMessageBox>
-
 #include <cstdio>
 
 namespace nimb
 {
-namespace
-{
 
-int show(QMessageBox::Icon icon, QMessageBox::StandardButtons buttons, const QString &text, const QString &title,
-         QWidget *parent)
+int MessageBoxes::show(QMessageBox::Icon icon, QMessageBox::StandardButtons buttons, const QString &text,
+                       const QString &title)
 {
-    QMessageBox box(icon, title, {}, buttons, parent);
+    QMessageBox box(icon, title, {}, buttons, m_window);
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
-    return box.exec();
+    m_open.push_back(&box);
+    const int answer = box.exec();
+    m_open.pop_back();
+    return answer;
 }
 
-} // namespace
+void MessageBoxes::setUnattended()
+{
+    m_unattended = true;
+    for (QMessageBox *const box : m_open)
+        box->reject();
+}
 
 bool MessageBoxes::confirm(const QString &text, const QString &title)
 {
     if (m_unattended)
         return false;
-    return show(QMessageBox::Question, QMessageBox::Ok | QMessageBox::Cancel, text, title, m_window) == QMessageBox::Ok;
+    return show(QMessageBox::Question, QMessageBox::Ok | QMessageBox::Cancel, text, title) == QMessageBox::Ok;
 }
 
 void MessageBoxes::tell(const QString &text, const QString &title)
@@ -32,7 +36,7 @@ void MessageBoxes::tell(const QString &text, const QString &title)
     if (m_unattended)
         std::fprintf(stderr, "%s: %s\n", qUtf8Printable(title), qUtf8Printable(text));
     else
-        show(QMessageBox::Warning, QMessageBox::Ok, text, title, m_window);
+        show(QMessageBox::Warning, QMessageBox::Ok, text, title);
 }
 
 } // namespace nimb

@@ -3,8 +3,10 @@
 
 #include "core/prompts.h"
 
+#include <QMessageBox>
 #include <QPointer>
-#include <QWidget>
+
+#include <vector>
 
 namespace nimb
 {
@@ -14,14 +16,18 @@ class MessageBoxes : public Prompts
 public:
     /// The boxes belong to this window from now on.
     void setParentWindow(QWidget *window) { m_window = window; }
-    /// Nobody is there to answer: questions are answered with Cancel, and what is told goes to standard error.
-    void setUnattended() { m_unattended = true; }
+    /// Nobody is there to answer: boxes that are open close as if cancelled, later questions are answered with Cancel,
+    /// and what is told goes to standard error.
+    void setUnattended();
 
     bool confirm(const QString &text, const QString &title) override;
     void tell(const QString &text, const QString &title) override;
 
 private:
+    int show(QMessageBox::Icon icon, QMessageBox::StandardButtons buttons, const QString &text, const QString &title);
+
     QPointer<QWidget> m_window;
+    std::vector<QMessageBox *> m_open; ///< the innermost last
     bool m_unattended = false;
 };
 

@@ -82,31 +82,28 @@ void OwnState::choose(int position)
     const OwnStateEntry entry = m_entries[static_cast<std::size_t>(position - 1)];
     const Picture picture = entry.picture.value_or(Picture::yellow);
 
-    m_view.setPersonalizedStateVisible(picture == Picture::yellow || picture == Picture::red);
-    switch (picture) {
-    case Picture::green:
+    const bool asksForText = picture == Picture::yellow || picture == Picture::red;
+    m_view.setPersonalizedStateVisible(asksForText);
+    if (asksForText)
+        return m_view.setAutoReply({});
+    m_chosen = position;
+    if (picture == Picture::green)
         setState(QStringLiteral("ONLINE"), entry.personalizedText, wasInvisible);
-        m_view.setAutoReply({});
-        break;
-    case Picture::busy:
+    else if (picture == Picture::busy)
         setState(QStringLiteral("BUSY"), entry.personalizedText, wasInvisible);
-        showAutoReply(m_common.autoReply.onBusy, m_common.autoReply.busyText, tr("AutoReply text (when Busy)"));
-        break;
-    case Picture::away:
+    else if (picture == Picture::away)
         setState(QStringLiteral("AWAY"), entry.personalizedText, wasInvisible);
-        showAutoReply(m_common.autoReply.onAway, m_common.autoReply.awayText, tr("AutoReply text (when Away)"));
-        break;
-    case Picture::invisible:
-        if (!wasInvisible)
-            goInvisible();
-        m_view.setAutoReply({});
-        break;
-    case Picture::yellow:
-    case Picture::red:
-        m_view.setAutoReply({});
-        break;
-    }
+    else if (!wasInvisible)
+        goInvisible();
+    showAutoReply();
     showRescanHint();
+}
+
+void OwnState::cancelPersonalized()
+{
+    m_view.setPersonalizedStateVisible(false);
+    m_view.selectOwnState(m_chosen);
+    showAutoReply();
 }
 
 void OwnState::setState(const QString &word, const QString &text, bool wasInvisible)
@@ -140,9 +137,15 @@ void OwnState::tellPresentContacts(void (PresenceSender::*tell)(const QString &)
     }
 }
 
-void OwnState::showAutoReply(bool on, const QString &text, const QString &caption)
+void OwnState::showAutoReply()
 {
-    m_view.setAutoReply(AutoReplyPanel{on, text, caption});
+    const AutoReply &reply = m_common.autoReply;
+    if (m_common.ownState == QLatin1String("BUSY"))
+        m_view.setAutoReply(AutoReplyPanel{reply.onBusy, reply.busyText, tr("AutoReply text (when Busy)")});
+    else if (m_common.ownState == QLatin1String("AWAY"))
+        m_view.setAutoReply(AutoReplyPanel{reply.onAway, reply.awayText, tr("AutoReply text (when Away)")});
+    else
+        m_view.setAutoReply({});
 }
 
 void OwnState::showRescanHint()

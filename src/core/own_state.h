@@ -32,6 +32,8 @@ public:
 
     /// The user chose an entry; position counted from 1. A position that does not exist does nothing.
     void choose(int position);
+    /// The user gave up adding a personalised state: everything shows the present state again.
+    void cancelPersonalized();
     /// Adds a personalised state on one of the base states green, busy and away, and chooses it. An empty text adds
     /// nothing. True when it was added.
     bool addPersonalized(Picture base, const QString &text);
@@ -49,7 +51,8 @@ private:
     void append(OwnStateEntry entry);
     void setState(const QString &word, const QString &text, bool wasInvisible);
     void goInvisible();
-    void showAutoReply(bool on, const QString &text, const QString &caption);
+    /// The automatic-reply controls as they belong to the own state.
+    void showAutoReply();
     void showRescanHint();
     /// Calls the sender for every contact known to be present.
     void tellPresentContacts(void (PresenceSender::*tell)(const QString &) const);
@@ -61,6 +64,7 @@ private:
     MainLog &m_log;
     OwnStateView &m_view;
     std::vector<OwnStateEntry> m_entries;
+    int m_chosen = 1; ///< position of the entry that is the own state
 };
 
 } // namespace nimb

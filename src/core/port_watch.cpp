@@ -24,10 +24,28 @@ void PortWatch::report()
 {
     if (m_socket.isBound())
         return;
-    m_log.fault(tr("Port %1 is used by another program, so nobody can reach you. Close that program: NIMB-Chat tries "
-                   "again every 5 seconds.")
-                    .arg(m_common.udpPort));
-    m_view.setTroublePanel(tr("Port %1 is taken").arg(m_common.udpPort));
+    m_log.fault(fault().arg(m_common.udpPort));
+    const bool taken = m_socket.bindFailure() == BindFailure::portTaken;
+    m_view.setTroublePanel((taken ? tr("Port %1 is taken") : tr("No port %1")).arg(m_common.udpPort));
+}
+
+QString PortWatch::fault() const
+{
+    switch (m_socket.bindFailure()) {
+    case BindFailure::addressNotHere:
+        return tr("This machine does not have the address that NIMB-Chat was told to use, so nobody can reach you on "
+                  "port %1. Correct NIMBCHAT_ADDRESS, or connect the network: NIMB-Chat tries again every 5 seconds.");
+    case BindFailure::notAllowed:
+        return tr("The system does not let NIMB-Chat use port %1, so nobody can reach you. Choose a port above 1023.");
+    case BindFailure::other:
+        return tr("The network cannot be used on port %1, so nobody can reach you. NIMB-Chat tries again every 5 "
+                  "seconds.");
+    case BindFailure::portTaken:
+    case BindFailure::none:
+        break;
+    }
+    return tr("Port %1 is used by another program, so nobody can reach you. Close that program: NIMB-Chat tries again "
+              "every 5 seconds.");
 }
 
 void PortWatch::tryAgain()

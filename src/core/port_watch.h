@@ -26,6 +26,8 @@ public:
     void report();
 
 private:
+    /// The sentence for the log; the place marker stands for the port.
+    QString fault() const;
     void tryAgain();
 
     Winsock &m_socket;

@@ -45,10 +45,10 @@ Presence::Presence(const Common &common, ContactList &contacts, PresenceSender &
 void Presence::strangerSeen(const QString &ip, const PeerIdentity &peer, bool online)
 {
     if (ip == m_common.ownIP || ip == QLatin1String("127.0.0.1"))
-        return;
+        return m_drops.count(Drop::stranger);
     if (!isUnicastAddress(ip))
         return m_drops.count(Drop::badAddress);
-    if (m_strangersAdded >= limits::contactsFromStrangers)
+    if (m_contacts.rowCount() >= limits::contactsFromStrangers)
         return m_drops.count(Drop::tooManyContacts);
     Contact contact;
     contact.ip = ip;
@@ -56,7 +56,6 @@ void Presence::strangerSeen(const QString &ip, const PeerIdentity &peer, bool on
     contact.workstation = nameOrUnknown(peer.host);
     contact.setPresence(online ? Picture::green : Picture::red);
     m_contacts.add(std::move(contact));
-    ++m_strangersAdded;
 }
 
 void Presence::cameOnline(const QString &ip, const std::optional<PeerIdentity> &peer, bool asks)

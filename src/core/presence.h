@@ -45,7 +45,6 @@ private:
     Notifications &m_notifications;
     const WallClock &m_clock;
     DropCounts &m_drops;
-    qsizetype m_strangersAdded = 0;
 };
 
 } // namespace nimb

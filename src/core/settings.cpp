@@ -1,6 +1,7 @@
 #include "core/settings.h"
 
 #include "core/limits.h"
+#include "core/remote_text.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -71,7 +72,7 @@ private:
         const QString fallback = QLatin1String(settingKey(QLatin1String(key)).defaultValue);
         m_notices.append(
             QCoreApplication::translate("Settings", "The stored setting %1 cannot be \"%2\"; %3 is used instead.")
-                .arg(QLatin1String(key), stored.left(40), fallback));
+                .arg(QLatin1String(key), remoteLine(stored.left(40)), fallback));
         return static_cast<Number>(fallback.toDouble());
     }
 

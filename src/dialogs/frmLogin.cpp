@@ -72,7 +72,9 @@ void frmLogin::CmdOK_Click()
 {
     if (const std::optional<QString> problem = m_login.CmdOK_Click(txtUserName->text()))
         m_prompts.tell(*problem, windowTitle());
-    accept();
+    // The program may have been ended while the user was being told.
+    if (isVisible())
+        accept();
 }
 
 } // namespace nimb

@@ -83,18 +83,16 @@ std::optional<std::uint32_t> lostCount(msghdr &message)
 
 } // namespace
 
-std::optional<DatagramSocket> DatagramSocket::open(Ipv4Endpoint local, Sharing sharing)
+std::optional<DatagramSocket> DatagramSocket::open(Ipv4Endpoint local, Sharing sharing, int &error)
 {
-    const int descriptor = ::socket(AF_INET, SOCK_DGRAM, 0);
-    if (descriptor == noDescriptor)
+    DatagramSocket socket(::socket(AF_INET, SOCK_DGRAM, 0)); // closes it on every way out
+    const int descriptor = socket.descriptor();
+    const bool usable = descriptor != noDescriptor && neverBlocksNorInherits(descriptor)
+        && (sharing != Sharing::shared || switchOn(descriptor, SO_REUSEADDR)) && bindTo(descriptor, local);
+    if (!usable) {
+        error = errno;
         return std::nullopt;
-    DatagramSocket socket(descriptor); // closes it on every way out
-    if (!neverBlocksNorInherits(descriptor))
-        return std::nullopt;
-    if (sharing == Sharing::shared && !switchOn(descriptor, SO_REUSEADDR))
-        return std::nullopt;
-    if (!bindTo(descriptor, local))
-        return std::nullopt;
+    }
     // Without these two the socket still serves: broadcasts stay unsent, losses uncounted.
     switchOn(descriptor, SO_BROADCAST);
 #ifdef SO_RXQ_OVFL
@@ -178,7 +176,8 @@ DatagramSocket::Arrival DatagramSocket::receive(Buffer &buffer)
 
 std::optional<std::uint32_t> sourceAddressTowards(Ipv4Endpoint destination)
 {
-    const std::optional<DatagramSocket> socket = DatagramSocket::open({}, DatagramSocket::Sharing::exclusive);
+    int error = 0;
+    const std::optional<DatagramSocket> socket = DatagramSocket::open({}, DatagramSocket::Sharing::exclusive, error);
     if (!socket)
         return std::nullopt;
     const sockaddr_in address = toSystem(destination);

@@ -36,8 +36,8 @@ public:
     /// The largest datagram that IPv4 can carry fits in.
     using Buffer = std::array<char, 65536>;
 
-    /// Empty when the address and port are taken or may not be used.
-    static std::optional<DatagramSocket> open(Ipv4Endpoint local, Sharing sharing);
+    /// Empty when the address and port are taken or may not be used; the system's error number is then in `error`.
+    static std::optional<DatagramSocket> open(Ipv4Endpoint local, Sharing sharing, int &error);
 
     DatagramSocket(DatagramSocket &&other) noexcept;
     DatagramSocket &operator=(DatagramSocket &&other) noexcept;

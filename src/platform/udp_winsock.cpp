@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <cerrno>
+
 namespace nimb
 {
 namespace
@@ -31,6 +33,20 @@ void UdpWinsock::setRemoteHost(const QString &address)
     m_remoteHost = dottedIpv4(address);
 }
 
+BindFailure UdpWinsock::bindFailureOf(int error)
+{
+    switch (error) {
+    case EADDRINUSE:
+        return BindFailure::portTaken;
+    case EADDRNOTAVAIL:
+        return BindFailure::addressNotHere;
+    case EACCES:
+        return BindFailure::notAllowed;
+    default:
+        return BindFailure::other;
+    }
+}
+
 bool UdpWinsock::bind()
 {
     if (m_own)
@@ -38,7 +54,9 @@ bool UdpWinsock::bind()
     if (m_localPort == 0)
         return false;
     const std::uint32_t address = m_fixedAddress ? dottedIpv4(*m_fixedAddress).value_or(0) : 0;
-    m_own = listen({address, m_localPort}, DatagramSocket::Sharing::exclusive, &UdpWinsock::readOwn);
+    int error = 0;
+    m_own = listen({address, m_localPort}, DatagramSocket::Sharing::exclusive, &UdpWinsock::readOwn, error);
+    m_bindFailure = m_own ? BindFailure::none : bindFailureOf(error);
     if (!m_own)
         return false;
     m_receiveBufferBytes = m_own->socket.growReceiveBuffer(receiveBufferAsked);
@@ -46,8 +64,8 @@ bool UdpWinsock::bind()
 
     // A socket that is bound to one loopback address hears no broadcast; one bound to every interface does.
     if (isLoopback(address) && address != loopbackBroadcast) {
-        m_broadcasts
-            = listen({loopbackBroadcast, m_localPort}, DatagramSocket::Sharing::shared, &UdpWinsock::readBroadcasts);
+        m_broadcasts = listen({loopbackBroadcast, m_localPort}, DatagramSocket::Sharing::shared,
+                              &UdpWinsock::readBroadcasts, error);
         if (m_broadcasts)
             m_broadcasts->socket.growReceiveBuffer(receiveBufferAsked);
     }
@@ -55,9 +73,9 @@ bool UdpWinsock::bind()
 }
 
 std::optional<UdpWinsock::Ear> UdpWinsock::listen(Ipv4Endpoint local, DatagramSocket::Sharing sharing,
-                                                  void (UdpWinsock::*arrivals)())
+                                                  void (UdpWinsock::*arrivals)(), int &error)
 {
-    std::optional<DatagramSocket> socket = DatagramSocket::open(local, sharing);
+    std::optional<DatagramSocket> socket = DatagramSocket::open(local, sharing, error);
     if (!socket)
         return std::nullopt;
     auto notifier = std::make_unique<QSocketNotifier>(socket->descriptor(), QSocketNotifier::Read);

@@ -38,6 +38,7 @@ public:
 
     bool bind() override;
     bool isBound() const override { return m_own.has_value(); }
+    BindFailure bindFailure() const override { return m_bindFailure; }
 
     void SendData(const std::string &bytes) override;
     std::string GetData(std::size_t byteCount) override;
@@ -57,7 +58,9 @@ private:
         std::unique_ptr<QSocketNotifier> notifier; // goes before its socket
     };
 
-    std::optional<Ear> listen(Ipv4Endpoint local, DatagramSocket::Sharing sharing, void (UdpWinsock::*arrivals)());
+    static BindFailure bindFailureOf(int error);
+    std::optional<Ear> listen(Ipv4Endpoint local, DatagramSocket::Sharing sharing, void (UdpWinsock::*arrivals)(),
+                              int &error);
     void readOwn() { readBatch(*m_own); }
     void readBroadcasts() { readBatch(*m_broadcasts); }
     void readBatch(Ear &ear);
@@ -77,6 +80,7 @@ private:
     std::optional<Ear> m_own;
     std::optional<Ear> m_broadcasts; ///< hears what is sent to every copy on the loopback network
     int m_receiveBufferBytes = 0;
+    BindFailure m_bindFailure = BindFailure::none;
 };
 
 } // namespace nimb

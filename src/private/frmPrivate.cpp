@@ -4,6 +4,7 @@
 #include "core/form_text.h"
 #include "core/log_font.h"
 #include "core/pictures.h"
+#include "core/window_attention.h"
 #include "private/message_input.h"
 #include "private/private_chat.h"
 #include "private/rich_text_log.h"
@@ -269,9 +270,7 @@ void frmPrivate::flash()
 {
     if (QWidget::isHidden())
         return;
-    QApplication::alert(this);
-    // From a timer of an idle program the hint would wait for the next request to the X server.
-    QGuiApplication::sync();
+    flashTaskBarButton(*this);
 }
 
 } // namespace nimb

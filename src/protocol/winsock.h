@@ -11,6 +11,15 @@
 namespace nimb
 {
 
+/// Why listening did not begin.
+enum class BindFailure {
+    none,
+    portTaken,
+    addressNotHere, ///< the address to listen on is not one of this machine
+    notAllowed,     ///< the system reserves the port
+    other,
+};
+
 /// One UDP endpoint whose local port is also the port of every peer. Sending is always two steps: set the remote
 /// host, then send. Nothing is acknowledged, and no operation reports a failure to its caller: a datagram that
 /// cannot be sent is lost as one on the wire would be, and only counted.
@@ -30,6 +39,8 @@ public:
     /// again tries again, and is free once bound.
     virtual bool bind() = 0;
     virtual bool isBound() const = 0;
+    /// Why the last bind() failed.
+    virtual BindFailure bindFailure() const = 0;
 
     /// Sends one datagram holding exactly these bytes. While the socket is not bound nothing leaves the machine.
     virtual void SendData(const std::string &bytes) = 0;

@@ -30,7 +30,7 @@ public:
     void copyLog() const;
 
 private:
-    explicit MainWindow(const Window &window) : Window(window) {}
+    explicit MainWindow(const Window &window) : Window(window) { }
 };
 
 class PrivateWindow : public Window
@@ -48,7 +48,7 @@ public:
     void sayClipboard() const;
 
 private:
-    explicit PrivateWindow(const Window &window) : Window(window) {}
+    explicit PrivateWindow(const Window &window) : Window(window) { }
 };
 
 /// What stands in a log, for whoever is at the other end of the private window: the user copies it and says it.

@@ -86,7 +86,7 @@ public:
     bool operator==(const Window &) const = default;
 
 private:
-    explicit Window(const QByteArray &id) : m_id(id) {}
+    explicit Window(const QByteArray &id) : m_id(id) { }
     QByteArray property(const char *name) const;
 
     QByteArray m_id; ///< as the X server numbers it, decimal

@@ -66,9 +66,15 @@ protected:
 // --- the nickname
 
 struct CommandLine {
+    const char *label;
     QStringList arguments;
     std::string nickname;
 };
+
+void PrintTo(const CommandLine &commandLine, std::ostream *out)
+{
+    *out << commandLine.label;
+}
 
 class NicknameOnTheCommandLine : public Lifecycle, public testing::WithParamInterface<CommandLine>
 {
@@ -89,16 +95,19 @@ TEST_P(NicknameOnTheCommandLine, StartsTheMainWindowMinimised)
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Is, NicknameOnTheCommandLine,
-    testing::Values(CommandLine{{"Bob"}, "Bob"}, //
-                    CommandLine{{"Bob", "the", "Builder"}, "Bob the Builder"},
-                    CommandLine{{"-style", "windows", "-platform", "nonsense"}, "-style windows -platform nonsense"},
-                    CommandLine{{"--help"}, "--help"},
-                    CommandLine{{"J\u00fcrgen <b>%1</b>", "[*]"}, "J\u00fcrgen <b>%1</b> [*]"}));
+    Lifecycle, NicknameOnTheCommandLine,
+    testing::Values(CommandLine{"OneWord", {"Bob"}, "Bob"},
+                    CommandLine{"SeveralWords", {"Bob", "the", "Builder"}, "Bob the Builder"},
+                    CommandLine{"WordsThatQtKnows",
+                                {"-style", "windows", "-platform", "nonsense"},
+                                "-style windows -platform nonsense"},
+                    CommandLine{"LikeAnOption", {"--help"}, "--help"},
+                    CommandLine{"OddCharacters", {"J\u00fcrgen <b>%1</b>", "[*]"}, "J\u00fcrgen <b>%1</b> [*]"}),
+    [](const auto &parameter) { return parameter.param.label; });
 
 // --- the login dialog
 
-class Login : public Lifecycle
+class LoginDialog : public Lifecycle
 {
 protected:
     Window dialog(RunningCopy &copy)
@@ -117,7 +126,7 @@ protected:
     }
 };
 
-TEST_F(Login, OffersTheHostNameAndStoresWhatIsChosen)
+TEST_F(LoginDialog, OffersTheHostNameAndStoresWhatIsChosen)
 {
     RunningCopy bob(home, withAnn());
     dialog(bob);
@@ -134,7 +143,7 @@ TEST_F(Login, OffersTheHostNameAndStoresWhatIsChosen)
     EXPECT_EQ(bob.stored("Settings", "MyNickName"), "BOB-PC");
 }
 
-TEST_F(Login, TakesATypedNickname)
+TEST_F(LoginDialog, TakesATypedNickname)
 {
     RunningCopy bob(home, withAnn({{{"Settings", "MyNickName"}, "Robert"}}));
     dialog(bob);
@@ -145,14 +154,14 @@ TEST_F(Login, TakesATypedNickname)
     EXPECT_EQ(bob.stored("Settings", "MyNickName"), "Bob the B\u00fcilder");
 }
 
-TEST_F(Login, OffersTheStoredNickname)
+TEST_F(LoginDialog, OffersTheStoredNickname)
 {
     RunningCopy bob(home, withAnn({{{"Settings", "MyNickName"}, "Robert"}}));
     dialog(bob);
     confirm("Robert");
 }
 
-TEST_F(Login, TakesTheHostNameForAnEmptyBox)
+TEST_F(LoginDialog, TakesTheHostNameForAnEmptyBox)
 {
     RunningCopy bob(home, withAnn({{{"Settings", "MyNickName"}, "Robert"}}));
     dialog(bob);
@@ -162,7 +171,7 @@ TEST_F(Login, TakesTheHostNameForAnEmptyBox)
     EXPECT_EQ(bob.stored("Settings", "MyNickName"), "BOB-PC");
 }
 
-TEST_F(Login, ClosingTheDialogEndsTheProgramBeforeAnythingIsBoundOrSaid)
+TEST_F(LoginDialog, ClosingTheDialogEndsTheProgramBeforeAnythingIsBoundOrSaid)
 {
     const Rows before = withAnn({{{"Settings", "MyNickName"}, "Robert"}});
     RunningCopy bob(home, before);
@@ -174,7 +183,7 @@ TEST_F(Login, ClosingTheDialogEndsTheProgramBeforeAnythingIsBoundOrSaid)
     EXPECT_EQ(bob.readStore(), before);
 }
 
-TEST_F(Login, EscapeEndsTheProgram)
+TEST_F(LoginDialog, EscapeEndsTheProgram)
 {
     RunningCopy bob(home, withAnn());
     dialog(bob);
@@ -183,7 +192,7 @@ TEST_F(Login, EscapeEndsTheProgram)
     EXPECT_THAT(ann.waiting(), IsEmpty());
 }
 
-TEST_F(Login, ASignalEndsTheProgramWhileTheDialogIsOpen)
+TEST_F(LoginDialog, ASignalEndsTheProgramWhileTheDialogIsOpen)
 {
     RunningCopy bob(home, withAnn());
     dialog(bob);
@@ -256,7 +265,17 @@ TEST_F(SecondStart, EndsWhileTheFirstOneIsAtItsLogin)
 
 // --- the end
 
-class EndedBySignal : public Lifecycle, public testing::WithParamInterface<int>
+struct Signal {
+    const char *label;
+    int number;
+};
+
+void PrintTo(const Signal &signal, std::ostream *out)
+{
+    *out << signal.label;
+}
+
+class EndedBySignal : public Lifecycle, public testing::WithParamInterface<Signal>
 {
 };
 
@@ -265,21 +284,22 @@ TEST_P(EndedBySignal, TellsEveryContactInListOrderAndSavesEverything)
     WirePeer zoe("127.0.33.3", port);
     WirePeer ben("127.0.33.4", port);
     WirePeer cleo("127.0.33.5", port);
-    RunningCopy bob(home, profile(port,
-                                  {{"127.0.33.5", "Cleo", "CLEO-PC"},
-                                   {"127.0.33.3", "Zoe", "ZOE-PC"},
-                                   {"127.0.33.4", "Ben", "BEN-PC"},
-                                   {"127.0.33.2", "[unknown]", "[unknown]"}},
-                                  {{{"Settings", "MainHeight"}, "7500"},
-                                   {{"Options", "LiveType"}, "0"},
-                                   {{"Settings", "AutoReplyonAwayActive"}, "-1"},
-                                   {{"Settings", "AutoReplyonawayText"}, "Gone"},
-                                   {{"Settings", "StandardFontStyle"}, "bi"},
-                                   {{"Settings", "AvatarBody"}, "a body without a head"},
-                                   {{"Settings", "PersonalizedState1"}, "4In a meeting - long"},
-                                   {{"Settings", "PersonalizedState3"}, "5Gone fishing"},
-                                   {{"Users", "IP9"}, "127.0.33.99"},
-                                   {{"Options", "TipOTDay"}, "0"}}));
+    RunningCopy bob(home,
+                    profile(port,
+                            {{"127.0.33.5", "Cleo", "CLEO-PC"},
+                             {"127.0.33.3", "Zoe", "ZOE-PC"},
+                             {"127.0.33.4", "Ben", "BEN-PC"},
+                             {"127.0.33.2", "[unknown]", "[unknown]"}},
+                            {{{"Settings", "MainHeight"}, "7500"},
+                             {{"Options", "LiveType"}, "0"},
+                             {{"Settings", "AutoReplyonAwayActive"}, "-1"},
+                             {{"Settings", "AutoReplyonawayText"}, "Gone"},
+                             {{"Settings", "StandardFontStyle"}, "bi"},
+                             {{"Settings", "AvatarBody"}, "a body without a head"},
+                             {{"Settings", "PersonalizedState1"}, "4In a meeting - long"},
+                             {{"Settings", "PersonalizedState3"}, "5Gone fishing"},
+                             {{"Users", "IP9"}, "127.0.33.99"},
+                             {{"Options", "TipOTDay"}, "0"}}));
     bob.start({"Bob"});
     for (WirePeer *peer : {&ann, &ben, &cleo, &zoe})
         peer->hearUntil("!STATUS Online");
@@ -289,7 +309,7 @@ TEST_P(EndedBySignal, TellsEveryContactInListOrderAndSavesEverything)
     ann.send("127.0.33.1", "?ONLINE 127.0.33.2 ANN-PC Ann");
     ann.hearUntil("!STATUS Online");
 
-    bob.signal(GetParam());
+    bob.signal(GetParam().number);
     EXPECT_EQ(bob.exitStatus(), 0);
     std::chrono::nanoseconds before(0);
     for (WirePeer *peer : {&ann, &zoe, &ben, &cleo}) {
@@ -346,9 +366,10 @@ TEST_P(EndedBySignal, TellsEveryContactInListOrderAndSavesEverything)
     EXPECT_EQ(bob.stored("Settings", "PersonalizedState3").value_or(""), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Term, EndedBySignal, testing::Values(SIGTERM));
-INSTANTIATE_TEST_SUITE_P(Int, EndedBySignal, testing::Values(SIGINT));
-INSTANTIATE_TEST_SUITE_P(Hup, EndedBySignal, testing::Values(SIGHUP));
+INSTANTIATE_TEST_SUITE_P(Lifecycle, EndedBySignal,
+                         testing::Values(Signal{"SIGTERM", SIGTERM}, Signal{"SIGINT", SIGINT},
+                                         Signal{"SIGHUP", SIGHUP}),
+                         [](const auto &parameter) { return parameter.param.label; });
 
 class TheEnd : public Lifecycle
 {
@@ -526,20 +547,24 @@ TEST_F(Store, ComesIntoAFolderThatIsMadeForTheUserAlone)
 
 TEST_F(Store, WithMalformedNumbersStartsAndKeepsTheDefaults)
 {
-    RunningCopy bob(home, {{{"Settings", "MainLeft"}, "far left"},
-                           {{"Settings", "MainTop"}, ""},
-                           {{"Settings", "MainHeight"}, "1e400"},
-                           {{"Settings", "UDPPort"}, "99999"},
-                           {{"Options", "ShowStatusOnPrivate"}, "70000"},
-                           {{"Options", "BuzzLocal"}, "0x1"},
-                           {{"Options", "NotifyWin"}, "yes"},
-                           {{"Options", "LiveType"}, std::string("1\0" "2", 3)},
-                           {{"Settings", "AutoReplyonBusyActive"}, "on"},
-                           {{"Settings", "StandardFontSize"}, "8 points"},
-                           {{"Settings", "PersonalizedState1"}, "xyz"},
-                           {{"Settings", "PersonalizedState2"}, "9none"},
-                           {{"Settings", "PersonalizedState3"}, "4"},
-                           {{"Users", "IP1"}, "255.255.255.255"}});
+    RunningCopy bob(home,
+                    {{{"Settings", "MainLeft"}, "far left"},
+                     {{"Settings", "MainTop"}, ""},
+                     {{"Settings", "MainHeight"}, "1e400"},
+                     {{"Settings", "UDPPort"}, "99999"},
+                     {{"Options", "ShowStatusOnPrivate"}, "70000"},
+                     {{"Options", "BuzzLocal"}, "0x1"},
+                     {{"Options", "NotifyWin"}, "yes"},
+                     {{"Options", "LiveType"},
+                      std::string("1\0"
+                                  "2",
+                                  3)},
+                     {{"Settings", "AutoReplyonBusyActive"}, "on"},
+                     {{"Settings", "StandardFontSize"}, "8 points"},
+                     {{"Settings", "PersonalizedState1"}, "xyz"},
+                     {{"Settings", "PersonalizedState2"}, "9none"},
+                     {{"Settings", "PersonalizedState3"}, "4"},
+                     {{"Users", "IP1"}, "255.255.255.255"}});
     bob.start({"Bob"});
     const MainWindow main = MainWindow::of("Bob");
     main.activate();
@@ -594,10 +619,11 @@ TEST_F(Store, ThatCannotBeDoesNotHinderTheProgram)
 
 TEST_F(Store, KeepsTheWindowWhereTheUserPutIt)
 {
-    RunningCopy bob(home, withAnn({{{"Settings", "MyNickName"}, "Bob"},
-                                   {{"Settings", "MainLeft"}, "1510"},
-                                   {{"Settings", "MainTop"}, "1205"},
-                                   {{"Settings", "MainHeight"}, "6000"}}));
+    RunningCopy bob(home,
+                    withAnn({{{"Settings", "MyNickName"}, "Bob"},
+                             {{"Settings", "MainLeft"}, "1510"},
+                             {{"Settings", "MainTop"}, "1205"},
+                             {{"Settings", "MainHeight"}, "6000"}}));
     // Untouched it stays, run after run.
     for (int run = 0; run < 2; ++run) {
         start(bob);

@@ -104,8 +104,9 @@ TEST_F(Port, HearsWhatIsSentToEverybody)
     std::vector<std::string> answers = ann.hearUntil("!STATUS Online");
     for (const std::string &more : ann.hearUntil("!STATUS Online"))
         answers.push_back(more);
-    EXPECT_THAT(answers, testing::UnorderedElementsAre("!ONLINE 127.0.35.1 BOB-PC Bob", "!STATUS Online",
-                                                       "!ONLINE 127.0.35.3 BEN-PC Ben", "!STATUS Online"));
+    EXPECT_THAT(answers,
+                testing::UnorderedElementsAre("!ONLINE 127.0.35.1 BOB-PC Bob", "!STATUS Online",
+                                              "!ONLINE 127.0.35.3 BEN-PC Ben", "!STATUS Online"));
     // Once each, though a copy listens in two places.
     ann.send("127.0.35.1", "?ONLINE");
     EXPECT_THAT(ann.hearUntil("!STATUS Online"), ElementsAre("!ONLINE 127.0.35.1 BOB-PC Bob", "!STATUS Online"));

@@ -62,9 +62,9 @@ TEST_F(StoryPresence, OnlyQuestionsOfContactsAreAnswered)
     bob.start({"Bob"});
     ann.hearUntil("!STATUS Online");
 
-    for (const char *statement :
-         {"!ONLINE 127.0.31.2 ANN-PC Ann", "!STATUS BUSY In a meeting", "!OFFLINE 127.0.31.2 ANN-PC Ann", "!TYPING", "!FOO",
-          "?FOO", "hello", "", " ", "?online 127.0.31.2 ANN-PC Ann", "+127.0.31.2 #3 hi all", "?CONF INVITE #1"})
+    for (const char *statement : {"!ONLINE 127.0.31.2 ANN-PC Ann", "!STATUS BUSY In a meeting",
+                                  "!OFFLINE 127.0.31.2 ANN-PC Ann", "!TYPING", "!FOO", "?FOO", "hello", "", " ",
+                                  "?online 127.0.31.2 ANN-PC Ann", "+127.0.31.2 #3 hi all", "?CONF INVITE #1"})
         ann.send("127.0.31.1", statement);
     ann.send("127.0.31.1", "?ONLINE 127.0.31.2 ANN-PC Ann");
     EXPECT_THAT(ann.hearUntil("!STATUS Online"), ElementsAre("!ONLINE 127.0.31.1 BOB-PC Bob", "!STATUS Online"));
@@ -88,8 +88,9 @@ TEST_F(StoryPresence, TheFirstQuestionOfAStrangerIsNotAnsweredTheSecondIs)
 
     EXPECT_EQ(bob.end(), 0);
     EXPECT_THAT(cleo.waiting(), ElementsAre("!OFFLINE 127.0.31.1 BOB-PC Bob"));
-    EXPECT_THAT(bob.storedContacts(), ElementsAre(StoredContact{"127.0.31.3", "Cleo of the Nile", "CLEO-PC"},
-                                                  StoredContact{"127.0.31.2", "Ann", "ANN-PC"}));
+    EXPECT_THAT(bob.storedContacts(),
+                ElementsAre(StoredContact{"127.0.31.3", "Cleo of the Nile", "CLEO-PC"},
+                            StoredContact{"127.0.31.2", "Ann", "ANN-PC"}));
 }
 
 TEST_F(StoryPresence, AnswersAndFarewellsOfStrangersMakeContactsToo)
@@ -133,8 +134,10 @@ TEST_F(StoryPresence, TheOwnAndTheLoopbackAddressNeverBecomeContacts)
 
 TEST_F(StoryPresence, TwoCopiesThatKnowEachOtherSeeEachOtherComeAndGo)
 {
-    RunningCopy bob({"127.0.31.1", "BOB-PC"}, profile(port, {{"127.0.31.2", "Ann", "ANN-PC"}, {"127.0.31.3", "[unknown]", "[unknown]"}}));
-    RunningCopy cleo({"127.0.31.3", "CLEO-PC"}, profile(port, {{"127.0.31.2", "Ann", "ANN-PC"}, {"127.0.31.1", "[unknown]", "[unknown]"}}));
+    RunningCopy bob({"127.0.31.1", "BOB-PC"},
+                    profile(port, {{"127.0.31.2", "Ann", "ANN-PC"}, {"127.0.31.3", "[unknown]", "[unknown]"}}));
+    RunningCopy cleo({"127.0.31.3", "CLEO-PC"},
+                     profile(port, {{"127.0.31.2", "Ann", "ANN-PC"}, {"127.0.31.1", "[unknown]", "[unknown]"}}));
     bob.start({"Bob"});
     ann.hearUntil("!STATUS Online");
     cleo.start({"Cleo"});
@@ -173,18 +176,20 @@ TEST_F(StoryPresence, WhatIsNotUnderstoodStandsInTheLogAndIsNotAnswered)
     EXPECT_EQ(ann.next(), "?AVATARHEAD");
 
     const std::string log = logHeardBy(ann, MainWindow::of("Bob"), PrivateWindow::with("Ann"));
-    EXPECT_THAT(log, HasSubstr("\r\n--- unsupported command received (!FOO 1 2) ---\r\n"
-                               "--- unsupported command received (?bar) ---\r\n"
-                               "--- garbage received  (hello there) ---\r\n"
-                               "--- garbage received  (two lines) ---"));
+    EXPECT_THAT(log,
+                HasSubstr("\r\n--- unsupported command received (!FOO 1 2) ---\r\n"
+                          "--- unsupported command received (?bar) ---\r\n"
+                          "--- garbage received  (hello there) ---\r\n"
+                          "--- garbage received  (two lines) ---"));
 }
 
 TEST_F(StoryPresence, AContactThatLeavesStandsBehindThoseWhoAreThere)
 {
     WirePeer cleo("127.0.31.3", port);
     WirePeer dave("127.0.31.4", port);
-    RunningCopy bob({"127.0.31.1", "BOB-PC"},
-                    profile(port, {{"127.0.31.2", "Ann", "A"}, {"127.0.31.3", "Cleo", "C"}, {"127.0.31.4", "Dave", "D"}}));
+    RunningCopy bob(
+        {"127.0.31.1", "BOB-PC"},
+        profile(port, {{"127.0.31.2", "Ann", "A"}, {"127.0.31.3", "Cleo", "C"}, {"127.0.31.4", "Dave", "D"}}));
     bob.start({"Bob"});
     for (WirePeer *peer : {&ann, &cleo, &dave})
         peer->hearUntil("!STATUS Online");
@@ -196,16 +201,17 @@ TEST_F(StoryPresence, AContactThatLeavesStandsBehindThoseWhoAreThere)
     PrivateWindow::with("Ann"); // all of it has arrived
 
     EXPECT_EQ(bob.end(), 0);
-    EXPECT_THAT(bob.storedContacts(), ElementsAre(StoredContact{"127.0.31.3", "Cleo", "C"},
-                                                  StoredContact{"127.0.31.4", "Dave", "D"},
-                                                  StoredContact{"127.0.31.2", "Ann", "A"}));
+    EXPECT_THAT(bob.storedContacts(),
+                ElementsAre(StoredContact{"127.0.31.3", "Cleo", "C"}, StoredContact{"127.0.31.4", "Dave", "D"},
+                            StoredContact{"127.0.31.2", "Ann", "A"}));
 }
 
 TEST_F(StoryPresence, AChosenStateIsToldToThoseWhoAreThereOnly)
 {
     WirePeer silent("127.0.31.3", port);
-    RunningCopy bob({"127.0.31.1", "BOB-PC"}, profile(port, {{"127.0.31.2", "Ann", "A"}, {"127.0.31.3", "Sly", "S"}},
-                                                     {{{"Settings", "PersonalizedState1"}, "5Gone fishing"}}));
+    RunningCopy bob({"127.0.31.1", "BOB-PC"},
+                    profile(port, {{"127.0.31.2", "Ann", "A"}, {"127.0.31.3", "Sly", "S"}},
+                            {{{"Settings", "PersonalizedState1"}, "5Gone fishing"}}));
     bob.start({"Bob"});
     ann.hearUntil("!STATUS Online");
     ann.send("127.0.31.1", "?ONLINE 127.0.31.2 A Ann");
@@ -228,8 +234,8 @@ TEST_F(StoryPresence, AChosenStateIsToldToThoseWhoAreThereOnly)
 
     EXPECT_EQ(bob.end(), 0);
     EXPECT_THAT(ann.waiting(), ElementsAre("!OFFLINE 127.0.31.1 BOB-PC Bob"));
-    EXPECT_THAT(silent.waiting(), ElementsAre("?ONLINE 127.0.31.1 BOB-PC Bob", "!STATUS Online",
-                                              "!OFFLINE 127.0.31.1 BOB-PC Bob"));
+    EXPECT_THAT(silent.waiting(),
+                ElementsAre("?ONLINE 127.0.31.1 BOB-PC Bob", "!STATUS Online", "!OFFLINE 127.0.31.1 BOB-PC Bob"));
     EXPECT_EQ(bob.stored("Settings", "PersonalizedState1"), "5Gone fishing");
 }
 

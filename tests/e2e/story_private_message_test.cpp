@@ -49,10 +49,11 @@ TEST_F(StoryPrivateMessage, AMessageOpensAWindowInWhichTheUserAnswers)
 
     window.say("Hello Ann, how are you?");
     EXPECT_EQ(ann.next(), "-Hello Ann, how are you?");
-    EXPECT_THAT(logHeardBy(ann, window, window),
-                ContainsRegex("^-\xAB NIMB-Chat \\[today:[^\n]+ - now:[0-9][0-9]:[0-9][0-9]:[0-9][0-9]\\] Ready \xBB\r\n"
-                              "Ann> hello\r\n"
-                              "Bob> Hello Ann, how are you\\?$"));
+    EXPECT_THAT(
+        logHeardBy(ann, window, window),
+        ContainsRegex("^-\xAB NIMB-Chat \\[today:[^\n]+ - now:[0-9][0-9]:[0-9][0-9]:[0-9][0-9]\\] Ready \xBB\r\n"
+                      "Ann> hello\r\n"
+                      "Bob> Hello Ann, how are you\\?$"));
 }
 
 TEST_F(StoryPrivateMessage, TwoCopiesWriteToEachOther)
@@ -141,17 +142,25 @@ TEST_F(StoryPrivateMessage, UmlautsAndEmojiTravelAsTheirBytes)
 {
     RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn());
     start(bob);
-    ann.send("127.0.32.1", "-Gr\xFC\xDF" "e f\xFCr 5 \x80"); // windows-1252
+    ann.send("127.0.32.1",
+             "-Gr\xFC\xDF"
+             "e f\xFCr 5 \x80"); // windows-1252
     const PrivateWindow window = PrivateWindow::with("Ann");
     EXPECT_EQ(ann.next(), "?AVATARHEAD");
-    EXPECT_THAT(logHeardBy(ann, window, window), EndsWith("\r\nAnn> Gr\xFC\xDF" "e f\xFCr 5 \x80"));
+    EXPECT_THAT(logHeardBy(ann, window, window),
+                EndsWith("\r\nAnn> Gr\xFC\xDF"
+                         "e f\xFCr 5 \x80"));
 
     window.say("Schöne Grüße für 5 €");
-    EXPECT_EQ(ann.next(), "-Sch\xF6ne Gr\xFC\xDF" "e f\xFCr 5 \x80");
+    EXPECT_EQ(ann.next(),
+              "-Sch\xF6ne Gr\xFC\xDF"
+              "e f\xFCr 5 \x80");
     window.say("Prima 😀");
     EXPECT_EQ(ann.next(), "-Prima \xF0\x9F\x98\x80");
     window.say("Grüße 😀");
-    EXPECT_EQ(ann.next(), "-Gr\xC3\xBC\xC3\x9F" "e \xF0\x9F\x98\x80");
+    EXPECT_EQ(ann.next(),
+              "-Gr\xC3\xBC\xC3\x9F"
+              "e \xF0\x9F\x98\x80");
 
     ann.send("127.0.32.1", "-\xF0\x9F\x98\x80 \xC3\xA4"); // UTF-8
     ann.send("127.0.32.1", "?ONLINE");
@@ -208,16 +217,29 @@ TEST_F(StoryPrivateMessage, PastingAnEmptyClipboardIsHarmless)
     EXPECT_EQ(ann.next(), "-nothing to paste");
 }
 
-/// By the option "PrivateBehaviour": how a window that a peer opens appears.
-class OpenedByAPeer : public StoryPrivateMessage, public testing::WithParamInterface<std::pair<const char *, State>>
+/// How a window that a peer opens appears.
+struct Behaviour {
+    const char *label;
+    const char *option; ///< "PrivateBehaviour"
+    State state;
+};
+
+void PrintTo(const Behaviour &behaviour, std::ostream *out)
 {
+    *out << behaviour.label;
+}
+
+class OpenedByAPeer : public StoryPrivateMessage, public testing::WithParamInterface<Behaviour>
+{
+protected:
+    const State expected = GetParam().state;
+    const Rows option = {{{"Options", "PrivateBehaviour"}, GetParam().option}};
 };
 
 TEST_P(OpenedByAPeer, DoesNotTakeTheFocusFromWhoIsTyping)
 {
-    const auto [behaviour, expected] = GetParam();
     const WirePeer ben("127.0.32.3", port);
-    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnnAndBen({{{"Options", "PrivateBehaviour"}, behaviour}}));
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnnAndBen(option));
     start(bob);
     ann.send("127.0.32.1", "-hello");
     const PrivateWindow withAnn = PrivateWindow::with("Ann");
@@ -239,8 +261,7 @@ TEST_P(OpenedByAPeer, DoesNotTakeTheFocusFromWhoIsTyping)
 
 TEST_P(OpenedByAPeer, DoesNotTakeTheFocusFromTheMainWindow)
 {
-    const auto [behaviour, expected] = GetParam();
-    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn({{{"Options", "PrivateBehaviour"}, behaviour}}));
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn(option));
     start(bob);
     const MainWindow main = MainWindow::of("Bob");
     main.activate();
@@ -263,8 +284,7 @@ TEST_P(OpenedByAPeer, DoesNotTakeTheFocusFromTheMainWindow)
 
 TEST_P(OpenedByAPeer, StaysAsTheUserHasItWhenMoreMessagesCome)
 {
-    const auto [behaviour, expected] = GetParam();
-    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn({{{"Options", "PrivateBehaviour"}, behaviour}}));
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn(option));
     start(bob);
     ann.send("127.0.32.1", "-one");
     const PrivateWindow withAnn = PrivateWindow::with("Ann");
@@ -279,8 +299,10 @@ TEST_P(OpenedByAPeer, StaysAsTheUserHasItWhenMoreMessagesCome)
     EXPECT_FALSE(withAnn.wantsAttention());
 }
 
-INSTANTIATE_TEST_SUITE_P(ByDefault, OpenedByAPeer, testing::Values(std::pair("0", State::minimised)));
-INSTANTIATE_TEST_SUITE_P(OnTop, OpenedByAPeer, testing::Values(std::pair("1", State::shown)));
+INSTANTIATE_TEST_SUITE_P(StoryPrivateMessage, OpenedByAPeer,
+                         testing::Values(Behaviour{"Minimised", "0", State::minimised},
+                                         Behaviour{"OnTop", "1", State::shown}),
+                         [](const auto &parameter) { return parameter.param.label; });
 
 TEST_F(StoryPrivateMessage, AWindowThatIsDestroyedByClosingStartsAnew)
 {
@@ -294,7 +316,8 @@ TEST_F(StoryPrivateMessage, AWindowThatIsDestroyedByClosingStartsAnew)
     ann.send("127.0.32.1", "-good news");
     EXPECT_EQ(ann.next(), "?AVATARHEAD");
     const PrivateWindow anew = PrivateWindow::with("Ann");
-    EXPECT_THAT(logHeardBy(ann, anew, anew), AllOf(EndsWith(" Ready \xBB\r\nAnn> good news"), Not(HasSubstr("old news"))));
+    EXPECT_THAT(logHeardBy(ann, anew, anew),
+                AllOf(EndsWith(" Ready \xBB\r\nAnn> good news"), Not(HasSubstr("old news"))));
 }
 
 TEST_F(StoryPrivateMessage, PresenceOfThePeerStandsInTheWindow)
@@ -314,9 +337,11 @@ TEST_F(StoryPrivateMessage, PresenceOfThePeerStandsInTheWindow)
     })) << log;
     ann.send("127.0.32.1", "!OFFLINE 127.0.32.2 ANN-PC Ann");
     ann.send("127.0.32.1", "!ONLINE 127.0.32.2 ANN-PC Ann");
-    EXPECT_TRUE(waitUntil([&] { return (log = logHeardBy(ben, window, withBen)).ends_with("] Ann is online"); })) << log;
-    EXPECT_THAT(log, ContainsRegex("\r\n\\[[^\n]+ @ [0-9][0-9]:[0-9][0-9]\\] Ann has gone offline\r\n"
-                                   "\\[[^\n]+ @ [0-9][0-9]:[0-9][0-9]\\] Ann is online$"));
+    EXPECT_TRUE(waitUntil([&] { return (log = logHeardBy(ben, window, withBen)).ends_with("] Ann is online"); }))
+        << log;
+    EXPECT_THAT(log,
+                ContainsRegex("\r\n\\[[^\n]+ @ [0-9][0-9]:[0-9][0-9]\\] Ann has gone offline\r\n"
+                              "\\[[^\n]+ @ [0-9][0-9]:[0-9][0-9]\\] Ann is online$"));
 }
 
 TEST_F(StoryPrivateMessage, ABusyUserAnswersAutomaticallyAtMostOnceASecond)
@@ -350,6 +375,11 @@ struct RemoteName {
     std::string stored;
 };
 
+void PrintTo(const RemoteName &name, std::ostream *out)
+{
+    *out << name.label;
+}
+
 class NamesOfPeers : public StoryPrivateMessage, public testing::WithParamInterface<RemoteName>
 {
 };
@@ -372,13 +402,8 @@ TEST_P(NamesOfPeers, AreShownAndStoredAsPlainText)
     EXPECT_THAT(bob.storedContacts(), ElementsAre(StoredContact{"127.0.32.2", name.stored, "ANN-PC"}));
 }
 
-std::string labelOf(const testing::TestParamInfo<RemoteName> &parameter)
-{
-    return parameter.param.label;
-}
-
 INSTANTIATE_TEST_SUITE_P(
-    ThatAre, NamesOfPeers,
+    StoryPrivateMessage, NamesOfPeers,
     testing::Values(RemoteName{"MarkUp", "<b>Ann</b> <img src=x> &amp;", "<b>Ann</b> <img src=x> &amp;"},
                     RemoteName{"PlaceHolders", "%1 %2 %n %s {0}", "%1 %2 %n %s {0}"},
                     RemoteName{"TheMarkOfChangedDocuments", "a[*]b[*][*]c", "a[*]b[*][*]c"},
@@ -387,8 +412,11 @@ INSTANTIATE_TEST_SUITE_P(
                     RemoteName{"Western", "J\xFCrgen \x80", "J\xC3\xBCrgen \xE2\x82\xAC"},
                     RemoteName{"Utf8", "\xF0\x9F\x98\x80 \xC3\xBC", "\xF0\x9F\x98\x80 \xC3\xBC"},
                     RemoteName{"Ampersands", "R&D && more", "R&D && more"},
-                    RemoteName{"RightToLeftOverrides", "a\xE2\x80\xAE" "cod.exe", "acod.exe"}),
-    labelOf);
+                    RemoteName{"RightToLeftOverrides",
+                               "a\xE2\x80\xAE"
+                               "cod.exe",
+                               "acod.exe"}),
+    [](const auto &parameter) { return parameter.param.label; });
 
 } // namespace
 } // namespace nimb::test

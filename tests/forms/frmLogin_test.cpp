@@ -67,6 +67,22 @@ TEST_F(FrmLogin, TheCloseBoxLeavesTheNicknameEmpty)
     EXPECT_EQ(store.saves, 0);
 }
 
+TEST_F(FrmLogin, EndedWhileTellingItDoesNotAccept)
+{
+    class EndingPrompts : public RecorderPrompts
+    {
+    public:
+        void tell(const QString &, const QString &) override { ended->reject(); }
+        QDialog *ended = nullptr;
+    } ending;
+    store.failure = QStringLiteral("The disk is full.");
+    frmLogin closing(login, ending);
+    ending.ended = &closing;
+    closing.open();
+    closing.findChild<QPushButton *>(QStringLiteral("CmdOK"))->click();
+    EXPECT_EQ(closing.result(), QDialog::Rejected);
+}
+
 TEST_F(FrmLogin, AFailedSaveIsToldAndTheNicknameHolds)
 {
     open();

@@ -2,6 +2,7 @@
 
 #include "core/contact_view.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -11,6 +12,7 @@
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTabBar>
+#include <QWheelEvent>
 
 namespace nimb::test
 {
@@ -174,13 +176,12 @@ TEST_F(FrmMain, TheTabKeyWalksDownTheLeftSideAndThenThroughTheLog)
 {
     windows.control("ImageCombo1").setFocus();
     std::vector<std::string> walked;
-    for (int i = 0; i < 8; ++i) {
+    for (int i = 0; i < 7; ++i) {
         QTest::keyClick(windows.main().focusWidget(), Qt::Key_Tab);
         walked.push_back(windows.main().focusWidget()->objectName().toStdString());
     }
     EXPECT_THAT(walked,
-                ElementsAre("TabStrip1", "ListView1", "RescanBtn", "buzzmute", "ListDetails", "ItemDetailstxt",
-                            "outtext", "clearbtn"));
+                ElementsAre("TabStrip1", "ListView1", "RescanBtn", "buzzmute", "ListDetails", "outtext", "clearbtn"));
 }
 
 TEST_F(FrmMain, TheEscapeKeyLeavesThePanels)
@@ -270,6 +271,8 @@ TEST_F(FrmMain, RemovingAsksAndRemoves)
 
 TEST_F(FrmMain, CommandsWithoutSelectionDoNothing)
 {
+    windows.list().clearSelection();
+    EXPECT_FALSE(windows.entry("mnuRemoveUser").isEnabled());
     windows.entry("mnuRemoveUser").trigger();
     windows.entry("mnuPrivateChat").trigger();
     EXPECT_THAT(windows.prompts.asked, IsEmpty());
@@ -303,11 +306,26 @@ TEST_F(FrmMain, ChoosingAStateTellsThePresentContacts)
     auto &chooser = windows.control<QComboBox>("ImageCombo1");
     chooser.setFocus();
     QTest::keyClick(&chooser, Qt::Key_Down);
+    EXPECT_THAT(windows.sent(), IsEmpty()) << "the closed list was stepped through";
+    QTest::keyClick(chooser.view(), Qt::Key_Down);
+    QTest::keyClick(chooser.view(), Qt::Key_Return);
     EXPECT_THAT(windows.sent(), ElementsAre(To{"10.0.0.2", "!STATUS BUSY"}, To{"10.0.0.3", "!STATUS BUSY"}));
     EXPECT_EQ(windows.control<QLabel>("StatusBar_status").text(), QStringLiteral("Status: BUSY"));
     EXPECT_TRUE(windows.control("AutoReplyOn").isVisible());
     EXPECT_TRUE(windows.control("Autoreplybtn").isVisible());
     EXPECT_FALSE(windows.control("AutoreplyFrame").isVisible());
+}
+
+TEST_F(FrmMain, TheWheelOverTheChooserChangesNothing)
+{
+    auto &chooser = windows.control<QComboBox>("ImageCombo1");
+    chooser.setFocus();
+    const QPointF place(chooser.rect().center());
+    QWheelEvent wheel(place, chooser.mapToGlobal(place), {}, QPoint(0, -120), Qt::NoButton, {}, Qt::NoScrollPhase,
+                      false);
+    QCoreApplication::sendEvent(&chooser, &wheel);
+    EXPECT_EQ(chooser.currentIndex(), 0);
+    EXPECT_THAT(windows.sent(), IsEmpty());
 }
 
 TEST_F(FrmMain, APersonalisedStateIsTypedAndChosen)
@@ -399,10 +417,17 @@ TEST_F(FrmMain, EndsOnlyOnce)
 TEST_F(FrmMain, DropsAreCountedInTheToolTipOfTheStatusBar)
 {
     windows.arrive("10.0.0.99", "-hello");
-    QHelpEvent event(QEvent::ToolTip, QPoint(2, 2), windows.main().statusBar()->mapToGlobal(QPoint(2, 2)));
-    QCoreApplication::sendEvent(windows.main().statusBar(), &event);
-    EXPECT_EQ(windows.main().statusBar()->toolTip(), windows.drops.summary());
-    EXPECT_NE(windows.drops.summary(), QString());
+    QStatusBar *const bar = windows.main().statusBar();
+    QHoverEvent enters(QEvent::HoverEnter, QPointF(2, 2), QPointF(2, 2), QPointF(-1, -1));
+    QCoreApplication::sendEvent(bar, &enters);
+    const QString first = windows.drops.summary();
+    EXPECT_NE(first, QString());
+    EXPECT_EQ(bar->toolTip(), first);
+    windows.arrive("10.0.0.99", "-hello");
+    QHoverEvent moves(QEvent::HoverMove, QPointF(3, 3), QPointF(3, 3), QPointF(2, 2));
+    QCoreApplication::sendEvent(bar, &moves);
+    EXPECT_NE(bar->toolTip(), first);
+    EXPECT_EQ(bar->toolTip(), windows.drops.summary());
 }
 
 TEST_F(FrmMain, PicturesOfAllStatesAreThere)
@@ -441,6 +466,55 @@ TEST(FrmMainPlace, APlaceOffEveryScreenIsMovedIn)
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     EXPECT_TRUE(screen.contains(windows.main().pos()));
 }
+
+TEST(FrmMainPlace, ATitleOutOfReachIsMovedIn)
+{
+    RealWindows windows({}, {{"Settings/MainTop", "-3000"}, {"Settings/MainHeight", "1000000"}});
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_GE(windows.main().y(), screen.top());
+    EXPECT_LE(windows.main().height(), screen.height());
+}
+
+TEST(FrmMainPlace, AMaximisedWindowIsSavedAsItWasBefore)
+{
+    RealWindows windows({}, {{"Settings/MainLeft", "300"}, {"Settings/MainTop", "450"}});
+    windows.main().showMaximized();
+    QCoreApplication::processEvents();
+    windows.entry("mnuFileExit").trigger();
+    EXPECT_EQ(windows.settings.value("Settings", "MainLeft"), "300");
+    EXPECT_EQ(windows.settings.value("Settings", "MainTop"), "450");
+    EXPECT_EQ(windows.settings.value("Settings", "MainHeight"), "6200");
+}
+
+class LargeFont : public testing::TestWithParam<double>
+{
+};
+
+TEST_P(LargeFont, LeavesEveryControlInItsPlace)
+{
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(GetParam());
+    QApplication::setFont(large);
+    {
+        RealWindows windows;
+        QCoreApplication::processEvents();
+        const std::vector<const char *> names
+            = {"ImageCombo1", "RescanBtn", "buzzmute", "ListDetails", "ItemDetailstxt", "clearbtn"};
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            const QRect one = windows.control(names[i]).geometry();
+            EXPECT_TRUE(windows.main().centralWidget()->rect().contains(one)) << names[i];
+            for (std::size_t j = i + 1; j < names.size(); ++j)
+                EXPECT_FALSE(one.intersects(windows.control(names[j]).geometry())) << names[i] << " and " << names[j];
+        }
+        auto &tabs = windows.control<QTabBar>("TabStrip1");
+        EXPECT_LE(tabs.tabRect(1).right(), tabs.width());
+        EXPECT_EQ(windows.list().font().pointSizeF(), GetParam());
+    }
+    QApplication::setFont(usual);
+}
+
+INSTANTIATE_TEST_SUITE_P(, LargeFont, testing::Values(9.0, 12.0, 14.0, 16.0, 20.0));
 
 TEST(FrmMainPlace, AStoredHeightBelowTheFloorIsTheFloor)
 {

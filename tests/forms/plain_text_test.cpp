@@ -100,6 +100,14 @@ TEST(PlainMessageBox, ShowsMarkupAndAnswersWithItsButtons)
     EXPECT_EQ(shown, QStringLiteral("<i>y</i>"));
 }
 
+TEST(UnattendedMessageBox, ClosesWhatIsOpenAsIfCancelled)
+{
+    MessageBoxes boxes;
+    QTimer::singleShot(0, [&boxes] { boxes.setUnattended(); });
+    EXPECT_FALSE(boxes.confirm(QStringLiteral("x"), QStringLiteral("t")));
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
 TEST(UnattendedMessageBox, NeverWaits)
 {
     MessageBoxes boxes;

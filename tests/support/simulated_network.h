@@ -67,6 +67,7 @@ public:
         return m_bound;
     }
     bool isBound() const override { return m_bound; }
+    BindFailure bindFailure() const override { return m_bound ? BindFailure::none : failure; }
     void SendData(const std::string &bytes) override
     {
         if (!m_bound)
@@ -89,6 +90,7 @@ public:
     }
 
     bool portTaken = false;
+    BindFailure failure = BindFailure::portTaken; ///< what a taken port looks like
     std::uint16_t localPort = 0;
     std::uint16_t remotePort = 0;
     std::vector<To> sent;

@@ -107,6 +107,17 @@ TEST(MainWindowUnload, ClosesThePrivateWindowsWithoutAsking)
     EXPECT_TRUE(copy.window(1).gone);
 }
 
+TEST(MainWindowUnload, WhoIsLeavingAnswersNobody)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.engine.mainWindow().Form_Unload();
+    copy.sent();
+    copy.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC Ann");
+    copy.arrive("10.0.0.2", "-hello");
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_THAT(copy.privateForms.views, IsEmpty());
+}
+
 TEST(MainWindowUnload, AFailedSaveIsToldToTheUser)
 {
     Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});

@@ -152,6 +152,19 @@ TEST_F(OwnStateTest, TheEntryThatAddsShowsThePanelAndLeavesTheState)
     EXPECT_FALSE(copy.view.personalizedVisible);
 }
 
+TEST_F(OwnStateTest, GivingUpAPersonalisedStateShowsThePresentOneAgain)
+{
+    choose(busy);
+    choose(addPersonalized);
+    copy.sent();
+    copy.engine.ownState().cancelPersonalized();
+    EXPECT_FALSE(copy.view.personalizedVisible);
+    EXPECT_EQ(copy.view.selectedState, busy);
+    ASSERT_TRUE(copy.view.autoReply);
+    EXPECT_EQ(copy.view.autoReply->caption, QStringLiteral("AutoReply text (when Busy)"));
+    EXPECT_THAT(copy.sent(), IsEmpty());
+}
+
 TEST_F(OwnStateTest, BusyAndAwayShowTheirOwnAutomaticReply)
 {
     copy.common.autoReply.onAway = true;

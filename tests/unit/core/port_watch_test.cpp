@@ -35,6 +35,19 @@ TEST(PortWatch, TriesAgainEveryFiveSecondsAndThenAnnounces)
     EXPECT_THAT(copy.sent(), IsEmpty());
 }
 
+TEST(PortWatch, SaysWhatKeepsItFromListening)
+{
+    Copy copy({.portTaken = true, .loaded = false});
+    copy.socket.failure = BindFailure::addressNotHere;
+    copy.engine.mainWindow().Form_Load();
+    EXPECT_THAT(copy.view.log.lastLine(), HasSubstr("does not have the address"));
+    EXPECT_EQ(copy.view.trouble, QStringLiteral("No port 5549"));
+    Copy other({.portTaken = true, .loaded = false});
+    other.socket.failure = BindFailure::notAllowed;
+    other.engine.mainWindow().Form_Load();
+    EXPECT_THAT(other.view.log.lastLine(), HasSubstr("does not let NIMB-Chat use port 5549"));
+}
+
 TEST(PortWatch, SaysNothingWhenThePortIsFree)
 {
     Copy copy;

@@ -205,7 +205,9 @@ TEST(UdpWinsock, LetsNoOtherProgramShareItsPortEvenIfThatProgramIsWilling)
 {
     Copy copy("127.0.1.1");
     ASSERT_TRUE(copy.socket.bind());
-    EXPECT_FALSE(DatagramSocket::open({0x7F000101U, testPort()}, DatagramSocket::Sharing::shared));
+    int error = 0;
+    EXPECT_FALSE(DatagramSocket::open({0x7F000101U, testPort()}, DatagramSocket::Sharing::shared, error));
+    EXPECT_EQ(error, EADDRINUSE);
 }
 
 TEST(UdpWinsock, IsFreeToBindAgainOnceBound)
