@@ -2,10 +2,10 @@
 
 #include "core/form_layout.h"
 #include "core/form_text.h"
+#include "core/plain_text_box.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QPlainTextEdit>
 #include <QPushButton>
 
 namespace nimb
@@ -26,7 +26,7 @@ AutoreplyFrame::AutoreplyFrame(QWidget *parent) : QGroupBox(parent)
 
 void AutoreplyFrame::buildControls()
 {
-    AutoReplyTxt = named(new QPlainTextEdit(this), "AutoReplyTxt");
+    AutoReplyTxt = named(new PlainTextBox(this), "AutoReplyTxt");
     AutoReplyTxt->setAccessibleName(tr("AutoReply text"));
     AutoReplyTxt->setTabChangesFocus(true);
     AutoReplyTxt->installEventFilter(this);

@@ -3,11 +3,12 @@
 
 #include <QGroupBox>
 
-class QPlainTextEdit;
 class QPushButton;
 
 namespace nimb
 {
+
+class PlainTextBox;
 
 /// The text is grey while it does not have the focus. It counts once the focus leaves it.
 class AutoreplyFrame : public QGroupBox
@@ -38,7 +39,7 @@ private:
     void AutoReplyTxt_GotFocus();
     void AutoReplyTxt_LostFocus();
 
-    QPlainTextEdit *AutoReplyTxt = nullptr;
+    PlainTextBox *AutoReplyTxt = nullptr;
     QPushButton *Autoreplypanelclosebtn = nullptr;
 };
 

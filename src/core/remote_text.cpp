@@ -125,7 +125,7 @@ QString remoteBody(const QString &text)
 
 QString shownText(const QString &text)
 {
-    const QString shown = withClosedDirections(cutText(text, limits::shownTextLength));
+    QString shown = withClosedDirections(cutText(text, limits::shownTextLength));
     if (text.size() <= limits::shownTextLength)
         return shown;
     const qsizetype more = text.size() - cutText(text, limits::shownTextLength).size();

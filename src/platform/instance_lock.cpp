@@ -16,7 +16,7 @@ namespace nimb
 
 #ifdef Q_OS_UNIX
 
-InstanceLock::InstanceLock(const QString &path) : m_path(path) { }
+InstanceLock::InstanceLock(QString path) : m_path(std::move(path)) { }
 
 InstanceLock::~InstanceLock()
 {
@@ -46,7 +46,7 @@ InstanceLock::Outcome InstanceLock::tryToHold()
 
 #else
 
-InstanceLock::InstanceLock(const QString &path) : m_file(path)
+InstanceLock::InstanceLock(QString path) : m_file(path)
 {
     m_file.setStaleLockTime(0); // only a process that no longer runs gives it up
 }

@@ -14,7 +14,7 @@ namespace nimb
 class InstanceLock
 {
 public:
-    explicit InstanceLock(const QString &path);
+    explicit InstanceLock(QString path);
     ~InstanceLock();
     Q_DISABLE_COPY_MOVE(InstanceLock)
 

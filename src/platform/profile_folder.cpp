@@ -23,7 +23,7 @@ std::optional<QString> makePrivateFolder(const QString &path)
         return std::nullopt;
     const QString parent = folder.absolutePath();
     if (parent != folder.absoluteFilePath()) {
-        if (const std::optional<QString> reason = makePrivateFolder(parent))
+        if (std::optional<QString> reason = makePrivateFolder(parent))
             return reason;
     }
     errno = 0;

@@ -22,9 +22,9 @@ constexpr int sendBufferAsked = 4 * 1024 * 1024;
 
 } // namespace
 
-UdpWinsock::UdpWinsock(DropCounts &drops, const std::optional<QString> &address, const std::optional<QString> &hostName,
+UdpWinsock::UdpWinsock(DropCounts &drops, std::optional<QString> address, std::optional<QString> hostName,
                        QObject *parent)
-    : QObject(parent), m_drops(drops), m_fixedAddress(address), m_fixedHostName(hostName)
+    : QObject(parent), m_drops(drops), m_fixedAddress(std::move(address)), m_fixedHostName(std::move(hostName))
 {
 }
 

@@ -28,8 +28,8 @@ public:
     /// address: the dotted IPv4 address to bind to and to report as the own one; missing or malformed, the socket is
     /// bound to every interface. hostName: reported in place of the system's. Losses are counted in drops, which must
     /// outlive this object.
-    explicit UdpWinsock(DropCounts &drops, const std::optional<QString> &address = std::nullopt,
-                        const std::optional<QString> &hostName = std::nullopt, QObject *parent = nullptr);
+    explicit UdpWinsock(DropCounts &drops, std::optional<QString> address = std::nullopt,
+                        std::optional<QString> hostName = std::nullopt, QObject *parent = nullptr);
 
     void setLocalPort(std::uint16_t port) override { m_localPort = port; }
     void setRemotePort(std::uint16_t port) override { m_remotePort = port; }

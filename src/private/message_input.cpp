@@ -13,7 +13,7 @@ namespace
 constexpr int visibleLines = 3;
 }
 
-MessageInput::MessageInput(QWidget *parent) : QPlainTextEdit(parent)
+MessageInput::MessageInput(QWidget *parent) : PlainTextBox(parent)
 {
     setTabChangesFocus(true);
     connect(this, &QPlainTextEdit::textChanged, this, &MessageInput::cut);
@@ -22,7 +22,7 @@ MessageInput::MessageInput(QWidget *parent) : QPlainTextEdit(parent)
 QSize MessageInput::sizeHint() const
 {
     const int frame = 2 * frameWidth() + static_cast<int>(2 * document()->documentMargin());
-    return {QPlainTextEdit::sizeHint().width(), visibleLines * fontMetrics().lineSpacing() + frame};
+    return {PlainTextBox::sizeHint().width(), visibleLines * fontMetrics().lineSpacing() + frame};
 }
 
 void MessageInput::keyPressEvent(QKeyEvent *event)
@@ -31,7 +31,7 @@ void MessageInput::keyPressEvent(QKeyEvent *event)
     if (enter && !(event->modifiers() & Qt::ShiftModifier))
         Q_EMIT entered();
     else
-        QPlainTextEdit::keyPressEvent(event);
+        PlainTextBox::keyPressEvent(event);
 }
 
 void MessageInput::cut()

@@ -1,14 +1,14 @@
 // The box in which a message is typed.
 #pragma once
 
-#include <QPlainTextEdit>
+#include "core/plain_text_box.h"
 
 namespace nimb
 {
 
 /// Enter sends, Shift+Enter breaks the line, Tab leaves the box. Never holds more than limits::messageLength
 /// characters, a line break counted as two: what is beyond is cut and the caret goes to the end.
-class MessageInput : public QPlainTextEdit
+class MessageInput : public PlainTextBox
 {
     Q_OBJECT
 

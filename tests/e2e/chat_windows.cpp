@@ -17,6 +17,8 @@ constexpr Point stateChooser = {150, 47};
 constexpr Point firstRow = {150, 104};
 constexpr int rowHeight = 24;
 constexpr Point fourthMenuEntry = {40, 77}; // from where the menu was opened
+constexpr Point autoReplyButtonAboveBottom = {240, 40};
+constexpr Point autoReplyText = {150, 235};
 constexpr Point mainLog = {450, 200};
 
 // Private window: the log takes the upper part, the input box stands at the bottom above the status bar.
@@ -83,6 +85,13 @@ void MainWindow::rescan() const
 {
     activate();
     press("alt+r");
+}
+
+void MainWindow::editAutoReply() const
+{
+    activate();
+    click(autoReplyButtonAboveBottom.x, place().height - autoReplyButtonAboveBottom.y);
+    click(autoReplyText.x, autoReplyText.y);
 }
 
 void MainWindow::copyLog() const

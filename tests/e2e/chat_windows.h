@@ -26,6 +26,8 @@ public:
     /// Chooses the entry of the own-state chooser that is so many below the chosen one; negative goes up.
     void chooseState(int entriesBelow) const;
     void rescan() const;
+    /// While Busy or Away: opens the panel with the text of the automatic reply and puts the caret into the text.
+    void editAutoReply() const;
     /// Into the clipboard.
     void copyLog() const;
 

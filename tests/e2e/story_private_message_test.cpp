@@ -368,6 +368,38 @@ TEST_F(StoryPrivateMessage, ABusyUserAnswersAutomaticallyAtMostOnceASecond)
                 ElementsAre("-[AutoReply] Sp\xE4ter", "!ONLINE 127.0.32.1 BOB-PC Bob", "!STATUS BUSY"));
 }
 
+TEST_F(StoryPrivateMessage, PastingAnEmptyClipboardIntoTheAutomaticReplyIsHarmless)
+{
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn());
+    start(bob);
+    const MainWindow main = MainWindow::of("Bob");
+    main.chooseState(2);
+    main.editAutoReply();
+    press("ctrl+v");
+    type("Back ");
+    press("ctrl+q");
+    EXPECT_EQ(bob.exitStatus(), 0);
+    EXPECT_THAT(bob.stored("Settings", "AutoReplyonawayText"), testing::Optional(HasSubstr("Back ")));
+}
+
+TEST_F(StoryPrivateMessage, TheTextOfTheAutomaticReplyIsEditedInItsPanel)
+{
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn({{{"Settings", "AutoReplyonAwayActive"}, "-1"}}));
+    start(bob);
+    const MainWindow main = MainWindow::of("Bob");
+    main.chooseState(2);
+    main.editAutoReply();
+    press("ctrl+a");
+    type("At lunch");
+    ann.send("127.0.32.1", "-hello"); // takes no focus: the text still being typed does not count yet
+    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    EXPECT_EQ(ann.next(), "-[AutoReply] At the moment I'm not at my PC");
+    press("ctrl+q"); // but now it does
+    EXPECT_EQ(bob.exitStatus(), 0);
+    EXPECT_EQ(bob.stored("Settings", "AutoReplyonawayText"), "At lunch");
+    EXPECT_EQ(bob.stored("Settings", "AutoReplyonBusyText"), "I'm busy, please do not disturb");
+}
+
 /// What peers call themselves, and what becomes of it.
 struct RemoteName {
     const char *label;
