@@ -272,7 +272,7 @@ TEST_F(SingleInstanceTest, AMessageThatIsTooLongIsNotWaitedFor)
     ASSERT_TRUE(first.instance.acquire());
     QLocalSocket silent; // connected before, so its time is up first
     ASSERT_TRUE(connectAndSend(silent, first.instance.socketPath(), ""));
-    QTest::qWait(1);
+    QCoreApplication::processEvents();
     QLocalSocket client;
     ASSERT_TRUE(connectAndSend(client, first.instance.socketPath(), QByteArray(4096, 'x')));
     EXPECT_TRUE(isDropped(client));
@@ -286,10 +286,10 @@ TEST_F(SingleInstanceTest, AMessageMayComeInPieces)
     QLocalSocket client;
     ASSERT_TRUE(connectAndSend(client, first.instance.socketPath(), "in "));
     client.flush();
-    QTest::qWait(1);
+    QCoreApplication::processEvents();
     client.write("pie");
     client.flush();
-    QTest::qWait(1);
+    QCoreApplication::processEvents();
     client.write(QByteArray("ces\0", 4));
 
     ASSERT_TRUE(first.hears(1));
@@ -331,7 +331,7 @@ TEST_F(SingleInstanceTest, ManySilentClientsDoNotKeepALaterStartOut)
     for (int i = 0; i < 60; ++i) {
         silent.push_back(std::make_unique<QLocalSocket>());
         silent.back()->connectToServer(first.instance.socketPath());
-        QTest::qWait(0);
+        QCoreApplication::processEvents();
     }
     EXPECT_EQ(startAgain("through the crowd", folder), handedOver);
     ASSERT_TRUE(first.hears(1));
