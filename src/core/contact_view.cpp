@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 
+#include <map>
+
 namespace nimb
 {
 namespace
@@ -51,7 +53,7 @@ protected:
         if (index.column() == ContactList::Nickname) {
             option->features |= QStyleOptionViewItem::HasDecoration;
             option->decorationSize = QSize(16, 16);
-            option->icon = namedPicture(index.data(ContactList::PictureRole).toString());
+            option->icon = untinted(index.data(ContactList::PictureRole).toString(), *option);
         } else {
             option->palette.setColor(QPalette::Text, mutedTextColour(option->palette));
         }
@@ -60,6 +62,20 @@ protected:
     }
 
 private:
+    /// Styles tint the pictures of selected rows, but a state is told by its colour too. Drawn once for each scale:
+    /// reading a picture takes longer than painting the row.
+    QIcon untinted(const QString &name, const QStyleOptionViewItem &option) const
+    {
+        const double scale = option.widget ? option.widget->devicePixelRatioF() : 1.0;
+        QIcon &result = m_pictures[{name, scale}];
+        if (!result.isNull())
+            return result;
+        const QPixmap pixels = namedPicture(name).pixmap(option.decorationSize, scale);
+        result.addPixmap(pixels, QIcon::Normal);
+        result.addPixmap(pixels, QIcon::Selected);
+        return result;
+    }
+
     /// The column of addresses has a fixed width, too narrow for long ones in many fonts; an address with an ellipsis
     /// would be of no use.
     static void shrinkToFit(QStyleOptionViewItem &option)
@@ -73,6 +89,8 @@ private:
         option.font.setPointSizeF(option.font.pointSizeF() * qMax(smallest, share));
         option.fontMetrics = QFontMetrics(option.font);
     }
+
+    mutable std::map<std::pair<QString, double>, QIcon> m_pictures;
 };
 
 } // namespace

@@ -16,11 +16,7 @@ QIcon namedPicture(const QString &name)
 {
     static const bool registered = registerPictures();
     Q_UNUSED(registered);
-    const QString file = QLatin1String(":/pictures/") + name + QLatin1String(".svg");
-    QIcon picture(file);
-    // States are told by colour too, so a selected row must not tint them.
-    picture.addFile(file, {}, QIcon::Selected);
-    return picture;
+    return QIcon(QLatin1String(":/pictures/") + name + QLatin1String(".svg"));
 }
 
 } // namespace nimb
