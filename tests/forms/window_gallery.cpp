@@ -57,7 +57,7 @@ const std::vector<std::pair<const char *, const char *>> everybody = {
     {"192.168.1.12", "Ann"},   {"192.168.1.20", "Benedikt Freiherr von und zu Hohenstein-Waldburg"},
     {"192.168.1.31", "Cleo"},  {"192.168.1.44", "Дмитрий"},
     {"192.168.1.45", "Émile"}, {"192.168.1.99", "Frank (basement)"},
-    {"192.168.1.107", "山田"},
+    {"192.168.1.107", "Ελένη"},
 };
 
 void fill(RealWindows &windows)
@@ -66,7 +66,7 @@ void fill(RealWindows &windows)
     windows.arrive("192.168.1.20", "!STATUS BUSY In a meeting until the afternoon");
     windows.arrive("192.168.1.44", "!STATUS AWAY Lunch");
     windows.arrive("192.168.1.31", "!STATUS ONLINE");
-    windows.arrive("192.168.1.107", "!ONLINE 192.168.1.107 PC-YAMADA \xE5\xB1\xB1\xE7\x94\xB0");
+    windows.arrive("192.168.1.107", "!ONLINE 192.168.1.107 PC-ELENI \xCE\x95\xCE\xBB\xCE\xAD\xCE\xBD\xCE\xB7");
     windows.arrive("192.168.1.45", "!DANCE");
     windows.arrive("192.168.1.45", "what is this?");
     windows.click(0);
