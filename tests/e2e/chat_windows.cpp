@@ -62,20 +62,31 @@ PrivateWindow MainWindow::openWhenOnline(int row, const std::string &nickname) c
     return PrivateWindow::with(nickname);
 }
 
-void MainWindow::chooseRemove(int row) const
+void MainWindow::openContextMenu(int row) const
 {
     activate();
     const std::size_t without = numberOfVisible();
-    const Point pointer = {firstRow.x, firstRow.y + row * rowHeight};
-    click(pointer.x, pointer.y, 1, 3);
+    click(firstRow.x, firstRow.y + row * rowHeight, 1, 3);
     EXPECT_TRUE(waitUntil([&] { return numberOfVisible() > without; })) << "no context menu";
-    click(pointer.x + fourthMenuEntry.x, pointer.y + fourthMenuEntry.y);
+}
+
+void MainWindow::chooseRemove(int row) const
+{
+    openContextMenu(row);
+    click(firstRow.x + fourthMenuEntry.x, firstRow.y + row * rowHeight + fourthMenuEntry.y);
+}
+
+void MainWindow::openStateChooser() const
+{
+    activate();
+    const std::size_t without = numberOfVisible();
+    click(stateChooser.x, stateChooser.y);
+    EXPECT_TRUE(waitUntil([&] { return numberOfVisible() > without; })) << "no list of states";
 }
 
 void MainWindow::chooseState(int entriesBelow) const
 {
-    activate();
-    click(stateChooser.x, stateChooser.y);
+    openStateChooser();
     for (int i = 0; i < std::abs(entriesBelow); ++i)
         press(entriesBelow > 0 ? "Down" : "Up");
     press("Return");

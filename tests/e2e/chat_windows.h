@@ -21,8 +21,12 @@ public:
     void openContact(int row) const;
     /// Tries until it opens a window of this name, for a contact that is not known to be there yet does not open.
     PrivateWindow openWhenOnline(int row, const std::string &nickname) const;
+    /// Returns when the menu is there.
+    void openContextMenu(int row) const;
     /// Chooses "Remove" from the context menu of a row.
     void chooseRemove(int row) const;
+    /// Drops the own-state chooser's list down.
+    void openStateChooser() const;
     /// Chooses the entry of the own-state chooser that is so many below the chosen one; negative goes up.
     void chooseState(int entriesBelow) const;
     void rescan() const;

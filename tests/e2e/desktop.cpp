@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QTest>
 
+#include <cstdlib>
 #include <utility>
 
 namespace nimb::test
@@ -12,7 +13,10 @@ namespace nimb::test
 namespace
 {
 
-constexpr auto patienceMs = static_cast<int>(std::chrono::milliseconds(patience).count());
+int patienceMs()
+{
+    return static_cast<int>(patience().count());
+}
 
 /// Every character that a test types has a key of its own. Where one lacks, xdotool gives a spare key its meaning for a
 /// moment, and a program that learns of it a moment later types something else.
@@ -60,13 +64,13 @@ Outcome run(const QString &program, const QStringList &arguments, const QByteArr
 {
     QProcess process;
     process.start(program, arguments);
-    if (!process.waitForStarted(patienceMs)) {
+    if (!process.waitForStarted(patienceMs())) {
         ADD_FAILURE() << program.toStdString() << " cannot be started: " << process.errorString().toStdString();
         return {false, {}};
     }
     process.write(input);
     process.closeWriteChannel();
-    if (!process.waitForFinished(patienceMs)) {
+    if (!process.waitForFinished(patienceMs())) {
         ADD_FAILURE() << program.toStdString() << ' ' << arguments.join(' ').toStdString() << " does not end";
         return {false, {}};
     }
@@ -107,12 +111,28 @@ QString literally(const std::string &text)
 
 } // namespace
 
+std::chrono::milliseconds patience()
+{
+    using namespace std::chrono_literals;
+    return testing::Test::HasFailure() ? 1s : 20s;
+}
+
 bool waitUntil(const std::function<bool()> &condition, std::chrono::milliseconds limit)
 {
     return QTest::qWaitFor(condition, static_cast<int>(limit.count()));
 }
 
 void Desktop::SetUp()
+{
+    start();
+    if (!testing::Test::HasFatalFailure())
+        return;
+    // The framework would skip the tests now, and skipping looks well.
+    TearDown();
+    std::exit(EXIT_FAILURE);
+}
+
+void Desktop::start()
 {
     qunsetenv("DISPLAY");
     qputenv("LC_ALL", "C.UTF-8"); // xdotool types what its locale can read
@@ -134,7 +154,7 @@ void Desktop::startScreen()
     m_screen.start(QStringLiteral("Xvfb"),
                    {"-displayfd", "1", "-screen", "0", "1280x900x24", "-nolisten", "tcp", "-noreset"});
     QByteArray number;
-    while (!number.endsWith('\n') && m_screen.waitForReadyRead(patienceMs))
+    while (!number.endsWith('\n') && m_screen.waitForReadyRead(patienceMs()))
         number += m_screen.readAllStandardOutput();
     ASSERT_TRUE(number.endsWith('\n')) << "Xvfb does not start: " << m_screen.errorString().toStdString() << '\n'
                                        << m_screen.readAllStandardError().toStdString();
@@ -157,7 +177,7 @@ void Desktop::startWindowManager()
     m_windowManager.setStandardOutputFile(QProcess::nullDevice());
     m_windowManager.setStandardErrorFile(QProcess::nullDevice());
     m_windowManager.start(QStringLiteral("openbox"), {"--sm-disable", "--config-file", configuration.fileName()});
-    ASSERT_TRUE(m_windowManager.waitForStarted(patienceMs)) << m_windowManager.errorString().toStdString();
+    ASSERT_TRUE(m_windowManager.waitForStarted(patienceMs())) << m_windowManager.errorString().toStdString();
     // It names itself before it handles events, and loses what comes between: ready is who answers.
     ASSERT_TRUE(waitUntil([] {
         run(QStringLiteral("xdotool"), {"set_num_desktops", "7"});

@@ -17,14 +17,15 @@
 namespace nimb::test
 {
 
-/// Longer than anything takes on a busy machine; only a failure waits for so long.
-constexpr std::chrono::seconds patience{20};
+/// Longer than anything takes on a busy machine; only a failure waits for so long. After the first failure of a test
+/// little, so that the others end it soon.
+std::chrono::milliseconds patience();
 
 /// Looks again and again while events are handled; false when the condition did not come true in time.
-bool waitUntil(const std::function<bool()> &condition, std::chrono::milliseconds limit = patience);
+bool waitUntil(const std::function<bool()> &condition, std::chrono::milliseconds limit = patience());
 
 /// Virtual screen and window manager of one test executable. While it is set up, DISPLAY names the screen, and every
-/// process that is started finds it. A machine on which they do not start fails every test.
+/// process that is started finds it. On a machine where they do not start every test fails.
 class Desktop : public testing::Environment
 {
 public:
@@ -32,6 +33,7 @@ public:
     void TearDown() override;
 
 private:
+    void start();
     void startScreen();
     void loadKeyboard();
     void startWindowManager();

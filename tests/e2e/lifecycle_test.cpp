@@ -253,6 +253,23 @@ TEST_F(SecondStart, WithAnotherProfileIsACopyOfItsOwn)
     EXPECT_EQ(bob.end(), 0);
 }
 
+TEST_F(SecondStart, AtTheSameMomentLeavesOneCopy)
+{
+    RunningCopy one(home, withAnn());
+    RunningCopy other(home);
+    other.setProfileFolder(one.profileFolder());
+    one.start({"Bob"});
+    other.start({"Bob"});
+    EXPECT_TRUE(waitUntil([&] { return one.isRunning() != other.isRunning(); }));
+    RunningCopy &survivor = one.isRunning() ? one : other;
+    RunningCopy &loser = one.isRunning() ? other : one;
+    EXPECT_EQ(loser.exitStatus(), 0);
+    EXPECT_THAT(ann.hearUntil("!STATUS Online"), ElementsAre("?ONLINE 127.0.33.1 BOB-PC Bob", "!STATUS Online"));
+    EXPECT_TRUE(answers(survivor));
+    EXPECT_EQ(Window::all("NIMB-Chat 1.2 - Bob").size(), 1U);
+    EXPECT_EQ(survivor.end(), 0);
+}
+
 TEST_F(SecondStart, EndsWhileTheFirstOneIsAtItsLogin)
 {
     RunningCopy bob(home, withAnn());
@@ -408,6 +425,19 @@ TEST_F(TheEnd, MayComeWhileAQuestionIsOpen)
     EXPECT_EQ(bob.end(), 0);
     EXPECT_EQ(ann.next(), "!OFFLINE 127.0.33.1 BOB-PC Bob");
     EXPECT_THAT(bob.storedContacts(), ElementsAre(StoredContact{"127.0.33.2", "Ann", "ANN-PC"}));
+}
+
+TEST_F(TheEnd, MayComeWhileAMenuOrAListIsOpen)
+{
+    RunningCopy bob(home, withAnn());
+    for (const bool menu : {true, false}) {
+        start(bob);
+        const MainWindow main = MainWindow::of("Bob");
+        menu ? main.openContextMenu(0) : main.openStateChooser();
+        EXPECT_EQ(bob.end(), 0);
+        EXPECT_EQ(ann.next(), "!OFFLINE 127.0.33.1 BOB-PC Bob");
+        EXPECT_THAT(bob.storedContacts(), ElementsAre(StoredContact{"127.0.33.2", "Ann", "ANN-PC"}));
+    }
 }
 
 TEST_F(TheEnd, IsTheExitCommandsToo)
@@ -615,6 +645,42 @@ TEST_F(Store, ThatCannotBeDoesNotHinderTheProgram)
         EXPECT_EQ(bob.end(), 0) << place.toStdString();
     }
     EXPECT_EQ(contentOf(file.fileName()), "mine");
+}
+
+TEST_F(Store, ThatCannotBeWrittenIsToldToTheUser)
+{
+    RunningCopy bob(home);
+    QFile file(bob.profileFolder());
+    ASSERT_TRUE(file.open(QFile::WriteOnly)); // a file in place of the folder
+    file.close();
+    bob.start({});
+    EXPECT_TRUE(waitUntil([] { return Window::exists("NIMB-Chat"); }));
+    EXPECT_TRUE(waitUntil([] { return Window::active().caption() == "NIMB-Chat"; }));
+    const Window dialog = Window::active();
+    press("Return");
+    // The nickname was not stored; a box over the dialog says so, and the program goes on.
+    EXPECT_TRUE(waitUntil([&] { return Window::active().caption() == "NIMB-Chat" && !dialog.isActive(); }));
+    press("Return");
+    const MainWindow main = MainWindow::of("BOB-PC");
+    main.activate();
+    press("ctrl+q");
+    EXPECT_TRUE(waitUntil([&] { return Window::active().caption() == "NIMB-Chat"; }));
+    EXPECT_TRUE(bob.isRunning());
+    press("Return");
+    EXPECT_EQ(bob.exitStatus(), 0);
+}
+
+TEST_F(Store, GivesAPlaceOnTheScreenToAWindowFromElsewhere)
+{
+    RunningCopy bob(home, withAnn({{{"Settings", "MainLeft"}, "400000"}, {{"Settings", "MainTop"}, "-90000"}}));
+    start(bob);
+    const MainWindow main = MainWindow::of("Bob");
+    main.activate();
+    const Window::Place place = main.place();
+    EXPECT_GE(place.left, 0);
+    EXPECT_LE(place.left + place.width, 1280);
+    EXPECT_GE(place.top, 0);
+    EXPECT_LE(place.top + place.height, 900);
 }
 
 TEST_F(Store, KeepsTheWindowWhereTheUserPutIt)

@@ -19,7 +19,10 @@ namespace nimb::test
 namespace
 {
 
-constexpr auto patienceMs = static_cast<int>(std::chrono::milliseconds(patience).count());
+int patienceMs()
+{
+    return static_cast<int>(patience().count());
+}
 
 struct Close {
     void operator()(sqlite3 *database) const { sqlite3_close(database); }
@@ -34,6 +37,7 @@ Database openDatabase(const QString &file, int flags)
     const int code = sqlite3_open_v2(QFile::encodeName(file).constData(), &opened, flags, nullptr);
     Database database(opened);
     EXPECT_EQ(code, SQLITE_OK) << file.toStdString() << ": " << sqlite3_errmsg(opened);
+    sqlite3_busy_timeout(opened, patienceMs());
     return database;
 }
 
@@ -139,7 +143,7 @@ void RunningCopy::start(const QStringList &arguments)
 {
     prepare(m_process, QStringLiteral("printed"));
     m_process.start(programPath(), arguments);
-    EXPECT_TRUE(m_process.waitForStarted(patienceMs)) << m_process.errorString().toStdString();
+    EXPECT_TRUE(m_process.waitForStarted(patienceMs())) << m_process.errorString().toStdString();
 }
 
 std::optional<int> RunningCopy::startAgain(const QStringList &arguments) const
@@ -147,7 +151,7 @@ std::optional<int> RunningCopy::startAgain(const QStringList &arguments) const
     QProcess second;
     prepare(second, QStringLiteral("printed-again"));
     second.start(programPath(), arguments);
-    second.waitForFinished(patienceMs);
+    second.waitForFinished(patienceMs());
     const std::optional<int> status = statusOf(second);
     endProcess(second);
     return status;
@@ -167,7 +171,7 @@ void RunningCopy::signal(int number) const
 std::optional<int> RunningCopy::exitStatus()
 {
     if (m_process.state() != QProcess::NotRunning)
-        m_process.waitForFinished(patienceMs);
+        m_process.waitForFinished(patienceMs());
     return statusOf(m_process);
 }
 
@@ -180,7 +184,7 @@ std::optional<int> RunningCopy::end()
 void RunningCopy::kill()
 {
     m_process.kill();
-    EXPECT_TRUE(m_process.waitForFinished(patienceMs));
+    EXPECT_TRUE(m_process.waitForFinished(patienceMs()));
 }
 
 void RunningCopy::writeStore(const Rows &rows) const
@@ -204,10 +208,13 @@ void RunningCopy::writeStore(const Rows &rows) const
 Rows RunningCopy::readStore() const
 {
     Rows rows;
-    const Database database = openDatabase(storeFile(), SQLITE_OPEN_READONLY);
+    // To write as well: what a killed copy left half done is undone by whoever opens the file next.
+    const Database database = openDatabase(storeFile(), SQLITE_OPEN_READWRITE);
     const Statement all = prepareStatement(database, "SELECT section, key, value FROM settings");
-    while (sqlite3_step(all.get()) == SQLITE_ROW)
+    int code = SQLITE_ROW;
+    while ((code = sqlite3_step(all.get())) == SQLITE_ROW)
         rows[{columnText(all, 0), columnText(all, 1)}] = columnText(all, 2);
+    EXPECT_EQ(code, SQLITE_DONE) << sqlite3_errmsg(database.get());
     return rows;
 }
 

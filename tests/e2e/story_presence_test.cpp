@@ -56,6 +56,18 @@ TEST_F(StoryPresence, AContactThatAsksIsToldIdentityAndState)
     EXPECT_THAT(bob.storedContacts(), ElementsAre(StoredContact{"127.0.31.2", "Ann", "ANN-PC"}));
 }
 
+TEST_F(StoryPresence, AnAnswerGoesToTheCommonPortWhereverTheQuestionCameFrom)
+{
+    RunningCopy bob({"127.0.31.1", "BOB-PC"}, profile(port, {{"127.0.31.2", "Ann", "ANN-PC"}}));
+    bob.start({"Bob"});
+    ann.hearUntil("!STATUS Online");
+    WirePeer annsOtherPort("127.0.31.2", freePort());
+    annsOtherPort.send("127.0.31.1", port, "?ONLINE 127.0.31.2 ANN-PC Ann");
+    EXPECT_EQ(ann.next(), "!ONLINE 127.0.31.1 BOB-PC Bob");
+    EXPECT_EQ(ann.next(), "!STATUS Online");
+    EXPECT_THAT(annsOtherPort.waiting(), IsEmpty());
+}
+
 TEST_F(StoryPresence, OnlyQuestionsOfContactsAreAnswered)
 {
     RunningCopy bob({"127.0.31.1", "BOB-PC"}, profile(port, {{"127.0.31.2", "Ann", "ANN-PC"}}));

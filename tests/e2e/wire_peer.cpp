@@ -152,7 +152,7 @@ std::string WirePeer::next()
 
 Heard WirePeer::hearWhere(const std::function<bool(const std::string &)> &fits)
 {
-    const auto end = Clock::now() + patience;
+    const auto end = Clock::now() + patience();
     while (const auto heard = hear(std::max(0ms, std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now())))) {
         if (fits(heard->bytes))
             return *heard;
@@ -164,7 +164,7 @@ Heard WirePeer::hearWhere(const std::function<bool(const std::string &)> &fits)
 std::vector<std::string> WirePeer::hearUntil(std::string_view last)
 {
     std::vector<std::string> all;
-    const auto end = Clock::now() + patience;
+    const auto end = Clock::now() + patience();
     while (const auto heard = hear(std::max(0ms, std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now())))) {
         all.push_back(heard->bytes);
         if (heard->bytes == last)

@@ -42,7 +42,7 @@ public:
     void send(const std::string &to, std::uint16_t port, std::string_view bytes) const;
 
     /// The next datagram; empty when none comes in time.
-    std::optional<Heard> hear(std::chrono::milliseconds limit = patience);
+    std::optional<Heard> hear(std::chrono::milliseconds limit = patience());
     /// Its bytes; a test failure and "(silence)" when none comes in time.
     std::string next();
     /// Passes over the others; a test failure and no bytes when none fits in time.
