@@ -10,7 +10,7 @@
 namespace nimb
 {
 
-FormOpener::FormOpener() = default;
+FormOpener::FormOpener(LinkOpener &links) : m_links(links) { }
 FormOpener::~FormOpener() = default;
 
 void FormOpener::loadNotify()
@@ -67,7 +67,7 @@ QIcon FormOpener::trayIcon() const
 ViewPtr<PrivateChatView> FormOpener::makePrivateForm(PrivateChat &chat)
 {
     // Owned by the chat, which lets it go.
-    return ViewPtr<PrivateChatView>(new frmPrivate(chat));
+    return ViewPtr<PrivateChatView>(new frmPrivate(chat, m_links));
 }
 
 void FormOpener::unloadPrivateWindows()

@@ -6,6 +6,7 @@
 #include "core/notifications.h"
 #include "core/windows.h"
 #include "dialogs/login.h"
+#include "private/RTFSubClass.h"
 
 #include <functional>
 #include <memory>
@@ -21,7 +22,8 @@ class RichTextLogEdit;
 class FormOpener : public PrivateForms, public SecondaryWindows, public Notifications
 {
 public:
-    FormOpener();
+    /// links: opens addresses; outlives the windows.
+    explicit FormOpener(LinkOpener &links);
     ~FormOpener() override;
 
     void loadNotify();
@@ -52,6 +54,7 @@ public:
     void startTimer() override;
 
 private:
+    RTFSubClass m_links;
     std::unique_ptr<frmNotify> m_notify;
     std::unique_ptr<frmMain> m_main;
     frmLogin *m_login = nullptr; ///< while it is shown

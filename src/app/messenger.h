@@ -4,6 +4,7 @@
 #include "core/contact_commands.h"
 #include "core/main_window.h"
 #include "core/notifications.h"
+#include "private/peer_features.h"
 #include "private/private_windows.h"
 #include "protocol/receive_dispatcher.h"
 
@@ -18,6 +19,7 @@ struct Surroundings {
     const WallClock &clock;
     Prompts &prompts;
     Notifications &notifications;
+    Sound &sound;
     TrayIcon &tray;
     SecondaryWindows &windows;
     PrivateForms &privateForms;
@@ -51,6 +53,8 @@ private:
     PortWatch m_port;
     PrivateWindows m_privateWindows;
     Presence m_presence;
+    Activity m_activity;
+    PeerFeatures m_peerFeatures;
     ContactCommands m_contactCommands;
     ReceiveDispatcher m_dispatcher;
     MainWindow m_mainWindow;

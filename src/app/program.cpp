@@ -41,7 +41,7 @@ Environment Environment::fromSystem()
 
 Program::Program(const Environment &environment)
     : m_wantedAddress(environment.address), m_store(environment.profileFolder), m_instance(environment.profileFolder),
-      m_socket(m_drops, environment.address, environment.hostName)
+      m_socket(m_drops, environment.address, environment.hostName), m_forms(m_links)
 {
     qApp->installEventFilter(&m_toolTips);
 }
@@ -124,8 +124,8 @@ void Program::loadMain()
     m_prompts.setParentWindow(&window);
     m_tray.emplace(m_forms.trayIcon(), [&window] { window.restore(); });
     m_engine.emplace(m_common,
-                     Surroundings{m_socket, m_store, m_timers, m_clock, m_prompts, m_forms, *m_tray, m_forms, m_forms,
-                                  window, m_drops});
+                     Surroundings{m_socket, m_store, m_timers, m_clock, m_prompts, m_forms, m_sound, *m_tray, m_forms,
+                                  m_forms, window, m_drops});
     m_forms.connectMain(
         *m_engine, m_common, [this] { return statusNotes(); }, [] { QCoreApplication::exit(0); });
     window.Form_Load();

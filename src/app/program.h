@@ -6,8 +6,10 @@
 #include "core/Tray.h"
 #include "core/plain_tool_tips.h"
 #include "core/windows.h"
+#include "platform/link_opener.h"
 #include "platform/qt_timers.h"
 #include "platform/single_instance.h"
+#include "platform/sound_player.h"
 #include "platform/sqlite_settings_store.h"
 #include "platform/udp_winsock.h"
 #include "platform/unix_signals.h"
@@ -43,7 +45,6 @@ public:
 
     bool anotherCopyRuns() override;
     void restoreOtherCopy(const QString &caption) override;
-    void InitEmoticonTables() override { }
     void loadNotify() override;
     void showLogin() override;
     void loadAndUnloadLogin() override;
@@ -70,6 +71,8 @@ private:
     UdpWinsock m_socket;
     MessageBoxes m_prompts;
     PlainToolTips m_toolTips;
+    SoundPlayer m_sound;
+    DesktopLinkOpener m_links;
     FormOpener m_forms;
     std::optional<Login> m_login;
     std::optional<Tray> m_tray;

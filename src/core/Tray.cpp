@@ -1,7 +1,14 @@
 #include "core/Tray.h"
 
+#include "core/remote_text.h"
+
 namespace nimb
 {
+namespace
+{
+/// What systems with a fixed field for it show, less the end mark.
+constexpr qsizetype longestToolTip = 63;
+} // namespace
 
 Tray::Tray(const QIcon &icon, std::function<void()> restore) : m_icon(icon), m_restore(std::move(restore))
 {
@@ -13,7 +20,7 @@ Tray::Tray(const QIcon &icon, std::function<void()> restore) : m_icon(icon), m_r
 
 void Tray::AddIcon(const QString &ToolTip)
 {
-    m_icon.setToolTip(ToolTip);
+    m_icon.setToolTip(cutText(ToolTip, longestToolTip));
     m_icon.show();
 }
 

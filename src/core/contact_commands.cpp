@@ -1,5 +1,6 @@
 #include "core/contact_commands.h"
 
+#include "core/buzz.h"
 #include "core/remote_text.h"
 
 namespace nimb
@@ -37,6 +38,12 @@ void ContactCommands::mnuPrivateChat(const QString &ip)
         m_chats.openPrivate(ip);
 }
 
+void ContactCommands::mnuBuzzUser(const QString &ip)
+{
+    if (m_contacts.isContact(ip))
+        sendBuzz(m_services.common, m_services.socket, m_services.sound, ip);
+}
+
 void ContactCommands::mnuRemoveUser(const QString &ip)
 {
     const Contact *contact = m_contacts.find(ip);
@@ -44,7 +51,7 @@ void ContactCommands::mnuRemoveUser(const QString &ip)
         return;
     const QString question = tr("Are you sure you want to remove the user '%1' on workstation '%2' (%3) ?")
                                  .arg(contact->nickname, contact->workstation, contact->ip);
-    if (!m_prompts.confirm(question, tr("Please confirm user removal")))
+    if (!m_services.prompts.confirm(question, tr("Please confirm user removal")))
         return;
     // The list may have changed while the question stood there.
     if (m_contacts.remove(ip))

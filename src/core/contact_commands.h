@@ -1,8 +1,11 @@
 // What the main window does with the selected contact, and the captions that name it.
 #pragma once
 
+#include "core/Common.h"
 #include "core/contact_list.h"
 #include "core/prompts.h"
+#include "core/sound.h"
+#include "protocol/winsock.h"
 
 #include <QCoreApplication>
 
@@ -31,8 +34,15 @@ class ContactCommands
     Q_DECLARE_TR_FUNCTIONS(ContactCommands)
 
 public:
-    ContactCommands(ContactList &contacts, PrivateChats &chats, Prompts &prompts)
-        : m_contacts(contacts), m_chats(chats), m_prompts(prompts)
+    struct Services {
+        const Common &common;
+        Winsock &socket;
+        Sound &sound;
+        Prompts &prompts;
+    };
+
+    ContactCommands(const Services &services, ContactList &contacts, PrivateChats &chats)
+        : m_services(services), m_contacts(contacts), m_chats(chats)
     {
     }
 
@@ -43,12 +53,13 @@ public:
     QString details(const QString &ip) const;
 
     void mnuPrivateChat(const QString &ip);
+    void mnuBuzzUser(const QString &ip);
     void mnuRemoveUser(const QString &ip);
 
 private:
+    Services m_services;
     ContactList &m_contacts;
     PrivateChats &m_chats;
-    Prompts &m_prompts;
 };
 
 } // namespace nimb

@@ -178,10 +178,16 @@ void ContactView::setDetailColumns(int workstation, int ipAddress, int stateText
     updateGeometries();
 }
 
-QString ContactView::selectedAddress() const
+int ContactView::selectedRow() const
 {
     const QModelIndexList rows = selectionModel() ? selectionModel()->selectedRows() : QModelIndexList();
-    return rows.isEmpty() ? QString() : rows.front().data(ContactList::TagRole).toString();
+    return rows.isEmpty() ? -1 : rows.front().row();
+}
+
+QString ContactView::selectedAddress() const
+{
+    const int row = selectedRow();
+    return row < 0 ? QString() : model()->index(row, 0).data(ContactList::TagRole).toString();
 }
 
 QString ContactView::addressAt(const QPoint &position) const

@@ -40,6 +40,8 @@ public:
     void setDetailColumns(int workstation, int ipAddress, int stateText);
     /// Address of the selected contact, empty when none is selected.
     QString selectedAddress() const;
+    /// -1 when none is selected.
+    int selectedRow() const;
 
 Q_SIGNALS:
     /// A double click after a press of the left button, or the Enter key.

@@ -3,10 +3,11 @@
 #include "core/auto_reply_frame.h"
 #include "core/contact_commands.h"
 #include "core/contact_view.h"
+#include "core/elided_label.h"
+#include "core/file_dialogs.h"
 #include "core/form_layout.h"
 #include "core/form_text.h"
 #include "core/main_layout.h"
-#include "core/main_menu.h"
 #include "core/main_window.h"
 #include "core/personalized_state_frame.h"
 #include "core/pictures.h"
@@ -33,7 +34,6 @@ namespace
 using form_layout::margin;
 using form_layout::spacing;
 constexpr int highestRow = 26;
-constexpr int conferenceSlots = 5;
 /// Above the rows of the contact list: the own-state chooser, a gap, the tabs.
 constexpr int roomAboveRows = 2 * highestRow + spacing;
 constexpr double smallestFont = 6; ///< points
@@ -41,14 +41,12 @@ constexpr int narrowInnerWidth = pixels(main_layout::widthWithoutLog) - 2 * marg
 
 QLabel *panel(QWidget *bar, const char *name)
 {
-    auto *const label = named(new QLabel(bar), name);
-    label->setTextFormat(Qt::PlainText);
-    return label;
+    return named(new ElidedLabel(bar), name);
 }
 
 } // namespace
 
-frmMain::frmMain(const Log &log) : m_outtextWidget(log.widget), m_outtext(log.text)
+frmMain::frmMain(const Log &log) : m_menus(*this), m_outtextWidget(log.widget), m_outtext(log.text)
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("NIMB-Chat 1.2"));
@@ -62,8 +60,6 @@ frmMain::frmMain(const Log &log) : m_outtextWidget(log.widget), m_outtext(log.te
 
 void frmMain::buildControls()
 {
-    buildMenuBar();
-    buildPopUpMenu();
     auto *const area = new QWidget(this);
     setCentralWidget(area);
     buildContacts(area);
@@ -120,46 +116,6 @@ void frmMain::orderControls()
         setTabOrder(previous, next);
         previous = next;
     }
-}
-
-void frmMain::buildMenuBar()
-{
-    for (const Menu &entry : mainMenus) {
-        QMenu *const menu
-            = named(menuBar()->addMenu(QCoreApplication::translate("MainMenu", entry.caption)), entry.name);
-        for (const MenuEntry &item : entry.entries) {
-            if (!item.name)
-                continue;
-            QAction *const action
-                = named(menu->addAction(QCoreApplication::translate("MainMenu", item.caption)), item.name);
-            action->setEnabled(false);
-        }
-    }
-    menuEntry("mnuFileExit")->setEnabled(true);
-    menuEntry("mnuFileExit")->setShortcut(QKeySequence::Quit);
-    menuEntry("mnuFileExit")->setMenuRole(QAction::QuitRole);
-    menuEntry("mnuHelpAbout")->setMenuRole(QAction::AboutRole);
-    menuEntry("mnuToolsOptions")->setMenuRole(QAction::PreferencesRole);
-    QAction *const log = menuEntry("mnuLogWindow");
-    log->setEnabled(true);
-    log->setCheckable(true);
-    log->setChecked(true);
-}
-
-void frmMain::buildPopUpMenu()
-{
-    mnuPopUp = named(new QMenu(this), "mnuPopUp");
-    const auto add = [this](const char *name) { return named(mnuPopUp->addAction(QString()), name); };
-    mnuPopUp->setDefaultAction(add("mnuPrivateChat"));
-    add("mnuBuzzUser")->setEnabled(false);
-    for (int slot = 1; slot <= conferenceSlots; ++slot) {
-        QAction *const invite = mnuPopUp->addAction(tr("Invite to Conference #&%1").arg(slot));
-        invite->setObjectName(QStringLiteral("mnuInvite2Conf%1").arg(slot));
-        invite->setVisible(false);
-    }
-    add("mnusendcontacts")->setEnabled(false);
-    add("mnuRemoveUser");
-    add("mnuinviteuser")->setEnabled(false);
 }
 
 void frmMain::buildContacts(QWidget *parent)
@@ -221,13 +177,6 @@ void frmMain::buildStatusBar()
     bar->installEventFilter(this);
 }
 
-QAction *frmMain::menuEntry(const char *name) const
-{
-    auto *const action = findChild<QAction *>(QLatin1String(name));
-    Q_ASSERT(action);
-    return action;
-}
-
 void frmMain::connectControls(const MainWindowEngine &engine, std::function<void()> ended)
 {
     m_engine.emplace(engine);
@@ -235,8 +184,21 @@ void frmMain::connectControls(const MainWindowEngine &engine, std::function<void
     connectContacts();
     connectOwnState();
     connect(clearbtn, &QPushButton::clicked, this, &frmMain::clearbtn_Click);
-    connect(menuEntry("mnuFileExit"), &QAction::triggered, this, [this] { unload(UnloadMode::code); });
-    connect(menuEntry("mnuLogWindow"), &QAction::toggled, this, &frmMain::Form_Resize);
+    connectMenus();
+}
+
+void frmMain::connectMenus()
+{
+    const auto on = [this](const char *entry, const auto &procedure) {
+        connect(m_menus.entry(entry), &QAction::triggered, this, procedure);
+    };
+    on("mnuFileOpen", [this] { showFileOpen(*this); });
+    on("mnuFilePageSetup", [this] { showPageSetup(*this); });
+    on("mnuFileExit", [this] { unload(UnloadMode::code); });
+    on("mnuPrivateChat", [this] { m_engine->commands.mnuPrivateChat(selectedContact()); });
+    on("mnuBuzzUser", [this] { m_engine->commands.mnuBuzzUser(selectedContact()); });
+    on("mnuRemoveUser", [this] { m_engine->commands.mnuRemoveUser(selectedContact()); });
+    connect(m_menus.entry("mnuLogWindow"), &QAction::toggled, this, &frmMain::Form_Resize);
 }
 
 void frmMain::connectContacts()
@@ -246,15 +208,12 @@ void frmMain::connectContacts()
     connect(ListView1, &ContactView::pointedAt, this, &frmMain::ListView1_MouseMove);
     connect(ListView1, &ContactView::menuWanted, this, &frmMain::mnuPopUp_Show);
     connect(ListView1->selectionModel(), &QItemSelectionModel::selectionChanged, this, &frmMain::refreshContextMenu);
-    connect(&m_engine->contacts, &ContactList::dataChanged, this, &frmMain::showItemDetails);
+    connect(&m_engine->contacts, &ContactList::dataChanged, this,
+            [this](const QModelIndex &first, const QModelIndex &last) { contactsChanged(first.row(), last.row()); });
     connect(TabStrip1, &QTabBar::currentChanged, this, &frmMain::TabStrip1_Click);
     connect(ListDetails, &QCheckBox::toggled, this, &frmMain::ListDetails_Click);
     connect(RescanBtn, &QPushButton::clicked, this, &frmMain::RescanBtn_Click);
     connect(buzzmute, &QCheckBox::toggled, this, [this](bool muted) { m_engine->common.buzzmute = muted; });
-    connect(menuEntry("mnuPrivateChat"), &QAction::triggered, this,
-            [this] { m_engine->commands.mnuPrivateChat(selectedContact()); });
-    connect(menuEntry("mnuRemoveUser"), &QAction::triggered, this,
-            [this] { m_engine->commands.mnuRemoveUser(selectedContact()); });
 }
 
 void frmMain::connectOwnState()
@@ -389,7 +348,7 @@ void frmMain::Form_Resize()
 {
     if (isMinimized())
         return;
-    const bool logShown = menuEntry("mnuLogWindow")->isChecked();
+    const bool logShown = m_menus.entry("mnuLogWindow")->isChecked();
     setFixedWidth(pixels(main_layout::width(logShown)));
     const double windowHeight = twips(height());
     const int listHeight = pixels(main_layout::listHeight(windowHeight));
@@ -478,21 +437,22 @@ void frmMain::ListView1_MouseMove(const QString &ip)
 void frmMain::mnuPopUp_Show(const QPoint &position)
 {
     refreshContextMenu();
-    mnuPopUp->popup(position);
+    m_menus.popUp(position);
 }
 
 void frmMain::refreshContextMenu()
 {
-    const ContactMenuCaptions captions = m_engine->commands.captions(selectedContact());
-    const bool selected = !selectedContact().isEmpty();
-    menuEntry("mnuPrivateChat")->setEnabled(selected);
-    menuEntry("mnuRemoveUser")->setEnabled(selected);
-    menuEntry("mnuPrivateChat")->setText(captions.mnuPrivateChat);
-    menuEntry("mnuBuzzUser")->setText(captions.mnuBuzzUser);
-    menuEntry("mnuRemoveUser")->setText(captions.mnuRemoveUser);
-    menuEntry("mnusendcontacts")->setText(captions.mnusendcontacts);
-    menuEntry("mnuinviteuser")->setText(captions.mnuinviteuser);
+    const QString contact = selectedContact();
+    m_menus.setContact(m_engine->commands.captions(contact), !contact.isEmpty());
     showItemDetails();
+}
+
+/// What names the selected contact follows it.
+void frmMain::contactsChanged(int firstRow, int lastRow)
+{
+    const int selected = ListView1->selectedRow();
+    if (selected >= firstRow && selected <= lastRow)
+        refreshContextMenu();
 }
 
 void frmMain::showItemDetails()
@@ -599,6 +559,11 @@ void frmMain::setCaption(const QString &caption)
 {
     m_caption = caption;
     setWindowCaption(*this, caption);
+}
+
+void frmMain::setActivityPanel(const QString &text)
+{
+    m_activity->setText(text);
 }
 
 void frmMain::setTroublePanel(const QString &text)

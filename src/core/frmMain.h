@@ -1,6 +1,7 @@
 // The main window.
 #pragma once
 
+#include "core/main_menus.h"
 #include "core/main_window_view.h"
 #include "core/unload_mode.h"
 
@@ -80,6 +81,7 @@ public:
     QString caption() const override { return m_caption; }
     void setPlace(const WindowPlace &place) override;
     WindowPlace place() const override;
+    void setActivityPanel(const QString &text) override;
     void setTroublePanel(const QString &text) override;
 
 protected:
@@ -91,16 +93,14 @@ protected:
 
 private:
     void buildControls();
-    void buildMenuBar();
-    void buildPopUpMenu();
     void buildOwnState(QWidget *parent);
     void buildContacts(QWidget *parent);
     void buildStatusBar();
     void orderControls();
     void fitFonts();
     void connectContacts();
+    void connectMenus();
     void connectOwnState();
-    QAction *menuEntry(const char *name) const;
 
     void Form_Resize();
     int bottomRowHeight() const;
@@ -121,6 +121,7 @@ private:
     void ImageCombo1_Click(int index);
     void personalizedStateChosen(Picture base, const QString &text);
     void autoReplyClosed();
+    void contactsChanged(int firstRow, int lastRow);
     void showItemDetails();
 
     std::optional<MainWindowEngine> m_engine;
@@ -128,9 +129,9 @@ private:
     QString m_caption;
     WindowPlace m_place;
 
+    MainMenus m_menus;
     QWidget &m_outtextWidget;
     RichTextLog &m_outtext;
-    QMenu *mnuPopUp = nullptr;
     QComboBox *ImageCombo1 = nullptr;
     QTabBar *TabStrip1 = nullptr;
     ContactView *ListView1 = nullptr;

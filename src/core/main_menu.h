@@ -1,45 +1,96 @@
-// The menus of the main window as a table.
+// The menus of the main window as tables.
 #pragma once
 
 #include <QCoreApplication>
 
 #include <array>
+#include <span>
 
 namespace nimb
 {
 
 struct MenuEntry {
     const char *name; ///< object name; null for a separator
-    const char *caption;
+    const char *caption = nullptr;
 };
 
 struct Menu {
     const char *name;
     const char *caption;
-    std::array<MenuEntry, 4> entries; ///< unused ones have neither name nor caption
+    std::span<const MenuEntry> entries;
 };
 
+namespace main_menu
+{
+
+inline constexpr MenuEntry separator = {nullptr};
+
+/// Exit, Open and Page Setup act; the others are there without doing anything.
+inline constexpr std::array file = {
+    MenuEntry{"mnuFileNew", QT_TRANSLATE_NOOP("MainMenu", "New")},
+    MenuEntry{"mnuFileOpen", QT_TRANSLATE_NOOP("MainMenu", "Open")},
+    MenuEntry{"mnuFileClose", QT_TRANSLATE_NOOP("MainMenu", "Close")},
+    separator,
+    MenuEntry{"mnuFileSave", QT_TRANSLATE_NOOP("MainMenu", "Save")},
+    MenuEntry{"mnuFileSaveAs", QT_TRANSLATE_NOOP("MainMenu", "Save As")},
+    MenuEntry{"mnuFileSaveAll", QT_TRANSLATE_NOOP("MainMenu", "Save All")},
+    separator,
+    MenuEntry{"mnuFileProperties", QT_TRANSLATE_NOOP("MainMenu", "Properties")},
+    separator,
+    MenuEntry{"mnuFilePageSetup", QT_TRANSLATE_NOOP("MainMenu", "Page Setup")},
+    MenuEntry{"mnuFilePrintPreview", QT_TRANSLATE_NOOP("MainMenu", "Print Preview")},
+    MenuEntry{"mnuFilePrint", QT_TRANSLATE_NOOP("MainMenu", "Print")},
+    separator,
+    MenuEntry{"mnuFileSend", QT_TRANSLATE_NOOP("MainMenu", "Send")},
+    separator,
+    MenuEntry{"mnuFileMRU1", QT_TRANSLATE_NOOP("MainMenu", "Recent File 1")},
+    MenuEntry{"mnuFileMRU2", QT_TRANSLATE_NOOP("MainMenu", "Recent File 2")},
+    MenuEntry{"mnuFileMRU3", QT_TRANSLATE_NOOP("MainMenu", "Recent File 3")},
+    separator,
+    MenuEntry{"mnuFileExit", QT_TRANSLATE_NOOP("MainMenu", "E&xit")},
+};
+inline constexpr std::array users = {
+    MenuEntry{"mnuNetworkscan", QT_TRANSLATE_NOOP("MainMenu", "&Network scan...")},
+    MenuEntry{"mnuAddUser", QT_TRANSLATE_NOOP("MainMenu", "&Add offline user...")},
+};
+inline constexpr std::array conference = {
+    MenuEntry{"mnuCreateNewConf", QT_TRANSLATE_NOOP("MainMenu", "Create &new...")},
+    MenuEntry{"mnushowinvitations", QT_TRANSLATE_NOOP("MainMenu", "View &invitations...")},
+};
+inline constexpr std::array tools = {
+    MenuEntry{"mnuLogWindow", QT_TRANSLATE_NOOP("MainMenu", "Show &Log Window")},
+    MenuEntry{"mnuToolsOptions", QT_TRANSLATE_NOOP("MainMenu", "&Options...")},
+};
+inline constexpr std::array help = {
+    MenuEntry{"mnuHelpContents", QT_TRANSLATE_NOOP("MainMenu", "&Contents")},
+    MenuEntry{"mnuHelpSearchForHelpOn", QT_TRANSLATE_NOOP("MainMenu", "&Search For Help On...")},
+    MenuEntry{"mnuTOTD", QT_TRANSLATE_NOOP("MainMenu", "&Tip of the day...")},
+    MenuEntry{"mnuHelpAbout", QT_TRANSLATE_NOOP("MainMenu", "&About")},
+};
+
+} // namespace main_menu
+
 inline constexpr std::array mainMenus = {
-    Menu{
-        "mnuFile", QT_TRANSLATE_NOOP("MainMenu", "&File"), {{{"mnuFileExit", QT_TRANSLATE_NOOP("MainMenu", "E&xit")}}}},
-    Menu{"mnuUsers",
-         QT_TRANSLATE_NOOP("MainMenu", "&Users"),
-         {{{"mnuNetworkscan", QT_TRANSLATE_NOOP("MainMenu", "&Network scan...")},
-           {"mnuAddUser", QT_TRANSLATE_NOOP("MainMenu", "&Add offline user...")}}}},
-    Menu{"mnuConference",
-         QT_TRANSLATE_NOOP("MainMenu", "&Conference"),
-         {{{"mnuCreateNewConf", QT_TRANSLATE_NOOP("MainMenu", "Create &new...")},
-           {"mnushowinvitations", QT_TRANSLATE_NOOP("MainMenu", "View &invitations...")}}}},
-    Menu{"mnuTools",
-         QT_TRANSLATE_NOOP("MainMenu", "&Tools"),
-         {{{"mnuLogWindow", QT_TRANSLATE_NOOP("MainMenu", "Show &Log Window")},
-           {"mnuToolsOptions", QT_TRANSLATE_NOOP("MainMenu", "&Options...")}}}},
-    Menu{"mnuHelp",
-         QT_TRANSLATE_NOOP("MainMenu", "&Help"),
-         {{{"mnuHelpContents", QT_TRANSLATE_NOOP("MainMenu", "&Contents")},
-           {"mnuHelpSearchForHelpOn", QT_TRANSLATE_NOOP("MainMenu", "&Search For Help On...")},
-           {"mnuTOTD", QT_TRANSLATE_NOOP("MainMenu", "&Tip of the day...")},
-           {"mnuHelpAbout", QT_TRANSLATE_NOOP("MainMenu", "&About")}}}},
+    Menu{"mnuFile", QT_TRANSLATE_NOOP("MainMenu", "&File"), main_menu::file},
+    Menu{"mnuUsers", QT_TRANSLATE_NOOP("MainMenu", "&Users"), main_menu::users},
+    Menu{"mnuConference", QT_TRANSLATE_NOOP("MainMenu", "&Conference"), main_menu::conference},
+    Menu{"mnuTools", QT_TRANSLATE_NOOP("MainMenu", "&Tools"), main_menu::tools},
+    Menu{"mnuHelp", QT_TRANSLATE_NOOP("MainMenu", "&Help"), main_menu::help},
+};
+
+/// The context menu of the contact list; its first entry is the default one. The five of the conferences stand for
+/// their slots 1 to 5.
+inline constexpr std::array contactMenu = {
+    MenuEntry{"mnuPrivateChat", QT_TRANSLATE_NOOP("MainMenu", "&Private Chat")},
+    MenuEntry{"mnuBuzzUser", QT_TRANSLATE_NOOP("MainMenu", "&Buzz User")},
+    MenuEntry{"mnuInvite2Conf1", QT_TRANSLATE_NOOP("MainMenu", "Invite to Conference #&1")},
+    MenuEntry{"mnuInvite2Conf2", QT_TRANSLATE_NOOP("MainMenu", "Invite to Conference #&2")},
+    MenuEntry{"mnuInvite2Conf3", QT_TRANSLATE_NOOP("MainMenu", "Invite to Conference #&3")},
+    MenuEntry{"mnuInvite2Conf4", QT_TRANSLATE_NOOP("MainMenu", "Invite to Conference #&4")},
+    MenuEntry{"mnuInvite2Conf5", QT_TRANSLATE_NOOP("MainMenu", "Invite to Conference #&5")},
+    MenuEntry{"mnusendcontacts", QT_TRANSLATE_NOOP("MainMenu", "Send &Contacts")},
+    MenuEntry{"mnuRemoveUser", QT_TRANSLATE_NOOP("MainMenu", "Re&move User")},
+    MenuEntry{"mnuinviteuser", QT_TRANSLATE_NOOP("MainMenu", "I&nvite user")},
 };
 
 } // namespace nimb

@@ -39,11 +39,15 @@ void MainWindow::loadSettings(QStringList &notices)
     m_parts.port.open();
 }
 
-CloseDecision MainWindow::Form_QueryUnload(UnloadMode mode) const
+CloseDecision MainWindow::Form_QueryUnload(UnloadMode mode)
 {
     if (mode != UnloadMode::closeBox || m_parts.common.options.CloseButtonDoesMinimize != 1)
         return CloseDecision::unload;
-    return m_parts.tray.isShown() ? CloseDecision::hide : CloseDecision::minimise;
+    if (m_parts.tray.isShown())
+        return CloseDecision::hide;
+    if (!std::exchange(m_saidWhyMinimised, true))
+        m_parts.log.remark(tr("--- this desktop shows no tray icon: NIMB-Chat is minimised instead of hidden ---"));
+    return CloseDecision::minimise;
 }
 
 void MainWindow::Form_Unload()

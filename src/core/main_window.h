@@ -44,7 +44,7 @@ public:
 
     void Form_Load();
     /// Whether the window is to be unloaded, or what else happens to it.
-    CloseDecision Form_QueryUnload(UnloadMode mode) const;
+    CloseDecision Form_QueryUnload(UnloadMode mode);
     /// Ends everything that the window owns: windows are unloaded, contacts told, contacts and settings saved.
     void Form_Unload();
 
@@ -54,6 +54,7 @@ private:
     void save();
 
     Parts m_parts;
+    bool m_saidWhyMinimised = false;
 };
 
 } // namespace nimb

@@ -50,7 +50,14 @@ public:
     virtual void setPersonalizedStateVisible(bool visible) = 0;
 };
 
-class MainWindowView : public MainLogView, public AnnouncementView, public OwnStateView
+class ActivityView
+{
+public:
+    virtual ~ActivityView() = default;
+    virtual void setActivityPanel(const QString &text) = 0;
+};
+
+class MainWindowView : public MainLogView, public AnnouncementView, public OwnStateView, public ActivityView
 {
 public:
     void setRescanEnabled(bool enabled) override = 0;

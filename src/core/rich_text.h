@@ -23,6 +23,9 @@ public:
     virtual void setSelFont(const LogFont &font) = 0;
     /// Replaces the selection by plain text; CR LF is a line break.
     virtual void setSelText(const QString &text) = 0;
+    /// Replaces the selection by a fragment of rich text, which may be a picture; see private/metafile.h for its form.
+    /// alternative: the text it stands for, for whoever copies or cannot see it, and for a fragment that is none.
+    virtual void setSelRtf(const QString &fragment, const QString &alternative) = 0;
     virtual void clear() = 0;
 };
 
@@ -32,6 +35,13 @@ inline void appendText(RichTextLog &log, const QString &text, Colour colour)
     log.setSelStart(log.textLength());
     log.setSelColor(colour);
     log.setSelText(text);
+}
+
+/// Appends a picture at the end of the log and leaves the caret behind it.
+inline void appendPicture(RichTextLog &log, const QString &fragment, const QString &alternative)
+{
+    log.setSelStart(log.textLength());
+    log.setSelRtf(fragment, alternative);
 }
 
 } // namespace nimb

@@ -13,7 +13,6 @@ Started SubMain(const QString &commandLine, Common &common, const SettingsStore 
         steps.restoreOtherCopy(mainCaption(readSetting(store, QLatin1String("MyNickName"))));
         return Started::handedOver;
     }
-    steps.InitEmoticonTables();
     common.avatarHead.clear();
     common.avatarBody.clear();
     common.windowFlashingAvailable = isWindowFlashingAvailable(runningSystem());

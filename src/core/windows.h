@@ -15,7 +15,6 @@ public:
     virtual bool anotherCopyRuns() = 0;
     /// Asks that copy to restore its main window if the window bears this caption.
     virtual void restoreOtherCopy(const QString &caption) = 0;
-    virtual void InitEmoticonTables() = 0;
     virtual void loadNotify() = 0;
     /// Shows the login dialog until the user ends it; the own nickname is set then, unless it was closed.
     virtual void showLogin() = 0;

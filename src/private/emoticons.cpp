@@ -1,13 +1,72 @@
 #include "private/emoticons.h"
 
 #include "core/remote_text.h"
+#include "private/emoticon_tables.h"
+#include "private/metafile.h"
+
+#include <algorithm>
+#include <optional>
 
 namespace nimb
 {
+namespace
+{
+
+constexpr int picturesACall = 10;
+
+struct Match {
+    std::size_t picture; ///< from 1
+    qsizetype length;
+};
+
+bool beginsInUpperCase(QStringView rest, QLatin1String text)
+{
+    return rest.size() >= text.size() && std::equal(text.begin(), text.end(), rest.begin(), [](char letter, QChar c) {
+               return QChar::fromLatin1(letter).toUpper() == c;
+           });
+}
+
+/// The first emoticon of the table with which the text begins, as it is written there or all in upper case.
+std::optional<Match> emoticonAt(QStringView rest)
+{
+    for (std::size_t i = 0; i < emoticonTables.texts.size(); ++i) {
+        const QLatin1String text = emoticonTables.texts[i];
+        if (rest.startsWith(text) || beginsInUpperCase(rest, text))
+            return Match{i / 2 + 1, text.size()};
+    }
+    return std::nullopt;
+}
+
+qsizetype firstTrigger(QStringView rest)
+{
+    const auto found = std::find_if(rest.begin(), rest.end(), [](QChar c) { return c == u':' || c == u';'; });
+    return found == rest.end() ? -1 : found - rest.begin();
+}
+
+} // namespace
 
 void AddTextWithEmoticons(RichTextLog &log, const QString &text, Colour colour)
 {
-    appendText(log, shownText(text), colour);
+    const QString shown = shownText(text);
+    QStringView rest = shown;
+    int pictures = 0;
+    for (;;) {
+        const qsizetype trigger = firstTrigger(rest);
+        if (trigger < 0)
+            return appendText(log, rest.toString(), colour);
+        appendText(log, rest.left(trigger).toString(), colour);
+        rest = rest.mid(trigger);
+
+        const std::optional<Match> match = emoticonAt(rest);
+        const qsizetype length = match ? match->length : 1;
+        if (match && pictures < picturesACall) {
+            appendPicture(log, emoticonFragment(match->picture), rest.left(length).toString());
+            ++pictures;
+        } else {
+            appendText(log, rest.left(length).toString(), colour);
+        }
+        rest = rest.mid(length);
+    }
 }
 
 } // namespace nimb

@@ -1,10 +1,13 @@
 #include "private/frmPrivate.h"
 
+#include "core/elided_label.h"
 #include "core/form_layout.h"
 #include "core/form_text.h"
 #include "core/log_font.h"
 #include "core/pictures.h"
 #include "core/window_attention.h"
+#include "private/RTFSubClass.h"
+#include "private/emoticon_picker.h"
 #include "private/message_input.h"
 #include "private/private_chat.h"
 #include "private/rich_text_log.h"
@@ -27,13 +30,14 @@ using form_layout::margin;
 using form_layout::spacing;
 } // namespace
 
-frmPrivate::frmPrivate(PrivateChat &chat) : m_chat(&chat)
+frmPrivate::frmPrivate(PrivateChat &chat, RTFSubClass &links) : m_chat(&chat), m_links(links)
 {
     setObjectName(QStringLiteral("frmPrivate"));
     setWindowTitle(tr("NIMB-Chat - Private Chat"));
     setWindowIcon(programIcon());
     buildControls();
     connectControls();
+    m_links.HookRichText(*m_outtext, *this);
     resize(600, 420);
 }
 
@@ -49,6 +53,10 @@ void frmPrivate::buildControls()
     futuretype->setReadOnly(true);
     futuretype->setFocusPolicy(Qt::NoFocus);
     futuretype->hide();
+
+    ListViewEmot = new EmoticonPicker(this);
+    ListViewEmot->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    ListViewEmot->hide();
 
     intext = new MessageInput(this);
     intext->setObjectName(QStringLiteral("intext"));
@@ -69,6 +77,7 @@ void frmPrivate::buildControls()
     column->setContentsMargins(margin, margin, margin, spacing);
     column->setSpacing(spacing);
     column->addWidget(m_outtext, 1);
+    column->addWidget(ListViewEmot);
     column->addLayout(makeToolRow());
     column->addLayout(input);
 
@@ -96,6 +105,7 @@ QToolButton *frmPrivate::makeToolButton(const QString &name, const QString &capt
 QHBoxLayout *frmPrivate::makeToolRow()
 {
     Emoticbtn = makeToolButton(QStringLiteral("Emoticbtn"), tr("Emoticons"), QStringLiteral("emoticons"));
+    Emoticbtn->setCheckable(true);
     BuzzBtn = makeToolButton(QStringLiteral("BuzzBtn"), tr("Buzz!"), QStringLiteral("buzz"));
     BuzzBtn->setToolTip(tr("(CTRL+G)"));
     datetimebtn = makeToolButton(QStringLiteral("datetimebtn"), tr("Date&&Time"), QStringLiteral("datetime"));
@@ -104,7 +114,7 @@ QHBoxLayout *frmPrivate::makeToolRow()
     moodbtn = makeToolButton(QStringLiteral("moodbtn"), tr("Mood"), QStringLiteral("mood"));
     AvatarBtn = makeToolButton(QStringLiteral("AvatarBtn"), tr("Avatar"), QStringLiteral("avatar"));
     clearbtn = makeToolButton(QStringLiteral("clearbtn"), tr("Clear"), QStringLiteral("clear"));
-    for (QWidget *notYet : std::initializer_list<QWidget *>{Emoticbtn, BuzzBtn, livetypebtn, moodbtn, AvatarBtn})
+    for (QWidget *notYet : std::initializer_list<QWidget *>{BuzzBtn, livetypebtn, moodbtn, AvatarBtn})
         notYet->setEnabled(false);
 
     auto *const row = new QHBoxLayout;
@@ -124,12 +134,10 @@ QWidget *frmPrivate::makeStatusBar()
     row->setContentsMargins(margin, 0, margin, spacing);
     row->setSpacing(2 * spacing);
     for (int i = 0; i < 2; ++i) {
-        m_panels[i] = new QLabel(bar);
+        m_panels[i] = new ElidedLabel(bar);
         m_panels[i]->setObjectName(QStringLiteral("StatusBar_%1").arg(i + 1));
-        m_panels[i]->setTextFormat(Qt::PlainText);
-        row->addWidget(m_panels[i]);
+        row->addWidget(m_panels[i], i);
     }
-    row->addStretch(1);
     rIP = new QLineEdit(bar);
     rIP->setObjectName(QStringLiteral("rIP"));
     rIP->setAccessibleName(tr("Address of the peer"));
@@ -151,6 +159,8 @@ void frmPrivate::connectControls()
     connect(intext, &MessageInput::entered, sendbtn, &QPushButton::click);
     connect(clearbtn, &QToolButton::clicked, this, &frmPrivate::clearbtn_Click);
     connect(datetimebtn, &QToolButton::clicked, this, &frmPrivate::datetimebtn_Click);
+    connect(Emoticbtn, &QToolButton::toggled, this, &frmPrivate::Emoticbtn_Click);
+    connect(ListViewEmot, &EmoticonPicker::picked, this, &frmPrivate::ListViewEmot_ItemClick);
     connect(m_outtext, &QTextEdit::textChanged, this, &frmPrivate::outtext_Change);
 }
 
@@ -170,6 +180,17 @@ void frmPrivate::clearbtn_Click()
 void frmPrivate::datetimebtn_Click()
 {
     intext->insertPlainText(m_chat->dateAndTime());
+    intext->setFocus();
+}
+
+void frmPrivate::Emoticbtn_Click(bool shown)
+{
+    ListViewEmot->setVisible(shown);
+}
+
+void frmPrivate::ListViewEmot_ItemClick(const QString &emoticon)
+{
+    setTypedText(*intext, typedText(*intext) + emoticon);
     intext->setFocus();
 }
 
@@ -198,8 +219,14 @@ void frmPrivate::closeEvent(QCloseEvent *event)
     m_chat->Form_Unload();
 }
 
+void frmPrivate::Form_Unload()
+{
+    m_links.UnhookRichText(*m_outtext);
+}
+
 void frmPrivate::letGo()
 {
+    Form_Unload();
     m_chat = nullptr;
     hide();
     deleteLater();
@@ -223,7 +250,7 @@ void frmPrivate::setPeerAddress(const QString &ip)
 void frmPrivate::setLogFont(const LogFont &font)
 {
     intext->setFont(fontOf(font));
-    m_outtext->setFont(fontOf(font));
+    m_outtext->setSelFont(font);
 }
 
 void frmPrivate::setPanel(int number, const QString &text)

@@ -17,7 +17,9 @@ class QToolButton;
 namespace nimb
 {
 
+class EmoticonPicker;
 class MessageInput;
+class RTFSubClass;
 class RichTextLogEdit;
 
 class frmPrivate : public QWidget, public PrivateChatView
@@ -25,7 +27,8 @@ class frmPrivate : public QWidget, public PrivateChatView
     Q_OBJECT
 
 public:
-    explicit frmPrivate(PrivateChat &chat);
+    /// links: opens what is pressed in the log; outlives the window.
+    frmPrivate(PrivateChat &chat, RTFSubClass &links);
 
     RichTextLog &outtext() override;
     void setCaption(const QString &caption) override;
@@ -51,18 +54,23 @@ private:
     QWidget *makeStatusBar();
     void connectControls();
 
+    void Form_Unload();
     void sendbtn_Click();
     void clearbtn_Click();
     void datetimebtn_Click();
+    void Emoticbtn_Click(bool shown);
+    void ListViewEmot_ItemClick(const QString &emoticon);
     void outtext_Change();
     /// True when the window is to be unloaded; otherwise it has been hidden.
     bool Form_QueryUnload(UnloadMode mode);
 
     PrivateChat *m_chat; ///< null once the window was let go
+    RTFSubClass &m_links;
 
     QLineEdit *rIP = nullptr;
     RichTextLogEdit *m_outtext = nullptr;
     QPlainTextEdit *futuretype = nullptr;
+    EmoticonPicker *ListViewEmot = nullptr;
     MessageInput *intext = nullptr;
     QPushButton *sendbtn = nullptr;
     QToolButton *clearbtn = nullptr;

@@ -10,10 +10,15 @@
 
 namespace nimb
 {
+namespace
+{
+constexpr std::chrono::milliseconds peerActivityShown{2500};
+}
 
 PrivateChat::PrivateChat(const Services &services, std::function<void()> unloaded)
     : m_services(services), m_unloaded(std::move(unloaded)),
       m_autoReplyTimer(services.timers.oneShot(limits::autoReplyPause, [] {})),
+      m_timer(services.timers.oneShot(peerActivityShown, [this] { m_view->setPanel(2, {}); })),
       m_view(services.forms.makePrivateForm(*this))
 {
     m_view->setLogFont(services.common.logFont);
@@ -69,6 +74,23 @@ void PrivateChat::replyAutomatically(const char *state, bool on, const QString &
         return;
     sendDatagram(m_services.socket, m_rIP, wire::PrivateMessage{toWire(QLatin1String("[AutoReply] ") + text)});
     m_autoReplyTimer->start();
+}
+
+void PrivateChat::showPeerActivity(const QString &text)
+{
+    m_view->setPanel(2, text);
+    m_timer->start();
+}
+
+void PrivateChat::buzzed(const QString &text)
+{
+    appendBuzz();
+    showPeerActivity(text);
+}
+
+void PrivateChat::appendBuzz()
+{
+    appendText(m_view->outtext(), QStringLiteral("BUZZ!\r\n"), colours::presence);
 }
 
 void PrivateChat::appendPresence(const QString &line)

@@ -41,6 +41,10 @@ public:
     void preparewindow();
     /// Appends a received message and answers it automatically where that is switched on. msg is trimmed in place.
     void MessageReceived(const QString &nik, QString &msg);
+    /// Shows for a moment what the peer is doing.
+    void showPeerActivity(const QString &text);
+    /// The same for a buzz, which the log keeps.
+    void buzzed(const QString &text);
     /// Appends a line about the peer's presence.
     void appendPresence(const QString &line);
 
@@ -56,6 +60,7 @@ public:
     void Form_Unload();
 
 private:
+    void appendBuzz();
     void appendMessage(const QString &nick, const QString &body, Colour colour);
     void replyAutomatically(const char *state, bool on, const QString &text);
 
@@ -63,6 +68,7 @@ private:
     std::function<void()> m_unloaded;
     QString m_rIP;
     std::unique_ptr<Timer> m_autoReplyTimer;
+    std::unique_ptr<Timer> m_timer; ///< clears the panel of the peer's activity
     ViewPtr<PrivateChatView> m_view;
 };
 

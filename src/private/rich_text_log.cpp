@@ -3,8 +3,17 @@
 #include "core/limits.h"
 #include "core/log_font.h"
 #include "core/muted_colour.h"
+#include "private/link_finder.h"
+#include "private/log_pictures.h"
 
-#include <QEvent>
+#include <QAbstractTextDocumentLayout>
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <QTextBlock>
 
@@ -12,8 +21,44 @@ namespace nimb
 {
 namespace
 {
+
 /// The colour that was asked for, kept so that it can be adapted to another ground.
 constexpr int askedColour = QTextFormat::UserProperty + 1;
+constexpr std::chrono::milliseconds frame{16};
+constexpr qreal smallestLetters = 5, largestLetters = 48; ///< points
+constexpr int wheelNotch = 120;
+
+/// A line in which links are looked for, and where each of its characters stands in the document.
+struct SearchedLine {
+    QString text;
+    std::vector<int> places; ///< one more than characters, the last behind the line
+};
+
+/// Pictures are breaks, for no address holds one. But a picture right behind "mailto" is the colon of the address with
+/// its first letter, as in "mailto:paul@example.org", and is read as such.
+SearchedLine searchedLine(const QTextBlock &block)
+{
+    SearchedLine line;
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        const QTextFragment fragment = it.fragment();
+        const QString alternative = alternativeText(fragment.charFormat());
+        const bool isColon = !alternative.isEmpty() && line.text.endsWith(QLatin1String("mailto"), Qt::CaseInsensitive);
+        const QString text = isColon ? alternative : fragment.text();
+        for (qsizetype i = 0; i < text.size(); ++i)
+            line.places.push_back(fragment.position() + (isColon ? 0 : static_cast<int>(i)));
+        line.text += text;
+    }
+    line.places.push_back(block.position() + block.length() - 1);
+    return line;
+}
+
+/// Cheap, for nearly no line holds one.
+bool mayHoldLink(const QString &line)
+{
+    return line.contains(QLatin1String("://")) || line.contains(QLatin1String("www."), Qt::CaseInsensitive)
+        || line.contains(QLatin1String("mailto"), Qt::CaseInsensitive);
+}
+
 } // namespace
 
 QColor screenColour(Colour colour)
@@ -33,9 +78,41 @@ RichTextLogEdit::RichTextLogEdit(QWidget *parent)
     setUndoRedoEnabled(false);
     setAcceptDrops(false);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    viewport()->setMouseTracking(true);
     addScrollBarWidget(m_above, Qt::AlignTop);
     addScrollBarWidget(m_below, Qt::AlignBottom);
     setInsets(0, 0);
+
+    m_pictures = new LogPictures([this] { return devicePixelRatioF() * zoomFactor(); },
+                                 [this] { return devicePixelRatioF(); }, this);
+    document()->documentLayout()->registerHandler(QTextFormat::ImageObject, m_pictures);
+    m_frame.setSingleShot(true);
+    m_frame.setTimerType(Qt::PreciseTimer);
+    connect(&m_frame, &QTimer::timeout, this, &RichTextLogEdit::writeGathered);
+    buildCommands();
+}
+
+RichTextLogEdit::~RichTextLogEdit() = default;
+
+void RichTextLogEdit::buildCommands()
+{
+    const auto add
+        = [this](const char *name, const QString &caption, const QList<QKeySequence> &keys, const auto &triggered) {
+              auto *const action = new QAction(caption, this);
+              action->setObjectName(QLatin1String(name));
+              action->setShortcuts(keys);
+              connect(action, &QAction::triggered, this, triggered);
+              return action;
+          };
+    // The text control has the keys of these two already.
+    m_copy = add("logCopy", tr("&Copy\tCtrl+C"), {}, [this] { copy(); });
+    m_selectAll = add("logSelectAll", tr("Select &All\tCtrl+A"), {}, [this] { selectAll(); });
+    const QList<QKeySequence> larger = {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)};
+    m_zoomIn = add("logZoomIn", tr("Zoom &In"), larger, [this] { zoom(m_zoom + 1); });
+    m_zoomOut
+        = add("logZoomOut", tr("Zoom &Out"), {QKeySequence(Qt::CTRL | Qt::Key_Minus)}, [this] { zoom(m_zoom - 1); });
+    m_resetZoom = add("logResetZoom", tr("&Normal Size"), {QKeySequence(Qt::CTRL | Qt::Key_0)}, [this] { zoom(0); });
+    addActions({m_zoomIn, m_zoomOut, m_resetZoom});
 }
 
 void RichTextLogEdit::setInsets(int above, int below)
@@ -45,13 +122,23 @@ void RichTextLogEdit::setInsets(int above, int below)
     m_below->setFixedHeight(below);
 }
 
+// --- writing
+
 qsizetype RichTextLogEdit::textLength() const
 {
-    return document()->characterCount() - 1;
+    return document()->characterCount() - 1 + m_gatheredLength;
+}
+
+qsizetype RichTextLogEdit::caretPosition() const
+{
+    return m_caret.position() + m_gatheredLength;
 }
 
 void RichTextLogEdit::setSelStart(qsizetype position)
 {
+    if (position == caretPosition())
+        return;
+    writeGathered();
     m_caret.setPosition(static_cast<int>(qBound<qsizetype>(0, position, textLength())));
 }
 
@@ -63,30 +150,93 @@ void RichTextLogEdit::setSelColor(Colour colour)
 
 void RichTextLogEdit::setSelFont(const LogFont &font)
 {
-    m_format.setFont(fontOf(font));
+    m_font = font;
+    applyFont();
 }
 
 void RichTextLogEdit::setSelText(const QString &text)
 {
+    // One character a line break, as the document counts. The two that it would take for frames are no text.
+    QString plain = text;
+    plain.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    plain.replace(QChar(0xFDD0), QChar::ReplacementCharacter).replace(QChar(0xFDD1), QChar::ReplacementCharacter);
+    gather(plain, m_format);
+}
+
+void RichTextLogEdit::setSelRtf(const QString &fragment, const QString &alternative)
+{
+    if (const std::optional<QTextImageFormat> picture = m_pictures->format(fragment, alternative))
+        gather(QString(QChar::ObjectReplacementCharacter), *picture);
+    else
+        setSelText(alternative);
+}
+
+void RichTextLogEdit::gather(const QString &text, const QTextCharFormat &format)
+{
+    if (text.isEmpty())
+        return;
+    m_gathered.push_back({text, format});
+    m_gatheredLength += text.size();
+    if (m_frame.isActive())
+        return;
+    const std::chrono::milliseconds since(m_sinceWritten.isValid() ? m_sinceWritten.elapsed() : frame.count());
+    m_frame.start(qMax(frame - since, std::chrono::milliseconds(0)));
+}
+
+void RichTextLogEdit::writeGathered()
+{
+    m_frame.stop();
+    if (m_gathered.empty())
+        return;
     const bool follow = isAtEnd();
+    const int firstLine = m_caret.block().position();
     m_caret.beginEditBlock();
-    m_caret.insertText(text, m_format);
+    insertGathered();
+    if (m_detectsLinks)
+        markLinks(document()->findBlock(firstLine));
     dropOldLines();
     m_caret.endEditBlock();
     if (follow)
-        verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+        scrollToEnd();
+    m_sinceWritten.start();
 }
 
-void RichTextLogEdit::clear()
+void RichTextLogEdit::insertGathered()
 {
-    document()->clear();
-    m_caret.setPosition(0);
-    m_format = QTextCharFormat();
+    const QTextCursor reader = textCursor();
+    const int anchor = reader.anchor(), position = reader.position(), place = m_caret.position();
+    for (const Piece &piece : std::exchange(m_gathered, {}))
+        m_caret.insertText(piece.text, piece.format);
+    m_gatheredLength = 0;
+    // New text at the end of what a reader has selected would become part of it.
+    if (qMax(anchor, position) != place)
+        return;
+    QTextCursor kept(document());
+    kept.setPosition(anchor);
+    kept.setPosition(position, QTextCursor::KeepAnchor);
+    setTextCursor(kept);
 }
 
-bool RichTextLogEdit::isAtEnd() const
+/// Looks through this line and those behind it that are complete.
+void RichTextLogEdit::markLinks(QTextBlock line)
 {
-    return verticalScrollBar()->value() >= verticalScrollBar()->maximum();
+    QTextCursor cursor(document());
+    for (; line.isValid() && line.next().isValid(); line = line.next()) {
+        if (!mayHoldLink(line.text()))
+            continue;
+        const SearchedLine searched = searchedLine(line);
+        for (const Link &link : findLinks(searched.text)) {
+            QTextCharFormat format;
+            format.setAnchor(true);
+            format.setAnchorHref(QString::fromLatin1(link.target.toEncoded()));
+            format.setForeground(linkColour());
+            format.setFontUnderline(true);
+            cursor.setPosition(searched.places[static_cast<std::size_t>(link.start)]);
+            cursor.setPosition(searched.places[static_cast<std::size_t>(link.start + link.length)],
+                               QTextCursor::KeepAnchor);
+            cursor.mergeCharFormat(format);
+        }
+    }
 }
 
 void RichTextLogEdit::dropOldLines()
@@ -99,6 +249,60 @@ void RichTextLogEdit::dropOldLines()
     oldest.removeSelectedText();
 }
 
+void RichTextLogEdit::clear()
+{
+    m_gathered.clear();
+    m_gatheredLength = 0;
+    document()->clear();
+    m_caret.setPosition(0);
+    m_format = QTextCharFormat();
+}
+
+bool RichTextLogEdit::isAtEnd() const
+{
+    return verticalScrollBar()->value() >= verticalScrollBar()->maximum();
+}
+
+void RichTextLogEdit::scrollToEnd()
+{
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+// --- how it looks
+
+void RichTextLogEdit::zoom(int points)
+{
+    const bool follow = isAtEnd();
+    m_zoom = points;
+    applyFont();
+    if (follow)
+        scrollToEnd();
+}
+
+void RichTextLogEdit::applyFont()
+{
+    const QFont own = m_font ? fontOf(*m_font) : QApplication::font(this);
+    const qreal smallest = qMin(smallestLetters, own.pointSizeF());
+    const qreal size = qBound(smallest, own.pointSizeF() + m_zoom, largestLetters);
+    m_zoom = qRound(size - own.pointSizeF());
+    // Without a font of its own the log goes on following the desktop's.
+    QFont shown = m_font ? own : QFont();
+    if (m_zoom != 0)
+        shown.setPointSizeF(size);
+    setFont(m_font || m_zoom != 0 ? shown : QFont());
+}
+
+qreal RichTextLogEdit::zoomFactor() const
+{
+    const qreal shown = font().pointSizeF();
+    return shown / (shown - m_zoom);
+}
+
+QColor RichTextLogEdit::linkColour() const
+{
+    return readableOn(palette().color(QPalette::Link), palette().color(QPalette::Base));
+}
+
 void RichTextLogEdit::changeEvent(QEvent *event)
 {
     QTextEdit::changeEvent(event);
@@ -106,8 +310,17 @@ void RichTextLogEdit::changeEvent(QEvent *event)
         adaptColours();
 }
 
+void RichTextLogEdit::resizeEvent(QResizeEvent *event)
+{
+    const bool follow = isAtEnd();
+    QTextEdit::resizeEvent(event);
+    if (follow)
+        scrollToEnd();
+}
+
 void RichTextLogEdit::adaptColours()
 {
+    writeGathered();
     const QColor ground = palette().color(QPalette::Base);
     QTextCursor cursor(document());
     cursor.beginEditBlock();
@@ -119,7 +332,9 @@ void RichTextLogEdit::adaptColours()
             QTextCharFormat format = fragment.charFormat();
             if (!format.hasProperty(askedColour))
                 continue;
-            format.setForeground(readableOn(screenColour(format.property(askedColour).toUInt()), ground));
+            format.setForeground(format.isAnchor()
+                                     ? linkColour()
+                                     : readableOn(screenColour(format.property(askedColour).toUInt()), ground));
             cursor.setPosition(fragment.position());
             cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
             cursor.setCharFormat(format);
@@ -128,6 +343,83 @@ void RichTextLogEdit::adaptColours()
     cursor.endEditBlock();
     if (m_format.hasProperty(askedColour))
         setSelColor(m_format.property(askedColour).toUInt());
+}
+
+// --- the reader's hands
+
+QUrl RichTextLogEdit::linkAt(const QPoint &place) const
+{
+    return QUrl(anchorAt(place), QUrl::StrictMode);
+}
+
+void RichTextLogEdit::mousePressEvent(QMouseEvent *event)
+{
+    const QUrl target = event->button() == Qt::LeftButton ? linkAt(event->position().toPoint()) : QUrl();
+    QTextEdit::mousePressEvent(event);
+    if (!target.isEmpty())
+        Q_EMIT linkPressed(target);
+}
+
+void RichTextLogEdit::mouseMoveEvent(QMouseEvent *event)
+{
+    const QUrl target = linkAt(event->position().toPoint());
+    viewport()->setCursor(target.isEmpty() ? Qt::IBeamCursor : Qt::PointingHandCursor);
+    viewport()->setToolTip(target.isEmpty() ? QString() : readableAddress(target));
+    QTextEdit::mouseMoveEvent(event);
+}
+
+void RichTextLogEdit::wheelEvent(QWheelEvent *event)
+{
+    if (event->modifiers() != Qt::ControlModifier)
+        return QTextEdit::wheelEvent(event);
+    m_wheel += event->angleDelta().y();
+    const int notches = m_wheel / wheelNotch;
+    m_wheel -= notches * wheelNotch;
+    if (notches != 0)
+        zoom(m_zoom + notches);
+    event->accept();
+}
+
+void RichTextLogEdit::contextMenuEvent(QContextMenuEvent *event)
+{
+    auto *const menu = new QMenu(this);
+    menu->setObjectName(QStringLiteral("logMenu"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    m_copy->setEnabled(textCursor().hasSelection());
+    menu->addAction(m_copy);
+    const QUrl target = linkAt(viewport()->mapFromGlobal(event->globalPos()));
+    if (!target.isEmpty())
+        menu->addAction(tr("Copy &Link Address"), this,
+                        [target] { QGuiApplication::clipboard()->setText(QString::fromLatin1(target.toEncoded())); });
+    menu->addAction(m_selectAll);
+    menu->addSeparator();
+    menu->addActions({m_zoomIn, m_zoomOut, m_resetZoom});
+    menu->popup(event->globalPos());
+}
+
+/// Plain text alone, with the texts of the pictures in their places.
+QMimeData *RichTextLogEdit::createMimeDataFromSelection() const
+{
+    const QTextCursor selection = textCursor();
+    QString text;
+    for (QTextBlock block = document()->findBlock(selection.selectionStart());
+         block.isValid() && block.position() < selection.selectionEnd(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            const int from = qMax(fragment.position(), selection.selectionStart());
+            const int to = qMin(fragment.position() + fragment.length(), selection.selectionEnd());
+            if (from >= to)
+                continue;
+            const QString alternative = alternativeText(fragment.charFormat());
+            text += alternative.isEmpty() ? fragment.text().mid(from - fragment.position(), to - from)
+                                          : alternative.repeated(to - from);
+        }
+        if (block.position() + block.length() <= selection.selectionEnd())
+            text += QLatin1Char('\n');
+    }
+    auto *const copied = new QMimeData; // the clipboard takes it over
+    copied->setText(text);
+    return copied;
 }
 
 } // namespace nimb

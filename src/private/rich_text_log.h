@@ -3,42 +3,100 @@
 
 #include "core/rich_text.h"
 
+#include <QElapsedTimer>
+#include <QTextBlock>
 #include <QTextEdit>
+#include <QTimer>
+#include <QUrl>
+
+#include <optional>
+#include <vector>
 
 namespace nimb
 {
 
-/// Append-only and bounded: beyond limits::logLines the oldest lines go. Follows new text only while the reader is
-/// at the end. Colours are adapted to the ground, and again when it changes.
+class LogPictures;
+
+/// Bounded: beyond limits::logLines the oldest lines go. What is written is gathered and goes in at most once a frame,
+/// so that a burst costs one layout and one painting. Follows new text only while the reader is at the end. Colours
+/// are adapted to the ground, and again when it changes.
 class RichTextLogEdit : public QTextEdit, public RichTextLog
 {
     Q_OBJECT
 
 public:
     explicit RichTextLogEdit(QWidget *parent = nullptr);
+    ~RichTextLogEdit() override;
 
     /// Empty strips above and below the text area, in pixels, that show the window's ground.
     void setInsets(int above, int below);
+    /// Turns web addresses in lines that are completed from now on into links.
+    void setLinkDetection(bool on) { m_detectsLinks = on; }
+    /// Larger or smaller letters by this many points; 0 goes back to the font's own size.
+    void zoom(int points);
+    /// Puts in what has been gathered.
+    void writeGathered();
 
     qsizetype textLength() const override;
     void setSelStart(qsizetype position) override;
     void setSelColor(Colour colour) override;
+    /// The font of the whole log.
     void setSelFont(const LogFont &font) override;
     void setSelText(const QString &text) override;
+    void setSelRtf(const QString &fragment, const QString &alternative) override;
     void clear() override;
+
+Q_SIGNALS:
+    /// The left button was pressed on a link.
+    void linkPressed(const QUrl &target);
 
 protected:
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    QMimeData *createMimeDataFromSelection() const override;
 
 private:
+    struct Piece {
+        QString text;
+        QTextCharFormat format;
+    };
+
+    void buildCommands();
+    qsizetype caretPosition() const;
+    void gather(const QString &text, const QTextCharFormat &format);
     bool isAtEnd() const;
+    void scrollToEnd();
+    void insertGathered();
+    void markLinks(QTextBlock line);
     void dropOldLines();
     void adaptColours();
+    void applyFont();
+    qreal zoomFactor() const;
+    QColor linkColour() const;
+    QUrl linkAt(const QPoint &place) const;
 
     QTextCursor m_caret;
     QTextCharFormat m_format;
+    std::optional<LogFont> m_font;
+    int m_zoom = 0; ///< points
+    bool m_detectsLinks = false;
+    std::vector<Piece> m_gathered;
+    qsizetype m_gatheredLength = 0;
+    QTimer m_frame;
+    QElapsedTimer m_sinceWritten;
+    int m_wheel = 0; ///< turned since the last whole notch, in eighths of a degree
+    LogPictures *m_pictures;
     QWidget *m_above;
     QWidget *m_below;
+    QAction *m_copy = nullptr;
+    QAction *m_selectAll = nullptr;
+    QAction *m_zoomIn = nullptr;
+    QAction *m_zoomOut = nullptr;
+    QAction *m_resetZoom = nullptr;
 };
 
 /// A colour of the logs as the screen takes it, and back.

@@ -20,6 +20,7 @@ public:
     void setSelColor(Colour) override { }
     void setSelFont(const LogFont &) override { }
     void setSelText(const QString &text) override { benchmark::DoNotOptimize(text.size()); }
+    void setSelRtf(const QString &fragment, const QString &) override { benchmark::DoNotOptimize(fragment.size()); }
     void clear() override { }
 };
 
@@ -83,12 +84,13 @@ struct Engine {
     SilentForms forms;
     SilentNotifications notifications;
     RecorderPrompts prompts;
+    RecorderSound sound;
     Steps steps;
     RecorderTray tray{steps};
     RecorderWindows windows{steps};
     DropCounts drops;
-    Messenger messenger{common,
-                        {socket, settings, time, time, prompts, notifications, tray, windows, forms, view, drops}};
+    Messenger messenger{
+        common, {socket, settings, time, time, prompts, notifications, sound, tray, windows, forms, view, drops}};
 };
 
 void dispatch(benchmark::State &state, const char *bytes)

@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
@@ -30,7 +31,7 @@ protected:
     QWidget &form() { return windows.privateWindow(); }
     template <class Widget> Widget &control(const char *name) { return RealWindows::control<Widget>(form(), name); }
     QPlainTextEdit &intext() { return control<QPlainTextEdit>("intext"); }
-    RichTextLogEdit &outtext() { return control<RichTextLogEdit>("outtext"); }
+    RichTextLogEdit &outtext() { return RealWindows::logOf(form()); }
     void type(const QString &text) { QTest::keyClicks(&intext(), text); }
     QString lastLogLine() { return outtext().toPlainText().trimmed().section(u'\n', -1); }
     QColor colourOfLine(int line)
@@ -161,9 +162,109 @@ TEST_F(FrmPrivate, WithTheOptionTheCloseBoxUnloads)
 
 TEST_F(FrmPrivate, FeaturesThatAreNotThereAreDisabled)
 {
-    for (const char *name : {"Emoticbtn", "BuzzBtn", "moodbtn", "AvatarBtn", "livetypebtn"})
+    for (const char *name : {"BuzzBtn", "moodbtn", "AvatarBtn", "livetypebtn"})
         EXPECT_FALSE(control<QWidget>(name).isEnabled()) << name;
     EXPECT_FALSE(control<QWidget>("futuretype").isVisible());
+}
+
+TEST_F(FrmPrivate, ThePickerOffersNineFacesWithTheirTexts)
+{
+    auto &picker = control<QListWidget>("ListViewEmot");
+    EXPECT_FALSE(picker.isVisible());
+    QTest::mouseClick(&control<QToolButton>("Emoticbtn"), Qt::LeftButton);
+    EXPECT_TRUE(picker.isVisible());
+    const std::vector<std::pair<const char *, const char *>> items
+        = {{":)", "i1"}, {":))", "i7"}, {":D", "i9"}, {";)", "i5"}, {":p", "i4"},
+           {";p", "i6"}, {":|", "i3"},  {":(", "i2"}, {":((", "i8"}};
+    ASSERT_EQ(picker.count(), 9);
+    for (int i = 0; i < 9; ++i) {
+        EXPECT_EQ(picker.item(i)->text(), QLatin1String(items[std::size_t(i)].first));
+        EXPECT_EQ(picker.item(i)->data(Qt::UserRole).toString(), QLatin1String(items[std::size_t(i)].second));
+        EXPECT_EQ(picker.item(i)->icon().pixmap(24).size(), QSize(24, 24));
+    }
+    QTest::mouseClick(&control<QToolButton>("Emoticbtn"), Qt::LeftButton);
+    EXPECT_FALSE(picker.isVisible());
+}
+
+TEST_F(FrmPrivate, APickedEmoticonGoesToTheEndOfTheInput)
+{
+    QTest::mouseClick(&control<QToolButton>("Emoticbtn"), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    intext().setPlainText(QStringLiteral("well\ndone"));
+    intext().moveCursor(QTextCursor::Start);
+    auto &picker = control<QListWidget>("ListViewEmot");
+    for (const int item : {2, 8})
+        QTest::mouseClick(picker.viewport(), Qt::LeftButton, {}, picker.visualItemRect(picker.item(item)).center());
+    EXPECT_EQ(intext().toPlainText(), QStringLiteral("well\ndone:D:(("));
+    EXPECT_TRUE(intext().textCursor().atEnd());
+    EXPECT_EQ(form().focusWidget(), &intext());
+}
+
+TEST_F(FrmPrivate, OpeningThePickerKeepsTheReadersPlace)
+{
+    for (int i = 0; i < 60; ++i)
+        windows.arrive("10.0.0.2", "-line");
+    QScrollBar &bar = *outtext().verticalScrollBar();
+    QTest::mouseClick(&control<QToolButton>("Emoticbtn"), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(bar.value(), bar.maximum()) << "who reads the end goes on reading it";
+    QTest::mouseClick(&control<QToolButton>("Emoticbtn"), Qt::LeftButton);
+    bar.setValue(50);
+    QTest::mouseClick(&control<QToolButton>("Emoticbtn"), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(bar.value(), 50);
+}
+
+TEST_F(FrmPrivate, EmoticonsBecomePicturesInTheLogOnly)
+{
+    type(QStringLiteral("hi :)"));
+    EXPECT_EQ(intext().toPlainText(), QStringLiteral("hi :)"));
+    QTest::keyClick(&intext(), Qt::Key_Return);
+    EXPECT_THAT(windows.sent(), ElementsAre(To("10.0.0.2", "-hi :)")));
+    EXPECT_EQ(lastLogLine(), QStringLiteral("Me> hi \uFFFC"));
+}
+
+TEST_F(FrmPrivate, AClickOnAReceivedAddressOpensIt)
+{
+    windows.arrive("10.0.0.2", "-see http://fileserver/plans (new)");
+    const auto clickAt = [this](const QString &word) {
+        QTextCursor cursor = outtext().document()->find(word);
+        cursor.setPosition(cursor.selectionStart() + 1);
+        QTest::mouseClick(outtext().viewport(), Qt::LeftButton, {}, outtext().cursorRect(cursor).center());
+    };
+    clickAt(QStringLiteral("see"));
+    EXPECT_THAT(windows.links.opened, IsEmpty());
+    clickAt(QStringLiteral("fileserver"));
+    EXPECT_THAT(windows.links.opened, ElementsAre("http://fileserver/plans"));
+}
+
+TEST_F(FrmPrivate, NothingButWebAddressesIsEverOpened)
+{
+    for (const char *text : {"file:///etc/passwd", "javascript:alert(1)", "\\\\server\\share", "smb://server/share",
+                             "http://ann@bank.example", "data:text/html,x"})
+        windows.arrive("10.0.0.2", std::string("-") + text);
+    for (QTextBlock line = outtext().document()->begin(); line.isValid(); line = line.next()) {
+        for (auto it = line.begin(); !it.atEnd(); ++it)
+            EXPECT_FALSE(it.fragment().charFormat().isAnchor()) << it.fragment().text().toStdString();
+    }
+}
+
+TEST_F(FrmPrivate, ABuzzStandsInTheLogAndInTheSecondPanel)
+{
+    windows.arrive("10.0.0.2", "!BUZZ");
+    EXPECT_EQ(lastLogLine(), QStringLiteral("BUZZ!"));
+    EXPECT_EQ(control<QLabel>("StatusBar_2").text(), QStringLiteral("Ann is buzzing you..."));
+    windows.time.advance(std::chrono::milliseconds(2500));
+    EXPECT_EQ(control<QLabel>("StatusBar_2").text(), QString());
+}
+
+TEST_F(FrmPrivate, ALongNameDoesNotWidenTheWindow)
+{
+    windows.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC " + std::string(255, 'W'));
+    windows.arrive("10.0.0.2", "!TYPING");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(form().width(), 600);
+    EXPECT_LE(form().minimumSizeHint().width(), 600);
 }
 
 TEST_F(FrmPrivate, TheFontIsTheStoredOne)

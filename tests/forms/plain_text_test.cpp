@@ -62,7 +62,7 @@ TEST_F(PlainText, InTheCaptionOfItsWindow)
 TEST_F(PlainText, InLogs)
 {
     windows.arrive("10.0.0.2", "-<img src='file:///etc/passwd'><i>x</i>");
-    EXPECT_TRUE(RealWindows::control<QTextEdit>(windows.privateWindow(), "outtext")
+    EXPECT_TRUE(RealWindows::logOf(windows.privateWindow())
                     .toPlainText()
                     .contains(QStringLiteral("<b>Ann</b> & [*] %1> <img src='file:///etc/passwd'><i>x</i>")));
     windows.arrive("10.0.0.2", "!<b>x</b>");

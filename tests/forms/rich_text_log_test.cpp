@@ -2,10 +2,23 @@
 
 #include "core/limits.h"
 #include "core/muted_colour.h"
+#include "private/RTFSubClass.h"
+#include "private/emoticons.h"
+#include "private/log_pictures.h"
+#include "private/metafile.h"
+#include "recorders.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
+#include <QAbstractTextDocumentLayout>
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QMimeData>
+#include <QPainter>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTextBlock>
 
@@ -13,6 +26,9 @@ namespace nimb
 {
 namespace
 {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
 
 class RichTextLogTest : public testing::Test
 {
@@ -27,8 +43,43 @@ protected:
     {
         for (int i = 0; i < count; ++i)
             appendText(log, QStringLiteral("line %1\r\n").arg(i), 0x0000FF);
+        log.writeGathered();
         QCoreApplication::processEvents();
     }
+    void append(const char *text, Colour colour = 0)
+    {
+        appendText(log, QString::fromUtf8(text), colour);
+        log.writeGathered();
+    }
+    /// A message body behind its prefix, as conversations write it.
+    void message(const char *body)
+    {
+        appendText(log, QStringLiteral("Ann> "), 0xC00000);
+        AddTextWithEmoticons(log, QString::fromUtf8(body), 0xC00000);
+        appendText(log, QStringLiteral("\r\n"), 0xC00000);
+        log.writeGathered();
+    }
+    std::vector<std::string> links()
+    {
+        std::vector<std::string> found;
+        for (QTextBlock line = log.document()->begin(); line.isValid(); line = line.next()) {
+            for (auto it = line.begin(); !it.atEnd(); ++it) {
+                const QTextCharFormat format = it.fragment().charFormat();
+                const std::string href = format.anchorHref().toStdString();
+                if (format.isAnchor() && (found.empty() || found.back() != href))
+                    found.push_back(href);
+            }
+        }
+        return found;
+    }
+    QPoint placeOf(const char *text)
+    {
+        QTextCursor cursor = log.document()->find(QString::fromUtf8(text));
+        EXPECT_FALSE(cursor.isNull()) << text;
+        cursor.setPosition(cursor.selectionStart() + 1);
+        return log.cursorRect(cursor).center();
+    }
+    static QString clipboard() { return QGuiApplication::clipboard()->text(); }
     bool atEnd() { return log.verticalScrollBar()->value() == log.verticalScrollBar()->maximum(); }
     QColor colourAt(int block)
     {
@@ -42,7 +93,7 @@ TEST_F(RichTextLogTest, ColoursAreBlueGreenRedFromTheHighByte)
 {
     EXPECT_EQ(screenColour(0xC08001), QColor(0x01, 0x80, 0xC0));
     EXPECT_EQ(logColour(QColor(0x01, 0x80, 0xC0)), 0xC08001u);
-    appendText(log, QStringLiteral("x"), 0x0000C0);
+    append("x", 0x0000C0);
     EXPECT_EQ(colourAt(0), QColor(192, 0, 0));
 }
 
@@ -60,7 +111,7 @@ TEST_F(RichTextLogTest, FollowsNewTextOnlyWhileTheReaderIsAtTheEnd)
 
 TEST_F(RichTextLogTest, CrLfIsOneLineBreak)
 {
-    appendText(log, QStringLiteral("a\r\nb"), 0);
+    append("a\r\nb");
     EXPECT_EQ(log.document()->blockCount(), 2);
     EXPECT_EQ(log.toPlainText(), QStringLiteral("a\nb"));
 }
@@ -69,7 +120,7 @@ TEST_F(RichTextLogTest, AFullLogDropsAThousandOfItsOldestLines)
 {
     lines(limits::logLines - 1);
     EXPECT_EQ(log.document()->blockCount(), limits::logLines);
-    appendText(log, QStringLiteral("last\r\n"), 0);
+    append("last\r\n");
     EXPECT_EQ(log.document()->blockCount(), limits::logLines - limits::logLinesDropped);
     EXPECT_EQ(log.document()->firstBlock().text(), QStringLiteral("line 1001"));
     EXPECT_EQ(log.document()->lastBlock().previous().text(), QStringLiteral("last"));
@@ -79,7 +130,7 @@ TEST_F(RichTextLogTest, ReadersMarkTextWithoutChangingWhereNewTextGoes)
 {
     lines(3);
     log.selectAll();
-    appendText(log, QStringLiteral("end"), 0);
+    append("end");
     EXPECT_EQ(log.toPlainText(), QStringLiteral("line 0\nline 1\nline 2\nend"));
 }
 
@@ -94,17 +145,442 @@ TEST_F(RichTextLogTest, NothingCanBeTypedOrUndone)
 
 TEST_F(RichTextLogTest, ADarkGroundLightensTheColoursKeepingTheirHue)
 {
-    appendText(log, QStringLiteral("x\r\n"), 0xC00000);
+    append("x\r\n", 0xC00000);
     QPalette dark;
     dark.setColor(QPalette::Base, QColor(30, 30, 30));
     log.setPalette(dark);
     const QColor old = colourAt(0);
     EXPECT_GE(contrast(old, QColor(30, 30, 30)), 4.5);
     EXPECT_NEAR(old.hsvHueF(), QColor(0, 0, 192).hsvHueF(), 0.01);
-    appendText(log, QStringLiteral("y"), 0xC00000);
+    append("y", 0xC00000);
     EXPECT_EQ(colourAt(1), old);
     log.setPalette(QPalette(Qt::lightGray));
     EXPECT_EQ(colourAt(0), QColor(0, 0, 192));
+}
+
+TEST_F(RichTextLogTest, ABurstGoesInAtOnce)
+{
+    lines(1);
+    QSignalSpy changes(&log, &QTextEdit::textChanged);
+    for (int i = 0; i < 100; ++i)
+        appendText(log, QStringLiteral("more\r\n"), 0);
+    EXPECT_EQ(changes.count(), 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return changes.count() > 0; }));
+    EXPECT_EQ(changes.count(), 1);
+    EXPECT_EQ(log.document()->blockCount(), 102);
+}
+
+TEST_F(RichTextLogTest, TheLengthCountsWhatIsGathered)
+{
+    EXPECT_EQ(log.textLength(), 0);
+    appendText(log, QStringLiteral("a\r\nb"), 0);
+    appendPicture(log, emoticonFragment(3), QStringLiteral(":)"));
+    EXPECT_EQ(log.textLength(), 4) << "a line break and a picture are one character each";
+    log.writeGathered();
+    EXPECT_EQ(log.textLength(), 4);
+    appendText(log, QStringLiteral("\uFDD0\uFDD1"), 0);
+    log.clear();
+    EXPECT_EQ(log.textLength(), 0) << "what was gathered is cleared, too";
+    log.writeGathered();
+    EXPECT_EQ(log.toPlainText(), QString());
+}
+
+TEST_F(RichTextLogTest, NoCharacterIsTakenForAFrame)
+{
+    append("a\uFDD0b\uFDD1c");
+    EXPECT_EQ(log.toPlainText(), QStringLiteral("a\uFFFDb\uFFFDc"));
+}
+
+TEST_F(RichTextLogTest, TheCaretMayStandBeforeTheEnd)
+{
+    appendText(log, QStringLiteral("one three"), 0);
+    log.setSelStart(4);
+    log.setSelText(QStringLiteral("two "));
+    log.setSelStart(1000);
+    log.setSelText(QStringLiteral("!"));
+    log.writeGathered();
+    EXPECT_EQ(log.toPlainText(), QStringLiteral("one two three!"));
+}
+
+TEST_F(RichTextLogTest, ASelectionDoesNotGrowWithNewText)
+{
+    append("kept");
+    log.selectAll();
+    append(" and more");
+    EXPECT_EQ(log.textCursor().selectedText(), QStringLiteral("kept"));
+    log.clear();
+    append("again");
+    log.selectAll();
+    append(" and more");
+    EXPECT_EQ(log.textCursor().selectedText(), QStringLiteral("again"));
+}
+
+TEST_F(RichTextLogTest, MarkupIsText)
+{
+    append("<b>x</b> <img src='file:///etc/passwd'> &amp;\r\n");
+    EXPECT_EQ(log.toPlainText(), QStringLiteral("<b>x</b> <img src='file:///etc/passwd'> &amp;\n"));
+    EXPECT_EQ(log.document()->firstBlock().begin().fragment().charFormat().fontWeight(), int(QFont::Normal));
+}
+
+TEST_F(RichTextLogTest, AnEmoticonIsAPictureWithItsText)
+{
+    message("Hi :-)) there");
+    EXPECT_EQ(log.document()->firstBlock().text(), QStringLiteral("Ann> Hi \uFFFC there"));
+    QTextCursor cursor = log.document()->find(QString(QChar::ObjectReplacementCharacter));
+    const QTextCharFormat format = cursor.charFormat();
+    EXPECT_TRUE(format.isImageFormat());
+    EXPECT_EQ(alternativeText(format), QStringLiteral(":-))"));
+}
+
+TEST_F(RichTextLogTest, AFragmentThatIsNoPictureShowsItsText)
+{
+    appendPicture(log, QStringLiteral("{\\rtf1 evil}"), QStringLiteral(":)"));
+    log.writeGathered();
+    EXPECT_EQ(log.toPlainText(), QStringLiteral(":)"));
+}
+
+TEST_F(RichTextLogTest, AReaderCopiesTheTextsOfThePictures)
+{
+    message("one :) two ;-p:D");
+    append("next");
+    log.selectAll();
+    log.copy();
+    EXPECT_EQ(clipboard(), QStringLiteral("Ann> one :) two ;-p:D\nnext"));
+    const QMimeData *const copied = QGuiApplication::clipboard()->mimeData();
+    EXPECT_FALSE(copied->hasHtml());
+    EXPECT_FALSE(copied->hasFormat(QStringLiteral("application/vnd.oasis.opendocument.text")));
+}
+
+TEST_F(RichTextLogTest, PartOfALineIsCopiedAsItIs)
+{
+    message("one :) two");
+    QTextCursor cursor = log.textCursor();
+    cursor.setPosition(7);
+    cursor.setPosition(12, QTextCursor::KeepAnchor);
+    log.setTextCursor(cursor);
+    log.copy();
+    EXPECT_EQ(clipboard(), QStringLiteral("e :) t"));
+}
+
+TEST_F(RichTextLogTest, PicturesAreSharpAtEveryScale)
+{
+    const QImage face = imageOf(*decodePictureFragment(emoticonFragment(3)));
+    EXPECT_EQ(face.size(), QSize(12, 12));
+    EXPECT_EQ(qAlpha(face.pixel(0, 0)), 0) << "the ground shows through";
+    struct Scale {
+        qreal ratio, zoom;
+        int devicePixels;
+    };
+    for (const Scale &scale : {Scale{1, 1, 12}, Scale{1.5, 1, 24}, Scale{2, 1, 24}, Scale{1, 2, 24}, Scale{3, 1, 36}}) {
+        LogPictures pictures([&] { return scale.ratio * scale.zoom; }, [&] { return scale.ratio; }, nullptr);
+        const std::optional<QTextImageFormat> format = pictures.format(emoticonFragment(3), QStringLiteral(":)"));
+        ASSERT_TRUE(format);
+        const QSizeF size = pictures.intrinsicSize(nullptr, 0, *format);
+        EXPECT_EQ(size * scale.ratio, QSizeF(scale.devicePixels, scale.devicePixels));
+        QImage screen(60, 60, QImage::Format_ARGB32);
+        screen.fill(Qt::transparent);
+        screen.setDevicePixelRatio(scale.ratio);
+        QPainter painter(&screen);
+        pictures.drawObject(&painter, QRectF(QPointF(6.3, 3.4), size), nullptr, 0, *format);
+        painter.end();
+        const QPoint corner(qRound(6.3 * scale.ratio), qRound(3.4 * scale.ratio));
+        const int factor = scale.devicePixels / 12;
+        for (int y = 0; y < scale.devicePixels; ++y) {
+            for (int x = 0; x < scale.devicePixels; ++x)
+                ASSERT_EQ(screen.pixel(corner + QPoint(x, y)), face.pixel(x / factor, y / factor))
+                    << "ratio " << scale.ratio << " at " << x << ',' << y;
+        }
+    }
+}
+
+TEST_F(RichTextLogTest, AFloodOfPicturesIsDrawnFromNineImages)
+{
+    for (int i = 0; i < 200; ++i)
+        message(":) :( ;) :D :p ;p :| :)) :((");
+    EXPECT_EQ(log.document()->blockCount(), 201);
+}
+
+TEST_F(RichTextLogTest, LinksAreFoundAcrossThePiecesOfALine)
+{
+    log.setLinkDetection(true);
+    message("look: http://example.org/a_(b), or www.example.net!");
+    EXPECT_THAT(links(), ElementsAre("http://example.org/a_(b)", "http://www.example.net"));
+    EXPECT_EQ(log.document()->firstBlock().text(),
+              QStringLiteral("Ann> look: http://example.org/a_(b), or www.example.net!"));
+}
+
+TEST_F(RichTextLogTest, LinksAreFoundOnlyInCompleteLines)
+{
+    log.setLinkDetection(true);
+    append("http://exam");
+    EXPECT_THAT(links(), IsEmpty());
+    append("ple.org");
+    EXPECT_THAT(links(), IsEmpty());
+    append("/x\r\nhttp://next");
+    EXPECT_THAT(links(), ElementsAre("http://example.org/x"));
+    append(".org\r\n");
+    EXPECT_THAT(links(), ElementsAre("http://example.org/x", "http://next.org"));
+}
+
+TEST_F(RichTextLogTest, LinksAreFoundInEveryLineOfABurst)
+{
+    log.setLinkDetection(true);
+    for (int i = 0; i < 3; ++i)
+        appendText(log, QStringLiteral("http://host%1/\r\n").arg(i), 0);
+    log.writeGathered();
+    EXPECT_THAT(links(), ElementsAre("http://host0/", "http://host1/", "http://host2/"));
+}
+
+TEST_F(RichTextLogTest, WithoutDetectionThereAreNoLinks)
+{
+    message("http://example.org");
+    log.setLinkDetection(true);
+    message("http://example.net");
+    log.setLinkDetection(false);
+    message("http://example.com");
+    EXPECT_THAT(links(), ElementsAre("http://example.net"));
+}
+
+TEST_F(RichTextLogTest, APictureEndsALink)
+{
+    log.setLinkDetection(true);
+    message("http://example.org:D");
+    EXPECT_THAT(links(), ElementsAre("http://example.org"));
+}
+
+TEST_F(RichTextLogTest, APictureMayBeTheColonOfAMailAddress)
+{
+    log.setLinkDetection(true);
+    message("mailto:paul@example.org");
+    message("write to mailto:Dora@example.org, please");
+    EXPECT_THAT(links(), ElementsAre("mailto:paul@example.org", "mailto:Dora@example.org"));
+}
+
+TEST_F(RichTextLogTest, LinksAreUnderlinedInTheirOwnColour)
+{
+    log.setLinkDetection(true);
+    append("http://example.org\r\n", 0x0000FF);
+    const QTextCharFormat format = log.document()->firstBlock().begin().fragment().charFormat();
+    EXPECT_TRUE(format.fontUnderline());
+    EXPECT_EQ(format.foreground().color(), log.palette().color(QPalette::Link));
+    QPalette dark;
+    dark.setColor(QPalette::Base, QColor(30, 30, 30));
+    dark.setColor(QPalette::Link, QColor(0, 0, 255));
+    log.setPalette(dark);
+    EXPECT_GE(contrast(colourAt(0), QColor(30, 30, 30)), 4.5);
+    EXPECT_THAT(links(), ElementsAre("http://example.org"));
+}
+
+TEST_F(RichTextLogTest, OnlyTheLeftButtonOnALinkPressesIt)
+{
+    log.setLinkDetection(true);
+    message("see http://example.org/x here");
+    QSignalSpy pressed(&log, &RichTextLogEdit::linkPressed);
+    QTest::mousePress(log.viewport(), Qt::LeftButton, {}, placeOf("see"));
+    QTest::mouseRelease(log.viewport(), Qt::LeftButton, {}, placeOf("example"));
+    QTest::mouseClick(log.viewport(), Qt::RightButton, {}, placeOf("example"));
+    QTest::mouseClick(log.viewport(), Qt::MiddleButton, {}, placeOf("example"));
+    EXPECT_EQ(pressed.count(), 0);
+    QTest::mousePress(log.viewport(), Qt::LeftButton, {}, placeOf("example"));
+    ASSERT_EQ(pressed.count(), 1);
+    EXPECT_EQ(pressed.front().front().toUrl(), QUrl(QStringLiteral("http://example.org/x")));
+}
+
+TEST_F(RichTextLogTest, ALinkUnderThePointerShowsAHandAndItsWholeAddress)
+{
+    log.setLinkDetection(true);
+    message("see www.example.org/\xC3\xA9 here");
+    QTest::mouseMove(log.viewport(), placeOf("example"));
+    EXPECT_EQ(log.viewport()->cursor().shape(), Qt::PointingHandCursor);
+    EXPECT_EQ(log.viewport()->toolTip(), QStringLiteral("http://www.example.org/%C3%A9"));
+    QTest::mouseMove(log.viewport(), placeOf("see"));
+    EXPECT_EQ(log.viewport()->cursor().shape(), Qt::IBeamCursor);
+    EXPECT_EQ(log.viewport()->toolTip(), QString());
+}
+
+TEST_F(RichTextLogTest, AMixedScriptHostIsShownInPunycodeBeforeTheClick)
+{
+    log.setLinkDetection(true);
+    message("http://ex\xD0\xB0mple.org/");
+    QTest::mouseMove(log.viewport(), placeOf("mple"));
+    EXPECT_EQ(log.viewport()->toolTip(), QStringLiteral("http://xn--exmple-4nf.org/"));
+}
+
+TEST_F(RichTextLogTest, TheMenuCopiesSelectsAndZooms)
+{
+    log.setLinkDetection(true);
+    message("http://example.org/x");
+    QContextMenuEvent event(QContextMenuEvent::Mouse, placeOf("example"),
+                            log.viewport()->mapToGlobal(placeOf("example")));
+    QCoreApplication::sendEvent(log.viewport(), &event);
+    auto *const menu = log.findChild<QMenu *>(QStringLiteral("logMenu"));
+    ASSERT_TRUE(menu);
+    std::vector<std::string> captions;
+    for (const QAction *const action : menu->actions()) {
+        if (!action->isSeparator())
+            captions.push_back(action->text().section(u'\t', 0, 0).remove(u'&').toStdString());
+    }
+    EXPECT_THAT(captions, ElementsAre("Copy", "Copy Link Address", "Select All", "Zoom In", "Zoom Out", "Normal Size"));
+    EXPECT_FALSE(menu->actions().at(0)->isEnabled()) << "nothing is selected";
+    menu->actions().at(1)->trigger();
+    EXPECT_EQ(clipboard(), QStringLiteral("http://example.org/x"));
+    menu->actions().at(2)->trigger();
+    EXPECT_TRUE(log.textCursor().hasSelection());
+    menu->close();
+}
+
+TEST_F(RichTextLogTest, KeysAndWheelZoomWithinReason)
+{
+    message("a :) picture");
+    log.activateWindow();
+    log.setFocus();
+    const qreal normal = log.font().pointSizeF();
+    QTest::keyClick(&log, Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(log.font().pointSizeF(), normal + 1);
+    QTest::keyClick(&log, Qt::Key_Minus, Qt::ControlModifier);
+    QTest::keyClick(&log, Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(log.font().pointSizeF(), normal - 1);
+    QTest::keyClick(&log, Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(log.font().pointSizeF(), normal);
+    const auto wheel = [this](int eighths) {
+        QWheelEvent event(QPointF(5, 5), log.viewport()->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, eighths),
+                          Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(log.viewport(), &event);
+    };
+    wheel(60);
+    EXPECT_EQ(log.font().pointSizeF(), normal) << "half a notch";
+    wheel(60);
+    EXPECT_EQ(log.font().pointSizeF(), normal + 1);
+    wheel(120 * 1000);
+    EXPECT_EQ(log.font().pointSizeF(), 48);
+    wheel(-120);
+    EXPECT_EQ(log.font().pointSizeF(), 47) << "turning back works at once";
+    wheel(-120 * 1000);
+    EXPECT_EQ(log.font().pointSizeF(), 5);
+    log.zoom(0);
+    EXPECT_EQ(log.font().pointSizeF(), normal);
+}
+
+TEST_F(RichTextLogTest, PicturesGrowWithTheLetters)
+{
+    log.setSelFont({QStringLiteral("DejaVu Sans"), 10, QString()});
+    message(":)");
+    const auto pictureWidth = [this] {
+        QTextCursor cursor = log.document()->find(QString(QChar::ObjectReplacementCharacter));
+        cursor.setPosition(cursor.selectionStart());
+        const int left = log.cursorRect(cursor).left();
+        cursor.movePosition(QTextCursor::NextCharacter);
+        return log.cursorRect(cursor).left() - left;
+    };
+    EXPECT_EQ(pictureWidth(), 12);
+    log.zoom(10);
+    EXPECT_EQ(pictureWidth(), 24);
+}
+
+TEST_F(RichTextLogTest, ZoomingKeepsTheReaderAtTheEnd)
+{
+    lines(200);
+    log.zoom(6);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(atEnd());
+}
+
+TEST_F(RichTextLogTest, ResizingKeepsTheReaderAtTheEnd)
+{
+    lines(200);
+    log.resize(200, 60);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(atEnd());
+}
+
+class LinkHooks : public testing::Test
+{
+protected:
+    /// A window with a log and an address in it.
+    struct Window {
+        Window()
+        {
+            log.resize(300, 100);
+            parent.show();
+        }
+        void fill()
+        {
+            appendText(log, QStringLiteral("http://example.org\r\n"), 0);
+            log.writeGathered();
+        }
+        void press()
+        {
+            QTextCursor cursor(log.document());
+            cursor.setPosition(9);
+            QTest::mouseClick(log.viewport(), Qt::LeftButton, {}, log.cursorRect(cursor).center());
+        }
+        QWidget parent;
+        RichTextLogEdit log{&parent};
+    };
+
+    test::RecorderLinks links;
+    RTFSubClass hooks{links};
+};
+
+TEST_F(LinkHooks, AHookedLogOpensWhatIsPressed)
+{
+    Window window;
+    hooks.HookRichText(window.log, window.parent);
+    window.fill();
+    window.press();
+    EXPECT_THAT(links.opened, ElementsAre("http://example.org"));
+}
+
+TEST_F(LinkHooks, ClosingOneWindowDoesNotDisturbTheOthers)
+{
+    Window first, second, third;
+    for (Window *const window : {&first, &second, &third}) {
+        hooks.HookRichText(window->log, window->parent);
+        window->fill();
+    }
+    hooks.UnhookRichText(second.log);
+    second.press();
+    EXPECT_THAT(links.opened, IsEmpty());
+    first.press();
+    third.press();
+    EXPECT_THAT(links.opened, ElementsAre("http://example.org", "http://example.org"));
+    EXPECT_TRUE(hooks.isHooked(first.log));
+    EXPECT_FALSE(hooks.isHooked(second.log));
+}
+
+TEST_F(LinkHooks, EntriesAreBlankedAndNeverUsedAgain)
+{
+    Window window;
+    hooks.HookRichText(window.log, window.parent);
+    hooks.UnhookRichText(window.log);
+    hooks.UnhookRichText(window.log);
+    EXPECT_EQ(hooks.count(), 1u);
+    hooks.HookRichText(window.log, window.parent);
+    EXPECT_EQ(hooks.count(), 2u);
+    window.fill();
+    window.press();
+    EXPECT_THAT(links.opened, ElementsAre("http://example.org")) << "hooked once, opened once";
+}
+
+TEST_F(LinkHooks, AnUnhookedLogFindsNoNewLinks)
+{
+    Window window;
+    hooks.HookRichText(window.log, window.parent);
+    hooks.UnhookRichText(window.log);
+    window.fill();
+    EXPECT_FALSE(window.log.document()->firstBlock().begin().fragment().charFormat().isAnchor());
+}
+
+TEST_F(LinkHooks, ALongLinkIsOpenedUpToTheLengthOfItsBuffer)
+{
+    Window window;
+    window.log.resize(20000, 100);
+    window.parent.resize(20000, 100);
+    hooks.HookRichText(window.log, window.parent);
+    appendText(window.log, QStringLiteral("http://x/") + QString(2000, u'a') + QStringLiteral("\r\n"), 0);
+    window.log.writeGathered();
+    window.press();
+    EXPECT_THAT(links.opened, ElementsAre("http://x/" + std::string(1014, 'a')));
 }
 
 TEST(MutedColour, IsReadableOnEveryGround)

@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QTabBar>
 #include <QTimer>
+#include <QToolButton>
 
 #include <cstdio>
 
@@ -42,6 +43,8 @@ public:
 
     void take(QWidget &window, const char *name)
     {
+        for (RichTextLogEdit *const log : window.findChildren<RichTextLogEdit *>())
+            log->writeGathered();
         QCoreApplication::processEvents();
         const QString file = m_folder.filePath(QLatin1String(name) + QLatin1String(".png"));
         if (!window.grab().save(file))
@@ -54,9 +57,9 @@ private:
 };
 
 const std::vector<std::pair<const char *, const char *>> everybody = {
-    {"192.168.1.12", "Ann"},   {"192.168.1.20", "Benedikt Freiherr von und zu Hohenstein-Waldburg"},
-    {"192.168.1.31", "Cleo"},  {"192.168.1.44", "Дмитрий"},
-    {"192.168.1.45", "Émile"}, {"192.168.1.99", "Frank (basement)"},
+    {"192.168.1.12", "Ann"},    {"192.168.1.20", "Benedikt Freiherr von und zu Hohenstein-Waldburg"},
+    {"192.168.1.31", "Cleo"},   {"192.168.1.44", "Дмитрий"},
+    {"192.168.1.45", "Émile"},  {"192.168.1.99", "Frank (basement)"},
     {"192.168.1.107", "Ελένη"},
 };
 
@@ -93,6 +96,20 @@ void takeMain(Gallery &gallery)
     Q_EMIT chooser.activated(2);
     windows.control<QPushButton>("Autoreplybtn").click();
     gallery.take(windows.main(), "main_auto_reply");
+    windows.arrive("192.168.1.20", "!BUZZ");
+    windows.entry("mnuLogWindow").trigger();
+    gallery.take(windows.main(), "main_activity");
+    windows.entry("mnuLogWindow").trigger();
+    auto &file = windows.control<QMenu>("mnuFile");
+    file.popup(windows.main().pos() + QPoint(20, 60));
+    gallery.take(file, "main_file_menu");
+    file.close();
+    windows.entry("mnuFileOpen").trigger();
+    gallery.take(*QApplication::activeModalWidget(), "file_open");
+    QApplication::activeModalWidget()->close();
+    windows.entry("mnuFilePageSetup").trigger();
+    gallery.take(*QApplication::activeModalWidget(), "page_setup");
+    QApplication::activeModalWidget()->close();
     auto &menu = windows.control<QMenu>("mnuPopUp");
     windows.click(1, Qt::RightButton);
     gallery.take(menu, "main_context_menu");
@@ -139,9 +156,26 @@ void takePrivate(Gallery &gallery)
                    "-Yes, in the usual place. It is a long one, so take your time; the part about the "
                    "network in the basement is the one that matters for us.\r\nThere is a second line, too.");
     chat.send(QStringLiteral("I'll read it after lunch"));
+    windows.arrive("192.168.1.12",
+                   "-Good :) It is at http://fileserver/plans/2026 (all of it), or ask "
+                   "mailto:paul@example.org ;-p");
+    windows.arrive("192.168.1.12", "-All of them: :)) :(( :) :( :| :p ;) ;p :D");
     windows.arrive("192.168.1.12", "!STATUS AWAY Lunch");
+    windows.arrive("192.168.1.12", "!BUZZ");
     RealWindows::control<QPlainTextEdit>(form, "intext").setPlainText(QStringLiteral("See you at"));
     gallery.take(form, "private");
+    RealWindows::control<QToolButton>(form, "Emoticbtn").click();
+    gallery.take(form, "private_emoticons");
+    QTextEdit &log = RealWindows::logOf(form);
+    log.selectAll();
+    gallery.take(form, "private_selected");
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(20, 20), log.viewport()->mapToGlobal(QPoint(20, 20)));
+    QCoreApplication::sendEvent(log.viewport(), &event);
+    auto &menu = RealWindows::control<QMenu>(log, "logMenu");
+    gallery.take(menu, "private_log_menu");
+    menu.close();
+    RealWindows::logOf(form).zoom(8);
+    gallery.take(form, "private_zoomed");
 }
 
 void takeLogin(Gallery &gallery)

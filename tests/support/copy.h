@@ -84,12 +84,14 @@ public:
     RecorderPrivateForms privateForms;
     RecorderNotifications notifications;
     RecorderPrompts prompts;
+    RecorderSound sound;
     Steps steps;
     RecorderTray tray{steps};
     RecorderWindows windows{steps};
     DropCounts drops;
     Messenger engine{
-        common, {socket, settings, *time, *time, prompts, notifications, tray, windows, privateForms, view, drops}};
+        common,
+        {socket, settings, *time, *time, prompts, notifications, sound, tray, windows, privateForms, view, drops}};
 
 private:
     void store(const CopySetup &setup)

@@ -3,6 +3,7 @@
 
 #include "app/form_opener.h"
 #include "core/frmMain.h"
+#include "private/rich_text_log.h"
 #include "recorders.h"
 #include "simulated_network.h"
 #include "virtual_time.h"
@@ -65,7 +66,14 @@ public:
     }
     QTreeView &list() { return control<QTreeView>("ListView1"); }
     QAction &entry(const char *name) { return *main().findChild<QAction *>(QLatin1String(name)); }
-    QString logText() { return control<QTextEdit>("outtext").toPlainText(); }
+    /// A window's log as it will be seen in the next frame.
+    static RichTextLogEdit &logOf(QWidget &window)
+    {
+        auto &log = control<RichTextLogEdit>(window, "outtext");
+        log.writeGathered();
+        return log;
+    }
+    QString logText() { return logOf(main()).toPlainText(); }
 
     /// Private windows that have not been unloaded, in the order in which they were made.
     static std::vector<QWidget *> privateWindows()
@@ -115,17 +123,19 @@ public:
     SimulatedWinsock socket{QStringLiteral("10.0.0.1"), QStringLiteral("HERE"), nullptr};
     MemoryStore settings;
     RecorderPrompts prompts;
+    RecorderSound sound;
     Steps steps;
     RecorderTray tray{steps};
     DropCounts drops;
-    FormOpener forms;
+    RecorderLinks links;
+    FormOpener forms{links};
     bool ended = false;
 
 private:
     frmMain &m_main = forms.makeMain();
 
 public:
-    Messenger engine{common, {socket, settings, time, time, prompts, forms, tray, forms, forms, m_main, drops}};
+    Messenger engine{common, {socket, settings, time, time, prompts, forms, sound, tray, forms, forms, m_main, drops}};
 };
 
 } // namespace nimb::test

@@ -1,10 +1,12 @@
 // What an engine shows and asks, written down for a test to read.
 #pragma once
 
+#include "core/link_opener.h"
 #include "core/main_window_view.h"
 #include "core/notifications.h"
 #include "core/prompts.h"
 #include "core/settings_store.h"
+#include "core/sound.h"
 #include "core/windows.h"
 #include "private/private_chat_view.h"
 
@@ -23,6 +25,7 @@ public:
     struct Piece {
         QString text;
         Colour colour = 0;
+        QString fragment = {}; ///< of a picture, whose text is its alternative
     };
 
     qsizetype textLength() const override { return text().size(); }
@@ -36,6 +39,11 @@ public:
         pieces.push_back({text, m_colour});
         if (changed)
             changed();
+    }
+    void setSelRtf(const QString &fragment, const QString &alternative) override
+    {
+        setSelText(alternative);
+        pieces.back().fragment = fragment;
     }
     void clear() override
     {
@@ -90,6 +98,7 @@ public:
     void setPlace(const WindowPlace &place) override { shownPlace = place; }
     WindowPlace place() const override { return shownPlace; }
     void setTroublePanel(const QString &text) override { trouble = text; }
+    void setActivityPanel(const QString &text) override { activityPanel = text; }
 
     RecorderLog log;
     bool rescanEnabled = true;
@@ -103,6 +112,7 @@ public:
     QString shownCaption;
     WindowPlace shownPlace;
     QString trouble;
+    QString activityPanel;
 };
 
 class RecorderPrivateView : public PrivateChatView
@@ -170,6 +180,22 @@ public:
 
     std::vector<std::string> rows;
     int starts = 0;
+};
+
+class RecorderSound : public Sound
+{
+public:
+    void playAlarm() override { ++alarms; }
+
+    int alarms = 0;
+};
+
+class RecorderLinks : public LinkOpener
+{
+public:
+    void open(const QUrl &address) override { opened.push_back(address.toEncoded().toStdString()); }
+
+    std::vector<std::string> opened;
 };
 
 /// Answers questions as told and keeps what was said.

@@ -51,6 +51,27 @@ TEST(MainWindowClose, WithoutATrayTheWindowIsMinimisedInsteadOfHidden)
     EXPECT_EQ(copy.engine.mainWindow().Form_QueryUnload(UnloadMode::closeBox), CloseDecision::minimise);
 }
 
+TEST(MainWindowClose, WhyItIsMinimisedIsSaidOnce)
+{
+    Copy copy({.settings = {{"Options/CloseButtonDoesMinimize", "1"}}});
+    copy.tray.shown = false;
+    for (int close = 0; close < 3; ++close)
+        copy.engine.mainWindow().Form_QueryUnload(UnloadMode::closeBox);
+    const std::string said = "--- this desktop shows no tray icon: NIMB-Chat is minimised instead of hidden ---";
+    EXPECT_EQ(copy.view.log.lastLine(), said);
+    const std::vector<std::string> lines = copy.view.log.lines();
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), said), 1);
+}
+
+TEST(MainWindowClose, ATrayThatAppearsLaterIsUsed)
+{
+    Copy copy({.settings = {{"Options/CloseButtonDoesMinimize", "1"}}});
+    copy.tray.shown = false;
+    EXPECT_EQ(copy.engine.mainWindow().Form_QueryUnload(UnloadMode::closeBox), CloseDecision::minimise);
+    copy.tray.shown = true;
+    EXPECT_EQ(copy.engine.mainWindow().Form_QueryUnload(UnloadMode::closeBox), CloseDecision::hide);
+}
+
 TEST(MainWindowClose, TheCloseBoxEndsTheProgramOtherwise)
 {
     for (const char *value : {"0", "2", "-1"}) {

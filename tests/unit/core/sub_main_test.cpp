@@ -21,7 +21,6 @@ public:
         return another;
     }
     void restoreOtherCopy(const QString &caption) override { steps.push_back("restore " + caption.toStdString()); }
-    void InitEmoticonTables() override { steps.push_back("emoticons"); }
     void loadNotify() override { steps.push_back("notify"); }
     void showLogin() override
     {
@@ -53,23 +52,22 @@ protected:
 TEST_F(SubMainTest, WithoutCommandLineTheLoginDialogAsks)
 {
     EXPECT_EQ(start(""), Started::running);
-    EXPECT_THAT(steps.steps,
-                ElementsAre("another copy?", "emoticons", "notify", "login", "load main as Ann", "show main", "tip"));
+    EXPECT_THAT(steps.steps, ElementsAre("another copy?", "notify", "login", "load main as Ann", "show main", "tip"));
 }
 
 TEST_F(SubMainTest, TheWholeCommandLineIsTheNicknameAndStartsMinimised)
 {
     EXPECT_EQ(start("Bob the Builder"), Started::running);
     EXPECT_THAT(steps.steps,
-                ElementsAre("another copy?", "emoticons", "notify", "login unseen", "load main as Bob the Builder",
-                            "show main", "minimise main", "tip"));
+                ElementsAre("another copy?", "notify", "login unseen", "load main as Bob the Builder", "show main",
+                            "minimise main", "tip"));
 }
 
 TEST_F(SubMainTest, ClosingTheLoginDialogEndsTheProgramWithoutWindowOrTip)
 {
     steps.typed.clear();
     EXPECT_EQ(start(""), Started::withoutNickname);
-    EXPECT_THAT(steps.steps, ElementsAre("another copy?", "emoticons", "notify", "login"));
+    EXPECT_THAT(steps.steps, ElementsAre("another copy?", "notify", "login"));
 }
 
 TEST_F(SubMainTest, ASecondStartRestoresTheWindowOfTheStoredNicknameAndEnds)

@@ -1,0 +1,32 @@
+// The "activity" panel of the main window's status bar: what a peer has just done.
+#pragma once
+
+#include "core/main_window_view.h"
+#include "core/timers.h"
+
+namespace nimb
+{
+
+class Activity
+{
+public:
+    Activity(Timers &timers, ActivityView &view)
+        : m_view(view), m_Timer2(timers.oneShot(timeShown, [&view] { view.setActivityPanel({}); }))
+    {
+    }
+
+    /// Shows the text until timeShown has gone by without another one.
+    void show(const QString &text)
+    {
+        m_view.setActivityPanel(text);
+        m_Timer2->start();
+    }
+
+private:
+    static constexpr std::chrono::milliseconds timeShown{2500};
+
+    ActivityView &m_view;
+    std::unique_ptr<Timer> m_Timer2;
+};
+
+} // namespace nimb

@@ -1,0 +1,19 @@
+// Buzzing a peer.
+#pragma once
+
+#include "core/Common.h"
+#include "core/sound.h"
+#include "protocol/send_datagram.h"
+
+namespace nimb
+{
+
+/// Buzzes the peer, and lets the sender hear it where that is switched on and not muted.
+inline void sendBuzz(const Common &common, Winsock &socket, Sound &sound, const QString &ip)
+{
+    sendDatagram(socket, ip, wire::Buzz{});
+    if (common.options.BuzzLocal == 1 && !common.buzzmute)
+        sound.playAlarm();
+}
+
+} // namespace nimb

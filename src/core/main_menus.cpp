@@ -1,0 +1,78 @@
+#include "core/main_menus.h"
+
+#include "core/form_layout.h"
+#include "core/main_menu.h"
+
+#include <QMainWindow>
+#include <QMenuBar>
+
+namespace nimb
+{
+
+MainMenus::MainMenus(QMainWindow &window) : m_window(window), mnuPopUp(named(new QMenu(&window), "mnuPopUp"))
+{
+    buildMenuBar();
+    buildContactMenu();
+}
+
+QAction *MainMenus::add(QMenu &menu, const char *name, const char *caption)
+{
+    if (!name)
+        return menu.addSeparator();
+    return named(menu.addAction(QCoreApplication::translate("MainMenu", caption)), name);
+}
+
+void MainMenus::buildMenuBar()
+{
+    for (const Menu &table : mainMenus) {
+        QMenu *const menu
+            = named(m_window.menuBar()->addMenu(QCoreApplication::translate("MainMenu", table.caption)), table.name);
+        for (const MenuEntry &item : table.entries)
+            add(*menu, item.name, item.caption);
+    }
+    for (const char *const recent : {"mnuFileMRU1", "mnuFileMRU2", "mnuFileMRU3"})
+        entry(recent)->setVisible(false); // as long as there is no recent file
+    entry("mnuFileExit")->setShortcut(QKeySequence::Quit);
+    entry("mnuFileExit")->setMenuRole(QAction::QuitRole);
+    entry("mnuHelpAbout")->setMenuRole(QAction::AboutRole);
+    entry("mnuToolsOptions")->setMenuRole(QAction::PreferencesRole);
+    QAction *const log = entry("mnuLogWindow");
+    log->setCheckable(true);
+    log->setChecked(true);
+}
+
+void MainMenus::buildContactMenu()
+{
+    for (const MenuEntry &item : contactMenu)
+        add(*mnuPopUp, item.name, item.caption);
+    mnuPopUp->setDefaultAction(mnuPopUp->actions().first());
+    // Visible while their slot holds a conference.
+    for (const char *const invitation :
+         {"mnuInvite2Conf1", "mnuInvite2Conf2", "mnuInvite2Conf3", "mnuInvite2Conf4", "mnuInvite2Conf5"})
+        entry(invitation)->setVisible(false);
+}
+
+QAction *MainMenus::entry(const char *name) const
+{
+    auto *const action = m_window.findChild<QAction *>(QLatin1String(name));
+    Q_ASSERT(action);
+    return action;
+}
+
+void MainMenus::setContact(const ContactMenuCaptions &captions, bool selected)
+{
+    for (QAction *const action : mnuPopUp->actions())
+        action->setEnabled(selected);
+    entry("mnuPrivateChat")->setText(captions.mnuPrivateChat);
+    entry("mnuBuzzUser")->setText(captions.mnuBuzzUser);
+    entry("mnuRemoveUser")->setText(captions.mnuRemoveUser);
+    entry("mnusendcontacts")->setText(captions.mnusendcontacts);
+    entry("mnuinviteuser")->setText(captions.mnuinviteuser);
+}
+
+void MainMenus::popUp(const QPoint &position)
+{
+    mnuPopUp->popup(position);
+}
+
+} // namespace nimb

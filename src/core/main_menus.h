@@ -1,0 +1,35 @@
+// The menu bar and the context menu of the main window, built from their tables.
+#pragma once
+
+#include "core/contact_commands.h"
+
+class QAction;
+class QMainWindow;
+class QMenu;
+class QPoint;
+
+namespace nimb
+{
+
+class MainMenus
+{
+public:
+    /// The window owns menus and entries.
+    explicit MainMenus(QMainWindow &window);
+
+    /// The entry with this object name; it must exist.
+    QAction *entry(const char *name) const;
+    /// Shows the captions for the selected contact; without one the context menu has nothing to act on.
+    void setContact(const ContactMenuCaptions &captions, bool selected);
+    void popUp(const QPoint &position);
+
+private:
+    void buildMenuBar();
+    void buildContactMenu();
+    QAction *add(QMenu &menu, const char *name, const char *caption);
+
+    QMainWindow &m_window;
+    QMenu *mnuPopUp;
+};
+
+} // namespace nimb

@@ -1,0 +1,30 @@
+#include "platform/link_opener.h"
+
+#include <QDesktopServices>
+#include <QStringList>
+
+namespace nimb
+{
+namespace
+{
+
+bool mayBeOpened(const QUrl &address)
+{
+    static const QStringList schemes = {QStringLiteral("http"), QStringLiteral("https"), QStringLiteral("ftp")};
+    if (!address.isValid())
+        return false;
+    if (address.scheme() == QLatin1String("mailto"))
+        return !address.path().isEmpty();
+    return schemes.contains(address.scheme()) && !address.host().isEmpty();
+}
+
+} // namespace
+
+void DesktopLinkOpener::open(const QUrl &address)
+{
+    // The address goes to the handler percent-encoded, as one argument and without a shell.
+    if (mayBeOpened(address))
+        QDesktopServices::openUrl(address);
+}
+
+} // namespace nimb

@@ -1,0 +1,17 @@
+// Opens addresses with the program that the user's desktop has for them.
+#pragma once
+
+#include "core/link_opener.h"
+
+namespace nimb
+{
+
+/// Opens http, https, ftp and mailto addresses and nothing else, whoever asks: links come from strangers, and the
+/// desktop would start programs for some other kinds. Needs the application object.
+class DesktopLinkOpener : public LinkOpener
+{
+public:
+    void open(const QUrl &address) override;
+};
+
+} // namespace nimb

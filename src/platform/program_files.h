@@ -1,0 +1,18 @@
+// The files that ship with the program.
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+
+#include <optional>
+
+namespace nimb
+{
+
+/// Full path of a readable file: beside the program, so that a copied folder is complete, else in the data folder of
+/// the installation, which moves with the program. Empty when it is in neither. Needs the application object unless
+/// the folder is given.
+std::optional<QString> findProgramFile(const QString &name,
+                                       const QString &programFolder = QCoreApplication::applicationDirPath());
+
+} // namespace nimb

@@ -1,0 +1,34 @@
+// Finds the web addresses in a line of a log and says what a click on one opens.
+#pragma once
+
+#include <QString>
+#include <QStringView>
+#include <QUrl>
+
+#include <optional>
+#include <vector>
+
+namespace nimb
+{
+
+/// A web address within a line.
+struct Link {
+    qsizetype start = 0;
+    qsizetype length = 0; ///< in UTF-16 units, like start
+    QUrl target;          ///< what linkTarget says of the link's text
+};
+
+/// The links of one complete line of plain text, from left to right: http, https, ftp and mailto addresses, and what
+/// begins with "www.". An address that names a user ("http://user@host") is none, nor is any part of it. The time
+/// taken grows with the length of the line and not faster, whatever the line holds.
+std::vector<Link> findLinks(QStringView line);
+
+/// What a link's text opens: the text cut at 1023 characters, with "http://" before "www." and everything encoded that
+/// an address cannot hold. Nothing for a text that is not one whole link, for that must not be opened.
+std::optional<QUrl> linkTarget(QStringView text);
+
+/// The full address to read before clicking. All of it is encoded but the host, which is in its punycode form only
+/// where it mixes scripts that no language mixes.
+QString readableAddress(const QUrl &target);
+
+} // namespace nimb

@@ -1,0 +1,200 @@
+#include "real_windows.h"
+
+#include <QCheckBox>
+#include <QDialog>
+#include <QFileDialog>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace nimb::test
+{
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class MainMenusTest : public testing::Test
+{
+protected:
+    MainMenusTest() { windows.settleStart({"10.0.0.2", "10.0.0.3"}); }
+
+    /// Name and caption of every visible entry, separators as "-".
+    static std::vector<std::string> entriesOf(const QMenu &menu)
+    {
+        std::vector<std::string> entries;
+        for (const QAction *const action : menu.actions()) {
+            if (action->isSeparator())
+                entries.push_back("-");
+            else if (action->isVisible())
+                entries.push_back((action->objectName() + QLatin1String(": ") + action->text()).toStdString());
+        }
+        return entries;
+    }
+    QMenu &menu(const char *name) { return windows.control<QMenu>(name); }
+    /// The dialogs that stand open over the main window.
+    std::vector<QDialog *> dialogs()
+    {
+        std::vector<QDialog *> open;
+        for (QDialog *const dialog : windows.main().findChildren<QDialog *>()) {
+            if (dialog->isVisible())
+                open.push_back(dialog);
+        }
+        return open;
+    }
+
+    RealWindows windows{{{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben & Co"}}};
+};
+
+TEST_F(MainMenusTest, TheMenuBarHasEveryEntryInItsPlace)
+{
+    EXPECT_THAT(entriesOf(menu("mnuFile")),
+                ElementsAre("mnuFileNew: New", "mnuFileOpen: Open", "mnuFileClose: Close", "-", "mnuFileSave: Save",
+                            "mnuFileSaveAs: Save As", "mnuFileSaveAll: Save All", "-", "mnuFileProperties: Properties",
+                            "-", "mnuFilePageSetup: Page Setup", "mnuFilePrintPreview: Print Preview",
+                            "mnuFilePrint: Print", "-", "mnuFileSend: Send", "-", "-", "mnuFileExit: E&xit"));
+    EXPECT_THAT(entriesOf(menu("mnuUsers")),
+                ElementsAre("mnuNetworkscan: &Network scan...", "mnuAddUser: &Add offline user..."));
+    EXPECT_THAT(entriesOf(menu("mnuConference")),
+                ElementsAre("mnuCreateNewConf: Create &new...", "mnushowinvitations: View &invitations..."));
+    EXPECT_THAT(entriesOf(menu("mnuTools")),
+                ElementsAre("mnuLogWindow: Show &Log Window", "mnuToolsOptions: &Options..."));
+    EXPECT_THAT(entriesOf(menu("mnuHelp")),
+                ElementsAre("mnuHelpContents: &Contents", "mnuHelpSearchForHelpOn: &Search For Help On...",
+                            "mnuTOTD: &Tip of the day...", "mnuHelpAbout: &About"));
+    for (const char *name : {"mnuFile", "mnuUsers", "mnuConference", "mnuTools", "mnuHelp"}) {
+        for (const QAction *const action : menu(name).actions())
+            EXPECT_EQ(action->isEnabled(), action->isVisible()) << action->objectName().toStdString();
+    }
+}
+
+TEST_F(MainMenusTest, RecentFilesAreThereWithoutAnyToShow)
+{
+    for (const char *name : {"mnuFileMRU1", "mnuFileMRU2", "mnuFileMRU3"})
+        EXPECT_FALSE(windows.entry(name).isVisible()) << name;
+}
+
+TEST_F(MainMenusTest, EntriesWithoutActionsDoNothing)
+{
+    const QString before = windows.logText();
+    for (const char *name :
+         {"mnuFileNew", "mnuFileClose", "mnuFileSave", "mnuFileSaveAs", "mnuFileSaveAll", "mnuFileProperties",
+          "mnuFilePrintPreview", "mnuFilePrint", "mnuFileSend", "mnuHelpContents", "mnuHelpSearchForHelpOn"})
+        windows.entry(name).trigger();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(windows.logText(), before);
+    EXPECT_THAT(windows.sent(), IsEmpty());
+    EXPECT_THAT(dialogs(), IsEmpty());
+    EXPECT_FALSE(windows.ended);
+}
+
+TEST_F(MainMenusTest, OpenAsksForAFileAndForgetsIt)
+{
+    windows.entry("mnuFileOpen").trigger();
+    ASSERT_EQ(dialogs().size(), 1u);
+    auto *const dialog = qobject_cast<QFileDialog *>(dialogs().front());
+    ASSERT_TRUE(dialog);
+    EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Open"));
+    EXPECT_EQ(dialog->acceptMode(), QFileDialog::AcceptOpen);
+    EXPECT_EQ(dialog->nameFilters().size(), 1);
+    EXPECT_TRUE(dialog->nameFilters().front().startsWith(QStringLiteral("All Files (*.*)")));
+    windows.arrive("10.0.0.2", "!STATUS BUSY");
+    EXPECT_EQ(windows.list().model()->index(1, 0).data(Qt::UserRole + 2).toString(), QStringLiteral("busy"))
+        << "the program goes on meanwhile";
+    dialog->reject();
+    EXPECT_THAT(dialogs(), IsEmpty());
+}
+
+TEST_F(MainMenusTest, PageSetupShowsThePrinterSetUp)
+{
+    windows.entry("mnuFilePageSetup").trigger();
+    ASSERT_EQ(dialogs().size(), 1u);
+    EXPECT_EQ(dialogs().front()->windowTitle(), QStringLiteral("Page Setup"));
+    dialogs().front()->reject();
+    EXPECT_THAT(dialogs(), IsEmpty());
+}
+
+TEST_F(MainMenusTest, AnOpenDialogDoesNotKeepTheProgram)
+{
+    windows.entry("mnuFileOpen").trigger();
+    windows.main().unload(UnloadMode::code);
+    EXPECT_TRUE(windows.ended);
+}
+
+TEST_F(MainMenusTest, TheContextMenuHasEveryEntryWithTheNameInIt)
+{
+    windows.click(1, Qt::RightButton);
+    EXPECT_THAT(entriesOf(menu("mnuPopUp")),
+                ElementsAre("mnuPrivateChat: Private chat with 'Ben && Co'", "mnuBuzzUser: Buzz 'Ben && Co'",
+                            "mnusendcontacts: Send &contacts to 'Ben && Co'",
+                            "mnuRemoveUser: Remove 'Ben && Co' from the list",
+                            "mnuinviteuser: I&nvite user 'Ben && Co'"));
+    for (const QAction *const action : menu("mnuPopUp").actions())
+        EXPECT_EQ(action->isEnabled(), action->isVisible()) << action->objectName().toStdString();
+    menu("mnuPopUp").close();
+}
+
+TEST_F(MainMenusTest, WithoutASelectionTheContextMenuHasNothingToActOn)
+{
+    windows.list().clearSelection();
+    EXPECT_THAT(entriesOf(menu("mnuPopUp")),
+                ElementsAre("mnuPrivateChat: &Private Chat", "mnuBuzzUser: &Buzz User",
+                            "mnusendcontacts: Send &Contacts", "mnuRemoveUser: Re&move User",
+                            "mnuinviteuser: I&nvite user"));
+    for (const QAction *const action : menu("mnuPopUp").actions())
+        EXPECT_FALSE(action->isEnabled()) << action->objectName().toStdString();
+}
+
+TEST_F(MainMenusTest, TheEntriesOfTheConferencesAreNamedAfterTheirSlots)
+{
+    for (const char slot : {'1', '2', '3', '4', '5'}) {
+        QAction &entry = windows.entry((std::string("mnuInvite2Conf") + slot).c_str());
+        EXPECT_EQ(entry.text(), QStringLiteral("Invite to Conference #&") + QLatin1Char(slot));
+        EXPECT_FALSE(entry.isVisible());
+    }
+}
+
+TEST_F(MainMenusTest, AnOfflineContactIsInvitedByNetSend)
+{
+    windows.click(0);
+    EXPECT_EQ(windows.entry("mnuinviteuser").text(), QStringLiteral("I&nvite user 'Ann'"));
+    windows.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");
+    EXPECT_EQ(windows.entry("mnuinviteuser").text(), QStringLiteral("&Net send message to 'Ann'"));
+}
+
+TEST_F(MainMenusTest, BuzzSendsToTheSelectedContactAndObeysTheMuteBox)
+{
+    windows.common.options.BuzzLocal = 1;
+    windows.click(0);
+    windows.entry("mnuBuzzUser").trigger();
+    EXPECT_THAT(windows.sent(), ElementsAre(To("10.0.0.2", "!BUZZ")));
+    EXPECT_EQ(windows.sound.alarms, 1);
+    QTest::mouseClick(&windows.control<QCheckBox>("buzzmute"), Qt::LeftButton, {}, QPoint(8, 12));
+    ASSERT_TRUE(windows.control<QCheckBox>("buzzmute").isChecked());
+    windows.entry("mnuBuzzUser").trigger();
+    windows.arrive("10.0.0.3", "!BUZZ");
+    EXPECT_EQ(windows.sound.alarms, 1);
+}
+
+TEST_F(MainMenusTest, ABuzzShowsInTheActivityPanelForAWhile)
+{
+    auto &panel = windows.control<QLabel>("StatusBar_activity");
+    EXPECT_EQ(panel.text(), QString());
+    windows.arrive("10.0.0.3", "!BUZZ");
+    EXPECT_EQ(panel.text(), QStringLiteral("Ben & Co is buzzing you..."));
+    windows.time.advance(std::chrono::milliseconds(2500));
+    EXPECT_EQ(panel.text(), QString());
+}
+
+TEST_F(MainMenusTest, ALongActivityDoesNotWidenTheWindow)
+{
+    windows.arrive("10.0.0.3", "!ONLINE 10.0.0.3 PC " + std::string(255, 'W'));
+    windows.entry("mnuLogWindow").trigger();
+    windows.arrive("10.0.0.3", "!BUZZ");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(windows.main().width(), 305);
+    EXPECT_LE(windows.main().minimumSizeHint().width(), 305);
+}
+
+} // namespace
+} // namespace nimb::test
