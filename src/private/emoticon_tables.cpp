@@ -247,7 +247,7 @@ constexpr MetafileHex metafile(const Drawing &drawing)
     out.dword(largestRecord);
     out.word(stretchDib);
     out.dword(copySource);
-    out.word(0);                                                                   // the palette holds colours
+    out.word(0);                                             // the palette holds colours
     for (const std::uint32_t measure : {side, side, 0U, 0U}) // of the bitmap: size, corner
         out.word(measure);
     for (const std::uint32_t measure : {side, side, 0U, 0U}) // of the window

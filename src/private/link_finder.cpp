@@ -400,7 +400,7 @@ private:
     }
 
     /// The box of a mail address: hostStart moves behind its "@".
-    bool readLocalPart(FoundLink &link)
+    bool readLocalPart(FoundLink &link) const
     {
         const qsizetype begin = link.hostStart;
         qsizetype end = begin;
@@ -412,7 +412,6 @@ private:
         if (!isPlain || end == m_line.size() || m_line[end] != u'@')
             return false;
         link.hostStart = end + 1;
-        m_passed = link.hostStart; // no link begins in what stands before an "@"
         return true;
     }
 
@@ -521,7 +520,7 @@ private:
 bool isUrlCharacter(char c)
 {
     return isAsciiLetterOrDigit(static_cast<unsigned char>(c))
-        || std::string_view("-._~:/?@!$&'()*+,;=").find(c) != std::string_view::npos;
+        || std::string_view("-._~:/?#@!$&'()*+,;=").find(c) != std::string_view::npos;
 }
 
 bool isEscape(const QByteArray &text, qsizetype at)
@@ -531,14 +530,13 @@ bool isEscape(const QByteArray &text, qsizetype at)
     return text[at] == '%' && isDigitAt(at + 1) && isDigitAt(at + 2);
 }
 
-/// Path, query and fragment as they travel. What is encoded already stays so.
+/// Path, query and fragment as they travel. What is encoded already stays so; QUrl encodes a second "#".
 QByteArray encodedTail(QStringView tail)
 {
     const QByteArray text = tail.toUtf8();
-    const qsizetype fragment = text.indexOf('#');
     QByteArray encoded;
     for (qsizetype i = 0; i < text.size(); ++i) {
-        if (isUrlCharacter(text[i]) || isEscape(text, i) || i == fragment)
+        if (isUrlCharacter(text[i]) || isEscape(text, i))
             encoded += text[i];
         else
             encoded += '%' + QByteArray(1, text[i]).toHex().toUpper();

@@ -3,6 +3,7 @@
 #include "private/metafile.h"
 
 #include <QPainter>
+#include <QTextBlock>
 
 namespace nimb
 {
@@ -70,6 +71,26 @@ void LogPictures::drawObject(QPainter *painter, const QRectF &place, QTextDocume
 QString alternativeText(const QTextFormat &format)
 {
     return format.isImageFormat() ? format.stringProperty(QTextFormat::ImageAltText) : QString();
+}
+
+QString textWithAlternatives(const QTextDocument &document, int from, int to)
+{
+    QString text;
+    for (QTextBlock block = document.findBlock(from); block.isValid() && block.position() < to; block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            const int first = qMax(fragment.position(), from);
+            const int length = qMin(fragment.position() + fragment.length(), to) - first;
+            if (length <= 0)
+                continue;
+            const QString alternative = alternativeText(fragment.charFormat());
+            text += alternative.isEmpty() ? fragment.text().mid(first - fragment.position(), length)
+                                          : alternative.repeated(length);
+        }
+        if (block.position() + block.length() <= to)
+            text += QLatin1Char('\n');
+    }
+    return text;
 }
 
 } // namespace nimb

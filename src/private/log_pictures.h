@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QImage>
 #include <QTextCharFormat>
+#include <QTextDocument>
 #include <QTextObjectInterface>
 
 #include <functional>
@@ -49,5 +50,8 @@ private:
 
 /// What a picture's character stands for in copied and spoken text; empty for any other character.
 QString alternativeText(const QTextFormat &format);
+
+/// The document's text between two positions, pictures as what they stand for, lines broken by "\n".
+QString textWithAlternatives(const QTextDocument &document, int from, int to);
 
 } // namespace nimb

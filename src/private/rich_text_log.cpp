@@ -3,6 +3,7 @@
 #include "core/limits.h"
 #include "core/log_font.h"
 #include "core/muted_colour.h"
+#include "private/accessible_log.h"
 #include "private/link_finder.h"
 #include "private/log_pictures.h"
 
@@ -25,6 +26,8 @@ namespace
 /// The colour that was asked for, kept so that it can be adapted to another ground.
 constexpr int askedColour = QTextFormat::UserProperty + 1;
 constexpr std::chrono::milliseconds frame{16};
+/// Pieces that go in at once; more in one frame would be felt as a stall.
+constexpr std::size_t piecesAtOnce = 1000;
 constexpr qreal smallestLetters = 5, largestLetters = 48; ///< points
 constexpr int wheelNotch = 120;
 
@@ -90,6 +93,7 @@ RichTextLogEdit::RichTextLogEdit(QWidget *parent)
     m_frame.setTimerType(Qt::PreciseTimer);
     connect(&m_frame, &QTimer::timeout, this, &RichTextLogEdit::writeGathered);
     buildCommands();
+    QAccessible::installFactory(AccessibleLog::make); // again and again, which Qt ignores
 }
 
 RichTextLogEdit::~RichTextLogEdit() = default;
@@ -177,6 +181,8 @@ void RichTextLogEdit::gather(const QString &text, const QTextCharFormat &format)
         return;
     m_gathered.push_back({text, format});
     m_gatheredLength += text.size();
+    if (m_gathered.size() == piecesAtOnce)
+        return m_frame.start(0);
     if (m_frame.isActive())
         return;
     const std::chrono::milliseconds since(m_sinceWritten.isValid() ? m_sinceWritten.elapsed() : frame.count());
@@ -194,8 +200,8 @@ void RichTextLogEdit::writeGathered()
     insertGathered();
     if (m_detectsLinks)
         markLinks(document()->findBlock(firstLine));
-    dropOldLines();
     m_caret.endEditBlock();
+    dropOldLines();
     if (follow)
         scrollToEnd();
     m_sinceWritten.start();
@@ -239,6 +245,7 @@ void RichTextLogEdit::markLinks(QTextBlock line)
     }
 }
 
+/// Apart from the insertion: one change from the first to the last line would lay all of them out anew.
 void RichTextLogEdit::dropOldLines()
 {
     if (document()->blockCount() <= limits::logLines)
@@ -401,24 +408,8 @@ void RichTextLogEdit::contextMenuEvent(QContextMenuEvent *event)
 QMimeData *RichTextLogEdit::createMimeDataFromSelection() const
 {
     const QTextCursor selection = textCursor();
-    QString text;
-    for (QTextBlock block = document()->findBlock(selection.selectionStart());
-         block.isValid() && block.position() < selection.selectionEnd(); block = block.next()) {
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            const QTextFragment fragment = it.fragment();
-            const int from = qMax(fragment.position(), selection.selectionStart());
-            const int to = qMin(fragment.position() + fragment.length(), selection.selectionEnd());
-            if (from >= to)
-                continue;
-            const QString alternative = alternativeText(fragment.charFormat());
-            text += alternative.isEmpty() ? fragment.text().mid(from - fragment.position(), to - from)
-                                          : alternative.repeated(to - from);
-        }
-        if (block.position() + block.length() <= selection.selectionEnd())
-            text += QLatin1Char('\n');
-    }
     auto *const copied = new QMimeData; // the clipboard takes it over
-    copied->setText(text);
+    copied->setText(textWithAlternatives(*document(), selection.selectionStart(), selection.selectionEnd()));
     return copied;
 }
 

@@ -11,6 +11,7 @@
 #include <gmock/gmock.h>
 
 #include <QAbstractTextDocumentLayout>
+#include <QAccessible>
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
@@ -260,6 +261,31 @@ TEST_F(RichTextLogTest, PartOfALineIsCopiedAsItIs)
     log.setTextCursor(cursor);
     log.copy();
     EXPECT_EQ(clipboard(), QStringLiteral("e :) t"));
+}
+
+TEST_F(RichTextLogTest, AScreenReaderReadsTheTextsOfThePictures)
+{
+    message("one :) two");
+    message("three");
+    QAccessibleInterface *const reader = QAccessible::queryAccessibleInterface(&log);
+    ASSERT_TRUE(reader && reader->textInterface());
+    EXPECT_EQ(reader->text(QAccessible::Value), QStringLiteral("Ann> one :) two\nAnn> three\n"));
+    EXPECT_TRUE(reader->state().readOnly);
+    QAccessibleTextInterface &text = *reader->textInterface();
+    EXPECT_EQ(text.characterCount(), 26);
+    int start = 0, end = 0;
+    EXPECT_EQ(text.textAtOffset(3, QAccessible::ParagraphBoundary, &start, &end), QStringLiteral("Ann> one :) two"));
+    EXPECT_EQ(text.textAtOffset(9, QAccessible::CharBoundary, &start, &end), QStringLiteral(":)"));
+    EXPECT_EQ(text.textAfterOffset(9, QAccessible::LineBoundary, &start, &end).trimmed(), QStringLiteral("Ann> three"));
+    EXPECT_EQ(text.textBeforeOffset(20, QAccessible::LineBoundary, &start, &end).trimmed(),
+              QStringLiteral("Ann> one :) two"));
+    text.setSelection(0, 5, 10);
+    EXPECT_EQ(text.selectionCount(), 1);
+    log.copy();
+    EXPECT_EQ(clipboard(), QStringLiteral("one :)"));
+    const QRect picture = text.characterRect(9);
+    EXPECT_EQ(picture.width(), 12);
+    EXPECT_EQ(text.offsetAtPoint(picture.center() - QPoint(2, 0)), 9);
 }
 
 TEST_F(RichTextLogTest, PicturesAreSharpAtEveryScale)
