@@ -4,19 +4,22 @@
 #include "core/sound.h"
 #include "platform/program_files.h"
 
+#include <QBuffer>
 #include <QString>
 #include <QTimer>
 
 #include <memory>
 #include <optional>
 
-class QSoundEffect;
+class QAudioDevice;
+class QAudioSink;
 
 namespace nimb
 {
 
 /// Touches the sound system at the first use only, so that a quiet program costs nothing. Plays on the device that is
-/// the default one at that moment. May be destroyed while it plays, which ends the sound.
+/// the default one at that moment. May be destroyed while it plays, which ends the sound. Not on QSoundEffect, which
+/// loads its file in a thread that now and then crashes or blocks the end of the program.
 class SoundPlayer : public Sound
 {
 public:
@@ -28,17 +31,19 @@ public:
     /// them costs no more than that.
     void playAlarm() override;
 
-    static constexpr int shortestSounding = 50; ///< milliseconds
+    static constexpr int shortestSounding = 50;                ///< milliseconds
+    static constexpr qint64 longestAlarm = 16LL * 1024 * 1024; ///< bytes of samples; what is beyond is not played
 
 private:
     void startGathered();
     void start();
-    void prepare();
+    void play(const QAudioDevice &device);
 
     std::optional<QString> m_alarmFile;
     QTimer m_sinceStart; ///< runs for shortestSounding
     bool m_again = false;
-    std::unique_ptr<QSoundEffect> m_alarm;
+    QBuffer m_samples;
+    std::unique_ptr<QAudioSink> m_sink; // goes before the samples that it reads
 };
 
 } // namespace nimb

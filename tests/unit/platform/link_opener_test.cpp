@@ -1,0 +1,83 @@
+#include "platform/link_opener.h"
+
+#include <QDesktopServices>
+#include <QObject>
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace nimb::test
+{
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// Stands in place of the desktop for these kinds of addresses.
+class Desktop : public QObject
+{
+    Q_OBJECT
+
+public:
+    Desktop()
+    {
+        for (const char *const scheme : schemes)
+            QDesktopServices::setUrlHandler(QLatin1String(scheme), this, "take");
+    }
+    ~Desktop() override
+    {
+        for (const char *const scheme : schemes)
+            QDesktopServices::unsetUrlHandler(QLatin1String(scheme));
+    }
+    Q_DISABLE_COPY_MOVE(Desktop)
+
+    Q_INVOKABLE void take(const QUrl &address) { taken.push_back(address.toEncoded().toStdString()); }
+
+    std::vector<std::string> taken;
+
+private:
+    static constexpr const char *schemes[]
+        = {"http", "https", "ftp",   "mailto", "file", "javascript", "data", "ssh",        "vbscript",
+           "smb",  "tel",   "about", "ftps",   "irc",  "sftp",       "x",    "view-source"};
+};
+
+TEST(DesktopLinkOpener, HandsWebFileTransferAndMailAddressesToTheDesktop)
+{
+    Desktop desktop;
+    DesktopLinkOpener opener;
+    for (const char *const address : {"http://127.0.0.1/x_y", "https://example.org:8443/a?b=c&d#e", "ftp://example.org",
+                                      "mailto:ann@example.org", "HTTP://EXAMPLE.ORG/Path"})
+        opener.open(QUrl(QLatin1String(address)));
+    EXPECT_THAT(desktop.taken,
+                ElementsAre("http://127.0.0.1/x_y", "https://example.org:8443/a?b=c&d#e", "ftp://example.org",
+                            "mailto:ann@example.org", "http://example.org/Path"));
+}
+
+class RefusedAddress : public testing::TestWithParam<const char *>
+{
+};
+
+TEST_P(RefusedAddress, ReachesNoProgram)
+{
+    Desktop desktop;
+    DesktopLinkOpener opener;
+    opener.open(QUrl(QString::fromUtf8(GetParam())));
+    EXPECT_THAT(desktop.taken, IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(DesktopLinkOpener, RefusedAddress,
+                         testing::Values("", "file:///etc/passwd", "FILE:///etc/passwd", "javascript:alert(1)",
+                                         "data:text/html,x", "ssh://host", "sftp://host/x", "ftps://host/x",
+                                         "smb://host/share", "tel:112", "about:blank", "vbscript:x", "irc://host",
+                                         "view-source:http://host/", "x:y", "/etc/passwd", "etc/passwd",
+                                         "www.example.org", "//example.org/x", "http:", "http:///path", "https://",
+                                         "ftp:x", "mailto:", "http://[broken/", "http://example.org:99999/"));
+
+} // namespace
+} // namespace nimb::test
+
+#include "link_opener_test.moc"

@@ -1,0 +1,53 @@
+// Plays the alarm when told to. A process of its own, for Qt looks for a sound server only once in a process.
+//   sound_helper [FILE]       FILE in place of the alarm that ships
+// Commands on standard input, each answered with a line "done" when the call has returned:
+//   play TIMES
+// The end of the input ends it, with status 0.
+#include "platform/sound_player.h"
+
+#include <QCoreApplication>
+#include <QSocketNotifier>
+
+#include <cstdio>
+#include <iostream>
+#include <string>
+
+namespace
+{
+
+/// False at the end of the input.
+bool obey(nimb::Sound &sound)
+{
+    std::string word;
+    int times = 0;
+    if (!(std::cin >> word >> times))
+        return false;
+    for (int i = 0; i < times; ++i)
+        sound.playAlarm();
+    std::puts("done");
+    std::fflush(stdout);
+    return true;
+}
+
+int run(nimb::Sound &sound)
+{
+    QSocketNotifier input(fileno(stdin), QSocketNotifier::Read);
+    QObject::connect(&input, &QSocketNotifier::activated, &input, [&sound] {
+        if (!obey(sound))
+            QCoreApplication::quit();
+    });
+    return QCoreApplication::exec();
+}
+
+} // namespace
+
+int main(int argumentCount, char **arguments)
+{
+    QCoreApplication application(argumentCount, arguments);
+    if (argumentCount == 1) {
+        nimb::SoundPlayer player;
+        return run(player);
+    }
+    nimb::SoundPlayer player(QString::fromLocal8Bit(arguments[1]));
+    return run(player);
+}
