@@ -520,7 +520,7 @@ private:
 bool isUrlCharacter(char c)
 {
     return isAsciiLetterOrDigit(static_cast<unsigned char>(c))
-        || std::string_view("-._~:/?#@!$&'()*+,;=").find(c) != std::string_view::npos;
+        || std::string_view("-._~:/?@!$&'()*+,;=").find(c) != std::string_view::npos;
 }
 
 bool isEscape(const QByteArray &text, qsizetype at)
@@ -530,13 +530,14 @@ bool isEscape(const QByteArray &text, qsizetype at)
     return text[at] == '%' && isDigitAt(at + 1) && isDigitAt(at + 2);
 }
 
-/// Path, query and fragment as they travel. What is encoded already stays so; QUrl encodes a second "#".
+/// Path, query and fragment as they travel. What is encoded already stays so.
 QByteArray encodedTail(QStringView tail)
 {
     const QByteArray text = tail.toUtf8();
+    const qsizetype fragment = text.indexOf('#');
     QByteArray encoded;
     for (qsizetype i = 0; i < text.size(); ++i) {
-        if (isUrlCharacter(text[i]) || isEscape(text, i))
+        if (isUrlCharacter(text[i]) || isEscape(text, i) || i == fragment)
             encoded += text[i];
         else
             encoded += '%' + QByteArray(1, text[i]).toHex().toUpper();
@@ -572,17 +573,20 @@ bool areUsedTogether(const std::set<QChar::Script> &scripts)
     return scripts.size() <= 1 || includesAll(japanese) || includesAll(korean) || includesAll(taiwanese);
 }
 
-bool mixesScripts(const QString &host)
+/// Symbols and mixed scripts deceive: the host is better read in punycode.
+bool isReadable(const QString &host)
 {
     std::set<QChar::Script> scripts;
     for (const char32_t c : host.toUcs4()) {
+        if (!isHostCharacter(c))
+            return false;
         const QChar::Script script = QChar::script(c);
         // Beyond digits, dot and hyphen, signs of no script are counted: some look like a slash or a colon.
         const bool suitsAll = script == QChar::Script_Inherited || (script == QChar::Script_Common && isAscii(c));
         if (!suitsAll)
             scripts.insert(script);
     }
-    return !areUsedTogether(scripts);
+    return areUsedTogether(scripts);
 }
 
 QString readableHost(const QString &encodedHost)
@@ -590,7 +594,7 @@ QString readableHost(const QString &encodedHost)
     const QString host = QUrl::fromAce(encodedHost.toLatin1(), QUrl::IgnoreIDNWhitelist);
     // Broken punycode is decoded to a host that is not the one it opens.
     const bool isThatHost = QUrl::toAce(host, QUrl::IgnoreIDNWhitelist) == encodedHost.toLatin1();
-    return isThatHost && !mixesScripts(host) ? host : encodedHost;
+    return isThatHost && isReadable(host) ? host : encodedHost;
 }
 
 } // namespace

@@ -28,7 +28,7 @@ std::vector<Link> findLinks(QStringView line);
 std::optional<QUrl> linkTarget(QStringView text);
 
 /// The full address to read before clicking. All of it is encoded but the host, which is in its punycode form only
-/// where it mixes scripts that no language mixes.
+/// where it mixes scripts that no language mixes, or where it holds symbols.
 QString readableAddress(const QUrl &target);
 
 } // namespace nimb

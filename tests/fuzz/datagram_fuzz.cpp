@@ -1,10 +1,9 @@
 // Feeds any bytes to the grammar of the datagrams and stops the program when a promise of it is broken.
 #include "protocol/datagram.h"
+#include "require.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,14 +16,6 @@ using namespace nimb::wire;
 
 /// A number without digits becomes "0" and an answer other than "AGREE" becomes " DENY"; nothing grows by more.
 constexpr std::size_t mostAddedBytes = 6;
-
-void require(bool holds, const char *promise)
-{
-    if (holds)
-        return;
-    std::fprintf(stderr, "broken promise: %s\n", promise);
-    std::abort();
-}
 
 bool isWord(std::string_view field)
 {

@@ -226,6 +226,17 @@ TEST(LinkFinder, QuotesAroundALinkAreNotPartOfIt)
                 ElementsAre("http://x.org/a", "http://x.org/b", "http://x.org/c"));
     EXPECT_THAT(texts(u"\u00ABhttp://x.org/a\u00BB \u00BBhttp://x.org/b\u00AB \u2039http://x.org\u203A"),
                 ElementsAre("http://x.org/a", "http://x.org/b", "http://x.org"));
+    EXPECT_THAT(texts(u"http://x.org/a\u201Eb\u201C http://x.org/c\u201E http://x.org/d\u201A"),
+                ElementsAre("http://x.org/a\xE2\x80\x9E"
+                            "b",
+                            "http://x.org/c", "http://x.org/d"));
+}
+
+TEST(LinkFinder, ADashBehindTheHostIsNotPartOfIt)
+{
+    EXPECT_THAT(texts(u"http://x.org\u2014great, http://x.org\u2013http://y.org"),
+                ElementsAre("http://x.org", "http://x.org", "http://y.org"));
+    EXPECT_THAT(texts(u"http://my\u2011site.org"), IsEmpty()); // a hyphen that must not be taken for a dash
 }
 
 TEST(LinkFinder, EastAsianPunctuationAndTheEllipsisCloseToo)
@@ -297,6 +308,11 @@ TEST(LinkFinder, ALabelHasUpTo63AndAHostUpTo253Characters)
     EXPECT_THAT(findLinks(QStringLiteral("http://") + host + QStringLiteral("a/")), SizeIs(1));
     EXPECT_THAT(findLinks(QStringLiteral("http://") + host + QStringLiteral("ab/")), IsEmpty());
     EXPECT_THAT(findLinks(QStringLiteral("http://") + repeated("\xC3\xA4", 60) + QStringLiteral(".de")), IsEmpty());
+    // Both as it is written, with marks that punycode drops, and in punycode.
+    EXPECT_THAT(findLinks(QStringLiteral("http://a") + repeated("\xEF\xB8\x8F", 300) + QStringLiteral(".org")),
+                IsEmpty());
+    EXPECT_THAT(findLinks(QStringLiteral("http://") + repeated("\xC3\xA4.", 62) + QStringLiteral("de")), SizeIs(1));
+    EXPECT_THAT(findLinks(QStringLiteral("http://") + repeated("\xC3\xA4.", 64) + QStringLiteral("de")), IsEmpty());
 }
 
 TEST(LinkFinder, ANumericHostIsADottedAddress)
@@ -325,6 +341,7 @@ TEST(LinkFinder, APortIsANumberFrom1To65535)
     EXPECT_THAT(texts(u"http://x.org:0 http://x.org:65536 http://x.org:4294967376 http://www.x.org:99999/"), IsEmpty());
     EXPECT_THAT(texts(u"http://x.org:a http://x.org:80a http://x.org:-1 http://x.org:/a http://x.org:80:90"),
                 IsEmpty());
+    EXPECT_THAT(texts(u"http://x.org:00080 http://x.org:000080"), ElementsAre("http://x.org:00080"));
     EXPECT_THAT(texts(u"http://x.org:\u0661 http://x.org:80\u0661"), IsEmpty());
 }
 
@@ -391,6 +408,7 @@ TEST(LinkFinder, WhatAnAddressCannotHoldIsEncoded)
                 ElementsAre("http://x.org/%C3%A4?%C3%B6=%E2%82%AC#%F0%9F%98%80"));
     EXPECT_THAT(opened(u"http://x.org/a[b]{c}|^`e"), ElementsAre("http://x.org/a%5Bb%5D%7Bc%7D%7C%5E%60e"));
     EXPECT_THAT(opened(u"http://x.org/a#b#c"), ElementsAre("http://x.org/a#b%23c"));
+    EXPECT_EQ(linkTarget(u"http://x.org/a#b#c"), QUrl(QStringLiteral("http://x.org/a#b%23c")));
     EXPECT_THAT(opened(u"http://x.org/-._~!$&'()*+,;=:@/?/?x"), ElementsAre("http://x.org/-._~!$&'()*+,;=:@/?/?x"));
 }
 
@@ -490,6 +508,12 @@ TEST(ReadableAddress, ShowsAHostOfMixedScriptsInPunycode)
     EXPECT_EQ(read(u"mailto:a@p\u0430ypal.com"), QStringLiteral("mailto:a@xn--pypal-4ve.com"));
 }
 
+TEST(ReadableAddress, ShowsAHostOfSymbolsInPunycode)
+{
+    EXPECT_EQ(read(u"http://xn--ls8h.la/"), QStringLiteral("http://xn--ls8h.la/"));
+    EXPECT_EQ(read(u"mailto:a@xn--80h6k"), QStringLiteral("mailto:a@xn--80h6k"));
+}
+
 TEST(ReadableAddress, ShowsBrokenPunycodeAsItIs)
 {
     EXPECT_EQ(read(u"http://xn--80ak6/"), QStringLiteral("http://xn--80ak6/"));
@@ -521,6 +545,8 @@ TEST(ReadableAddress, OtherTargetsAreShownAsTheyAre)
     EXPECT_EQ(readableAddress(QUrl(QStringLiteral("file:///a%20b"))), QStringLiteral("file:///a%20b"));
     EXPECT_EQ(readableAddress(QUrl(QStringLiteral("http://x.org:pw@x.org/a"))),
               QStringLiteral("http://x.org:pw@x.org/a"));
+    EXPECT_EQ(readableAddress(QUrl(QStringLiteral("http://xn--mnchen-3ya.de@xn--mnchen-3ya.de/"))),
+              QStringLiteral("http://xn--mnchen-3ya.de@m\u00FCnchen.de/"));
     EXPECT_EQ(readableAddress(QUrl()), QString());
 }
 
