@@ -1,6 +1,7 @@
 #include "core/frmMain.h"
 
 #include "core/auto_reply_frame.h"
+#include "core/bring_back.h"
 #include "core/contact_commands.h"
 #include "core/contact_view.h"
 #include "core/elided_label.h"
@@ -270,9 +271,7 @@ void frmMain::finish()
 
 void frmMain::restore()
 {
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    raise();
+    bringBack(*this);
     activateWindow();
 }
 

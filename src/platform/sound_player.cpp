@@ -77,31 +77,28 @@ Wave waveIn(const QString &path)
 
 SoundPlayer::SoundPlayer(std::optional<QString> alarmFile) : m_alarmFile(std::move(alarmFile))
 {
-    m_sinceStart.setSingleShot(true);
-    m_sinceStart.setInterval(shortestSounding);
-    m_sinceStart.callOnTimeout([this] { startGathered(); });
+    m_next.setSingleShot(true);
+    m_next.callOnTimeout([this] { start(); });
 }
 
 SoundPlayer::~SoundPlayer() = default;
 
 void SoundPlayer::playAlarm()
 {
-    if (m_sinceStart.isActive()) {
-        m_again = true;
+    if (m_next.isActive())
         return;
-    }
-    m_sinceStart.start();
-    start();
-}
-
-void SoundPlayer::startGathered()
-{
-    if (std::exchange(m_again, false))
-        playAlarm();
+    const qint64 since = m_sinceStart.isValid() ? m_sinceStart.elapsed() : shortestSounding;
+    m_next.start(static_cast<int>(qMax<qint64>(0, shortestSounding - since)));
 }
 
 void SoundPlayer::start()
 {
+    m_sinceStart.start();
+    // One that sounds is wound back. Its end would run into callbacks that are under way to it.
+    if (m_sink && m_sink->state() != QAudio::StoppedState) {
+        m_samples.seek(0);
+        return;
+    }
     if (!m_alarmFile || !QFile::exists(*m_alarmFile))
         return;
     const QAudioDevice device = defaultDevice();
@@ -124,7 +121,7 @@ void SoundPlayer::play(const QAudioDevice &device)
     QObject::connect(
         m_sink.get(), &QAudioSink::stateChanged, m_sink.get(),
         [sink = m_sink.get()](QAudio::State state) {
-            if (state == QAudio::IdleState)
+            if (state == QAudio::IdleState && sink->state() == QAudio::IdleState)
                 sink->stop();
         },
         Qt::QueuedConnection);

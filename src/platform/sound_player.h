@@ -5,6 +5,7 @@
 #include "platform/program_files.h"
 
 #include <QBuffer>
+#include <QElapsedTimer>
 #include <QString>
 #include <QTimer>
 
@@ -27,21 +28,21 @@ public:
     explicit SoundPlayer(std::optional<QString> alarmFile = findProgramFile(QStringLiteral("alarm.wav")));
     ~SoundPlayer() override;
 
-    /// Calls that come within shortestSounding of a start are answered together by one more start after it: a flood of
-    /// them costs no more than that.
+    /// The sound starts when control is back in the event loop, for the sound system handles events of its own. Calls
+    /// that come within shortestSounding of a start are answered together by one more start after it: a flood of them
+    /// costs no more than that.
     void playAlarm() override;
 
     static constexpr int shortestSounding = 50;                ///< milliseconds
     static constexpr qint64 longestAlarm = 16LL * 1024 * 1024; ///< bytes of samples; what is beyond is not played
 
 private:
-    void startGathered();
     void start();
     void play(const QAudioDevice &device);
 
     std::optional<QString> m_alarmFile;
-    QTimer m_sinceStart; ///< runs for shortestSounding
-    bool m_again = false;
+    QTimer m_next; ///< runs until the start that was asked for
+    QElapsedTimer m_sinceStart;
     QBuffer m_samples;
     std::unique_ptr<QAudioSink> m_sink; // goes before the samples that it reads
 };

@@ -1,5 +1,6 @@
 #include "private/frmPrivate.h"
 
+#include "core/bring_back.h"
 #include "core/elided_label.h"
 #include "core/form_layout.h"
 #include "core/form_text.h"
@@ -276,13 +277,13 @@ void frmPrivate::showWindow(ShowMode mode)
         showMinimized();
         break;
     case ShowMode::onTop:
-        show();
-        raise();
+        if (isMinimized())
+            show();
+        else
+            bringBack(*this);
         break;
     case ShowMode::active:
-        setWindowState(windowState() & ~Qt::WindowMinimized);
-        show();
-        raise();
+        bringBack(*this);
         activateWindow();
         break;
     }

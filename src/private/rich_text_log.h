@@ -69,7 +69,7 @@ private:
     qsizetype caretPosition() const;
     void gather(const QString &text, const QTextCharFormat &format);
     bool isAtEnd() const;
-    void scrollToEnd();
+    void followEnd();
     void insertGathered();
     void markLinks(QTextBlock line);
     void dropOldLines();
@@ -86,6 +86,7 @@ private:
     bool m_detectsLinks = false;
     std::vector<Piece> m_gathered;
     qsizetype m_gatheredLength = 0;
+    bool m_follows = true; ///< the reader is at the end and stays there
     QTimer m_frame;
     QElapsedTimer m_sinceWritten;
     int m_wheel = 0; ///< turned since the last whole notch, in eighths of a degree
