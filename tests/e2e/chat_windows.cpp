@@ -17,12 +17,15 @@ constexpr Point stateChooser = {150, 47};
 constexpr Point firstRow = {150, 104};
 constexpr int rowHeight = 24;
 constexpr Point fourthMenuEntry = {40, 77}; // from where the menu was opened
+constexpr Point muteAboveBottom = {130, 79};
 constexpr Point autoReplyButtonAboveBottom = {240, 40};
 constexpr Point autoReplyText = {150, 235};
 constexpr Point mainLog = {450, 200};
 
 // Private window: the log takes the upper part, the input box stands at the bottom above the status bar.
 constexpr Point privateLog = {200, 100};
+constexpr Point beginningOfLine = {50, 60};
+constexpr int lineHeight = 13;
 constexpr Point inputAboveBottom = {100, 70};
 
 void copyAllAt(const Window &window, Point log)
@@ -76,6 +79,20 @@ void MainWindow::chooseRemove(int row) const
     click(firstRow.x + fourthMenuEntry.x, firstRow.y + row * rowHeight + fourthMenuEntry.y);
 }
 
+void MainWindow::chooseBuzz(int row) const
+{
+    openContextMenu(row);
+    press("Down");
+    press("Down");
+    press("Return");
+}
+
+void MainWindow::clickMute() const
+{
+    activate();
+    click(muteAboveBottom.x, place().height - muteAboveBottom.y);
+}
+
 void MainWindow::openStateChooser() const
 {
     activate();
@@ -125,6 +142,12 @@ void PrivateWindow::say(const std::string &utf8) const
     activate();
     type(utf8);
     press("Return");
+}
+
+void PrivateWindow::clickIntoLog(int linesBelow) const
+{
+    activate();
+    click(beginningOfLine.x, beginningOfLine.y + linesBelow * lineHeight);
 }
 
 void PrivateWindow::copyLog() const

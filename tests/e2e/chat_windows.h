@@ -25,6 +25,10 @@ public:
     void openContextMenu(int row) const;
     /// Chooses "Remove" from the context menu of a row.
     void chooseRemove(int row) const;
+    /// Chooses the entry of the context menu of a row that buzzes the contact.
+    void chooseBuzz(int row) const;
+    /// Ticks "Mute Buzz", or unticks it.
+    void clickMute() const;
     /// Drops the own-state chooser's list down.
     void openStateChooser() const;
     /// Chooses the entry of the own-state chooser that is so many below the chosen one; negative goes up.
@@ -48,6 +52,9 @@ public:
 
     /// Types the text and sends it.
     void say(const std::string &utf8) const;
+    /// Clicks near the beginning of a line in the upper half of the log, so many lines further down. On one line two
+    /// quick clicks were a double click.
+    void clickIntoLog(int linesBelow = 0) const;
     /// Into the clipboard.
     void copyLog() const;
     /// Sends what is in the clipboard as a message.

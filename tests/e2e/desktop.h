@@ -65,6 +65,9 @@ public:
     static Window active();
 
     Window() = default;
+    /// As the X server numbers it, decimal; empty for the null window.
+    explicit Window(const QByteArray &id) : m_id(id) { }
+    const QByteArray &id() const { return m_id; }
     bool isNull() const { return m_id.isEmpty(); }
 
     std::string caption() const;
@@ -88,10 +91,9 @@ public:
     bool operator==(const Window &) const = default;
 
 private:
-    explicit Window(const QByteArray &id) : m_id(id) { }
     QByteArray property(const char *name) const;
 
-    QByteArray m_id; ///< as the X server numbers it, decimal
+    QByteArray m_id;
 };
 
 std::ostream &operator<<(std::ostream &out, Window::State state);

@@ -113,9 +113,14 @@ RunningCopy::RunningCopy(const Place &place, const Rows &rows) : RunningCopy(pla
 RunningCopy::~RunningCopy()
 {
     endProcess(m_process);
-    QFile printed(m_scratch.filePath(QStringLiteral("printed")));
-    if (testing::Test::HasFailure() && printed.open(QFile::ReadOnly) && printed.size() > 0)
-        printf("The copy at %s printed:\n%s\n", m_place.address.c_str(), printed.readAll().constData());
+    if (const std::string text = printed(); testing::Test::HasFailure() && !text.empty())
+        printf("The copy at %s printed:\n%s\n", m_place.address.c_str(), text.c_str());
+}
+
+std::string RunningCopy::printed() const
+{
+    QFile file(m_scratch.filePath(QStringLiteral("printed")));
+    return file.open(QFile::ReadOnly) ? file.readAll().toStdString() : std::string();
 }
 
 void RunningCopy::prepare(QProcess &process, const QString &name) const
@@ -128,11 +133,13 @@ void RunningCopy::prepare(QProcess &process, const QString &name) const
     environment.insert(QStringLiteral("HOME"), m_scratch.path());
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-    // No desktop services of whoever runs the tests.
+    // No desktop services and no loudspeakers of whoever runs the tests.
     environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("disabled:"));
+    environment.insert(QStringLiteral("PULSE_SERVER"), QStringLiteral("unix:") + m_scratch.filePath("no-sound-server"));
     for (const char *foreign : {"WAYLAND_DISPLAY", "SESSION_MANAGER", "XDG_CONFIG_HOME", "QT_QPA_PLATFORMTHEME",
                                 "QT_STYLE_OVERRIDE", "QT_SCALE_FACTOR", "QT_IM_MODULE"})
         environment.remove(QLatin1String(foreign));
+    environment.insert(m_variables);
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.setStandardOutputFile(m_scratch.filePath(name), QIODevice::Append);

@@ -4,6 +4,7 @@
 #include "desktop.h"
 
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QTemporaryDir>
 
 #include <cstdint>
@@ -51,12 +52,18 @@ public:
     void setProfileFolder(const QString &folder) { m_profile = folder; }
     QString storeFile() const { return m_profile + QLatin1String("/settings.sqlite3"); }
 
+    /// For the environment of every start that follows. Without it there is neither a sound server nor a desktop.
+    void setVariable(const QString &name, const QString &value) { m_variables.insert(name, value); }
+
     void start(const QStringList &arguments);
     /// Starts the program a second time with the same profile and waits for the exit status; nothing when it crashed
     /// or did not end.
     std::optional<int> startAgain(const QStringList &arguments = {}) const;
 
     bool isRunning() const;
+    qint64 processId() const { return m_process.processId(); }
+    /// What it has written to its standard streams.
+    std::string printed() const;
     void signal(int number) const;
     /// Waits; nothing when it crashed or did not end.
     std::optional<int> exitStatus();
@@ -78,6 +85,7 @@ private:
     Place m_place;
     QTemporaryDir m_scratch;
     QString m_profile;
+    QProcessEnvironment m_variables;
     QProcess m_process;
 };
 
