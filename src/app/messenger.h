@@ -4,6 +4,7 @@
 #include "core/contact_commands.h"
 #include "core/main_window.h"
 #include "core/notifications.h"
+#include "core/shared_contacts.h"
 #include "private/peer_features.h"
 #include "private/private_windows.h"
 #include "protocol/receive_dispatcher.h"
@@ -41,6 +42,8 @@ public:
     Announcement &announcement() { return m_announcement; }
     MainLog &log() { return m_log; }
     PrivateWindows &privateWindows() { return m_privateWindows; }
+    OwnAvatar &ownAvatar() { return m_ownAvatar; }
+    const AvatarStore &avatars() const { return m_avatars; }
     ReceiveDispatcher &dispatcher() { return m_dispatcher; }
 
 private:
@@ -54,7 +57,10 @@ private:
     PrivateWindows m_privateWindows;
     Presence m_presence;
     Activity m_activity;
+    AvatarStore m_avatars;
+    OwnAvatar m_ownAvatar;
     PeerFeatures m_peerFeatures;
+    SharedContacts m_sharedContacts;
     ContactCommands m_contactCommands;
     ReceiveDispatcher m_dispatcher;
     MainWindow m_mainWindow;

@@ -6,6 +6,13 @@
 
 namespace nimb
 {
+
+QString nameOrUnknown(const QString &remote)
+{
+    const QString name = remoteName(remote);
+    return name.isEmpty() ? unknownName : name;
+}
+
 namespace
 {
 

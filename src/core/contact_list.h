@@ -34,6 +34,9 @@ struct Contact {
     void setPresence(Picture presence);
 };
 
+/// A name as a peer wrote it, made fit for a row.
+QString nameOrUnknown(const QString &remote);
+
 /// Keyed rows, no two with the same address, sorted ascending on the sort key by code point; equal keys keep the
 /// order of arrival. Rows move one by one, the list is never sorted as a whole.
 class ContactList : public QAbstractTableModel, public Senders

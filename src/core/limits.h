@@ -22,6 +22,10 @@ constexpr int logLines = 50000;
 constexpr int logLinesDropped = 1000;
 /// Contact rows up to which strangers are added: a subnet of 65,000 forged addresses must not fill the list.
 constexpr int contactsFromStrangers = 10000;
+/// Characters of what is being typed that the peer sees: the last ones are what matters.
+constexpr qsizetype liveTextLength = 200;
+/// Bytes of an avatar's head that are kept: a time stamp, or how a polled picture begins.
+constexpr std::size_t avatarHeadLength = 255;
 /// Rows that wait in the notification window.
 constexpr qsizetype notifications = 100;
 /// Contacts asked in one turn of the event loop during an announcement, so that their answers are read between.

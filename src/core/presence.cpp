@@ -9,12 +9,6 @@ namespace nimb
 namespace
 {
 
-QString nameOrUnknown(const QString &remote)
-{
-    const QString name = remoteName(remote);
-    return name.isEmpty() ? unknownName : name;
-}
-
 /// The names of the own-state table, in the order in which they are tried; a peer's state word matches by its first
 /// characters, without regard to case.
 Picture pictureOfState(const QString &state)

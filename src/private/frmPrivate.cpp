@@ -6,20 +6,28 @@
 #include "core/form_text.h"
 #include "core/log_font.h"
 #include "core/pictures.h"
+#include "core/twips.h"
 #include "core/window_attention.h"
 #include "private/RTFSubClass.h"
+#include "private/avatar_picture.h"
 #include "private/emoticon_picker.h"
+#include "private/live_type.h"
 #include "private/message_input.h"
+#include "private/mood_gauge.h"
 #include "private/private_chat.h"
 #include "private/rich_text_log.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QGridLayout>
+#include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -39,7 +47,7 @@ frmPrivate::frmPrivate(PrivateChat &chat, RTFSubClass &links) : m_chat(&chat), m
     buildControls();
     connectControls();
     m_links.HookRichText(*m_outtext, *this);
-    resize(600, 420);
+    resize(600, 480);
 }
 
 void frmPrivate::buildControls()
@@ -53,6 +61,8 @@ void frmPrivate::buildControls()
     futuretype->setObjectName(QStringLiteral("futuretype"));
     futuretype->setReadOnly(true);
     futuretype->setFocusPolicy(Qt::NoFocus);
+    futuretype->setAccessibleName(tr("What the peer is typing"));
+    futuretype->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     futuretype->hide();
 
     ListViewEmot = new EmoticonPicker(this);
@@ -77,7 +87,11 @@ void frmPrivate::buildControls()
     auto *const column = new QVBoxLayout;
     column->setContentsMargins(margin, margin, margin, spacing);
     column->setSpacing(spacing);
-    column->addWidget(m_outtext, 1);
+    auto *const conversation = new QHBoxLayout;
+    conversation->setSpacing(spacing);
+    conversation->addWidget(m_outtext, 1);
+    conversation->addWidget(makeSidePanels());
+    column->addLayout(conversation, 1);
     column->addWidget(ListViewEmot);
     column->addLayout(makeToolRow());
     column->addLayout(input);
@@ -115,8 +129,8 @@ QHBoxLayout *frmPrivate::makeToolRow()
     moodbtn = makeToolButton(QStringLiteral("moodbtn"), tr("Mood"), QStringLiteral("mood"));
     AvatarBtn = makeToolButton(QStringLiteral("AvatarBtn"), tr("Avatar"), QStringLiteral("avatar"));
     clearbtn = makeToolButton(QStringLiteral("clearbtn"), tr("Clear"), QStringLiteral("clear"));
-    for (QWidget *notYet : std::initializer_list<QWidget *>{BuzzBtn, livetypebtn, moodbtn, AvatarBtn})
-        notYet->setEnabled(false);
+    moodbtn->setCheckable(true);
+    AvatarBtn->setCheckable(true);
 
     auto *const row = new QHBoxLayout;
     row->setSpacing(2);
@@ -125,6 +139,56 @@ QHBoxLayout *frmPrivate::makeToolRow()
         row->addWidget(tool);
     row->addStretch(1);
     return row;
+}
+
+/// Beside the log: the peer's avatar and the moods.
+QWidget *frmPrivate::makeSidePanels()
+{
+    m_sidePanels = new QWidget(this);
+    Avatarframe = new QGroupBox(tr("Avatar"), m_sidePanels);
+    Avatarframe->setObjectName(QStringLiteral("Avatarframe"));
+    Picture1 = new AvatarPicture(Avatarframe);
+    Picture1->setObjectName(QStringLiteral("Picture1"));
+    Picture1->setAccessibleName(tr("Avatar of the peer"));
+    AvatarCh = new QLineEdit(Avatarframe);
+    AvatarCh->setObjectName(QStringLiteral("AvatarCh"));
+    AvatarCh->hide();
+    auto *const frame = new QVBoxLayout(Avatarframe);
+    frame->setContentsMargins(margin, margin, margin, margin);
+    frame->addWidget(Picture1, 0, Qt::AlignCenter);
+
+    auto *const column = new QVBoxLayout(m_sidePanels);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(spacing);
+    column->addWidget(Avatarframe);
+    column->addWidget(makeMoodPanel(m_sidePanels));
+    column->addStretch(1);
+    Avatarframe->hide();
+    m_moodPanel->hide();
+    m_sidePanels->hide();
+    return m_sidePanels;
+}
+
+QWidget *frmPrivate::makeMoodPanel(QWidget *parent)
+{
+    auto *const panel = new QGroupBox(tr("Mood"), parent);
+    panel->setObjectName(QStringLiteral("Moodframe"));
+    m_moodPanel = panel;
+    mymoodpct = new MoodGauge(panel);
+    mymoodpct->setObjectName(QStringLiteral("mymoodpct"));
+    mymoodpct->setToolTip(tr("Your mood (unspecified)"));
+    mymoodpct->setCursor(Qt::PointingHandCursor);
+    hismoodpct = new MoodGauge(panel);
+    hismoodpct->setObjectName(QStringLiteral("hismoodpct"));
+    hismoodpct->setToolTip(tr("His/her mood (unspecified)"));
+    auto *const grid = new QGridLayout(panel);
+    grid->setContentsMargins(margin, margin, margin, margin);
+    grid->setSpacing(spacing);
+    grid->addWidget(new QLabel(tr("You"), panel), 0, 0, Qt::AlignHCenter);
+    grid->addWidget(new QLabel(tr("Peer"), panel), 0, 1, Qt::AlignHCenter);
+    grid->addWidget(mymoodpct, 1, 0, Qt::AlignHCenter);
+    grid->addWidget(hismoodpct, 1, 1, Qt::AlignHCenter);
+    return panel;
 }
 
 QWidget *frmPrivate::makeStatusBar()
@@ -160,6 +224,15 @@ void frmPrivate::connectControls()
     connect(intext, &MessageInput::entered, sendbtn, &QPushButton::click);
     connect(clearbtn, &QToolButton::clicked, this, &frmPrivate::clearbtn_Click);
     connect(datetimebtn, &QToolButton::clicked, this, &frmPrivate::datetimebtn_Click);
+    intext->installEventFilter(this);
+    m_outtext->installEventFilter(this);
+    connect(intext, &QPlainTextEdit::textChanged, this, &frmPrivate::intext_Change);
+    connect(BuzzBtn, &QToolButton::clicked, this, [this] { m_chat->BuzzBtn_Click(); });
+    connect(livetypebtn, &QCheckBox::clicked, this, [this] { m_chat->livetypebtn_Click(); });
+    connect(futuretype, &QPlainTextEdit::textChanged, this, &frmPrivate::futuretype_Change);
+    connect(moodbtn, &QToolButton::toggled, this, &frmPrivate::moodbtn_Click);
+    connect(mymoodpct, &MoodGauge::pressed, this, [this](float value) { m_chat->mymoodpct_MouseDown(value); });
+    connect(AvatarBtn, &QToolButton::toggled, this, &frmPrivate::AvatarBtn_Click);
     connect(Emoticbtn, &QToolButton::toggled, this, &frmPrivate::Emoticbtn_Click);
     connect(ListViewEmot, &EmoticonPicker::picked, this, &frmPrivate::ListViewEmot_ItemClick);
     connect(m_outtext, &QTextEdit::textChanged, this, &frmPrivate::outtext_Change);
@@ -167,7 +240,7 @@ void frmPrivate::connectControls()
 
 void frmPrivate::sendbtn_Click()
 {
-    if (m_chat->send(typedText(*intext)))
+    if (m_chat->send(typedText()))
         intext->clear();
     intext->setFocus();
 }
@@ -191,8 +264,66 @@ void frmPrivate::Emoticbtn_Click(bool shown)
 
 void frmPrivate::ListViewEmot_ItemClick(const QString &emoticon)
 {
-    setTypedText(*intext, typedText(*intext) + emoticon);
+    setTypedText(*intext, typedText() + emoticon);
     intext->setFocus();
+}
+
+void frmPrivate::intext_Change()
+{
+    if (m_chat)
+        m_chat->intext_Change(nimb::typedText(*intext));
+}
+
+/// The preview grows upwards over the lower part of the log.
+void frmPrivate::futuretype_Change()
+{
+    constexpr double aboveLogsEnd = 340; // twips
+    const int boxHeight = pixels(liveTypeHeight(futuretype->toPlainText().size()));
+    const QRect log(m_outtext->mapTo(this, QPoint(0, 0)), m_outtext->size());
+    const int inset = spacing;
+    futuretype->setGeometry(log.left() + inset, log.bottom() + 1 - boxHeight - pixels(aboveLogsEnd),
+                            log.width() - 2 * inset - m_outtext->verticalScrollBar()->sizeHint().width(), boxHeight);
+    futuretype->raise();
+}
+
+void frmPrivate::moodbtn_Click(bool shown)
+{
+    m_moodPanel->setVisible(shown);
+    m_sidePanels->setVisible(shown || AvatarBtn->isChecked());
+    focusInput();
+}
+
+void frmPrivate::AvatarBtn_Click(bool shown)
+{
+    if (shown)
+        m_chat->avatarWanted();
+    Avatarframe->setVisible(shown);
+    m_sidePanels->setVisible(shown || moodbtn->isChecked());
+}
+
+/// The form sees keys before its controls do.
+bool frmPrivate::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress && Form_KeyDown(*static_cast<QKeyEvent *>(event)))
+        return true;
+    if (event->type() == QEvent::Resize && watched == m_outtext)
+        futuretype_Change();
+    return QWidget::eventFilter(watched, event);
+}
+
+void frmPrivate::keyPressEvent(QKeyEvent *event)
+{
+    if (!Form_KeyDown(*event))
+        QWidget::keyPressEvent(event);
+}
+
+bool frmPrivate::Form_KeyDown(const QKeyEvent &event)
+{
+    if (event.key() != Qt::Key_G || event.modifiers() != Qt::ControlModifier || !m_chat)
+        return false;
+    if (!event.isAutoRepeat()) // one press, one buzz
+        m_chat->BuzzBtn_Click();
+    return true;
 }
 
 void frmPrivate::outtext_Change()
@@ -259,9 +390,50 @@ void frmPrivate::setPanel(int number, const QString &text)
     m_panels[number - 1]->setText(text);
 }
 
-void frmPrivate::hideLiveType()
+void frmPrivate::setLiveType(const QString &text)
 {
-    futuretype->hide();
+    futuretype->setPlainText(text);
+    futuretype->moveCursor(QTextCursor::End);
+    futuretype->setVisible(!text.isEmpty());
+}
+
+void frmPrivate::setLiveTypeOn(bool on)
+{
+    livetypebtn->setChecked(on);
+}
+
+QString frmPrivate::typedText() const
+{
+    return nimb::typedText(*intext);
+}
+
+bool frmPrivate::isLiveTypeOn() const
+{
+    return livetypebtn->isChecked();
+}
+
+void frmPrivate::focusInput()
+{
+    intext->setFocus();
+    intext->moveCursor(QTextCursor::End);
+}
+
+void frmPrivate::setAvatar(const QString &marker, const std::optional<QByteArray> &picture)
+{
+    AvatarCh->setText(marker);
+    Picture1->setPicture(picture);
+}
+
+void frmPrivate::setOwnMood(const MoodMark &mood)
+{
+    mymoodpct->setMood(mood);
+    mymoodpct->setToolTip(tr("Your mood (%1)").arg(mood.name));
+}
+
+void frmPrivate::setPeersMood(const MoodMark &mood)
+{
+    hismoodpct->setMood(mood);
+    hismoodpct->setToolTip(tr("His/her mood (%1)").arg(mood.name));
 }
 
 Colour frmPrivate::windowTextColour() const

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class QCheckBox;
+class QGroupBox;
 class QHBoxLayout;
 class QLabel;
 class QLineEdit;
@@ -17,8 +18,10 @@ class QToolButton;
 namespace nimb
 {
 
+class AvatarPicture;
 class EmoticonPicker;
 class MessageInput;
+class MoodGauge;
 class RTFSubClass;
 class RichTextLogEdit;
 
@@ -35,7 +38,14 @@ public:
     void setPeerAddress(const QString &ip) override;
     void setLogFont(const LogFont &font) override;
     void setPanel(int number, const QString &text) override;
-    void hideLiveType() override;
+    void setLiveType(const QString &text) override;
+    void setLiveTypeOn(bool on) override;
+    QString typedText() const override;
+    bool isLiveTypeOn() const override;
+    void focusInput() override;
+    void setAvatar(const QString &marker, const std::optional<QByteArray> &picture) override;
+    void setOwnMood(const MoodMark &mood) override;
+    void setPeersMood(const MoodMark &mood) override;
     Colour windowTextColour() const override;
     bool isHidden() const override { return QWidget::isHidden(); }
     void showWindow(ShowMode mode) override;
@@ -46,11 +56,15 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void buildControls();
     QToolButton *makeToolButton(const QString &name, const QString &caption, const QString &picture);
     QHBoxLayout *makeToolRow();
+    QWidget *makeSidePanels();
+    QWidget *makeMoodPanel(QWidget *parent);
     QWidget *makeStatusBar();
     void connectControls();
 
@@ -60,6 +74,11 @@ private:
     void datetimebtn_Click();
     void Emoticbtn_Click(bool shown);
     void ListViewEmot_ItemClick(const QString &emoticon);
+    void intext_Change();
+    void futuretype_Change();
+    void moodbtn_Click(bool shown);
+    void AvatarBtn_Click(bool shown);
+    bool Form_KeyDown(const QKeyEvent &event);
     void outtext_Change();
     /// True when the window is to be unloaded; otherwise it has been hidden.
     bool Form_QueryUnload(UnloadMode mode);
@@ -80,6 +99,13 @@ private:
     QToolButton *moodbtn = nullptr;
     QToolButton *AvatarBtn = nullptr;
     QCheckBox *livetypebtn = nullptr;
+    QWidget *m_sidePanels = nullptr;
+    QWidget *m_moodPanel = nullptr;
+    MoodGauge *mymoodpct = nullptr;
+    MoodGauge *hismoodpct = nullptr;
+    QGroupBox *Avatarframe = nullptr;
+    AvatarPicture *Picture1 = nullptr;
+    QLineEdit *AvatarCh = nullptr; ///< hidden; holds the head of the avatar that is shown
     QLabel *m_panels[2] = {};
 };
 

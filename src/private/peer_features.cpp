@@ -1,50 +1,85 @@
 #include "private/peer_features.h"
 
 #include "core/remote_text.h"
+#include "protocol/send_datagram.h"
 
 namespace nimb
 {
 
-PeerFeatures::PeerFeatures(const Common &common, const ContactList &contacts, PrivateWindows &windows,
-                           Activity &activity, Sound &sound, DropCounts &drops)
-    : m_common(common), m_contacts(contacts), m_windows(windows), m_activity(activity), m_sound(sound), m_drops(drops)
+PrivateChat *PeerFeatures::windowOf(const QString &ip)
 {
-}
-
-PrivateChat *PeerFeatures::windowOf(const Contact &contact)
-{
-    return contact.privateWindow > 0 ? m_windows.at(contact.privateWindow) : nullptr;
+    const int window = m_parts.contacts.find(ip)->privateWindow;
+    return window > 0 ? m_parts.windows.at(window) : nullptr;
 }
 
 void PeerFeatures::buzz(const QString &ip)
 {
-    if (m_common.options.BuzzRemote == 1 && !m_common.buzzmute)
-        m_sound.playAlarm();
-    const Contact &contact = *m_contacts.find(ip);
-    const QString text = tr("%1 is buzzing you...").arg(paintedName(contact.nickname));
-    m_activity.show(text);
-    if (PrivateChat *const window = windowOf(contact))
+    if (m_parts.common.options.BuzzRemote == 1 && !m_parts.common.buzzmute)
+        m_parts.sound.playAlarm();
+    const QString text = tr("%1 is buzzing you...").arg(paintedName(m_parts.contacts.find(ip)->nickname));
+    m_parts.activity.show(text);
+    if (PrivateChat *const window = windowOf(ip))
         window->buzzed(text);
 }
 
 void PeerFeatures::typing(const QString &ip)
 {
-    const Contact &contact = *m_contacts.find(ip);
-    const QString text = tr("%1 is typing a message...").arg(paintedName(contact.nickname));
-    if (PrivateChat *const window = windowOf(contact))
+    const QString text = tr("%1 is typing a message...").arg(paintedName(m_parts.contacts.find(ip)->nickname));
+    if (PrivateChat *const window = windowOf(ip))
         window->showPeerActivity(text);
     else
-        m_activity.show(text);
+        m_parts.activity.show(text);
 }
 
-void PeerFeatures::liveType(const QString &, const QString &)
+void PeerFeatures::liveType(const QString &ip, const QString &text)
 {
-    m_drops.count(Drop::noFeature);
+    if (PrivateChat *const window = windowOf(ip))
+        window->liveTypeReceived(text);
+    else
+        m_parts.drops.count(Drop::noWindow);
 }
 
-void PeerFeatures::mood(const QString &, const QString &)
+void PeerFeatures::mood(const QString &ip, const QString &value)
 {
-    m_drops.count(Drop::noFeature);
+    PrivateChat *const window = windowOf(ip);
+    if (!window)
+        return m_parts.drops.count(Drop::noWindow);
+    if (const std::optional<std::int16_t> mood = Mood::parse(value))
+        window->setmood(*mood);
+}
+
+void PeerFeatures::avatarHeadQuestion(const QString &ip)
+{
+    m_parts.ownAvatar.answerHead(ip);
+}
+
+void PeerFeatures::avatarBodyQuestion(const QString &ip)
+{
+    m_parts.ownAvatar.answerBody(ip);
+}
+
+void PeerFeatures::avatarHead(const QString &ip, const std::string &head)
+{
+    m_parts.avatars.setHead(ip, head);
+    sendDatagram(m_parts.socket, ip, wire::AvatarBodyQuestion{});
+}
+
+void PeerFeatures::avatarBody(const QString &ip, const std::string &body)
+{
+    m_parts.avatars.setBody(ip, body);
+    avatarChanged(ip);
+}
+
+void PeerFeatures::avatarOff(const QString &ip)
+{
+    m_parts.avatars.clear(ip);
+    avatarChanged(ip);
+}
+
+void PeerFeatures::avatarChanged(const QString &ip)
+{
+    if (PrivateChat *const window = windowOf(ip))
+        window->AvatarCh_Change(m_parts.avatars.of(ip));
 }
 
 } // namespace nimb

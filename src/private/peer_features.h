@@ -1,10 +1,12 @@
-// What peers do besides writing: they buzz and type.
+// What peers do besides writing: they buzz and type, show their mood and their avatar.
 #pragma once
 
 #include "core/Common.h"
 #include "core/activity.h"
 #include "core/contact_list.h"
 #include "core/sound.h"
+#include "private/avatar_store.h"
+#include "private/own_avatar.h"
 #include "private/private_windows.h"
 #include "protocol/drop_counts.h"
 #include "protocol/handlers.h"
@@ -14,13 +16,24 @@
 namespace nimb
 {
 
-class PeerFeatures : public PeerSignalHandler
+class PeerFeatures : public PeerSignalHandler, public AvatarHandler
 {
     Q_DECLARE_TR_FUNCTIONS(PeerFeatures)
 
 public:
-    PeerFeatures(const Common &common, const ContactList &contacts, PrivateWindows &windows, Activity &activity,
-                 Sound &sound, DropCounts &drops);
+    struct Parts {
+        const Common &common;
+        const ContactList &contacts;
+        Winsock &socket;
+        PrivateWindows &windows;
+        AvatarStore &avatars;
+        OwnAvatar &ownAvatar;
+        Activity &activity;
+        Sound &sound;
+        DropCounts &drops;
+    };
+
+    explicit PeerFeatures(const Parts &parts) : m_parts(parts) { }
 
     /// Heard unless switched off or muted, and always seen.
     void buzz(const QString &ip) override;
@@ -29,16 +42,19 @@ public:
     void liveType(const QString &ip, const QString &text) override;
     void mood(const QString &ip, const QString &value) override;
 
+    void avatarHeadQuestion(const QString &ip) override;
+    void avatarBodyQuestion(const QString &ip) override;
+    /// Kept, and answered by the question for the body.
+    void avatarHead(const QString &ip, const std::string &head) override;
+    void avatarBody(const QString &ip, const std::string &body) override;
+    void avatarOff(const QString &ip) override;
+
 private:
     /// The peer's private window, or null.
-    PrivateChat *windowOf(const Contact &contact);
+    PrivateChat *windowOf(const QString &ip);
+    void avatarChanged(const QString &ip);
 
-    const Common &m_common;
-    const ContactList &m_contacts;
-    PrivateWindows &m_windows;
-    Activity &m_activity;
-    Sound &m_sound;
-    DropCounts &m_drops;
+    Parts m_parts;
 };
 
 } // namespace nimb

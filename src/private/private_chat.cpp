@@ -1,9 +1,11 @@
 #include "private/private_chat.h"
 
+#include "core/buzz.h"
 #include "core/clock_text.h"
 #include "core/limits.h"
 #include "core/remote_text.h"
 #include "private/emoticons.h"
+#include "private/live_type.h"
 #include "private/message_text.h"
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
@@ -13,21 +15,30 @@ namespace nimb
 namespace
 {
 constexpr std::chrono::milliseconds peerActivityShown{2500};
-}
+constexpr std::chrono::milliseconds pollingInterval{1100};
+} // namespace
 
 PrivateChat::PrivateChat(const Services &services, std::function<void()> unloaded)
     : m_services(services), m_unloaded(std::move(unloaded)),
       m_autoReplyTimer(services.timers.oneShot(limits::autoReplyPause, [] {})),
       m_timer(services.timers.oneShot(peerActivityShown, [this] { m_view->setPanel(2, {}); })),
+      m_timerLiveType(services.timers.oneShot(liveTypeInterval, [this] { TimerLiveType_Timer(); })),
+      m_webCamTimer(services.timers.repeating(pollingInterval, [this] { avatarWanted(); })),
       m_view(services.forms.makePrivateForm(*this))
 {
     m_view->setLogFont(services.common.logFont);
+    m_view->setLiveTypeOn(services.common.options.LiveType == 1);
 }
 
 void PrivateChat::setPeer(const QString &ip)
 {
     m_rIP = ip;
     m_view->setPeerAddress(ip);
+    avatarWanted();
+}
+
+void PrivateChat::avatarWanted()
+{
     sendDatagram(m_services.socket, m_rIP, wire::AvatarHeadQuestion{});
 }
 
@@ -61,7 +72,7 @@ void PrivateChat::MessageReceived(const QString &nik, QString &msg)
     appendMessage(nik, msg, colours::receivedMessage);
     const QDateTime now = m_services.clock.now();
     m_view->setPanel(1, tr("Last message: %1 @ %2").arg(shortDate(now), longTime(now)));
-    m_view->hideLiveType();
+    m_view->setLiveType({});
     const AutoReply &reply = m_services.common.autoReply;
     replyAutomatically("BUSY", reply.onBusy, reply.busyText);
     replyAutomatically("AWAY", reply.onAway, reply.awayText);
@@ -88,9 +99,74 @@ void PrivateChat::buzzed(const QString &text)
     showPeerActivity(text);
 }
 
+void PrivateChat::BuzzBtn_Click()
+{
+    sendBuzz(m_services.common, m_services.socket, m_services.sound, m_rIP);
+    appendBuzz();
+    m_view->focusInput();
+}
+
 void PrivateChat::appendBuzz()
 {
     appendText(m_view->outtext(), QStringLiteral("BUZZ!\r\n"), colours::presence);
+}
+
+void PrivateChat::intext_Change(const QString &typed)
+{
+    if (!m_typingNotice.textChanged(typed.size()))
+        return;
+    sendDatagram(m_services.socket, m_rIP, wire::Typing{});
+    if (!m_view->isLiveTypeOn())
+        return;
+    m_liveTypePending = true;
+    if (!m_timerLiveType->isActive())
+        m_timerLiveType->start();
+}
+
+void PrivateChat::livetypebtn_Click()
+{
+    // The timer rests while nothing may be sent.
+    if (m_liveTypePending && m_view->isLiveTypeOn() && !m_timerLiveType->isActive())
+        m_timerLiveType->start();
+    m_view->focusInput();
+}
+
+void PrivateChat::TimerLiveType_Timer()
+{
+    if (!m_liveTypePending || !m_view->isLiveTypeOn())
+        return;
+    sendDatagram(m_services.socket, m_rIP, wire::LiveType{toWire(liveTypeToSend(m_view->typedText()))});
+    m_liveTypePending = false;
+}
+
+void PrivateChat::liveTypeReceived(const QString &text)
+{
+    m_view->setLiveType(liveTypeToShow(text));
+}
+
+void PrivateChat::AvatarCh_Change(const Avatar &avatar)
+{
+    if (!isPolledPicture(avatar.head))
+        m_webCamTimer->stop();
+    else if (!m_webCamTimer->isActive())
+        m_webCamTimer->start();
+    const bool shown = !avatar.head.empty() && avatar.body.size() == avatarBytes;
+    m_view->setAvatar(remoteLine(fromWire(avatar.head)), shown ? std::optional(avatar.body) : std::nullopt);
+}
+
+void PrivateChat::mymoodpct_MouseDown(float value)
+{
+    const std::optional<MoodMark> mood = Mood::own(value);
+    if (!mood)
+        return;
+    m_view->setOwnMood(*mood);
+    sendDatagram(m_services.socket, m_rIP, wire::Mood{Mood::toSend(value).toStdString()});
+}
+
+void PrivateChat::setmood(std::int16_t mood)
+{
+    if (const std::optional<MoodMark> mark = Mood::peers(mood))
+        m_view->setPeersMood(*mark);
 }
 
 void PrivateChat::appendPresence(const QString &line)

@@ -2,9 +2,12 @@
 #pragma once
 
 #include "core/Common.h"
+#include "core/avatar.h"
+#include "core/sound.h"
 #include "core/timers.h"
 #include "core/unload_mode.h"
 #include "private/private_chat_view.h"
+#include "private/typing_notice.h"
 #include "protocol/winsock.h"
 
 #include <QCoreApplication>
@@ -24,6 +27,7 @@ public:
     struct Services {
         const Common &common;
         Winsock &socket;
+        Sound &sound;
         Timers &timers;
         const WallClock &clock;
         PrivateForms &forms;
@@ -45,11 +49,25 @@ public:
     void showPeerActivity(const QString &text);
     /// The same for a buzz, which the log keeps.
     void buzzed(const QString &text);
+    /// Shows what the peer is typing; empty: nothing.
+    void liveTypeReceived(const QString &text);
+    /// The peer's avatar changed: its head and its picture.
+    void AvatarCh_Change(const Avatar &avatar);
+    /// Shows the peer's mood; one outside the scale is ignored.
+    void setmood(std::int16_t mood);
     /// Appends a line about the peer's presence.
     void appendPresence(const QString &line);
 
     /// Sends what was typed; false when there was nothing, which sends nothing. Line breaks are CR LF.
     bool send(const QString &typed);
+    /// The input box changed to this text.
+    void intext_Change(const QString &typed);
+    void livetypebtn_Click();
+    void BuzzBtn_Click();
+    /// The avatar panel is about to be shown.
+    void avatarWanted();
+    /// The own gauge was clicked at this height, in units of the scale.
+    void mymoodpct_MouseDown(float value);
     /// Date and time for the input box.
     QString dateAndTime() const;
     /// Something was added to the log.
@@ -60,6 +78,7 @@ public:
     void Form_Unload();
 
 private:
+    void TimerLiveType_Timer();
     void appendBuzz();
     void appendMessage(const QString &nick, const QString &body, Colour colour);
     void replyAutomatically(const char *state, bool on, const QString &text);
@@ -69,6 +88,10 @@ private:
     QString m_rIP;
     std::unique_ptr<Timer> m_autoReplyTimer;
     std::unique_ptr<Timer> m_timer; ///< clears the panel of the peer's activity
+    std::unique_ptr<Timer> m_timerLiveType;
+    std::unique_ptr<Timer> m_webCamTimer;
+    TypingNotice m_typingNotice;
+    bool m_liveTypePending = false;
     ViewPtr<PrivateChatView> m_view;
 };
 

@@ -4,8 +4,12 @@
 #include "core/attention.h"
 #include "core/rich_text.h"
 #include "core/view_ptr.h"
+#include "private/mood.h"
 
+#include <QByteArray>
 #include <QString>
+
+#include <optional>
 
 namespace nimb
 {
@@ -29,7 +33,18 @@ public:
     virtual void setLogFont(const LogFont &font) = 0;
     /// Panel of the status bar, 1 or 2.
     virtual void setPanel(int number, const QString &text) = 0;
-    virtual void hideLiveType() = 0;
+    /// Shows what the peer is typing; an empty text hides the preview.
+    virtual void setLiveType(const QString &text) = 0;
+    /// The input box as it is now, line breaks as CR LF.
+    virtual QString typedText() const = 0;
+    virtual void setLiveTypeOn(bool on) = 0;
+    /// Whether the peer is to see what is typed.
+    virtual bool isLiveTypeOn() const = 0;
+    virtual void focusInput() = 0;
+    /// The peer's avatar; nothing: the picture that stands for none. marker: what AvatarCh holds.
+    virtual void setAvatar(const QString &marker, const std::optional<QByteArray> &picture) = 0;
+    virtual void setOwnMood(const MoodMark &mood) = 0;
+    virtual void setPeersMood(const MoodMark &mood) = 0;
     /// The colour of own messages: the system's window-text colour.
     virtual Colour windowTextColour() const = 0;
 

@@ -350,8 +350,14 @@ void RichTextLogEdit::changeEvent(QEvent *event)
 
 void RichTextLogEdit::resizeEvent(QResizeEvent *event)
 {
+    const QTextCursor topLine = cursorForPosition(QPoint(0, fontMetrics().height() / 2));
+    const int top = cursorRect(topLine).top();
     QTextEdit::resizeEvent(event);
-    followEnd();
+    if (m_follows)
+        return followEnd();
+    // A new width breaks lines anew; what was read at the top stays there.
+    if (event->size().width() != event->oldSize().width())
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(topLine).top() - top);
 }
 
 void RichTextLogEdit::adaptColours()

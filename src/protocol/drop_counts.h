@@ -13,6 +13,7 @@ enum class Drop {
     stranger,        ///< a datagram from an address that is no contact
     incomplete,      ///< a known command that lacks what it must carry
     noFeature,       ///< a known command that nothing here takes
+    noWindow,        ///< for a private window where there is none
     badAddress,      ///< an address that cannot become a contact
     tooManyContacts, ///< strangers have filled the contact list
     notSent,         ///< the system refused to send, or the socket is not bound

@@ -1,5 +1,7 @@
 #include "real_windows.h"
 
+#include "private/avatar_picture.h"
+#include "private/mood_gauge.h"
 #include "private/rich_text_log.h"
 
 #include <QCheckBox>
@@ -10,6 +12,8 @@
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QToolButton>
+
+#include <random>
 
 namespace nimb::test
 {
@@ -160,11 +164,227 @@ TEST_F(FrmPrivate, WithTheOptionTheCloseBoxUnloads)
     EXPECT_EQ(windows.list().model()->index(0, 4).data().toString(), QStringLiteral("2"));
 }
 
-TEST_F(FrmPrivate, FeaturesThatAreNotThereAreDisabled)
+TEST_F(FrmPrivate, CtrlGBuzzesWhereverTheFocusIs)
 {
-    for (const char *name : {"BuzzBtn", "moodbtn", "AvatarBtn", "livetypebtn"})
-        EXPECT_FALSE(control<QWidget>(name).isEnabled()) << name;
-    EXPECT_FALSE(control<QWidget>("futuretype").isVisible());
+    for (QWidget *const focus : {static_cast<QWidget *>(&intext()), static_cast<QWidget *>(&outtext()),
+                                 static_cast<QWidget *>(&control<QPushButton>("sendbtn"))}) {
+        QTest::keyClick(focus, Qt::Key_G, Qt::ControlModifier);
+        EXPECT_THAT(windows.sent(), ElementsAre(To("10.0.0.2", "!BUZZ"))) << focus->objectName().toStdString();
+    }
+    EXPECT_EQ(lastLogLine(), QStringLiteral("BUZZ!"));
+    EXPECT_EQ(intext().toPlainText(), QString());
+}
+
+TEST_F(FrmPrivate, OnlyCtrlAloneWithGBuzzes)
+{
+    QTest::keyClick(&intext(), Qt::Key_G, Qt::ControlModifier | Qt::ShiftModifier);
+    QTest::keyClick(&intext(), Qt::Key_G);
+    EXPECT_THAT(windows.sent(), IsEmpty());
+    EXPECT_EQ(intext().toPlainText(), QStringLiteral("g"));
+}
+
+TEST_F(FrmPrivate, TheBuzzButtonBuzzesAndReturnsToTheEndOfTheInput)
+{
+    intext().setPlainText(QStringLiteral("text"));
+    QTest::mouseClick(&control<QToolButton>("BuzzBtn"), Qt::LeftButton);
+    EXPECT_THAT(windows.sent(), ElementsAre(To("10.0.0.2", "!BUZZ")));
+    EXPECT_TRUE(intext().textCursor().atEnd());
+    EXPECT_EQ(form().focusWidget(), &intext());
+}
+
+TEST_F(FrmPrivate, TypingIsNoticedAndFollowedByTheLiveText)
+{
+    EXPECT_TRUE(control<QCheckBox>("livetypebtn").isChecked());
+    type(QStringLiteral("twelve chars"));
+    EXPECT_THAT(windows.sent(), IsEmpty());
+    type(QStringLiteral("!"));
+    EXPECT_THAT(windows.sent(), ElementsAre(To("10.0.0.2", "!TYPING")));
+    windows.time.advance(std::chrono::milliseconds(750));
+    EXPECT_THAT(windows.sent(), ElementsAre(To("10.0.0.2", "!LIVETYPE twelve chars!")));
+}
+
+TEST_F(FrmPrivate, PastingThreeThousandCharactersIsNoticedOnce)
+{
+    intext().insertPlainText(QString(3000, u'x'));
+    EXPECT_EQ(intext().toPlainText().size(), 2000);
+    EXPECT_THAT(windows.sent(), ElementsAre(To("10.0.0.2", "!TYPING")));
+}
+
+TEST_F(FrmPrivate, LiveTypeCanBeSwitchedOff)
+{
+    intext().setPlainText(QStringLiteral("x"));
+    windows.sent();
+    QTest::mouseClick(&control<QCheckBox>("livetypebtn"), Qt::LeftButton, {}, QPoint(8, 12));
+    EXPECT_FALSE(control<QCheckBox>("livetypebtn").isChecked());
+    EXPECT_EQ(form().focusWidget(), &intext());
+    EXPECT_TRUE(intext().textCursor().atEnd());
+    type(QStringLiteral("thirteen and more"));
+    windows.time.advance(std::chrono::seconds(60));
+    EXPECT_THAT(windows.sent(), ElementsAre(To("10.0.0.2", "!TYPING")));
+}
+
+TEST_F(FrmPrivate, ThePreviewGrowsUpwardsOverTheLogUntilTheMessageComes)
+{
+    auto &preview = control<QPlainTextEdit>("futuretype");
+    EXPECT_FALSE(preview.isVisible());
+    const QWidget &log = control<QWidget>("outtext");
+    const int logsEnd = log.mapTo(&form(), QPoint(0, log.height())).y();
+    for (const int length : {1, 5, 12, 150}) {
+        windows.arrive("10.0.0.2", "!LIVETYPE " + std::string(std::size_t(length), 'x'));
+        EXPECT_TRUE(preview.isVisible());
+        EXPECT_EQ(preview.toPlainText(), QString(length, u'x'));
+        const int height = qMin(67, 10 + 5 * length); // 1000 twips at most
+        EXPECT_NEAR(preview.height(), height, 1) << length;
+        EXPECT_NEAR(preview.geometry().bottom() + 1, logsEnd - 23, 1) << "340 twips above the log's end";
+    }
+    windows.arrive("10.0.0.2", "-done");
+    EXPECT_FALSE(preview.isVisible());
+    windows.arrive("10.0.0.2", "!LIVETYPE more");
+    EXPECT_TRUE(preview.isVisible());
+    windows.arrive("10.0.0.2", "!LIVETYPE ");
+    EXPECT_FALSE(preview.isVisible());
+}
+
+TEST_F(FrmPrivate, ThePreviewShowsMarkupAsText)
+{
+    windows.arrive("10.0.0.2", "!LIVETYPE <b>x</b>");
+    EXPECT_EQ(control<QPlainTextEdit>("futuretype").toPlainText(), QStringLiteral("<b>x</b>"));
+}
+
+TEST_F(FrmPrivate, TheAvatarPanelAsksAndShows)
+{
+    auto &panel = control<QWidget>("Avatarframe");
+    EXPECT_FALSE(panel.isVisible());
+    QTest::mouseClick(&control<QToolButton>("AvatarBtn"), Qt::LeftButton);
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_THAT(windows.sent(), ElementsAre(To("10.0.0.2", "?AVATARHEAD")));
+    std::string body;
+    for (int i = 0; i < 2500; ++i)
+        body += std::string("\xC0\x80\x01"); // blue, green, red
+    windows.arrive("10.0.0.2", "!AVATARHEAD today");
+    windows.arrive("10.0.0.2", "!AVATARBODY " + body);
+    EXPECT_EQ(control<QLineEdit>("AvatarCh").text(), QStringLiteral("today"));
+    EXPECT_FALSE(control<QLineEdit>("AvatarCh").isVisible());
+    auto &picture = control<AvatarPicture>("Picture1");
+    EXPECT_TRUE(picture.hasPicture());
+    EXPECT_EQ(picture.grab().toImage().pixelColor(50, 50), QColor(0x01, 0x80, 0xC0));
+    windows.arrive("10.0.0.2", "!AVATAROFF");
+    EXPECT_FALSE(picture.hasPicture());
+    windows.sent();
+    QTest::mouseClick(&control<QToolButton>("AvatarBtn"), Qt::LeftButton);
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_THAT(windows.sent(), IsEmpty()) << "hiding asks nothing";
+}
+
+TEST_F(FrmPrivate, TheMoodPanelTogglesAndReturnsToTheInput)
+{
+    auto &gauge = control<MoodGauge>("mymoodpct");
+    intext().setPlainText(QStringLiteral("text"));
+    windows.sent();
+    QTest::mouseClick(&control<QToolButton>("moodbtn"), Qt::LeftButton);
+    EXPECT_TRUE(gauge.isVisible());
+    EXPECT_EQ(form().focusWidget(), &intext());
+    EXPECT_TRUE(intext().textCursor().atEnd());
+    EXPECT_EQ(gauge.toolTip(), QStringLiteral("Your mood (unspecified)"));
+    EXPECT_EQ(control<QWidget>("hismoodpct").toolTip(), QStringLiteral("His/her mood (unspecified)"));
+    QTest::mouseClick(&control<QToolButton>("moodbtn"), Qt::LeftButton);
+    EXPECT_FALSE(gauge.isVisible());
+}
+
+TEST_F(FrmPrivate, EveryClickOnTheGaugeIsAMood)
+{
+    QTest::mouseClick(&control<QToolButton>("moodbtn"), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    auto &gauge = control<MoodGauge>("mymoodpct");
+    for (int y = 0; y < gauge.height(); ++y) {
+        QTest::mouseClick(&gauge, Qt::LeftButton, {}, QPoint(5, y));
+        const std::vector<To> sent = windows.sent();
+        ASSERT_EQ(sent.size(), 1u) << y;
+        const double value = std::stod(sent.front().bytes.substr(6));
+        EXPECT_GE(value, 0);
+        EXPECT_LT(value, 64);
+    }
+    QTest::mouseClick(&gauge, Qt::LeftButton, {}, QPoint(5, 80));
+    EXPECT_THAT(windows.sent(), ElementsAre(To("10.0.0.2", "!MOOD 40")));
+    EXPECT_EQ(gauge.toolTip(), QStringLiteral("Your mood (Mainly Yellow)"));
+    EXPECT_FALSE(gauge.mood()->bright);
+    QTest::mouseClick(&gauge, Qt::LeftButton, {}, QPoint(5, 82));
+    EXPECT_TRUE(gauge.mood()->bright);
+    windows.sent();
+    QTest::mouseClick(&gauge, Qt::RightButton, {}, QPoint(5, 10));
+    EXPECT_THAT(windows.sent(), IsEmpty());
+}
+
+TEST_F(FrmPrivate, ThePeersMoodIsOnItsGauge)
+{
+    windows.arrive("10.0.0.2", "!MOOD 50");
+    auto &gauge = control<MoodGauge>("hismoodpct");
+    EXPECT_EQ(gauge.toolTip(), QStringLiteral("His/her mood (Red)"));
+    EXPECT_EQ(gauge.mood()->value, 50);
+    windows.arrive("10.0.0.2", "!MOOD 64");
+    EXPECT_EQ(gauge.mood()->value, 50);
+    windows.sent();
+    QTest::mouseClick(&gauge, Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_THAT(windows.sent(), IsEmpty()) << "nobody sets another's mood";
+}
+
+TEST_F(FrmPrivate, PanelsOpenWithoutMovingTheReadersPlace)
+{
+    for (int i = 0; i < 60; ++i)
+        windows.arrive("10.0.0.2",
+                       "-a line that is long enough to be broken once the log becomes narrower by a panel beside it");
+    const auto firstLine = [this] { return outtext().cursorForPosition(QPoint(4, 4)).block().blockNumber(); };
+    QScrollBar &bar = *outtext().verticalScrollBar();
+    bar.setValue(0);
+    bar.setValue(outtext().cursorRect(QTextCursor(outtext().document()->findBlockByNumber(20))).top());
+    const int before = firstLine();
+    ASSERT_EQ(before, 20);
+    QTest::mouseClick(&control<QToolButton>("moodbtn"), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(firstLine(), before);
+    QTest::mouseClick(&control<QToolButton>("moodbtn"), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(firstLine(), before);
+}
+
+TEST_F(FrmPrivate, TenThousandMutatedSignalsLeaveTheWindowWorking)
+{
+    const std::array seeds = {std::string("!TYPING"),
+                              std::string("!LIVETYPE hello there"),
+                              std::string("!BUZZ"),
+                              std::string("!MOOD 12.5"),
+                              std::string("!AVATARHEAD WEBCAM 12"),
+                              "!AVATARBODY " + std::string(7500, 'x'),
+                              std::string("!AVATAROFF"),
+                              std::string("?AVATARHEAD"),
+                              std::string("?AVATARBODY"),
+                              std::string("!USER 10.1.1.1 PC Cleo")};
+    std::mt19937 random(20261121); // the same in every run
+    const auto below = [&random](std::size_t end) { return std::size_t(random()) % end; };
+    for (int i = 0; i < 10000; ++i) {
+        std::string bytes = seeds[below(seeds.size())];
+        for (std::size_t change = below(4); change-- > 0 && !bytes.empty();) {
+            const std::size_t at = below(bytes.size());
+            switch (below(3)) {
+            case 0:
+                bytes[at] = static_cast<char>(below(256));
+                break;
+            case 1:
+                bytes.erase(at, 1 + below(8));
+                break;
+            default:
+                bytes.insert(at, std::string(1 + below(8), static_cast<char>(below(256))));
+            }
+        }
+        windows.socket.arrive(QStringLiteral("10.0.0.2"), bytes);
+        if (i % 100 == 0)
+            QCoreApplication::processEvents();
+    }
+    windows.time.advance(std::chrono::seconds(10));
+    windows.arrive("10.0.0.2", "-still here");
+    EXPECT_EQ(lastLogLine().section(u'>', 1), QStringLiteral(" still here"));
+    windows.arrive("10.0.0.2", "!MOOD 20");
+    EXPECT_EQ(control<MoodGauge>("hismoodpct").mood()->value, 20);
 }
 
 TEST_F(FrmPrivate, ThePickerOffersNineFacesWithTheirTexts)

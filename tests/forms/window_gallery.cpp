@@ -178,6 +178,48 @@ void takePrivate(Gallery &gallery)
     gallery.take(form, "private_zoomed");
 }
 
+/// A landscape of 50 by 50 pixels.
+std::string landscape()
+{
+    std::string body;
+    for (int y = 0; y < 50; ++y) {
+        for (int x = 0; x < 50; ++x) {
+            const bool sun = (x - 36) * (x - 36) + (y - 12) * (y - 12) < 40;
+            const bool hill = y > 32 + 6 * ((x / 13) % 2) - x % 13 / 3;
+            const QColor colour = sun ? QColor(255, 220, 60)
+                : hill                ? QColor(40, 130 - y, 60)
+                                      : QColor(120, 170, 255 - y);
+            body += static_cast<char>(colour.blue());
+            body += static_cast<char>(colour.green());
+            body += static_cast<char>(colour.red());
+        }
+    }
+    return body;
+}
+
+void takePrivatePanels(Gallery &gallery)
+{
+    RealWindows windows(everybody);
+    fill(windows);
+    windows.doubleClick(0);
+    QWidget &form = windows.privateWindow();
+    windows.arrive("192.168.1.12", "-Hello! Did you see the new plan?");
+    windows.engine.privateWindows().at(1)->send(QStringLiteral("Not yet. Is it on the server?"));
+    windows.arrive("192.168.1.12",
+                   "-Yes, in the usual place. It is a long one, so take your time; the part about the "
+                   "network in the basement is the one that matters for us.");
+    RealWindows::control<QToolButton>(form, "AvatarBtn").click();
+    gallery.take(form, "private_no_avatar");
+    windows.arrive("192.168.1.12", "!AVATARHEAD today");
+    windows.arrive("192.168.1.12", "!AVATARBODY " + landscape());
+    RealWindows::control<QToolButton>(form, "moodbtn").click();
+    windows.engine.privateWindows().at(1)->mymoodpct_MouseDown(20);
+    windows.arrive("192.168.1.12", "!MOOD 50");
+    windows.arrive("192.168.1.12", "!TYPING");
+    windows.arrive("192.168.1.12", "!LIVETYPE and there is one more thing that I wanted to tell you about the");
+    gallery.take(form, "private_panels");
+}
+
 void takeLogin(Gallery &gallery)
 {
     Common common;
@@ -223,6 +265,7 @@ int main(int argc, char *argv[])
     nimb::test::takeMainInTrouble(gallery);
     nimb::test::takeMainWithThousand(gallery);
     nimb::test::takePrivate(gallery);
+    nimb::test::takePrivatePanels(gallery);
     nimb::test::takeMessageBox(gallery);
     return 0;
 }

@@ -1,6 +1,8 @@
 // Whole copies on a simulated network, told as stories.
 #include "copy.h"
 
+#include "core/picture_source.h"
+
 namespace nimb::test
 {
 namespace
@@ -151,6 +153,77 @@ TEST_F(Story, TheNetworkFallsSilentWhenNobodyActs)
     pass();
     pass();
     EXPECT_FALSE(time->nextDue()) << "a timer still runs";
+}
+
+/// Frames that change with every question.
+class ChangingFrames : public PictureSource
+{
+public:
+    std::optional<QByteArray> frame() override { return QByteArray(7500, static_cast<char>(++m_frames)); }
+    std::optional<QString> problem() const override { return std::nullopt; }
+
+private:
+    int m_frames = 0;
+};
+
+TEST_F(Story, WhatOneTypesFeelsAndShowsTheOtherSees)
+{
+    Copy &ann = enter("10.0.0.1", "Ann", {{"10.0.0.2", "Ben"}});
+    Copy &ben = enter("10.0.0.2", "Ben", {{"10.0.0.1", "Ann"}});
+    pass();
+    QByteArray picture;
+    for (int i = 0; i < 7500; ++i)
+        picture.append(static_cast<char>(i * 31 % 256)); // separators, line breaks and zeros among them
+    ben.common.avatarHead = QStringLiteral("21.11.2026 14:05");
+    ben.common.avatarBody = picture;
+    ann.engine.privateWindows().openPrivate(QStringLiteral("10.0.0.2"));
+    ben.engine.privateWindows().openPrivate(QStringLiteral("10.0.0.1"));
+    pass();
+    EXPECT_EQ(ann.window(1).picture, picture);
+    EXPECT_EQ(ann.window(1).marker, QStringLiteral("21.11.2026 14:05"));
+    EXPECT_FALSE(ben.window(1).picture);
+
+    ben.window(1).liveTypeOn = true;
+    ben.window(1).typed = QStringLiteral("I am writing\r\nthis");
+    ben.window(1).chat.intext_Change(ben.window(1).typed);
+    network.settle();
+    EXPECT_EQ(ann.window(1).panels[2], QStringLiteral("Ben is typing a message..."));
+    pass();
+    EXPECT_EQ(ann.window(1).liveType, QStringLiteral("I am writing this"));
+    ben.window(1).chat.send(ben.window(1).typed);
+    network.settle();
+    EXPECT_EQ(ann.window(1).liveType, QString());
+
+    ben.window(1).chat.mymoodpct_MouseDown(52.5F);
+    ben.window(1).chat.BuzzBtn_Click();
+    network.settle();
+    EXPECT_EQ(ann.window(1).peersMood->name, QStringLiteral("Dark red"));
+    EXPECT_EQ(ann.window(1).log.lastLine(), "BUZZ!");
+    EXPECT_EQ(ann.sound.alarms, 1);
+}
+
+TEST_F(Story, APolledPictureMovesUntilItIsSwitchedOff)
+{
+    Copy &ann = enter("10.0.0.1", "Ann", {{"10.0.0.2", "Ben"}});
+    Copy &ben = enter("10.0.0.2", "Ben", {{"10.0.0.1", "Ann"}});
+    pass();
+    ben.engine.ownAvatar().setSource(std::make_unique<ChangingFrames>());
+    ann.engine.privateWindows().openPrivate(QStringLiteral("10.0.0.2"));
+    network.settle();
+    EXPECT_EQ(ann.window(1).picture, QByteArray(7500, 1));
+    for (int second = 0; second < 5; ++second) {
+        time->advance(1100ms);
+        network.settle();
+    }
+    EXPECT_EQ(ann.window(1).picture, QByteArray(7500, 6));
+
+    ben.engine.ownAvatar().setSource(nullptr);
+    pass();
+    EXPECT_FALSE(ann.window(1).picture) << "there is no still avatar behind it";
+    ann.sent();
+    time->advance(60s);
+    network.settle();
+    EXPECT_THAT(ann.sent(), testing::IsEmpty()) << "nobody asks for a picture that is gone";
 }
 
 } // namespace

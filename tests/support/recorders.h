@@ -125,7 +125,23 @@ public:
     void setPeerAddress(const QString &ip) override { peer = ip; }
     void setLogFont(const LogFont &logFont) override { font = logFont; }
     void setPanel(int number, const QString &text) override { panels[number] = text; }
-    void hideLiveType() override { ++liveTypeHidden; }
+    void setLiveType(const QString &text) override
+    {
+        liveType = text;
+        liveTypeHidden += text.isEmpty();
+    }
+    void setLiveTypeOn(bool on) override { liveTypeOn = on; }
+    QString typedText() const override { return typed; }
+    bool isLiveTypeOn() const override { return liveTypeOn; }
+    void focusInput() override { ++inputFocused; }
+    void setAvatar(const QString &text, const std::optional<QByteArray> &shown) override
+    {
+        marker = text;
+        picture = shown;
+        ++avatarChanges;
+    }
+    void setOwnMood(const MoodMark &mark) override { ownMood = mark; }
+    void setPeersMood(const MoodMark &mark) override { peersMood = mark; }
     Colour windowTextColour() const override { return 0x123456; }
     bool isHidden() const override { return hidden; }
     void showWindow(ShowMode mode) override
@@ -149,6 +165,14 @@ public:
     LogFont font;
     std::map<int, QString> panels;
     int liveTypeHidden = 0;
+    QString liveType;
+    QString typed;
+    bool liveTypeOn = false;
+    int inputFocused = 0;
+    QString marker = QStringLiteral("(never set)");
+    std::optional<QByteArray> picture;
+    int avatarChanges = 0;
+    std::optional<MoodMark> ownMood, peersMood;
     bool hidden = true;
     bool gone = false;
     bool inBackground = true;

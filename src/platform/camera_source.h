@@ -1,0 +1,36 @@
+// The frames of a camera.
+#pragma once
+
+#include "core/picture_source.h"
+
+#include <QCoreApplication>
+
+#include <memory>
+
+class QCamera;
+class QMediaCaptureSession;
+class QVideoSink;
+
+namespace nimb
+{
+
+/// Runs the system's default camera as long as it lives.
+class CameraSource : public PictureSource
+{
+    Q_DECLARE_TR_FUNCTIONS(CameraSource)
+
+public:
+    CameraSource();
+    ~CameraSource() override;
+
+    std::optional<QByteArray> frame() override;
+    std::optional<QString> problem() const override { return m_problem; }
+
+private:
+    std::optional<QString> m_problem;
+    std::unique_ptr<QCamera> m_camera;
+    std::unique_ptr<QVideoSink> m_sink;
+    std::unique_ptr<QMediaCaptureSession> m_session; ///< lets go of the two above first
+};
+
+} // namespace nimb

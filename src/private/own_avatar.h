@@ -1,0 +1,48 @@
+// The own avatar as peers get it: a still picture, or one that changes all the time.
+#pragma once
+
+#include "core/Common.h"
+#include "core/main_log.h"
+#include "core/picture_source.h"
+#include "core/timers.h"
+#include "protocol/handlers.h"
+#include "protocol/winsock.h"
+
+#include <memory>
+#include <string>
+
+namespace nimb
+{
+
+/// Answers the peers' questions for it. The still avatar is in Common, where it stays and is saved while a source
+/// stands in for it.
+class OwnAvatar
+{
+public:
+    OwnAvatar(const Common &common, Winsock &socket, MainLog &log, const WallClock &clock);
+
+    /// From now on peers get this source's frames; none: the still avatar. A source that fails is let go, and the log
+    /// says why.
+    void setSource(std::unique_ptr<PictureSource> source);
+    bool hasSource() const { return m_source != nullptr; }
+
+    /// A peer asks which avatar there is. Nobody is answered while the own state is Invisible.
+    void answerHead(const QString &ip);
+    /// A peer asks for the picture. Whether there is one is told by the head.
+    void answerBody(const QString &ip);
+
+private:
+    void takeFrame();
+    std::string head() const;
+    const QByteArray &body() const;
+
+    const Common &m_common;
+    Winsock &m_socket;
+    MainLog &m_log;
+    const WallClock &m_clock;
+    std::unique_ptr<PictureSource> m_source;
+    std::string m_frameHead; ///< empty while there has been no frame
+    QByteArray m_frame;
+};
+
+} // namespace nimb

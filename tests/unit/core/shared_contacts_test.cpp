@@ -1,0 +1,91 @@
+#include "copy.h"
+
+#include "core/limits.h"
+
+namespace nimb
+{
+namespace
+{
+
+using test::Copy;
+using test::CopySetup;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class SharedContactsTest : public testing::Test
+{
+protected:
+    SharedContactsTest() { copy.settleStart({"10.0.0.2"}); }
+
+    Copy copy{CopySetup{.contacts = {{"10.0.0.2", "Ann"}}}};
+};
+
+TEST_F(SharedContactsTest, BecomesARowThatIsNotYetKnown)
+{
+    copy.arrive("10.0.0.2", "!USER 10.0.0.7 PC-CLEO Cleo the Great");
+    ASSERT_TRUE(copy.knows("10.0.0.7"));
+    const Contact &contact = copy.contact("10.0.0.7");
+    EXPECT_EQ(contact.nickname, QStringLiteral("Cleo the Great"));
+    EXPECT_EQ(contact.workstation, QStringLiteral("PC-CLEO"));
+    EXPECT_EQ(contact.picture, Picture::yellow);
+    EXPECT_EQ(contact.sortKey, QStringLiteral("B_Cleo the Great"));
+    EXPECT_THAT(copy.sent(), IsEmpty()) << "its presence is learnt at the next announcement";
+    EXPECT_THAT(copy.names(), ElementsAre("Ann", "Cleo the Great"));
+}
+
+TEST_F(SharedContactsTest, ARowThatIsThereStaysAsItIs)
+{
+    copy.arrive("10.0.0.2", "!USER 10.0.0.2 PC-OTHER Somebody else");
+    EXPECT_EQ(copy.contact("10.0.0.2").nickname, QStringLiteral("Ann"));
+    EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::green);
+    EXPECT_THAT(copy.names(), ElementsAre("Ann"));
+}
+
+TEST_F(SharedContactsTest, TheOwnAddressIsNotAdded)
+{
+    copy.arrive("10.0.0.2", "!USER 10.0.0.1 HERE Me");
+    copy.arrive("10.0.0.2", "!USER 127.0.0.1 HERE Me");
+    EXPECT_THAT(copy.names(), ElementsAre("Ann"));
+}
+
+TEST_F(SharedContactsTest, OnlyADottedAddressOfOneHostIsAdded)
+{
+    for (const char *address : {"255.255.255.255", "224.0.0.1", "0.0.0.0", "10.0.0", "10.0.0.256", "fileserver",
+                                "010.0.0.7", "10.0.0.7x", "::1"})
+        copy.arrive("10.0.0.2", std::string("!USER ") + address + " PC Cleo");
+    EXPECT_THAT(copy.names(), ElementsAre("Ann"));
+    EXPECT_EQ(copy.drops.of(Drop::badAddress), 9u);
+}
+
+TEST_F(SharedContactsTest, MissingFieldsAreNoContact)
+{
+    copy.arrive("10.0.0.2", "!USER 10.0.0.7");
+    copy.arrive("10.0.0.2", "!USER");
+    EXPECT_THAT(copy.names(), ElementsAre("Ann"));
+}
+
+TEST_F(SharedContactsTest, EmptyNamesAreUnknown)
+{
+    copy.arrive("10.0.0.2", "!USER 10.0.0.7  ");
+    EXPECT_EQ(copy.contact("10.0.0.7").nickname, QStringLiteral("[unknown]"));
+    EXPECT_EQ(copy.contact("10.0.0.7").workstation, QStringLiteral("[unknown]"));
+}
+
+TEST_F(SharedContactsTest, StrangersShareNothing)
+{
+    copy.arrive("10.0.0.9", "!USER 10.0.0.7 PC Cleo");
+    EXPECT_FALSE(copy.knows("10.0.0.7"));
+}
+
+TEST_F(SharedContactsTest, TheListHasItsLimit)
+{
+    for (int i = 0; i < limits::contactsFromStrangers + 10; ++i)
+        copy.engine.dispatcher().receive(QStringLiteral("10.0.0.2"),
+                                         "!USER 11." + std::to_string(i / 62500) + "." + std::to_string(i / 250 % 250)
+                                             + "." + std::to_string(i % 250 + 1) + " PC X");
+    EXPECT_EQ(copy.engine.contacts().rowCount(), limits::contactsFromStrangers);
+    EXPECT_EQ(copy.drops.of(Drop::tooManyContacts), 11u);
+}
+
+} // namespace
+} // namespace nimb

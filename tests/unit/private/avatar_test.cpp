@@ -1,0 +1,306 @@
+#include "copy.h"
+
+#include "core/picture_source.h"
+
+namespace nimb
+{
+namespace
+{
+
+using test::Copy;
+using test::CopySetup;
+using test::To;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+using namespace std::chrono_literals;
+
+/// Frames that a test hands out.
+class FrameSource : public PictureSource
+{
+public:
+    struct State {
+        std::optional<QByteArray> frame;
+        std::optional<QString> problem;
+    };
+    explicit FrameSource(State &state) : m_state(state) { }
+    std::optional<QByteArray> frame() override { return m_state.frame; }
+    std::optional<QString> problem() const override { return m_state.problem; }
+
+private:
+    State &m_state;
+};
+
+class AvatarTest : public testing::Test
+{
+protected:
+    AvatarTest()
+    {
+        copy.settleStart({"10.0.0.2"});
+        copy.common.avatarHead = QStringLiteral("14.05.2026 10:00");
+        copy.common.avatarBody = still;
+    }
+    void openWindow()
+    {
+        copy.engine.privateWindows().openPrivate(QStringLiteral("10.0.0.2"));
+        copy.sent();
+    }
+    test::RecorderPrivateView &window() { return copy.window(1); }
+    const Avatar &kept(const char *ip = "10.0.0.2") { return copy.engine.avatars().of(QLatin1String(ip)); }
+
+    const QByteArray still = QByteArray(7500, 'a');
+    Copy copy{CopySetup{.contacts = {{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}}}};
+};
+
+TEST_F(AvatarTest, QuestionsAreAnsweredWithHeadAndBody)
+{
+    copy.arrive("10.0.0.2", "?AVATARHEAD");
+    copy.arrive("10.0.0.2", "?AVATARBODY");
+    EXPECT_THAT(copy.sent(),
+                ElementsAre(To("10.0.0.2", "!AVATARHEAD 14.05.2026 10:00"),
+                            To("10.0.0.2", "!AVATARBODY " + std::string(7500, 'a'))));
+}
+
+TEST_F(AvatarTest, WithoutAnAvatarBothQuestionsAreAnsweredOff)
+{
+    copy.common.avatarHead.clear();
+    copy.arrive("10.0.0.2", "?AVATARHEAD");
+    copy.arrive("10.0.0.2", "?AVATARBODY");
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "!AVATAROFF"), To("10.0.0.2", "!AVATAROFF")));
+}
+
+TEST_F(AvatarTest, TheHeadAloneSaysWhetherThereIsABody)
+{
+    copy.common.avatarBody.clear();
+    copy.arrive("10.0.0.2", "?AVATARBODY");
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "!AVATARBODY ")));
+}
+
+TEST_F(AvatarTest, WhoIsInvisibleAnswersNeitherQuestion)
+{
+    copy.common.ownState = QStringLiteral("Invisible");
+    copy.arrive("10.0.0.2", "?AVATARHEAD");
+    copy.arrive("10.0.0.2", "?AVATARBODY");
+    EXPECT_THAT(copy.sent(), IsEmpty());
+}
+
+TEST_F(AvatarTest, EveryHeadIsAnsweredByTheQuestionForItsBody)
+{
+    for (int time = 0; time < 2; ++time)
+        copy.arrive("10.0.0.2", "!AVATARHEAD yesterday");
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "?AVATARBODY"), To("10.0.0.2", "?AVATARBODY")));
+}
+
+TEST_F(AvatarTest, IsKeptWithoutAWindowAndNumberedInItsRow)
+{
+    EXPECT_EQ(copy.contact("10.0.0.3").avatarNumber, QString());
+    copy.arrive("10.0.0.3", "!AVATARHEAD today");
+    copy.arrive("10.0.0.2", "!AVATARHEAD yesterday");
+    copy.arrive("10.0.0.2", "!AVATARBODY " + std::string(7500, '\x7F'));
+    EXPECT_EQ(copy.contact("10.0.0.3").avatarNumber, QStringLiteral("1"));
+    EXPECT_EQ(copy.contact("10.0.0.2").avatarNumber, QStringLiteral("2"));
+    EXPECT_EQ(kept().head, "yesterday");
+    EXPECT_EQ(kept().body, QByteArray(7500, '\x7F'));
+    EXPECT_THAT(copy.privateForms.views, IsEmpty());
+}
+
+TEST_F(AvatarTest, ItsBytesMayBeAnything)
+{
+    std::string bytes;
+    for (int i = 0; i < 7500; ++i)
+        bytes += static_cast<char>(i * 7 % 256);
+    copy.arrive("10.0.0.2", "!AVATARHEAD x");
+    copy.arrive("10.0.0.2", "!AVATARBODY " + bytes);
+    EXPECT_EQ(kept().body.toStdString(), bytes);
+}
+
+TEST_F(AvatarTest, AWrongLengthIsKeptAsNoPicture)
+{
+    openWindow();
+    copy.arrive("10.0.0.2", "!AVATARHEAD x");
+    copy.arrive("10.0.0.2", "!AVATARBODY " + std::string(7500, 'b'));
+    EXPECT_TRUE(window().picture);
+    for (const std::size_t length : {0U, 7499U, 7501U, 60000U}) {
+        copy.arrive("10.0.0.2", "!AVATARBODY " + std::string(length, 'b'));
+        EXPECT_FALSE(window().picture) << length;
+        EXPECT_TRUE(kept().body.isEmpty());
+        copy.arrive("10.0.0.2", "!AVATARBODY " + std::string(7500, 'b'));
+        EXPECT_TRUE(window().picture);
+    }
+}
+
+TEST_F(AvatarTest, EachBodyIsAChangeOfTheWindowEvenUnderTheSameHead)
+{
+    openWindow();
+    copy.arrive("10.0.0.2", "!AVATARHEAD x");
+    EXPECT_EQ(window().avatarChanges, 0) << "a head alone shows nothing";
+    for (const char byte : {'b', 'c'}) {
+        copy.arrive("10.0.0.2", "!AVATARBODY " + std::string(7500, byte));
+        EXPECT_EQ(window().picture, QByteArray(7500, byte));
+    }
+    EXPECT_EQ(window().avatarChanges, 2);
+    EXPECT_EQ(window().marker, QStringLiteral("x"));
+}
+
+TEST_F(AvatarTest, ABodyWithoutAHeadIsNotShown)
+{
+    openWindow();
+    copy.arrive("10.0.0.2", "!AVATARBODY " + std::string(7500, 'b'));
+    EXPECT_FALSE(window().picture);
+    EXPECT_EQ(window().marker, QString());
+}
+
+TEST_F(AvatarTest, OffClearsThePicture)
+{
+    openWindow();
+    copy.arrive("10.0.0.2", "!AVATARHEAD x");
+    copy.arrive("10.0.0.2", "!AVATARBODY " + std::string(7500, 'b'));
+    copy.arrive("10.0.0.2", "!AVATAROFF");
+    EXPECT_FALSE(window().picture);
+    EXPECT_EQ(window().marker, QString());
+    EXPECT_TRUE(kept().head.empty());
+}
+
+TEST_F(AvatarTest, APolledPictureIsAskedForUntilAStillOneComes)
+{
+    openWindow();
+    const std::string body = "!AVATARBODY " + std::string(7500, 'b');
+    copy.arrive("10.0.0.2", "!AVATARHEAD WEBCAM 1");
+    copy.arrive("10.0.0.2", body);
+    copy.sent();
+    copy.advance(1099ms);
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    copy.advance(1ms);
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "?AVATARHEAD")));
+    copy.arrive("10.0.0.2", "!AVATARHEAD WEBCAM 2");
+    copy.arrive("10.0.0.2", body);
+    copy.sent();
+    copy.advance(2200ms);
+    EXPECT_THAT(copy.sent(), SizeIs(2)) << "polling goes on, also when an answer is lost";
+    copy.arrive("10.0.0.2", "!AVATARHEAD still");
+    copy.arrive("10.0.0.2", body);
+    copy.sent();
+    copy.advance(60s);
+    EXPECT_THAT(copy.sent(), IsEmpty());
+}
+
+TEST_F(AvatarTest, PollingEndsWithOffAndWithTheWindow)
+{
+    openWindow();
+    const auto startPolling = [this] {
+        copy.arrive("10.0.0.2", "!AVATARHEAD WEBCAM");
+        copy.arrive("10.0.0.2", "!AVATARBODY " + std::string(7500, 'b'));
+        copy.sent();
+    };
+    startPolling();
+    copy.arrive("10.0.0.2", "!AVATAROFF");
+    copy.advance(60s);
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    startPolling();
+    copy.engine.privateWindows().unloadAll();
+    copy.advance(60s);
+    EXPECT_THAT(copy.sent(), IsEmpty());
+}
+
+TEST_F(AvatarTest, IsDroppedWithItsContact)
+{
+    copy.arrive("10.0.0.2", "!AVATARHEAD x");
+    copy.arrive("10.0.0.2", "!AVATARBODY " + std::string(7500, 'b'));
+    copy.engine.contactCommands().mnuRemoveUser(QStringLiteral("10.0.0.2"));
+    EXPECT_TRUE(kept().head.empty());
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
+    EXPECT_EQ(copy.contact("10.0.0.2").avatarNumber, QString());
+    copy.arrive("10.0.0.2", "!AVATARHEAD y");
+    EXPECT_EQ(copy.contact("10.0.0.2").avatarNumber, QStringLiteral("2")) << "numbers are not used again";
+}
+
+TEST_F(AvatarTest, AHugeHeadIsCut)
+{
+    copy.arrive("10.0.0.2", "!AVATARHEAD WEBCAM" + std::string(60000, 'x'));
+    EXPECT_EQ(kept().head.size(), 255u);
+}
+
+TEST_F(AvatarTest, AWindowAsksForItWhenItOpensAndWhenItsPanelDoes)
+{
+    copy.engine.privateWindows().openPrivate(QStringLiteral("10.0.0.2"));
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "?AVATARHEAD")));
+    copy.engine.privateWindows().at(1)->avatarWanted();
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "?AVATARHEAD")));
+}
+
+class OwnPolledPicture : public AvatarTest
+{
+protected:
+    OwnPolledPicture() { copy.engine.ownAvatar().setSource(std::make_unique<FrameSource>(source)); }
+    std::string answer(const char *question)
+    {
+        copy.arrive("10.0.0.2", question);
+        const std::vector<To> sent = copy.sent();
+        return sent.size() == 1 ? sent.front().bytes : "(not one answer)";
+    }
+
+    FrameSource::State source{QByteArray(7500, 'f'), std::nullopt};
+};
+
+TEST_F(OwnPolledPicture, ReplacesTheStillOneWhileItIsOn)
+{
+    EXPECT_EQ(answer("?AVATARHEAD").substr(0, 18), "!AVATARHEAD WEBCAM");
+    EXPECT_EQ(answer("?AVATARBODY"), "!AVATARBODY " + std::string(7500, 'f'));
+    EXPECT_EQ(copy.common.avatarHead, QStringLiteral("14.05.2026 10:00")) << "what is saved stays the still one";
+    copy.engine.ownAvatar().setSource(nullptr);
+    EXPECT_EQ(answer("?AVATARHEAD"), "!AVATARHEAD 14.05.2026 10:00");
+    EXPECT_EQ(answer("?AVATARBODY"), "!AVATARBODY " + std::string(7500, 'a'));
+}
+
+TEST_F(OwnPolledPicture, EveryHeadHasItsFramesTime)
+{
+    const std::string first = answer("?AVATARHEAD");
+    copy.advance(1100ms);
+    EXPECT_NE(answer("?AVATARHEAD"), first);
+}
+
+TEST_F(OwnPolledPicture, TheBodyIsTheFrameOfTheLastHead)
+{
+    answer("?AVATARHEAD");
+    source.frame = QByteArray(7500, 'g');
+    EXPECT_EQ(answer("?AVATARBODY"), "!AVATARBODY " + std::string(7500, 'f'));
+    answer("?AVATARHEAD");
+    EXPECT_EQ(answer("?AVATARBODY"), "!AVATARBODY " + std::string(7500, 'g'));
+}
+
+TEST_F(OwnPolledPicture, BeforeTheFirstFrameTheStillOneIsShown)
+{
+    source.frame.reset();
+    EXPECT_EQ(answer("?AVATARHEAD"), "!AVATARHEAD 14.05.2026 10:00");
+    source.frame = QByteArray(7499, 'x');
+    EXPECT_EQ(answer("?AVATARHEAD"), "!AVATARHEAD 14.05.2026 10:00") << "half a frame is none";
+}
+
+TEST_F(OwnPolledPicture, AFailureIsSaidOnceAndTheStillOneReturns)
+{
+    answer("?AVATARHEAD");
+    source.problem = QStringLiteral("The camera was unplugged.");
+    EXPECT_EQ(answer("?AVATARHEAD"), "!AVATARHEAD 14.05.2026 10:00");
+    EXPECT_EQ(answer("?AVATARBODY"), "!AVATARBODY " + std::string(7500, 'a'));
+    EXPECT_EQ(copy.view.log.lastLine(), "The camera was unplugged.");
+    EXPECT_FALSE(copy.engine.ownAvatar().hasSource());
+}
+
+TEST_F(OwnPolledPicture, WithoutAStillOneAFailureTurnsTheAvatarOff)
+{
+    copy.common.avatarHead.clear();
+    EXPECT_EQ(answer("?AVATARHEAD").substr(0, 18), "!AVATARHEAD WEBCAM");
+    source.problem = QStringLiteral("The camera is busy.");
+    EXPECT_EQ(answer("?AVATARHEAD"), "!AVATAROFF");
+    EXPECT_EQ(answer("?AVATARBODY"), "!AVATAROFF");
+}
+
+TEST_F(OwnPolledPicture, IsNotShownToAnybodyWhileInvisible)
+{
+    copy.common.ownState = QStringLiteral("Invisible");
+    EXPECT_EQ(answer("?AVATARHEAD"), "(not one answer)");
+}
+
+} // namespace
+} // namespace nimb
