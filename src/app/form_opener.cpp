@@ -1,5 +1,7 @@
 #include "app/form_opener.h"
 
+#include "conference/frmConfInvitations.h"
+#include "conference/frmConference.h"
 #include "core/frmMain.h"
 #include "core/pictures.h"
 #include "dialogs/frmLogin.h"
@@ -49,8 +51,9 @@ void FormOpener::connectMain(Messenger &engine, Common &common, std::function<QS
                              std::function<void()> ended)
 {
     m_engine = &engine;
+    m_invitations = std::make_unique<frmConfInvitations>(engine.invitations());
     m_main->connectControls({engine.mainWindow(), engine.contacts(), engine.contactCommands(), engine.ownState(),
-                             engine.announcement(), engine.log(), common, std::move(statusNotes)},
+                             engine.announcement(), engine.log(), common, *this, std::move(statusNotes)},
                             std::move(ended));
 }
 
@@ -68,6 +71,38 @@ ViewPtr<PrivateChatView> FormOpener::makePrivateForm(PrivateChat &chat)
 {
     // Owned by the chat, which lets it go.
     return ViewPtr<PrivateChatView>(new frmPrivate(chat, m_links));
+}
+
+ViewPtr<ConferenceView> FormOpener::makeConferenceForm(Conference &conference)
+{
+    // Owned by the conference, which lets it go.
+    return ViewPtr<ConferenceView>(new frmConference(conference, m_links));
+}
+
+void FormOpener::mnuCreateNewConf()
+{
+    m_engine->conferences().mnuCreateNewConf();
+}
+
+void FormOpener::mnushowinvitations()
+{
+    m_engine->invitations().mnushowinvitations();
+}
+
+void FormOpener::mnuInvite2Conf(int slot, const QString &ip)
+{
+    m_engine->conferences().mnuInvite2Conf(slot, ip);
+}
+
+void FormOpener::unloadConferences()
+{
+    m_engine->conferences().unloadAll();
+}
+
+void FormOpener::unloadInvitations()
+{
+    m_engine->invitations().Form_Unload();
+    m_invitations.reset();
 }
 
 void FormOpener::unloadPrivateWindows()

@@ -14,12 +14,17 @@
 namespace nimb
 {
 
+class frmConfInvitations;
 class frmLogin;
 class frmMain;
 class frmNotify;
 class RichTextLogEdit;
 
-class FormOpener : public PrivateForms, public SecondaryWindows, public Notifications
+class FormOpener : public PrivateForms,
+                   public ConferenceForms,
+                   public SecondaryWindows,
+                   public MenuWindows,
+                   public Notifications
 {
 public:
     /// links: opens addresses; outlives the windows.
@@ -44,10 +49,16 @@ public:
 
     ViewPtr<PrivateChatView> makePrivateForm(PrivateChat &chat) override;
 
-    void unloadConferences() override { }
+    ViewPtr<ConferenceView> makeConferenceForm(Conference &conference) override;
+
+    void mnuCreateNewConf() override;
+    void mnushowinvitations() override;
+    void mnuInvite2Conf(int slot, const QString &ip) override;
+
+    void unloadConferences() override;
     void unloadPrivateWindows() override;
     void unloadNotify() override;
-    void unloadInvitations() override { }
+    void unloadInvitations() override;
     void unloadTipOfTheDay() override { }
 
     void add(const QString &text, Picture picture) override;
@@ -57,6 +68,7 @@ private:
     RTFSubClass m_links;
     std::unique_ptr<frmNotify> m_notify;
     std::unique_ptr<frmMain> m_main;
+    std::unique_ptr<frmConfInvitations> m_invitations;
     frmLogin *m_login = nullptr; ///< while it is shown
     Messenger *m_engine = nullptr;
 };

@@ -17,6 +17,12 @@ Messenger::Messenger(Common &common, const Surroundings &around)
       m_peerFeatures({common, m_contacts, around.socket, m_privateWindows, m_avatars, m_ownAvatar, m_activity,
                       around.sound, around.drops}),
       m_sharedContacts(common, m_contacts, around.drops),
+      m_conferences(
+          {common, around.socket, m_contacts, m_avatars, around.clock, around.prompts, around.conferenceForms},
+          around.mainView),
+      m_invitations({around.socket, m_contacts, around.timers, around.clock, around.store, m_conferences}),
+      m_conferenceCommands(
+          {common, around.socket, m_contacts, m_avatars, m_sender, m_conferences, m_invitations, around.drops}),
       m_contactCommands({common, around.socket, around.sound, around.prompts}, m_contacts, m_privateWindows),
       m_dispatcher(m_contacts,
                    {.presence = &m_presence,
@@ -24,7 +30,8 @@ Messenger::Messenger(Common &common, const Surroundings &around)
                     .privateMessages = &m_privateWindows,
                     .peerSignals = &m_peerFeatures,
                     .avatars = &m_peerFeatures,
-                    .sharedContacts = &m_sharedContacts},
+                    .sharedContacts = &m_sharedContacts,
+                    .conferences = &m_conferenceCommands},
                    around.drops),
       m_mainWindow({common, around.store, around.socket, m_contacts, m_ownState, m_sender, m_announcement, m_port,
                     m_log, around.prompts, around.windows, around.tray, around.mainView})

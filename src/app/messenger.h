@@ -1,6 +1,7 @@
 // Makes one whole engine and ties its parts together.
 #pragma once
 
+#include "conference/conference_commands.h"
 #include "core/contact_commands.h"
 #include "core/main_window.h"
 #include "core/notifications.h"
@@ -24,6 +25,7 @@ struct Surroundings {
     TrayIcon &tray;
     SecondaryWindows &windows;
     PrivateForms &privateForms;
+    ConferenceForms &conferenceForms;
     MainWindowView &mainView;
     DropCounts &drops;
 };
@@ -44,6 +46,8 @@ public:
     PrivateWindows &privateWindows() { return m_privateWindows; }
     OwnAvatar &ownAvatar() { return m_ownAvatar; }
     const AvatarStore &avatars() const { return m_avatars; }
+    ConferenceTable &conferences() { return m_conferences; }
+    Invitations &invitations() { return m_invitations; }
     ReceiveDispatcher &dispatcher() { return m_dispatcher; }
 
 private:
@@ -61,6 +65,9 @@ private:
     OwnAvatar m_ownAvatar;
     PeerFeatures m_peerFeatures;
     SharedContacts m_sharedContacts;
+    ConferenceTable m_conferences;
+    Invitations m_invitations;
+    ConferenceCommands m_conferenceCommands;
     ContactCommands m_contactCommands;
     ReceiveDispatcher m_dispatcher;
     MainWindow m_mainWindow;

@@ -125,7 +125,7 @@ void Program::loadMain()
     m_tray.emplace(m_forms.trayIcon(), [&window] { window.restore(); });
     m_engine.emplace(m_common,
                      Surroundings{m_socket, m_store, m_timers, m_clock, m_prompts, m_forms, m_sound, *m_tray, m_forms,
-                                  m_forms, window, m_drops});
+                                  m_forms, m_forms, window, m_drops});
     m_forms.connectMain(
         *m_engine, m_common, [this] { return statusNotes(); }, [] { QCoreApplication::exit(0); });
     window.Form_Load();

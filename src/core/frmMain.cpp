@@ -199,6 +199,11 @@ void frmMain::connectMenus()
     on("mnuPrivateChat", [this] { m_engine->commands.mnuPrivateChat(selectedContact()); });
     on("mnuBuzzUser", [this] { m_engine->commands.mnuBuzzUser(selectedContact()); });
     on("mnuRemoveUser", [this] { m_engine->commands.mnuRemoveUser(selectedContact()); });
+    on("mnuCreateNewConf", [this] { m_engine->windows.mnuCreateNewConf(); });
+    on("mnushowinvitations", [this] { m_engine->windows.mnushowinvitations(); });
+    for (int slot = 1; slot <= MainMenus::conferenceSlots; ++slot)
+        connect(m_menus.invitation(slot), &QAction::triggered, this,
+                [this, slot] { m_engine->windows.mnuInvite2Conf(slot, selectedContact()); });
     connect(m_menus.entry("mnuLogWindow"), &QAction::toggled, this, &frmMain::Form_Resize);
 }
 
@@ -558,6 +563,12 @@ void frmMain::setCaption(const QString &caption)
 {
     m_caption = caption;
     setWindowCaption(*this, caption);
+}
+
+void frmMain::setInvite2ConfVisible(int slot, bool visible)
+{
+    m_menus.invitation(slot)->setVisible(visible);
+    refreshContextMenu();
 }
 
 void frmMain::setActivityPanel(const QString &text)

@@ -4,6 +4,7 @@
 #include "core/main_menus.h"
 #include "core/main_window_view.h"
 #include "core/unload_mode.h"
+#include "core/windows.h"
 
 #include <QMainWindow>
 
@@ -39,6 +40,7 @@ struct MainWindowEngine {
     Announcement &announcement;
     MainLog &log;
     Common &common;
+    MenuWindows &windows;
     std::function<QString()> statusNotes; ///< for the status bar's tool tip
 };
 
@@ -81,6 +83,7 @@ public:
     QString caption() const override { return m_caption; }
     void setPlace(const WindowPlace &place) override;
     WindowPlace place() const override;
+    void setInvite2ConfVisible(int slot, bool visible) override;
     void setActivityPanel(const QString &text) override;
     void setTroublePanel(const QString &text) override;
 

@@ -26,6 +26,10 @@ constexpr int contactsFromStrangers = 10000;
 constexpr qsizetype liveTextLength = 200;
 /// Bytes of an avatar's head that are kept: a time stamp, or how a polled picture begins.
 constexpr std::size_t avatarHeadLength = 255;
+/// Invitations that wait: a host that sends more of them wants to annoy.
+constexpr int invitations = 1000;
+/// Participants of a joined conference that are taken from its host's list.
+constexpr std::size_t participants = 1000;
 /// Rows that wait in the notification window.
 constexpr qsizetype notifications = 100;
 /// Contacts asked in one turn of the event loop during an announcement, so that their answers are read between.

@@ -47,9 +47,8 @@ void MainMenus::buildContactMenu()
         add(*mnuPopUp, item.name, item.caption);
     mnuPopUp->setDefaultAction(mnuPopUp->actions().first());
     // Visible while their slot holds a conference.
-    for (const char *const invitation :
-         {"mnuInvite2Conf1", "mnuInvite2Conf2", "mnuInvite2Conf3", "mnuInvite2Conf4", "mnuInvite2Conf5"})
-        entry(invitation)->setVisible(false);
+    for (int slot = 1; slot <= conferenceSlots; ++slot)
+        invitation(slot)->setVisible(false);
 }
 
 QAction *MainMenus::entry(const char *name) const
@@ -57,6 +56,11 @@ QAction *MainMenus::entry(const char *name) const
     auto *const action = m_window.findChild<QAction *>(QLatin1String(name));
     Q_ASSERT(action);
     return action;
+}
+
+QAction *MainMenus::invitation(int slot) const
+{
+    return entry(qPrintable(QStringLiteral("mnuInvite2Conf%1").arg(slot)));
 }
 
 void MainMenus::setContact(const ContactMenuCaptions &captions, bool selected)

@@ -19,6 +19,9 @@ public:
 
     /// The entry with this object name; it must exist.
     QAction *entry(const char *name) const;
+    static constexpr int conferenceSlots = 5;
+    /// The entry that invites to the conference in this slot, 1 to conferenceSlots.
+    QAction *invitation(int slot) const;
     /// Shows the captions for the selected contact; without one the context menu has nothing to act on.
     void setContact(const ContactMenuCaptions &captions, bool selected);
     void popUp(const QPoint &position);

@@ -57,7 +57,16 @@ public:
     virtual void setActivityPanel(const QString &text) = 0;
 };
 
-class MainWindowView : public MainLogView, public AnnouncementView, public OwnStateView, public ActivityView
+/// The entries of the contact menu that invite to a conference.
+class ConferenceMenuView
+{
+public:
+    virtual ~ConferenceMenuView() = default;
+    /// slot: 1 to 5.
+    virtual void setInvite2ConfVisible(int slot, bool visible) = 0;
+};
+
+class MainWindowView : public MainLogView, public AnnouncementView, public OwnStateView, public ActivityView, public ConferenceMenuView
 {
 public:
     void setRescanEnabled(bool enabled) override = 0;

@@ -31,6 +31,13 @@ bool MessageBoxes::confirm(const QString &text, const QString &title)
     return show(QMessageBox::Question, QMessageBox::Ok | QMessageBox::Cancel, text, title) == QMessageBox::Ok;
 }
 
+bool MessageBoxes::ask(const QString &text, const QString &title)
+{
+    if (m_unattended)
+        return false;
+    return show(QMessageBox::Question, QMessageBox::Yes | QMessageBox::No, text, title) == QMessageBox::Yes;
+}
+
 void MessageBoxes::tell(const QString &text, const QString &title)
 {
     if (m_unattended)

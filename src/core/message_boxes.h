@@ -21,6 +21,7 @@ public:
     void setUnattended();
 
     bool confirm(const QString &text, const QString &title) override;
+    bool ask(const QString &text, const QString &title) override;
     void tell(const QString &text, const QString &title) override;
 
 private:

@@ -26,6 +26,17 @@ public:
     virtual void showTipOfTheDay() = 0;
 };
 
+/// The windows that the menus of the main window open.
+class MenuWindows
+{
+public:
+    virtual ~MenuWindows() = default;
+    virtual void mnuCreateNewConf() = 0;
+    virtual void mnushowinvitations() = 0;
+    /// slot: 1 to 5; an address that is no contact's is ignored.
+    virtual void mnuInvite2Conf(int slot, const QString &ip) = 0;
+};
+
 /// The windows that end with the main window, in the order of the calls.
 class SecondaryWindows
 {

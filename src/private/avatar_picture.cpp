@@ -9,12 +9,7 @@
 
 namespace nimb
 {
-namespace
-{
-constexpr int enlargement = 2;
-}
-
-AvatarPicture::AvatarPicture(QWidget *parent) : QWidget(parent)
+AvatarPicture::AvatarPicture(QWidget *parent, int enlargement) : QWidget(parent), m_enlargement(enlargement)
 {
     setFixedSize(enlargement * avatarSide, enlargement * avatarSide);
 }
@@ -29,10 +24,11 @@ void AvatarPicture::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     if (m_image.isNull()) {
-        namedPicture(QStringLiteral("avatar")).paint(&painter, rect().adjusted(18, 18, -18, -18));
+        namedPicture(QStringLiteral("avatar"))
+            .paint(&painter, rect().adjusted(width() / 6, height() / 6, -width() / 6, -height() / 6));
         return;
     }
-    const int factor = qMax(1, static_cast<int>(std::floor(enlargement * devicePixelRatioF())));
+    const int factor = qMax(1, static_cast<int>(std::floor(m_enlargement * devicePixelRatioF())));
     QImage large = m_image.scaled(m_image.size() * factor, Qt::IgnoreAspectRatio, Qt::FastTransformation);
     large.setDevicePixelRatio(devicePixelRatioF());
     const QSizeF size = large.deviceIndependentSize();

@@ -9,14 +9,14 @@
 namespace nimb
 {
 
-/// Twice as large as an avatar, each pixel of which covers a whole number of device pixels. Without a picture it shows
-/// the one that stands for nobody.
+/// So many times as large as an avatar, each pixel of which covers a whole number of device pixels. Without a picture
+/// it shows the one that stands for nobody.
 class AvatarPicture : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit AvatarPicture(QWidget *parent);
+    AvatarPicture(QWidget *parent, int enlargement);
 
     void setPicture(const std::optional<QByteArray> &body);
     bool hasPicture() const { return !m_image.isNull(); }
@@ -25,6 +25,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    int m_enlargement;
     QImage m_image;
 };
 

@@ -16,6 +16,7 @@
 #include "private/mood_gauge.h"
 #include "private/private_chat.h"
 #include "private/rich_text_log.h"
+#include "private/tool_button.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -105,30 +106,18 @@ void frmPrivate::buildControls()
     intext->setFocus();
 }
 
-QToolButton *frmPrivate::makeToolButton(const QString &name, const QString &caption, const QString &picture)
-{
-    auto *const button = new QToolButton(this);
-    button->setObjectName(name);
-    button->setText(caption);
-    button->setIcon(namedPicture(picture));
-    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::TabFocus);
-    return button;
-}
-
 QHBoxLayout *frmPrivate::makeToolRow()
 {
-    Emoticbtn = makeToolButton(QStringLiteral("Emoticbtn"), tr("Emoticons"), QStringLiteral("emoticons"));
+    Emoticbtn = toolButton(this, "Emoticbtn", tr("Emoticons"), "emoticons");
     Emoticbtn->setCheckable(true);
-    BuzzBtn = makeToolButton(QStringLiteral("BuzzBtn"), tr("Buzz!"), QStringLiteral("buzz"));
+    BuzzBtn = toolButton(this, "BuzzBtn", tr("Buzz!"), "buzz");
     BuzzBtn->setToolTip(tr("(CTRL+G)"));
-    datetimebtn = makeToolButton(QStringLiteral("datetimebtn"), tr("Date&&Time"), QStringLiteral("datetime"));
+    datetimebtn = toolButton(this, "datetimebtn", tr("Date&&Time"), "datetime");
     livetypebtn = new QCheckBox(tr("LiveType!"), this);
     livetypebtn->setObjectName(QStringLiteral("livetypebtn"));
-    moodbtn = makeToolButton(QStringLiteral("moodbtn"), tr("Mood"), QStringLiteral("mood"));
-    AvatarBtn = makeToolButton(QStringLiteral("AvatarBtn"), tr("Avatar"), QStringLiteral("avatar"));
-    clearbtn = makeToolButton(QStringLiteral("clearbtn"), tr("Clear"), QStringLiteral("clear"));
+    moodbtn = toolButton(this, "moodbtn", tr("Mood"), "mood");
+    AvatarBtn = toolButton(this, "AvatarBtn", tr("Avatar"), "avatar");
+    clearbtn = toolButton(this, "clearbtn", tr("Clear"), "clear");
     moodbtn->setCheckable(true);
     AvatarBtn->setCheckable(true);
 
@@ -147,7 +136,7 @@ QWidget *frmPrivate::makeSidePanels()
     m_sidePanels = new QWidget(this);
     Avatarframe = new QGroupBox(tr("Avatar"), m_sidePanels);
     Avatarframe->setObjectName(QStringLiteral("Avatarframe"));
-    Picture1 = new AvatarPicture(Avatarframe);
+    Picture1 = new AvatarPicture(Avatarframe, 2);
     Picture1->setObjectName(QStringLiteral("Picture1"));
     Picture1->setAccessibleName(tr("Avatar of the peer"));
     AvatarCh = new QLineEdit(Avatarframe);

@@ -61,7 +61,6 @@ protected:
 
 private:
     void buildControls();
-    QToolButton *makeToolButton(const QString &name, const QString &caption, const QString &picture);
     QHBoxLayout *makeToolRow();
     QWidget *makeSidePanels();
     QWidget *makeMoodPanel(QWidget *parent);

@@ -1,7 +1,6 @@
 #include "private/mood.h"
 
-#include <QLocale>
-#include <QRegularExpression>
+#include "core/leading_number.h"
 
 #include <array>
 #include <cmath>
@@ -46,15 +45,9 @@ std::optional<MoodMark> Mood::peers(std::int16_t value)
 
 std::optional<std::int16_t> Mood::parse(const QString &received)
 {
-    static const QRegularExpression number(
-        QStringLiteral(R"(\A[ \t]*([+-]?(?:\d++(?:\.\d*+)?|\.\d++)(?:[eE][+-]?\d++)?))"));
-    const QRegularExpressionMatch match = number.match(received);
-    const double value = match.hasMatch() ? QLocale::c().toDouble(match.captured(1)) : 0;
-    const double rounded = std::nearbyint(value); // halves to even is the way floating point rounds by default
-    using Range = std::numeric_limits<std::int16_t>;
-    if (!(rounded >= Range::min() && rounded <= Range::max()))
-        return std::nullopt;
-    return static_cast<std::int16_t>(rounded);
+    const double value = leadingNumber(received);
+    const std::int16_t whole = within16Bits(value);
+    return std::abs(value - whole) <= 0.5 ? std::optional(whole) : std::nullopt;
 }
 
 QString Mood::toSend(float value)

@@ -11,7 +11,7 @@ namespace
 {
 
 /// In the order of the summary.
-constexpr std::array reasons = {Drop::stranger,        Drop::incomplete, Drop::noFeature,  Drop::noWindow, Drop::badAddress,
+constexpr std::array reasons = {Drop::stranger,        Drop::incomplete, Drop::noFeature,  Drop::noWindow, Drop::noConference, Drop::badAddress,
                                 Drop::tooManyContacts, Drop::notSent,    Drop::notReceived};
 
 QString label(Drop reason)
@@ -25,6 +25,8 @@ QString label(Drop reason)
         return QCoreApplication::translate("DropCounts", "Commands that nothing here takes: %1");
     case Drop::noWindow:
         return QCoreApplication::translate("DropCounts", "For private windows that are not open: %1");
+    case Drop::noConference:
+        return QCoreApplication::translate("DropCounts", "For conferences that are not there, or not to be had so: %1");
     case Drop::badAddress:
         return QCoreApplication::translate("DropCounts", "Addresses that cannot become contacts: %1");
     case Drop::tooManyContacts:

@@ -14,6 +14,7 @@ enum class Drop {
     incomplete,      ///< a known command that lacks what it must carry
     noFeature,       ///< a known command that nothing here takes
     noWindow,        ///< for a private window where there is none
+    noConference,    ///< a conference datagram that fits no conference, or that its sender may not send
     badAddress,      ///< an address that cannot become a contact
     tooManyContacts, ///< strangers have filled the contact list
     notSent,         ///< the system refused to send, or the socket is not bound

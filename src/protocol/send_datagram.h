@@ -8,10 +8,15 @@ namespace nimb
 {
 
 /// The two steps of sending: set the remote host, send the text.
-inline void sendDatagram(Winsock &socket, const QString &address, const wire::Datagram &datagram)
+inline void sendBytes(Winsock &socket, const QString &address, const std::string &bytes)
 {
     socket.setRemoteHost(address);
-    socket.SendData(wire::serialise(datagram));
+    socket.SendData(bytes);
+}
+
+inline void sendDatagram(Winsock &socket, const QString &address, const wire::Datagram &datagram)
+{
+    sendBytes(socket, address, wire::serialise(datagram));
 }
 
 } // namespace nimb

@@ -83,6 +83,7 @@ struct Engine {
     SilentMainView view;
     SilentForms forms;
     SilentNotifications notifications;
+    RecorderConferenceForms conferenceForms;
     RecorderPrompts prompts;
     RecorderSound sound;
     Steps steps;
@@ -90,7 +91,7 @@ struct Engine {
     RecorderWindows windows{steps};
     DropCounts drops;
     Messenger messenger{
-        common, {socket, settings, time, time, prompts, notifications, sound, tray, windows, forms, view, drops}};
+        common, {socket, settings, time, time, prompts, notifications, sound, tray, windows, forms, conferenceForms, view, drops}};
 };
 
 void dispatch(benchmark::State &state, const char *bytes)

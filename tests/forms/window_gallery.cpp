@@ -220,6 +220,60 @@ void takePrivatePanels(Gallery &gallery)
     gallery.take(form, "private_panels");
 }
 
+QWidget &topLevel(const char *name)
+{
+    for (QWidget *const window : QApplication::topLevelWidgets()) {
+        if (window->objectName() == QLatin1String(name) && window->isVisible())
+            return *window;
+    }
+    qFatal("no window %s", name);
+}
+
+void takeConference(Gallery &gallery)
+{
+    RealWindows windows(everybody);
+    fill(windows);
+    windows.arrive("192.168.1.12", "!AVATARHEAD today");
+    windows.arrive("192.168.1.12", "!AVATARBODY " + landscape());
+    windows.entry("mnuCreateNewConf").trigger();
+    QWidget &hosted = topLevel("frmConference");
+    for (const char *ip : {"192.168.1.12", "192.168.1.20", "192.168.1.31", "192.168.1.44", "192.168.1.45"})
+        windows.engine.conferences().mnuInvite2Conf(1, QLatin1String(ip));
+    for (const char *ip : {"192.168.1.12", "192.168.1.20", "192.168.1.31"})
+        windows.arrive(ip, "!CONF INVITE #1 AGREE");
+    windows.arrive("192.168.1.45", "!CONF INVITE #1 DENY");
+    windows.arrive("192.168.1.31", "+192.168.1.31 #1 Has everybody read it? :)");
+    windows.engine.conferences().at(1)->sendbtn_Click(
+        QStringLiteral("Only the first part, up to http://fileserver/plans"));
+    windows.arrive("192.168.1.20", "+192.168.1.20 #1 Not yet. Where is it?");
+    windows.arrive("192.168.1.12",
+                   "+192.168.1.12 #1 In the usual place, as always when there is something that everybody "
+                   "has to read until the day after tomorrow");
+    gallery.take(hosted, "conference_hosted");
+    RealWindows::control<QToolButton>(hosted, "Emoticbtn").click();
+    RealWindows::control<QToolButton>(hosted, "showlist").click();
+    RealWindows::control<QToolButton>(hosted, "showavatars").click();
+    gallery.take(hosted, "conference_hosted_folded");
+    hosted.hide();
+
+    windows.arrive("192.168.1.31", "?CONF INVITE #3");
+    windows.arrive("192.168.1.12", "?CONF INVITE #1");
+    windows.arrive("192.168.1.44", "?CONF INVITE #2");
+    windows.engine.invitations().closed(QStringLiteral("192.168.1.44"), 2);
+    QWidget &invitations = topLevel("frmConfInvitations");
+    RealWindows::control<QTreeView>(invitations, "ListView1")
+        .setCurrentIndex(windows.engine.invitations().list().index(0, 0).isValid()
+                             ? RealWindows::control<QTreeView>(invitations, "ListView1").model()->index(0, 0)
+                             : QModelIndex());
+    gallery.take(invitations, "invitations");
+    RealWindows::control<QPushButton>(invitations, "ConfAgreebtn").click();
+    QWidget &joined = topLevel("frmConference");
+    windows.arrive("192.168.1.31", "!CONF USERS #3 192.168.1.31 10.0.0.1 192.168.1.44 192.168.7.7");
+    windows.arrive("192.168.1.31", "+192.168.1.44 #3 Hello everybody");
+    windows.arrive("192.168.1.31", "!CONF CLOSE #3");
+    gallery.take(joined, "conference_joined");
+}
+
 void takeLogin(Gallery &gallery)
 {
     Common common;
@@ -266,6 +320,7 @@ int main(int argc, char *argv[])
     nimb::test::takeMainWithThousand(gallery);
     nimb::test::takePrivate(gallery);
     nimb::test::takePrivatePanels(gallery);
+    nimb::test::takeConference(gallery);
     nimb::test::takeMessageBox(gallery);
     return 0;
 }

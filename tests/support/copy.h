@@ -43,6 +43,9 @@ public:
         socket.portTaken = setup.portTaken;
         store(setup);
         windows.unloadAllPrivate = [this] { engine.privateWindows().unloadAll(); };
+        windows.unloadAllConferences = [this] { engine.conferences().unloadAll(); };
+        windows.unloadInvitationsWindow = [this] { engine.invitations().Form_Unload(); };
+        engine.invitations().Form_Load(invitationsView);
         if (setup.loaded)
             engine.mainWindow().Form_Load();
     }
@@ -74,6 +77,7 @@ public:
             list.push_back(engine.contacts().at(row).nickname.toStdString());
         return list;
     }
+    RecorderConferenceView &conference(std::size_t number) { return *conferenceForms.views.at(number - 1); }
     RecorderPrivateView &window(std::size_t number) { return *privateForms.views.at(number - 1); }
 
     std::shared_ptr<VirtualTime> time;
@@ -82,6 +86,8 @@ public:
     MemoryStore settings;
     RecorderMainView view;
     RecorderPrivateForms privateForms;
+    RecorderConferenceForms conferenceForms;
+    RecorderInvitationsView invitationsView;
     RecorderNotifications notifications;
     RecorderPrompts prompts;
     RecorderSound sound;
@@ -89,9 +95,9 @@ public:
     RecorderTray tray{steps};
     RecorderWindows windows{steps};
     DropCounts drops;
-    Messenger engine{
-        common,
-        {socket, settings, *time, *time, prompts, notifications, sound, tray, windows, privateForms, view, drops}};
+    Messenger engine{common,
+                     {socket, settings, *time, *time, prompts, notifications, sound, tray, windows, privateForms,
+                      conferenceForms, view, drops}};
 
 private:
     void store(const CopySetup &setup)

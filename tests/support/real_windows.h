@@ -50,8 +50,10 @@ public:
     }
     ~RealWindows()
     {
-        forms.destroyMain();
+        engine.conferences().unloadAll();
         engine.privateWindows().unloadAll();
+        forms.unloadInvitations();
+        forms.destroyMain();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
@@ -135,7 +137,8 @@ private:
     frmMain &m_main = forms.makeMain();
 
 public:
-    Messenger engine{common, {socket, settings, time, time, prompts, forms, sound, tray, forms, forms, m_main, drops}};
+    Messenger engine{common,
+                     {socket, settings, time, time, prompts, forms, sound, tray, forms, forms, forms, m_main, drops}};
 };
 
 } // namespace nimb::test

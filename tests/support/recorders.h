@@ -1,6 +1,7 @@
 // What an engine shows and asks, written down for a test to read.
 #pragma once
 
+#include "conference/invitations.h"
 #include "core/link_opener.h"
 #include "core/main_window_view.h"
 #include "core/notifications.h"
@@ -98,6 +99,7 @@ public:
     void setPlace(const WindowPlace &place) override { shownPlace = place; }
     WindowPlace place() const override { return shownPlace; }
     void setTroublePanel(const QString &text) override { trouble = text; }
+    void setInvite2ConfVisible(int slot, bool visible) override { invitable[slot] = visible; }
     void setActivityPanel(const QString &text) override { activityPanel = text; }
 
     RecorderLog log;
@@ -113,6 +115,7 @@ public:
     WindowPlace shownPlace;
     QString trouble;
     QString activityPanel;
+    std::map<int, bool> invitable; ///< by slot
 };
 
 class RecorderPrivateView : public PrivateChatView
@@ -193,6 +196,73 @@ public:
     std::vector<std::unique_ptr<RecorderPrivateView>> views;
 };
 
+class RecorderConferenceView : public ConferenceView
+{
+public:
+    explicit RecorderConferenceView(Conference &engineHalf) : conference(engineHalf) { }
+
+    RichTextLog &outtext() override { return log; }
+    void setCaption(const QString &text) override { caption = text; }
+    void setLogFont(const LogFont &logFont) override { font = logFont; }
+    void setPanel(const QString &text) override { panel = text; }
+    void setInputEnabled(bool enabled) override { inputEnabled = enabled; }
+    void showAvatar(const QString &name, const std::optional<QByteArray> &shown) override
+    {
+        avatarLabel = name;
+        picture = shown;
+        ++avatarChanges;
+    }
+    Colour windowTextColour() const override { return 0x123456; }
+    void showWindow() override { ++shows; }
+    void letGo() override { gone = true; }
+    bool isMinimisedOrInactive() const override { return inBackground; }
+    void flash() override { ++flashes; }
+
+    Conference &conference;
+    RecorderLog log;
+    QString caption;
+    LogFont font;
+    QString panel;
+    bool inputEnabled = true;
+    QString avatarLabel;
+    std::optional<QByteArray> picture;
+    int avatarChanges = 0;
+    int shows = 0;
+    bool gone = false;
+    bool inBackground = true;
+    int flashes = 0;
+};
+
+/// Keeps every window ever made, unloaded ones included.
+class RecorderConferenceForms : public ConferenceForms
+{
+public:
+    ViewPtr<ConferenceView> makeConferenceForm(Conference &conference) override
+    {
+        views.push_back(std::make_unique<RecorderConferenceView>(conference));
+        return ViewPtr<ConferenceView>(views.back().get());
+    }
+
+    std::vector<std::unique_ptr<RecorderConferenceView>> views;
+};
+
+class RecorderInvitationsView : public InvitationsView
+{
+public:
+    void showWithoutFocus() override { shows.push_back("without focus"); }
+    void showWindow() override { shows.push_back("window"); }
+    void hideWindow() override { shows.push_back("hidden"); }
+    void setAutoRefusal(bool on, int minutes) override
+    {
+        autorefuse = on;
+        autorefuseMins = minutes;
+    }
+
+    std::vector<std::string> shows;
+    bool autorefuse = false;
+    int autorefuseMins = 0;
+};
+
 class RecorderNotifications : public Notifications
 {
 public:
@@ -231,6 +301,7 @@ public:
         asked.push_back((title + QLatin1String(": ") + text).toStdString());
         return answer;
     }
+    bool ask(const QString &text, const QString &title) override { return confirm(text, title); }
     void tell(const QString &text, const QString &title) override
     {
         told.push_back((title + QLatin1String(": ") + text).toStdString());
@@ -269,7 +340,12 @@ class RecorderWindows : public SecondaryWindows
 {
 public:
     explicit RecorderWindows(Steps &order) : steps(order) { }
-    void unloadConferences() override { steps.push_back("unload conferences"); }
+    void unloadConferences() override
+    {
+        steps.push_back("unload conferences");
+        if (unloadAllConferences)
+            unloadAllConferences();
+    }
     void unloadPrivateWindows() override
     {
         steps.push_back("unload private windows");
@@ -277,11 +353,18 @@ public:
             unloadAllPrivate();
     }
     void unloadNotify() override { steps.push_back("unload notify"); }
-    void unloadInvitations() override { steps.push_back("unload invitations"); }
+    void unloadInvitations() override
+    {
+        steps.push_back("unload invitations");
+        if (unloadInvitationsWindow)
+            unloadInvitationsWindow();
+    }
     void unloadTipOfTheDay() override { steps.push_back("unload tip"); }
 
     Steps &steps;
     std::function<void()> unloadAllPrivate;
+    std::function<void()> unloadAllConferences;
+    std::function<void()> unloadInvitationsWindow;
 };
 
 /// A store in memory whose saves can be made to fail.

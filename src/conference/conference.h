@@ -1,0 +1,109 @@
+// One conference that this copy takes part in: as its host, who relays every message, or as a guest.
+#pragma once
+
+#include "conference/conference_view.h"
+#include "conference/participants.h"
+#include "core/Common.h"
+#include "core/contact_list.h"
+#include "core/prompts.h"
+#include "core/timers.h"
+#include "core/unload_mode.h"
+#include "private/avatar_store.h"
+#include "protocol/winsock.h"
+
+#include <QCoreApplication>
+
+#include <functional>
+
+namespace nimb
+{
+
+/// The engine half of frmConference. Its form lives as long as it does.
+class Conference
+{
+    Q_DECLARE_TR_FUNCTIONS(Conference)
+
+public:
+    /// What every conference shares.
+    struct Services {
+        const Common &common;
+        Winsock &socket;
+        const ContactList &contacts;
+        const AvatarStore &avatars;
+        const WallClock &clock;
+        Prompts &prompts;
+        ConferenceForms &forms;
+    };
+    /// Which conference it is.
+    struct Identity {
+        bool ImHostingThatConf = false;
+        QString ConfServerIP;     ///< the host's address, the own one for a hosted conference
+        std::int16_t ConfNum = 0; ///< the host's number; carried in every datagram
+        int fConfN = 0;           ///< slot in the window table; shown to the user
+    };
+
+    /// unloaded: called last of all when the user closes the window; it may destroy this conference.
+    Conference(const Services &services, const Identity &identity, std::function<void()> unloaded);
+
+    const Identity &identity() const { return m_identity; }
+    bool isHostedHere() const { return m_identity.ImHostingThatConf; }
+    /// The host has closed it, or has removed this copy from it.
+    bool isTerminated() const { return m_terminated; }
+    Participants &partecipanti() { return m_participants; }
+    ConferenceView &view() { return *m_view; }
+
+    /// Empties the log and writes its opening line.
+    void Clearbtn_Click();
+    /// Sends what was typed; false when there was nothing. Line breaks are CR LF.
+    bool sendbtn_Click(const QString &typed);
+    /// Removes a participant; nobody and the own row are left alone. The others learn it with the next list.
+    void kickuserbtn_Click(const QString &ip);
+    void refreshlistbtn_Click();
+    /// Date and time for the input box.
+    QString dateAndTime() const;
+    /// Something was added to the log.
+    void outtext_Change();
+
+    /// A contact is invited; one who is present stays so.
+    void invite(const QString &ip);
+
+    /// The host sends the list of those present to dest or, when it is empty, to everybody in the list.
+    void Broadcastlist(const QString &dest);
+    void BroadcastClose();
+    /// A message of the participant with this address: shown and, at the host, relayed.
+    void ReceiveMessage(const QString &IP, const QString &msg);
+    void ReceiveCommand(const QString &msg, Colour color);
+    /// The conference is over for this copy.
+    void terminate();
+
+    /// Whether the window is to be closed; the user may be asked.
+    bool Form_QueryUnload(UnloadMode mode);
+    /// Tells the others. sayGoodbye: whether a guest still has to leave.
+    void Form_Unload(bool sayGoodbye);
+    /// The form has been closed for good.
+    void closed() { m_unloaded(); }
+
+private:
+    struct Writer {
+        QString name;
+        Colour colour;
+    };
+
+    QString caption() const;
+    Writer writerOf(const QString &ip) const;
+    void relay(const QString &text, const QString &origin);
+    void appendMessage(const Writer &writer, const QString &text);
+    void showOwnAvatar();
+    void showAvatarOf(const QString &ip);
+    void showAvatar(const QString &name, const std::optional<QByteArray> &picture);
+
+    Services m_services;
+    Identity m_identity;
+    std::function<void()> m_unloaded;
+    Participants m_participants;
+    bool m_terminated = false;
+    QString m_avatarLabel; ///< whose avatar is shown
+    ViewPtr<ConferenceView> m_view;
+};
+
+} // namespace nimb

@@ -1,0 +1,182 @@
+#include "conference/conference_commands.h"
+
+#include "core/limits.h"
+#include "core/remote_text.h"
+#include "protocol/send_datagram.h"
+#include "protocol/wire_text.h"
+
+namespace nimb
+{
+namespace
+{
+
+/// What a participant is called before it has told its name. Shown, and never stored in another language.
+const QString unheardName = QStringLiteral("(unknown)");
+
+/// The numbers that a host may give its conferences.
+bool isHostsNumber(std::int16_t number)
+{
+    return number >= 1;
+}
+
+} // namespace
+
+void ConferenceCommands::conferenceDatagram(const QString &ip, const wire::Datagram &datagram)
+{
+    m_ip = ip;
+    std::visit(*this, datagram);
+}
+
+QString ConferenceCommands::name() const
+{
+    return m_parts.contacts.find(m_ip)->nickname;
+}
+
+void ConferenceCommands::operator()(const wire::ConferenceInvitation &invitation)
+{
+    if (!isHostsNumber(invitation.id) || m_parts.invitations.list().rowCount() >= limits::invitations)
+        return drop();
+    m_parts.invitations.arrived(m_ip, invitation.id);
+}
+
+void ConferenceCommands::operator()(const wire::ConferenceAnswer &answer)
+{
+    Conference *const conference = m_parts.conferences.hosted(answer.id);
+    if (!conference || !conference->partecipanti().find(m_ip))
+        return drop();
+    if (answer.agreed)
+        agreed(*conference);
+    else
+        denied(*conference);
+}
+
+void ConferenceCommands::agreed(Conference &conference)
+{
+    // Who is in already and has only opened the window again needs the list, the others need nothing.
+    if (conference.partecipanti().find(m_ip)->present)
+        return conference.Broadcastlist(m_ip);
+    conference.partecipanti().setPresent(m_ip);
+    conference.ReceiveCommand(tr("--- %1 joined the conference").arg(name()), colours::banner);
+    conference.Broadcastlist({});
+    askForAvatar(m_ip);
+}
+
+void ConferenceCommands::denied(Conference &conference)
+{
+    if (conference.partecipanti().find(m_ip)->present)
+        return drop();
+    conference.partecipanti().remove(m_ip);
+    conference.ReceiveCommand(tr("--- %1 refused to partecipate to conf").arg(name()), colours::banner);
+}
+
+void ConferenceCommands::operator()(const wire::ConferenceListQuestion &question)
+{
+    Conference *const conference = m_parts.conferences.hosted(question.id);
+    const Participant *const asker = conference ? conference->partecipanti().find(m_ip) : nullptr;
+    if (!asker || !asker->present)
+        return drop();
+    conference->Broadcastlist(m_ip);
+}
+
+void ConferenceCommands::operator()(const wire::ConferenceList &list)
+{
+    Conference *const conference = isHostsNumber(list.id) ? m_parts.conferences.joined(m_ip, list.id) : nullptr;
+    if (!conference)
+        return drop();
+    Participants &participants = conference->partecipanti();
+    participants.setAllAbsent();
+    std::size_t taken = 0;
+    for (const std::string &address : list.addresses) {
+        const QString ip = QString::fromStdString(address);
+        if (ip == m_parts.common.ownIP)
+            continue;
+        if (!isUnicastAddress(ip) || ++taken > limits::participants)
+            drop();
+        else
+            listed(*conference, ip);
+    }
+    QStringList gone;
+    for (const Participant &participant : participants.rows()) {
+        if (!participant.present)
+            gone.append(participant.ip);
+    }
+    for (const QString &ip : std::as_const(gone)) {
+        conference->ReceiveCommand(tr("--- %1 left the conference.").arg(participants.find(ip)->name), colours::banner);
+        participants.remove(ip);
+    }
+}
+
+void ConferenceCommands::listed(Conference &conference, const QString &address)
+{
+    if (!m_parts.contacts.isContact(address)) {
+        if (m_parts.contacts.rowCount() >= limits::contactsFromStrangers)
+            return m_parts.drops.count(Drop::tooManyContacts);
+        greet(address);
+    }
+    Participants &participants = conference.partecipanti();
+    if (participants.find(address))
+        return participants.setPresent(address);
+    const QString nickname = m_parts.contacts.find(address)->nickname;
+    participants.add({.ip = address, .name = nickname});
+    participants.setPresent(address);
+    conference.ReceiveCommand(tr("--- %1 joined the conference").arg(nickname), colours::banner);
+    askForAvatar(address);
+}
+
+/// A participant whom this copy does not know becomes a contact, and is asked for its name.
+void ConferenceCommands::greet(const QString &address)
+{
+    Contact contact;
+    contact.ip = address;
+    contact.nickname = unheardName;
+    contact.workstation = unknownName;
+    contact.setPresence(Picture::green);
+    m_parts.contacts.add(std::move(contact));
+    m_parts.sender.question(address);
+    m_parts.sender.statusUnlessOnline(address);
+}
+
+void ConferenceCommands::askForAvatar(const QString &address)
+{
+    if (m_parts.avatars.of(address).head.empty())
+        sendDatagram(m_parts.socket, address, wire::AvatarHeadQuestion{});
+}
+
+void ConferenceCommands::operator()(const wire::ConferenceLeave &leave)
+{
+    Conference *const conference = m_parts.conferences.hosted(leave.id);
+    if (!conference || !conference->partecipanti().find(m_ip))
+        return drop();
+    conference->ReceiveCommand(tr("--- %1 left the conference.").arg(name()), colours::banner);
+    conference->partecipanti().remove(m_ip);
+    conference->Broadcastlist({});
+}
+
+void ConferenceCommands::operator()(const wire::ConferenceClose &close)
+{
+    const bool invited = m_parts.invitations.list().rowOf(m_ip, close.id) >= 0;
+    Conference *const conference = isHostsNumber(close.id) ? m_parts.conferences.joined(m_ip, close.id) : nullptr;
+    if (!invited && !conference)
+        return drop();
+    m_parts.invitations.closed(m_ip, close.id);
+    if (conference)
+        conference->terminate();
+}
+
+/// Whose message it is. A guest sends its own address as the origin, so at the host the writer is who sent it.
+void ConferenceCommands::operator()(const wire::ConferenceMessage &message)
+{
+    const QString origin = fromWire(message.origin);
+    const QString text = fromWire(message.text);
+    if (origin != m_parts.common.ownIP && isHostsNumber(message.id)) {
+        if (Conference *const conference = m_parts.conferences.joined(m_ip, message.id))
+            return conference->ReceiveMessage(origin, text);
+    }
+    Conference *const conference = m_parts.conferences.hosted(message.id);
+    const Participant *const writer = conference ? conference->partecipanti().find(m_ip) : nullptr;
+    if (!writer || !writer->isPresentPeer())
+        return drop();
+    conference->ReceiveMessage(m_ip, text);
+}
+
+} // namespace nimb

@@ -1,0 +1,59 @@
+// What conference datagrams do: invitations, answers, lists, leaving, closing, messages.
+#pragma once
+
+#include "conference/conference_table.h"
+#include "conference/invitations.h"
+#include "core/announcement.h"
+#include "protocol/drop_counts.h"
+#include "protocol/handlers.h"
+
+namespace nimb
+{
+
+/// Trusts nobody with more than is theirs: lists and closings are taken from the recorded host alone, answers and
+/// farewells only of rows that exist, messages at the host only of those who are present. The rest is counted.
+class ConferenceCommands : public ConferenceHandler
+{
+    Q_DECLARE_TR_FUNCTIONS(ConferenceCommands)
+
+public:
+    struct Parts {
+        const Common &common;
+        Winsock &socket;
+        ContactList &contacts;
+        const AvatarStore &avatars;
+        PresenceSender &sender;
+        ConferenceTable &conferences;
+        Invitations &invitations;
+        DropCounts &drops;
+    };
+
+    explicit ConferenceCommands(const Parts &parts) : m_parts(parts) { }
+
+    void conferenceDatagram(const QString &ip, const wire::Datagram &datagram) override;
+
+    // One overload a kind.
+    void operator()(const wire::ConferenceInvitation &invitation);
+    void operator()(const wire::ConferenceAnswer &answer);
+    void operator()(const wire::ConferenceListQuestion &question);
+    void operator()(const wire::ConferenceList &list);
+    void operator()(const wire::ConferenceLeave &leave);
+    void operator()(const wire::ConferenceClose &close);
+    void operator()(const wire::ConferenceMessage &message);
+    template <class Other> void operator()(const Other &) { drop(); }
+
+private:
+    void drop() { m_parts.drops.count(Drop::noConference); }
+    /// Display name of the sender.
+    QString name() const;
+    void agreed(Conference &conference);
+    void denied(Conference &conference);
+    void listed(Conference &conference, const QString &address);
+    void greet(const QString &address);
+    void askForAvatar(const QString &address);
+
+    Parts m_parts;
+    QString m_ip; ///< the sender of the datagram at hand
+};
+
+} // namespace nimb

@@ -1,0 +1,95 @@
+#include "conference/conference_table.h"
+
+namespace nimb
+{
+
+ConferenceTable::ConferenceTable(const Conference::Services &services, ConferenceMenuView &menu)
+    : m_services(services), m_menu(menu)
+{
+    const ContactList &contacts = services.contacts;
+    QObject::connect(&contacts, &ContactList::dataChanged, &contacts,
+                     [this](const QModelIndex &first) { contactChanged(m_services.contacts.at(first.row())); });
+}
+
+/// A participant whom this copy did not know tells its name after it has joined.
+void ConferenceTable::contactChanged(const Contact &contact)
+{
+    for (const auto &conference : m_slots) {
+        if (conference)
+            conference->partecipanti().setName(contact.ip, contact.nickname);
+    }
+}
+
+int ConferenceTable::CreateNewConfWin(bool host, std::int16_t ChnNum, const QString &IP)
+{
+    int slot = 1;
+    while (slot <= lastSlot && at(slot))
+        ++slot;
+    if (slot > lastSlot)
+        return 0;
+    const Conference::Identity identity{.ImHostingThatConf = host,
+                                        .ConfServerIP = host ? m_services.common.ownIP : IP,
+                                        .ConfNum = ChnNum != 0 ? ChnNum : static_cast<std::int16_t>(slot),
+                                        .fConfN = slot};
+    auto &window = m_slots[static_cast<std::size_t>(slot)];
+    window = std::make_unique<Conference>(m_services, identity, [this, slot] { unload(slot); });
+    window->view().showWindow();
+    window->Clearbtn_Click();
+    m_menu.setInvite2ConfVisible(slot, host);
+    return slot;
+}
+
+void ConferenceTable::mnuCreateNewConf()
+{
+    if (CreateNewConfWin(true, 0, m_services.common.ownIP) < 1)
+        m_services.prompts.tell(tr("Sorry, conf windows are over!!!"), QStringLiteral("NIMB-Chat"));
+}
+
+void ConferenceTable::mnuInvite2Conf(int slot, const QString &ip)
+{
+    if (Conference *const conference = hosted(slot))
+        conference->invite(ip);
+}
+
+Conference *ConferenceTable::at(int slot)
+{
+    return slot >= 1 && slot <= lastSlot ? m_slots[static_cast<std::size_t>(slot)].get() : nullptr;
+}
+
+Conference *ConferenceTable::hosted(int number)
+{
+    Conference *const conference = at(number);
+    return conference && conference->isHostedHere() ? conference : nullptr;
+}
+
+Conference *ConferenceTable::joined(const QString &host, int number)
+{
+    for (const auto &conference : m_slots) {
+        if (!conference || conference->isHostedHere() || conference->isTerminated())
+            continue;
+        const Conference::Identity &identity = conference->identity();
+        if (identity.ConfServerIP == host && identity.ConfNum == number)
+            return conference.get();
+    }
+    return nullptr;
+}
+
+void ConferenceTable::unload(int slot)
+{
+    const std::unique_ptr<Conference> conference = std::move(m_slots[static_cast<std::size_t>(slot)]);
+    if (!conference)
+        return;
+    // A window whose conference is over must not take leave for one that was joined again.
+    const Conference::Identity &identity = conference->identity();
+    const bool joinedAgain = conference->isTerminated() && joined(identity.ConfServerIP, identity.ConfNum);
+    conference->Form_Unload(!joinedAgain);
+    m_menu.setInvite2ConfVisible(slot, false);
+}
+
+void ConferenceTable::unloadAll()
+{
+    for (int slot = 1; slot <= lastSlot; ++slot)
+        unload(slot);
+}
+
+} // namespace nimb

@@ -1,0 +1,163 @@
+#include "conference/frmConfInvitations.h"
+
+#include "core/bring_back.h"
+#include "core/form_layout.h"
+#include "core/pictures.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QIdentityProxyModel>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace nimb
+{
+namespace
+{
+
+using form_layout::groupDistance;
+using form_layout::margin;
+using form_layout::spacing;
+
+/// The invitations with their pictures.
+class InvitationsProxy : public QIdentityProxyModel
+{
+public:
+    using QIdentityProxyModel::QIdentityProxyModel;
+
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        if (role == Qt::DecorationRole && index.column() == InvitationList::Text)
+            return namedPicture(QIdentityProxyModel::data(index, InvitationList::PictureRole).toString());
+        return QIdentityProxyModel::data(index, role);
+    }
+};
+
+} // namespace
+
+frmConfInvitations::frmConfInvitations(Invitations &invitations) : m_invitations(invitations)
+{
+    setObjectName(QStringLiteral("frmConfInvitations"));
+    setWindowTitle(tr("Conference Invitations - NIMB-Chat"));
+    setWindowIcon(programIcon());
+    buildControls();
+    connectControls();
+    resize(720, 280);
+    m_invitations.Form_Load(*this);
+}
+
+void frmConfInvitations::buildControls()
+{
+    ListView1 = named(new QTreeView(this), "ListView1");
+    ListView1->setAccessibleName(tr("Invitations"));
+    ListView1->setRootIsDecorated(false);
+    ListView1->setUniformRowHeights(true);
+    ListView1->setIconSize(QSize(16, 16));
+    auto *const model = new InvitationsProxy(ListView1);
+    model->setSourceModel(&m_invitations.list());
+    ListView1->setModel(model);
+    ListView1->header()->setStretchLastSection(false);
+    ListView1->header()->setSectionResizeMode(InvitationList::Text, QHeaderView::Stretch);
+    for (const int column : {InvitationList::Arrived, InvitationList::Age, InvitationList::Number})
+        ListView1->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+
+    ConfAgreebtn = named(new QPushButton(tr("&Accept"), this), "ConfAgreebtn");
+    ConfDenybtn = named(new QPushButton(tr("&Deny"), this), "ConfDenybtn");
+    ConfDenyAllbtn = named(new QPushButton(tr("Deny a&ll"), this), "ConfDenyAllbtn");
+    clearbtn = named(new QPushButton(tr("&Clear"), this), "clearbtn");
+    clearbtn->setToolTip(tr("Removes the invitations that are over"));
+    ConfAgreebtn->setEnabled(false);
+    ConfDenybtn->setEnabled(false);
+    auto *const answers = new QHBoxLayout;
+    answers->setSpacing(spacing);
+    for (QPushButton *const button : {ConfAgreebtn, ConfDenybtn, ConfDenyAllbtn, clearbtn})
+        answers->addWidget(button);
+    answers->addStretch(1);
+
+    autorefuse = named(new QCheckBox(tr("Refuse automatically after"), this), "autorefuse");
+    autorefusemins = named(new QLineEdit(this), "autorefusemins");
+    autorefusemins->setAccessibleName(tr("Minutes"));
+    autorefusemins->setFixedWidth(60);
+    auto *const minutes = named(new QLabel(tr("minute(s)"), this), "Label1");
+    auto *const refusal = new QHBoxLayout;
+    refusal->setSpacing(spacing);
+    refusal->addWidget(autorefuse);
+    refusal->addWidget(autorefusemins);
+    refusal->addWidget(minutes);
+    refusal->addStretch(1);
+
+    auto *const column = new QVBoxLayout(this);
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(spacing);
+    column->addWidget(ListView1, 1);
+    column->addLayout(answers);
+    column->addSpacing(groupDistance - spacing);
+    column->addLayout(refusal);
+}
+
+void frmConfInvitations::connectControls()
+{
+    connect(ConfAgreebtn, &QPushButton::clicked, this, [this] { m_invitations.ConfAgreebtn_Click(selectedRow()); });
+    connect(ConfDenybtn, &QPushButton::clicked, this, [this] { m_invitations.ConfDenybtn_Click(selectedRow()); });
+    connect(ConfDenyAllbtn, &QPushButton::clicked, this, [this] { m_invitations.ConfDenyAllbtn_Click(); });
+    connect(clearbtn, &QPushButton::clicked, this, [this] { m_invitations.clearbtn_Click(); });
+    connect(autorefuse, &QCheckBox::toggled, this, [this](bool on) { m_invitations.setAutorefuse(on); });
+    connect(autorefusemins, &QLineEdit::textChanged, this, &frmConfInvitations::autorefusemins_Change);
+    connect(ListView1->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &frmConfInvitations::ListView1_ItemClick);
+    connect(&m_invitations.list(), &InvitationList::dataChanged, this, &frmConfInvitations::ListView1_ItemClick);
+}
+
+int frmConfInvitations::selectedRow() const
+{
+    const QModelIndexList rows = ListView1->selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.front().row();
+}
+
+void frmConfInvitations::ListView1_ItemClick()
+{
+    const bool pending = m_invitations.isPending(selectedRow());
+    ConfAgreebtn->setEnabled(pending);
+    ConfDenybtn->setEnabled(pending);
+}
+
+void frmConfInvitations::autorefusemins_Change()
+{
+    const QString number = m_invitations.setAutorefuseMins(autorefusemins->text());
+    if (number != autorefusemins->text())
+        autorefusemins->setText(number);
+}
+
+void frmConfInvitations::setAutoRefusal(bool on, int minutes)
+{
+    autorefuse->setChecked(on);
+    autorefusemins->setText(QString::number(minutes));
+}
+
+void frmConfInvitations::showWithoutFocus()
+{
+    if (isVisible() && !isMinimized())
+        return;
+    setAttribute(Qt::WA_ShowWithoutActivating, true);
+    bringBack(*this);
+}
+
+void frmConfInvitations::showWindow()
+{
+    setAttribute(Qt::WA_ShowWithoutActivating, false);
+    bringBack(*this);
+    activateWindow();
+}
+
+void frmConfInvitations::closeEvent(QCloseEvent *event)
+{
+    event->ignore();
+    hide();
+}
+
+} // namespace nimb

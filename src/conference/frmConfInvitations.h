@@ -1,0 +1,49 @@
+// The window of the invitations to conferences.
+#pragma once
+
+#include "conference/invitations.h"
+
+#include <QWidget>
+
+class QCheckBox;
+class QLineEdit;
+class QPushButton;
+class QTreeView;
+
+namespace nimb
+{
+
+/// Never destroyed by its close box, so that the invitations and their ages live on.
+class frmConfInvitations : public QWidget, public InvitationsView
+{
+    Q_OBJECT
+
+public:
+    explicit frmConfInvitations(Invitations &invitations);
+
+    void showWithoutFocus() override;
+    void showWindow() override;
+    void hideWindow() override { hide(); }
+    void setAutoRefusal(bool on, int minutes) override;
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void buildControls();
+    void connectControls();
+    int selectedRow() const; ///< -1 when none is selected
+    void ListView1_ItemClick();
+    void autorefusemins_Change();
+
+    Invitations &m_invitations;
+    QTreeView *ListView1 = nullptr;
+    QPushButton *ConfAgreebtn = nullptr;
+    QPushButton *ConfDenybtn = nullptr;
+    QPushButton *ConfDenyAllbtn = nullptr;
+    QPushButton *clearbtn = nullptr;
+    QCheckBox *autorefuse = nullptr;
+    QLineEdit *autorefusemins = nullptr;
+};
+
+} // namespace nimb

@@ -1,0 +1,120 @@
+// The invitations to conferences that wait for an answer.
+#pragma once
+
+#include "conference/conference_table.h"
+#include "core/settings_store.h"
+
+#include <QAbstractTableModel>
+#include <QDateTime>
+
+namespace nimb
+{
+
+struct Invitation {
+    enum class State { pending, refused, autorefused, closed };
+
+    QString host;            ///< the row's tag
+    std::int16_t number = 0; ///< as the host knows the conference
+    QString text;
+    QDateTime arrived;
+    int minutes = 0; ///< age
+    State state = State::pending;
+};
+
+/// The rows in order of arrival; no two have the same host and number.
+class InvitationList : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { Text, Arrived, Age, Number, ColumnCount };
+    /// The key ("IP", the host's address, ":" and the number), the host's address, "green" or "red".
+    enum Role { KeyRole = Qt::UserRole, TagRole, PictureRole };
+
+    using QAbstractTableModel::QAbstractTableModel;
+
+    const std::vector<Invitation> &rows() const { return m_rows; }
+    /// -1 when there is none.
+    int rowOf(const QString &host, std::int16_t number) const;
+    void add(const Invitation &invitation);
+    void remove(int row);
+    void setState(int row, Invitation::State state);
+    void setMinutes(int row, int minutes);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    QString age(const Invitation &invitation) const;
+
+    std::vector<Invitation> m_rows;
+};
+
+class InvitationsView
+{
+public:
+    virtual ~InvitationsView() = default;
+    /// Brings the window into view; the user may go on typing elsewhere.
+    virtual void showWithoutFocus() = 0;
+    virtual void showWindow() = 0;
+    virtual void hideWindow() = 0;
+    virtual void setAutoRefusal(bool on, int minutes) = 0;
+};
+
+/// The engine half of frmConfInvitations.
+class Invitations
+{
+    Q_DECLARE_TR_FUNCTIONS(Invitations)
+
+public:
+    struct Services {
+        Winsock &socket;
+        const ContactList &contacts;
+        Timers &timers;
+        const WallClock &clock;
+        SettingsStore &store;
+        ConferenceTable &conferences;
+    };
+
+    explicit Invitations(const Services &services);
+
+    /// Reads the settings. The window that shows the invitations must stay until Form_Unload().
+    void Form_Load(InvitationsView &view);
+    InvitationList &list() { return m_list; }
+
+    /// An invitation arrived; one that is there already is replaced.
+    void arrived(const QString &host, std::int16_t number);
+    /// The host has closed the conference.
+    void closed(const QString &host, std::int16_t number);
+
+    void mnushowinvitations();
+    /// A row that is not there, or not to be answered any more, is left alone.
+    void ConfAgreebtn_Click(int row);
+    void ConfDenybtn_Click(int row);
+    void ConfDenyAllbtn_Click();
+    void clearbtn_Click();
+    bool isPending(int row) const;
+
+    void setAutorefuse(bool on) { m_autorefuse = on; }
+    /// Takes the text's numeric value, within 16 bits, and returns what the box is to show.
+    QString setAutorefuseMins(const QString &text);
+
+    /// Notes the settings for saving; the window is gone from now on.
+    void Form_Unload();
+
+private:
+    void Timer1_Timer();
+    void deny(int row);
+    void RefreshVisibility();
+
+    Services m_services;
+    InvitationsView *m_view = nullptr;
+    InvitationList m_list;
+    std::unique_ptr<Timer> m_timer1;
+    bool m_autorefuse = false;
+    int m_autorefuseMins = 5;
+};
+
+} // namespace nimb

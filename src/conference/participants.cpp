@@ -1,0 +1,140 @@
+#include "conference/participants.h"
+
+#include "private/emoticon_tables.h"
+
+#include <algorithm>
+
+namespace nimb
+{
+
+int Participants::rowOf(const QString &ip) const
+{
+    const auto found
+        = std::find_if(m_rows.begin(), m_rows.end(), [&ip](const Participant &one) { return one.ip == ip; });
+    return found == m_rows.end() ? -1 : static_cast<int>(found - m_rows.begin());
+}
+
+const Participant *Participants::find(const QString &ip) const
+{
+    const int row = rowOf(ip);
+    return row < 0 ? nullptr : &m_rows[static_cast<std::size_t>(row)];
+}
+
+bool Participants::add(const Participant &participant)
+{
+    if (rowOf(participant.ip) >= 0)
+        return false;
+    const int row = rowCount();
+    beginInsertRows({}, row, row);
+    m_rows.push_back(participant);
+    endInsertRows();
+    return true;
+}
+
+bool Participants::remove(const QString &ip)
+{
+    const int row = rowOf(ip);
+    if (row < 0)
+        return false;
+    beginRemoveRows({}, row, row);
+    m_rows.erase(m_rows.begin() + row);
+    endRemoveRows();
+    return true;
+}
+
+void Participants::changed(int row)
+{
+    Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
+}
+
+void Participants::setPresent(const QString &ip)
+{
+    const int row = rowOf(ip);
+    if (row < 0)
+        return;
+    Participant &participant = m_rows[static_cast<std::size_t>(row)];
+    participant.present = true;
+    if (!participant.colour)
+        participant.colour = nextColour();
+    changed(row);
+}
+
+void Participants::setAbsent(const QString &ip)
+{
+    const int row = rowOf(ip);
+    if (row < 0)
+        return;
+    m_rows[static_cast<std::size_t>(row)].present = false;
+    changed(row);
+}
+
+void Participants::setAllAbsent()
+{
+    for (const Participant &participant : m_rows) {
+        if (!participant.own)
+            setAbsent(participant.ip);
+    }
+}
+
+void Participants::setName(const QString &ip, const QString &name)
+{
+    const int row = rowOf(ip);
+    if (row < 0 || m_rows[static_cast<std::size_t>(row)].name == name)
+        return;
+    m_rows[static_cast<std::size_t>(row)].name = name;
+    changed(row);
+}
+
+Colour Participants::nextColour()
+{
+    const auto &table = emoticonTables.participantColours;
+    for (const Colour colour : table) {
+        const bool taken = std::any_of(m_rows.begin(), m_rows.end(),
+                                       [colour](const Participant &one) { return one.colour == colour; });
+        if (!taken)
+            return colour;
+    }
+    return table[m_turn++ % table.size()];
+}
+
+int Participants::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int Participants::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant Participants::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    const Participant &participant = m_rows[static_cast<std::size_t>(index.row())];
+    switch (role) {
+    case Qt::DisplayRole:
+        if (index.column() == NickName)
+            return participant.name;
+        return participant.own ? QStringLiteral("!") : QString();
+    case KeyRole:
+        return QString(QLatin1String("IP") + participant.ip);
+    case TagRole:
+        return participant.ip;
+    case PictureRole:
+        return participant.present ? QStringLiteral("green") : QStringLiteral("blue");
+    case ColourRole:
+        return participant.colour ? QVariant(*participant.colour) : QVariant();
+    default:
+        return {};
+    }
+}
+
+QVariant Participants::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section != NickName)
+        return {};
+    return tr("NickName");
+}
+
+} // namespace nimb

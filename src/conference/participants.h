@@ -1,0 +1,67 @@
+// The participants of one conference: an item model of keyed rows, the own one first.
+#pragma once
+
+#include "core/colour.h"
+
+#include <QAbstractTableModel>
+#include <QHash>
+
+#include <optional>
+#include <vector>
+
+namespace nimb
+{
+
+struct Participant {
+    QString ip;
+    QString name;                                ///< the row's text
+    bool present = false;                        ///< "green"; otherwise invited and not there yet, "blue"
+    bool own = false;                            ///< marked with "!"
+    std::optional<Colour> colour = std::nullopt; ///< of what the participant writes, once it is present
+
+    /// The row is not the own one and gets what is relayed.
+    bool isPresentPeer() const { return present && !own; }
+};
+
+/// No two rows have the same address. Rows keep their order of arrival.
+class Participants : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { NickName, Mark, ColumnCount };
+    /// The key ("IP" and the address), the address, "green" or "blue", and the colour as a 32-bit number.
+    enum Role { KeyRole = Qt::UserRole, TagRole, PictureRole, ColourRole };
+
+    using QAbstractTableModel::QAbstractTableModel;
+
+    const std::vector<Participant> &rows() const { return m_rows; }
+    /// Null when there is none with this address.
+    const Participant *find(const QString &ip) const;
+
+    /// False, and nothing changes, when the address is there already.
+    bool add(const Participant &participant);
+    bool remove(const QString &ip);
+    /// Marks a row as present and gives it a colour, unless it has one: the lowest of the table that no row has, and
+    /// once all are taken one after the other in turn.
+    void setPresent(const QString &ip);
+    /// Marks a row, or all but the own one, as not there.
+    void setAbsent(const QString &ip);
+    void setAllAbsent();
+    void setName(const QString &ip, const QString &name);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    int rowOf(const QString &ip) const; ///< -1 when there is none
+    Colour nextColour();
+    void changed(int row);
+
+    std::vector<Participant> m_rows;
+    std::size_t m_turn = 0;
+};
+
+} // namespace nimb

@@ -1,0 +1,39 @@
+#include "conference/participants_view.h"
+
+#include "conference/participants.h"
+#include "core/muted_colour.h"
+#include "core/pictures.h"
+#include "core/remote_text.h"
+#include "private/rich_text_log.h"
+
+#include <QBrush>
+
+namespace nimb
+{
+
+void ParticipantsProxy::setGround(const QColor &ground)
+{
+    m_ground = ground;
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1), {Qt::ForegroundRole});
+}
+
+QVariant ParticipantsProxy::data(const QModelIndex &index, int role) const
+{
+    switch (role) {
+    case Qt::ForegroundRole: {
+        const QVariant colour = QIdentityProxyModel::data(index, Participants::ColourRole);
+        return colour.isValid() ? QVariant(QBrush(readableOn(screenColour(colour.toUInt()), m_ground))) : QVariant();
+    }
+    case Qt::DecorationRole:
+        if (index.column() != Participants::NickName)
+            return {};
+        return namedPicture(QIdentityProxyModel::data(index, Participants::PictureRole).toString());
+    case Qt::ToolTipRole:
+        return QIdentityProxyModel::data(index.siblingAtColumn(0), Qt::DisplayRole);
+    default:
+        return QIdentityProxyModel::data(index, role);
+    }
+}
+
+} // namespace nimb

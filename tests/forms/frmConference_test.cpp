@@ -1,0 +1,299 @@
+#include "real_windows.h"
+
+#include "private/avatar_picture.h"
+
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QToolButton>
+
+namespace nimb::test
+{
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class FrmConference : public testing::Test
+{
+protected:
+    FrmConference() { windows.settleStart({"10.0.0.2", "10.0.0.3"}); }
+
+    static std::vector<QWidget *> open()
+    {
+        std::vector<QWidget *> found;
+        for (QWidget *const window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == QLatin1String("frmConference") && window->isVisible())
+                found.push_back(window);
+        }
+        return found;
+    }
+    QWidget &form()
+    {
+        if (open().size() != 1)
+            qFatal("not one conference window");
+        return *open().front();
+    }
+    template <class Widget> Widget &control(const char *name) { return RealWindows::control<Widget>(form(), name); }
+    QPlainTextEdit &intext() { return control<QPlainTextEdit>("intext"); }
+    std::string lastLogLine()
+    {
+        return RealWindows::logOf(form()).toPlainText().trimmed().section(u'\n', -1).toStdString();
+    }
+    /// A conference hosted here, with Ann and Ben in it.
+    void host()
+    {
+        windows.entry("mnuCreateNewConf").trigger();
+        for (const int row : {0, 1}) {
+            windows.click(row);
+            windows.entry("mnuInvite2Conf1").trigger();
+        }
+        windows.arrive("10.0.0.2", "!CONF INVITE #1 AGREE");
+        windows.arrive("10.0.0.3", "!CONF INVITE #1 AGREE");
+        windows.sent();
+    }
+    /// Ann's conference number 3, joined from the window of the invitations.
+    void join()
+    {
+        windows.arrive("10.0.0.2", "?CONF INVITE #3");
+        auto &list = RealWindows::control<QTreeView>(invitations(), "ListView1");
+        list.setCurrentIndex(list.model()->index(0, 0));
+        QTest::mouseClick(&RealWindows::control<QPushButton>(invitations(), "ConfAgreebtn"), Qt::LeftButton);
+        windows.arrive("10.0.0.2", "!CONF USERS #3 10.0.0.2 10.0.0.1 10.0.0.3");
+        windows.sent();
+    }
+    static QWidget &invitations()
+    {
+        for (QWidget *const window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == QLatin1String("frmConfInvitations"))
+                return *window;
+        }
+        qFatal("no window of invitations");
+    }
+
+    RealWindows windows{{{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}}};
+};
+
+TEST_F(FrmConference, BearsItsPrescribedNamesAndCaptions)
+{
+    host();
+    for (const char *name : {"partecipanti", "refreshlistbtn", "kickuserbtn", "showlist", "showavatars", "AvatarsFrame",
+                             "AvatarPicture", "AvatarLabel", "NoAvatarImg", "outtext", "intext", "sendbtn", "clearbtn",
+                             "datetimebtn", "Emoticbtn", "ListViewEmot", "StatusBar1", "StatusBar1_1"})
+        EXPECT_TRUE(form().findChild<QWidget *>(QLatin1String(name))) << name;
+    EXPECT_EQ(control<QPushButton>("refreshlistbtn").text(), QStringLiteral("Refresh list"));
+    EXPECT_EQ(control<QPushButton>("kickuserbtn").text(), QStringLiteral("Kick user"));
+    EXPECT_EQ(control<QPushButton>("sendbtn").text(), QStringLiteral("Send"));
+    EXPECT_EQ(control<QToolButton>("clearbtn").text(), QStringLiteral("Clear"));
+    EXPECT_EQ(control<QToolButton>("datetimebtn").text(), QStringLiteral("Date&&Time"));
+    EXPECT_EQ(control<QToolButton>("Emoticbtn").text(), QStringLiteral("Emoticons"));
+    EXPECT_EQ(control<QToolButton>("showlist").toolTip(), QStringLiteral("Show/Hide partecipants"));
+    EXPECT_EQ(control<QToolButton>("showavatars").toolTip(), QStringLiteral("Show/Hide avatars"));
+    EXPECT_EQ(control<QGroupBox>("AvatarsFrame").title(), QStringLiteral("Avatars"));
+    EXPECT_EQ(control<QTreeView>("partecipanti").model()->headerData(0, Qt::Horizontal).toString(),
+              QStringLiteral("NickName"));
+    EXPECT_EQ(form().windowTitle(), QStringLiteral("Conference #1 (Hosted here) - NIMB-Chat"));
+}
+
+TEST_F(FrmConference, ListsParticipantsWithPicturesAndColours)
+{
+    host();
+    const QAbstractItemModel &model = *control<QTreeView>("partecipanti").model();
+    ASSERT_EQ(model.rowCount(), 3);
+    EXPECT_EQ(model.index(0, 0).data().toString(), QStringLiteral("Me (you)"));
+    EXPECT_EQ(model.index(0, 1).data().toString(), QStringLiteral("!"));
+    EXPECT_EQ(model.index(1, 0).data().toString(), QStringLiteral("Ann"));
+    EXPECT_EQ(model.index(1, 0).data(Qt::UserRole).toString(), QStringLiteral("IP10.0.0.2"));
+    EXPECT_EQ(model.index(1, 0).data(Qt::UserRole + 1).toString(), QStringLiteral("10.0.0.2"));
+    EXPECT_EQ(model.index(1, 0).data(Qt::UserRole + 2).toString(), QStringLiteral("green"));
+    EXPECT_EQ(model.index(1, 0).data(Qt::ForegroundRole).value<QBrush>().color(), QColor(0, 0, 192));
+    EXPECT_EQ(model.index(2, 0).data(Qt::ForegroundRole).value<QBrush>().color(), QColor(0, 128, 0));
+    EXPECT_FALSE(model.index(1, 0).data(Qt::DecorationRole).value<QIcon>().isNull());
+}
+
+TEST_F(FrmConference, EnterSendsToEverybodyAndEmptiesTheBox)
+{
+    host();
+    QTest::keyClicks(&intext(), QStringLiteral("hello"));
+    QTest::keyClick(&intext(), Qt::Key_Return);
+    EXPECT_THAT(windows.sent(),
+                ElementsAre(To("10.0.0.2", "+10.0.0.1 #1 hello"), To("10.0.0.3", "+10.0.0.1 #1 hello")));
+    EXPECT_EQ(intext().toPlainText(), QString());
+    EXPECT_EQ(form().focusWidget(), &intext());
+    EXPECT_EQ(lastLogLine(), "Me> hello");
+    intext().insertPlainText(QString(2500, u'x'));
+    EXPECT_EQ(intext().toPlainText().size(), 2000);
+}
+
+TEST_F(FrmConference, KickingIsForSelectedGuestsAlone)
+{
+    host();
+    auto &list = control<QTreeView>("partecipanti");
+    auto &kick = control<QPushButton>("kickuserbtn");
+    EXPECT_TRUE(kick.isVisible());
+    EXPECT_FALSE(control<QPushButton>("refreshlistbtn").isVisible());
+    EXPECT_FALSE(kick.isEnabled());
+    list.setCurrentIndex(list.model()->index(0, 0));
+    EXPECT_FALSE(kick.isEnabled()) << "nobody kicks himself";
+    list.setCurrentIndex(list.model()->index(2, 0));
+    EXPECT_TRUE(kick.isEnabled());
+    QTest::mouseClick(&kick, Qt::LeftButton);
+    EXPECT_THAT(windows.sent(), ElementsAre(To("10.0.0.3", "!CONF CLOSE #1")));
+    EXPECT_EQ(list.model()->rowCount(), 2);
+}
+
+TEST_F(FrmConference, AGuestRefreshesTheList)
+{
+    join();
+    EXPECT_EQ(form().windowTitle(), QStringLiteral("Conference #1 (Hosted by 'Ann') - NIMB-Chat"));
+    auto &refresh = control<QPushButton>("refreshlistbtn");
+    EXPECT_TRUE(refresh.isVisible());
+    EXPECT_FALSE(control<QPushButton>("kickuserbtn").isVisible());
+    QTest::mouseClick(&refresh, Qt::LeftButton);
+    EXPECT_THAT(windows.sent(), ElementsAre(To("10.0.0.2", "?CONF USERS #3")));
+    EXPECT_EQ(form().focusWidget(), &control<QPushButton>("sendbtn"));
+}
+
+TEST_F(FrmConference, AClosedConferenceTakesNoInput)
+{
+    join();
+    windows.arrive("10.0.0.2", "!CONF CLOSE #3");
+    EXPECT_FALSE(intext().isEnabled());
+    EXPECT_FALSE(control<QPushButton>("sendbtn").isEnabled());
+    EXPECT_EQ(lastLogLine(), "--- This conference is terminated.");
+    QTest::mouseClick(&control<QToolButton>("datetimebtn"), Qt::LeftButton);
+    QTest::mouseClick(&control<QToolButton>("Emoticbtn"), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    auto &picker = control<QListWidget>("ListViewEmot");
+    EXPECT_TRUE(picker.isVisible());
+    QTest::mouseClick(picker.viewport(), Qt::LeftButton, {}, picker.visualItemRect(picker.item(0)).center());
+    EXPECT_EQ(intext().toPlainText(), QString());
+    form().close();
+    EXPECT_THAT(windows.prompts.asked, IsEmpty());
+    EXPECT_THAT(open(), IsEmpty());
+}
+
+TEST_F(FrmConference, ItsCloseBoxAsks)
+{
+    host();
+    windows.prompts.answer = false;
+    form().close();
+    EXPECT_THAT(windows.prompts.asked,
+                ElementsAre("NIMB-Chat: Closing that window will terminate the conference. Proceed?"));
+    EXPECT_THAT(windows.sent(), IsEmpty());
+    windows.prompts.answer = true;
+    form().close();
+    EXPECT_THAT(windows.sent(), ElementsAre(To("10.0.0.2", "!CONF CLOSE #1"), To("10.0.0.3", "!CONF CLOSE #1")));
+    EXPECT_THAT(open(), IsEmpty());
+    EXPECT_FALSE(windows.entry("mnuInvite2Conf1").isVisible());
+}
+
+TEST_F(FrmConference, TheEntriesOfTheMenuFollowTheHostedOnes)
+{
+    EXPECT_FALSE(windows.entry("mnuInvite2Conf1").isVisible());
+    windows.entry("mnuCreateNewConf").trigger();
+    EXPECT_TRUE(windows.entry("mnuInvite2Conf1").isVisible());
+    EXPECT_FALSE(windows.entry("mnuInvite2Conf2").isVisible());
+}
+
+TEST_F(FrmConference, IsHeldToItsLeastSize)
+{
+    host();
+    form().resize(100, 100);
+    EXPECT_EQ(form().minimumWidth(), 667);
+    EXPECT_EQ(form().minimumHeight(), 307);
+    EXPECT_GE(form().width(), 667);
+    EXPECT_GE(form().height(), 307);
+}
+
+TEST_F(FrmConference, ListAndAvatarsFoldAway)
+{
+    host();
+    auto &showlist = control<QToolButton>("showlist");
+    auto &showavatars = control<QToolButton>("showavatars");
+    EXPECT_EQ(showlist.text(), QStringLiteral("<"));
+    EXPECT_EQ(showavatars.text(), QStringLiteral(">"));
+    EXPECT_EQ(control<QTreeView>("partecipanti").width(), 149);
+    EXPECT_EQ(control<QGroupBox>("AvatarsFrame").width(), 77);
+    QTest::mouseClick(&showlist, Qt::LeftButton);
+    EXPECT_EQ(showlist.text(), QStringLiteral(">"));
+    EXPECT_FALSE(control<QTreeView>("partecipanti").isVisible());
+    EXPECT_FALSE(control<QPushButton>("kickuserbtn").isVisible());
+    QTest::mouseClick(&showavatars, Qt::LeftButton);
+    EXPECT_EQ(showavatars.text(), QStringLiteral("<"));
+    EXPECT_FALSE(control<QGroupBox>("AvatarsFrame").isVisible());
+    QTest::mouseClick(&showlist, Qt::LeftButton);
+    EXPECT_TRUE(control<QPushButton>("kickuserbtn").isVisible());
+    EXPECT_FALSE(control<QPushButton>("refreshlistbtn").isVisible());
+}
+
+TEST_F(FrmConference, ShowsTheAvatarOfTheWriter)
+{
+    windows.arrive("10.0.0.2", "!AVATARHEAD x");
+    windows.arrive("10.0.0.2", "!AVATARBODY " + std::string(7500, 'a'));
+    host();
+    EXPECT_TRUE(control<QLabel>("NoAvatarImg").isVisible());
+    windows.arrive("10.0.0.2", "+10.0.0.2 #1 hello");
+    EXPECT_EQ(control<QLabel>("AvatarLabel").text(), QStringLiteral("Ann"));
+    EXPECT_TRUE(control<AvatarPicture>("AvatarPicture").isVisible());
+    EXPECT_FALSE(control<QLabel>("NoAvatarImg").isVisible());
+    windows.arrive("10.0.0.3", "+10.0.0.3 #1 hello");
+    EXPECT_TRUE(control<QLabel>("NoAvatarImg").isVisible());
+}
+
+TEST_F(FrmConference, LinksInItOpen)
+{
+    host();
+    windows.arrive("10.0.0.2", "+10.0.0.2 #1 http://fileserver/x");
+    RichTextLogEdit &log = RealWindows::logOf(form());
+    QTextCursor cursor = log.document()->find(QStringLiteral("fileserver"));
+    cursor.setPosition(cursor.selectionStart() + 1);
+    QTest::mouseClick(log.viewport(), Qt::LeftButton, {}, log.cursorRect(cursor).center());
+    EXPECT_THAT(windows.links.opened, ElementsAre("http://fileserver/x"));
+}
+
+TEST_F(FrmConference, TheInvitationsHideInsteadOfClosing)
+{
+    EXPECT_FALSE(invitations().isVisible());
+    windows.entry("mnushowinvitations").trigger();
+    EXPECT_TRUE(invitations().isVisible());
+    EXPECT_EQ(invitations().windowTitle(), QStringLiteral("Conference Invitations - NIMB-Chat"));
+    windows.arrive("10.0.0.2", "?CONF INVITE #3");
+    invitations().close();
+    EXPECT_FALSE(invitations().isVisible());
+    windows.arrive("10.0.0.3", "?CONF INVITE #1");
+    EXPECT_TRUE(invitations().isVisible());
+    EXPECT_EQ(RealWindows::control<QTreeView>(invitations(), "ListView1").model()->rowCount(), 2);
+}
+
+TEST_F(FrmConference, OnlyPendingInvitationsAreAnswered)
+{
+    windows.arrive("10.0.0.2", "?CONF INVITE #3");
+    auto &list = RealWindows::control<QTreeView>(invitations(), "ListView1");
+    auto &agree = RealWindows::control<QPushButton>(invitations(), "ConfAgreebtn");
+    auto &deny = RealWindows::control<QPushButton>(invitations(), "ConfDenybtn");
+    EXPECT_FALSE(agree.isEnabled());
+    list.setCurrentIndex(list.model()->index(0, 0));
+    EXPECT_TRUE(agree.isEnabled());
+    EXPECT_TRUE(deny.isEnabled());
+    QTest::mouseClick(&RealWindows::control<QPushButton>(invitations(), "ConfDenyAllbtn"), Qt::LeftButton);
+    EXPECT_FALSE(agree.isEnabled());
+    EXPECT_FALSE(deny.isEnabled());
+    EXPECT_EQ(list.model()->index(0, 2).data().toString(), QStringLiteral("Refused"));
+    QTest::mouseClick(&RealWindows::control<QPushButton>(invitations(), "clearbtn"), Qt::LeftButton);
+    EXPECT_FALSE(invitations().isVisible());
+}
+
+TEST_F(FrmConference, TheMinutesBoxHoldsANumber)
+{
+    auto &minutes = RealWindows::control<QLineEdit>(invitations(), "autorefusemins");
+    EXPECT_EQ(minutes.text(), QStringLiteral("5"));
+    minutes.setText(QStringLiteral("abc"));
+    EXPECT_EQ(minutes.text(), QStringLiteral("0"));
+}
+
+} // namespace
+} // namespace nimb::test
