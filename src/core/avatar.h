@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 
+#include <cstdint>
 #include <string>
 
 namespace nimb
@@ -11,6 +12,18 @@ namespace nimb
 constexpr int avatarSide = 50; ///< pixels
 /// Three bytes a pixel (blue, green, red), row by row from the top.
 constexpr qsizetype avatarBytes = 3 * avatarSide * avatarSide;
+
+/// The bytes of a picture of avatarSide by avatarSide pixels, each 0xRRGGBB with anything in the byte above.
+inline QByteArray avatarBodyOf(const std::uint32_t *pixels)
+{
+    QByteArray body;
+    body.reserve(avatarBytes);
+    for (int i = 0; i < avatarSide * avatarSide; ++i) {
+        for (const int shift : {0, 8, 16})
+            body.append(static_cast<char>(pixels[i] >> shift & 0xFF));
+    }
+    return body;
+}
 
 struct Avatar {
     std::string head; ///< as it travels; empty for no avatar

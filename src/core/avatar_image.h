@@ -1,4 +1,4 @@
-// Avatars as images, for what has Qt's images: the windows and the sources of pictures.
+// Avatars as images, for the windows.
 #pragma once
 
 #include "core/avatar.h"
@@ -25,11 +25,8 @@ inline QByteArray avatarBody(const QImage &image)
     if (image.isNull())
         return {};
     const QImage stretched = image.scaled(avatarSide, avatarSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                                 .convertToFormat(QImage::Format_BGR888);
-    QByteArray body;
-    for (int y = 0; y < avatarSide; ++y)
-        body.append(reinterpret_cast<const char *>(stretched.constScanLine(y)), 3 * avatarSide);
-    return body;
+                                 .convertToFormat(QImage::Format_RGB32);
+    return avatarBodyOf(reinterpret_cast<const std::uint32_t *>(stretched.constBits()));
 }
 
 } // namespace nimb

@@ -66,7 +66,11 @@ public:
     virtual void setInvite2ConfVisible(int slot, bool visible) = 0;
 };
 
-class MainWindowView : public MainLogView, public AnnouncementView, public OwnStateView, public ActivityView, public ConferenceMenuView
+class MainWindowView : public MainLogView,
+                       public AnnouncementView,
+                       public OwnStateView,
+                       public ActivityView,
+                       public ConferenceMenuView
 {
 public:
     void setRescanEnabled(bool enabled) override = 0;

@@ -1,6 +1,6 @@
 #include "platform/camera_source.h"
 
-#include "core/avatar_image.h"
+#include "platform/picture_frame.h"
 
 #include <QCamera>
 #include <QMediaCaptureSession>
@@ -44,9 +44,7 @@ std::optional<QByteArray> CameraSource::frame()
     const QImage image = newest.isValid() ? newest.toImage() : QImage();
     if (image.isNull())
         return std::nullopt;
-    // The middle of a wide picture, not a squeezed one.
-    const int side = qMin(image.width(), image.height());
-    return avatarBody(image.copy((image.width() - side) / 2, (image.height() - side) / 2, side, side));
+    return frameOf(image);
 }
 
 } // namespace nimb

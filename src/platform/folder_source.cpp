@@ -1,6 +1,6 @@
 #include "platform/folder_source.h"
 
-#include "core/avatar_image.h"
+#include "platform/picture_frame.h"
 
 #include <QDir>
 #include <QImageReader>
@@ -39,7 +39,7 @@ std::optional<QByteArray> FolderSource::frame()
         const QImage picture = readPicture(m_files.at(m_next));
         if (!picture.isNull()) {
             ++m_next;
-            return avatarBody(picture);
+            return frameOf(picture);
         }
         m_files.removeAt(m_next);
     }

@@ -312,8 +312,10 @@ void RichTextLogEdit::followEnd()
 
 void RichTextLogEdit::zoom(int points)
 {
+    const bool follows = m_follows;
     m_zoom = points;
     applyFont();
+    m_follows = follows;
     followEnd();
 }
 
@@ -352,7 +354,9 @@ void RichTextLogEdit::resizeEvent(QResizeEvent *event)
 {
     const QTextCursor topLine = cursorForPosition(QPoint(0, fontMetrics().height() / 2));
     const int top = cursorRect(topLine).top();
+    const bool follows = m_follows;
     QTextEdit::resizeEvent(event);
+    m_follows = follows; // the end may have come by on its way
     if (m_follows)
         return followEnd();
     // A new width breaks lines anew; what was read at the top stays there.

@@ -99,13 +99,15 @@ TEST(MainWindowUnload, EveryContactGetsItsOwnFarewellWhateverItsState)
                 ElementsAre(To{"10.0.0.3", "!OFFLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!OFFLINE 10.0.0.1 HERE Me"}));
 }
 
-TEST(MainWindowUnload, SavesContactsThenTheirEndThenTheSettingsInOneSave)
+TEST(MainWindowUnload, SavesInvitationsThenContactsAndTheirEndThenTheSettingsInOneSave)
 {
     Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
     copy.engine.mainWindow().Form_Unload();
-    ASSERT_GE(copy.settings.order.size(), 5u);
-    const std::vector<std::string> first(copy.settings.order.begin(), copy.settings.order.begin() + 5);
-    EXPECT_THAT(first, ElementsAre("Users/IP1", "Users/Nn1", "Users/Ws1", "Users/IP2", "Settings/UDPPort"));
+    ASSERT_GE(copy.settings.order.size(), 7u);
+    const std::vector<std::string> first(copy.settings.order.begin(), copy.settings.order.begin() + 7);
+    EXPECT_THAT(first,
+                ElementsAre("Settings/AutorefuseConf", "Settings/AutorefuseConfMins", "Users/IP1", "Users/Nn1",
+                            "Users/Ws1", "Users/IP2", "Settings/UDPPort"));
     EXPECT_EQ(copy.settings.order.back(), "Settings/PersonalizedState8");
     EXPECT_EQ(copy.settings.saves, 1);
 }
