@@ -11,8 +11,9 @@ namespace
 {
 
 /// In the order of the summary.
-constexpr std::array reasons = {Drop::stranger,        Drop::incomplete, Drop::noFeature,  Drop::noWindow, Drop::noConference, Drop::badAddress,
-                                Drop::tooManyContacts, Drop::notSent,    Drop::notReceived};
+constexpr std::array reasons
+    = {Drop::stranger,   Drop::incomplete,      Drop::noFeature, Drop::noWindow,   Drop::noConference,
+       Drop::badAddress, Drop::tooManyContacts, Drop::notSent,   Drop::notReceived};
 
 QString label(Drop reason)
 {

@@ -90,8 +90,9 @@ struct Engine {
     RecorderTray tray{steps};
     RecorderWindows windows{steps};
     DropCounts drops;
-    Messenger messenger{
-        common, {socket, settings, time, time, prompts, notifications, sound, tray, windows, forms, conferenceForms, view, drops}};
+    Messenger messenger{common,
+                        {socket, settings, time, time, prompts, notifications, sound, tray, windows, forms,
+                         conferenceForms, view, drops}};
 };
 
 void dispatch(benchmark::State &state, const char *bytes)
