@@ -42,8 +42,13 @@ void ConferenceCommands::operator()(const wire::ConferenceInvitation &invitation
 void ConferenceCommands::operator()(const wire::ConferenceAnswer &answer)
 {
     Conference *const conference = m_parts.conferences.hosted(answer.id);
-    if (!conference || !conference->partecipanti().find(m_ip))
-        return drop();
+    if (!conference || !conference->partecipanti().find(m_ip)) {
+        drop();
+        // Who takes an old invitation has opened a window that nobody would ever write to.
+        if (answer.agreed && isHostsNumber(answer.id))
+            sendDatagram(m_parts.socket, m_ip, wire::ConferenceClose{answer.id});
+        return;
+    }
     if (answer.agreed)
         agreed(*conference);
     else
@@ -145,7 +150,8 @@ void ConferenceCommands::askForAvatar(const QString &address)
 void ConferenceCommands::operator()(const wire::ConferenceLeave &leave)
 {
     Conference *const conference = m_parts.conferences.hosted(leave.id);
-    if (!conference || !conference->partecipanti().find(m_ip))
+    // Who has been removed, is invited anew and then closes the old window has not refused.
+    if (!conference || !conference->partecipanti().find(m_ip) || !conference->partecipanti().find(m_ip)->present)
         return drop();
     conference->ReceiveCommand(tr("--- %1 left the conference.").arg(name()), colours::banner);
     conference->partecipanti().remove(m_ip);
@@ -174,7 +180,10 @@ void ConferenceCommands::operator()(const wire::ConferenceMessage &message)
     }
     Conference *const conference = m_parts.conferences.hosted(message.id);
     const Participant *const writer = conference ? conference->partecipanti().find(m_ip) : nullptr;
-    if (!writer || !writer->isPresentPeer())
+    // Another origin was relayed by a host who takes this copy for a guest: two more such hosts, and it would go round
+    // for ever.
+    const bool isWritersOwn = origin == m_ip || origin == m_parts.common.ownIP;
+    if (!writer || !writer->isPresentPeer() || !isWritersOwn)
         return drop();
     conference->ReceiveMessage(m_ip, text);
 }

@@ -1,5 +1,7 @@
 #include "core/settings.h"
 
+#include "core/avatar.h"
+
 #include "core/limits.h"
 #include "core/remote_text.h"
 
@@ -123,6 +125,8 @@ LoadedSettings loadSettings(const SettingsStore &store, Common &common)
         common.options.*option.member = read.integer16(option.key);
     common.avatarHead = read.text("AvatarHead");
     common.avatarBody = read.text("AvatarBody").toLatin1();
+    if (common.avatarBody.size() != avatarBytes)
+        common.avatarBody.clear();
     common.autoReply.onBusy = read.flag("AutoReplyonBusyActive");
     common.autoReply.onAway = read.flag("AutoReplyonAwayActive");
     common.autoReply.busyText = read.text("AutoReplyonBusyText");

@@ -38,6 +38,7 @@ namespace
 {
 using form_layout::margin;
 using form_layout::spacing;
+constexpr quint64 longestRepeatGap = 1; // milliseconds
 } // namespace
 
 frmPrivate::frmPrivate(PrivateChat &chat, RTFSubClass &links) : m_chat(&chat), m_links(links)
@@ -48,7 +49,7 @@ frmPrivate::frmPrivate(PrivateChat &chat, RTFSubClass &links) : m_chat(&chat), m
     buildControls();
     connectControls();
     m_links.HookRichText(*m_outtext, *this);
-    resize(600, 480);
+    resize(600, 490);
 }
 
 void frmPrivate::buildControls()
@@ -267,8 +268,9 @@ void frmPrivate::intext_Change()
 void frmPrivate::futuretype_Change()
 {
     constexpr double aboveLogsEnd = 340; // twips
-    const int boxHeight = pixels(liveTypeHeight(futuretype->toPlainText().size()));
     const QRect log(m_outtext->mapTo(this, QPoint(0, 0)), m_outtext->size());
+    const int room = log.height() - pixels(aboveLogsEnd);
+    const int boxHeight = qMin(pixels(liveTypeHeight(futuretype->toPlainText().size())), qMax(0, room));
     const int inset = spacing;
     futuretype->setGeometry(log.left() + inset, log.bottom() + 1 - boxHeight - pixels(aboveLogsEnd),
                             log.width() - 2 * inset - m_outtext->verticalScrollBar()->sizeHint().width(), boxHeight);
@@ -295,9 +297,17 @@ bool frmPrivate::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress && Form_KeyDown(*static_cast<QKeyEvent *>(event)))
         return true;
+    if (event->type() == QEvent::KeyRelease)
+        m_lastRelease = static_cast<QKeyEvent *>(event)->timestamp();
     if (event->type() == QEvent::Resize && watched == m_outtext)
         futuretype_Change();
     return QWidget::eventFilter(watched, event);
+}
+
+void frmPrivate::keyReleaseEvent(QKeyEvent *event)
+{
+    m_lastRelease = event->timestamp();
+    QWidget::keyReleaseEvent(event);
 }
 
 void frmPrivate::keyPressEvent(QKeyEvent *event)
@@ -310,7 +320,11 @@ bool frmPrivate::Form_KeyDown(const QKeyEvent &event)
 {
     if (event.key() != Qt::Key_G || event.modifiers() != Qt::ControlModifier || !m_chat)
         return false;
-    if (!event.isAutoRepeat()) // one press, one buzz
+    // One press, one buzz. A held key that repeats is released and pressed at the same moment, which Qt does not always
+    // recognise.
+    const bool isDated = event.timestamp() != 0;
+    const bool repeats = event.isAutoRepeat() || (isDated && event.timestamp() - m_lastRelease <= longestRepeatGap);
+    if (!repeats)
         m_chat->BuzzBtn_Click();
     return true;
 }
@@ -382,8 +396,8 @@ void frmPrivate::setPanel(int number, const QString &text)
 void frmPrivate::setLiveType(const QString &text)
 {
     futuretype->setPlainText(text);
-    futuretype->moveCursor(QTextCursor::End);
     futuretype->setVisible(!text.isEmpty());
+    futuretype->moveCursor(QTextCursor::End);
 }
 
 void frmPrivate::setLiveTypeOn(bool on)

@@ -57,6 +57,7 @@ public:
 protected:
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -105,6 +106,7 @@ private:
     QGroupBox *Avatarframe = nullptr;
     AvatarPicture *Picture1 = nullptr;
     QLineEdit *AvatarCh = nullptr; ///< hidden; holds the head of the avatar that is shown
+    quint64 m_lastRelease = 0;     ///< of a key, as the window system counts milliseconds
     QLabel *m_panels[2] = {};
 };
 

@@ -154,6 +154,13 @@ void PrivateChat::AvatarCh_Change(const Avatar &avatar)
     m_view->setAvatar(remoteLine(fromWire(avatar.head)), shown ? std::optional(avatar.body) : std::nullopt);
 }
 
+void PrivateChat::setContact(bool isContact)
+{
+    m_isContact = isContact;
+    if (!isContact)
+        AvatarCh_Change({});
+}
+
 void PrivateChat::mymoodpct_MouseDown(float value)
 {
     const std::optional<MoodMark> mood = Mood::own(value);
@@ -198,7 +205,7 @@ void PrivateChat::outtext_Change()
 
 CloseDecision PrivateChat::Form_QueryUnload(UnloadMode mode) const
 {
-    const bool hides = mode == UnloadMode::closeBox && m_services.common.options.DontDestroyWindow != 1;
+    const bool hides = mode == UnloadMode::closeBox && m_isContact && m_services.common.options.DontDestroyWindow != 1;
     return hides ? CloseDecision::hide : CloseDecision::unload;
 }
 

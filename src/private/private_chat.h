@@ -55,6 +55,9 @@ public:
     void AvatarCh_Change(const Avatar &avatar);
     /// Shows the peer's mood; one outside the scale is ignored.
     void setmood(std::int16_t mood);
+    /// The peer is, or is no longer, a contact. A window whose peer is none cannot be found again once it is hidden,
+    /// and nothing of the peer is shown or asked for any more.
+    void setContact(bool isContact);
     /// Appends a line about the peer's presence.
     void appendPresence(const QString &line);
 
@@ -92,6 +95,7 @@ private:
     std::unique_ptr<Timer> m_webCamTimer;
     TypingNotice m_typingNotice;
     bool m_liveTypePending = false;
+    bool m_isContact = true;
     ViewPtr<PrivateChatView> m_view;
 };
 

@@ -42,6 +42,7 @@ PrivateChat &PrivateWindows::windowOf(const QString &ip)
     // A contact that was removed and came back finds the window that still talks to its address.
     if (const int number = numberOf(ip)) {
         m_contacts.change(ip, [number](Contact &row) { row.privateWindow = number; });
+        at(number)->setContact(true);
         return *at(number);
     }
     return make(contact);
@@ -85,8 +86,12 @@ void PrivateWindows::unloadAll()
 void PrivateWindows::contactRemoved(const QString &ip)
 {
     const int number = numberOf(ip);
-    if (number > 0 && at(number)->view().isHidden())
+    if (number <= 0)
+        return;
+    if (at(number)->view().isHidden())
         unload(number);
+    else
+        at(number)->setContact(false);
 }
 
 void PrivateWindows::appendPresence(int window, const QString &line)

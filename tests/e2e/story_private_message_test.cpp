@@ -45,10 +45,10 @@ TEST_F(StoryPrivateMessage, AMessageOpensAWindowInWhichTheUserAnswers)
     start(bob);
     ann.send("127.0.32.1", "-hello");
     const PrivateWindow window = PrivateWindow::with("Ann");
-    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    EXPECT_EQ(ann.nextButTyping(), "?AVATARHEAD");
 
     window.say("Hello Ann, how are you?");
-    EXPECT_EQ(ann.next(), "-Hello Ann, how are you?");
+    EXPECT_EQ(ann.nextButTyping(), "-Hello Ann, how are you?");
     EXPECT_THAT(
         logHeardBy(ann, window, window),
         ContainsRegex("^-\xAB NIMB-Chat \\[today:[^\n]+ - now:[0-9][0-9]:[0-9][0-9]:[0-9][0-9]\\] Ready \xBB\r\n"
@@ -87,10 +87,10 @@ TEST_F(StoryPrivateMessage, TheUserOpensAWindowByDoubleClickAndItIsActive)
     const PrivateWindow window = PrivateWindow::with("Ann the Great");
     EXPECT_TRUE(waitUntil([&] { return window.isActive(); }));
     EXPECT_EQ(window.state(), State::shown);
-    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    EXPECT_EQ(ann.nextButTyping(), "?AVATARHEAD");
     type("first words");
     press("Return");
-    EXPECT_EQ(ann.next(), "-first words");
+    EXPECT_EQ(ann.nextButTyping(), "-first words");
     main.openContact(0);
     EXPECT_TRUE(waitUntil([&] { return window.isActive(); }));
     EXPECT_EQ(Window::all(PrivateWindow::captionFor("Ann the Great")).size(), 1U);
@@ -118,7 +118,7 @@ TEST_F(StoryPrivateMessage, BlanksAndBreaksAtTheEndsAreTrimmedBothWays)
     start(bob);
     ann.send("127.0.32.1", "- \r\n  in  side\r\nof it \r\n\r\n ");
     const PrivateWindow window = PrivateWindow::with("Ann");
-    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    EXPECT_EQ(ann.nextButTyping(), "?AVATARHEAD");
 
     window.activate();
     press("shift+Return");
@@ -128,12 +128,12 @@ TEST_F(StoryPrivateMessage, BlanksAndBreaksAtTheEndsAreTrimmedBothWays)
     press("shift+Return");
     press("shift+Return");
     press("Return");
-    EXPECT_EQ(ann.next(), "-two  words\r\nand a line");
+    EXPECT_EQ(ann.nextButTyping(), "-two  words\r\nand a line");
     window.say("   ");
-    EXPECT_EQ(ann.next(), "-");
+    EXPECT_EQ(ann.nextButTyping(), "-");
     press("Return"); // the box is empty: nothing goes out
     window.say("end");
-    EXPECT_EQ(ann.next(), "-end");
+    EXPECT_EQ(ann.nextButTyping(), "-end");
     EXPECT_THAT(logHeardBy(ann, window, window),
                 EndsWith("\r\nAnn> in  side\r\nof it\r\nBob> two  words\r\nand a line\r\nBob> \r\nBob> end"));
 }
@@ -146,19 +146,19 @@ TEST_F(StoryPrivateMessage, UmlautsAndEmojiTravelAsTheirBytes)
              "-Gr\xFC\xDF"
              "e f\xFCr 5 \x80"); // windows-1252
     const PrivateWindow window = PrivateWindow::with("Ann");
-    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    EXPECT_EQ(ann.nextButTyping(), "?AVATARHEAD");
     EXPECT_THAT(logHeardBy(ann, window, window),
                 EndsWith("\r\nAnn> Gr\xFC\xDF"
                          "e f\xFCr 5 \x80"));
 
     window.say("Schöne Grüße für 5 €");
-    EXPECT_EQ(ann.next(),
+    EXPECT_EQ(ann.nextButTyping(),
               "-Sch\xF6ne Gr\xFC\xDF"
               "e f\xFCr 5 \x80");
     window.say("Prima 😀");
-    EXPECT_EQ(ann.next(), "-Prima \xF0\x9F\x98\x80");
+    EXPECT_EQ(ann.nextButTyping(), "-Prima \xF0\x9F\x98\x80");
     window.say("Grüße 😀");
-    EXPECT_EQ(ann.next(),
+    EXPECT_EQ(ann.nextButTyping(),
               "-Gr\xC3\xBC\xC3\x9F"
               "e \xF0\x9F\x98\x80");
 
@@ -174,11 +174,11 @@ TEST_F(StoryPrivateMessage, WhatIsMarkUpElsewhereIsPlainTextHere)
     start(bob);
     ann.send("127.0.32.1", "-<b>bold</b> &amp; %1 <img src=\"/etc/passwd\"> \x01\x02.");
     const PrivateWindow window = PrivateWindow::with("Ann");
-    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    EXPECT_EQ(ann.nextButTyping(), "?AVATARHEAD");
     EXPECT_THAT(logHeardBy(ann, window, window),
                 EndsWith("\r\nAnn> <b>bold</b> &amp; %1 <img src=\"/etc/passwd\">   ."));
     window.say("<i>%1 & %2</i> \\n");
-    EXPECT_EQ(ann.next(), "-<i>%1 & %2</i> \\n");
+    EXPECT_EQ(ann.nextButTyping(), "-<i>%1 & %2</i> \\n");
 }
 
 TEST_F(StoryPrivateMessage, TwoThousandCharactersAreSentAndNoMore)
@@ -187,7 +187,7 @@ TEST_F(StoryPrivateMessage, TwoThousandCharactersAreSentAndNoMore)
     start(bob);
     ann.send("127.0.32.1", "-hello");
     const PrivateWindow window = PrivateWindow::with("Ann");
-    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    EXPECT_EQ(ann.nextButTyping(), "?AVATARHEAD");
     window.activate();
     type("0123456789abcdefghij");
     for (int length = 20; length < 2000; length *= 2) {
@@ -200,7 +200,7 @@ TEST_F(StoryPrivateMessage, TwoThousandCharactersAreSentAndNoMore)
     std::string expected = "-";
     for (int i = 0; i < 100; ++i)
         expected += "0123456789abcdefghij";
-    EXPECT_EQ(ann.next(), expected);
+    EXPECT_EQ(ann.nextButTyping(), expected);
 }
 
 TEST_F(StoryPrivateMessage, PastingAnEmptyClipboardIsHarmless)
@@ -209,12 +209,12 @@ TEST_F(StoryPrivateMessage, PastingAnEmptyClipboardIsHarmless)
     start(bob);
     ann.send("127.0.32.1", "-hello");
     const PrivateWindow window = PrivateWindow::with("Ann");
-    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    EXPECT_EQ(ann.nextButTyping(), "?AVATARHEAD");
     window.activate();
     press("ctrl+v");
     press("shift+Insert");
     window.say("nothing to paste");
-    EXPECT_EQ(ann.next(), "-nothing to paste");
+    EXPECT_EQ(ann.nextButTyping(), "-nothing to paste");
 }
 
 /// How a window that a peer opens appears.
@@ -243,7 +243,7 @@ TEST_P(OpenedByAPeer, DoesNotTakeTheFocusFromWhoIsTyping)
     start(bob);
     ann.send("127.0.32.1", "-hello");
     const PrivateWindow withAnn = PrivateWindow::with("Ann");
-    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    EXPECT_EQ(ann.nextButTyping(), "?AVATARHEAD");
     withAnn.activate();
     type("While I type, ");
 
@@ -255,7 +255,7 @@ TEST_P(OpenedByAPeer, DoesNotTakeTheFocusFromWhoIsTyping)
     EXPECT_TRUE(withAnn.isActive()) << Window::active().caption();
     type("Ben writes.");
     press("Return");
-    EXPECT_EQ(ann.next(), "-While I type, Ben writes.");
+    EXPECT_EQ(ann.nextButTyping(), "-While I type, Ben writes.");
     EXPECT_EQ(withBen.state(), expected);
 }
 
@@ -309,12 +309,12 @@ TEST_F(StoryPrivateMessage, AWindowThatIsDestroyedByClosingStartsAnew)
     RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn({{{"Options", "DontDestroyWindow"}, "1"}}));
     start(bob);
     ann.send("127.0.32.1", "-old news");
-    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    EXPECT_EQ(ann.nextButTyping(), "?AVATARHEAD");
     PrivateWindow::with("Ann").close();
     EXPECT_TRUE(waitUntil([] { return !Window::exists(PrivateWindow::captionFor("Ann")); }));
 
     ann.send("127.0.32.1", "-good news");
-    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    EXPECT_EQ(ann.nextButTyping(), "?AVATARHEAD");
     const PrivateWindow anew = PrivateWindow::with("Ann");
     EXPECT_THAT(logHeardBy(ann, anew, anew),
                 AllOf(EndsWith(" Ready \xBB\r\nAnn> good news"), Not(HasSubstr("old news"))));
@@ -353,12 +353,12 @@ TEST_F(StoryPrivateMessage, ABusyUserAnswersAutomaticallyAtMostOnceASecond)
     const MainWindow main = MainWindow::of("Bob");
     ann.send("127.0.32.1", "-one");
     PrivateWindow::with("Ann");
-    EXPECT_EQ(ann.next(), "?AVATARHEAD"); // Online: no reply
+    EXPECT_EQ(ann.nextButTyping(), "?AVATARHEAD"); // Online: no reply
     main.chooseState(1);
     EXPECT_TRUE(waitUntil([&] {
         ann.send("127.0.32.1", "?ONLINE 127.0.32.2 ANN-PC Ann");
-        ann.next();
-        return ann.next() == "!STATUS BUSY";
+        ann.nextButTyping();
+        return ann.nextButTyping() == "!STATUS BUSY";
     }));
     ann.waiting();
     ann.send("127.0.32.1", "-two");
@@ -392,8 +392,8 @@ TEST_F(StoryPrivateMessage, TheTextOfTheAutomaticReplyIsEditedInItsPanel)
     press("ctrl+a");
     type("At lunch");
     ann.send("127.0.32.1", "-hello"); // takes no focus: the text still being typed does not count yet
-    EXPECT_EQ(ann.next(), "?AVATARHEAD");
-    EXPECT_EQ(ann.next(), "-[AutoReply] At the moment I'm not at my PC");
+    EXPECT_EQ(ann.nextButTyping(), "?AVATARHEAD");
+    EXPECT_EQ(ann.nextButTyping(), "-[AutoReply] At the moment I'm not at my PC");
     press("ctrl+q"); // but now it does
     EXPECT_EQ(bob.exitStatus(), 0);
     EXPECT_EQ(bob.stored("Settings", "AutoReplyonawayText"), "At lunch");
@@ -424,7 +424,7 @@ TEST_P(NamesOfPeers, AreShownAndStoredAsPlainText)
     ann.send("127.0.32.1", "!ONLINE 127.0.32.2 ANN-PC " + name.bytes);
     ann.send("127.0.32.1", "-hello");
     const PrivateWindow window = PrivateWindow::with(name.stored);
-    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    EXPECT_EQ(ann.nextButTyping(), "?AVATARHEAD");
     ann.send("127.0.32.1", "!OFFLINE");
     const std::string log = logHeardBy(ann, MainWindow::of("Bob"), window);
     EXPECT_THAT(log, HasSubstr(" has gone offline ---"));

@@ -150,6 +150,12 @@ std::string WirePeer::next()
     return heard ? heard->bytes : "(silence)";
 }
 
+std::string WirePeer::nextButTyping()
+{
+    return hearWhere([](const std::string &bytes) { return bytes != "!TYPING" && !bytes.starts_with("!LIVETYPE "); })
+        .bytes;
+}
+
 Heard WirePeer::hearWhere(const std::function<bool(const std::string &)> &fits)
 {
     const auto end = Clock::now() + patience();

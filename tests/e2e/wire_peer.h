@@ -45,6 +45,8 @@ public:
     std::optional<Heard> hear(std::chrono::milliseconds limit = patience());
     /// Its bytes; a test failure and "(silence)" when none comes in time.
     std::string next();
+    /// The same, passing over what says that somebody is typing.
+    std::string nextButTyping();
     /// Passes over the others; a test failure and no bytes when none fits in time.
     Heard hearWhere(const std::function<bool(const std::string &)> &fits);
     /// Everything up to the first datagram with these bytes, which is the last element unless it did not come in time.

@@ -28,17 +28,29 @@ class SimulatedWinsock;
 class SimulatedNetwork
 {
 public:
+    SimulatedNetwork() = default;
+    SimulatedNetwork(const SimulatedNetwork &) = delete;
+    SimulatedNetwork &operator=(const SimulatedNetwork &) = delete;
+    virtual ~SimulatedNetwork() = default;
+
     void attach(SimulatedWinsock &socket);
     void detach(const SimulatedWinsock &socket);
-    void send(const QString &from, const QString &to, const std::string &bytes) { m_wire.push_back({from, to, bytes}); }
+    virtual void send(const QString &from, const QString &to, const std::string &bytes)
+    {
+        m_wire.push_back({from, to, bytes});
+    }
     /// Delivers what is under way and everything that it provokes.
     void settle();
 
-private:
+protected:
     struct Flight {
         QString from, to;
         std::string bytes;
     };
+    /// Null when nobody listens there.
+    SimulatedWinsock *listener(const QString &ip) const;
+
+private:
     std::map<QString, SimulatedWinsock *> m_sockets;
     std::deque<Flight> m_wire;
 };
@@ -115,14 +127,19 @@ inline void SimulatedNetwork::detach(const SimulatedWinsock &socket)
     m_sockets.erase(socket.LocalIP());
 }
 
+inline SimulatedWinsock *SimulatedNetwork::listener(const QString &ip) const
+{
+    const auto socket = m_sockets.find(ip);
+    return socket != m_sockets.end() && socket->second->isBound() ? socket->second : nullptr;
+}
+
 inline void SimulatedNetwork::settle()
 {
     while (!m_wire.empty()) {
         const Flight flight = m_wire.front();
         m_wire.pop_front();
-        const auto socket = m_sockets.find(flight.to);
-        if (socket != m_sockets.end() && socket->second->isBound())
-            socket->second->arrive(flight.from, flight.bytes);
+        if (SimulatedWinsock *const socket = listener(flight.to))
+            socket->arrive(flight.from, flight.bytes);
     }
 }
 

@@ -162,7 +162,10 @@ TEST_F(ConferenceTest, OnlyTheInvitedAnswer)
     copy.arrive("10.0.0.2", "!CONF INVITE #-1 AGREE");
     EXPECT_THAT(rows(conference), ElementsAre("Me (you) green", "Ann green"));
     EXPECT_THAT(lines(), ElementsAre("--- Ann joined the conference"));
-    EXPECT_THAT(copy.sent(), IsEmpty());
+    // Whoever agrees to what does not stand any more is told that it is over; numbers that nobody gives get no answer.
+    EXPECT_THAT(copy.sent(),
+                ElementsAre(To("10.0.0.3", "!CONF CLOSE #1"), To("10.0.0.2", "!CONF CLOSE #2"),
+                            To("10.0.0.2", "!CONF CLOSE #6")));
     EXPECT_EQ(copy.drops.of(Drop::noConference) + copy.drops.of(Drop::incomplete), 7u);
 }
 
@@ -227,15 +230,31 @@ TEST_F(ConferenceTest, AGuestsMessageIsRelayedToTheOthersAlone)
     EXPECT_EQ(view().panel, QStringLiteral("Last message: 21/11/2026 @ 14:05:10"));
 }
 
-TEST_F(ConferenceTest, WhoeverAGuestPretendsToBeItIsTheOneWhoSent)
+TEST_F(ConferenceTest, AMessageWithTheHostsAddressIsOfTheOneWhoSentIt)
 {
     host({"10.0.0.2", "10.0.0.3"});
     copy.arrive("10.0.0.3", "+10.0.0.1 #1 with the host's address");
-    copy.arrive("10.0.0.3", "+10.0.0.2 #1 with another's");
-    EXPECT_THAT(copy.sent(),
-                ElementsAre(To("10.0.0.2", "+10.0.0.3 #1 with the host's address"),
-                            To("10.0.0.2", "+10.0.0.3 #1 with another's")));
-    EXPECT_EQ(lines().back(), "Ben> with another's");
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "+10.0.0.3 #1 with the host's address")));
+    EXPECT_EQ(lines().back(), "Ben> with the host's address");
+}
+
+TEST_F(ConferenceTest, WhatAnotherHostRelaysIsNotRelayedOn)
+{
+    host({"10.0.0.2", "10.0.0.3"});
+    const std::size_t before = lines().size();
+    copy.arrive("10.0.0.3", "+10.0.0.2 #1 of one of Ben's guests");
+    EXPECT_THAT(copy.sent(), IsEmpty()) << "hosts that take each other for guests would never end";
+    EXPECT_THAT(lines(), SizeIs(before));
+}
+
+TEST_F(ConferenceTest, WhoIsInvitedAnewDoesNotLeaveByClosingTheOldWindow)
+{
+    Conference &conference = host({"10.0.0.2"});
+    conference.kickuserbtn_Click(QStringLiteral("10.0.0.2"));
+    table().mnuInvite2Conf(1, QStringLiteral("10.0.0.2"));
+    copy.arrive("10.0.0.2", "!CONF LEAVE #1");
+    copy.arrive("10.0.0.2", "!CONF INVITE #1 AGREE");
+    EXPECT_THAT(rows(conference), ElementsAre("Me (you) green", "Ann green"));
 }
 
 TEST_F(ConferenceTest, WhoIsNotPresentIsNeitherShownNorRelayed)

@@ -215,6 +215,23 @@ TEST_F(AvatarTest, IsDroppedWithItsContact)
     EXPECT_EQ(copy.contact("10.0.0.2").avatarNumber, QStringLiteral("2")) << "numbers are not used again";
 }
 
+TEST_F(AvatarTest, NobodyPollsARemovedContact)
+{
+    openWindow();
+    copy.arrive("10.0.0.2", "!AVATARHEAD WEBCAM");
+    copy.arrive("10.0.0.2", "!AVATARBODY " + std::string(7500, 'b'));
+    copy.engine.contactCommands().mnuRemoveUser(QStringLiteral("10.0.0.2"));
+    EXPECT_FALSE(window().picture);
+    copy.sent();
+    copy.advance(60s);
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_EQ(copy.engine.privateWindows().at(1)->Form_QueryUnload(UnloadMode::closeBox), CloseDecision::unload)
+        << "hidden, it could never be found again";
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
+    copy.engine.privateWindows().openPrivate(QStringLiteral("10.0.0.2"));
+    EXPECT_EQ(copy.engine.privateWindows().at(1)->Form_QueryUnload(UnloadMode::closeBox), CloseDecision::hide);
+}
+
 TEST_F(AvatarTest, AHugeHeadIsCut)
 {
     copy.arrive("10.0.0.2", "!AVATARHEAD WEBCAM" + std::string(60000, 'x'));

@@ -1,0 +1,266 @@
+// Messages that a host relays a second with few and with many participants, over real sockets, against a bare loop of
+// sendto to the same addresses in the same run; and the memory that a participant takes.
+//
+//   relay_bench [seconds a measurement]
+//
+// Messages are handed to the engine as if they had arrived; what it sends goes through the system to 127.0.x.y, where
+// one socket for each address takes it. The two are measured in turns, and the best turn of each counts.
+#include "app/messenger.h"
+#include "platform/udp_winsock.h"
+#include "recorders.h"
+#include "virtual_time.h"
+
+#include <QCoreApplication>
+
+#include <arpa/inet.h>
+#include <malloc.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+
+namespace nimb::test
+{
+namespace
+{
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::uint16_t port = 45549;
+constexpr int turns = 5;
+const QString hostAddress = QStringLiteral("127.0.99.1");
+
+QString addressOf(int participant)
+{
+    return QStringLiteral("127.0.%1.%2").arg(participant / 250 + 1).arg(participant % 250 + 1);
+}
+
+sockaddr_in endpoint(const QString &ip)
+{
+    sockaddr_in address = {};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(port);
+    inet_pton(AF_INET, ip.toLatin1().constData(), &address.sin_addr);
+    return address;
+}
+
+int boundSocket(const QString &ip)
+{
+    const int descriptor = socket(AF_INET, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+    const sockaddr_in address = endpoint(ip);
+    if (descriptor < 0 || bind(descriptor, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0) {
+        std::perror("relay_bench: cannot bind");
+        std::exit(1);
+    }
+    return descriptor;
+}
+
+/// One socket an address, so that the system delivers what is sent; what does not fit is dropped by it.
+class Receivers
+{
+public:
+    explicit Receivers(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            m_descriptors.push_back(boundSocket(addressOf(i)));
+    }
+    ~Receivers()
+    {
+        for (const int descriptor : m_descriptors)
+            close(descriptor);
+    }
+    Receivers(const Receivers &) = delete;
+    Receivers &operator=(const Receivers &) = delete;
+
+    /// Both contestants find them empty; returns how many waited.
+    std::uint64_t drain()
+    {
+        std::uint64_t taken = 0;
+        char buffer[4096];
+        for (const int descriptor : m_descriptors) {
+            while (recv(descriptor, buffer, sizeof buffer, 0) >= 0)
+                ++taken;
+        }
+        return taken;
+    }
+
+private:
+    std::vector<int> m_descriptors;
+};
+
+class SilentLog : public RichTextLog
+{
+public:
+    qsizetype textLength() const override { return 0; }
+    void setSelStart(qsizetype) override { }
+    void setSelColor(Colour) override { }
+    void setSelFont(const LogFont &) override { }
+    void setSelText(const QString &) override { }
+    void setSelRtf(const QString &, const QString &) override { }
+    void clear() override { }
+};
+
+class SilentConferenceView : public RecorderConferenceView
+{
+public:
+    using RecorderConferenceView::RecorderConferenceView;
+    RichTextLog &outtext() override { return silent; }
+    SilentLog silent;
+};
+
+class SilentForms : public ConferenceForms
+{
+public:
+    ViewPtr<ConferenceView> makeConferenceForm(Conference &conference) override
+    {
+        views.push_back(std::make_unique<SilentConferenceView>(conference));
+        return ViewPtr<ConferenceView>(views.back().get());
+    }
+    std::vector<std::unique_ptr<SilentConferenceView>> views;
+};
+
+struct Host {
+    Host()
+    {
+        common.ownIP = hostAddress;
+        common.ownNickname = QStringLiteral("Host");
+        socket.setLocalPort(port);
+        socket.setRemotePort(port);
+        if (!socket.bind()) {
+            std::fputs("relay_bench: the host cannot bind\n", stderr);
+            std::exit(1);
+        }
+    }
+
+    void addContacts(int count)
+    {
+        for (int i = 0; i < count; ++i) {
+            Contact contact;
+            contact.ip = addressOf(i);
+            contact.nickname = QStringLiteral("Contact %1").arg(i);
+            contact.setPresence(Picture::green);
+            messenger.contacts().add(contact);
+        }
+    }
+    void gather(int count)
+    {
+        messenger.conferences().mnuCreateNewConf();
+        for (int i = 0; i < count; ++i)
+            messenger.conferences().mnuInvite2Conf(1, addressOf(i));
+        for (int i = 0; i < count; ++i)
+            messenger.dispatcher().receive(addressOf(i), "!CONF INVITE #1 AGREE");
+    }
+
+    VirtualTime time;
+    Common common;
+    DropCounts drops;
+    UdpWinsock socket{drops, hostAddress, QStringLiteral("HERE")};
+    MemoryStore settings;
+    RecorderMainView view;
+    RecorderPrivateForms privateForms;
+    SilentForms conferenceForms;
+    RecorderNotifications notifications;
+    RecorderPrompts prompts;
+    RecorderSound sound;
+    Steps steps;
+    RecorderTray tray{steps};
+    RecorderWindows windows{steps};
+    Messenger messenger{common,
+                        {socket, settings, time, time, prompts, notifications, sound, tray, windows, privateForms,
+                         conferenceForms, view, drops}};
+};
+
+/// Calls of `message` a second.
+template <class Message> double rate(std::chrono::duration<double> span, const Message &message)
+{
+    const Clock::time_point start = Clock::now();
+    std::uint64_t count = 0;
+    std::chrono::duration<double> passed{0};
+    do {
+        for (int i = 0; i < 16; ++i, ++count)
+            message();
+        passed = Clock::now() - start;
+    } while (passed < span);
+    return static_cast<double>(count) / passed.count();
+}
+
+/// A message of 60 characters to `participants`, one of whom writes it.
+double measure(int participants, std::chrono::duration<double> span)
+{
+    Receivers receivers(participants);
+    Host host;
+    host.addContacts(participants);
+    host.gather(participants);
+    const std::string body(60, 'm');
+    const std::string arriving = '+' + addressOf(0).toStdString() + " #1 " + body;
+
+    std::vector<sockaddr_in> others;
+    for (int i = 1; i < participants; ++i)
+        others.push_back(endpoint(addressOf(i)));
+    const int bare = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    bool allSent = true;
+    const auto relay = [&] { host.messenger.dispatcher().receive(addressOf(0), arriving); };
+    const auto loop = [&] {
+        for (const sockaddr_in &other : others) {
+            const ssize_t sent = sendto(bare, arriving.data(), arriving.size(), 0,
+                                        reinterpret_cast<const sockaddr *>(&other), sizeof other);
+            allSent = allSent && sent == static_cast<ssize_t>(arriving.size());
+        }
+    };
+
+    receivers.drain();
+    relay();
+    if (receivers.drain() != others.size()) {
+        std::fputs("relay_bench: one message did not reach each of the others once\n", stderr);
+        std::exit(1);
+    }
+    double relayed = 0, looped = 0;
+    for (int turn = 0; turn < turns; ++turn) {
+        relayed = std::max(relayed, rate(span / turns, relay));
+        receivers.drain();
+        looped = std::max(looped, rate(span / turns, loop));
+        receivers.drain();
+    }
+    close(bare);
+    if (!allSent || host.drops.of(Drop::notSent) > 0)
+        std::printf("some datagrams were not sent (engine: %llu)\n",
+                    static_cast<unsigned long long>(host.drops.of(Drop::notSent)));
+    const double ratio = relayed / looped;
+    std::printf("%4d participants: %8.0f messages/s relayed (%8.0f datagrams/s), bare loop %8.0f, ratio %.2f\n",
+                participants, relayed, relayed * static_cast<double>(others.size()), looped, ratio);
+    return ratio;
+}
+
+/// Bytes on the heap that one more participant takes, beyond the contact that it is anyway.
+void measureMemory(int participants)
+{
+    Host host;
+    host.addContacts(participants);
+    host.messenger.conferences().mnuCreateNewConf();
+    const std::size_t before = mallinfo2().uordblks;
+    for (int i = 0; i < participants; ++i)
+        host.messenger.conferences().mnuInvite2Conf(1, addressOf(i));
+    for (int i = 0; i < participants; ++i)
+        host.messenger.dispatcher().receive(addressOf(i), "!CONF INVITE #1 AGREE");
+    const std::size_t after = mallinfo2().uordblks;
+    std::printf("%4d participants: %.0f bytes each\n", participants,
+                static_cast<double>(after - before) / participants);
+}
+
+} // namespace
+} // namespace nimb::test
+
+int main(int argumentCount, char **arguments)
+{
+    QCoreApplication application(argumentCount, arguments);
+    const double seconds = argumentCount > 1 ? std::atof(arguments[1]) : 2;
+    bool allFast = true;
+    for (const int participants : {5, 50, 200})
+        allFast = nimb::test::measure(participants, std::chrono::duration<double>(seconds)) >= 0.5 && allFast;
+    nimb::test::measureMemory(200);
+    std::puts(allFast ? "the goal of half the bare loop's speed is met" : "slower than half the bare loop");
+    return allFast ? 0 : 1;
+}
