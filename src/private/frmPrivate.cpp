@@ -65,6 +65,7 @@ void frmPrivate::buildControls()
     futuretype->setFocusPolicy(Qt::NoFocus);
     futuretype->setAccessibleName(tr("What the peer is typing"));
     futuretype->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    futuretype->viewport()->setBackgroundRole(QPalette::AlternateBase); // lies over the log, whose ground is Base
     futuretype->hide();
 
     ListViewEmot = new EmoticonPicker(this);
