@@ -155,10 +155,15 @@ void PrivateWindow::copyLog() const
     copyAllAt(*this, privateLog);
 }
 
-void PrivateWindow::sayClipboard() const
+void PrivateWindow::focusInput() const
 {
     activate();
     click(inputAboveBottom.x, place().height - inputAboveBottom.y);
+}
+
+void PrivateWindow::sayClipboard() const
+{
+    focusInput();
     press("ctrl+v");
     press("Return");
 }

@@ -57,6 +57,8 @@ public:
     void clickIntoLog(int linesBelow = 0) const;
     /// Into the clipboard.
     void copyLog() const;
+    /// Puts the caret into the input box.
+    void focusInput() const;
     /// Sends what is in the clipboard as a message.
     void sayClipboard() const;
 

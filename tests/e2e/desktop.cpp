@@ -293,6 +293,7 @@ void Window::resize(int width, int height) const
 void Window::close() const
 {
     activate();
+    letWindowsSettle(); // or the key goes to the window that was active before
     press("alt+F4");
 }
 

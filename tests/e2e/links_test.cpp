@@ -91,6 +91,15 @@ protected:
         return PrivateWindow::with("Ann");
     }
 
+    /// Returns when the click has been dealt with: what the user does next comes after it.
+    void clickAndSettle(const PrivateWindow &window, int linesBelow)
+    {
+        window.clickIntoLog(linesBelow);
+        window.focusInput();
+        window.say("so what");
+        ann.hearWhere([](const std::string &bytes) { return bytes == "-so what"; });
+    }
+
     FakeDesktop desktop;
     const std::uint16_t port = freePort();
     WirePeer ann{"127.0.37.2", port};
@@ -126,7 +135,7 @@ TEST_F(Links, AreNeitherPlainTextNorAddressesOfOtherKinds)
     int line = 0;
     for (const char *const text :
          {"no address at all, nowhere in this line", "file:///etc/passwd", "javascript:alert(1)"})
-        fillLogWith(text).clickIntoLog(line++);
+        clickAndSettle(fillLogWith(text), line++);
     // What was started before this would be there before this.
     fillLogWith("https://127.0.0.1/the/end").clickIntoLog(line);
     EXPECT_TRUE(desktop.isCalled(1));

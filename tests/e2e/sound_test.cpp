@@ -27,6 +27,14 @@ protected:
         return MainWindow::of("Bob");
     }
 
+    /// Returns when the click has been dealt with: what the user does next comes after it.
+    void mute(const MainWindow &main)
+    {
+        main.clickMute();
+        main.rescan();
+        ann.hearUntil("!STATUS Online");
+    }
+
     /// Whether it hears and answers.
     bool answers()
     {
@@ -91,13 +99,13 @@ TEST_F(HeardBuzz, OfAPeerIsSilentByOption)
 TEST_F(HeardBuzz, IsSilentWhileMuted)
 {
     const MainWindow main = start({{{"Options", "BuzzRemote"}, "1"}, {{"Options", "BuzzLocal"}, "1"}});
-    main.clickMute();
+    mute(main);
     ann.send(bob.address(), "!BUZZ");
     EXPECT_TRUE(silent());
     main.chooseBuzz(0);
     EXPECT_EQ(ann.next(), "!BUZZ");
     EXPECT_TRUE(silent());
-    main.clickMute();
+    mute(main);
     ann.send(bob.address(), "!BUZZ");
     EXPECT_TRUE(heard());
 }

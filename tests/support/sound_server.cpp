@@ -130,14 +130,14 @@ bool SoundServer::hears(int count)
     return QTest::qWaitFor([&] { return loudSamples() - before >= count; }, patienceMs);
 }
 
-bool SoundServer::isSilent()
+bool SoundServer::isSilent(int samples)
 {
     loudSamples();
     m_silent = 0;
     return QTest::qWaitFor(
-        [this] {
+        [this, samples] {
             loudSamples();
-            return m_silent >= samplesPerSecond / 3;
+            return m_silent >= samples;
         },
         patienceMs);
 }

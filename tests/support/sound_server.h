@@ -32,8 +32,8 @@ public:
     int loudSamples();
     /// Waits until so many more loud samples have been heard; false when they do not come.
     bool hears(int count);
-    /// Waits until it has been silent for a third of a second of what it plays; false when it does not fall silent.
-    bool isSilent();
+    /// Waits until it has been silent for so many samples of what it plays; false when it does not fall silent.
+    bool isSilent(int samples = samplesPerSecond / 3);
 
     /// The number of the sound that plays now, counted by the server from 0; -1 while none does.
     int playing() const;

@@ -173,6 +173,19 @@ TEST_F(SoundPlayerOnAServer, StartsAnewWhatStillSounds)
     EXPECT_LE(server().loudSamples(), aSecond * 22 / 10);
 }
 
+TEST_F(SoundPlayerOnAServer, PlaysAgainAtWhateverMomentOfTheEnd)
+{
+    Player player(server().address(), {file("sound.wav", wave(halfASecond))});
+    for (int hundredths = 0; hundredths <= 60; hundredths += 3) {
+        player.play();
+        EXPECT_TRUE(server().hears(halfASecond * 8 / 10)) << hundredths;
+        EXPECT_TRUE(server().isSilent(aSecond * hundredths / 100));
+        player.play();
+        EXPECT_TRUE(server().hears(halfASecond * 8 / 10)) << hundredths;
+        EXPECT_TRUE(server().isSilent());
+    }
+}
+
 TEST_F(SoundPlayerOnAServer, AnswersAFloodOfCallsWithOneStart)
 {
     Player player(server().address(), {file("sound.wav", wave(aSecond))});
