@@ -2,15 +2,18 @@
 //   sound_helper [FILE]       FILE in place of the alarm that ships
 // Commands on standard input, each answered with a line "done" when the call has returned:
 //   play TIMES
+//   stall MILLISECONDS      no event is handled for so long, as on a busy machine
 // The end of the input ends it, with status 0.
 #include "platform/sound_player.h"
 
 #include <QCoreApplication>
 #include <QSocketNotifier>
 
+#include <chrono>
 #include <cstdio>
 #include <iostream>
 #include <string>
+#include <thread>
 
 namespace
 {
@@ -19,10 +22,12 @@ namespace
 bool obey(nimb::Sound &sound)
 {
     std::string word;
-    int times = 0;
-    if (!(std::cin >> word >> times))
+    int number = 0;
+    if (!(std::cin >> word >> number))
         return false;
-    for (int i = 0; i < times; ++i)
+    if (word == "stall")
+        std::this_thread::sleep_for(std::chrono::milliseconds(number));
+    for (int i = 0; i < number && word == "play"; ++i)
         sound.playAlarm();
     std::puts("done");
     std::fflush(stdout);

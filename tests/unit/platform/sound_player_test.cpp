@@ -70,9 +70,13 @@ public:
     Q_DISABLE_COPY_MOVE(Player)
 
     /// Returns when the calls have returned.
-    void play(int times = 1)
+    void play(int times = 1) { command("play " + QByteArray::number(times)); }
+    /// Handles no event for so long.
+    void stall(int milliseconds) { command("stall " + QByteArray::number(milliseconds)); }
+
+    void command(const QByteArray &line)
     {
-        m_process.write("play " + QByteArray::number(times) + '\n');
+        m_process.write(line + '\n');
         EXPECT_TRUE(QTest::qWaitFor([this] { return m_process.canReadLine(); }, patienceMs)) << "no answer";
         EXPECT_EQ(m_process.readLine(), "done\n");
     }
@@ -184,6 +188,16 @@ TEST_F(SoundPlayerOnAServer, PlaysAgainAtWhateverMomentOfTheEnd)
         EXPECT_TRUE(server().hears(halfASecond * 8 / 10)) << hundredths;
         EXPECT_TRUE(server().isSilent());
     }
+}
+
+TEST_F(SoundPlayerOnAServer, GoesOnWhereTheProgramWasTooBusyToFeedIt)
+{
+    Player player(server().address(), {file("sound.wav", wave(4 * aSecond))});
+    player.play();
+    EXPECT_TRUE(server().hears(halfASecond));
+    player.stall(2000);
+    EXPECT_TRUE(server().hears(3 * aSecond)) << server().loudSamples();
+    EXPECT_TRUE(server().isSilent());
 }
 
 TEST_F(SoundPlayerOnAServer, AnswersAFloodOfCallsWithOneStart)
