@@ -94,9 +94,13 @@ void SoundPlayer::playAlarm()
 void SoundPlayer::start()
 {
     m_sinceStart.start();
-    // One that sounds is wound back. Its end would run into callbacks that are under way to it.
+    // One that sounds is wound back. Its end would run into callbacks that are under way to it. Once all samples are
+    // read no more are asked for, and the little that is left must be waited for.
     if (m_sink && m_sink->state() != QAudio::StoppedState) {
-        m_samples.seek(0);
+        if (m_samples.atEnd())
+            m_again = true;
+        else
+            m_samples.seek(0);
         return;
     }
     if (!m_alarmFile || !QFile::exists(*m_alarmFile))
@@ -117,16 +121,20 @@ void SoundPlayer::play(const QAudioDevice &device)
     m_samples.setData(wave.samples);
     m_samples.open(QIODevice::ReadOnly);
     m_sink = std::make_unique<QAudioSink>(device, wave.format);
-    // One that has nothing more to play would still wake up for it. Not at once: it is in the midst of telling us.
+    // Not at once: it is in the midst of telling us.
     QObject::connect(
-        m_sink.get(), &QAudioSink::stateChanged, m_sink.get(),
-        [sink = m_sink.get()](QAudio::State state) {
-            if (state == QAudio::IdleState && sink->state() == QAudio::IdleState)
-                sink->stop();
-        },
-        Qt::QueuedConnection);
+        m_sink.get(), &QAudioSink::stateChanged, m_sink.get(), [this] { stateChanged(); }, Qt::QueuedConnection);
     m_sink->start(&m_samples);
     endBeforeQtDoes();
+}
+
+void SoundPlayer::stateChanged()
+{
+    // It is idle too when it was not fed in time, and goes on then. At the end it would wake up for nothing.
+    if (m_sink->state() == QAudio::IdleState && m_samples.atEnd())
+        m_sink->stop();
+    if (m_sink->state() == QAudio::StoppedState && std::exchange(m_again, false))
+        m_next.start(0);
 }
 
 } // namespace nimb

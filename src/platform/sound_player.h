@@ -39,10 +39,12 @@ public:
 private:
     void start();
     void play(const QAudioDevice &device);
+    void stateChanged();
 
     std::optional<QString> m_alarmFile;
     QTimer m_next; ///< runs until the start that was asked for
     QElapsedTimer m_sinceStart;
+    bool m_again = false; ///< once the one that sounds has ended
     QBuffer m_samples;
     std::unique_ptr<QAudioSink> m_sink; // goes before the samples that it reads
 };
