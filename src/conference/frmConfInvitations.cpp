@@ -2,13 +2,13 @@
 
 #include "core/bring_back.h"
 #include "core/form_layout.h"
+#include "core/picture_proxy.h"
 #include "core/pictures.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QIdentityProxyModel>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -23,20 +23,6 @@ namespace
 using form_layout::groupDistance;
 using form_layout::margin;
 using form_layout::spacing;
-
-/// The invitations with their pictures.
-class InvitationsProxy : public QIdentityProxyModel
-{
-public:
-    using QIdentityProxyModel::QIdentityProxyModel;
-
-    QVariant data(const QModelIndex &index, int role) const override
-    {
-        if (role == Qt::DecorationRole && index.column() == InvitationList::Text)
-            return namedPicture(QIdentityProxyModel::data(index, InvitationList::PictureRole).toString());
-        return QIdentityProxyModel::data(index, role);
-    }
-};
 
 } // namespace
 
@@ -58,7 +44,7 @@ void frmConfInvitations::buildControls()
     ListView1->setRootIsDecorated(false);
     ListView1->setUniformRowHeights(true);
     ListView1->setIconSize(QSize(16, 16));
-    auto *const model = new InvitationsProxy(ListView1);
+    auto *const model = new PictureProxy(ListView1);
     model->setSourceModel(&m_invitations.list());
     ListView1->setModel(model);
     ListView1->header()->setStretchLastSection(false);

@@ -2,7 +2,6 @@
 
 #include "conference/participants.h"
 #include "core/muted_colour.h"
-#include "core/pictures.h"
 #include "core/remote_text.h"
 #include "private/rich_text_log.h"
 
@@ -25,14 +24,10 @@ QVariant ParticipantsProxy::data(const QModelIndex &index, int role) const
         const QVariant colour = QIdentityProxyModel::data(index, Participants::ColourRole);
         return colour.isValid() ? QVariant(QBrush(readableOn(screenColour(colour.toUInt()), m_ground))) : QVariant();
     }
-    case Qt::DecorationRole:
-        if (index.column() != Participants::NickName)
-            return {};
-        return namedPicture(QIdentityProxyModel::data(index, Participants::PictureRole).toString());
     case Qt::ToolTipRole:
-        return QIdentityProxyModel::data(index.siblingAtColumn(0), Qt::DisplayRole);
+        return PictureProxy::data(index.siblingAtColumn(0), Qt::DisplayRole);
     default:
-        return QIdentityProxyModel::data(index, role);
+        return PictureProxy::data(index, role);
     }
 }
 

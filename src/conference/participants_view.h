@@ -1,18 +1,19 @@
 // The participants as a list shows them: with their pictures, and in the colours in which they write.
 #pragma once
 
-#include <QIdentityProxyModel>
+#include "core/picture_proxy.h"
+
 #include <QPalette>
 
 namespace nimb
 {
 
-class ParticipantsProxy : public QIdentityProxyModel
+class ParticipantsProxy : public PictureProxy
 {
     Q_OBJECT
 
 public:
-    using QIdentityProxyModel::QIdentityProxyModel;
+    using PictureProxy::PictureProxy;
 
     /// The ground on which the colours must be readable.
     void setGround(const QColor &ground);

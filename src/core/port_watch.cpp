@@ -14,8 +14,9 @@ PortWatch::PortWatch(Winsock &socket, const Common &common, Timers &timers, Main
 
 void PortWatch::open()
 {
-    m_socket.setLocalPort(m_common.udpPort);
-    m_socket.setRemotePort(m_common.udpPort);
+    m_port = m_common.udpPort;
+    m_socket.setLocalPort(m_port);
+    m_socket.setRemotePort(m_port);
     if (!m_socket.bind())
         m_retry->start();
 }
@@ -24,9 +25,9 @@ void PortWatch::report()
 {
     if (m_socket.isBound())
         return;
-    m_log.fault(fault().arg(m_common.udpPort));
+    m_log.fault(fault().arg(m_port));
     const bool taken = m_socket.bindFailure() == BindFailure::portTaken;
-    m_view.setTroublePanel((taken ? tr("Port %1 is taken") : tr("No port %1")).arg(m_common.udpPort));
+    m_view.setTroublePanel((taken ? tr("Port %1 is taken") : tr("No port %1")).arg(m_port));
 }
 
 QString PortWatch::fault() const
@@ -54,7 +55,7 @@ void PortWatch::tryAgain()
         return;
     m_retry->stop();
     m_view.setTroublePanel({});
-    m_log.remark(tr("Port %1 is free now: you can be reached.").arg(m_common.udpPort));
+    m_log.remark(tr("Port %1 is free now: you can be reached.").arg(m_port));
     m_gained();
 }
 

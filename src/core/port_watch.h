@@ -8,6 +8,8 @@
 
 #include <QCoreApplication>
 
+#include <cstdint>
+
 namespace nimb
 {
 
@@ -36,6 +38,7 @@ private:
     MainWindowView &m_view;
     std::function<void()> m_gained;
     std::unique_ptr<Timer> m_retry;
+    std::uint16_t m_port = 0; ///< of this run, whatever is chosen for the next one
 };
 
 } // namespace nimb

@@ -48,6 +48,15 @@ TEST(PortWatch, SaysWhatKeepsItFromListening)
     EXPECT_THAT(other.view.log.lastLine(), HasSubstr("does not let NIMB-Chat use port 5549"));
 }
 
+TEST(PortWatch, NamesThePortOfThisRunWhateverIsChosenForTheNextOne)
+{
+    Copy copy({.portTaken = true});
+    copy.common.udpPort = 6000;
+    copy.socket.portTaken = false;
+    copy.advance(5000ms);
+    EXPECT_THAT(copy.view.log.lastLine(), HasSubstr("Port 5549 is free now"));
+}
+
 TEST(PortWatch, SaysNothingWhenThePortIsFree)
 {
     Copy copy;

@@ -1,0 +1,15 @@
+// The system's own tool that tells about the machine.
+#pragma once
+
+namespace nimb
+{
+
+class SystemInformation
+{
+public:
+    virtual ~SystemInformation() = default;
+    /// Starts the tool and does not wait for it; false when there is none.
+    virtual bool StartSysInfo() = 0;
+};
+
+} // namespace nimb
