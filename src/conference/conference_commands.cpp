@@ -34,9 +34,8 @@ QString ConferenceCommands::name() const
 
 void ConferenceCommands::operator()(const wire::ConferenceInvitation &invitation)
 {
-    if (!isHostsNumber(invitation.id) || m_parts.invitations.list().rowCount() >= limits::invitations)
-        return drop();
-    m_parts.invitations.arrived(m_ip, invitation.id);
+    if (!isHostsNumber(invitation.id) || !m_parts.invitations.arrived(m_ip, invitation.id))
+        drop();
 }
 
 void ConferenceCommands::operator()(const wire::ConferenceAnswer &answer)
@@ -174,6 +173,9 @@ void ConferenceCommands::operator()(const wire::ConferenceMessage &message)
 {
     const QString origin = fromWire(message.origin);
     const QString text = fromWire(message.text);
+    // Hosts name writers by their addresses; anything else would stand in the log as if it were somebody's name.
+    if (!isUnicastAddress(origin))
+        return drop();
     if (origin != m_parts.common.ownIP && isHostsNumber(message.id)) {
         if (Conference *const conference = m_parts.conferences.joined(m_ip, message.id))
             return conference->ReceiveMessage(origin, text);

@@ -2,6 +2,7 @@
 
 #include "core/bring_back.h"
 #include "core/form_layout.h"
+#include "core/keyed_selection.h"
 #include "core/picture_proxy.h"
 #include "core/pictures.h"
 
@@ -46,9 +47,11 @@ void frmConfInvitations::buildControls()
     ListView1->setIconSize(QSize(16, 16));
     auto *const model = new PictureProxy(ListView1);
     model->setSourceModel(&m_invitations.list());
-    ListView1->setModel(model);
+    setModelOfKeyedRows(*ListView1, *model);
     ListView1->header()->setStretchLastSection(false);
     ListView1->header()->setSectionResizeMode(InvitationList::Text, QHeaderView::Stretch);
+    // Only what is seen is measured: a thousand rows would take seconds with every change.
+    ListView1->header()->setResizeContentsPrecision(0);
     for (const int column : {InvitationList::Arrived, InvitationList::Age, InvitationList::Number})
         ListView1->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
 
@@ -108,6 +111,9 @@ int frmConfInvitations::selectedRow() const
 void frmConfInvitations::ListView1_ItemClick()
 {
     const bool pending = m_invitations.isPending(selectedRow());
+    // Whoever presses on must not press what the focus would pass on to.
+    if (!pending && (ConfAgreebtn->hasFocus() || ConfDenybtn->hasFocus()))
+        ListView1->setFocus();
     ConfAgreebtn->setEnabled(pending);
     ConfDenybtn->setEnabled(pending);
 }

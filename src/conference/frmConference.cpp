@@ -6,6 +6,7 @@
 #include "core/elided_label.h"
 #include "core/form_layout.h"
 #include "core/form_text.h"
+#include "core/keyed_selection.h"
 #include "core/log_font.h"
 #include "core/pictures.h"
 #include "core/twips.h"
@@ -123,7 +124,7 @@ void frmConference::buildParticipants()
     auto *const model = new ParticipantsProxy(partecipanti);
     model->setSourceModel(&m_conference->partecipanti());
     model->setGround(palette().color(QPalette::Base));
-    partecipanti->setModel(model);
+    setModelOfKeyedRows(*partecipanti, *model);
     partecipanti->setColumnHidden(Participants::Mark, true);
     partecipanti->header()->setStretchLastSection(true);
     refreshlistbtn = named(new QPushButton(tr("Refresh list"), m_listSide), "refreshlistbtn");
@@ -327,7 +328,11 @@ void frmConference::partecipanti_ItemClick()
 {
     const QString selected = selectedParticipant();
     const Participant *const row = m_conference ? m_conference->partecipanti().find(selected) : nullptr;
-    kickuserbtn->setEnabled(row && !row->own);
+    const bool kickable = row && !row->own;
+    // Whoever types on must not press what the focus would pass on to.
+    if (!kickable && kickuserbtn->hasFocus())
+        intext->setFocus();
+    kickuserbtn->setEnabled(kickable);
 }
 
 void frmConference::kickuserbtn_Click()

@@ -2,6 +2,7 @@
 
 #include "core/clock_text.h"
 #include "core/leading_number.h"
+#include "core/limits.h"
 #include "core/settings.h"
 #include "protocol/send_datagram.h"
 
@@ -44,8 +45,8 @@ void InvitationList::remove(int row)
 
 void InvitationList::setState(int row, Invitation::State state)
 {
-    m_rows[static_cast<std::size_t>(row)].state = state;
-    Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
+    if (std::exchange(m_rows[static_cast<std::size_t>(row)].state, state) != state)
+        Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
 }
 
 void InvitationList::setMinutes(int row, int minutes)
@@ -140,13 +141,36 @@ void Invitations::Form_Load(InvitationsView &view)
     view.setAutoRefusal(m_autorefuse, m_autorefuseMins);
 }
 
-void Invitations::arrived(const QString &host, std::int16_t number)
+/// What one host sends must not keep out what others send.
+bool Invitations::makeRoom(const QString &host)
+{
+    int ofHost = 0, overOfHost = -1, over = -1;
+    for (int row = m_list.rowCount() - 1; row >= 0; --row) {
+        const bool isHosts = m_list.rows()[static_cast<std::size_t>(row)].host == host;
+        ofHost += isHosts;
+        if (!isPending(row))
+            over = row;
+        if (isHosts && !isPending(row))
+            overOfHost = row;
+    }
+    const bool hostIsFull = ofHost >= limits::invitationsOfHost;
+    if (!hostIsFull && m_list.rowCount() < limits::invitations)
+        return true;
+    const int oldest = hostIsFull ? overOfHost : over;
+    if (oldest >= 0)
+        m_list.remove(oldest);
+    return oldest >= 0;
+}
+
+bool Invitations::arrived(const QString &host, std::int16_t number)
 {
     const Contact *const contact = m_services.contacts.find(host);
     if (!contact)
-        return;
+        return false;
     if (const int old = m_list.rowOf(host, number); old >= 0)
         m_list.remove(old);
+    else if (!makeRoom(host))
+        return false;
     Invitation invitation;
     invitation.host = host;
     invitation.number = number;
@@ -158,6 +182,7 @@ void Invitations::arrived(const QString &host, std::int16_t number)
         m_timer1->start();
     if (m_view)
         m_view->showWithoutFocus();
+    return true;
 }
 
 void Invitations::closed(const QString &host, std::int16_t number)

@@ -84,8 +84,9 @@ public:
     void Form_Load(InvitationsView &view);
     InvitationList &list() { return m_list; }
 
-    /// An invitation arrived; one that is there already is replaced.
-    void arrived(const QString &host, std::int16_t number);
+    /// An invitation arrived; one that is there already is replaced. The oldest one that is over makes room in a full
+    /// list; false when there is none, or when the host is no contact.
+    bool arrived(const QString &host, std::int16_t number);
     /// The host has closed the conference.
     void closed(const QString &host, std::int16_t number);
 
@@ -105,6 +106,7 @@ public:
     void Form_Unload();
 
 private:
+    bool makeRoom(const QString &host);
     void Timer1_Timer();
     void deny(int row);
     void RefreshVisibility();

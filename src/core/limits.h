@@ -26,8 +26,15 @@ constexpr int contactsFromStrangers = 10000;
 constexpr qsizetype liveTextLength = 200;
 /// Bytes of an avatar's head that are kept: a time stamp, or how a polled picture begins.
 constexpr std::size_t avatarHeadLength = 255;
+/// Pixels of a picture that is to become the own avatar: it is shown with 50 by 50, and more would take the memory of
+/// the whole program many times over.
+constexpr qint64 pictureFilePixels = 50'000'000;
+/// MiB that Qt may take for one: the above with its largest pixels of eight bytes.
+constexpr int pictureFileMemory = 512;
 /// Invitations that wait: a host that sends more of them wants to annoy.
 constexpr int invitations = 1000;
+/// Of one host: it has five conferences at most, and now and then a new one.
+constexpr int invitationsOfHost = 50;
 /// Participants of a joined conference that are taken from its host's list.
 constexpr std::size_t participants = 1000;
 /// Rows that wait in the notification window.

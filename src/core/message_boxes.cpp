@@ -1,5 +1,7 @@
 #include "core/message_boxes.h"
 
+#include <QApplication>
+
 #include <cstdio>
 
 namespace nimb
@@ -8,20 +10,25 @@ namespace nimb
 int MessageBoxes::show(QMessageBox::Icon icon, QMessageBox::StandardButtons buttons, const QString &text,
                        const QString &title)
 {
-    QMessageBox box(icon, title, {}, buttons, m_window);
-    box.setTextFormat(Qt::PlainText);
-    box.setText(text);
-    m_open.push_back(&box);
-    const int answer = box.exec();
+    QWidget *const active = QApplication::activeWindow();
+    // The window may end while its box is open, and takes the box with it.
+    const QPointer<QMessageBox> box = new QMessageBox(icon, title, {}, buttons, active ? active : m_window.data());
+    box->setTextFormat(Qt::PlainText);
+    box->setText(text);
+    m_open.push_back(box);
+    const int answer = box->exec();
     m_open.pop_back();
+    delete box;
     return answer;
 }
 
 void MessageBoxes::setUnattended()
 {
     m_unattended = true;
-    for (QMessageBox *const box : m_open)
-        box->reject();
+    for (const QPointer<QMessageBox> &box : m_open) {
+        if (box)
+            box->reject();
+    }
 }
 
 bool MessageBoxes::confirm(const QString &text, const QString &title)

@@ -25,10 +25,11 @@ public:
     void tell(const QString &text, const QString &title) override;
 
 private:
+    /// The box stands over the window in which the user is.
     int show(QMessageBox::Icon icon, QMessageBox::StandardButtons buttons, const QString &text, const QString &title);
 
     QPointer<QWidget> m_window;
-    std::vector<QMessageBox *> m_open; ///< the innermost last
+    std::vector<QPointer<QMessageBox>> m_open; ///< the innermost last
     bool m_unattended = false;
 };
 

@@ -34,7 +34,8 @@ constexpr std::array<PickerEntry, 9> pickerEntries = {{
 
 constexpr int enlargement = 2;
 constexpr int pictureSide = 12 * enlargement;
-constexpr QSize cell(44, 46);
+/// Narrow enough for all of them in a conference at its smallest.
+constexpr QSize cell(40, 46);
 
 /// The picture that the logs show for this text, larger.
 QIcon iconOf(QLatin1String emoticon)

@@ -295,5 +295,70 @@ TEST_F(FrmConference, TheMinutesBoxHoldsANumber)
     EXPECT_EQ(minutes.text(), QStringLiteral("0"));
 }
 
+TEST_F(FrmConference, AfterAKickNobodyIsSelectedAndTypingGoesToTheInput)
+{
+    host();
+    auto &list = control<QTreeView>("partecipanti");
+    list.setCurrentIndex(list.model()->index(1, 0));
+    auto &kick = control<QPushButton>("kickuserbtn");
+    kick.setFocus();
+    QTest::mouseClick(&kick, Qt::LeftButton);
+    EXPECT_EQ(list.model()->rowCount(), 2);
+    EXPECT_FALSE(list.selectionModel()->hasSelection());
+    EXPECT_FALSE(kick.isEnabled());
+    EXPECT_EQ(form().focusWidget(), &intext());
+    QTest::mouseClick(&kick, Qt::LeftButton);
+    EXPECT_EQ(list.model()->rowCount(), 2) << "a double click kicks one";
+}
+
+TEST_F(FrmConference, WhoLeavesTakesTheSelectionAlong)
+{
+    host();
+    auto &list = control<QTreeView>("partecipanti");
+    list.setCurrentIndex(list.model()->index(1, 0));
+    windows.arrive("10.0.0.2", "!CONF LEAVE #1");
+    QTest::mouseClick(&control<QPushButton>("kickuserbtn"), Qt::LeftButton);
+    ASSERT_EQ(list.model()->rowCount(), 2);
+    EXPECT_EQ(list.model()->index(1, 0).data().toString(), QStringLiteral("Ben"));
+}
+
+TEST_F(FrmConference, ARenewedInvitationDoesNotPassItsSelectionOn)
+{
+    windows.arrive("10.0.0.2", "?CONF INVITE #3");
+    windows.arrive("10.0.0.3", "?CONF INVITE #1");
+    auto &list = RealWindows::control<QTreeView>(invitations(), "ListView1");
+    auto &accept = RealWindows::control<QPushButton>(invitations(), "ConfAgreebtn");
+    list.setCurrentIndex(list.model()->index(0, 0));
+    EXPECT_TRUE(accept.isEnabled());
+    windows.arrive("10.0.0.2", "?CONF INVITE #3");
+    EXPECT_FALSE(accept.isEnabled());
+    QTest::mouseClick(&accept, Qt::LeftButton);
+    EXPECT_THAT(open(), IsEmpty());
+}
+
+TEST_F(FrmConference, TwoClicksOnDenyRefuseOneInvitation)
+{
+    windows.arrive("10.0.0.2", "?CONF INVITE #3");
+    windows.arrive("10.0.0.3", "?CONF INVITE #1");
+    windows.sent();
+    auto &list = RealWindows::control<QTreeView>(invitations(), "ListView1");
+    auto &deny = RealWindows::control<QPushButton>(invitations(), "ConfDenybtn");
+    list.setCurrentIndex(list.model()->index(0, 0));
+    QTest::mouseClick(&deny, Qt::LeftButton);
+    QTest::mouseClick(&deny, Qt::LeftButton);
+    EXPECT_THAT(windows.sent(), ElementsAre(To{"10.0.0.2", "!CONF INVITE #3 DENY"}));
+}
+
+TEST_F(FrmConference, EveryEmoticonOfThePickerIsSeenInTheSmallestWindow)
+{
+    windows.entry("mnuCreateNewConf").trigger();
+    form().resize(form().minimumSize());
+    control<QToolButton>("Emoticbtn").click();
+    QCoreApplication::processEvents();
+    const auto &picker = control<QListWidget>("ListViewEmot");
+    const QRect last = picker.visualItemRect(picker.item(picker.count() - 1));
+    EXPECT_TRUE(picker.viewport()->rect().contains(last));
+}
+
 } // namespace
 } // namespace nimb::test

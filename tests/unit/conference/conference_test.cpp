@@ -563,5 +563,14 @@ TEST_F(ConferenceTest, FlashesWhileNobodyLooks)
     EXPECT_EQ(view().flashes, 1);
 }
 
+TEST_F(ConferenceTest, AWriterThatIsNoAddressIsNotShown)
+{
+    join(3);
+    for (const char *const bytes : {"+Bob #3 hello", "+ #3 hello", "+<b>Ben</b> #3 hello", "+255.255.255.255 #3 hello"})
+        copy.arrive("10.0.0.2", bytes);
+    EXPECT_THAT(lines(), IsEmpty());
+    EXPECT_EQ(copy.drops.of(Drop::noConference), 4u);
+}
+
 } // namespace
 } // namespace nimb

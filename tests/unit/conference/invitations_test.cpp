@@ -219,11 +219,55 @@ TEST_F(InvitationsTest, RowsThatAreNotThereAreLeftAlone)
     EXPECT_THAT(copy.sent(), IsEmpty());
 }
 
-TEST_F(InvitationsTest, AFloodOfThemHasItsLimit)
+TEST_F(InvitationsTest, AFloodOfOneHostHasItsLimitAndKeepsNobodyElseOut)
 {
-    for (int number = 1; number <= limits::invitations + 50; ++number)
-        copy.engine.dispatcher().receive(QStringLiteral("10.0.0.2"), "?CONF INVITE #" + std::to_string(number));
-    EXPECT_EQ(invitations().list().rowCount(), limits::invitations);
+    for (int number = 1; number <= 1000; ++number)
+        invite("10.0.0.2", number);
+    EXPECT_EQ(invitations().list().rowCount(), limits::invitationsOfHost);
+    EXPECT_EQ(copy.drops.of(Drop::noConference), 1000u - limits::invitationsOfHost);
+    invite("10.0.0.3", 1);
+    EXPECT_EQ(rows().back(), "IP10.0.0.3:1 green 0 minute(s)");
+    invite("10.0.0.2", 7);
+    EXPECT_EQ(rows().back(), "IP10.0.0.2:7 green 0 minute(s)") << "one that is renewed needs no room";
+}
+
+TEST_F(InvitationsTest, OnesThatAreOverMakeRoomForNewOnesOfTheirHost)
+{
+    for (int number = 1; number <= limits::invitationsOfHost; ++number)
+        invite("10.0.0.2", number);
+    copy.arrive("10.0.0.2", "!CONF CLOSE #4");
+    copy.arrive("10.0.0.2", "!CONF CLOSE #9");
+    invite("10.0.0.2", 900);
+    invite("10.0.0.2", 901);
+    invite("10.0.0.2", 902);
+    EXPECT_EQ(invitations().list().rowCount(), limits::invitationsOfHost);
+    EXPECT_LT(invitations().list().rowOf(QStringLiteral("10.0.0.2"), 4), 0);
+    EXPECT_LT(invitations().list().rowOf(QStringLiteral("10.0.0.2"), 9), 0);
+    EXPECT_GE(invitations().list().rowOf(QStringLiteral("10.0.0.2"), 901), 0);
+    EXPECT_LT(invitations().list().rowOf(QStringLiteral("10.0.0.2"), 902), 0) << "all the others still wait";
+}
+
+TEST(Invitations, AFullListMakesRoomByWhatIsOverWhoeverSentIt)
+{
+    CopySetup setup;
+    constexpr int hosts = limits::invitations / limits::invitationsOfHost + 1;
+    for (int host = 0; host < hosts; ++host)
+        setup.contacts.push_back({QStringLiteral("10.0.1.%1").arg(host), QStringLiteral("Host")});
+    Copy copy(setup);
+    const auto invite = [&copy](int host, int number) {
+        copy.engine.invitations().arrived(QStringLiteral("10.0.1.%1").arg(host), static_cast<std::int16_t>(number));
+    };
+    for (int host = 0; host < hosts - 1; ++host) {
+        for (int number = 1; number <= limits::invitationsOfHost; ++number)
+            invite(host, number);
+    }
+    invite(hosts - 1, 1);
+    EXPECT_EQ(copy.engine.invitations().list().rowCount(), limits::invitations);
+    copy.engine.invitations().closed(QStringLiteral("10.0.1.3"), 5);
+    invite(hosts - 1, 1);
+    EXPECT_EQ(copy.engine.invitations().list().rowCount(), limits::invitations);
+    EXPECT_GE(copy.engine.invitations().list().rowOf(QStringLiteral("10.0.1.%1").arg(hosts - 1), 1), 0);
+    EXPECT_LT(copy.engine.invitations().list().rowOf(QStringLiteral("10.0.1.3"), 5), 0);
 }
 
 } // namespace
