@@ -6,23 +6,43 @@
 #include "core/pictures.h"
 #include "dialogs/frmLogin.h"
 #include "dialogs/frmNotify.h"
+#include "dialogs/frmOptions.h"
 #include "private/frmPrivate.h"
 #include "private/rich_text_log.h"
 
 namespace nimb
 {
-
-FormOpener::FormOpener(LinkOpener &links) : m_links(links) { }
-FormOpener::~FormOpener() = default;
-
-void FormOpener::loadNotify()
+namespace
 {
-    m_notify = std::make_unique<frmNotify>();
+
+/// Over the main window, which waits for it; the rest of the program goes on.
+void open(QDialog *dialog)
+{
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
 }
 
-bool FormOpener::showLogin(Login &login, Prompts &prompts)
+} // namespace
+
+FormOpener::FormOpener(const FormServices &services)
+    : m_services(services), m_links(services.links), m_slide(services.common, services.timers)
 {
-    frmLogin dialog(login, prompts);
+}
+
+FormOpener::~FormOpener() = default;
+
+void FormOpener::loadNotify(bool placed)
+{
+    m_notify = std::make_unique<frmNotify>(m_slide);
+    QObject::connect(m_notify.get(), &frmNotify::contactWanted, m_notify.get(),
+                     [this](const QString &ip) { showContact(ip); });
+    if (placed)
+        m_slide.Form_Load(*m_notify);
+}
+
+bool FormOpener::showLogin(Login &login)
+{
+    frmLogin dialog(login, m_services.prompts);
     m_login = &dialog;
     const bool chosen = dialog.exec() == QDialog::Accepted;
     m_login = nullptr;
@@ -47,19 +67,24 @@ frmMain &FormOpener::makeMain()
     return *m_main;
 }
 
-void FormOpener::connectMain(Messenger &engine, Common &common, std::function<QString()> statusNotes,
-                             std::function<void()> ended)
+void FormOpener::connectMain(Messenger &engine, std::function<QString()> statusNotes, std::function<void()> ended)
 {
     m_engine = &engine;
     m_invitations = std::make_unique<frmConfInvitations>(engine.invitations());
     m_main->connectControls({engine.mainWindow(), engine.contacts(), engine.contactCommands(), engine.ownState(),
-                             engine.announcement(), engine.log(), common, *this, std::move(statusNotes)},
+                             engine.announcement(), engine.log(), m_services.common, *this, std::move(statusNotes)},
                             std::move(ended));
 }
 
 void FormOpener::destroyMain()
 {
     m_main.reset();
+}
+
+void FormOpener::showContact(const QString &ip)
+{
+    if (m_main)
+        m_main->showContact(ip);
 }
 
 QIcon FormOpener::trayIcon() const
@@ -77,6 +102,19 @@ ViewPtr<ConferenceView> FormOpener::makeConferenceForm(Conference &conference)
 {
     // Owned by the conference, which lets it go.
     return ViewPtr<ConferenceView>(new frmConference(conference, m_links));
+}
+
+void FormOpener::mnuNetworkscan() { }
+void FormOpener::mnuAddUser() { }
+void FormOpener::mnuHelpAbout() { }
+void FormOpener::mnuTOTD() { }
+void FormOpener::mnusendcontacts(const QString &) { }
+void FormOpener::mnuinviteuser(const QString &) { }
+
+void FormOpener::mnuToolsOptions()
+{
+    const OptionValues values(m_services.common, m_engine->ownAvatar(), m_services.pictures, m_services.clock);
+    open(new frmOptions(values, m_services.prompts, m_main.get()));
 }
 
 void FormOpener::mnuCreateNewConf()
@@ -115,16 +153,14 @@ void FormOpener::unloadNotify()
     m_notify.reset();
 }
 
-void FormOpener::add(const QString &text, Picture picture)
+void FormOpener::add(const Notification &notification)
 {
-    if (m_notify)
-        m_notify->add(text, picture);
+    m_slide.add(notification);
 }
 
 void FormOpener::startTimer()
 {
-    if (m_notify)
-        m_notify->startTimer();
+    m_slide.startTimer();
 }
 
 } // namespace nimb

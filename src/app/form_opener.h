@@ -4,8 +4,10 @@
 #include "app/messenger.h"
 #include "core/message_boxes.h"
 #include "core/notifications.h"
+#include "core/picture_source.h"
 #include "core/windows.h"
 #include "dialogs/login.h"
+#include "dialogs/notify_slide.h"
 #include "private/RTFSubClass.h"
 
 #include <functional>
@@ -20,6 +22,17 @@ class frmMain;
 class frmNotify;
 class RichTextLogEdit;
 
+/// What the windows need beside the engine; all of it outlives them.
+struct FormServices {
+    Common &common;
+    Timers &timers;
+    const WallClock &clock;
+    SettingsStore &store;
+    Prompts &prompts;
+    LinkOpener &links;
+    PictureSources &pictures;
+};
+
 class FormOpener : public PrivateForms,
                    public ConferenceForms,
                    public SecondaryWindows,
@@ -27,13 +40,13 @@ class FormOpener : public PrivateForms,
                    public Notifications
 {
 public:
-    /// links: opens addresses; outlives the windows.
-    explicit FormOpener(LinkOpener &links);
+    explicit FormOpener(const FormServices &services);
     ~FormOpener() override;
 
-    void loadNotify();
+    /// placed: windows stand where they are put, so that the pop-up can slide in.
+    void loadNotify(bool placed = true);
     /// Shows the login dialog until it ends; false when it was closed without a nickname.
-    bool showLogin(Login &login, Prompts &prompts);
+    bool showLogin(Login &login);
     /// Ends the login dialog as its close box does; false when it is not open.
     bool closeLogin();
 
@@ -42,15 +55,23 @@ public:
     frmMain *main() { return m_main.get(); }
     /// Ties window and engine together. statusNotes: what the status bar's tool tip says; ended: called when the
     /// window has been unloaded.
-    void connectMain(Messenger &engine, Common &common, std::function<QString()> statusNotes,
-                     std::function<void()> ended);
+    void connectMain(Messenger &engine, std::function<QString()> statusNotes, std::function<void()> ended);
     void destroyMain();
+    /// Brings the main window back with this contact selected.
+    void showContact(const QString &ip);
     QIcon trayIcon() const;
 
     ViewPtr<PrivateChatView> makePrivateForm(PrivateChat &chat) override;
 
     ViewPtr<ConferenceView> makeConferenceForm(Conference &conference) override;
 
+    void mnuNetworkscan() override;
+    void mnuAddUser() override;
+    void mnuToolsOptions() override;
+    void mnuHelpAbout() override;
+    void mnuTOTD() override;
+    void mnusendcontacts(const QString &ip) override;
+    void mnuinviteuser(const QString &ip) override;
     void mnuCreateNewConf() override;
     void mnushowinvitations() override;
     void mnuInvite2Conf(int slot, const QString &ip) override;
@@ -61,11 +82,13 @@ public:
     void unloadInvitations() override;
     void unloadTipOfTheDay() override { }
 
-    void add(const QString &text, Picture picture) override;
+    void add(const Notification &notification) override;
     void startTimer() override;
 
 private:
+    FormServices m_services;
     RTFSubClass m_links;
+    NotifySlide m_slide;
     std::unique_ptr<frmNotify> m_notify;
     std::unique_ptr<frmMain> m_main;
     std::unique_ptr<frmConfInvitations> m_invitations;

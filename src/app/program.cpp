@@ -41,7 +41,8 @@ Environment Environment::fromSystem()
 
 Program::Program(const Environment &environment)
     : m_wantedAddress(environment.address), m_store(environment.profileFolder), m_instance(environment.profileFolder),
-      m_socket(m_drops, environment.address, environment.hostName), m_forms(m_links)
+      m_socket(m_drops, environment.address, environment.hostName),
+      m_forms({m_common, m_timers, m_clock, m_store, m_prompts, m_links, m_pictures})
 {
     qApp->installEventFilter(&m_toolTips);
 }
@@ -104,12 +105,17 @@ void Program::loadNotify()
 {
     m_instance.secondStart = [this](const QString &caption) { secondStart(caption); };
     m_login.emplace(m_common, m_store, m_socket);
-    m_forms.loadNotify();
+    const bool placed = !DesktopNotifications::areNeeded();
+    m_forms.loadNotify(placed);
+    if (placed)
+        return;
+    m_desktopNotifications.emplace(m_common, QDBusConnection::sessionBus());
+    m_desktopNotifications->contactWanted = [this](const QString &ip) { m_forms.showContact(ip); };
 }
 
 void Program::showLogin()
 {
-    if (!m_forms.showLogin(*m_login, m_prompts))
+    if (!m_forms.showLogin(*m_login))
         m_common.ownNickname.clear();
 }
 
@@ -123,11 +129,13 @@ void Program::loadMain()
     frmMain &window = m_forms.makeMain();
     m_prompts.setParentWindow(&window);
     m_tray.emplace(m_forms.trayIcon(), [&window] { window.restore(); });
+    Notifications &notifications
+        = m_desktopNotifications ? static_cast<Notifications &>(*m_desktopNotifications) : m_forms;
     m_engine.emplace(m_common,
-                     Surroundings{m_socket, m_store, m_timers, m_clock, m_prompts, m_forms, m_sound, *m_tray, m_forms,
-                                  m_forms, m_forms, window, m_drops});
+                     Surroundings{m_socket, m_store, m_timers, m_clock, m_prompts, notifications, m_sound, *m_tray,
+                                  m_forms, m_forms, m_forms, window, m_drops});
     m_forms.connectMain(
-        *m_engine, m_common, [this] { return statusNotes(); }, [] { QCoreApplication::exit(0); });
+        *m_engine, [this] { return statusNotes(); }, [] { QCoreApplication::exit(0); });
     window.Form_Load();
     if (m_wantedAddress && !dottedIpv4(*m_wantedAddress))
         m_engine->log().fault(

@@ -6,7 +6,9 @@
 #include "core/Tray.h"
 #include "core/plain_tool_tips.h"
 #include "core/windows.h"
+#include "platform/desktop_notifications.h"
 #include "platform/link_opener.h"
+#include "platform/picture_sources.h"
 #include "platform/qt_timers.h"
 #include "platform/single_instance.h"
 #include "platform/sound_player.h"
@@ -73,7 +75,9 @@ private:
     PlainToolTips m_toolTips;
     SoundPlayer m_sound;
     DesktopLinkOpener m_links;
+    SystemPictureSources m_pictures;
     FormOpener m_forms;
+    std::optional<DesktopNotifications> m_desktopNotifications;
     std::optional<Login> m_login;
     std::optional<Tray> m_tray;
     std::optional<Messenger> m_engine;

@@ -7,16 +7,36 @@
 namespace nimb
 {
 
-void showFileOpen(QWidget &parent)
+namespace
 {
-    // "*.*" would hide files without a dot; what stands before the last bracket is what is shown.
+
+void open(QFileDialog *dialog, std::function<void(const QString &path)> chosen)
+{
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(dialog, &QFileDialog::fileSelected, dialog,
+                     [chosen = std::move(chosen)](const QString &path) { chosen(path); });
+    dialog->QDialog::open();
+}
+
+} // namespace
+
+void askForFile(QWidget &parent, const QString &filter, std::function<void(const QString &path)> chosen)
+{
     auto *const dialog
-        = new QFileDialog(&parent, QCoreApplication::translate("FileDialogs", "Open"), QString(),
-                          QCoreApplication::translate("FileDialogs", "All Files (*.*)") + QLatin1String(" (*)"));
+        = new QFileDialog(&parent, QCoreApplication::translate("FileDialogs", "Open"), QString(), filter);
+    // What stands before the last bracket is what is shown.
     dialog->setOption(QFileDialog::HideNameFilterDetails);
     dialog->setFileMode(QFileDialog::ExistingFile);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->open();
+    open(dialog, std::move(chosen));
+}
+
+void askForFolder(QWidget &parent, const QString &folder, std::function<void(const QString &path)> chosen)
+{
+    auto *const dialog
+        = new QFileDialog(&parent, QCoreApplication::translate("FileDialogs", "Choose a folder with pictures"), folder);
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    open(dialog, std::move(chosen));
 }
 
 void showPageSetup(QWidget &parent)

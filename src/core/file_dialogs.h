@@ -1,13 +1,21 @@
-// The system's dialogs behind the File menu. They do not stop the program: it goes on answering while they stand there.
+// The system's dialogs for files and printers. They do not stop the program: it goes on answering while they stand
+// there.
 #pragma once
+
+#include <QString>
+
+#include <functional>
 
 class QWidget;
 
 namespace nimb
 {
 
-/// Asks for a file; the choice has no use so far.
-void showFileOpen(QWidget &parent);
+/// Asks for one file that exists. filter: what is shown, a blank, and the patterns in brackets. chosen is called when
+/// the user takes one.
+void askForFile(QWidget &parent, const QString &filter, std::function<void(const QString &path)> chosen);
+/// Asks for a folder, beginning with this one.
+void askForFolder(QWidget &parent, const QString &folder, std::function<void(const QString &path)> chosen);
 void showPageSetup(QWidget &parent);
 
 } // namespace nimb

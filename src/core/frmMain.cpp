@@ -193,12 +193,21 @@ void frmMain::connectMenus()
     const auto on = [this](const char *entry, const auto &procedure) {
         connect(m_menus.entry(entry), &QAction::triggered, this, procedure);
     };
-    on("mnuFileOpen", [this] { showFileOpen(*this); });
+    // The chosen file has no use so far. "*.*" would hide files without a dot.
+    on("mnuFileOpen",
+       [this] { askForFile(*this, tr("All Files (*.*)") + QLatin1String(" (*)"), [](const QString &) {}); });
     on("mnuFilePageSetup", [this] { showPageSetup(*this); });
     on("mnuFileExit", [this] { unload(UnloadMode::code); });
     on("mnuPrivateChat", [this] { m_engine->commands.mnuPrivateChat(selectedContact()); });
     on("mnuBuzzUser", [this] { m_engine->commands.mnuBuzzUser(selectedContact()); });
     on("mnuRemoveUser", [this] { m_engine->commands.mnuRemoveUser(selectedContact()); });
+    on("mnuNetworkscan", [this] { m_engine->windows.mnuNetworkscan(); });
+    on("mnuAddUser", [this] { m_engine->windows.mnuAddUser(); });
+    on("mnuToolsOptions", [this] { m_engine->windows.mnuToolsOptions(); });
+    on("mnuHelpAbout", [this] { m_engine->windows.mnuHelpAbout(); });
+    on("mnuTOTD", [this] { m_engine->windows.mnuTOTD(); });
+    on("mnusendcontacts", [this] { m_engine->windows.mnusendcontacts(selectedContact()); });
+    on("mnuinviteuser", [this] { m_engine->windows.mnuinviteuser(selectedContact()); });
     on("mnuCreateNewConf", [this] { m_engine->windows.mnuCreateNewConf(); });
     on("mnushowinvitations", [this] { m_engine->windows.mnushowinvitations(); });
     for (int slot = 1; slot <= MainMenus::conferenceSlots; ++slot)
@@ -278,6 +287,16 @@ void frmMain::restore()
 {
     bringBack(*this);
     activateWindow();
+}
+
+void frmMain::showContact(const QString &ip)
+{
+    restore();
+    const int row = m_engine->contacts.rowOf(ip);
+    if (row < 0)
+        return;
+    ListView1->setCurrentIndex(ListView1->model()->index(row, 0));
+    ListView1->setFocus();
 }
 
 void frmMain::moveEvent(QMoveEvent *event)

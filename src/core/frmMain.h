@@ -69,6 +69,8 @@ public:
     void unload(UnloadMode mode);
     /// Brings the window back from the tray, the task bar or the background.
     void restore();
+    /// The same, with this contact selected where there is one.
+    void showContact(const QString &ip);
 
     RichTextLog &outtext() override { return m_outtext; }
     void setRescanEnabled(bool enabled) override;

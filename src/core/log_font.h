@@ -9,13 +9,19 @@
 namespace nimb
 {
 
+/// In points.
+namespace logFontSize
+{
+constexpr int smallest = 6, largest = 24;
+} // namespace logFontSize
+
 /// The stored font; the desktop's own where its face is not installed, so that the store keeps the name.
 inline QFont fontOf(const LogFont &stored)
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     if (QFontDatabase::hasFamily(stored.face))
         font.setFamily(stored.face);
-    font.setPointSize(qBound(6, int(stored.size), 24));
+    font.setPointSize(qBound(logFontSize::smallest, int(stored.size), logFontSize::largest));
     font.setBold(stored.bold());
     font.setItalic(stored.italic());
     return font;

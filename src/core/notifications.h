@@ -8,12 +8,18 @@
 namespace nimb
 {
 
+struct Notification {
+    QString text;
+    Picture picture = Picture::green; ///< both the large and the small one
+    QString ip;                       ///< of the contact it is about
+};
+
 class Notifications
 {
 public:
     virtual ~Notifications() = default;
-    /// Adds a row; the picture is both its large and its small one. The list keeps limits::notifications rows.
-    virtual void add(const QString &text, Picture picture) = 0;
+    /// Adds a row. The list keeps limits::notifications rows.
+    virtual void add(const Notification &notification) = 0;
     /// Starts the timer that brings the window into view.
     virtual void startTimer() = 0;
 };

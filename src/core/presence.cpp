@@ -65,7 +65,7 @@ void Presence::cameOnline(const QString &ip, const std::optional<PeerIdentity> &
     });
     const Contact &contact = *m_contacts.find(ip);
     if (!wasPresent)
-        notify(tr("%1 is online").arg(paintedName(contact.nickname)), Picture::green);
+        notify({tr("%1 is online").arg(paintedName(contact.nickname)), Picture::green, ip});
     m_log.wentOnline(contact.nickname);
     tellPrivateWindow(contact, tr("%1 is online").arg(contact.nickname));
     if (asks)
@@ -79,7 +79,7 @@ void Presence::wentOffline(const QString &ip)
         contact.state.clear();
     });
     const Contact &contact = *m_contacts.find(ip);
-    notify(tr("%1 is offline").arg(paintedName(contact.nickname)), Picture::red);
+    notify({tr("%1 is offline").arg(paintedName(contact.nickname)), Picture::red, ip});
     m_log.wentOffline(contact.nickname);
     tellPrivateWindow(contact, tr("%1 has gone offline").arg(contact.nickname));
 }
@@ -98,11 +98,11 @@ void Presence::changedState(const QString &ip, const QString &state, const QStri
     tellPrivateWindow(contact, tr("%1 changed his state to '%2'").arg(contact.nickname, whole));
 }
 
-void Presence::notify(const QString &text, Picture picture)
+void Presence::notify(const Notification &notification)
 {
     if (m_common.announcing)
         return;
-    m_notifications.add(text, picture);
+    m_notifications.add(notification);
     m_notifications.startTimer();
 }
 

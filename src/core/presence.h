@@ -33,7 +33,7 @@ public:
     void changedState(const QString &ip, const QString &state, const QString &text) override;
 
 private:
-    void notify(const QString &text, Picture picture);
+    void notify(const Notification &notification);
     void tellPrivateWindow(const Contact &contact, const QString &sentence);
     void answer(const QString &ip);
 

@@ -14,6 +14,12 @@ constexpr int pixels(double twips)
     return qRound(twips / twipsPerPixel);
 }
 
+/// Logical pixels, truncated, as the notification window is placed.
+constexpr int wholePixels(int twips)
+{
+    return twips / twipsPerPixel;
+}
+
 constexpr double twips(int pixels)
 {
     return pixels * twipsPerPixel;

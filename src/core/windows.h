@@ -31,6 +31,15 @@ class MenuWindows
 {
 public:
     virtual ~MenuWindows() = default;
+    virtual void mnuNetworkscan() = 0;
+    virtual void mnuAddUser() = 0;
+    virtual void mnuToolsOptions() = 0;
+    virtual void mnuHelpAbout() = 0;
+    virtual void mnuTOTD() = 0;
+    /// An address that is no contact's is ignored.
+    virtual void mnusendcontacts(const QString &ip) = 0;
+    /// Empty: no contact is selected.
+    virtual void mnuinviteuser(const QString &ip) = 0;
     virtual void mnuCreateNewConf() = 0;
     virtual void mnushowinvitations() = 0;
     /// slot: 1 to 5; an address that is no contact's is ignored.

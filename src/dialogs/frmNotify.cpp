@@ -1,12 +1,14 @@
 #include "dialogs/frmNotify.h"
 
-#include "core/limits.h"
-#include "core/pictures.h"
+#include "core/form_layout.h"
+#include "core/picture_proxy.h"
 #include "core/twips.h"
 
 #include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
 #include <QScreen>
-#include <QStandardItemModel>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -14,49 +16,122 @@ namespace nimb
 {
 namespace
 {
-constexpr double distanceFromScreenEdge = 120; // twips
+
+using form_layout::margin;
+using form_layout::spacing;
+
+constexpr QSize windowSize(250, 150); // pixels
+constexpr int pictureSide = 16;
+
+std::int32_t inTwips(int pixels)
+{
+    return pixels * twipsPerPixel;
 }
 
-frmNotify::frmNotify()
-    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus)
+bool anotherScreenShows(const QRect &place)
+{
+    for (const QScreen *const screen : QGuiApplication::screens()) {
+        if (screen != QGuiApplication::primaryScreen() && screen->geometry().intersects(place))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+frmNotify::frmNotify(NotifySlide &slide)
+    : QFrame(nullptr,
+             Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus
+                 | Qt::BypassWindowManagerHint),
+      m_slide(slide)
 {
     setObjectName(QStringLiteral("frmNotify"));
     setWindowTitle(tr("NIMBChat Notify!"));
     setWindowIcon(programIcon());
     setAttribute(Qt::WA_ShowWithoutActivating);
+    setFrameStyle(QFrame::Box | QFrame::Plain);
     buildControls();
-    resize(220, 120);
-    park();
+    connectControls();
+    setFixedSize(windowSize);
+}
+
+frmNotify::~frmNotify()
+{
+    m_slide.Form_Unload();
 }
 
 void frmNotify::buildControls()
 {
-    m_rows = new QStandardItemModel(0, 1, this);
-    ListViewNotify = new QTreeView(this);
-    ListViewNotify->setObjectName(QStringLiteral("ListViewNotify"));
-    ListViewNotify->setModel(m_rows);
+    auto *const picture = new QLabel(this);
+    picture->setPixmap(windowIcon().pixmap(pictureSide, pictureSide));
+    auto *const caption = new QLabel(windowTitle(), this);
+    caption->setTextFormat(Qt::PlainText);
+    closebtn = named(new QPushButton(tr("hide"), this), "closebtn");
+    closebtn->setFocusPolicy(Qt::NoFocus);
+    auto *const top = new QHBoxLayout;
+    top->setSpacing(spacing);
+    top->addWidget(picture);
+    top->addWidget(caption, 1);
+    top->addWidget(closebtn);
+
+    ListViewNotify = named(new QTreeView(this), "ListViewNotify");
+    ListViewNotify->setAccessibleName(tr("What happened"));
+    auto *const rows = new PictureProxy(ListViewNotify);
+    rows->setSourceModel(&m_slide.list());
+    ListViewNotify->setModel(rows);
     ListViewNotify->setHeaderHidden(true);
     ListViewNotify->setRootIsDecorated(false);
+    ListViewNotify->setUniformRowHeights(true);
+    ListViewNotify->setIconSize(QSize(pictureSide, pictureSide));
     ListViewNotify->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    ListViewNotify->setSelectionMode(QAbstractItemView::NoSelection);
+    ListViewNotify->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    ListViewNotify->setFocusPolicy(Qt::NoFocus);
+    ListViewNotify->setFrameShape(QFrame::NoFrame);
+
     auto *const column = new QVBoxLayout(this);
-    column->setContentsMargins(6, 6, 6, 6);
-    column->addWidget(ListViewNotify);
+    column->setContentsMargins(margin, spacing, margin, margin);
+    column->setSpacing(spacing);
+    column->addLayout(top);
+    column->addWidget(ListViewNotify, 1);
 }
 
-void frmNotify::park()
+void frmNotify::connectControls()
+{
+    connect(closebtn, &QPushButton::clicked, this, [this] { m_slide.closebtn_Click(); });
+    connect(ListViewNotify, &QTreeView::clicked, this,
+            [this](const QModelIndex &row) { Q_EMIT contactWanted(row.data(NotifyRows::TagRole).toString()); });
+    connect(&m_slide.list(), &NotifyRows::rowsInserted, ListViewNotify, &QTreeView::scrollToBottom);
+    connect(qApp, &QGuiApplication::primaryScreenChanged, this, [this] { m_slide.screenChanged(); });
+    connect(qApp, &QGuiApplication::screenAdded, this, &frmNotify::follow);
+    for (const QScreen *const screen : QGuiApplication::screens())
+        follow(screen);
+}
+
+void frmNotify::follow(const QScreen *screen)
+{
+    connect(screen, &QScreen::geometryChanged, this, [this] { m_slide.screenChanged(); });
+}
+
+NotifyView::Measures frmNotify::measures() const
+{
+    const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
+    return {inTwips(screen.width()), inTwips(screen.height()), inTwips(width()), inTwips(height())};
+}
+
+void frmNotify::SetWindowPos(int left, int top)
 {
     const QRect screen = QGuiApplication::primaryScreen()->geometry();
-    move(screen.right() + 1 - width() - pixels(distanceFromScreenEdge),
-         screen.bottom() + 1 + pixels(distanceFromScreenEdge));
-}
-
-void frmNotify::add(const QString &text, Picture picture)
-{
-    auto *const row = new QStandardItem(statePicture(picture), text);
-    row->setData(pictureKey(picture), Qt::UserRole + 2);
-    m_rows->appendRow(row);
-    if (m_rows->rowCount() > limits::notifications)
-        m_rows->removeRow(0);
+    move(screen.topLeft() + QPoint(left, top));
+    raise();
+    // Below this screen there may be another one, which is no part of the way.
+    const QRect seen = geometry() & screen;
+    const bool trimmed = anotherScreenShows(geometry());
+    if (trimmed && !seen.isEmpty())
+        setMask(seen.translated(-pos()));
+    else
+        clearMask();
+    setVisible(!trimmed || !seen.isEmpty());
 }
 
 } // namespace nimb

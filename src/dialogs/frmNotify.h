@@ -1,34 +1,42 @@
-// The notification window: a list of what contacts did, parked below the screen.
+// The notification pop-up: a list of what contacts did.
 #pragma once
 
-#include "core/notifications.h"
+#include "dialogs/notify_slide.h"
 
-#include <QWidget>
+#include <QFrame>
 
 class QPushButton;
-class QStandardItemModel;
+class QScreen;
 class QTreeView;
 
 namespace nimb
 {
 
-class frmNotify : public QWidget, public Notifications
+/// Never has the focus, and is no business of the window manager, which would keep it on the screen.
+class frmNotify : public QFrame, public NotifyView
 {
     Q_OBJECT
 
 public:
-    frmNotify();
+    /// The engine half outlives the window and places it; until then it is hidden.
+    explicit frmNotify(NotifySlide &slide);
+    ~frmNotify() override;
 
-    void add(const QString &text, Picture picture) override;
-    /// The window stays parked.
-    void startTimer() override { }
+    Measures measures() const override;
+    void SetWindowPos(int left, int top) override;
+
+Q_SIGNALS:
+    /// The row of a contact was clicked.
+    void contactWanted(const QString &ip);
 
 private:
     void buildControls();
-    void park();
+    void connectControls();
+    void follow(const QScreen *screen);
 
+    NotifySlide &m_slide;
     QTreeView *ListViewNotify = nullptr;
-    QStandardItemModel *m_rows = nullptr;
+    QPushButton *closebtn = nullptr;
 };
 
 } // namespace nimb

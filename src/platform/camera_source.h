@@ -25,6 +25,7 @@ public:
 
     std::optional<QByteArray> frame() override;
     std::optional<QString> problem() const override { return m_problem; }
+    PolledPicture origin() const override { return Camera{}; }
 
 private:
     std::optional<QString> m_problem;

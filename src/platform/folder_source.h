@@ -20,6 +20,7 @@ public:
 
     std::optional<QByteArray> frame() override;
     std::optional<QString> problem() const override { return m_problem; }
+    PolledPicture origin() const override { return PictureFolder{m_folder}; }
 
 private:
     QString m_folder;

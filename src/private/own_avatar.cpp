@@ -19,6 +19,11 @@ void OwnAvatar::setSource(std::unique_ptr<PictureSource> source)
     m_frame.clear();
 }
 
+std::optional<PolledPicture> OwnAvatar::source() const
+{
+    return m_source ? std::optional(m_source->origin()) : std::nullopt;
+}
+
 /// Keeps the newest frame together with its head, so that the body that is asked for next belongs to it.
 void OwnAvatar::takeFrame()
 {

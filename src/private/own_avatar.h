@@ -24,7 +24,8 @@ public:
     /// From now on peers get this source's frames; none: the still avatar. A source that fails is let go, and the log
     /// says why.
     void setSource(std::unique_ptr<PictureSource> source);
-    bool hasSource() const { return m_source != nullptr; }
+    /// What those frames are made of; nothing while peers get the still avatar.
+    std::optional<PolledPicture> source() const;
 
     /// A peer asks which avatar there is. Nobody is answered while the own state is Invisible.
     void answerHead(const QString &ip);

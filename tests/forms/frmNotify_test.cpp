@@ -1,35 +1,130 @@
 #include "dialogs/frmNotify.h"
+#include "real_windows.h"
 
-#include <gtest/gtest.h>
+#include <QPushButton>
+#include <QScreen>
 
-#include <QTreeView>
-
-namespace nimb
+namespace nimb::test
 {
 namespace
 {
 
-TEST(FrmNotify, IsThereButNeverVisible)
+using namespace std::chrono_literals;
+
+class FrmNotifyTest : public testing::Test
 {
-    frmNotify window;
-    EXPECT_EQ(window.objectName(), QStringLiteral("frmNotify"));
-    EXPECT_EQ(window.windowTitle(), QStringLiteral("NIMBChat Notify!"));
-    EXPECT_FALSE(window.windowIcon().isNull());
-    window.add(QStringLiteral("Ann is online"), Picture::green);
-    window.startTimer();
-    EXPECT_FALSE(window.isVisible());
+protected:
+    FrmNotifyTest()
+    {
+        windows.settleStart({"10.0.0.2"});
+        for (QWidget *const window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == QLatin1String("frmNotify"))
+                notify = window;
+        }
+    }
+    QAbstractItemModel &rows() { return *RealWindows::control<QTreeView>(*notify, "ListViewNotify").model(); }
+    /// Long enough to rise, whatever the screen.
+    void rise() { windows.time.advance(2000ms); }
+
+    RealWindows windows{{{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}}};
+    QWidget *notify = nullptr;
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+};
+
+TEST_F(FrmNotifyTest, IsShownAtStartButBelowTheScreen)
+{
+    EXPECT_EQ(notify->windowTitle(), QStringLiteral("NIMBChat Notify!"));
+    EXPECT_FALSE(notify->windowIcon().isNull());
+    EXPECT_TRUE(notify->isVisible());
+    EXPECT_EQ(notify->y(), screen.height() + 8);
+    EXPECT_EQ(notify->x(), screen.width() - notify->width() - 8);
 }
 
-TEST(FrmNotify, ListsWhatHappenedAndKeepsTheNewestHundred)
+TEST_F(FrmNotifyTest, RisesWithWhatHappenedAndGoesAfterFiveSeconds)
 {
-    frmNotify window;
-    for (int i = 1; i <= 105; ++i)
-        window.add(QStringLiteral("N%1 is online").arg(i), Picture::green);
-    const QAbstractItemModel *const rows = window.findChild<QTreeView *>(QStringLiteral("ListViewNotify"))->model();
-    EXPECT_EQ(rows->rowCount(), 100);
-    EXPECT_EQ(rows->index(0, 0).data().toString(), QStringLiteral("N6 is online"));
-    EXPECT_EQ(rows->index(99, 0).data(Qt::UserRole + 2).toString(), QStringLiteral("green"));
+    windows.arrive("10.0.0.3", "!ONLINE 10.0.0.3 PC Ben");
+    windows.arrive("10.0.0.2", "!OFFLINE");
+    rise();
+    // The last step of 20 twips may lead a little beyond its place.
+    const int risen = screen.height() - notify->height() - 16;
+    EXPECT_THAT(notify->y(), testing::AllOf(testing::Le(risen), testing::Ge(risen - 2)));
+    EXPECT_EQ(notify->x(), screen.width() - notify->width() - 8);
+    ASSERT_EQ(rows().rowCount(), 2);
+    EXPECT_EQ(rows().index(0, 0).data().toString(), QStringLiteral("Ben is online"));
+    EXPECT_EQ(rows().index(0, 0).data(Qt::UserRole + 2).toString(), QStringLiteral("green"));
+    EXPECT_FALSE(rows().index(0, 0).data(Qt::DecorationRole).value<QIcon>().isNull());
+    EXPECT_EQ(rows().index(1, 0).data().toString(), QStringLiteral("Ann is offline"));
+    windows.time.advance(5000ms);
+    EXPECT_EQ(notify->y(), screen.height() + 8);
+    EXPECT_EQ(rows().rowCount(), 0);
+}
+
+TEST_F(FrmNotifyTest, HideDismissesIt)
+{
+    windows.arrive("10.0.0.2", "!OFFLINE");
+    rise();
+    auto &hide = RealWindows::control<QPushButton>(*notify, "closebtn");
+    EXPECT_EQ(hide.text(), QStringLiteral("hide"));
+    QTest::mouseClick(&hide, Qt::LeftButton);
+    EXPECT_EQ(notify->y(), screen.height() + 8);
+    EXPECT_EQ(rows().rowCount(), 0);
+}
+
+TEST_F(FrmNotifyTest, WhileItIsSwitchedOffItNeverRises)
+{
+    windows.common.options.NotifyWin = 0;
+    windows.arrive("10.0.0.2", "!OFFLINE");
+    rise();
+    EXPECT_EQ(notify->y(), screen.height() + 8);
+    EXPECT_EQ(rows().rowCount(), 0);
+}
+
+TEST_F(FrmNotifyTest, AClickOnARowShowsTheContact)
+{
+    windows.main().showMinimized();
+    windows.arrive("10.0.0.3", "!ONLINE 10.0.0.3 PC Ben");
+    rise();
+    auto &list = RealWindows::control<QTreeView>(*notify, "ListViewNotify");
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(rows().index(0, 0)).center());
+    EXPECT_FALSE(windows.main().isMinimized());
+    EXPECT_EQ(windows.list().currentIndex().data().toString(), QStringLiteral("Ben"));
+}
+
+TEST_F(FrmNotifyTest, AClickOnAContactThatIsGoneShowsTheMainWindowAlone)
+{
+    windows.arrive("10.0.0.3", "!ONLINE 10.0.0.3 PC Ben");
+    rise();
+    windows.engine.contacts().remove(QStringLiteral("10.0.0.3"));
+    windows.main().hide();
+    auto &list = RealWindows::control<QTreeView>(*notify, "ListViewNotify");
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(rows().index(0, 0)).center());
+    EXPECT_TRUE(windows.main().isVisible());
+}
+
+TEST_F(FrmNotifyTest, LongNamesStayInsideAndMarkupIsShown)
+{
+    windows.arrive("10.0.0.3", "!ONLINE 10.0.0.3 PC <b>" + std::string(300, 'W'));
+    rise();
+    EXPECT_TRUE(rows().index(0, 0).data().toString().startsWith(QStringLiteral("<b>WWW")));
+    EXPECT_LT(rows().index(0, 0).data().toString().size(), 100);
+    const auto &list = RealWindows::control<QTreeView>(*notify, "ListViewNotify");
+    EXPECT_LE(list.columnWidth(0), list.viewport()->width());
+}
+
+TEST_F(FrmNotifyTest, WhereWindowsCannotBePlacedItStaysHidden)
+{
+    FormServices services{windows.common,  windows.time,  windows.time,    windows.settings,
+                          windows.prompts, windows.links, windows.pictures};
+    FormOpener elsewhere(services);
+    elsewhere.loadNotify(false);
+    elsewhere.add({QStringLiteral("Ann is online"), Picture::green, QStringLiteral("10.0.0.2")});
+    elsewhere.startTimer();
+    windows.time.advance(2000ms);
+    int visible = 0;
+    for (const QWidget *const window : QApplication::topLevelWidgets())
+        visible += window->objectName() == QLatin1String("frmNotify") && window->isVisible();
+    EXPECT_EQ(visible, 1) << "only that of the other copy";
 }
 
 } // namespace
-} // namespace nimb
+} // namespace nimb::test

@@ -161,6 +161,7 @@ class ChangingFrames : public PictureSource
 public:
     std::optional<QByteArray> frame() override { return QByteArray(7500, static_cast<char>(++m_frames)); }
     std::optional<QString> problem() const override { return std::nullopt; }
+    PolledPicture origin() const override { return Camera{}; }
 
 private:
     int m_frames = 0;

@@ -44,7 +44,7 @@ public:
         forms.loadNotify();
         main().show();
         forms.connectMain(
-            engine, common, [this] { return drops.summary(); }, [this] { ended = true; });
+            engine, [this] { return drops.summary(); }, [this] { ended = true; });
         main().Form_Load();
         QCoreApplication::processEvents();
     }
@@ -130,7 +130,8 @@ public:
     RecorderTray tray{steps};
     DropCounts drops;
     RecorderLinks links;
-    FormOpener forms{links};
+    RecorderPictureSources pictures;
+    FormOpener forms{{common, time, time, settings, prompts, links, pictures}};
     bool ended = false;
 
 private:

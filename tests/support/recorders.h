@@ -5,6 +5,7 @@
 #include "core/link_opener.h"
 #include "core/main_window_view.h"
 #include "core/notifications.h"
+#include "core/picture_source.h"
 #include "core/prompts.h"
 #include "core/settings_store.h"
 #include "core/sound.h"
@@ -266,14 +267,51 @@ public:
 class RecorderNotifications : public Notifications
 {
 public:
-    void add(const QString &text, Picture picture) override
+    void add(const Notification &row) override
     {
-        rows.push_back(text.toStdString() + " [" + pictureKey(picture).toStdString() + "]");
+        rows.push_back(row.text.toStdString() + " [" + pictureKey(row.picture).toStdString() + "]");
+        lastIp = row.ip.toStdString();
     }
     void startTimer() override { ++starts; }
 
     std::vector<std::string> rows;
+    std::string lastIp;
     int starts = 0;
+};
+
+/// A source that works or, once tried, says why not.
+class RecorderPictureSource : public PictureSource
+{
+public:
+    RecorderPictureSource(const PolledPicture &origin, std::optional<QString> problem)
+        : m_origin(origin), m_problem(std::move(problem))
+    {
+    }
+    std::optional<QByteArray> frame() override
+    {
+        m_tried = true;
+        return QByteArray(7500, 'f');
+    }
+    std::optional<QString> problem() const override { return m_tried ? m_problem : std::nullopt; }
+    PolledPicture origin() const override { return m_origin; }
+
+private:
+    PolledPicture m_origin;
+    std::optional<QString> m_problem;
+    bool m_tried = false;
+};
+
+class RecorderPictureSources : public PictureSources
+{
+public:
+    std::unique_ptr<PictureSource> open(const PolledPicture &wanted) override
+    {
+        ++opened;
+        return std::make_unique<RecorderPictureSource>(wanted, problem);
+    }
+
+    int opened = 0;
+    std::optional<QString> problem;
 };
 
 class RecorderSound : public Sound

@@ -27,6 +27,7 @@ public:
     explicit FrameSource(State &state) : m_state(state) { }
     std::optional<QByteArray> frame() override { return m_state.frame; }
     std::optional<QString> problem() const override { return m_state.problem; }
+    PolledPicture origin() const override { return Camera{}; }
 
 private:
     State &m_state;
@@ -301,7 +302,7 @@ TEST_F(OwnPolledPicture, AFailureIsSaidOnceAndTheStillOneReturns)
     EXPECT_EQ(answer("?AVATARHEAD"), "!AVATARHEAD 14.05.2026 10:00");
     EXPECT_EQ(answer("?AVATARBODY"), "!AVATARBODY " + std::string(7500, 'a'));
     EXPECT_EQ(copy.view.log.lastLine(), "The camera was unplugged.");
-    EXPECT_FALSE(copy.engine.ownAvatar().hasSource());
+    EXPECT_FALSE(copy.engine.ownAvatar().source());
 }
 
 TEST_F(OwnPolledPicture, WithoutAStillOneAFailureTurnsTheAvatarOff)

@@ -1,0 +1,54 @@
+#include "dialogs/font_dialog.h"
+
+#include "core/log_font.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+
+namespace nimb
+{
+
+LogFontDialog::LogFontDialog(const LogFont &preset, Prompts &prompts, QWidget *parent)
+    : QFontDialog(parent), m_prompts(prompts)
+{
+    setObjectName(QStringLiteral("font_dialog"));
+    setWindowTitle(tr("Font of the logs"));
+    // The desktop's own dialogs cannot be kept open when the size is none of ours.
+    setOption(QFontDialog::DontUseNativeDialog);
+    setCurrentFont(fontOf(preset));
+    hideEffects();
+}
+
+/// Underlined and struck-out logs are not stored.
+void LogFontDialog::hideEffects()
+{
+    for (QGroupBox *const group : findChildren<QGroupBox *>()) {
+        if (group->findChild<QCheckBox *>())
+            group->hide();
+    }
+}
+
+LogFont LogFontDialog::chosenFont() const
+{
+    const QFont font = currentFont();
+    QString style;
+    if (font.bold())
+        style += QLatin1Char('b');
+    if (font.italic())
+        style += QLatin1Char('i');
+    return {font.family(), static_cast<std::int16_t>(font.pointSize()), style};
+}
+
+void LogFontDialog::done(int result)
+{
+    const int size = currentFont().pointSize();
+    if (result == QDialog::Accepted && (size < logFontSize::smallest || size > logFontSize::largest)) {
+        m_prompts.tell(
+            tr("The size must be from %1 to %2 points.").arg(logFontSize::smallest).arg(logFontSize::largest),
+            windowTitle());
+        return;
+    }
+    QFontDialog::done(result);
+}
+
+} // namespace nimb

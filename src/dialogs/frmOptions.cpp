@@ -1,0 +1,377 @@
+#include "dialogs/frmOptions.h"
+
+#include "core/avatar_image.h"
+#include "core/file_dialogs.h"
+#include "core/form_layout.h"
+#include "core/log_font.h"
+#include "core/pictures.h"
+#include "dialogs/font_dialog.h"
+#include "private/avatar_picture.h"
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace nimb
+{
+namespace
+{
+
+using form_layout::groupDistance;
+using form_layout::margin;
+using form_layout::spacing;
+
+/// Positions in PolledPicturebox.
+enum PolledPosition { cameraPosition, folderPosition };
+
+QLabel *note(const QString &text, QWidget *parent)
+{
+    auto *const label = new QLabel(text, parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
+QVBoxLayout *columnOf(QGroupBox *group)
+{
+    auto *const column = new QVBoxLayout(group);
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(spacing);
+    return column;
+}
+
+/// The first local file that the data names; empty when there is none.
+QString fileOf(const QMimeData &given)
+{
+    const QList<QUrl> urls = given.urls();
+    return urls.isEmpty() ? QString() : urls.first().toLocalFile();
+}
+
+} // namespace
+
+frmOptions::frmOptions(const OptionValues &values, Prompts &prompts, QWidget *parent)
+    : QDialog(parent), m_values(values), m_prompts(prompts)
+{
+    setObjectName(QStringLiteral("frmOptions"));
+    setWindowTitle(tr("NIMB-Chat - Options"));
+    setWindowIcon(programIcon());
+    setAcceptDrops(true);
+    buildControls();
+    connectControls();
+    Form_Load();
+}
+
+void frmOptions::buildControls()
+{
+    CmdOK = named(new QPushButton(tr("OK"), this), "CmdOK");
+    CmdOK->setDefault(true);
+    Command1 = named(new QPushButton(tr("Cancel"), this), "Command1");
+
+    auto *const left = new QVBoxLayout;
+    left->setSpacing(groupDistance);
+    left->addWidget(makeSounds());
+    left->addWidget(makePrivateWindows());
+    left->addWidget(makeProgram());
+    left->addStretch(1);
+    auto *const right = new QVBoxLayout;
+    right->setSpacing(groupDistance);
+    right->addWidget(makeFont());
+    right->addWidget(makeAvatar());
+    right->addStretch(1);
+    auto *const buttons = new QDialogButtonBox(this);
+    buttons->addButton(CmdOK, QDialogButtonBox::AcceptRole);
+    buttons->addButton(Command1, QDialogButtonBox::RejectRole);
+
+    auto *const grid = new QGridLayout(this);
+    grid->setContentsMargins(margin, margin, margin, margin);
+    grid->setHorizontalSpacing(groupDistance);
+    grid->setVerticalSpacing(groupDistance);
+    grid->addLayout(left, 0, 0);
+    grid->addLayout(right, 0, 1);
+    grid->addWidget(buttons, 1, 0, 1, 2);
+    grid->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+QGroupBox *frmOptions::makeSounds()
+{
+    auto *const group = new QGroupBox(tr("Sounds and notices"), this);
+    localbuzz = named(new QCheckBox(tr("Disable sound on &local BUZZ"), group), "localbuzz");
+    remotebuzz = named(new QCheckBox(tr("Disable sound on &remote BUZZ"), group), "remotebuzz");
+    DisableNotify = named(new QCheckBox(tr("Disable &notify window"), group), "DisableNotify");
+    DisableNotify->setToolTip(tr("Ticked: nothing slides in when a contact comes or goes"));
+    QVBoxLayout *const column = columnOf(group);
+    for (QCheckBox *const box : {localbuzz, remotebuzz, DisableNotify})
+        column->addWidget(box);
+    return group;
+}
+
+QGroupBox *frmOptions::makePrivateWindows()
+{
+    auto *const group = new QGroupBox(tr("Private windows"), this);
+    showminimized
+        = named(new QRadioButton(tr("Open private chat window &minimized (default)"), group), "showminimized");
+    showontop = named(new QRadioButton(tr("Show private chat window on &top"), group), "showontop");
+    statusonprivate = named(new QCheckBox(tr("&Suppress messages of status change in private message window"), group),
+                            "statusonprivate");
+    PrivateDestroyonClose
+        = named(new QCheckBox(tr("Closing a private window only hides it and &keeps its messages"), group),
+                "PrivateDestroyonClose");
+    disablelivetype = named(new QCheckBox(tr("LiveType &disabled by default"), group), "disablelivetype");
+    QVBoxLayout *const column = columnOf(group);
+    for (QAbstractButton *const button : std::initializer_list<QAbstractButton *>{
+             showminimized, showontop, statusonprivate, PrivateDestroyonClose, disablelivetype})
+        column->addWidget(button);
+    return group;
+}
+
+QGroupBox *frmOptions::makeProgram()
+{
+    auto *const group = new QGroupBox(tr("Main window and network"), this);
+    XtoMinimizeCheck
+        = named(new QCheckBox(tr("The &close box hides the main window (the tray icon brings it back)"), group),
+                "XtoMinimizeCheck");
+    UDPPorttxt = named(new QLineEdit(group), "UDPPorttxt");
+    UDPPorttxt->setFixedWidth(80);
+    auto *const caption = new QLabel(tr("UDP &port:"), group);
+    caption->setBuddy(UDPPorttxt);
+    auto *const port = new QHBoxLayout;
+    port->setSpacing(spacing);
+    port->addWidget(caption);
+    port->addWidget(UDPPorttxt);
+    port->addWidget(note(tr("A change takes effect at the next start."), group), 1);
+    QVBoxLayout *const column = columnOf(group);
+    column->addWidget(XtoMinimizeCheck);
+    column->addLayout(port);
+    return group;
+}
+
+QGroupBox *frmOptions::makeFont()
+{
+    auto *const group = new QGroupBox(tr("Font of the logs"), this);
+    m_fontSample = new QLabel(group);
+    m_fontSample->setTextFormat(Qt::PlainText);
+    // The largest font must not make the dialog jump.
+    m_fontSample->setFixedHeight(44);
+    m_fontSample->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    font_btn = named(new QPushButton(tr("&Font..."), group), "font_btn");
+    auto *const row = new QHBoxLayout;
+    row->setSpacing(spacing);
+    row->addWidget(m_fontSample, 1);
+    row->addWidget(font_btn);
+    QVBoxLayout *const column = columnOf(group);
+    column->addLayout(row);
+    column->addWidget(note(tr("New windows use it; open ones keep theirs."), group));
+    return group;
+}
+
+QGroupBox *frmOptions::makeAvatar()
+{
+    auto *const group = new QGroupBox(tr("Your avatar"), this);
+    Option1 = named(new QRadioButton(tr("No &avatar"), group), "Option1");
+    Option2 = named(new QRadioButton(tr("A p&icture:"), group), "Option2");
+    Option3 = named(new QRadioButton(tr("Pictures that chan&ge:"), group), "Option3");
+    Picture2 = named(new AvatarPicture(group, 1), "Picture2");
+    Picture2->setAccessibleName(tr("The picture"));
+    LoadAvatarbtn = named(new QPushButton(tr("L&oad..."), group), "LoadAvatarbtn");
+    PolledPicturebox = named(new QComboBox(group), "PolledPicturebox");
+    PolledPicturebox->setAccessibleName(tr("Where the pictures come from"));
+    PolledPicturebox->insertItem(cameraPosition, tr("of the camera"));
+    PolledPicturebox->insertItem(folderPosition, tr("of a folder"));
+    Folderbtn = named(new QPushButton(tr("Choos&e..."), group), "Folderbtn");
+
+    auto *const grid = new QGridLayout;
+    grid->setSpacing(spacing);
+    grid->addWidget(Option1, 0, 0, 1, 3);
+    grid->addWidget(Option2, 1, 0);
+    grid->addWidget(Picture2, 1, 1);
+    grid->addWidget(LoadAvatarbtn, 1, 2);
+    grid->addWidget(Option3, 2, 0);
+    grid->addWidget(PolledPicturebox, 2, 1);
+    grid->addWidget(Folderbtn, 2, 2);
+    grid->setColumnStretch(1, 1);
+    QVBoxLayout *const column = columnOf(group);
+    column->addLayout(grid);
+    column->addWidget(note(tr("A picture can also be dropped here or pasted. Pictures that change end with NIMB-Chat; "
+                              "the picture is kept."),
+                           group));
+    return group;
+}
+
+void frmOptions::connectControls()
+{
+    connect(CmdOK, &QPushButton::clicked, this, &frmOptions::CmdOK_Click);
+    connect(Command1, &QPushButton::clicked, this, &frmOptions::reject);
+    connect(font_btn, &QPushButton::clicked, this, &frmOptions::font_btn_Click);
+    connect(LoadAvatarbtn, &QPushButton::clicked, this, &frmOptions::LoadAvatarbtn_Click);
+    connect(Folderbtn, &QPushButton::clicked, this, &frmOptions::Folderbtn_Click);
+    connect(PolledPicturebox, &QComboBox::activated, this, &frmOptions::PolledPicturebox_Click);
+}
+
+void frmOptions::Form_Load()
+{
+    const OptionControls now = m_values.Form_Load();
+    localbuzz->setChecked(now.localbuzz);
+    remotebuzz->setChecked(now.remotebuzz);
+    statusonprivate->setChecked(now.statusonprivate);
+    PrivateDestroyonClose->setChecked(now.PrivateDestroyonClose);
+    DisableNotify->setChecked(now.DisableNotify);
+    disablelivetype->setChecked(now.disablelivetype);
+    (now.showontop ? showontop : showminimized)->setChecked(true);
+    XtoMinimizeCheck->setChecked(now.XtoMinimizeCheck);
+    UDPPorttxt->setText(now.UDPPorttxt);
+    m_font = now.font;
+    showFont();
+    avatarButton(now.avatar)->setChecked(true);
+    Picture2->setPicture(m_values.avatar());
+    if (const auto *const folder = std::get_if<PictureFolder>(&now.polled)) {
+        m_folder = folder->path;
+        PolledPicturebox->setCurrentIndex(folderPosition);
+    }
+    showFolder();
+}
+
+QRadioButton *frmOptions::avatarButton(AvatarChoice choice) const
+{
+    switch (choice) {
+    case AvatarChoice::none:
+        return Option1;
+    case AvatarChoice::still:
+        return Option2;
+    case AvatarChoice::polled:
+        return Option3;
+    }
+    return Option1;
+}
+
+OptionControls frmOptions::controls() const
+{
+    OptionControls now;
+    now.localbuzz = localbuzz->isChecked();
+    now.remotebuzz = remotebuzz->isChecked();
+    now.statusonprivate = statusonprivate->isChecked();
+    now.PrivateDestroyonClose = PrivateDestroyonClose->isChecked();
+    now.DisableNotify = DisableNotify->isChecked();
+    now.disablelivetype = disablelivetype->isChecked();
+    now.showontop = showontop->isChecked();
+    now.XtoMinimizeCheck = XtoMinimizeCheck->isChecked();
+    now.UDPPorttxt = UDPPorttxt->text();
+    now.font = m_font;
+    now.loaded = m_loadedPicture;
+    for (const AvatarChoice choice : {AvatarChoice::none, AvatarChoice::still, AvatarChoice::polled}) {
+        if (avatarButton(choice)->isChecked())
+            now.avatar = choice;
+    }
+    if (PolledPicturebox->currentIndex() == folderPosition)
+        now.polled = PictureFolder{m_folder};
+    return now;
+}
+
+void frmOptions::CmdOK_Click()
+{
+    if (const std::optional<QString> problem = m_values.CmdOK_Click(controls()))
+        return m_prompts.tell(*problem, windowTitle());
+    accept();
+}
+
+void frmOptions::font_btn_Click()
+{
+    auto *const dialog = new LogFontDialog(m_font, m_prompts, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] {
+        m_font = dialog->chosenFont();
+        showFont();
+    });
+    dialog->QDialog::open();
+}
+
+void frmOptions::showFont()
+{
+    QString text = tr("%1, %2 points").arg(m_font.face).arg(m_font.size);
+    m_fontSample->setFont(fontOf(m_font));
+    m_fontSample->setText(text);
+    m_fontSample->setToolTip(text);
+}
+
+void frmOptions::LoadAvatarbtn_Click()
+{
+    askForFile(*this, tr("Images (*.jpg,*.gif,*.bmp)") + QLatin1String(" (*.jpg *.gif *.bmp)"),
+               [this](const QString &path) { takePicture(readPictureFile(path)); });
+}
+
+void frmOptions::takePicture(const ReadPicture &read)
+{
+    if (const auto *const problem = std::get_if<QString>(&read))
+        return m_prompts.tell(*problem, windowTitle());
+    m_loadedPicture = avatarBody(std::get<QImage>(read));
+    Picture2->setPicture(m_loadedPicture);
+    Option2->setChecked(true);
+}
+
+bool frmOptions::takePicture(const QMimeData &given)
+{
+    // Files first: what a file manager copies comes with a picture of its icon as well.
+    if (const QString file = fileOf(given); !file.isEmpty())
+        takePicture(readPictureFile(file));
+    else if (given.hasImage())
+        takePicture(checkPicture(qvariant_cast<QImage>(given.imageData())));
+    else
+        return false;
+    return true;
+}
+
+void frmOptions::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasImage() || !fileOf(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void frmOptions::dropEvent(QDropEvent *event)
+{
+    if (takePicture(*event->mimeData()))
+        event->acceptProposedAction();
+}
+
+/// The port's box takes texts that are pasted into it for itself.
+void frmOptions::keyPressEvent(QKeyEvent *event)
+{
+    const QMimeData *const pasted
+        = event->matches(QKeySequence::Paste) ? QGuiApplication::clipboard()->mimeData() : nullptr;
+    if (!pasted || !takePicture(*pasted))
+        QDialog::keyPressEvent(event);
+}
+
+void frmOptions::PolledPicturebox_Click()
+{
+    Option3->setChecked(true);
+    showFolder();
+    if (PolledPicturebox->currentIndex() == folderPosition && m_folder.isEmpty())
+        Folderbtn_Click();
+}
+
+void frmOptions::Folderbtn_Click()
+{
+    askForFolder(*this, m_folder, [this](const QString &path) {
+        m_folder = path;
+        Option3->setChecked(true);
+        showFolder();
+    });
+}
+
+void frmOptions::showFolder()
+{
+    Folderbtn->setEnabled(PolledPicturebox->currentIndex() == folderPosition);
+    PolledPicturebox->setToolTip(Folderbtn->isEnabled() ? QDir::toNativeSeparators(m_folder) : QString());
+}
+
+} // namespace nimb

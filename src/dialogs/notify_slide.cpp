@@ -1,0 +1,151 @@
+#include "dialogs/notify_slide.h"
+
+#include "core/limits.h"
+#include "core/twips.h"
+
+namespace nimb
+{
+namespace
+{
+
+using namespace std::chrono_literals;
+
+// All in twips.
+constexpr std::int32_t distanceFromRight = 120, distanceFromBottom = 240;
+constexpr std::int32_t parkedBelowScreen = 120;
+constexpr std::int32_t step = 20;
+
+} // namespace
+
+void NotifyRows::add(const Notification &notification)
+{
+    if (rowCount() >= limits::notifications) {
+        beginRemoveRows({}, 0, 0);
+        m_rows.erase(m_rows.begin());
+        endRemoveRows();
+    }
+    beginInsertRows({}, rowCount(), rowCount());
+    m_rows.push_back(notification);
+    endInsertRows();
+}
+
+void NotifyRows::clear()
+{
+    beginResetModel();
+    m_rows.clear();
+    endResetModel();
+}
+
+int NotifyRows::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+QVariant NotifyRows::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const Notification &row = m_rows[static_cast<std::size_t>(index.row())];
+    switch (role) {
+    case Qt::DisplayRole:
+        return row.text;
+    case TagRole:
+        return row.ip;
+    case PictureRole:
+        return pictureKey(row.picture);
+    default:
+        return {};
+    }
+}
+
+NotifySlide::NotifySlide(const Common &common, Timers &timers)
+    : m_common(common), m_timerShow(timers.repeating(10ms, [this] { TimerShow_Timer(); })),
+      m_timerNotify(timers.oneShot(5000ms, [this] { TimerNotify_Timer(); }))
+{
+}
+
+void NotifySlide::Form_Load(NotifyView &view)
+{
+    m_view = &view;
+    park();
+}
+
+void NotifySlide::Form_Unload()
+{
+    m_timerShow->stop();
+    m_timerNotify->stop();
+    m_view = nullptr;
+}
+
+void NotifySlide::add(const Notification &notification)
+{
+    m_list.add(notification);
+}
+
+void NotifySlide::startTimer()
+{
+    // A timer that is started anew with every event would never fire in a flood of them.
+    if (m_view && !m_timerShow->isActive())
+        m_timerShow->start();
+}
+
+void NotifySlide::TimerShow_Timer()
+{
+    if (m_common.options.NotifyWin != 1) {
+        m_timerShow->stop();
+        return m_list.clear();
+    }
+    const NotifyView::Measures now = m_view->measures();
+    m_left = now.screenWidth - now.windowWidth - distanceFromRight;
+    if (m_top > now.screenHeight - now.windowHeight - distanceFromBottom) {
+        m_top -= step;
+    } else {
+        m_timerShow->stop();
+        m_timerNotify->start();
+    }
+    move();
+}
+
+void NotifySlide::TimerNotify_Timer()
+{
+    // What has come in the last moment is about to start the five seconds anew.
+    if (m_timerShow->isActive() && m_common.options.NotifyWin == 1)
+        return;
+    m_list.clear();
+    park();
+}
+
+void NotifySlide::closebtn_Click()
+{
+    m_timerShow->stop();
+    m_timerNotify->stop();
+    m_list.clear();
+    park();
+}
+
+void NotifySlide::screenChanged()
+{
+    if (!m_view || m_timerShow->isActive())
+        return;
+    if (!m_timerNotify->isActive())
+        return park();
+    const NotifyView::Measures now = m_view->measures();
+    m_left = now.screenWidth - now.windowWidth - distanceFromRight;
+    m_top = now.screenHeight - now.windowHeight - distanceFromBottom;
+    move();
+}
+
+void NotifySlide::park()
+{
+    const NotifyView::Measures now = m_view->measures();
+    m_left = now.screenWidth - now.windowWidth - distanceFromRight;
+    m_top = now.screenHeight + parkedBelowScreen;
+    move();
+}
+
+void NotifySlide::move()
+{
+    m_view->SetWindowPos(wholePixels(m_left), wholePixels(m_top));
+}
+
+} // namespace nimb

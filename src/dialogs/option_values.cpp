@@ -1,0 +1,102 @@
+#include "dialogs/option_values.h"
+
+#include "core/avatar.h"
+
+namespace nimb
+{
+namespace
+{
+
+/// 1 is the only value with a meaning of its own, so every other one shows as its opposite.
+bool tickedUnlessOne(std::int16_t option)
+{
+    return option != 1;
+}
+
+std::int16_t oneUnlessTicked(bool ticked)
+{
+    return ticked ? 0 : 1;
+}
+
+/// Nothing when it is no whole number from 1 to 65535.
+std::optional<std::uint16_t> portOf(const QString &text)
+{
+    bool isNumber = false;
+    const ushort port = text.trimmed().toUShort(&isNumber);
+    return isNumber && port > 0 ? std::optional(port) : std::nullopt;
+}
+
+} // namespace
+
+OptionControls OptionValues::Form_Load() const
+{
+    const Options &options = m_common.options;
+    OptionControls controls;
+    controls.localbuzz = tickedUnlessOne(options.BuzzLocal);
+    controls.remotebuzz = tickedUnlessOne(options.BuzzRemote);
+    controls.statusonprivate = tickedUnlessOne(options.ShowStatusOnPrivate);
+    controls.PrivateDestroyonClose = tickedUnlessOne(options.DontDestroyWindow);
+    controls.DisableNotify = tickedUnlessOne(options.NotifyWin);
+    controls.disablelivetype = tickedUnlessOne(options.LiveType);
+    controls.showontop = options.PrivateBehaviour == 1;
+    controls.XtoMinimizeCheck = options.CloseButtonDoesMinimize == 1;
+    controls.UDPPorttxt = QString::number(m_common.udpPort);
+    controls.font = m_common.logFont;
+    controls.avatar = m_common.avatarHead.isEmpty() ? AvatarChoice::none : AvatarChoice::still;
+    if (const std::optional<PolledPicture> polled = m_ownAvatar.source()) {
+        controls.avatar = AvatarChoice::polled;
+        controls.polled = *polled;
+    }
+    return controls;
+}
+
+std::optional<QString> OptionValues::CmdOK_Click(const OptionControls &controls)
+{
+    const std::optional<std::uint16_t> port = portOf(controls.UDPPorttxt);
+    if (!port)
+        return tr("The port must be a number from 1 to 65535.");
+    if (controls.avatar == AvatarChoice::polled && m_ownAvatar.source() != controls.polled) {
+        std::unique_ptr<PictureSource> source = m_sources.open(controls.polled);
+        // Some know only by trying that they cannot work.
+        source->frame();
+        if (const std::optional<QString> problem = source->problem())
+            return problem;
+        m_ownAvatar.setSource(std::move(source));
+    }
+    takeFlags(controls);
+    m_common.udpPort = *port;
+    m_common.logFont = controls.font;
+    takeAvatar(controls);
+    return std::nullopt;
+}
+
+void OptionValues::takeFlags(const OptionControls &controls)
+{
+    Options &options = m_common.options;
+    options.BuzzLocal = oneUnlessTicked(controls.localbuzz);
+    options.BuzzRemote = oneUnlessTicked(controls.remotebuzz);
+    options.ShowStatusOnPrivate = oneUnlessTicked(controls.statusonprivate);
+    options.DontDestroyWindow = oneUnlessTicked(controls.PrivateDestroyonClose);
+    options.NotifyWin = oneUnlessTicked(controls.DisableNotify);
+    options.LiveType = oneUnlessTicked(controls.disablelivetype);
+    options.PrivateBehaviour = controls.showontop ? 1 : 0;
+    options.CloseButtonDoesMinimize = controls.XtoMinimizeCheck ? 1 : 0;
+}
+
+void OptionValues::takeAvatar(const OptionControls &controls)
+{
+    if (controls.avatar == AvatarChoice::polled)
+        return; // the still avatar waits behind it
+    m_ownAvatar.setSource(nullptr);
+    if (controls.avatar == AvatarChoice::none) {
+        m_common.avatarHead.clear();
+        m_common.avatarBody.clear();
+        return;
+    }
+    if (controls.loaded.size() != avatarBytes)
+        return; // the one that is there stays, with its time
+    m_common.avatarHead = m_clock.now().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    m_common.avatarBody = controls.loaded;
+}
+
+} // namespace nimb

@@ -1,0 +1,63 @@
+// The options dialog's rules: what its controls say about the options, and the other way round.
+#pragma once
+
+#include "core/Common.h"
+#include "core/picture_source.h"
+#include "core/timers.h"
+#include "private/own_avatar.h"
+
+#include <QCoreApplication>
+
+#include <optional>
+
+namespace nimb
+{
+
+enum class AvatarChoice { none, still, polled };
+
+/// What stands in the dialog's controls. Most boxes switch something off, while the options say what is on.
+struct OptionControls {
+    bool localbuzz = false;             ///< no sound with own buzzes
+    bool remotebuzz = false;            ///< no sound with received ones
+    bool statusonprivate = false;       ///< no presence lines in private windows
+    bool PrivateDestroyonClose = false; ///< a closed private window is only hidden
+    bool DisableNotify = false;         ///< no pop-up
+    bool disablelivetype = false;       ///< live typing is off in new private windows
+    bool showontop = false;             ///< a private window that a peer opens comes on top; otherwise minimised
+    bool XtoMinimizeCheck = false;      ///< the main window's close box hides it
+    QString UDPPorttxt;
+    LogFont font;
+    AvatarChoice avatar = AvatarChoice::none;
+    QByteArray loaded; ///< a picture that was loaded in this dialog, avatarBytes bytes, or none
+    PolledPicture polled;
+};
+
+/// The engine half of frmOptions.
+class OptionValues
+{
+    Q_DECLARE_TR_FUNCTIONS(OptionValues)
+
+public:
+    OptionValues(Common &common, OwnAvatar &ownAvatar, PictureSources &sources, const WallClock &clock)
+        : m_common(common), m_ownAvatar(ownAvatar), m_sources(sources), m_clock(clock)
+    {
+    }
+
+    OptionControls Form_Load() const;
+    /// The still avatar, for the dialog to show; avatarBytes bytes, or none.
+    const QByteArray &avatar() const { return m_common.avatarBody; }
+    /// Takes everything, or nothing: then the sentence says what the user is to correct. The port is that of the next
+    /// start.
+    std::optional<QString> CmdOK_Click(const OptionControls &controls);
+
+private:
+    void takeFlags(const OptionControls &controls);
+    void takeAvatar(const OptionControls &controls);
+
+    Common &m_common;
+    OwnAvatar &m_ownAvatar;
+    PictureSources &m_sources;
+    const WallClock &m_clock;
+};
+
+} // namespace nimb

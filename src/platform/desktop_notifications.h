@@ -1,0 +1,55 @@
+// Notifications that the desktop shows, where the program cannot place windows of its own.
+#pragma once
+
+#include "core/Common.h"
+#include "core/notifications.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QObject>
+
+#include <functional>
+#include <vector>
+
+namespace nimb
+{
+
+/// Speaks to org.freedesktop.Notifications on the session bus. One notification at a time: while it stands, what is
+/// new is added to it. Never waits; without such a service nothing is shown.
+class DesktopNotifications : public QObject, public Notifications
+{
+    Q_OBJECT
+
+public:
+    DesktopNotifications(const Common &common, const QDBusConnection &bus);
+    /// True where windows stand where the desktop puts them. Needs the application object.
+    static bool areNeeded();
+
+    /// The notification was clicked; ip: the contact that the newest row is about.
+    std::function<void(const QString &ip)> contactWanted;
+
+    void add(const Notification &notification) override;
+    void startTimer() override;
+
+private Q_SLOTS:
+    void actionInvoked(uint id, const QString &action);
+    void notificationClosed(uint id, uint reason);
+
+private:
+    enum class Exchange { idle, pending, pendingAgain };
+
+    void askForCapabilities();
+    void show();
+    void shown(bool accepted, uint id);
+    QString body() const;
+
+    const Common &m_common;
+    QDBusConnection m_bus;
+    std::vector<Notification> m_rows; ///< of the notification, the oldest first
+    uint m_id = 0;                    ///< as the service numbers it; 0 when none stands
+    Exchange m_exchange = Exchange::idle;
+    bool m_knowsCapabilities = false;
+    bool m_bodyIsMarkup = false;
+};
+
+} // namespace nimb

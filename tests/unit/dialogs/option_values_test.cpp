@@ -1,0 +1,199 @@
+#include "copy.h"
+
+#include "dialogs/option_values.h"
+
+namespace nimb::test
+{
+namespace
+{
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class OptionValuesTest : public testing::Test
+{
+protected:
+    OptionValuesTest() { copy.settleStart({"10.0.0.2"}); }
+
+    /// What the peer hears when it asks for the avatar.
+    std::vector<To> answers()
+    {
+        copy.sent();
+        copy.arrive("10.0.0.2", "?AVATARHEAD");
+        return copy.sent();
+    }
+    Options &options() { return copy.common.options; }
+
+    Copy copy{{.contacts = {{QStringLiteral("10.0.0.2"), QStringLiteral("Ann")}}}};
+    RecorderPictureSources sources;
+    OptionValues values{copy.common, copy.engine.ownAvatar(), sources, *copy.time};
+};
+
+TEST_F(OptionValuesTest, DefaultsShowAsTheBoxesThatSwitchThemOff)
+{
+    const OptionControls controls = values.Form_Load();
+    EXPECT_TRUE(controls.localbuzz); // off by default
+    EXPECT_FALSE(controls.remotebuzz);
+    EXPECT_FALSE(controls.statusonprivate);
+    EXPECT_TRUE(controls.PrivateDestroyonClose); // closed windows are kept by default
+    EXPECT_FALSE(controls.DisableNotify);
+    EXPECT_FALSE(controls.disablelivetype);
+    EXPECT_FALSE(controls.showontop);
+    EXPECT_FALSE(controls.XtoMinimizeCheck);
+    EXPECT_EQ(controls.UDPPorttxt, QStringLiteral("5549"));
+    EXPECT_EQ(controls.avatar, AvatarChoice::none);
+    EXPECT_EQ(controls.font, LogFont());
+}
+
+TEST_F(OptionValuesTest, EveryBoxIsTheInverseOfItsOptionExceptTheCloseBoxAndTheWayToShow)
+{
+    OptionControls controls = values.Form_Load();
+    controls.localbuzz = controls.remotebuzz = controls.statusonprivate = true;
+    controls.PrivateDestroyonClose = controls.DisableNotify = controls.disablelivetype = true;
+    controls.showontop = controls.XtoMinimizeCheck = true;
+    EXPECT_FALSE(values.CmdOK_Click(controls));
+    EXPECT_EQ(options().BuzzLocal, 0);
+    EXPECT_EQ(options().BuzzRemote, 0);
+    EXPECT_EQ(options().ShowStatusOnPrivate, 0);
+    EXPECT_EQ(options().DontDestroyWindow, 0);
+    EXPECT_EQ(options().NotifyWin, 0);
+    EXPECT_EQ(options().LiveType, 0);
+    EXPECT_EQ(options().PrivateBehaviour, 1);
+    EXPECT_EQ(options().CloseButtonDoesMinimize, 1);
+    controls.localbuzz = controls.remotebuzz = controls.statusonprivate = false;
+    controls.PrivateDestroyonClose = controls.DisableNotify = controls.disablelivetype = false;
+    controls.showontop = controls.XtoMinimizeCheck = false;
+    EXPECT_FALSE(values.CmdOK_Click(controls));
+    EXPECT_EQ(options().BuzzLocal, 1);
+    EXPECT_EQ(options().BuzzRemote, 1);
+    EXPECT_EQ(options().ShowStatusOnPrivate, 1);
+    EXPECT_EQ(options().DontDestroyWindow, 1);
+    EXPECT_EQ(options().NotifyWin, 1);
+    EXPECT_EQ(options().LiveType, 1);
+    EXPECT_EQ(options().PrivateBehaviour, 0);
+    EXPECT_EQ(options().CloseButtonDoesMinimize, 0);
+}
+
+TEST_F(OptionValuesTest, WhatIsNeitherZeroNorOneShowsAsItBehaves)
+{
+    options().BuzzRemote = 7;
+    options().DontDestroyWindow = -1;
+    options().PrivateBehaviour = 2;
+    options().CloseButtonDoesMinimize = -1;
+    const OptionControls controls = values.Form_Load();
+    EXPECT_TRUE(controls.remotebuzz);
+    EXPECT_TRUE(controls.PrivateDestroyonClose);
+    EXPECT_FALSE(controls.showontop);
+    EXPECT_FALSE(controls.XtoMinimizeCheck);
+}
+
+TEST_F(OptionValuesTest, ThePortIsThatOfTheNextStart)
+{
+    OptionControls controls = values.Form_Load();
+    for (const auto &[text, port] : {std::pair("1", 1), {"65535", 65535}, {" 6000 ", 6000}, {"05549", 5549}}) {
+        controls.UDPPorttxt = QLatin1String(text);
+        EXPECT_FALSE(values.CmdOK_Click(controls)) << text;
+        EXPECT_EQ(copy.common.udpPort, port);
+    }
+    EXPECT_EQ(copy.socket.localPort, 5549);
+}
+
+TEST_F(OptionValuesTest, APortThatIsNoneIsSaidAndNothingIsTaken)
+{
+    OptionControls controls = values.Form_Load();
+    controls.DisableNotify = true;
+    controls.avatar = AvatarChoice::still;
+    controls.loaded = QByteArray(7500, 'a');
+    for (const char *const text : {"", "0", "65536", "-1", "5549x", "5 549", "5549.5", "99999999999999999999"}) {
+        controls.UDPPorttxt = QLatin1String(text);
+        EXPECT_EQ(values.CmdOK_Click(controls), QStringLiteral("The port must be a number from 1 to 65535.")) << text;
+    }
+    EXPECT_EQ(copy.common.udpPort, 5549);
+    EXPECT_EQ(options().NotifyWin, 1);
+    EXPECT_EQ(copy.common.avatarHead, QString());
+}
+
+TEST_F(OptionValuesTest, TheChosenFontIsTaken)
+{
+    OptionControls controls = values.Form_Load();
+    controls.font = {QStringLiteral("DejaVu Serif"), 12, QStringLiteral("bi")};
+    values.CmdOK_Click(controls);
+    EXPECT_EQ(copy.common.logFont, controls.font);
+    EXPECT_EQ(values.Form_Load().font, controls.font);
+}
+
+TEST_F(OptionValuesTest, ALoadedPictureBecomesTheAvatarWithItsTime)
+{
+    OptionControls controls = values.Form_Load();
+    controls.avatar = AvatarChoice::still;
+    controls.loaded = QByteArray(7500, 'a');
+    values.CmdOK_Click(controls);
+    EXPECT_EQ(copy.common.avatarBody, QByteArray(7500, 'a'));
+    EXPECT_THAT(copy.common.avatarHead.toStdString(), HasSubstr("2026-11-21 14:05:1"));
+    EXPECT_THAT(answers(), ElementsAre(To{"10.0.0.2", "!AVATARHEAD " + copy.common.avatarHead.toStdString()}));
+    EXPECT_EQ(values.Form_Load().avatar, AvatarChoice::still);
+}
+
+TEST_F(OptionValuesTest, AnAvatarThatIsLeftAloneKeepsItsTime)
+{
+    copy.common.avatarHead = QStringLiteral("long ago");
+    copy.common.avatarBody = QByteArray(7500, 'o');
+    values.CmdOK_Click(values.Form_Load());
+    EXPECT_EQ(copy.common.avatarHead, QStringLiteral("long ago"));
+    EXPECT_EQ(copy.common.avatarBody, QByteArray(7500, 'o'));
+}
+
+TEST_F(OptionValuesTest, WithoutAPictureLoadedThereIsStillNoAvatar)
+{
+    OptionControls controls = values.Form_Load();
+    controls.avatar = AvatarChoice::still;
+    values.CmdOK_Click(controls);
+    EXPECT_EQ(copy.common.avatarHead, QString());
+}
+
+TEST_F(OptionValuesTest, NoAvatarEmptiesHeadAndPicture)
+{
+    copy.common.avatarHead = QStringLiteral("long ago");
+    copy.common.avatarBody = QByteArray(7500, 'o');
+    OptionControls controls = values.Form_Load();
+    EXPECT_EQ(controls.avatar, AvatarChoice::still);
+    controls.avatar = AvatarChoice::none;
+    values.CmdOK_Click(controls);
+    EXPECT_EQ(copy.common.avatarHead, QString());
+    EXPECT_TRUE(copy.common.avatarBody.isEmpty());
+    EXPECT_THAT(answers(), ElementsAre(To{"10.0.0.2", "!AVATAROFF"}));
+}
+
+TEST_F(OptionValuesTest, APolledPictureStandsInForTheStillOne)
+{
+    copy.common.avatarHead = QStringLiteral("long ago");
+    copy.common.avatarBody = QByteArray(7500, 'o');
+    OptionControls controls = values.Form_Load();
+    controls.avatar = AvatarChoice::polled;
+    controls.polled = PictureFolder{QStringLiteral("/pictures")};
+    EXPECT_FALSE(values.CmdOK_Click(controls));
+    EXPECT_THAT(answers(), ElementsAre(testing::Field(&To::bytes, testing::StartsWith("!AVATARHEAD WEBCAM"))));
+    EXPECT_EQ(copy.common.avatarHead, QStringLiteral("long ago"));
+    controls = values.Form_Load();
+    EXPECT_EQ(controls.avatar, AvatarChoice::polled);
+    EXPECT_EQ(controls.polled, PolledPicture(PictureFolder{QStringLiteral("/pictures")}));
+    EXPECT_FALSE(values.CmdOK_Click(controls));
+    EXPECT_EQ(sources.opened, 1) << "one that runs already is not opened again";
+    controls.avatar = AvatarChoice::still;
+    values.CmdOK_Click(controls);
+    EXPECT_THAT(answers(), ElementsAre(To{"10.0.0.2", "!AVATARHEAD long ago"}));
+}
+
+TEST_F(OptionValuesTest, ASourceThatCannotWorkIsSaidAndNothingIsTaken)
+{
+    sources.problem = QStringLiteral("There is no camera.");
+    OptionControls controls = values.Form_Load();
+    controls.avatar = AvatarChoice::polled;
+    controls.remotebuzz = true;
+    EXPECT_EQ(values.CmdOK_Click(controls), QStringLiteral("There is no camera."));
+    EXPECT_EQ(options().BuzzRemote, 1);
+    EXPECT_EQ(values.Form_Load().avatar, AvatarChoice::none);
+}
+
+} // namespace
+} // namespace nimb::test
