@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
+#include <QLineEdit>
 
 namespace nimb
 {
@@ -17,6 +18,9 @@ LogFontDialog::LogFontDialog(const LogFont &preset, Prompts &prompts, QWidget *p
     setOption(QFontDialog::DontUseNativeDialog);
     setCurrentFont(fontOf(preset));
     hideEffects();
+    // Beside the effects the sample had its height from them.
+    if (auto *const sample = findChild<QLineEdit *>(QStringLiteral("qt_fontDialog_sampleEdit")))
+        sample->setMinimumHeight(3 * fontMetrics().height());
 }
 
 /// Underlined and struck-out logs are not stored.

@@ -80,6 +80,8 @@ void frmNotify::buildControls()
     rows->setSourceModel(&m_slide.list());
     ListViewNotify->setModel(rows);
     ListViewNotify->setHeaderHidden(true);
+    // What happened stands behind the name.
+    ListViewNotify->setTextElideMode(Qt::ElideMiddle);
     ListViewNotify->setRootIsDecorated(false);
     ListViewNotify->setUniformRowHeights(true);
     ListViewNotify->setIconSize(QSize(pictureSide, pictureSide));

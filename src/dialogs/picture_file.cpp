@@ -22,6 +22,7 @@ const char *const tooLarge = QT_TRANSLATE_NOOP("PictureFile",
                                                "This picture has more than 50 megapixels. Choose a "
                                                "smaller one.");
 const char *const damaged = QT_TRANSLATE_NOOP("PictureFile", "This picture is damaged.");
+const char *const unknownSize = QT_TRANSLATE_NOOP("PictureFile", "This picture is damaged, or far too large.");
 const char *const noPicture = QT_TRANSLATE_NOOP("PictureFile", "This is no picture that NIMB-Chat can read.");
 
 bool isTooLarge(const QSize &size)
@@ -97,10 +98,14 @@ ReadPicture readPicture(QIODevice &source)
     const QByteArray format = reader.format();
     if (format.isEmpty())
         return sentence(noPicture);
-    if (isTooLarge(reader.size()))
+    const QSize size = reader.size();
+    if (isTooLarge(size))
         return sentence(tooLarge);
     watched.forget();
     const QImage picture = reader.read();
+    // Some of Qt's readers take no header with more than 16384 pixels a side.
+    if (picture.isNull() && !size.isValid())
+        return sentence(unknownSize);
     if (picture.isNull() || endedTooEarly(watched, format))
         return sentence(damaged);
     return checkPicture(picture);

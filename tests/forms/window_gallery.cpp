@@ -229,6 +229,31 @@ QWidget &topLevel(const char *name)
     qFatal("no window %s", name);
 }
 
+void takeNotify(Gallery &gallery)
+{
+    RealWindows windows(everybody);
+    fill(windows);
+    windows.arrive("192.168.1.99", "!ONLINE 192.168.1.99 PC Frank (basement)");
+    windows.arrive("192.168.1.31", "!OFFLINE");
+    windows.arrive("192.168.1.20", "!OFFLINE");
+    windows.time.advance(std::chrono::milliseconds(2000));
+    gallery.take(topLevel("frmNotify"), "notify");
+}
+
+void takeOptions(Gallery &gallery)
+{
+    RealWindows windows(everybody);
+    const std::string picture = landscape();
+    windows.common.avatarHead = QStringLiteral("today");
+    windows.common.avatarBody = QByteArray(picture.data(), static_cast<qsizetype>(picture.size()));
+    windows.common.logFont = {QStringLiteral("DejaVu Serif"), 11, QStringLiteral("i")};
+    windows.entry("mnuToolsOptions").trigger();
+    QWidget &options = topLevel("frmOptions");
+    gallery.take(options, "options");
+    RealWindows::control<QPushButton>(options, "font_btn").click();
+    gallery.take(topLevel("font_dialog"), "options_font");
+}
+
 void takeConference(Gallery &gallery)
 {
     RealWindows windows(everybody);
@@ -321,6 +346,8 @@ int main(int argc, char *argv[])
     nimb::test::takePrivate(gallery);
     nimb::test::takePrivatePanels(gallery);
     nimb::test::takeConference(gallery);
+    nimb::test::takeNotify(gallery);
+    nimb::test::takeOptions(gallery);
     nimb::test::takeMessageBox(gallery);
     return 0;
 }

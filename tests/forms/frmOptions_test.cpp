@@ -1,0 +1,340 @@
+#include "dialogs/font_dialog.h"
+#include "private/avatar_picture.h"
+#include "real_windows.h"
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTemporaryDir>
+
+namespace nimb::test
+{
+namespace
+{
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class FrmOptions : public testing::Test
+{
+protected:
+    ~FrmOptions() override { QGuiApplication::clipboard()->clear(); }
+
+    /// The dialog, opened by its menu entry where it is not open.
+    QDialog &dialog()
+    {
+        if (QDialog *const open = find())
+            return *open;
+        windows.entry("mnuToolsOptions").trigger();
+        return *find();
+    }
+    QDialog *find() { return windows.main().findChild<QDialog *>(QStringLiteral("frmOptions")); }
+    bool isOpen()
+    {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return find() && find()->isVisible();
+    }
+    template <class Widget> Widget &control(const char *name) { return RealWindows::control<Widget>(dialog(), name); }
+    QCheckBox &box(const char *name) { return control<QCheckBox>(name); }
+    void click(const char *button)
+    {
+        // At its beginning: behind its caption a box does not feel the pointer.
+        auto &clicked = control<QAbstractButton>(button);
+        QTest::mouseClick(&clicked, Qt::LeftButton, {}, QPoint(10, clicked.height() / 2));
+    }
+    bool hasPicture() { return control<AvatarPicture>("Picture2").hasPicture(); }
+    Options &options() { return windows.common.options; }
+
+    static QImage plain(int width, int height, const QColor &colour)
+    {
+        QImage image(width, height, QImage::Format_RGB32);
+        image.fill(colour);
+        return image;
+    }
+    /// A file dialog stands over the options; it takes this file.
+    void choose(const QString &path)
+    {
+        auto *const files = dialog().findChild<QFileDialog *>();
+        ASSERT_TRUE(files);
+        files->setDirectory(QFileInfo(path).path());
+        files->selectFile(path);
+        static_cast<QDialog *>(files)->accept();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    QTemporaryDir folder;
+    RealWindows windows{{{"10.0.0.2", "Ann"}}};
+};
+
+TEST_F(FrmOptions, ShowsTheOptionsAsTheyAre)
+{
+    EXPECT_TRUE(box("localbuzz").isChecked());
+    for (const char *const name :
+         {"remotebuzz", "statusonprivate", "DisableNotify", "disablelivetype", "XtoMinimizeCheck"})
+        EXPECT_FALSE(box(name).isChecked()) << name;
+    EXPECT_TRUE(box("PrivateDestroyonClose").isChecked());
+    EXPECT_TRUE(control<QRadioButton>("showminimized").isChecked());
+    EXPECT_TRUE(control<QRadioButton>("Option1").isChecked());
+    EXPECT_EQ(control<QLineEdit>("UDPPorttxt").text(), QStringLiteral("5549"));
+    EXPECT_FALSE(hasPicture());
+}
+
+TEST_F(FrmOptions, OkTakesWhatWasClicked)
+{
+    for (const char *const name : {"localbuzz", "remotebuzz", "statusonprivate", "PrivateDestroyonClose",
+                                   "DisableNotify", "disablelivetype", "showontop", "XtoMinimizeCheck"})
+        click(name);
+    control<QLineEdit>("UDPPorttxt").setText(QString());
+    QTest::keyClicks(&control<QLineEdit>("UDPPorttxt"), QStringLiteral("6001"));
+    QTest::keyClick(&control<QLineEdit>("UDPPorttxt"), Qt::Key_Return);
+    EXPECT_FALSE(isOpen());
+    EXPECT_EQ(options().BuzzLocal, 1);
+    EXPECT_EQ(options().BuzzRemote, 0);
+    EXPECT_EQ(options().ShowStatusOnPrivate, 0);
+    EXPECT_EQ(options().DontDestroyWindow, 1);
+    EXPECT_EQ(options().NotifyWin, 0);
+    EXPECT_EQ(options().LiveType, 0);
+    EXPECT_EQ(options().PrivateBehaviour, 1);
+    EXPECT_EQ(options().CloseButtonDoesMinimize, 1);
+    EXPECT_EQ(windows.common.udpPort, 6001);
+}
+
+TEST_F(FrmOptions, CancelTheEscapeKeyAndTheCloseBoxChangeNothing)
+{
+    for (int way = 0; way < 3; ++way) {
+        click("DisableNotify");
+        click("showontop");
+        control<QLineEdit>("UDPPorttxt").setText(QStringLiteral("6001"));
+        if (way == 0)
+            click("Command1");
+        else if (way == 1)
+            QTest::keyClick(&dialog(), Qt::Key_Escape);
+        else
+            dialog().close();
+        EXPECT_FALSE(isOpen()) << way;
+        EXPECT_EQ(options().NotifyWin, 1);
+        EXPECT_EQ(options().PrivateBehaviour, 0);
+        EXPECT_EQ(windows.common.udpPort, 5549);
+    }
+}
+
+TEST_F(FrmOptions, AWrongPortIsSaidAndTheDialogStays)
+{
+    control<QLineEdit>("UDPPorttxt").setText(QStringLiteral("70000"));
+    click("DisableNotify");
+    click("CmdOK");
+    EXPECT_TRUE(isOpen());
+    EXPECT_THAT(windows.prompts.told, ElementsAre("NIMB-Chat - Options: The port must be a number from 1 to 65535."));
+    EXPECT_EQ(options().NotifyWin, 1);
+    EXPECT_EQ(control<QLineEdit>("UDPPorttxt").text(), QStringLiteral("70000"));
+}
+
+TEST_F(FrmOptions, SaysThatThePortIsThatOfTheNextStart)
+{
+    QStringList texts;
+    for (const QLabel *const label : dialog().findChildren<QLabel *>())
+        texts.append(label->text());
+    EXPECT_TRUE(texts.contains(QStringLiteral("A change takes effect at the next start.")));
+}
+
+TEST_F(FrmOptions, ChangesAreSavedAtTheEnd)
+{
+    click("DisableNotify");
+    click("CmdOK");
+    windows.main().unload(UnloadMode::code);
+    EXPECT_EQ(windows.settings.value("Options", "NotifyWin"), "0");
+}
+
+TEST_F(FrmOptions, AFontIsTakenWithOk)
+{
+    windows.common.logFont = {QStringLiteral("DejaVu Sans"), 9, QStringLiteral("b")};
+    click("font_btn");
+    auto *const fonts = dialog().findChild<LogFontDialog *>();
+    ASSERT_TRUE(fonts);
+    EXPECT_EQ(fonts->currentFont().pointSize(), 9);
+    EXPECT_TRUE(fonts->currentFont().bold());
+    EXPECT_FALSE(fonts->currentFont().italic());
+    fonts->setCurrentFont(QFont(QStringLiteral("DejaVu Sans"), 14, QFont::Bold, true));
+    fonts->accept();
+    EXPECT_EQ(windows.common.logFont.size, 9) << "not before OK";
+    click("CmdOK");
+    EXPECT_EQ(windows.common.logFont.size, 14);
+    EXPECT_EQ(windows.common.logFont.style, QStringLiteral("bi"));
+    EXPECT_EQ(windows.common.logFont.face, QStringLiteral("DejaVu Sans"));
+}
+
+TEST_F(FrmOptions, ACancelledFontChangesNothing)
+{
+    click("font_btn");
+    auto *const fonts = dialog().findChild<LogFontDialog *>();
+    QFont font = fonts->currentFont();
+    font.setPointSize(20);
+    fonts->setCurrentFont(font);
+    fonts->reject();
+    click("CmdOK");
+    EXPECT_EQ(windows.common.logFont, LogFont());
+}
+
+TEST_F(FrmOptions, AFontSizeOutsideItsRangeKeepsTheFontDialogOpen)
+{
+    for (const int size : {5, 25}) {
+        click("font_btn");
+        auto *const fonts = dialog().findChild<LogFontDialog *>();
+        QFont font = fonts->currentFont();
+        font.setPointSize(size);
+        fonts->setCurrentFont(font);
+        fonts->accept();
+        EXPECT_TRUE(fonts->isVisible()) << size;
+        fonts->reject();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    EXPECT_THAT(windows.prompts.told,
+                ElementsAre("Font of the logs: The size must be from 6 to 24 points.",
+                            "Font of the logs: The size must be from 6 to 24 points."));
+}
+
+TEST_F(FrmOptions, ALoadedPictureIsShownAndBecomesTheAvatar)
+{
+    const QString path = folder.filePath(QStringLiteral("red.bmp"));
+    plain(300, 100, QColor(200, 10, 20)).save(path);
+    click("LoadAvatarbtn");
+    auto *const files = dialog().findChild<QFileDialog *>();
+    ASSERT_TRUE(files);
+    EXPECT_EQ(files->windowTitle(), QStringLiteral("Open"));
+    EXPECT_TRUE(files->nameFilters().front().startsWith(QStringLiteral("Images (*.jpg,*.gif,*.bmp)")));
+    choose(path);
+    EXPECT_TRUE(hasPicture());
+    EXPECT_TRUE(control<QRadioButton>("Option2").isChecked());
+    EXPECT_EQ(windows.common.avatarBody.size(), 0) << "not before OK";
+    click("CmdOK");
+    ASSERT_EQ(windows.common.avatarBody.size(), 7500);
+    // Blue, green, red: the most significant byte first.
+    EXPECT_EQ(windows.common.avatarBody.left(3), QByteArray("\x14\x0a\xc8"));
+    EXPECT_EQ(windows.common.avatarBody.right(3), QByteArray("\x14\x0a\xc8"));
+    EXPECT_FALSE(windows.common.avatarHead.isEmpty());
+}
+
+TEST_F(FrmOptions, ADamagedPictureIsSaidAndTheAvatarStays)
+{
+    const QString path = folder.filePath(QStringLiteral("red.bmp"));
+    plain(300, 100, Qt::red).save(path);
+    QFile::resize(path, 2000);
+    click("LoadAvatarbtn");
+    choose(path);
+    EXPECT_THAT(windows.prompts.told, ElementsAre("NIMB-Chat - Options: This picture is damaged."));
+    EXPECT_FALSE(hasPicture());
+    EXPECT_TRUE(control<QRadioButton>("Option1").isChecked());
+}
+
+TEST_F(FrmOptions, ACancelledFileDialogChangesNothing)
+{
+    click("LoadAvatarbtn");
+    dialog().findChild<QFileDialog *>()->reject();
+    EXPECT_FALSE(hasPicture());
+    EXPECT_TRUE(control<QRadioButton>("Option1").isChecked());
+    EXPECT_THAT(windows.prompts.told, IsEmpty());
+}
+
+TEST_F(FrmOptions, APictureCanBePasted)
+{
+    auto *const data = new QMimeData; // the clipboard takes it over
+    data->setImageData(plain(10, 10, Qt::green));
+    QGuiApplication::clipboard()->setMimeData(data);
+    QTest::keySequence(&dialog(), QKeySequence::Paste);
+    EXPECT_TRUE(hasPicture());
+    click("CmdOK");
+    EXPECT_EQ(windows.common.avatarBody.left(3), QByteArray("\x00\xff\x00", 3));
+}
+
+TEST_F(FrmOptions, TextCanStillBePastedIntoThePort)
+{
+    QGuiApplication::clipboard()->setText(QStringLiteral("6002"));
+    control<QLineEdit>("UDPPorttxt").selectAll();
+    QTest::keySequence(&control<QLineEdit>("UDPPorttxt"), QKeySequence::Paste);
+    EXPECT_EQ(control<QLineEdit>("UDPPorttxt").text(), QStringLiteral("6002"));
+    QTest::keySequence(&dialog(), QKeySequence::Paste);
+    EXPECT_FALSE(hasPicture());
+    EXPECT_THAT(windows.prompts.told, IsEmpty());
+}
+
+TEST_F(FrmOptions, APictureOrItsFileCanBeDropped)
+{
+    const QString path = folder.filePath(QStringLiteral("blue.png"));
+    plain(60, 60, Qt::blue).save(path);
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(path)});
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&dialog(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&dialog(), &drop);
+    EXPECT_TRUE(hasPicture());
+    click("CmdOK");
+    EXPECT_EQ(windows.common.avatarBody.left(3), QByteArray("\xff\x00\x00", 3));
+}
+
+TEST_F(FrmOptions, WhatIsNoPictureIsNotTakenWhenDropped)
+{
+    QMimeData data;
+    data.setText(QStringLiteral("hello"));
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
+    enter.ignore();
+    QCoreApplication::sendEvent(&dialog(), &enter);
+    EXPECT_FALSE(enter.isAccepted());
+}
+
+TEST_F(FrmOptions, PicturesOfAFolderTakeTurnsUntilAnotherChoice)
+{
+    windows.settleStart({"10.0.0.2"});
+    plain(50, 50, Qt::red).save(folder.filePath(QStringLiteral("1.png")));
+    auto &kinds = control<QComboBox>("PolledPicturebox");
+    kinds.setCurrentIndex(1);
+    Q_EMIT kinds.activated(1);
+    EXPECT_TRUE(control<QRadioButton>("Option3").isChecked());
+    auto *const files = dialog().findChild<QFileDialog *>();
+    ASSERT_TRUE(files) << "a folder is asked for at once";
+    choose(folder.path());
+    click("CmdOK");
+    windows.sent();
+    windows.arrive("10.0.0.2", "?AVATARHEAD");
+    EXPECT_THAT(windows.sent(), ElementsAre(testing::Field(&To::bytes, HasSubstr("!AVATARHEAD WEBCAM"))));
+    EXPECT_TRUE(control<QRadioButton>("Option3").isChecked());
+    EXPECT_EQ(control<QComboBox>("PolledPicturebox").currentIndex(), 1);
+    click("Option1");
+    click("CmdOK");
+    windows.arrive("10.0.0.2", "?AVATARHEAD");
+    EXPECT_THAT(windows.sent(), ElementsAre(To{"10.0.0.2", "!AVATAROFF"}));
+}
+
+TEST_F(FrmOptions, ACameraThatIsNotThereIsSaidAndTheDialogStays)
+{
+    windows.pictures.problem = QStringLiteral("There is no camera.");
+    click("Option3");
+    click("CmdOK");
+    EXPECT_TRUE(isOpen());
+    EXPECT_THAT(windows.prompts.told, ElementsAre("NIMB-Chat - Options: There is no camera."));
+}
+
+TEST_F(FrmOptions, WithTheNotifyWindowSwitchedOffNothingRises)
+{
+    click("DisableNotify");
+    click("CmdOK");
+    windows.settleStart({});
+    windows.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
+    windows.time.advance(std::chrono::milliseconds(3000));
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    for (const QWidget *const window : QApplication::topLevelWidgets()) {
+        const bool isPopUp = window->objectName() == QLatin1String("frmNotify");
+        EXPECT_TRUE(!isPopUp || window->y() > screen.bottom());
+    }
+}
+
+} // namespace
+} // namespace nimb::test
