@@ -206,6 +206,19 @@ Window Window::waitFor(const std::string &caption)
     return found.empty() ? Window() : found.front();
 }
 
+Window Window::waitForUnmanaged(const std::string &caption)
+{
+    Window found;
+    waitUntil([&] {
+        const Outcome search
+            = run(QStringLiteral("xdotool"), {"search", "--onlyvisible", "--name", literally(caption)});
+        found = Window(search.output.trimmed());
+        return !found.isNull() && !search.output.trimmed().contains('\n');
+    });
+    EXPECT_EQ(found.caption(), caption);
+    return found;
+}
+
 std::size_t Window::numberOfVisible()
 {
     const Outcome search = run(QStringLiteral("xdotool"), {"search", "--onlyvisible", "--class", "^nimb-chat$"});
@@ -263,8 +276,14 @@ Window::Place Window::place() const
         ADD_FAILURE() << "xwininfo does not tell " << name.constData();
         return 0;
     };
-    return {valueOf("Absolute upper-left X") - valueOf("Relative upper-left X"),
-            valueOf("Absolute upper-left Y") - valueOf("Relative upper-left Y"), valueOf("Width"), valueOf("Height")};
+    Place place{valueOf("Absolute upper-left X"), valueOf("Absolute upper-left Y"), valueOf("Width"),
+                valueOf("Height")};
+    // Relative to the frame; a window without one is its own.
+    if (!lines.contains("  Override Redirect State: yes")) {
+        place.left -= valueOf("Relative upper-left X");
+        place.top -= valueOf("Relative upper-left Y");
+    }
+    return place;
 }
 
 void Window::move(int left, int top) const

@@ -58,6 +58,8 @@ public:
     static std::vector<Window> all(const std::string &caption);
     /// Waits for the one window of this caption; a test failure and a null window when there is none in time.
     static Window waitFor(const std::string &caption);
+    /// The same for a window that is no business of the window manager.
+    static Window waitForUnmanaged(const std::string &caption);
     static bool exists(const std::string &caption) { return !all(caption).empty(); }
     /// How many of the program there are, menus included.
     static std::size_t numberOfVisible();
