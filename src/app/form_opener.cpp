@@ -2,11 +2,14 @@
 
 #include "conference/frmConfInvitations.h"
 #include "conference/frmConference.h"
+#include "core/bring_back.h"
 #include "core/frmMain.h"
 #include "core/pictures.h"
 #include "dialogs/frmLogin.h"
 #include "dialogs/frmNotify.h"
 #include "dialogs/frmOptions.h"
+#include "extras/frmSendContact.h"
+#include "extras/frmTipOfTheDay.h"
 #include "private/frmPrivate.h"
 #include "private/rich_text_log.h"
 
@@ -107,9 +110,27 @@ ViewPtr<ConferenceView> FormOpener::makeConferenceForm(Conference &conference)
 void FormOpener::mnuNetworkscan() { }
 void FormOpener::mnuAddUser() { }
 void FormOpener::mnuHelpAbout() { }
-void FormOpener::mnuTOTD() { }
-void FormOpener::mnusendcontacts(const QString &) { }
 void FormOpener::mnuinviteuser(const QString &) { }
+
+/// Without a parent: it is seen although the main window starts minimised.
+void FormOpener::mnuTOTD()
+{
+    if (!m_tip)
+        m_tip = new frmTipOfTheDay(TipOfTheDay(m_services.store, m_services.openTips), m_services.prompts, nullptr);
+    bringBack(*m_tip);
+    m_tip->activateWindow();
+}
+
+void FormOpener::mnusendcontacts(const QString &ip)
+{
+    const Contact *const contact = m_engine->contacts().find(ip);
+    if (!contact)
+        return;
+    delete m_sendContact;
+    m_sendContact = new frmSendContact(std::make_unique<ContactTransfer>(m_services.socket, m_engine->contacts(), ip),
+                                       contact->nickname, m_main.get());
+    m_sendContact->show();
+}
 
 void FormOpener::mnuToolsOptions()
 {
@@ -141,6 +162,12 @@ void FormOpener::unloadInvitations()
 {
     m_engine->invitations().Form_Unload();
     m_invitations.reset();
+}
+
+void FormOpener::unloadTipOfTheDay()
+{
+    if (m_tip)
+        m_tip->unload();
 }
 
 void FormOpener::unloadPrivateWindows()

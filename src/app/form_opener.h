@@ -8,7 +8,10 @@
 #include "core/windows.h"
 #include "dialogs/login.h"
 #include "dialogs/notify_slide.h"
+#include "extras/tip_of_the_day.h"
 #include "private/RTFSubClass.h"
+
+#include <QPointer>
 
 #include <functional>
 #include <memory>
@@ -20,6 +23,8 @@ class frmConfInvitations;
 class frmLogin;
 class frmMain;
 class frmNotify;
+class frmSendContact;
+class frmTipOfTheDay;
 class RichTextLogEdit;
 
 /// What the windows need beside the engine; all of it outlives them.
@@ -27,10 +32,12 @@ struct FormServices {
     Common &common;
     Timers &timers;
     const WallClock &clock;
+    Winsock &socket;
     SettingsStore &store;
     Prompts &prompts;
     LinkOpener &links;
     PictureSources &pictures;
+    TipOfTheDay::OpenFile openTips;
 };
 
 class FormOpener : public PrivateForms,
@@ -80,7 +87,7 @@ public:
     void unloadPrivateWindows() override;
     void unloadNotify() override;
     void unloadInvitations() override;
-    void unloadTipOfTheDay() override { }
+    void unloadTipOfTheDay() override;
 
     void add(const Notification &notification) override;
     void startTimer() override;
@@ -93,6 +100,9 @@ private:
     std::unique_ptr<frmMain> m_main;
     std::unique_ptr<frmConfInvitations> m_invitations;
     frmLogin *m_login = nullptr; ///< while it is shown
+    // They delete themselves when they are closed.
+    QPointer<frmTipOfTheDay> m_tip;
+    QPointer<frmSendContact> m_sendContact;
     Messenger *m_engine = nullptr;
 };
 

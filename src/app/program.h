@@ -53,7 +53,7 @@ public:
     void loadMain() override;
     void showMain() override;
     void minimiseMain() override;
-    void showTipOfTheDay() override { }
+    void showTipOfTheDay() override { m_forms.mnuTOTD(); }
 
 private:
     void listenToTheSystem();

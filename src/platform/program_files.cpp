@@ -1,6 +1,7 @@
 #include "platform/program_files.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 namespace nimb
@@ -15,6 +16,20 @@ std::optional<QString> findProgramFile(const QString &name, const QString &progr
             return QDir::cleanPath(file.absoluteFilePath());
     }
     return std::nullopt;
+}
+
+std::optional<QByteArray> readProgramFile(const QString &name, const QString &programFolder)
+{
+    constexpr qint64 largest = 1024 * 1024;
+    const std::optional<QString> path = findProgramFile(name, programFolder);
+    if (!path)
+        return std::nullopt;
+    QFile file(*path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const QByteArray bytes = file.read(largest + 1);
+    const bool whole = file.error() == QFileDevice::NoError && bytes.size() <= largest;
+    return whole ? std::optional(bytes) : std::nullopt;
 }
 
 } // namespace nimb

@@ -1,6 +1,7 @@
 // The files that ship with the program.
 #pragma once
 
+#include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
 
@@ -14,5 +15,10 @@ namespace nimb
 /// the folder is given.
 std::optional<QString> findProgramFile(const QString &name,
                                        const QString &programFolder = QCoreApplication::applicationDirPath());
+
+/// All that is in it; nothing when it is not there, cannot be read, or has more than a mebibyte, for then somebody has
+/// put something else in its place.
+std::optional<QByteArray> readProgramFile(const QString &name,
+                                          const QString &programFolder = QCoreApplication::applicationDirPath());
 
 } // namespace nimb

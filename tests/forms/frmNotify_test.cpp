@@ -113,8 +113,9 @@ TEST_F(FrmNotifyTest, LongNamesStayInsideAndMarkupIsShown)
 
 TEST_F(FrmNotifyTest, WhereWindowsCannotBePlacedItStaysHidden)
 {
-    FormServices services{windows.common,  windows.time,  windows.time,    windows.settings,
-                          windows.prompts, windows.links, windows.pictures};
+    FormServices services{windows.common, windows.time,     windows.time,
+                          windows.socket, windows.settings, windows.prompts,
+                          windows.links,  windows.pictures, {}};
     FormOpener elsewhere(services);
     elsewhere.loadNotify(false);
     elsewhere.add({QStringLiteral("Ann is online"), Picture::green, QStringLiteral("10.0.0.2")});

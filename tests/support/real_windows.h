@@ -131,7 +131,8 @@ public:
     DropCounts drops;
     RecorderLinks links;
     RecorderPictureSources pictures;
-    FormOpener forms{{common, time, time, settings, prompts, links, pictures}};
+    std::optional<QByteArray> tips = QByteArray("The first tip||in two lines\nThe second tip, with a comma\n");
+    FormOpener forms{{common, time, time, socket, settings, prompts, links, pictures, [this] { return tips; }}};
     bool ended = false;
 
 private:

@@ -1,0 +1,145 @@
+#include "extras/contact_transfer.h"
+
+#include "protocol/send_datagram.h"
+#include "protocol/wire_text.h"
+
+#include <algorithm>
+#include <iterator>
+#include <numeric>
+
+namespace nimb
+{
+namespace
+{
+
+void moveRows(TransferList &from, TransferList &to, std::vector<int> rows)
+{
+    const auto isMissing = [&from](int row) { return row < 0 || row >= from.rowCount(); };
+    rows.erase(std::remove_if(rows.begin(), rows.end(), isMissing), rows.end());
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    to.append(from.take(rows));
+}
+
+void moveAll(TransferList &from, TransferList &to)
+{
+    std::vector<int> rows(from.rows().size());
+    std::iota(rows.begin(), rows.end(), 0);
+    moveRows(from, to, std::move(rows));
+}
+
+wire::SharedContact sharedContact(const Contact &contact)
+{
+    return {wire::Identity{toWire(contact.ip), toWire(contact.workstation), toWire(contact.nickname)}};
+}
+
+} // namespace
+
+// --- the rows
+
+void TransferList::append(std::vector<TransferRow> rows)
+{
+    if (rows.empty())
+        return;
+    beginInsertRows({}, rowCount(), rowCount() + static_cast<int>(rows.size()) - 1);
+    std::move(rows.begin(), rows.end(), std::back_inserter(m_rows));
+    endInsertRows();
+}
+
+std::vector<TransferRow> TransferList::take(const std::vector<int> &rows)
+{
+    std::vector<TransferRow> taken;
+    taken.reserve(rows.size());
+    for (const int row : rows)
+        taken.push_back(m_rows[static_cast<std::size_t>(row)]);
+    // Neighbours go together, the last ones first, so that the numbers of the others stay good.
+    for (std::size_t end = rows.size(); end > 0;) {
+        std::size_t first = end - 1;
+        while (first > 0 && rows[first - 1] == rows[first] - 1)
+            --first;
+        beginRemoveRows({}, rows[first], rows[end - 1]);
+        m_rows.erase(m_rows.begin() + rows[first], m_rows.begin() + rows[end - 1] + 1);
+        endRemoveRows();
+        end = first;
+    }
+    return taken;
+}
+
+int TransferList::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+QVariant TransferList::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    const TransferRow &row = m_rows[static_cast<std::size_t>(index.row())];
+    switch (role) {
+    case Qt::DisplayRole:
+        return row.text;
+    case KeyRole:
+        return row.key;
+    case TagRole:
+        return row.address;
+    case PictureRole:
+        return pictureKey(row.picture);
+    default:
+        return {};
+    }
+}
+
+QVariant TransferList::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (section != 0 || orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    return tr("Nickname");
+}
+
+// --- the rules
+
+ContactTransfer::ContactTransfer(Winsock &socket, const ContactList &contacts, QString destination)
+    : m_socket(socket), m_contacts(contacts), m_destination(std::move(destination))
+{
+}
+
+void ContactTransfer::Form_Load()
+{
+    std::vector<TransferRow> rows;
+    for (int row = 0; row < m_contacts.rowCount(); ++row) {
+        const Contact &contact = m_contacts.at(row);
+        if (contact.ip != m_destination)
+            rows.push_back({QLatin1String("IP") + contact.ip, contact.nickname, contact.ip, contact.picture});
+    }
+    m_offered.append(std::move(rows));
+}
+
+void ContactTransfer::btnsendone_Click(std::vector<int> selected)
+{
+    moveRows(m_offered, m_chosen, std::move(selected));
+}
+
+void ContactTransfer::btnsendall_Click()
+{
+    moveAll(m_offered, m_chosen);
+}
+
+void ContactTransfer::btnRemoveOne_Click(std::vector<int> selected)
+{
+    moveRows(m_chosen, m_offered, std::move(selected));
+}
+
+void ContactTransfer::btnremoveall_Click()
+{
+    moveAll(m_chosen, m_offered);
+}
+
+void ContactTransfer::sendbtn_Click()
+{
+    for (const TransferRow &row : m_chosen.rows()) {
+        if (const Contact *const contact = m_contacts.find(row.address))
+            sendDatagram(m_socket, m_destination, sharedContact(*contact));
+    }
+}
+
+} // namespace nimb

@@ -1,0 +1,198 @@
+#include "extras/frmSendContact.h"
+
+#include "core/form_layout.h"
+#include "core/form_text.h"
+#include "core/muted_colour.h"
+#include "core/picture_proxy.h"
+#include "core/pictures.h"
+#include "core/remote_text.h"
+
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyledItemDelegate>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace nimb
+{
+namespace
+{
+
+using form_layout::groupDistance;
+using form_layout::margin;
+using form_layout::spacing;
+
+constexpr int rowHeight = 24;
+
+class NameDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const QSize hint = QStyledItemDelegate::sizeHint(option, index);
+        return {hint.width(), qMax(rowHeight, hint.height())};
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->text = paintedName(option->text);
+        option->textElideMode = Qt::ElideRight;
+        option->icon = untinted(*option);
+    }
+
+private:
+    /// Styles tint the pictures of selected rows, but a state is told by its colour too.
+    static QIcon untinted(const QStyleOptionViewItem &option)
+    {
+        const double scale = option.widget ? option.widget->devicePixelRatioF() : 1.0;
+        const QPixmap pixels = option.icon.pixmap(option.decorationSize, scale);
+        QIcon icon;
+        icon.addPixmap(pixels, QIcon::Normal);
+        icon.addPixmap(pixels, QIcon::Selected);
+        return icon;
+    }
+};
+
+/// A list of contacts of which several can be selected. An empty one says what it is for.
+class NameView : public QTreeView
+{
+public:
+    NameView(TransferList &rows, QString emptyHint, QWidget *parent)
+        : QTreeView(parent), m_emptyHint(std::move(emptyHint))
+    {
+        auto *const pictured = new PictureProxy(this);
+        pictured->setSourceModel(&rows);
+        setModel(pictured);
+        setItemDelegate(new NameDelegate(this));
+        setRootIsDecorated(false);
+        setItemsExpandable(false);
+        setUniformRowHeights(true);
+        setIconSize(QSize(16, 16));
+        setEditTriggers(NoEditTriggers);
+        setSelectionMode(ExtendedSelection);
+        setTabKeyNavigation(false);
+        header()->setSectionsClickable(false);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        QTreeView::paintEvent(event);
+        if (model()->rowCount() > 0)
+            return;
+        QPainter painter(viewport());
+        painter.setPen(mutedTextColour(palette()));
+        painter.drawText(viewport()->rect().adjusted(groupDistance, 0, -groupDistance, 0),
+                         Qt::AlignCenter | Qt::TextWordWrap, m_emptyHint);
+    }
+
+private:
+    QString m_emptyHint;
+};
+
+std::vector<int> selectedRows(const QTreeView &view)
+{
+    std::vector<int> rows;
+    for (const QModelIndex &index : view.selectionModel()->selectedRows())
+        rows.push_back(index.row());
+    return rows;
+}
+
+} // namespace
+
+frmSendContact::frmSendContact(std::unique_ptr<ContactTransfer> transfer, const QString &nickname, QWidget *parent)
+    : QDialog(parent), m_transfer(std::move(transfer))
+{
+    setObjectName(QStringLiteral("frmSendContact"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowIcon(programIcon());
+    setWindowCaption(*this, tr("NIMB-Chat - Send Contacts to '%1'").arg(nickname));
+    m_transfer->Form_Load();
+    buildControls();
+    connectControls();
+    resize(520, 340);
+}
+
+QPushButton *frmSendContact::moveButton(const char *name, const QString &arrow, const QString &hint,
+                                        std::function<void()> move)
+{
+    auto *const button = named(new QPushButton(arrow, this), name);
+    button->setToolTip(hint);
+    button->setAccessibleName(hint);
+    connect(button, &QPushButton::clicked, this, std::move(move));
+    return button;
+}
+
+QLayout *frmSendContact::moveButtons()
+{
+    ContactTransfer &transfer = *m_transfer;
+    auto *const column = new QVBoxLayout;
+    column->setSpacing(spacing);
+    column->addStretch(1);
+    column->addWidget(moveButton("btnsendone", QStringLiteral(">"), tr("Choose the selected contacts"),
+                                 [this, &transfer] { transfer.btnsendone_Click(selectedRows(*ListView1)); }));
+    column->addWidget(moveButton("btnsendall", QStringLiteral(">>"), tr("Choose all contacts"),
+                                 [&transfer] { transfer.btnsendall_Click(); }));
+    column->addSpacing(groupDistance - spacing);
+    column->addWidget(moveButton("btnRemoveOne", QStringLiteral("<"), tr("Take the selected contacts back"),
+                                 [this, &transfer] { transfer.btnRemoveOne_Click(selectedRows(*ListView2)); }));
+    column->addWidget(moveButton("btnremoveall", QStringLiteral("<<"), tr("Take all contacts back"),
+                                 [&transfer] { transfer.btnremoveall_Click(); }));
+    column->addStretch(1);
+    return column;
+}
+
+void frmSendContact::buildControls()
+{
+    // Made in the order in which the Tab key visits them.
+    auto *const request = named(new QLabel(tr("Select the contacts you want to send"), this), "Label1");
+    ListView1 = named(new NameView(m_transfer->offered(), tr("No more contacts to send"), this), "ListView1");
+    ListView1->setAccessibleName(tr("Contacts that can be sent"));
+    QLayout *const moves = moveButtons();
+    ListView2 = named(new NameView(m_transfer->chosen(), tr("Contacts moved here will be sent"), this), "ListView2");
+    ListView2->setAccessibleName(tr("Contacts chosen for sending"));
+    auto *const buttons = new QDialogButtonBox(this);
+    sendbtn = named(buttons->addButton(tr("&Send"), QDialogButtonBox::AcceptRole), "sendbtn");
+    cancelbtn = named(buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole), "cancelbtn");
+    sendbtn->setDefault(true);
+
+    auto *const lists = new QHBoxLayout;
+    lists->setSpacing(groupDistance);
+    lists->addWidget(ListView1, 1);
+    lists->addLayout(moves);
+    lists->addWidget(ListView2, 1);
+    auto *const column = new QVBoxLayout(this);
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(spacing);
+    column->addWidget(request);
+    column->addLayout(lists, 1);
+    column->addSpacing(groupDistance - spacing);
+    column->addWidget(buttons);
+}
+
+void frmSendContact::connectControls()
+{
+    ContactTransfer &transfer = *m_transfer;
+    connect(ListView1, &QTreeView::doubleClicked, this,
+            [&transfer](const QModelIndex &index) { transfer.btnsendone_Click({index.row()}); });
+    connect(ListView2, &QTreeView::doubleClicked, this,
+            [&transfer](const QModelIndex &index) { transfer.btnRemoveOne_Click({index.row()}); });
+    connect(sendbtn, &QPushButton::clicked, this, &frmSendContact::sendbtn_Click);
+    connect(cancelbtn, &QPushButton::clicked, this, &frmSendContact::reject);
+}
+
+void frmSendContact::sendbtn_Click()
+{
+    m_transfer->sendbtn_Click();
+    accept();
+}
+
+} // namespace nimb
