@@ -3,7 +3,7 @@
 #include "core/bring_back.h"
 #include "core/form_layout.h"
 #include "core/keyed_selection.h"
-#include "core/picture_proxy.h"
+#include "core/picture_delegate.h"
 #include "core/pictures.h"
 
 #include <QCheckBox>
@@ -44,10 +44,8 @@ void frmConfInvitations::buildControls()
     ListView1->setAccessibleName(tr("Invitations"));
     ListView1->setRootIsDecorated(false);
     ListView1->setUniformRowHeights(true);
-    ListView1->setIconSize(QSize(16, 16));
-    auto *const model = new PictureProxy(ListView1);
-    model->setSourceModel(&m_invitations.list());
-    setModelOfKeyedRows(*ListView1, *model);
+    ListView1->setItemDelegate(new PictureDelegate(ListView1));
+    setModelOfKeyedRows(*ListView1, m_invitations.list());
     ListView1->header()->setStretchLastSection(false);
     ListView1->header()->setSectionResizeMode(InvitationList::Text, QHeaderView::Stretch);
     // Only what is seen is measured: a thousand rows would take seconds with every change.

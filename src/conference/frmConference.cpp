@@ -7,6 +7,7 @@
 #include "core/form_layout.h"
 #include "core/form_text.h"
 #include "core/keyed_selection.h"
+#include "core/picture_delegate.h"
 #include "core/log_font.h"
 #include "core/pictures.h"
 #include "core/twips.h"
@@ -120,7 +121,7 @@ void frmConference::buildParticipants()
     partecipanti->setAccessibleName(tr("Participants"));
     partecipanti->setRootIsDecorated(false);
     partecipanti->setUniformRowHeights(true);
-    partecipanti->setIconSize(QSize(16, 16));
+    partecipanti->setItemDelegate(new PictureDelegate(partecipanti));
     auto *const model = new ParticipantsProxy(partecipanti);
     model->setSourceModel(&m_conference->partecipanti());
     model->setGround(palette().color(QPalette::Base));

@@ -25,9 +25,9 @@ QVariant ParticipantsProxy::data(const QModelIndex &index, int role) const
         return colour.isValid() ? QVariant(QBrush(readableOn(screenColour(colour.toUInt()), m_ground))) : QVariant();
     }
     case Qt::ToolTipRole:
-        return PictureProxy::data(index.siblingAtColumn(0), Qt::DisplayRole);
+        return QIdentityProxyModel::data(index.siblingAtColumn(0), Qt::DisplayRole);
     default:
-        return PictureProxy::data(index, role);
+        return QIdentityProxyModel::data(index, role);
     }
 }
 

@@ -1,19 +1,18 @@
-// The participants as a list shows them: with their pictures, and in the colours in which they write.
+// The participants as a list shows them: in the colours in which they write.
 #pragma once
 
-#include "core/picture_proxy.h"
-
+#include <QIdentityProxyModel>
 #include <QPalette>
 
 namespace nimb
 {
 
-class ParticipantsProxy : public PictureProxy
+class ParticipantsProxy : public QIdentityProxyModel
 {
     Q_OBJECT
 
 public:
-    using PictureProxy::PictureProxy;
+    using QIdentityProxyModel::QIdentityProxyModel;
 
     /// The ground on which the colours must be readable.
     void setGround(const QColor &ground);

@@ -2,34 +2,23 @@
 
 #include "core/contact_list.h"
 #include "core/muted_colour.h"
-#include "core/pictures.h"
+#include "core/picture_delegate.h"
 #include "core/remote_text.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyledItemDelegate>
-
-#include <map>
 
 namespace nimb
 {
 namespace
 {
 
-constexpr int rowHeight = 24;
-
-class ContactDelegate : public QStyledItemDelegate
+class ContactDelegate : public PictureDelegate
 {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        const QSize hint = QStyledItemDelegate::sizeHint(option, index);
-        return {hint.width(), qMax(rowHeight, hint.height())};
-    }
+    using PictureDelegate::PictureDelegate;
 
     /// A nickname without a state beside it takes the state's room too.
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
@@ -41,41 +30,22 @@ public:
         const auto *const view = qobject_cast<const QTreeView *>(option.widget);
         if (view && index.column() == ContactList::Nickname && !hasState)
             placed.rect.setWidth(placed.rect.width() + view->columnWidth(ContactList::StateText));
-        QStyledItemDelegate::paint(painter, placed, index);
+        PictureDelegate::paint(painter, placed, index);
     }
 
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
     {
-        QStyledItemDelegate::initStyleOption(option, index);
+        PictureDelegate::initStyleOption(option, index);
         option->text = paintedName(option->text);
         option->textElideMode = Qt::ElideRight;
-        if (index.column() == ContactList::Nickname) {
-            option->features |= QStyleOptionViewItem::HasDecoration;
-            option->decorationSize = QSize(16, 16);
-            option->icon = untinted(index.data(ContactList::PictureRole).toString(), *option);
-        } else {
+        if (index.column() != ContactList::Nickname)
             option->palette.setColor(QPalette::Text, mutedTextColour(option->palette));
-        }
         if (index.column() == ContactList::IpAddress)
             shrinkToFit(*option);
     }
 
 private:
-    /// Styles tint the pictures of selected rows, but a state is told by its colour too. Drawn once for each scale:
-    /// reading a picture takes longer than painting the row.
-    QIcon untinted(const QString &name, const QStyleOptionViewItem &option) const
-    {
-        const double scale = option.widget ? option.widget->devicePixelRatioF() : 1.0;
-        QIcon &result = m_pictures[{name, scale}];
-        if (!result.isNull())
-            return result;
-        const QPixmap pixels = namedPicture(name).pixmap(option.decorationSize, scale);
-        result.addPixmap(pixels, QIcon::Normal);
-        result.addPixmap(pixels, QIcon::Selected);
-        return result;
-    }
-
     /// The column of addresses has a fixed width, too narrow for long ones in many fonts; an address with an ellipsis
     /// would be of no use.
     static void shrinkToFit(QStyleOptionViewItem &option)
@@ -89,8 +59,6 @@ private:
         option.font.setPointSizeF(option.font.pointSizeF() * qMax(smallest, share));
         option.fontMetrics = QFontMetrics(option.font);
     }
-
-    mutable std::map<std::pair<QString, double>, QIcon> m_pictures;
 };
 
 } // namespace

@@ -1,7 +1,8 @@
 #include "dialogs/frmNotify.h"
 
 #include "core/form_layout.h"
-#include "core/picture_proxy.h"
+#include "core/picture_delegate.h"
+#include "core/pictures.h"
 #include "core/twips.h"
 
 #include <QGuiApplication>
@@ -21,7 +22,6 @@ using form_layout::margin;
 using form_layout::spacing;
 
 constexpr QSize windowSize(250, 150); // pixels
-constexpr int pictureSide = 16;
 
 std::int32_t inTwips(int pixels)
 {
@@ -63,7 +63,7 @@ frmNotify::~frmNotify()
 void frmNotify::buildControls()
 {
     auto *const picture = new QLabel(this);
-    picture->setPixmap(windowIcon().pixmap(pictureSide, pictureSide));
+    picture->setPixmap(windowIcon().pixmap(PictureDelegate::pictureSide));
     auto *const caption = new QLabel(windowTitle(), this);
     caption->setTextFormat(Qt::PlainText);
     closebtn = named(new QPushButton(tr("hide"), this), "closebtn");
@@ -76,15 +76,13 @@ void frmNotify::buildControls()
 
     ListViewNotify = named(new QTreeView(this), "ListViewNotify");
     ListViewNotify->setAccessibleName(tr("What happened"));
-    auto *const rows = new PictureProxy(ListViewNotify);
-    rows->setSourceModel(&m_slide.list());
-    ListViewNotify->setModel(rows);
+    ListViewNotify->setModel(&m_slide.list());
+    ListViewNotify->setItemDelegate(new PictureDelegate(ListViewNotify));
     ListViewNotify->setHeaderHidden(true);
     // What happened stands behind the name.
     ListViewNotify->setTextElideMode(Qt::ElideMiddle);
     ListViewNotify->setRootIsDecorated(false);
     ListViewNotify->setUniformRowHeights(true);
-    ListViewNotify->setIconSize(QSize(pictureSide, pictureSide));
     ListViewNotify->setEditTriggers(QAbstractItemView::NoEditTriggers);
     ListViewNotify->setSelectionMode(QAbstractItemView::NoSelection);
     ListViewNotify->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -3,7 +3,7 @@
 #include "core/form_layout.h"
 #include "core/form_text.h"
 #include "core/muted_colour.h"
-#include "core/picture_proxy.h"
+#include "core/picture_delegate.h"
 #include "core/pictures.h"
 #include "core/remote_text.h"
 
@@ -13,7 +13,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
-#include <QStyledItemDelegate>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -26,38 +25,17 @@ using form_layout::groupDistance;
 using form_layout::margin;
 using form_layout::spacing;
 
-constexpr int rowHeight = 24;
-
-class NameDelegate : public QStyledItemDelegate
+class NameDelegate : public PictureDelegate
 {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        const QSize hint = QStyledItemDelegate::sizeHint(option, index);
-        return {hint.width(), qMax(rowHeight, hint.height())};
-    }
+    using PictureDelegate::PictureDelegate;
 
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
     {
-        QStyledItemDelegate::initStyleOption(option, index);
+        PictureDelegate::initStyleOption(option, index);
         option->text = paintedName(option->text);
         option->textElideMode = Qt::ElideRight;
-        option->icon = untinted(*option);
-    }
-
-private:
-    /// Styles tint the pictures of selected rows, but a state is told by its colour too.
-    static QIcon untinted(const QStyleOptionViewItem &option)
-    {
-        const double scale = option.widget ? option.widget->devicePixelRatioF() : 1.0;
-        const QPixmap pixels = option.icon.pixmap(option.decorationSize, scale);
-        QIcon icon;
-        icon.addPixmap(pixels, QIcon::Normal);
-        icon.addPixmap(pixels, QIcon::Selected);
-        return icon;
     }
 };
 
@@ -68,14 +46,11 @@ public:
     NameView(TransferList &rows, QString emptyHint, QWidget *parent)
         : QTreeView(parent), m_emptyHint(std::move(emptyHint))
     {
-        auto *const pictured = new PictureProxy(this);
-        pictured->setSourceModel(&rows);
-        setModel(pictured);
+        setModel(&rows);
         setItemDelegate(new NameDelegate(this));
         setRootIsDecorated(false);
         setItemsExpandable(false);
         setUniformRowHeights(true);
-        setIconSize(QSize(16, 16));
         setEditTriggers(NoEditTriggers);
         setSelectionMode(ExtendedSelection);
         setTabKeyNavigation(false);

@@ -111,7 +111,6 @@ TEST_F(FrmConference, ListsParticipantsWithPicturesAndColours)
     EXPECT_EQ(model.index(1, 0).data(Qt::UserRole + 2).toString(), QStringLiteral("green"));
     EXPECT_EQ(model.index(1, 0).data(Qt::ForegroundRole).value<QBrush>().color(), QColor(0, 0, 192));
     EXPECT_EQ(model.index(2, 0).data(Qt::ForegroundRole).value<QBrush>().color(), QColor(0, 128, 0));
-    EXPECT_FALSE(model.index(1, 0).data(Qt::DecorationRole).value<QIcon>().isNull());
 }
 
 TEST_F(FrmConference, EnterSendsToEverybodyAndEmptiesTheBox)

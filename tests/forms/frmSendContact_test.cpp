@@ -109,7 +109,6 @@ TEST_F(FrmSendContact, OffersTheOtherContacts)
         EXPECT_EQ(list->model()->headerData(0, Qt::Horizontal).toString(), QStringLiteral("Nickname"));
         EXPECT_FALSE(list->isHeaderHidden());
     }
-    EXPECT_FALSE(offered().model()->index(0, 0).data(Qt::DecorationRole).value<QIcon>().isNull());
 }
 
 TEST_F(FrmSendContact, ANicknameStaysPlainInTheCaption)
