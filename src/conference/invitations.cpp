@@ -89,6 +89,8 @@ QVariant InvitationList::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         break;
+    case Qt::ToolTipRole: // for what the column cuts off
+        return invitation.text;
     case KeyRole:
         return QStringLiteral("IP%1:%2").arg(invitation.host).arg(invitation.number);
     case TagRole:

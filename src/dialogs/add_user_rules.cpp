@@ -1,0 +1,33 @@
+#include "dialogs/add_user_rules.h"
+
+namespace nimb
+{
+
+QString AddUserRules::objection(const QString &nickname, const QString &hostname, const QString &ipaddress) const
+{
+    if (m_contacts.isContact(ipaddress))
+        return tr("IP Address already used by another user");
+    if (nickname.isEmpty() || hostname.isEmpty() || ipaddress.isEmpty())
+        return tr("Please fill all the fields");
+    if (hostname == m_common.ownHostName || ipaddress == m_common.ownIP)
+        return tr("You can't add yourself...");
+    return {};
+}
+
+bool AddUserRules::CmdOK_Click(const QString &nickname, const QString &hostname, const QString &ipaddress)
+{
+    if (const QString reason = objection(nickname, hostname, ipaddress); !reason.isEmpty()) {
+        m_prompts.tell(reason, tr("NIMB-Chat"));
+        return false;
+    }
+    Contact contact;
+    contact.nickname = nickname;
+    contact.workstation = hostname;
+    contact.ip = ipaddress;
+    contact.picture = Picture::yellow;
+    // As typed, not in capitals: the first announcement writes the usual key.
+    contact.sortKey = sortPrefix(Picture::yellow) + nickname;
+    return m_contacts.add(std::move(contact));
+}
+
+} // namespace nimb

@@ -1,0 +1,36 @@
+// The rules of adding a contact by hand.
+#pragma once
+
+#include "core/Common.h"
+#include "core/contact_list.h"
+#include "core/prompts.h"
+
+#include <QCoreApplication>
+
+namespace nimb
+{
+
+/// The engine half of frmAddUser.
+class AddUserRules
+{
+    Q_DECLARE_TR_FUNCTIONS(AddUserRules)
+
+public:
+    AddUserRules(const Common &common, ContactList &contacts, Prompts &prompts)
+        : m_common(common), m_contacts(contacts), m_prompts(prompts)
+    {
+    }
+
+    /// True when the contact was added; otherwise the user has been told why it was not.
+    bool CmdOK_Click(const QString &nickname, const QString &hostname, const QString &ipaddress);
+
+private:
+    /// Empty when nothing speaks against the contact.
+    QString objection(const QString &nickname, const QString &hostname, const QString &ipaddress) const;
+
+    const Common &m_common;
+    ContactList &m_contacts;
+    Prompts &m_prompts;
+};
+
+} // namespace nimb

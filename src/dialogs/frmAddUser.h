@@ -1,0 +1,36 @@
+// The dialog that adds a contact by hand.
+#pragma once
+
+#include "dialogs/add_user_rules.h"
+
+#include <QDialog>
+
+class QLineEdit;
+class QPushButton;
+
+namespace nimb
+{
+
+/// Made with new and shown by its opener; dies when it is closed. The rules must outlive it.
+class frmAddUser : public QDialog
+{
+    Q_OBJECT
+
+public:
+    frmAddUser(AddUserRules &rules, QWidget *parent);
+
+private:
+    void buildControls();
+    void connectControls();
+    void CmdOK_Click();
+
+    AddUserRules &m_rules;
+    QLineEdit *nicktxt = nullptr;
+    QLineEdit *hostname = nullptr;
+    QLineEdit *ipaddress = nullptr;
+    QPushButton *Resolvebtn = nullptr; ///< without a function: nothing is looked up here
+    QPushButton *CmdOK = nullptr;
+    QPushButton *Command1 = nullptr;
+};
+
+} // namespace nimb

@@ -1,0 +1,133 @@
+#include "dialogs/frmInvite.h"
+
+#include "core/elided_label.h"
+#include "core/pictures.h"
+#include "core/remote_text.h"
+#include "dialogs/dialog_parts.h"
+
+#include <QEvent>
+#include <QGroupBox>
+#include <QRadioButton>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace nimb
+{
+namespace
+{
+
+using form_layout::groupDistance;
+using form_layout::margin;
+using form_layout::spacing;
+
+constexpr int textWidth = 360;
+
+/// One line that never widens the dialog; what there is no room for can be read in its tool tip.
+QLabel *textLine(QWidget *parent, const char *name)
+{
+    auto *const label = named(new ElidedLabel(parent), name);
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    label->setMinimumWidth(textWidth);
+    return label;
+}
+
+/// What belongs to an option button stands under its caption.
+QLayout *underCaption(const QRadioButton &option, QWidget *content)
+{
+    const QStyle &style = *option.style();
+    const int indent = style.pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, &option)
+        + style.pixelMetric(QStyle::PM_RadioButtonLabelSpacing, nullptr, &option);
+    auto *const row = new QHBoxLayout;
+    row->setContentsMargins(indent, 0, 0, 0);
+    row->addWidget(content);
+    return row;
+}
+
+} // namespace
+
+frmInvite::frmInvite(Invite invite, const QString &selectedAddress, QWidget *parent)
+    : QDialog(parent), m_invite(std::move(invite))
+{
+    setObjectName(QStringLiteral("frmInvite"));
+    setWindowTitle(tr("NIMB-Chat - Invite by net send"));
+    setWindowIcon(programIcon());
+    setAttribute(Qt::WA_DeleteOnClose);
+    buildControls();
+    connectControls();
+    Form_Load(selectedAddress);
+}
+
+void frmInvite::buildControls()
+{
+    Label1 = textLine(this, "Label1");
+    QWidget *const frame = buildFrame();
+    auto *const buttons = new QDialogButtonBox(this);
+    sendbtn = addButton(*buttons, "sendbtn", tr("&Send"), QDialogButtonBox::AcceptRole);
+    Command1 = addButton(*buttons, "Command1", tr("Cancel"), QDialogButtonBox::RejectRole);
+    sendbtn->setDefault(true);
+
+    auto *const column = new QVBoxLayout(this);
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(groupDistance);
+    column->addWidget(Label1);
+    column->addWidget(frame);
+    column->addWidget(buttons);
+    column->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+QWidget *frmInvite::buildFrame()
+{
+    auto *const frame = named(new QGroupBox(tr("Message"), this), "Frame1");
+    Option1 = named(new QRadioButton(tr("S&tandard text"), frame), "Option1");
+    stdtext = textLine(frame, "stdtext");
+    Option2 = named(new QRadioButton(tr("&Own text"), frame), "Option2");
+    Text1 = named(new QLineEdit(frame), "Text1");
+    Text1->setAccessibleName(tr("Own text"));
+    Text1->installEventFilter(this);
+    Option1->setChecked(true);
+    auto *const inFrame = new QVBoxLayout(frame);
+    inFrame->setContentsMargins(margin, margin, margin, margin);
+    inFrame->setSpacing(spacing);
+    inFrame->addWidget(Option1);
+    inFrame->addLayout(underCaption(*Option1, stdtext));
+    inFrame->addSpacing(groupDistance - spacing);
+    inFrame->addWidget(Option2);
+    inFrame->addLayout(underCaption(*Option2, Text1));
+    return frame;
+}
+
+void frmInvite::connectControls()
+{
+    connect(sendbtn, &QPushButton::clicked, this, &frmInvite::sendbtn_Click);
+    connect(Command1, &QPushButton::clicked, this, &frmInvite::reject);
+}
+
+void frmInvite::Form_Load(const QString &selectedAddress)
+{
+    const QString standardText = m_invite.Form_Load(selectedAddress);
+    stdtext->setText(standardText);
+    stdtext->setToolTip(standardText);
+    Option1->setAccessibleDescription(standardText);
+    const Invite::Target &target = m_invite.target();
+    const QString toWhom = tr("Send to %1 on the computer %2");
+    Label1->setText(toWhom.arg(paintedName(target.nickname), paintedName(target.computer)));
+    Label1->setToolTip(toWhom.arg(target.nickname, target.computer));
+    Option1->setFocus();
+}
+
+/// Text1_GotFocus: whoever goes to type a text chooses it.
+bool frmInvite::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == Text1 && event->type() == QEvent::FocusIn)
+        Option2->setChecked(true);
+    return QDialog::eventFilter(watched, event);
+}
+
+void frmInvite::sendbtn_Click()
+{
+    // Refused means told: the dialog may have been closed meanwhile and be gone.
+    if (m_invite.sendbtn_Click(Option1->isChecked() ? stdtext->text() : Text1->text()))
+        accept();
+}
+
+} // namespace nimb

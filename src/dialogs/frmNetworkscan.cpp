@@ -1,0 +1,84 @@
+#include "dialogs/frmNetworkscan.h"
+
+#include "core/pictures.h"
+#include "dialogs/dialog_parts.h"
+
+#include <QGroupBox>
+#include <QVBoxLayout>
+
+namespace nimb
+{
+namespace
+{
+
+using form_layout::groupDistance;
+using form_layout::margin;
+using form_layout::spacing;
+
+constexpr int textWidth = 380;
+
+} // namespace
+
+frmNetworkscan::frmNetworkscan(NetworkScan &scan, QWidget *parent) : QDialog(parent), m_scan(scan)
+{
+    setObjectName(QStringLiteral("frmNetworkscan"));
+    setWindowTitle(tr("NIMB-Chat - Network Scan"));
+    setWindowIcon(programIcon());
+    setAttribute(Qt::WA_DeleteOnClose);
+    buildControls();
+    connectControls();
+    Form_Load();
+}
+
+void frmNetworkscan::buildControls()
+{
+    auto *const frame = named(new QGroupBox(tr("Scan/search the network for new NIMB-Chat users"), this), "Frame1");
+    auto *const caption = named(new QLabel(tr("&Workstation name / IP Address:"), frame), "Label1");
+    Text1 = nameBox(frame, "Text1");
+    caption->setBuddy(Text1);
+    auto *const note
+        = runningText(frame, "Label2",
+                      tr("Note: you can use broadcast IP to scan a whole network (e.g. let's say your IP address is "
+                         "192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is "
+                         "192.168.1.255)"),
+                      textWidth);
+    auto *const inFrame = new QVBoxLayout(frame);
+    inFrame->setContentsMargins(margin, margin, margin, margin);
+    inFrame->setSpacing(spacing);
+    inFrame->addWidget(caption);
+    inFrame->addWidget(Text1);
+    inFrame->addWidget(note);
+
+    auto *const buttons = new QDialogButtonBox(this);
+    Command1 = addButton(*buttons, "Command1", tr("Scan"), QDialogButtonBox::AcceptRole);
+    Command2 = addButton(*buttons, "Command2", tr("Cancel"), QDialogButtonBox::RejectRole);
+    Command1->setDefault(true);
+
+    auto *const column = new QVBoxLayout(this);
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(groupDistance);
+    column->addWidget(frame);
+    column->addWidget(buttons);
+    column->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void frmNetworkscan::connectControls()
+{
+    connect(Command1, &QPushButton::clicked, this, &frmNetworkscan::Command1_Click);
+    connect(Command2, &QPushButton::clicked, this, &frmNetworkscan::reject);
+}
+
+void frmNetworkscan::Form_Load()
+{
+    Text1->setText(m_scan.Form_Load());
+    Text1->selectAll();
+    Text1->setFocus();
+}
+
+void frmNetworkscan::Command1_Click()
+{
+    m_scan.Command1_Click(Text1->text());
+    accept();
+}
+
+} // namespace nimb

@@ -1,0 +1,34 @@
+// The network scan's dialog.
+#pragma once
+
+#include "dialogs/network_scan.h"
+
+#include <QDialog>
+
+class QLineEdit;
+class QPushButton;
+
+namespace nimb
+{
+
+/// Made with new and shown by its opener; dies when it is closed. The scan must outlive it.
+class frmNetworkscan : public QDialog
+{
+    Q_OBJECT
+
+public:
+    frmNetworkscan(NetworkScan &scan, QWidget *parent);
+
+private:
+    void buildControls();
+    void connectControls();
+    void Form_Load();
+    void Command1_Click();
+
+    NetworkScan &m_scan;
+    QLineEdit *Text1 = nullptr;
+    QPushButton *Command1 = nullptr;
+    QPushButton *Command2 = nullptr;
+};
+
+} // namespace nimb

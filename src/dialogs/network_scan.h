@@ -1,0 +1,36 @@
+// The network scan's rules: one question to an address that the automatic announcement does not reach.
+#pragma once
+
+#include "core/Common.h"
+#include "core/announcement.h"
+#include "core/main_log.h"
+#include "core/name_resolver.h"
+
+namespace nimb
+{
+
+/// The engine half of frmNetworkscan. The services must outlive the resolver's answers; the scan itself need not.
+class NetworkScan
+{
+    Q_DECLARE_TR_FUNCTIONS(NetworkScan)
+
+public:
+    NetworkScan(const Common &common, const PresenceSender &sender, NameResolver &resolver, MainLog &log)
+        : m_common(common), m_sender(sender), m_resolver(resolver), m_log(log)
+    {
+    }
+
+    /// What the box offers to be edited: the own address.
+    QString Form_Load() const { return m_common.ownIP; }
+    /// Asks the dotted address at once, broadcast addresses included. Everything else is a name, which is asked when
+    /// its address has been found; the main log says when there is none. Blanks around the text do not count.
+    void Command1_Click(const QString &typed);
+
+private:
+    const Common &m_common;
+    const PresenceSender &m_sender;
+    NameResolver &m_resolver;
+    MainLog &m_log;
+};
+
+} // namespace nimb

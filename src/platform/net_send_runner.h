@@ -1,0 +1,50 @@
+// Pop-up texts through the system's own program for them.
+#pragma once
+
+#include "core/net_send.h"
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace nimb
+{
+
+enum class MessageSystem {
+    netSend,  ///< Windows: "net send"
+    smbClient ///< everywhere else: the message service of smbclient
+};
+
+#ifdef Q_OS_WIN
+inline constexpr MessageSystem ownMessageSystem = MessageSystem::netSend;
+#else
+inline constexpr MessageSystem ownMessageSystem = MessageSystem::smbClient;
+#endif
+
+/// A program with its arguments, each of which reaches it as one whatever it holds.
+struct MessageCommand {
+    QString program; ///< a name to be found on the search path
+    QStringList arguments;
+    QByteArray input; ///< its standard input
+};
+
+MessageCommand messageCommand(MessageSystem system, const QString &computer, const QString &message);
+
+/// Starts the program without a shell and without a window; it may outlive us. Where it is missing, the sentence says
+/// what to install.
+class NetSendRunner : public NetSend
+{
+    Q_DECLARE_TR_FUNCTIONS(NetSendRunner)
+
+public:
+    explicit NetSendRunner(MessageSystem system = ownMessageSystem) : m_system(system) { }
+
+    std::optional<QString> send(const QString &computer, const QString &message) override;
+
+private:
+    QString missing() const;
+
+    MessageSystem m_system;
+};
+
+} // namespace nimb

@@ -1,0 +1,142 @@
+#include "dialogs/frmNetworkscan.h"
+
+#include "dialog_keyboard.h"
+#include "dialog_recorders.h"
+#include "print_qt.h"
+#include "recorders.h"
+#include "simulated_network.h"
+#include "virtual_time.h"
+
+#include <gmock/gmock.h>
+
+#include <QPointer>
+#include <QPushButton>
+
+namespace nimb::test
+{
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+class FrmNetworkscan : public testing::Test
+{
+protected:
+    FrmNetworkscan()
+    {
+        common.ownIP = QStringLiteral("192.168.1.5");
+        common.ownHostName = QStringLiteral("HERE");
+        common.ownNickname = QStringLiteral("Me");
+        socket.bind();
+        parent.show();
+        dialog = new frmNetworkscan(scan, &parent);
+        dialog->open();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return text().hasFocus(); }, 5000));
+    }
+    QLineEdit &text() { return *dialog->findChild<QLineEdit *>(QStringLiteral("Text1")); }
+    QPushButton &button(const char *name) { return *dialog->findChild<QPushButton *>(QLatin1String(name)); }
+    bool isGone()
+    {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return dialog.isNull();
+    }
+
+    Common common;
+    SimulatedWinsock socket{QStringLiteral("192.168.1.5"), QStringLiteral("HERE"), nullptr};
+    RecorderResolver resolver;
+    RecorderLog shown;
+    VirtualTime time;
+    PresenceSender sender{common, socket};
+    MainLog log{shown, time};
+    NetworkScan scan{common, sender, resolver, log};
+    QWidget parent;
+    QPointer<frmNetworkscan> dialog;
+};
+
+TEST_F(FrmNetworkscan, OffersTheOwnAddressAndTellsOfBroadcasts)
+{
+    EXPECT_EQ(dialog->objectName(), QStringLiteral("frmNetworkscan"));
+    EXPECT_EQ(dialog->windowTitle(), QStringLiteral("NIMB-Chat - Network Scan"));
+    EXPECT_EQ(text().text(), QStringLiteral("192.168.1.5"));
+    EXPECT_EQ(dialog->findChild<QGroupBox *>()->title(),
+              QStringLiteral("Scan/search the network for new NIMB-Chat users"));
+    EXPECT_EQ(dialog->findChild<QLabel *>(QStringLiteral("Label1"))->text().remove(u'&'),
+              QStringLiteral("Workstation name / IP Address:"));
+    EXPECT_EQ(dialog->findChild<QLabel *>(QStringLiteral("Label2"))->text(),
+              QStringLiteral("Note: you can use broadcast IP to scan a whole network (e.g. let's say your IP address "
+                             "is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is "
+                             "192.168.1.255)"));
+    EXPECT_EQ(button("Command1").text(), QStringLiteral("Scan"));
+    EXPECT_EQ(button("Command2").text(), QStringLiteral("Cancel"));
+    EXPECT_THAT(badLabels(*dialog), IsEmpty());
+}
+
+TEST_F(FrmNetworkscan, TypingReplacesTheOfferAndEnterScans)
+{
+    type("192.168.1.255");
+    press(Qt::Key_Return);
+    EXPECT_THAT(socket.sent, ElementsAre(To{"192.168.1.255", "?ONLINE 192.168.1.5 HERE Me"}));
+    EXPECT_TRUE(isGone());
+}
+
+TEST_F(FrmNetworkscan, TheButtonScansTheOwnAddressAsItIs)
+{
+    QTest::mouseClick(&button("Command1"), Qt::LeftButton);
+    EXPECT_THAT(socket.sent, ElementsAre(To{"192.168.1.5", "?ONLINE 192.168.1.5 HERE Me"}));
+    EXPECT_TRUE(isGone());
+}
+
+TEST_F(FrmNetworkscan, ClosesAtOnceAndTheAnswerComesLater)
+{
+    type("PC-ANN");
+    press(Qt::Key_Enter);
+    EXPECT_TRUE(isGone());
+    EXPECT_THAT(socket.sent, IsEmpty());
+    resolver.answer(0, QStringLiteral("10.0.0.2"));
+    EXPECT_THAT(socket.sent, ElementsAre(To{"10.0.0.2", "?ONLINE 192.168.1.5 HERE Me"}));
+}
+
+TEST_F(FrmNetworkscan, AnEmptyBoxAsksNobodyAndCloses)
+{
+    press(Qt::Key_Delete);
+    press(Qt::Key_Return);
+    EXPECT_THAT(socket.sent, IsEmpty());
+    EXPECT_THAT(resolver.names, IsEmpty());
+    EXPECT_TRUE(isGone());
+}
+
+TEST_F(FrmNetworkscan, CancelClosesWithoutAsking)
+{
+    QTest::mouseClick(&button("Command2"), Qt::LeftButton);
+    EXPECT_THAT(socket.sent, IsEmpty());
+    EXPECT_TRUE(isGone());
+}
+
+TEST_F(FrmNetworkscan, EscapeClosesWithoutAsking)
+{
+    press(Qt::Key_Escape);
+    EXPECT_THAT(socket.sent, IsEmpty());
+    EXPECT_TRUE(isGone());
+}
+
+TEST_F(FrmNetworkscan, TakesAtMost255Characters)
+{
+    text().clear();
+    text().insert(QString(300, u'x'));
+    EXPECT_EQ(text().text().size(), 255);
+}
+
+TEST_F(FrmNetworkscan, TheKeyboardReachesEverything)
+{
+    EXPECT_THAT(accessKeys(*dialog), UnorderedElementsAre("Alt+W"));
+    EXPECT_THAT(tabRound(*dialog), ElementsAre("Text1", "Command1", "Command2"));
+    EXPECT_TRUE(button("Command1").isDefault());
+    button("Command2").setFocus();
+    press(Qt::Key_W, Qt::AltModifier);
+    EXPECT_TRUE(text().hasFocus());
+}
+
+} // namespace
+} // namespace nimb::test

@@ -1,0 +1,74 @@
+// What the small dialogs ask of the system, written down for a test to read.
+#pragma once
+
+#include "core/name_resolver.h"
+#include "core/net_send.h"
+#include "core/system_information.h"
+#include "recorders.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace nimb::test
+{
+
+/// Keeps the questions until the test answers them.
+class RecorderResolver : public NameResolver
+{
+public:
+    void resolve(const QString &name, Found found) override
+    {
+        names.push_back(name.toStdString());
+        m_found.push_back(std::move(found));
+    }
+    void answer(std::size_t question, const std::optional<QString> &address) { m_found.at(question)(address); }
+
+    std::vector<std::string> names;
+
+private:
+    std::vector<Found> m_found;
+};
+
+class RecorderNetSend : public NetSend
+{
+public:
+    std::optional<QString> send(const QString &computer, const QString &message) override
+    {
+        if (!missing)
+            sent.push_back(computer.toStdString() + " <- " + message.toStdString());
+        return missing;
+    }
+
+    std::vector<std::string> sent;
+    std::optional<QString> missing; ///< what is said when there is no such service
+};
+
+/// Something may happen while the user is being told, such as the end of the program.
+class InterruptedPrompts : public RecorderPrompts
+{
+public:
+    void tell(const QString &text, const QString &title) override
+    {
+        RecorderPrompts::tell(text, title);
+        if (whileTelling)
+            whileTelling();
+    }
+
+    std::function<void()> whileTelling;
+};
+
+class RecorderSystemInformation : public SystemInformation
+{
+public:
+    bool StartSysInfo() override
+    {
+        ++starts;
+        return available;
+    }
+
+    bool available = true;
+    int starts = 0;
+};
+
+} // namespace nimb::test

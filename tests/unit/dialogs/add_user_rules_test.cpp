@@ -1,0 +1,135 @@
+#include "dialogs/add_user_rules.h"
+
+#include "recorders.h"
+
+#include <gmock/gmock.h>
+
+namespace nimb::test
+{
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class AddUserRulesTest : public testing::Test
+{
+protected:
+    AddUserRulesTest()
+    {
+        common.ownIP = QStringLiteral("192.168.0.5");
+        common.ownHostName = QStringLiteral("HERE");
+        Contact ann;
+        ann.nickname = QStringLiteral("Ann");
+        ann.ip = QStringLiteral("192.168.0.7");
+        contacts.add(ann);
+    }
+    bool add(const char *nickname, const char *hostname, const char *ipaddress)
+    {
+        return rules.CmdOK_Click(QString::fromUtf8(nickname), QString::fromUtf8(hostname),
+                                 QString::fromUtf8(ipaddress));
+    }
+    QString cell(const char *ip, int column)
+    {
+        return contacts.index(contacts.rowOf(QLatin1String(ip)), column).data().toString();
+    }
+    QString role(const char *ip, int role)
+    {
+        return contacts.index(contacts.rowOf(QLatin1String(ip)), 0).data(role).toString();
+    }
+
+    Common common;
+    ContactList contacts;
+    RecorderPrompts prompts;
+    AddUserRules rules{common, contacts, prompts};
+};
+
+TEST_F(AddUserRulesTest, AddsARowThatIsNotYetKnown)
+{
+    EXPECT_TRUE(add("Ben the Builder", "PC-BEN", "192.168.0.8"));
+    EXPECT_THAT(prompts.told, IsEmpty());
+    EXPECT_EQ(contacts.rowCount(), 2);
+    EXPECT_EQ(role("192.168.0.8", ContactList::KeyRole), QStringLiteral("IP192.168.0.8"));
+    EXPECT_EQ(role("192.168.0.8", ContactList::TagRole), QStringLiteral("192.168.0.8"));
+    EXPECT_EQ(role("192.168.0.8", ContactList::PictureRole), QStringLiteral("yellow"));
+    EXPECT_EQ(cell("192.168.0.8", 0), QStringLiteral("Ben the Builder"));
+    EXPECT_EQ(cell("192.168.0.8", 1), QStringLiteral("PC-BEN"));
+    EXPECT_EQ(cell("192.168.0.8", 2), QStringLiteral("192.168.0.8"));
+    EXPECT_EQ(cell("192.168.0.8", 4), QString());
+    EXPECT_EQ(cell("192.168.0.8", 5), QString());
+    EXPECT_EQ(cell("192.168.0.8", 6), QString());
+}
+
+TEST_F(AddUserRulesTest, TheSortKeyKeepsTheTypedCaseUntilTheFirstAnnouncement)
+{
+    EXPECT_TRUE(add("ben", "PC-BEN", "192.168.0.8"));
+    EXPECT_EQ(cell("192.168.0.8", 3), QStringLiteral("B_ben"));
+    contacts.change(QStringLiteral("192.168.0.8"), [](Contact &contact) { contact.setPresence(Picture::yellow); });
+    EXPECT_EQ(cell("192.168.0.8", 3), QStringLiteral("B_BEN"));
+}
+
+TEST_F(AddUserRulesTest, AnAddressInTheListIsRefused)
+{
+    EXPECT_FALSE(add("Ben", "PC-BEN", "192.168.0.7"));
+    EXPECT_THAT(prompts.told, ElementsAre("NIMB-Chat: IP Address already used by another user"));
+    EXPECT_EQ(contacts.rowCount(), 1);
+    EXPECT_EQ(cell("192.168.0.7", 0), QStringLiteral("Ann"));
+}
+
+TEST_F(AddUserRulesTest, AUsedAddressIsReportedBeforeAnEmptyField)
+{
+    EXPECT_FALSE(add("", "", "192.168.0.7"));
+    EXPECT_THAT(prompts.told, ElementsAre("NIMB-Chat: IP Address already used by another user"));
+}
+
+TEST_F(AddUserRulesTest, AUsedAddressIsReportedBeforeTheOwnHostName)
+{
+    EXPECT_FALSE(add("Ben", "HERE", "192.168.0.7"));
+    EXPECT_THAT(prompts.told, ElementsAre("NIMB-Chat: IP Address already used by another user"));
+}
+
+TEST_F(AddUserRulesTest, EveryEmptyFieldIsRefused)
+{
+    EXPECT_FALSE(add("", "PC-BEN", "192.168.0.8"));
+    EXPECT_FALSE(add("Ben", "", "192.168.0.8"));
+    EXPECT_FALSE(add("Ben", "PC-BEN", ""));
+    EXPECT_FALSE(add("", "", ""));
+    EXPECT_EQ(prompts.told, std::vector<std::string>(4, "NIMB-Chat: Please fill all the fields"));
+    EXPECT_EQ(contacts.rowCount(), 1);
+}
+
+TEST_F(AddUserRulesTest, AnEmptyFieldIsReportedBeforeTheOwnIdentity)
+{
+    EXPECT_FALSE(add("", "HERE", "192.168.0.5"));
+    EXPECT_THAT(prompts.told, ElementsAre("NIMB-Chat: Please fill all the fields"));
+}
+
+TEST_F(AddUserRulesTest, TheOwnHostNameOrAddressIsRefused)
+{
+    EXPECT_FALSE(add("Me", "HERE", "192.168.0.8"));
+    EXPECT_FALSE(add("Me", "PC-ME", "192.168.0.5"));
+    EXPECT_EQ(prompts.told, std::vector<std::string>(2, "NIMB-Chat: You can't add yourself..."));
+    EXPECT_EQ(contacts.rowCount(), 1);
+}
+
+TEST_F(AddUserRulesTest, TheOwnHostNameInAnotherCaseIsAnotherHost)
+{
+    EXPECT_TRUE(add("Me", "here", "192.168.0.8"));
+}
+
+TEST_F(AddUserRulesTest, TheOwnAddressWithLeadingZerosIsNotRecognised)
+{
+    EXPECT_TRUE(add("Me", "PC-ME", "192.168.000.005"));
+    EXPECT_TRUE(contacts.isContact(QStringLiteral("192.168.000.005")));
+}
+
+TEST_F(AddUserRulesTest, WhatIsNoDottedAddressIsAccepted)
+{
+    EXPECT_TRUE(add("Ben", "PC-BEN", "somewhere"));
+    EXPECT_TRUE(add("Cleo", "PC-CLEO", "300.1.2.3"));
+    EXPECT_THAT(prompts.told, IsEmpty());
+    EXPECT_EQ(contacts.addresses(), QStringList({"192.168.0.7", "somewhere", "300.1.2.3"}));
+}
+
+} // namespace
+} // namespace nimb::test
