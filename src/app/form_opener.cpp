@@ -5,7 +5,11 @@
 #include "core/bring_back.h"
 #include "core/frmMain.h"
 #include "core/pictures.h"
+#include "dialogs/frmAbout.h"
+#include "dialogs/frmAddUser.h"
+#include "dialogs/frmInvite.h"
 #include "dialogs/frmLogin.h"
+#include "dialogs/frmNetworkscan.h"
 #include "dialogs/frmNotify.h"
 #include "dialogs/frmOptions.h"
 #include "extras/frmSendContact.h"
@@ -107,10 +111,29 @@ ViewPtr<ConferenceView> FormOpener::makeConferenceForm(Conference &conference)
     return ViewPtr<ConferenceView>(new frmConference(conference, m_links));
 }
 
-void FormOpener::mnuNetworkscan() { }
-void FormOpener::mnuAddUser() { }
-void FormOpener::mnuHelpAbout() { }
-void FormOpener::mnuinviteuser(const QString &) { }
+void FormOpener::mnuNetworkscan()
+{
+    const NetworkScan scan(m_services.common, m_engine->sender(), m_services.names, m_engine->log());
+    open(new frmNetworkscan(scan, m_main.get()));
+}
+
+void FormOpener::mnuAddUser()
+{
+    const AddUserRules rules(m_services.common, m_engine->contacts(), m_services.prompts);
+    open(new frmAddUser(rules, m_main.get()));
+}
+
+void FormOpener::mnuHelpAbout()
+{
+    open(new frmAbout(m_services.systemInformation, m_services.prompts, QCoreApplication::applicationVersion(),
+                      m_main.get()));
+}
+
+void FormOpener::mnuinviteuser(const QString &ip)
+{
+    const Invite invite(m_services.common, m_engine->contacts(), m_services.netSend, m_services.prompts);
+    open(new frmInvite(invite, ip, m_main.get()));
+}
 
 /// Without a parent: it is seen although the main window starts minimised.
 void FormOpener::mnuTOTD()

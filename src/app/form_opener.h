@@ -3,8 +3,11 @@
 
 #include "app/messenger.h"
 #include "core/message_boxes.h"
+#include "core/name_resolver.h"
+#include "core/net_send.h"
 #include "core/notifications.h"
 #include "core/picture_source.h"
+#include "core/system_information.h"
 #include "core/windows.h"
 #include "dialogs/login.h"
 #include "dialogs/notify_slide.h"
@@ -37,6 +40,9 @@ struct FormServices {
     Prompts &prompts;
     LinkOpener &links;
     PictureSources &pictures;
+    NameResolver &names;
+    NetSend &netSend;
+    SystemInformation &systemInformation;
     TipOfTheDay::OpenFile openTips;
 };
 

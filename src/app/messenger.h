@@ -43,6 +43,7 @@ public:
     OwnState &ownState() { return m_ownState; }
     Announcement &announcement() { return m_announcement; }
     MainLog &log() { return m_log; }
+    const PresenceSender &sender() const { return m_sender; }
     PrivateWindows &privateWindows() { return m_privateWindows; }
     OwnAvatar &ownAvatar() { return m_ownAvatar; }
     const AvatarStore &avatars() const { return m_avatars; }

@@ -8,11 +8,14 @@
 #include "core/windows.h"
 #include "platform/desktop_notifications.h"
 #include "platform/link_opener.h"
+#include "platform/name_resolver.h"
+#include "platform/net_send_runner.h"
 #include "platform/picture_sources.h"
 #include "platform/qt_timers.h"
 #include "platform/single_instance.h"
 #include "platform/sound_player.h"
 #include "platform/sqlite_settings_store.h"
+#include "platform/system_info.h"
 #include "platform/udp_winsock.h"
 #include "platform/unix_signals.h"
 
@@ -76,6 +79,9 @@ private:
     SoundPlayer m_sound;
     DesktopLinkOpener m_links;
     SystemPictureSources m_pictures;
+    HostNameResolver m_names;
+    NetSendRunner m_netSend;
+    SystemInfo m_systemInfo;
     FormOpener m_forms;
     std::optional<DesktopNotifications> m_desktopNotifications;
     std::optional<Login> m_login;

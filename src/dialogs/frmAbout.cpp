@@ -1,7 +1,7 @@
 #include "dialogs/frmAbout.h"
 
+#include "core/dialog_parts.h"
 #include "core/pictures.h"
-#include "dialogs/dialog_parts.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>

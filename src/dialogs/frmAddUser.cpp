@@ -1,8 +1,8 @@
 #include "dialogs/frmAddUser.h"
 
+#include "core/dialog_parts.h"
 #include "core/pictures.h"
 #include "core/remote_text.h"
-#include "dialogs/dialog_parts.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -25,7 +25,7 @@ QString typed(const QLineEdit &box)
 
 } // namespace
 
-frmAddUser::frmAddUser(AddUserRules &rules, QWidget *parent) : QDialog(parent), m_rules(rules)
+frmAddUser::frmAddUser(const AddUserRules &rules, QWidget *parent) : QDialog(parent), m_rules(rules)
 {
     setObjectName(QStringLiteral("frmAddUser"));
     setWindowTitle(tr("Add offline user"));

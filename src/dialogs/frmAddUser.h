@@ -17,14 +17,14 @@ class frmAddUser : public QDialog
     Q_OBJECT
 
 public:
-    frmAddUser(AddUserRules &rules, QWidget *parent);
+    frmAddUser(const AddUserRules &rules, QWidget *parent);
 
 private:
     void buildControls();
     void connectControls();
     void CmdOK_Click();
 
-    AddUserRules &m_rules;
+    AddUserRules m_rules;
     QLineEdit *nicktxt = nullptr;
     QLineEdit *hostname = nullptr;
     QLineEdit *ipaddress = nullptr;

@@ -1,9 +1,9 @@
 #include "dialogs/frmInvite.h"
 
+#include "core/dialog_parts.h"
 #include "core/elided_label.h"
 #include "core/pictures.h"
 #include "core/remote_text.h"
-#include "dialogs/dialog_parts.h"
 
 #include <QEvent>
 #include <QGroupBox>

@@ -1,7 +1,7 @@
 #include "dialogs/frmNetworkscan.h"
 
+#include "core/dialog_parts.h"
 #include "core/pictures.h"
-#include "dialogs/dialog_parts.h"
 
 #include <QGroupBox>
 #include <QVBoxLayout>
@@ -19,7 +19,7 @@ constexpr int textWidth = 380;
 
 } // namespace
 
-frmNetworkscan::frmNetworkscan(NetworkScan &scan, QWidget *parent) : QDialog(parent), m_scan(scan)
+frmNetworkscan::frmNetworkscan(const NetworkScan &scan, QWidget *parent) : QDialog(parent), m_scan(scan)
 {
     setObjectName(QStringLiteral("frmNetworkscan"));
     setWindowTitle(tr("NIMB-Chat - Network Scan"));

@@ -11,13 +11,13 @@ class QPushButton;
 namespace nimb
 {
 
-/// Made with new and shown by its opener; dies when it is closed. The scan must outlive it.
+/// Made with new and shown by its opener; dies when it is closed.
 class frmNetworkscan : public QDialog
 {
     Q_OBJECT
 
 public:
-    frmNetworkscan(NetworkScan &scan, QWidget *parent);
+    frmNetworkscan(const NetworkScan &scan, QWidget *parent);
 
 private:
     void buildControls();
@@ -25,7 +25,7 @@ private:
     void Form_Load();
     void Command1_Click();
 
-    NetworkScan &m_scan;
+    NetworkScan m_scan;
     QLineEdit *Text1 = nullptr;
     QPushButton *Command1 = nullptr;
     QPushButton *Command2 = nullptr;

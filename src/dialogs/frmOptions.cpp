@@ -1,8 +1,8 @@
 #include "dialogs/frmOptions.h"
 
 #include "core/avatar_image.h"
+#include "core/dialog_parts.h"
 #include "core/file_dialogs.h"
-#include "core/form_layout.h"
 #include "core/log_font.h"
 #include "core/pictures.h"
 #include "dialogs/font_dialog.h"
@@ -11,7 +11,6 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QGridLayout>
@@ -74,10 +73,6 @@ frmOptions::frmOptions(const OptionValues &values, Prompts &prompts, QWidget *pa
 
 void frmOptions::buildControls()
 {
-    CmdOK = named(new QPushButton(tr("OK"), this), "CmdOK");
-    CmdOK->setDefault(true);
-    Command1 = named(new QPushButton(tr("Cancel"), this), "Command1");
-
     auto *const left = new QVBoxLayout;
     left->setSpacing(groupDistance);
     left->addWidget(makeSounds());
@@ -90,8 +85,9 @@ void frmOptions::buildControls()
     right->addWidget(makeAvatar());
     right->addStretch(1);
     auto *const buttons = new QDialogButtonBox(this);
-    buttons->addButton(CmdOK, QDialogButtonBox::AcceptRole);
-    buttons->addButton(Command1, QDialogButtonBox::RejectRole);
+    CmdOK = addButton(*buttons, "CmdOK", tr("OK"), QDialogButtonBox::AcceptRole);
+    CmdOK->setDefault(true);
+    Command1 = addButton(*buttons, "Command1", tr("Cancel"), QDialogButtonBox::RejectRole);
 
     auto *const grid = new QGridLayout(this);
     grid->setContentsMargins(margin, margin, margin, margin);

@@ -1,13 +1,12 @@
 #include "extras/frmSendContact.h"
 
-#include "core/form_layout.h"
+#include "core/dialog_parts.h"
 #include "core/form_text.h"
 #include "core/muted_colour.h"
 #include "core/picture_delegate.h"
 #include "core/pictures.h"
 #include "core/remote_text.h"
 
-#include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -135,8 +134,8 @@ void frmSendContact::buildControls()
     ListView2 = named(new NameView(m_transfer->chosen(), tr("Contacts moved here will be sent"), this), "ListView2");
     ListView2->setAccessibleName(tr("Contacts chosen for sending"));
     auto *const buttons = new QDialogButtonBox(this);
-    sendbtn = named(buttons->addButton(tr("&Send"), QDialogButtonBox::AcceptRole), "sendbtn");
-    cancelbtn = named(buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole), "cancelbtn");
+    sendbtn = addButton(*buttons, "sendbtn", tr("&Send"), QDialogButtonBox::AcceptRole);
+    cancelbtn = addButton(*buttons, "cancelbtn", tr("&Cancel"), QDialogButtonBox::RejectRole);
     sendbtn->setDefault(true);
 
     auto *const lists = new QHBoxLayout;

@@ -1,11 +1,10 @@
 #include "extras/frmTipOfTheDay.h"
 
-#include "core/form_layout.h"
+#include "core/dialog_parts.h"
 #include "core/form_text.h"
 #include "core/pictures.h"
 
 #include <QCheckBox>
-#include <QDialogButtonBox>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -87,8 +86,8 @@ void frmTipOfTheDay::buildControls()
     licence->setWordWrap(true);
     Checkbx = named(new QCheckBox(tr("&Show tips at start"), this), "Checkbx");
     auto *const buttons = new QDialogButtonBox(this);
-    nextbtn = named(buttons->addButton(tr("&Next tip"), QDialogButtonBox::ActionRole), "nextbtn");
-    closebtn = named(buttons->addButton(tr("&Close"), QDialogButtonBox::RejectRole), "closebtn");
+    nextbtn = addButton(*buttons, "nextbtn", tr("&Next tip"), QDialogButtonBox::ActionRole);
+    closebtn = addButton(*buttons, "closebtn", tr("&Close"), QDialogButtonBox::RejectRole);
     closebtn->setDefault(true);
     closebtn->setFocus();
 

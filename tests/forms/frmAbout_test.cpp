@@ -1,7 +1,8 @@
 #include "dialogs/frmAbout.h"
 
-#include "dialog_keyboard.h"
 #include "dialog_recorders.h"
+#include "keyboard.h"
+#include "labels.h"
 #include "print_qt.h"
 
 #include <gmock/gmock.h>
@@ -112,7 +113,7 @@ TEST_F(FrmAbout, EscapeCloses)
 TEST_F(FrmAbout, TheKeyboardReachesEverything)
 {
     EXPECT_THAT(accessKeys(*dialog), UnorderedElementsAre("Alt+S"));
-    EXPECT_THAT(tabRound(*dialog), UnorderedElementsAre("cmdOK", "cmdSysInfo"));
+    EXPECT_THAT(tabStops(*dialog), UnorderedElementsAre("cmdOK", "cmdSysInfo"));
     EXPECT_TRUE(button("cmdOK").isDefault());
 }
 

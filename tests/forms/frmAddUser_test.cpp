@@ -1,12 +1,13 @@
 #include "dialogs/frmAddUser.h"
 
-#include "dialog_keyboard.h"
 #include "dialog_recorders.h"
+#include "keyboard.h"
 #include "print_qt.h"
 #include "recorders.h"
 
 #include <gmock/gmock.h>
 
+#include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 
@@ -164,7 +165,7 @@ TEST_F(FrmAddUser, ABoxTakesAtMost255Characters)
 TEST_F(FrmAddUser, TheKeyboardReachesEverything)
 {
     EXPECT_THAT(accessKeys(*dialog), UnorderedElementsAre("Alt+N", "Alt+W", "Alt+I"));
-    EXPECT_THAT(tabRound(*dialog), ElementsAre("nicktxt", "hostname", "ipaddress", "Resolvebtn", "CmdOK", "Command1"));
+    EXPECT_THAT(tabStops(*dialog), ElementsAre("nicktxt", "hostname", "ipaddress", "Resolvebtn", "CmdOK", "Command1"));
     EXPECT_TRUE(button("CmdOK").isDefault());
     press(Qt::Key_I, Qt::AltModifier);
     EXPECT_TRUE(box("ipaddress").hasFocus());

@@ -1,12 +1,14 @@
 #include "dialogs/frmInvite.h"
 
-#include "dialog_keyboard.h"
 #include "dialog_recorders.h"
+#include "keyboard.h"
+#include "labels.h"
 #include "print_qt.h"
 #include "recorders.h"
 
 #include <gmock/gmock.h>
 
+#include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
@@ -208,7 +210,7 @@ TEST_F(FrmInvite, TheKeyboardReachesEverything)
 {
     open();
     EXPECT_THAT(accessKeys(*dialog), UnorderedElementsAre("Alt+T", "Alt+O", "Alt+S"));
-    EXPECT_THAT(tabRound(*dialog), ElementsAre("Option1", "Text1", "sendbtn", "Command1"));
+    EXPECT_THAT(tabStops(*dialog), ElementsAre("Option1", "Text1", "sendbtn", "Command1"));
     EXPECT_TRUE(button("sendbtn").isDefault());
     EXPECT_FALSE(text().accessibleName().isEmpty());
     for (const auto &[key, number] : {std::pair(Qt::Key_T, 1), std::pair(Qt::Key_O, 2)}) {

@@ -1,7 +1,8 @@
 #include "dialogs/frmNetworkscan.h"
 
-#include "dialog_keyboard.h"
 #include "dialog_recorders.h"
+#include "keyboard.h"
+#include "labels.h"
 #include "print_qt.h"
 #include "recorders.h"
 #include "simulated_network.h"
@@ -9,6 +10,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 
@@ -131,7 +133,7 @@ TEST_F(FrmNetworkscan, TakesAtMost255Characters)
 TEST_F(FrmNetworkscan, TheKeyboardReachesEverything)
 {
     EXPECT_THAT(accessKeys(*dialog), UnorderedElementsAre("Alt+W"));
-    EXPECT_THAT(tabRound(*dialog), ElementsAre("Text1", "Command1", "Command2"));
+    EXPECT_THAT(tabStops(*dialog), ElementsAre("Text1", "Command1", "Command2"));
     EXPECT_TRUE(button("Command1").isDefault());
     button("Command2").setFocus();
     press(Qt::Key_W, Qt::AltModifier);

@@ -55,8 +55,8 @@ private:
     static const char *entryFor(QLatin1String window)
     {
         constexpr std::pair<const char *, const char *> entries[] = {
-            {"frmOptions", "mnuToolsOptions"},
-            {"frmTipOfTheDay", "mnuTOTD"},
+            {"frmNetworkscan", "mnuNetworkscan"},  {"frmAddUser", "mnuAddUser"},   {"frmOptions", "mnuToolsOptions"},
+            {"frmAbout", "mnuHelpAbout"},          {"frmInvite", "mnuinviteuser"}, {"frmTipOfTheDay", "mnuTOTD"},
             {"frmSendContact", "mnusendcontacts"},
         };
         for (const auto &[name, entry] : entries) {
@@ -99,13 +99,14 @@ std::set<std::string> controlsOf(QWidget &window)
 
 TEST_P(Keyboard, NoTwoControlsShareAnAccessKey)
 {
-    std::vector<char> keys = accessKeys(shown());
-    if (const auto *const bar = shown().findChild<QMenuBar *>()) {
+    QWidget &window = shown();
+    std::vector<std::string> keys = accessKeys(window);
+    if (const auto *const bar = window.findChild<QMenuBar *>()) {
         for (const QAction *const menu : bar->actions())
-            keys.push_back(static_cast<char>(QKeySequence::mnemonic(menu->text())[0].key()));
+            keys.push_back(QKeySequence::mnemonic(menu->text()).toString(QKeySequence::PortableText).toStdString());
     }
-    std::set<char> once;
-    for (const char key : keys)
+    std::set<std::string> once;
+    for (const std::string &key : keys)
         EXPECT_TRUE(once.insert(key).second) << "two of " << key;
 }
 
@@ -125,7 +126,8 @@ TEST_P(Keyboard, EveryControlHasANameForThoseWhoDoNotSeeIt)
 
 INSTANTIATE_TEST_SUITE_P(Windows, Keyboard,
                          testing::Values("frmMain", "frmLogin", "frmPrivate", "frmConference", "frmConfInvitations",
-                                         "frmOptions", "frmTipOfTheDay", "frmSendContact"),
+                                         "frmOptions", "frmNetworkscan", "frmAddUser", "frmInvite", "frmAbout",
+                                         "frmTipOfTheDay", "frmSendContact"),
                          [](const auto &window) { return std::string(window.param); });
 
 TEST(KeyboardOfMenus, NoTwoEntriesOfAMenuShareAnAccessKey)

@@ -3,6 +3,8 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QApplication>
+#include <QGroupBox>
 #include <QKeySequence>
 #include <QLabel>
 #include <QTest>
@@ -34,17 +36,20 @@ inline std::vector<std::string> tabStops(QWidget &window)
     return names;
 }
 
-/// The letters that act together with Alt, those of labels included.
-inline std::vector<char> accessKeys(const QWidget &window)
+/// The keys that act at once, such as "Alt+S", in no order and each as often as it is used: of buttons, frames and
+/// labels.
+inline std::vector<std::string> accessKeys(const QWidget &window)
 {
-    std::vector<char> keys;
+    std::vector<std::string> keys;
     const auto note = [&keys](const QString &text) {
-        const QKeySequence sequence = QKeySequence::mnemonic(text);
-        if (!sequence.isEmpty())
-            keys.push_back(static_cast<char>(sequence[0].key()));
+        const QKeySequence key = QKeySequence::mnemonic(text);
+        if (!key.isEmpty())
+            keys.push_back(key.toString(QKeySequence::PortableText).toStdString());
     };
     for (const auto *const button : window.findChildren<QAbstractButton *>())
         note(button->text());
+    for (const auto *const frame : window.findChildren<QGroupBox *>())
+        note(frame->title());
     for (const auto *const label : window.findChildren<QLabel *>()) {
         if (label->buddy())
             note(label->text());
@@ -64,6 +69,17 @@ inline std::vector<std::string> withoutAccessibleName(const QWidget &window)
             names.push_back(control->objectName().toStdString());
     }
     return names;
+}
+
+/// Types into whatever has the focus.
+inline void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+{
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+}
+
+inline void type(const char *text)
+{
+    QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(text));
 }
 
 } // namespace nimb::test

@@ -3,6 +3,7 @@
 
 #include "app/form_opener.h"
 #include "core/frmMain.h"
+#include "dialog_recorders.h"
 #include "private/rich_text_log.h"
 #include "recorders.h"
 #include "simulated_network.h"
@@ -131,8 +132,12 @@ public:
     DropCounts drops;
     RecorderLinks links;
     RecorderPictureSources pictures;
+    RecorderResolver names;
+    RecorderNetSend netSend;
+    RecorderSystemInformation systemInformation;
     std::optional<QByteArray> tips = QByteArray("The first tip||in two lines\nThe second tip, with a comma\n");
-    FormOpener forms{{common, time, time, socket, settings, prompts, links, pictures, [this] { return tips; }}};
+    FormOpener forms{{common, time, time, socket, settings, prompts, links, pictures, names, netSend, systemInformation,
+                      [this] { return tips; }}};
     bool ended = false;
 
 private:

@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 
 #include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
