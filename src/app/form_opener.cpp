@@ -36,7 +36,11 @@ FormOpener::FormOpener(const FormServices &services)
 {
 }
 
-FormOpener::~FormOpener() = default;
+
+FormOpener::~FormOpener()
+{
+    delete m_tip; // nobody else's child
+}
 
 void FormOpener::loadNotify(bool placed)
 {
@@ -138,7 +142,8 @@ void FormOpener::mnuinviteuser(const QString &ip)
 /// Without a parent: it is seen although the main window starts minimised.
 void FormOpener::mnuTOTD()
 {
-    if (!m_tip)
+    // One that is closed is there until the event loop comes round to deleting it.
+    if (!m_tip || !m_tip->isVisible())
         m_tip = new frmTipOfTheDay(TipOfTheDay(m_services.store, m_services.openTips), m_services.prompts, nullptr);
     bringBack(*m_tip);
     m_tip->activateWindow();

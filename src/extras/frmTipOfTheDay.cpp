@@ -34,7 +34,7 @@ frmTipOfTheDay::frmTipOfTheDay(TipOfTheDay tips, Prompts &prompts, QWidget *pare
     setWindowIcon(programIcon());
     buildControls();
     connectControls();
-    resize(460, 280);
+    resize(460, 240);
     Checkbx->setChecked(m_tips.showsAtStart());
     showTip(m_tips.Form_Load());
 }

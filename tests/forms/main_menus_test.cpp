@@ -3,8 +3,10 @@
 #include <QCheckBox>
 #include <QDialog>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 
 namespace nimb::test
 {
@@ -194,6 +196,110 @@ TEST_F(MainMenusTest, ALongActivityDoesNotWidenTheWindow)
     QCoreApplication::processEvents();
     EXPECT_EQ(windows.main().width(), 305);
     EXPECT_LE(windows.main().minimumSizeHint().width(), 305);
+}
+
+/// The visible window of this name; null when there is none.
+QDialog *shown(const char *name)
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    for (QWidget *const window : QApplication::topLevelWidgets()) {
+        if (window->objectName() == QLatin1String(name) && window->isVisible())
+            return qobject_cast<QDialog *>(window);
+    }
+    return nullptr;
+}
+
+TEST_F(MainMenusTest, EveryDialogOpensFromItsEntryAndTheProgramGoesOn)
+{
+    constexpr std::pair<const char *, const char *> dialogs[]
+        = {{"mnuNetworkscan", "frmNetworkscan"}, {"mnuAddUser", "frmAddUser"},         {"mnuToolsOptions", "frmOptions"},
+           {"mnuHelpAbout", "frmAbout"},         {"mnuTOTD", "frmTipOfTheDay"},        {"mnuinviteuser", "frmInvite"},
+           {"mnusendcontacts", "frmSendContact"}};
+    windows.click(0);
+    for (const auto &[entry, name] : dialogs) {
+        EXPECT_FALSE(shown(name)) << name;
+        windows.entry(entry).trigger();
+        ASSERT_TRUE(shown(name)) << name;
+        windows.sent();
+        windows.arrive("10.0.0.2", "?ONLINE");
+        EXPECT_EQ(windows.sent().size(), 2U) << name;
+        shown(name)->close();
+        EXPECT_FALSE(shown(name)) << name;
+    }
+}
+
+TEST_F(MainMenusTest, TheTipIsShownOnceHoweverOftenItIsAskedFor)
+{
+    windows.entry("mnuTOTD").trigger();
+    QDialog *const first = shown("frmTipOfTheDay");
+    EXPECT_EQ(first->windowTitle(), QStringLiteral("Tip of the Day - Tip #1"));
+    windows.entry("mnuTOTD").trigger();
+    EXPECT_EQ(shown("frmTipOfTheDay"), first);
+    first->close();
+    windows.entry("mnuTOTD").trigger();
+    EXPECT_EQ(shown("frmTipOfTheDay")->windowTitle(), QStringLiteral("Tip of the Day - Tip #2"));
+}
+
+TEST_F(MainMenusTest, TheTipEndsWithTheMainWindowAndIsSaved)
+{
+    windows.entry("mnuTOTD").trigger();
+    windows.main().unload(UnloadMode::code);
+    EXPECT_FALSE(shown("frmTipOfTheDay"));
+    EXPECT_EQ(windows.settings.value("Options", "TipOTDayNum"), "1");
+}
+
+TEST_F(MainMenusTest, ContactsAreSentToWhoeverWasSelectedLast)
+{
+    windows.click(0);
+    windows.entry("mnusendcontacts").trigger();
+    EXPECT_EQ(shown("frmSendContact")->windowTitle(), QStringLiteral("NIMB-Chat - Send Contacts to 'Ann'"));
+    windows.click(1);
+    windows.entry("mnusendcontacts").trigger();
+    EXPECT_EQ(shown("frmSendContact")->windowTitle(), QStringLiteral("NIMB-Chat - Send Contacts to 'Ben & Co'"));
+    RealWindows::control<QPushButton>(*shown("frmSendContact"), "btnsendall").click();
+    RealWindows::control<QPushButton>(*shown("frmSendContact"), "sendbtn").click();
+    EXPECT_THAT(windows.sent(), ElementsAre(To{"10.0.0.3", "!USER 10.0.0.2 PC Ann"}));
+    EXPECT_FALSE(shown("frmSendContact"));
+}
+
+TEST_F(MainMenusTest, AScanAsksTheAddressThatIsTyped)
+{
+    windows.entry("mnuNetworkscan").trigger();
+    RealWindows::control<QLineEdit>(*shown("frmNetworkscan"), "Text1").setText(QStringLiteral("10.0.0.255"));
+    RealWindows::control<QPushButton>(*shown("frmNetworkscan"), "Command1").click();
+    EXPECT_THAT(windows.sent(), ElementsAre(To{"10.0.0.255", "?ONLINE 10.0.0.1 HERE Me"}));
+}
+
+TEST_F(MainMenusTest, ANameThatHasNoAddressIsSaidInTheLogAfterTheDialogIsGone)
+{
+    windows.entry("mnuNetworkscan").trigger();
+    RealWindows::control<QLineEdit>(*shown("frmNetworkscan"), "Text1").setText(QStringLiteral("nobody"));
+    RealWindows::control<QPushButton>(*shown("frmNetworkscan"), "Command1").click();
+    EXPECT_FALSE(shown("frmNetworkscan"));
+    windows.names.answer(0, std::nullopt);
+    EXPECT_THAT(windows.logText().toStdString(), testing::HasSubstr("No address was found for \"nobody\""));
+}
+
+TEST_F(MainMenusTest, AnAddedUserStandsInTheListAsNotYetKnown)
+{
+    windows.entry("mnuAddUser").trigger();
+    QDialog &dialog = *shown("frmAddUser");
+    RealWindows::control<QLineEdit>(dialog, "nicktxt").setText(QStringLiteral("Zoe"));
+    RealWindows::control<QLineEdit>(dialog, "hostname").setText(QStringLiteral("PC-ZOE"));
+    RealWindows::control<QLineEdit>(dialog, "ipaddress").setText(QStringLiteral("10.0.0.9"));
+    RealWindows::control<QPushButton>(dialog, "CmdOK").click();
+    const QModelIndex last = windows.list().model()->index(2, 0);
+    EXPECT_EQ(last.data().toString(), QStringLiteral("Zoe"));
+    EXPECT_EQ(last.data(Qt::UserRole + 2).toString(), QStringLiteral("yellow"));
+    EXPECT_THAT(windows.sent(), IsEmpty());
+}
+
+TEST_F(MainMenusTest, AnInvitationGoesToTheSelectedContactsComputer)
+{
+    windows.click(1);
+    windows.entry("mnuinviteuser").trigger();
+    RealWindows::control<QPushButton>(*shown("frmInvite"), "sendbtn").click();
+    EXPECT_THAT(windows.netSend.sent, ElementsAre("PC <- Me wants you to join him in NIMB-Chat"));
 }
 
 } // namespace

@@ -45,7 +45,8 @@ public:
     {
         for (RichTextLogEdit *const log : window.findChildren<RichTextLogEdit *>())
             log->writeGathered();
-        QCoreApplication::processEvents();
+        if (!QTest::qWaitForWindowExposed(&window, 30000))
+            qFatal("%s does not appear", name);
         const QString file = m_folder.filePath(QLatin1String(name) + QLatin1String(".png"));
         if (!window.grab().save(file))
             qFatal("cannot write %s", qPrintable(file));
@@ -254,6 +255,37 @@ void takeOptions(Gallery &gallery)
     gallery.take(topLevel("font_dialog"), "options_font");
 }
 
+void takeDialogs(Gallery &gallery)
+{
+    RealWindows windows(everybody);
+    fill(windows);
+    windows.tips = QByteArray("Somebody does not answer? Press Ctrl+G in the private window to buzz.\n"
+                              "Enter sends what you have typed.||Shift+Enter begins a new line in the same message.\n");
+    windows.settings.put("Options", "TipOTDayNum", QStringLiteral("1"));
+    constexpr std::tuple<const char *, const char *, const char *> dialogs[] = {
+        {"mnuNetworkscan", "frmNetworkscan", "network_scan"}, {"mnuAddUser", "frmAddUser", "add_user"},
+        {"mnuHelpAbout", "frmAbout", "about"},                {"mnuTOTD", "frmTipOfTheDay", "tip_of_the_day"},
+        {"mnuinviteuser", "frmInvite", "invite"},             {"mnusendcontacts", "frmSendContact", "send_contacts"},
+    };
+    for (const auto &[entry, name, picture] : dialogs) {
+        windows.entry(entry).trigger();
+        QWidget &dialog = topLevel(name);
+        if (QLatin1String(name) == QLatin1String("frmAddUser")) {
+            RealWindows::control<QLineEdit>(dialog, "nicktxt").setText(QStringLiteral("Grace"));
+            RealWindows::control<QLineEdit>(dialog, "hostname").setText(QStringLiteral("PC-GRACE"));
+            RealWindows::control<QLineEdit>(dialog, "ipaddress").setText(QStringLiteral("192.168.2.17"));
+        }
+        if (QLatin1String(name) == QLatin1String("frmSendContact")) {
+            auto &list = RealWindows::control<QTreeView>(dialog, "ListView1");
+            list.setCurrentIndex(list.model()->index(1, 0));
+            RealWindows::control<QPushButton>(dialog, "btnsendone").click();
+            list.setCurrentIndex(list.model()->index(0, 0));
+        }
+        gallery.take(dialog, picture);
+        dialog.close();
+    }
+}
+
 void takeConference(Gallery &gallery)
 {
     RealWindows windows(everybody);
@@ -331,6 +363,7 @@ int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.2.0"));
     const QStringList words = QCoreApplication::arguments();
     if (words.size() != 3) {
         std::fprintf(stderr, "usage: window_gallery FOLDER light|dark\n");
@@ -348,6 +381,7 @@ int main(int argc, char *argv[])
     nimb::test::takeConference(gallery);
     nimb::test::takeNotify(gallery);
     nimb::test::takeOptions(gallery);
+    nimb::test::takeDialogs(gallery);
     nimb::test::takeMessageBox(gallery);
     return 0;
 }
