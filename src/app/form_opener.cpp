@@ -36,7 +36,6 @@ FormOpener::FormOpener(const FormServices &services)
 {
 }
 
-
 FormOpener::~FormOpener()
 {
     delete m_tip; // nobody else's child

@@ -212,8 +212,8 @@ QDialog *shown(const char *name)
 TEST_F(MainMenusTest, EveryDialogOpensFromItsEntryAndTheProgramGoesOn)
 {
     constexpr std::pair<const char *, const char *> dialogs[]
-        = {{"mnuNetworkscan", "frmNetworkscan"}, {"mnuAddUser", "frmAddUser"},         {"mnuToolsOptions", "frmOptions"},
-           {"mnuHelpAbout", "frmAbout"},         {"mnuTOTD", "frmTipOfTheDay"},        {"mnuinviteuser", "frmInvite"},
+        = {{"mnuNetworkscan", "frmNetworkscan"}, {"mnuAddUser", "frmAddUser"},  {"mnuToolsOptions", "frmOptions"},
+           {"mnuHelpAbout", "frmAbout"},         {"mnuTOTD", "frmTipOfTheDay"}, {"mnuinviteuser", "frmInvite"},
            {"mnusendcontacts", "frmSendContact"}};
     windows.click(0);
     for (const auto &[entry, name] : dialogs) {

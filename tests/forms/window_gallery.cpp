@@ -263,9 +263,12 @@ void takeDialogs(Gallery &gallery)
                               "Enter sends what you have typed.||Shift+Enter begins a new line in the same message.\n");
     windows.settings.put("Options", "TipOTDayNum", QStringLiteral("1"));
     constexpr std::tuple<const char *, const char *, const char *> dialogs[] = {
-        {"mnuNetworkscan", "frmNetworkscan", "network_scan"}, {"mnuAddUser", "frmAddUser", "add_user"},
-        {"mnuHelpAbout", "frmAbout", "about"},                {"mnuTOTD", "frmTipOfTheDay", "tip_of_the_day"},
-        {"mnuinviteuser", "frmInvite", "invite"},             {"mnusendcontacts", "frmSendContact", "send_contacts"},
+        {"mnuNetworkscan", "frmNetworkscan", "network_scan"},
+        {"mnuAddUser", "frmAddUser", "add_user"},
+        {"mnuHelpAbout", "frmAbout", "about"},
+        {"mnuTOTD", "frmTipOfTheDay", "tip_of_the_day"},
+        {"mnuinviteuser", "frmInvite", "invite"},
+        {"mnusendcontacts", "frmSendContact", "send_contacts"},
     };
     for (const auto &[entry, name, picture] : dialogs) {
         windows.entry(entry).trigger();
