@@ -12,6 +12,7 @@ namespace nimb
 struct MenuEntry {
     const char *name; ///< object name; null for a separator
     const char *caption = nullptr;
+    const char *picture = nullptr; ///< name of one of the program's own, or null
 };
 
 struct Menu {
@@ -47,11 +48,11 @@ inline constexpr std::array file = {
     MenuEntry{"mnuFileMRU2", QT_TRANSLATE_NOOP("MainMenu", "Recent File 2")},
     MenuEntry{"mnuFileMRU3", QT_TRANSLATE_NOOP("MainMenu", "Recent File 3")},
     separator,
-    MenuEntry{"mnuFileExit", QT_TRANSLATE_NOOP("MainMenu", "E&xit")},
+    MenuEntry{"mnuFileExit", QT_TRANSLATE_NOOP("MainMenu", "E&xit"), "exit"},
 };
 inline constexpr std::array users = {
-    MenuEntry{"mnuNetworkscan", QT_TRANSLATE_NOOP("MainMenu", "&Network scan...")},
-    MenuEntry{"mnuAddUser", QT_TRANSLATE_NOOP("MainMenu", "&Add offline user...")},
+    MenuEntry{"mnuNetworkscan", QT_TRANSLATE_NOOP("MainMenu", "&Network scan..."), "search"},
+    MenuEntry{"mnuAddUser", QT_TRANSLATE_NOOP("MainMenu", "&Add offline user..."), "add-user"},
 };
 inline constexpr std::array conference = {
     MenuEntry{"mnuCreateNewConf", QT_TRANSLATE_NOOP("MainMenu", "Create &new...")},
@@ -59,12 +60,12 @@ inline constexpr std::array conference = {
 };
 inline constexpr std::array tools = {
     MenuEntry{"mnuLogWindow", QT_TRANSLATE_NOOP("MainMenu", "Show &Log Window")},
-    MenuEntry{"mnuToolsOptions", QT_TRANSLATE_NOOP("MainMenu", "&Options...")},
+    MenuEntry{"mnuToolsOptions", QT_TRANSLATE_NOOP("MainMenu", "&Options..."), "options"},
 };
 inline constexpr std::array help = {
-    MenuEntry{"mnuHelpContents", QT_TRANSLATE_NOOP("MainMenu", "&Contents")},
+    MenuEntry{"mnuHelpContents", QT_TRANSLATE_NOOP("MainMenu", "&Contents"), "help"},
     MenuEntry{"mnuHelpSearchForHelpOn", QT_TRANSLATE_NOOP("MainMenu", "&Search For Help On...")},
-    MenuEntry{"mnuTOTD", QT_TRANSLATE_NOOP("MainMenu", "&Tip of the day...")},
+    MenuEntry{"mnuTOTD", QT_TRANSLATE_NOOP("MainMenu", "&Tip of the day..."), "tip"},
     MenuEntry{"mnuHelpAbout", QT_TRANSLATE_NOOP("MainMenu", "&About")},
 };
 
@@ -82,14 +83,14 @@ inline constexpr std::array mainMenus = {
 /// their slots 1 to 5.
 inline constexpr std::array contactMenu = {
     MenuEntry{"mnuPrivateChat", QT_TRANSLATE_NOOP("MainMenu", "&Private Chat")},
-    MenuEntry{"mnuBuzzUser", QT_TRANSLATE_NOOP("MainMenu", "&Buzz User")},
+    MenuEntry{"mnuBuzzUser", QT_TRANSLATE_NOOP("MainMenu", "&Buzz User"), "buzz"},
     MenuEntry{"mnuInvite2Conf1", QT_TRANSLATE_NOOP("MainMenu", "Invite to Conference #&1")},
     MenuEntry{"mnuInvite2Conf2", QT_TRANSLATE_NOOP("MainMenu", "Invite to Conference #&2")},
     MenuEntry{"mnuInvite2Conf3", QT_TRANSLATE_NOOP("MainMenu", "Invite to Conference #&3")},
     MenuEntry{"mnuInvite2Conf4", QT_TRANSLATE_NOOP("MainMenu", "Invite to Conference #&4")},
     MenuEntry{"mnuInvite2Conf5", QT_TRANSLATE_NOOP("MainMenu", "Invite to Conference #&5")},
     MenuEntry{"mnusendcontacts", QT_TRANSLATE_NOOP("MainMenu", "Send &Contacts")},
-    MenuEntry{"mnuRemoveUser", QT_TRANSLATE_NOOP("MainMenu", "Re&move User")},
+    MenuEntry{"mnuRemoveUser", QT_TRANSLATE_NOOP("MainMenu", "Re&move User"), "remove-user"},
     MenuEntry{"mnuinviteuser", QT_TRANSLATE_NOOP("MainMenu", "I&nvite user")},
 };
 

@@ -2,6 +2,7 @@
 
 #include "core/form_layout.h"
 #include "core/main_menu.h"
+#include "core/pictures.h"
 
 #include <QMainWindow>
 #include <QMenuBar>
@@ -15,11 +16,15 @@ MainMenus::MainMenus(QMainWindow &window) : m_window(window), mnuPopUp(named(new
     buildContactMenu();
 }
 
-QAction *MainMenus::add(QMenu &menu, const char *name, const char *caption)
+void MainMenus::add(QMenu &menu, const MenuEntry &item)
 {
-    if (!name)
-        return menu.addSeparator();
-    return named(menu.addAction(QCoreApplication::translate("MainMenu", caption)), name);
+    if (!item.name) {
+        menu.addSeparator();
+        return;
+    }
+    QAction *const action = named(menu.addAction(QCoreApplication::translate("MainMenu", item.caption)), item.name);
+    if (item.picture)
+        action->setIcon(namedPicture(QLatin1String(item.picture)));
 }
 
 void MainMenus::buildMenuBar()
@@ -28,7 +33,7 @@ void MainMenus::buildMenuBar()
         QMenu *const menu
             = named(m_window.menuBar()->addMenu(QCoreApplication::translate("MainMenu", table.caption)), table.name);
         for (const MenuEntry &item : table.entries)
-            add(*menu, item.name, item.caption);
+            add(*menu, item);
     }
     for (const char *const recent : {"mnuFileMRU1", "mnuFileMRU2", "mnuFileMRU3"})
         entry(recent)->setVisible(false); // as long as there is no recent file
@@ -44,7 +49,7 @@ void MainMenus::buildMenuBar()
 void MainMenus::buildContactMenu()
 {
     for (const MenuEntry &item : contactMenu)
-        add(*mnuPopUp, item.name, item.caption);
+        add(*mnuPopUp, item);
     mnuPopUp->setDefaultAction(mnuPopUp->actions().first());
     // Visible while their slot holds a conference.
     for (int slot = 1; slot <= conferenceSlots; ++slot)

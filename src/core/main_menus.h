@@ -11,6 +11,8 @@ class QPoint;
 namespace nimb
 {
 
+struct MenuEntry;
+
 class MainMenus
 {
 public:
@@ -29,7 +31,7 @@ public:
 private:
     void buildMenuBar();
     void buildContactMenu();
-    QAction *add(QMenu &menu, const char *name, const char *caption);
+    void add(QMenu &menu, const MenuEntry &item);
 
     QMainWindow &m_window;
     QMenu *mnuPopUp;
