@@ -4,10 +4,12 @@
 #include "core/form_layout.h"
 #include "core/limits.h"
 
+#include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 namespace nimb
 {
@@ -36,6 +38,17 @@ inline QLabel *runningText(QWidget *parent, const char *name, const QString &tex
     label->setWordWrap(true);
     label->setFixedWidth(width);
     return label;
+}
+
+/// Puts these below each other into a dialog that is as large as they need.
+inline void stack(QDialog &dialog, std::initializer_list<QWidget *> parts)
+{
+    auto *const column = new QVBoxLayout(&dialog);
+    column->setContentsMargins(form_layout::margin, form_layout::margin, form_layout::margin, form_layout::margin);
+    column->setSpacing(form_layout::groupDistance);
+    for (QWidget *const part : parts)
+        column->addWidget(part);
+    column->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 } // namespace nimb

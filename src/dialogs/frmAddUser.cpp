@@ -13,7 +13,6 @@ namespace nimb
 namespace
 {
 
-using form_layout::groupDistance;
 using form_layout::margin;
 using form_layout::spacing;
 
@@ -63,13 +62,7 @@ void frmAddUser::buildControls()
     CmdOK = addButton(*buttons, "CmdOK", tr("OK"), QDialogButtonBox::AcceptRole);
     Command1 = addButton(*buttons, "Command1", tr("Cancel"), QDialogButtonBox::RejectRole);
     CmdOK->setDefault(true);
-
-    auto *const column = new QVBoxLayout(this);
-    column->setContentsMargins(margin, margin, margin, margin);
-    column->setSpacing(groupDistance);
-    column->addWidget(frame);
-    column->addWidget(buttons);
-    column->setSizeConstraint(QLayout::SetFixedSize);
+    stack(*this, {frame, buttons});
 
     const std::initializer_list<QWidget *> order = {nicktxt, hostname, ipaddress, Resolvebtn};
     for (auto control = order.begin(); control + 1 != order.end(); ++control)

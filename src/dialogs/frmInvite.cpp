@@ -65,14 +65,7 @@ void frmInvite::buildControls()
     sendbtn = addButton(*buttons, "sendbtn", tr("&Send"), QDialogButtonBox::AcceptRole);
     Command1 = addButton(*buttons, "Command1", tr("Cancel"), QDialogButtonBox::RejectRole);
     sendbtn->setDefault(true);
-
-    auto *const column = new QVBoxLayout(this);
-    column->setContentsMargins(margin, margin, margin, margin);
-    column->setSpacing(groupDistance);
-    column->addWidget(Label1);
-    column->addWidget(frame);
-    column->addWidget(buttons);
-    column->setSizeConstraint(QLayout::SetFixedSize);
+    stack(*this, {Label1, frame, buttons});
 }
 
 QWidget *frmInvite::buildFrame()

@@ -11,7 +11,6 @@ namespace nimb
 namespace
 {
 
-using form_layout::groupDistance;
 using form_layout::margin;
 using form_layout::spacing;
 
@@ -53,13 +52,7 @@ void frmNetworkscan::buildControls()
     Command1 = addButton(*buttons, "Command1", tr("Scan"), QDialogButtonBox::AcceptRole);
     Command2 = addButton(*buttons, "Command2", tr("Cancel"), QDialogButtonBox::RejectRole);
     Command1->setDefault(true);
-
-    auto *const column = new QVBoxLayout(this);
-    column->setContentsMargins(margin, margin, margin, margin);
-    column->setSpacing(groupDistance);
-    column->addWidget(frame);
-    column->addWidget(buttons);
-    column->setSizeConstraint(QLayout::SetFixedSize);
+    stack(*this, {frame, buttons});
 }
 
 void frmNetworkscan::connectControls()
