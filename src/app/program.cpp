@@ -1,12 +1,14 @@
 #include "app/program.h"
 
 #include "core/frmMain.h"
+#include "core/limits.h"
 #include "core/sub_main.h"
 #include "platform/own_identity.h"
 #include "platform/program_files.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QImageReader>
 #include <QLocale>
 #include <QSessionManager>
 #include <QStandardPaths>
@@ -47,6 +49,8 @@ Program::Program(const Environment &environment)
                m_systemInfo, [] { return readProgramFile(QStringLiteral("TOTD.txt")); }})
 {
     qApp->installEventFilter(&m_toolTips);
+    // For pictures that are pasted as well as for those of files.
+    QImageReader::setAllocationLimit(limits::pictureFileMemory);
 }
 
 int Program::run(const QString &commandLine)

@@ -25,8 +25,8 @@ QString withoutOuterBlanks(const QString &text)
 
 } // namespace
 
-Conference::Conference(const Services &services, const Identity &identity, std::function<void()> unloaded)
-    : m_services(services), m_identity(identity), m_unloaded(std::move(unloaded))
+Conference::Conference(const Services &services, Identity identity, std::function<void()> unloaded)
+    : m_services(services), m_identity(std::move(identity)), m_unloaded(std::move(unloaded))
 {
     m_participants.add({.ip = services.common.ownIP,
                         .name = tr("%1 (you)").arg(services.common.ownNickname),

@@ -43,7 +43,7 @@ public:
     };
 
     /// unloaded: called last of all when the user closes the window; it may destroy this conference.
-    Conference(const Services &services, const Identity &identity, std::function<void()> unloaded);
+    Conference(const Services &services, Identity identity, std::function<void()> unloaded);
 
     const Identity &identity() const { return m_identity; }
     bool isHostedHere() const { return m_identity.ImHostingThatConf; }

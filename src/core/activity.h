@@ -11,7 +11,7 @@ class Activity
 {
 public:
     Activity(Timers &timers, ActivityView &view)
-        : m_view(view), m_Timer2(timers.oneShot(timeShown, [&view] { view.setActivityPanel({}); }))
+        : m_view(view), m_timer2(timers.oneShot(timeShown, [&view] { view.setActivityPanel({}); }))
     {
     }
 
@@ -19,14 +19,14 @@ public:
     void show(const QString &text)
     {
         m_view.setActivityPanel(text);
-        m_Timer2->start();
+        m_timer2->start();
     }
 
 private:
     static constexpr std::chrono::milliseconds timeShown{2500};
 
     ActivityView &m_view;
-    std::unique_ptr<Timer> m_Timer2;
+    std::unique_ptr<Timer> m_timer2;
 };
 
 } // namespace nimb

@@ -11,7 +11,7 @@ namespace nimb
 
 constexpr int avatarSide = 50; ///< pixels
 /// Three bytes a pixel (blue, green, red), row by row from the top.
-constexpr qsizetype avatarBytes = 3 * avatarSide * avatarSide;
+constexpr qsizetype avatarBytes = qsizetype(3) * avatarSide * avatarSide;
 
 /// The bytes of a picture of avatarSide by avatarSide pixels, each 0xRRGGBB with anything in the byte above.
 inline QByteArray avatarBodyOf(const std::uint32_t *pixels)

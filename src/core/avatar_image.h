@@ -14,7 +14,7 @@ inline QImage avatarImage(const QByteArray &body)
     if (body.size() != avatarBytes)
         return {};
     // The lines follow each other without the gap that Qt would expect.
-    return QImage(reinterpret_cast<const uchar *>(body.constData()), avatarSide, avatarSide, 3 * avatarSide,
+    return QImage(reinterpret_cast<const uchar *>(body.constData()), avatarSide, avatarSide, qsizetype(3) * avatarSide,
                   QImage::Format_BGR888)
         .copy();
 }

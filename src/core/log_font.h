@@ -10,10 +10,10 @@ namespace nimb
 {
 
 /// In points.
-namespace logFontSize
+namespace log_font_size
 {
 constexpr int smallest = 6, largest = 24;
-} // namespace logFontSize
+} // namespace log_font_size
 
 /// The stored font; the desktop's own where its face is not installed, so that the store keeps the name.
 inline QFont fontOf(const LogFont &stored)
@@ -21,7 +21,7 @@ inline QFont fontOf(const LogFont &stored)
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     if (QFontDatabase::hasFamily(stored.face))
         font.setFamily(stored.face);
-    font.setPointSize(qBound(logFontSize::smallest, int(stored.size), logFontSize::largest));
+    font.setPointSize(qBound(log_font_size::smallest, int(stored.size), log_font_size::largest));
     font.setBold(stored.bold());
     font.setItalic(stored.italic());
     return font;

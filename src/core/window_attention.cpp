@@ -1,6 +1,7 @@
 #include "core/window_attention.h"
 
 #include <QApplication>
+#include <QWidget>
 
 #ifdef NIMB_XCB
 #include <QtGui/qguiapplication_platform.h>

@@ -11,6 +11,8 @@ QString AddUserRules::objection(const QString &nickname, const QString &hostname
         return tr("Please fill all the fields");
     if (hostname == m_common.ownHostName || ipaddress == m_common.ownIP)
         return tr("You can't add yourself...");
+    if (ipaddress == endOfStoredContacts)
+        return tr("This address cannot be kept: it marks the end of the stored list.");
     return {};
 }
 

@@ -16,7 +16,9 @@ LogFontDialog::LogFontDialog(const LogFont &preset, Prompts &prompts, QWidget *p
     setWindowTitle(tr("Font of the logs"));
     // The desktop's own dialogs cannot be kept open when the size is none of ours.
     setOption(QFontDialog::DontUseNativeDialog);
-    setCurrentFont(fontOf(preset));
+    // A face that is not installed, or stands for another one, offers no bold: the real one does.
+    const QFont font = fontOf(preset);
+    setCurrentFont(QFont(QFontInfo(font).family(), font.pointSize(), font.weight(), font.italic()));
     hideEffects();
     // Beside the effects the sample had its height from them.
     if (auto *const sample = findChild<QLineEdit *>(QStringLiteral("qt_fontDialog_sampleEdit")))
@@ -46,9 +48,9 @@ LogFont LogFontDialog::chosenFont() const
 void LogFontDialog::done(int result)
 {
     const int size = currentFont().pointSize();
-    if (result == QDialog::Accepted && (size < logFontSize::smallest || size > logFontSize::largest)) {
+    if (result == QDialog::Accepted && (size < log_font_size::smallest || size > log_font_size::largest)) {
         m_prompts.tell(
-            tr("The size must be from %1 to %2 points.").arg(logFontSize::smallest).arg(logFontSize::largest),
+            tr("The size must be from %1 to %2 points.").arg(log_font_size::smallest).arg(log_font_size::largest),
             windowTitle());
         return;
     }

@@ -102,7 +102,7 @@ void frmInvite::Form_Load(const QString &selectedAddress)
     stdtext->setToolTip(standardText);
     Option1->setAccessibleDescription(standardText);
     const Invite::Target &target = m_invite.target();
-    const QString toWhom = tr("Send to %1 on the computer %2");
+    const QString toWhom = tr("Send to the computer %2, for %1");
     Label1->setText(toWhom.arg(paintedName(target.nickname), paintedName(target.computer)));
     Label1->setToolTip(toWhom.arg(target.nickname, target.computer));
     Option1->setFocus();

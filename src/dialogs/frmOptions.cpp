@@ -196,6 +196,12 @@ QGroupBox *frmOptions::makeAvatar()
     grid->addWidget(PolledPicturebox, 2, 1);
     grid->addWidget(Folderbtn, 2, 2);
     grid->setColumnStretch(1, 1);
+    QWidget *previous = Option1;
+    for (QWidget *const next :
+         std::initializer_list<QWidget *>{Option2, LoadAvatarbtn, Option3, PolledPicturebox, Folderbtn}) {
+        setTabOrder(previous, next);
+        previous = next;
+    }
     QVBoxLayout *const column = columnOf(group);
     column->addLayout(grid);
     column->addWidget(note(tr("A picture can also be dropped here or pasted. Pictures that change end with NIMB-Chat; "

@@ -59,7 +59,7 @@ std::optional<QString> OptionValues::CmdOK_Click(const OptionControls &controls)
         std::unique_ptr<PictureSource> source = m_sources.open(controls.polled);
         // Some know only by trying that they cannot work.
         source->frame();
-        if (const std::optional<QString> problem = source->problem())
+        if (std::optional<QString> problem = source->problem())
             return problem;
         m_ownAvatar.setSource(std::move(source));
     }

@@ -91,7 +91,6 @@ ReadPicture checkPicture(const QImage &picture)
 
 ReadPicture readPicture(QIODevice &source)
 {
-    QImageReader::setAllocationLimit(limits::pictureFileMemory);
     WatchedSource watched(source);
     QImageReader reader(&watched);
     reader.setAutoTransform(true);

@@ -63,6 +63,8 @@ QFrame *frmTipOfTheDay::tipFrame()
     Text1->setReadOnly(true);
     Text1->setTabChangesFocus(true);
     Text1->setFrameShape(QFrame::NoFrame);
+    Text1->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    Text1->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     Text1->document()->setDocumentMargin(0);
 
     auto *const grid = new QGridLayout(frame);

@@ -25,8 +25,8 @@ QDBusMessage call(const char *method)
 
 } // namespace
 
-DesktopNotifications::DesktopNotifications(const Common &common, const QDBusConnection &bus)
-    : m_common(common), m_bus(bus)
+DesktopNotifications::DesktopNotifications(const Common &common, QDBusConnection bus)
+    : m_common(common), m_bus(std::move(bus))
 {
     m_bus.connect(service, objectPath, service, QStringLiteral("ActionInvoked"), this,
                   SLOT(actionInvoked(uint, QString)));

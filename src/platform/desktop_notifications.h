@@ -21,7 +21,7 @@ class DesktopNotifications : public QObject, public Notifications
     Q_OBJECT
 
 public:
-    DesktopNotifications(const Common &common, const QDBusConnection &bus);
+    DesktopNotifications(const Common &common, QDBusConnection bus);
     /// True where windows stand where the desktop puts them. Needs the application object.
     static bool areNeeded();
 
@@ -31,11 +31,10 @@ public:
     void add(const Notification &notification) override;
     void startTimer() override;
 
-private Q_SLOTS:
-    void actionInvoked(uint id, const QString &action);
-    void notificationClosed(uint id, uint reason);
-
 private:
+    Q_SLOT void actionInvoked(uint id, const QString &action);
+    Q_SLOT void notificationClosed(uint id, uint reason);
+
     enum class Exchange { idle, pending, pendingAgain };
 
     void askForCapabilities();

@@ -1,5 +1,6 @@
 #include "platform/folder_source.h"
 
+#include "core/limits.h"
 #include "platform/picture_frame.h"
 
 #include <QDir>
@@ -10,15 +11,12 @@ namespace nimb
 namespace
 {
 
-/// What a picture may have at most, for it is shown with 50 pixels.
-constexpr int largestSide = 20000;
-
 QImage readPicture(const QString &file)
 {
     QImageReader reader(file);
     reader.setAutoTransform(true);
     const QSize size = reader.size();
-    if (size.width() > largestSide || size.height() > largestSide)
+    if (qint64(size.width()) * size.height() > limits::pictureFilePixels)
         return {};
     return reader.read();
 }

@@ -82,7 +82,7 @@ QString ownHostName(const std::optional<QString> &fixed)
 {
     for (const QString &name : {fixed.value_or(QString()), QSysInfo::machineHostName(), QHostInfo::localHostName()}) {
         // A space would end the field in a datagram.
-        const QString oneWord = name.simplified().replace(QLatin1Char(' '), QLatin1Char('-'));
+        QString oneWord = name.simplified().replace(QLatin1Char(' '), QLatin1Char('-'));
         if (!oneWord.isEmpty())
             return oneWord;
     }

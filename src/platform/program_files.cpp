@@ -20,7 +20,7 @@ std::optional<QString> findProgramFile(const QString &name, const QString &progr
 
 std::optional<QByteArray> readProgramFile(const QString &name, const QString &programFolder)
 {
-    constexpr qint64 largest = 1024 * 1024;
+    constexpr qint64 largest = qint64(1024) * 1024;
     const std::optional<QString> path = findProgramFile(name, programFolder);
     if (!path)
         return std::nullopt;

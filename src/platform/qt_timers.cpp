@@ -9,8 +9,6 @@ namespace nimb
 namespace
 {
 
-constexpr std::chrono::milliseconds preciseBelow{100};
-
 class QtTimer : public Timer
 {
 public:
@@ -18,7 +16,8 @@ public:
     {
         m_timer.setInterval(interval);
         m_timer.setSingleShot(singleShot);
-        m_timer.setTimerType(interval < preciseBelow ? Qt::PreciseTimer : Qt::CoarseTimer);
+        // Otherwise it may come a twentieth of its time too early.
+        m_timer.setTimerType(Qt::PreciseTimer);
         // The function may destroy this timer, and with it the place where the function was kept.
         m_timer.callOnTimeout([kept = std::move(fired)] {
             const auto running = kept;

@@ -112,7 +112,8 @@ std::optional<IndexedBitmap> readStretchedBitmap(const QByteArray &bytes, qsizet
             // Four pixels: the byte that comes first holds the left two, its upper half the leftmost.
             const std::array<std::uint32_t, 4> four = {word >> 4 & 0xF, word & 0xF, word >> 12 & 0xF, word >> 8 & 0xF};
             for (std::uint32_t i = 0; i < four.size() && 4 * pair + i < size.width; ++i)
-                bitmap.pixels[std::size_t(row) * size.width + 4 * pair + i] = static_cast<std::uint8_t>(four[i]);
+                bitmap.pixels[std::size_t(row) * size.width + std::size_t(4) * pair + i]
+                    = static_cast<std::uint8_t>(four[i]);
         }
     }
     return in.overrun() ? std::nullopt : std::optional(bitmap);
@@ -160,7 +161,7 @@ std::optional<IndexedBitmap> decodePictureFragment(QStringView fragment)
 
 QString emoticonFragment(std::size_t picture)
 {
-    return QLatin1String("{\\pict\\picw318\\pich318\\wmetafile8 ") + emoticonTables.pictureHex(picture)
+    return QLatin1String(R"({\pict\picw318\pich318\wmetafile8 )") + emoticonTables.pictureHex(picture)
         + QLatin1Char('}');
 }
 

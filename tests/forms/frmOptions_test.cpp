@@ -336,5 +336,18 @@ TEST_F(FrmOptions, WithTheNotifyWindowSwitchedOffNothingRises)
     }
 }
 
+TEST_F(FrmOptions, AFaceThatIsNotInstalledStillOffersBoldAndItalic)
+{
+    windows.common.logFont = {QStringLiteral("MS Sans Serif"), 8, QStringLiteral("bi")};
+    click("font_btn");
+    auto *const fonts = dialog().findChild<LogFontDialog *>();
+    EXPECT_TRUE(fonts->currentFont().bold());
+    EXPECT_TRUE(fonts->currentFont().italic());
+    fonts->accept();
+    click("CmdOK");
+    EXPECT_EQ(windows.common.logFont.style, QStringLiteral("bi"));
+    EXPECT_EQ(windows.common.logFont.size, 8);
+}
+
 } // namespace
 } // namespace nimb::test

@@ -10,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
 
 namespace nimb::test
@@ -222,6 +223,16 @@ TEST_F(FrmTipOfTheDay, EnterOnNextTurnsThePage)
     control<QPushButton>("nextbtn").setFocus();
     QTest::keyClick(&control<QPushButton>("nextbtn"), Qt::Key_Return);
     EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Tip of the Day - Tip #2"));
+}
+
+TEST_F(FrmTipOfTheDay, ALineThatIsWrappedNeedsNoScrollBarBelow)
+{
+    file = QByteArray("Double-click a contact to open a private conversation with it.\n") + QByteArray(5000, 'w');
+    open();
+    for (int tips = 0; tips < 2; ++tips) {
+        EXPECT_FALSE(control<QPlainTextEdit>("Text1").horizontalScrollBar()->isVisible());
+        click("nextbtn");
+    }
 }
 
 } // namespace

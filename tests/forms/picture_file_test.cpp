@@ -1,9 +1,11 @@
+#include "core/limits.h"
 #include "dialogs/picture_file.h"
 
 #include <gmock/gmock.h>
 
 #include <QBuffer>
 #include <QFile>
+#include <QImageReader>
 #include <QTemporaryDir>
 
 namespace nimb::test
@@ -121,6 +123,7 @@ TEST(PictureFile, MoreThanFiftyMegapixelsAreRefusedByTheirHeader)
 
 TEST(PictureFile, JustUnderTheLimitIsRead)
 {
+    QImageReader::setAllocationLimit(limits::pictureFileMemory); // as the program does when it starts
     QImage large(7000, 7100, QImage::Format_Mono);
     large.fill(0);
     const ReadPicture picture = read(encoded(large, "bmp"));

@@ -131,5 +131,13 @@ TEST_F(AddUserRulesTest, WhatIsNoDottedAddressIsAccepted)
     EXPECT_EQ(contacts.addresses(), QStringList({"192.168.0.7", "somewhere", "300.1.2.3"}));
 }
 
+TEST_F(AddUserRulesTest, TheAddressThatEndsTheStoredListIsRefusedForItWouldBeLost)
+{
+    EXPECT_FALSE(add("Everybody", "ALL", "255.255.255.255"));
+    EXPECT_THAT(prompts.told,
+                ElementsAre("NIMB-Chat: This address cannot be kept: it marks the end of the stored list."));
+    EXPECT_EQ(contacts.rowCount(), 1);
+}
+
 } // namespace
 } // namespace nimb::test

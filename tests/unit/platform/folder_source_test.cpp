@@ -121,5 +121,16 @@ TEST(AvatarImage, AnyOtherNumberOfBytesIsNone)
     EXPECT_TRUE(avatarBody(QImage()).isEmpty());
 }
 
+TEST_F(FolderSourceTest, MoreThanFiftyMegapixelsArePassedOver)
+{
+    QImage large(10000, 5001, QImage::Format_Mono);
+    large.fill(1);
+    ASSERT_TRUE(large.save(folder.filePath(QStringLiteral("1.png"))));
+    put("2.png", QColor(255, 0, 0));
+    FolderSource source(folder.path());
+    EXPECT_EQ(colourOf(source.frame()), QColor(255, 0, 0));
+    EXPECT_EQ(colourOf(source.frame()), QColor(255, 0, 0));
+}
+
 } // namespace
 } // namespace nimb

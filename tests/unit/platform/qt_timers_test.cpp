@@ -4,7 +4,10 @@
 
 #include <gmock/gmock.h>
 
+#include <chrono>
+#include <memory>
 #include <string>
+#include <vector>
 
 namespace nimb::test
 {
@@ -157,6 +160,24 @@ TEST(SystemClock, TellsLocalTime)
     const QDateTime now = SystemClock().now();
     EXPECT_EQ(now.timeSpec(), Qt::LocalTime);
     EXPECT_LE(before, now);
+}
+
+TEST(QtTimers, NeverFireBeforeTheirTime)
+{
+    QtTimers timers;
+    constexpr std::chrono::milliseconds interval = 400ms;
+    std::vector<std::unique_ptr<Timer>> all;
+    std::vector<std::chrono::nanoseconds> waited;
+    // Timers that start at different moments of a second: those that are rounded would not all be late.
+    for (int i = 0; i < 8; ++i) {
+        const auto start = std::make_shared<std::chrono::steady_clock::time_point>();
+        all.push_back(timers.oneShot(
+            interval, [&waited, start] { waited.push_back(std::chrono::steady_clock::now() - *start); }));
+        *start = std::chrono::steady_clock::now();
+        all.back()->start();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return waited.size() == std::size_t(i) + 1; }));
+        EXPECT_GE(waited.back(), interval - 1ms); // Qt counts whole milliseconds
+    }
 }
 
 } // namespace
