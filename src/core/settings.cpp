@@ -113,6 +113,11 @@ void writeSetting(SettingsStore &store, QLatin1String key, const QString &value)
     store.write(QLatin1String(settingKey(key).section), key, value);
 }
 
+bool tipsAtStart(const SettingsStore &store)
+{
+    return readSetting(store, QLatin1String("TipOTDay")) == QLatin1String("1");
+}
+
 LoadedSettings loadSettings(const SettingsStore &store, Common &common)
 {
     LoadedSettings loaded;

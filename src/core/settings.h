@@ -73,6 +73,9 @@ const SettingKey &settingKey(QLatin1String key);
 QString readSetting(const SettingsStore &store, QLatin1String key);
 void writeSetting(SettingsStore &store, QLatin1String key, const QString &value);
 
+/// The option: a tip at every start. Exactly "1" means yes.
+bool tipsAtStart(const SettingsStore &store);
+
 /// What the main window reads when it loads.
 struct LoadedSettings {
     QStringList personalizedStates; ///< the eight stored values, empty ones included

@@ -30,7 +30,7 @@ Started SubMain(const QString &commandLine, Common &common, const SettingsStore 
         steps.showMain();
         steps.minimiseMain();
     }
-    if (readSetting(store, QLatin1String("TipOTDay")) == QLatin1String("1"))
+    if (tipsAtStart(store))
         steps.showTipOfTheDay();
     return Started::running;
 }

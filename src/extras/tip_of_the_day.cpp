@@ -26,9 +26,9 @@ std::int16_t storedCounter(const SettingsStore &store)
 
 } // namespace
 
-bool tipsAtStart(const SettingsStore &store)
+bool TipOfTheDay::showsAtStart() const
 {
-    return readSetting(store, showKey) == QLatin1String("1");
+    return tipsAtStart(m_store);
 }
 
 ShownTip TipOfTheDay::Form_Load()

@@ -12,9 +12,6 @@
 namespace nimb
 {
 
-/// The option: a tip at every start.
-bool tipsAtStart(const SettingsStore &store);
-
 /// What the dialog shows.
 struct ShownTip {
     QString text; ///< line breaks are CR LF
@@ -33,7 +30,7 @@ public:
     TipOfTheDay(SettingsStore &store, OpenFile openFile) : m_store(store), m_openFile(std::move(openFile)) { }
 
     /// What the check box shows first.
-    bool showsAtStart() const { return tipsAtStart(m_store); }
+    bool showsAtStart() const;
     /// The next tip as a whole line. When the file cannot be read a sentence that says so, and no tip counts as shown.
     ShownTip Form_Load();
     /// The next item of the file, whose commas part a tip into pieces. Behind the last one the file is read anew.

@@ -1,5 +1,7 @@
 #include "extras/tip_of_the_day.h"
 
+#include "core/settings.h"
+
 #include "recorders.h"
 
 #include <gmock/gmock.h>
