@@ -115,6 +115,15 @@ void MainWindow::rescan() const
     press("alt+r");
 }
 
+void MainWindow::rescanUntilHeard(WirePeer &contact) const
+{
+    EXPECT_TRUE(waitUntil([&] {
+        rescan();
+        return contact.hear(std::chrono::milliseconds(300)).has_value();
+    }));
+    EXPECT_EQ(contact.hearUntil("!STATUS Online").back(), "!STATUS Online");
+}
+
 void MainWindow::editAutoReply() const
 {
     activate();

@@ -34,6 +34,9 @@ public:
     /// Chooses the entry of the own-state chooser that is so many below the chosen one; negative goes up.
     void chooseState(int entriesBelow) const;
     void rescan() const;
+    /// Rescans until this contact has been asked: everything that the user did before has been dealt with then. While
+    /// an announcement waits for its answers the button does nothing.
+    void rescanUntilHeard(WirePeer &contact) const;
     /// While Busy or Away: opens the panel with the text of the automatic reply and puts the caret into the text.
     void editAutoReply() const;
     /// Into the clipboard.

@@ -31,8 +31,7 @@ protected:
     void mute(const MainWindow &main)
     {
         main.clickMute();
-        main.rescan();
-        ann.hearUntil("!STATUS Online");
+        main.rescanUntilHeard(ann);
     }
 
     /// Whether it hears and answers.

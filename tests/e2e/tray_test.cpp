@@ -29,11 +29,7 @@ protected:
     }
 
     /// Returns when everything that the user did has been dealt with: what he does now comes after it.
-    void settle(const MainWindow &main)
-    {
-        main.rescan();
-        ann.hearUntil("!STATUS Online");
-    }
+    void settle(const MainWindow &main) { main.rescanUntilHeard(ann); }
 
     static void clickOn(const Window &icon, int times = 1, int button = 1) { icon.click(8, 8, times, button); }
 
