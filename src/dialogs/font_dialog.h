@@ -9,7 +9,8 @@
 namespace nimb
 {
 
-/// Sizes from 6 to 24 points, in bold, italic or both: what the stored font can hold. The prompts outlive it.
+/// Sizes from 6 to 24 points, in bold, italic or both: what the stored font can hold. A style that the face lacks (it
+/// is drawn all the same) is kept as long as no other one is chosen. The prompts outlive it.
 class LogFontDialog : public QFontDialog
 {
     Q_OBJECT
@@ -24,6 +25,8 @@ public:
 private:
     void hideEffects();
 
+    const LogFont m_preset;
+    QFont m_shownFirst;
     Prompts &m_prompts;
 };
 

@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QDragEnterEvent>
 #include <QFileDialog>
+#include <QFontDatabase>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPushButton>
@@ -57,6 +58,12 @@ protected:
         QImage image(width, height, QImage::Format_RGB32);
         image.fill(colour);
         return image;
+    }
+    static QFont styled(const QString &family, int size, const QString &style)
+    {
+        QFont font(family, size);
+        font.setStyleName(style);
+        return font;
     }
     /// A file dialog stands over the options; it takes this file.
     void choose(const QString &path)
@@ -154,19 +161,19 @@ TEST_F(FrmOptions, ChangesAreSavedAtTheEnd)
 
 TEST_F(FrmOptions, AFontIsTakenWithOk)
 {
-    windows.common.logFont = {QStringLiteral("DejaVu Sans"), 9, QStringLiteral("b")};
+    windows.common.logFont = {QStringLiteral("DejaVu Sans"), 9, QString()};
     click("font_btn");
     auto *const fonts = dialog().findChild<LogFontDialog *>();
     ASSERT_TRUE(fonts);
     EXPECT_EQ(fonts->currentFont().pointSize(), 9);
-    EXPECT_TRUE(fonts->currentFont().bold());
+    EXPECT_FALSE(fonts->currentFont().bold());
     EXPECT_FALSE(fonts->currentFont().italic());
-    fonts->setCurrentFont(QFont(QStringLiteral("DejaVu Sans"), 14, QFont::Bold, true));
+    fonts->setCurrentFont(styled(QStringLiteral("DejaVu Sans"), 14, QStringLiteral("Bold")));
     fonts->accept();
     EXPECT_EQ(windows.common.logFont.size, 9) << "not before OK";
     click("CmdOK");
     EXPECT_EQ(windows.common.logFont.size, 14);
-    EXPECT_EQ(windows.common.logFont.style, QStringLiteral("bi"));
+    EXPECT_EQ(windows.common.logFont.style, QStringLiteral("b"));
     EXPECT_EQ(windows.common.logFont.face, QStringLiteral("DejaVu Sans"));
 }
 
@@ -336,17 +343,53 @@ TEST_F(FrmOptions, WithTheNotifyWindowSwitchedOffNothingRises)
     }
 }
 
-TEST_F(FrmOptions, AFaceThatIsNotInstalledStillOffersBoldAndItalic)
+TEST_F(FrmOptions, ItalicIsTakenWhereAFaceHasIt)
+{
+    const QStringList families = QFontDatabase::families();
+    const auto slanted = std::find_if(families.begin(), families.end(), [](const QString &family) {
+        return QFontDatabase::styles(family).contains(QStringLiteral("Italic"));
+    });
+    if (slanted == families.end())
+        GTEST_SKIP() << "no installed font has an italic face";
+    click("font_btn");
+    auto *const fonts = dialog().findChild<LogFontDialog *>();
+    fonts->setCurrentFont(styled(*slanted, 12, QStringLiteral("Italic")));
+    fonts->accept();
+    click("CmdOK");
+    EXPECT_EQ(windows.common.logFont.style, QStringLiteral("i"));
+}
+
+TEST_F(FrmOptions, APlainFontIsShownPlainWhateverItsFaceCallsThat)
+{
+    for (const QString &style : {QString(), QStringLiteral("b")}) {
+        windows.common.logFont = {QStringLiteral("DejaVu Sans"), 9, style};
+        click("font_btn");
+        auto *const fonts = dialog().findChild<LogFontDialog *>();
+        EXPECT_EQ(fonts->currentFont().bold(), style == QLatin1String("b"));
+        EXPECT_FALSE(fonts->currentFont().italic());
+        fonts->accept();
+        click("CmdOK");
+        EXPECT_EQ(windows.common.logFont.style, style);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+TEST_F(FrmOptions, AStyleThatTheFaceLacksIsKeptUnlessAnotherIsChosen)
 {
     windows.common.logFont = {QStringLiteral("MS Sans Serif"), 8, QStringLiteral("bi")};
     click("font_btn");
     auto *const fonts = dialog().findChild<LogFontDialog *>();
-    EXPECT_TRUE(fonts->currentFont().bold());
-    EXPECT_TRUE(fonts->currentFont().italic());
+    EXPECT_TRUE(fonts->currentFont().bold()) << "though that face is not installed";
     fonts->accept();
     click("CmdOK");
     EXPECT_EQ(windows.common.logFont.style, QStringLiteral("bi"));
     EXPECT_EQ(windows.common.logFont.size, 8);
+    click("font_btn");
+    auto *const again = dialog().findChild<LogFontDialog *>();
+    again->setCurrentFont(styled(QStringLiteral("DejaVu Sans"), 8, QStringLiteral("Book")));
+    again->accept();
+    click("CmdOK");
+    EXPECT_EQ(windows.common.logFont.style, QString());
 }
 
 } // namespace
