@@ -36,17 +36,16 @@ xkb_keymap {
 };
 )keymap";
 
-/// Alt+F4 presses the close box, a click gives the focus, and nothing moves by itself: a window that is restored is
-/// where it belongs at once.
+/// A click gives the focus, and nothing moves by itself: a window that is restored is where it belongs at once.
 constexpr char windowManagerConfiguration[] = R"config(<?xml version="1.0"?>
 <openbox_config xmlns="http://openbox.org/3.4/rc">
   <focus><focusNew>yes</focusNew><followMouse>no</followMouse><focusLast>yes</focusLast></focus>
   <placement><policy>Smart</policy></placement>
-  <theme><animateIconify>no</animateIconify></theme>
-  <keyboard>
-    <keybind key="A-F4"><action name="Close"/></keybind>
-  </keyboard>
+  <theme><titleLayout>NLC</titleLayout><animateIconify>no</animateIconify></theme>
   <mouse>
+    <context name="Close">
+      <mousebind button="Left" action="Click"><action name="Close"/></mousebind>
+    </context>
     <context name="Client">
       <mousebind button="Left" action="Press"><action name="Focus"/><action name="Raise"/></mousebind>
       <mousebind button="Right" action="Press"><action name="Focus"/><action name="Raise"/></mousebind>
@@ -312,8 +311,14 @@ void Window::resize(int width, int height) const
 void Window::close() const
 {
     activate();
-    letWindowsSettle(); // or the key goes to the window that was active before
-    press("alt+F4");
+    // Left, right, top and bottom. The close box is the last one of the title bar.
+    const QList<QByteArray> extents = property("_NET_FRAME_EXTENTS").split('=').last().split(',');
+    ASSERT_EQ(extents.size(), 4) << caption() << " has no frame";
+    constexpr int boxFromRight = 11, boxFromTop = 10;
+    const Place frame = place();
+    const int frameWidth = frame.width + extents[0].trimmed().toInt() + extents[1].trimmed().toInt();
+    act({"mousemove", QString::number(frame.left + frameWidth - boxFromRight), QString::number(frame.top + boxFromTop),
+         "click", "1"});
 }
 
 void Window::click(int x, int y, int times, int button) const

@@ -85,7 +85,7 @@ public:
     void move(int left, int top) const;
     /// Asks for this size inside the frame, as dragging the frame does.
     void resize(int width, int height) const;
-    /// Presses the close box (by the window manager's key for it).
+    /// Clicks on the close box.
     void close() const;
     /// Presses a mouse button this often, at a place counted from the window's upper left corner without its frame.
     void click(int x, int y, int times = 1, int button = 1) const;

@@ -241,10 +241,9 @@ TEST_F(Robustness, AWindowMayBeClosedForGoodWhileMessagesPourIntoIt)
     for (int round = 0; round < 8; ++round) {
         ann.send("127.0.36.1", "-hello");
         const PrivateWindow window = PrivateWindow::with("Ann");
-        window.activate();
         for (int i = 0; i < 50; ++i)
             ann.send("127.0.36.1", "-blah blah");
-        press("alt+F4");
+        window.close();
         for (int i = 0; i < 50; ++i)
             ann.send("127.0.36.1", "-blah blah");
         ASSERT_TRUE(window.becomes(Window::State::hidden)) << "round " << round;
