@@ -2,18 +2,16 @@
 //   sound_helper [FILE]       FILE in place of the alarm that ships
 // Commands on standard input, each answered with a line "done" when the call has returned:
 //   play TIMES
-//   stall MILLISECONDS      no event is handled for so long, as on a busy machine
+//   stall 0      answered with "stalled"; as on a busy machine no event is handled then until another word comes
 // The end of the input ends it, with status 0.
 #include "platform/sound_player.h"
 
 #include <QCoreApplication>
 #include <QSocketNotifier>
 
-#include <chrono>
 #include <cstdio>
 #include <iostream>
 #include <string>
-#include <thread>
 
 namespace
 {
@@ -25,8 +23,11 @@ bool obey(nimb::Sound &sound)
     int number = 0;
     if (!(std::cin >> word >> number))
         return false;
-    if (word == "stall")
-        std::this_thread::sleep_for(std::chrono::milliseconds(number));
+    if (word == "stall") {
+        std::puts("stalled");
+        std::fflush(stdout);
+        std::cin >> word;
+    }
     for (int i = 0; i < number && word == "play"; ++i)
         sound.playAlarm();
     std::puts("done");

@@ -71,14 +71,15 @@ public:
 
     /// Returns when the calls have returned.
     void play(int times = 1) { command("play " + QByteArray::number(times)); }
-    /// Handles no event for so long.
-    void stall(int milliseconds) { command("stall " + QByteArray::number(milliseconds)); }
+    /// From now on it handles no event, until it goes on.
+    void stall() { command("stall 0", "stalled\n"); }
+    void goOn() { command("on", "done\n"); }
 
-    void command(const QByteArray &line)
+    void command(const QByteArray &line, const QByteArray &answer = "done\n")
     {
         m_process.write(line + '\n');
         EXPECT_TRUE(QTest::qWaitFor([this] { return m_process.canReadLine(); }, patienceMs)) << "no answer";
-        EXPECT_EQ(m_process.readLine(), "done\n");
+        EXPECT_EQ(m_process.readLine(), answer);
     }
 
     /// The exit status; -1 when it crashes or does not end.
@@ -195,7 +196,9 @@ TEST_F(SoundPlayerOnAServer, GoesOnWhereTheProgramWasTooBusyToFeedIt)
     Player player(server().address(), {file("sound.wav", wave(4 * aSecond))});
     player.play();
     EXPECT_TRUE(server().hears(halfASecond));
-    player.stall(2000);
+    player.stall();
+    EXPECT_TRUE(server().isSilent()) << "it has not run dry";
+    player.goOn();
     EXPECT_TRUE(server().hears(3 * aSecond)) << server().loudSamples();
     EXPECT_TRUE(server().isSilent());
 }
