@@ -1,6 +1,6 @@
 // Datagrams through a whole engine, with few and with many contacts: the time must not depend on their number.
 #include "app/messenger.h"
-#include "recorders.h"
+#include "silent_log.h"
 #include "simulated_network.h"
 #include "virtual_time.h"
 
@@ -10,45 +10,6 @@ namespace nimb::test
 {
 namespace
 {
-
-/// Writes nothing, so that the engine alone is timed.
-class SilentLog : public RichTextLog
-{
-public:
-    qsizetype textLength() const override { return 0; }
-    void setSelStart(qsizetype) override { }
-    void setSelColor(Colour) override { }
-    void setSelFont(const LogFont &) override { }
-    void setSelText(const QString &text) override { benchmark::DoNotOptimize(text.size()); }
-    void setSelRtf(const QString &fragment, const QString &) override { benchmark::DoNotOptimize(fragment.size()); }
-    void clear() override { }
-};
-
-class SilentMainView : public RecorderMainView
-{
-public:
-    RichTextLog &outtext() override { return silent; }
-    SilentLog silent;
-};
-
-class SilentPrivateView : public RecorderPrivateView
-{
-public:
-    using RecorderPrivateView::RecorderPrivateView;
-    RichTextLog &outtext() override { return silent; }
-    SilentLog silent;
-};
-
-class SilentForms : public PrivateForms
-{
-public:
-    ViewPtr<PrivateChatView> makePrivateForm(PrivateChat &chat) override
-    {
-        views.push_back(std::make_unique<SilentPrivateView>(chat));
-        return ViewPtr<PrivateChatView>(views.back().get());
-    }
-    std::vector<std::unique_ptr<SilentPrivateView>> views;
-};
 
 class SilentNotifications : public Notifications
 {
@@ -62,7 +23,7 @@ QString addressOf(int contact)
     return QStringLiteral("10.%1.%2.%3").arg(contact / 65536).arg(contact / 256 % 256).arg(contact % 256);
 }
 
-struct Engine {
+struct Engine : Recorders {
     explicit Engine(int contacts)
     {
         common.ownIP = QStringLiteral("11.0.0.1");
@@ -79,20 +40,13 @@ struct Engine {
     VirtualTime time;
     Common common;
     SimulatedWinsock socket{QStringLiteral("11.0.0.1"), QStringLiteral("HERE"), nullptr};
-    MemoryStore settings;
-    SilentMainView view;
-    SilentForms forms;
-    SilentNotifications notifications;
+    Silent<RecorderMainView> view;
+    SilentPrivateForms forms;
+    SilentNotifications silent; // or they would grow with every round
     RecorderConferenceForms conferenceForms;
-    RecorderPrompts prompts;
-    RecorderSound sound;
-    Steps steps;
-    RecorderTray tray{steps};
-    RecorderWindows windows{steps};
-    DropCounts drops;
-    Messenger messenger{common,
-                        {socket, settings, time, time, prompts, notifications, sound, tray, windows, forms,
-                         conferenceForms, view, drops}};
+    Messenger messenger{
+        common,
+        {socket, settings, time, time, prompts, silent, sound, tray, windows, forms, conferenceForms, view, drops}};
 };
 
 void dispatch(benchmark::State &state, const char *bytes)

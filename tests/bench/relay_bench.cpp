@@ -7,7 +7,7 @@
 // one socket for each address takes it. The two are measured in turns, and the best turn of each counts.
 #include "app/messenger.h"
 #include "platform/udp_winsock.h"
-#include "recorders.h"
+#include "silent_log.h"
 #include "virtual_time.h"
 
 #include <QCoreApplication>
@@ -91,38 +91,7 @@ private:
     std::vector<int> m_descriptors;
 };
 
-class SilentLog : public RichTextLog
-{
-public:
-    qsizetype textLength() const override { return 0; }
-    void setSelStart(qsizetype) override { }
-    void setSelColor(Colour) override { }
-    void setSelFont(const LogFont &) override { }
-    void setSelText(const QString &) override { }
-    void setSelRtf(const QString &, const QString &) override { }
-    void clear() override { }
-};
-
-class SilentConferenceView : public RecorderConferenceView
-{
-public:
-    using RecorderConferenceView::RecorderConferenceView;
-    RichTextLog &outtext() override { return silent; }
-    SilentLog silent;
-};
-
-class SilentForms : public ConferenceForms
-{
-public:
-    ViewPtr<ConferenceView> makeConferenceForm(Conference &conference) override
-    {
-        views.push_back(std::make_unique<SilentConferenceView>(conference));
-        return ViewPtr<ConferenceView>(views.back().get());
-    }
-    std::vector<std::unique_ptr<SilentConferenceView>> views;
-};
-
-struct Host {
+struct Host : Recorders {
     Host()
     {
         common.ownIP = hostAddress;
@@ -156,18 +125,10 @@ struct Host {
 
     VirtualTime time;
     Common common;
-    DropCounts drops;
     UdpWinsock socket{drops, hostAddress, QStringLiteral("HERE")};
-    MemoryStore settings;
     RecorderMainView view;
     RecorderPrivateForms privateForms;
-    SilentForms conferenceForms;
-    RecorderNotifications notifications;
-    RecorderPrompts prompts;
-    RecorderSound sound;
-    Steps steps;
-    RecorderTray tray{steps};
-    RecorderWindows windows{steps};
+    SilentConferenceForms conferenceForms;
     Messenger messenger{common,
                         {socket, settings, time, time, prompts, notifications, sound, tray, windows, privateForms,
                          conferenceForms, view, drops}};

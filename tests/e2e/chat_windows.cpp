@@ -49,6 +49,15 @@ MainWindow MainWindow::of(const std::string &nickname)
     return MainWindow(waitFor("NIMB-Chat 1.2 - " + nickname));
 }
 
+MainWindow MainWindow::startBob(RunningCopy &copy, WirePeer &contact)
+{
+    copy.start({"Bob"});
+    contact.hearUntil("!STATUS Online");
+    const MainWindow main = of("Bob");
+    main.activate();
+    return main;
+}
+
 void MainWindow::openContact(int row) const
 {
     activate();

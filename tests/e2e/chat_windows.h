@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop.h"
+#include "running_copy.h"
 #include "wire_peer.h"
 
 #include <string>
@@ -16,6 +17,8 @@ class MainWindow : public Window
 public:
     /// Waits for it.
     static MainWindow of(const std::string &nickname);
+    /// Starts the copy as Bob, lets this contact hear its first words, and shows its window, which starts minimised.
+    static MainWindow startBob(RunningCopy &copy, WirePeer &contact);
 
     /// Double click on a row of the contact list, counted from 0.
     void openContact(int row) const;

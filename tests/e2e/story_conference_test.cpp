@@ -563,27 +563,36 @@ protected:
                contacts({{"127.0.38.11", "Ann", "ANN-PC"}, {"127.0.38.12", "Ben", "BEN-PC"}}, "Zoe of Cleo")},
               "Cleo",
               "Zoe of Cleo"};
+
+    struct Three {
+        ConferenceWindow atAnn, atBen, atCleo;
+    };
+    /// Ann hosts, and Ben and Cleo have joined one after the other.
+    Three gather()
+    {
+        start(ben);
+        start(cleo);
+        start(ann);
+        const MainWindow annsMain = MainWindow::of("Ann");
+        annsMain.openWhenOnline(0, "Ben"); // from then on the rows stay where they are
+        annsMain.openWhenOnline(1, "Cleo");
+        hostConference(annsMain);
+        const ConferenceWindow atAnn(opened(hostedFirst));
+        invite(annsMain, 0);
+        accept(shown(invitationsCaption));
+        const ConferenceWindow atBen(opened(byAnnFirst));
+        EXPECT_TRUE(logEndsWith(ann, atAnn, "\r\n--- Ben joined the conference"));
+        invite(annsMain, 1);
+        accept(shown(invitationsCaption));
+        const ConferenceWindow atCleo(opened(byAnnFirst, atBen));
+        EXPECT_TRUE(logEndsWith(ben, atBen, "\r\n--- Ann joined the conference\r\n--- Cleo joined the conference"));
+        return {atAnn, atBen, atCleo};
+    }
 };
 
 TEST_F(StoryConferenceOfThree, EveryoneReadsTheOthersUntilTheHostCloses)
 {
-    start(ben);
-    start(cleo);
-    start(ann);
-    const MainWindow annsMain = MainWindow::of("Ann");
-    annsMain.openWhenOnline(0, "Ben"); // from then on the rows stay where they are
-    annsMain.openWhenOnline(1, "Cleo");
-
-    hostConference(annsMain);
-    const ConferenceWindow atAnn(opened(hostedFirst));
-    invite(annsMain, 0);
-    accept(shown(invitationsCaption));
-    const ConferenceWindow atBen(opened(byAnnFirst));
-    EXPECT_TRUE(logEndsWith(ann, atAnn, "\r\n--- Ben joined the conference"));
-    invite(annsMain, 1);
-    accept(shown(invitationsCaption));
-    const ConferenceWindow atCleo(opened(byAnnFirst, atBen));
-    EXPECT_TRUE(logEndsWith(ben, atBen, "\r\n--- Ann joined the conference\r\n--- Cleo joined the conference"));
+    const auto &[atAnn, atBen, atCleo] = gather();
 
     atBen.say("Hello, this is Ben");
     EXPECT_TRUE(logEndsWith(ann, atAnn, "\r\n--- Cleo joined the conference\r\nBen> Hello, this is Ben"));
@@ -613,22 +622,7 @@ TEST_F(StoryConferenceOfThree, EveryoneReadsTheOthersUntilTheHostCloses)
 
 TEST_F(StoryConferenceOfThree, AGuestThatLeavesIsMissedByTheOthers)
 {
-    start(ben);
-    start(cleo);
-    start(ann);
-    const MainWindow annsMain = MainWindow::of("Ann");
-    annsMain.openWhenOnline(0, "Ben");
-    annsMain.openWhenOnline(1, "Cleo");
-    hostConference(annsMain);
-    const ConferenceWindow atAnn(opened(hostedFirst));
-    invite(annsMain, 0);
-    accept(shown(invitationsCaption));
-    const ConferenceWindow atBen(opened(byAnnFirst));
-    EXPECT_TRUE(logEndsWith(ann, atAnn, "\r\n--- Ben joined the conference"));
-    invite(annsMain, 1);
-    accept(shown(invitationsCaption));
-    const ConferenceWindow atCleo(opened(byAnnFirst, atBen));
-    EXPECT_TRUE(logEndsWith(ben, atBen, "\r\n--- Cleo joined the conference"));
+    const auto &[atAnn, atBen, atCleo] = gather();
 
     atCleo.close();
     answerQuestion("alt+y");

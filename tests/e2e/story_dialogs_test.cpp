@@ -23,14 +23,7 @@ using testing::StartsWith;
 class StoryDialogs : public testing::Test
 {
 protected:
-    MainWindow start()
-    {
-        bob.start({"Bob"});
-        ann.hearUntil("!STATUS Online");
-        const MainWindow main = MainWindow::of("Bob");
-        main.activate();
-        return main;
-    }
+    MainWindow start() { return MainWindow::startBob(bob, ann); }
     /// Opens a menu by its access key and chooses an entry by its own.
     static Window choose(const MainWindow &main, const std::string &menu, const std::string &entry,
                          const std::string &caption)

@@ -19,14 +19,7 @@ class TrayTest : public testing::Test
 {
 protected:
     /// A copy whose close box does not end it, started and heard by Ann, its window shown.
-    MainWindow start()
-    {
-        bob.start({"Bob"});
-        ann.hearUntil("!STATUS Online");
-        const MainWindow main = MainWindow::of("Bob");
-        main.activate();
-        return main;
-    }
+    MainWindow start() { return MainWindow::startBob(bob, ann); }
 
     /// Returns when everything that the user did has been dealt with: what he does now comes after it.
     void settle(const MainWindow &main) { main.rescanUntilHeard(ann); }

@@ -1,5 +1,6 @@
 #include "dialogs/frmAbout.h"
 
+#include "controls.h"
 #include "dialog_recorders.h"
 #include "keyboard.h"
 #include "labels.h"
@@ -31,11 +32,7 @@ protected:
     }
     QLabel &label(const char *name) { return *dialog->findChild<QLabel *>(QLatin1String(name)); }
     QPushButton &button(const char *name) { return *dialog->findChild<QPushButton *>(QLatin1String(name)); }
-    bool isGone()
-    {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        return dialog.isNull();
-    }
+    bool isGone() { return hasGone(dialog); }
 
     RecorderSystemInformation system;
     InterruptedPrompts prompts;

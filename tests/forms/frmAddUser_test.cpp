@@ -1,5 +1,6 @@
 #include "dialogs/frmAddUser.h"
 
+#include "controls.h"
 #include "dialog_recorders.h"
 #include "keyboard.h"
 #include "print_qt.h"
@@ -40,11 +41,7 @@ protected:
         box("hostname").setText(QString::fromUtf8(host));
         box("ipaddress").setText(QString::fromUtf8(address));
     }
-    bool isGone()
-    {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        return dialog.isNull();
-    }
+    bool isGone() { return hasGone(dialog); }
 
     Common common;
     ContactList contacts;

@@ -1,5 +1,6 @@
 #include "dialogs/frmInvite.h"
 
+#include "controls.h"
 #include "dialog_recorders.h"
 #include "keyboard.h"
 #include "labels.h"
@@ -59,11 +60,7 @@ protected:
     QLineEdit &text() { return *dialog->findChild<QLineEdit *>(QStringLiteral("Text1")); }
     QString label(const char *name) { return dialog->findChild<QLabel *>(QLatin1String(name))->text(); }
     QPushButton &button(const char *name) { return *dialog->findChild<QPushButton *>(QLatin1String(name)); }
-    bool isGone()
-    {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        return dialog.isNull();
-    }
+    bool isGone() { return hasGone(dialog); }
 
     Common common;
     ContactList contacts;

@@ -1,5 +1,6 @@
 #include "dialogs/frmNetworkscan.h"
 
+#include "controls.h"
 #include "dialog_recorders.h"
 #include "keyboard.h"
 #include "labels.h"
@@ -23,15 +24,11 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
-class FrmNetworkscan : public testing::Test
+class FrmNetworkscan : public testing::Test, protected ScanSurroundings
 {
 protected:
     FrmNetworkscan()
     {
-        common.ownIP = QStringLiteral("192.168.1.5");
-        common.ownHostName = QStringLiteral("HERE");
-        common.ownNickname = QStringLiteral("Me");
-        socket.bind();
         parent.show();
         dialog = new frmNetworkscan(scan, &parent);
         dialog->open();
@@ -39,20 +36,8 @@ protected:
     }
     QLineEdit &text() { return *dialog->findChild<QLineEdit *>(QStringLiteral("Text1")); }
     QPushButton &button(const char *name) { return *dialog->findChild<QPushButton *>(QLatin1String(name)); }
-    bool isGone()
-    {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        return dialog.isNull();
-    }
+    bool isGone() { return hasGone(dialog); }
 
-    Common common;
-    SimulatedWinsock socket{QStringLiteral("192.168.1.5"), QStringLiteral("HERE"), nullptr};
-    RecorderResolver resolver;
-    RecorderLog shown;
-    VirtualTime time;
-    PresenceSender sender{common, socket};
-    MainLog log{shown, time};
-    NetworkScan scan{common, sender, resolver, log};
     QWidget parent;
     QPointer<frmNetworkscan> dialog;
 };

@@ -349,8 +349,7 @@ TEST_F(FrmOptions, ItalicIsTakenWhereAFaceHasIt)
     const auto slanted = std::find_if(families.begin(), families.end(), [](const QString &family) {
         return QFontDatabase::styles(family).contains(QStringLiteral("Italic"));
     });
-    if (slanted == families.end())
-        GTEST_SKIP() << "no installed font has an italic face";
+    ASSERT_NE(slanted, families.end()) << "no installed font has an italic face";
     click("font_btn");
     auto *const fonts = dialog().findChild<LogFontDialog *>();
     fonts->setCurrentFont(styled(*slanted, 12, QStringLiteral("Italic")));

@@ -1,5 +1,6 @@
 #include "extras/frmSendContact.h"
 
+#include "controls.h"
 #include "keyboard.h"
 #include "simulated_network.h"
 
@@ -53,13 +54,7 @@ protected:
         dialog->show();
         QCoreApplication::processEvents();
     }
-    template <class Widget> Widget &control(const char *name)
-    {
-        auto *const found = dialog->findChild<Widget *>(QLatin1String(name));
-        if (!found)
-            qFatal("no control %s", name);
-        return *found;
-    }
+    template <class Widget> Widget &control(const char *name) { return controlOf<Widget>(*dialog, name); }
     QTreeView &offered() { return control<QTreeView>("ListView1"); }
     QTreeView &chosen() { return control<QTreeView>("ListView2"); }
     static std::vector<std::string> names(const QTreeView &list)
@@ -83,11 +78,7 @@ protected:
         QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers, placeOf(list, row));
     }
     void click(const char *button) { QTest::mouseClick(&control<QPushButton>(button), Qt::LeftButton); }
-    bool isGone()
-    {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        return dialog.isNull();
-    }
+    bool isGone() { return hasGone(dialog); }
 
     ContactList contacts;
     SimulatedWinsock socket{QStringLiteral("10.0.0.1"), QStringLiteral("HERE"), nullptr};

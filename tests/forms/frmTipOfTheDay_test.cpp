@@ -1,5 +1,6 @@
 #include "extras/frmTipOfTheDay.h"
 
+#include "controls.h"
 #include "keyboard.h"
 #include "recorders.h"
 
@@ -37,21 +38,10 @@ protected:
         dialog->show();
         QCoreApplication::processEvents();
     }
-    template <class Widget> Widget &control(const char *name)
-    {
-        auto *const found = dialog->findChild<Widget *>(QLatin1String(name));
-        if (!found)
-            qFatal("no control %s", name);
-        return *found;
-    }
+    template <class Widget> Widget &control(const char *name) { return controlOf<Widget>(*dialog, name); }
     QString tip() { return control<QPlainTextEdit>("Text1").toPlainText(); }
     void click(const char *button) { QTest::mouseClick(&control<QPushButton>(button), Qt::LeftButton); }
-    /// Lets what is closed be destroyed.
-    bool isGone()
-    {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        return dialog.isNull();
-    }
+    bool isGone() { return hasGone(dialog); }
 
     MemoryStore store;
     RecorderPrompts prompts;

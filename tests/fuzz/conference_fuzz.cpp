@@ -4,8 +4,8 @@
 // The input is a sequence of steps: one byte with the time that passes and one with who acts, then for a datagram one
 // byte with the kind (below `freeForm` a conference datagram whose rest is one byte of number, one of length and that
 // many bytes; otherwise the bytes themselves), for the user one byte with the action.
-#include "recorders.h"
 #include "require.h"
+#include "silent_log.h"
 #include "simulated_network.h"
 #include "virtual_time.h"
 
@@ -32,46 +32,7 @@ QString addressOf(int peer)
 }
 
 /// A log without end must not make the run slow: nothing of it is kept.
-class CountingLog : public RichTextLog
-{
-public:
-    qsizetype textLength() const override { return 0; }
-    void setSelStart(qsizetype) override { }
-    void setSelColor(Colour) override { }
-    void setSelFont(const LogFont &) override { }
-    void setSelText(const QString &) override { ++pieces; }
-    void setSelRtf(const QString &, const QString &) override { ++pieces; }
-    void clear() override { }
-    std::size_t pieces = 0;
-};
-
-class FuzzedView : public RecorderConferenceView
-{
-public:
-    using RecorderConferenceView::RecorderConferenceView;
-    RichTextLog &outtext() override { return counting; }
-    CountingLog counting;
-};
-
-class FuzzedForms : public ConferenceForms
-{
-public:
-    ViewPtr<ConferenceView> makeConferenceForm(Conference &conference) override
-    {
-        views.push_back(std::make_unique<FuzzedView>(conference));
-        return ViewPtr<ConferenceView>(views.back().get());
-    }
-    std::vector<std::unique_ptr<FuzzedView>> views;
-};
-
-class FuzzedMainView : public RecorderMainView
-{
-public:
-    RichTextLog &outtext() override { return counting; }
-    CountingLog counting;
-};
-
-struct Engine {
+struct Engine : Recorders {
     Engine()
     {
         common.ownIP = ownAddress;
@@ -89,17 +50,9 @@ struct Engine {
     std::shared_ptr<VirtualTime> time = std::make_shared<VirtualTime>();
     Common common;
     SimulatedWinsock socket{ownAddress, QStringLiteral("HERE"), nullptr};
-    MemoryStore settings;
-    FuzzedMainView view;
+    Silent<RecorderMainView> view;
     RecorderPrivateForms privateForms;
-    FuzzedForms conferenceForms;
-    RecorderNotifications notifications;
-    RecorderPrompts prompts;
-    RecorderSound sound;
-    Steps steps;
-    RecorderTray tray{steps};
-    RecorderWindows windows{steps};
-    DropCounts drops;
+    SilentConferenceForms conferenceForms;
     Messenger messenger{common,
                         {socket, settings, *time, *time, prompts, notifications, sound, tray, windows, privateForms,
                          conferenceForms, view, drops}};
@@ -239,7 +192,7 @@ private:
             Snapshot &one = all[static_cast<std::size_t>(slot)];
             one.window = conference;
             one.terminated = conference->isTerminated();
-            one.pieces = static_cast<FuzzedView &>(conference->view()).counting.pieces;
+            one.pieces = static_cast<Silent<RecorderConferenceView> &>(conference->view()).silent.pieces;
             for (const Participant &row : conference->partecipanti().rows())
                 one.rows[row.ip] = row.present;
         }

@@ -29,7 +29,7 @@ struct CopySetup {
     bool loaded = true; ///< the main window has been loaded
 };
 
-class Copy
+class Copy : public Recorders
 {
 public:
     explicit Copy(const CopySetup &setup = {}, SimulatedNetwork *network = nullptr,
@@ -83,18 +83,10 @@ public:
     std::shared_ptr<VirtualTime> time;
     Common common;
     SimulatedWinsock socket;
-    MemoryStore settings;
     RecorderMainView view;
     RecorderPrivateForms privateForms;
     RecorderConferenceForms conferenceForms;
     RecorderInvitationsView invitationsView;
-    RecorderNotifications notifications;
-    RecorderPrompts prompts;
-    RecorderSound sound;
-    Steps steps;
-    RecorderTray tray{steps};
-    RecorderWindows windows{steps};
-    DropCounts drops;
     Messenger engine{common,
                      {socket, settings, *time, *time, prompts, notifications, sound, tray, windows, privateForms,
                       conferenceForms, view, drops}};

@@ -4,7 +4,10 @@
 #include "core/name_resolver.h"
 #include "core/net_send.h"
 #include "core/system_information.h"
+#include "dialogs/network_scan.h"
 #include "recorders.h"
+#include "simulated_network.h"
+#include "virtual_time.h"
 
 #include <functional>
 #include <string>
@@ -69,6 +72,26 @@ public:
 
     bool available = true;
     int starts = 0;
+};
+
+/// A network scan of 192.168.1.5 and what it acts on.
+struct ScanSurroundings {
+    ScanSurroundings()
+    {
+        common.ownIP = QStringLiteral("192.168.1.5");
+        common.ownHostName = QStringLiteral("HERE");
+        common.ownNickname = QStringLiteral("Me");
+        socket.bind();
+    }
+
+    Common common;
+    SimulatedWinsock socket{QStringLiteral("192.168.1.5"), QStringLiteral("HERE"), nullptr};
+    RecorderResolver resolver;
+    RecorderLog shown;
+    VirtualTime time;
+    PresenceSender sender{common, socket};
+    MainLog log{shown, time};
+    NetworkScan scan{common, sender, resolver, log};
 };
 
 } // namespace nimb::test

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/form_opener.h"
+#include "controls.h"
 #include "core/frmMain.h"
 #include "dialog_recorders.h"
 #include "private/rich_text_log.h"
@@ -62,10 +63,7 @@ public:
     template <class Widget = QWidget> Widget &control(const char *name) { return control<Widget>(main(), name); }
     template <class Widget = QWidget> static Widget &control(QWidget &window, const char *name)
     {
-        auto *const found = window.findChild<Widget *>(QLatin1String(name));
-        if (!found)
-            qFatal("no control %s", name);
-        return *found;
+        return controlOf<Widget>(window, name);
     }
     QTreeView &list() { return control<QTreeView>("ListView1"); }
     QAction &entry(const char *name) { return *main().findChild<QAction *>(QLatin1String(name)); }

@@ -11,6 +11,7 @@
 #include "core/sound.h"
 #include "core/windows.h"
 #include "private/private_chat_view.h"
+#include "protocol/drop_counts.h"
 
 #include <QStringList>
 
@@ -185,17 +186,18 @@ public:
 };
 
 /// Keeps every window ever made, unloaded ones included.
-class RecorderPrivateForms : public PrivateForms
+template <class View> class PrivateFormsOf : public PrivateForms
 {
 public:
     ViewPtr<PrivateChatView> makePrivateForm(PrivateChat &chat) override
     {
-        views.push_back(std::make_unique<RecorderPrivateView>(chat));
+        views.push_back(std::make_unique<View>(chat));
         return ViewPtr<PrivateChatView>(views.back().get());
     }
 
-    std::vector<std::unique_ptr<RecorderPrivateView>> views;
+    std::vector<std::unique_ptr<View>> views;
 };
+using RecorderPrivateForms = PrivateFormsOf<RecorderPrivateView>;
 
 class RecorderConferenceView : public ConferenceView
 {
@@ -235,17 +237,18 @@ public:
 };
 
 /// Keeps every window ever made, unloaded ones included.
-class RecorderConferenceForms : public ConferenceForms
+template <class View> class ConferenceFormsOf : public ConferenceForms
 {
 public:
     ViewPtr<ConferenceView> makeConferenceForm(Conference &conference) override
     {
-        views.push_back(std::make_unique<RecorderConferenceView>(conference));
+        views.push_back(std::make_unique<View>(conference));
         return ViewPtr<ConferenceView>(views.back().get());
     }
 
-    std::vector<std::unique_ptr<RecorderConferenceView>> views;
+    std::vector<std::unique_ptr<View>> views;
 };
+using RecorderConferenceForms = ConferenceFormsOf<RecorderConferenceView>;
 
 class RecorderInvitationsView : public InvitationsView
 {
@@ -445,6 +448,18 @@ public:
     std::vector<std::string> order; ///< "section/key" of every write
     int saves = 0;
     std::optional<QString> failure;
+};
+
+/// Around an engine everything but its socket, its time and its windows.
+struct Recorders {
+    MemoryStore settings;
+    RecorderNotifications notifications;
+    RecorderPrompts prompts;
+    RecorderSound sound;
+    Steps steps;
+    RecorderTray tray{steps};
+    RecorderWindows windows{steps};
+    DropCounts drops;
 };
 
 } // namespace nimb::test

@@ -13,26 +13,10 @@ namespace
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class NetworkScanTest : public testing::Test
+class NetworkScanTest : public testing::Test, protected ScanSurroundings
 {
 protected:
-    NetworkScanTest()
-    {
-        common.ownIP = QStringLiteral("192.168.1.5");
-        common.ownHostName = QStringLiteral("HERE");
-        common.ownNickname = QStringLiteral("Me");
-        socket.bind();
-    }
     void click(const char *text) { scan.Command1_Click(QString::fromUtf8(text)); }
-
-    Common common;
-    SimulatedWinsock socket{QStringLiteral("192.168.1.5"), QStringLiteral("HERE"), nullptr};
-    RecorderResolver resolver;
-    RecorderLog shown;
-    VirtualTime time;
-    PresenceSender sender{common, socket};
-    MainLog log{shown, time};
-    NetworkScan scan{common, sender, resolver, log};
 };
 
 TEST_F(NetworkScanTest, OffersTheOwnAddressAsAStartingPoint)

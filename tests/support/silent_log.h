@@ -1,0 +1,37 @@
+// Views whose logs keep nothing, for engines that are timed or run without end.
+#pragma once
+
+#include "recorders.h"
+
+namespace nimb::test
+{
+
+/// Counts what is written, and is empty.
+class SilentLog : public RichTextLog
+{
+public:
+    qsizetype textLength() const override { return 0; }
+    void setSelStart(qsizetype) override { }
+    void setSelColor(Colour) override { }
+    void setSelFont(const LogFont &) override { }
+    void setSelText(const QString &) override { ++pieces; }
+    void setSelRtf(const QString &, const QString &) override { ++pieces; }
+    void clear() override { }
+
+    std::size_t pieces = 0;
+};
+
+/// A recorder of a view, but for its log.
+template <class View> class Silent : public View
+{
+public:
+    using View::View;
+    RichTextLog &outtext() override { return silent; }
+
+    SilentLog silent;
+};
+
+using SilentPrivateForms = PrivateFormsOf<Silent<RecorderPrivateView>>;
+using SilentConferenceForms = ConferenceFormsOf<Silent<RecorderConferenceView>>;
+
+} // namespace nimb::test
