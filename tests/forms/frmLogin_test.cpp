@@ -20,7 +20,7 @@ protected:
     {
         dialog.emplace(login, prompts);
         dialog->open();
-        QTRY_VERIFY_WITH_TIMEOUT(box().hasFocus(), 5000);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return box().hasFocus(); }, 5000));
     }
     QLineEdit &box() { return *dialog->findChild<QLineEdit *>(QStringLiteral("txtUserName")); }
     QPushButton &ok() { return *dialog->findChild<QPushButton *>(QStringLiteral("CmdOK")); }
