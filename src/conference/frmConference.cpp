@@ -9,6 +9,7 @@
 #include "core/keyed_selection.h"
 #include "core/log_font.h"
 #include "core/picture_delegate.h"
+#include "core/picture_label.h"
 #include "core/pictures.h"
 #include "core/twips.h"
 #include "core/window_attention.h"
@@ -151,8 +152,7 @@ void frmConference::buildAvatars()
     AvatarsFrame->setFixedWidth(pixels(avatarsWidth));
     m_avatarPicture = named(new AvatarPicture(AvatarsFrame, 1), "AvatarPicture");
     m_avatarPicture->hide();
-    NoAvatarImg = named(new QLabel(AvatarsFrame), "NoAvatarImg");
-    NoAvatarImg->setPixmap(namedPicture(QStringLiteral("avatar")).pixmap(32));
+    NoAvatarImg = named(new PictureLabel(namedPicture(QStringLiteral("avatar")), 32, AvatarsFrame), "NoAvatarImg");
     NoAvatarImg->setAlignment(Qt::AlignCenter);
     NoAvatarImg->setFixedSize(m_avatarPicture->size());
     AvatarLabel = named(new ElidedLabel(AvatarsFrame), "AvatarLabel");

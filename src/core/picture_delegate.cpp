@@ -18,21 +18,11 @@ void PictureDelegate::initStyleOption(QStyleOptionViewItem *option, const QModel
         return;
     option->features |= QStyleOptionViewItem::HasDecoration;
     option->decorationSize = QSize(pictureSide, pictureSide);
-    option->icon = untinted(index.data(Qt::UserRole + 2).toString(), *option);
-}
-
-/// Styles tint the pictures of selected rows, but a state is told by its colour too. Drawn once for each scale: reading
-/// a picture takes longer than painting the row.
-QIcon PictureDelegate::untinted(const QString &name, const QStyleOptionViewItem &option) const
-{
-    const double scale = option.widget ? option.widget->devicePixelRatioF() : 1.0;
-    QIcon &result = m_pictures[{name, scale}];
-    if (!result.isNull())
-        return result;
-    const QPixmap pixels = namedPicture(name).pixmap(option.decorationSize, scale);
-    result.addPixmap(pixels, QIcon::Normal);
-    result.addPixmap(pixels, QIcon::Selected);
-    return result;
+    const QString name = index.data(Qt::UserRole + 2).toString();
+    const auto [picture, isNew] = m_pictures.try_emplace(name);
+    if (isNew)
+        picture->second = namedPicture(name);
+    option->icon = picture->second;
 }
 
 } // namespace nimb

@@ -26,9 +26,7 @@ protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
 private:
-    QIcon untinted(const QString &name, const QStyleOptionViewItem &option) const;
-
-    mutable std::map<std::pair<QString, double>, QIcon> m_pictures;
+    mutable std::map<QString, QIcon> m_pictures; ///< by name
 };
 
 } // namespace nimb

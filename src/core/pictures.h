@@ -8,7 +8,9 @@
 namespace nimb
 {
 
-/// A picture of the program by its name, such as "rescan".
+/// A picture of the program by its name, such as "rescan"; one without any size where there is none. Those of one
+/// colour take that of the text around them and follow selection, disabled controls and changes of the palette; the
+/// others keep their colours when selected.
 QIcon namedPicture(const QString &name);
 
 inline QIcon statePicture(Picture picture)

@@ -1,6 +1,7 @@
 #include "dialogs/frmAbout.h"
 
 #include "core/dialog_parts.h"
+#include "core/picture_label.h"
 #include "core/pictures.h"
 
 #include <QHBoxLayout>
@@ -33,8 +34,7 @@ frmAbout::frmAbout(SystemInformation &system, Prompts &prompts, const QString &v
 
 QHBoxLayout *frmAbout::buildTexts(const QString &version)
 {
-    auto *const picIcon = named(new QLabel(this), "picIcon");
-    picIcon->setPixmap(programIcon().pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
+    auto *const picIcon = named(new PictureLabel(programIcon(), pictureSize, this), "picIcon");
     picIcon->setAccessibleName(tr("NIMB-Chat's picture"));
     auto *const lblTitle = runningText(this, "lblTitle", tr("NIMB-Chat"), textWidth);
     QFont large = lblTitle->font();

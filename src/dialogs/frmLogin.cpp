@@ -1,6 +1,7 @@
 #include "dialogs/frmLogin.h"
 
 #include "core/form_layout.h"
+#include "core/picture_label.h"
 #include "core/pictures.h"
 
 #include <QGridLayout>
@@ -24,8 +25,7 @@ frmLogin::frmLogin(Login &login, Prompts &prompts) : m_login(login), m_prompts(p
 
 void frmLogin::buildControls()
 {
-    auto *const picture = new QLabel(this);
-    picture->setPixmap(programIcon().pixmap(48, 48));
+    auto *const picture = new PictureLabel(programIcon(), 48, this);
     auto *const welcome = new QLabel(tr("Welcome to NIMB-Chat!"), this);
     QFont large = welcome->font();
     large.setPointSizeF(large.pointSizeF() * 1.3);

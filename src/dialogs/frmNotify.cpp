@@ -2,6 +2,7 @@
 
 #include "core/form_layout.h"
 #include "core/picture_delegate.h"
+#include "core/picture_label.h"
 #include "core/pictures.h"
 #include "core/twips.h"
 
@@ -62,8 +63,7 @@ frmNotify::~frmNotify()
 
 void frmNotify::buildControls()
 {
-    auto *const picture = new QLabel(this);
-    picture->setPixmap(windowIcon().pixmap(PictureDelegate::pictureSide));
+    auto *const picture = new PictureLabel(windowIcon(), PictureDelegate::pictureSide, this);
     auto *const caption = new QLabel(windowTitle(), this);
     caption->setTextFormat(Qt::PlainText);
     closebtn = named(new QPushButton(tr("hide"), this), "closebtn");

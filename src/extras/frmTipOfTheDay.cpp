@@ -2,6 +2,7 @@
 
 #include "core/dialog_parts.h"
 #include "core/form_text.h"
+#include "core/picture_label.h"
 #include "core/pictures.h"
 
 #include <QCheckBox>
@@ -51,8 +52,7 @@ QFrame *frmTipOfTheDay::tipFrame()
     frame->setFrameShape(QFrame::StyledPanel);
     frame->setBackgroundRole(QPalette::Base);
     frame->setAutoFillBackground(true);
-    auto *const bulb = new QLabel(frame);
-    bulb->setPixmap(namedPicture(QStringLiteral("tip")).pixmap(bulbSize, bulbSize));
+    auto *const bulb = new PictureLabel(namedPicture(QStringLiteral("tip")), bulbSize, frame);
     auto *const question = named(new QLabel(tr("Did you know?"), frame), "Label1");
     question->setForegroundRole(QPalette::Text);
     QFont large = question->font();

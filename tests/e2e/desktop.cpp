@@ -264,6 +264,19 @@ bool Window::wantsAttention() const
     return property("_NET_WM_STATE").contains("_NET_WM_STATE_DEMANDS_ATTENTION");
 }
 
+bool Window::shows(std::uint32_t colour) const
+{
+    const QByteArray pixels
+        = run(QStringLiteral("import"), {"-silent", "-window", m_id, "-depth", "8", "rgb:-"}).output;
+    for (qsizetype i = 0; i + 2 < pixels.size(); i += 3) {
+        const auto part
+            = [&](qsizetype at) { return static_cast<std::uint32_t>(static_cast<unsigned char>(pixels[at])); };
+        if (((part(i) << 16) | (part(i + 1) << 8) | part(i + 2)) == colour)
+            return true;
+    }
+    return false;
+}
+
 Window::Place Window::place() const
 {
     const QList<QByteArray> lines = run(QStringLiteral("xwininfo"), {"-id", m_id}).output.split('\n');

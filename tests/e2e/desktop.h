@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
@@ -78,6 +79,8 @@ public:
     bool isActive() const;
     bool wantsAttention() const;
     Place place() const;
+    /// Whether a pixel of exactly this colour, 0xRRGGBB, is inside it, as far as nothing lies over it.
+    bool shows(std::uint32_t colour) const;
 
     /// As a click on its taskbar button does: the window is restored, raised and has the focus afterwards.
     void activate() const;

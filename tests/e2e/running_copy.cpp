@@ -61,11 +61,6 @@ std::string columnText(const Statement &statement, int column)
     return bytes ? std::string(bytes, size) : std::string();
 }
 
-QString programPath()
-{
-    return qEnvironmentVariable("NIMB_PROGRAM", QStringLiteral(NIMB_PROGRAM));
-}
-
 std::optional<int> statusOf(const QProcess &process)
 {
     if (process.state() != QProcess::NotRunning || process.exitStatus() != QProcess::NormalExit)
@@ -96,6 +91,11 @@ Rows profile(std::uint16_t port, const std::vector<StoredContact> &contacts, con
     rows.insert({{"Settings", "UDPPort"}, std::to_string(port)});
     rows.insert({{"Options", "TipOTDay"}, "0"}); // which would lie over what a test clicks on
     return rows;
+}
+
+QString RunningCopy::builtProgram()
+{
+    return qEnvironmentVariable("NIMB_PROGRAM", QStringLiteral(NIMB_PROGRAM));
 }
 
 RunningCopy::RunningCopy(const Place &place) : m_place(place), m_profile(m_scratch.filePath(QStringLiteral("profile")))
@@ -150,7 +150,7 @@ void RunningCopy::prepare(QProcess &process, const QString &name) const
 void RunningCopy::start(const QStringList &arguments)
 {
     prepare(m_process, QStringLiteral("printed"));
-    m_process.start(programPath(), arguments);
+    m_process.start(m_program, arguments);
     EXPECT_TRUE(m_process.waitForStarted(patienceMs())) << m_process.errorString().toStdString();
 }
 
@@ -158,7 +158,7 @@ std::optional<int> RunningCopy::startAgain(const QStringList &arguments) const
 {
     QProcess second;
     prepare(second, QStringLiteral("printed-again"));
-    second.start(programPath(), arguments);
+    second.start(m_program, arguments);
     second.waitForFinished(patienceMs());
     const std::optional<int> status = statusOf(second);
     endProcess(second);

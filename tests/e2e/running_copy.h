@@ -55,6 +55,10 @@ public:
     /// For the environment of every start that follows. Without it there is neither a sound server nor a desktop.
     void setVariable(const QString &name, const QString &value) { m_variables.insert(name, value); }
 
+    /// Another file for every start that follows than the one that was built.
+    void setProgram(const QString &file) { m_program = file; }
+    static QString builtProgram();
+
     void start(const QStringList &arguments);
     /// Starts the program a second time with the same profile and waits for the exit status; nothing when it crashed
     /// or did not end.
@@ -85,6 +89,7 @@ private:
     Place m_place;
     QTemporaryDir m_scratch;
     QString m_profile;
+    QString m_program = builtProgram();
     QProcessEnvironment m_variables;
     QProcess m_process;
 };

@@ -286,9 +286,11 @@ TEST_F(FrmMain, TheToolTipFollowsThePointer)
     QTest::mouseMove(viewport, windows.placeOf(1));
     QTest::mouseMove(viewport, windows.placeOf(1) + QPoint(1, 0));
     const QString ofAnn = QStringLiteral("Ann: BUSY - In a meeting");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return viewport->toolTip() == ofAnn; }, 5000)) << viewport->toolTip();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return viewport->toolTip() == ofAnn; }, 5000))
+        << viewport->toolTip().toStdString();
     QTest::mouseMove(viewport, windows.placeOf(2) + QPoint(0, 60));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return viewport->toolTip().isEmpty(); }, 5000)) << viewport->toolTip();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return viewport->toolTip().isEmpty(); }, 5000))
+        << viewport->toolTip().toStdString();
 }
 
 TEST_F(FrmMain, RescanningAsksEveryContactAndDisablesItself)
