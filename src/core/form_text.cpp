@@ -1,5 +1,7 @@
 #include "core/form_text.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QPlainTextEdit>
 #include <QTextDocument>
 
@@ -15,6 +17,12 @@ void setTypedText(QPlainTextEdit &box, const QString &text)
 {
     box.setPlainText(QString(text).replace(QLatin1String("\r\n"), QLatin1String("\n")));
     box.moveCursor(QTextCursor::End);
+}
+
+void nameCombo(QComboBox &combo, const QString &name)
+{
+    combo.setAccessibleName(name);
+    combo.view()->setAccessibleName(name);
 }
 
 void setWindowCaption(QWidget &window, const QString &caption)

@@ -3,6 +3,7 @@
 
 #include <QString>
 
+class QComboBox;
 class QPlainTextEdit;
 class QWidget;
 
@@ -13,6 +14,9 @@ namespace nimb
 QString typedText(const QPlainTextEdit &box);
 /// Shows text whose line breaks are CR LF and places the caret at its end.
 void setTypedText(QPlainTextEdit &box, const QString &text);
+
+/// Names a combo box for screen readers, and the list that it drops down, which they meet by itself.
+void nameCombo(QComboBox &combo, const QString &name);
 
 /// Sets a window's title as plain text: "[*]" in a name is no place marker.
 void setWindowCaption(QWidget &window, const QString &caption);

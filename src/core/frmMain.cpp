@@ -149,7 +149,7 @@ void frmMain::buildContacts(QWidget *parent)
 void frmMain::buildOwnState(QWidget *parent)
 {
     ImageCombo1 = named(new StateChooser(parent), "ImageCombo1");
-    ImageCombo1->setAccessibleName(tr("Own state"));
+    nameCombo(*ImageCombo1, tr("Own state"));
     ImageCombo1->setMaxVisibleItems(13);
     m_personalizedState = new PersonalizedStateFrame(parent);
     AutoReplyOn = named(new QCheckBox(tr("AutoReply"), parent), "AutoReplyOn");

@@ -1,6 +1,8 @@
 #include "core/personalized_state_frame.h"
+#include "core/form_text.h"
 
 #include "core/form_layout.h"
+#include "core/form_text.h"
 #include "core/own_state.h"
 #include "core/pictures.h"
 
@@ -36,6 +38,7 @@ void PersonalizedStateFrame::buildControls()
     PersonalizedMessageText = named(new QLineEdit(this), "PersonalizedMessageText");
     PersonalizedOkbtn = named(new QPushButton(tr("OK"), this), "PersonalizedOkbtn");
     m_cancel = new QPushButton(tr("Cancel"), this);
+    nameCombo(*ImageComboPers, tr("State"));
     base->setBuddy(ImageComboPers);
     text->setBuddy(PersonalizedMessageText);
     auto *const buttons = new QHBoxLayout;

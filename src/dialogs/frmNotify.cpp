@@ -122,16 +122,23 @@ NotifyView::Measures frmNotify::measures() const
 void frmNotify::SetWindowPos(int left, int top)
 {
     const QRect screen = QGuiApplication::primaryScreen()->geometry();
-    move(screen.topLeft() + QPoint(left, top));
-    raise();
+    const QRect place(screen.topLeft() + QPoint(left, top), size());
     // Below this screen there may be another one, which is no part of the way.
-    const QRect seen = geometry() & screen;
-    const bool trimmed = anotherScreenShows(geometry());
-    if (trimmed && !seen.isEmpty())
-        setMask(seen.translated(-pos()));
+    const QRect seen = place & screen;
+    const bool trimmed = anotherScreenShows(place);
+    const bool hidden = trimmed && seen.isEmpty();
+    // Before it moves: it must not be seen over there, and a platform may hold a visible window back at the edge.
+    if (hidden)
+        hide();
+    move(place.topLeft());
+    if (hidden)
+        return;
+    raise();
+    if (trimmed)
+        setMask(seen.translated(-place.topLeft()));
     else
         clearMask();
-    setVisible(!trimmed || !seen.isEmpty());
+    show();
 }
 
 } // namespace nimb

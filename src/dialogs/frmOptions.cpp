@@ -3,6 +3,7 @@
 #include "core/avatar_image.h"
 #include "core/dialog_parts.h"
 #include "core/file_dialogs.h"
+#include "core/form_text.h"
 #include "core/log_font.h"
 #include "core/pictures.h"
 #include "dialogs/font_dialog.h"
@@ -181,7 +182,7 @@ QGroupBox *frmOptions::makeAvatar()
     Picture2->setAccessibleName(tr("The picture"));
     LoadAvatarbtn = named(new QPushButton(tr("L&oad..."), group), "LoadAvatarbtn");
     PolledPicturebox = named(new QComboBox(group), "PolledPicturebox");
-    PolledPicturebox->setAccessibleName(tr("Where the pictures come from"));
+    nameCombo(*PolledPicturebox, tr("Where the pictures come from"));
     PolledPicturebox->insertItem(cameraPosition, tr("of the camera"));
     PolledPicturebox->insertItem(folderPosition, tr("of a folder"));
     Folderbtn = named(new QPushButton(tr("Choos&e..."), group), "Folderbtn");

@@ -66,7 +66,8 @@ inline std::vector<std::string> withoutAccessibleName(const QWidget &window)
             continue;
         QAccessibleInterface *const reader = QAccessible::queryAccessibleInterface(control);
         if (!reader || reader->text(QAccessible::Name).isEmpty())
-            names.push_back(control->objectName().toStdString());
+            names.push_back(control->metaObject()->className() + (" " + control->objectName().toStdString()) + " of "
+                            + control->parentWidget()->objectName().toStdString());
     }
     return names;
 }
