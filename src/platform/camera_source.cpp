@@ -1,6 +1,7 @@
 #include "platform/camera_source.h"
 
 #include "platform/picture_frame.h"
+#include "platform/quiet_media.h"
 
 #include <QCamera>
 #include <QMediaCaptureSession>
@@ -13,6 +14,7 @@ namespace nimb
 
 CameraSource::CameraSource()
 {
+    const QuietMedia here;
     const QCameraDevice device = QMediaDevices::defaultVideoInput();
     if (device.isNull()) {
         m_problem = tr("There is no camera.");

@@ -1,5 +1,7 @@
 #include "platform/sound_player.h"
 
+#include "platform/quiet_media.h"
+
 #include <QAudioDevice>
 #include <QAudioSink>
 #include <QFile>
@@ -18,21 +20,9 @@ namespace
 /// What is not yet out of the device when the samples end is cut off; this much silence may be.
 constexpr qint64 silenceAtEnd = 200000; // microseconds
 
-/// Qt remarks on a missing sound server through its unnamed category, which cannot be switched off by itself.
-class NoRemarks
-{
-public:
-    NoRemarks() : m_previous(qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {})) { }
-    ~NoRemarks() { qInstallMessageHandler(m_previous); }
-    Q_DISABLE_COPY_MOVE(NoRemarks)
-
-private:
-    QtMessageHandler m_previous;
-};
-
 QAudioDevice defaultDevice()
 {
-    const NoRemarks here;
+    const QuietMedia here;
     return QMediaDevices::defaultAudioOutput();
 }
 
