@@ -3,6 +3,7 @@
 #include "child_process.h"
 
 #include <QRegularExpression>
+#include <QStandardPaths>
 
 namespace nimb::test
 {
@@ -17,11 +18,32 @@ QByteArray outputOf(const QString &program, const QStringList &arguments)
     return process.readAllStandardOutput();
 }
 
+/// One of the programs that systems have.
+struct Program {
+    QString name; ///< of the file, and the class of its windows
+    QString caption;
+    QStringList arguments;
+};
+
+const Program &installed()
+{
+    static const Program trayer{"trayer",
+                                "panel",
+                                {"--edge", "bottom", "--align", "right", "--widthtype", "pixel", "--width", "200",
+                                 "--heighttype", "pixel", "--height", "32"}};
+    static const Program stalonetray{"stalonetray", "stalonetray", {"--geometry", "5x1-0-0", "--icon-size", "32"}};
+    return QStandardPaths::findExecutable(trayer.name).isEmpty() ? stalonetray : trayer;
+}
+
 /// Its window; empty when the screen has none.
 QByteArray area()
 {
-    return outputOf(QStringLiteral("xdotool"), {"search", "--class", "^trayer$"}).contains('\n')
-        ? outputOf(QStringLiteral("xdotool"), {"search", "--name", "^panel$"}).split('\n').first().trimmed()
+    const Program &program = installed();
+    return outputOf(QStringLiteral("xdotool"), {"search", "--class", '^' + program.name + '$'}).contains('\n')
+        ? outputOf(QStringLiteral("xdotool"), {"search", "--name", '^' + program.caption + '$'})
+              .split('\n')
+              .first()
+              .trimmed()
         : QByteArray();
 }
 
@@ -32,11 +54,9 @@ TrayProgram::TrayProgram()
     endWithParent(m_process);
     m_process.setStandardOutputFile(QProcess::nullDevice());
     m_process.setStandardErrorFile(QProcess::nullDevice());
-    m_process.start(QStringLiteral("trayer"),
-                    {"--edge", "bottom", "--align", "right", "--widthtype", "pixel", "--width", "200", "--heighttype",
-                     "pixel", "--height", "32"});
+    m_process.start(installed().name, installed().arguments);
     EXPECT_TRUE(waitUntil([] { return !area().isEmpty(); }))
-        << "trayer does not start: " << m_process.errorString().toStdString();
+        << installed().name.toStdString() << " does not start: " << m_process.errorString().toStdString();
 }
 
 TrayProgram::~TrayProgram()
