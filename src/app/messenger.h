@@ -1,10 +1,10 @@
 // Makes one whole engine and ties its parts together.
 #pragma once
 
+#include "base/notifications.h"
 #include "conference/conference_commands.h"
 #include "core/contact_commands.h"
 #include "core/main_window.h"
-#include "core/notifications.h"
 #include "core/shared_contacts.h"
 #include "private/peer_features.h"
 #include "private/private_windows.h"

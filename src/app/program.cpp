@@ -1,7 +1,7 @@
 #include "app/program.h"
 
+#include "base/limits.h"
 #include "core/frmMain.h"
-#include "core/limits.h"
 #include "core/sub_main.h"
 #include "platform/own_identity.h"
 #include "platform/program_files.h"

@@ -3,9 +3,9 @@
 
 #include "app/form_opener.h"
 #include "app/messenger.h"
+#include "base/window_openers.h"
 #include "core/Tray.h"
 #include "core/plain_tool_tips.h"
-#include "core/windows.h"
 #include "platform/desktop_notifications.h"
 #include "platform/link_opener.h"
 #include "platform/name_resolver.h"

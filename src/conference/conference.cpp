@@ -1,8 +1,8 @@
 #include "conference/conference.h"
 
-#include "core/clock_text.h"
-#include "core/limits.h"
-#include "core/remote_text.h"
+#include "base/clock_text.h"
+#include "base/limits.h"
+#include "base/remote_text.h"
 #include "private/emoticons.h"
 #include "private/message_text.h"
 #include "protocol/send_datagram.h"

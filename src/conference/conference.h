@@ -1,13 +1,13 @@
 // One conference that this copy takes part in: as its host, who relays every message, or as a guest.
 #pragma once
 
+#include "base/Common.h"
+#include "base/prompts.h"
+#include "base/timers.h"
+#include "base/unload_mode.h"
 #include "conference/conference_view.h"
 #include "conference/participants.h"
-#include "core/Common.h"
 #include "core/contact_list.h"
-#include "core/prompts.h"
-#include "core/timers.h"
-#include "core/unload_mode.h"
 #include "private/avatar_store.h"
 #include "protocol/winsock.h"
 

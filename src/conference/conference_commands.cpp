@@ -1,7 +1,7 @@
 #include "conference/conference_commands.h"
 
-#include "core/limits.h"
-#include "core/remote_text.h"
+#include "base/limits.h"
+#include "base/remote_text.h"
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
 

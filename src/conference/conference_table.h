@@ -1,8 +1,8 @@
 // The conference windows: five at most, hosted and joined.
 #pragma once
 
+#include "base/main_window_view.h"
 #include "conference/conference.h"
-#include "core/main_window_view.h"
 
 #include <array>
 

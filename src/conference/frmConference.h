@@ -1,8 +1,8 @@
 // The conference window.
 #pragma once
 
+#include "base/unload_mode.h"
 #include "conference/conference_view.h"
-#include "core/unload_mode.h"
 
 #include <QWidget>
 

@@ -1,9 +1,9 @@
 #include "conference/invitations.h"
 
-#include "core/clock_text.h"
-#include "core/leading_number.h"
-#include "core/limits.h"
-#include "core/settings.h"
+#include "base/clock_text.h"
+#include "base/leading_number.h"
+#include "base/limits.h"
+#include "base/settings.h"
 #include "protocol/send_datagram.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 // The invitations to conferences that wait for an answer.
 #pragma once
 
+#include "base/settings_store.h"
 #include "conference/conference_table.h"
-#include "core/settings_store.h"
 
 #include <QAbstractTableModel>
 #include <QDateTime>

@@ -1,7 +1,7 @@
 // The participants of one conference: an item model of keyed rows, the own one first.
 #pragma once
 
-#include "core/colour.h"
+#include "base/colour.h"
 
 #include <QAbstractTableModel>
 #include <QHash>

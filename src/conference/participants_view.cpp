@@ -1,8 +1,8 @@
 #include "conference/participants_view.h"
 
+#include "base/remote_text.h"
 #include "conference/participants.h"
 #include "core/muted_colour.h"
-#include "core/remote_text.h"
 #include "private/rich_text_log.h"
 
 #include <QBrush>

@@ -1,6 +1,6 @@
 #include "core/Tray.h"
 
-#include "core/remote_text.h"
+#include "base/remote_text.h"
 
 namespace nimb
 {

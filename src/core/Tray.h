@@ -1,7 +1,7 @@
 // The icon in the notification area.
 #pragma once
 
-#include "core/windows.h"
+#include "base/window_openers.h"
 
 #include <QIcon>
 #include <QSystemTrayIcon>

@@ -1,6 +1,6 @@
 #include "core/announcement.h"
 
-#include "core/limits.h"
+#include "base/limits.h"
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
 

@@ -1,10 +1,10 @@
 // The announcement: every contact is asked whether it is there, and the silent ones turn offline.
 #pragma once
 
-#include "core/Common.h"
+#include "base/Common.h"
+#include "base/main_window_view.h"
+#include "base/timers.h"
 #include "core/contact_list.h"
-#include "core/main_window_view.h"
-#include "core/timers.h"
 #include "protocol/winsock.h"
 
 namespace nimb

@@ -1,7 +1,7 @@
 // Avatars as images, for the windows.
 #pragma once
 
-#include "core/avatar.h"
+#include "base/avatar.h"
 
 #include <QImage>
 

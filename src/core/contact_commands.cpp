@@ -1,7 +1,7 @@
 #include "core/contact_commands.h"
 
-#include "core/buzz.h"
-#include "core/remote_text.h"
+#include "base/buzz.h"
+#include "base/remote_text.h"
 
 namespace nimb
 {

@@ -1,10 +1,11 @@
 // What the main window does with the selected contact, and the captions that name it.
 #pragma once
 
-#include "core/Common.h"
+#include "base/Common.h"
+#include "base/prompts.h"
+#include "base/sound.h"
+#include "base/window_openers.h"
 #include "core/contact_list.h"
-#include "core/prompts.h"
-#include "core/sound.h"
 #include "protocol/winsock.h"
 
 #include <QCoreApplication>
@@ -15,17 +16,6 @@ namespace nimb
 /// Captions of the context menu; "&" marks access keys and is doubled in names.
 struct ContactMenuCaptions {
     QString mnuPrivateChat, mnuBuzzUser, mnuRemoveUser, mnusendcontacts, mnuinviteuser;
-};
-
-/// Opens private windows at the user's wish.
-class PrivateChats
-{
-public:
-    virtual ~PrivateChats() = default;
-    /// Shows the contact's private window, normal and active; makes it when there is none.
-    virtual void openPrivate(const QString &ip) = 0;
-    /// The contact has been removed from the list.
-    virtual void contactRemoved(const QString &ip) = 0;
 };
 
 /// Every command does nothing when there is no contact with the address, an empty one included.

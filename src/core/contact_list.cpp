@@ -1,6 +1,6 @@
 #include "core/contact_list.h"
 
-#include "core/remote_text.h"
+#include "base/remote_text.h"
 
 #include <algorithm>
 

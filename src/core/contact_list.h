@@ -1,8 +1,8 @@
 // The user's own list of peers: an item model that keeps itself sorted.
 #pragma once
 
-#include "core/presence_picture.h"
-#include "core/settings_store.h"
+#include "base/presence_picture.h"
+#include "base/settings_store.h"
 #include "protocol/handlers.h"
 
 #include <QAbstractTableModel>

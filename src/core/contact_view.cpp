@@ -1,9 +1,9 @@
 #include "core/contact_view.h"
 
+#include "base/remote_text.h"
 #include "core/contact_list.h"
 #include "core/muted_colour.h"
 #include "core/picture_delegate.h"
-#include "core/remote_text.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>

@@ -1,8 +1,8 @@
 // What the small dialogs are made of.
 #pragma once
 
+#include "base/limits.h"
 #include "core/form_layout.h"
-#include "core/limits.h"
 
 #include <QDialog>
 #include <QDialogButtonBox>

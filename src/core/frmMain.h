@@ -1,10 +1,10 @@
 // The main window.
 #pragma once
 
+#include "base/main_window_view.h"
+#include "base/unload_mode.h"
+#include "base/window_openers.h"
 #include "core/main_menus.h"
-#include "core/main_window_view.h"
-#include "core/unload_mode.h"
-#include "core/windows.h"
 
 #include <QMainWindow>
 

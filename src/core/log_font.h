@@ -1,7 +1,7 @@
 // The font of logs and input boxes.
 #pragma once
 
-#include "core/Common.h"
+#include "base/Common.h"
 
 #include <QFont>
 #include <QFontDatabase>

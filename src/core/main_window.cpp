@@ -1,7 +1,7 @@
 #include "core/main_window.h"
 
-#include "core/remote_text.h"
-#include "core/settings.h"
+#include "base/remote_text.h"
+#include "base/settings.h"
 
 namespace nimb
 {

@@ -1,15 +1,15 @@
 // The life of the main window: loading, closing and ending, in the prescribed order.
 #pragma once
 
+#include "base/main_log.h"
+#include "base/prompts.h"
+#include "base/settings_store.h"
+#include "base/unload_mode.h"
+#include "base/window_openers.h"
 #include "core/announcement.h"
 #include "core/contact_list.h"
-#include "core/main_log.h"
 #include "core/own_state.h"
 #include "core/port_watch.h"
-#include "core/prompts.h"
-#include "core/settings_store.h"
-#include "core/unload_mode.h"
-#include "core/windows.h"
 
 #include <QCoreApplication>
 

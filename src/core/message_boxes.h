@@ -1,7 +1,7 @@
 // Message boxes on the screen.
 #pragma once
 
-#include "core/prompts.h"
+#include "base/prompts.h"
 
 #include <QMessageBox>
 #include <QPointer>

@@ -1,6 +1,6 @@
 #include "core/own_state.h"
 
-#include "core/limits.h"
+#include "base/limits.h"
 
 namespace nimb
 {

@@ -1,10 +1,10 @@
 // The user's own presence: the chooser's entries, what a choice does, and the automatic-reply settings.
 #pragma once
 
+#include "base/main_log.h"
+#include "base/main_window_view.h"
 #include "core/announcement.h"
 #include "core/contact_list.h"
-#include "core/main_log.h"
-#include "core/main_window_view.h"
 
 #include <QCoreApplication>
 

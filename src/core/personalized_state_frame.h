@@ -1,7 +1,7 @@
 // The panel in which a personalised state is made.
 #pragma once
 
-#include "core/presence_picture.h"
+#include "base/presence_picture.h"
 
 #include <QFrame>
 

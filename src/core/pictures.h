@@ -1,7 +1,7 @@
 // The program's own pictures.
 #pragma once
 
-#include "core/presence_picture.h"
+#include "base/presence_picture.h"
 
 #include <QIcon>
 

@@ -1,6 +1,6 @@
 #include "core/port_watch.h"
 
-#include "core/limits.h"
+#include "base/limits.h"
 
 namespace nimb
 {

@@ -1,9 +1,9 @@
 // Gets the port, and keeps trying while another program holds it.
 #pragma once
 
-#include "core/main_log.h"
-#include "core/main_window_view.h"
-#include "core/timers.h"
+#include "base/main_log.h"
+#include "base/main_window_view.h"
+#include "base/timers.h"
 #include "protocol/winsock.h"
 
 #include <QCoreApplication>

@@ -1,10 +1,10 @@
 // What presence datagrams do: contacts come online, change state and go offline.
 #pragma once
 
+#include "base/main_log.h"
+#include "base/notifications.h"
 #include "core/announcement.h"
 #include "core/contact_list.h"
-#include "core/main_log.h"
-#include "core/notifications.h"
 #include "protocol/drop_counts.h"
 
 namespace nimb

@@ -1,7 +1,7 @@
 #include "core/shared_contacts.h"
 
-#include "core/limits.h"
-#include "core/remote_text.h"
+#include "base/limits.h"
+#include "base/remote_text.h"
 
 namespace nimb
 {

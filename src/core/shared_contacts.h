@@ -1,7 +1,7 @@
 // Contacts that peers send.
 #pragma once
 
-#include "core/Common.h"
+#include "base/Common.h"
 #include "core/contact_list.h"
 #include "protocol/drop_counts.h"
 #include "protocol/handlers.h"

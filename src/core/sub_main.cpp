@@ -1,7 +1,7 @@
 #include "core/sub_main.h"
 
+#include "base/settings.h"
 #include "core/main_window.h"
-#include "core/settings.h"
 #include "core/window_flashing.h"
 
 namespace nimb

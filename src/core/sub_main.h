@@ -1,9 +1,9 @@
 // The start of the program, in the prescribed order.
 #pragma once
 
-#include "core/Common.h"
-#include "core/settings_store.h"
-#include "core/windows.h"
+#include "base/Common.h"
+#include "base/settings_store.h"
+#include "base/window_openers.h"
 
 namespace nimb
 {

@@ -1,9 +1,9 @@
 // The rules of adding a contact by hand.
 #pragma once
 
-#include "core/Common.h"
+#include "base/Common.h"
+#include "base/prompts.h"
 #include "core/contact_list.h"
-#include "core/prompts.h"
 
 #include <QCoreApplication>
 

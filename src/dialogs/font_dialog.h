@@ -1,8 +1,8 @@
 // The dialog that chooses the font of the logs.
 #pragma once
 
-#include "core/Common.h"
-#include "core/prompts.h"
+#include "base/Common.h"
+#include "base/prompts.h"
 
 #include <QFontDialog>
 

@@ -1,8 +1,8 @@
 // The About box.
 #pragma once
 
-#include "core/prompts.h"
-#include "core/system_information.h"
+#include "base/prompts.h"
+#include "base/system_information.h"
 
 #include <QDialog>
 

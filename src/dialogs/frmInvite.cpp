@@ -1,9 +1,9 @@
 #include "dialogs/frmInvite.h"
 
+#include "base/remote_text.h"
 #include "core/dialog_parts.h"
 #include "core/elided_label.h"
 #include "core/pictures.h"
-#include "core/remote_text.h"
 
 #include <QEvent>
 #include <QGroupBox>

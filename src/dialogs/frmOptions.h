@@ -1,7 +1,7 @@
 // The options dialog.
 #pragma once
 
-#include "core/prompts.h"
+#include "base/prompts.h"
 #include "dialogs/option_values.h"
 #include "dialogs/picture_file.h"
 

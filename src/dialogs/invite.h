@@ -1,10 +1,10 @@
 // The rules of inviting somebody who does not run the messenger.
 #pragma once
 
-#include "core/Common.h"
+#include "base/Common.h"
+#include "base/net_send.h"
+#include "base/prompts.h"
 #include "core/contact_list.h"
-#include "core/net_send.h"
-#include "core/prompts.h"
 
 #include <QCoreApplication>
 

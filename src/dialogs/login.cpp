@@ -1,6 +1,6 @@
 #include "dialogs/login.h"
 
-#include "core/settings.h"
+#include "base/settings.h"
 
 namespace nimb
 {

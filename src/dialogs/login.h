@@ -1,9 +1,9 @@
 // The login dialog's rules: who we are.
 #pragma once
 
-#include "core/Common.h"
-#include "core/prompts.h"
-#include "core/settings_store.h"
+#include "base/Common.h"
+#include "base/prompts.h"
+#include "base/settings_store.h"
 #include "protocol/winsock.h"
 
 namespace nimb

@@ -1,6 +1,6 @@
 #include "dialogs/network_scan.h"
 
-#include "core/remote_text.h"
+#include "base/remote_text.h"
 
 #include <QStringList>
 

@@ -1,10 +1,10 @@
 // The network scan's rules: one question to an address that the automatic announcement does not reach.
 #pragma once
 
-#include "core/Common.h"
+#include "base/Common.h"
+#include "base/main_log.h"
+#include "base/name_resolver.h"
 #include "core/announcement.h"
-#include "core/main_log.h"
-#include "core/name_resolver.h"
 
 namespace nimb
 {

@@ -1,6 +1,6 @@
 #include "dialogs/notify_slide.h"
 
-#include "core/limits.h"
+#include "base/limits.h"
 #include "core/twips.h"
 
 namespace nimb

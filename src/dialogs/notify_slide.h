@@ -1,9 +1,9 @@
 // The notification pop-up's rules: what it lists, and how it slides in, stays and goes.
 #pragma once
 
-#include "core/Common.h"
-#include "core/notifications.h"
-#include "core/timers.h"
+#include "base/Common.h"
+#include "base/notifications.h"
+#include "base/timers.h"
 
 #include <QAbstractListModel>
 

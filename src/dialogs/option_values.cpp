@@ -1,6 +1,6 @@
 #include "dialogs/option_values.h"
 
-#include "core/avatar.h"
+#include "base/avatar.h"
 
 namespace nimb
 {

@@ -1,9 +1,9 @@
 // The options dialog's rules: what its controls say about the options, and the other way round.
 #pragma once
 
-#include "core/Common.h"
-#include "core/picture_source.h"
-#include "core/timers.h"
+#include "base/Common.h"
+#include "base/picture_source.h"
+#include "base/timers.h"
 #include "private/own_avatar.h"
 
 #include <QCoreApplication>

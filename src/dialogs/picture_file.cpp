@@ -1,6 +1,6 @@
 #include "dialogs/picture_file.h"
 
-#include "core/limits.h"
+#include "base/limits.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,11 +1,11 @@
 #include "extras/frmSendContact.h"
 
+#include "base/remote_text.h"
 #include "core/dialog_parts.h"
 #include "core/form_text.h"
 #include "core/muted_colour.h"
 #include "core/picture_delegate.h"
 #include "core/pictures.h"
-#include "core/remote_text.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>

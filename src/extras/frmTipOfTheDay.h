@@ -1,7 +1,7 @@
 // The dialog with the tip of the day.
 #pragma once
 
-#include "core/prompts.h"
+#include "base/prompts.h"
 #include "extras/tip_of_the_day.h"
 
 #include <QDialog>

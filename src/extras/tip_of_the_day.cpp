@@ -1,7 +1,7 @@
 #include "extras/tip_of_the_day.h"
 
-#include "core/remote_text.h"
-#include "core/settings.h"
+#include "base/remote_text.h"
+#include "base/settings.h"
 
 #include <limits>
 

@@ -1,7 +1,7 @@
 // The rules of the tip of the day.
 #pragma once
 
-#include "core/settings_store.h"
+#include "base/settings_store.h"
 #include "extras/tip_reader.h"
 
 #include <QCoreApplication>

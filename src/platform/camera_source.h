@@ -1,7 +1,7 @@
 // The frames of a camera.
 #pragma once
 
-#include "core/picture_source.h"
+#include "base/picture_source.h"
 
 #include <QCoreApplication>
 

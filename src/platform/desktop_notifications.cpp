@@ -1,6 +1,6 @@
 #include "platform/desktop_notifications.h"
 
-#include "core/limits.h"
+#include "base/limits.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingReply>

@@ -1,8 +1,8 @@
 // Notifications that the desktop shows, where the program cannot place windows of its own.
 #pragma once
 
-#include "core/Common.h"
-#include "core/notifications.h"
+#include "base/Common.h"
+#include "base/notifications.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>

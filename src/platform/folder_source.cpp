@@ -1,6 +1,6 @@
 #include "platform/folder_source.h"
 
-#include "core/limits.h"
+#include "base/limits.h"
 #include "platform/picture_frame.h"
 
 #include <QDir>

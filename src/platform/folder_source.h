@@ -1,7 +1,7 @@
 // Pictures of a folder, one after the other, as frames of the own polled picture.
 #pragma once
 
-#include "core/picture_source.h"
+#include "base/picture_source.h"
 
 #include <QCoreApplication>
 #include <QStringList>

@@ -1,7 +1,7 @@
 // Opens addresses with the program that the user's desktop has for them.
 #pragma once
 
-#include "core/link_opener.h"
+#include "base/link_opener.h"
 
 namespace nimb
 {

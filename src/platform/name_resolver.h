@@ -1,7 +1,7 @@
 // Asks the system for the addresses of hosts.
 #pragma once
 
-#include "core/name_resolver.h"
+#include "base/name_resolver.h"
 
 #include <QHash>
 #include <QObject>

@@ -1,7 +1,7 @@
 // Pop-up texts through the system's own program for them.
 #pragma once
 
-#include "core/net_send.h"
+#include "base/net_send.h"
 
 #include <QByteArray>
 #include <QCoreApplication>

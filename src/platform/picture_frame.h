@@ -1,7 +1,7 @@
 // A picture as a frame of the own polled picture.
 #pragma once
 
-#include "core/avatar.h"
+#include "base/avatar.h"
 
 #include <QImage>
 

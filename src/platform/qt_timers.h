@@ -1,7 +1,7 @@
 // Timers and the clock of the real world.
 #pragma once
 
-#include "core/timers.h"
+#include "base/timers.h"
 
 namespace nimb
 {

@@ -1,7 +1,7 @@
 // Plays the sounds of the program.
 #pragma once
 
-#include "core/sound.h"
+#include "base/sound.h"
 #include "platform/program_files.h"
 
 #include <QBuffer>

@@ -1,7 +1,7 @@
 // The settings in an SQLite file.
 #pragma once
 
-#include "core/settings_store.h"
+#include "base/settings_store.h"
 
 #include <QCoreApplication>
 #include <QMap>

@@ -1,7 +1,7 @@
 // Starts the system's own tool that tells about the machine.
 #pragma once
 
-#include "core/system_information.h"
+#include "base/system_information.h"
 
 #include <QByteArray>
 #include <QString>

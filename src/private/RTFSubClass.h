@@ -1,7 +1,7 @@
 // Opens the links of the logs: the hooks between logs and the system's handler for addresses.
 #pragma once
 
-#include "core/link_opener.h"
+#include "base/link_opener.h"
 
 #include <QMetaObject>
 

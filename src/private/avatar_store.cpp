@@ -1,6 +1,6 @@
 #include "private/avatar_store.h"
 
-#include "core/limits.h"
+#include "base/limits.h"
 
 namespace nimb
 {

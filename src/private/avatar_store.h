@@ -1,7 +1,7 @@
 // The avatars of the contacts, kept whether or not anybody looks at them.
 #pragma once
 
-#include "core/avatar.h"
+#include "base/avatar.h"
 #include "core/contact_list.h"
 
 #include <QHash>

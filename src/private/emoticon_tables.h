@@ -1,7 +1,7 @@
 // The emoticons: their texts, their pictures, and the colours of a conference's participants.
 #pragma once
 
-#include "core/colour.h"
+#include "base/colour.h"
 
 #include <QLatin1String>
 

@@ -1,6 +1,6 @@
 #include "private/emoticons.h"
 
-#include "core/remote_text.h"
+#include "base/remote_text.h"
 #include "private/emoticon_tables.h"
 #include "private/metafile.h"
 

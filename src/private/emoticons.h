@@ -1,7 +1,7 @@
 // The one routine that appends a message body to a log.
 #pragma once
 
-#include "core/rich_text.h"
+#include "base/rich_text.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 // The private window.
 #pragma once
 
-#include "core/unload_mode.h"
+#include "base/unload_mode.h"
 #include "private/private_chat_view.h"
 
 #include <QWidget>

@@ -1,6 +1,6 @@
 #include "private/link_finder.h"
 
-#include "core/remote_text.h"
+#include "base/remote_text.h"
 
 #include <QByteArray>
 #include <QChar>

@@ -1,8 +1,8 @@
 #include "private/message_input.h"
 
+#include "base/limits.h"
+#include "base/remote_text.h"
 #include "core/form_text.h"
-#include "core/limits.h"
-#include "core/remote_text.h"
 
 #include <QKeyEvent>
 

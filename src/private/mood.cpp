@@ -1,6 +1,6 @@
 #include "private/mood.h"
 
-#include "core/leading_number.h"
+#include "base/leading_number.h"
 
 #include <array>
 #include <cmath>

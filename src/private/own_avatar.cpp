@@ -1,6 +1,6 @@
 #include "private/own_avatar.h"
 
-#include "core/avatar.h"
+#include "base/avatar.h"
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
 

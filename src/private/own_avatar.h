@@ -1,10 +1,10 @@
 // The own avatar as peers get it: a still picture, or one that changes all the time.
 #pragma once
 
-#include "core/Common.h"
-#include "core/main_log.h"
-#include "core/picture_source.h"
-#include "core/timers.h"
+#include "base/Common.h"
+#include "base/main_log.h"
+#include "base/picture_source.h"
+#include "base/timers.h"
 #include "protocol/handlers.h"
 #include "protocol/winsock.h"
 

@@ -1,6 +1,6 @@
 #include "private/peer_features.h"
 
-#include "core/remote_text.h"
+#include "base/remote_text.h"
 #include "protocol/send_datagram.h"
 
 namespace nimb

@@ -1,10 +1,10 @@
 // What peers do besides writing: they buzz and type, show their mood and their avatar.
 #pragma once
 
-#include "core/Common.h"
-#include "core/activity.h"
+#include "base/Common.h"
+#include "base/activity.h"
+#include "base/sound.h"
 #include "core/contact_list.h"
-#include "core/sound.h"
 #include "private/avatar_store.h"
 #include "private/own_avatar.h"
 #include "private/private_windows.h"

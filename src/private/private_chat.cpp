@@ -1,9 +1,9 @@
 #include "private/private_chat.h"
 
-#include "core/buzz.h"
-#include "core/clock_text.h"
-#include "core/limits.h"
-#include "core/remote_text.h"
+#include "base/buzz.h"
+#include "base/clock_text.h"
+#include "base/limits.h"
+#include "base/remote_text.h"
 #include "private/emoticons.h"
 #include "private/live_type.h"
 #include "private/message_text.h"

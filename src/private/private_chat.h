@@ -1,11 +1,11 @@
 // A conversation with one peer: what is written, sent and answered.
 #pragma once
 
-#include "core/Common.h"
-#include "core/avatar.h"
-#include "core/sound.h"
-#include "core/timers.h"
-#include "core/unload_mode.h"
+#include "base/Common.h"
+#include "base/avatar.h"
+#include "base/sound.h"
+#include "base/timers.h"
+#include "base/unload_mode.h"
 #include "private/private_chat_view.h"
 #include "private/typing_notice.h"
 #include "protocol/winsock.h"

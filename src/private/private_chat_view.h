@@ -1,9 +1,9 @@
 // What the engine shows in a private window, named after what is seen.
 #pragma once
 
-#include "core/attention.h"
-#include "core/rich_text.h"
-#include "core/view_ptr.h"
+#include "base/attention.h"
+#include "base/rich_text.h"
+#include "base/view_ptr.h"
 #include "private/mood.h"
 
 #include <QByteArray>

@@ -1,6 +1,6 @@
 #include "private/private_windows.h"
 
-#include "core/remote_text.h"
+#include "base/remote_text.h"
 
 #include <algorithm>
 

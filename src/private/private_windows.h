@@ -1,7 +1,7 @@
 // The table of private windows, and which contact has which.
 #pragma once
 
-#include "core/contact_commands.h"
+#include "base/window_openers.h"
 #include "core/contact_list.h"
 #include "core/presence.h"
 #include "private/private_chat.h"

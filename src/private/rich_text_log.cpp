@@ -1,6 +1,6 @@
 #include "private/rich_text_log.h"
 
-#include "core/limits.h"
+#include "base/limits.h"
 #include "core/log_font.h"
 #include "core/muted_colour.h"
 #include "private/accessible_log.h"

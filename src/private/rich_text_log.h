@@ -1,7 +1,7 @@
 // The rich-text log on the screen, which every window with a log uses.
 #pragma once
 
-#include "core/rich_text.h"
+#include "base/rich_text.h"
 
 #include <QElapsedTimer>
 #include <QTextBlock>

@@ -1,4 +1,4 @@
-#include "core/limits.h"
+#include "base/limits.h"
 #include "dialogs/picture_file.h"
 
 #include <gmock/gmock.h>

@@ -10,7 +10,7 @@
 #include "virtual_time.h"
 
 #include "app/messenger.h"
-#include "core/limits.h"
+#include "base/limits.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,7 @@
 // Writes any text into a real log as conversations do, pictures and links included, and checks what the log then
 // holds. The first byte says whether the log finds links and when it writes what it gathered; zero bytes part messages.
-#include "core/limits.h"
-#include "core/remote_text.h"
+#include "base/limits.h"
+#include "base/remote_text.h"
 #include "private/emoticons.h"
 #include "private/log_pictures.h"
 #include "private/rich_text_log.h"

@@ -1,7 +1,7 @@
 // Whole copies on a simulated network, told as stories.
 #include "copy.h"
 
-#include "core/picture_source.h"
+#include "base/picture_source.h"
 
 namespace nimb::test
 {

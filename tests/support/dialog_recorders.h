@@ -1,9 +1,9 @@
 // What the small dialogs ask of the system, written down for a test to read.
 #pragma once
 
-#include "core/name_resolver.h"
-#include "core/net_send.h"
-#include "core/system_information.h"
+#include "base/name_resolver.h"
+#include "base/net_send.h"
+#include "base/system_information.h"
 #include "dialogs/network_scan.h"
 #include "recorders.h"
 #include "simulated_network.h"

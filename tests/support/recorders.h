@@ -1,15 +1,15 @@
 // What an engine shows and asks, written down for a test to read.
 #pragma once
 
+#include "base/link_opener.h"
+#include "base/main_window_view.h"
+#include "base/notifications.h"
+#include "base/picture_source.h"
+#include "base/prompts.h"
+#include "base/settings_store.h"
+#include "base/sound.h"
+#include "base/window_openers.h"
 #include "conference/invitations.h"
-#include "core/link_opener.h"
-#include "core/main_window_view.h"
-#include "core/notifications.h"
-#include "core/picture_source.h"
-#include "core/prompts.h"
-#include "core/settings_store.h"
-#include "core/sound.h"
-#include "core/windows.h"
 #include "private/private_chat_view.h"
 #include "protocol/drop_counts.h"
 

@@ -1,7 +1,7 @@
 // Time that passes only when a test says so.
 #pragma once
 
-#include "core/timers.h"
+#include "base/timers.h"
 
 #include <set>
 

@@ -1,6 +1,6 @@
 #include "copy.h"
 
-#include "core/limits.h"
+#include "base/limits.h"
 
 namespace nimb
 {

@@ -1,6 +1,6 @@
 #include "extras/tip_of_the_day.h"
 
-#include "core/settings.h"
+#include "base/settings.h"
 
 #include "recorders.h"
 

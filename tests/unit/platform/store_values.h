@@ -1,7 +1,7 @@
 // What the store's tests put into a store: enough of everything to fill many pages of the file.
 #pragma once
 
-#include "core/settings_store.h"
+#include "base/settings_store.h"
 
 namespace nimb::test
 {

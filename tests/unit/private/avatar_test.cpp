@@ -1,6 +1,6 @@
 #include "copy.h"
 
-#include "core/picture_source.h"
+#include "base/picture_source.h"
 
 namespace nimb
 {

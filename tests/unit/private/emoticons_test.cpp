@@ -1,6 +1,6 @@
 #include "private/emoticons.h"
 
-#include "core/limits.h"
+#include "base/limits.h"
 #include "private/emoticon_tables.h"
 #include "recorders.h"
 

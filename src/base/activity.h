@@ -1,8 +1,8 @@
 // The "activity" panel of the main window's status bar: what a peer has just done.
 #pragma once
 
-#include "core/main_window_view.h"
-#include "core/timers.h"
+#include "base/main_window_view.h"
+#include "base/timers.h"
 
 namespace nimb
 {

@@ -1,7 +1,7 @@
 // One entry of the own-state chooser.
 #pragma once
 
-#include "core/presence_picture.h"
+#include "base/presence_picture.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 // The notification window, as the engine uses it.
 #pragma once
 
-#include "core/presence_picture.h"
+#include "base/presence_picture.h"
 
 #include <QString>
 

@@ -1,4 +1,4 @@
-#include "core/remote_text.h"
+#include "base/remote_text.h"
 
 #include <gtest/gtest.h>
 

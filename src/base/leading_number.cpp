@@ -1,4 +1,4 @@
-#include "core/leading_number.h"
+#include "base/leading_number.h"
 
 #include <QLocale>
 #include <QRegularExpression>

@@ -1,4 +1,5 @@
-// The windows that the start and the end of the program open and close.
+// How windows are opened and closed by those who do not know them: at the start and the end of the program, from
+// the menus, for a contact.
 #pragma once
 
 #include <QString>
@@ -44,6 +45,17 @@ public:
     virtual void mnushowinvitations() = 0;
     /// slot: 1 to 5; an address that is no contact's is ignored.
     virtual void mnuInvite2Conf(int slot, const QString &ip) = 0;
+};
+
+/// Opens private windows at the user's wish.
+class PrivateChats
+{
+public:
+    virtual ~PrivateChats() = default;
+    /// Shows the contact's private window, normal and active; makes it when there is none.
+    virtual void openPrivate(const QString &ip) = 0;
+    /// The contact has been removed from the list.
+    virtual void contactRemoved(const QString &ip) = 0;
 };
 
 /// The windows that end with the main window, in the order of the calls.

@@ -1,9 +1,9 @@
 // What the engine shows in the main window, named after what is seen.
 #pragma once
 
-#include "core/Common.h"
-#include "core/own_state_entry.h"
-#include "core/rich_text.h"
+#include "base/Common.h"
+#include "base/own_state_entry.h"
+#include "base/rich_text.h"
 
 #include <QString>
 

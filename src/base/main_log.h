@@ -1,8 +1,8 @@
 // The main window's log: which lines it has, and in which colours.
 #pragma once
 
-#include "core/rich_text.h"
-#include "core/timers.h"
+#include "base/rich_text.h"
+#include "base/timers.h"
 #include "protocol/handlers.h"
 
 #include <QCoreApplication>

@@ -1,8 +1,8 @@
 // Every key of the settings store, and how the main window's settings are read and written.
 #pragma once
 
-#include "core/Common.h"
-#include "core/settings_store.h"
+#include "base/Common.h"
+#include "base/settings_store.h"
 
 #include <QStringList>
 

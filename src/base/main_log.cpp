@@ -1,7 +1,7 @@
-#include "core/main_log.h"
+#include "base/main_log.h"
 
-#include "core/clock_text.h"
-#include "core/remote_text.h"
+#include "base/clock_text.h"
+#include "base/remote_text.h"
 
 namespace nimb
 {

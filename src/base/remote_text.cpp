@@ -1,6 +1,6 @@
-#include "core/remote_text.h"
+#include "base/remote_text.h"
 
-#include "core/limits.h"
+#include "base/limits.h"
 
 #include <QCoreApplication>
 #include <QVector>

@@ -1,4 +1,4 @@
-#include "core/presence_picture.h"
+#include "base/presence_picture.h"
 
 namespace nimb
 {

@@ -1,6 +1,6 @@
 #include "copy.h"
 
-#include "core/settings.h"
+#include "base/settings.h"
 
 namespace nimb::test
 {

@@ -1,9 +1,9 @@
-#include "core/settings.h"
+#include "base/settings.h"
 
-#include "core/avatar.h"
+#include "base/avatar.h"
 
-#include "core/limits.h"
-#include "core/remote_text.h"
+#include "base/limits.h"
+#include "base/remote_text.h"
 
 #include <QCoreApplication>
 #include <QLocale>

@@ -1,8 +1,8 @@
 // Buzzing a peer.
 #pragma once
 
-#include "core/Common.h"
-#include "core/sound.h"
+#include "base/Common.h"
+#include "base/sound.h"
 #include "protocol/send_datagram.h"
 
 namespace nimb

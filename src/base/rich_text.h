@@ -1,8 +1,8 @@
 // A rich-text log, as the engine writes it.
 #pragma once
 
-#include "core/Common.h"
-#include "core/colour.h"
+#include "base/Common.h"
+#include "base/colour.h"
 
 #include <QString>
 
