@@ -3,9 +3,9 @@
 
 #include "base/notifications.h"
 #include "conference/conference_commands.h"
+#include "contacts/shared_contacts.h"
 #include "core/contact_commands.h"
 #include "core/main_window.h"
-#include "core/shared_contacts.h"
 #include "private/peer_features.h"
 #include "private/private_windows.h"
 #include "protocol/receive_dispatcher.h"

@@ -7,8 +7,8 @@
 #include "base/unload_mode.h"
 #include "conference/conference_view.h"
 #include "conference/participants.h"
-#include "core/contact_list.h"
-#include "private/avatar_store.h"
+#include "contacts/avatar_store.h"
+#include "contacts/contact_list.h"
 #include "protocol/winsock.h"
 
 #include <QCoreApplication>

@@ -3,7 +3,7 @@
 
 #include "conference/conference_table.h"
 #include "conference/invitations.h"
-#include "core/announcement.h"
+#include "contacts/announcement.h"
 #include "protocol/drop_counts.h"
 #include "protocol/handlers.h"
 

@@ -5,7 +5,7 @@
 #include "base/prompts.h"
 #include "base/sound.h"
 #include "base/window_openers.h"
-#include "core/contact_list.h"
+#include "contacts/contact_list.h"
 #include "protocol/winsock.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #include "core/contact_view.h"
 
 #include "base/remote_text.h"
-#include "core/contact_list.h"
+#include "contacts/contact_list.h"
 #include "core/muted_colour.h"
 #include "core/picture_delegate.h"
 

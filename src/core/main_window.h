@@ -6,9 +6,9 @@
 #include "base/settings_store.h"
 #include "base/unload_mode.h"
 #include "base/window_openers.h"
-#include "core/announcement.h"
-#include "core/contact_list.h"
-#include "core/own_state.h"
+#include "contacts/announcement.h"
+#include "contacts/contact_list.h"
+#include "contacts/own_state.h"
 #include "core/port_watch.h"
 
 #include <QCoreApplication>

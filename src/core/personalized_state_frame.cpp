@@ -1,9 +1,9 @@
 #include "core/personalized_state_frame.h"
 #include "core/form_text.h"
 
+#include "contacts/own_state.h"
 #include "core/form_layout.h"
 #include "core/form_text.h"
-#include "core/own_state.h"
 #include "core/pictures.h"
 
 #include <QComboBox>

@@ -4,7 +4,7 @@
 #include "base/Common.h"
 #include "base/net_send.h"
 #include "base/prompts.h"
-#include "core/contact_list.h"
+#include "contacts/contact_list.h"
 
 #include <QCoreApplication>
 

@@ -4,7 +4,7 @@
 #include "base/Common.h"
 #include "base/main_log.h"
 #include "base/name_resolver.h"
-#include "core/announcement.h"
+#include "contacts/announcement.h"
 
 namespace nimb
 {

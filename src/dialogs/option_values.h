@@ -4,7 +4,7 @@
 #include "base/Common.h"
 #include "base/picture_source.h"
 #include "base/timers.h"
-#include "private/own_avatar.h"
+#include "contacts/own_avatar.h"
 
 #include <QCoreApplication>
 

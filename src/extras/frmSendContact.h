@@ -1,7 +1,7 @@
 // The dialog in which the contacts for another contact are chosen.
 #pragma once
 
-#include "extras/contact_transfer.h"
+#include "contacts/contact_transfer.h"
 
 #include <QDialog>
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "base/window_openers.h"
-#include "core/contact_list.h"
-#include "core/presence.h"
+#include "contacts/contact_list.h"
+#include "contacts/presence.h"
 #include "private/private_chat.h"
 #include "protocol/handlers.h"
 

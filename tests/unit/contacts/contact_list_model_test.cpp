@@ -1,4 +1,4 @@
-#include "core/contact_list.h"
+#include "contacts/contact_list.h"
 
 #include <gtest/gtest.h>
 

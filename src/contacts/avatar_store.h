@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/avatar.h"
-#include "core/contact_list.h"
+#include "contacts/contact_list.h"
 
 #include <QHash>
 

@@ -1,4 +1,4 @@
-#include "core/contact_list.h"
+#include "contacts/contact_list.h"
 
 #include "base/remote_text.h"
 

@@ -1,4 +1,4 @@
-#include "extras/contact_transfer.h"
+#include "contacts/contact_transfer.h"
 
 #include "simulated_network.h"
 

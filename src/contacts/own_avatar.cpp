@@ -1,4 +1,4 @@
-#include "private/own_avatar.h"
+#include "contacts/own_avatar.h"
 
 #include "base/avatar.h"
 #include "protocol/send_datagram.h"

@@ -3,8 +3,8 @@
 
 #include "base/main_log.h"
 #include "base/main_window_view.h"
-#include "core/announcement.h"
-#include "core/contact_list.h"
+#include "contacts/announcement.h"
+#include "contacts/contact_list.h"
 
 #include <QCoreApplication>
 

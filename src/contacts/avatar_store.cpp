@@ -1,4 +1,4 @@
-#include "private/avatar_store.h"
+#include "contacts/avatar_store.h"
 
 #include "base/limits.h"
 

@@ -1,7 +1,7 @@
 // Which contacts are sent to another contact, and their sending.
 #pragma once
 
-#include "core/contact_list.h"
+#include "contacts/contact_list.h"
 #include "protocol/winsock.h"
 
 #include <QAbstractListModel>

@@ -1,4 +1,4 @@
-#include "core/shared_contacts.h"
+#include "contacts/shared_contacts.h"
 
 #include "base/limits.h"
 #include "base/remote_text.h"

@@ -1,4 +1,4 @@
-#include "core/presence.h"
+#include "contacts/presence.h"
 
 #include "base/clock_text.h"
 #include "base/limits.h"

@@ -1,4 +1,4 @@
-#include "extras/contact_transfer.h"
+#include "contacts/contact_transfer.h"
 
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"

@@ -1,4 +1,4 @@
-#include "core/announcement.h"
+#include "contacts/announcement.h"
 
 #include "base/limits.h"
 #include "protocol/send_datagram.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/Common.h"
-#include "core/contact_list.h"
+#include "contacts/contact_list.h"
 #include "protocol/drop_counts.h"
 #include "protocol/handlers.h"
 

@@ -1,4 +1,4 @@
-#include "core/own_state.h"
+#include "contacts/own_state.h"
 
 #include "base/limits.h"
 

@@ -4,7 +4,7 @@
 #include "base/Common.h"
 #include "base/main_window_view.h"
 #include "base/timers.h"
-#include "core/contact_list.h"
+#include "contacts/contact_list.h"
 #include "protocol/winsock.h"
 
 namespace nimb
