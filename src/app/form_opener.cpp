@@ -2,9 +2,7 @@
 
 #include "conference/frmConfInvitations.h"
 #include "conference/frmConference.h"
-#include "core/bring_back.h"
 #include "core/frmMain.h"
-#include "core/pictures.h"
 #include "dialogs/frmAbout.h"
 #include "dialogs/frmAddUser.h"
 #include "dialogs/frmInvite.h"
@@ -16,6 +14,8 @@
 #include "extras/frmTipOfTheDay.h"
 #include "private/frmPrivate.h"
 #include "private/rich_text_log.h"
+#include "widgets/bring_back.h"
+#include "widgets/pictures.h"
 
 namespace nimb
 {

@@ -8,11 +8,11 @@
 #include "base/picture_source.h"
 #include "base/system_information.h"
 #include "base/window_openers.h"
-#include "core/message_boxes.h"
 #include "dialogs/login.h"
 #include "dialogs/notify_slide.h"
 #include "extras/tip_of_the_day.h"
 #include "private/RTFSubClass.h"
+#include "widgets/message_boxes.h"
 
 #include <QPointer>
 

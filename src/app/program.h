@@ -5,7 +5,6 @@
 #include "app/messenger.h"
 #include "base/window_openers.h"
 #include "core/Tray.h"
-#include "core/plain_tool_tips.h"
 #include "platform/desktop_notifications.h"
 #include "platform/link_opener.h"
 #include "platform/name_resolver.h"
@@ -18,6 +17,7 @@
 #include "platform/system_info.h"
 #include "platform/udp_winsock.h"
 #include "platform/unix_signals.h"
+#include "widgets/plain_tool_tips.h"
 
 #include <optional>
 

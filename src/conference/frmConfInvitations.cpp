@@ -1,10 +1,10 @@
 #include "conference/frmConfInvitations.h"
 
-#include "core/bring_back.h"
-#include "core/form_layout.h"
-#include "core/keyed_selection.h"
-#include "core/picture_delegate.h"
-#include "core/pictures.h"
+#include "widgets/bring_back.h"
+#include "widgets/form_layout.h"
+#include "widgets/keyed_selection.h"
+#include "widgets/picture_delegate.h"
+#include "widgets/pictures.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>

@@ -2,8 +2,8 @@
 
 #include "base/remote_text.h"
 #include "conference/participants.h"
-#include "core/muted_colour.h"
 #include "private/rich_text_log.h"
+#include "widgets/muted_colour.h"
 
 #include <QBrush>
 

@@ -1,8 +1,8 @@
 #include "core/auto_reply_frame.h"
 
-#include "core/form_layout.h"
-#include "core/form_text.h"
-#include "core/plain_text_box.h"
+#include "widgets/form_layout.h"
+#include "widgets/form_text.h"
+#include "widgets/plain_text_box.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>

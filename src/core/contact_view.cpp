@@ -2,8 +2,8 @@
 
 #include "base/remote_text.h"
 #include "contacts/contact_list.h"
-#include "core/muted_colour.h"
-#include "core/picture_delegate.h"
+#include "widgets/muted_colour.h"
+#include "widgets/picture_delegate.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>

@@ -1,19 +1,19 @@
 #include "core/frmMain.h"
 
 #include "core/auto_reply_frame.h"
-#include "core/bring_back.h"
 #include "core/contact_commands.h"
 #include "core/contact_view.h"
-#include "core/elided_label.h"
-#include "core/file_dialogs.h"
-#include "core/form_layout.h"
-#include "core/form_text.h"
 #include "core/main_layout.h"
 #include "core/main_window.h"
 #include "core/personalized_state_frame.h"
-#include "core/pictures.h"
 #include "core/state_chooser.h"
-#include "core/twips.h"
+#include "widgets/bring_back.h"
+#include "widgets/elided_label.h"
+#include "widgets/file_dialogs.h"
+#include "widgets/form_layout.h"
+#include "widgets/form_text.h"
+#include "widgets/pictures.h"
+#include "widgets/twips.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -1,8 +1,8 @@
 #include "core/main_menus.h"
 
-#include "core/form_layout.h"
 #include "core/main_menu.h"
-#include "core/pictures.h"
+#include "widgets/form_layout.h"
+#include "widgets/pictures.h"
 
 #include <QMainWindow>
 #include <QMenuBar>

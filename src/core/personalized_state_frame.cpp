@@ -1,10 +1,10 @@
 #include "core/personalized_state_frame.h"
-#include "core/form_text.h"
+#include "widgets/form_text.h"
 
 #include "contacts/own_state.h"
-#include "core/form_layout.h"
-#include "core/form_text.h"
-#include "core/pictures.h"
+#include "widgets/form_layout.h"
+#include "widgets/form_text.h"
+#include "widgets/pictures.h"
 
 #include <QComboBox>
 #include <QGridLayout>

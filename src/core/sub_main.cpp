@@ -2,7 +2,7 @@
 
 #include "base/settings.h"
 #include "core/main_window.h"
-#include "core/window_flashing.h"
+#include "widgets/window_flashing.h"
 
 namespace nimb
 {

@@ -1,8 +1,8 @@
 #include "dialogs/frmAbout.h"
 
-#include "core/dialog_parts.h"
-#include "core/picture_label.h"
-#include "core/pictures.h"
+#include "widgets/dialog_parts.h"
+#include "widgets/picture_label.h"
+#include "widgets/pictures.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>

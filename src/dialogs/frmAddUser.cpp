@@ -1,8 +1,8 @@
 #include "dialogs/frmAddUser.h"
 
 #include "base/remote_text.h"
-#include "core/dialog_parts.h"
-#include "core/pictures.h"
+#include "widgets/dialog_parts.h"
+#include "widgets/pictures.h"
 
 #include <QGridLayout>
 #include <QGroupBox>

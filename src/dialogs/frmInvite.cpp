@@ -1,9 +1,9 @@
 #include "dialogs/frmInvite.h"
 
 #include "base/remote_text.h"
-#include "core/dialog_parts.h"
-#include "core/elided_label.h"
-#include "core/pictures.h"
+#include "widgets/dialog_parts.h"
+#include "widgets/elided_label.h"
+#include "widgets/pictures.h"
 
 #include <QEvent>
 #include <QGroupBox>

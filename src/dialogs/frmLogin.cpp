@@ -1,8 +1,8 @@
 #include "dialogs/frmLogin.h"
 
-#include "core/form_layout.h"
-#include "core/picture_label.h"
-#include "core/pictures.h"
+#include "widgets/form_layout.h"
+#include "widgets/picture_label.h"
+#include "widgets/pictures.h"
 
 #include <QGridLayout>
 #include <QLabel>

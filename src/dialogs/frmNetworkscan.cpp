@@ -1,7 +1,7 @@
 #include "dialogs/frmNetworkscan.h"
 
-#include "core/dialog_parts.h"
-#include "core/pictures.h"
+#include "widgets/dialog_parts.h"
+#include "widgets/pictures.h"
 
 #include <QGroupBox>
 #include <QVBoxLayout>

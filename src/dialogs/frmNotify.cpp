@@ -1,10 +1,10 @@
 #include "dialogs/frmNotify.h"
 
-#include "core/form_layout.h"
-#include "core/picture_delegate.h"
-#include "core/picture_label.h"
-#include "core/pictures.h"
-#include "core/twips.h"
+#include "widgets/form_layout.h"
+#include "widgets/picture_delegate.h"
+#include "widgets/picture_label.h"
+#include "widgets/pictures.h"
+#include "widgets/twips.h"
 
 #include <QGuiApplication>
 #include <QHBoxLayout>

@@ -1,13 +1,13 @@
 #include "dialogs/frmOptions.h"
 
-#include "core/avatar_image.h"
-#include "core/dialog_parts.h"
-#include "core/file_dialogs.h"
-#include "core/form_text.h"
 #include "core/log_font.h"
-#include "core/pictures.h"
 #include "dialogs/font_dialog.h"
-#include "private/avatar_picture.h"
+#include "widgets/avatar_image.h"
+#include "widgets/avatar_picture.h"
+#include "widgets/dialog_parts.h"
+#include "widgets/file_dialogs.h"
+#include "widgets/form_text.h"
+#include "widgets/pictures.h"
 
 #include <QCheckBox>
 #include <QClipboard>

@@ -1,7 +1,7 @@
 #include "dialogs/notify_slide.h"
 
 #include "base/limits.h"
-#include "core/twips.h"
+#include "widgets/twips.h"
 
 namespace nimb
 {

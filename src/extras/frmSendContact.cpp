@@ -1,11 +1,11 @@
 #include "extras/frmSendContact.h"
 
 #include "base/remote_text.h"
-#include "core/dialog_parts.h"
-#include "core/form_text.h"
-#include "core/muted_colour.h"
-#include "core/picture_delegate.h"
-#include "core/pictures.h"
+#include "widgets/dialog_parts.h"
+#include "widgets/form_text.h"
+#include "widgets/muted_colour.h"
+#include "widgets/picture_delegate.h"
+#include "widgets/pictures.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>

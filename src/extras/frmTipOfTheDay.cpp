@@ -1,9 +1,9 @@
 #include "extras/frmTipOfTheDay.h"
 
-#include "core/dialog_parts.h"
-#include "core/form_text.h"
-#include "core/picture_label.h"
-#include "core/pictures.h"
+#include "widgets/dialog_parts.h"
+#include "widgets/form_text.h"
+#include "widgets/picture_label.h"
+#include "widgets/pictures.h"
 
 #include <QCheckBox>
 #include <QFrame>

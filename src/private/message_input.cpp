@@ -2,7 +2,7 @@
 
 #include "base/limits.h"
 #include "base/remote_text.h"
-#include "core/form_text.h"
+#include "widgets/form_text.h"
 
 #include <QKeyEvent>
 

@@ -1,7 +1,7 @@
 // The box in which a message is typed.
 #pragma once
 
-#include "core/plain_text_box.h"
+#include "widgets/plain_text_box.h"
 
 namespace nimb
 {

@@ -2,10 +2,10 @@
 
 #include "base/limits.h"
 #include "core/log_font.h"
-#include "core/muted_colour.h"
 #include "private/accessible_log.h"
 #include "private/link_finder.h"
 #include "private/log_pictures.h"
+#include "widgets/muted_colour.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QAction>

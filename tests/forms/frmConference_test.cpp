@@ -1,6 +1,6 @@
 #include "real_windows.h"
 
-#include "private/avatar_picture.h"
+#include "widgets/avatar_picture.h"
 
 #include <QGroupBox>
 #include <QLineEdit>

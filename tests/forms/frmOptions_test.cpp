@@ -1,6 +1,6 @@
 #include "dialogs/font_dialog.h"
-#include "private/avatar_picture.h"
 #include "real_windows.h"
+#include "widgets/avatar_picture.h"
 
 #include <QCheckBox>
 #include <QClipboard>

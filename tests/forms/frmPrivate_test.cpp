@@ -1,8 +1,8 @@
 #include "real_windows.h"
 
-#include "private/avatar_picture.h"
 #include "private/mood_gauge.h"
 #include "private/rich_text_log.h"
+#include "widgets/avatar_picture.h"
 
 #include <QCheckBox>
 #include <QLineEdit>

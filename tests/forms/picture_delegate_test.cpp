@@ -1,5 +1,5 @@
-#include "core/picture_delegate.h"
-#include "core/pictures.h"
+#include "widgets/picture_delegate.h"
+#include "widgets/pictures.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
 // The program's pictures, in a process that finds no plugin but the one that draws windows.
-#include "core/picture_label.h"
-#include "core/pictures.h"
+#include "widgets/picture_label.h"
+#include "widgets/pictures.h"
 
 #include <QApplication>
 #include <QDirIterator>

@@ -1,9 +1,9 @@
 // Text of peers is shown as it is, wherever it is shown.
 #include "real_windows.h"
 
-#include "core/form_text.h"
-#include "core/message_boxes.h"
-#include "core/plain_tool_tips.h"
+#include "widgets/form_text.h"
+#include "widgets/message_boxes.h"
+#include "widgets/plain_tool_tips.h"
 
 #include <QHelpEvent>
 #include <QLineEdit>

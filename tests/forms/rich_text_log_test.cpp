@@ -1,12 +1,12 @@
 #include "private/rich_text_log.h"
 
 #include "base/limits.h"
-#include "core/muted_colour.h"
 #include "private/RTFSubClass.h"
 #include "private/emoticons.h"
 #include "private/log_pictures.h"
 #include "private/metafile.h"
 #include "recorders.h"
+#include "widgets/muted_colour.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
 // The picture that is to be the own avatar: any file is a picture of 50 by 50 pixels or a sentence.
-#include "core/avatar_image.h"
 #include "dialogs/picture_file.h"
 #include "require.h"
+#include "widgets/avatar_image.h"
 
 #include <QBuffer>
 #include <QGuiApplication>

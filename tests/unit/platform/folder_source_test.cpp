@@ -1,6 +1,6 @@
 #include "platform/folder_source.h"
 
-#include "core/avatar_image.h"
+#include "widgets/avatar_image.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "core/message_boxes.h"
+#include "widgets/message_boxes.h"
 
 #include <QApplication>
 

@@ -1,4 +1,4 @@
-#include "core/pictures.h"
+#include "widgets/pictures.h"
 
 #include <QApplication>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "core/file_dialogs.h"
+#include "widgets/file_dialogs.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>

@@ -1,7 +1,7 @@
 // The flat buttons between a log and its input box.
 #pragma once
 
-#include "core/pictures.h"
+#include "widgets/pictures.h"
 
 #include <QToolButton>
 

@@ -1,4 +1,4 @@
-#include "core/picture_label.h"
+#include "widgets/picture_label.h"
 
 #include <QEvent>
 

@@ -1,4 +1,4 @@
-#include "core/muted_colour.h"
+#include "widgets/muted_colour.h"
 
 #include <cmath>
 

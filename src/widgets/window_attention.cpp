@@ -1,4 +1,4 @@
-#include "core/window_attention.h"
+#include "widgets/window_attention.h"
 
 #include <QApplication>
 #include <QWidget>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/limits.h"
-#include "core/form_layout.h"
+#include "widgets/form_layout.h"
 
 #include <QDialog>
 #include <QDialogButtonBox>

@@ -1,4 +1,4 @@
-#include "core/window_flashing.h"
+#include "widgets/window_flashing.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "core/plain_tool_tips.h"
+#include "widgets/plain_tool_tips.h"
 
-#include "core/form_text.h"
+#include "widgets/form_text.h"
 
 #include <QHelpEvent>
 #include <QToolTip>

@@ -1,7 +1,7 @@
-#include "private/avatar_picture.h"
+#include "widgets/avatar_picture.h"
 
-#include "core/avatar_image.h"
-#include "core/pictures.h"
+#include "widgets/avatar_image.h"
+#include "widgets/pictures.h"
 
 #include <QPainter>
 

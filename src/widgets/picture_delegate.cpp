@@ -1,6 +1,6 @@
-#include "core/picture_delegate.h"
+#include "widgets/picture_delegate.h"
 
-#include "core/pictures.h"
+#include "widgets/pictures.h"
 
 namespace nimb
 {

@@ -1,7 +1,7 @@
 // Brings a window back into view.
 #pragma once
 
-#include "core/window_attention.h"
+#include "widgets/window_attention.h"
 
 #include <QWidget>
 

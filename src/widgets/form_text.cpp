@@ -1,4 +1,4 @@
-#include "core/form_text.h"
+#include "widgets/form_text.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>

@@ -1,4 +1,4 @@
-#include "core/plain_text_box.h"
+#include "widgets/plain_text_box.h"
 
 #include <QMimeData>
 

@@ -1,4 +1,4 @@
-#include "core/elided_label.h"
+#include "widgets/elided_label.h"
 
 #include <QPainter>
 #include <QStyle>
