@@ -12,8 +12,8 @@
 #include "dialogs/frmOptions.h"
 #include "extras/frmSendContact.h"
 #include "extras/frmTipOfTheDay.h"
+#include "log/rich_text_log.h"
 #include "private/frmPrivate.h"
-#include "private/rich_text_log.h"
 #include "widgets/bring_back.h"
 #include "widgets/pictures.h"
 

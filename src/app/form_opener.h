@@ -11,7 +11,7 @@
 #include "dialogs/login.h"
 #include "dialogs/notify_slide.h"
 #include "extras/tip_of_the_day.h"
-#include "private/RTFSubClass.h"
+#include "log/RTFSubClass.h"
 #include "widgets/message_boxes.h"
 
 #include <QPointer>

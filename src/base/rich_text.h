@@ -23,7 +23,7 @@ public:
     virtual void setSelFont(const LogFont &font) = 0;
     /// Replaces the selection by plain text; CR LF is a line break.
     virtual void setSelText(const QString &text) = 0;
-    /// Replaces the selection by a fragment of rich text, which may be a picture; see private/metafile.h for its form.
+    /// Replaces the selection by a fragment of rich text, which may be a picture; see log/metafile.h for its form.
     /// alternative: the text it stands for, for whoever copies or cannot see it, and for a fragment that is none.
     virtual void setSelRtf(const QString &fragment, const QString &alternative) = 0;
     virtual void clear() = 0;

@@ -1,6 +1,6 @@
 #include "conference/participants.h"
 
-#include "private/emoticon_tables.h"
+#include "log/emoticon_tables.h"
 
 #include <algorithm>
 

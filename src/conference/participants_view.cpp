@@ -2,7 +2,7 @@
 
 #include "base/remote_text.h"
 #include "conference/participants.h"
-#include "private/rich_text_log.h"
+#include "log/rich_text_log.h"
 #include "widgets/muted_colour.h"
 
 #include <QBrush>

@@ -1,6 +1,6 @@
 #include "dialogs/font_dialog.h"
 
-#include "core/log_font.h"
+#include "log/log_font.h"
 
 #include <QCheckBox>
 #include <QGroupBox>

@@ -4,9 +4,9 @@
 #include "base/clock_text.h"
 #include "base/limits.h"
 #include "base/remote_text.h"
-#include "private/emoticons.h"
+#include "log/emoticons.h"
+#include "log/message_text.h"
 #include "private/live_type.h"
-#include "private/message_text.h"
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
 

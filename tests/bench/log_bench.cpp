@@ -1,8 +1,8 @@
 // Feeds a log as a flood of messages does, while the event loop goes on: log_bench [lines]
 // Prints lines a second, the longest stall of the event loop and the memory of a thousand lines. Needs a screen or
 // QT_QPA_PLATFORM=offscreen.
-#include "private/emoticons.h"
-#include "private/rich_text_log.h"
+#include "log/emoticons.h"
+#include "log/rich_text_log.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,10 +1,10 @@
-#include "private/rich_text_log.h"
+#include "log/rich_text_log.h"
 
 #include "base/limits.h"
-#include "private/RTFSubClass.h"
-#include "private/emoticons.h"
-#include "private/log_pictures.h"
-#include "private/metafile.h"
+#include "log/RTFSubClass.h"
+#include "log/emoticons.h"
+#include "log/log_pictures.h"
+#include "log/metafile.h"
 #include "recorders.h"
 #include "widgets/muted_colour.h"
 

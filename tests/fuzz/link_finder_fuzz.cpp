@@ -1,6 +1,6 @@
 // Feeds any text to the search for links and stops the program when a promise of it is broken. The bytes are read as
 // UTF-8, as they come from a peer, and as UTF-16, which may hold half a surrogate pair.
-#include "private/link_finder.h"
+#include "log/link_finder.h"
 #include "require.h"
 
 #include <QByteArray>

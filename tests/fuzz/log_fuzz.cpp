@@ -2,9 +2,9 @@
 // holds. The first byte says whether the log finds links and when it writes what it gathered; zero bytes part messages.
 #include "base/limits.h"
 #include "base/remote_text.h"
-#include "private/emoticons.h"
-#include "private/log_pictures.h"
-#include "private/rich_text_log.h"
+#include "log/emoticons.h"
+#include "log/log_pictures.h"
+#include "log/rich_text_log.h"
 #include "require.h"
 
 #include <QApplication>

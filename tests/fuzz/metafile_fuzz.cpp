@@ -1,5 +1,5 @@
 // Feeds any bytes to the decoder of pictures, as a metafile and as a fragment of rich text.
-#include "private/metafile.h"
+#include "log/metafile.h"
 #include "require.h"
 
 #include <QByteArray>

@@ -5,7 +5,7 @@
 #include "controls.h"
 #include "core/frmMain.h"
 #include "dialog_recorders.h"
-#include "private/rich_text_log.h"
+#include "log/rich_text_log.h"
 #include "recorders.h"
 #include "simulated_network.h"
 #include "virtual_time.h"

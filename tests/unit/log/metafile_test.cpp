@@ -1,6 +1,6 @@
-#include "private/metafile.h"
+#include "log/metafile.h"
 
-#include "private/emoticon_tables.h"
+#include "log/emoticon_tables.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
-#include "private/accessible_log.h"
+#include "log/accessible_log.h"
 
-#include "private/log_pictures.h"
-#include "private/rich_text_log.h"
+#include "log/log_pictures.h"
+#include "log/rich_text_log.h"
 
 namespace nimb
 {

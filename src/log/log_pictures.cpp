@@ -1,6 +1,6 @@
-#include "private/log_pictures.h"
+#include "log/log_pictures.h"
 
-#include "private/metafile.h"
+#include "log/metafile.h"
 
 #include <QPainter>
 #include <QTextBlock>

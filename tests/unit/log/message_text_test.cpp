@@ -1,4 +1,4 @@
-#include "private/message_text.h"
+#include "log/message_text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "private/emoticon_tables.h"
+#include "log/emoticon_tables.h"
 
 #include <cstdint>
 #include <string_view>

@@ -1,4 +1,4 @@
-#include "private/message_input.h"
+#include "log/message_input.h"
 
 #include "base/limits.h"
 #include "base/remote_text.h"

@@ -1,10 +1,10 @@
-#include "private/rich_text_log.h"
+#include "log/rich_text_log.h"
 
 #include "base/limits.h"
-#include "core/log_font.h"
-#include "private/accessible_log.h"
-#include "private/link_finder.h"
-#include "private/log_pictures.h"
+#include "log/accessible_log.h"
+#include "log/link_finder.h"
+#include "log/log_font.h"
+#include "log/log_pictures.h"
 #include "widgets/muted_colour.h"
 
 #include <QAbstractTextDocumentLayout>

@@ -1,7 +1,7 @@
-#include "private/emoticons.h"
+#include "log/emoticons.h"
 
 #include "base/limits.h"
-#include "private/emoticon_tables.h"
+#include "log/emoticon_tables.h"
 #include "recorders.h"
 
 #include <gmock/gmock.h>

@@ -1,8 +1,8 @@
-#include "private/emoticons.h"
+#include "log/emoticons.h"
 
 #include "base/remote_text.h"
-#include "private/emoticon_tables.h"
-#include "private/metafile.h"
+#include "log/emoticon_tables.h"
+#include "log/metafile.h"
 
 #include <algorithm>
 #include <optional>

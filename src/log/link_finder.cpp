@@ -1,4 +1,4 @@
-#include "private/link_finder.h"
+#include "log/link_finder.h"
 
 #include "base/remote_text.h"
 

@@ -1,7 +1,7 @@
-#include "private/RTFSubClass.h"
+#include "log/RTFSubClass.h"
 
-#include "private/link_finder.h"
-#include "private/rich_text_log.h"
+#include "log/link_finder.h"
+#include "log/rich_text_log.h"
 
 #include <algorithm>
 

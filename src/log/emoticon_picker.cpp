@@ -1,8 +1,8 @@
-#include "private/emoticon_picker.h"
+#include "log/emoticon_picker.h"
 
-#include "private/emoticon_tables.h"
-#include "private/log_pictures.h"
-#include "private/metafile.h"
+#include "log/emoticon_tables.h"
+#include "log/log_pictures.h"
+#include "log/metafile.h"
 
 #include <QPainter>
 #include <QPixmap>
