@@ -2,7 +2,6 @@
 
 #include "conference/frmConfInvitations.h"
 #include "conference/frmConference.h"
-#include "core/frmMain.h"
 #include "dialogs/frmAbout.h"
 #include "dialogs/frmAddUser.h"
 #include "dialogs/frmInvite.h"
@@ -13,6 +12,7 @@
 #include "extras/frmSendContact.h"
 #include "extras/frmTipOfTheDay.h"
 #include "log/rich_text_log.h"
+#include "main_window/frmMain.h"
 #include "private/frmPrivate.h"
 #include "widgets/bring_back.h"
 #include "widgets/pictures.h"

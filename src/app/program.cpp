@@ -1,8 +1,8 @@
 #include "app/program.h"
 
 #include "base/limits.h"
-#include "core/frmMain.h"
-#include "core/sub_main.h"
+#include "main_window/frmMain.h"
+#include "main_window/sub_main.h"
 #include "platform/own_identity.h"
 #include "platform/program_files.h"
 

@@ -4,7 +4,7 @@
 #include "app/form_opener.h"
 #include "app/messenger.h"
 #include "base/window_openers.h"
-#include "core/Tray.h"
+#include "main_window/Tray.h"
 #include "platform/desktop_notifications.h"
 #include "platform/link_opener.h"
 #include "platform/name_resolver.h"

@@ -1,6 +1,6 @@
 #include "real_windows.h"
 
-#include "core/contact_view.h"
+#include "main_window/contact_view.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>

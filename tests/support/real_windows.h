@@ -3,9 +3,9 @@
 
 #include "app/form_opener.h"
 #include "controls.h"
-#include "core/frmMain.h"
 #include "dialog_recorders.h"
 #include "log/rich_text_log.h"
+#include "main_window/frmMain.h"
 #include "recorders.h"
 #include "simulated_network.h"
 #include "virtual_time.h"

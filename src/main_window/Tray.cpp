@@ -1,4 +1,4 @@
-#include "core/Tray.h"
+#include "main_window/Tray.h"
 
 #include "base/remote_text.h"
 

@@ -1,7 +1,7 @@
-#include "core/sub_main.h"
+#include "main_window/sub_main.h"
 
 #include "base/settings.h"
-#include "core/main_window.h"
+#include "main_window/main_window.h"
 #include "widgets/window_flashing.h"
 
 namespace nimb

@@ -9,7 +9,7 @@
 #include "contacts/announcement.h"
 #include "contacts/contact_list.h"
 #include "contacts/own_state.h"
-#include "core/port_watch.h"
+#include "main_window/port_watch.h"
 
 #include <QCoreApplication>
 

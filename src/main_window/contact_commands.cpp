@@ -1,4 +1,4 @@
-#include "core/contact_commands.h"
+#include "main_window/contact_commands.h"
 
 #include "base/buzz.h"
 #include "base/remote_text.h"

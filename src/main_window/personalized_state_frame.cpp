@@ -1,4 +1,4 @@
-#include "core/personalized_state_frame.h"
+#include "main_window/personalized_state_frame.h"
 #include "widgets/form_text.h"
 
 #include "contacts/own_state.h"

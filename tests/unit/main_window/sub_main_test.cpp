@@ -1,4 +1,4 @@
-#include "core/sub_main.h"
+#include "main_window/sub_main.h"
 #include "recorders.h"
 
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
-#include "core/main_menus.h"
+#include "main_window/main_menus.h"
 
-#include "core/main_menu.h"
+#include "main_window/main_menu.h"
 #include "widgets/form_layout.h"
 #include "widgets/pictures.h"
 

@@ -1,4 +1,4 @@
-#include "core/main_layout.h"
+#include "main_window/main_layout.h"
 
 #include <gtest/gtest.h>
 

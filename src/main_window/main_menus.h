@@ -1,7 +1,7 @@
 // The menu bar and the context menu of the main window, built from their tables.
 #pragma once
 
-#include "core/contact_commands.h"
+#include "main_window/contact_commands.h"
 
 class QAction;
 class QMainWindow;

@@ -1,4 +1,4 @@
-#include "core/auto_reply_frame.h"
+#include "main_window/auto_reply_frame.h"
 
 #include "widgets/form_layout.h"
 #include "widgets/form_text.h"

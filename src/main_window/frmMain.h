@@ -4,7 +4,7 @@
 #include "base/main_window_view.h"
 #include "base/unload_mode.h"
 #include "base/window_openers.h"
-#include "core/main_menus.h"
+#include "main_window/main_menus.h"
 
 #include <QMainWindow>
 

@@ -1,4 +1,4 @@
-#include "core/port_watch.h"
+#include "main_window/port_watch.h"
 
 #include "base/limits.h"
 

@@ -1,4 +1,4 @@
-#include "core/state_chooser.h"
+#include "main_window/state_chooser.h"
 
 #include <QKeyEvent>
 #include <QWheelEvent>

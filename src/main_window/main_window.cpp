@@ -1,4 +1,4 @@
-#include "core/main_window.h"
+#include "main_window/main_window.h"
 
 #include "base/remote_text.h"
 #include "base/settings.h"

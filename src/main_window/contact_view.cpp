@@ -1,4 +1,4 @@
-#include "core/contact_view.h"
+#include "main_window/contact_view.h"
 
 #include "base/remote_text.h"
 #include "contacts/contact_list.h"
