@@ -3,16 +3,16 @@
 #include "conference/frmConfInvitations.h"
 #include "conference/frmConference.h"
 #include "dialogs/frmAbout.h"
-#include "dialogs/frmAddUser.h"
-#include "dialogs/frmInvite.h"
 #include "dialogs/frmLogin.h"
-#include "dialogs/frmNetworkscan.h"
 #include "dialogs/frmNotify.h"
 #include "dialogs/frmOptions.h"
-#include "extras/frmSendContact.h"
 #include "extras/frmTipOfTheDay.h"
 #include "log/rich_text_log.h"
 #include "main_window/frmMain.h"
+#include "people/frmAddUser.h"
+#include "people/frmInvite.h"
+#include "people/frmNetworkscan.h"
+#include "people/frmSendContact.h"
 #include "private/frmPrivate.h"
 #include "widgets/bring_back.h"
 #include "widgets/pictures.h"
@@ -122,7 +122,7 @@ void FormOpener::mnuNetworkscan()
 
 void FormOpener::mnuAddUser()
 {
-    const AddUserRules rules(m_services.common, m_engine->contacts(), m_services.prompts);
+    const AddUser rules(m_services.common, m_engine->contacts(), m_services.prompts);
     open(new frmAddUser(rules, m_main.get()));
 }
 

@@ -1,4 +1,4 @@
-#include "dialogs/frmAddUser.h"
+#include "people/frmAddUser.h"
 
 #include "controls.h"
 #include "dialog_recorders.h"
@@ -46,7 +46,7 @@ protected:
     Common common;
     ContactList contacts;
     InterruptedPrompts prompts;
-    AddUserRules rules{common, contacts, prompts};
+    AddUser rules{common, contacts, prompts};
     QWidget parent;
     QPointer<frmAddUser> dialog;
 };

@@ -1,4 +1,4 @@
-#include "dialogs/frmInvite.h"
+#include "people/frmInvite.h"
 
 #include "controls.h"
 #include "dialog_recorders.h"

@@ -1,4 +1,4 @@
-#include "dialogs/frmNetworkscan.h"
+#include "people/frmNetworkscan.h"
 
 #include "controls.h"
 #include "dialog_recorders.h"

@@ -1,4 +1,4 @@
-#include "extras/frmSendContact.h"
+#include "people/frmSendContact.h"
 
 #include "controls.h"
 #include "keyboard.h"

@@ -4,7 +4,7 @@
 #include "base/name_resolver.h"
 #include "base/net_send.h"
 #include "base/system_information.h"
-#include "dialogs/network_scan.h"
+#include "people/network_scan.h"
 #include "recorders.h"
 #include "simulated_network.h"
 #include "virtual_time.h"

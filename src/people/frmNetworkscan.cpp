@@ -1,4 +1,4 @@
-#include "dialogs/frmNetworkscan.h"
+#include "people/frmNetworkscan.h"
 
 #include "widgets/dialog_parts.h"
 #include "widgets/pictures.h"

@@ -1,4 +1,4 @@
-#include "dialogs/add_user_rules.h"
+#include "people/add_user.h"
 
 #include "recorders.h"
 
@@ -12,10 +12,10 @@ namespace
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class AddUserRulesTest : public testing::Test
+class AddUserTest : public testing::Test
 {
 protected:
-    AddUserRulesTest()
+    AddUserTest()
     {
         common.ownIP = QStringLiteral("192.168.0.5");
         common.ownHostName = QStringLiteral("HERE");
@@ -41,10 +41,10 @@ protected:
     Common common;
     ContactList contacts;
     RecorderPrompts prompts;
-    AddUserRules rules{common, contacts, prompts};
+    AddUser rules{common, contacts, prompts};
 };
 
-TEST_F(AddUserRulesTest, AddsARowThatIsNotYetKnown)
+TEST_F(AddUserTest, AddsARowThatIsNotYetKnown)
 {
     EXPECT_TRUE(add("Ben the Builder", "PC-BEN", "192.168.0.8"));
     EXPECT_THAT(prompts.told, IsEmpty());
@@ -60,7 +60,7 @@ TEST_F(AddUserRulesTest, AddsARowThatIsNotYetKnown)
     EXPECT_EQ(cell("192.168.0.8", 6), QString());
 }
 
-TEST_F(AddUserRulesTest, TheSortKeyKeepsTheTypedCaseUntilTheFirstAnnouncement)
+TEST_F(AddUserTest, TheSortKeyKeepsTheTypedCaseUntilTheFirstAnnouncement)
 {
     EXPECT_TRUE(add("ben", "PC-BEN", "192.168.0.8"));
     EXPECT_EQ(cell("192.168.0.8", 3), QStringLiteral("B_ben"));
@@ -68,7 +68,7 @@ TEST_F(AddUserRulesTest, TheSortKeyKeepsTheTypedCaseUntilTheFirstAnnouncement)
     EXPECT_EQ(cell("192.168.0.8", 3), QStringLiteral("B_BEN"));
 }
 
-TEST_F(AddUserRulesTest, AnAddressInTheListIsRefused)
+TEST_F(AddUserTest, AnAddressInTheListIsRefused)
 {
     EXPECT_FALSE(add("Ben", "PC-BEN", "192.168.0.7"));
     EXPECT_THAT(prompts.told, ElementsAre("NIMB-Chat: IP Address already used by another user"));
@@ -76,19 +76,19 @@ TEST_F(AddUserRulesTest, AnAddressInTheListIsRefused)
     EXPECT_EQ(cell("192.168.0.7", 0), QStringLiteral("Ann"));
 }
 
-TEST_F(AddUserRulesTest, AUsedAddressIsReportedBeforeAnEmptyField)
+TEST_F(AddUserTest, AUsedAddressIsReportedBeforeAnEmptyField)
 {
     EXPECT_FALSE(add("", "", "192.168.0.7"));
     EXPECT_THAT(prompts.told, ElementsAre("NIMB-Chat: IP Address already used by another user"));
 }
 
-TEST_F(AddUserRulesTest, AUsedAddressIsReportedBeforeTheOwnHostName)
+TEST_F(AddUserTest, AUsedAddressIsReportedBeforeTheOwnHostName)
 {
     EXPECT_FALSE(add("Ben", "HERE", "192.168.0.7"));
     EXPECT_THAT(prompts.told, ElementsAre("NIMB-Chat: IP Address already used by another user"));
 }
 
-TEST_F(AddUserRulesTest, EveryEmptyFieldIsRefused)
+TEST_F(AddUserTest, EveryEmptyFieldIsRefused)
 {
     EXPECT_FALSE(add("", "PC-BEN", "192.168.0.8"));
     EXPECT_FALSE(add("Ben", "", "192.168.0.8"));
@@ -98,13 +98,13 @@ TEST_F(AddUserRulesTest, EveryEmptyFieldIsRefused)
     EXPECT_EQ(contacts.rowCount(), 1);
 }
 
-TEST_F(AddUserRulesTest, AnEmptyFieldIsReportedBeforeTheOwnIdentity)
+TEST_F(AddUserTest, AnEmptyFieldIsReportedBeforeTheOwnIdentity)
 {
     EXPECT_FALSE(add("", "HERE", "192.168.0.5"));
     EXPECT_THAT(prompts.told, ElementsAre("NIMB-Chat: Please fill all the fields"));
 }
 
-TEST_F(AddUserRulesTest, TheOwnHostNameOrAddressIsRefused)
+TEST_F(AddUserTest, TheOwnHostNameOrAddressIsRefused)
 {
     EXPECT_FALSE(add("Me", "HERE", "192.168.0.8"));
     EXPECT_FALSE(add("Me", "PC-ME", "192.168.0.5"));
@@ -112,18 +112,18 @@ TEST_F(AddUserRulesTest, TheOwnHostNameOrAddressIsRefused)
     EXPECT_EQ(contacts.rowCount(), 1);
 }
 
-TEST_F(AddUserRulesTest, TheOwnHostNameInAnotherCaseIsAnotherHost)
+TEST_F(AddUserTest, TheOwnHostNameInAnotherCaseIsAnotherHost)
 {
     EXPECT_TRUE(add("Me", "here", "192.168.0.8"));
 }
 
-TEST_F(AddUserRulesTest, TheOwnAddressWithLeadingZerosIsNotRecognised)
+TEST_F(AddUserTest, TheOwnAddressWithLeadingZerosIsNotRecognised)
 {
     EXPECT_TRUE(add("Me", "PC-ME", "192.168.000.005"));
     EXPECT_TRUE(contacts.isContact(QStringLiteral("192.168.000.005")));
 }
 
-TEST_F(AddUserRulesTest, WhatIsNoDottedAddressIsAccepted)
+TEST_F(AddUserTest, WhatIsNoDottedAddressIsAccepted)
 {
     EXPECT_TRUE(add("Ben", "PC-BEN", "somewhere"));
     EXPECT_TRUE(add("Cleo", "PC-CLEO", "300.1.2.3"));
@@ -131,7 +131,7 @@ TEST_F(AddUserRulesTest, WhatIsNoDottedAddressIsAccepted)
     EXPECT_EQ(contacts.addresses(), QStringList({"192.168.0.7", "somewhere", "300.1.2.3"}));
 }
 
-TEST_F(AddUserRulesTest, TheAddressThatEndsTheStoredListIsRefusedForItWouldBeLost)
+TEST_F(AddUserTest, TheAddressThatEndsTheStoredListIsRefusedForItWouldBeLost)
 {
     EXPECT_FALSE(add("Everybody", "ALL", "255.255.255.255"));
     EXPECT_THAT(prompts.told,

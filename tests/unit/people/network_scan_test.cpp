@@ -1,4 +1,4 @@
-#include "dialogs/network_scan.h"
+#include "people/network_scan.h"
 
 #include "copy.h"
 #include "dialog_recorders.h"

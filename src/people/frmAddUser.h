@@ -1,7 +1,7 @@
 // The dialog that adds a contact by hand.
 #pragma once
 
-#include "dialogs/add_user_rules.h"
+#include "people/add_user.h"
 
 #include <QDialog>
 
@@ -17,14 +17,14 @@ class frmAddUser : public QDialog
     Q_OBJECT
 
 public:
-    frmAddUser(const AddUserRules &rules, QWidget *parent);
+    frmAddUser(const AddUser &rules, QWidget *parent);
 
 private:
     void buildControls();
     void connectControls();
     void CmdOK_Click();
 
-    AddUserRules m_rules;
+    AddUser m_rules;
     QLineEdit *nicktxt = nullptr;
     QLineEdit *hostname = nullptr;
     QLineEdit *ipaddress = nullptr;

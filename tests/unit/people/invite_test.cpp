@@ -1,4 +1,4 @@
-#include "dialogs/invite.h"
+#include "people/invite.h"
 
 #include "dialog_recorders.h"
 #include "print_qt.h"

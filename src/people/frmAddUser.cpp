@@ -1,4 +1,4 @@
-#include "dialogs/frmAddUser.h"
+#include "people/frmAddUser.h"
 
 #include "base/remote_text.h"
 #include "widgets/dialog_parts.h"
@@ -24,7 +24,7 @@ QString typed(const QLineEdit &box)
 
 } // namespace
 
-frmAddUser::frmAddUser(const AddUserRules &rules, QWidget *parent) : QDialog(parent), m_rules(rules)
+frmAddUser::frmAddUser(const AddUser &rules, QWidget *parent) : QDialog(parent), m_rules(rules)
 {
     setObjectName(QStringLiteral("frmAddUser"));
     setWindowTitle(tr("Add offline user"));

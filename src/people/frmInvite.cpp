@@ -1,4 +1,4 @@
-#include "dialogs/frmInvite.h"
+#include "people/frmInvite.h"
 
 #include "base/remote_text.h"
 #include "widgets/dialog_parts.h"

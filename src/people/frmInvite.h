@@ -1,7 +1,7 @@
 // The dialog that invites somebody by a pop-up text on his computer.
 #pragma once
 
-#include "dialogs/invite.h"
+#include "people/invite.h"
 
 #include <QDialog>
 

@@ -1,4 +1,4 @@
-#include "dialogs/invite.h"
+#include "people/invite.h"
 
 namespace nimb
 {

@@ -1,9 +1,9 @@
-#include "dialogs/add_user_rules.h"
+#include "people/add_user.h"
 
 namespace nimb
 {
 
-QString AddUserRules::objection(const QString &nickname, const QString &hostname, const QString &ipaddress) const
+QString AddUser::objection(const QString &nickname, const QString &hostname, const QString &ipaddress) const
 {
     if (m_contacts.isContact(ipaddress))
         return tr("IP Address already used by another user");
@@ -16,7 +16,7 @@ QString AddUserRules::objection(const QString &nickname, const QString &hostname
     return {};
 }
 
-bool AddUserRules::CmdOK_Click(const QString &nickname, const QString &hostname, const QString &ipaddress)
+bool AddUser::CmdOK_Click(const QString &nickname, const QString &hostname, const QString &ipaddress)
 {
     if (const QString reason = objection(nickname, hostname, ipaddress); !reason.isEmpty()) {
         m_prompts.tell(reason, tr("NIMB-Chat"));

@@ -1,4 +1,4 @@
-#include "extras/frmSendContact.h"
+#include "people/frmSendContact.h"
 
 #include "base/remote_text.h"
 #include "widgets/dialog_parts.h"

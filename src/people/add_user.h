@@ -11,12 +11,12 @@ namespace nimb
 {
 
 /// The engine half of frmAddUser.
-class AddUserRules
+class AddUser
 {
-    Q_DECLARE_TR_FUNCTIONS(AddUserRules)
+    Q_DECLARE_TR_FUNCTIONS(AddUser)
 
 public:
-    AddUserRules(const Common &common, ContactList &contacts, Prompts &prompts)
+    AddUser(const Common &common, ContactList &contacts, Prompts &prompts)
         : m_common(common), m_contacts(contacts), m_prompts(prompts)
     {
     }

@@ -1,7 +1,7 @@
 // The network scan's dialog.
 #pragma once
 
-#include "dialogs/network_scan.h"
+#include "people/network_scan.h"
 
 #include <QDialog>
 
