@@ -2,11 +2,8 @@
 
 #include "conference/frmConfInvitations.h"
 #include "conference/frmConference.h"
-#include "dialogs/frmAbout.h"
-#include "dialogs/frmLogin.h"
 #include "dialogs/frmNotify.h"
 #include "dialogs/frmOptions.h"
-#include "extras/frmTipOfTheDay.h"
 #include "log/rich_text_log.h"
 #include "main_window/frmMain.h"
 #include "people/frmAddUser.h"
@@ -14,6 +11,9 @@
 #include "people/frmNetworkscan.h"
 #include "people/frmSendContact.h"
 #include "private/frmPrivate.h"
+#include "welcome/frmAbout.h"
+#include "welcome/frmLogin.h"
+#include "welcome/frmTipOfTheDay.h"
 #include "widgets/bring_back.h"
 #include "widgets/pictures.h"
 

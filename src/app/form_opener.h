@@ -8,10 +8,10 @@
 #include "base/picture_source.h"
 #include "base/system_information.h"
 #include "base/window_openers.h"
-#include "dialogs/login.h"
 #include "dialogs/notify_slide.h"
-#include "extras/tip_of_the_day.h"
 #include "log/RTFSubClass.h"
+#include "welcome/login.h"
+#include "welcome/tip_of_the_day.h"
 #include "widgets/message_boxes.h"
 
 #include <QPointer>

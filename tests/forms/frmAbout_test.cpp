@@ -1,4 +1,4 @@
-#include "dialogs/frmAbout.h"
+#include "welcome/frmAbout.h"
 
 #include "controls.h"
 #include "dialog_recorders.h"

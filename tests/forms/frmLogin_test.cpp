@@ -1,6 +1,6 @@
-#include "dialogs/frmLogin.h"
 #include "recorders.h"
 #include "simulated_network.h"
+#include "welcome/frmLogin.h"
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include "extras/frmTipOfTheDay.h"
+#include "welcome/frmTipOfTheDay.h"
 
 #include "controls.h"
 #include "keyboard.h"

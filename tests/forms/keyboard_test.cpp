@@ -2,7 +2,7 @@
 #include "keyboard.h"
 #include "real_windows.h"
 
-#include "dialogs/frmLogin.h"
+#include "welcome/frmLogin.h"
 
 #include <QMenu>
 #include <QMenuBar>

@@ -1,6 +1,6 @@
 // Takes a picture of every window with realistic content: window_gallery FOLDER light|dark
-#include "dialogs/frmLogin.h"
 #include "real_windows.h"
+#include "welcome/frmLogin.h"
 
 #include <QComboBox>
 #include <QDir>

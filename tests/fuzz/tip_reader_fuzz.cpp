@@ -1,7 +1,7 @@
 // Feeds any bytes to the reader of tips, which shows them whole and in pieces. The first byte says how items and lines
 // take turns.
-#include "extras/tip_reader.h"
 #include "require.h"
+#include "welcome/tip_reader.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,4 +1,4 @@
-#include "dialogs/login.h"
+#include "welcome/login.h"
 
 #include "base/settings.h"
 

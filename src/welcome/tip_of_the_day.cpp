@@ -1,4 +1,4 @@
-#include "extras/tip_of_the_day.h"
+#include "welcome/tip_of_the_day.h"
 
 #include "base/remote_text.h"
 #include "base/settings.h"

@@ -1,4 +1,4 @@
-#include "extras/tip_reader.h"
+#include "welcome/tip_reader.h"
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include "extras/frmTipOfTheDay.h"
+#include "welcome/frmTipOfTheDay.h"
 
 #include "widgets/dialog_parts.h"
 #include "widgets/form_text.h"

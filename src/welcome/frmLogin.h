@@ -1,7 +1,7 @@
 // The login dialog.
 #pragma once
 
-#include "dialogs/login.h"
+#include "welcome/login.h"
 
 #include <QDialog>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/settings_store.h"
-#include "extras/tip_reader.h"
+#include "welcome/tip_reader.h"
 
 #include <QCoreApplication>
 

@@ -1,4 +1,4 @@
-#include "dialogs/frmLogin.h"
+#include "welcome/frmLogin.h"
 
 #include "widgets/form_layout.h"
 #include "widgets/picture_label.h"

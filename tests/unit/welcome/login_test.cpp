@@ -1,6 +1,6 @@
-#include "dialogs/login.h"
 #include "recorders.h"
 #include "simulated_network.h"
+#include "welcome/login.h"
 
 #include <gmock/gmock.h>
 

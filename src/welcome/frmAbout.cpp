@@ -1,4 +1,4 @@
-#include "dialogs/frmAbout.h"
+#include "welcome/frmAbout.h"
 
 #include "widgets/dialog_parts.h"
 #include "widgets/picture_label.h"

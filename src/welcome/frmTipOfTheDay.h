@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/prompts.h"
-#include "extras/tip_of_the_day.h"
+#include "welcome/tip_of_the_day.h"
 
 #include <QDialog>
 
