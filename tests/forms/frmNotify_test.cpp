@@ -1,4 +1,4 @@
-#include "dialogs/frmNotify.h"
+#include "notify/frmNotify.h"
 #include "real_windows.h"
 
 #include <QPushButton>

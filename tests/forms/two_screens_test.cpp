@@ -1,5 +1,5 @@
 // One screen above the other: the way of the pop-up ends where the other screen begins.
-#include "dialogs/frmNotify.h"
+#include "notify/frmNotify.h"
 #include "virtual_time.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "dialogs/notify_slide.h"
+#include "notify/notify_slide.h"
 
 #include "base/limits.h"
 #include "widgets/twips.h"

@@ -1,7 +1,7 @@
 // The notification pop-up: a list of what contacts did.
 #pragma once
 
-#include "dialogs/notify_slide.h"
+#include "notify/notify_slide.h"
 
 #include <QFrame>
 

@@ -1,6 +1,6 @@
 #include "copy.h"
 
-#include "dialogs/notify_slide.h"
+#include "notify/notify_slide.h"
 
 namespace nimb::test
 {

@@ -1,4 +1,4 @@
-#include "dialogs/frmNotify.h"
+#include "notify/frmNotify.h"
 
 #include "widgets/form_layout.h"
 #include "widgets/picture_delegate.h"
