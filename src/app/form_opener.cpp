@@ -2,10 +2,10 @@
 
 #include "conference/frmConfInvitations.h"
 #include "conference/frmConference.h"
-#include "dialogs/frmOptions.h"
 #include "log/rich_text_log.h"
 #include "main_window/frmMain.h"
 #include "notify/frmNotify.h"
+#include "options/frmOptions.h"
 #include "people/frmAddUser.h"
 #include "people/frmInvite.h"
 #include "people/frmNetworkscan.h"

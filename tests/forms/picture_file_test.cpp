@@ -1,5 +1,5 @@
 #include "base/limits.h"
-#include "dialogs/picture_file.h"
+#include "options/picture_file.h"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
 // The picture that is to be the own avatar: any file is a picture of 50 by 50 pixels or a sentence.
-#include "dialogs/picture_file.h"
+#include "options/picture_file.h"
 #include "require.h"
 #include "widgets/avatar_image.h"
 

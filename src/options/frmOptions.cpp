@@ -1,7 +1,7 @@
-#include "dialogs/frmOptions.h"
+#include "options/frmOptions.h"
 
-#include "dialogs/font_dialog.h"
 #include "log/log_font.h"
+#include "options/font_dialog.h"
 #include "widgets/avatar_image.h"
 #include "widgets/avatar_picture.h"
 #include "widgets/dialog_parts.h"

@@ -1,6 +1,6 @@
 #include "copy.h"
 
-#include "dialogs/option_values.h"
+#include "options/options.h"
 
 namespace nimb::test
 {

@@ -1,4 +1,4 @@
-#include "dialogs/option_values.h"
+#include "options/options.h"
 
 #include "base/avatar.h"
 

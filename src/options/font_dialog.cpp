@@ -1,4 +1,4 @@
-#include "dialogs/font_dialog.h"
+#include "options/font_dialog.h"
 
 #include "log/log_font.h"
 

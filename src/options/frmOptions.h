@@ -2,8 +2,8 @@
 #pragma once
 
 #include "base/prompts.h"
-#include "dialogs/option_values.h"
-#include "dialogs/picture_file.h"
+#include "options/options.h"
+#include "options/picture_file.h"
 
 #include <QDialog>
 

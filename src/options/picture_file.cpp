@@ -1,4 +1,4 @@
-#include "dialogs/picture_file.h"
+#include "options/picture_file.h"
 
 #include "base/limits.h"
 
