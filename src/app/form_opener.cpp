@@ -10,7 +10,7 @@
 #include "people/frmInvite.h"
 #include "people/frmNetworkscan.h"
 #include "people/frmSendContact.h"
-#include "private/frmPrivate.h"
+#include "private_chat/frmPrivate.h"
 #include "welcome/frmAbout.h"
 #include "welcome/frmLogin.h"
 #include "welcome/frmTipOfTheDay.h"

@@ -6,8 +6,8 @@
 #include "contacts/shared_contacts.h"
 #include "main_window/contact_commands.h"
 #include "main_window/main_window.h"
-#include "private/peer_features.h"
-#include "private/private_windows.h"
+#include "private_chat/peer_features.h"
+#include "private_chat/private_windows.h"
 #include "protocol/receive_dispatcher.h"
 
 namespace nimb

@@ -1,7 +1,7 @@
 #include "real_windows.h"
 
 #include "log/rich_text_log.h"
-#include "private/mood_gauge.h"
+#include "private_chat/mood_gauge.h"
 #include "widgets/avatar_picture.h"
 
 #include <QCheckBox>

@@ -10,7 +10,7 @@
 #include "base/sound.h"
 #include "base/window_openers.h"
 #include "conference/invitations.h"
-#include "private/private_chat_view.h"
+#include "private_chat/private_chat_view.h"
 #include "protocol/drop_counts.h"
 
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "private/private_chat.h"
+#include "private_chat/private_chat.h"
 
 #include "base/buzz.h"
 #include "base/clock_text.h"
@@ -6,7 +6,7 @@
 #include "base/remote_text.h"
 #include "log/emoticons.h"
 #include "log/message_text.h"
-#include "private/live_type.h"
+#include "private_chat/live_type.h"
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
 

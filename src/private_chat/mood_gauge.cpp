@@ -1,4 +1,4 @@
-#include "private/mood_gauge.h"
+#include "private_chat/mood_gauge.h"
 
 #include <QLinearGradient>
 #include <QMouseEvent>

@@ -6,8 +6,8 @@
 #include "base/sound.h"
 #include "base/timers.h"
 #include "base/unload_mode.h"
-#include "private/private_chat_view.h"
-#include "private/typing_notice.h"
+#include "private_chat/private_chat_view.h"
+#include "private_chat/typing_notice.h"
 #include "protocol/winsock.h"
 
 #include <QCoreApplication>

@@ -4,7 +4,7 @@
 #include "base/attention.h"
 #include "base/rich_text.h"
 #include "base/view_ptr.h"
-#include "private/mood.h"
+#include "private_chat/mood.h"
 
 #include <QByteArray>
 #include <QString>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/unload_mode.h"
-#include "private/private_chat_view.h"
+#include "private_chat/private_chat_view.h"
 
 #include <QWidget>
 

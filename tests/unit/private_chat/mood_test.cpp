@@ -1,4 +1,4 @@
-#include "private/mood.h"
+#include "private_chat/mood.h"
 
 #include "print_qt.h"
 

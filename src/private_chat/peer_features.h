@@ -7,7 +7,7 @@
 #include "contacts/avatar_store.h"
 #include "contacts/contact_list.h"
 #include "contacts/own_avatar.h"
-#include "private/private_windows.h"
+#include "private_chat/private_windows.h"
 #include "protocol/drop_counts.h"
 #include "protocol/handlers.h"
 

@@ -4,7 +4,7 @@
 #include "base/window_openers.h"
 #include "contacts/contact_list.h"
 #include "contacts/presence.h"
-#include "private/private_chat.h"
+#include "private_chat/private_chat.h"
 #include "protocol/handlers.h"
 
 #include <vector>

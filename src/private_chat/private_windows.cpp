@@ -1,4 +1,4 @@
-#include "private/private_windows.h"
+#include "private_chat/private_windows.h"
 
 #include "base/remote_text.h"
 

@@ -1,6 +1,6 @@
-#include "private/live_type.h"
+#include "private_chat/live_type.h"
 
-#include "private/typing_notice.h"
+#include "private_chat/typing_notice.h"
 
 #include <gtest/gtest.h>
 

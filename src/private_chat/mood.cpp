@@ -1,4 +1,4 @@
-#include "private/mood.h"
+#include "private_chat/mood.h"
 
 #include "base/leading_number.h"
 

@@ -1,7 +1,7 @@
 // A mood gauge on the screen.
 #pragma once
 
-#include "private/mood.h"
+#include "private_chat/mood.h"
 
 #include <QWidget>
 

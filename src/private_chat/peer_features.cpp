@@ -1,4 +1,4 @@
-#include "private/peer_features.h"
+#include "private_chat/peer_features.h"
 
 #include "base/remote_text.h"
 #include "protocol/send_datagram.h"

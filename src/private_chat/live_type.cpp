@@ -1,4 +1,4 @@
-#include "private/live_type.h"
+#include "private_chat/live_type.h"
 
 #include "base/limits.h"
 #include "base/remote_text.h"
