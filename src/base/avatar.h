@@ -10,7 +10,7 @@ namespace nimb
 {
 
 constexpr int avatarSide = 50; ///< pixels
-/// Three bytes a pixel (blue, green, red), row by row from the top.
+/// Three bytes per pixel (blue, green, red), row by row from the top.
 constexpr qsizetype avatarBytes = qsizetype(3) * avatarSide * avatarSide;
 
 /// The bytes of a picture of avatarSide by avatarSide pixels, each 0xRRGGBB with anything in the byte above.

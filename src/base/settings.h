@@ -18,7 +18,7 @@ enum class SettingType {
     integer16,
     integer32,
     flag,       ///< a number, non-zero for true; true is written as -1
-    avatarData, ///< bytes, one a character, U+0000 to U+00FF
+    avatarData, ///< bytes, one per character, U+0000 to U+00FF
 };
 
 struct SettingKey {

@@ -7,7 +7,7 @@
 namespace nimb
 {
 
-/// What the start of the program does outside the engine; SubMain calls it in the prescribed order.
+/// What the start of the program does outside the engine; SubMain calls it, and fixes the order.
 class StartUpSteps
 {
 public:

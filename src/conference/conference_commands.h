@@ -32,7 +32,7 @@ public:
 
     void conferenceDatagram(const QString &ip, const wire::Datagram &datagram) override;
 
-    // One overload a kind.
+    // One overload per kind.
     void operator()(const wire::ConferenceInvitation &invitation);
     void operator()(const wire::ConferenceAnswer &answer);
     void operator()(const wire::ConferenceListQuestion &question);

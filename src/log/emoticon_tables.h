@@ -11,7 +11,7 @@
 namespace nimb
 {
 
-/// A memory metafile of 424 bytes as lower-case hexadecimal digits, two a byte; see metafile.h for what is in it.
+/// A memory metafile of 424 bytes as lower-case hexadecimal digits, two per byte; see metafile.h for what is in it.
 using MetafileHex = std::array<char, 848>;
 
 /// Entry i of texts, counted from 1, is drawn as picture (i + 1) / 2, rounded down: each picture serves a text with a

@@ -28,8 +28,8 @@ class LogPictures : public QObject, public QTextObjectInterface
     Q_INTERFACES(QTextObjectInterface)
 
 public:
-    /// deviceScale: device pixels a logical one, times the zoom of the text.
-    /// deviceRatio: device pixels a logical one.
+    /// deviceScale: device pixels per logical pixel, times the zoom of the text.
+    /// deviceRatio: device pixels per logical pixel.
     LogPictures(std::function<qreal()> deviceScale, std::function<qreal()> deviceRatio, QObject *parent);
 
     /// The format of a character that shows the fragment's picture; nothing when the fragment holds none.

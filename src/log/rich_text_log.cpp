@@ -192,7 +192,7 @@ void RichTextLogEdit::setSelFont(const LogFont &font)
 
 void RichTextLogEdit::setSelText(const QString &text)
 {
-    // One character a line break, as the document counts. The two that it would take for frames are no text.
+    // One character per line break, as the document counts. The two that it would take for frames are no text.
     QString plain = text;
     plain.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     plain.replace(QChar(0xFDD0), QChar::ReplacementCharacter).replace(QChar(0xFDD1), QChar::ReplacementCharacter);

@@ -75,7 +75,7 @@ void frmMain::buildControls()
     fitFonts();
 }
 
-/// The prescribed width leaves no room for a large desktop font in the rows of controls. They take the largest size
+/// The fixed width leaves no room for a large desktop font in the rows of controls. They take the largest size
 /// that fits; the list and the logs keep the desktop's.
 void frmMain::fitFonts()
 {
@@ -391,7 +391,7 @@ void frmMain::Form_Resize()
     clearbtn->setVisible(logShown);
 }
 
-/// Two rows share what the prescribed place of the first one leaves above the status bar.
+/// Two rows share what the fixed place of the first one leaves above the status bar.
 int frmMain::bottomRowHeight() const
 {
     const int room

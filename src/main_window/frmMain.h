@@ -56,7 +56,7 @@ public:
         QWidget &widget;
         RichTextLog &text;
     };
-    /// Empty strips above and below the text of the log, for its prescribed height reaches beyond the list's.
+    /// Empty strips above and below the text of the log, for its fixed height reaches beyond the list's.
     static constexpr int logInsetAbove = 9;
     static constexpr int logInsetBelow = 11;
 

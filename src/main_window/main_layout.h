@@ -1,4 +1,5 @@
-// The main window's prescribed measures, in twips. Sizes are without the frame; tops count from below the menu bar.
+// The main window's measures, in twips, fixed so that it looks the same on every desktop. Sizes are without the frame;
+// tops count from below the menu bar.
 #pragma once
 
 namespace nimb::main_layout

@@ -1,4 +1,5 @@
-// The life of the main window: loading, closing and ending, in the prescribed order.
+// The life of the main window: loading, closing and ending. The order of the end is fixed: nobody is answered once it
+// has begun, and all is saved after the other windows have noted what they keep.
 #pragma once
 
 #include "base/main_log.h"

@@ -1,4 +1,5 @@
-// The start of the program, in the prescribed order.
+// The start of the program. Its order is fixed: a later copy hands over before it asks for anything, and the main
+// window needs the nickname that the login dialog asks for.
 #pragma once
 
 #include "base/Common.h"

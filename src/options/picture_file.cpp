@@ -102,7 +102,7 @@ ReadPicture readPicture(QIODevice &source)
         return sentence(tooLarge);
     watched.forget();
     const QImage picture = reader.read();
-    // Some of Qt's readers take no header with more than 16384 pixels a side.
+    // Some of Qt's readers take no header with more than 16384 pixels per side.
     if (picture.isNull() && !size.isValid())
         return sentence(unknownSize);
     if (picture.isNull() || endedTooEarly(watched, format))

@@ -14,7 +14,7 @@ namespace nimb
 using ReadPicture = std::variant<QImage, QString>;
 
 /// Reads the first picture of any format that Qt knows, turned as its camera was held, on a white ground where it is
-/// transparent. The source must be open and able to go back. A picture that ends too early is none.
+/// transparent. The source must be open and able to go back. A picture that ends too early counts as none.
 ReadPicture readPicture(QIODevice &source);
 ReadPicture readPictureFile(const QString &path);
 

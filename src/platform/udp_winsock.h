@@ -14,7 +14,7 @@
 namespace nimb
 {
 
-/// Reads a bounded number of datagrams an activation and returns to the event loop between two batches, so that a
+/// Reads a bounded number of datagrams per activation and returns to the event loop between two batches, so that a
 /// flood starves neither windows nor timers. Handlers of DataArrival may send, and may run an event loop of their
 /// own: nothing further is read before they return. They must not destroy this object.
 class UdpWinsock : public QObject, public Winsock

@@ -1,4 +1,4 @@
-// The grammar of the datagrams: one struct a kind, parse and serialise over bytes.
+// The grammar of the datagrams: one struct per kind, parse and serialise over bytes.
 //
 // A datagram is one string without terminator. Its fields are separated by single spaces, nothing is escaped, and the
 // last field runs to the end. Fields are bytes here; wire_text turns them into text.
@@ -170,7 +170,7 @@ struct Unsupported {
     bool operator==(const Unsupported &) const = default;
 };
 
-/// Fits no rule at all; an empty datagram is one.
+/// Fits no rule at all, as an empty datagram does.
 struct Garbage {
     std::string bytes; ///< the whole datagram
     bool operator==(const Garbage &) const = default;

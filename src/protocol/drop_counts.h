@@ -27,7 +27,7 @@ class DropCounts
 public:
     void count(Drop reason, std::uint64_t times = 1) { m_counts[reason] += times; }
     std::uint64_t of(Drop reason) const { return m_counts.value(reason, 0); }
-    /// One line a reason that occurred, ready to be shown; empty when nothing was dropped.
+    /// One line for each reason that occurred, ready to be shown; empty when nothing was dropped.
     QString summary() const;
 
 private:

@@ -14,7 +14,7 @@ std::optional<PeerIdentity> textOf(const std::optional<wire::Identity> &identity
     return PeerIdentity{fromWire(identity->ip), fromWire(identity->host), fromWire(identity->nick)};
 }
 
-/// Hands a contact's datagram to its feature: one overload a kind.
+/// Hands a contact's datagram to its feature: one overload per kind.
 class HandOver
 {
 public:

@@ -13,7 +13,7 @@ constexpr int spacing = 6;
 constexpr int groupDistance = 12;
 } // namespace form_layout
 
-/// Gives a control its prescribed name; to be wrapped around its making.
+/// Gives a control its fixed name, by which tests and assistive tools find it; to be wrapped around its making.
 template <class Widget> Widget *named(Widget *widget, const char *name)
 {
     widget->setObjectName(QLatin1String(name));

@@ -1,5 +1,5 @@
 // Feeds a log as a flood of messages does, while the event loop goes on: log_bench [lines]
-// Prints lines a second, the longest stall of the event loop and the memory of a thousand lines. Needs a screen or
+// Prints lines per second, the longest stall of the event loop and the memory of a thousand lines. Needs a screen or
 // QT_QPA_PLATFORM=offscreen.
 #include "log/emoticons.h"
 #include "log/rich_text_log.h"

@@ -58,7 +58,7 @@ int boundSocket(const QString &ip)
     return descriptor;
 }
 
-/// One socket an address, so that the system delivers what is sent; what does not fit is dropped by it.
+/// One socket for each address, so that the system delivers what is sent; what does not fit is dropped by it.
 class Receivers
 {
 public:

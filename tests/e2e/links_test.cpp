@@ -40,7 +40,7 @@ public:
     /// Where it is found before any other.
     QString path() const { return m_folder.path() + u':' + qEnvironmentVariable("PATH"); }
 
-    /// How many arguments each call had, and the arguments, a line each; in the order of the calls.
+    /// How many arguments each call had, and the arguments, one per line, in the order of the calls.
     std::vector<std::string> calls() const
     {
         std::vector<std::string> all;

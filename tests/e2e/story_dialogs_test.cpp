@@ -56,7 +56,7 @@ protected:
         ann.send(copy.address(), "?ONLINE");
         return ann.hearUntil("!STATUS Online").back() == "!STATUS Online";
     }
-    /// A program of this name that Bob's copy finds before all others. It writes its arguments, a line each, and then
+    /// A program of this name that Bob's copy finds before all others. It writes its arguments, one per line, and then
     /// what it reads, into the file of the same name with "heard" behind it.
     void fakeProgram(const QString &name)
     {

@@ -77,7 +77,7 @@ protected:
     RealWindows windows{{{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}}};
 };
 
-TEST_F(FrmConference, BearsItsPrescribedNamesAndCaptions)
+TEST_F(FrmConference, BearsItsFixedNamesAndCaptions)
 {
     host();
     for (const char *name : {"partecipanti", "refreshlistbtn", "kickuserbtn", "showlist", "showavatars", "AvatarsFrame",

@@ -45,7 +45,7 @@ protected:
     RealWindows windows{{{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}, {"10.0.0.4", "Cleo"}}};
 };
 
-TEST_F(FrmMain, BearsItsPrescribedNames)
+TEST_F(FrmMain, BearsItsFixedNames)
 {
     EXPECT_EQ(windows.main().objectName(), QStringLiteral("frmMain"));
     for (const char *name : {"ImageCombo1",
@@ -92,7 +92,7 @@ TEST_F(FrmMain, BearsItsPrescribedNames)
     EXPECT_EQ(windows.main().windowTitle(), QStringLiteral("NIMB-Chat 1.2 - Me"));
 }
 
-TEST_F(FrmMain, BearsItsPrescribedCaptions)
+TEST_F(FrmMain, BearsItsFixedCaptions)
 {
     EXPECT_EQ(windows.control<QPushButton>("RescanBtn").text(), QStringLiteral("&Rescan"));
     EXPECT_EQ(windows.control<QCheckBox>("buzzmute").text(), QStringLiteral("Mute Buzz"));

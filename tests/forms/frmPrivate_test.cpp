@@ -46,7 +46,7 @@ protected:
     RealWindows windows{{{"10.0.0.2", "Ann"}}};
 };
 
-TEST_F(FrmPrivate, BearsItsPrescribedNamesAndCaptions)
+TEST_F(FrmPrivate, BearsItsFixedNamesAndCaptions)
 {
     for (const char *name :
          {"rIP", "outtext", "intext", "StatusBar", "StatusBar_1", "StatusBar_2", "futuretype", "sendbtn", "clearbtn",

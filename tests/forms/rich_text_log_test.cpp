@@ -664,11 +664,10 @@ TEST(MutedColour, IsReadableOnEveryGround)
     }
 }
 
-TEST(ReadableOn, LeavesPrescribedColoursAloneOnWhite)
+TEST(ReadableOn, LeavesTheColoursOfLogsAloneOnWhite)
 {
-    for (const QColor prescribed :
-         {QColor(160, 160, 160), QColor(128, 128, 128), QColor(0, 0, 192), QColor(0, 128, 192)})
-        EXPECT_EQ(readableOn(prescribed, Qt::white), prescribed);
+    for (const QColor colour : {QColor(160, 160, 160), QColor(128, 128, 128), QColor(0, 0, 192), QColor(0, 128, 192)})
+        EXPECT_EQ(readableOn(colour, Qt::white), colour);
     EXPECT_GE(contrast(readableOn(Qt::white, Qt::white), Qt::white), 4.5);
 }
 

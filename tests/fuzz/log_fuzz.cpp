@@ -67,7 +67,7 @@ Held heldBy(const RichTextLogEdit &log)
     return held;
 }
 
-/// As a document keeps it: one character a line break, and none that it takes for a frame.
+/// As a document keeps it: one character per line break, and none that it takes for a frame.
 QString asHeld(QString text)
 {
     text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n').replace(QChar(0x2029), u'\n');

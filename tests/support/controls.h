@@ -1,4 +1,4 @@
-// Finds the controls of a window, and out whether a window is gone.
+// Finds the controls of a window, and finds out whether a window is gone.
 #pragma once
 
 #include <QCoreApplication>

@@ -9,14 +9,14 @@ namespace nimb::test
 namespace
 {
 
-// SQLite knows a layer by one fixed structure, so there is one layer a process.
+// SQLite knows a layer by one fixed structure, so there is one layer per process.
 sqlite3_vfs layer;
 
 struct File {
     sqlite3_file base;
     FaultyFiles *faults;
 
-    // SQLite sets aside one block a file: ours, and the real one behind it.
+    // SQLite sets aside one block per file: ours, and the real one behind it.
     sqlite3_file *real() { return reinterpret_cast<sqlite3_file *>(this + 1); }
 };
 

@@ -40,7 +40,7 @@ TEST(TypingNotice, AnEmptiedBoxStartsOver)
 
 TEST(LiveType, SendsTheLastTwoHundredCharactersAsOneLine)
 {
-    // 10 characters and a break, which counts as one blank: eleven a line, 500 and more in all.
+    // 10 characters and a break, which counts as one blank: eleven per line, 500 and more in all.
     const QString lines = QStringLiteral("0123456789\r\n").repeated(50);
     const QString sent = liveTypeToSend(lines);
     // The last 200 of "...0123456789 " end in a blank, which goes.
