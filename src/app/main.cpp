@@ -11,7 +11,7 @@ int main(int argc, char *argv[])
     int programNameAlone = 1;
     QApplication application(programNameAlone, argv);
     QCoreApplication::setApplicationName(QStringLiteral("NIMB-Chat"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.2.0"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(NIMB_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("nimb-chat"));
     // Windows come and go; only the main window's unloading ends the program.
     QGuiApplication::setQuitOnLastWindowClosed(false);

@@ -18,7 +18,7 @@ class frmAbout : public QDialog
     Q_OBJECT
 
 public:
-    /// version: of the program, "1.2.0".
+    /// version: of the program, as it is shown.
     frmAbout(SystemInformation &system, Prompts &prompts, const QString &version, QWidget *parent);
 
 private:
