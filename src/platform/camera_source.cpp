@@ -33,6 +33,14 @@ CameraSource::CameraSource()
 
 CameraSource::~CameraSource() = default;
 
+std::optional<QByteArray> frameOf(const QVideoFrame &newest)
+{
+    const QImage image = newest.isValid() ? newest.toImage() : QImage();
+    if (image.isNull())
+        return std::nullopt;
+    return frameOf(image);
+}
+
 /// The frame is turned into a picture only when somebody asks for it.
 std::optional<QByteArray> CameraSource::frame()
 {
@@ -42,11 +50,7 @@ std::optional<QByteArray> CameraSource::frame()
         m_problem = tr("The camera was unplugged.");
         return std::nullopt;
     }
-    const QVideoFrame newest = m_sink->videoFrame();
-    const QImage image = newest.isValid() ? newest.toImage() : QImage();
-    if (image.isNull())
-        return std::nullopt;
-    return frameOf(image);
+    return frameOf(m_sink->videoFrame());
 }
 
 } // namespace nimb

@@ -9,10 +9,14 @@
 
 class QCamera;
 class QMediaCaptureSession;
+class QVideoFrame;
 class QVideoSink;
 
 namespace nimb
 {
+
+/// What the camera saw as a frame of the own polled picture; nothing before it has seen anything.
+std::optional<QByteArray> frameOf(const QVideoFrame &newest);
 
 /// Runs the system's default camera as long as it lives.
 class CameraSource : public PictureSource
