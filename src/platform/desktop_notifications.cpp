@@ -6,6 +6,8 @@
 #include <QDBusPendingReply>
 #include <QGuiApplication>
 
+#include <utility>
+
 namespace nimb
 {
 namespace
@@ -42,19 +44,26 @@ bool DesktopNotifications::areNeeded()
 void DesktopNotifications::add(const Notification &notification)
 {
     m_rows.push_back(notification);
-    if (m_rows.size() > static_cast<std::size_t>(limits::notifications))
-        m_rows.erase(m_rows.begin());
+    if (m_rows.size() <= static_cast<std::size_t>(limits::notifications))
+        return;
+    m_rows.erase(m_rows.begin());
+    if (m_askedRows > 0)
+        --m_askedRows;
 }
 
 void DesktopNotifications::startTimer()
 {
-    if (m_common.options.NotifyWin != 1)
-        return m_rows.clear();
+    if (m_common.options.NotifyWin != 1) {
+        m_rows.clear();
+        m_askedRows = 0;
+        return;
+    }
     if (m_exchange != Exchange::idle) {
         m_exchange = Exchange::pendingAgain;
         return;
     }
     m_exchange = Exchange::pending;
+    m_askedRows = m_rows.size();
     if (m_knowsCapabilities)
         show();
     else
@@ -77,6 +86,7 @@ void DesktopNotifications::askForCapabilities()
 
 void DesktopNotifications::show()
 {
+    m_askedRows = m_rows.size();
     QDBusMessage notify = call("Notify");
     notify.setArguments({QStringLiteral("NIMB-Chat"), m_id, QGuiApplication::desktopFileName(), tr("NIMBChat Notify!"),
                          body(), QStringList{defaultAction, tr("Show")}, QVariantMap(), displayTime});
@@ -94,9 +104,14 @@ void DesktopNotifications::shown(bool accepted, uint id)
     m_exchange = Exchange::idle;
     m_id = id;
     if (!accepted)
-        return m_rows.clear();
-    if (again)
+        dropAskedRows();
+    if (again && !m_rows.empty())
         startTimer();
+}
+
+void DesktopNotifications::dropAskedRows()
+{
+    m_rows.erase(m_rows.begin(), m_rows.begin() + static_cast<std::ptrdiff_t>(std::exchange(m_askedRows, 0)));
 }
 
 QString DesktopNotifications::body() const

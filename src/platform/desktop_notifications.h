@@ -15,7 +15,8 @@ namespace nimb
 {
 
 /// Speaks to org.freedesktop.Notifications on the session bus. One notification at a time: while it stands, what is
-/// new is added to it. Never waits; without such a service nothing is shown.
+/// new is added to it. Never waits. What the service was asked to show and could not is dropped; what came meanwhile
+/// it is asked for anew.
 class DesktopNotifications : public QObject, public Notifications
 {
     Q_OBJECT
@@ -41,10 +42,12 @@ private:
     void show();
     void shown(bool accepted, uint id);
     QString body() const;
+    void dropAskedRows();
 
     const Common &m_common;
     QDBusConnection m_bus;
     std::vector<Notification> m_rows; ///< of the notification, the oldest first
+    std::size_t m_askedRows = 0;      ///< how many of them the service was asked to show last
     uint m_id = 0;                    ///< as the service numbers it; 0 when none stands
     Exchange m_exchange = Exchange::idle;
     bool m_knowsCapabilities = false;

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include <QDBusConnection>
+#include <QDBusContext>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QProcess>
@@ -21,7 +22,7 @@ using testing::IsEmpty;
 using testing::SizeIs;
 
 /// The desktop's service: notes what it is asked to show.
-class NotificationService : public QObject
+class NotificationService : public QObject, protected QDBusContext
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
@@ -37,10 +38,16 @@ public:
     std::vector<Shown> shown;
     QStringList capabilities{QStringLiteral("body"), QStringLiteral("actions")};
     uint next = 7;
+    int refusals = 0; ///< so many questions for its capabilities end in an error
 
 public Q_SLOTS:
     // NOLINTBEGIN: the names are the service's
-    QStringList GetCapabilities() { return capabilities; }
+    QStringList GetCapabilities()
+    {
+        if (refusals > 0 && refusals-- > 0)
+            sendErrorReply(QDBusError::Failed, QStringLiteral("not yet"));
+        return capabilities;
+    }
     uint Notify(const QString &, uint replaces, const QString &, const QString &summary, const QString &body,
                 const QStringList &actions, const QVariantMap &, int timeout)
     {
@@ -232,6 +239,33 @@ TEST_F(DesktopNotificationsTest, WithoutTheServiceNothingHappensUntilItIsThere)
     QObject::connect(&watcher, &QDBusPendingCallWatcher::finished, &watcher, [&gone] { gone = true; });
     EXPECT_TRUE(QTest::qWaitFor([&gone] { return gone; }, 30000));
     startService();
+    happen("Ben is offline");
+    ASSERT_TRUE(waitForShown(1));
+    EXPECT_EQ(service.shown[0].body, "Ben is offline");
+}
+
+TEST_F(DesktopNotificationsTest, WhatComesWhileTheServiceRefusesIsAskedForAnew)
+{
+    startService();
+    service.refusals = 1;
+    make();
+    happen("Ann is online");
+    happen("Ben is offline");
+    ASSERT_TRUE(waitForShown(1));
+    settle();
+    ASSERT_THAT(service.shown, SizeIs(1));
+    EXPECT_EQ(service.shown[0].body, "Ben is offline");
+}
+
+TEST_F(DesktopNotificationsTest, AServiceThatRefusesIsNotAskedTwiceForTheSame)
+{
+    startService();
+    service.refusals = 1;
+    make();
+    happen("Ann is online");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return service.refusals == 0; }, 30000));
+    settle();
+    EXPECT_THAT(service.shown, IsEmpty());
     happen("Ben is offline");
     ASSERT_TRUE(waitForShown(1));
     EXPECT_EQ(service.shown[0].body, "Ben is offline");
