@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop.h"
+#include "raw_peer.h"
 
 #include <chrono>
 #include <cstdint>
@@ -17,20 +18,13 @@ namespace nimb::test
 /// A UDP port above the reserved and below the passing ones that no socket on this machine has at the moment.
 std::uint16_t freePort();
 
-struct Heard {
-    std::string bytes;
-    std::string from;                ///< dotted source address
-    std::chrono::nanoseconds moment; ///< when the system took it in; comparable between peers
-};
+using Heard = RawPeer::Datagram;
 
 class WirePeer
 {
 public:
     /// Binds exclusively to a dotted address; a test failure when that is impossible.
     WirePeer(const std::string &address, std::uint16_t port);
-    ~WirePeer();
-    WirePeer(WirePeer &&other) noexcept;
-    WirePeer &operator=(WirePeer &&) = delete;
 
     /// Whether nobody is bound to this address and port.
     static bool couldBind(const std::string &address, std::uint16_t port);
@@ -57,7 +51,7 @@ public:
 private:
     std::string m_address;
     std::uint16_t m_port;
-    int m_descriptor;
+    RawPeer m_socket;
 };
 
 } // namespace nimb::test

@@ -30,6 +30,18 @@ using testing::Field;
 using testing::Optional;
 using namespace std::string_literals;
 
+/// A port that no other test process uses at the same time.
+std::uint16_t testPort()
+{
+    return static_cast<std::uint16_t>(10000 + getpid() % 10000);
+}
+
+/// One that differs from it.
+std::uint16_t otherTestPort()
+{
+    return static_cast<std::uint16_t>(testPort() + 10000);
+}
+
 struct Heard {
     std::string bytes;
     std::string source;
