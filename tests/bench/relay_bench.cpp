@@ -5,10 +5,10 @@
 //
 // Messages are handed to the engine as if they had arrived; what it sends goes through the system to 127.0.x.y, where
 // one socket for each address takes it. The two are measured in turns, and the best turn of each counts.
-#include "app/messenger.h"
 #include "platform/udp_winsock.h"
+#include "raw_peer.h"
 #include "silent_log.h"
-#include "virtual_time.h"
+#include "whole_engine.h"
 
 #include <QCoreApplication>
 
@@ -38,6 +38,12 @@ QString addressOf(int participant)
     return QStringLiteral("127.0.%1.%2").arg(participant / 250 + 1).arg(participant % 250 + 1);
 }
 
+[[noreturn]] void giveUp(const char *why)
+{
+    std::fprintf(stderr, "relay_bench: %s\n", why);
+    std::exit(1);
+}
+
 sockaddr_in endpoint(const QString &ip)
 {
     sockaddr_in address = {};
@@ -47,91 +53,60 @@ sockaddr_in endpoint(const QString &ip)
     return address;
 }
 
-int boundSocket(const QString &ip)
-{
-    const int descriptor = socket(AF_INET, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
-    const sockaddr_in address = endpoint(ip);
-    if (descriptor < 0 || bind(descriptor, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0) {
-        std::perror("relay_bench: cannot bind");
-        std::exit(1);
-    }
-    return descriptor;
-}
-
 /// One socket for each address, so that the system delivers what is sent; what does not fit is dropped by it.
 class Receivers
 {
 public:
     explicit Receivers(int count)
     {
-        for (int i = 0; i < count; ++i)
-            m_descriptors.push_back(boundSocket(addressOf(i)));
+        for (int i = 0; i < count; ++i) {
+            m_peers.emplace_back(addressOf(i).toStdString(), port);
+            if (!m_peers.back().isBound())
+                giveUp("cannot bind");
+        }
     }
-    ~Receivers()
-    {
-        for (const int descriptor : m_descriptors)
-            close(descriptor);
-    }
-    Receivers(const Receivers &) = delete;
-    Receivers &operator=(const Receivers &) = delete;
 
     /// Both contestants find them empty; returns how many waited.
     std::uint64_t drain()
     {
         std::uint64_t taken = 0;
-        char buffer[4096];
-        for (const int descriptor : m_descriptors) {
-            while (recv(descriptor, buffer, sizeof buffer, 0) >= 0)
+        for (const RawPeer &peer : m_peers) {
+            while (peer.receive(std::chrono::milliseconds(0)))
                 ++taken;
         }
         return taken;
     }
 
 private:
-    std::vector<int> m_descriptors;
+    std::vector<RawPeer> m_peers;
 };
 
-struct Host : Recorders {
+struct Host : WholeEngine<UdpWinsock, SilentViews> {
     Host()
+        : WholeEngine(std::make_shared<VirtualTime>(),
+                      [](DropCounts &counts) { return UdpWinsock(counts, hostAddress, QStringLiteral("HERE")); })
     {
         common.ownIP = hostAddress;
         common.ownNickname = QStringLiteral("Host");
         socket.setLocalPort(port);
         socket.setRemotePort(port);
-        if (!socket.bind()) {
-            std::fputs("relay_bench: the host cannot bind\n", stderr);
-            std::exit(1);
-        }
+        if (!socket.bind())
+            giveUp("the host cannot bind");
     }
 
     void addContacts(int count)
     {
-        for (int i = 0; i < count; ++i) {
-            Contact contact;
-            contact.ip = addressOf(i);
-            contact.nickname = QStringLiteral("Contact %1").arg(i);
-            contact.setPresence(Picture::green);
-            messenger.contacts().add(contact);
-        }
+        for (int i = 0; i < count; ++i)
+            addPresent(addressOf(i), QStringLiteral("Contact %1").arg(i));
     }
     void gather(int count)
     {
-        messenger.conferences().mnuCreateNewConf();
+        engine.conferences().mnuCreateNewConf();
         for (int i = 0; i < count; ++i)
-            messenger.conferences().mnuInvite2Conf(1, addressOf(i));
+            engine.conferences().mnuInvite2Conf(1, addressOf(i));
         for (int i = 0; i < count; ++i)
-            messenger.dispatcher().receive(addressOf(i), "!CONF INVITE #1 AGREE");
+            receive(addressOf(i), "!CONF INVITE #1 AGREE");
     }
-
-    VirtualTime time;
-    Common common;
-    UdpWinsock socket{drops, hostAddress, QStringLiteral("HERE")};
-    RecorderMainView view;
-    RecorderPrivateForms privateForms;
-    SilentConferenceForms conferenceForms;
-    Messenger messenger{common,
-                        {socket, settings, time, time, prompts, notifications, sound, tray, windows, privateForms,
-                         conferenceForms, view, drops}};
 };
 
 /// Calls of `message` a second.
@@ -163,7 +138,7 @@ double measure(int participants, std::chrono::duration<double> span)
         others.push_back(endpoint(addressOf(i)));
     const int bare = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
     bool allSent = true;
-    const auto relay = [&] { host.messenger.dispatcher().receive(addressOf(0), arriving); };
+    const auto relay = [&] { host.receive(addressOf(0), arriving); };
     const auto loop = [&] {
         for (const sockaddr_in &other : others) {
             const ssize_t sent = sendto(bare, arriving.data(), arriving.size(), 0,
@@ -174,10 +149,8 @@ double measure(int participants, std::chrono::duration<double> span)
 
     receivers.drain();
     relay();
-    if (receivers.drain() != others.size()) {
-        std::fputs("relay_bench: one message did not reach each of the others once\n", stderr);
-        std::exit(1);
-    }
+    if (receivers.drain() != others.size())
+        giveUp("one message did not reach each of the others once");
     double relayed = 0, looped = 0;
     for (int turn = 0; turn < turns; ++turn) {
         relayed = std::max(relayed, rate(span / turns, relay));
@@ -200,12 +173,12 @@ void measureMemory(int participants)
 {
     Host host;
     host.addContacts(participants);
-    host.messenger.conferences().mnuCreateNewConf();
+    host.engine.conferences().mnuCreateNewConf();
     const std::size_t before = mallinfo2().uordblks;
     for (int i = 0; i < participants; ++i)
-        host.messenger.conferences().mnuInvite2Conf(1, addressOf(i));
+        host.engine.conferences().mnuInvite2Conf(1, addressOf(i));
     for (int i = 0; i < participants; ++i)
-        host.messenger.dispatcher().receive(addressOf(i), "!CONF INVITE #1 AGREE");
+        host.receive(addressOf(i), "!CONF INVITE #1 AGREE");
     const std::size_t after = mallinfo2().uordblks;
     std::printf("%4d participants: %.0f bytes each\n", participants,
                 static_cast<double>(after - before) / participants);

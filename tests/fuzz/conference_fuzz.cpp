@@ -7,9 +7,8 @@
 #include "require.h"
 #include "silent_log.h"
 #include "simulated_network.h"
-#include "virtual_time.h"
+#include "whole_engine.h"
 
-#include "app/messenger.h"
 #include "base/limits.h"
 
 #include <QCoreApplication>
@@ -32,30 +31,17 @@ QString addressOf(int peer)
 }
 
 /// A log without end must not make the run slow: nothing of it is kept.
-struct Engine : Recorders {
+struct Engine : WholeEngine<SimulatedWinsock, SilentViews> {
     Engine()
+        : WholeEngine(std::make_shared<VirtualTime>(),
+                      [](DropCounts &) { return SimulatedWinsock(ownAddress, QStringLiteral("HERE"), nullptr); })
     {
         common.ownIP = ownAddress;
         common.ownNickname = QStringLiteral("Me");
-        for (int peer = 0; peer + 1 < peers; ++peer) {
-            Contact contact;
-            contact.ip = addressOf(peer);
-            contact.nickname = QStringLiteral("Peer %1").arg(peer);
-            contact.setPresence(Picture::green);
-            messenger.contacts().add(contact);
-        }
+        for (int peer = 0; peer + 1 < peers; ++peer)
+            addPresent(addressOf(peer), QStringLiteral("Peer %1").arg(peer));
         socket.bind();
     }
-
-    std::shared_ptr<VirtualTime> time = std::make_shared<VirtualTime>();
-    Common common;
-    SimulatedWinsock socket{ownAddress, QStringLiteral("HERE"), nullptr};
-    Silent<RecorderMainView> view;
-    RecorderPrivateForms privateForms;
-    SilentConferenceForms conferenceForms;
-    Messenger messenger{common,
-                        {socket, settings, *time, *time, prompts, notifications, sound, tray, windows, privateForms,
-                         conferenceForms, view, drops}};
 };
 
 /// What a conference looks like between two steps.
@@ -82,7 +68,7 @@ class Game
 public:
     Game(const std::uint8_t *data, std::size_t size) : m_data(data), m_end(data + size)
     {
-        ConferenceTable &table = m_engine.messenger.conferences();
+        ConferenceTable &table = m_engine.engine.conferences();
         table.CreateNewConfWin(true, 0, {});
         table.CreateNewConfWin(true, 0, {});
         table.mnuInvite2Conf(1, addressOf(0));
@@ -104,7 +90,7 @@ public:
                 arrive(addressOf(actor), nextDatagram());
             checkCaps();
         }
-        m_engine.messenger.conferences().unloadAll();
+        m_engine.engine.conferences().unloadAll();
     }
 
 private:
@@ -144,7 +130,7 @@ private:
 
     void actAsUser()
     {
-        Messenger &messenger = m_engine.messenger;
+        Messenger &messenger = m_engine.engine;
         const std::uint8_t action = next();
         const int slot = action / 16 % 6, peer = action % peers;
         Conference *const conference = messenger.conferences().at(slot);
@@ -186,7 +172,7 @@ private:
     {
         Snapshots all;
         for (int slot = 1; slot <= ConferenceTable::lastSlot; ++slot) {
-            Conference *const conference = m_engine.messenger.conferences().at(slot);
+            Conference *const conference = m_engine.engine.conferences().at(slot);
             if (!conference)
                 continue;
             Snapshot &one = all[static_cast<std::size_t>(slot)];
@@ -202,8 +188,8 @@ private:
     void arrive(const QString &from, const std::string &bytes)
     {
         const Snapshots before = snapshots();
-        const int invitations = m_engine.messenger.invitations().list().rowCount();
-        const bool known = m_engine.messenger.contacts().isContact(from);
+        const int invitations = m_engine.engine.invitations().list().rowCount();
+        const bool known = m_engine.engine.contacts().isContact(from);
         const std::uint64_t dropped = m_engine.drops.of(Drop::noConference);
         m_engine.socket.arrive(from, bytes);
         const Snapshots after = snapshots();
@@ -216,7 +202,7 @@ private:
         else
             require(relayed().empty(), "only messages are relayed");
         const bool invites = std::holds_alternative<wire::ConferenceInvitation>(datagram);
-        require(m_engine.messenger.invitations().list().rowCount() <= invitations + (known && invites ? 1 : 0),
+        require(m_engine.engine.invitations().list().rowCount() <= invitations + (known && invites ? 1 : 0),
                 "only an invitation adds an invitation");
     }
 
@@ -306,10 +292,10 @@ private:
 
     void checkCaps()
     {
-        ConferenceTable &table = m_engine.messenger.conferences();
+        ConferenceTable &table = m_engine.engine.conferences();
         require(!table.at(0) && !table.at(6), "slots 1 to 5 are handed out");
-        require(m_engine.messenger.invitations().list().rowCount() <= limits::invitations, "invitations are limited");
-        require(m_engine.messenger.contacts().rowCount() <= limits::contactsFromStrangers, "contacts are limited");
+        require(m_engine.engine.invitations().list().rowCount() <= limits::invitations, "invitations are limited");
+        require(m_engine.engine.contacts().rowCount() <= limits::contactsFromStrangers, "contacts are limited");
         std::set<std::pair<QString, int>> open;
         for (int slot = 1; slot <= ConferenceTable::lastSlot; ++slot) {
             Conference *const conference = table.at(slot);

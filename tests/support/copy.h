@@ -1,10 +1,8 @@
-// One whole copy of the engine, with recorders around it.
+// One copy of the program on a simulated network, started as a user starts it.
 #pragma once
 
-#include "app/messenger.h"
-#include "recorders.h"
 #include "simulated_network.h"
-#include "virtual_time.h"
+#include "whole_engine.h"
 
 #include <gmock/gmock.h>
 
@@ -29,12 +27,13 @@ struct CopySetup {
     bool loaded = true; ///< the main window has been loaded
 };
 
-class Copy : public Recorders
+class Copy : public WholeEngine<SimulatedWinsock>
 {
 public:
     explicit Copy(const CopySetup &setup = {}, SimulatedNetwork *network = nullptr,
                   std::shared_ptr<VirtualTime> sharedTime = std::make_shared<VirtualTime>())
-        : time(std::move(sharedTime)), socket(setup.ip, setup.host, network)
+        : WholeEngine(std::move(sharedTime),
+                      [&](DropCounts &) { return SimulatedWinsock(setup.ip, setup.host, network); })
     {
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
         common.ownIP = setup.ip;
@@ -80,31 +79,13 @@ public:
     RecorderConferenceView &conference(std::size_t number) { return *conferenceForms.views.at(number - 1); }
     RecorderPrivateView &window(std::size_t number) { return *privateForms.views.at(number - 1); }
 
-    std::shared_ptr<VirtualTime> time;
-    Common common;
-    SimulatedWinsock socket;
-    RecorderMainView view;
-    RecorderPrivateForms privateForms;
-    RecorderConferenceForms conferenceForms;
-    RecorderInvitationsView invitationsView;
-    Messenger engine{common,
-                     {socket, settings, *time, *time, prompts, notifications, sound, tray, windows, privateForms,
-                      conferenceForms, view, drops}};
-
 private:
     void store(const CopySetup &setup)
     {
         int n = 0;
-        for (const StoredContact &contact : setup.contacts) {
-            const QByteArray number = QByteArray::number(++n);
-            settings.put("Users", ("IP" + number).constData(), contact.ip);
-            settings.put("Users", ("Nn" + number).constData(), contact.nickname);
-            settings.put("Users", ("Ws" + number).constData(), contact.workstation);
-        }
-        for (const auto &[address, value] : setup.settings) {
-            const std::size_t slash = address.find('/');
-            settings.put(address.substr(0, slash).c_str(), address.substr(slash + 1).c_str(), value);
-        }
+        for (const StoredContact &contact : setup.contacts)
+            settings.putContact(++n, contact.ip, contact.nickname, contact.workstation);
+        settings.put(setup.settings);
     }
 };
 

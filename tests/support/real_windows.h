@@ -22,7 +22,7 @@
 namespace nimb::test
 {
 
-class RealWindows
+class RealWindows : public Recorders
 {
 public:
     explicit RealWindows(const std::vector<std::pair<const char *, const char *>> &contacts = {},
@@ -33,16 +33,9 @@ public:
         common.ownHostName = QStringLiteral("HERE");
         common.ownNickname = QStringLiteral("Me");
         int n = 0;
-        for (const auto &[ip, nickname] : contacts) {
-            const QByteArray number = QByteArray::number(++n);
-            settings.put("Users", ("IP" + number).constData(), QString::fromUtf8(ip));
-            settings.put("Users", ("Nn" + number).constData(), QString::fromUtf8(nickname));
-            settings.put("Users", ("Ws" + number).constData(), QStringLiteral("PC"));
-        }
-        for (const auto &[address, value] : stored) {
-            const std::size_t slash = address.find('/');
-            settings.put(address.substr(0, slash).c_str(), address.substr(slash + 1).c_str(), value);
-        }
+        for (const auto &[ip, nickname] : contacts)
+            settings.putContact(++n, QString::fromUtf8(ip), QString::fromUtf8(nickname), QStringLiteral("PC"));
+        settings.put(stored);
         forms.loadNotify();
         main().show();
         forms.connectMain(
@@ -122,12 +115,6 @@ public:
     VirtualTime time;
     Common common;
     SimulatedWinsock socket{QStringLiteral("10.0.0.1"), QStringLiteral("HERE"), nullptr};
-    MemoryStore settings;
-    RecorderPrompts prompts;
-    RecorderSound sound;
-    Steps steps;
-    RecorderTray tray{steps};
-    DropCounts drops;
     RecorderLinks links;
     RecorderPictureSources pictures;
     RecorderResolver names;

@@ -442,6 +442,22 @@ public:
     {
         saved[{QLatin1String(section), QLatin1String(key)}] = value;
     }
+    /// Values by "section/key".
+    void put(const std::map<std::string, QString> &values)
+    {
+        for (const auto &[address, value] : values) {
+            const std::size_t slash = address.find('/');
+            put(address.substr(0, slash).c_str(), address.substr(slash + 1).c_str(), value);
+        }
+    }
+    /// Entry `number` of the stored contact list, counted from 1.
+    void putContact(int number, const QString &ip, const QString &nickname, const QString &workstation)
+    {
+        const QByteArray digits = QByteArray::number(number);
+        put("Users", ("IP" + digits).constData(), ip);
+        put("Users", ("Nn" + digits).constData(), nickname);
+        put("Users", ("Ws" + digits).constData(), workstation);
+    }
 
     std::map<std::pair<QString, QString>, QString> saved;
     std::vector<std::pair<std::pair<QString, QString>, QString>> pending;
@@ -453,12 +469,10 @@ public:
 /// Around an engine everything but its socket, its time and its windows.
 struct Recorders {
     MemoryStore settings;
-    RecorderNotifications notifications;
     RecorderPrompts prompts;
     RecorderSound sound;
     Steps steps;
     RecorderTray tray{steps};
-    RecorderWindows windows{steps};
     DropCounts drops;
 };
 

@@ -1,4 +1,4 @@
-// Views whose logs keep nothing, for engines that are timed or run without end.
+// Views that keep nothing, for engines that are timed or run without end.
 #pragma once
 
 #include "recorders.h"
@@ -31,7 +31,22 @@ public:
     SilentLog silent;
 };
 
-using SilentPrivateForms = PrivateFormsOf<Silent<RecorderPrivateView>>;
-using SilentConferenceForms = ConferenceFormsOf<Silent<RecorderConferenceView>>;
+/// Counts what it is told.
+class SilentNotifications : public Notifications
+{
+public:
+    void add(const Notification &) override { ++rows; }
+    void startTimer() override { ++starts; }
+
+    std::size_t rows = 0;
+    std::size_t starts = 0;
+};
+
+struct SilentViews {
+    Silent<RecorderMainView> view;
+    SilentNotifications notifications;
+    PrivateFormsOf<Silent<RecorderPrivateView>> privateForms;
+    ConferenceFormsOf<Silent<RecorderConferenceView>> conferenceForms;
+};
 
 } // namespace nimb::test
