@@ -1,5 +1,4 @@
 #include "main_window/personalized_state_frame.h"
-#include "widgets/form_text.h"
 
 #include "contacts/own_state.h"
 #include "widgets/form_layout.h"
