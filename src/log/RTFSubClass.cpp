@@ -1,6 +1,5 @@
 #include "log/RTFSubClass.h"
 
-#include "log/link_finder.h"
 #include "log/rich_text_log.h"
 
 #include <algorithm>
@@ -33,11 +32,10 @@ bool RTFSubClass::isHooked(const RichTextLogEdit &control) const
                        [&control](const Hook &entry) { return entry.control == &control; });
 }
 
-/// The log holds links that may be opened and no others; the target is judged once more all the same.
+/// The target is whole and cut already: the log holds what its search for links allows and nothing else.
 void RTFSubClass::RichTextHookProc(const QUrl &target)
 {
-    if (const std::optional<QUrl> allowed = linkTarget(QString::fromLatin1(target.toEncoded())))
-        m_opener.open(*allowed);
+    m_opener.open(target);
 }
 
 } // namespace nimb

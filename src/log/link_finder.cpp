@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <set>
 #include <string_view>
 
@@ -606,14 +607,6 @@ std::vector<Link> findLinks(QStringView line)
     for (auto link = scanner.next(0); link; link = scanner.next(link->end))
         links.push_back({link->start, link->end - link->start, targetOf(line, *link)});
     return links;
-}
-
-std::optional<QUrl> linkTarget(QStringView text)
-{
-    const std::optional<FoundLink> link = LinkScanner(text).next(0);
-    if (!link || link->start != 0 || link->end != text.size())
-        return std::nullopt;
-    return targetOf(text, *link);
 }
 
 QString readableAddress(const QUrl &target)

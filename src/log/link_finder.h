@@ -5,7 +5,6 @@
 #include <QStringView>
 #include <QUrl>
 
-#include <optional>
 #include <vector>
 
 namespace nimb
@@ -15,17 +14,15 @@ namespace nimb
 struct Link {
     qsizetype start = 0;
     qsizetype length = 0; ///< in UTF-16 units, like start
-    QUrl target;          ///< what linkTarget says of the link's text
+    /// What a click opens: the link's text cut at 1023 characters, with "http://" before "www." and everything encoded
+    /// that an address cannot hold, which may make it longer again.
+    QUrl target;
 };
 
 /// The links of one complete line of plain text, from left to right: http, https, ftp and mailto addresses, and what
 /// begins with "www.". An address that names a user ("http://user@host") is none, nor is any part of it. The time
 /// taken grows with the length of the line and not faster, whatever the line holds.
 std::vector<Link> findLinks(QStringView line);
-
-/// What a link's text opens: the text cut at 1023 characters, with "http://" before "www." and everything encoded that
-/// an address cannot hold. Nothing for a text that is not one whole link, for that must not be opened.
-std::optional<QUrl> linkTarget(QStringView text);
 
 /// The full address to read before clicking. All of it is encoded but the host, which is in its punycode form only
 /// where it mixes scripts that no language mixes, or where it holds symbols.

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,6 +33,15 @@ std::vector<std::string> opened(QStringView line)
     for (const Link &link : findLinks(line))
         found.push_back(link.target.toEncoded().toStdString());
     return found;
+}
+
+/// What a text opens that is one whole link, as links are in the logs.
+std::optional<QUrl> linkTarget(QStringView text)
+{
+    const std::vector<Link> links = findLinks(text);
+    if (links.size() != 1 || links[0].length != text.size())
+        return std::nullopt;
+    return links[0].target;
 }
 
 /// What is read before the only link of a line is clicked.
