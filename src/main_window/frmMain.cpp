@@ -12,6 +12,7 @@
 #include "widgets/file_dialogs.h"
 #include "widgets/form_layout.h"
 #include "widgets/form_text.h"
+#include "widgets/keyed_selection.h"
 #include "widgets/pictures.h"
 #include "widgets/twips.h"
 
@@ -218,7 +219,7 @@ void frmMain::connectMenus()
 
 void frmMain::connectContacts()
 {
-    ListView1->setModel(&m_engine->contacts);
+    setModelOfKeyedRows(*ListView1, m_engine->contacts);
     connect(ListView1, &ContactView::contactOpened, this, &frmMain::ListView1_DblClick);
     connect(ListView1, &ContactView::pointedAt, this, &frmMain::ListView1_MouseMove);
     connect(ListView1, &ContactView::menuWanted, this, &frmMain::mnuPopUp_Show);

@@ -15,8 +15,11 @@ inline void setModelOfKeyedRows(QAbstractItemView &view, QAbstractItemModel &mod
     QObject::connect(&model, &QAbstractItemModel::rowsAboutToBeRemoved, &view,
                      [&view](const QModelIndex &, int first, int last) {
                          const QModelIndex current = view.currentIndex();
-                         if (current.isValid() && current.row() >= first && current.row() <= last)
-                             view.selectionModel()->clear();
+                         if (!current.isValid() || current.row() < first || current.row() > last)
+                             return;
+                         view.selectionModel()->clear();
+                         // Said outright, or the view would mark its first row when the focus comes back.
+                         view.setCurrentIndex({});
                      });
     view.setModel(&model);
 }

@@ -269,6 +269,38 @@ TEST_F(FrmMain, RemovingAsksAndRemoves)
     EXPECT_EQ(windows.list().model()->rowCount(), 2);
 }
 
+TEST_F(FrmMain, AfterARemovalNobodyIsSelectedAndEnterActsOnNobody)
+{
+    windows.click(1);
+    windows.entry("mnuRemoveUser").trigger();
+    ASSERT_EQ(windows.list().model()->rowCount(), 2);
+    EXPECT_FALSE(windows.list().selectionModel()->hasSelection());
+    EXPECT_FALSE(windows.entry("mnuRemoveUser").isEnabled());
+    QTest::keyClick(&windows.list(), Qt::Key_Return);
+    EXPECT_THAT(RealWindows::privateWindows(), IsEmpty());
+}
+
+TEST_F(FrmMain, TheListThatGetsTheFocusBackAfterARemovalSelectsNobody)
+{
+    windows.click(1);
+    windows.list().clearFocus();
+    windows.entry("mnuRemoveUser").trigger();
+    windows.list().setFocus(Qt::ActiveWindowFocusReason);
+    ASSERT_TRUE(windows.list().hasFocus());
+    EXPECT_FALSE(windows.list().selectionModel()->hasSelection());
+    QTest::keyClick(&windows.list(), Qt::Key_Return);
+    EXPECT_THAT(RealWindows::privateWindows(), IsEmpty());
+}
+
+TEST_F(FrmMain, RemovingSomebodyElseKeepsTheSelection)
+{
+    windows.click(1);
+    windows.engine.contacts().remove(QStringLiteral("10.0.0.2"));
+    EXPECT_TRUE(windows.list().selectionModel()->isRowSelected(0));
+    QTest::keyClick(&windows.list(), Qt::Key_Return);
+    EXPECT_EQ(windows.privateWindow().windowTitle(), QStringLiteral("Ben - NIMB-Chat - Private Chat Window"));
+}
+
 TEST_F(FrmMain, CommandsWithoutSelectionDoNothing)
 {
     windows.list().clearSelection();
