@@ -154,8 +154,8 @@ void ContactList::load(const SettingsStore &store)
             return;
         Contact contact;
         contact.ip = ip;
-        contact.nickname = remoteName(store.read(usersSection, QLatin1String("Nn") + number, unknownName));
-        contact.workstation = remoteName(store.read(usersSection, QLatin1String("Ws") + number, unknownName));
+        contact.nickname = nameOrUnknown(store.read(usersSection, QLatin1String("Nn") + number, {}));
+        contact.workstation = nameOrUnknown(store.read(usersSection, QLatin1String("Ws") + number, {}));
         contact.sortKey = sortPrefix(Picture::yellow) + contact.nickname;
         add(std::move(contact));
     }

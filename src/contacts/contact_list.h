@@ -34,7 +34,7 @@ struct Contact {
     void setPresence(Picture presence);
 };
 
-/// A name as a peer wrote it, made fit for a row.
+/// A name as a peer wrote it, made fit for a row; unknownName when it is empty.
 QString nameOrUnknown(const QString &remote);
 
 /// Keyed rows, no two with the same address, sorted ascending on the sort key by code point; equal keys keep the
