@@ -91,11 +91,15 @@ void NotifySlide::startTimer()
 
 void NotifySlide::TimerShow_Timer()
 {
+    const NotifyView::Measures now = m_view->measures();
     if (m_common.options.NotifyWin != 1) {
         m_timerShow->stop();
-        return m_list.clear();
+        m_list.clear();
+        // Switched off while it rises or is shown, it must not stay there.
+        if (m_top < now.screenHeight)
+            dismiss();
+        return;
     }
-    const NotifyView::Measures now = m_view->measures();
     m_left = now.screenWidth - now.windowWidth - distanceFromRight;
     if (m_top > now.screenHeight - now.windowHeight - distanceFromBottom) {
         m_top -= step;
@@ -111,16 +115,12 @@ void NotifySlide::TimerNotify_Timer()
     // What has come in the last moment is about to start the five seconds anew.
     if (m_timerShow->isActive() && m_common.options.NotifyWin == 1)
         return;
-    m_list.clear();
-    park();
+    dismiss();
 }
 
 void NotifySlide::closebtn_Click()
 {
-    m_timerShow->stop();
-    m_timerNotify->stop();
-    m_list.clear();
-    park();
+    dismiss();
 }
 
 void NotifySlide::screenChanged()
@@ -133,6 +133,14 @@ void NotifySlide::screenChanged()
     m_left = now.screenWidth - now.windowWidth - distanceFromRight;
     m_top = now.screenHeight - now.windowHeight - distanceFromBottom;
     move();
+}
+
+void NotifySlide::dismiss()
+{
+    m_timerShow->stop();
+    m_timerNotify->stop();
+    m_list.clear();
+    park();
 }
 
 void NotifySlide::park()

@@ -70,6 +70,7 @@ public:
 private:
     void TimerShow_Timer();
     void TimerNotify_Timer();
+    void dismiss();
     void park();
     void move();
 
