@@ -30,7 +30,7 @@ void moveAll(TransferList &from, TransferList &to)
 
 wire::SharedContact sharedContact(const Contact &contact)
 {
-    return {wire::Identity{toWire(contact.ip), toWire(contact.workstation), toWire(contact.nickname)}};
+    return {wire::Identity{toWire(contact.ip), toWire(oneWord(contact.workstation)), toWire(contact.nickname)}};
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "platform/own_identity.h"
 
 #include "platform/datagram_socket.h"
+#include "protocol/wire_text.h"
 
 #include <QHostInfo>
 #include <QNetworkInterface>
@@ -81,10 +82,9 @@ QString ownAddress(const std::optional<QString> &fixed)
 QString ownHostName(const std::optional<QString> &fixed)
 {
     for (const QString &name : {fixed.value_or(QString()), QSysInfo::machineHostName(), QHostInfo::localHostName()}) {
-        // A space would end the field in a datagram.
-        QString oneWord = name.simplified().replace(QLatin1Char(' '), QLatin1Char('-'));
-        if (!oneWord.isEmpty())
-            return oneWord;
+        QString word = oneWord(name);
+        if (!word.isEmpty())
+            return word;
     }
     return QStringLiteral("localhost");
 }

@@ -91,4 +91,9 @@ QString fromWire(std::string_view bytes)
     return text;
 }
 
+QString oneWord(const QString &name)
+{
+    return name.simplified().replace(QLatin1Char(' '), QLatin1Char('-'));
+}
+
 } // namespace nimb

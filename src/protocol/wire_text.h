@@ -18,4 +18,8 @@ std::string toWire(const QString &text);
 /// well-formed text. To be used field by field, never on a whole datagram with fields of several peers.
 QString fromWire(std::string_view bytes);
 
+/// A name as a field that is not the last one of a datagram, where a blank would begin the next field: blanks become
+/// hyphens, those at the ends go.
+QString oneWord(const QString &name);
+
 } // namespace nimb

@@ -67,6 +67,7 @@ TEST(OwnIdentity, AMalformedFixedAddressIsNotTakenOver)
 TEST(OwnIdentity, TheFixedHostNameWins)
 {
     EXPECT_EQ(ownHostName("PC-ANN"), "PC-ANN");
+    EXPECT_EQ(ownHostName(" Ann's  PC "), "Ann's-PC");
 }
 
 TEST(OwnIdentity, WithoutAFixedHostNameItIsTheSystems)

@@ -85,5 +85,13 @@ TEST(WireText, EveryWellFormedTextComesBack)
     }
 }
 
+TEST(OneWord, HasHyphensForBlanksAndNoneAtTheEnds)
+{
+    EXPECT_EQ(oneWord(QStringLiteral("PC-ANN")), QStringLiteral("PC-ANN"));
+    EXPECT_EQ(oneWord(QStringLiteral(" Ann's \t old\u00A0PC ")), QStringLiteral("Ann's-old-PC"));
+    EXPECT_EQ(oneWord(QStringLiteral(" ")), QString());
+    EXPECT_EQ(oneWord({}), QString());
+}
+
 } // namespace
 } // namespace nimb
