@@ -6,6 +6,9 @@
 namespace nimb
 {
 
+/// The title of a box that is about the program and not about one of its windows.
+inline const QString programTitle = QStringLiteral("NIMB-Chat");
+
 class Prompts
 {
 public:

@@ -231,11 +231,10 @@ bool Conference::Form_QueryUnload(UnloadMode mode)
 {
     if (mode != UnloadMode::closeBox)
         return true;
-    const QString title = QStringLiteral("NIMB-Chat");
     if (isHostedHere())
         return m_participants.rowCount() < 2
-            || m_services.prompts.ask(tr("Closing that window will terminate the conference. Proceed?"), title);
-    return m_terminated || m_services.prompts.ask(tr("Leave the conference?"), title);
+            || m_services.prompts.ask(tr("Closing that window will terminate the conference. Proceed?"), programTitle);
+    return m_terminated || m_services.prompts.ask(tr("Leave the conference?"), programTitle);
 }
 
 void Conference::Form_Unload(bool sayGoodbye)

@@ -42,7 +42,7 @@ int ConferenceTable::CreateNewConfWin(bool host, std::int16_t ChnNum, const QStr
 void ConferenceTable::mnuCreateNewConf()
 {
     if (CreateNewConfWin(true, 0, m_services.common.ownIP) < 1)
-        m_services.prompts.tell(tr("Sorry, conf windows are over!!!"), QStringLiteral("NIMB-Chat"));
+        m_services.prompts.tell(tr("Sorry, conf windows are over!!!"), programTitle);
 }
 
 void ConferenceTable::mnuInvite2Conf(int slot, const QString &ip)

@@ -83,7 +83,7 @@ void MainWindow::save()
     m_parts.common.mainPlace = m_parts.view.place();
     saveSettings(m_parts.store, m_parts.common, m_parts.ownState.storedValues());
     if (const std::optional<QString> problem = m_parts.store.save())
-        m_parts.prompts.tell(*problem, QStringLiteral("NIMB-Chat"));
+        m_parts.prompts.tell(*problem, programTitle);
 }
 
 } // namespace nimb

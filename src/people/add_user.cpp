@@ -19,7 +19,7 @@ QString AddUser::objection(const QString &nickname, const QString &hostname, con
 bool AddUser::CmdOK_Click(const QString &nickname, const QString &hostname, const QString &ipaddress)
 {
     if (const QString reason = objection(nickname, hostname, ipaddress); !reason.isEmpty()) {
-        m_prompts.tell(reason, tr("NIMB-Chat"));
+        m_prompts.tell(reason, programTitle);
         return false;
     }
     Contact contact;

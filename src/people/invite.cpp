@@ -10,7 +10,7 @@ QString Invite::Form_Load(const QString &selectedAddress)
         m_target = {contact->workstation, contact->nickname};
     } else {
         m_target = {};
-        m_prompts.tell(tr("No user selected!"), tr("NIMB-Chat"));
+        m_prompts.tell(tr("No user selected!"), programTitle);
     }
     return standardText;
 }
@@ -20,7 +20,7 @@ bool Invite::sendbtn_Click(const QString &message)
     const std::optional<QString> missing = m_netSend.send(m_target.computer, message);
     // Nothing of this object may be touched after telling: its dialog may be gone then.
     if (missing)
-        m_prompts.tell(*missing, tr("NIMB-Chat"));
+        m_prompts.tell(*missing, programTitle);
     return !missing;
 }
 

@@ -130,10 +130,9 @@ void frmTipOfTheDay::done(int result)
     const std::optional<QString> problem = Form_Unload();
     // The dialog may be gone when the user has read the message.
     Prompts &prompts = m_prompts;
-    const QString caption = windowTitle();
     QDialog::done(result);
     if (problem)
-        prompts.tell(*problem, caption);
+        prompts.tell(*problem, programTitle);
 }
 
 void frmTipOfTheDay::unload()
