@@ -4,15 +4,12 @@
 namespace nimb
 {
 
-/// How often the task-bar button flashes.
-constexpr int flashCount = 3;
-
 class AttentionView
 {
 public:
     virtual ~AttentionView() = default;
     virtual bool isMinimisedOrInactive() const = 0;
-    /// Flashes the window's task-bar button, the button only, flashCount times at the system's rate.
+    /// Flashes the window's task-bar button, the button only, as often and as fast as the system does.
     virtual void flash() = 0;
 };
 
