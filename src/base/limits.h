@@ -43,7 +43,7 @@ constexpr qsizetype notifications = 100;
 constexpr qsizetype announcementBatch = 64;
 /// How long an announcement waits for answers.
 constexpr std::chrono::milliseconds announcementTime{1000};
-/// At most one automatic reply in this time: two copies that answer each other would never stop.
+/// At most one automatic reply in this time: a flood of messages must not become a flood of answers.
 constexpr std::chrono::milliseconds autoReplyPause{1000};
 /// Time between two attempts to get a port that another program holds.
 constexpr std::chrono::milliseconds bindRetry{5000};

@@ -6,6 +6,7 @@
 #include "base/remote_text.h"
 #include "log/emoticons.h"
 #include "log/message_text.h"
+#include "private_chat/auto_reply.h"
 #include "private_chat/live_type.h"
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
@@ -68,11 +69,14 @@ void PrivateChat::appendMessage(const QString &nick, const QString &body, Colour
 
 void PrivateChat::MessageReceived(const QString &nik, QString &msg)
 {
+    const bool mayBeAnswered = !isAutoReply(msg);
     msg = TrimLeadingBreaks(TrimTrailingBreaks(msg));
     appendMessage(nik, msg, colours::receivedMessage);
     const QDateTime now = m_services.clock.now();
     m_view->setPanel(1, tr("Last message: %1 @ %2").arg(shortDate(now), longTime(now)));
     m_view->setLiveType({});
+    if (!mayBeAnswered)
+        return;
     const AutoReply &reply = m_services.common.autoReply;
     replyAutomatically("BUSY", reply.onBusy, reply.busyText);
     replyAutomatically("AWAY", reply.onAway, reply.awayText);
@@ -83,7 +87,7 @@ void PrivateChat::replyAutomatically(const char *state, bool on, const QString &
     const bool inState = m_services.common.ownState.toUpper() == QLatin1String(state);
     if (!inState || !on || m_autoReplyTimer->isActive())
         return;
-    sendDatagram(m_services.socket, m_rIP, wire::PrivateMessage{toWire(QLatin1String("[AutoReply] ") + text)});
+    sendDatagram(m_services.socket, m_rIP, wire::PrivateMessage{toWire(autoReplyMessage(text))});
     m_autoReplyTimer->start();
 }
 

@@ -43,7 +43,8 @@ public:
 
     /// Sets fonts, empties the log and writes its opening line.
     void preparewindow();
-    /// Appends a received message and answers it automatically where that is switched on. msg is trimmed in place.
+    /// Appends a received message and answers it automatically where that is switched on, unless it is an automatic
+    /// reply itself. msg is trimmed in place.
     void MessageReceived(const QString &nik, QString &msg);
     /// Shows for a moment what the peer is doing.
     void showPeerActivity(const QString &text);
