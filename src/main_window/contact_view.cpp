@@ -166,6 +166,7 @@ QString ContactView::addressAt(const QPoint &position) const
 void ContactView::mousePressEvent(QMouseEvent *event)
 {
     m_pressed = event->button();
+    m_pressedAddress = addressAt(event->position().toPoint());
     QTreeView::mousePressEvent(event);
 }
 
@@ -178,9 +179,11 @@ void ContactView::mouseReleaseEvent(QMouseEvent *event)
 
 void ContactView::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    QTreeView::mouseDoubleClickEvent(event);
+    // Between the two clicks the row may have made room for somebody else.
     const QString ip = addressAt(event->position().toPoint());
-    if (m_pressed == Qt::LeftButton && event->button() == Qt::LeftButton && !ip.isEmpty())
+    const bool opens = m_pressed == Qt::LeftButton && event->button() == Qt::LeftButton && ip == m_pressedAddress;
+    QTreeView::mouseDoubleClickEvent(event);
+    if (opens && !ip.isEmpty())
         Q_EMIT contactOpened(ip);
 }
 

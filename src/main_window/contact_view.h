@@ -44,7 +44,7 @@ public:
     int selectedRow() const;
 
 Q_SIGNALS:
-    /// A double click after a press of the left button, or the Enter key.
+    /// Two clicks of the left button on the same contact, or the Enter key.
     void contactOpened(const QString &ip);
     /// The right button was released, or the menu key pressed.
     void menuWanted(const QPoint &globalPosition);
@@ -67,6 +67,7 @@ private:
     RoomyHeader *m_header;
     QWidget *m_scrollBarRoom;
     Qt::MouseButton m_pressed = Qt::NoButton;
+    QString m_pressedAddress;
 };
 
 } // namespace nimb

@@ -301,6 +301,17 @@ TEST_F(FrmMain, RemovingSomebodyElseKeepsTheSelection)
     EXPECT_EQ(windows.privateWindow().windowTitle(), QStringLiteral("Ben - NIMB-Chat - Private Chat Window"));
 }
 
+TEST_F(FrmMain, ADoubleClickBetweenWhoseClicksTheRowsMoveOpensNobody)
+{
+    windows.click(0);
+    windows.arrive("10.0.0.2", "!STATUS AWAY");
+    ASSERT_EQ(windows.list().model()->index(0, 0).data().toString(), QStringLiteral("Ben"));
+    QTest::mouseDClick(windows.list().viewport(), Qt::LeftButton, {}, windows.placeOf(0));
+    EXPECT_THAT(RealWindows::privateWindows(), IsEmpty());
+    windows.doubleClick(0);
+    EXPECT_EQ(windows.privateWindow().windowTitle(), QStringLiteral("Ben - NIMB-Chat - Private Chat Window"));
+}
+
 TEST_F(FrmMain, CommandsWithoutSelectionDoNothing)
 {
     windows.list().clearSelection();
