@@ -127,7 +127,8 @@ void ConferenceCommands::listed(Conference &conference, const QString &address)
     askForAvatar(address);
 }
 
-/// A participant whom this copy does not know becomes a contact, and is asked for its name.
+/// A participant whom this copy does not know becomes a contact, and is asked for its name unless that would tell of
+/// somebody who is invisible.
 void ConferenceCommands::greet(const QString &address)
 {
     Contact contact;
@@ -136,6 +137,8 @@ void ConferenceCommands::greet(const QString &address)
     contact.workstation = unknownName;
     contact.setPresence(Picture::green);
     m_parts.contacts.add(std::move(contact));
+    if (m_parts.common.isInvisible())
+        return;
     m_parts.sender.question(address);
     m_parts.sender.statusUnlessOnline(address);
 }

@@ -373,6 +373,17 @@ TEST_F(ConferenceTest, AnUnknownParticipantBecomesAContactAndIsGreeted)
     EXPECT_THAT(rows(conference), ElementsAre("Me (you) green", "Ann green", "Zoe green"));
 }
 
+TEST_F(ConferenceTest, WhoIsInvisibleTellsNoUnknownParticipantSo)
+{
+    Conference &conference = join(3);
+    copy.engine.ownState().choose(4);
+    copy.sent();
+    copy.arrive("10.0.0.2", "!CONF USERS #3 10.0.0.2 10.0.0.99");
+    EXPECT_THAT(rows(conference), ElementsAre("Me (you) green", "Ann green", "(unknown) green"));
+    EXPECT_TRUE(copy.knows("10.0.0.99"));
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "?AVATARHEAD"), To("10.0.0.99", "?AVATARHEAD")));
+}
+
 TEST_F(ConferenceTest, ListsAreTakenFromTheHostAlone)
 {
     Conference &conference = join(3);
