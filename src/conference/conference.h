@@ -50,6 +50,7 @@ public:
     /// The host has closed it, or has removed this copy from it.
     bool isTerminated() const { return m_terminated; }
     Participants &partecipanti() { return m_participants; }
+    const Participants &partecipanti() const { return m_participants; }
     ConferenceView &view() { return *m_view; }
 
     /// Empties the log and writes its opening line.

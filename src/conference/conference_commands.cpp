@@ -162,6 +162,7 @@ void ConferenceCommands::operator()(const wire::ConferenceLeave &leave)
 
 void ConferenceCommands::operator()(const wire::ConferenceClose &close)
 {
+    m_parts.conferences.forgetGuestship(m_ip, close.id);
     const bool invited = m_parts.invitations.list().rowOf(m_ip, close.id) >= 0;
     Conference *const conference = isHostsNumber(close.id) ? m_parts.conferences.joined(m_ip, close.id) : nullptr;
     if (!invited && !conference)
@@ -169,6 +170,17 @@ void ConferenceCommands::operator()(const wire::ConferenceClose &close)
     m_parts.invitations.closed(m_ip, close.id);
     if (conference)
         conference->terminate();
+}
+
+/// Whether what a participant sends to its host under this origin are its own words. It may know itself by an address
+/// that nobody else sees. Anything else was relayed by a host who takes this copy for a guest: two more such hosts, and
+/// it would go round for ever.
+bool ConferenceCommands::isWritersOwn(const QString &origin, const Conference &conference) const
+{
+    if (origin == m_ip || origin == m_parts.common.ownIP)
+        return true;
+    const bool isSomebodyElses = m_parts.contacts.isContact(origin) || conference.partecipanti().find(origin);
+    return !isSomebodyElses && !m_parts.conferences.mayBeListedBy(m_ip, conference.identity().ConfNum);
 }
 
 /// Whose message it is. A guest sends its own address as the origin, so at the host the writer is who sent it.
@@ -185,10 +197,7 @@ void ConferenceCommands::operator()(const wire::ConferenceMessage &message)
     }
     Conference *const conference = m_parts.conferences.hosted(message.id);
     const Participant *const writer = conference ? conference->partecipanti().find(m_ip) : nullptr;
-    // Another origin was relayed by a host who takes this copy for a guest: two more such hosts, and it would go round
-    // for ever.
-    const bool isWritersOwn = origin == m_ip || origin == m_parts.common.ownIP;
-    if (!writer || !writer->isPresentPeer() || !isWritersOwn)
+    if (!writer || !writer->isPresentPeer() || !isWritersOwn(origin, *conference))
         return drop();
     conference->ReceiveMessage(m_ip, text);
 }

@@ -46,6 +46,7 @@ private:
     void drop() { m_parts.drops.count(Drop::noConference); }
     /// Display name of the sender.
     QString name() const;
+    bool isWritersOwn(const QString &origin, const Conference &conference) const;
     void agreed(Conference &conference);
     void denied(Conference &conference);
     void listed(Conference &conference, const QString &address);

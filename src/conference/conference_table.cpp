@@ -31,6 +31,8 @@ int ConferenceTable::CreateNewConfWin(bool host, std::int16_t ChnNum, const QStr
                                         .ConfServerIP = host ? m_services.common.ownIP : IP,
                                         .ConfNum = ChnNum != 0 ? ChnNum : static_cast<std::int16_t>(slot),
                                         .fConfN = slot};
+    if (!host)
+        m_guestships.insert({identity.ConfServerIP, identity.ConfNum});
     auto &window = m_slots[static_cast<std::size_t>(slot)];
     window = std::make_unique<Conference>(m_services, identity, [this, slot] { unload(slot); });
     window->view().showWindow();

@@ -5,6 +5,8 @@
 #include "conference/conference.h"
 
 #include <array>
+#include <set>
+#include <utility>
 
 namespace nimb
 {
@@ -34,6 +36,12 @@ public:
     /// The window in this slot, or null.
     Conference *at(int slot);
 
+    /// Whether this host may still take this copy for a guest of its conference of this number: windows close here
+    /// without the host's hearing of it.
+    bool mayBeListedBy(const QString &host, int number) const { return m_guestships.contains({host, number}); }
+    /// This host has said that its conference of this number is over for this copy.
+    void forgetGuestship(const QString &host, int number) { m_guestships.erase({host, number}); }
+
     void unloadAll();
 
 private:
@@ -43,6 +51,7 @@ private:
     Conference::Services m_services;
     ConferenceMenuView &m_menu;
     std::array<std::unique_ptr<Conference>, lastSlot + 2> m_slots;
+    std::set<std::pair<QString, int>> m_guestships; ///< host and its number
 };
 
 } // namespace nimb

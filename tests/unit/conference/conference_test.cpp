@@ -238,13 +238,52 @@ TEST_F(ConferenceTest, AMessageWithTheHostsAddressIsOfTheOneWhoSentIt)
     EXPECT_EQ(lines().back(), "Ben> with the host's address");
 }
 
+TEST_F(ConferenceTest, AGuestMayKnowItselfByAnotherAddress)
+{
+    host({"10.0.0.2", "10.0.0.3"});
+    copy.arrive("10.0.0.3", "+192.168.7.3 #1 from a computer with two addresses");
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "+10.0.0.3 #1 from a computer with two addresses")));
+    EXPECT_EQ(lines().back(), "Ben> from a computer with two addresses");
+    const std::size_t before = lines().size();
+    copy.arrive("10.0.0.4", "+192.168.7.4 #1 from somebody who does not take part");
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_THAT(lines(), SizeIs(before));
+}
+
 TEST_F(ConferenceTest, WhatAnotherHostRelaysIsNotRelayedOn)
 {
     host({"10.0.0.2", "10.0.0.3"});
     const std::size_t before = lines().size();
     copy.arrive("10.0.0.3", "+10.0.0.2 #1 of one of Ben's guests");
+    copy.arrive("10.0.0.3", "+10.0.0.4 #1 of a contact of ours");
+    copy.engine.contacts().remove(QStringLiteral("10.0.0.2"));
+    copy.arrive("10.0.0.3", "+10.0.0.2 #1 of one whom only the conference knows");
     EXPECT_THAT(copy.sent(), IsEmpty()) << "hosts that take each other for guests would never end";
     EXPECT_THAT(lines(), SizeIs(before));
+}
+
+TEST_F(ConferenceTest, WhatAHostRelaysWhoMayStillTakeUsForAGuestIsNotRelayedOn)
+{
+    host({"10.0.0.2", "10.0.0.3"});
+    join(1);
+    view(2).conference.closed();
+    copy.sent();
+    const std::size_t before = lines().size();
+    copy.arrive("10.0.0.2", "+10.0.0.77 #1 of a guest of Ann's, who has not heard the farewell");
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_THAT(lines(), SizeIs(before));
+    copy.arrive("10.0.0.2", "!CONF CLOSE #1");
+    copy.arrive("10.0.0.2", "+192.168.7.2 #1 by myself");
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.3", "+10.0.0.2 #1 by myself")));
+    EXPECT_EQ(lines().back(), "Ann> by myself");
+}
+
+TEST_F(ConferenceTest, WhoHostsAnotherNumberMayKnowItselfByAnotherAddress)
+{
+    host({"10.0.0.2"});
+    join(2);
+    copy.arrive("10.0.0.2", "+192.168.7.2 #1 by myself");
+    EXPECT_EQ(lines().back(), "Ann> by myself");
 }
 
 TEST_F(ConferenceTest, WhoIsInvitedAnewDoesNotLeaveByClosingTheOldWindow)
