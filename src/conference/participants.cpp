@@ -79,9 +79,12 @@ void Participants::setAllAbsent()
 void Participants::setName(const QString &ip, const QString &name)
 {
     const int row = rowOf(ip);
-    if (row < 0 || m_rows[static_cast<std::size_t>(row)].name == name)
+    if (row < 0)
         return;
-    m_rows[static_cast<std::size_t>(row)].name = name;
+    Participant &participant = m_rows[static_cast<std::size_t>(row)];
+    if (participant.own || participant.name == name)
+        return;
+    participant.name = name;
     changed(row);
 }
 

@@ -48,6 +48,7 @@ public:
     /// Marks a row, or all but the own one, as not there.
     void setAbsent(const QString &ip);
     void setAllAbsent();
+    /// The own row keeps its name.
     void setName(const QString &ip, const QString &name);
 
     int rowCount(const QModelIndex &parent = {}) const override;

@@ -177,6 +177,18 @@ TEST_F(ConferenceTest, AgreeingAgainBringsTheListAlone)
     EXPECT_THAT(lines(), SizeIs(2));
 }
 
+TEST_F(ConferenceTest, TheOwnRowKeepsItsNameWhateverAContactWithTheOwnAddressIsCalled)
+{
+    Contact self;
+    self.ip = QStringLiteral("10.0.0.1");
+    self.nickname = QStringLiteral("My old self");
+    copy.engine.contacts().add(self);
+    Conference &conference = host();
+    copy.arrive("10.0.0.1", "!ONLINE 10.0.0.1 PC Myself");
+    ASSERT_EQ(copy.contact("10.0.0.1").nickname, QStringLiteral("Myself"));
+    EXPECT_THAT(rows(conference), ElementsAre("Me (you) green"));
+}
+
 // --- colours
 
 TEST_F(ConferenceTest, EverybodyGetsTheLowestFreeColour)
