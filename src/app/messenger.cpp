@@ -17,9 +17,9 @@ Messenger::Messenger(Common &common, const Surroundings &around)
       m_peerFeatures({common, m_contacts, around.socket, m_privateWindows, m_avatars, m_ownAvatar, m_activity,
                       around.sound, around.drops}),
       m_sharedContacts(common, m_contacts, around.drops),
-      m_conferences(
-          {common, around.socket, m_contacts, m_avatars, around.clock, around.prompts, around.conferenceForms},
-          around.mainView),
+      m_conferences({common, around.socket, m_contacts, m_avatars, m_ownAvatar, around.clock, around.prompts,
+                     around.conferenceForms},
+                    around.mainView),
       m_invitations({around.socket, m_contacts, around.timers, around.clock, around.store, m_conferences}),
       m_conferenceCommands(
           {common, around.socket, m_contacts, m_avatars, m_sender, m_conferences, m_invitations, around.drops}),

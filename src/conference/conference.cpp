@@ -209,11 +209,9 @@ void Conference::showAvatar(const QString &name, const std::optional<QByteArray>
 
 void Conference::showOwnAvatar()
 {
-    const Common &common = m_services.common;
-    if (m_avatarLabel == common.ownNickname)
-        return;
-    const bool has = !common.avatarHead.isEmpty() && common.avatarBody.size() == avatarBytes;
-    showAvatar(common.ownNickname, has ? std::optional(common.avatarBody) : std::nullopt);
+    const QString &name = m_services.common.ownNickname;
+    if (m_avatarLabel != name)
+        showAvatar(name, m_services.ownAvatar.picture());
 }
 
 void Conference::showAvatarOf(const QString &ip)

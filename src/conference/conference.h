@@ -9,6 +9,7 @@
 #include "conference/participants.h"
 #include "contacts/avatar_store.h"
 #include "contacts/contact_list.h"
+#include "contacts/own_avatar.h"
 #include "protocol/winsock.h"
 
 #include <QCoreApplication>
@@ -30,6 +31,7 @@ public:
         Winsock &socket;
         const ContactList &contacts;
         const AvatarStore &avatars;
+        OwnAvatar &ownAvatar;
         const WallClock &clock;
         Prompts &prompts;
         ConferenceForms &forms;

@@ -50,6 +50,13 @@ const QByteArray &OwnAvatar::body() const
     return m_frameHead.empty() ? m_common.avatarBody : m_frame;
 }
 
+std::optional<QByteArray> OwnAvatar::picture()
+{
+    takeFrame();
+    const bool has = !head().empty() && body().size() == avatarBytes;
+    return has ? std::optional(body()) : std::nullopt;
+}
+
 void OwnAvatar::answerHead(const QString &ip)
 {
     if (m_common.isInvisible())

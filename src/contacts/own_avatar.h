@@ -27,6 +27,8 @@ public:
     /// What those frames are made of; nothing while peers get the still avatar.
     std::optional<PolledPicture> source() const;
 
+    /// What a peer who asked now would be shown: a picture of avatarBytes bytes, or nothing.
+    std::optional<QByteArray> picture();
     /// A peer asks which avatar there is. Nobody is answered while the own state is Invisible.
     void answerHead(const QString &ip);
     /// A peer asks for the picture. Whether there is one is told by the head.

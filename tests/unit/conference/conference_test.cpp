@@ -614,6 +614,24 @@ TEST_F(ConferenceTest, ShowsTheAvatarOfWhoeverWroteLast)
     EXPECT_EQ(view().picture, QByteArray(7500, 'm'));
 }
 
+TEST_F(ConferenceTest, TheOwnAvatarIsTheOneThatPeersGet)
+{
+    copy.common.avatarHead = QStringLiteral("mine");
+    copy.common.avatarBody = QByteArray(7500, 'm');
+    copy.engine.ownAvatar().setSource(std::make_unique<test::RecorderPictureSource>(Camera{}, std::nullopt));
+    host().sendbtn_Click(QStringLiteral("smile"));
+    EXPECT_EQ(view().avatarLabel, QStringLiteral("Me"));
+    EXPECT_EQ(view().picture, QByteArray(7500, 'f'));
+}
+
+TEST_F(ConferenceTest, WithoutAHeadThereIsNoOwnAvatar)
+{
+    copy.common.avatarBody = QByteArray(7500, 'm');
+    host().sendbtn_Click(QStringLiteral("one"));
+    EXPECT_EQ(view().avatarLabel, QStringLiteral("Me"));
+    EXPECT_FALSE(view().picture);
+}
+
 TEST_F(ConferenceTest, FlashesWhileNobodyLooks)
 {
     copy.common.windowFlashingAvailable = true;
