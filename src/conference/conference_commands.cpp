@@ -67,10 +67,12 @@ void ConferenceCommands::agreed(Conference &conference)
 
 void ConferenceCommands::denied(Conference &conference)
 {
-    if (conference.partecipanti().find(m_ip)->present)
-        return drop();
+    const bool wasPresent = conference.partecipanti().find(m_ip)->present;
     conference.partecipanti().remove(m_ip);
     conference.ReceiveCommand(tr("--- %1 refused to partecipate to conf").arg(name()), colours::banner);
+    // Whoever is invited once more while in the window, and refuses, would be left with one that nobody writes to.
+    if (wasPresent)
+        sendDatagram(m_parts.socket, m_ip, wire::ConferenceClose{conference.identity().ConfNum});
 }
 
 void ConferenceCommands::operator()(const wire::ConferenceListQuestion &question)

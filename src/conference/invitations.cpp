@@ -266,6 +266,13 @@ QString Invitations::setAutorefuseMins(const QString &text)
     return QString::number(m_autorefuseMins);
 }
 
+/// Age ends no conference that the user is in.
+bool Invitations::isToBeAutorefused(const Invitation &invitation) const
+{
+    return m_autorefuse && invitation.minutes >= m_autorefuseMins
+        && !m_services.conferences.joined(invitation.host, invitation.number);
+}
+
 /// The timer rests while nothing is pending.
 void Invitations::Timer1_Timer()
 {
@@ -277,7 +284,7 @@ void Invitations::Timer1_Timer()
         const QDateTime arrived = m_list.rows()[static_cast<std::size_t>(row)].arrived;
         const auto minutes = static_cast<int>(qBound<qint64>(0, arrived.secsTo(now), oldestAge) / 60);
         m_list.setMinutes(row, minutes);
-        if (m_autorefuse && minutes >= m_autorefuseMins) {
+        if (isToBeAutorefused(m_list.rows()[static_cast<std::size_t>(row)])) {
             deny(row);
             m_list.setState(row, Invitation::State::autorefused);
         } else {

@@ -107,6 +107,7 @@ public:
 
 private:
     bool makeRoom(const QString &host);
+    bool isToBeAutorefused(const Invitation &invitation) const;
     void Timer1_Timer();
     void deny(int row);
     void RefreshVisibility();

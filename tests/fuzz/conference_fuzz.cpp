@@ -236,7 +236,7 @@ private:
         require((answer && answer->id == identity.ConfNum) || (leave && leave->id == identity.ConfNum),
                 "only answers and farewells change the host's list");
         if (answer && !answer->agreed)
-            require(!before.rows.at(from), "who is present cannot refuse");
+            require(!after.rows.contains(from), "who refuses is in the list no more");
         if (leave)
             require(before.rows.at(from), "who is not present cannot leave");
     }

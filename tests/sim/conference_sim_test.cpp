@@ -468,8 +468,7 @@ private:
             const auto *leave = std::get_if<wire::ConferenceLeave>(&datagram);
             require((reply && reply->id == number) || (leave && leave->id == number),
                     "the host's list has changed without an answer or farewell" + what);
-            require(!reply || reply->agreed || !before.rows.contains(from) || !before.rows.at(from),
-                    "who was present has refused" + what);
+            require(!reply || reply->agreed || !after.rows.contains(from), "who has refused is still listed" + what);
             require(!leave || (before.rows.contains(from) && before.rows.at(from)),
                     "who was not present has left" + what);
         } else {

@@ -150,12 +150,23 @@ TEST_F(ConferenceTest, ARefusalRemovesTheRow)
     }
 }
 
+TEST_F(ConferenceTest, ARefusalOfSomebodyWhoIsPresentRemovesTheRowToo)
+{
+    Conference &conference = host({"10.0.0.2", "10.0.0.3"});
+    copy.arrive("10.0.0.2", "!CONF INVITE #1 DENY");
+    EXPECT_THAT(rows(conference), ElementsAre("Me (you) green", "Ben green"));
+    EXPECT_EQ(lines().back(), "--- Ann refused to partecipate to conf");
+    EXPECT_EQ(view().log.colourOfLastPiece(), 0xA0A0A0u);
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "!CONF CLOSE #1"))) << "a window of hers would hear nobody";
+    conference.sendbtn_Click(QStringLiteral("hello"));
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.3", "+10.0.0.1 #1 hello")));
+}
+
 TEST_F(ConferenceTest, OnlyTheInvitedAnswer)
 {
     Conference &conference = host({"10.0.0.2"});
     copy.arrive("10.0.0.3", "!CONF INVITE #1 AGREE");
     copy.arrive("10.0.0.3", "!CONF INVITE #1 DENY");
-    copy.arrive("10.0.0.2", "!CONF INVITE #1 DENY");
     copy.arrive("10.0.0.2", "!CONF INVITE #2 AGREE");
     copy.arrive("10.0.0.2", "!CONF INVITE #6 AGREE");
     copy.arrive("10.0.0.2", "!CONF INVITE #0 AGREE");
@@ -166,7 +177,7 @@ TEST_F(ConferenceTest, OnlyTheInvitedAnswer)
     EXPECT_THAT(copy.sent(),
                 ElementsAre(To("10.0.0.3", "!CONF CLOSE #1"), To("10.0.0.2", "!CONF CLOSE #2"),
                             To("10.0.0.2", "!CONF CLOSE #6")));
-    EXPECT_EQ(copy.drops.of(Drop::noConference) + copy.drops.of(Drop::incomplete), 7u);
+    EXPECT_EQ(copy.drops.of(Drop::noConference) + copy.drops.of(Drop::incomplete), 6u);
 }
 
 TEST_F(ConferenceTest, AgreeingAgainBringsTheListAlone)

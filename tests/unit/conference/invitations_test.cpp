@@ -168,6 +168,22 @@ TEST_F(InvitationsTest, ALimitOfZeroRefusesAtTheNextTick)
     EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "!CONF INVITE #3 DENY")));
 }
 
+TEST_F(InvitationsTest, AgeThrowsNobodyOutOfAConference)
+{
+    invitations().setAutorefuse(true);
+    invite("10.0.0.2", 3);
+    invitations().ConfAgreebtn_Click(0);
+    invite("10.0.0.2", 3);
+    copy.sent();
+    copy.advance(10min);
+    EXPECT_THAT(copy.sent(), IsEmpty()) << "a refusal would end the conference that the user is in";
+    EXPECT_THAT(rows(), ElementsAre("IP10.0.0.2:3 green 10 minute(s)"));
+    copy.conference(1).conference.closed();
+    copy.sent();
+    copy.advance(5s);
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "!CONF INVITE #3 DENY")));
+}
+
 TEST_F(InvitationsTest, NoTimerRunsWhileNothingIsPending)
 {
     invite("10.0.0.2", 3);
