@@ -1,6 +1,8 @@
 // The state that the whole program shares. Data only: made once, handed by reference to whoever needs it.
 #pragma once
 
+#include "base/options.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -18,19 +20,6 @@ struct LogFont {
     bool bold() const { return style.contains(u'b'); }
     bool italic() const { return style.contains(u'i'); }
     bool operator==(const LogFont &) const = default;
-};
-
-/// The option flags, 16-bit integers as they are stored. Where only one value has a meaning, every other value
-/// behaves like its opposite.
-struct Options {
-    std::int16_t ShowStatusOnPrivate = 1;
-    std::int16_t BuzzLocal = 0;
-    std::int16_t BuzzRemote = 1;
-    std::int16_t PrivateBehaviour = 0;
-    std::int16_t DontDestroyWindow = 0;
-    std::int16_t NotifyWin = 1;
-    std::int16_t LiveType = 1;
-    std::int16_t CloseButtonDoesMinimize = 0;
 };
 
 /// Where the main window stands: its frame's corner and its height without the frame, in twips.
@@ -73,6 +62,8 @@ struct Common {
     bool buzzmute = false;
 
     bool isInvisible() const { return ownState == QLatin1String("Invisible"); }
+    bool hearsOwnBuzz() const { return options.playOwnBuzz && !buzzmute; }
+    bool hearsReceivedBuzz() const { return options.playReceivedBuzz && !buzzmute; }
 };
 
 } // namespace nimb

@@ -12,7 +12,7 @@ namespace nimb
 inline void sendBuzz(const Common &common, Winsock &socket, Sound &sound, const QString &ip)
 {
     sendDatagram(socket, ip, wire::Buzz{});
-    if (common.options.BuzzLocal == 1 && !common.buzzmute)
+    if (common.hearsOwnBuzz())
         sound.playAlarm();
 }
 

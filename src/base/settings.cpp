@@ -17,21 +17,7 @@ namespace nimb
 namespace
 {
 
-/// Where a 16-bit option is kept while the program runs, in the order of loading and saving.
-struct OptionMember {
-    const char *key;
-    std::int16_t Options::*member;
-};
-constexpr std::array optionMembers = {
-    OptionMember{"ShowStatusOnPrivate", &Options::ShowStatusOnPrivate},
-    OptionMember{"BuzzLocal", &Options::BuzzLocal},
-    OptionMember{"BuzzRemote", &Options::BuzzRemote},
-    OptionMember{"PrivateBehaviour", &Options::PrivateBehaviour},
-    OptionMember{"DontDestroyWindow", &Options::DontDestroyWindow},
-    OptionMember{"NotifyWin", &Options::NotifyWin},
-    OptionMember{"LiveType", &Options::LiveType},
-    OptionMember{"CloseButtonDoesMinimize", &Options::CloseButtonDoesMinimize},
-};
+const QLatin1String optionSection("Options");
 
 QString personalizedStateKey(int number)
 {
@@ -48,19 +34,16 @@ public:
 
     template <class Number> Number number(const char *key, Number lowest, Number highest)
     {
-        const QString stored = text(key);
-        bool isNumber = false;
-        const double value = QLocale::c().toDouble(stored.trimmed(), &isNumber);
-        const bool whole = std::is_floating_point_v<Number> || value == std::floor(value);
-        if (isNumber && std::isfinite(value) && whole && value >= double(lowest) && value <= double(highest))
-            return static_cast<Number>(value);
-        return reject<Number>(key, stored);
+        return numberOf(key, text(key), QLatin1String(settingKey(QLatin1String(key)).defaultValue), lowest, highest);
     }
 
-    std::int16_t integer16(const char *key)
+    std::int16_t integer16(const char *key) { return number<std::int16_t>(key, Range16::min(), Range16::max()); }
+
+    Switch option(const OptionRow &row)
     {
-        using Range = std::numeric_limits<std::int16_t>;
-        return number<std::int16_t>(key, Range::min(), Range::max());
+        const QString fallback = QString::number(row.defaultValue().number());
+        const QString stored = m_store.read(optionSection, QLatin1String(row.key), fallback);
+        return Switch::ofNumber(numberOf(row.key, stored, fallback, Range16::min(), Range16::max()));
     }
 
     /// Twips; no screen is wider than a million of them.
@@ -69,9 +52,16 @@ public:
     bool flag(const char *key) { return number<double>(key, -1e9, 1e9) != 0; }
 
 private:
-    template <class Number> Number reject(const char *key, const QString &stored)
+    using Range16 = std::numeric_limits<std::int16_t>;
+
+    template <class Number>
+    Number numberOf(const char *key, const QString &stored, const QString &fallback, Number lowest, Number highest)
     {
-        const QString fallback = QLatin1String(settingKey(QLatin1String(key)).defaultValue);
+        bool isNumber = false;
+        const double value = QLocale::c().toDouble(stored.trimmed(), &isNumber);
+        const bool whole = std::is_floating_point_v<Number> || value == std::floor(value);
+        if (isNumber && std::isfinite(value) && whole && value >= double(lowest) && value <= double(highest))
+            return static_cast<Number>(value);
         m_notices.append(
             QCoreApplication::translate("Settings", "The stored setting %1 cannot be \"%2\"; %3 is used instead.")
                 .arg(QLatin1String(key), remoteLine(stored.left(40)), fallback));
@@ -126,8 +116,8 @@ LoadedSettings loadSettings(const SettingsStore &store, Common &common)
     common.mainPlace.top = read.twips("MainTop");
     common.mainPlace.height = read.twips("MainHeight");
     common.udpPort = read.number<std::uint16_t>("UDPPort", 1, 65535);
-    for (const OptionMember &option : optionMembers)
-        common.options.*option.member = read.integer16(option.key);
+    for (const OptionRow &row : optionRows)
+        common.options.*row.member = read.option(row);
     common.avatarHead = read.text("AvatarHead");
     common.avatarBody = read.text("AvatarBody").toLatin1();
     if (common.avatarBody.size() != avatarBytes)
@@ -150,8 +140,8 @@ void saveSettings(SettingsStore &store, const Common &common, const QStringList 
     const auto write
         = [&store](const char *key, const QString &value) { writeSetting(store, QLatin1String(key), value); };
     write("UDPPort", QString::number(common.udpPort));
-    for (const OptionMember &option : optionMembers)
-        write(option.key, QString::number(common.options.*option.member));
+    for (const OptionRow &row : optionRows)
+        store.write(optionSection, QLatin1String(row.key), QString::number((common.options.*row.member).number()));
     write("MainLeft", numberText(common.mainPlace.left));
     write("MainTop", numberText(common.mainPlace.top));
     write("MainHeight", numberText(common.mainPlace.height));

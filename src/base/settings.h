@@ -29,7 +29,8 @@ struct SettingKey {
     const char *meaning;
 };
 
-/// The whole store but for the contact list: section "Users", keys "IP", "Nn" and "Ws" followed by 1, 2, ...
+/// The whole store but for the options (base/options.h) and the contact list: section "Users", keys "IP", "Nn" and "Ws"
+/// followed by 1, 2, ...
 /// "PersonalizedState" stands for eight keys, followed by 1 to 8.
 inline constexpr std::array settingKeys = {
     SettingKey{"Settings", "MyNickName", SettingType::text, "", "last nickname used"},
@@ -37,17 +38,6 @@ inline constexpr std::array settingKeys = {
     SettingKey{"Settings", "MainTop", SettingType::single, "1000", "top edge of the main window, twips"},
     SettingKey{"Settings", "MainHeight", SettingType::single, "6200", "height of the main window, twips"},
     SettingKey{"Settings", "UDPPort", SettingType::integer32, "5549", "port to listen on and to send to"},
-    SettingKey{"Options", "ShowStatusOnPrivate", SettingType::integer16, "1", "1: presence lines in private windows"},
-    SettingKey{"Options", "BuzzLocal", SettingType::integer16, "0", "1: own buzzes sound here too"},
-    SettingKey{"Options", "BuzzRemote", SettingType::integer16, "1", "1: received buzzes sound"},
-    SettingKey{"Options", "PrivateBehaviour", SettingType::integer16, "0",
-               "1: a private window that a peer opens comes on top; otherwise minimised"},
-    SettingKey{"Options", "DontDestroyWindow", SettingType::integer16, "0",
-               "1: a closed private window is gone; otherwise only hidden"},
-    SettingKey{"Options", "NotifyWin", SettingType::integer16, "1", "1: the notification pop-up is used"},
-    SettingKey{"Options", "LiveType", SettingType::integer16, "1", "1: live typing is on in new private windows"},
-    SettingKey{"Options", "CloseButtonDoesMinimize", SettingType::integer16, "0",
-               "1: the main window's close box hides it"},
     SettingKey{"Settings", "AvatarHead", SettingType::text, "", "time stamp of the own avatar, empty for none"},
     SettingKey{"Settings", "AvatarBody", SettingType::avatarData, "", "the own avatar, 7500 bytes"},
     SettingKey{"Settings", "AutoReplyonBusyActive", SettingType::flag, "0", "automatic reply while busy"},

@@ -108,7 +108,7 @@ void Presence::notify(const Notification &notification)
 
 void Presence::tellPrivateWindow(const Contact &contact, const QString &sentence)
 {
-    if (contact.privateWindow <= 0 || m_common.options.ShowStatusOnPrivate != 1 || m_common.announcing)
+    if (contact.privateWindow <= 0 || !m_common.options.presenceLines || m_common.announcing)
         return;
     const QDateTime now = m_clock.now();
     const QString opening = QStringLiteral("[%1 @ %2] ").arg(shortDate(now), shortTime(now));

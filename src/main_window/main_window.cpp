@@ -41,7 +41,7 @@ void MainWindow::loadSettings(QStringList &notices)
 
 CloseDecision MainWindow::Form_QueryUnload(UnloadMode mode)
 {
-    if (mode != UnloadMode::closeBox || m_parts.common.options.CloseButtonDoesMinimize != 1)
+    if (mode != UnloadMode::closeBox || !m_parts.common.options.closeBoxHides)
         return CloseDecision::unload;
     if (m_parts.tray.isShown())
         return CloseDecision::hide;

@@ -92,7 +92,7 @@ void NotifySlide::startTimer()
 void NotifySlide::TimerShow_Timer()
 {
     const NotifyView::Measures now = m_view->measures();
-    if (m_common.options.NotifyWin != 1) {
+    if (!m_common.options.notifyWindow) {
         m_timerShow->stop();
         m_list.clear();
         // Switched off while it rises or is shown, it must not stay there.
@@ -113,7 +113,7 @@ void NotifySlide::TimerShow_Timer()
 void NotifySlide::TimerNotify_Timer()
 {
     // What has come in the last moment is about to start the five seconds anew.
-    if (m_timerShow->isActive() && m_common.options.NotifyWin == 1)
+    if (m_timerShow->isActive() && m_common.options.notifyWindow)
         return;
     dismiss();
 }

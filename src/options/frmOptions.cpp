@@ -9,6 +9,7 @@
 #include "widgets/form_text.h"
 #include "widgets/pictures.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -103,41 +104,22 @@ void frmOptions::buildControls()
 QGroupBox *frmOptions::makeSounds()
 {
     auto *const group = new QGroupBox(tr("Sounds and notices"), this);
-    localbuzz = named(new QCheckBox(tr("Disable sound on &local BUZZ"), group), "localbuzz");
-    remotebuzz = named(new QCheckBox(tr("Disable sound on &remote BUZZ"), group), "remotebuzz");
-    DisableNotify = named(new QCheckBox(tr("Disable &notify window"), group), "DisableNotify");
-    DisableNotify->setToolTip(tr("Ticked: nothing slides in when a contact comes or goes"));
-    QVBoxLayout *const column = columnOf(group);
-    for (QCheckBox *const box : {localbuzz, remotebuzz, DisableNotify})
-        column->addWidget(box);
+    addOptions(OptionGroup::sounds, *columnOf(group));
     return group;
 }
 
 QGroupBox *frmOptions::makePrivateWindows()
 {
     auto *const group = new QGroupBox(tr("Private windows"), this);
-    showminimized
-        = named(new QRadioButton(tr("Open private chat window &minimized (default)"), group), "showminimized");
-    showontop = named(new QRadioButton(tr("Show private chat window on &top"), group), "showontop");
-    statusonprivate = named(new QCheckBox(tr("&Suppress messages of status change in private message window"), group),
-                            "statusonprivate");
-    PrivateDestroyonClose
-        = named(new QCheckBox(tr("Closing a private window only hides it and &keeps its messages"), group),
-                "PrivateDestroyonClose");
-    disablelivetype = named(new QCheckBox(tr("LiveType &disabled by default"), group), "disablelivetype");
-    QVBoxLayout *const column = columnOf(group);
-    for (QAbstractButton *const button : std::initializer_list<QAbstractButton *>{
-             showminimized, showontop, statusonprivate, PrivateDestroyonClose, disablelivetype})
-        column->addWidget(button);
+    addOptions(OptionGroup::privateWindows, *columnOf(group));
     return group;
 }
 
 QGroupBox *frmOptions::makeProgram()
 {
     auto *const group = new QGroupBox(tr("Main window and network"), this);
-    XtoMinimizeCheck
-        = named(new QCheckBox(tr("The &close box hides the main window (the tray icon brings it back)"), group),
-                "XtoMinimizeCheck");
+    QVBoxLayout *const column = columnOf(group);
+    addOptions(OptionGroup::mainWindow, *column);
     UDPPorttxt = named(new QLineEdit(group), "UDPPorttxt");
     UDPPorttxt->setFixedWidth(80);
     auto *const caption = new QLabel(tr("UDP &port:"), group);
@@ -147,10 +129,39 @@ QGroupBox *frmOptions::makeProgram()
     port->addWidget(caption);
     port->addWidget(UDPPorttxt);
     port->addWidget(note(tr("A change takes effect at the next start."), group), 1);
-    QVBoxLayout *const column = columnOf(group);
-    column->addWidget(XtoMinimizeCheck);
     column->addLayout(port);
     return group;
+}
+
+void frmOptions::addOptions(OptionGroup group, QVBoxLayout &column)
+{
+    for (const bool choices : {true, false}) {
+        for (const OptionRow &row : optionRows) {
+            if (row.group == group && (row.opposite.name != nullptr) == choices)
+                addOption(row, column);
+        }
+    }
+}
+
+void frmOptions::addOption(const OptionRow &row, QVBoxLayout &column)
+{
+    QWidget *const parent = column.parentWidget();
+    QAbstractButton *box = nullptr;
+    if (row.opposite.name) {
+        auto *const opposite = named(new QRadioButton(tr(row.opposite.caption), parent), row.opposite.name);
+        box = named(new QRadioButton(tr(row.box.caption), parent), row.box.name);
+        auto *const choice = new QButtonGroup(parent);
+        choice->addButton(opposite);
+        choice->addButton(box);
+        opposite->setChecked(true);
+        column.addWidget(opposite);
+    } else {
+        box = named(new QCheckBox(tr(row.box.caption), parent), row.box.name);
+    }
+    if (row.toolTip)
+        box->setToolTip(tr(row.toolTip));
+    column.addWidget(box);
+    m_options.push_back({&row, box});
 }
 
 QGroupBox *frmOptions::makeFont()
@@ -224,14 +235,8 @@ void frmOptions::connectControls()
 void frmOptions::Form_Load()
 {
     const OptionControls now = m_values.Form_Load();
-    localbuzz->setChecked(now.localbuzz);
-    remotebuzz->setChecked(now.remotebuzz);
-    statusonprivate->setChecked(now.statusonprivate);
-    PrivateDestroyonClose->setChecked(now.PrivateDestroyonClose);
-    DisableNotify->setChecked(now.DisableNotify);
-    disablelivetype->setChecked(now.disablelivetype);
-    (now.showontop ? showontop : showminimized)->setChecked(true);
-    XtoMinimizeCheck->setChecked(now.XtoMinimizeCheck);
+    for (const ShownOption &shown : m_options)
+        shown.box->setChecked(shown.row->isTicked(now.options));
     UDPPorttxt->setText(now.UDPPorttxt);
     m_font = now.font;
     showFont();
@@ -260,14 +265,8 @@ QRadioButton *frmOptions::avatarButton(AvatarChoice choice) const
 OptionControls frmOptions::controls() const
 {
     OptionControls now;
-    now.localbuzz = localbuzz->isChecked();
-    now.remotebuzz = remotebuzz->isChecked();
-    now.statusonprivate = statusonprivate->isChecked();
-    now.PrivateDestroyonClose = PrivateDestroyonClose->isChecked();
-    now.DisableNotify = DisableNotify->isChecked();
-    now.disablelivetype = disablelivetype->isChecked();
-    now.showontop = showontop->isChecked();
-    now.XtoMinimizeCheck = XtoMinimizeCheck->isChecked();
+    for (const ShownOption &shown : m_options)
+        shown.row->setTicked(now.options, shown.box->isChecked());
     now.UDPPorttxt = UDPPorttxt->text();
     now.font = m_font;
     now.loaded = m_loadedPicture;

@@ -7,7 +7,9 @@
 
 #include <QDialog>
 
-class QCheckBox;
+#include <vector>
+
+class QAbstractButton;
 class QComboBox;
 class QGroupBox;
 class QLabel;
@@ -15,6 +17,7 @@ class QLineEdit;
 class QMimeData;
 class QPushButton;
 class QRadioButton;
+class QVBoxLayout;
 
 namespace nimb
 {
@@ -41,6 +44,9 @@ private:
     QGroupBox *makeProgram();
     QGroupBox *makeFont();
     QGroupBox *makeAvatar();
+    /// Adds the options of that group, the choices between two buttons first.
+    void addOptions(OptionGroup group, QVBoxLayout &column);
+    void addOption(const OptionRow &row, QVBoxLayout &column);
     void connectControls();
     void Form_Load();
 
@@ -57,21 +63,19 @@ private:
     QRadioButton *avatarButton(AvatarChoice choice) const;
     OptionControls controls() const;
 
+    /// How a row of the options is shown.
+    struct ShownOption {
+        const OptionRow *row;
+        QAbstractButton *box;
+    };
+
     OptionValues m_values;
     Prompts &m_prompts;
     LogFont m_font;
     QByteArray m_loadedPicture; ///< avatarBytes bytes, or none
     QString m_folder;           ///< of the polled pictures
 
-    QCheckBox *localbuzz = nullptr;
-    QCheckBox *remotebuzz = nullptr;
-    QCheckBox *DisableNotify = nullptr;
-    QRadioButton *showminimized = nullptr;
-    QRadioButton *showontop = nullptr;
-    QCheckBox *statusonprivate = nullptr;
-    QCheckBox *PrivateDestroyonClose = nullptr;
-    QCheckBox *disablelivetype = nullptr;
-    QCheckBox *XtoMinimizeCheck = nullptr;
+    std::vector<ShownOption> m_options;
     QLineEdit *UDPPorttxt = nullptr;
     QLabel *m_fontSample = nullptr;
     QPushButton *font_btn = nullptr;

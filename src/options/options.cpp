@@ -7,17 +7,6 @@ namespace nimb
 namespace
 {
 
-/// 1 is the only value with a meaning of its own, so every other one shows as its opposite.
-bool tickedUnlessOne(std::int16_t option)
-{
-    return option != 1;
-}
-
-std::int16_t oneUnlessTicked(bool ticked)
-{
-    return ticked ? 0 : 1;
-}
-
 /// Nothing when it is no whole number from 1 to 65535.
 std::optional<std::uint16_t> portOf(const QString &text)
 {
@@ -30,16 +19,8 @@ std::optional<std::uint16_t> portOf(const QString &text)
 
 OptionControls OptionValues::Form_Load() const
 {
-    const Options &options = m_common.options;
     OptionControls controls;
-    controls.localbuzz = tickedUnlessOne(options.BuzzLocal);
-    controls.remotebuzz = tickedUnlessOne(options.BuzzRemote);
-    controls.statusonprivate = tickedUnlessOne(options.ShowStatusOnPrivate);
-    controls.PrivateDestroyonClose = tickedUnlessOne(options.DontDestroyWindow);
-    controls.DisableNotify = tickedUnlessOne(options.NotifyWin);
-    controls.disablelivetype = tickedUnlessOne(options.LiveType);
-    controls.showontop = options.PrivateBehaviour == 1;
-    controls.XtoMinimizeCheck = options.CloseButtonDoesMinimize == 1;
+    controls.options = m_common.options;
     controls.UDPPorttxt = QString::number(m_common.udpPort);
     controls.font = m_common.logFont;
     controls.avatar = m_common.avatarHead.isEmpty() ? AvatarChoice::none : AvatarChoice::still;
@@ -63,24 +44,11 @@ std::optional<QString> OptionValues::CmdOK_Click(const OptionControls &controls)
             return problem;
         m_ownAvatar.setSource(std::move(source));
     }
-    takeFlags(controls);
+    m_common.options = controls.options;
     m_common.udpPort = *port;
     m_common.logFont = controls.font;
     takeAvatar(controls);
     return std::nullopt;
-}
-
-void OptionValues::takeFlags(const OptionControls &controls)
-{
-    Options &options = m_common.options;
-    options.BuzzLocal = oneUnlessTicked(controls.localbuzz);
-    options.BuzzRemote = oneUnlessTicked(controls.remotebuzz);
-    options.ShowStatusOnPrivate = oneUnlessTicked(controls.statusonprivate);
-    options.DontDestroyWindow = oneUnlessTicked(controls.PrivateDestroyonClose);
-    options.NotifyWin = oneUnlessTicked(controls.DisableNotify);
-    options.LiveType = oneUnlessTicked(controls.disablelivetype);
-    options.PrivateBehaviour = controls.showontop ? 1 : 0;
-    options.CloseButtonDoesMinimize = controls.XtoMinimizeCheck ? 1 : 0;
 }
 
 void OptionValues::takeAvatar(const OptionControls &controls)

@@ -15,16 +15,9 @@ namespace nimb
 
 enum class AvatarChoice { none, still, polled };
 
-/// What stands in the dialog's controls. Most boxes switch something off, while the options say what is on.
+/// What the dialog's controls stand for.
 struct OptionControls {
-    bool localbuzz = false;             ///< no sound with own buzzes
-    bool remotebuzz = false;            ///< no sound with received ones
-    bool statusonprivate = false;       ///< no presence lines in private windows
-    bool PrivateDestroyonClose = false; ///< a closed private window is only hidden
-    bool DisableNotify = false;         ///< no pop-up
-    bool disablelivetype = false;       ///< live typing is off in new private windows
-    bool showontop = false;             ///< a private window that a peer opens comes on top; otherwise minimised
-    bool XtoMinimizeCheck = false;      ///< the main window's close box hides it
+    Options options;
     QString UDPPorttxt;
     LogFont font;
     AvatarChoice avatar = AvatarChoice::none;
@@ -51,7 +44,6 @@ public:
     std::optional<QString> CmdOK_Click(const OptionControls &controls);
 
 private:
-    void takeFlags(const OptionControls &controls);
     void takeAvatar(const OptionControls &controls);
 
     Common &m_common;

@@ -53,7 +53,7 @@ void DesktopNotifications::add(const Notification &notification)
 
 void DesktopNotifications::startTimer()
 {
-    if (m_common.options.NotifyWin != 1) {
+    if (!m_common.options.notifyWindow) {
         m_rows.clear();
         m_askedRows = 0;
         return;

@@ -14,7 +14,7 @@ PrivateChat *PeerFeatures::windowOf(const QString &ip)
 
 void PeerFeatures::buzz(const QString &ip)
 {
-    if (m_parts.common.options.BuzzRemote == 1 && !m_parts.common.buzzmute)
+    if (m_parts.common.hearsReceivedBuzz())
         m_parts.sound.playAlarm();
     const QString text = tr("%1 is buzzing you...").arg(paintedName(m_parts.contacts.find(ip)->nickname));
     m_parts.activity.show(text);

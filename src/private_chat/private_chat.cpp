@@ -28,7 +28,7 @@ PrivateChat::PrivateChat(const Services &services, std::function<void()> unloade
       m_view(services.forms.makePrivateForm(*this))
 {
     m_view->setLogFont(services.common.logFont);
-    m_view->setLiveTypeOn(services.common.options.LiveType == 1);
+    m_view->setLiveTypeOn(services.common.options.liveType);
 }
 
 void PrivateChat::setPeer(const QString &ip)
@@ -209,7 +209,7 @@ void PrivateChat::outtext_Change()
 
 CloseDecision PrivateChat::Form_QueryUnload(UnloadMode mode) const
 {
-    const bool hides = mode == UnloadMode::closeBox && m_isContact && m_services.common.options.DontDestroyWindow != 1;
+    const bool hides = mode == UnloadMode::closeBox && m_isContact && !m_services.common.options.closedWindowsGo;
     return hides ? CloseDecision::hide : CloseDecision::unload;
 }
 

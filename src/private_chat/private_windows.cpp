@@ -23,7 +23,7 @@ void PrivateWindows::privateMessage(const QString &ip, const QString &text)
 {
     PrivateChat &chat = windowOf(ip);
     if (chat.view().isHidden())
-        chat.view().showWindow(m_services.common.options.PrivateBehaviour == 1 ? ShowMode::onTop : ShowMode::minimised);
+        chat.view().showWindow(m_services.common.options.privateWindowsOnTop ? ShowMode::onTop : ShowMode::minimised);
     QString body = remoteBody(text);
     chat.MessageReceived(m_contacts.find(ip)->nickname, body);
 }

@@ -424,7 +424,7 @@ TEST_F(FrmMain, TheCloseBoxEndsTheProgramAndSaves)
 
 TEST_F(FrmMain, TheCloseBoxHidesWhenTheOptionSaysSo)
 {
-    windows.common.options.CloseButtonDoesMinimize = 1;
+    windows.common.options.closeBoxHides = true;
     windows.main().close();
     EXPECT_FALSE(windows.ended);
     EXPECT_FALSE(windows.main().isVisible());
@@ -437,7 +437,7 @@ TEST_F(FrmMain, TheCloseBoxHidesWhenTheOptionSaysSo)
 
 TEST_F(FrmMain, WithoutATrayTheCloseBoxMinimises)
 {
-    windows.common.options.CloseButtonDoesMinimize = 1;
+    windows.common.options.closeBoxHides = true;
     windows.tray.shown = false;
     windows.main().close();
     EXPECT_FALSE(windows.ended);

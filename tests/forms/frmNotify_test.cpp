@@ -71,7 +71,7 @@ TEST_F(FrmNotifyTest, HideDismissesIt)
 
 TEST_F(FrmNotifyTest, WhileItIsSwitchedOffItNeverRises)
 {
-    windows.common.options.NotifyWin = 0;
+    windows.common.options.notifyWindow = false;
     windows.arrive("10.0.0.2", "!OFFLINE");
     rise();
     EXPECT_EQ(notify->y(), screen.height() + 8);

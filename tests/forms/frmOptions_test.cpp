@@ -1,3 +1,4 @@
+#include "base/settings.h"
 #include "options/font_dialog.h"
 #include "real_windows.h"
 #include "widgets/avatar_picture.h"
@@ -102,15 +103,62 @@ TEST_F(FrmOptions, OkTakesWhatWasClicked)
     QTest::keyClicks(&control<QLineEdit>("UDPPorttxt"), QStringLiteral("6001"));
     QTest::keyClick(&control<QLineEdit>("UDPPorttxt"), Qt::Key_Return);
     EXPECT_FALSE(isOpen());
-    EXPECT_EQ(options().BuzzLocal, 1);
-    EXPECT_EQ(options().BuzzRemote, 0);
-    EXPECT_EQ(options().ShowStatusOnPrivate, 0);
-    EXPECT_EQ(options().DontDestroyWindow, 1);
-    EXPECT_EQ(options().NotifyWin, 0);
-    EXPECT_EQ(options().LiveType, 0);
-    EXPECT_EQ(options().PrivateBehaviour, 1);
-    EXPECT_EQ(options().CloseButtonDoesMinimize, 1);
+    EXPECT_TRUE(options().playOwnBuzz);
+    EXPECT_FALSE(options().playReceivedBuzz);
+    EXPECT_FALSE(options().presenceLines);
+    EXPECT_TRUE(options().closedWindowsGo);
+    EXPECT_FALSE(options().notifyWindow);
+    EXPECT_FALSE(options().liveType);
+    EXPECT_TRUE(options().privateWindowsOnTop);
+    EXPECT_TRUE(options().closeBoxHides);
     EXPECT_EQ(windows.common.udpPort, 6001);
+}
+
+TEST_F(FrmOptions, EveryBoxTurnsItsOptionAloneAndTheDialogShowsItSo)
+{
+    for (const OptionRow &row : optionRows) {
+        for (const char *const button : {row.box.name, row.opposite.name ? row.opposite.name : row.box.name}) {
+            const Options before = options();
+            const bool ticked = control<QAbstractButton>(row.box.name).isChecked();
+            click(button);
+            click("CmdOK");
+            EXPECT_FALSE(isOpen());
+            for (const OptionRow &each : optionRows) {
+                const bool turned = each.member == row.member;
+                EXPECT_EQ(options().*each.member != before.*each.member, turned) << row.key << ", " << each.key;
+            }
+            EXPECT_EQ(control<QAbstractButton>(row.box.name).isChecked(), !ticked) << row.key;
+        }
+    }
+}
+
+TEST_F(FrmOptions, ANumberThatMeansNothingIsShownAsItBehavesAndOkWritesWhatIsShown)
+{
+    struct Case {
+        const char *key;
+        const char *box;
+        bool ticked;
+    };
+    constexpr Case cases[] = {{"BuzzRemote", "remotebuzz", true},
+                              {"DontDestroyWindow", "PrivateDestroyonClose", true},
+                              {"PrivateBehaviour", "showontop", false},
+                              {"CloseButtonDoesMinimize", "XtoMinimizeCheck", false}};
+    for (const Case &each : cases)
+        windows.settings.put("Options", each.key, QStringLiteral("7"));
+    loadSettings(windows.settings, windows.common);
+    for (const Case &each : cases)
+        EXPECT_EQ(control<QAbstractButton>(each.box).isChecked(), each.ticked) << each.box;
+    click("Command1");
+    EXPECT_FALSE(isOpen());
+    saveSettings(windows.settings, windows.common, {});
+    windows.settings.save();
+    for (const Case &each : cases)
+        EXPECT_EQ(windows.settings.value("Options", each.key), "7") << each.key;
+    click("CmdOK");
+    saveSettings(windows.settings, windows.common, {});
+    windows.settings.save();
+    for (const Case &each : cases)
+        EXPECT_EQ(windows.settings.value("Options", each.key), "0") << each.key;
 }
 
 TEST_F(FrmOptions, CancelTheEscapeKeyAndTheCloseBoxChangeNothing)
@@ -126,8 +174,8 @@ TEST_F(FrmOptions, CancelTheEscapeKeyAndTheCloseBoxChangeNothing)
         else
             dialog().close();
         EXPECT_FALSE(isOpen()) << way;
-        EXPECT_EQ(options().NotifyWin, 1);
-        EXPECT_EQ(options().PrivateBehaviour, 0);
+        EXPECT_TRUE(options().notifyWindow);
+        EXPECT_FALSE(options().privateWindowsOnTop);
         EXPECT_EQ(windows.common.udpPort, 5549);
     }
 }
@@ -139,7 +187,7 @@ TEST_F(FrmOptions, AWrongPortIsSaidAndTheDialogStays)
     click("CmdOK");
     EXPECT_TRUE(isOpen());
     EXPECT_THAT(windows.prompts.told, ElementsAre("NIMB-Chat - Options: The port must be a number from 1 to 65535."));
-    EXPECT_EQ(options().NotifyWin, 1);
+    EXPECT_TRUE(options().notifyWindow);
     EXPECT_EQ(control<QLineEdit>("UDPPorttxt").text(), QStringLiteral("70000"));
 }
 

@@ -154,7 +154,7 @@ TEST_F(FrmPrivate, TheCloseBoxHidesAndKeepsTheLog)
 
 TEST_F(FrmPrivate, WithTheOptionTheCloseBoxUnloads)
 {
-    windows.common.options.DontDestroyWindow = 1;
+    windows.common.options.closedWindowsGo = true;
     form().close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_THAT(RealWindows::privateWindows(), IsEmpty());
@@ -503,7 +503,7 @@ TEST(FrmPrivateFromAPeer, IsMinimisedByDefaultAndNormalOnTopByOption)
     windows.settleStart({"10.0.0.2", "10.0.0.3"});
     windows.arrive("10.0.0.2", "-hello");
     EXPECT_TRUE(windows.privateWindow().isMinimized());
-    windows.common.options.PrivateBehaviour = 1;
+    windows.common.options.privateWindowsOnTop = true;
     windows.arrive("10.0.0.3", "-hello");
     const std::vector<QWidget *> both = RealWindows::privateWindows();
     ASSERT_EQ(both.size(), 2u);

@@ -166,7 +166,7 @@ TEST_F(MainMenusTest, AnOfflineContactIsInvitedByNetSend)
 
 TEST_F(MainMenusTest, BuzzSendsToTheSelectedContactAndObeysTheMuteBox)
 {
-    windows.common.options.BuzzLocal = 1;
+    windows.common.options.playOwnBuzz = true;
     windows.click(0);
     windows.entry("mnuBuzzUser").trigger();
     EXPECT_THAT(windows.sent(), ElementsAre(To("10.0.0.2", "!BUZZ")));

@@ -19,14 +19,14 @@ TEST(Settings, AnEmptyStoreGivesTheDefaults)
     EXPECT_EQ(common.mainPlace.top, 1000);
     EXPECT_EQ(common.mainPlace.height, 6200);
     EXPECT_EQ(common.udpPort, 5549);
-    EXPECT_EQ(common.options.ShowStatusOnPrivate, 1);
-    EXPECT_EQ(common.options.BuzzLocal, 0);
-    EXPECT_EQ(common.options.BuzzRemote, 1);
-    EXPECT_EQ(common.options.PrivateBehaviour, 0);
-    EXPECT_EQ(common.options.DontDestroyWindow, 0);
-    EXPECT_EQ(common.options.NotifyWin, 1);
-    EXPECT_EQ(common.options.LiveType, 1);
-    EXPECT_EQ(common.options.CloseButtonDoesMinimize, 0);
+    EXPECT_TRUE(common.options.presenceLines);
+    EXPECT_FALSE(common.options.playOwnBuzz);
+    EXPECT_TRUE(common.options.playReceivedBuzz);
+    EXPECT_FALSE(common.options.privateWindowsOnTop);
+    EXPECT_FALSE(common.options.closedWindowsGo);
+    EXPECT_TRUE(common.options.notifyWindow);
+    EXPECT_TRUE(common.options.liveType);
+    EXPECT_FALSE(common.options.closeBoxHides);
     EXPECT_EQ(common.autoReply.busyText, QStringLiteral("I'm busy, please do not disturb"));
     EXPECT_EQ(common.autoReply.awayText, QStringLiteral("At the moment I'm not at my PC"));
     EXPECT_FALSE(common.autoReply.onBusy);
@@ -51,10 +51,14 @@ TEST(Settings, TheDefaultsInMemoryAreThoseOfTheTable)
     EXPECT_EQ(made.mainPlace.height, loaded.mainPlace.height);
 }
 
-TEST(Settings, TheTableHasEveryKeyOnceInItsSection)
+TEST(Settings, EveryKeyIsThereOnceInItsSection)
 {
     std::vector<std::string> options;
     std::set<std::string> keys;
+    for (const OptionRow &row : optionRows) {
+        EXPECT_TRUE(keys.insert(row.key).second) << row.key;
+        options.push_back(row.key);
+    }
     for (const SettingKey &row : settingKeys) {
         EXPECT_TRUE(keys.insert(row.key).second) << row.key;
         EXPECT_STRNE(row.meaning, "");
@@ -115,7 +119,14 @@ TEST(Settings, EverythingComesBackAsItWasSaved)
     Common common;
     common.mainPlace = {-150, 2020.5, 7000};
     common.udpPort = 65535;
-    common.options = {0, 1, 0, 1, 1, 0, 0, 1};
+    common.options = {.presenceLines = false,
+                      .playOwnBuzz = true,
+                      .playReceivedBuzz = false,
+                      .privateWindowsOnTop = true,
+                      .closedWindowsGo = true,
+                      .notifyWindow = false,
+                      .liveType = false,
+                      .closeBoxHides = true};
     common.avatarHead = QStringLiteral("2026-11-21");
     for (int i = 0; i < 7500; ++i)
         common.avatarBody.append(static_cast<char>(i));
@@ -129,8 +140,14 @@ TEST(Settings, EverythingComesBackAsItWasSaved)
     EXPECT_EQ(next.mainPlace.left, -150);
     EXPECT_EQ(next.mainPlace.top, 2020.5);
     EXPECT_EQ(next.udpPort, 65535);
-    EXPECT_EQ(next.options.PrivateBehaviour, 1);
-    EXPECT_EQ(next.options.ShowStatusOnPrivate, 0);
+    EXPECT_FALSE(next.options.presenceLines);
+    EXPECT_TRUE(next.options.playOwnBuzz);
+    EXPECT_FALSE(next.options.playReceivedBuzz);
+    EXPECT_TRUE(next.options.privateWindowsOnTop);
+    EXPECT_TRUE(next.options.closedWindowsGo);
+    EXPECT_FALSE(next.options.notifyWindow);
+    EXPECT_FALSE(next.options.liveType);
+    EXPECT_TRUE(next.options.closeBoxHides);
     EXPECT_EQ(next.avatarBody, common.avatarBody);
     EXPECT_EQ(next.autoReply.busyText, QStringLiteral("a\r\nb"));
     EXPECT_EQ(next.autoReply.awayText, QStringLiteral("ü"));
@@ -167,7 +184,7 @@ TEST_P(MalformedSetting, GivesTheDefaultAndOneNotice)
     EXPECT_EQ(common.udpPort, 5549);
     EXPECT_FALSE(common.autoReply.onBusy);
     EXPECT_EQ(common.logFont.size, 8);
-    EXPECT_EQ(common.options.BuzzRemote, 1);
+    EXPECT_TRUE(common.options.playReceivedBuzz);
     EXPECT_EQ(loaded.notices.size(), 6);
     EXPECT_THAT(loaded.notices.front().toStdString(), HasSubstr("MainLeft"));
 }

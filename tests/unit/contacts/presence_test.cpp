@@ -158,7 +158,7 @@ TEST_F(PresenceTest, PresenceIsLoggedInThePrivateWindow)
 TEST_F(PresenceTest, PrivateWindowsStaySilentWhenTheOptionIsOff)
 {
     RecorderLog &log = annsLog();
-    copy.common.options.ShowStatusOnPrivate = 0;
+    copy.common.options.presenceLines = false;
     copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
     copy.arrive("10.0.0.2", "!STATUS BUSY");
     copy.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");

@@ -146,7 +146,7 @@ TEST_F(NotifySlideTest, HideDismissesItAtOnceShownOrRising)
 
 TEST_F(NotifySlideTest, WhileItIsSwitchedOffItNeverRisesAndKeepsNothing)
 {
-    common.options.NotifyWin = 0;
+    common.options.notifyWindow = false;
     for (int i = 0; i < 1000; ++i)
         happen("Ann is online");
     EXPECT_THAT(rows(), testing::SizeIs(100));
@@ -160,7 +160,7 @@ TEST_F(NotifySlideTest, SwitchedOffWhileItIsShownItGoesInTheEnd)
 {
     happen("Ann is online");
     time.advance(rising + 4995ms);
-    common.options.NotifyWin = 0;
+    common.options.notifyWindow = false;
     happen("Ben is online");
     time.advance(10ms);
     EXPECT_EQ(place(), parked);

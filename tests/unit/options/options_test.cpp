@@ -29,62 +29,33 @@ protected:
     OptionValues values{copy.common, copy.engine.ownAvatar(), sources, *copy.time};
 };
 
-TEST_F(OptionValuesTest, DefaultsShowAsTheBoxesThatSwitchThemOff)
+TEST_F(OptionValuesTest, AtFirstTheControlsShowTheDefaults)
 {
     const OptionControls controls = values.Form_Load();
-    EXPECT_TRUE(controls.localbuzz); // off by default
-    EXPECT_FALSE(controls.remotebuzz);
-    EXPECT_FALSE(controls.statusonprivate);
-    EXPECT_TRUE(controls.PrivateDestroyonClose); // closed windows are kept by default
-    EXPECT_FALSE(controls.DisableNotify);
-    EXPECT_FALSE(controls.disablelivetype);
-    EXPECT_FALSE(controls.showontop);
-    EXPECT_FALSE(controls.XtoMinimizeCheck);
+    EXPECT_TRUE(controls.options.presenceLines);
+    EXPECT_FALSE(controls.options.playOwnBuzz);
+    EXPECT_TRUE(controls.options.playReceivedBuzz);
+    EXPECT_FALSE(controls.options.privateWindowsOnTop);
+    EXPECT_FALSE(controls.options.closedWindowsGo);
+    EXPECT_TRUE(controls.options.notifyWindow);
+    EXPECT_TRUE(controls.options.liveType);
+    EXPECT_FALSE(controls.options.closeBoxHides);
     EXPECT_EQ(controls.UDPPorttxt, QStringLiteral("5549"));
     EXPECT_EQ(controls.avatar, AvatarChoice::none);
     EXPECT_EQ(controls.font, LogFont());
 }
 
-TEST_F(OptionValuesTest, EveryBoxIsTheInverseOfItsOptionExceptTheCloseBoxAndTheWayToShow)
+TEST_F(OptionValuesTest, EveryOptionIsShownAsItIsAndTakenAsItWasChosen)
 {
-    OptionControls controls = values.Form_Load();
-    controls.localbuzz = controls.remotebuzz = controls.statusonprivate = true;
-    controls.PrivateDestroyonClose = controls.DisableNotify = controls.disablelivetype = true;
-    controls.showontop = controls.XtoMinimizeCheck = true;
-    EXPECT_FALSE(values.CmdOK_Click(controls));
-    EXPECT_EQ(options().BuzzLocal, 0);
-    EXPECT_EQ(options().BuzzRemote, 0);
-    EXPECT_EQ(options().ShowStatusOnPrivate, 0);
-    EXPECT_EQ(options().DontDestroyWindow, 0);
-    EXPECT_EQ(options().NotifyWin, 0);
-    EXPECT_EQ(options().LiveType, 0);
-    EXPECT_EQ(options().PrivateBehaviour, 1);
-    EXPECT_EQ(options().CloseButtonDoesMinimize, 1);
-    controls.localbuzz = controls.remotebuzz = controls.statusonprivate = false;
-    controls.PrivateDestroyonClose = controls.DisableNotify = controls.disablelivetype = false;
-    controls.showontop = controls.XtoMinimizeCheck = false;
-    EXPECT_FALSE(values.CmdOK_Click(controls));
-    EXPECT_EQ(options().BuzzLocal, 1);
-    EXPECT_EQ(options().BuzzRemote, 1);
-    EXPECT_EQ(options().ShowStatusOnPrivate, 1);
-    EXPECT_EQ(options().DontDestroyWindow, 1);
-    EXPECT_EQ(options().NotifyWin, 1);
-    EXPECT_EQ(options().LiveType, 1);
-    EXPECT_EQ(options().PrivateBehaviour, 0);
-    EXPECT_EQ(options().CloseButtonDoesMinimize, 0);
-}
-
-TEST_F(OptionValuesTest, WhatIsNeitherZeroNorOneShowsAsItBehaves)
-{
-    options().BuzzRemote = 7;
-    options().DontDestroyWindow = -1;
-    options().PrivateBehaviour = 2;
-    options().CloseButtonDoesMinimize = -1;
-    const OptionControls controls = values.Form_Load();
-    EXPECT_TRUE(controls.remotebuzz);
-    EXPECT_TRUE(controls.PrivateDestroyonClose);
-    EXPECT_FALSE(controls.showontop);
-    EXPECT_FALSE(controls.XtoMinimizeCheck);
+    for (const OptionRow &row : optionRows) {
+        for (const bool chosen : {true, false}) {
+            OptionControls controls = values.Form_Load();
+            controls.options.*row.member = chosen;
+            EXPECT_FALSE(values.CmdOK_Click(controls));
+            EXPECT_EQ(bool(options().*row.member), chosen) << row.key;
+            EXPECT_EQ(bool(values.Form_Load().options.*row.member), chosen) << row.key;
+        }
+    }
 }
 
 TEST_F(OptionValuesTest, ThePortIsThatOfTheNextStart)
@@ -101,7 +72,7 @@ TEST_F(OptionValuesTest, ThePortIsThatOfTheNextStart)
 TEST_F(OptionValuesTest, APortThatIsNoneIsSaidAndNothingIsTaken)
 {
     OptionControls controls = values.Form_Load();
-    controls.DisableNotify = true;
+    controls.options.notifyWindow = false;
     controls.avatar = AvatarChoice::still;
     controls.loaded = QByteArray(7500, 'a');
     for (const char *const text : {"", "0", "65536", "-1", "5549x", "5 549", "5549.5", "99999999999999999999"}) {
@@ -109,7 +80,7 @@ TEST_F(OptionValuesTest, APortThatIsNoneIsSaidAndNothingIsTaken)
         EXPECT_EQ(values.CmdOK_Click(controls), QStringLiteral("The port must be a number from 1 to 65535.")) << text;
     }
     EXPECT_EQ(copy.common.udpPort, 5549);
-    EXPECT_EQ(options().NotifyWin, 1);
+    EXPECT_TRUE(options().notifyWindow);
     EXPECT_EQ(copy.common.avatarHead, QString());
 }
 
@@ -189,9 +160,9 @@ TEST_F(OptionValuesTest, ASourceThatCannotWorkIsSaidAndNothingIsTaken)
     sources.problem = QStringLiteral("There is no camera.");
     OptionControls controls = values.Form_Load();
     controls.avatar = AvatarChoice::polled;
-    controls.remotebuzz = true;
+    controls.options.playReceivedBuzz = false;
     EXPECT_EQ(values.CmdOK_Click(controls), QStringLiteral("There is no camera."));
-    EXPECT_EQ(options().BuzzRemote, 1);
+    EXPECT_TRUE(options().playReceivedBuzz);
     EXPECT_EQ(values.Form_Load().avatar, AvatarChoice::none);
 }
 

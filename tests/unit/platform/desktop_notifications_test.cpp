@@ -218,11 +218,11 @@ TEST_F(DesktopNotificationsTest, WhileThePopUpIsSwitchedOffNothingIsShownOrKept)
 {
     startService();
     make();
-    common.options.NotifyWin = 0;
+    common.options.notifyWindow = false;
     happen("Ann is online");
     settle();
     EXPECT_THAT(service.shown, IsEmpty());
-    common.options.NotifyWin = 1;
+    common.options.notifyWindow = true;
     happen("Ben is offline");
     ASSERT_TRUE(waitForShown(1));
     EXPECT_EQ(service.shown[0].body, "Ben is offline");

@@ -41,7 +41,8 @@ TEST(Mood, TheMarkerTurnsBrightBelowForty)
 
 TEST(Mood, NothingOutsideTheScaleIsShown)
 {
-    for (const std::int16_t value : {std::int16_t(-1), std::int16_t(64), std::int16_t(32767), std::int16_t(-32768)})
+    for (const std::int16_t value : std::initializer_list<std::int16_t>{std::int16_t(-1), std::int16_t(64),
+                                                                        std::int16_t(32767), std::int16_t(-32768)})
         EXPECT_FALSE(Mood::peers(value)) << value;
     for (const float value : {-0.5F, 64.0F, 1e30F})
         EXPECT_FALSE(Mood::own(value)) << value;

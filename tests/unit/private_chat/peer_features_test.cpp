@@ -41,8 +41,8 @@ TEST_F(PeerFeaturesTest, AMutedBuzzIsSilentButSeen)
 
 TEST_F(PeerFeaturesTest, ABuzzThatIsSwitchedOffIsSilentButSeen)
 {
-    for (const int off : {0, 2, -1}) {
-        copy.common.options.BuzzRemote = static_cast<std::int16_t>(off);
+    for (const std::int16_t off : std::initializer_list<std::int16_t>{0, 2, -1}) {
+        copy.common.options.playReceivedBuzz = Switch::ofNumber(off);
         copy.arrive("10.0.0.2", "!BUZZ");
         EXPECT_EQ(copy.sound.alarms, 0);
         EXPECT_EQ(activity(), "Ann is buzzing you...");
@@ -112,7 +112,7 @@ TEST_F(PeerFeaturesTest, BuzzingAContactSendsAndIsSilentHere)
 
 TEST_F(PeerFeaturesTest, TheOwnBuzzIsHeardWhereThatIsSwitchedOn)
 {
-    copy.common.options.BuzzLocal = 1;
+    copy.common.options.playOwnBuzz = true;
     copy.engine.contactCommands().mnuBuzzUser(QStringLiteral("10.0.0.2"));
     EXPECT_EQ(copy.sound.alarms, 1);
     copy.common.buzzmute = true;
@@ -123,7 +123,7 @@ TEST_F(PeerFeaturesTest, TheOwnBuzzIsHeardWhereThatIsSwitchedOn)
 
 TEST_F(PeerFeaturesTest, BuzzingNobodyDoesNothing)
 {
-    copy.common.options.BuzzLocal = 1;
+    copy.common.options.playOwnBuzz = true;
     copy.engine.contactCommands().mnuBuzzUser(QString());
     copy.engine.contactCommands().mnuBuzzUser(QStringLiteral("10.0.0.77"));
     EXPECT_THAT(copy.sent(), IsEmpty());

@@ -174,13 +174,13 @@ TEST_F(PrivateChatTest, NewTextFlashesAWindowInTheBackground)
 
 TEST_F(PrivateChatTest, ClosingHidesUnlessTheOptionIsExactly1)
 {
-    for (const int value : {0, 2, -1}) {
-        copy.common.options.DontDestroyWindow = static_cast<std::int16_t>(value);
+    for (const std::int16_t value : std::initializer_list<std::int16_t>{0, 2, -1}) {
+        copy.common.options.closedWindowsGo = Switch::ofNumber(value);
         EXPECT_EQ(chat().Form_QueryUnload(UnloadMode::closeBox), CloseDecision::hide) << value;
         EXPECT_EQ(chat().Form_QueryUnload(UnloadMode::code), CloseDecision::unload) << value;
         EXPECT_EQ(chat().Form_QueryUnload(UnloadMode::sessionEnd), CloseDecision::unload) << value;
     }
-    copy.common.options.DontDestroyWindow = 1;
+    copy.common.options.closedWindowsGo = true;
     EXPECT_EQ(chat().Form_QueryUnload(UnloadMode::closeBox), CloseDecision::unload);
 }
 

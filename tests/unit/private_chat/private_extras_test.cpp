@@ -118,8 +118,8 @@ TEST_F(PrivateExtras, SwitchedOnLaterItWaitsForTheNextNotice)
 TEST_F(PrivateExtras, LiveTypeBeginsAsTheOptionSays)
 {
     EXPECT_TRUE(window().liveTypeOn);
-    for (const std::int16_t off : {std::int16_t(0), std::int16_t(2), std::int16_t(-1)}) {
-        copy.common.options.LiveType = off;
+    for (const std::int16_t off : std::initializer_list<std::int16_t>{0, 2, -1}) {
+        copy.common.options.liveType = Switch::ofNumber(off);
         copy.engine.privateWindows().unloadAll();
         copy.engine.privateWindows().openPrivate(QStringLiteral("10.0.0.2"));
         EXPECT_FALSE(copy.privateForms.views.back()->liveTypeOn) << off;
@@ -158,7 +158,7 @@ TEST_F(PrivateExtras, TheBuzzButtonSendsLogsAndReturnsToTheInput)
 
 TEST_F(PrivateExtras, TheOwnBuzzIsHeardWhereThatIsOnAndNotMuted)
 {
-    copy.common.options.BuzzLocal = 1;
+    copy.common.options.playOwnBuzz = true;
     chat().BuzzBtn_Click();
     EXPECT_EQ(copy.sound.alarms, 1);
     copy.common.buzzmute = true;

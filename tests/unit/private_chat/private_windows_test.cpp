@@ -46,7 +46,7 @@ TEST_F(PrivateWindowsTest, TheOptionDecidesHowAPeersWindowIsShown)
 {
     copy.arrive("10.0.0.3", "-hello");
     EXPECT_THAT(copy.window(1).shows, ElementsAre(ShowMode::minimised));
-    copy.common.options.PrivateBehaviour = 1;
+    copy.common.options.privateWindowsOnTop = true;
     copy.arrive("10.0.0.2", "-hello");
     EXPECT_THAT(copy.window(2).shows, ElementsAre(ShowMode::onTop));
 }
@@ -88,7 +88,7 @@ TEST_F(PrivateWindowsTest, AHiddenWindowKeepsItsLog)
 
 TEST_F(PrivateWindowsTest, AnUnloadedWindowIsGoneAndTheNextMessageOpensAFreshOne)
 {
-    copy.common.options.DontDestroyWindow = 1;
+    copy.common.options.closedWindowsGo = true;
     copy.arrive("10.0.0.3", "-one");
     close(1);
     EXPECT_TRUE(copy.window(1).gone);
@@ -123,7 +123,7 @@ TEST_F(PrivateWindowsTest, ARemovedContactsHiddenWindowIsUnloaded)
 
 TEST_F(PrivateWindowsTest, ClosingAWindowOfARemovedContactHarmsNobody)
 {
-    copy.common.options.DontDestroyWindow = 1;
+    copy.common.options.closedWindowsGo = true;
     open("10.0.0.3");
     copy.engine.contactCommands().mnuRemoveUser(QStringLiteral("10.0.0.3"));
     close(1);
