@@ -333,7 +333,7 @@ TEST_P(EndedBySignal, TellsEveryContactInListOrderAndSavesEverything)
         const std::optional<Heard> farewell = peer->hear();
         ASSERT_TRUE(farewell) << peer->address();
         EXPECT_EQ(farewell->bytes, "!OFFLINE 127.0.33.1 BOB-PC Bob");
-        EXPECT_EQ(farewell->from, "127.0.33.1");
+        EXPECT_EQ(farewell->sourceAddress, "127.0.33.1");
         EXPECT_GT(farewell->moment, before) << peer->address();
         before = farewell->moment;
         EXPECT_THAT(peer->waiting(), IsEmpty());

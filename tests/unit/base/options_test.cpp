@@ -109,8 +109,9 @@ TEST_P(EveryOption, IsWrittenBackAsItWasReadAndTheOthersAsTheyAreByDefault)
         store.save();
         EXPECT_EQ(store.value("Options", GetParam().key), number);
         for (const OptionRow &other : optionRows) {
-            if (std::string(other.key) != GetParam().key)
+            if (std::string(other.key) != GetParam().key) {
                 EXPECT_EQ(store.value("Options", other.key), other.defaultValue() ? "1" : "0") << other.key;
+            }
         }
     }
 }
