@@ -160,7 +160,7 @@ TEST_F(FrmTipOfTheDay, AFailedSaveIsToldToWhoeverClosesIt)
     store.failure = QStringLiteral("The disk is full.");
     open();
     click("closebtn");
-    EXPECT_THAT(prompts.told, ElementsAre("Tip of the Day - Tip #1: The disk is full."));
+    EXPECT_THAT(prompts.told, ElementsAre("NIMB-Chat: The disk is full."));
     EXPECT_TRUE(isGone());
     EXPECT_EQ(prompts.told.size(), 1u);
 }

@@ -840,6 +840,7 @@ TEST(ConferenceOfThree, HearsAGuestWhoKnowsItselfByAnotherAddress)
     SimulatedNetwork network;
     const StoredContact toAnn{QStringLiteral("10.0.0.1"), QStringLiteral("Ann")};
     Copy ann{{.ip = toAnn.ip,
+              .nickname = toAnn.nickname,
               .contacts = {{QStringLiteral("10.0.0.2"), QStringLiteral("Ben")},
                            {QStringLiteral("10.0.0.3"), QStringLiteral("Cleo")}}},
              &network,
