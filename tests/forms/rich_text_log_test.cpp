@@ -654,6 +654,29 @@ TEST_F(LinkHooks, ALongLinkIsOpenedUpToTheLengthOfItsBuffer)
     EXPECT_THAT(links.opened, ElementsAre("http://x/" + std::string(1014, 'a')));
 }
 
+TEST_F(LinkHooks, ALinkThatGrowsWhenItIsEncodedIsOpenedWhole)
+{
+    Window window;
+    hooks.HookRichText(window.log, window.parent);
+    appendText(window.log, QStringLiteral("http://host/") + QString(300, QChar(0x0436)) + QStringLiteral("\r\n"), 0);
+    window.log.writeGathered();
+    window.press();
+    std::string address = "http://host/";
+    for (int letter = 0; letter < 300; ++letter)
+        address += "%D0%B6";
+    EXPECT_THAT(links.opened, ElementsAre(address));
+}
+
+TEST_F(LinkHooks, ALinkThatIsCutBehindADotIsOpened)
+{
+    Window window;
+    hooks.HookRichText(window.log, window.parent);
+    appendText(window.log, QStringLiteral("http://x/") + QString(1013, u'a') + QStringLiteral(".html\r\n"), 0);
+    window.log.writeGathered();
+    window.press();
+    EXPECT_THAT(links.opened, ElementsAre("http://x/" + std::string(1013, 'a') + "."));
+}
+
 TEST(MutedColour, IsReadableOnEveryGround)
 {
     for (const QColor ground : {QColor(Qt::white), QColor(Qt::black), QColor(49, 54, 59), QColor(239, 240, 241)}) {

@@ -37,6 +37,17 @@ protected:
         network.settle();
     }
 
+    /// The private messages that a copy sent since the last look.
+    static std::vector<std::string> messages(Copy &copy)
+    {
+        std::vector<std::string> texts;
+        for (const To &datagram : copy.sent()) {
+            if (datagram.bytes.starts_with('-'))
+                texts.push_back(datagram.bytes);
+        }
+        return texts;
+    }
+
     std::shared_ptr<VirtualTime> time = std::make_shared<VirtualTime>();
     SimulatedNetwork network;
 
@@ -129,6 +140,26 @@ TEST_F(Story, ABusyFriendRepliesByItself)
     pass();
     EXPECT_EQ(ann.window(1).log.lastLine(), "Ben> [AutoReply] I'm busy, please do not disturb");
     EXPECT_EQ(ben.window(1).log.lastLine(), "Ann> there?");
+}
+
+TEST_F(Story, TwoBusyFriendsExchangeOneMessageAndOneReply)
+{
+    Copy &ann = enter("10.0.0.1", "Ann", {{"10.0.0.2", "Ben"}});
+    Copy &ben = enter("10.0.0.2", "Ben", {{"10.0.0.1", "Ann"}});
+    pass();
+    for (Copy *const copy : {&ann, &ben}) {
+        copy->engine.ownState().choose(2);
+        copy->engine.ownState().setAutoReply(true);
+    }
+    pass();
+    ann.engine.contactCommands().mnuPrivateChat(QStringLiteral("10.0.0.2"));
+    ann.sent();
+    ben.sent();
+    ann.window(1).chat.send(QStringLiteral("there?"));
+    for (int i = 0; i < 10; ++i)
+        pass();
+    EXPECT_THAT(messages(ann), ElementsAre("-there?"));
+    EXPECT_THAT(messages(ben), ElementsAre("-[AutoReply] I'm busy, please do not disturb"));
 }
 
 TEST_F(Story, ACopyOnAnotherNetworkAddressNeverBecomesItsOwnContact)

@@ -177,6 +177,16 @@ TEST(ContactList, AContactSavedWithoutNicknameShowsUnknown)
     EXPECT_EQ(list.at(0).workstation, QStringLiteral("[unknown]"));
 }
 
+TEST(ContactList, NamesThatAreStoredEmptyShowUnknown)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "", ""}}, .loaded = false});
+    copy.engine.contacts().load(copy.settings);
+    const Contact &nameless = copy.contact("10.0.0.2");
+    EXPECT_EQ(nameless.nickname, QStringLiteral("[unknown]"));
+    EXPECT_EQ(nameless.workstation, QStringLiteral("[unknown]"));
+    EXPECT_EQ(nameless.sortKey, QStringLiteral("B_[unknown]"));
+}
+
 TEST(ContactList, AGapEndsTheStoredList)
 {
     MemoryStore store;

@@ -223,6 +223,20 @@ TEST_F(ContactTransferTest, NamesTravelAsAllTextDoes)
                             To("10.0.0.3", "!USER 10.0.0.4 PC \xD0\x94\xD0\xB0\xD1\x88\xD0\xB0")));
 }
 
+TEST_F(ContactTransferTest, AWorkstationTravelsAsOneWord)
+{
+    for (const auto &[ip, workstation] : {std::pair("10.0.0.2", "Ann's old PC"), std::pair("10.0.0.4", " two  blanks "),
+                                          std::pair("10.0.0.5", " "), std::pair("10.0.0.6", "")}) {
+        contacts.change(QLatin1String(ip), [&](Contact &contact) { contact.workstation = QLatin1String(workstation); });
+    }
+    load().btnsendall_Click();
+    transfer->sendbtn_Click();
+    EXPECT_THAT(sent(),
+                ElementsAre(To("10.0.0.3", "!USER 10.0.0.2 Ann's-old-PC Ann"),
+                            To("10.0.0.3", "!USER 10.0.0.4 two-blanks Cleo"), To("10.0.0.3", "!USER 10.0.0.5  Dora"),
+                            To("10.0.0.3", "!USER 10.0.0.6  Emil")));
+}
+
 TEST_F(ContactTransferTest, TheDestinationMayLeaveTheContactListMeanwhile)
 {
     load().btnsendone_Click({0});

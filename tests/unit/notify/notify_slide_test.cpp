@@ -167,6 +167,30 @@ TEST_F(NotifySlideTest, SwitchedOffWhileItIsShownItGoesInTheEnd)
     EXPECT_FALSE(time.nextDue());
 }
 
+TEST_F(NotifySlideTest, SwitchedOffWhileItRisesItParks)
+{
+    happen("Ann is online");
+    time.advance(300ms);
+    ASSERT_NE(place(), parked);
+    common.options.NotifyWin = 0;
+    time.advance(10ms);
+    EXPECT_EQ(place(), parked);
+    EXPECT_THAT(rows(), IsEmpty());
+    EXPECT_FALSE(time.nextDue()) << "a timer still runs";
+}
+
+TEST_F(NotifySlideTest, SwitchedOffWhileItIsShownItParksWithTheNextEvent)
+{
+    happen("Ann is online");
+    time.advance(rising + 1000ms);
+    common.options.NotifyWin = 0;
+    happen("Ben is online");
+    time.advance(10ms);
+    EXPECT_EQ(place(), parked) << "an empty window stands there";
+    EXPECT_THAT(rows(), IsEmpty());
+    EXPECT_FALSE(time.nextDue()) << "a timer still runs";
+}
+
 TEST_F(NotifySlideTest, KeepsTheNewestHundredRows)
 {
     for (int i = 1; i <= 105; ++i)

@@ -136,6 +136,21 @@ TEST_F(PrivateChatTest, AnAwayUserRepliesWithTheAwayText)
     EXPECT_THAT(sentBytes(), ElementsAre("-[AutoReply] At the moment I'm not at my PC"));
 }
 
+TEST_F(PrivateChatTest, AnAutomaticReplyIsNeverAnsweredAutomatically)
+{
+    for (const int state : {2, 3}) {
+        copy.engine.ownState().choose(state);
+        copy.engine.ownState().setAutoReply(true);
+        copy.sent();
+        annWrites("[AutoReply] I'm busy");
+        annWrites("[AutoReply] ");
+        EXPECT_THAT(copy.sent(), IsEmpty());
+        EXPECT_EQ(window().log.lastLine(), "Ann> [AutoReply]");
+    }
+    annWrites("about [AutoReply] ");
+    EXPECT_THAT(sentBytes(), ElementsAre("-[AutoReply] At the moment I'm not at my PC"));
+}
+
 TEST_F(PrivateChatTest, NobodyRepliesWhoDidNotSwitchItOn)
 {
     copy.engine.ownState().choose(2);
