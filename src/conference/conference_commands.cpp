@@ -2,6 +2,7 @@
 
 #include "base/limits.h"
 #include "base/remote_text.h"
+#include "contacts/admission.h"
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
 
@@ -94,10 +95,14 @@ void ConferenceCommands::operator()(const wire::ConferenceList &list)
     std::size_t taken = 0;
     for (const std::string &address : list.addresses) {
         const QString ip = QString::fromStdString(address);
-        if (ip == m_parts.common.ownIP)
+        const std::optional<Refusal> refusal = contactRefusal(ip, m_parts.common, m_parts.contacts);
+        if (refusal == Refusal::ownAddress)
             continue;
-        if (!isUnicastAddress(ip) || ++taken > limits::participants)
+        const bool isPeer = refusal != Refusal::thisMachine && refusal != Refusal::noUnicast;
+        if (!isPeer || ++taken > limits::participants)
             drop();
+        else if (refusal == Refusal::listFull)
+            m_parts.drops.count(Drop::tooManyContacts);
         else
             listed(*conference, ip);
     }
@@ -114,11 +119,8 @@ void ConferenceCommands::operator()(const wire::ConferenceList &list)
 
 void ConferenceCommands::listed(Conference &conference, const QString &address)
 {
-    if (!m_parts.contacts.isContact(address)) {
-        if (m_parts.contacts.rowCount() >= limits::contactsFromStrangers)
-            return m_parts.drops.count(Drop::tooManyContacts);
+    if (!m_parts.contacts.isContact(address))
         greet(address);
-    }
     Participants &participants = conference.partecipanti();
     if (participants.find(address))
         return participants.setPresent(address);

@@ -1,8 +1,8 @@
 #include "contacts/presence.h"
 
 #include "base/clock_text.h"
-#include "base/limits.h"
 #include "base/remote_text.h"
+#include "contacts/admission.h"
 
 namespace nimb
 {
@@ -27,6 +27,19 @@ Picture pictureOfState(const QString &state)
     return Picture::green;
 }
 
+/// An echo of this copy's own datagrams is nobody's.
+Drop reasonOf(Refusal refusal)
+{
+    switch (refusal) {
+    case Refusal::noUnicast:
+        return Drop::badAddress;
+    case Refusal::listFull:
+        return Drop::tooManyContacts;
+    default:
+        return Drop::stranger;
+    }
+}
+
 } // namespace
 
 Presence::Presence(const Common &common, ContactList &contacts, PresenceSender &sender, MainLog &log,
@@ -38,12 +51,8 @@ Presence::Presence(const Common &common, ContactList &contacts, PresenceSender &
 
 void Presence::strangerSeen(const QString &ip, const PeerIdentity &peer, bool online)
 {
-    if (ip == m_common.ownIP || ip == QLatin1String("127.0.0.1"))
-        return m_drops.count(Drop::stranger);
-    if (!isUnicastAddress(ip))
-        return m_drops.count(Drop::badAddress);
-    if (m_contacts.rowCount() >= limits::contactsFromStrangers)
-        return m_drops.count(Drop::tooManyContacts);
+    if (const std::optional<Refusal> refusal = contactRefusal(ip, m_common, m_contacts))
+        return m_drops.count(reasonOf(*refusal));
     Contact contact;
     contact.ip = ip;
     contact.nickname = nameOrUnknown(peer.nick);

@@ -1,20 +1,19 @@
 #include "contacts/shared_contacts.h"
 
-#include "base/limits.h"
-#include "base/remote_text.h"
+#include "contacts/admission.h"
 
 namespace nimb
 {
 
 void SharedContacts::sharedContact(const QString &, const PeerIdentity &shared)
 {
-    const bool isOwn = shared.ip == m_common.ownIP || shared.ip == QLatin1String("127.0.0.1");
-    if (isOwn || m_contacts.isContact(shared.ip))
-        return;
-    if (!isUnicastAddress(shared.ip))
+    const std::optional<Refusal> refusal = contactRefusal(shared.ip, m_common, m_contacts);
+    if (refusal == Refusal::noUnicast)
         return m_drops.count(Drop::badAddress);
-    if (m_contacts.rowCount() >= limits::contactsFromStrangers)
+    if (refusal == Refusal::listFull)
         return m_drops.count(Drop::tooManyContacts);
+    if (refusal)
+        return; // a peer who shares its whole list shares us and those whom we know with it
     Contact contact;
     contact.ip = shared.ip;
     contact.nickname = nameOrUnknown(shared.nick);

@@ -1,5 +1,7 @@
 #include "people/add_user.h"
 
+#include "contacts/admission.h"
+
 namespace nimb
 {
 
@@ -9,8 +11,10 @@ QString AddUser::objection(const QString &nickname, const QString &hostname, con
         return tr("IP Address already used by another user");
     if (nickname.isEmpty() || hostname.isEmpty() || ipaddress.isEmpty())
         return tr("Please fill all the fields");
-    if (hostname == m_common.ownHostName || ipaddress == m_common.ownIP)
+    const std::optional<Refusal> refusal = contactRefusal(ipaddress, m_common, m_contacts);
+    if (hostname == m_common.ownHostName || refusal == Refusal::ownAddress)
         return tr("You can't add yourself...");
+    // The other rules guard against what peers bring. What the user types may be a name, and is taken as it is.
     if (ipaddress == endOfStoredContacts)
         return tr("This address cannot be kept: it marks the end of the stored list.");
     return {};

@@ -466,6 +466,19 @@ TEST_F(ConferenceTest, AddressesThatAreNoneAreLeftOut)
     EXPECT_EQ(copy.drops.of(Drop::noConference), 3u);
 }
 
+TEST_F(ConferenceTest, AListMakesNoContactOfThisMachine)
+{
+    Conference &conference = join(3);
+    const int before = copy.engine.contacts().rowCount();
+    copy.arrive("10.0.0.2", "!CONF USERS #3 10.0.0.2 10.0.0.1 127.0.0.1");
+    EXPECT_FALSE(copy.knows("127.0.0.1"));
+    EXPECT_FALSE(copy.knows("10.0.0.1"));
+    EXPECT_EQ(copy.engine.contacts().rowCount(), before);
+    EXPECT_THAT(rows(conference), ElementsAre("Me (you) green", "Ann green"));
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "?AVATARHEAD"))) << "and asks it nothing";
+    EXPECT_EQ(copy.drops.of(Drop::noConference), 1u) << "its own address is no fault of the host";
+}
+
 TEST_F(ConferenceTest, AHugeListIsCut)
 {
     Conference &conference = join(3);

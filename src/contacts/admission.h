@@ -1,0 +1,27 @@
+// Who becomes a contact: the one place that decides it, whoever brings the address.
+#pragma once
+
+#include "base/Common.h"
+#include "contacts/contact_list.h"
+
+#include <optional>
+
+namespace nimb
+{
+
+/// The rule that keeps an address out of the contact list.
+enum class Refusal {
+    ownAddress,   ///< it is this copy's own
+    thisMachine,  ///< 127.0.0.1, which means whoever says it. Other copies on this machine have other loopback
+                  ///< addresses.
+    noUnicast,    ///< it is not the dotted IPv4 address of one host
+    alreadyThere, ///< it is a contact's
+    listFull,     ///< peers have caused as many contacts as they may
+};
+
+/// Empty when the address may become a contact; otherwise the first of the rules, in the order above, that it breaks.
+/// All of them bind peers; the user is bound by fewer, for what is typed may be a name.
+[[nodiscard]] std::optional<Refusal> contactRefusal(const QString &ip, const Common &common,
+                                                    const ContactList &contacts);
+
+} // namespace nimb
