@@ -2,11 +2,13 @@
 
 #include <QEvent>
 
+#include <utility>
+
 namespace nimb
 {
 
-PictureLabel::PictureLabel(const QIcon &picture, int side, QWidget *parent)
-    : QLabel(parent), m_picture(picture), m_side(side)
+PictureLabel::PictureLabel(QIcon picture, int side, QWidget *parent)
+    : QLabel(parent), m_picture(std::move(picture)), m_side(side)
 {
     renew();
 }

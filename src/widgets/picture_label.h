@@ -14,7 +14,7 @@ class PictureLabel : public QLabel
 
 public:
     /// side: of the picture, in logical pixels.
-    PictureLabel(const QIcon &picture, int side, QWidget *parent);
+    PictureLabel(QIcon picture, int side, QWidget *parent);
 
 protected:
     void changeEvent(QEvent *event) override;

@@ -101,7 +101,7 @@ private:
     {
         const auto *const next = std::lower_bound(renderedSizes.begin(), renderedSizes.end(), side);
         const int size = next == renderedSizes.end() ? renderedSizes.back() : *next;
-        const QImage image(fileOf(m_path, size));
+        QImage image(fileOf(m_path, size));
         if (size == side)
             return image;
         return image.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
