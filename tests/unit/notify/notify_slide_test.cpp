@@ -172,7 +172,7 @@ TEST_F(NotifySlideTest, SwitchedOffWhileItRisesItParks)
     happen("Ann is online");
     time.advance(300ms);
     ASSERT_NE(place(), parked);
-    common.options.NotifyWin = 0;
+    common.options.notifyWindow = false;
     time.advance(10ms);
     EXPECT_EQ(place(), parked);
     EXPECT_THAT(rows(), IsEmpty());
@@ -183,7 +183,7 @@ TEST_F(NotifySlideTest, SwitchedOffWhileItIsShownItParksWithTheNextEvent)
 {
     happen("Ann is online");
     time.advance(rising + 1000ms);
-    common.options.NotifyWin = 0;
+    common.options.notifyWindow = false;
     happen("Ben is online");
     time.advance(10ms);
     EXPECT_EQ(place(), parked) << "an empty window stands there";
