@@ -2,32 +2,39 @@
 #pragma once
 
 #include "base/Common.h"
-#include "base/prompts.h"
 
-#include <QFontDialog>
+#include <QDialog>
+
+class QCheckBox;
+class QLabel;
+class QListWidget;
+class QSpinBox;
 
 namespace nimb
 {
 
-/// Sizes from 6 to 24 points, in bold, italic or both: what the stored font can hold. A style that the face lacks (it
-/// is drawn all the same) is kept as long as no other one is chosen. The prompts outlive it.
-class LogFontDialog : public QFontDialog
+/// Family, size, bold and italic: what the stored font can hold, and no more. A stored family that is not installed
+/// stands in the list too, so that it stays unless another one is chosen.
+class LogFontDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    LogFontDialog(const LogFont &preset, Prompts &prompts, QWidget *parent);
+    LogFontDialog(const LogFont &preset, QWidget *parent);
 
     LogFont chosenFont() const;
 
-    void done(int result) override;
-
 private:
-    void hideEffects();
+    void buildControls();
+    void listFamilies(const QString &chosen);
+    void preset(const LogFont &font);
+    void showSample();
 
-    const LogFont m_preset;
-    QFont m_shownFirst;
-    Prompts &m_prompts;
+    QListWidget *m_family = nullptr;
+    QSpinBox *m_size = nullptr;
+    QCheckBox *m_bold = nullptr;
+    QCheckBox *m_italic = nullptr;
+    QLabel *m_sample = nullptr;
 };
 
 } // namespace nimb

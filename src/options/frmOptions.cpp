@@ -288,13 +288,13 @@ void frmOptions::CmdOK_Click()
 
 void frmOptions::font_btn_Click()
 {
-    auto *const dialog = new LogFontDialog(m_font, m_prompts, this);
+    auto *const dialog = new LogFontDialog(m_font, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog] {
         m_font = dialog->chosenFont();
         showFont();
     });
-    dialog->QDialog::open();
+    dialog->open();
 }
 
 void frmOptions::showFont()

@@ -1,5 +1,4 @@
 #include "base/settings.h"
-#include "options/font_dialog.h"
 #include "real_windows.h"
 #include "widgets/avatar_picture.h"
 
@@ -8,11 +7,12 @@
 #include <QComboBox>
 #include <QDragEnterEvent>
 #include <QFileDialog>
-#include <QFontDatabase>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMimeData>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSpinBox>
 #include <QTemporaryDir>
 
 namespace nimb::test
@@ -32,6 +32,7 @@ protected:
     /// The dialog, opened by its menu entry where it is not open.
     QDialog &dialog()
     {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         if (QDialog *const open = find())
             return *open;
         windows.entry("mnuToolsOptions").trigger();
@@ -60,11 +61,43 @@ protected:
         image.fill(colour);
         return image;
     }
-    static QFont styled(const QString &family, int size, const QString &style)
+    /// The font dialog over the options, opened by its button.
+    void openFonts()
     {
-        QFont font(family, size);
-        font.setStyleName(style);
-        return font;
+        click("font_btn");
+        ASSERT_TRUE(fontsAreOpen());
+    }
+    bool fontsAreOpen()
+    {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        const auto *const fonts = dialog().findChild<QDialog *>(QStringLiteral("font_dialog"));
+        return fonts && fonts->isVisible();
+    }
+    template <class Widget> Widget &fontControl(const char *name)
+    {
+        return RealWindows::control<Widget>(*dialog().findChild<QDialog *>(QStringLiteral("font_dialog")), name);
+    }
+    void clickFont(const char *button)
+    {
+        auto &clicked = fontControl<QAbstractButton>(button);
+        QTest::mouseClick(&clicked, Qt::LeftButton, {}, QPoint(10, clicked.height() / 2));
+    }
+    void typeSize(const char *points)
+    {
+        auto &size = fontControl<QSpinBox>("font_size");
+        size.selectAll();
+        QTest::keyClick(&size, Qt::Key_Delete);
+        QTest::keyClicks(&size, QLatin1String(points));
+    }
+    /// Where the list shows that family, scrolled into sight.
+    QPoint placeOf(const char *family)
+    {
+        auto &families = fontControl<QListWidget>("font_family");
+        const QList<QListWidgetItem *> found = families.findItems(QLatin1String(family), Qt::MatchExactly);
+        if (found.isEmpty())
+            qFatal("%s is not installed", family);
+        families.scrollToItem(found.front());
+        return families.visualItemRect(found.front()).center();
     }
     /// A file dialog stands over the options; it takes this file.
     void choose(const QString &path)
@@ -210,49 +243,69 @@ TEST_F(FrmOptions, ChangesAreSavedAtTheEnd)
 TEST_F(FrmOptions, AFontIsTakenWithOk)
 {
     windows.common.logFont = {QStringLiteral("DejaVu Sans"), 9, QString()};
-    click("font_btn");
-    auto *const fonts = dialog().findChild<LogFontDialog *>();
-    ASSERT_TRUE(fonts);
-    EXPECT_EQ(fonts->currentFont().pointSize(), 9);
-    EXPECT_FALSE(fonts->currentFont().bold());
-    EXPECT_FALSE(fonts->currentFont().italic());
-    fonts->setCurrentFont(styled(QStringLiteral("DejaVu Sans"), 14, QStringLiteral("Bold")));
-    fonts->accept();
-    EXPECT_EQ(windows.common.logFont.size, 9) << "not before OK";
+    openFonts();
+    EXPECT_EQ(fontControl<QListWidget>("font_family").currentItem()->text(), QStringLiteral("DejaVu Sans"));
+    EXPECT_EQ(fontControl<QSpinBox>("font_size").value(), 9);
+    EXPECT_FALSE(fontControl<QCheckBox>("font_bold").isChecked());
+    EXPECT_FALSE(fontControl<QCheckBox>("font_italic").isChecked());
+    QTest::mouseClick(fontControl<QListWidget>("font_family").viewport(), Qt::LeftButton, {}, placeOf("DejaVu Serif"));
+    typeSize("14");
+    clickFont("font_bold");
+    clickFont("font_ok");
+    EXPECT_EQ(windows.common.logFont, (LogFont{QStringLiteral("DejaVu Sans"), 9, {}})) << "not before OK";
     click("CmdOK");
-    EXPECT_EQ(windows.common.logFont.size, 14);
-    EXPECT_EQ(windows.common.logFont.style, QStringLiteral("b"));
-    EXPECT_EQ(windows.common.logFont.face, QStringLiteral("DejaVu Sans"));
+    EXPECT_EQ(windows.common.logFont, (LogFont{QStringLiteral("DejaVu Serif"), 14, QStringLiteral("b")}));
+}
+
+TEST_F(FrmOptions, AFamilyThatIsDoubleClickedIsTakenAtOnce)
+{
+    openFonts();
+    QWidget *const families = fontControl<QListWidget>("font_family").viewport();
+    const QPoint place = placeOf("DejaVu Serif");
+    QTest::mouseClick(families, Qt::LeftButton, {}, place);
+    QTest::mouseDClick(families, Qt::LeftButton, {}, place);
+    EXPECT_FALSE(fontsAreOpen());
+    click("CmdOK");
+    EXPECT_EQ(windows.common.logFont.face, QStringLiteral("DejaVu Serif"));
 }
 
 TEST_F(FrmOptions, ACancelledFontChangesNothing)
 {
-    click("font_btn");
-    auto *const fonts = dialog().findChild<LogFontDialog *>();
-    QFont font = fonts->currentFont();
-    font.setPointSize(20);
-    fonts->setCurrentFont(font);
-    fonts->reject();
+    for (const bool byKey : {true, false}) {
+        openFonts();
+        typeSize("20");
+        clickFont("font_bold");
+        if (byKey)
+            QTest::keyClick(&fontControl<QWidget>("font_family"), Qt::Key_Escape);
+        else
+            clickFont("font_cancel");
+        EXPECT_FALSE(fontsAreOpen());
+    }
     click("CmdOK");
     EXPECT_EQ(windows.common.logFont, LogFont());
 }
 
-TEST_F(FrmOptions, AFontSizeOutsideItsRangeKeepsTheFontDialogOpen)
+TEST_F(FrmOptions, AFontSizeOutsideItsRangeCannotBeTyped)
 {
-    for (const int size : {5, 25}) {
-        click("font_btn");
-        auto *const fonts = dialog().findChild<LogFontDialog *>();
-        QFont font = fonts->currentFont();
-        font.setPointSize(size);
-        fonts->setCurrentFont(font);
-        fonts->accept();
-        EXPECT_TRUE(fonts->isVisible()) << size;
-        fonts->reject();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    for (const char *const size : {"5", "25", "240", "-8", "x", ""}) {
+        openFonts();
+        typeSize(size);
+        clickFont("font_ok");
+        click("CmdOK");
+        EXPECT_THAT(windows.common.logFont.size, testing::AllOf(testing::Ge(6), testing::Le(24))) << size;
     }
-    EXPECT_THAT(windows.prompts.told,
-                ElementsAre("Font of the logs: The size must be from 6 to 24 points.",
-                            "Font of the logs: The size must be from 6 to 24 points."));
+}
+
+TEST_F(FrmOptions, TheSmallestFontHasSixPointsAndTheLargestTwentyFour)
+{
+    for (const auto &[typed, beyond, size] : {std::tuple("6", Qt::Key_Down, 6), {"24", Qt::Key_Up, 24}}) {
+        openFonts();
+        typeSize(typed);
+        QTest::keyClick(&fontControl<QSpinBox>("font_size"), beyond);
+        clickFont("font_ok");
+        click("CmdOK");
+        EXPECT_EQ(windows.common.logFont.size, size);
+    }
 }
 
 TEST_F(FrmOptions, ALoadedPictureIsShownAndBecomesTheAvatar)
@@ -391,52 +444,69 @@ TEST_F(FrmOptions, WithTheNotifyWindowSwitchedOffNothingRises)
     }
 }
 
-TEST_F(FrmOptions, ItalicIsTakenWhereAFaceHasIt)
+TEST_F(FrmOptions, BoldAndItalicAreStoredAsTheirFirstLetters)
 {
-    const QStringList families = QFontDatabase::families();
-    const auto slanted = std::find_if(families.begin(), families.end(), [](const QString &family) {
-        return QFontDatabase::styles(family).contains(QStringLiteral("Italic"));
-    });
-    ASSERT_NE(slanted, families.end()) << "no installed font has an italic face";
-    click("font_btn");
-    auto *const fonts = dialog().findChild<LogFontDialog *>();
-    fonts->setCurrentFont(styled(*slanted, 12, QStringLiteral("Italic")));
-    fonts->accept();
-    click("CmdOK");
-    EXPECT_EQ(windows.common.logFont.style, QStringLiteral("i"));
-}
-
-TEST_F(FrmOptions, APlainFontIsShownPlainWhateverItsFaceCallsThat)
-{
-    for (const QString &style : {QString(), QStringLiteral("b")}) {
-        windows.common.logFont = {QStringLiteral("DejaVu Sans"), 9, style};
-        click("font_btn");
-        auto *const fonts = dialog().findChild<LogFontDialog *>();
-        EXPECT_EQ(fonts->currentFont().bold(), style == QLatin1String("b"));
-        EXPECT_FALSE(fonts->currentFont().italic());
-        fonts->accept();
+    struct Case {
+        bool bold, italic;
+        const char *style;
+    };
+    for (const Case &each : {Case{false, true, "i"}, {true, true, "bi"}, {true, false, "b"}, {false, false, ""}}) {
+        openFonts();
+        if (fontControl<QCheckBox>("font_bold").isChecked() != each.bold)
+            clickFont("font_bold");
+        if (fontControl<QCheckBox>("font_italic").isChecked() != each.italic)
+            clickFont("font_italic");
+        clickFont("font_ok");
         click("CmdOK");
-        EXPECT_EQ(windows.common.logFont.style, style);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(windows.common.logFont.style, QLatin1String(each.style));
     }
 }
 
-TEST_F(FrmOptions, AStyleThatTheFaceLacksIsKeptUnlessAnotherIsChosen)
+TEST_F(FrmOptions, AStoredFontIsShownAsItIsAndStaysWhenNothingElseIsChosen)
 {
-    windows.common.logFont = {QStringLiteral("MS Sans Serif"), 8, QStringLiteral("bi")};
-    click("font_btn");
-    auto *const fonts = dialog().findChild<LogFontDialog *>();
-    EXPECT_TRUE(fonts->currentFont().bold()) << "though that face is not installed";
-    fonts->accept();
+    for (const char *const style : {"", "b", "i", "bi"}) {
+        windows.common.logFont = {QStringLiteral("DejaVu Sans"), 9, QLatin1String(style)};
+        const LogFont stored = windows.common.logFont;
+        openFonts();
+        EXPECT_EQ(fontControl<QCheckBox>("font_bold").isChecked(), stored.bold()) << style;
+        EXPECT_EQ(fontControl<QCheckBox>("font_italic").isChecked(), stored.italic()) << style;
+        clickFont("font_ok");
+        click("CmdOK");
+        EXPECT_EQ(windows.common.logFont, stored) << style;
+    }
+}
+
+TEST_F(FrmOptions, AFamilyThatIsNotInstalledStaysUnlessAnotherIsChosen)
+{
+    windows.common.logFont = {QStringLiteral("no such face"), 8, QStringLiteral("bi")};
+    openFonts();
+    EXPECT_EQ(fontControl<QListWidget>("font_family").currentItem()->text(),
+              QStringLiteral("no such face (not installed)"));
+    clickFont("font_ok");
     click("CmdOK");
-    EXPECT_EQ(windows.common.logFont.style, QStringLiteral("bi"));
-    EXPECT_EQ(windows.common.logFont.size, 8);
-    click("font_btn");
-    auto *const again = dialog().findChild<LogFontDialog *>();
-    again->setCurrentFont(styled(QStringLiteral("DejaVu Sans"), 8, QStringLiteral("Book")));
-    again->accept();
+    EXPECT_EQ(windows.common.logFont, (LogFont{QStringLiteral("no such face"), 8, QStringLiteral("bi")}));
+    openFonts();
+    QTest::mouseClick(fontControl<QListWidget>("font_family").viewport(), Qt::LeftButton, {}, placeOf("DejaVu Sans"));
+    clickFont("font_ok");
     click("CmdOK");
-    EXPECT_EQ(windows.common.logFont.style, QString());
+    EXPECT_EQ(windows.common.logFont.face, QStringLiteral("DejaVu Sans"));
+}
+
+TEST_F(FrmOptions, TheSampleIsDrawnInTheFontThatIsChosen)
+{
+    windows.common.logFont = {QStringLiteral("DejaVu Sans"), 9, QString()};
+    openFonts();
+    auto &sample = fontControl<QLabel>("font_sample");
+    EXPECT_EQ(sample.font().family(), QStringLiteral("DejaVu Sans"));
+    EXPECT_EQ(sample.font().pointSize(), 9);
+    QTest::mouseClick(fontControl<QListWidget>("font_family").viewport(), Qt::LeftButton, {}, placeOf("DejaVu Serif"));
+    typeSize("16");
+    clickFont("font_bold");
+    clickFont("font_italic");
+    EXPECT_EQ(sample.font().family(), QStringLiteral("DejaVu Serif"));
+    EXPECT_EQ(sample.font().pointSize(), 16);
+    EXPECT_TRUE(sample.font().bold());
+    EXPECT_TRUE(sample.font().italic());
 }
 
 } // namespace

@@ -49,6 +49,8 @@ private:
             windows.arrive("10.0.0.2", "?CONF INVITE #3");
         else if (name == QLatin1String("frmLogin"))
             login.emplace(engineOfLogin, windows.prompts), login->show();
+        else if (name == QLatin1String("font_dialog"))
+            openFonts();
         else if (const char *const entry = entryFor(name))
             windows.entry(entry).trigger();
     }
@@ -64,6 +66,11 @@ private:
                 return entry;
         }
         return nullptr;
+    }
+    void openFonts()
+    {
+        windows.entry("mnuToolsOptions").trigger();
+        windows.main().findChild<QPushButton *>(QStringLiteral("font_btn"))->click();
     }
     void host()
     {
@@ -126,8 +133,8 @@ TEST_P(Keyboard, EveryControlHasANameForThoseWhoDoNotSeeIt)
 
 INSTANTIATE_TEST_SUITE_P(Windows, Keyboard,
                          testing::Values("frmMain", "frmLogin", "frmPrivate", "frmConference", "frmConfInvitations",
-                                         "frmOptions", "frmNetworkscan", "frmAddUser", "frmInvite", "frmAbout",
-                                         "frmTipOfTheDay", "frmSendContact"),
+                                         "frmOptions", "font_dialog", "frmNetworkscan", "frmAddUser", "frmInvite",
+                                         "frmAbout", "frmTipOfTheDay", "frmSendContact"),
                          [](const auto &window) { return std::string(window.param); });
 
 TEST(KeyboardOfMenus, NoTwoEntriesOfAMenuShareAnAccessKey)
