@@ -338,6 +338,8 @@ void Window::click(int x, int y, int times, int button) const
 {
     act({"mousemove", "--window", m_id, QString::number(x), QString::number(y), "click", "--repeat",
          QString::number(times), "--delay", "20", QString::number(button)});
+    // The window manager sees a click first and passes it on. Keys do not wait for it and would overtake the click.
+    letWindowsSettle();
 }
 
 std::ostream &operator<<(std::ostream &out, Window::State state)
