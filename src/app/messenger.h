@@ -60,7 +60,7 @@ private:
     OwnState m_ownState;
     PortWatch m_port;
     PrivateWindows m_privateWindows;
-    Presence m_presence;
+    PresenceReceiver m_presence;
     Activity m_activity;
     AvatarStore m_avatars;
     OwnAvatar m_ownAvatar;

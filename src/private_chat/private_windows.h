@@ -3,7 +3,7 @@
 
 #include "base/window_openers.h"
 #include "contacts/contact_list.h"
-#include "contacts/presence.h"
+#include "contacts/presence_receiver.h"
 #include "private_chat/private_chat.h"
 #include "protocol/handlers.h"
 

@@ -1,4 +1,4 @@
-#include "contacts/presence.h"
+#include "contacts/presence_receiver.h"
 
 #include "base/clock_text.h"
 #include "base/remote_text.h"
@@ -42,14 +42,15 @@ Drop reasonOf(Refusal refusal)
 
 } // namespace
 
-Presence::Presence(const Common &common, ContactList &contacts, PresenceSender &sender, MainLog &log,
-                   PrivateLogs &privateLogs, Notifications &notifications, const WallClock &clock, DropCounts &drops)
+PresenceReceiver::PresenceReceiver(const Common &common, ContactList &contacts, PresenceSender &sender, MainLog &log,
+                                   PrivateLogs &privateLogs, Notifications &notifications, const WallClock &clock,
+                                   DropCounts &drops)
     : m_common(common), m_contacts(contacts), m_sender(sender), m_log(log), m_privateLogs(privateLogs),
       m_notifications(notifications), m_clock(clock), m_drops(drops)
 {
 }
 
-void Presence::strangerSeen(const QString &ip, const PeerIdentity &peer, bool online)
+void PresenceReceiver::strangerSeen(const QString &ip, const PeerIdentity &peer, bool online)
 {
     if (const std::optional<Refusal> refusal = contactRefusal(ip, m_common, m_contacts))
         return m_drops.count(reasonOf(*refusal));
@@ -61,7 +62,7 @@ void Presence::strangerSeen(const QString &ip, const PeerIdentity &peer, bool on
     m_contacts.add(std::move(contact));
 }
 
-void Presence::cameOnline(const QString &ip, const std::optional<PeerIdentity> &peer, bool asks)
+void PresenceReceiver::cameOnline(const QString &ip, const std::optional<PeerIdentity> &peer, bool asks)
 {
     const bool wasPresent = m_contacts.find(ip)->sortKey.startsWith(QLatin1Char('A'));
     m_contacts.change(ip, [&peer](Contact &contact) {
@@ -81,7 +82,7 @@ void Presence::cameOnline(const QString &ip, const std::optional<PeerIdentity> &
         answer(ip);
 }
 
-void Presence::wentOffline(const QString &ip)
+void PresenceReceiver::wentOffline(const QString &ip)
 {
     m_contacts.change(ip, [](Contact &contact) {
         contact.setPresence(Picture::red);
@@ -93,7 +94,7 @@ void Presence::wentOffline(const QString &ip)
     tellPrivateWindow(contact, tr("%1 has gone offline").arg(contact.nickname));
 }
 
-void Presence::changedState(const QString &ip, const QString &state, const QString &text)
+void PresenceReceiver::changedState(const QString &ip, const QString &state, const QString &text)
 {
     const QString shownState = remoteName(state);
     const QString personalized = remoteName(text);
@@ -107,7 +108,7 @@ void Presence::changedState(const QString &ip, const QString &state, const QStri
     tellPrivateWindow(contact, tr("%1 changed his state to '%2'").arg(contact.nickname, whole));
 }
 
-void Presence::notify(const Notification &notification)
+void PresenceReceiver::notify(const Notification &notification)
 {
     if (m_common.announcing)
         return;
@@ -115,7 +116,7 @@ void Presence::notify(const Notification &notification)
     m_notifications.startTimer();
 }
 
-void Presence::tellPrivateWindow(const Contact &contact, const QString &sentence)
+void PresenceReceiver::tellPrivateWindow(const Contact &contact, const QString &sentence)
 {
     if (contact.privateWindow <= 0 || !m_common.options.presenceLines || m_common.announcing)
         return;
@@ -124,7 +125,7 @@ void Presence::tellPrivateWindow(const Contact &contact, const QString &sentence
     m_privateLogs.appendPresence(contact.privateWindow, opening + sentence);
 }
 
-void Presence::answer(const QString &ip)
+void PresenceReceiver::answer(const QString &ip)
 {
     if (m_common.isInvisible())
         return;

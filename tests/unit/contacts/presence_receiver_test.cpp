@@ -12,10 +12,10 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 /// Ann is online, Ben offline; the announcement of the start is over.
-class PresenceTest : public testing::Test
+class PresenceReceiverTest : public testing::Test
 {
 protected:
-    PresenceTest() { copy.settleStart({"10.0.0.2"}); }
+    PresenceReceiverTest() { copy.settleStart({"10.0.0.2"}); }
 
     /// Opens Ann's private window and empties its log.
     RecorderLog &annsLog()
@@ -29,7 +29,7 @@ protected:
     Copy copy{{.contacts = {{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}}}};
 };
 
-TEST_F(PresenceTest, AContactThatComesOnlineIsShownLoggedAndNotified)
+TEST_F(PresenceReceiverTest, AContactThatComesOnlineIsShownLoggedAndNotified)
 {
     copy.arrive("10.0.0.3", "!ONLINE 10.0.0.3 PC-BEN Big Ben");
     EXPECT_EQ(copy.contact("10.0.0.3").picture, Picture::green);
@@ -43,14 +43,14 @@ TEST_F(PresenceTest, AContactThatComesOnlineIsShownLoggedAndNotified)
     EXPECT_THAT(copy.sent(), IsEmpty());
 }
 
-TEST_F(PresenceTest, AnOnlineContactThatSaysSoAgainIsLoggedAgainButNotNotified)
+TEST_F(PresenceReceiverTest, AnOnlineContactThatSaysSoAgainIsLoggedAgainButNotNotified)
 {
     copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
     EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- 21/11/2026 @ 14:05 - Ann went online ---"));
     EXPECT_THAT(copy.notifications.rows, IsEmpty());
 }
 
-TEST_F(PresenceTest, ABusyOrAwayContactThatComesOnlineIsNotNotified)
+TEST_F(PresenceReceiverTest, ABusyOrAwayContactThatComesOnlineIsNotNotified)
 {
     copy.arrive("10.0.0.2", "!STATUS AWAY");
     copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
@@ -59,7 +59,7 @@ TEST_F(PresenceTest, ABusyOrAwayContactThatComesOnlineIsNotNotified)
     EXPECT_EQ(copy.contact("10.0.0.2").state, QString());
 }
 
-TEST_F(PresenceTest, AQuestionIsAnsweredWithPresenceAndState)
+TEST_F(PresenceReceiverTest, AQuestionIsAnsweredWithPresenceAndState)
 {
     copy.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC Ann");
     EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "!ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!STATUS Online"}));
@@ -74,7 +74,7 @@ TEST_F(PresenceTest, AQuestionIsAnsweredWithPresenceAndState)
                 ElementsAre(To{"10.0.0.2", "!ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!STATUS AWAY Back at five"}));
 }
 
-TEST_F(PresenceTest, AnInvisibleCopyDoesNotAnswer)
+TEST_F(PresenceReceiverTest, AnInvisibleCopyDoesNotAnswer)
 {
     copy.engine.ownState().choose(4);
     copy.sent();
@@ -82,7 +82,7 @@ TEST_F(PresenceTest, AnInvisibleCopyDoesNotAnswer)
     EXPECT_THAT(copy.sent(), IsEmpty());
 }
 
-TEST_F(PresenceTest, WithFewerThanThreeSpacesARowKeepsItsTextsAndStillCounts)
+TEST_F(PresenceReceiverTest, WithFewerThanThreeSpacesARowKeepsItsTextsAndStillCounts)
 {
     copy.arrive("10.0.0.3", "?ONLINE 10.0.0.3 OTHER");
     EXPECT_EQ(copy.contact("10.0.0.3").nickname, QStringLiteral("Ben"));
@@ -93,7 +93,7 @@ TEST_F(PresenceTest, WithFewerThanThreeSpacesARowKeepsItsTextsAndStillCounts)
     EXPECT_EQ(copy.contact("10.0.0.3").picture, Picture::red);
 }
 
-TEST_F(PresenceTest, AFarewellIsShownLoggedAndNotified)
+TEST_F(PresenceReceiverTest, AFarewellIsShownLoggedAndNotified)
 {
     copy.arrive("10.0.0.2", "!STATUS BUSY");
     copy.view.log.clear();
@@ -106,7 +106,7 @@ TEST_F(PresenceTest, AFarewellIsShownLoggedAndNotified)
     EXPECT_THAT(copy.notifications.rows, ElementsAre("Ann is offline [red]"));
 }
 
-TEST_F(PresenceTest, StateWordsMatchWithoutRegardToCase)
+TEST_F(PresenceReceiverTest, StateWordsMatchWithoutRegardToCase)
 {
     for (const char *busy : {"!STATUS BUSY", "!STATUS busy", "!STATUS Busy", "!STATUS busybody"}) {
         copy.arrive("10.0.0.2", busy);
@@ -123,7 +123,7 @@ TEST_F(PresenceTest, StateWordsMatchWithoutRegardToCase)
     }
 }
 
-TEST_F(PresenceTest, AStateChangeIsLoggedWithoutItsText)
+TEST_F(PresenceReceiverTest, AStateChangeIsLoggedWithoutItsText)
 {
     copy.arrive("10.0.0.2", "!STATUS away Back at five");
     EXPECT_EQ(copy.contact("10.0.0.2").state, QStringLiteral("away - Back at five"));
@@ -131,7 +131,7 @@ TEST_F(PresenceTest, AStateChangeIsLoggedWithoutItsText)
     EXPECT_EQ(copy.view.log.colourOfLastPiece(), 0xC08000u);
 }
 
-TEST_F(PresenceTest, ABusyContactSortsAfterAllOnlineOnesAndBeforeEveryAwayOne)
+TEST_F(PresenceReceiverTest, ABusyContactSortsAfterAllOnlineOnesAndBeforeEveryAwayOne)
 {
     copy.arrive("10.0.0.3", "!ONLINE 10.0.0.3 PC Zed");
     copy.arrive("10.0.0.2", "!STATUS BUSY");
@@ -140,7 +140,7 @@ TEST_F(PresenceTest, ABusyContactSortsAfterAllOnlineOnesAndBeforeEveryAwayOne)
     EXPECT_THAT(copy.names(), ElementsAre("Ann", "Zed"));
 }
 
-TEST_F(PresenceTest, PresenceIsLoggedInThePrivateWindow)
+TEST_F(PresenceReceiverTest, PresenceIsLoggedInThePrivateWindow)
 {
     RecorderLog &log = annsLog();
     copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
@@ -155,7 +155,7 @@ TEST_F(PresenceTest, PresenceIsLoggedInThePrivateWindow)
     EXPECT_EQ(log.colourOfLastPiece(), 0x808080u);
 }
 
-TEST_F(PresenceTest, PrivateWindowsStaySilentWhenTheOptionIsOff)
+TEST_F(PresenceReceiverTest, PrivateWindowsStaySilentWhenTheOptionIsOff)
 {
     RecorderLog &log = annsLog();
     copy.common.options.presenceLines = false;
@@ -165,7 +165,7 @@ TEST_F(PresenceTest, PrivateWindowsStaySilentWhenTheOptionIsOff)
     EXPECT_THAT(log.lines(), IsEmpty());
 }
 
-TEST_F(PresenceTest, DuringAnAnnouncementOnlyTheMainLogTells)
+TEST_F(PresenceReceiverTest, DuringAnAnnouncementOnlyTheMainLogTells)
 {
     RecorderLog &log = annsLog();
     copy.announce();
@@ -178,7 +178,7 @@ TEST_F(PresenceTest, DuringAnAnnouncementOnlyTheMainLogTells)
     EXPECT_THAT(log.lines(), IsEmpty());
 }
 
-TEST_F(PresenceTest, UnknownCommandsAndGarbageAreLogged)
+TEST_F(PresenceReceiverTest, UnknownCommandsAndGarbageAreLogged)
 {
     copy.arrive("10.0.0.2", "!FOO");
     copy.arrive("10.0.0.2", "?");
@@ -191,19 +191,19 @@ TEST_F(PresenceTest, UnknownCommandsAndGarbageAreLogged)
     EXPECT_THAT(copy.sent(), IsEmpty());
 }
 
-TEST_F(PresenceTest, QuotedGarbageStaysOnItsLine)
+TEST_F(PresenceReceiverTest, QuotedGarbageStaysOnItsLine)
 {
     copy.arrive("10.0.0.2", "a\r\n--- Ben went online ---\tb");
     EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- garbage received  (a --- Ben went online --- b) ---"));
 }
 
-TEST_F(PresenceTest, LongGarbageIsQuotedInPart)
+TEST_F(PresenceReceiverTest, LongGarbageIsQuotedInPart)
 {
     copy.arrive("10.0.0.2", std::string(60000, 'x'));
     EXPECT_THAT(copy.view.log.lastLine(), testing::EndsWith("x... (52000 more characters)) ---"));
 }
 
-TEST_F(PresenceTest, NamesCannotForgeLines)
+TEST_F(PresenceReceiverTest, NamesCannotForgeLines)
 {
     copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann\r\n--- Ben went online ---");
     EXPECT_EQ(copy.view.log.lines().size(), 1u);
@@ -211,21 +211,21 @@ TEST_F(PresenceTest, NamesCannotForgeLines)
     EXPECT_EQ(copy.contact("10.0.0.2").state, QStringLiteral("a b"));
 }
 
-TEST_F(PresenceTest, ALongNameIsWholeInTheListAndShortInTheNotification)
+TEST_F(PresenceReceiverTest, ALongNameIsWholeInTheListAndShortInTheNotification)
 {
     copy.arrive("10.0.0.3", "!ONLINE 10.0.0.3 PC " + std::string(300, 'n'));
     EXPECT_EQ(copy.contact("10.0.0.3").nickname, QString(255, u'n'));
     EXPECT_THAT(copy.notifications.rows, ElementsAre(std::string(64, 'n') + "… is online [green]"));
 }
 
-TEST_F(PresenceTest, AnEmptyNicknameIsUnknown)
+TEST_F(PresenceReceiverTest, AnEmptyNicknameIsUnknown)
 {
     copy.arrive("10.0.0.3", "!ONLINE 10.0.0.3  ");
     EXPECT_EQ(copy.contact("10.0.0.3").nickname, QStringLiteral("[unknown]"));
     EXPECT_EQ(copy.contact("10.0.0.3").workstation, QStringLiteral("[unknown]"));
 }
 
-TEST_F(PresenceTest, ANewPeerIsAddedButItsFirstQuestionIsNotAnswered)
+TEST_F(PresenceReceiverTest, ANewPeerIsAddedButItsFirstQuestionIsNotAnswered)
 {
     copy.arrive("10.0.0.9", "?ONLINE 10.0.0.9 PC-ZOE Zoe the First");
     ASSERT_TRUE(copy.knows("10.0.0.9"));
@@ -241,21 +241,21 @@ TEST_F(PresenceTest, ANewPeerIsAddedButItsFirstQuestionIsNotAnswered)
     EXPECT_EQ(copy.sent().size(), 2u);
 }
 
-TEST_F(PresenceTest, AStrangersFarewellMakesAnOfflineRow)
+TEST_F(PresenceReceiverTest, AStrangersFarewellMakesAnOfflineRow)
 {
     copy.arrive("10.0.0.9", "!OFFLINE 10.0.0.9 PC-ZOE Zoe");
     EXPECT_EQ(copy.contact("10.0.0.9").picture, Picture::red);
     EXPECT_EQ(copy.contact("10.0.0.9").sortKey, QStringLiteral("C_ZOE"));
 }
 
-TEST_F(PresenceTest, TheSourceAddressCountsNotTheClaimedOne)
+TEST_F(PresenceReceiverTest, TheSourceAddressCountsNotTheClaimedOne)
 {
     copy.arrive("10.0.0.9", "?ONLINE 10.0.0.77 PC-ZOE Zoe");
     EXPECT_TRUE(copy.knows("10.0.0.9"));
     EXPECT_FALSE(copy.knows("10.0.0.77"));
 }
 
-TEST_F(PresenceTest, OwnAndLoopbackDatagramsNeverAddARow)
+TEST_F(PresenceReceiverTest, OwnAndLoopbackDatagramsNeverAddARow)
 {
     copy.arrive("10.0.0.1", "?ONLINE 10.0.0.1 HERE Me");
     copy.arrive("127.0.0.1", "?ONLINE 127.0.0.1 HERE Me");
@@ -263,7 +263,7 @@ TEST_F(PresenceTest, OwnAndLoopbackDatagramsNeverAddARow)
     EXPECT_FALSE(copy.knows("127.0.0.1"));
 }
 
-TEST_F(PresenceTest, OtherDatagramsOfStrangersLeaveNoTrace)
+TEST_F(PresenceReceiverTest, OtherDatagramsOfStrangersLeaveNoTrace)
 {
     copy.arrive("10.0.0.9", "?ONLINE 10.0.0.9 PC-ZOE");
     copy.arrive("10.0.0.9", "-hello");
@@ -276,7 +276,7 @@ TEST_F(PresenceTest, OtherDatagramsOfStrangersLeaveNoTrace)
     EXPECT_EQ(copy.drops.of(Drop::stranger), 4u);
 }
 
-TEST_F(PresenceTest, StrangersCannotFillTheListWithoutEnd)
+TEST_F(PresenceReceiverTest, StrangersCannotFillTheListWithoutEnd)
 {
     for (int i = 0; i < 10050; ++i) {
         const std::string ip

@@ -19,13 +19,13 @@ public:
     virtual void appendPresence(int window, const QString &line) = 0;
 };
 
-class Presence : public PresenceHandler
+class PresenceReceiver : public PresenceHandler
 {
-    Q_DECLARE_TR_FUNCTIONS(Presence)
+    Q_DECLARE_TR_FUNCTIONS(PresenceReceiver)
 
 public:
-    Presence(const Common &common, ContactList &contacts, PresenceSender &sender, MainLog &log,
-             PrivateLogs &privateLogs, Notifications &notifications, const WallClock &clock, DropCounts &drops);
+    PresenceReceiver(const Common &common, ContactList &contacts, PresenceSender &sender, MainLog &log,
+                     PrivateLogs &privateLogs, Notifications &notifications, const WallClock &clock, DropCounts &drops);
 
     void strangerSeen(const QString &ip, const PeerIdentity &peer, bool online) override;
     void cameOnline(const QString &ip, const std::optional<PeerIdentity> &peer, bool asks) override;
