@@ -1,7 +1,7 @@
 // The notification window, as the engine uses it.
 #pragma once
 
-#include "base/presence_picture.h"
+#include "base/presence.h"
 
 #include <QString>
 
@@ -10,8 +10,8 @@ namespace nimb
 
 struct Notification {
     QString text;
-    Picture picture = Picture::green; ///< both the large and the small one
-    QString ip;                       ///< of the contact it is about
+    Presence presence = Presence::online; ///< what the contact has become
+    QString ip;                           ///< of the contact it is about
 };
 
 class Notifications

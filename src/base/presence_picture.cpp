@@ -34,22 +34,4 @@ std::optional<Picture> pictureAt(int position)
     return allPictures[static_cast<std::size_t>(position - 1)];
 }
 
-QString sortPrefix(Picture picture)
-{
-    switch (picture) {
-    case Picture::green:
-        return QStringLiteral("A_");
-    case Picture::busy:
-        return QStringLiteral("Ab");
-    case Picture::away:
-        return QStringLiteral("Aw");
-    case Picture::yellow:
-        return QStringLiteral("B_");
-    case Picture::red:
-    case Picture::invisible:
-        break;
-    }
-    return QStringLiteral("C_");
-}
-
 } // namespace nimb

@@ -23,7 +23,4 @@ int picturePosition(Picture picture);
 /// Empty for a position that the list does not have.
 std::optional<Picture> pictureAt(int position);
 
-/// Prefix of the sort key of a contact that is shown with this picture: "A_", "Ab", "Aw", "B_" or "C_".
-QString sortPrefix(Picture picture);
-
 } // namespace nimb

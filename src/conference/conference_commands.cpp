@@ -139,7 +139,7 @@ void ConferenceCommands::greet(const QString &address)
     contact.ip = address;
     contact.nickname = unheardName;
     contact.workstation = unknownName;
-    contact.setPresence(Picture::green);
+    contact.setPresence(Presence::online);
     m_parts.contacts.add(std::move(contact));
     if (m_parts.common.isInvisible())
         return;

@@ -74,7 +74,7 @@ void Announcement::askNextBatch()
 void Announcement::ask(const QString &ip)
 {
     const bool stillThere = m_contacts.change(ip, [](Contact &contact) {
-        contact.setPresence(Picture::yellow);
+        contact.setPresence(Presence::unknown);
         contact.state.clear();
     });
     if (!stillThere)
@@ -86,8 +86,8 @@ void Announcement::ask(const QString &ip)
 void Announcement::Timer1_Timer()
 {
     for (const QString &ip : m_contacts.addresses()) {
-        if (m_contacts.find(ip)->picture == Picture::yellow)
-            m_contacts.change(ip, [](Contact &contact) { contact.setPresence(Picture::red); });
+        if (m_contacts.find(ip)->presence == Presence::unknown)
+            m_contacts.change(ip, [](Contact &contact) { contact.setPresence(Presence::offline); });
     }
     m_view.refreshContextMenu();
     m_view.setRescanEnabled(true);

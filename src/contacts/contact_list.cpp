@@ -34,10 +34,16 @@ int compareCodePoints(const QString &left, const QString &right)
     return codePointRank(l->unicode()) < codePointRank(r->unicode()) ? -1 : 1;
 }
 
-void Contact::setPresence(Picture presence)
+void Contact::setPresence(Presence now)
 {
-    picture = presence;
-    sortKey = sortPrefix(presence) + nickname.toUpper();
+    presence = now;
+    sortKey = sortKeyOf(now, nickname.toUpper());
+}
+
+void Contact::setUnheard()
+{
+    presence = Presence::unknown;
+    sortKey = sortKeyOf(presence, nickname);
 }
 
 ContactList::~ContactList() = default;
@@ -156,7 +162,7 @@ void ContactList::load(const SettingsStore &store)
         contact.ip = ip;
         contact.nickname = nameOrUnknown(store.read(usersSection, QLatin1String("Nn") + number, {}));
         contact.workstation = nameOrUnknown(store.read(usersSection, QLatin1String("Ws") + number, {}));
-        contact.sortKey = sortPrefix(Picture::yellow) + contact.nickname;
+        contact.setUnheard();
         add(std::move(contact));
     }
 }
@@ -194,7 +200,7 @@ QVariant ContactList::data(const QModelIndex &index, int role) const
     if (role == TagRole)
         return contact.ip;
     if (role == PictureRole)
-        return pictureKey(contact.picture);
+        return pictureKey(pictureOf(contact.presence));
     if (role != Qt::DisplayRole)
         return {};
     switch (index.column()) {

@@ -1,7 +1,7 @@
 // The user's own list of peers: an item model that keeps itself sorted.
 #pragma once
 
-#include "base/presence_picture.h"
+#include "base/presence.h"
 #include "base/settings_store.h"
 #include "protocol/handlers.h"
 
@@ -24,14 +24,16 @@ struct Contact {
     QString nickname; ///< the row's text
     QString workstation;
     QString ip; ///< the row's tag: where every datagram to this contact goes
-    Picture picture = Picture::yellow;
+    Presence presence = Presence::unknown;
     QString sortKey;
     int privateWindow = 0; ///< number of the peer's private window, 0 when none is open
     QString avatarNumber;  ///< number of the peer's avatar, empty when none is known
     QString state;         ///< last reported state text
 
     /// Shows the presence and writes the sort key that goes with it, with the nickname in capitals.
-    void setPresence(Picture presence);
+    void setPresence(Presence now);
+    /// Nothing is known yet and nobody was asked: sorted by the nickname as it is written.
+    void setUnheard();
 };
 
 /// A name as a peer wrote it, made fit for a row; unknownName when it is empty.

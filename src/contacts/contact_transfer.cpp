@@ -83,7 +83,7 @@ QVariant TransferList::data(const QModelIndex &index, int role) const
     case TagRole:
         return row.address;
     case PictureRole:
-        return pictureKey(row.picture);
+        return pictureKey(pictureOf(row.presence));
     default:
         return {};
     }
@@ -109,7 +109,7 @@ void ContactTransfer::Form_Load()
     for (int row = 0; row < m_contacts.rowCount(); ++row) {
         const Contact &contact = m_contacts.at(row);
         if (contact.ip != m_destination)
-            rows.push_back({QLatin1String("IP") + contact.ip, contact.nickname, contact.ip, contact.picture});
+            rows.push_back({QLatin1String("IP") + contact.ip, contact.nickname, contact.ip, contact.presence});
     }
     m_offered.append(std::move(rows));
 }

@@ -13,7 +13,7 @@ struct TransferRow {
     QString key;  ///< "IP" and the address
     QString text; ///< the nickname when the row was made
     QString address;
-    Picture picture = Picture::yellow;
+    Presence presence = Presence::unknown;
 };
 
 /// One of the two lists: rows in the order in which they came.

@@ -131,8 +131,7 @@ void OwnState::goInvisible()
 void OwnState::tellPresentContacts(void (PresenceSender::*tell)(const QString &) const)
 {
     for (const QString &ip : m_contacts.addresses()) {
-        const Picture picture = m_contacts.find(ip)->picture;
-        if (picture != Picture::red && picture != Picture::yellow)
+        if (isPresent(m_contacts.find(ip)->presence))
             (m_sender.*tell)(ip);
     }
 }

@@ -11,20 +11,20 @@ namespace
 
 /// The names of the own-state table, in the order in which they are tried; a peer's state word matches by its first
 /// characters, without regard to case.
-Picture pictureOfState(const QString &state)
+Presence presenceOfState(const QString &state)
 {
     struct Name {
         QString upperCase;
-        Picture picture;
+        Presence presence;
     };
     static const std::array names
-        = {Name{QStringLiteral("ONLINE"), Picture::green}, Name{QStringLiteral("BUSY"), Picture::busy},
-           Name{QStringLiteral("AWAY"), Picture::away}};
+        = {Name{QStringLiteral("ONLINE"), Presence::online}, Name{QStringLiteral("BUSY"), Presence::busy},
+           Name{QStringLiteral("AWAY"), Presence::away}};
     for (const Name &name : names) {
         if (state.left(name.upperCase.size()).toUpper() == name.upperCase)
-            return name.picture;
+            return name.presence;
     }
-    return Picture::green;
+    return Presence::online;
 }
 
 /// An echo of this copy's own datagrams is nobody's.
@@ -58,24 +58,24 @@ void PresenceReceiver::strangerSeen(const QString &ip, const PeerIdentity &peer,
     contact.ip = ip;
     contact.nickname = nameOrUnknown(peer.nick);
     contact.workstation = nameOrUnknown(peer.host);
-    contact.setPresence(online ? Picture::green : Picture::red);
+    contact.setPresence(online ? Presence::online : Presence::offline);
     m_contacts.add(std::move(contact));
 }
 
 void PresenceReceiver::cameOnline(const QString &ip, const std::optional<PeerIdentity> &peer, bool asks)
 {
-    const bool wasPresent = m_contacts.find(ip)->sortKey.startsWith(QLatin1Char('A'));
+    const bool wasPresent = isPresent(m_contacts.find(ip)->presence);
     m_contacts.change(ip, [&peer](Contact &contact) {
         if (peer) {
             contact.nickname = nameOrUnknown(peer->nick);
             contact.workstation = nameOrUnknown(peer->host);
         }
-        contact.setPresence(Picture::green);
+        contact.setPresence(Presence::online);
         contact.state.clear();
     });
     const Contact &contact = *m_contacts.find(ip);
     if (!wasPresent)
-        notify({tr("%1 is online").arg(paintedName(contact.nickname)), Picture::green, ip});
+        notify({tr("%1 is online").arg(paintedName(contact.nickname)), Presence::online, ip});
     m_log.wentOnline(contact.nickname);
     tellPrivateWindow(contact, tr("%1 is online").arg(contact.nickname));
     if (asks)
@@ -85,11 +85,11 @@ void PresenceReceiver::cameOnline(const QString &ip, const std::optional<PeerIde
 void PresenceReceiver::wentOffline(const QString &ip)
 {
     m_contacts.change(ip, [](Contact &contact) {
-        contact.setPresence(Picture::red);
+        contact.setPresence(Presence::offline);
         contact.state.clear();
     });
     const Contact &contact = *m_contacts.find(ip);
-    notify({tr("%1 is offline").arg(paintedName(contact.nickname)), Picture::red, ip});
+    notify({tr("%1 is offline").arg(paintedName(contact.nickname)), Presence::offline, ip});
     m_log.wentOffline(contact.nickname);
     tellPrivateWindow(contact, tr("%1 has gone offline").arg(contact.nickname));
 }
@@ -100,7 +100,7 @@ void PresenceReceiver::changedState(const QString &ip, const QString &state, con
     const QString personalized = remoteName(text);
     const QString whole = personalized.isEmpty() ? shownState : shownState + QLatin1String(" - ") + personalized;
     m_contacts.change(ip, [&](Contact &contact) {
-        contact.setPresence(pictureOfState(state));
+        contact.setPresence(presenceOfState(state));
         contact.state = whole;
     });
     const Contact &contact = *m_contacts.find(ip);

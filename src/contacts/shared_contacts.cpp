@@ -18,7 +18,7 @@ void SharedContacts::sharedContact(const QString &, const PeerIdentity &shared)
     contact.ip = shared.ip;
     contact.nickname = nameOrUnknown(shared.nick);
     contact.workstation = nameOrUnknown(shared.host);
-    contact.sortKey = sortPrefix(contact.picture) + contact.nickname; // as written, until it is heard of
+    contact.setUnheard();
     m_contacts.add(std::move(contact));
 }
 

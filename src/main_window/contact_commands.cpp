@@ -12,9 +12,10 @@ ContactMenuCaptions ContactCommands::captions(const QString &ip) const
     if (!contact)
         return {tr("&Private Chat"), tr("&Buzz User"), tr("Re&move User"), tr("Send &Contacts"), tr("I&nvite user")};
     const QString name = menuName(contact->nickname);
-    return {tr("Private chat with '%1'").arg(name), tr("Buzz '%1'").arg(name),
-            tr("Remove '%1' from the list").arg(name), tr("Send &contacts to '%1'").arg(name),
-            (contact->picture == Picture::red ? tr("&Net send message to '%1'") : tr("I&nvite user '%1'")).arg(name)};
+    return {
+        tr("Private chat with '%1'").arg(name), tr("Buzz '%1'").arg(name), tr("Remove '%1' from the list").arg(name),
+        tr("Send &contacts to '%1'").arg(name),
+        (contact->presence == Presence::offline ? tr("&Net send message to '%1'") : tr("I&nvite user '%1'")).arg(name)};
 }
 
 QString ContactCommands::toolTip(const QString &ip) const
@@ -34,7 +35,7 @@ QString ContactCommands::details(const QString &ip) const
 void ContactCommands::mnuPrivateChat(const QString &ip)
 {
     const Contact *contact = m_contacts.find(ip);
-    if (contact && contact->picture != Picture::yellow)
+    if (contact && contact->presence != Presence::unknown)
         m_chats.openPrivate(ip);
 }
 

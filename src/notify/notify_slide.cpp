@@ -52,7 +52,7 @@ QVariant NotifyRows::data(const QModelIndex &index, int role) const
     case TagRole:
         return row.ip;
     case PictureRole:
-        return pictureKey(row.picture);
+        return pictureKey(pictureOf(row.presence));
     default:
         return {};
     }

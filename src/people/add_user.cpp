@@ -30,9 +30,7 @@ bool AddUser::CmdOK_Click(const QString &nickname, const QString &hostname, cons
     contact.nickname = nickname;
     contact.workstation = hostname;
     contact.ip = ipaddress;
-    contact.picture = Picture::yellow;
-    // As typed, not in capitals: the first announcement writes the usual key.
-    contact.sortKey = sortPrefix(Picture::yellow) + nickname;
+    contact.setUnheard();
     return m_contacts.add(std::move(contact));
 }
 

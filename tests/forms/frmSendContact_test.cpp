@@ -43,7 +43,7 @@ protected:
         contact.ip = QStringLiteral("10.0.0.%1").arg(contacts.rowCount() + 2);
         contact.nickname = name;
         contact.workstation = QStringLiteral("PC");
-        contact.setPresence(Picture::green);
+        contact.setPresence(Presence::online);
         contacts.add(std::move(contact));
     }
     /// For Ben, who is at 10.0.0.3.

@@ -59,38 +59,38 @@ TEST_F(Story, TwoWhoKnowEachOtherMeetChangeStateLeaveAndComeBack)
 {
     Copy &ann = enter("10.0.0.1", "Ann", {{"10.0.0.2", "Ben"}});
     pass();
-    EXPECT_EQ(ann.contact("10.0.0.2").picture, Picture::red);
+    EXPECT_EQ(ann.contact("10.0.0.2").presence, Presence::offline);
 
     Copy *ben = &enter("10.0.0.2", "Ben", {{"10.0.0.1", "Ann"}});
     pass();
-    EXPECT_EQ(ann.contact("10.0.0.2").picture, Picture::green);
-    EXPECT_EQ(ben->contact("10.0.0.1").picture, Picture::green);
+    EXPECT_EQ(ann.contact("10.0.0.2").presence, Presence::online);
+    EXPECT_EQ(ben->contact("10.0.0.1").presence, Presence::online);
     EXPECT_THAT(ann.notifications.rows, ElementsAre("Ben is online [green]"));
 
     ben->engine.ownState().addPersonalized(Picture::busy, QStringLiteral("In a meeting"));
     pass();
-    EXPECT_EQ(ann.contact("10.0.0.2").picture, Picture::busy);
+    EXPECT_EQ(ann.contact("10.0.0.2").presence, Presence::busy);
     EXPECT_EQ(ann.contact("10.0.0.2").state, QStringLiteral("BUSY - In a meeting"));
 
     ben->engine.ownState().choose(4);
     pass();
-    EXPECT_EQ(ann.contact("10.0.0.2").picture, Picture::red);
-    EXPECT_EQ(ben->contact("10.0.0.1").picture, Picture::green);
+    EXPECT_EQ(ann.contact("10.0.0.2").presence, Presence::offline);
+    EXPECT_EQ(ben->contact("10.0.0.1").presence, Presence::online);
 
     ann.announce();
     pass();
-    EXPECT_EQ(ann.contact("10.0.0.2").picture, Picture::red) << "an invisible copy gave itself away";
+    EXPECT_EQ(ann.contact("10.0.0.2").presence, Presence::offline) << "an invisible copy gave itself away";
 
     ben->engine.ownState().choose(1);
     pass();
-    EXPECT_EQ(ann.contact("10.0.0.2").picture, Picture::green);
+    EXPECT_EQ(ann.contact("10.0.0.2").presence, Presence::online);
 
     leave(*ben);
-    EXPECT_EQ(ann.contact("10.0.0.2").picture, Picture::red);
+    EXPECT_EQ(ann.contact("10.0.0.2").presence, Presence::offline);
     ben = &enter("10.0.0.2", "Benjamin", {{"10.0.0.1", "Ann"}});
     pass();
     EXPECT_EQ(ann.contact("10.0.0.2").nickname, QStringLiteral("Benjamin"));
-    EXPECT_EQ(ann.contact("10.0.0.2").picture, Picture::green);
+    EXPECT_EQ(ann.contact("10.0.0.2").presence, Presence::online);
 }
 
 TEST_F(Story, StrangersMeetWhenBothHaveAsked)
@@ -99,13 +99,13 @@ TEST_F(Story, StrangersMeetWhenBothHaveAsked)
     Copy &ben = enter("10.0.0.2", "Ben", {{"10.0.0.1", "whoever"}});
     pass();
     ASSERT_TRUE(ann.knows("10.0.0.2"));
-    EXPECT_EQ(ann.contact("10.0.0.2").picture, Picture::green);
-    EXPECT_EQ(ben.contact("10.0.0.1").picture, Picture::red) << "the first question of a stranger was answered";
+    EXPECT_EQ(ann.contact("10.0.0.2").presence, Presence::online);
+    EXPECT_EQ(ben.contact("10.0.0.1").presence, Presence::offline) << "the first question of a stranger was answered";
     EXPECT_EQ(ben.contact("10.0.0.1").nickname, QStringLiteral("whoever"));
 
     ben.announce();
     pass();
-    EXPECT_EQ(ben.contact("10.0.0.1").picture, Picture::green);
+    EXPECT_EQ(ben.contact("10.0.0.1").presence, Presence::online);
     EXPECT_EQ(ben.contact("10.0.0.1").nickname, QStringLiteral("Ann"));
 }
 

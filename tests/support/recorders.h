@@ -272,7 +272,7 @@ class RecorderNotifications : public Notifications
 public:
     void add(const Notification &row) override
     {
-        rows.push_back(row.text.toStdString() + " [" + pictureKey(row.picture).toStdString() + "]");
+        rows.push_back(row.text.toStdString() + " [" + pictureKey(pictureOf(row.presence)).toStdString() + "]");
         lastIp = row.ip.toStdString();
     }
     void startTimer() override { ++starts; }

@@ -36,7 +36,7 @@ public:
         Contact contact;
         contact.ip = ip;
         contact.nickname = nickname;
-        contact.setPresence(Picture::green);
+        contact.setPresence(Presence::online);
         engine.contacts().add(contact);
     }
     /// The datagram as if it had come from there, without the network.

@@ -427,7 +427,7 @@ TEST_F(ConferenceTest, AnUnknownParticipantBecomesAContactAndIsGreeted)
     copy.arrive("10.0.0.2", "!CONF USERS #3 10.0.0.2 10.0.0.99");
     ASSERT_TRUE(copy.knows("10.0.0.99"));
     EXPECT_EQ(copy.contact("10.0.0.99").nickname, QStringLiteral("(unknown)"));
-    EXPECT_EQ(copy.contact("10.0.0.99").picture, Picture::green);
+    EXPECT_EQ(copy.contact("10.0.0.99").presence, Presence::online);
     EXPECT_THAT(copy.sent(),
                 ElementsAre(To("10.0.0.2", "?AVATARHEAD"), To("10.0.0.99", "?ONLINE 10.0.0.1 HERE Me"),
                             To("10.0.0.99", "!STATUS BUSY"), To("10.0.0.99", "?AVATARHEAD")));

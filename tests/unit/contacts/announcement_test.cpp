@@ -24,11 +24,11 @@ TEST(Announcement, MarksOnlyTheSilentContactsOffline)
     Copy copy({.contacts = {{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}}});
     copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC-ANN Ann");
     copy.advance(999ms);
-    EXPECT_EQ(copy.contact("10.0.0.3").picture, Picture::yellow);
+    EXPECT_EQ(copy.contact("10.0.0.3").presence, Presence::unknown);
     EXPECT_TRUE(copy.common.announcing);
     copy.advance(1ms);
-    EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::green);
-    EXPECT_EQ(copy.contact("10.0.0.3").picture, Picture::red);
+    EXPECT_EQ(copy.contact("10.0.0.2").presence, Presence::online);
+    EXPECT_EQ(copy.contact("10.0.0.3").presence, Presence::offline);
     EXPECT_EQ(copy.contact("10.0.0.3").sortKey, QStringLiteral("C_BEN"));
     EXPECT_TRUE(copy.view.rescanEnabled);
     EXPECT_FALSE(copy.common.announcing);
@@ -41,7 +41,7 @@ TEST(Announcement, TurnsContactsYellowWithCapitalKeysAndEmptiesTheirState)
     copy.settleStart({"10.0.0.2"});
     copy.arrive("10.0.0.2", "!STATUS BUSY");
     copy.announce();
-    EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::yellow);
+    EXPECT_EQ(copy.contact("10.0.0.2").presence, Presence::unknown);
     EXPECT_EQ(copy.contact("10.0.0.2").sortKey, QStringLiteral("B_ANN"));
     EXPECT_EQ(copy.contact("10.0.0.2").state, QString());
 }
@@ -71,9 +71,9 @@ TEST(Announcement, RunningAgainStartsTheSecondOver)
     copy.advance(900ms);
     copy.announce();
     copy.advance(900ms);
-    EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::yellow);
+    EXPECT_EQ(copy.contact("10.0.0.2").presence, Presence::unknown);
     copy.advance(100ms);
-    EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::red);
+    EXPECT_EQ(copy.contact("10.0.0.2").presence, Presence::offline);
 }
 
 class LongAnnouncement : public testing::Test
@@ -98,20 +98,20 @@ TEST_F(LongAnnouncement, ReadsAnswersBetweenItsBatches)
     copy.advance(0ms);
     EXPECT_EQ(copy.sent().size(), 2000u);
     copy.advance(1000ms);
-    EXPECT_EQ(copy.engine.contacts().find(first)->picture, Picture::green);
-    EXPECT_EQ(copy.engine.contacts().at(1).picture, Picture::red);
-    EXPECT_EQ(copy.engine.contacts().at(999).picture, Picture::red);
+    EXPECT_EQ(copy.engine.contacts().find(first)->presence, Presence::online);
+    EXPECT_EQ(copy.engine.contacts().at(1).presence, Presence::offline);
+    EXPECT_EQ(copy.engine.contacts().at(999).presence, Presence::offline);
 }
 
 TEST_F(LongAnnouncement, TurnsAContactYellowOnlyWithItsOwnQuestion)
 {
     copy.advance(1000ms);
     copy.announce();
-    int yellow = 0;
+    int unknown = 0;
     for (int row = 0; row < 1000; ++row)
-        yellow += copy.engine.contacts().at(row).picture == Picture::yellow;
-    EXPECT_GT(yellow, 0);
-    EXPECT_LT(yellow, 1000);
+        unknown += copy.engine.contacts().at(row).presence == Presence::unknown;
+    EXPECT_GT(unknown, 0);
+    EXPECT_LT(unknown, 1000);
 }
 
 TEST_F(LongAnnouncement, SkipsContactsRemovedMeanwhileAndWaitsAfterTheLastQuestion)

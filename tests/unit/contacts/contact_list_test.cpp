@@ -8,7 +8,7 @@ namespace
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-Contact named(const char *ip, const char *nickname, Picture presence)
+Contact named(const char *ip, const char *nickname, Presence presence)
 {
     Contact contact;
     contact.ip = QLatin1String(ip);
@@ -39,7 +39,7 @@ TEST(ContactList, LoadedContactsAreNotYetKnown)
     const Contact &ann = copy.contact("192.168.0.7");
     EXPECT_EQ(ann.nickname, QStringLiteral("Ann"));
     EXPECT_EQ(ann.workstation, QStringLiteral("PC-ANN"));
-    EXPECT_EQ(ann.picture, Picture::yellow);
+    EXPECT_EQ(ann.presence, Presence::unknown);
     EXPECT_EQ(ann.sortKey, QStringLiteral("B_Ann"));
     EXPECT_EQ(ann.state, QString());
     EXPECT_EQ(ann.privateWindow, 0);
@@ -48,7 +48,7 @@ TEST(ContactList, LoadedContactsAreNotYetKnown)
 TEST(ContactList, RowsShowTheirFieldsInTheColumns)
 {
     ContactList list;
-    Contact ann = named("192.168.0.7", "Ann", Picture::busy);
+    Contact ann = named("192.168.0.7", "Ann", Presence::busy);
     ann.workstation = QStringLiteral("PC-ANN");
     ann.privateWindow = 3;
     ann.avatarNumber = QStringLiteral("2");
@@ -77,27 +77,27 @@ TEST(ContactList, RowsShowTheirFieldsInTheColumns)
 TEST(ContactList, AClosedPrivateWindowShowsAsAnEmptyCell)
 {
     ContactList list;
-    list.add(named("10.0.0.2", "Ann", Picture::green));
+    list.add(named("10.0.0.2", "Ann", Presence::online));
     EXPECT_EQ(list.index(0, ContactList::PrivateWin).data().toString(), QString());
 }
 
 TEST(ContactList, NoAddressStandsInTheListTwice)
 {
     ContactList list;
-    EXPECT_TRUE(list.add(named("10.0.0.2", "Ann", Picture::green)));
-    EXPECT_FALSE(list.add(named("10.0.0.2", "Ben", Picture::red)));
+    EXPECT_TRUE(list.add(named("10.0.0.2", "Ann", Presence::online)));
+    EXPECT_FALSE(list.add(named("10.0.0.2", "Ben", Presence::offline)));
     EXPECT_THAT(order(list), ElementsAre("Ann"));
 }
 
 TEST(ContactList, OnlineComesFirstThenBusyAwayNotYetKnownAndOffline)
 {
     ContactList list;
-    list.add(named("10.0.0.1", "Off", Picture::red));
-    list.add(named("10.0.0.2", "Unknown", Picture::yellow));
-    list.add(named("10.0.0.3", "Away", Picture::away));
-    list.add(named("10.0.0.4", "Zed busy", Picture::busy));
-    list.add(named("10.0.0.5", "Zoe", Picture::green));
-    list.add(named("10.0.0.6", "ann", Picture::green));
+    list.add(named("10.0.0.1", "Off", Presence::offline));
+    list.add(named("10.0.0.2", "Unknown", Presence::unknown));
+    list.add(named("10.0.0.3", "Away", Presence::away));
+    list.add(named("10.0.0.4", "Zed busy", Presence::busy));
+    list.add(named("10.0.0.5", "Zoe", Presence::online));
+    list.add(named("10.0.0.6", "ann", Presence::online));
     EXPECT_THAT(order(list), ElementsAre("ann", "Zoe", "Zed busy", "Away", "Unknown", "Off"));
 }
 
@@ -116,15 +116,15 @@ TEST(ContactList, AChangeMovesTheRowAlone)
 {
     ContactList list;
     for (const char *name : {"a", "b", "c", "d", "e"})
-        list.add(named((std::string("10.0.0.") + std::to_string(name[0] - 'a' + 1)).c_str(), name, Picture::yellow));
+        list.add(named((std::string("10.0.0.") + std::to_string(name[0] - 'a' + 1)).c_str(), name, Presence::unknown));
     int moves = 0;
     int resets = 0;
     QObject::connect(&list, &QAbstractItemModel::rowsMoved, [&moves] { ++moves; });
     QObject::connect(&list, &QAbstractItemModel::layoutChanged, [&resets] { ++resets; });
     QObject::connect(&list, &QAbstractItemModel::modelReset, [&resets] { ++resets; });
-    list.change(QStringLiteral("10.0.0.4"), [](Contact &d) { d.setPresence(Picture::green); });
+    list.change(QStringLiteral("10.0.0.4"), [](Contact &d) { d.setPresence(Presence::online); });
     EXPECT_THAT(order(list), ElementsAre("d", "a", "b", "c", "e"));
-    list.change(QStringLiteral("10.0.0.1"), [](Contact &a) { a.setPresence(Picture::red); });
+    list.change(QStringLiteral("10.0.0.1"), [](Contact &a) { a.setPresence(Presence::offline); });
     EXPECT_THAT(order(list), ElementsAre("d", "b", "c", "e", "a"));
     list.change(QStringLiteral("10.0.0.4"), [](Contact &d) { d.state = QStringLiteral("x"); });
     EXPECT_EQ(moves, 2);
@@ -214,8 +214,8 @@ TEST(ContactList, RemovingTheOnlyContactStoresTheMarkerFirst)
 TEST(ContactList, TheMarkersAddressIsSkippedWhenSaving)
 {
     Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
-    copy.engine.contacts().add(named("255.255.255.255", "Aaron", Picture::green));
-    copy.engine.contacts().add(named("10.0.0.3", "Ben", Picture::red));
+    copy.engine.contacts().add(named("255.255.255.255", "Aaron", Presence::online));
+    copy.engine.contacts().add(named("10.0.0.3", "Ben", Presence::offline));
     copy.sent();
     copy.engine.mainWindow().Form_Unload();
     EXPECT_EQ(copy.settings.value("Users", "IP1"), "10.0.0.2");

@@ -18,14 +18,14 @@ protected:
     ContactTransferTest()
     {
         socket.bind();
-        add("10.0.0.2", "Ann", Picture::green);
-        add("10.0.0.3", "Ben", Picture::green);
-        add("10.0.0.4", "Cleo", Picture::away);
-        add("10.0.0.5", "Dora", Picture::red);
-        add("10.0.0.6", "Emil", Picture::red);
+        add("10.0.0.2", "Ann", Presence::online);
+        add("10.0.0.3", "Ben", Presence::online);
+        add("10.0.0.4", "Cleo", Presence::away);
+        add("10.0.0.5", "Dora", Presence::offline);
+        add("10.0.0.6", "Emil", Presence::offline);
     }
 
-    void add(const char *ip, const char *nickname, Picture presence)
+    void add(const char *ip, const char *nickname, Presence presence)
     {
         Contact contact;
         contact.ip = QLatin1String(ip);
@@ -38,7 +38,7 @@ protected:
     {
         contacts.change(QLatin1String(ip), [nickname](Contact &contact) {
             contact.nickname = QString::fromUtf8(nickname);
-            contact.setPresence(contact.picture);
+            contact.setPresence(contact.presence);
         });
     }
     /// The dialog for Ben.
@@ -143,7 +143,7 @@ TEST_F(ContactTransferTest, ThousandsMoveWithEverySecondSelected)
         Contact contact;
         contact.ip = QString::number(i);
         contact.nickname = QStringLiteral("N%1").arg(i, 5, 10, QLatin1Char('0'));
-        contact.setPresence(Picture::green);
+        contact.setPresence(Presence::online);
         many.add(std::move(contact));
     }
     ContactTransfer large(socket, many, {});
@@ -207,7 +207,7 @@ TEST_F(ContactTransferTest, AContactRemovedMeanwhileIsLeftOut)
 TEST_F(ContactTransferTest, AContactThatCameMeanwhileIsNotOffered)
 {
     load();
-    add("10.0.0.9", "Zoe", Picture::green);
+    add("10.0.0.9", "Zoe", Presence::online);
     transfer->btnsendall_Click();
     EXPECT_THAT(chosen(), ElementsAre("Ann", "Cleo", "Dora", "Emil"));
 }

@@ -32,7 +32,7 @@ protected:
 TEST_F(PresenceReceiverTest, AContactThatComesOnlineIsShownLoggedAndNotified)
 {
     copy.arrive("10.0.0.3", "!ONLINE 10.0.0.3 PC-BEN Big Ben");
-    EXPECT_EQ(copy.contact("10.0.0.3").picture, Picture::green);
+    EXPECT_EQ(copy.contact("10.0.0.3").presence, Presence::online);
     EXPECT_EQ(copy.contact("10.0.0.3").nickname, QStringLiteral("Big Ben"));
     EXPECT_EQ(copy.contact("10.0.0.3").workstation, QStringLiteral("PC-BEN"));
     EXPECT_EQ(copy.contact("10.0.0.3").sortKey, QStringLiteral("A_BIG BEN"));
@@ -55,7 +55,7 @@ TEST_F(PresenceReceiverTest, ABusyOrAwayContactThatComesOnlineIsNotNotified)
     copy.arrive("10.0.0.2", "!STATUS AWAY");
     copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
     EXPECT_THAT(copy.notifications.rows, IsEmpty());
-    EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::green);
+    EXPECT_EQ(copy.contact("10.0.0.2").presence, Presence::online);
     EXPECT_EQ(copy.contact("10.0.0.2").state, QString());
 }
 
@@ -87,10 +87,10 @@ TEST_F(PresenceReceiverTest, WithFewerThanThreeSpacesARowKeepsItsTextsAndStillCo
     copy.arrive("10.0.0.3", "?ONLINE 10.0.0.3 OTHER");
     EXPECT_EQ(copy.contact("10.0.0.3").nickname, QStringLiteral("Ben"));
     EXPECT_EQ(copy.contact("10.0.0.3").workstation, QStringLiteral("PC"));
-    EXPECT_EQ(copy.contact("10.0.0.3").picture, Picture::green);
+    EXPECT_EQ(copy.contact("10.0.0.3").presence, Presence::online);
     EXPECT_EQ(copy.sent().size(), 2u);
     copy.arrive("10.0.0.3", "!OFFLINE");
-    EXPECT_EQ(copy.contact("10.0.0.3").picture, Picture::red);
+    EXPECT_EQ(copy.contact("10.0.0.3").presence, Presence::offline);
 }
 
 TEST_F(PresenceReceiverTest, AFarewellIsShownLoggedAndNotified)
@@ -98,7 +98,7 @@ TEST_F(PresenceReceiverTest, AFarewellIsShownLoggedAndNotified)
     copy.arrive("10.0.0.2", "!STATUS BUSY");
     copy.view.log.clear();
     copy.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Other Name");
-    EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::red);
+    EXPECT_EQ(copy.contact("10.0.0.2").presence, Presence::offline);
     EXPECT_EQ(copy.contact("10.0.0.2").sortKey, QStringLiteral("C_ANN"));
     EXPECT_EQ(copy.contact("10.0.0.2").state, QString());
     EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- 21/11/2026 @ 14:05 - Ann has gone offline ---"));
@@ -110,15 +110,15 @@ TEST_F(PresenceReceiverTest, StateWordsMatchWithoutRegardToCase)
 {
     for (const char *busy : {"!STATUS BUSY", "!STATUS busy", "!STATUS Busy", "!STATUS busybody"}) {
         copy.arrive("10.0.0.2", busy);
-        EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::busy) << busy;
+        EXPECT_EQ(copy.contact("10.0.0.2").presence, Presence::busy) << busy;
         EXPECT_EQ(copy.contact("10.0.0.2").sortKey, QStringLiteral("AbANN"));
     }
     copy.arrive("10.0.0.2", "!STATUS aWaY");
-    EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::away);
+    EXPECT_EQ(copy.contact("10.0.0.2").presence, Presence::away);
     EXPECT_EQ(copy.contact("10.0.0.2").sortKey, QStringLiteral("AwANN"));
     for (const char *other : {"!STATUS ONLINE", "!STATUS Invisible", "!STATUS lunch", "!STATUS", "!STATUS bus"}) {
         copy.arrive("10.0.0.2", other);
-        EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::green) << other;
+        EXPECT_EQ(copy.contact("10.0.0.2").presence, Presence::online) << other;
         EXPECT_EQ(copy.contact("10.0.0.2").sortKey, QStringLiteral("A_ANN"));
     }
 }
@@ -231,7 +231,7 @@ TEST_F(PresenceReceiverTest, ANewPeerIsAddedButItsFirstQuestionIsNotAnswered)
     ASSERT_TRUE(copy.knows("10.0.0.9"));
     EXPECT_EQ(copy.contact("10.0.0.9").nickname, QStringLiteral("Zoe the First"));
     EXPECT_EQ(copy.contact("10.0.0.9").workstation, QStringLiteral("PC-ZOE"));
-    EXPECT_EQ(copy.contact("10.0.0.9").picture, Picture::green);
+    EXPECT_EQ(copy.contact("10.0.0.9").presence, Presence::online);
     EXPECT_EQ(copy.contact("10.0.0.9").sortKey, QStringLiteral("A_ZOE THE FIRST"));
     EXPECT_EQ(copy.contact("10.0.0.9").state, QString());
     EXPECT_THAT(copy.sent(), IsEmpty());
@@ -244,7 +244,7 @@ TEST_F(PresenceReceiverTest, ANewPeerIsAddedButItsFirstQuestionIsNotAnswered)
 TEST_F(PresenceReceiverTest, AStrangersFarewellMakesAnOfflineRow)
 {
     copy.arrive("10.0.0.9", "!OFFLINE 10.0.0.9 PC-ZOE Zoe");
-    EXPECT_EQ(copy.contact("10.0.0.9").picture, Picture::red);
+    EXPECT_EQ(copy.contact("10.0.0.9").presence, Presence::offline);
     EXPECT_EQ(copy.contact("10.0.0.9").sortKey, QStringLiteral("C_ZOE"));
 }
 

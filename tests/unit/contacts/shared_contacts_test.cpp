@@ -27,7 +27,7 @@ TEST_F(SharedContactsTest, BecomesARowThatIsNotYetKnown)
     const Contact &contact = copy.contact("10.0.0.7");
     EXPECT_EQ(contact.nickname, QStringLiteral("Cleo the Great"));
     EXPECT_EQ(contact.workstation, QStringLiteral("PC-CLEO"));
-    EXPECT_EQ(contact.picture, Picture::yellow);
+    EXPECT_EQ(contact.presence, Presence::unknown);
     EXPECT_EQ(contact.sortKey, QStringLiteral("B_Cleo the Great"));
     EXPECT_THAT(copy.sent(), IsEmpty()) << "its presence is learnt at the next announcement";
     EXPECT_THAT(copy.names(), ElementsAre("Ann", "Cleo the Great"));
@@ -37,7 +37,7 @@ TEST_F(SharedContactsTest, ARowThatIsThereStaysAsItIs)
 {
     copy.arrive("10.0.0.2", "!USER 10.0.0.2 PC-OTHER Somebody else");
     EXPECT_EQ(copy.contact("10.0.0.2").nickname, QStringLiteral("Ann"));
-    EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::green);
+    EXPECT_EQ(copy.contact("10.0.0.2").presence, Presence::online);
     EXPECT_THAT(copy.names(), ElementsAre("Ann"));
 }
 

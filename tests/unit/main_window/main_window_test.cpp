@@ -21,7 +21,7 @@ TEST(MainWindowLoad, SetsCaptionPlaceBannerPortsContactsAndIcon)
     EXPECT_THAT(copy.view.log.lines(), ElementsAre("« NIMB-Chat [today:21/11/2026 - now:14:05:09] Ready »"));
     EXPECT_EQ(copy.view.log.colourOfLastPiece(), 0xA0A0A0u);
     EXPECT_THAT(copy.names(), ElementsAre("Ann"));
-    EXPECT_EQ(copy.contact("10.0.0.2").picture, Picture::yellow);
+    EXPECT_EQ(copy.contact("10.0.0.2").presence, Presence::unknown);
     EXPECT_THAT(copy.steps, ElementsAre("AddIcon NIMB-Chat"));
 }
 

@@ -64,7 +64,7 @@ TEST_F(AddUserTest, TheSortKeyKeepsTheTypedCaseUntilTheFirstAnnouncement)
 {
     EXPECT_TRUE(add("ben", "PC-BEN", "192.168.0.8"));
     EXPECT_EQ(cell("192.168.0.8", 3), QStringLiteral("B_ben"));
-    contacts.change(QStringLiteral("192.168.0.8"), [](Contact &contact) { contact.setPresence(Picture::yellow); });
+    contacts.change(QStringLiteral("192.168.0.8"), [](Contact &contact) { contact.setPresence(Presence::unknown); });
     EXPECT_EQ(cell("192.168.0.8", 3), QStringLiteral("B_BEN"));
 }
 

@@ -176,7 +176,7 @@ TEST_F(NetworkScanOnASubnet, ABroadcastReachesEverybodyAndWhoKnowsUsAnswersAndIs
 
     scanFor("192.168.1.255");
     EXPECT_THAT(me.names(), ElementsAre("Ann", "Ben"));
-    EXPECT_EQ(me.contact("192.168.1.20").picture, Picture::green);
+    EXPECT_EQ(me.contact("192.168.1.20").presence, Presence::online);
     EXPECT_EQ(me.contact("192.168.1.30").workstation, QStringLiteral("PC-BEN"));
 }
 

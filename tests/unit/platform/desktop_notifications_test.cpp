@@ -96,7 +96,7 @@ protected:
     }
     void happen(const char *text, const char *ip = "10.0.0.2")
     {
-        notifications->add({QString::fromUtf8(text), Picture::green, QLatin1String(ip)});
+        notifications->add({QString::fromUtf8(text), Presence::online, QLatin1String(ip)});
         notifications->startTimer();
     }
     bool waitForShown(std::size_t number)
