@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/options.h"
+#include "base/own_presence.h"
 
 #include <QByteArray>
 #include <QString>
@@ -45,9 +46,7 @@ struct Common {
     QString ownHostName;
     QString ownNickname;
 
-    /// "Online" until the first choice, then "ONLINE", "BUSY", "AWAY" or "Invisible"; compared as written.
-    QString ownState = QStringLiteral("Online");
-    QString ownStateText;    ///< the personalised text, empty for a plain state
+    OwnPresence ownPresence;
     bool announcing = false; ///< an announcement waits for answers
 
     Options options;
@@ -61,7 +60,7 @@ struct Common {
     bool windowFlashingAvailable = false;
     bool buzzmute = false;
 
-    bool isInvisible() const { return ownState == QLatin1String("Invisible"); }
+    bool isInvisible() const { return ownPresence.base == BaseState::invisible; }
     bool hearsOwnBuzz() const { return options.playOwnBuzz && !buzzmute; }
     bool hearsReceivedBuzz() const { return options.playReceivedBuzz && !buzzmute; }
 };

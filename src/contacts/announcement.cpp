@@ -33,12 +33,13 @@ void PresenceSender::farewell(const QString &ip) const
 
 void PresenceSender::status(const QString &ip) const
 {
-    sendDatagram(m_socket, ip, wire::Status{toWire(m_common.ownState), toWire(m_common.ownStateText)});
+    const OwnPresence &own = m_common.ownPresence;
+    sendDatagram(m_socket, ip, wire::Status{toWire(stateWord(own.base)), toWire(own.words)});
 }
 
 void PresenceSender::statusUnlessOnline(const QString &ip) const
 {
-    if (m_common.ownState != QLatin1String("ONLINE"))
+    if (m_common.ownPresence.base != BaseState::online)
         status(ip);
 }
 

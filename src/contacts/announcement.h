@@ -21,7 +21,7 @@ public:
     void farewell(const QString &ip) const;
     /// The own state word, with its text where it has one.
     void status(const QString &ip) const;
-    /// The same, unless the own state word is "ONLINE".
+    /// The same, unless Online was chosen: peers take that for granted.
     void statusUnlessOnline(const QString &ip) const;
 
 private:

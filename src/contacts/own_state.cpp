@@ -4,36 +4,11 @@
 
 namespace nimb
 {
-namespace
-{
-
-const QString separator = QStringLiteral(" - ");
-
-/// A stored value is the position digit of the picture, directly followed by the text.
-std::optional<OwnStateEntry> entryOf(const QString &stored)
-{
-    const std::optional<Picture> picture = pictureAt(stored.front().digitValue());
-    if (!picture)
-        return std::nullopt;
-    const QString text = stored.mid(1);
-    return OwnStateEntry{OwnState::baseName(*picture) + separator + text, *picture, {}, text};
-}
-
-} // namespace
 
 OwnState::OwnState(Common &common, ContactList &contacts, PresenceSender &sender, Announcement &announcement,
                    MainLog &log, OwnStateView &view)
     : m_common(common), m_contacts(contacts), m_sender(sender), m_announcement(announcement), m_log(log), m_view(view)
 {
-}
-
-QString OwnState::baseName(Picture picture)
-{
-    if (picture == Picture::green)
-        return QStringLiteral("Online");
-    QString name = pictureKey(picture);
-    name[0] = name[0].toUpper();
-    return name;
 }
 
 void OwnState::append(OwnStateEntry entry)
@@ -42,24 +17,34 @@ void OwnState::append(OwnStateEntry entry)
     m_entries.push_back(std::move(entry));
 }
 
+void OwnState::appendPersonalized(OwnStateEntry entry)
+{
+    entry.key = QStringLiteral("Personalized%1").arg(m_entries.size() - plainEntries + 1);
+    append(std::move(entry));
+}
+
 QStringList OwnState::load(const QStringList &storedValues)
 {
-    append({tr("Online"), Picture::green, {}, {}});
-    append({tr("Busy"), Picture::busy, {}, {}});
-    append({tr("Away"), Picture::away, {}, {}});
-    append({tr("Invisible"), Picture::invisible, {}, {}});
-    append({tr(" ... add a personalized state..."), std::nullopt, QStringLiteral("_personalized"), {}});
+    const auto appendPlain = [this](BaseState base, const QString &text) {
+        append({.text = text, .picture = pictureOf(base), .key = {}, .personalizedText = {}, .base = base});
+    };
+    appendPlain(BaseState::online, tr("Online"));
+    appendPlain(BaseState::busy, tr("Busy"));
+    appendPlain(BaseState::away, tr("Away"));
+    appendPlain(BaseState::invisible, tr("Invisible"));
+    append({.text = tr(" ... add a personalized state..."),
+            .picture = {},
+            .key = QStringLiteral("_personalized"),
+            .personalizedText = {},
+            .base = {}});
     QStringList malformed;
     for (const QString &value : storedValues) {
         if (value.isEmpty())
             continue;
-        std::optional<OwnStateEntry> entry = entryOf(value);
-        if (!entry) {
+        if (std::optional<OwnStateEntry> entry = entryOfStored(value))
+            appendPersonalized(std::move(*entry));
+        else
             malformed.append(value);
-            continue;
-        }
-        entry->key = QStringLiteral("Personalized%1").arg(m_entries.size() - plainEntries + 1);
-        append(std::move(*entry));
     }
     m_view.selectOwnState(1);
     showRescanHint();
@@ -70,7 +55,7 @@ QStringList OwnState::storedValues() const
 {
     QStringList values;
     for (auto entry = m_entries.begin() + plainEntries; entry != m_entries.end(); ++entry)
-        values.append(QString::number(picturePosition(*entry->picture)) + entry->personalizedText);
+        values.append(storedForm(*entry));
     return values;
 }
 
@@ -78,22 +63,14 @@ void OwnState::choose(int position)
 {
     if (position < 1 || position > static_cast<int>(m_entries.size()))
         return;
-    const bool wasInvisible = m_common.isInvisible();
     const OwnStateEntry entry = m_entries[static_cast<std::size_t>(position - 1)];
-    const Picture picture = entry.picture.value_or(Picture::yellow);
-
-    const bool asksForText = picture == Picture::yellow || picture == Picture::red;
-    m_view.setPersonalizedStateVisible(asksForText);
-    if (asksForText)
+    m_view.setPersonalizedStateVisible(!entry.base);
+    if (!entry.base)
         return m_view.setAutoReply({});
     m_chosen = position;
-    if (picture == Picture::green)
-        setState(QStringLiteral("ONLINE"), entry.personalizedText, wasInvisible);
-    else if (picture == Picture::busy)
-        setState(QStringLiteral("BUSY"), entry.personalizedText, wasInvisible);
-    else if (picture == Picture::away)
-        setState(QStringLiteral("AWAY"), entry.personalizedText, wasInvisible);
-    else if (!wasInvisible)
+    if (*entry.base != BaseState::invisible)
+        become({*entry.base, entry.personalizedText});
+    else if (!m_common.isInvisible())
         goInvisible();
     showAutoReply();
     showRescanHint();
@@ -106,11 +83,11 @@ void OwnState::cancelPersonalized()
     showAutoReply();
 }
 
-void OwnState::setState(const QString &word, const QString &text, bool wasInvisible)
+void OwnState::become(const OwnPresence &chosen)
 {
-    m_common.ownState = word;
-    m_common.ownStateText = text;
-    m_view.setStatusPanel(tr("Status: %1").arg(word));
+    const bool wasInvisible = m_common.isInvisible();
+    m_common.ownPresence = chosen;
+    m_view.setStatusPanel(tr("Status: %1").arg(stateWord(chosen.base)));
     if (wasInvisible) {
         m_view.setRescanEnabled(true);
         m_announcement.run();
@@ -121,9 +98,8 @@ void OwnState::setState(const QString &word, const QString &text, bool wasInvisi
 
 void OwnState::goInvisible()
 {
-    m_common.ownState = QStringLiteral("Invisible");
-    m_common.ownStateText.clear();
-    m_view.setStatusPanel(tr("Status: %1").arg(m_common.ownState));
+    m_common.ownPresence = {BaseState::invisible, {}};
+    m_view.setStatusPanel(tr("Status: %1").arg(stateWord(BaseState::invisible)));
     tellPresentContacts(&PresenceSender::farewell);
     m_view.setRescanEnabled(true);
 }
@@ -139,9 +115,9 @@ void OwnState::tellPresentContacts(void (PresenceSender::*tell)(const QString &)
 void OwnState::showAutoReply()
 {
     const AutoReply &reply = m_common.autoReply;
-    if (m_common.ownState == QLatin1String("BUSY"))
+    if (m_common.ownPresence.base == BaseState::busy)
         m_view.setAutoReply(AutoReplyPanel{reply.onBusy, reply.busyText, tr("AutoReply text (when Busy)")});
-    else if (m_common.ownState == QLatin1String("AWAY"))
+    else if (m_common.ownPresence.base == BaseState::away)
         m_view.setAutoReply(AutoReplyPanel{reply.onAway, reply.awayText, tr("AutoReply text (when Away)")});
     else
         m_view.setAutoReply({});
@@ -153,16 +129,15 @@ void OwnState::showRescanHint()
                                                    : tr("Ask all contacts whether they are there"));
 }
 
-bool OwnState::addPersonalized(Picture base, const QString &text)
+bool OwnState::addPersonalized(BaseState base, const QString &text)
 {
     if (text.isEmpty())
         return false;
-    const int number = static_cast<int>(m_entries.size()) - plainEntries + 1;
-    append({baseName(base) + separator + text, base, QStringLiteral("Personalized%1").arg(number), text});
-    if (number > limits::storedPersonalizedStates)
+    appendPersonalized(personalizedEntry(base, text));
+    const int position = static_cast<int>(m_entries.size());
+    if (position - plainEntries > limits::storedPersonalizedStates)
         m_log.remark(tr("Only %1 personalized states are kept: \"%2\" lasts until NIMB-Chat ends.")
                          .arg(QString::number(limits::storedPersonalizedStates), m_entries.back().text));
-    const int position = static_cast<int>(m_entries.size());
     m_view.selectOwnState(position);
     choose(position);
     return true;
@@ -170,13 +145,13 @@ bool OwnState::addPersonalized(Picture base, const QString &text)
 
 void OwnState::setAutoReply(bool on)
 {
-    const bool busy = m_common.ownState == QLatin1String("BUSY");
+    const bool busy = m_common.ownPresence.base == BaseState::busy;
     (busy ? m_common.autoReply.onBusy : m_common.autoReply.onAway) = on;
 }
 
 void OwnState::setAutoReplyText(const QString &text)
 {
-    const bool busy = m_common.ownState == QLatin1String("BUSY");
+    const bool busy = m_common.ownPresence.base == BaseState::busy;
     (busy ? m_common.autoReply.busyText : m_common.autoReply.awayText) = text;
 }
 

@@ -34,9 +34,9 @@ public:
     void choose(int position);
     /// The user gave up adding a personalised state: everything shows the present state again.
     void cancelPersonalized();
-    /// Adds a personalised state on one of the base states green, busy and away, and chooses it. An empty text adds
+    /// Adds a personalised state on one of the base states online, busy and away, and chooses it. An empty text adds
     /// nothing. True when it was added.
-    bool addPersonalized(Picture base, const QString &text);
+    bool addPersonalized(BaseState base, const QString &text);
 
     /// The check box beside the chooser: automatic reply in the present state.
     void setAutoReply(bool on);
@@ -44,12 +44,12 @@ public:
     void setAutoReplyText(const QString &text);
 
     const std::vector<OwnStateEntry> &entries() const { return m_entries; }
-    /// "Online", "Busy" or "Away"; any other picture's key with a capital letter.
-    static QString baseName(Picture picture);
 
 private:
     void append(OwnStateEntry entry);
-    void setState(const QString &word, const QString &text, bool wasInvisible);
+    /// Numbers the entry among the personalised states.
+    void appendPersonalized(OwnStateEntry entry);
+    void become(const OwnPresence &chosen);
     void goInvisible();
     /// The automatic-reply controls as they belong to the own state.
     void showAutoReply();

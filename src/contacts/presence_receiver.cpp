@@ -9,24 +9,6 @@ namespace nimb
 namespace
 {
 
-/// The names of the own-state table, in the order in which they are tried; a peer's state word matches by its first
-/// characters, without regard to case.
-Presence presenceOfState(const QString &state)
-{
-    struct Name {
-        QString upperCase;
-        Presence presence;
-    };
-    static const std::array names
-        = {Name{QStringLiteral("ONLINE"), Presence::online}, Name{QStringLiteral("BUSY"), Presence::busy},
-           Name{QStringLiteral("AWAY"), Presence::away}};
-    for (const Name &name : names) {
-        if (state.left(name.upperCase.size()).toUpper() == name.upperCase)
-            return name.presence;
-    }
-    return Presence::online;
-}
-
 /// An echo of this copy's own datagrams is nobody's.
 Drop reasonOf(Refusal refusal)
 {
@@ -98,9 +80,9 @@ void PresenceReceiver::changedState(const QString &ip, const QString &state, con
 {
     const QString shownState = remoteName(state);
     const QString personalized = remoteName(text);
-    const QString whole = personalized.isEmpty() ? shownState : shownState + QLatin1String(" - ") + personalized;
+    const QString whole = personalized.isEmpty() ? shownState : withOwnWords(shownState, personalized);
     m_contacts.change(ip, [&](Contact &contact) {
-        contact.setPresence(presenceOfState(state));
+        contact.setPresence(presenceOfStateWord(state));
         contact.state = whole;
     });
     const Contact &contact = *m_contacts.find(ip);

@@ -166,7 +166,7 @@ void frmMain::buildStatusBar()
     bar->setSizeGripEnabled(false);
     bar->setContentsMargins(margin - 2, 0, margin - 2, 0);
     m_status = panel(bar, "StatusBar_status");
-    m_status->setText(tr("Status: %1").arg(QStringLiteral("ONLINE")));
+    m_status->setText(tr("Status: %1").arg(stateWord(BaseState::online)));
     m_activity = panel(bar, "StatusBar_activity");
     m_trouble = panel(bar, "StatusBar_trouble");
     m_trouble->hide();
@@ -537,7 +537,7 @@ void frmMain::ImageCombo1_Click(int index)
     m_engine->ownState.choose(index + 1);
 }
 
-void frmMain::personalizedStateChosen(Picture base, const QString &text)
+void frmMain::personalizedStateChosen(BaseState base, const QString &text)
 {
     if (m_engine->ownState.addPersonalized(base, text))
         m_personalizedState->clearText();

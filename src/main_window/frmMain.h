@@ -124,7 +124,7 @@ private:
     void RescanBtn_Click();
     void clearbtn_Click();
     void ImageCombo1_Click(int index);
-    void personalizedStateChosen(Picture base, const QString &text);
+    void personalizedStateChosen(BaseState base, const QString &text);
     void autoReplyClosed();
     void contactsChanged(int firstRow, int lastRow);
     void showItemDetails();

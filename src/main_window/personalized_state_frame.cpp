@@ -1,6 +1,5 @@
 #include "main_window/personalized_state_frame.h"
 
-#include "contacts/own_state.h"
 #include "widgets/form_layout.h"
 #include "widgets/form_text.h"
 #include "widgets/pictures.h"
@@ -32,8 +31,8 @@ void PersonalizedStateFrame::buildControls()
     auto *const base = new QLabel(tr("&State:"), this);
     auto *const text = new QLabel(tr("Te&xt:"), this);
     ImageComboPers = named(new QComboBox(this), "ImageComboPers");
-    for (const Picture picture : {Picture::green, Picture::busy, Picture::away})
-        ImageComboPers->addItem(statePicture(picture), OwnState::baseName(picture), QVariant::fromValue(int(picture)));
+    for (const BaseState state : {BaseState::online, BaseState::busy, BaseState::away})
+        ImageComboPers->addItem(statePicture(pictureOf(state)), baseName(state), QVariant::fromValue(state));
     PersonalizedMessageText = named(new QLineEdit(this), "PersonalizedMessageText");
     PersonalizedOkbtn = named(new QPushButton(tr("OK"), this), "PersonalizedOkbtn");
     m_cancel = new QPushButton(tr("Cancel"), this);
@@ -74,7 +73,7 @@ void PersonalizedStateFrame::focusText()
 
 void PersonalizedStateFrame::PersonalizedOkbtn_Click()
 {
-    Q_EMIT chosen(static_cast<Picture>(ImageComboPers->currentData().toInt()), PersonalizedMessageText->text());
+    Q_EMIT chosen(ImageComboPers->currentData().value<BaseState>(), PersonalizedMessageText->text());
 }
 
 void PersonalizedStateFrame::keyPressEvent(QKeyEvent *event)

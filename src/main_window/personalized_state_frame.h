@@ -1,7 +1,7 @@
 // The panel in which a personalised state is made.
 #pragma once
 
-#include "base/presence_picture.h"
+#include "base/own_presence.h"
 
 #include <QFrame>
 
@@ -26,7 +26,7 @@ public:
 
 Q_SIGNALS:
     /// The text may be empty.
-    void chosen(nimb::Picture base, const QString &text);
+    void chosen(nimb::BaseState base, const QString &text);
     void cancelled();
 
 protected:

@@ -78,14 +78,13 @@ void PrivateChat::MessageReceived(const QString &nik, QString &msg)
     if (!mayBeAnswered)
         return;
     const AutoReply &reply = m_services.common.autoReply;
-    replyAutomatically("BUSY", reply.onBusy, reply.busyText);
-    replyAutomatically("AWAY", reply.onAway, reply.awayText);
+    replyAutomatically(BaseState::busy, reply.onBusy, reply.busyText);
+    replyAutomatically(BaseState::away, reply.onAway, reply.awayText);
 }
 
-void PrivateChat::replyAutomatically(const char *state, bool on, const QString &text)
+void PrivateChat::replyAutomatically(BaseState state, bool on, const QString &text)
 {
-    const bool inState = m_services.common.ownState.toUpper() == QLatin1String(state);
-    if (!inState || !on || m_autoReplyTimer->isActive())
+    if (m_services.common.ownPresence.base != state || !on || m_autoReplyTimer->isActive())
         return;
     sendDatagram(m_services.socket, m_rIP, wire::PrivateMessage{toWire(autoReplyMessage(text))});
     m_autoReplyTimer->start();

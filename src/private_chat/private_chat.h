@@ -85,7 +85,7 @@ private:
     void TimerLiveType_Timer();
     void appendBuzz();
     void appendMessage(const QString &nick, const QString &body, Colour colour);
-    void replyAutomatically(const char *state, bool on, const QString &text);
+    void replyAutomatically(BaseState state, bool on, const QString &text);
 
     Services m_services;
     std::function<void()> m_unloaded;

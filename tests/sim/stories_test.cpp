@@ -67,7 +67,7 @@ TEST_F(Story, TwoWhoKnowEachOtherMeetChangeStateLeaveAndComeBack)
     EXPECT_EQ(ben->contact("10.0.0.1").presence, Presence::online);
     EXPECT_THAT(ann.notifications.rows, ElementsAre("Ben is online [green]"));
 
-    ben->engine.ownState().addPersonalized(Picture::busy, QStringLiteral("In a meeting"));
+    ben->engine.ownState().addPersonalized(BaseState::busy, QStringLiteral("In a meeting"));
     pass();
     EXPECT_EQ(ann.contact("10.0.0.2").presence, Presence::busy);
     EXPECT_EQ(ann.contact("10.0.0.2").state, QStringLiteral("BUSY - In a meeting"));

@@ -80,7 +80,7 @@ TEST_F(AvatarTest, TheHeadAloneSaysWhetherThereIsABody)
 
 TEST_F(AvatarTest, WhoIsInvisibleAnswersNeitherQuestion)
 {
-    copy.common.ownState = QStringLiteral("Invisible");
+    copy.common.ownPresence.base = BaseState::invisible;
     copy.arrive("10.0.0.2", "?AVATARHEAD");
     copy.arrive("10.0.0.2", "?AVATARBODY");
     EXPECT_THAT(copy.sent(), IsEmpty());
@@ -316,7 +316,7 @@ TEST_F(OwnPolledPicture, WithoutAStillOneAFailureTurnsTheAvatarOff)
 
 TEST_F(OwnPolledPicture, IsNotShownToAnybodyWhileInvisible)
 {
-    copy.common.ownState = QStringLiteral("Invisible");
+    copy.common.ownPresence.base = BaseState::invisible;
     EXPECT_EQ(answer("?AVATARHEAD"), "(not one answer)");
 }
 

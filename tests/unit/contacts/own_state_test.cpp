@@ -60,7 +60,7 @@ TEST_F(OwnStateTest, AContactThatIsBusyItselfIsTold)
 
 TEST_F(OwnStateTest, APersonalisedEntryIsShownSentAndStored)
 {
-    EXPECT_TRUE(copy.engine.ownState().addPersonalized(Picture::busy, QStringLiteral("In a meeting")));
+    EXPECT_TRUE(copy.engine.ownState().addPersonalized(BaseState::busy, QStringLiteral("In a meeting")));
     EXPECT_EQ(copy.view.ownStates.back().text, QStringLiteral("Busy - In a meeting"));
     EXPECT_EQ(copy.view.ownStates.back().picture, Picture::busy);
     EXPECT_EQ(copy.view.ownStates.back().key, QStringLiteral("Personalized1"));
@@ -75,34 +75,34 @@ TEST_F(OwnStateTest, APersonalisedEntryIsShownSentAndStored)
 
 TEST_F(OwnStateTest, APersonalisedTextMayHoldTheSeparator)
 {
-    copy.engine.ownState().addPersonalized(Picture::green, QStringLiteral("a - b"));
+    copy.engine.ownState().addPersonalized(BaseState::online, QStringLiteral("a - b"));
     EXPECT_EQ(copy.view.ownStates.back().text, QStringLiteral("Online - a - b"));
     EXPECT_THAT(copy.engine.ownState().storedValues(), ElementsAre(QStringLiteral("1a - b")));
 }
 
 TEST_F(OwnStateTest, AnEmptyPersonalisedTextAddsNothing)
 {
-    EXPECT_FALSE(copy.engine.ownState().addPersonalized(Picture::busy, {}));
+    EXPECT_FALSE(copy.engine.ownState().addPersonalized(BaseState::busy, {}));
     EXPECT_EQ(copy.view.ownStates.size(), 5u);
     EXPECT_THAT(copy.sent(), IsEmpty());
 }
 
 TEST_F(OwnStateTest, AStatePlainAgainHasNoText)
 {
-    copy.engine.ownState().addPersonalized(Picture::busy, QStringLiteral("later"));
+    copy.engine.ownState().addPersonalized(BaseState::busy, QStringLiteral("later"));
     copy.sent();
     choose(busy);
     EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "!STATUS BUSY"}, To{"10.0.0.3", "!STATUS BUSY"}));
-    EXPECT_EQ(copy.common.ownStateText, QString());
+    EXPECT_EQ(copy.common.ownPresence.words, QString());
 }
 
 TEST_F(OwnStateTest, TheNinthPersonalisedStateWorksAndSaysThatItIsNotKept)
 {
     for (int n = 1; n <= 8; ++n)
-        copy.engine.ownState().addPersonalized(Picture::away, QStringLiteral("text %1").arg(n));
+        copy.engine.ownState().addPersonalized(BaseState::away, QStringLiteral("text %1").arg(n));
     EXPECT_EQ(copy.view.log.text(), QString());
     copy.sent();
-    copy.engine.ownState().addPersonalized(Picture::away, QStringLiteral("text 9"));
+    copy.engine.ownState().addPersonalized(BaseState::away, QStringLiteral("text 9"));
     EXPECT_EQ(copy.sent().front().bytes, "!STATUS AWAY text 9");
     EXPECT_THAT(copy.view.log.lastLine(), testing::HasSubstr("Away - text 9"));
     copy.engine.mainWindow().Form_Unload();
@@ -146,7 +146,7 @@ TEST_F(OwnStateTest, TheEntryThatAddsShowsThePanelAndLeavesTheState)
     choose(addPersonalized);
     EXPECT_TRUE(copy.view.personalizedVisible);
     EXPECT_FALSE(copy.view.autoReply);
-    EXPECT_EQ(copy.common.ownState, QStringLiteral("BUSY"));
+    EXPECT_EQ(copy.common.ownPresence.base, BaseState::busy);
     EXPECT_THAT(copy.sent(), IsEmpty());
     choose(online);
     EXPECT_FALSE(copy.view.personalizedVisible);
@@ -212,7 +212,7 @@ TEST_F(OwnStateTest, APositionThatDoesNotExistIsIgnored)
     choose(0);
     choose(6);
     choose(-1);
-    EXPECT_EQ(copy.common.ownState, QStringLiteral("Online"));
+    EXPECT_EQ(copy.common.ownPresence.base, BaseState::unchosen);
 }
 
 TEST(StoredStates, AreLoadedWithBaseNameAndPicture)
