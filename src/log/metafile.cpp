@@ -19,7 +19,12 @@ public:
 
     qsizetype position() const { return m_at; } ///< in words
     void seek(qsizetype word) { m_at = word; }
-    bool has(qsizetype words) const { return words <= m_bytes.size() / 2 - m_at; }
+    /// Takes sizes as the bytes give them, which no signed number of a 32-bit machine holds.
+    bool has(std::uint32_t words) const
+    {
+        const qsizetype left = m_bytes.size() / 2 - m_at;
+        return left >= 0 && words <= static_cast<std::uint64_t>(left);
+    }
     bool overrun() const { return m_overrun; }
 
     std::uint32_t word()
@@ -56,7 +61,7 @@ bool readHeader(Words &in)
     in.word();  // objects
     in.dword(); // largest record
     in.word();
-    return known && !in.overrun() && totalSize >= headerSize && in.has(qsizetype(totalSize) - headerSize);
+    return known && !in.overrun() && totalSize >= headerSize && in.has(totalSize - headerSize);
 }
 
 struct Extent {
@@ -124,7 +129,7 @@ std::optional<IndexedBitmap> readStretchedBitmap(const QByteArray &bytes, qsizet
 std::optional<IndexedBitmap> decodeMetafile(const QByteArray &bytes)
 {
     constexpr std::uint32_t setWindowExt = 0x020C, stretchDib = 0x0F43, end = 0;
-    constexpr qsizetype smallestRecord = 3;
+    constexpr std::uint32_t smallestRecord = 3;
     Words in(bytes);
     if (!readHeader(in))
         return std::nullopt;
@@ -136,7 +141,7 @@ std::optional<IndexedBitmap> decodeMetafile(const QByteArray &bytes)
         const std::uint32_t function = in.word();
         if (function == end)
             return bitmap;
-        if (size < smallestRecord || !in.has(qsizetype(size) - smallestRecord))
+        if (size < smallestRecord || !in.has(size - smallestRecord))
             return std::nullopt;
         if (function == setWindowExt) {
             window.height = in.word();
