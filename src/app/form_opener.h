@@ -1,23 +1,16 @@
 // Makes the windows and hands them their engine.
 #pragma once
 
-#include "app/messenger.h"
-#include "base/name_resolver.h"
-#include "base/net_send.h"
-#include "base/notifications.h"
-#include "base/picture_source.h"
-#include "base/system_information.h"
-#include "base/window_openers.h"
-#include "log/RTFSubClass.h"
+#include "app/conversation_forms.h"
+#include "app/dialog_opener.h"
 #include "notify/notify_slide.h"
 #include "welcome/login.h"
-#include "welcome/tip_of_the_day.h"
-#include "widgets/message_boxes.h"
 
-#include <QPointer>
+#include <QIcon>
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace nimb
 {
@@ -26,31 +19,8 @@ class frmConfInvitations;
 class frmLogin;
 class frmMain;
 class frmNotify;
-class frmSendContact;
-class frmTipOfTheDay;
-class RichTextLogEdit;
 
-/// What the windows need beside the engine; all of it outlives them.
-struct FormServices {
-    Common &common;
-    Timers &timers;
-    const WallClock &clock;
-    Winsock &socket;
-    SettingsStore &store;
-    Prompts &prompts;
-    LinkOpener &links;
-    PictureSources &pictures;
-    NameResolver &names;
-    NetSend &netSend;
-    SystemInformation &systemInformation;
-    TipOfTheDay::OpenFile openTips;
-};
-
-class FormOpener : public PrivateForms,
-                   public ConferenceForms,
-                   public SecondaryWindows,
-                   public MenuWindows,
-                   public Notifications
+class FormOpener : public SecondaryWindows
 {
 public:
     explicit FormOpener(const FormServices &services);
@@ -74,42 +44,25 @@ public:
     void showContact(const QString &ip);
     QIcon trayIcon() const;
 
-    ViewPtr<PrivateChatView> makePrivateForm(PrivateChat &chat) override;
+    void showTipOfTheDay() { m_dialogs->mnuTOTD(); }
 
-    ViewPtr<ConferenceView> makeConferenceForm(Conference &conference) override;
+    ConversationForms &conversations() { return m_conversations; }
+    /// What the pop-up shows.
+    Notifications &notifications() { return m_slide; }
 
-    void mnuNetworkscan() override;
-    void mnuAddUser() override;
-    void mnuToolsOptions() override;
-    void mnuHelpAbout() override;
-    void mnuTOTD() override;
-    void mnusendcontacts(const QString &ip) override;
-    void mnuinviteuser(const QString &ip) override;
-    void mnuCreateNewConf() override;
-    void mnushowinvitations() override;
-    void mnuInvite2Conf(int slot, const QString &ip) override;
-
-    void unloadConferences() override;
-    void unloadPrivateWindows() override;
     void unloadNotify() override;
     void unloadInvitations() override;
     void unloadTipOfTheDay() override;
 
-    void add(const Notification &notification) override;
-    void startTimer() override;
-
 private:
     FormServices m_services;
-    RTFSubClass m_links;
+    ConversationForms m_conversations;
     NotifySlide m_slide;
     std::unique_ptr<frmNotify> m_notify;
     std::unique_ptr<frmMain> m_main;
     std::unique_ptr<frmConfInvitations> m_invitations;
-    frmLogin *m_login = nullptr; ///< while it is shown
-    // They delete themselves when they are closed.
-    QPointer<frmTipOfTheDay> m_tip;
-    QPointer<frmSendContact> m_sendContact;
-    Messenger *m_engine = nullptr;
+    frmLogin *m_login = nullptr;           ///< while it is shown
+    std::optional<DialogOpener> m_dialogs; ///< from connectMain() on
 };
 
 } // namespace nimb

@@ -4,8 +4,8 @@ namespace nimb
 {
 
 Messenger::Messenger(Common &common, const Surroundings &around)
-    : m_socket(around.socket), m_log(around.mainView.outtext(), around.clock), m_sender(common, around.socket),
-      m_announcement(common, m_contacts, m_sender, around.timers, around.mainView),
+    : m_socket(around.socket), m_windows(around.windows), m_log(around.mainView.outtext(), around.clock),
+      m_sender(common, around.socket), m_announcement(common, m_contacts, m_sender, around.timers, around.mainView),
       m_ownState(common, m_contacts, m_sender, m_announcement, m_log, around.mainView),
       m_port(around.socket, common, around.timers, m_log, around.mainView, [this] { m_announcement.run(); }),
       m_privateWindows({common, around.socket, around.sound, around.timers, around.clock, around.privateForms},
@@ -34,7 +34,7 @@ Messenger::Messenger(Common &common, const Surroundings &around)
                     .conferences = &m_conferenceCommands},
                    around.drops),
       m_mainWindow({common, around.store, around.socket, m_contacts, m_ownState, m_sender, m_announcement, m_port,
-                    m_log, around.prompts, around.windows, around.tray, around.mainView})
+                    m_log, around.prompts, [this] { unloadOtherWindows(); }, around.tray, around.mainView})
 {
     m_dispatcher.listenTo(m_socket);
 }
@@ -42,6 +42,16 @@ Messenger::Messenger(Common &common, const Surroundings &around)
 Messenger::~Messenger()
 {
     m_socket.DataArrival = nullptr;
+}
+
+void Messenger::unloadOtherWindows()
+{
+    m_conferences.unloadAll();
+    m_privateWindows.unloadAll();
+    m_windows.unloadNotify();
+    m_invitations.Form_Unload();
+    m_windows.unloadInvitations();
+    m_windows.unloadTipOfTheDay();
 }
 
 } // namespace nimb

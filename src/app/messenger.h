@@ -52,7 +52,11 @@ public:
     ReceiveDispatcher &dispatcher() { return m_dispatcher; }
 
 private:
+    /// Those that end with the main window, before it says farewell and saves.
+    void unloadOtherWindows();
+
     Winsock &m_socket;
+    SecondaryWindows &m_windows;
     ContactList m_contacts;
     MainLog m_log;
     PresenceSender m_sender;

@@ -136,10 +136,10 @@ void Program::loadMain()
     m_prompts.setParentWindow(&window);
     m_tray.emplace(m_forms.trayIcon(), [&window] { window.restore(); });
     Notifications &notifications
-        = m_desktopNotifications ? static_cast<Notifications &>(*m_desktopNotifications) : m_forms;
+        = m_desktopNotifications ? static_cast<Notifications &>(*m_desktopNotifications) : m_forms.notifications();
     m_engine.emplace(m_common,
                      Surroundings{m_socket, m_store, m_timers, m_clock, m_prompts, notifications, m_sound, *m_tray,
-                                  m_forms, m_forms, m_forms, window, m_drops});
+                                  m_forms, m_forms.conversations(), m_forms.conversations(), window, m_drops});
     m_forms.connectMain(
         *m_engine, [this] { return statusNotes(); }, [] { QCoreApplication::exit(0); });
     window.Form_Load();

@@ -17,6 +17,7 @@
 #include "platform/system_info.h"
 #include "platform/udp_winsock.h"
 #include "platform/unix_signals.h"
+#include "widgets/message_boxes.h"
 #include "widgets/plain_tool_tips.h"
 
 #include <optional>
@@ -56,7 +57,7 @@ public:
     void loadMain() override;
     void showMain() override;
     void minimiseMain() override;
-    void showTipOfTheDay() override { m_forms.mnuTOTD(); }
+    void showTipOfTheDay() override { m_forms.showTipOfTheDay(); }
 
 private:
     void listenToTheSystem();

@@ -58,13 +58,11 @@ public:
     virtual void contactRemoved(const QString &ip) = 0;
 };
 
-/// The windows that end with the main window, in the order of the calls.
+/// The windows that end with the main window and are not the engine's, in the order of the calls.
 class SecondaryWindows
 {
 public:
     virtual ~SecondaryWindows() = default;
-    virtual void unloadConferences() = 0;
-    virtual void unloadPrivateWindows() = 0;
     virtual void unloadNotify() = 0;
     virtual void unloadInvitations() = 0;
     virtual void unloadTipOfTheDay() = 0;

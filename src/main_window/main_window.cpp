@@ -54,11 +54,7 @@ void MainWindow::Form_Unload()
 {
     // Who is leaving answers nobody, however long the end takes.
     m_parts.socket.DataArrival = nullptr;
-    m_parts.windows.unloadConferences();
-    m_parts.windows.unloadPrivateWindows();
-    m_parts.windows.unloadNotify();
-    m_parts.windows.unloadInvitations();
-    m_parts.windows.unloadTipOfTheDay();
+    m_parts.unloadOtherWindows();
     sayFarewellAndSaveContacts();
     save();
     m_parts.tray.removeIcon();

@@ -14,6 +14,9 @@
 
 #include <QCoreApplication>
 
+#include <functional>
+#include <utility>
+
 namespace nimb
 {
 
@@ -36,12 +39,12 @@ public:
         PortWatch &port;
         MainLog &log;
         Prompts &prompts;
-        SecondaryWindows &windows;
+        std::function<void()> unloadOtherWindows;
         TrayIcon &tray;
         MainWindowView &view;
     };
 
-    explicit MainWindow(const Parts &parts) : m_parts(parts) { }
+    explicit MainWindow(Parts parts) : m_parts(std::move(parts)) { }
 
     void Form_Load();
     /// Whether the window is to be unloaded, or what else happens to it.

@@ -41,9 +41,6 @@ public:
         common.ownNickname = setup.nickname;
         socket.portTaken = setup.portTaken;
         store(setup);
-        windows.unloadAllPrivate = [this] { engine.privateWindows().unloadAll(); };
-        windows.unloadAllConferences = [this] { engine.conferences().unloadAll(); };
-        windows.unloadInvitationsWindow = [this] { engine.invitations().Form_Unload(); };
         engine.invitations().Form_Load(invitationsView);
         if (setup.loaded)
             engine.mainWindow().Form_Load();

@@ -47,6 +47,7 @@ public:
     {
         engine.conferences().unloadAll();
         engine.privateWindows().unloadAll();
+        engine.invitations().Form_Unload();
         forms.unloadInvitations();
         forms.destroyMain();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -130,7 +131,8 @@ private:
 
 public:
     Messenger engine{common,
-                     {socket, settings, time, time, prompts, forms, sound, tray, forms, forms, forms, m_main, drops}};
+                     {socket, settings, time, time, prompts, forms.notifications(), sound, tray, forms,
+                      forms.conversations(), forms.conversations(), m_main, drops}};
 };
 
 } // namespace nimb::test

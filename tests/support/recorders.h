@@ -159,6 +159,7 @@ public:
     {
         hidden = true;
         gone = true;
+        whenLetGo();
     }
     bool isMinimisedOrInactive() const override { return inBackground; }
     void flash() override { ++flashes; }
@@ -180,6 +181,7 @@ public:
     std::optional<MoodMark> ownMood, peersMood;
     bool hidden = true;
     bool gone = false;
+    std::function<void()> whenLetGo = [] {};
     bool inBackground = true;
     int flashes = 0;
     std::vector<ShowMode> shows;
@@ -217,7 +219,11 @@ public:
     }
     Colour windowTextColour() const override { return 0x123456; }
     void showWindow() override { ++shows; }
-    void letGo() override { gone = true; }
+    void letGo() override
+    {
+        gone = true;
+        whenLetGo();
+    }
     bool isMinimisedOrInactive() const override { return inBackground; }
     void flash() override { ++flashes; }
 
@@ -232,6 +238,7 @@ public:
     int avatarChanges = 0;
     int shows = 0;
     bool gone = false;
+    std::function<void()> whenLetGo = [] {};
     bool inBackground = true;
     int flashes = 0;
 };
@@ -381,31 +388,11 @@ class RecorderWindows : public SecondaryWindows
 {
 public:
     explicit RecorderWindows(Steps &order) : steps(order) { }
-    void unloadConferences() override
-    {
-        steps.push_back("unload conferences");
-        if (unloadAllConferences)
-            unloadAllConferences();
-    }
-    void unloadPrivateWindows() override
-    {
-        steps.push_back("unload private windows");
-        if (unloadAllPrivate)
-            unloadAllPrivate();
-    }
     void unloadNotify() override { steps.push_back("unload notify"); }
-    void unloadInvitations() override
-    {
-        steps.push_back("unload invitations");
-        if (unloadInvitationsWindow)
-            unloadInvitationsWindow();
-    }
+    void unloadInvitations() override { steps.push_back("unload invitations"); }
     void unloadTipOfTheDay() override { steps.push_back("unload tip"); }
 
     Steps &steps;
-    std::function<void()> unloadAllPrivate;
-    std::function<void()> unloadAllConferences;
-    std::function<void()> unloadInvitationsWindow;
 };
 
 /// A store in memory whose saves can be made to fail.

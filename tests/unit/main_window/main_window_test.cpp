@@ -82,11 +82,16 @@ TEST(MainWindowClose, TheCloseBoxEndsTheProgramOtherwise)
 
 TEST(MainWindowUnload, EndsEverythingInOrder)
 {
-    Copy copy;
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.arrive("10.0.0.2", "-hello");
+    copy.engine.conferences().mnuCreateNewConf();
     copy.steps.clear();
+    const auto note = [&](const char *step) { return [&copy, step] { copy.steps.push_back(step); }; };
+    copy.window(1).whenLetGo = note("let a private window go");
+    copy.conferenceForms.views.front()->whenLetGo = note("let a conference go");
     copy.engine.mainWindow().Form_Unload();
     EXPECT_THAT(copy.steps,
-                ElementsAre("unload conferences", "unload private windows", "unload notify", "unload invitations",
+                ElementsAre("let a conference go", "let a private window go", "unload notify", "unload invitations",
                             "unload tip", "remove icon"));
 }
 

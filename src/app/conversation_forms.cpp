@@ -1,0 +1,19 @@
+#include "app/conversation_forms.h"
+
+#include "conference/frmConference.h"
+#include "private_chat/frmPrivate.h"
+
+namespace nimb
+{
+
+ViewPtr<PrivateChatView> ConversationForms::makePrivateForm(PrivateChat &chat)
+{
+    return ViewPtr<PrivateChatView>(new frmPrivate(chat, m_links));
+}
+
+ViewPtr<ConferenceView> ConversationForms::makeConferenceForm(Conference &conference)
+{
+    return ViewPtr<ConferenceView>(new frmConference(conference, m_links));
+}
+
+} // namespace nimb

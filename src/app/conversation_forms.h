@@ -1,0 +1,24 @@
+// Makes the windows of conversations.
+#pragma once
+
+#include "conference/conference_view.h"
+#include "log/RTFSubClass.h"
+#include "private_chat/private_chat_view.h"
+
+namespace nimb
+{
+
+/// Each window is owned by its engine half, which lets it go.
+class ConversationForms : public PrivateForms, public ConferenceForms
+{
+public:
+    explicit ConversationForms(LinkOpener &links) : m_links(links) { }
+
+    ViewPtr<PrivateChatView> makePrivateForm(PrivateChat &chat) override;
+    ViewPtr<ConferenceView> makeConferenceForm(Conference &conference) override;
+
+private:
+    RTFSubClass m_links;
+};
+
+} // namespace nimb

@@ -1,0 +1,109 @@
+#include "app/dialog_opener.h"
+
+#include "main_window/frmMain.h"
+#include "options/frmOptions.h"
+#include "people/frmAddUser.h"
+#include "people/frmInvite.h"
+#include "people/frmNetworkscan.h"
+#include "people/frmSendContact.h"
+#include "welcome/frmAbout.h"
+#include "welcome/frmTipOfTheDay.h"
+#include "widgets/bring_back.h"
+
+namespace nimb
+{
+namespace
+{
+
+/// Over the main window, which waits for it; the rest of the program goes on.
+void open(QDialog *dialog)
+{
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
+} // namespace
+
+DialogOpener::DialogOpener(const FormServices &services, Messenger &engine, frmMain &over)
+    : m_services(services), m_engine(engine), m_main(over)
+{
+}
+
+DialogOpener::~DialogOpener()
+{
+    delete m_tip; // nobody else's child
+}
+
+void DialogOpener::mnuNetworkscan()
+{
+    const NetworkScan scan(m_services.common, m_engine.sender(), m_services.names, m_engine.log());
+    open(new frmNetworkscan(scan, &m_main));
+}
+
+void DialogOpener::mnuAddUser()
+{
+    const AddUser rules(m_services.common, m_engine.contacts(), m_services.prompts);
+    open(new frmAddUser(rules, &m_main));
+}
+
+void DialogOpener::mnuHelpAbout()
+{
+    open(new frmAbout(m_services.systemInformation, m_services.prompts, QCoreApplication::applicationVersion(),
+                      &m_main));
+}
+
+void DialogOpener::mnuinviteuser(const QString &ip)
+{
+    const Invite invite(m_services.common, m_engine.contacts(), m_services.netSend, m_services.prompts);
+    open(new frmInvite(invite, ip, &m_main));
+}
+
+/// Without a parent: it is seen although the main window starts minimised.
+void DialogOpener::mnuTOTD()
+{
+    // One that is closed is there until the event loop comes round to deleting it.
+    if (!m_tip || !m_tip->isVisible())
+        m_tip = new frmTipOfTheDay(TipOfTheDay(m_services.store, m_services.openTips), m_services.prompts, nullptr);
+    bringBack(*m_tip);
+    m_tip->activateWindow();
+}
+
+void DialogOpener::mnusendcontacts(const QString &ip)
+{
+    const Contact *const contact = m_engine.contacts().find(ip);
+    if (!contact)
+        return;
+    delete m_sendContact;
+    m_sendContact = new frmSendContact(std::make_unique<ContactTransfer>(m_services.socket, m_engine.contacts(), ip),
+                                       contact->nickname, &m_main);
+    m_sendContact->show();
+}
+
+void DialogOpener::mnuToolsOptions()
+{
+    const OptionValues values(m_services.common, m_engine.ownAvatar(), m_services.pictures, m_services.clock);
+    open(new frmOptions(values, m_services.prompts, &m_main));
+}
+
+void DialogOpener::mnuCreateNewConf()
+{
+    m_engine.conferences().mnuCreateNewConf();
+}
+
+void DialogOpener::mnushowinvitations()
+{
+    m_engine.invitations().mnushowinvitations();
+}
+
+void DialogOpener::mnuInvite2Conf(int slot, const QString &ip)
+{
+    m_engine.conferences().mnuInvite2Conf(slot, ip);
+}
+
+void DialogOpener::unloadTipOfTheDay()
+{
+    if (m_tip)
+        m_tip->unload();
+}
+
+} // namespace nimb

@@ -1,0 +1,67 @@
+// Opens the dialogs of the main window's menus.
+#pragma once
+
+#include "app/messenger.h"
+#include "base/link_opener.h"
+#include "base/name_resolver.h"
+#include "base/net_send.h"
+#include "base/picture_source.h"
+#include "base/system_information.h"
+#include "base/window_openers.h"
+#include "welcome/tip_of_the_day.h"
+
+#include <QPointer>
+
+namespace nimb
+{
+
+class frmMain;
+class frmSendContact;
+class frmTipOfTheDay;
+
+/// What the windows need beside the engine; all of it outlives them.
+struct FormServices {
+    Common &common;
+    Timers &timers;
+    const WallClock &clock;
+    Winsock &socket;
+    SettingsStore &store;
+    Prompts &prompts;
+    LinkOpener &links;
+    PictureSources &pictures;
+    NameResolver &names;
+    NetSend &netSend;
+    SystemInformation &systemInformation;
+    TipOfTheDay::OpenFile openTips;
+};
+
+class DialogOpener : public MenuWindows
+{
+public:
+    /// The dialogs stand over that window, which ends before this.
+    DialogOpener(const FormServices &services, Messenger &engine, frmMain &over);
+    ~DialogOpener() override;
+
+    void mnuNetworkscan() override;
+    void mnuAddUser() override;
+    void mnuToolsOptions() override;
+    void mnuHelpAbout() override;
+    void mnuTOTD() override;
+    void mnusendcontacts(const QString &ip) override;
+    void mnuinviteuser(const QString &ip) override;
+    void mnuCreateNewConf() override;
+    void mnushowinvitations() override;
+    void mnuInvite2Conf(int slot, const QString &ip) override;
+
+    void unloadTipOfTheDay();
+
+private:
+    const FormServices &m_services;
+    Messenger &m_engine;
+    frmMain &m_main;
+    // They delete themselves when they are closed.
+    QPointer<frmTipOfTheDay> m_tip;
+    QPointer<frmSendContact> m_sendContact;
+};
+
+} // namespace nimb
