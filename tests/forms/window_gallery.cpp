@@ -1,6 +1,7 @@
 // Takes a picture of every window with realistic content: window_gallery FOLDER light|dark
 #include "real_windows.h"
 #include "welcome/frmLogin.h"
+#include "widgets/message_boxes.h"
 
 #include <QComboBox>
 #include <QDir>
