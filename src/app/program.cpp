@@ -109,14 +109,16 @@ void Program::secondStart(const QString &caption)
 
 void Program::loadNotify()
 {
-    m_instance.secondStart = [this](const QString &caption) { secondStart(caption); };
+    QObject::connect(&m_instance, &SingleInstance::secondStart, &m_instance,
+                     [this](const QString &caption) { secondStart(caption); });
     m_login.emplace(m_common, m_store, m_socket);
     const bool placed = !DesktopNotifications::areNeeded();
     m_forms.loadNotify(placed);
     if (placed)
         return;
     m_desktopNotifications.emplace(m_common, QDBusConnection::sessionBus());
-    m_desktopNotifications->contactWanted = [this](const QString &ip) { m_forms.showContact(ip); };
+    QObject::connect(&*m_desktopNotifications, &DesktopNotifications::contactWanted, &*m_desktopNotifications,
+                     [this](const QString &ip) { m_forms.showContact(ip); });
 }
 
 void Program::showLogin()

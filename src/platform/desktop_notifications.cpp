@@ -127,8 +127,8 @@ QString DesktopNotifications::body() const
 
 void DesktopNotifications::actionInvoked(uint id, const QString &action)
 {
-    if (id == m_id && m_id != 0 && action == defaultAction && !m_rows.empty() && contactWanted)
-        contactWanted(m_rows.back().ip);
+    if (id == m_id && m_id != 0 && action == defaultAction && !m_rows.empty())
+        Q_EMIT contactWanted(m_rows.back().ip);
 }
 
 void DesktopNotifications::notificationClosed(uint id, uint)

@@ -8,7 +8,6 @@
 #include <QDBusConnection>
 #include <QObject>
 
-#include <functional>
 #include <vector>
 
 namespace nimb
@@ -26,11 +25,12 @@ public:
     /// True where windows stand where the desktop puts them. Needs the application object.
     static bool areNeeded();
 
-    /// The notification was clicked; ip: the contact that the newest row is about.
-    std::function<void(const QString &ip)> contactWanted;
-
     void add(const Notification &notification) override;
     void startTimer() override;
+
+Q_SIGNALS:
+    /// The notification was clicked; ip: the contact that the newest row is about.
+    void contactWanted(const QString &ip);
 
 private:
     Q_SLOT void actionInvoked(uint id, const QString &action);

@@ -167,8 +167,7 @@ void SingleInstance::readFrom(QLocalSocket &client)
     }
     client.write(&acknowledgement, 1);
     client.disconnectFromServer();
-    if (secondStart)
-        secondStart(caption);
+    Q_EMIT secondStart(caption);
 }
 
 } // namespace nimb

@@ -4,7 +4,6 @@
 #include <QObject>
 #include <QString>
 
-#include <functional>
 #include <memory>
 
 class QLocalServer;
@@ -38,8 +37,9 @@ public:
     /// Full path of the socket on which the first copy listens.
     QString socketPath() const { return m_socketPath; }
 
-    /// Called in the first copy for each later start, with the caption of the window to bring forward.
-    std::function<void(const QString &caption)> secondStart;
+Q_SIGNALS:
+    /// In the first copy, for each later start, with the caption of the window to bring forward.
+    void secondStart(const QString &caption);
 
 private:
     void greet();

@@ -92,7 +92,8 @@ protected:
     void make()
     {
         notifications.emplace(common, *here);
-        notifications->contactWanted = [this](const QString &ip) { wanted.push_back(ip.toStdString()); };
+        QObject::connect(&*notifications, &DesktopNotifications::contactWanted, &*notifications,
+                         [this](const QString &ip) { wanted.push_back(ip.toStdString()); });
     }
     void happen(const char *text, const char *ip = "10.0.0.2")
     {

@@ -48,7 +48,8 @@ int save(const QString &folder, const QString &generation, const QString &phase,
 int hold(const QString &folder)
 {
     SingleInstance instance(folder);
-    instance.secondStart = [](const QString &caption) { say("second start: " + caption); };
+    QObject::connect(&instance, &SingleInstance::secondStart, &instance,
+                     [](const QString &caption) { say("second start: " + caption); });
     if (!instance.acquire())
         return 3;
     say("held");

@@ -80,7 +80,8 @@ protected:
 struct FirstCopy {
     explicit FirstCopy(const QString &folder) : instance(folder)
     {
-        instance.secondStart = [this](const QString &caption) { captions.push_back(caption.toStdString()); };
+        QObject::connect(&instance, &SingleInstance::secondStart, &instance,
+                         [this](const QString &caption) { captions.push_back(caption.toStdString()); });
     }
 
     bool hears(std::size_t count)
