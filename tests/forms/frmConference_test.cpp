@@ -1,3 +1,4 @@
+#include "keyboard.h"
 #include "real_windows.h"
 
 #include "widgets/avatar_picture.h"
@@ -96,6 +97,16 @@ TEST_F(FrmConference, BearsItsFixedNamesAndCaptions)
     EXPECT_EQ(control<QTreeView>("partecipanti").model()->headerData(0, Qt::Horizontal).toString(),
               QStringLiteral("NickName"));
     EXPECT_EQ(form().windowTitle(), QStringLiteral("Conference #1 (Hosted here) - NIMB-Chat"));
+}
+
+TEST_F(FrmConference, TheTabKeyGoesFromTheLogToTheParticipantsTheToolsAndTheInput)
+{
+    host();
+    control<QToolButton>("Emoticbtn").click();
+    control<QTreeView>("partecipanti").setCurrentIndex(control<QTreeView>("partecipanti").model()->index(1, 0));
+    EXPECT_THAT(tabStops(form()),
+                ElementsAre("outtext", "ListViewEmot", "partecipanti", "kickuserbtn", "showlist", "showavatars",
+                            "Emoticbtn", "datetimebtn", "clearbtn", "intext", "sendbtn"));
 }
 
 TEST_F(FrmConference, ListsParticipantsWithPicturesAndColours)

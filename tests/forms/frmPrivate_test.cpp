@@ -1,3 +1,4 @@
+#include "keyboard.h"
 #include "real_windows.h"
 
 #include "log/rich_text_log.h"
@@ -63,6 +64,15 @@ TEST_F(FrmPrivate, BearsItsFixedNamesAndCaptions)
     EXPECT_EQ(control<QCheckBox>("livetypebtn").text(), QStringLiteral("LiveType!"));
     EXPECT_EQ(control<QLineEdit>("rIP").text(), QStringLiteral("10.0.0.2"));
     EXPECT_TRUE(control<QLineEdit>("rIP").isReadOnly());
+}
+
+TEST_F(FrmPrivate, TheTabKeyGoesFromTheLogToTheInputAndThenToTheTools)
+{
+    for (const char *const tool : {"Emoticbtn", "moodbtn", "AvatarBtn"})
+        control<QToolButton>(tool).click();
+    EXPECT_THAT(tabStops(form()),
+                ElementsAre("outtext", "ListViewEmot", "intext", "sendbtn", "Emoticbtn", "BuzzBtn", "datetimebtn",
+                            "livetypebtn", "moodbtn", "AvatarBtn", "clearbtn"));
 }
 
 TEST_F(FrmPrivate, EnterSendsAndEmptiesTheBox)
