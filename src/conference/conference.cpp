@@ -3,8 +3,8 @@
 #include "base/clock_text.h"
 #include "base/limits.h"
 #include "base/remote_text.h"
+#include "conversation/message_text.h"
 #include "log/emoticons.h"
-#include "log/message_text.h"
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
 

@@ -2,10 +2,10 @@
 
 #include "conference/conference.h"
 #include "conference/participants_view.h"
+#include "conversation/emoticon_picker.h"
+#include "conversation/message_input.h"
 #include "log/RTFSubClass.h"
-#include "log/emoticon_picker.h"
 #include "log/log_font.h"
-#include "log/message_input.h"
 #include "log/rich_text_log.h"
 #include "widgets/avatar_picture.h"
 #include "widgets/bring_back.h"

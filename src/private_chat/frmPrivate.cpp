@@ -1,9 +1,9 @@
 #include "private_chat/frmPrivate.h"
 
+#include "conversation/emoticon_picker.h"
+#include "conversation/message_input.h"
 #include "log/RTFSubClass.h"
-#include "log/emoticon_picker.h"
 #include "log/log_font.h"
-#include "log/message_input.h"
 #include "log/rich_text_log.h"
 #include "private_chat/live_type.h"
 #include "private_chat/mood_gauge.h"

@@ -1,4 +1,4 @@
-#include "log/emoticon_picker.h"
+#include "conversation/emoticon_picker.h"
 
 #include "log/emoticon_tables.h"
 #include "log/log_pictures.h"

@@ -1,4 +1,4 @@
-#include "log/message_text.h"
+#include "conversation/message_text.h"
 
 #include <gtest/gtest.h>
 

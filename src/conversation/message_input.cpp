@@ -1,4 +1,4 @@
-#include "log/message_input.h"
+#include "conversation/message_input.h"
 
 #include "base/limits.h"
 #include "base/remote_text.h"
