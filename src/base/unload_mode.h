@@ -12,6 +12,7 @@ enum class UnloadMode {
 
 enum class CloseDecision {
     unload,
+    stay,     ///< the window stays as it is
     hide,     ///< the window stays, out of sight
     minimise, ///< the window stays in the task bar, for nothing else could bring it back
 };

@@ -1,10 +1,7 @@
 #include "conference/conference.h"
 
-#include "base/clock_text.h"
-#include "base/limits.h"
 #include "base/remote_text.h"
 #include "conversation/message_text.h"
-#include "log/emoticons.h"
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
 
@@ -26,14 +23,12 @@ QString withoutOuterBlanks(const QString &text)
 } // namespace
 
 Conference::Conference(const Services &services, Identity identity, std::function<void()> unloaded)
-    : m_services(services), m_identity(std::move(identity)), m_unloaded(std::move(unloaded))
+    : Conversation(services.conversation, std::move(unloaded)), m_services(services), m_identity(std::move(identity))
 {
-    m_participants.add({.ip = services.common.ownIP,
-                        .name = tr("%1 (you)").arg(services.common.ownNickname),
-                        .present = true,
-                        .own = true});
+    m_participants.add(
+        {.ip = common().ownIP, .name = tr("%1 (you)").arg(common().ownNickname), .present = true, .own = true});
     m_view = services.forms.makeConferenceForm(*this);
-    m_view->setCaption(caption());
+    conversationView().setCaption(caption());
 }
 
 QString Conference::caption() const
@@ -48,54 +43,36 @@ QString Conference::caption() const
 
 // --- writing
 
-void Conference::Clearbtn_Click()
+QString Conference::openingLine(const QString &date, const QString &time) const
 {
-    const LogFont &font = m_services.common.logFont;
-    m_view->setLogFont(font);
-    RichTextLog &log = m_view->outtext();
-    log.clear();
-    log.setSelStart(0);
-    log.setSelColor(colours::banner);
-    log.setSelFont(font);
-    const QDateTime now = m_services.clock.now();
-    log.setSelText(tr("« NIMB-Chat [today:%1 - now:%2] Conference #%3 Ready »")
-                       .arg(shortDate(now), longTime(now))
-                       .arg(m_identity.fConfN)
-                   + QLatin1String("\r\n"));
+    return tr("« NIMB-Chat [today:%1 - now:%2] Conference #%3 Ready »").arg(date, time).arg(m_identity.fConfN);
 }
 
-void Conference::appendMessage(const Writer &writer, const QString &text)
+/// Line breaks at the start go out, unlike those of private messages.
+QString Conference::textToSend(const QString &typed) const
 {
-    RichTextLog &log = m_view->outtext();
-    appendText(log, writer.name + QLatin1String("> "), writer.colour);
-    AddTextWithEmoticons(log, text, writer.colour);
-    appendText(log, QStringLiteral("\r\n"), writer.colour);
+    return TrimTrailingBreaks(withoutOuterBlanks(typed));
 }
 
-bool Conference::sendbtn_Click(const QString &typed)
+void Conference::deliver(const QString &text)
 {
-    if (typed.isEmpty() || m_terminated)
-        return false;
-    const QString text = TrimTrailingBreaks(withoutOuterBlanks(cutText(typed, limits::messageLength)));
-    relay(text, m_services.common.ownIP);
-    appendMessage({m_services.common.ownNickname, m_view->windowTextColour()}, text);
+    relay(text, common().ownIP);
     showOwnAvatar();
-    return true;
 }
 
 void Conference::relay(const QString &text, const QString &origin)
 {
-    const bool isOwn = origin == m_services.common.ownIP;
+    const bool isOwn = origin == common().ownIP;
     const wire::ConferenceMessage message{origin.toStdString(), m_identity.ConfNum, toWire(text)};
     if (!isHostedHere()) {
         if (isOwn)
-            sendDatagram(m_services.socket, m_identity.ConfServerIP, message);
+            sendDatagram(socket(), m_identity.ConfServerIP, message);
         return;
     }
     const std::string bytes = wire::serialise(message);
     for (const Participant &participant : m_participants.rows()) {
         if (participant.isPresentPeer() && participant.ip != origin)
-            sendBytes(m_services.socket, participant.ip, bytes);
+            sendBytes(socket(), participant.ip, bytes);
     }
 }
 
@@ -112,37 +89,17 @@ Conference::Writer Conference::writerOf(const QString &ip) const
 
 void Conference::ReceiveMessage(const QString &IP, const QString &msg)
 {
-    const QString text = TrimLeadingBreaks(TrimTrailingBreaks(msg));
-    appendMessage(writerOf(IP), remoteBody(text));
-    const QDateTime now = m_services.clock.now();
-    m_view->setPanel(tr("Last message: %1 @ %2").arg(shortDate(now), longTime(now)));
+    const QString text = trimmedMessage(msg);
+    appendReceived(writerOf(IP), remoteBody(text));
     if (isHostedHere())
         relay(text, IP);
     showAvatarOf(IP);
 }
 
-void Conference::ReceiveCommand(const QString &msg, Colour color)
-{
-    appendText(m_view->outtext(), msg + QLatin1String("\r\n"), color);
-}
-
 void Conference::terminate()
 {
-    m_terminated = true;
     ReceiveCommand(tr("--- This conference is terminated."), colours::banner);
-    m_view->setInputEnabled(false);
-}
-
-void Conference::outtext_Change()
-{
-    if (m_services.common.windowFlashingAvailable && m_view->isMinimisedOrInactive())
-        m_view->flash();
-}
-
-QString Conference::dateAndTime() const
-{
-    const QDateTime now = m_services.clock.now();
-    return shortDate(now) + QLatin1Char(' ') + longTime(now);
+    end();
 }
 
 // --- participants
@@ -153,7 +110,7 @@ void Conference::invite(const QString &ip)
     if (!contact || !isHostedHere())
         return;
     m_participants.add({.ip = ip, .name = contact->nickname});
-    sendDatagram(m_services.socket, ip, wire::ConferenceInvitation{m_identity.ConfNum});
+    sendDatagram(socket(), ip, wire::ConferenceInvitation{m_identity.ConfNum});
 }
 
 void Conference::kickuserbtn_Click(const QString &ip)
@@ -161,31 +118,31 @@ void Conference::kickuserbtn_Click(const QString &ip)
     const Participant *const participant = m_participants.find(ip);
     if (!participant || participant->own || !isHostedHere())
         return;
-    sendDatagram(m_services.socket, ip, wire::ConferenceClose{m_identity.ConfNum});
+    sendDatagram(socket(), ip, wire::ConferenceClose{m_identity.ConfNum});
     m_participants.remove(ip);
 }
 
 void Conference::refreshlistbtn_Click()
 {
     if (!isHostedHere())
-        sendDatagram(m_services.socket, m_identity.ConfServerIP, wire::ConferenceListQuestion{m_identity.ConfNum});
+        sendDatagram(socket(), m_identity.ConfServerIP, wire::ConferenceListQuestion{m_identity.ConfNum});
 }
 
 void Conference::Broadcastlist(const QString &dest)
 {
     if (!isHostedHere())
         return;
-    wire::ConferenceList list{m_identity.ConfNum, {m_services.common.ownIP.toStdString()}};
+    wire::ConferenceList list{m_identity.ConfNum, {common().ownIP.toStdString()}};
     for (const Participant &participant : m_participants.rows()) {
         if (participant.isPresentPeer())
             list.addresses.push_back(participant.ip.toStdString());
     }
     const std::string bytes = wire::serialise(list);
     if (!dest.isEmpty())
-        return sendBytes(m_services.socket, dest, bytes);
+        return sendBytes(socket(), dest, bytes);
     for (const Participant &participant : m_participants.rows()) {
         if (!participant.own)
-            sendBytes(m_services.socket, participant.ip, bytes);
+            sendBytes(socket(), participant.ip, bytes);
     }
 }
 
@@ -195,7 +152,7 @@ void Conference::BroadcastClose()
         return;
     for (const Participant &participant : m_participants.rows()) {
         if (!participant.own)
-            sendDatagram(m_services.socket, participant.ip, wire::ConferenceClose{m_identity.ConfNum});
+            sendDatagram(socket(), participant.ip, wire::ConferenceClose{m_identity.ConfNum});
     }
 }
 
@@ -209,7 +166,7 @@ void Conference::showAvatar(const QString &name, const std::optional<QByteArray>
 
 void Conference::showOwnAvatar()
 {
-    const QString &name = m_services.common.ownNickname;
+    const QString &name = common().ownNickname;
     if (m_avatarLabel != name)
         showAvatar(name, m_services.ownAvatar.picture());
 }
@@ -225,14 +182,18 @@ void Conference::showAvatarOf(const QString &ip)
 
 // --- the end
 
-bool Conference::Form_QueryUnload(UnloadMode mode)
+CloseDecision Conference::Form_QueryUnload(UnloadMode mode)
 {
+    const auto answer = [this](const QString &question) {
+        return m_services.prompts.ask(question, programTitle) ? CloseDecision::unload : CloseDecision::stay;
+    };
     if (mode != UnloadMode::closeBox)
-        return true;
-    if (isHostedHere())
-        return m_participants.rowCount() < 2
-            || m_services.prompts.ask(tr("Closing that window will terminate the conference. Proceed?"), programTitle);
-    return m_terminated || m_services.prompts.ask(tr("Leave the conference?"), programTitle);
+        return CloseDecision::unload;
+    if (isHostedHere() && m_participants.rowCount() >= 2)
+        return answer(tr("Closing that window will terminate the conference. Proceed?"));
+    if (!isHostedHere() && !isOver())
+        return answer(tr("Leave the conference?"));
+    return CloseDecision::unload;
 }
 
 void Conference::Form_Unload(bool sayGoodbye)
@@ -240,7 +201,7 @@ void Conference::Form_Unload(bool sayGoodbye)
     if (isHostedHere())
         BroadcastClose();
     else if (sayGoodbye)
-        sendDatagram(m_services.socket, m_identity.ConfServerIP, wire::ConferenceLeave{m_identity.ConfNum});
+        sendDatagram(socket(), m_identity.ConfServerIP, wire::ConferenceLeave{m_identity.ConfNum});
 }
 
 } // namespace nimb

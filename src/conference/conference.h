@@ -1,38 +1,29 @@
 // One conference that this copy takes part in: as its host, who relays every message, or as a guest.
 #pragma once
 
-#include "base/Common.h"
 #include "base/prompts.h"
-#include "base/timers.h"
-#include "base/unload_mode.h"
 #include "conference/conference_view.h"
 #include "conference/participants.h"
 #include "contacts/avatar_store.h"
 #include "contacts/contact_list.h"
 #include "contacts/own_avatar.h"
-#include "protocol/winsock.h"
-
-#include <QCoreApplication>
-
-#include <functional>
+#include "conversation/conversation.h"
 
 namespace nimb
 {
 
 /// The engine half of frmConference. Its form lives as long as it does.
-class Conference
+class Conference : public Conversation
 {
     Q_DECLARE_TR_FUNCTIONS(Conference)
 
 public:
     /// What every conference shares.
     struct Services {
-        const Common &common;
-        Winsock &socket;
+        Conversation::Services conversation;
         const ContactList &contacts;
         const AvatarStore &avatars;
         OwnAvatar &ownAvatar;
-        const WallClock &clock;
         Prompts &prompts;
         ConferenceForms &forms;
     };
@@ -49,23 +40,13 @@ public:
 
     const Identity &identity() const { return m_identity; }
     bool isHostedHere() const { return m_identity.ImHostingThatConf; }
-    /// The host has closed it, or has removed this copy from it.
-    bool isTerminated() const { return m_terminated; }
     Participants &partecipanti() { return m_participants; }
     const Participants &partecipanti() const { return m_participants; }
     ConferenceView &view() { return *m_view; }
 
-    /// Empties the log and writes its opening line.
-    void Clearbtn_Click();
-    /// Sends what was typed; false when there was nothing. Line breaks are CR LF.
-    bool sendbtn_Click(const QString &typed);
     /// Removes a participant; nobody and the own row are left alone. The others learn it with the next list.
     void kickuserbtn_Click(const QString &ip);
     void refreshlistbtn_Click();
-    /// Date and time for the input box.
-    QString dateAndTime() const;
-    /// Something was added to the log.
-    void outtext_Change();
 
     /// A contact is invited; one who is present stays so.
     void invite(const QString &ip);
@@ -75,36 +56,30 @@ public:
     void BroadcastClose();
     /// A message of the participant with this address: shown and, at the host, relayed.
     void ReceiveMessage(const QString &IP, const QString &msg);
-    void ReceiveCommand(const QString &msg, Colour color);
-    /// The conference is over for this copy.
+    void ReceiveCommand(const QString &msg, Colour color) { appendLine(msg, color); }
+    /// The host has closed it, or has removed this copy from it.
     void terminate();
 
-    /// Whether the window is to be closed; the user may be asked.
-    bool Form_QueryUnload(UnloadMode mode);
+    CloseDecision Form_QueryUnload(UnloadMode mode) override;
     /// Tells the others. sayGoodbye: whether a guest still has to leave.
     void Form_Unload(bool sayGoodbye);
-    /// The form has been closed for good.
-    void closed() { m_unloaded(); }
 
 private:
-    struct Writer {
-        QString name;
-        Colour colour;
-    };
+    ConversationView &conversationView() const override { return m_view->conversation(); }
+    QString openingLine(const QString &date, const QString &time) const override;
+    QString textToSend(const QString &typed) const override;
+    void deliver(const QString &text) override;
 
     QString caption() const;
     Writer writerOf(const QString &ip) const;
     void relay(const QString &text, const QString &origin);
-    void appendMessage(const Writer &writer, const QString &text);
     void showOwnAvatar();
     void showAvatarOf(const QString &ip);
     void showAvatar(const QString &name, const std::optional<QByteArray> &picture);
 
     Services m_services;
     Identity m_identity;
-    std::function<void()> m_unloaded;
     Participants m_participants;
-    bool m_terminated = false;
     QString m_avatarLabel; ///< whose avatar is shown
     ViewPtr<ConferenceView> m_view;
 };

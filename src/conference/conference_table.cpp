@@ -28,7 +28,7 @@ int ConferenceTable::CreateNewConfWin(bool host, std::int16_t ChnNum, const QStr
     if (slot > lastSlot)
         return 0;
     const Conference::Identity identity{.ImHostingThatConf = host,
-                                        .ConfServerIP = host ? m_services.common.ownIP : IP,
+                                        .ConfServerIP = host ? m_services.conversation.common.ownIP : IP,
                                         .ConfNum = ChnNum != 0 ? ChnNum : static_cast<std::int16_t>(slot),
                                         .fConfN = slot};
     if (!host)
@@ -43,7 +43,7 @@ int ConferenceTable::CreateNewConfWin(bool host, std::int16_t ChnNum, const QStr
 
 void ConferenceTable::mnuCreateNewConf()
 {
-    if (CreateNewConfWin(true, 0, m_services.common.ownIP) < 1)
+    if (CreateNewConfWin(true, 0, m_services.conversation.common.ownIP) < 1)
         m_services.prompts.tell(tr("Sorry, conf windows are over!!!"), programTitle);
 }
 
@@ -67,7 +67,7 @@ Conference *ConferenceTable::hosted(int number)
 Conference *ConferenceTable::joined(const QString &host, int number)
 {
     for (const auto &conference : m_slots) {
-        if (!conference || conference->isHostedHere() || conference->isTerminated())
+        if (!conference || conference->isHostedHere() || conference->isOver())
             continue;
         const Conference::Identity &identity = conference->identity();
         if (identity.ConfServerIP == host && identity.ConfNum == number)
@@ -83,7 +83,7 @@ void ConferenceTable::unload(int slot)
         return;
     // A window whose conference is over must not take leave for one that was joined again.
     const Conference::Identity &identity = conference->identity();
-    const bool joinedAgain = conference->isTerminated() && joined(identity.ConfServerIP, identity.ConfNum);
+    const bool joinedAgain = conference->isOver() && joined(identity.ConfServerIP, identity.ConfNum);
     conference->Form_Unload(!joinedAgain);
     m_menu.setInvite2ConfVisible(slot, false);
 }

@@ -232,9 +232,9 @@ void frmConference::closeEvent(QCloseEvent *event)
     if (!m_conference)
         return event->accept();
     const UnloadMode mode = qApp->isSavingSession() ? UnloadMode::sessionEnd : UnloadMode::closeBox;
-    const bool close = m_conference->Form_QueryUnload(mode);
+    const CloseDecision decision = m_conference->Form_QueryUnload(mode);
     // The program may have ended while the question stood there.
-    if (!close && m_conference)
+    if (decision == CloseDecision::stay && m_conference)
         return event->ignore();
     event->accept();
     if (m_conference)
@@ -277,7 +277,7 @@ void frmConference::flash()
 
 void frmConference::sendbtn_Click()
 {
-    if (m_conference->sendbtn_Click(typedText(*intext)))
+    if (m_conference->send(typedText()))
         intext->clear();
     intext->setFocus();
 }
@@ -315,7 +315,7 @@ void frmConference::ListViewEmot_ItemClick(const QString &emoticon)
 {
     if (!intext->isEnabled())
         return;
-    setTypedText(*intext, typedText(*intext) + emoticon);
+    setTypedText(*intext, typedText() + emoticon);
     intext->setFocus();
 }
 
@@ -384,9 +384,14 @@ void frmConference::setLogFont(const LogFont &font)
     m_outtext->setSelFont(font);
 }
 
-void frmConference::setPanel(const QString &text)
+void frmConference::setLastMessage(const QString &text)
 {
     m_panel->setText(text);
+}
+
+QString frmConference::typedText() const
+{
+    return nimb::typedText(*intext);
 }
 
 void frmConference::setInputEnabled(bool enabled)

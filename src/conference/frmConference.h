@@ -22,7 +22,7 @@ class MessageInput;
 class RTFSubClass;
 class RichTextLogEdit;
 
-class frmConference : public QWidget, public ConferenceView
+class frmConference : public QWidget, public ConferenceView, public ConversationView
 {
     Q_OBJECT
 
@@ -30,11 +30,14 @@ public:
     /// links: opens what is pressed in the log; outlives the window.
     frmConference(Conference &conference, RTFSubClass &links);
 
+    ConversationView &conversation() override { return *this; }
     RichTextLog &outtext() override;
     void setCaption(const QString &caption) override;
     void setLogFont(const LogFont &font) override;
-    void setPanel(const QString &text) override;
+    void setLastMessage(const QString &text) override;
+    QString typedText() const override;
     void setInputEnabled(bool enabled) override;
+    void focusInput() override;
     void showAvatar(const QString &name, const std::optional<QByteArray> &picture) override;
     Colour windowTextColour() const override;
     void showWindow() override;
@@ -67,7 +70,6 @@ private:
     void showavatars_Click();
     void partecipanti_ItemClick();
     void outtext_Change();
-    void focusInput();
     QString selectedParticipant() const;
 
     Conference *m_conference; ///< null once the window was let go

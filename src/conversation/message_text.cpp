@@ -36,4 +36,9 @@ QString TrimLeadingBreaks(QString text)
     return text.mid(start);
 }
 
+QString trimmedMessage(const QString &text)
+{
+    return TrimLeadingBreaks(TrimTrailingBreaks(text));
+}
+
 } // namespace nimb

@@ -10,5 +10,7 @@ namespace nimb
 QString TrimTrailingBreaks(QString text);
 /// The mirror image at the start.
 QString TrimLeadingBreaks(QString text);
+/// Both.
+QString trimmedMessage(const QString &text);
 
 } // namespace nimb

@@ -266,6 +266,8 @@ void frmMain::unload(UnloadMode mode)
     if (!m_engine || !m_ended)
         return;
     switch (m_engine->window.Form_QueryUnload(mode)) {
+    case CloseDecision::stay:
+        return;
     case CloseDecision::hide:
         return hide();
     case CloseDecision::minimise:

@@ -238,7 +238,7 @@ void frmPrivate::sendbtn_Click()
 
 void frmPrivate::clearbtn_Click()
 {
-    m_chat->preparewindow();
+    m_chat->Clearbtn_Click();
     intext->setFocus();
 }
 
@@ -352,7 +352,7 @@ void frmPrivate::closeEvent(QCloseEvent *event)
     if (!Form_QueryUnload(mode))
         return event->ignore();
     event->accept();
-    m_chat->Form_Unload();
+    m_chat->closed();
 }
 
 void frmPrivate::Form_Unload()
@@ -389,9 +389,20 @@ void frmPrivate::setLogFont(const LogFont &font)
     m_outtext->setSelFont(font);
 }
 
-void frmPrivate::setPanel(int number, const QString &text)
+void frmPrivate::setLastMessage(const QString &text)
 {
-    m_panels[number - 1]->setText(text);
+    m_panels[0]->setText(text);
+}
+
+void frmPrivate::setPeerActivity(const QString &text)
+{
+    m_panels[1]->setText(text);
+}
+
+void frmPrivate::setInputEnabled(bool enabled)
+{
+    intext->setEnabled(enabled);
+    sendbtn->setEnabled(enabled);
 }
 
 void frmPrivate::setLiveType(const QString &text)

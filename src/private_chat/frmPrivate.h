@@ -25,7 +25,7 @@ class MoodGauge;
 class RTFSubClass;
 class RichTextLogEdit;
 
-class frmPrivate : public QWidget, public PrivateChatView
+class frmPrivate : public QWidget, public PrivateChatView, public ConversationView
 {
     Q_OBJECT
 
@@ -33,14 +33,17 @@ public:
     /// links: opens what is pressed in the log; outlives the window.
     frmPrivate(PrivateChat &chat, RTFSubClass &links);
 
+    ConversationView &conversation() override { return *this; }
     RichTextLog &outtext() override;
     void setCaption(const QString &caption) override;
     void setPeerAddress(const QString &ip) override;
     void setLogFont(const LogFont &font) override;
-    void setPanel(int number, const QString &text) override;
+    void setLastMessage(const QString &text) override;
+    void setPeerActivity(const QString &text) override;
     void setLiveType(const QString &text) override;
     void setLiveTypeOn(bool on) override;
     QString typedText() const override;
+    void setInputEnabled(bool enabled) override;
     bool isLiveTypeOn() const override;
     void focusInput() override;
     void setAvatar(const QString &marker, const std::optional<QByteArray> &picture) override;

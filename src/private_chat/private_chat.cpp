@@ -1,11 +1,9 @@
 #include "private_chat/private_chat.h"
 
 #include "base/buzz.h"
-#include "base/clock_text.h"
 #include "base/limits.h"
 #include "base/remote_text.h"
 #include "conversation/message_text.h"
-#include "log/emoticons.h"
 #include "private_chat/auto_reply.h"
 #include "private_chat/live_type.h"
 #include "protocol/send_datagram.h"
@@ -20,15 +18,15 @@ constexpr std::chrono::milliseconds pollingInterval{1100};
 } // namespace
 
 PrivateChat::PrivateChat(const Services &services, std::function<void()> unloaded)
-    : m_services(services), m_unloaded(std::move(unloaded)),
+    : Conversation(services.conversation, std::move(unloaded)), m_services(services),
       m_autoReplyTimer(services.timers.oneShot(limits::autoReplyPause, [] {})),
-      m_timer(services.timers.oneShot(peerActivityShown, [this] { m_view->setPanel(2, {}); })),
+      m_timer(services.timers.oneShot(peerActivityShown, [this] { m_view->setPeerActivity({}); })),
       m_timerLiveType(services.timers.oneShot(liveTypeInterval, [this] { TimerLiveType_Timer(); })),
       m_webCamTimer(services.timers.repeating(pollingInterval, [this] { avatarWanted(); })),
       m_view(services.forms.makePrivateForm(*this))
 {
-    m_view->setLogFont(services.common.logFont);
-    m_view->setLiveTypeOn(services.common.options.liveType);
+    conversationView().setLogFont(common().logFont);
+    m_view->setLiveTypeOn(common().options.liveType);
 }
 
 void PrivateChat::setPeer(const QString &ip)
@@ -40,59 +38,48 @@ void PrivateChat::setPeer(const QString &ip)
 
 void PrivateChat::avatarWanted()
 {
-    sendDatagram(m_services.socket, m_rIP, wire::AvatarHeadQuestion{});
+    sendDatagram(socket(), m_rIP, wire::AvatarHeadQuestion{});
 }
 
-void PrivateChat::preparewindow()
+QString PrivateChat::openingLine(const QString &date, const QString &time) const
 {
-    const LogFont &font = m_services.common.logFont;
-    m_view->setLogFont(font);
-    RichTextLog &log = m_view->outtext();
-    log.clear();
-    log.setSelStart(0);
-    log.setSelColor(colours::banner);
-    log.setSelFont(font);
-    const QDateTime now = m_services.clock.now();
-    log.setSelText(tr("« NIMB-Chat [today:%1 - now:%2] Ready »").arg(shortDate(now), longTime(now))
-                   + QLatin1String("\r\n"));
-    log.setSelStart(log.textLength());
+    return tr("« NIMB-Chat [today:%1 - now:%2] Ready »").arg(date, time);
 }
 
-void PrivateChat::appendMessage(const QString &nick, const QString &body, Colour colour)
+QString PrivateChat::textToSend(const QString &typed) const
 {
-    RichTextLog &log = m_view->outtext();
-    appendText(log, nick + QLatin1String("> "), colour);
-    AddTextWithEmoticons(log, body, colour);
-    appendText(log, QStringLiteral("\r\n"), colour);
-    log.setSelStart(log.textLength());
+    return trimmedMessage(typed);
+}
+
+void PrivateChat::deliver(const QString &text)
+{
+    sendDatagram(socket(), m_rIP, wire::PrivateMessage{toWire(text)});
 }
 
 void PrivateChat::MessageReceived(const QString &nik, QString &msg)
 {
     const bool mayBeAnswered = !isAutoReply(msg);
-    msg = TrimLeadingBreaks(TrimTrailingBreaks(msg));
-    appendMessage(nik, msg, colours::receivedMessage);
-    const QDateTime now = m_services.clock.now();
-    m_view->setPanel(1, tr("Last message: %1 @ %2").arg(shortDate(now), longTime(now)));
+    msg = trimmedMessage(msg);
+    appendReceived({nik, colours::receivedMessage}, msg);
     m_view->setLiveType({});
     if (!mayBeAnswered)
         return;
-    const AutoReply &reply = m_services.common.autoReply;
+    const AutoReply &reply = common().autoReply;
     replyAutomatically(BaseState::busy, reply.onBusy, reply.busyText);
     replyAutomatically(BaseState::away, reply.onAway, reply.awayText);
 }
 
 void PrivateChat::replyAutomatically(BaseState state, bool on, const QString &text)
 {
-    if (m_services.common.ownPresence.base != state || !on || m_autoReplyTimer->isActive())
+    if (common().ownPresence.base != state || !on || m_autoReplyTimer->isActive())
         return;
-    sendDatagram(m_services.socket, m_rIP, wire::PrivateMessage{toWire(autoReplyMessage(text))});
+    deliver(autoReplyMessage(text));
     m_autoReplyTimer->start();
 }
 
 void PrivateChat::showPeerActivity(const QString &text)
 {
-    m_view->setPanel(2, text);
+    m_view->setPeerActivity(text);
     m_timer->start();
 }
 
@@ -104,21 +91,21 @@ void PrivateChat::buzzed(const QString &text)
 
 void PrivateChat::BuzzBtn_Click()
 {
-    sendBuzz(m_services.common, m_services.socket, m_services.sound, m_rIP);
+    sendBuzz(common(), socket(), m_services.sound, m_rIP);
     appendBuzz();
-    m_view->focusInput();
+    conversationView().focusInput();
 }
 
 void PrivateChat::appendBuzz()
 {
-    appendText(m_view->outtext(), QStringLiteral("BUZZ!\r\n"), colours::presence);
+    appendLine(QStringLiteral("BUZZ!"), colours::presence);
 }
 
 void PrivateChat::intext_Change(const QString &typed)
 {
     if (!m_typingNotice.textChanged(typed.size()))
         return;
-    sendDatagram(m_services.socket, m_rIP, wire::Typing{});
+    sendDatagram(socket(), m_rIP, wire::Typing{});
     if (!m_view->isLiveTypeOn())
         return;
     m_liveTypePending = true;
@@ -131,14 +118,14 @@ void PrivateChat::livetypebtn_Click()
     // The timer rests while nothing may be sent.
     if (m_liveTypePending && m_view->isLiveTypeOn() && !m_timerLiveType->isActive())
         m_timerLiveType->start();
-    m_view->focusInput();
+    conversationView().focusInput();
 }
 
 void PrivateChat::TimerLiveType_Timer()
 {
     if (!m_liveTypePending || !m_view->isLiveTypeOn())
         return;
-    sendDatagram(m_services.socket, m_rIP, wire::LiveType{toWire(liveTypeToSend(m_view->typedText()))});
+    sendDatagram(socket(), m_rIP, wire::LiveType{toWire(liveTypeToSend(conversationView().typedText()))});
     m_liveTypePending = false;
 }
 
@@ -170,7 +157,7 @@ void PrivateChat::mymoodpct_MouseDown(float value)
     if (!mood)
         return;
     m_view->setOwnMood(*mood);
-    sendDatagram(m_services.socket, m_rIP, wire::Mood{Mood::toSend(value).toStdString()});
+    sendDatagram(socket(), m_rIP, wire::Mood{Mood::toSend(value).toStdString()});
 }
 
 void PrivateChat::setmood(std::int16_t mood)
@@ -181,40 +168,13 @@ void PrivateChat::setmood(std::int16_t mood)
 
 void PrivateChat::appendPresence(const QString &line)
 {
-    appendText(m_view->outtext(), line + QLatin1String("\r\n"), colours::presence);
+    appendLine(line, colours::presence);
 }
 
-bool PrivateChat::send(const QString &typed)
+CloseDecision PrivateChat::Form_QueryUnload(UnloadMode mode)
 {
-    if (typed.isEmpty())
-        return false;
-    const QString text = TrimLeadingBreaks(TrimTrailingBreaks(cutText(typed, limits::messageLength)));
-    sendDatagram(m_services.socket, m_rIP, wire::PrivateMessage{toWire(text)});
-    appendMessage(m_services.common.ownNickname, text, m_view->windowTextColour());
-    return true;
-}
-
-QString PrivateChat::dateAndTime() const
-{
-    const QDateTime now = m_services.clock.now();
-    return shortDate(now) + QLatin1Char(' ') + longTime(now);
-}
-
-void PrivateChat::outtext_Change()
-{
-    if (m_services.common.windowFlashingAvailable && m_view->isMinimisedOrInactive())
-        m_view->flash();
-}
-
-CloseDecision PrivateChat::Form_QueryUnload(UnloadMode mode) const
-{
-    const bool hides = mode == UnloadMode::closeBox && m_isContact && !m_services.common.options.closedWindowsGo;
+    const bool hides = mode == UnloadMode::closeBox && m_isContact && !common().options.closedWindowsGo;
     return hides ? CloseDecision::hide : CloseDecision::unload;
-}
-
-void PrivateChat::Form_Unload()
-{
-    m_unloaded();
 }
 
 } // namespace nimb

@@ -1,16 +1,11 @@
 // A conversation with one peer: what is written, sent and answered.
 #pragma once
 
-#include "base/Common.h"
 #include "base/avatar.h"
 #include "base/sound.h"
-#include "base/timers.h"
-#include "base/unload_mode.h"
+#include "conversation/conversation.h"
 #include "private_chat/private_chat_view.h"
 #include "private_chat/typing_notice.h"
-#include "protocol/winsock.h"
-
-#include <QCoreApplication>
 
 #include <memory>
 
@@ -18,18 +13,16 @@ namespace nimb
 {
 
 /// The engine half of frmPrivate. Its form lives as long as it does.
-class PrivateChat
+class PrivateChat : public Conversation
 {
     Q_DECLARE_TR_FUNCTIONS(PrivateChat)
 
 public:
     /// What every private window shares.
     struct Services {
-        const Common &common;
-        Winsock &socket;
+        Conversation::Services conversation;
         Sound &sound;
         Timers &timers;
-        const WallClock &clock;
         PrivateForms &forms;
     };
 
@@ -42,7 +35,7 @@ public:
     PrivateChatView &view() { return *m_view; }
 
     /// Sets fonts, empties the log and writes its opening line.
-    void preparewindow();
+    void preparewindow() { Clearbtn_Click(); }
     /// Appends a received message and answers it automatically where that is switched on, unless it is an automatic
     /// reply itself. msg is trimmed in place.
     void MessageReceived(const QString &nik, QString &msg);
@@ -62,8 +55,6 @@ public:
     /// Appends a line about the peer's presence.
     void appendPresence(const QString &line);
 
-    /// Sends what was typed; false when there was nothing, which sends nothing. Line breaks are CR LF.
-    bool send(const QString &typed);
     /// The input box changed to this text.
     void intext_Change(const QString &typed);
     void livetypebtn_Click();
@@ -72,23 +63,20 @@ public:
     void avatarWanted();
     /// The own gauge was clicked at this height, in units of the scale.
     void mymoodpct_MouseDown(float value);
-    /// Date and time for the input box.
-    QString dateAndTime() const;
-    /// Something was added to the log.
-    void outtext_Change();
 
-    CloseDecision Form_QueryUnload(UnloadMode mode) const;
-    /// The form has been closed for good.
-    void Form_Unload();
+    CloseDecision Form_QueryUnload(UnloadMode mode) override;
 
 private:
+    ConversationView &conversationView() const override { return m_view->conversation(); }
+    QString openingLine(const QString &date, const QString &time) const override;
+    QString textToSend(const QString &typed) const override;
+    void deliver(const QString &text) override;
+
     void TimerLiveType_Timer();
     void appendBuzz();
-    void appendMessage(const QString &nick, const QString &body, Colour colour);
     void replyAutomatically(BaseState state, bool on, const QString &text);
 
     Services m_services;
-    std::function<void()> m_unloaded;
     QString m_rIP;
     std::unique_ptr<Timer> m_autoReplyTimer;
     std::unique_ptr<Timer> m_timer; ///< clears the panel of the peer's activity

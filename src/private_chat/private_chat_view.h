@@ -1,9 +1,8 @@
 // What the engine shows in a private window, named after what is seen.
 #pragma once
 
-#include "base/attention.h"
-#include "base/rich_text.h"
 #include "base/view_ptr.h"
+#include "conversation/conversation_view.h"
 #include "private_chat/mood.h"
 
 #include <QByteArray>
@@ -23,30 +22,24 @@ enum class ShowMode {
     onTop,     ///< as it last was, above the others, without taking the focus
 };
 
-class PrivateChatView : public AttentionView
+class PrivateChatView
 {
 public:
-    virtual RichTextLog &outtext() = 0;
-    virtual void setCaption(const QString &caption) = 0;
+    virtual ~PrivateChatView() = default;
+    /// What it has in common with the other conversations.
+    virtual ConversationView &conversation() = 0;
     virtual void setPeerAddress(const QString &ip) = 0;
-    /// Font of the input box and of the log.
-    virtual void setLogFont(const LogFont &font) = 0;
-    /// Panel of the status bar, 1 or 2.
-    virtual void setPanel(int number, const QString &text) = 0;
+    /// The second panel of the status bar.
+    virtual void setPeerActivity(const QString &text) = 0;
     /// Shows what the peer is typing; an empty text hides the preview.
     virtual void setLiveType(const QString &text) = 0;
-    /// The input box as it is now, line breaks as CR LF.
-    virtual QString typedText() const = 0;
     virtual void setLiveTypeOn(bool on) = 0;
     /// Whether the peer is to see what is typed.
     virtual bool isLiveTypeOn() const = 0;
-    virtual void focusInput() = 0;
     /// The peer's avatar; nothing: the picture that stands for none. marker: what AvatarCh holds.
     virtual void setAvatar(const QString &marker, const std::optional<QByteArray> &picture) = 0;
     virtual void setOwnMood(const MoodMark &mood) = 0;
     virtual void setPeersMood(const MoodMark &mood) = 0;
-    /// The colour of own messages: the system's window-text colour.
-    virtual Colour windowTextColour() const = 0;
 
     virtual bool isHidden() const = 0;
     virtual void showWindow(ShowMode mode) = 0;

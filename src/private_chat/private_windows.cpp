@@ -23,7 +23,8 @@ void PrivateWindows::privateMessage(const QString &ip, const QString &text)
 {
     PrivateChat &chat = windowOf(ip);
     if (chat.view().isHidden())
-        chat.view().showWindow(m_services.common.options.privateWindowsOnTop ? ShowMode::onTop : ShowMode::minimised);
+        chat.view().showWindow(m_services.conversation.common.options.privateWindowsOnTop ? ShowMode::onTop
+                                                                                          : ShowMode::minimised);
     QString body = remoteBody(text);
     chat.MessageReceived(m_contacts.find(ip)->nickname, body);
 }
@@ -54,7 +55,7 @@ PrivateChat &PrivateWindows::make(const Contact &contact)
     m_table.push_back(std::make_unique<PrivateChat>(m_services, [this, number] { unload(number); }));
     m_contacts.change(contact.ip, [number](Contact &row) { row.privateWindow = number; });
     PrivateChat &chat = *m_table.back();
-    chat.view().setCaption(tr("%1 - NIMB-Chat - Private Chat Window").arg(contact.nickname));
+    chat.view().conversation().setCaption(tr("%1 - NIMB-Chat - Private Chat Window").arg(contact.nickname));
     chat.setPeer(contact.ip);
     chat.preparewindow();
     return chat;

@@ -304,8 +304,7 @@ void takeConference(Gallery &gallery)
         windows.arrive(ip, "!CONF INVITE #1 AGREE");
     windows.arrive("192.168.1.45", "!CONF INVITE #1 DENY");
     windows.arrive("192.168.1.31", "+192.168.1.31 #1 Has everybody read it? :)");
-    windows.engine.conferences().at(1)->sendbtn_Click(
-        QStringLiteral("Only the first part, up to http://fileserver/plans"));
+    windows.engine.conferences().at(1)->send(QStringLiteral("Only the first part, up to http://fileserver/plans"));
     windows.arrive("192.168.1.20", "+192.168.1.20 #1 Not yet. Where is it?");
     windows.arrive("192.168.1.12",
                    "+192.168.1.12 #1 In the usual place, as always when there is something that everybody "

@@ -148,7 +148,7 @@ private:
         case 5:
             return messenger.invitations().clearbtn_Click();
         case 6:
-            if (conference && conference->Form_QueryUnload(UnloadMode::closeBox))
+            if (conference && conference->Form_QueryUnload(UnloadMode::closeBox) == CloseDecision::unload)
                 conference->closed();
             return;
         case 7:
@@ -157,7 +157,7 @@ private:
             return;
         case 8:
             if (conference)
-                conference->sendbtn_Click(QStringLiteral(" hello :) "));
+                conference->send(QStringLiteral(" hello :) "));
             return;
         case 9:
             if (conference)
@@ -177,7 +177,7 @@ private:
                 continue;
             Snapshot &one = all[static_cast<std::size_t>(slot)];
             one.window = conference;
-            one.terminated = conference->isTerminated();
+            one.terminated = conference->isOver();
             one.pieces = static_cast<Silent<RecorderConferenceView> &>(conference->view()).silent.pieces;
             for (const Participant &row : conference->partecipanti().rows())
                 one.rows[row.ip] = row.present;
@@ -305,7 +305,7 @@ private:
             require(identity.fConfN == slot && identity.ConfNum >= 1, "a window knows its slot and its number");
             require(!conference->isHostedHere() || identity.ConfNum == slot,
                     "a hosted conference has its slot's number");
-            require(conference->isTerminated() || open.emplace(identity.ConfServerIP, identity.ConfNum).second,
+            require(conference->isOver() || open.emplace(identity.ConfServerIP, identity.ConfNum).second,
                     "no conference has two open windows");
             checkRows(*conference);
         }

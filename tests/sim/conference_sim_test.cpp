@@ -289,11 +289,11 @@ private:
     {
         const QString text = QStringLiteral("text-%1").arg(++m_texts);
         copy.socket.sent.clear();
-        const bool over = conference.isTerminated();
+        const bool over = conference.isOver();
         tell(who,
              text.toStdString() + " in " + nameOf(conference).first.toStdString() + " #"
                  + std::to_string(nameOf(conference).second));
-        const bool said = conference.sendbtn_Click(text);
+        const bool said = conference.send(text);
         require(said != over, "whether one can write is not whether the conference goes on");
         if (!said)
             return {};
@@ -341,7 +341,7 @@ private:
              "closes the window of " + nameOf(*conference).first.toStdString() + " #"
                  + std::to_string(nameOf(*conference).second));
         forget(who, *conference);
-        if (conference->Form_QueryUnload(UnloadMode::closeBox))
+        if (conference->Form_QueryUnload(UnloadMode::closeBox) == CloseDecision::unload)
             conference->closed();
     }
 
@@ -410,7 +410,7 @@ private:
                 continue;
             Snapshot &snapshot = snapshots[static_cast<std::size_t>(slot)];
             snapshot.conference = conference;
-            snapshot.terminated = conference->isTerminated();
+            snapshot.terminated = conference->isOver();
             snapshot.pieces = viewOf(*conference).log.pieces.size();
             if (whole)
                 snapshot.rows = rowsOf(*conference);
@@ -626,7 +626,7 @@ private:
     {
         Conference *const host = hostsWindow(joined);
         const Participant *const row = host ? host->partecipanti().find(copy.common.ownIP) : nullptr;
-        return row && row->present && !joined.isTerminated();
+        return row && row->present && !joined.isOver();
     }
 
     /// With everything delivered before the next one acts, whom a host lists is there.
@@ -645,7 +645,7 @@ private:
     {
         if (conference.isHostedHere())
             return findGhosts(conference, rowsOf(conference));
-        if (conference.isTerminated())
+        if (conference.isOver())
             return;
         const std::string whose = copy.common.ownIP.toStdString() + " in " + nameOf(conference).first.toStdString()
             + " #" + std::to_string(nameOf(conference).second);
@@ -672,7 +672,7 @@ private:
 
     void hearEachOther(Copy &copy, int who, Conference &conference)
     {
-        if (conference.isTerminated() || (!conference.isHostedHere() && !isMember(copy, conference)))
+        if (conference.isOver() || (!conference.isHostedHere() && !isMember(copy, conference)))
             return;
         if (!conference.isHostedHere() && isAmbiguous(copy, conference))
             return;
@@ -681,7 +681,7 @@ private:
         const Name name = nameOf(conference);
         forAllConferences([&](Copy &other, int, Conference &window) {
             const bool member = nameOf(window) == name && (window.isHostedHere() || isMember(other, window));
-            if (nameOf(window) != name || (!member && window.isTerminated()))
+            if (nameOf(window) != name || (!member && window.isOver()))
                 return;
             const auto &pieces = viewOf(window).log.pieces;
             const auto shown = std::count_if(pieces.begin(), pieces.end(),
@@ -858,12 +858,12 @@ TEST(ConferenceOfThree, HearsAGuestWhoKnowsItselfByAnotherAddress)
         network.settle();
     }
 
-    ben.engine.conferences().at(1)->sendbtn_Click(QStringLiteral("Can you hear me?"));
+    ben.engine.conferences().at(1)->send(QStringLiteral("Can you hear me?"));
     network.settle();
     EXPECT_EQ(ann.conference(1).log.lastLine(), "Ben> Can you hear me?");
     EXPECT_EQ(cleo.conference(1).log.lastLine(), "Ben> Can you hear me?");
     EXPECT_EQ(ben.conference(1).log.lastLine(), "Ben> Can you hear me?");
-    ann.engine.conferences().at(1)->sendbtn_Click(QStringLiteral("Yes"));
+    ann.engine.conferences().at(1)->send(QStringLiteral("Yes"));
     network.settle();
     EXPECT_EQ(ben.conference(1).log.lastLine(), "Ann> Yes");
 }
@@ -938,7 +938,7 @@ private:
 TEST_F(ConferenceStorm, HostsWhoListEachOtherWithoutAWindowDoNotRelayForEver)
 {
     listEachOther(2);
-    hosted(0).sendbtn_Click(QStringLiteral("Is anybody here?"));
+    hosted(0).send(QStringLiteral("Is anybody here?"));
     EXPECT_TRUE(network.calmDown(12ms)) << network.underWay() << " datagrams are under way";
 }
 
@@ -947,7 +947,7 @@ TEST_F(ConferenceStorm, NorDoHostsWhoDoNotKnowTheWriter)
 {
     listEachOther(1);
     const std::uint64_t sentBefore = network.sent();
-    hosted(0).sendbtn_Click(QStringLiteral("Is anybody here?"));
+    hosted(0).send(QStringLiteral("Is anybody here?"));
     EXPECT_TRUE(network.calmDown(12ms)) << network.underWay() << " datagrams are under way";
     EXPECT_EQ(network.sent() - sentBefore, 4u) << "two to the neighbours, and one from each of them";
 }

@@ -219,7 +219,7 @@ TEST_F(Story, WhatOneTypesFeelsAndShowsTheOtherSees)
     ben.window(1).typed = QStringLiteral("I am writing\r\nthis");
     ben.window(1).chat.intext_Change(ben.window(1).typed);
     network.settle();
-    EXPECT_EQ(ann.window(1).panels[2], QStringLiteral("Ben is typing a message..."));
+    EXPECT_EQ(ann.window(1).peerActivity, QStringLiteral("Ben is typing a message..."));
     pass();
     EXPECT_EQ(ann.window(1).liveType, QStringLiteral("I am writing this"));
     ben.window(1).chat.send(ben.window(1).typed);

@@ -120,25 +120,46 @@ public:
     std::map<int, bool> invitable; ///< by slot
 };
 
-class RecorderPrivateView : public PrivateChatView
+class RecorderConversationView : public ConversationView
+{
+public:
+    RichTextLog &outtext() override { return log; }
+    void setCaption(const QString &text) override { caption = text; }
+    void setLogFont(const LogFont &logFont) override { font = logFont; }
+    void setLastMessage(const QString &text) override { lastMessage = text; }
+    QString typedText() const override { return typed; }
+    void setInputEnabled(bool enabled) override { inputEnabled = enabled; }
+    void focusInput() override { ++inputFocused; }
+    Colour windowTextColour() const override { return 0x123456; }
+    bool isMinimisedOrInactive() const override { return inBackground; }
+    void flash() override { ++flashes; }
+
+    RecorderLog log;
+    QString caption;
+    LogFont font;
+    QString lastMessage;
+    QString typed;
+    bool inputEnabled = true;
+    int inputFocused = 0;
+    bool inBackground = true;
+    int flashes = 0;
+};
+
+class RecorderPrivateView : public PrivateChatView, public RecorderConversationView
 {
 public:
     explicit RecorderPrivateView(PrivateChat &engineHalf) : chat(engineHalf) { }
 
-    RichTextLog &outtext() override { return log; }
-    void setCaption(const QString &text) override { caption = text; }
+    ConversationView &conversation() override { return *this; }
     void setPeerAddress(const QString &ip) override { peer = ip; }
-    void setLogFont(const LogFont &logFont) override { font = logFont; }
-    void setPanel(int number, const QString &text) override { panels[number] = text; }
+    void setPeerActivity(const QString &text) override { peerActivity = text; }
     void setLiveType(const QString &text) override
     {
         liveType = text;
         liveTypeHidden += text.isEmpty();
     }
     void setLiveTypeOn(bool on) override { liveTypeOn = on; }
-    QString typedText() const override { return typed; }
     bool isLiveTypeOn() const override { return liveTypeOn; }
-    void focusInput() override { ++inputFocused; }
     void setAvatar(const QString &text, const std::optional<QByteArray> &shown) override
     {
         marker = text;
@@ -147,7 +168,6 @@ public:
     }
     void setOwnMood(const MoodMark &mark) override { ownMood = mark; }
     void setPeersMood(const MoodMark &mark) override { peersMood = mark; }
-    Colour windowTextColour() const override { return 0x123456; }
     bool isHidden() const override { return hidden; }
     void showWindow(ShowMode mode) override
     {
@@ -161,20 +181,13 @@ public:
         gone = true;
         whenLetGo();
     }
-    bool isMinimisedOrInactive() const override { return inBackground; }
-    void flash() override { ++flashes; }
 
     PrivateChat &chat;
-    RecorderLog log;
-    QString caption;
     QString peer;
-    LogFont font;
-    std::map<int, QString> panels;
+    QString peerActivity;
     int liveTypeHidden = 0;
     QString liveType;
-    QString typed;
     bool liveTypeOn = false;
-    int inputFocused = 0;
     QString marker = QStringLiteral("(never set)");
     std::optional<QByteArray> picture;
     int avatarChanges = 0;
@@ -182,8 +195,6 @@ public:
     bool hidden = true;
     bool gone = false;
     std::function<void()> whenLetGo = [] {};
-    bool inBackground = true;
-    int flashes = 0;
     std::vector<ShowMode> shows;
 };
 
@@ -201,46 +212,32 @@ public:
 };
 using RecorderPrivateForms = PrivateFormsOf<RecorderPrivateView>;
 
-class RecorderConferenceView : public ConferenceView
+class RecorderConferenceView : public ConferenceView, public RecorderConversationView
 {
 public:
     explicit RecorderConferenceView(Conference &engineHalf) : conference(engineHalf) { }
 
-    RichTextLog &outtext() override { return log; }
-    void setCaption(const QString &text) override { caption = text; }
-    void setLogFont(const LogFont &logFont) override { font = logFont; }
-    void setPanel(const QString &text) override { panel = text; }
-    void setInputEnabled(bool enabled) override { inputEnabled = enabled; }
+    ConversationView &conversation() override { return *this; }
     void showAvatar(const QString &name, const std::optional<QByteArray> &shown) override
     {
         avatarLabel = name;
         picture = shown;
         ++avatarChanges;
     }
-    Colour windowTextColour() const override { return 0x123456; }
     void showWindow() override { ++shows; }
     void letGo() override
     {
         gone = true;
         whenLetGo();
     }
-    bool isMinimisedOrInactive() const override { return inBackground; }
-    void flash() override { ++flashes; }
 
     Conference &conference;
-    RecorderLog log;
-    QString caption;
-    LogFont font;
-    QString panel;
-    bool inputEnabled = true;
     QString avatarLabel;
     std::optional<QByteArray> picture;
     int avatarChanges = 0;
     int shows = 0;
     bool gone = false;
     std::function<void()> whenLetGo = [] {};
-    bool inBackground = true;
-    int flashes = 0;
 };
 
 /// Keeps every window ever made, unloaded ones included.

@@ -100,7 +100,7 @@ TEST_F(ConferenceTest, AJoinedOneShowsItsSlotAndSendsItsHostsNumber)
     EXPECT_EQ(view().caption, QStringLiteral("Conference #1 (Hosted by 'Ann') - NIMB-Chat"));
     EXPECT_THAT(view().log.lines().front(), HasSubstr("Conference #1 Ready"));
     EXPECT_FALSE(copy.view.invitable[1]) << "nobody is invited to another's conference";
-    EXPECT_TRUE(conference.sendbtn_Click(QStringLiteral("hello")));
+    EXPECT_TRUE(conference.send(QStringLiteral("hello")));
     conference.refreshlistbtn_Click();
     EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "+10.0.0.1 #3 hello"), To("10.0.0.2", "?CONF USERS #3")));
     conference.closed();
@@ -158,7 +158,7 @@ TEST_F(ConferenceTest, ARefusalOfSomebodyWhoIsPresentRemovesTheRowToo)
     EXPECT_EQ(lines().back(), "--- Ann refused to partecipate to conf");
     EXPECT_EQ(view().log.colourOfLastPiece(), 0xA0A0A0u);
     EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "!CONF CLOSE #1"))) << "a window of hers would hear nobody";
-    conference.sendbtn_Click(QStringLiteral("hello"));
+    conference.send(QStringLiteral("hello"));
     EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.3", "+10.0.0.1 #1 hello")));
 }
 
@@ -236,7 +236,7 @@ TEST_F(ConferenceTest, TheHostSendsToEveryGuestThatIsPresent)
     Conference &conference = host({"10.0.0.2", "10.0.0.3"});
     table().mnuInvite2Conf(1, QStringLiteral("10.0.0.4"));
     copy.sent();
-    EXPECT_TRUE(conference.sendbtn_Click(QStringLiteral("hello")));
+    EXPECT_TRUE(conference.send(QStringLiteral("hello")));
     EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "+10.0.0.1 #1 hello"), To("10.0.0.3", "+10.0.0.1 #1 hello")));
     EXPECT_EQ(lines().back(), "Me> hello");
     EXPECT_EQ(view().log.colourOfLastPiece(), 0x123456u);
@@ -250,7 +250,7 @@ TEST_F(ConferenceTest, AGuestsMessageIsRelayedToTheOthersAlone)
                 ElementsAre(To("10.0.0.2", "+10.0.0.3 #1 hello :)"), To("10.0.0.4", "+10.0.0.3 #1 hello :)")));
     EXPECT_EQ(lines().back(), "Ben> hello :)");
     EXPECT_EQ(view().log.colourOfLastPiece(), 0x008000u);
-    EXPECT_EQ(view().panel, QStringLiteral("Last message: 21/11/2026 @ 14:05:10"));
+    EXPECT_EQ(view().lastMessage, QStringLiteral("Last message: 21/11/2026 @ 14:05:10"));
 }
 
 TEST_F(ConferenceTest, AMessageWithTheHostsAddressIsOfTheOneWhoSentIt)
@@ -337,19 +337,19 @@ TEST_F(ConferenceTest, WhoIsNotPresentIsNeitherShownNorRelayed)
 TEST_F(ConferenceTest, BlanksAndBreaksAroundAMessageGo)
 {
     Conference &conference = host({"10.0.0.2", "10.0.0.3"});
-    EXPECT_TRUE(conference.sendbtn_Click(QStringLiteral("  hello\r\nthere \r\n ")));
+    EXPECT_TRUE(conference.send(QStringLiteral("  hello\r\nthere \r\n ")));
     EXPECT_EQ(copy.sent().front(), To("10.0.0.2", "+10.0.0.1 #1 hello\r\nthere"));
     copy.arrive("10.0.0.2", "+10.0.0.2 #1 \r\n hi \r\n");
     EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.3", "+10.0.0.2 #1 hi")));
     EXPECT_EQ(lines().back(), "Ann> hi");
-    EXPECT_FALSE(conference.sendbtn_Click(QString()));
+    EXPECT_FALSE(conference.send(QString()));
     EXPECT_THAT(copy.sent(), IsEmpty());
 }
 
 TEST_F(ConferenceTest, AMessageIsCutToTwoThousandCharacters)
 {
     Conference &conference = host({"10.0.0.2"});
-    EXPECT_TRUE(conference.sendbtn_Click(QString(2500, u'x')));
+    EXPECT_TRUE(conference.send(QString(2500, u'x')));
     EXPECT_EQ(copy.sent().front(), To("10.0.0.2", "+10.0.0.1 #1 " + std::string(2000, 'x')));
 }
 
@@ -360,7 +360,7 @@ TEST_F(ConferenceTest, AGuestTalksToTheHostAlone)
     Conference &conference = join(3);
     copy.arrive("10.0.0.2", "!CONF USERS #3 10.0.0.2 10.0.0.1 10.0.0.3");
     copy.sent();
-    conference.sendbtn_Click(QStringLiteral("hello"));
+    conference.send(QStringLiteral("hello"));
     EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "+10.0.0.1 #3 hello")));
     copy.arrive("10.0.0.2", "+10.0.0.3 #3 hi");
     EXPECT_THAT(copy.sent(), IsEmpty()) << "a guest relays nothing";
@@ -541,9 +541,9 @@ TEST_F(ConferenceTest, TheHostClosesIt)
     EXPECT_EQ(lines().back(), "--- This conference is terminated.");
     EXPECT_EQ(view().log.colourOfLastPiece(), 0xA0A0A0u);
     EXPECT_FALSE(view().inputEnabled);
-    EXPECT_FALSE(conference.sendbtn_Click(QStringLiteral("too late")));
+    EXPECT_FALSE(conference.send(QStringLiteral("too late")));
     EXPECT_THAT(copy.sent(), IsEmpty());
-    EXPECT_TRUE(conference.Form_QueryUnload(UnloadMode::closeBox));
+    EXPECT_EQ(conference.Form_QueryUnload(UnloadMode::closeBox), CloseDecision::unload);
     EXPECT_THAT(copy.prompts.asked, IsEmpty());
 }
 
@@ -572,22 +572,23 @@ TEST_F(ConferenceTest, ClosingTellsTheGuests)
 TEST_F(ConferenceTest, ClosingAsksWhereSomebodyWouldBeLeft)
 {
     Conference &alone = host();
-    EXPECT_TRUE(alone.Form_QueryUnload(UnloadMode::closeBox));
+    EXPECT_EQ(alone.Form_QueryUnload(UnloadMode::closeBox), CloseDecision::unload);
     EXPECT_THAT(copy.prompts.asked, IsEmpty());
     Conference &hosted = host({"10.0.0.2"});
     Conference &joined = join(3);
     for (const bool answer : {true, false}) {
         copy.prompts.answer = answer;
-        EXPECT_EQ(hosted.Form_QueryUnload(UnloadMode::closeBox), answer);
-        EXPECT_EQ(joined.Form_QueryUnload(UnloadMode::closeBox), answer);
+        const CloseDecision decision = answer ? CloseDecision::unload : CloseDecision::stay;
+        EXPECT_EQ(hosted.Form_QueryUnload(UnloadMode::closeBox), decision);
+        EXPECT_EQ(joined.Form_QueryUnload(UnloadMode::closeBox), decision);
     }
     EXPECT_THAT(copy.prompts.asked,
                 ElementsAre("NIMB-Chat: Closing that window will terminate the conference. Proceed?",
                             "NIMB-Chat: Leave the conference?",
                             "NIMB-Chat: Closing that window will terminate the conference. Proceed?",
                             "NIMB-Chat: Leave the conference?"));
-    EXPECT_TRUE(hosted.Form_QueryUnload(UnloadMode::code));
-    EXPECT_TRUE(joined.Form_QueryUnload(UnloadMode::sessionEnd));
+    EXPECT_EQ(hosted.Form_QueryUnload(UnloadMode::code), CloseDecision::unload);
+    EXPECT_EQ(joined.Form_QueryUnload(UnloadMode::sessionEnd), CloseDecision::unload);
     EXPECT_THAT(copy.prompts.asked, SizeIs(4));
 }
 
@@ -633,7 +634,7 @@ TEST_F(ConferenceTest, ShowsTheAvatarOfWhoeverWroteLast)
     EXPECT_FALSE(view().picture);
     copy.common.avatarHead = QStringLiteral("mine");
     copy.common.avatarBody = QByteArray(7500, 'm');
-    conference.sendbtn_Click(QStringLiteral("four"));
+    conference.send(QStringLiteral("four"));
     EXPECT_EQ(view().avatarLabel, QStringLiteral("Me"));
     EXPECT_EQ(view().picture, QByteArray(7500, 'm'));
 }
@@ -643,7 +644,7 @@ TEST_F(ConferenceTest, TheOwnAvatarIsTheOneThatPeersGet)
     copy.common.avatarHead = QStringLiteral("mine");
     copy.common.avatarBody = QByteArray(7500, 'm');
     copy.engine.ownAvatar().setSource(std::make_unique<test::RecorderPictureSource>(Camera{}, std::nullopt));
-    host().sendbtn_Click(QStringLiteral("smile"));
+    host().send(QStringLiteral("smile"));
     EXPECT_EQ(view().avatarLabel, QStringLiteral("Me"));
     EXPECT_EQ(view().picture, QByteArray(7500, 'f'));
 }
@@ -651,7 +652,7 @@ TEST_F(ConferenceTest, TheOwnAvatarIsTheOneThatPeersGet)
 TEST_F(ConferenceTest, WithoutAHeadThereIsNoOwnAvatar)
 {
     copy.common.avatarBody = QByteArray(7500, 'm');
-    host().sendbtn_Click(QStringLiteral("one"));
+    host().send(QStringLiteral("one"));
     EXPECT_EQ(view().avatarLabel, QStringLiteral("Me"));
     EXPECT_FALSE(view().picture);
 }

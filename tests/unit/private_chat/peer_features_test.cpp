@@ -55,10 +55,10 @@ TEST_F(PeerFeaturesTest, ABuzzStandsInThePrivateWindowToo)
     copy.arrive("10.0.0.2", "!BUZZ");
     EXPECT_EQ(copy.window(1).log.lastLine(), "BUZZ!");
     EXPECT_EQ(copy.window(1).log.colourOfLastPiece(), 0x808080u);
-    EXPECT_EQ(copy.window(1).panels[2], QStringLiteral("Ann is buzzing you..."));
+    EXPECT_EQ(copy.window(1).peerActivity, QStringLiteral("Ann is buzzing you..."));
     EXPECT_EQ(activity(), "Ann is buzzing you...");
     copy.advance(2500ms);
-    EXPECT_EQ(copy.window(1).panels[2], QString());
+    EXPECT_EQ(copy.window(1).peerActivity, QString());
     EXPECT_EQ(copy.window(1).log.lastLine(), "BUZZ!");
 }
 
@@ -78,14 +78,14 @@ TEST_F(PeerFeaturesTest, ATypingNoticeShowsInThePrivateWindowWhereThereIsOne)
 {
     openWindow();
     copy.arrive("10.0.0.2", "!TYPING");
-    EXPECT_EQ(copy.window(1).panels[2], QStringLiteral("Ann is typing a message..."));
+    EXPECT_EQ(copy.window(1).peerActivity, QStringLiteral("Ann is typing a message..."));
     EXPECT_EQ(activity(), "");
     copy.advance(2000ms);
     copy.arrive("10.0.0.2", "!BUZZ");
     copy.advance(2000ms);
-    EXPECT_EQ(copy.window(1).panels[2], QStringLiteral("Ann is buzzing you..."));
+    EXPECT_EQ(copy.window(1).peerActivity, QStringLiteral("Ann is buzzing you..."));
     copy.advance(500ms);
-    EXPECT_EQ(copy.window(1).panels[2], QString());
+    EXPECT_EQ(copy.window(1).peerActivity, QString());
 }
 
 TEST_F(PeerFeaturesTest, ALongNameIsCutInThePanels)

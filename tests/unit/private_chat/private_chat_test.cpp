@@ -88,7 +88,7 @@ TEST_F(PrivateChatTest, AReceivedMessageIsLoggedInDarkBlue)
     EXPECT_EQ(window().log.lastLine(), "Ann> hello");
     for (std::size_t piece = 1; piece < window().log.pieces.size(); ++piece)
         EXPECT_EQ(window().log.pieces[piece].colour, 0xC00000u);
-    EXPECT_EQ(window().panels[1], QStringLiteral("Last message: 21/11/2026 @ 14:05:10"));
+    EXPECT_EQ(window().lastMessage, QStringLiteral("Last message: 21/11/2026 @ 14:05:10"));
     EXPECT_EQ(window().liveTypeHidden, 1);
 }
 

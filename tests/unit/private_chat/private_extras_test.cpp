@@ -153,7 +153,7 @@ TEST_F(PrivateExtras, TheBuzzButtonSendsLogsAndReturnsToTheInput)
     EXPECT_EQ(window().log.colourOfLastPiece(), 0x808080u);
     EXPECT_EQ(window().inputFocused, 1);
     EXPECT_EQ(copy.sound.alarms, 0);
-    EXPECT_EQ(window().panels[2], QString());
+    EXPECT_EQ(window().peerActivity, QString());
 }
 
 TEST_F(PrivateExtras, TheOwnBuzzIsHeardWhereThatIsOnAndNotMuted)

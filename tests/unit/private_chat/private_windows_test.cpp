@@ -19,7 +19,7 @@ protected:
     {
         PrivateChat &chat = copy.window(number).chat;
         if (chat.Form_QueryUnload(UnloadMode::closeBox) == CloseDecision::unload)
-            chat.Form_Unload();
+            chat.closed();
         else
             copy.window(number).hideWindow();
     }

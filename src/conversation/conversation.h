@@ -1,0 +1,81 @@
+// What is written, sent and shown alike in every conversation, be it with one contact or with many.
+#pragma once
+
+#include "base/Common.h"
+#include "base/timers.h"
+#include "base/unload_mode.h"
+#include "conversation/conversation_view.h"
+#include "protocol/winsock.h"
+
+#include <QCoreApplication>
+
+#include <functional>
+
+namespace nimb
+{
+
+/// The engine half of a ConversationPane. What only one kind of conversation has is the business of its class.
+class Conversation
+{
+    Q_DECLARE_TR_FUNCTIONS(Conversation)
+
+public:
+    /// What every conversation shares.
+    struct Services {
+        const Common &common;
+        Winsock &socket;
+        const WallClock &clock;
+    };
+
+    virtual ~Conversation() = default;
+    Conversation(const Conversation &) = delete;
+    Conversation &operator=(const Conversation &) = delete;
+
+    /// Empties the log and writes its opening line.
+    void Clearbtn_Click();
+    /// Sends what was typed; false when there was nothing, or nobody to send it to. Line breaks are CR LF.
+    bool send(const QString &typed);
+    /// Date and time for the input box.
+    QString dateAndTime() const;
+    /// Something was added to the log.
+    void outtext_Change();
+
+    /// Nobody can be written to any more; the log stays to be read.
+    bool isOver() const { return m_over; }
+    /// What becomes of the window; the user may be asked.
+    virtual CloseDecision Form_QueryUnload(UnloadMode mode) = 0;
+    /// The form has been closed for good.
+    void closed() { m_unloaded(); }
+
+protected:
+    struct Writer {
+        QString name;
+        Colour colour;
+    };
+
+    /// unloaded: called last of all when the user closes the window for good; it may destroy this conversation.
+    Conversation(const Services &services, std::function<void()> unloaded);
+
+    const Common &common() const { return m_services.common; }
+    Winsock &socket() const { return m_services.socket; }
+
+    void appendReceived(const Writer &writer, const QString &text);
+    void appendLine(const QString &line, Colour colour);
+    void end();
+
+private:
+    virtual ConversationView &conversationView() const = 0;
+    virtual QString openingLine(const QString &date, const QString &time) const = 0;
+    /// What of a typed text goes out.
+    virtual QString textToSend(const QString &typed) const = 0;
+    /// Sends to whoever else takes part.
+    virtual void deliver(const QString &text) = 0;
+
+    void appendMessage(const Writer &writer, const QString &text);
+
+    Services m_services;
+    std::function<void()> m_unloaded;
+    bool m_over = false;
+};
+
+} // namespace nimb
