@@ -2,30 +2,23 @@
 
 #include "conference/conference.h"
 #include "conference/participants_view.h"
-#include "conversation/emoticon_picker.h"
+#include "conversation/conversation_pane.h"
 #include "conversation/message_input.h"
-#include "log/RTFSubClass.h"
-#include "log/log_font.h"
-#include "log/rich_text_log.h"
 #include "widgets/avatar_picture.h"
 #include "widgets/bring_back.h"
 #include "widgets/elided_label.h"
 #include "widgets/form_layout.h"
-#include "widgets/form_text.h"
 #include "widgets/keyed_selection.h"
 #include "widgets/picture_delegate.h"
 #include "widgets/picture_label.h"
 #include "widgets/pictures.h"
-#include "widgets/tool_button.h"
 #include "widgets/twips.h"
-#include "widgets/window_attention.h"
 
-#include <QApplication>
-#include <QCloseEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QToolButton>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -56,52 +49,30 @@ QToolButton *flipButton(QWidget *parent, const char *name, const QString &captio
 
 } // namespace
 
-frmConference::frmConference(Conference &conference, RTFSubClass &links) : m_conference(&conference), m_links(links)
+frmConference::frmConference(Conference &conference, RTFSubClass &links)
+    : m_conference(&conference), m_pane(new ConversationPane(conference, links, this))
 {
     setObjectName(QStringLiteral("frmConference"));
     setWindowIcon(programIcon());
     setMinimumSize(pixels(leastWidth), pixels(leastHeight));
     buildControls();
     connectControls();
-    m_links.HookRichText(*m_outtext, *this);
     resize(pixels(leastWidth), 460);
     Form_Resize();
 }
 
 void frmConference::buildControls()
 {
-    m_outtext = named(new RichTextLogEdit(this), "outtext");
-    m_outtext->setAccessibleName(tr("Conversation"));
-    m_outtext->setTabChangesFocus(true);
-    ListViewEmot = new EmoticonPicker(this);
-    ListViewEmot->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    ListViewEmot->hide();
     buildParticipants();
     buildAvatars();
-
-    auto *const tools = new QHBoxLayout;
-    tools->setSpacing(2);
-    Emoticbtn = toolButton(this, "Emoticbtn", tr("Emoticons"), "emoticons");
-    Emoticbtn->setCheckable(true);
-    datetimebtn = toolButton(this, "datetimebtn", tr("Date&&Time"), "datetime");
-    clearbtn = toolButton(this, "clearbtn", tr("Clear"), "clear");
-    for (QToolButton *const tool : {Emoticbtn, datetimebtn, clearbtn})
-        tools->addWidget(tool);
-    tools->addStretch(1);
-
-    auto *const column = new QVBoxLayout;
-    column->setSpacing(spacing);
-    column->addWidget(m_outtext, 1);
-    column->addWidget(ListViewEmot);
-    column->addLayout(tools);
-    column->addWidget(makeInput());
+    m_pane->setTabStopsBehindLog({partecipanti, refreshlistbtn, kickuserbtn, showlist, showavatars});
 
     auto *const sides = new QHBoxLayout;
     sides->setContentsMargins(margin, margin, margin, spacing);
     sides->setSpacing(2);
     sides->addWidget(AvatarsFrame);
     sides->addWidget(showavatars);
-    sides->addLayout(column, 1);
+    sides->addWidget(m_pane, 1);
     sides->addWidget(showlist);
     sides->addWidget(m_listSide);
 
@@ -110,8 +81,6 @@ void frmConference::buildControls()
     whole->setSpacing(0);
     whole->addLayout(sides, 1);
     whole->addWidget(makeStatusBar());
-    setTabOrder(intext, sendbtn);
-    intext->setFocus();
 }
 
 void frmConference::buildParticipants()
@@ -167,23 +136,6 @@ void frmConference::buildAvatars()
     showavatars = flipButton(this, "showavatars", pointsRight, tr("Show/Hide avatars"));
 }
 
-QWidget *frmConference::makeInput()
-{
-    auto *const area = new QWidget(this);
-    intext = named(new MessageInput(area), "intext");
-    intext->setAccessibleName(tr("Message"));
-    intext->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    sendbtn = named(new QPushButton(namedPicture(QStringLiteral("send")), tr("Send"), area), "sendbtn");
-    sendbtn->setDefault(true);
-    sendbtn->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-    auto *const row = new QHBoxLayout(area);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(spacing);
-    row->addWidget(intext);
-    row->addWidget(sendbtn);
-    return area;
-}
-
 QWidget *frmConference::makeStatusBar()
 {
     auto *const bar = named(new QWidget(this), "StatusBar1");
@@ -196,19 +148,14 @@ QWidget *frmConference::makeStatusBar()
 
 void frmConference::connectControls()
 {
-    connect(sendbtn, &QPushButton::clicked, this, &frmConference::sendbtn_Click);
-    connect(intext, &MessageInput::entered, sendbtn, &QPushButton::click);
-    connect(clearbtn, &QToolButton::clicked, this, &frmConference::Clearbtn_Click);
-    connect(datetimebtn, &QToolButton::clicked, this, &frmConference::datetimebtn_Click);
-    connect(Emoticbtn, &QToolButton::toggled, this, &frmConference::Emoticbtn_Click);
-    connect(ListViewEmot, &EmoticonPicker::picked, this, &frmConference::ListViewEmot_ItemClick);
+    connect(m_pane, &ConversationPane::lastMessageChanged, m_panel, &QLabel::setText);
+    connect(m_pane, &ConversationPane::emoticonsToggled, m_pane, &ConversationPane::focusInput);
     connect(kickuserbtn, &QPushButton::clicked, this, &frmConference::kickuserbtn_Click);
     connect(refreshlistbtn, &QPushButton::clicked, this, &frmConference::refreshlistbtn_Click);
     connect(showlist, &QToolButton::clicked, this, &frmConference::showlist_Click);
     connect(showavatars, &QToolButton::clicked, this, &frmConference::showavatars_Click);
     connect(partecipanti->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &frmConference::partecipanti_ItemClick);
-    connect(m_outtext, &QTextEdit::textChanged, this, &frmConference::outtext_Change);
 }
 
 // --- the window itself
@@ -229,31 +176,15 @@ void frmConference::Form_Resize()
 
 void frmConference::closeEvent(QCloseEvent *event)
 {
-    if (!m_conference)
-        return event->accept();
-    const UnloadMode mode = qApp->isSavingSession() ? UnloadMode::sessionEnd : UnloadMode::closeBox;
-    const CloseDecision decision = m_conference->Form_QueryUnload(mode);
-    // The program may have ended while the question stood there.
-    if (decision == CloseDecision::stay && m_conference)
-        return event->ignore();
-    event->accept();
-    if (m_conference)
-        m_conference->closed();
-}
-
-void frmConference::Form_Unload()
-{
-    m_links.UnhookRichText(*m_outtext);
+    m_pane->Form_QueryUnload(*event);
 }
 
 void frmConference::letGo()
 {
-    Form_Unload();
     // The participants die with the conference, the window a little later.
     partecipanti->setModel(nullptr);
     m_conference = nullptr;
-    hide();
-    deleteLater();
+    m_pane->letGo();
 }
 
 void frmConference::showWindow()
@@ -262,62 +193,7 @@ void frmConference::showWindow()
     activateWindow();
 }
 
-bool frmConference::isMinimisedOrInactive() const
-{
-    return isMinimized() || !isActiveWindow();
-}
-
-void frmConference::flash()
-{
-    if (!isHidden())
-        flashTaskBarButton(*this);
-}
-
 // --- event procedures
-
-void frmConference::sendbtn_Click()
-{
-    if (m_conference->send(typedText()))
-        intext->clear();
-    intext->setFocus();
-}
-
-void frmConference::Clearbtn_Click()
-{
-    m_conference->Clearbtn_Click();
-    if (intext->isEnabled())
-        intext->setFocus();
-}
-
-void frmConference::datetimebtn_Click()
-{
-    if (!intext->isEnabled())
-        return;
-    intext->insertPlainText(m_conference->dateAndTime());
-    intext->setFocus();
-}
-
-void frmConference::focusInput()
-{
-    if (!intext->isEnabled())
-        return;
-    intext->setFocus();
-    intext->moveCursor(QTextCursor::End);
-}
-
-void frmConference::Emoticbtn_Click(bool shown)
-{
-    ListViewEmot->setVisible(shown);
-    focusInput();
-}
-
-void frmConference::ListViewEmot_ItemClick(const QString &emoticon)
-{
-    if (!intext->isEnabled())
-        return;
-    setTypedText(*intext, typedText() + emoticon);
-    intext->setFocus();
-}
 
 QString frmConference::selectedParticipant() const
 {
@@ -332,7 +208,7 @@ void frmConference::partecipanti_ItemClick()
     const bool kickable = row && !row->own;
     // Whoever types on must not press what the focus would pass on to.
     if (!kickable && kickuserbtn->hasFocus())
-        intext->setFocus();
+        m_pane->input().setFocus();
     kickuserbtn->setEnabled(kickable);
 }
 
@@ -344,8 +220,8 @@ void frmConference::kickuserbtn_Click()
 void frmConference::refreshlistbtn_Click()
 {
     m_conference->refreshlistbtn_Click();
-    if (sendbtn->isEnabled())
-        sendbtn->setFocus();
+    if (m_pane->sendButton().isEnabled())
+        m_pane->sendButton().setFocus();
 }
 
 void frmConference::showlist_Click()
@@ -360,44 +236,11 @@ void frmConference::showavatars_Click()
     Form_Resize();
 }
 
-void frmConference::outtext_Change()
-{
-    if (m_conference)
-        m_conference->outtext_Change();
-}
-
 // --- what is seen
 
-RichTextLog &frmConference::outtext()
+ConversationView &frmConference::conversation()
 {
-    return *m_outtext;
-}
-
-void frmConference::setCaption(const QString &caption)
-{
-    setWindowCaption(*this, caption);
-}
-
-void frmConference::setLogFont(const LogFont &font)
-{
-    intext->setFont(fontOf(font));
-    m_outtext->setSelFont(font);
-}
-
-void frmConference::setLastMessage(const QString &text)
-{
-    m_panel->setText(text);
-}
-
-QString frmConference::typedText() const
-{
-    return nimb::typedText(*intext);
-}
-
-void frmConference::setInputEnabled(bool enabled)
-{
-    intext->setEnabled(enabled);
-    sendbtn->setEnabled(enabled);
+    return *m_pane;
 }
 
 void frmConference::showAvatar(const QString &name, const std::optional<QByteArray> &picture)
@@ -407,11 +250,6 @@ void frmConference::showAvatar(const QString &name, const std::optional<QByteArr
     m_avatarPicture->setPicture(picture);
     m_avatarPicture->setVisible(picture.has_value());
     NoAvatarImg->setVisible(!picture);
-}
-
-Colour frmConference::windowTextColour() const
-{
-    return logColour(palette().color(QPalette::WindowText));
 }
 
 } // namespace nimb

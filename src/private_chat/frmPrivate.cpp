@@ -1,9 +1,7 @@
 #include "private_chat/frmPrivate.h"
 
-#include "conversation/emoticon_picker.h"
+#include "conversation/conversation_pane.h"
 #include "conversation/message_input.h"
-#include "log/RTFSubClass.h"
-#include "log/log_font.h"
 #include "log/rich_text_log.h"
 #include "private_chat/live_type.h"
 #include "private_chat/mood_gauge.h"
@@ -12,24 +10,16 @@
 #include "widgets/bring_back.h"
 #include "widgets/elided_label.h"
 #include "widgets/form_layout.h"
-#include "widgets/form_text.h"
-#include "widgets/pictures.h"
 #include "widgets/tool_button.h"
 #include "widgets/twips.h"
-#include "widgets/window_attention.h"
 
-#include <QApplication>
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QScrollBar>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace nimb
@@ -41,108 +31,61 @@ using form_layout::spacing;
 constexpr quint64 longestRepeatGap = 1; // milliseconds
 } // namespace
 
-frmPrivate::frmPrivate(PrivateChat &chat, RTFSubClass &links) : m_chat(&chat), m_links(links)
+frmPrivate::frmPrivate(PrivateChat &chat, RTFSubClass &links)
+    : m_chat(&chat), m_pane(new ConversationPane(chat, links, this))
 {
     setObjectName(QStringLiteral("frmPrivate"));
     setWindowTitle(tr("NIMB-Chat - Private Chat"));
     setWindowIcon(programIcon());
     buildControls();
     connectControls();
-    m_links.HookRichText(*m_outtext, *this);
     resize(600, 490);
 }
 
 void frmPrivate::buildControls()
 {
-    m_outtext = new RichTextLogEdit(this);
-    m_outtext->setObjectName(QStringLiteral("outtext"));
-    m_outtext->setAccessibleName(tr("Conversation"));
-    m_outtext->setTabChangesFocus(true);
-
-    futuretype = new QPlainTextEdit(this);
-    futuretype->setObjectName(QStringLiteral("futuretype"));
+    futuretype = named(new QPlainTextEdit(this), "futuretype");
     futuretype->setReadOnly(true);
     futuretype->setFocusPolicy(Qt::NoFocus);
     futuretype->setAccessibleName(tr("What the peer is typing"));
     futuretype->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     futuretype->viewport()->setBackgroundRole(QPalette::AlternateBase); // lies over the log, whose ground is Base
     futuretype->hide();
+    makeTools();
+    m_pane->putBesideLog(makeSidePanels());
+    m_pane->setTabStopsBehindLog({&m_pane->input(), &m_pane->sendButton()});
 
-    ListViewEmot = new EmoticonPicker(this);
-    ListViewEmot->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    ListViewEmot->hide();
-
-    intext = new MessageInput(this);
-    intext->setObjectName(QStringLiteral("intext"));
-    intext->setAccessibleName(tr("Message"));
-    intext->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-
-    sendbtn = new QPushButton(namedPicture(QStringLiteral("send")), tr("Send"), this);
-    sendbtn->setObjectName(QStringLiteral("sendbtn"));
-    sendbtn->setDefault(true);
-    sendbtn->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-
-    auto *const input = new QHBoxLayout;
-    input->setSpacing(spacing);
-    input->addWidget(intext);
-    input->addWidget(sendbtn);
-
-    auto *const column = new QVBoxLayout;
-    column->setContentsMargins(margin, margin, margin, spacing);
-    column->setSpacing(spacing);
-    auto *const conversation = new QHBoxLayout;
-    conversation->setSpacing(spacing);
-    conversation->addWidget(m_outtext, 1);
-    conversation->addWidget(makeSidePanels());
-    column->addLayout(conversation, 1);
-    column->addWidget(ListViewEmot);
-    column->addLayout(makeToolRow());
-    column->addLayout(input);
-
+    auto *const margins = new QVBoxLayout;
+    margins->setContentsMargins(margin, margin, margin, spacing);
+    margins->addWidget(m_pane);
     auto *const whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->setSpacing(0);
-    whole->addLayout(column, 1);
+    whole->addLayout(margins, 1);
     whole->addWidget(makeStatusBar());
-    setTabOrder(intext, sendbtn);
-    intext->setFocus();
 }
 
-QHBoxLayout *frmPrivate::makeToolRow()
+void frmPrivate::makeTools()
 {
-    Emoticbtn = toolButton(this, "Emoticbtn", tr("Emoticons"), "emoticons");
-    Emoticbtn->setCheckable(true);
-    BuzzBtn = toolButton(this, "BuzzBtn", tr("Buzz!"), "buzz");
+    BuzzBtn = toolButton(m_pane, "BuzzBtn", tr("Buzz!"), "buzz");
     BuzzBtn->setToolTip(tr("(CTRL+G)"));
-    datetimebtn = toolButton(this, "datetimebtn", tr("Date&&Time"), "datetime");
-    livetypebtn = new QCheckBox(tr("LiveType!"), this);
-    livetypebtn->setObjectName(QStringLiteral("livetypebtn"));
-    moodbtn = toolButton(this, "moodbtn", tr("Mood"), "mood");
-    AvatarBtn = toolButton(this, "AvatarBtn", tr("Avatar"), "avatar");
-    clearbtn = toolButton(this, "clearbtn", tr("Clear"), "clear");
+    livetypebtn = named(new QCheckBox(tr("LiveType!"), m_pane), "livetypebtn");
+    moodbtn = toolButton(m_pane, "moodbtn", tr("Mood"), "mood");
+    AvatarBtn = toolButton(m_pane, "AvatarBtn", tr("Avatar"), "avatar");
     moodbtn->setCheckable(true);
     AvatarBtn->setCheckable(true);
-
-    auto *const row = new QHBoxLayout;
-    row->setSpacing(2);
-    for (QWidget *tool :
-         std::initializer_list<QWidget *>{Emoticbtn, BuzzBtn, datetimebtn, livetypebtn, moodbtn, AvatarBtn, clearbtn})
-        row->addWidget(tool);
-    row->addStretch(1);
-    return row;
+    m_pane->insertTools(ConversationPane::Tool::emoticons, {BuzzBtn});
+    m_pane->insertTools(ConversationPane::Tool::dateAndTime, {livetypebtn, moodbtn, AvatarBtn});
 }
 
 /// Beside the log: the peer's avatar and the moods.
 QWidget *frmPrivate::makeSidePanels()
 {
-    m_sidePanels = new QWidget(this);
-    Avatarframe = new QGroupBox(tr("Avatar"), m_sidePanels);
-    Avatarframe->setObjectName(QStringLiteral("Avatarframe"));
-    Picture1 = new AvatarPicture(Avatarframe, 2);
-    Picture1->setObjectName(QStringLiteral("Picture1"));
+    m_sidePanels = new QWidget(m_pane);
+    Avatarframe = named(new QGroupBox(tr("Avatar"), m_sidePanels), "Avatarframe");
+    Picture1 = named(new AvatarPicture(Avatarframe, 2), "Picture1");
     Picture1->setAccessibleName(tr("Avatar of the peer"));
-    AvatarCh = new QLineEdit(Avatarframe);
-    AvatarCh->setObjectName(QStringLiteral("AvatarCh"));
+    AvatarCh = named(new QLineEdit(Avatarframe), "AvatarCh");
     AvatarCh->hide();
     auto *const frame = new QVBoxLayout(Avatarframe);
     frame->setContentsMargins(margin, margin, margin, margin);
@@ -162,15 +105,12 @@ QWidget *frmPrivate::makeSidePanels()
 
 QWidget *frmPrivate::makeMoodPanel(QWidget *parent)
 {
-    auto *const panel = new QGroupBox(tr("Mood"), parent);
-    panel->setObjectName(QStringLiteral("Moodframe"));
+    auto *const panel = named(new QGroupBox(tr("Mood"), parent), "Moodframe");
     m_moodPanel = panel;
-    mymoodpct = new MoodGauge(panel);
-    mymoodpct->setObjectName(QStringLiteral("mymoodpct"));
+    mymoodpct = named(new MoodGauge(panel), "mymoodpct");
     mymoodpct->setToolTip(tr("Your mood (unspecified)"));
     mymoodpct->setCursor(Qt::PointingHandCursor);
-    hismoodpct = new MoodGauge(panel);
-    hismoodpct->setObjectName(QStringLiteral("hismoodpct"));
+    hismoodpct = named(new MoodGauge(panel), "hismoodpct");
     hismoodpct->setToolTip(tr("His/her mood (unspecified)"));
     auto *const grid = new QGridLayout(panel);
     grid->setContentsMargins(margin, margin, margin, margin);
@@ -184,8 +124,7 @@ QWidget *frmPrivate::makeMoodPanel(QWidget *parent)
 
 QWidget *frmPrivate::makeStatusBar()
 {
-    auto *const bar = new QWidget(this);
-    bar->setObjectName(QStringLiteral("StatusBar"));
+    auto *const bar = named(new QWidget(this), "StatusBar");
     auto *const row = new QHBoxLayout(bar);
     row->setContentsMargins(margin, 0, margin, spacing);
     row->setSpacing(2 * spacing);
@@ -194,8 +133,7 @@ QWidget *frmPrivate::makeStatusBar()
         m_panels[i]->setObjectName(QStringLiteral("StatusBar_%1").arg(i + 1));
         row->addWidget(m_panels[i], i);
     }
-    rIP = new QLineEdit(bar);
-    rIP->setObjectName(QStringLiteral("rIP"));
+    rIP = named(new QLineEdit(bar), "rIP");
     rIP->setAccessibleName(tr("Address of the peer"));
     rIP->setReadOnly(true);
     rIP->setFrame(false);
@@ -211,70 +149,35 @@ QWidget *frmPrivate::makeStatusBar()
 
 void frmPrivate::connectControls()
 {
-    connect(sendbtn, &QPushButton::clicked, this, &frmPrivate::sendbtn_Click);
-    connect(intext, &MessageInput::entered, sendbtn, &QPushButton::click);
-    connect(clearbtn, &QToolButton::clicked, this, &frmPrivate::clearbtn_Click);
-    connect(datetimebtn, &QToolButton::clicked, this, &frmPrivate::datetimebtn_Click);
-    intext->installEventFilter(this);
-    m_outtext->installEventFilter(this);
-    connect(intext, &QPlainTextEdit::textChanged, this, &frmPrivate::intext_Change);
+    connect(m_pane, &ConversationPane::lastMessageChanged, m_panels[0], &QLabel::setText);
+    m_pane->input().installEventFilter(this);
+    m_pane->log().installEventFilter(this);
+    connect(&m_pane->input(), &QPlainTextEdit::textChanged, this, &frmPrivate::intext_Change);
     connect(BuzzBtn, &QToolButton::clicked, this, [this] { m_chat->BuzzBtn_Click(); });
     connect(livetypebtn, &QCheckBox::clicked, this, [this] { m_chat->livetypebtn_Click(); });
     connect(futuretype, &QPlainTextEdit::textChanged, this, &frmPrivate::futuretype_Change);
     connect(moodbtn, &QToolButton::toggled, this, &frmPrivate::moodbtn_Click);
     connect(mymoodpct, &MoodGauge::pressed, this, [this](float value) { m_chat->mymoodpct_MouseDown(value); });
     connect(AvatarBtn, &QToolButton::toggled, this, &frmPrivate::AvatarBtn_Click);
-    connect(Emoticbtn, &QToolButton::toggled, this, &frmPrivate::Emoticbtn_Click);
-    connect(ListViewEmot, &EmoticonPicker::picked, this, &frmPrivate::ListViewEmot_ItemClick);
-    connect(m_outtext, &QTextEdit::textChanged, this, &frmPrivate::outtext_Change);
-}
-
-void frmPrivate::sendbtn_Click()
-{
-    if (m_chat->send(typedText()))
-        intext->clear();
-    intext->setFocus();
-}
-
-void frmPrivate::clearbtn_Click()
-{
-    m_chat->Clearbtn_Click();
-    intext->setFocus();
-}
-
-void frmPrivate::datetimebtn_Click()
-{
-    intext->insertPlainText(m_chat->dateAndTime());
-    intext->setFocus();
-}
-
-void frmPrivate::Emoticbtn_Click(bool shown)
-{
-    ListViewEmot->setVisible(shown);
-}
-
-void frmPrivate::ListViewEmot_ItemClick(const QString &emoticon)
-{
-    setTypedText(*intext, typedText() + emoticon);
-    intext->setFocus();
 }
 
 void frmPrivate::intext_Change()
 {
     if (m_chat)
-        m_chat->intext_Change(nimb::typedText(*intext));
+        m_chat->intext_Change(m_pane->typedText());
 }
 
 /// The preview grows upwards over the lower part of the log.
 void frmPrivate::futuretype_Change()
 {
     constexpr double aboveLogsEnd = 340; // twips
-    const QRect log(m_outtext->mapTo(this, QPoint(0, 0)), m_outtext->size());
+    const RichTextLogEdit &outtext = m_pane->log();
+    const QRect log(outtext.mapTo(this, QPoint(0, 0)), outtext.size());
     const int room = log.height() - pixels(aboveLogsEnd);
     const int boxHeight = qMin(pixels(liveTypeHeight(futuretype->toPlainText().size())), qMax(0, room));
     const int inset = spacing;
     futuretype->setGeometry(log.left() + inset, log.bottom() + 1 - boxHeight - pixels(aboveLogsEnd),
-                            log.width() - 2 * inset - m_outtext->verticalScrollBar()->sizeHint().width(), boxHeight);
+                            log.width() - 2 * inset - outtext.verticalScrollBar()->sizeHint().width(), boxHeight);
     futuretype->raise();
 }
 
@@ -282,7 +185,7 @@ void frmPrivate::moodbtn_Click(bool shown)
 {
     m_moodPanel->setVisible(shown);
     m_sidePanels->setVisible(shown || AvatarBtn->isChecked());
-    focusInput();
+    m_pane->focusInput();
 }
 
 void frmPrivate::AvatarBtn_Click(bool shown)
@@ -300,7 +203,7 @@ bool frmPrivate::eventFilter(QObject *watched, QEvent *event)
         return true;
     if (event->type() == QEvent::KeyRelease)
         m_lastRelease = static_cast<QKeyEvent *>(event)->timestamp();
-    if (event->type() == QEvent::Resize && watched == m_outtext)
+    if (event->type() == QEvent::Resize && watched == &m_pane->log())
         futuretype_Change();
     return QWidget::eventFilter(watched, event);
 }
@@ -330,52 +233,20 @@ bool frmPrivate::Form_KeyDown(const QKeyEvent &event)
     return true;
 }
 
-void frmPrivate::outtext_Change()
-{
-    if (m_chat)
-        m_chat->outtext_Change();
-}
-
-bool frmPrivate::Form_QueryUnload(UnloadMode mode)
-{
-    if (m_chat->Form_QueryUnload(mode) == CloseDecision::unload)
-        return true;
-    hide();
-    return false;
-}
-
 void frmPrivate::closeEvent(QCloseEvent *event)
 {
-    if (!m_chat)
-        return event->accept();
-    const UnloadMode mode = qApp->isSavingSession() ? UnloadMode::sessionEnd : UnloadMode::closeBox;
-    if (!Form_QueryUnload(mode))
-        return event->ignore();
-    event->accept();
-    m_chat->closed();
-}
-
-void frmPrivate::Form_Unload()
-{
-    m_links.UnhookRichText(*m_outtext);
+    m_pane->Form_QueryUnload(*event);
 }
 
 void frmPrivate::letGo()
 {
-    Form_Unload();
     m_chat = nullptr;
-    hide();
-    deleteLater();
+    m_pane->letGo();
 }
 
-RichTextLog &frmPrivate::outtext()
+ConversationView &frmPrivate::conversation()
 {
-    return *m_outtext;
-}
-
-void frmPrivate::setCaption(const QString &caption)
-{
-    setWindowCaption(*this, caption);
+    return *m_pane;
 }
 
 void frmPrivate::setPeerAddress(const QString &ip)
@@ -383,26 +254,9 @@ void frmPrivate::setPeerAddress(const QString &ip)
     rIP->setText(ip);
 }
 
-void frmPrivate::setLogFont(const LogFont &font)
-{
-    intext->setFont(fontOf(font));
-    m_outtext->setSelFont(font);
-}
-
-void frmPrivate::setLastMessage(const QString &text)
-{
-    m_panels[0]->setText(text);
-}
-
 void frmPrivate::setPeerActivity(const QString &text)
 {
     m_panels[1]->setText(text);
-}
-
-void frmPrivate::setInputEnabled(bool enabled)
-{
-    intext->setEnabled(enabled);
-    sendbtn->setEnabled(enabled);
 }
 
 void frmPrivate::setLiveType(const QString &text)
@@ -417,20 +271,9 @@ void frmPrivate::setLiveTypeOn(bool on)
     livetypebtn->setChecked(on);
 }
 
-QString frmPrivate::typedText() const
-{
-    return nimb::typedText(*intext);
-}
-
 bool frmPrivate::isLiveTypeOn() const
 {
     return livetypebtn->isChecked();
-}
-
-void frmPrivate::focusInput()
-{
-    intext->setFocus();
-    intext->moveCursor(QTextCursor::End);
 }
 
 void frmPrivate::setAvatar(const QString &marker, const std::optional<QByteArray> &picture)
@@ -451,11 +294,6 @@ void frmPrivate::setPeersMood(const MoodMark &mood)
     hismoodpct->setToolTip(tr("His/her mood (%1)").arg(mood.name));
 }
 
-Colour frmPrivate::windowTextColour() const
-{
-    return logColour(palette().color(QPalette::WindowText));
-}
-
 void frmPrivate::showWindow(ShowMode mode)
 {
     setAttribute(Qt::WA_ShowWithoutActivating, mode != ShowMode::active);
@@ -474,18 +312,6 @@ void frmPrivate::showWindow(ShowMode mode)
         activateWindow();
         break;
     }
-}
-
-bool frmPrivate::isMinimisedOrInactive() const
-{
-    return isMinimized() || !isActiveWindow();
-}
-
-void frmPrivate::flash()
-{
-    if (QWidget::isHidden())
-        return;
-    flashTaskBarButton(*this);
 }
 
 } // namespace nimb

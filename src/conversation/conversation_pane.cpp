@@ -1,0 +1,250 @@
+#include "conversation/conversation_pane.h"
+
+#include "conversation/conversation.h"
+#include "conversation/emoticon_picker.h"
+#include "conversation/message_input.h"
+#include "log/RTFSubClass.h"
+#include "log/log_font.h"
+#include "log/rich_text_log.h"
+#include "widgets/form_layout.h"
+#include "widgets/form_text.h"
+#include "widgets/tool_button.h"
+#include "widgets/window_attention.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace nimb
+{
+
+using form_layout::spacing;
+
+ConversationPane::ConversationPane(Conversation &conversation, RTFSubClass &links, QWidget *parent)
+    : QWidget(parent), m_conversation(&conversation), m_links(links)
+{
+    buildControls();
+    connectControls();
+    m_links.HookRichText(*m_outtext, *this);
+    intext->setFocus();
+}
+
+void ConversationPane::buildControls()
+{
+    m_outtext = named(new RichTextLogEdit(this), "outtext");
+    m_outtext->setAccessibleName(tr("Conversation"));
+    m_outtext->setTabChangesFocus(true);
+    ListViewEmot = new EmoticonPicker(this);
+    ListViewEmot->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    ListViewEmot->hide();
+
+    auto *const column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(spacing);
+    m_logRow = new QHBoxLayout;
+    m_logRow->setSpacing(spacing);
+    m_logRow->addWidget(m_outtext, 1);
+    column->addLayout(m_logRow, 1);
+    column->addWidget(ListViewEmot);
+    column->addLayout(makeToolRow());
+    column->addLayout(makeInput());
+}
+
+QHBoxLayout *ConversationPane::makeToolRow()
+{
+    Emoticbtn = toolButton(this, "Emoticbtn", tr("Emoticons"), "emoticons");
+    Emoticbtn->setCheckable(true);
+    datetimebtn = toolButton(this, "datetimebtn", tr("Date&&Time"), "datetime");
+    clearbtn = toolButton(this, "clearbtn", tr("Clear"), "clear");
+    m_toolRow = new QHBoxLayout;
+    m_toolRow->setSpacing(2);
+    for (QToolButton *const tool : {Emoticbtn, datetimebtn, clearbtn})
+        m_toolRow->addWidget(tool);
+    m_toolRow->addStretch(1);
+    return m_toolRow;
+}
+
+QHBoxLayout *ConversationPane::makeInput()
+{
+    intext = named(new MessageInput(this), "intext");
+    intext->setAccessibleName(tr("Message"));
+    intext->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    sendbtn = named(new QPushButton(namedPicture(QStringLiteral("send")), tr("Send"), this), "sendbtn");
+    sendbtn->setDefault(true);
+    sendbtn->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    auto *const row = new QHBoxLayout;
+    row->setSpacing(spacing);
+    row->addWidget(intext);
+    row->addWidget(sendbtn);
+    return row;
+}
+
+void ConversationPane::connectControls()
+{
+    connect(sendbtn, &QPushButton::clicked, this, &ConversationPane::sendbtn_Click);
+    connect(intext, &MessageInput::entered, sendbtn, &QPushButton::click);
+    connect(clearbtn, &QToolButton::clicked, this, &ConversationPane::Clearbtn_Click);
+    connect(datetimebtn, &QToolButton::clicked, this, &ConversationPane::datetimebtn_Click);
+    connect(Emoticbtn, &QToolButton::toggled, this, &ConversationPane::Emoticbtn_Click);
+    connect(ListViewEmot, &EmoticonPicker::picked, this, &ConversationPane::ListViewEmot_ItemClick);
+    connect(m_outtext, &QTextEdit::textChanged, this, &ConversationPane::outtext_Change);
+}
+
+// --- what the window adds
+
+void ConversationPane::putBesideLog(QWidget *panel)
+{
+    m_logRow->addWidget(panel);
+}
+
+void ConversationPane::insertTools(Tool behind, std::initializer_list<QWidget *> tools)
+{
+    QWidget *before = behind == Tool::emoticons ? Emoticbtn : datetimebtn;
+    for (QWidget *const tool : tools) {
+        m_toolRow->insertWidget(m_toolRow->indexOf(before) + 1, tool);
+        setTabOrder(before, tool);
+        before = tool;
+    }
+}
+
+void ConversationPane::setTabStopsBehindLog(std::initializer_list<QWidget *> controls)
+{
+    QWidget *before = ListViewEmot;
+    for (QWidget *const control : controls) {
+        setTabOrder(before, control);
+        before = control;
+    }
+}
+
+// --- the end of the window
+
+void ConversationPane::Form_QueryUnload(QCloseEvent &event)
+{
+    if (!m_conversation)
+        return event.accept();
+    const UnloadMode mode = qApp->isSavingSession() ? UnloadMode::sessionEnd : UnloadMode::closeBox;
+    const CloseDecision decision = m_conversation->Form_QueryUnload(mode);
+    // The program may have ended while a question stood there.
+    if (!m_conversation)
+        return event.accept();
+    if (decision == CloseDecision::hide)
+        window()->hide();
+    if (decision != CloseDecision::unload)
+        return event.ignore();
+    event.accept();
+    m_conversation->closed();
+}
+
+void ConversationPane::letGo()
+{
+    Form_Unload();
+    m_conversation = nullptr;
+    window()->hide();
+    window()->deleteLater();
+}
+
+void ConversationPane::Form_Unload()
+{
+    m_links.UnhookRichText(*m_outtext);
+}
+
+// --- event procedures
+
+void ConversationPane::sendbtn_Click()
+{
+    if (m_conversation->send(typedText()))
+        intext->clear();
+    intext->setFocus();
+}
+
+void ConversationPane::Clearbtn_Click()
+{
+    m_conversation->Clearbtn_Click();
+    if (intext->isEnabled())
+        intext->setFocus();
+}
+
+void ConversationPane::datetimebtn_Click()
+{
+    if (!intext->isEnabled())
+        return;
+    intext->insertPlainText(m_conversation->dateAndTime());
+    intext->setFocus();
+}
+
+void ConversationPane::Emoticbtn_Click(bool shown)
+{
+    ListViewEmot->setVisible(shown);
+    Q_EMIT emoticonsToggled();
+}
+
+void ConversationPane::ListViewEmot_ItemClick(const QString &emoticon)
+{
+    if (!intext->isEnabled())
+        return;
+    setTypedText(*intext, typedText() + emoticon);
+    intext->setFocus();
+}
+
+void ConversationPane::outtext_Change()
+{
+    if (m_conversation)
+        m_conversation->outtext_Change();
+}
+
+// --- what is seen
+
+RichTextLog &ConversationPane::outtext()
+{
+    return *m_outtext;
+}
+
+void ConversationPane::setCaption(const QString &caption)
+{
+    setWindowCaption(*window(), caption);
+}
+
+void ConversationPane::setLogFont(const LogFont &font)
+{
+    intext->setFont(fontOf(font));
+    m_outtext->setSelFont(font);
+}
+
+QString ConversationPane::typedText() const
+{
+    return nimb::typedText(*intext);
+}
+
+void ConversationPane::setInputEnabled(bool enabled)
+{
+    intext->setEnabled(enabled);
+    sendbtn->setEnabled(enabled);
+}
+
+void ConversationPane::focusInput()
+{
+    if (!intext->isEnabled())
+        return;
+    intext->setFocus();
+    intext->moveCursor(QTextCursor::End);
+}
+
+Colour ConversationPane::windowTextColour() const
+{
+    return logColour(palette().color(QPalette::WindowText));
+}
+
+bool ConversationPane::isMinimisedOrInactive() const
+{
+    return window()->isMinimized() || !window()->isActiveWindow();
+}
+
+void ConversationPane::flash()
+{
+    if (!window()->isHidden())
+        flashTaskBarButton(*window());
+}
+
+} // namespace nimb

@@ -1,0 +1,94 @@
+// The part of a window in which a conversation is read and written: log, emoticons, tools, input box.
+#pragma once
+
+#include "conversation/conversation_view.h"
+
+#include <QWidget>
+
+#include <initializer_list>
+
+class QCloseEvent;
+class QHBoxLayout;
+class QPushButton;
+class QToolButton;
+
+namespace nimb
+{
+
+class Conversation;
+class EmoticonPicker;
+class MessageInput;
+class RTFSubClass;
+class RichTextLogEdit;
+
+/// What a window has beside it, it makes itself and puts between the parts of the pane or around it.
+class ConversationPane : public QWidget, public ConversationView
+{
+    Q_OBJECT
+
+public:
+    /// The tools behind which a window may have its own.
+    enum class Tool { emoticons, dateAndTime };
+
+    /// links: opens what is pressed in the log; outlives the pane.
+    ConversationPane(Conversation &conversation, RTFSubClass &links, QWidget *parent);
+
+    RichTextLogEdit &log() const { return *m_outtext; }
+    MessageInput &input() const { return *intext; }
+    QPushButton &sendButton() const { return *sendbtn; }
+
+    void putBesideLog(QWidget *panel);
+    void insertTools(Tool behind, std::initializer_list<QWidget *> tools);
+    /// The Tab key goes from the log to these controls before it goes on to the tools.
+    void setTabStopsBehindLog(std::initializer_list<QWidget *> controls);
+
+    /// For the window's close event: closes it for good, hides it, or leaves it as it is.
+    void Form_QueryUnload(QCloseEvent &event);
+    /// Lets the window go, as LetGo has it.
+    void letGo();
+
+    RichTextLog &outtext() override;
+    void setCaption(const QString &caption) override;
+    void setLogFont(const LogFont &font) override;
+    void setLastMessage(const QString &text) override { Q_EMIT lastMessageChanged(text); }
+    QString typedText() const override;
+    void setInputEnabled(bool enabled) override;
+    void focusInput() override;
+    Colour windowTextColour() const override;
+    bool isMinimisedOrInactive() const override;
+    void flash() override;
+
+Q_SIGNALS:
+    /// When the last message came, for the window's status bar.
+    void lastMessageChanged(const QString &text);
+    void emoticonsToggled();
+
+private:
+    void buildControls();
+    QHBoxLayout *makeToolRow();
+    QHBoxLayout *makeInput();
+    void connectControls();
+
+    void sendbtn_Click();
+    void Clearbtn_Click();
+    void datetimebtn_Click();
+    void Emoticbtn_Click(bool shown);
+    void ListViewEmot_ItemClick(const QString &emoticon);
+    void outtext_Change();
+    void Form_Unload();
+
+    Conversation *m_conversation; ///< null once the window was let go
+    RTFSubClass &m_links;
+
+    RichTextLogEdit *m_outtext = nullptr;
+    EmoticonPicker *ListViewEmot = nullptr;
+    MessageInput *intext = nullptr;
+    QPushButton *sendbtn = nullptr;
+    QToolButton *clearbtn = nullptr;
+    QToolButton *datetimebtn = nullptr;
+    QToolButton *Emoticbtn = nullptr;
+    QHBoxLayout *m_logRow = nullptr;
+    QHBoxLayout *m_toolRow = nullptr;
+};
+
+} // namespace nimb
