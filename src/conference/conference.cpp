@@ -138,21 +138,24 @@ void Conference::Broadcastlist(const QString &dest)
             list.addresses.push_back(participant.ip.toStdString());
     }
     const std::string bytes = wire::serialise(list);
-    if (!dest.isEmpty())
-        return sendBytes(socket(), dest, bytes);
-    for (const Participant &participant : m_participants.rows()) {
-        if (!participant.own)
-            sendBytes(socket(), participant.ip, bytes);
-    }
+    if (dest.isEmpty())
+        sendToAll(bytes);
+    else
+        sendBytes(socket(), dest, bytes);
 }
 
 void Conference::BroadcastClose()
 {
-    if (!isHostedHere())
-        return;
+    if (isHostedHere())
+        sendToAll(wire::serialise(wire::ConferenceClose{m_identity.ConfNum}));
+}
+
+/// Invited ones included.
+void Conference::sendToAll(const std::string &bytes)
+{
     for (const Participant &participant : m_participants.rows()) {
         if (!participant.own)
-            sendDatagram(socket(), participant.ip, wire::ConferenceClose{m_identity.ConfNum});
+            sendBytes(socket(), participant.ip, bytes);
     }
 }
 

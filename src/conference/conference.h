@@ -73,6 +73,7 @@ private:
     QString caption() const;
     Writer writerOf(const QString &ip) const;
     void relay(const QString &text, const QString &origin);
+    void sendToAll(const std::string &bytes);
     void showOwnAvatar();
     void showAvatarOf(const QString &ip);
     void showAvatar(const QString &name, const std::optional<QByteArray> &picture);
