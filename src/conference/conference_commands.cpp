@@ -14,7 +14,7 @@ namespace
 /// What a participant is called before it has told its name. Shown, and never stored in another language.
 const QString unheardName = QStringLiteral("(unknown)");
 
-/// The numbers that a host may give its conferences.
+/// The numbers that a host may give its conferences. Nobody joins one under another.
 bool isHostsNumber(std::int16_t number)
 {
     return number >= 1;
@@ -31,6 +31,14 @@ void ConferenceCommands::conferenceDatagram(const QString &ip, const wire::Datag
 QString ConferenceCommands::name() const
 {
     return m_parts.contacts.find(m_ip)->nickname;
+}
+
+/// The conference that is hosted here under this number, if the sender is in it.
+Conference *ConferenceCommands::attended(std::int16_t number) const
+{
+    Conference *const conference = m_parts.conferences.hosted(number);
+    const Participant *const sender = conference ? conference->partecipanti().find(m_ip) : nullptr;
+    return sender && sender->present ? conference : nullptr;
 }
 
 void ConferenceCommands::operator()(const wire::ConferenceInvitation &invitation)
@@ -60,10 +68,22 @@ void ConferenceCommands::agreed(Conference &conference)
     // Who is in already and has only opened the window again needs the list, the others need nothing.
     if (conference.partecipanti().find(m_ip)->present)
         return conference.Broadcastlist(m_ip);
-    conference.partecipanti().setPresent(m_ip);
-    conference.ReceiveCommand(tr("--- %1 joined the conference").arg(name()), colours::banner);
+    joined(conference, m_ip);
     conference.Broadcastlist({});
     askForAvatar(m_ip);
+}
+
+void ConferenceCommands::joined(Conference &conference, const QString &address)
+{
+    conference.partecipanti().setPresent(address);
+    const QString &nickname = m_parts.contacts.find(address)->nickname;
+    conference.ReceiveCommand(tr("--- %1 joined the conference").arg(nickname), colours::banner);
+}
+
+void ConferenceCommands::left(Conference &conference, const QString &address, const QString &nickname)
+{
+    conference.ReceiveCommand(tr("--- %1 left the conference.").arg(nickname), colours::banner);
+    conference.partecipanti().remove(address);
 }
 
 void ConferenceCommands::denied(Conference &conference)
@@ -78,16 +98,15 @@ void ConferenceCommands::denied(Conference &conference)
 
 void ConferenceCommands::operator()(const wire::ConferenceListQuestion &question)
 {
-    Conference *const conference = m_parts.conferences.hosted(question.id);
-    const Participant *const asker = conference ? conference->partecipanti().find(m_ip) : nullptr;
-    if (!asker || !asker->present)
-        return drop();
-    conference->Broadcastlist(m_ip);
+    if (Conference *const conference = attended(question.id))
+        conference->Broadcastlist(m_ip);
+    else
+        drop();
 }
 
 void ConferenceCommands::operator()(const wire::ConferenceList &list)
 {
-    Conference *const conference = isHostsNumber(list.id) ? m_parts.conferences.joined(m_ip, list.id) : nullptr;
+    Conference *const conference = m_parts.conferences.joined(m_ip, list.id);
     if (!conference)
         return drop();
     Participants &participants = conference->partecipanti();
@@ -111,10 +130,8 @@ void ConferenceCommands::operator()(const wire::ConferenceList &list)
         if (!participant.present)
             gone.append(participant.ip);
     }
-    for (const QString &ip : std::as_const(gone)) {
-        conference->ReceiveCommand(tr("--- %1 left the conference.").arg(participants.find(ip)->name), colours::banner);
-        participants.remove(ip);
-    }
+    for (const QString &ip : std::as_const(gone))
+        left(*conference, ip, participants.find(ip)->name);
 }
 
 void ConferenceCommands::listed(Conference &conference, const QString &address)
@@ -124,10 +141,8 @@ void ConferenceCommands::listed(Conference &conference, const QString &address)
     Participants &participants = conference.partecipanti();
     if (participants.find(address))
         return participants.setPresent(address);
-    const QString nickname = m_parts.contacts.find(address)->nickname;
-    participants.add({.ip = address, .name = nickname});
-    participants.setPresent(address);
-    conference.ReceiveCommand(tr("--- %1 joined the conference").arg(nickname), colours::banner);
+    participants.add({.ip = address, .name = m_parts.contacts.find(address)->nickname});
+    joined(conference, address);
     askForAvatar(address);
 }
 
@@ -155,12 +170,11 @@ void ConferenceCommands::askForAvatar(const QString &address)
 
 void ConferenceCommands::operator()(const wire::ConferenceLeave &leave)
 {
-    Conference *const conference = m_parts.conferences.hosted(leave.id);
     // Who has been removed, is invited anew and then closes the old window has not refused.
-    if (!conference || !conference->partecipanti().find(m_ip) || !conference->partecipanti().find(m_ip)->present)
+    Conference *const conference = attended(leave.id);
+    if (!conference)
         return drop();
-    conference->ReceiveCommand(tr("--- %1 left the conference.").arg(name()), colours::banner);
-    conference->partecipanti().remove(m_ip);
+    left(*conference, m_ip, name());
     conference->Broadcastlist({});
 }
 
@@ -168,7 +182,7 @@ void ConferenceCommands::operator()(const wire::ConferenceClose &close)
 {
     m_parts.conferences.forgetGuestship(m_ip, close.id);
     const bool invited = m_parts.invitations.list().rowOf(m_ip, close.id) >= 0;
-    Conference *const conference = isHostsNumber(close.id) ? m_parts.conferences.joined(m_ip, close.id) : nullptr;
+    Conference *const conference = m_parts.conferences.joined(m_ip, close.id);
     if (!invited && !conference)
         return drop();
     m_parts.invitations.closed(m_ip, close.id);
@@ -195,13 +209,12 @@ void ConferenceCommands::operator()(const wire::ConferenceMessage &message)
     // Hosts name writers by their addresses; anything else would stand in the log as if it were somebody's name.
     if (!isUnicastAddress(origin))
         return drop();
-    if (origin != m_parts.common.ownIP && isHostsNumber(message.id)) {
+    if (origin != m_parts.common.ownIP) {
         if (Conference *const conference = m_parts.conferences.joined(m_ip, message.id))
             return conference->ReceiveMessage(origin, text);
     }
-    Conference *const conference = m_parts.conferences.hosted(message.id);
-    const Participant *const writer = conference ? conference->partecipanti().find(m_ip) : nullptr;
-    if (!writer || !writer->isPresentPeer() || !isWritersOwn(origin, *conference))
+    Conference *const conference = attended(message.id);
+    if (!conference || conference->partecipanti().find(m_ip)->own || !isWritersOwn(origin, *conference))
         return drop();
     conference->ReceiveMessage(m_ip, text);
 }

@@ -47,9 +47,13 @@ private:
     /// Display name of the sender.
     QString name() const;
     bool isWritersOwn(const QString &origin, const Conference &conference) const;
+    Conference *attended(std::int16_t number) const;
     void agreed(Conference &conference);
     void denied(Conference &conference);
     void listed(Conference &conference, const QString &address);
+    /// Rows and log follow those who come and go.
+    void joined(Conference &conference, const QString &address);
+    void left(Conference &conference, const QString &address, const QString &nickname);
     void greet(const QString &address);
     void askForAvatar(const QString &address);
 
