@@ -33,7 +33,7 @@ int ConferenceTable::CreateNewConfWin(bool host, std::int16_t ChnNum, const QStr
                                         .fConfN = slot};
     if (!host)
         m_guestships.insert({identity.ConfServerIP, identity.ConfNum});
-    auto &window = m_slots[static_cast<std::size_t>(slot)];
+    std::unique_ptr<Conference> &window = windowIn(slot);
     window = std::make_unique<Conference>(m_services, identity, [this, slot] { unload(slot); });
     window->view().showWindow();
     window->Clearbtn_Click();
@@ -55,7 +55,7 @@ void ConferenceTable::mnuInvite2Conf(int slot, const QString &ip)
 
 Conference *ConferenceTable::at(int slot)
 {
-    return slot >= 1 && slot <= lastSlot ? m_slots[static_cast<std::size_t>(slot)].get() : nullptr;
+    return slot >= 1 && slot <= lastSlot ? windowIn(slot).get() : nullptr;
 }
 
 Conference *ConferenceTable::hosted(int number)
@@ -78,7 +78,7 @@ Conference *ConferenceTable::joined(const QString &host, int number)
 
 void ConferenceTable::unload(int slot)
 {
-    const std::unique_ptr<Conference> conference = std::move(m_slots[static_cast<std::size_t>(slot)]);
+    const std::unique_ptr<Conference> conference = std::move(windowIn(slot));
     if (!conference)
         return;
     // A window whose conference is over must not take leave for one that was joined again.

@@ -5,6 +5,7 @@
 #include "conference/conference.h"
 
 #include <array>
+#include <iterator>
 #include <set>
 #include <utility>
 
@@ -45,6 +46,7 @@ public:
     void unloadAll();
 
 private:
+    std::unique_ptr<Conference> &windowIn(int slot) { return *std::next(m_slots.begin(), slot); }
     void unload(int slot);
     void contactChanged(const Contact &contact);
 

@@ -45,13 +45,13 @@ void InvitationList::remove(int row)
 
 void InvitationList::setState(int row, Invitation::State state)
 {
-    if (std::exchange(m_rows[static_cast<std::size_t>(row)].state, state) != state)
+    if (std::exchange(changeable(row).state, state) != state)
         Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
 }
 
 void InvitationList::setMinutes(int row, int minutes)
 {
-    int &kept = m_rows[static_cast<std::size_t>(row)].minutes;
+    int &kept = changeable(row).minutes;
     if (std::exchange(kept, minutes) != minutes)
         Q_EMIT dataChanged(index(row, Age), index(row, Age));
 }
@@ -85,7 +85,7 @@ QVariant InvitationList::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
         return {};
-    const Invitation &invitation = m_rows[static_cast<std::size_t>(index.row())];
+    const Invitation &invitation = at(index.row());
     switch (role) {
     case Qt::DisplayRole:
         break;
@@ -148,7 +148,7 @@ bool Invitations::makeRoom(const QString &host)
 {
     int ofHost = 0, overOfHost = -1, over = -1;
     for (int row = m_list.rowCount() - 1; row >= 0; --row) {
-        const bool isHosts = m_list.rows()[static_cast<std::size_t>(row)].host == host;
+        const bool isHosts = m_list.at(row).host == host;
         ofHost += isHosts;
         if (!isPending(row))
             over = row;
@@ -201,15 +201,14 @@ void Invitations::mnushowinvitations()
 
 bool Invitations::isPending(int row) const
 {
-    return row >= 0 && row < m_list.rowCount()
-        && m_list.rows()[static_cast<std::size_t>(row)].state == Invitation::State::pending;
+    return row >= 0 && row < m_list.rowCount() && m_list.at(row).state == Invitation::State::pending;
 }
 
 void Invitations::ConfAgreebtn_Click(int row)
 {
     if (!isPending(row))
         return;
-    const Invitation invitation = m_list.rows()[static_cast<std::size_t>(row)];
+    const Invitation invitation = m_list.at(row);
     Conference *const there = m_services.conferences.joined(invitation.host, invitation.number);
     if (there)
         there->view().showWindow();
@@ -222,7 +221,7 @@ void Invitations::ConfAgreebtn_Click(int row)
 
 void Invitations::deny(int row)
 {
-    const Invitation &invitation = m_list.rows()[static_cast<std::size_t>(row)];
+    const Invitation &invitation = m_list.at(row);
     sendDatagram(m_services.socket, invitation.host, wire::ConferenceAnswer{invitation.number, false});
 }
 
@@ -281,10 +280,10 @@ void Invitations::Timer1_Timer()
     for (int row = 0; row < m_list.rowCount(); ++row) {
         if (!isPending(row))
             continue;
-        const QDateTime arrived = m_list.rows()[static_cast<std::size_t>(row)].arrived;
+        const QDateTime arrived = m_list.at(row).arrived;
         const auto minutes = static_cast<int>(qBound<qint64>(0, arrived.secsTo(now), oldestAge) / 60);
         m_list.setMinutes(row, minutes);
-        if (isToBeAutorefused(m_list.rows()[static_cast<std::size_t>(row)])) {
+        if (isToBeAutorefused(m_list.at(row))) {
             deny(row);
             m_list.setState(row, Invitation::State::autorefused);
         } else {

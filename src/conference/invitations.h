@@ -7,6 +7,9 @@
 #include <QAbstractTableModel>
 #include <QDateTime>
 
+#include <iterator>
+#include <vector>
+
 namespace nimb
 {
 
@@ -33,7 +36,7 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    const std::vector<Invitation> &rows() const { return m_rows; }
+    const Invitation &at(int row) const { return *std::next(m_rows.begin(), row); }
     /// -1 when there is none.
     int rowOf(const QString &host, std::int16_t number) const;
     void add(const Invitation &invitation);
@@ -47,6 +50,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    Invitation &changeable(int row) { return *std::next(m_rows.begin(), row); }
     QString age(const Invitation &invitation) const;
 
     std::vector<Invitation> m_rows;

@@ -17,7 +17,7 @@ int Participants::rowOf(const QString &ip) const
 const Participant *Participants::find(const QString &ip) const
 {
     const int row = rowOf(ip);
-    return row < 0 ? nullptr : &m_rows[static_cast<std::size_t>(row)];
+    return row < 0 ? nullptr : &at(row);
 }
 
 bool Participants::add(const Participant &participant)
@@ -42,50 +42,36 @@ bool Participants::remove(const QString &ip)
     return true;
 }
 
-void Participants::changed(int row)
+template <class Change> void Participants::change(const QString &ip, const Change &change)
 {
+    const int row = rowOf(ip);
+    if (row < 0)
+        return;
+    change(*std::next(m_rows.begin(), row));
     Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
 }
 
 void Participants::setPresent(const QString &ip)
 {
-    const int row = rowOf(ip);
-    if (row < 0)
-        return;
-    Participant &participant = m_rows[static_cast<std::size_t>(row)];
-    participant.present = true;
-    if (!participant.colour)
-        participant.colour = nextColour();
-    changed(row);
-}
-
-void Participants::setAbsent(const QString &ip)
-{
-    const int row = rowOf(ip);
-    if (row < 0)
-        return;
-    m_rows[static_cast<std::size_t>(row)].present = false;
-    changed(row);
+    change(ip, [this](Participant &participant) {
+        participant.present = true;
+        if (!participant.colour)
+            participant.colour = nextColour();
+    });
 }
 
 void Participants::setAllAbsent()
 {
-    for (const Participant &participant : m_rows) {
-        if (!participant.own)
-            setAbsent(participant.ip);
-    }
+    for (Participant &participant : m_rows)
+        participant.present = participant.own;
+    Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
 }
 
 void Participants::setName(const QString &ip, const QString &name)
 {
-    const int row = rowOf(ip);
-    if (row < 0)
-        return;
-    Participant &participant = m_rows[static_cast<std::size_t>(row)];
-    if (participant.own || participant.name == name)
-        return;
-    participant.name = name;
-    changed(row);
+    const Participant *const row = find(ip);
+    if (row && !row->own && row->name != name)
+        change(ip, [&name](Participant &participant) { participant.name = name; });
 }
 
 Colour Participants::nextColour()
@@ -114,7 +100,7 @@ QVariant Participants::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
         return {};
-    const Participant &participant = m_rows[static_cast<std::size_t>(index.row())];
+    const Participant &participant = at(index.row());
     switch (role) {
     case Qt::DisplayRole:
         if (index.column() == NickName)

@@ -6,6 +6,7 @@
 #include <QAbstractTableModel>
 #include <QHash>
 
+#include <iterator>
 #include <optional>
 #include <vector>
 
@@ -45,8 +46,7 @@ public:
     /// Marks a row as present and gives it a colour, unless it has one: the lowest of the table that no row has, and
     /// once all are taken one after the other in turn.
     void setPresent(const QString &ip);
-    /// Marks a row, or all but the own one, as not there.
-    void setAbsent(const QString &ip);
+    /// Marks all but the own row as not there.
     void setAllAbsent();
     /// The own row keeps its name.
     void setName(const QString &ip, const QString &name);
@@ -58,8 +58,9 @@ public:
 
 private:
     int rowOf(const QString &ip) const; ///< -1 when there is none
+    const Participant &at(int row) const { return *std::next(m_rows.begin(), row); }
+    template <class Change> void change(const QString &ip, const Change &change);
     Colour nextColour();
-    void changed(int row);
 
     std::vector<Participant> m_rows;
     std::size_t m_turn = 0;

@@ -256,7 +256,7 @@ private:
                 continue;
             Invitations &invitations = copy->engine.invitations();
             const int row = m_dice.below(invitations.list().rowCount());
-            const Invitation invitation = invitations.list().rows()[static_cast<std::size_t>(row)];
+            const Invitation invitation = invitations.list().at(row);
             const std::string which = invitation.host.toStdString() + " #" + std::to_string(invitation.number);
             const int what = m_dice.below(20);
             if (what < 15) {
