@@ -5,6 +5,7 @@
 #include "main_window/sub_main.h"
 #include "platform/own_identity.h"
 #include "platform/program_files.h"
+#include "protocol/address_text.h"
 
 #include <QApplication>
 #include <QDir>
@@ -145,7 +146,7 @@ void Program::loadMain()
     m_forms.connectMain(
         *m_engine, [this] { return statusNotes(); }, [] { QCoreApplication::exit(0); });
     window.Form_Load();
-    if (m_wantedAddress && !dottedIpv4(*m_wantedAddress))
+    if (m_wantedAddress && !readAddress(*m_wantedAddress))
         m_engine->log().fault(
             tr("NIMBCHAT_ADDRESS is \"%1\", which is no IPv4 address; NIMB-Chat listens on every interface instead.")
                 .arg(*m_wantedAddress));

@@ -144,20 +144,4 @@ QString menuName(const QString &name)
     return paintedName(name).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
-bool isUnicastAddress(const QString &address)
-{
-    const QStringList parts = address.split(QLatin1Char('.'));
-    if (parts.size() != 4)
-        return false;
-    for (const QString &part : parts) {
-        bool isNumber = false;
-        const uint value = part.toUInt(&isNumber);
-        const bool plain = isNumber && part == QString::number(value);
-        if (!plain || value > 255)
-            return false;
-    }
-    const uint first = parts.front().toUInt();
-    return first >= 1 && first <= 223;
-}
-
 } // namespace nimb

@@ -30,7 +30,4 @@ QString paintedName(const QString &name);
 /// A name as part of a menu caption: painted, and with "&" doubled, for a single one marks an access key.
 QString menuName(const QString &name);
 
-/// True for a dotted IPv4 address of one host: not 0.x.x.x, not multicast, not reserved, not broadcast.
-bool isUnicastAddress(const QString &address);
-
 } // namespace nimb

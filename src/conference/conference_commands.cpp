@@ -1,8 +1,8 @@
 #include "conference/conference_commands.h"
 
 #include "base/limits.h"
-#include "base/remote_text.h"
 #include "contacts/admission.h"
+#include "protocol/address_text.h"
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
 
@@ -204,11 +204,12 @@ bool ConferenceCommands::isWritersOwn(const QString &origin, const Conference &c
 /// Whose message it is. A guest sends its own address as the origin, so at the host the writer is who sent it.
 void ConferenceCommands::operator()(const wire::ConferenceMessage &message)
 {
-    const QString origin = fromWire(message.origin);
+    const std::optional<Ipv4Address> address = Ipv4Address::parse(message.origin);
     const QString text = fromWire(message.text);
     // Hosts name writers by their addresses; anything else would stand in the log as if it were somebody's name.
-    if (!isUnicastAddress(origin))
+    if (!address || !address->isUnicast())
         return drop();
+    const QString origin = addressText(*address);
     if (origin != m_parts.common.ownIP) {
         if (Conference *const conference = m_parts.conferences.joined(m_ip, message.id))
             return conference->ReceiveMessage(origin, text);

@@ -20,7 +20,7 @@ enum class Refusal {
 };
 
 /// Empty when the address may become a contact; otherwise the first of the rules, in the order above, that it breaks.
-/// All of them bind peers; the user is bound by fewer, for what is typed may be a name.
+/// All of them bind what peers bring; what the user types is bound by fewer, as the caller sees fit.
 [[nodiscard]] std::optional<Refusal> contactRefusal(const QString &ip, const Common &common,
                                                     const ContactList &contacts);
 

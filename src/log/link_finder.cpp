@@ -1,6 +1,7 @@
 #include "log/link_finder.h"
 
 #include "base/remote_text.h"
+#include "protocol/ipv4_address.h"
 
 #include <QByteArray>
 #include <QChar>
@@ -205,18 +206,6 @@ bool isNumber(std::string_view label)
     });
 }
 
-bool isByte(std::string_view label)
-{
-    if (label.empty() || label.size() > 3 || (label.size() > 1 && label.front() == '0'))
-        return false;
-    return std::all_of(label.begin(), label.end(), isAsciiDigit) && QByteArrayView(label).toInt() <= 255;
-}
-
-bool isDottedAddress(const std::vector<std::string_view> &labels)
-{
-    return labels.size() == 4 && std::all_of(labels.begin(), labels.end(), isByte);
-}
-
 /// A host in the form that is looked up.
 struct Host {
     QByteArray name; ///< lower case, in punycode where it is not ASCII
@@ -242,14 +231,14 @@ std::optional<Host> readHost(QStringView text)
     host.name = QUrl::toAce(text.toString());
     if (host.name.isEmpty() || host.name.size() > longestHost)
         return std::nullopt;
-    const std::vector<std::string_view> labels
-        = labelsOf({host.name.constData(), static_cast<std::size_t>(host.name.size())});
+    const std::string_view name(host.name.constData(), static_cast<std::size_t>(host.name.size()));
+    const std::vector<std::string_view> labels = labelsOf(name);
     if (!std::all_of(labels.begin(), labels.end(), isValidLabel))
         return std::nullopt;
     host.labels = static_cast<qsizetype>(labels.size());
     host.isName = !isNumber(labels.back());
     // Other numeric spellings ("2130706433", "127.1") hide where they lead.
-    if (!host.isName && !isDottedAddress(labels))
+    if (!host.isName && !Ipv4Address::parse(name))
         return std::nullopt;
     return host;
 }

@@ -22,8 +22,9 @@ public:
 
     /// What the box offers to be edited: the own address.
     QString Form_Load() const { return m_common.ownIP; }
-    /// Asks the dotted address at once, broadcast addresses included. Everything else is a name, which is asked when
-    /// its address has been found; the main log says when there is none. Blanks around the text do not count.
+    /// Asks the dotted address at once, broadcast addresses and such with zeros before a number included. All else is a
+    /// name, which is asked when its address has been found; the main log says when there is none. Blanks around the
+    /// text do not count.
     void Command1_Click(const QString &typed);
 
 private:

@@ -21,14 +21,14 @@ sockaddr_in toSystem(Ipv4Endpoint endpoint)
 {
     sockaddr_in address = {};
     address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(endpoint.address);
+    address.sin_addr.s_addr = htonl(endpoint.address.number());
     address.sin_port = htons(endpoint.port);
     return address;
 }
 
 Ipv4Endpoint fromSystem(const sockaddr_in &address)
 {
-    return {ntohl(address.sin_addr.s_addr), ntohs(address.sin_port)};
+    return {Ipv4Address::of(ntohl(address.sin_addr.s_addr)), ntohs(address.sin_port)};
 }
 
 // The socket calls take every kind of address through a pointer to the general one.
@@ -174,7 +174,7 @@ DatagramSocket::Arrival DatagramSocket::receive(Buffer &buffer)
     return arrival;
 }
 
-std::optional<std::uint32_t> sourceAddressTowards(Ipv4Endpoint destination)
+std::optional<Ipv4Address> sourceAddressTowards(Ipv4Endpoint destination)
 {
     int error = 0;
     const std::optional<DatagramSocket> socket = DatagramSocket::open({}, DatagramSocket::Sharing::exclusive, error);

@@ -1,6 +1,8 @@
 // One UDP socket of the operating system. Every system call of the transport stands here and nowhere else.
 #pragma once
 
+#include "protocol/ipv4_address.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -10,10 +12,9 @@
 namespace nimb
 {
 
-/// An IPv4 address and a port, both in host byte order.
 struct Ipv4Endpoint {
-    std::uint32_t address = 0; ///< 0 stands for every interface when bound
-    std::uint16_t port = 0;
+    Ipv4Address address = {}; ///< the unspecified one stands for every interface when bound
+    std::uint16_t port = 0;   ///< in host byte order
 };
 
 /// Owns the descriptor of a bound IPv4 socket that never blocks and is not inherited by child processes.
@@ -64,6 +65,6 @@ private:
 };
 
 /// The own address that the system would put on a datagram to this destination. Nothing is sent.
-std::optional<std::uint32_t> sourceAddressTowards(Ipv4Endpoint destination);
+std::optional<Ipv4Address> sourceAddressTowards(Ipv4Endpoint destination);
 
 } // namespace nimb

@@ -1,6 +1,6 @@
 #include "platform/name_resolver.h"
 
-#include "platform/own_identity.h"
+#include "protocol/address_text.h"
 
 #include <QHostAddress>
 #include <QUrl>
@@ -19,8 +19,8 @@ namespace nimb
 namespace
 {
 
-/// First IPv4 address in host byte order; may take as long as the system likes.
-std::optional<std::uint32_t> lookUp(const std::string &name)
+/// First IPv4 address; may take as long as the system likes.
+std::optional<Ipv4Address> lookUp(const std::string &name)
 {
     addrinfo wanted = {};
     wanted.ai_family = AF_INET;
@@ -31,7 +31,7 @@ std::optional<std::uint32_t> lookUp(const std::string &name)
     const std::unique_ptr<addrinfo, void (*)(addrinfo *)> owner(found, freeaddrinfo);
     for (const addrinfo *one = found; one; one = one->ai_next) {
         if (one->ai_family == AF_INET)
-            return ntohl(reinterpret_cast<const sockaddr_in *>(one->ai_addr)->sin_addr.s_addr);
+            return Ipv4Address::of(ntohl(reinterpret_cast<const sockaddr_in *>(one->ai_addr)->sin_addr.s_addr));
     }
     return std::nullopt;
 }
@@ -54,7 +54,7 @@ public:
 
     /// From any thread. Qt is touched only while the resolver is there: a late answer may come in the middle of the
     /// program's end.
-    void post(quint64 question, std::optional<std::uint32_t> address)
+    void post(quint64 question, std::optional<Ipv4Address> address)
     {
         const std::lock_guard lock(m_mutex);
         HostNameResolver *const resolver = m_resolver;
@@ -99,10 +99,10 @@ void HostNameResolver::resolve(const QString &name, Found found)
     }
 }
 
-void HostNameResolver::answer(quint64 question, std::optional<std::uint32_t> address)
+void HostNameResolver::answer(quint64 question, std::optional<Ipv4Address> address)
 {
     const Found found = m_waiting.take(question);
-    found(address ? std::optional(dottedText(*address)) : std::nullopt);
+    found(address ? std::optional(addressText(*address)) : std::nullopt);
 }
 
 } // namespace nimb

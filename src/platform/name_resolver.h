@@ -27,7 +27,7 @@ public:
 
 private:
     class Letterbox;
-    void answer(quint64 question, std::optional<std::uint32_t> address);
+    void answer(quint64 question, std::optional<Ipv4Address> address);
 
     QObject m_context; ///< answers that arrive at the event loop after it are dropped
     quint64 m_questions = 0;

@@ -1,14 +1,12 @@
 #include "platform/own_identity.h"
 
 #include "platform/datagram_socket.h"
+#include "protocol/address_text.h"
 #include "protocol/wire_text.h"
 
 #include <QHostInfo>
 #include <QNetworkInterface>
-#include <QStringList>
 #include <QSysInfo>
-
-#include <algorithm>
 
 namespace nimb
 {
@@ -16,67 +14,34 @@ namespace
 {
 
 /// Set aside for documentation (TEST-NET-1), so it is never a neighbour: the way there is the default route.
-constexpr Ipv4Endpoint farAway{0xC0000201U, 9};
+constexpr Ipv4Endpoint farAway{{192, 0, 2, 1}, 9};
 
-std::optional<std::uint32_t> number0To255(const QString &text)
+bool isUsable(Ipv4Address address)
 {
-    const bool digitsOnly = std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
-    if (text.isEmpty() || text.size() > 3 || !digitsOnly || (text.size() > 1 && text.front() == u'0'))
-        return std::nullopt;
-    const std::uint32_t number = text.toUInt();
-    return number <= 255 ? std::optional(number) : std::nullopt;
+    return !address.isUnspecified() && !address.isLoopback();
 }
 
-bool isUsable(std::uint32_t address)
-{
-    return address != 0 && !isLoopback(address);
-}
-
-std::optional<std::uint32_t> firstOfAnyInterface()
+std::optional<Ipv4Address> firstOfAnyInterface()
 {
     const QList<QHostAddress> addresses = QNetworkInterface::allAddresses();
-    for (const QHostAddress &address : addresses) {
-        if (address.protocol() == QAbstractSocket::IPv4Protocol && isUsable(address.toIPv4Address()))
-            return address.toIPv4Address();
+    for (const QHostAddress &any : addresses) {
+        const Ipv4Address address = Ipv4Address::of(any.toIPv4Address());
+        if (any.protocol() == QAbstractSocket::IPv4Protocol && isUsable(address))
+            return address;
     }
     return std::nullopt;
 }
 
 } // namespace
 
-std::optional<std::uint32_t> dottedIpv4(const QString &text)
-{
-    const QStringList parts = text.split(u'.');
-    if (parts.size() != 4)
-        return std::nullopt;
-    std::uint32_t address = 0;
-    for (const QString &part : parts) {
-        const std::optional<std::uint32_t> number = number0To255(part);
-        if (!number)
-            return std::nullopt;
-        address = (address << 8) | *number;
-    }
-    return address;
-}
-
-QString dottedText(std::uint32_t address)
-{
-    return QHostAddress(address).toString();
-}
-
-bool isLoopback(std::uint32_t address)
-{
-    return address >> 24 == 127;
-}
-
 QString ownAddress(const std::optional<QString> &fixed)
 {
-    if (fixed && dottedIpv4(*fixed))
+    if (fixed && readAddress(*fixed))
         return *fixed;
-    const std::optional<std::uint32_t> routed = sourceAddressTowards(farAway);
+    const std::optional<Ipv4Address> routed = sourceAddressTowards(farAway);
     if (routed && isUsable(*routed))
-        return dottedText(*routed);
-    return dottedText(firstOfAnyInterface().value_or(0x7F000001U));
+        return addressText(*routed);
+    return addressText(firstOfAnyInterface().value_or(Ipv4Address(127, 0, 0, 1)));
 }
 
 QString ownHostName(const std::optional<QString> &fixed)

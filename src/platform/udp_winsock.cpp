@@ -1,6 +1,7 @@
 #include "platform/udp_winsock.h"
 
 #include "platform/own_identity.h"
+#include "protocol/address_text.h"
 
 #include <QScopeGuard>
 
@@ -14,7 +15,7 @@ namespace nimb
 namespace
 {
 
-constexpr std::uint32_t loopbackBroadcast = 0x7FFFFFFFU; // 127.255.255.255
+constexpr Ipv4Address loopbackBroadcast{127, 255, 255, 255};
 
 /// Datagrams to machines that are off wait in the system until the search for them is given up; an announcement to a
 /// long list of such contacts fills a small buffer.
@@ -30,7 +31,7 @@ UdpWinsock::UdpWinsock(DropCounts &drops, std::optional<QString> address, std::o
 
 void UdpWinsock::setRemoteHost(const QString &address)
 {
-    m_remoteHost = dottedIpv4(address);
+    m_remoteHost = readAddress(address);
 }
 
 BindFailure UdpWinsock::bindFailureOf(int error)
@@ -53,7 +54,7 @@ bool UdpWinsock::bind()
         return true;
     if (m_localPort == 0)
         return false;
-    const std::uint32_t address = m_fixedAddress ? dottedIpv4(*m_fixedAddress).value_or(0) : 0;
+    const Ipv4Address address = readAddress(m_fixedAddress.value_or(QString())).value_or(Ipv4Address());
     int error = 0;
     m_own = listen({address, m_localPort}, DatagramSocket::Sharing::exclusive, &UdpWinsock::readOwn, error);
     m_bindFailure = m_own ? BindFailure::none : bindFailureOf(error);
@@ -63,7 +64,7 @@ bool UdpWinsock::bind()
     m_own->socket.growSendBuffer(sendBufferAsked);
 
     // A socket that is bound to one loopback address hears no broadcast; one bound to every interface does.
-    if (isLoopback(address) && address != loopbackBroadcast) {
+    if (address.isLoopback() && address != loopbackBroadcast) {
         m_broadcasts = listen({loopbackBroadcast, m_localPort}, DatagramSocket::Sharing::shared,
                               &UdpWinsock::readBroadcasts, error);
         if (m_broadcasts)
@@ -102,7 +103,7 @@ std::string UdpWinsock::GetData(std::size_t byteCount)
 
 QString UdpWinsock::RemoteHostIP() const
 {
-    return m_lastSource ? dottedText(*m_lastSource) : QString();
+    return m_lastSource ? addressText(*m_lastSource) : QString();
 }
 
 QString UdpWinsock::LocalIP() const

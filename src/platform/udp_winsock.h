@@ -73,8 +73,8 @@ private:
     std::optional<QString> m_fixedHostName;
     std::uint16_t m_localPort = 0;
     std::uint16_t m_remotePort = 0;
-    std::optional<std::uint32_t> m_remoteHost;
-    std::optional<std::uint32_t> m_lastSource;
+    std::optional<Ipv4Address> m_remoteHost;
+    std::optional<Ipv4Address> m_lastSource;
     DatagramSocket::Arrival m_waiting; ///< announced and not yet taken
     DatagramSocket::Buffer m_buffer = {};
     std::optional<Ear> m_own;

@@ -65,14 +65,5 @@ TEST(RemoteText, NamesInMenusAreShortAndBearNoAccessKey)
     EXPECT_EQ(menuName(QString(64, u'x')), QString(64, u'x'));
 }
 
-TEST(RemoteText, OnlyUnicastAddressesMakeContacts)
-{
-    for (const char *good : {"10.0.0.2", "192.168.1.255", "127.0.1.2", "223.255.255.255", "1.0.0.0"})
-        EXPECT_TRUE(isUnicastAddress(QLatin1String(good))) << good;
-    for (const char *bad : {"", "10.0.0", "10.0.0.2.3", "10.0.0.256", "0.1.2.3", "224.0.0.1", "255.255.255.255",
-                            "240.0.0.1", "10.0.0.02", "10.0.0.-1", "10.0.0.+1", "10.0.0. 1", "a.b.c.d", "::1"})
-        EXPECT_FALSE(isUnicastAddress(QLatin1String(bad))) << bad;
-}
-
 } // namespace
 } // namespace nimb

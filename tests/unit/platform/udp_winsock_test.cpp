@@ -221,7 +221,7 @@ TEST(UdpWinsock, LetsNoOtherProgramShareItsPortEvenIfThatProgramIsWilling)
     Copy copy("127.0.1.1");
     ASSERT_TRUE(copy.socket.bind());
     int error = 0;
-    EXPECT_FALSE(DatagramSocket::open({0x7F000101U, testPort()}, DatagramSocket::Sharing::shared, error));
+    EXPECT_FALSE(DatagramSocket::open({Ipv4Address(127, 0, 1, 1), testPort()}, DatagramSocket::Sharing::shared, error));
     EXPECT_EQ(error, EADDRINUSE);
 }
 
