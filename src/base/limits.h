@@ -4,6 +4,7 @@
 #include <QtGlobal>
 
 #include <chrono>
+#include <cstddef>
 
 namespace nimb::limits
 {
@@ -40,7 +41,7 @@ constexpr std::size_t participants = 1000;
 /// Rows that wait in the notification window.
 constexpr qsizetype notifications = 100;
 /// Contacts asked in one turn of the event loop during an announcement, so that their answers are read between.
-constexpr qsizetype announcementBatch = 64;
+constexpr std::size_t announcementBatch = 64;
 /// How long an announcement waits for answers.
 constexpr std::chrono::milliseconds announcementTime{1000};
 /// At most one automatic reply in this time: a flood of messages must not become a flood of answers.

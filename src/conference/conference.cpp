@@ -179,7 +179,7 @@ void Conference::showAvatarOf(const QString &ip)
     const Contact *const contact = m_services.contacts.find(ip);
     if (!contact || contact->nickname == m_avatarLabel)
         return;
-    const QByteArray &body = m_services.avatars.of(ip).body;
+    const QByteArray &body = m_services.avatars.of(contact->ip).body;
     showAvatar(contact->nickname, body.size() == avatarBytes ? std::optional(body) : std::nullopt);
 }
 

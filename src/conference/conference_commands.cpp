@@ -22,9 +22,9 @@ bool isHostsNumber(std::int16_t number)
 
 } // namespace
 
-void ConferenceCommands::conferenceDatagram(const QString &ip, const wire::Datagram &datagram)
+void ConferenceCommands::conferenceDatagram(Ipv4Address ip, const wire::Datagram &datagram)
 {
-    m_ip = ip;
+    m_ip = addressText(ip);
     std::visit(*this, datagram);
 }
 
@@ -113,7 +113,7 @@ void ConferenceCommands::operator()(const wire::ConferenceList &list)
     participants.setAllAbsent();
     std::size_t taken = 0;
     for (const std::string &address : list.addresses) {
-        const QString ip = QString::fromStdString(address);
+        const std::optional<Ipv4Address> ip = Ipv4Address::parse(address);
         const std::optional<Refusal> refusal = contactRefusal(ip, m_parts.common, m_parts.contacts);
         if (refusal == Refusal::ownAddress)
             continue;
@@ -123,7 +123,7 @@ void ConferenceCommands::operator()(const wire::ConferenceList &list)
         else if (refusal == Refusal::listFull)
             m_parts.drops.count(Drop::tooManyContacts);
         else
-            listed(*conference, ip);
+            listed(*conference, addressText(*ip));
     }
     QStringList gone;
     for (const Participant &participant : participants.rows()) {

@@ -30,7 +30,7 @@ public:
 
     explicit ConferenceCommands(const Parts &parts) : m_parts(parts) { }
 
-    void conferenceDatagram(const QString &ip, const wire::Datagram &datagram) override;
+    void conferenceDatagram(Ipv4Address ip, const wire::Datagram &datagram) override;
 
     // One overload per kind.
     void operator()(const wire::ConferenceInvitation &invitation);

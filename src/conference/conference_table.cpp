@@ -16,7 +16,7 @@ void ConferenceTable::contactChanged(const Contact &contact)
 {
     for (const auto &conference : m_slots) {
         if (conference)
-            conference->partecipanti().setName(contact.ip, contact.nickname);
+            conference->partecipanti().setName(contact.ip.text(), contact.nickname);
     }
 }
 

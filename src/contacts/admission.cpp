@@ -6,16 +6,17 @@
 namespace nimb
 {
 
-std::optional<Refusal> contactRefusal(const QString &ip, const Common &common, const ContactList &contacts)
+std::optional<Refusal> contactRefusal(std::optional<Ipv4Address> ip, const Common &common, const ContactList &contacts)
 {
-    const std::optional<Ipv4Address> address = readAddress(ip);
-    if (ip == common.ownIP)
-        return Refusal::ownAddress;
-    if (address == Ipv4Address(127, 0, 0, 1))
-        return Refusal::thisMachine;
-    if (!address || !address->isUnicast())
+    if (!ip)
         return Refusal::noUnicast;
-    if (contacts.isContact(ip))
+    if (ip == readAddress(common.ownIP))
+        return Refusal::ownAddress;
+    if (ip == Ipv4Address(127, 0, 0, 1))
+        return Refusal::thisMachine;
+    if (!ip->isUnicast())
+        return Refusal::noUnicast;
+    if (contacts.isContact(*ip))
         return Refusal::alreadyThere;
     if (contacts.rowCount() >= limits::contactsFromStrangers)
         return Refusal::listFull;

@@ -14,14 +14,14 @@ enum class Refusal {
     ownAddress,   ///< it is this copy's own
     thisMachine,  ///< 127.0.0.1, which means whoever says it. Other copies on this machine have other loopback
                   ///< addresses.
-    noUnicast,    ///< it is not the dotted IPv4 address of one host
+    noUnicast,    ///< it is not the address of one host, or none at all
     alreadyThere, ///< it is a contact's
     listFull,     ///< peers have caused as many contacts as they may
 };
 
 /// Empty when the address may become a contact; otherwise the first of the rules, in the order above, that it breaks.
 /// All of them bind what peers bring; what the user types is bound by fewer, as the caller sees fit.
-[[nodiscard]] std::optional<Refusal> contactRefusal(const QString &ip, const Common &common,
+[[nodiscard]] std::optional<Refusal> contactRefusal(std::optional<Ipv4Address> ip, const Common &common,
                                                     const ContactList &contacts);
 
 } // namespace nimb

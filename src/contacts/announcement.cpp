@@ -16,28 +16,28 @@ wire::Identity ownIdentity(const Common &common)
 
 } // namespace
 
-void PresenceSender::question(const QString &ip) const
+void PresenceSender::question(const ContactAddress &ip) const
 {
-    sendDatagram(m_socket, ip, wire::OnlineQuestion{ownIdentity(m_common)});
+    sendDatagram(m_socket, ip.ipv4(), wire::OnlineQuestion{ownIdentity(m_common)});
 }
 
-void PresenceSender::answer(const QString &ip) const
+void PresenceSender::answer(const ContactAddress &ip) const
 {
-    sendDatagram(m_socket, ip, wire::OnlineAnswer{ownIdentity(m_common)});
+    sendDatagram(m_socket, ip.ipv4(), wire::OnlineAnswer{ownIdentity(m_common)});
 }
 
-void PresenceSender::farewell(const QString &ip) const
+void PresenceSender::farewell(const ContactAddress &ip) const
 {
-    sendDatagram(m_socket, ip, wire::Offline{ownIdentity(m_common)});
+    sendDatagram(m_socket, ip.ipv4(), wire::Offline{ownIdentity(m_common)});
 }
 
-void PresenceSender::status(const QString &ip) const
+void PresenceSender::status(const ContactAddress &ip) const
 {
     const OwnPresence &own = m_common.ownPresence;
-    sendDatagram(m_socket, ip, wire::Status{toWire(stateWord(own.base)), toWire(own.words)});
+    sendDatagram(m_socket, ip.ipv4(), wire::Status{toWire(stateWord(own.base)), toWire(own.words)});
 }
 
-void PresenceSender::statusUnlessOnline(const QString &ip) const
+void PresenceSender::statusUnlessOnline(const ContactAddress &ip) const
 {
     if (m_common.ownPresence.base != BaseState::online)
         status(ip);
@@ -63,7 +63,7 @@ void Announcement::run()
 
 void Announcement::askNextBatch()
 {
-    const qsizetype end = qMin(m_toAsk.size(), m_asked + limits::announcementBatch);
+    const std::size_t end = std::min(m_toAsk.size(), m_asked + limits::announcementBatch);
     while (m_asked < end)
         ask(m_toAsk.at(m_asked++));
     if (m_asked < m_toAsk.size())
@@ -72,7 +72,7 @@ void Announcement::askNextBatch()
         m_timer1->start();
 }
 
-void Announcement::ask(const QString &ip)
+void Announcement::ask(const ContactAddress &ip)
 {
     const bool stillThere = m_contacts.change(ip, [](Contact &contact) {
         contact.setPresence(Presence::unknown);
@@ -86,7 +86,7 @@ void Announcement::ask(const QString &ip)
 
 void Announcement::Timer1_Timer()
 {
-    for (const QString &ip : m_contacts.addresses()) {
+    for (const ContactAddress &ip : m_contacts.addresses()) {
         if (m_contacts.find(ip)->presence == Presence::unknown)
             m_contacts.change(ip, [](Contact &contact) { contact.setPresence(Presence::offline); });
     }

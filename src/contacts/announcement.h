@@ -16,13 +16,13 @@ class PresenceSender
 public:
     PresenceSender(const Common &common, Winsock &socket) : m_common(common), m_socket(socket) { }
 
-    void question(const QString &ip) const;
-    void answer(const QString &ip) const;
-    void farewell(const QString &ip) const;
+    void question(const ContactAddress &ip) const;
+    void answer(const ContactAddress &ip) const;
+    void farewell(const ContactAddress &ip) const;
     /// The own state word, with its text where it has one.
-    void status(const QString &ip) const;
+    void status(const ContactAddress &ip) const;
     /// The same, unless Online was chosen: peers take that for granted.
-    void statusUnlessOnline(const QString &ip) const;
+    void statusUnlessOnline(const ContactAddress &ip) const;
 
 private:
     const Common &m_common;
@@ -40,15 +40,15 @@ public:
 
 private:
     void askNextBatch();
-    void ask(const QString &ip);
+    void ask(const ContactAddress &ip);
     void Timer1_Timer();
 
     Common &m_common;
     ContactList &m_contacts;
     PresenceSender &m_sender;
     AnnouncementView &m_view;
-    QStringList m_toAsk; ///< the list's order when the announcement began
-    qsizetype m_asked = 0;
+    std::vector<ContactAddress> m_toAsk; ///< the list's order when the announcement began
+    std::size_t m_asked = 0;
     std::unique_ptr<Timer> m_nextBatch;
     std::unique_ptr<Timer> m_timer1;
 };

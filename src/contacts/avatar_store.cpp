@@ -13,18 +13,20 @@ AvatarStore::AvatarStore(ContactList &contacts) : m_contacts(contacts)
 
 void AvatarStore::forgetRows(int first, int last)
 {
-    for (int row = first; row <= last; ++row)
-        m_avatars.remove(m_contacts.at(row).ip);
+    for (int row = first; row <= last; ++row) {
+        if (const std::optional<Ipv4Address> address = m_contacts.at(row).ip.ipv4())
+            m_avatars.remove(*address);
+    }
 }
 
-const Avatar &AvatarStore::of(const QString &ip) const
+const Avatar &AvatarStore::of(const ContactAddress &ip) const
 {
     static const Avatar none;
-    const auto found = m_avatars.constFind(ip);
+    const auto found = ip.ipv4() ? m_avatars.constFind(*ip.ipv4()) : m_avatars.constEnd();
     return found == m_avatars.constEnd() ? none : *found;
 }
 
-Avatar &AvatarStore::entry(const QString &ip)
+Avatar &AvatarStore::entry(Ipv4Address ip)
 {
     if (!m_avatars.contains(ip)) {
         const QString number = QString::number(++m_count);
@@ -33,18 +35,18 @@ Avatar &AvatarStore::entry(const QString &ip)
     return m_avatars[ip];
 }
 
-void AvatarStore::setHead(const QString &ip, const std::string &head)
+void AvatarStore::setHead(Ipv4Address ip, const std::string &head)
 {
     entry(ip).head = head.substr(0, limits::avatarHeadLength);
 }
 
-void AvatarStore::setBody(const QString &ip, const std::string &body)
+void AvatarStore::setBody(Ipv4Address ip, const std::string &body)
 {
     const QByteArray bytes = QByteArray::fromStdString(body);
     entry(ip).body = bytes.size() == avatarBytes ? bytes : QByteArray();
 }
 
-void AvatarStore::clear(const QString &ip)
+void AvatarStore::clear(Ipv4Address ip)
 {
     if (m_avatars.contains(ip))
         m_avatars[ip] = {};

@@ -17,19 +17,19 @@ public:
     explicit AvatarStore(ContactList &contacts);
 
     /// The contact's avatar; an empty one when none is known.
-    const Avatar &of(const QString &ip) const;
-    void setHead(const QString &ip, const std::string &head);
+    const Avatar &of(const ContactAddress &ip) const;
+    void setHead(Ipv4Address ip, const std::string &head);
     /// Bytes of any other length than that of a picture are kept as no picture.
-    void setBody(const QString &ip, const std::string &body);
+    void setBody(Ipv4Address ip, const std::string &body);
     /// The peer says that it has no avatar.
-    void clear(const QString &ip);
+    void clear(Ipv4Address ip);
 
 private:
-    Avatar &entry(const QString &ip);
+    Avatar &entry(Ipv4Address ip);
     void forgetRows(int first, int last);
 
     ContactList &m_contacts;
-    QHash<QString, Avatar> m_avatars; ///< by address
+    QHash<Ipv4Address, Avatar> m_avatars;
     int m_count = 0;
 };
 

@@ -48,7 +48,7 @@ void Contact::setUnheard()
 
 ContactList::~ContactList() = default;
 
-const Contact *ContactList::find(const QString &ip) const
+const Contact *ContactList::find(const ContactAddress &ip) const
 {
     const Row *row = m_byAddress.value(ip);
     return row ? &row->contact : nullptr;
@@ -59,18 +59,18 @@ const Contact &ContactList::at(int row) const
     return m_rows.at(static_cast<std::size_t>(row))->contact;
 }
 
-int ContactList::rowOf(const QString &ip) const
+int ContactList::rowOf(const ContactAddress &ip) const
 {
     const Row *row = m_byAddress.value(ip);
     return row ? position(*row) : -1;
 }
 
-QStringList ContactList::addresses() const
+std::vector<ContactAddress> ContactList::addresses() const
 {
-    QStringList list;
-    list.reserve(rowCount());
+    std::vector<ContactAddress> list;
+    list.reserve(m_rows.size());
     for (const auto &row : m_rows)
-        list.append(row->contact.ip);
+        list.push_back(row->contact.ip);
     return list;
 }
 
@@ -100,7 +100,7 @@ bool ContactList::add(Contact contact)
     return true;
 }
 
-bool ContactList::change(const QString &ip, const std::function<void(Contact &)> &edit)
+bool ContactList::change(const ContactAddress &ip, const std::function<void(Contact &)> &edit)
 {
     Row *row = m_byAddress.value(ip);
     if (!row)
@@ -108,7 +108,7 @@ bool ContactList::change(const QString &ip, const std::function<void(Contact &)>
     const int from = position(*row);
     Row edited = *row;
     edit(edited.contact);
-    Q_ASSERT(edited.contact.ip == ip);
+    Q_ASSERT(edited.contact.ip == row->contact.ip);
     if (edited.contact.sortKey != row->contact.sortKey)
         moveRow(from, edited);
     row->contact = std::move(edited.contact);
@@ -139,7 +139,7 @@ void ContactList::moveRow(int from, Row &row)
     endMoveRows();
 }
 
-bool ContactList::remove(const QString &ip)
+bool ContactList::remove(const ContactAddress &ip)
 {
     const int row = rowOf(ip);
     if (row < 0)
@@ -170,7 +170,7 @@ void ContactList::load(const SettingsStore &store)
 void ContactList::saveContact(SettingsStore &store, int number, const Contact &contact)
 {
     const QString n = QString::number(number);
-    store.write(usersSection, QLatin1String("IP") + n, contact.ip);
+    store.write(usersSection, QLatin1String("IP") + n, contact.ip.text());
     store.write(usersSection, QLatin1String("Nn") + n, contact.nickname);
     store.write(usersSection, QLatin1String("Ws") + n, contact.workstation);
 }
@@ -196,9 +196,9 @@ QVariant ContactList::data(const QModelIndex &index, int role) const
         return {};
     const Contact &contact = at(index.row());
     if (role == KeyRole)
-        return QString(QLatin1String("IP") + contact.ip);
+        return QString(QLatin1String("IP") + contact.ip.text());
     if (role == TagRole)
-        return contact.ip;
+        return contact.ip.text();
     if (role == PictureRole)
         return pictureKey(pictureOf(contact.presence));
     if (role != Qt::DisplayRole)
@@ -209,7 +209,7 @@ QVariant ContactList::data(const QModelIndex &index, int role) const
     case Workstation:
         return contact.workstation;
     case IpAddress:
-        return contact.ip;
+        return contact.ip.text();
     case State:
         return contact.sortKey;
     case PrivateWin:

@@ -1,6 +1,7 @@
 // The user's own list of peers: an item model that keeps itself sorted.
 #pragma once
 
+#include "base/contact_address.h"
 #include "base/presence.h"
 #include "base/settings_store.h"
 #include "protocol/handlers.h"
@@ -23,7 +24,7 @@ inline const QString endOfStoredContacts = QStringLiteral("255.255.255.255");
 struct Contact {
     QString nickname; ///< the row's text
     QString workstation;
-    QString ip; ///< the row's tag: where every datagram to this contact goes
+    ContactAddress ip; ///< where every datagram to this contact goes; its text is the row's tag
     Presence presence = Presence::unknown;
     QString sortKey;
     int privateWindow = 0; ///< number of the peer's private window, 0 when none is open
@@ -54,19 +55,20 @@ public:
 
     /// The contact with this address, or null. The pointer is good until the contact is removed; rows changed through
     /// change() only.
-    const Contact *find(const QString &ip) const;
-    bool isContact(const QString &ip) const override { return find(ip) != nullptr; }
+    const Contact *find(const ContactAddress &ip) const;
+    bool isContact(Ipv4Address ip) const override { return find(ip) != nullptr; }
+    bool isContact(const ContactAddress &ip) const { return find(ip) != nullptr; }
     const Contact &at(int row) const;
-    int rowOf(const QString &ip) const; ///< -1 when there is none
-    /// Addresses in list order.
-    QStringList addresses() const;
+    int rowOf(const ContactAddress &ip) const; ///< -1 when there is none
+    /// In list order.
+    std::vector<ContactAddress> addresses() const;
 
     /// False, and nothing changes, when the address is there already or empty.
     bool add(Contact contact);
     /// Applies the edit to the contact with this address and moves its row to where it belongs now. The edit must not
     /// touch the address. False when there is no such contact.
-    bool change(const QString &ip, const std::function<void(Contact &)> &edit);
-    bool remove(const QString &ip);
+    bool change(const ContactAddress &ip, const std::function<void(Contact &)> &edit);
+    bool remove(const ContactAddress &ip);
 
     /// Reads the stored list; every contact starts as not yet known. The list must be empty.
     void load(const SettingsStore &store);
@@ -90,7 +92,7 @@ private:
     void moveRow(int from, Row &row);
 
     std::vector<std::unique_ptr<Row>> m_rows;
-    QHash<QString, Row *> m_byAddress;
+    QHash<ContactAddress, Row *> m_byAddress;
     quint64 m_arrivals = 0;
 };
 

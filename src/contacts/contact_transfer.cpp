@@ -30,7 +30,7 @@ void moveAll(TransferList &from, TransferList &to)
 
 wire::SharedContact sharedContact(const Contact &contact)
 {
-    return {wire::Identity{toWire(contact.ip), toWire(oneWord(contact.workstation)), toWire(contact.nickname)}};
+    return {wire::Identity{toWire(contact.ip.text()), toWire(oneWord(contact.workstation)), toWire(contact.nickname)}};
 }
 
 } // namespace
@@ -79,9 +79,9 @@ QVariant TransferList::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return row.text;
     case KeyRole:
-        return row.key;
+        return QString(QLatin1String("IP") + row.address.text());
     case TagRole:
-        return row.address;
+        return row.address.text();
     case PictureRole:
         return pictureKey(pictureOf(row.presence));
     default:
@@ -98,7 +98,7 @@ QVariant TransferList::headerData(int section, Qt::Orientation orientation, int 
 
 // --- the rules
 
-ContactTransfer::ContactTransfer(Winsock &socket, const ContactList &contacts, QString destination)
+ContactTransfer::ContactTransfer(Winsock &socket, const ContactList &contacts, ContactAddress destination)
     : m_socket(socket), m_contacts(contacts), m_destination(std::move(destination))
 {
 }
@@ -109,7 +109,7 @@ void ContactTransfer::Form_Load()
     for (int row = 0; row < m_contacts.rowCount(); ++row) {
         const Contact &contact = m_contacts.at(row);
         if (contact.ip != m_destination)
-            rows.push_back({QLatin1String("IP") + contact.ip, contact.nickname, contact.ip, contact.presence});
+            rows.push_back({contact.nickname, contact.ip, contact.presence});
     }
     m_offered.append(std::move(rows));
 }
@@ -138,7 +138,7 @@ void ContactTransfer::sendbtn_Click()
 {
     for (const TransferRow &row : m_chosen.rows()) {
         if (const Contact *const contact = m_contacts.find(row.address))
-            sendDatagram(m_socket, m_destination, sharedContact(*contact));
+            sendDatagram(m_socket, m_destination.ipv4(), sharedContact(*contact));
     }
 }
 

@@ -10,9 +10,8 @@ namespace nimb
 {
 
 struct TransferRow {
-    QString key;  ///< "IP" and the address
     QString text; ///< the nickname when the row was made
-    QString address;
+    ContactAddress address;
     Presence presence = Presence::unknown;
 };
 
@@ -22,6 +21,7 @@ class TransferList : public QAbstractListModel
     Q_OBJECT
 
 public:
+    /// The key ("IP" and the address), the address, the name of the picture.
     enum Role { KeyRole = Qt::UserRole, TagRole, PictureRole };
 
     using QAbstractListModel::QAbstractListModel;
@@ -44,7 +44,7 @@ class ContactTransfer
 {
 public:
     /// destination: address of the contact to whom the others are sent.
-    ContactTransfer(Winsock &socket, const ContactList &contacts, QString destination);
+    ContactTransfer(Winsock &socket, const ContactList &contacts, ContactAddress destination);
 
     /// Offers every contact but the destination, in the order of the contact list.
     void Form_Load();
@@ -63,7 +63,7 @@ public:
 private:
     Winsock &m_socket;
     const ContactList &m_contacts;
-    const QString m_destination;
+    const ContactAddress m_destination;
     TransferList m_offered;
     TransferList m_chosen;
 };

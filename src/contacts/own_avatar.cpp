@@ -57,7 +57,7 @@ std::optional<QByteArray> OwnAvatar::picture()
     return has ? std::optional(body()) : std::nullopt;
 }
 
-void OwnAvatar::answerHead(const QString &ip)
+void OwnAvatar::answerHead(Ipv4Address ip)
 {
     if (m_common.isInvisible())
         return;
@@ -68,7 +68,7 @@ void OwnAvatar::answerHead(const QString &ip)
         sendDatagram(m_socket, ip, wire::AvatarHead{ownHead});
 }
 
-void OwnAvatar::answerBody(const QString &ip)
+void OwnAvatar::answerBody(Ipv4Address ip)
 {
     if (m_common.isInvisible())
         return;

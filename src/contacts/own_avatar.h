@@ -30,9 +30,9 @@ public:
     /// What a peer who asked now would be shown: a picture of avatarBytes bytes, or nothing.
     std::optional<QByteArray> picture();
     /// A peer asks which avatar there is. Nobody is answered while the own state is Invisible.
-    void answerHead(const QString &ip);
+    void answerHead(Ipv4Address ip);
     /// A peer asks for the picture. Whether there is one is told by the head.
-    void answerBody(const QString &ip);
+    void answerBody(Ipv4Address ip);
 
 private:
     void takeFrame();

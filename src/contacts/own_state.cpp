@@ -104,9 +104,9 @@ void OwnState::goInvisible()
     m_view.setRescanEnabled(true);
 }
 
-void OwnState::tellPresentContacts(void (PresenceSender::*tell)(const QString &) const)
+void OwnState::tellPresentContacts(void (PresenceSender::*tell)(const ContactAddress &) const)
 {
-    for (const QString &ip : m_contacts.addresses()) {
+    for (const ContactAddress &ip : m_contacts.addresses()) {
         if (isPresent(m_contacts.find(ip)->presence))
             (m_sender.*tell)(ip);
     }

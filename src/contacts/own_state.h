@@ -55,7 +55,7 @@ private:
     void showAutoReply();
     void showRescanHint();
     /// Calls the sender for every contact known to be present.
-    void tellPresentContacts(void (PresenceSender::*tell)(const QString &) const);
+    void tellPresentContacts(void (PresenceSender::*tell)(const ContactAddress &) const);
 
     Common &m_common;
     ContactList &m_contacts;

@@ -32,7 +32,7 @@ PresenceReceiver::PresenceReceiver(const Common &common, ContactList &contacts, 
 {
 }
 
-void PresenceReceiver::strangerSeen(const QString &ip, const PeerIdentity &peer, bool online)
+void PresenceReceiver::strangerSeen(Ipv4Address ip, const PeerIdentity &peer, bool online)
 {
     if (const std::optional<Refusal> refusal = contactRefusal(ip, m_common, m_contacts))
         return m_drops.count(reasonOf(*refusal));
@@ -44,7 +44,7 @@ void PresenceReceiver::strangerSeen(const QString &ip, const PeerIdentity &peer,
     m_contacts.add(std::move(contact));
 }
 
-void PresenceReceiver::cameOnline(const QString &ip, const std::optional<PeerIdentity> &peer, bool asks)
+void PresenceReceiver::cameOnline(Ipv4Address ip, const std::optional<PeerIdentity> &peer, bool asks)
 {
     const bool wasPresent = isPresent(m_contacts.find(ip)->presence);
     m_contacts.change(ip, [&peer](Contact &contact) {
@@ -57,26 +57,26 @@ void PresenceReceiver::cameOnline(const QString &ip, const std::optional<PeerIde
     });
     const Contact &contact = *m_contacts.find(ip);
     if (!wasPresent)
-        notify({tr("%1 is online").arg(paintedName(contact.nickname)), Presence::online, ip});
+        notify({tr("%1 is online").arg(paintedName(contact.nickname)), Presence::online, addressText(ip)});
     m_log.wentOnline(contact.nickname);
     tellPrivateWindow(contact, tr("%1 is online").arg(contact.nickname));
     if (asks)
         answer(ip);
 }
 
-void PresenceReceiver::wentOffline(const QString &ip)
+void PresenceReceiver::wentOffline(Ipv4Address ip)
 {
     m_contacts.change(ip, [](Contact &contact) {
         contact.setPresence(Presence::offline);
         contact.state.clear();
     });
     const Contact &contact = *m_contacts.find(ip);
-    notify({tr("%1 is offline").arg(paintedName(contact.nickname)), Presence::offline, ip});
+    notify({tr("%1 is offline").arg(paintedName(contact.nickname)), Presence::offline, addressText(ip)});
     m_log.wentOffline(contact.nickname);
     tellPrivateWindow(contact, tr("%1 has gone offline").arg(contact.nickname));
 }
 
-void PresenceReceiver::changedState(const QString &ip, const QString &state, const QString &text)
+void PresenceReceiver::changedState(Ipv4Address ip, const QString &state, const QString &text)
 {
     const QString shownState = remoteName(state);
     const QString personalized = remoteName(text);
@@ -107,7 +107,7 @@ void PresenceReceiver::tellPrivateWindow(const Contact &contact, const QString &
     m_privateLogs.appendPresence(contact.privateWindow, opening + sentence);
 }
 
-void PresenceReceiver::answer(const QString &ip)
+void PresenceReceiver::answer(Ipv4Address ip)
 {
     if (m_common.isInvisible())
         return;

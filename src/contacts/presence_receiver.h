@@ -27,15 +27,15 @@ public:
     PresenceReceiver(const Common &common, ContactList &contacts, PresenceSender &sender, MainLog &log,
                      PrivateLogs &privateLogs, Notifications &notifications, const WallClock &clock, DropCounts &drops);
 
-    void strangerSeen(const QString &ip, const PeerIdentity &peer, bool online) override;
-    void cameOnline(const QString &ip, const std::optional<PeerIdentity> &peer, bool asks) override;
-    void wentOffline(const QString &ip) override;
-    void changedState(const QString &ip, const QString &state, const QString &text) override;
+    void strangerSeen(Ipv4Address ip, const PeerIdentity &peer, bool online) override;
+    void cameOnline(Ipv4Address ip, const std::optional<PeerIdentity> &peer, bool asks) override;
+    void wentOffline(Ipv4Address ip) override;
+    void changedState(Ipv4Address ip, const QString &state, const QString &text) override;
 
 private:
     void notify(const Notification &notification);
     void tellPrivateWindow(const Contact &contact, const QString &sentence);
-    void answer(const QString &ip);
+    void answer(Ipv4Address ip);
 
     const Common &m_common;
     ContactList &m_contacts;

@@ -5,9 +5,10 @@
 namespace nimb
 {
 
-void SharedContacts::sharedContact(const QString &, const PeerIdentity &shared)
+void SharedContacts::sharedContact(Ipv4Address, const PeerIdentity &shared)
 {
-    const std::optional<Refusal> refusal = contactRefusal(shared.ip, m_common, m_contacts);
+    const std::optional<Ipv4Address> address = readAddress(shared.ip);
+    const std::optional<Refusal> refusal = contactRefusal(address, m_common, m_contacts);
     if (refusal == Refusal::noUnicast)
         return m_drops.count(Drop::badAddress);
     if (refusal == Refusal::listFull)
@@ -15,7 +16,7 @@ void SharedContacts::sharedContact(const QString &, const PeerIdentity &shared)
     if (refusal)
         return; // a peer who shares its whole list shares us and those whom we know with it
     Contact contact;
-    contact.ip = shared.ip;
+    contact.ip = *address;
     contact.nickname = nameOrUnknown(shared.nick);
     contact.workstation = nameOrUnknown(shared.host);
     contact.setUnheard();

@@ -18,7 +18,7 @@ public:
     {
     }
 
-    void sharedContact(const QString &ip, const PeerIdentity &contact) override;
+    void sharedContact(Ipv4Address ip, const PeerIdentity &contact) override;
 
 private:
     const Common &m_common;

@@ -29,7 +29,7 @@ QString ContactCommands::toolTip(const QString &ip) const
 QString ContactCommands::details(const QString &ip) const
 {
     const Contact *contact = m_contacts.find(ip);
-    return contact ? tr("%1 on %2 (%3)").arg(contact->nickname, contact->workstation, contact->ip) : QString();
+    return contact ? tr("%1 on %2 (%3)").arg(contact->nickname, contact->workstation, contact->ip.text()) : QString();
 }
 
 void ContactCommands::mnuPrivateChat(const QString &ip)
@@ -51,7 +51,7 @@ void ContactCommands::mnuRemoveUser(const QString &ip)
     if (!contact)
         return;
     const QString question = tr("Are you sure you want to remove the user '%1' on workstation '%2' (%3) ?")
-                                 .arg(contact->nickname, contact->workstation, contact->ip);
+                                 .arg(contact->nickname, contact->workstation, contact->ip.text());
     if (!m_services.prompts.confirm(question, tr("Please confirm user removal")))
         return;
     // The list may have changed while the question stood there.

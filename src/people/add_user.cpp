@@ -7,11 +7,11 @@ namespace nimb
 
 QString AddUser::objection(const QString &nickname, const QString &hostname, const QString &ipaddress) const
 {
-    if (m_contacts.isContact(ipaddress))
+    if (m_contacts.find(ipaddress))
         return tr("IP Address already used by another user");
     if (nickname.isEmpty() || hostname.isEmpty() || ipaddress.isEmpty())
         return tr("Please fill all the fields");
-    const std::optional<Refusal> refusal = contactRefusal(ipaddress, m_common, m_contacts);
+    const std::optional<Refusal> refusal = contactRefusal(readAddress(ipaddress), m_common, m_contacts);
     if (hostname == m_common.ownHostName || refusal == Refusal::ownAddress)
         return tr("You can't add yourself...");
     // The other rules guard against what peers bring. What the user types may be a name, and is taken as it is.

@@ -12,11 +12,11 @@ void NetworkScan::Command1_Click(const QString &typed)
     if (text.isEmpty())
         return;
     if (const auto address = readAddress(text, Ipv4Address::LeadingZeros::skipped)) {
-        m_sender.question(addressText(*address));
+        m_sender.question(*address);
         return;
     }
     // The answer may come when the dialog and this object are gone.
-    m_resolver.resolve(text, [&sender = m_sender, &log = m_log, text](const std::optional<QString> &address) {
+    m_resolver.resolve(text, [&sender = m_sender, &log = m_log, text](std::optional<Ipv4Address> address) {
         if (address)
             sender.question(*address);
         else

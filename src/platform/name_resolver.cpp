@@ -1,7 +1,5 @@
 #include "platform/name_resolver.h"
 
-#include "protocol/address_text.h"
-
 #include <QHostAddress>
 #include <QUrl>
 
@@ -102,7 +100,7 @@ void HostNameResolver::resolve(const QString &name, Found found)
 void HostNameResolver::answer(quint64 question, std::optional<Ipv4Address> address)
 {
     const Found found = m_waiting.take(question);
-    found(address ? std::optional(addressText(*address)) : std::nullopt);
+    found(address);
 }
 
 } // namespace nimb

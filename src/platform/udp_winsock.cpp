@@ -29,11 +29,6 @@ UdpWinsock::UdpWinsock(DropCounts &drops, std::optional<QString> address, std::o
 {
 }
 
-void UdpWinsock::setRemoteHost(const QString &address)
-{
-    m_remoteHost = readAddress(address);
-}
-
 BindFailure UdpWinsock::bindFailureOf(int error)
 {
     switch (error) {
@@ -99,11 +94,6 @@ std::string UdpWinsock::GetData(std::size_t byteCount)
     m_lastSource = m_waiting.source.address;
     const std::size_t size = std::min(byteCount, std::exchange(m_waiting.size, 0));
     return std::string(m_buffer.data(), size);
-}
-
-QString UdpWinsock::RemoteHostIP() const
-{
-    return m_lastSource ? addressText(*m_lastSource) : QString();
 }
 
 QString UdpWinsock::LocalIP() const

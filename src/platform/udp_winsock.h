@@ -33,8 +33,7 @@ public:
 
     void setLocalPort(std::uint16_t port) override { m_localPort = port; }
     void setRemotePort(std::uint16_t port) override { m_remotePort = port; }
-    /// Names are not resolved: what is sent after anything but a dotted IPv4 address counts as not sent.
-    void setRemoteHost(const QString &address) override;
+    void setRemoteHost(std::optional<Ipv4Address> address) override { m_remoteHost = address; }
 
     bool bind() override;
     bool isBound() const override { return m_own.has_value(); }
@@ -42,7 +41,7 @@ public:
 
     void SendData(const std::string &bytes) override;
     std::string GetData(std::size_t byteCount) override;
-    QString RemoteHostIP() const override;
+    Ipv4Address RemoteHostIP() const override { return m_lastSource; }
 
     /// NIMB-Chat's own address as other copies see it; asked of the system anew each time.
     QString LocalIP() const override;
@@ -74,7 +73,7 @@ private:
     std::uint16_t m_localPort = 0;
     std::uint16_t m_remotePort = 0;
     std::optional<Ipv4Address> m_remoteHost;
-    std::optional<Ipv4Address> m_lastSource;
+    Ipv4Address m_lastSource;
     DatagramSocket::Arrival m_waiting; ///< announced and not yet taken
     DatagramSocket::Buffer m_buffer = {};
     std::optional<Ear> m_own;

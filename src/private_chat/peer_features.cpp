@@ -6,13 +6,13 @@
 namespace nimb
 {
 
-PrivateChat *PeerFeatures::windowOf(const QString &ip)
+PrivateChat *PeerFeatures::windowOf(Ipv4Address ip)
 {
     const int window = m_parts.contacts.find(ip)->privateWindow;
     return window > 0 ? m_parts.windows.at(window) : nullptr;
 }
 
-void PeerFeatures::buzz(const QString &ip)
+void PeerFeatures::buzz(Ipv4Address ip)
 {
     if (m_parts.common.hearsReceivedBuzz())
         m_parts.sound.playAlarm();
@@ -22,7 +22,7 @@ void PeerFeatures::buzz(const QString &ip)
         window->buzzed(text);
 }
 
-void PeerFeatures::typing(const QString &ip)
+void PeerFeatures::typing(Ipv4Address ip)
 {
     const QString text = tr("%1 is typing a message...").arg(paintedName(m_parts.contacts.find(ip)->nickname));
     if (PrivateChat *const window = windowOf(ip))
@@ -31,7 +31,7 @@ void PeerFeatures::typing(const QString &ip)
         m_parts.activity.show(text);
 }
 
-void PeerFeatures::liveType(const QString &ip, const QString &text)
+void PeerFeatures::liveType(Ipv4Address ip, const QString &text)
 {
     if (PrivateChat *const window = windowOf(ip))
         window->liveTypeReceived(text);
@@ -39,7 +39,7 @@ void PeerFeatures::liveType(const QString &ip, const QString &text)
         m_parts.drops.count(Drop::noWindow);
 }
 
-void PeerFeatures::mood(const QString &ip, const QString &value)
+void PeerFeatures::mood(Ipv4Address ip, const QString &value)
 {
     PrivateChat *const window = windowOf(ip);
     if (!window)
@@ -48,35 +48,35 @@ void PeerFeatures::mood(const QString &ip, const QString &value)
         window->setmood(*mood);
 }
 
-void PeerFeatures::avatarHeadQuestion(const QString &ip)
+void PeerFeatures::avatarHeadQuestion(Ipv4Address ip)
 {
     m_parts.ownAvatar.answerHead(ip);
 }
 
-void PeerFeatures::avatarBodyQuestion(const QString &ip)
+void PeerFeatures::avatarBodyQuestion(Ipv4Address ip)
 {
     m_parts.ownAvatar.answerBody(ip);
 }
 
-void PeerFeatures::avatarHead(const QString &ip, const std::string &head)
+void PeerFeatures::avatarHead(Ipv4Address ip, const std::string &head)
 {
     m_parts.avatars.setHead(ip, head);
     sendDatagram(m_parts.socket, ip, wire::AvatarBodyQuestion{});
 }
 
-void PeerFeatures::avatarBody(const QString &ip, const std::string &body)
+void PeerFeatures::avatarBody(Ipv4Address ip, const std::string &body)
 {
     m_parts.avatars.setBody(ip, body);
     avatarChanged(ip);
 }
 
-void PeerFeatures::avatarOff(const QString &ip)
+void PeerFeatures::avatarOff(Ipv4Address ip)
 {
     m_parts.avatars.clear(ip);
     avatarChanged(ip);
 }
 
-void PeerFeatures::avatarChanged(const QString &ip)
+void PeerFeatures::avatarChanged(Ipv4Address ip)
 {
     if (PrivateChat *const window = windowOf(ip))
         window->AvatarCh_Change(m_parts.avatars.of(ip));

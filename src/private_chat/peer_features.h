@@ -36,23 +36,23 @@ public:
     explicit PeerFeatures(const Parts &parts) : m_parts(parts) { }
 
     /// Heard unless switched off or muted, and always seen.
-    void buzz(const QString &ip) override;
+    void buzz(Ipv4Address ip) override;
     /// Seen in the peer's private window, or in the main window when there is none.
-    void typing(const QString &ip) override;
-    void liveType(const QString &ip, const QString &text) override;
-    void mood(const QString &ip, const QString &value) override;
+    void typing(Ipv4Address ip) override;
+    void liveType(Ipv4Address ip, const QString &text) override;
+    void mood(Ipv4Address ip, const QString &value) override;
 
-    void avatarHeadQuestion(const QString &ip) override;
-    void avatarBodyQuestion(const QString &ip) override;
+    void avatarHeadQuestion(Ipv4Address ip) override;
+    void avatarBodyQuestion(Ipv4Address ip) override;
     /// Kept, and answered by the question for the body.
-    void avatarHead(const QString &ip, const std::string &head) override;
-    void avatarBody(const QString &ip, const std::string &body) override;
-    void avatarOff(const QString &ip) override;
+    void avatarHead(Ipv4Address ip, const std::string &head) override;
+    void avatarBody(Ipv4Address ip, const std::string &body) override;
+    void avatarOff(Ipv4Address ip) override;
 
 private:
     /// The peer's private window, or null.
-    PrivateChat *windowOf(const QString &ip);
-    void avatarChanged(const QString &ip);
+    PrivateChat *windowOf(Ipv4Address ip);
+    void avatarChanged(Ipv4Address ip);
 
     Parts m_parts;
 };

@@ -19,9 +19,9 @@ PrivateChat *PrivateWindows::at(int window)
     return m_table[static_cast<std::size_t>(window - 1)].get();
 }
 
-void PrivateWindows::privateMessage(const QString &ip, const QString &text)
+void PrivateWindows::privateMessage(Ipv4Address ip, const QString &text)
 {
-    PrivateChat &chat = windowOf(ip);
+    PrivateChat &chat = windowOf(*m_contacts.find(ip));
     if (chat.view().isHidden())
         chat.view().showWindow(m_services.conversation.common.options.privateWindowsOnTop ? ShowMode::onTop
                                                                                           : ShowMode::minimised);
@@ -31,18 +31,17 @@ void PrivateWindows::privateMessage(const QString &ip, const QString &text)
 
 void PrivateWindows::openPrivate(const QString &ip)
 {
-    if (m_contacts.isContact(ip))
-        windowOf(ip).view().showWindow(ShowMode::active);
+    if (const Contact *const contact = m_contacts.find(ip))
+        windowOf(*contact).view().showWindow(ShowMode::active);
 }
 
-PrivateChat &PrivateWindows::windowOf(const QString &ip)
+PrivateChat &PrivateWindows::windowOf(const Contact &contact)
 {
-    const Contact &contact = *m_contacts.find(ip);
     if (PrivateChat *open = at(contact.privateWindow))
         return *open;
     // A contact that was removed and came back finds the window that still talks to its address.
-    if (const int number = numberOf(ip)) {
-        m_contacts.change(ip, [number](Contact &row) { row.privateWindow = number; });
+    if (const int number = numberOf(contact.ip.text())) {
+        m_contacts.change(contact.ip, [number](Contact &row) { row.privateWindow = number; });
         at(number)->setContact(true);
         return *at(number);
     }
@@ -56,7 +55,7 @@ PrivateChat &PrivateWindows::make(const Contact &contact)
     m_contacts.change(contact.ip, [number](Contact &row) { row.privateWindow = number; });
     PrivateChat &chat = *m_table.back();
     chat.view().conversation().setCaption(tr("%1 - NIMB-Chat - Private Chat Window").arg(contact.nickname));
-    chat.setPeer(contact.ip);
+    chat.setPeer(contact.ip.text());
     chat.preparewindow();
     return chat;
 }

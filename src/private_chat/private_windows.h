@@ -22,7 +22,7 @@ public:
     PrivateWindows(const PrivateChat::Services &services, ContactList &contacts);
 
     /// A message always reaches the user: a missing window is made, a hidden one shown, neither takes the focus.
-    void privateMessage(const QString &ip, const QString &text) override;
+    void privateMessage(Ipv4Address ip, const QString &text) override;
     void openPrivate(const QString &ip) override;
     /// A hidden window of a removed contact could never be seen again and is unloaded.
     void contactRemoved(const QString &ip) override;
@@ -34,7 +34,7 @@ public:
 
 private:
     /// The contact's window; made, hidden and prepared when there is none. The contact must exist.
-    PrivateChat &windowOf(const QString &ip);
+    PrivateChat &windowOf(const Contact &contact);
     PrivateChat &make(const Contact &contact);
     /// Number of a window whose peer has this address, or 0.
     int numberOf(const QString &ip) const;

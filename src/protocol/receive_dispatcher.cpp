@@ -18,7 +18,7 @@ std::optional<PeerIdentity> textOf(const std::optional<wire::Identity> &identity
 class HandOver
 {
 public:
-    HandOver(const QString &ip, const wire::Datagram &datagram, const Handlers &handlers, DropCounts &drops)
+    HandOver(Ipv4Address ip, const wire::Datagram &datagram, const Handlers &handlers, DropCounts &drops)
         : m_ip(ip), m_datagram(datagram), m_handlers(handlers), m_drops(drops)
     {
     }
@@ -89,7 +89,7 @@ public:
 
 private:
     template <class Handler, class... Parameters, class... Arguments>
-    void to(Handler *handler, void (Handler::*procedure)(const QString &, Parameters...),
+    void to(Handler *handler, void (Handler::*procedure)(Ipv4Address, Parameters...),
             const Arguments &...arguments) const
     {
         if (handler)
@@ -100,7 +100,7 @@ private:
 
     void toConference() const { to(m_handlers.conferences, &ConferenceHandler::conferenceDatagram, m_datagram); }
 
-    const QString &m_ip;
+    Ipv4Address m_ip;
     const wire::Datagram &m_datagram;
     const Handlers &m_handlers;
     DropCounts &m_drops;
@@ -121,7 +121,7 @@ void ReceiveDispatcher::listenTo(Winsock &socket)
     };
 }
 
-void ReceiveDispatcher::receive(const QString &ip, std::string_view bytes)
+void ReceiveDispatcher::receive(Ipv4Address ip, std::string_view bytes)
 {
     const wire::Datagram datagram = wire::parse(bytes);
     if (m_senders.isContact(ip))
@@ -130,7 +130,7 @@ void ReceiveDispatcher::receive(const QString &ip, std::string_view bytes)
         receiveFromStranger(ip, datagram);
 }
 
-void ReceiveDispatcher::receiveFromStranger(const QString &ip, const wire::Datagram &datagram)
+void ReceiveDispatcher::receiveFromStranger(Ipv4Address ip, const wire::Datagram &datagram)
 {
     std::optional<wire::Identity> identity;
     bool online = true;
@@ -148,7 +148,7 @@ void ReceiveDispatcher::receiveFromStranger(const QString &ip, const wire::Datag
         m_drops.count(Drop::stranger);
 }
 
-void ReceiveDispatcher::receiveFromContact(const QString &ip, const wire::Datagram &datagram)
+void ReceiveDispatcher::receiveFromContact(Ipv4Address ip, const wire::Datagram &datagram)
 {
     std::visit(HandOver(ip, datagram, m_handlers, m_drops), datagram);
 }

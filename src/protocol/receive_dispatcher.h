@@ -31,12 +31,12 @@ public:
     /// Listens to the arrivals of this socket, which must outlive its last datagram.
     void listenTo(Winsock &socket);
 
-    /// Handles one datagram completely. ip: its dotted source address.
-    void receive(const QString &ip, std::string_view bytes);
+    /// Handles one datagram completely. ip: its source address.
+    void receive(Ipv4Address ip, std::string_view bytes);
 
 private:
-    void receiveFromStranger(const QString &ip, const wire::Datagram &datagram);
-    void receiveFromContact(const QString &ip, const wire::Datagram &datagram);
+    void receiveFromStranger(Ipv4Address ip, const wire::Datagram &datagram);
+    void receiveFromContact(Ipv4Address ip, const wire::Datagram &datagram);
 
     const Senders &m_senders;
     Handlers m_handlers;

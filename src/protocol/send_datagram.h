@@ -1,6 +1,7 @@
 // Sending, as every caller does it.
 #pragma once
 
+#include "protocol/address_text.h"
 #include "protocol/datagram.h"
 #include "protocol/winsock.h"
 
@@ -8,15 +9,26 @@ namespace nimb
 {
 
 /// The two steps of sending: set the remote host, send the text.
-inline void sendBytes(Winsock &socket, const QString &address, const std::string &bytes)
+inline void sendBytes(Winsock &socket, std::optional<Ipv4Address> to, const std::string &bytes)
 {
-    socket.setRemoteHost(address);
+    socket.setRemoteHost(to);
     socket.SendData(bytes);
 }
 
-inline void sendDatagram(Winsock &socket, const QString &address, const wire::Datagram &datagram)
+inline void sendDatagram(Winsock &socket, std::optional<Ipv4Address> to, const wire::Datagram &datagram)
 {
-    sendBytes(socket, address, wire::serialise(datagram));
+    sendBytes(socket, to, wire::serialise(datagram));
+}
+
+// To the address that a row or a window bears as its text. A text that is no address is nobody's.
+inline void sendBytes(Winsock &socket, const QString &to, const std::string &bytes)
+{
+    sendBytes(socket, readAddress(to), bytes);
+}
+
+inline void sendDatagram(Winsock &socket, const QString &to, const wire::Datagram &datagram)
+{
+    sendDatagram(socket, readAddress(to), datagram);
 }
 
 } // namespace nimb

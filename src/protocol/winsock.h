@@ -1,11 +1,14 @@
 // The one UDP socket, as the program uses it.
 #pragma once
 
+#include "protocol/ipv4_address.h"
+
 #include <QString>
 
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace nimb
@@ -32,8 +35,8 @@ public:
     virtual void setLocalPort(std::uint16_t port) = 0;
     /// The port that every datagram is sent to, 1 to 65535.
     virtual void setRemotePort(std::uint16_t port) = 0;
-    /// Dotted IPv4 address that the following SendData() goes to.
-    virtual void setRemoteHost(const QString &address) = 0;
+    /// Where the following SendData() goes. Without an address it goes nowhere and counts as not sent.
+    virtual void setRemoteHost(std::optional<Ipv4Address> address) = 0;
 
     /// Listens on the local port, shared with nobody. False when the port is taken or may not be used; calling it
     /// again tries again, and is free once bound.
@@ -46,9 +49,10 @@ public:
     virtual void SendData(const std::string &bytes) = 0;
     /// Takes the datagram announced by DataArrival; byteCount is the count that came with it.
     virtual std::string GetData(std::size_t byteCount) = 0;
-    /// Source address, dotted IPv4, of the datagram taken last.
-    virtual QString RemoteHostIP() const = 0;
+    /// Source address of the datagram taken last; unspecified before the first.
+    virtual Ipv4Address RemoteHostIP() const = 0;
 
+    /// Dotted IPv4.
     virtual QString LocalIP() const = 0;
     virtual QString LocalHostName() const = 0;
 

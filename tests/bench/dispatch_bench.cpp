@@ -12,9 +12,9 @@ namespace
 
 const QString ownAddress = QStringLiteral("11.0.0.1");
 
-QString addressOf(int contact)
+Ipv4Address addressOf(int contact)
 {
-    return QStringLiteral("10.%1.%2.%3").arg(contact / 65536).arg(contact / 256 % 256).arg(contact % 256);
+    return Ipv4Address::of(Ipv4Address(10, 0, 0, 0).number() + static_cast<std::uint32_t>(contact));
 }
 
 struct Engine : WholeEngine<SimulatedWinsock, SilentViews> {
@@ -33,7 +33,7 @@ void dispatch(benchmark::State &state, const char *bytes)
 {
     const int contacts = static_cast<int>(state.range(0));
     Engine engine(contacts);
-    const QString ip = addressOf(contacts / 2);
+    const Ipv4Address ip = addressOf(contacts / 2);
     for (auto _ : state) {
         engine.receive(ip, bytes);
         engine.socket.sent.clear();
@@ -53,7 +53,7 @@ void stranger(benchmark::State &state)
 {
     Engine engine(static_cast<int>(state.range(0)));
     for (auto _ : state)
-        engine.receive(QStringLiteral("99.9.9.9"), "-Hello, how are you today?");
+        engine.receive(Ipv4Address(99, 9, 9, 9), "-Hello, how are you today?");
     state.SetItemsProcessed(state.iterations());
 }
 /// Two states in turn, so that the row moves through the list each time.
@@ -61,7 +61,7 @@ void stateChange(benchmark::State &state)
 {
     const int contacts = static_cast<int>(state.range(0));
     Engine engine(contacts);
-    const QString ip = addressOf(contacts / 2);
+    const Ipv4Address ip = addressOf(contacts / 2);
     bool busy = false;
     for (auto _ : state) {
         busy = !busy;

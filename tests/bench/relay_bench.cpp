@@ -31,11 +31,11 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::uint16_t port = 45549;
 constexpr int turns = 5;
-const QString hostAddress = QStringLiteral("127.0.99.1");
+constexpr Ipv4Address hostAddress{127, 0, 99, 1};
 
-QString addressOf(int participant)
+Ipv4Address addressOf(int participant)
 {
-    return QStringLiteral("127.0.%1.%2").arg(participant / 250 + 1).arg(participant % 250 + 1);
+    return {127, 0, static_cast<std::uint8_t>(participant / 250 + 1), static_cast<std::uint8_t>(participant % 250 + 1)};
 }
 
 [[noreturn]] void giveUp(const char *why)
@@ -44,12 +44,12 @@ QString addressOf(int participant)
     std::exit(1);
 }
 
-sockaddr_in endpoint(const QString &ip)
+sockaddr_in endpoint(Ipv4Address ip)
 {
     sockaddr_in address = {};
     address.sin_family = AF_INET;
     address.sin_port = htons(port);
-    inet_pton(AF_INET, ip.toLatin1().constData(), &address.sin_addr);
+    address.sin_addr.s_addr = htonl(ip.number());
     return address;
 }
 
@@ -60,7 +60,7 @@ public:
     explicit Receivers(int count)
     {
         for (int i = 0; i < count; ++i) {
-            m_peers.emplace_back(addressOf(i).toStdString(), port);
+            m_peers.emplace_back(addressOf(i).toText(), port);
             if (!m_peers.back().isBound())
                 giveUp("cannot bind");
         }
@@ -83,10 +83,11 @@ private:
 
 struct Host : WholeEngine<UdpWinsock, SilentViews> {
     Host()
-        : WholeEngine(std::make_shared<VirtualTime>(),
-                      [](DropCounts &counts) { return UdpWinsock(counts, hostAddress, QStringLiteral("HERE")); })
+        : WholeEngine(std::make_shared<VirtualTime>(), [](DropCounts &counts) {
+              return UdpWinsock(counts, addressText(hostAddress), QStringLiteral("HERE"));
+          })
     {
-        common.ownIP = hostAddress;
+        common.ownIP = addressText(hostAddress);
         common.ownNickname = QStringLiteral("Host");
         socket.setLocalPort(port);
         socket.setRemotePort(port);
@@ -103,7 +104,7 @@ struct Host : WholeEngine<UdpWinsock, SilentViews> {
     {
         engine.conferences().mnuCreateNewConf();
         for (int i = 0; i < count; ++i)
-            engine.conferences().mnuInvite2Conf(1, addressOf(i));
+            engine.conferences().mnuInvite2Conf(1, addressText(addressOf(i)));
         for (int i = 0; i < count; ++i)
             receive(addressOf(i), "!CONF INVITE #1 AGREE");
     }
@@ -131,7 +132,7 @@ double measure(int participants, std::chrono::duration<double> span)
     host.addContacts(participants);
     host.gather(participants);
     const std::string body(60, 'm');
-    const std::string arriving = '+' + addressOf(0).toStdString() + " #1 " + body;
+    const std::string arriving = '+' + addressOf(0).toText() + " #1 " + body;
 
     std::vector<sockaddr_in> others;
     for (int i = 1; i < participants; ++i)
@@ -176,7 +177,7 @@ void measureMemory(int participants)
     host.engine.conferences().mnuCreateNewConf();
     const std::size_t before = mallinfo2().uordblks;
     for (int i = 0; i < participants; ++i)
-        host.engine.conferences().mnuInvite2Conf(1, addressOf(i));
+        host.engine.conferences().mnuInvite2Conf(1, addressText(addressOf(i)));
     for (int i = 0; i < participants; ++i)
         host.receive(addressOf(i), "!CONF INVITE #1 AGREE");
     const std::size_t after = mallinfo2().uordblks;

@@ -39,7 +39,7 @@ protected:
         Contact contact;
         contact.nickname = nickname;
         contact.workstation = workstation;
-        contact.ip = QLatin1String(ip);
+        contact.ip = QString::fromLatin1(ip);
         contacts.add(contact);
     }
     void open(const char *selected = "192.168.0.7")

@@ -81,7 +81,7 @@ TEST_F(FrmNetworkscan, ClosesAtOnceAndTheAnswerComesLater)
     press(Qt::Key_Enter);
     EXPECT_TRUE(isGone());
     EXPECT_THAT(socket.sent, IsEmpty());
-    resolver.answer(0, QStringLiteral("10.0.0.2"));
+    resolver.answer(0, Ipv4Address(10, 0, 0, 2));
     EXPECT_THAT(socket.sent, ElementsAre(To{"10.0.0.2", "?ONLINE 192.168.1.5 HERE Me"}));
 }
 

@@ -242,7 +242,7 @@ private:
         Copy &copy = *m_copies[static_cast<std::size_t>(who)];
         const int guests = 1 + m_dice.below(m_plan.copies / 5 + 1);
         for (int i = 0; i < guests; ++i) {
-            const QString ip = copy.engine.contacts().at(m_dice.below(copy.engine.contacts().rowCount())).ip;
+            const QString ip = copy.engine.contacts().at(m_dice.below(copy.engine.contacts().rowCount())).ip.text();
             tell(who, "invites " + ip.toStdString() + " to #" + std::to_string(conference->identity().fConfN));
             copy.engine.conferences().mnuInvite2Conf(conference->identity().fConfN, ip);
         }
@@ -925,8 +925,8 @@ private:
     void forgetStrangers(int copy, int reach)
     {
         const std::vector<QString> known = neighbours(copy, reach);
-        for (const QString &ip : engine(copy).contacts().addresses()) {
-            if (std::find(known.begin(), known.end(), ip) == known.end())
+        for (const ContactAddress &ip : engine(copy).contacts().addresses()) {
+            if (std::find(known.begin(), known.end(), ip.text()) == known.end())
                 engine(copy).contacts().remove(ip);
         }
     }

@@ -64,8 +64,8 @@ public:
         notifications.rows.clear();
     }
 
-    bool knows(const char *ip) { return engine.contacts().isContact(QLatin1String(ip)); }
-    const Contact &contact(const char *ip) { return *engine.contacts().find(QLatin1String(ip)); }
+    bool knows(const char *ip) { return engine.contacts().isContact(QString::fromLatin1(ip)); }
+    const Contact &contact(const char *ip) { return *engine.contacts().find(QString::fromLatin1(ip)); }
     std::vector<std::string> names()
     {
         std::vector<std::string> list;

@@ -25,7 +25,7 @@ public:
         names.push_back(name.toStdString());
         m_found.push_back(std::move(found));
     }
-    void answer(std::size_t question, const std::optional<QString> &address) { m_found.at(question)(address); }
+    void answer(std::size_t question, std::optional<Ipv4Address> address) { m_found.at(question)(address); }
 
     std::vector<std::string> names;
 

@@ -1,6 +1,7 @@
 // A network inside one process: datagrams in a queue, delivered when a test says so.
 #pragma once
 
+#include "protocol/address_text.h"
 #include "protocol/winsock.h"
 
 #include <deque>
@@ -72,7 +73,7 @@ public:
 
     void setLocalPort(std::uint16_t port) override { localPort = port; }
     void setRemotePort(std::uint16_t port) override { remotePort = port; }
-    void setRemoteHost(const QString &address) override { m_remoteHost = address; }
+    void setRemoteHost(std::optional<Ipv4Address> address) override { m_remoteHost = address; }
     bool bind() override
     {
         m_bound = !portTaken;
@@ -82,20 +83,20 @@ public:
     BindFailure bindFailure() const override { return m_bound ? BindFailure::none : failure; }
     void SendData(const std::string &bytes) override
     {
-        if (!m_bound)
+        if (!m_bound || !m_remoteHost)
             return;
-        sent.push_back({m_remoteHost.toStdString(), bytes});
+        sent.push_back({m_remoteHost->toText(), bytes});
         if (m_network)
-            m_network->send(m_ip, m_remoteHost, bytes);
+            m_network->send(m_ip, addressText(*m_remoteHost), bytes);
     }
     std::string GetData(std::size_t byteCount) override { return m_arrived.substr(0, byteCount); }
-    QString RemoteHostIP() const override { return m_source; }
+    Ipv4Address RemoteHostIP() const override { return m_source; }
     QString LocalIP() const override { return m_ip; }
     QString LocalHostName() const override { return m_host; }
 
     void arrive(const QString &from, const std::string &bytes)
     {
-        m_source = from;
+        m_source = readAddress(from).value();
         m_arrived = bytes;
         if (DataArrival)
             DataArrival(bytes.size());
@@ -111,8 +112,8 @@ private:
     QString m_ip;
     QString m_host;
     SimulatedNetwork *m_network;
-    QString m_remoteHost;
-    QString m_source;
+    std::optional<Ipv4Address> m_remoteHost;
+    Ipv4Address m_source;
     std::string m_arrived;
     bool m_bound = false;
 };

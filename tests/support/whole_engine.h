@@ -31,7 +31,7 @@ public:
     }
 
     /// A contact that is known to be there, without a datagram of its own.
-    void addPresent(const QString &ip, const QString &nickname)
+    void addPresent(const ContactAddress &ip, const QString &nickname)
     {
         Contact contact;
         contact.ip = ip;
@@ -40,7 +40,7 @@ public:
         engine.contacts().add(contact);
     }
     /// The datagram as if it had come from there, without the network.
-    void receive(const QString &from, const std::string &bytes) { engine.dispatcher().receive(from, bytes); }
+    void receive(Ipv4Address from, const std::string &bytes) { engine.dispatcher().receive(from, bytes); }
 
     std::shared_ptr<VirtualTime> time;
     Common common;

@@ -26,7 +26,10 @@ protected:
         contact.ip = ip;
         contacts.add(std::move(contact));
     }
-    std::optional<Refusal> refusal(const char *ip) const { return contactRefusal(QLatin1String(ip), common, contacts); }
+    std::optional<Refusal> refusal(const char *ip) const
+    {
+        return contactRefusal(readAddress(QString::fromLatin1(ip)), common, contacts);
+    }
 
     Common common;
     ContactList contacts;

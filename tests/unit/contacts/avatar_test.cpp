@@ -48,7 +48,7 @@ protected:
         copy.sent();
     }
     test::RecorderPrivateView &window() { return copy.window(1); }
-    const Avatar &kept(const char *ip = "10.0.0.2") { return copy.engine.avatars().of(QLatin1String(ip)); }
+    const Avatar &kept(const char *ip = "10.0.0.2") { return copy.engine.avatars().of(QString::fromLatin1(ip)); }
 
     const QByteArray still = QByteArray(7500, 'a');
     Copy copy{CopySetup{.contacts = {{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}}}};

@@ -11,7 +11,7 @@ using testing::IsEmpty;
 Contact named(const char *ip, const char *nickname, Presence presence)
 {
     Contact contact;
-    contact.ip = QLatin1String(ip);
+    contact.ip = QString::fromLatin1(ip);
     contact.nickname = QString::fromUtf8(nickname);
     contact.setPresence(presence);
     return contact;
@@ -43,6 +43,37 @@ TEST(ContactList, LoadedContactsAreNotYetKnown)
     EXPECT_EQ(ann.sortKey, QStringLiteral("B_Ann"));
     EXPECT_EQ(ann.state, QString());
     EXPECT_EQ(ann.privateWindow, 0);
+}
+
+TEST(ContactList, AContactIsFoundByItsAddressAndByTheTextOfItsRow)
+{
+    ContactList list;
+    list.add(named("192.168.0.7", "Ann", Presence::online));
+    ASSERT_TRUE(list.find(Ipv4Address(192, 168, 0, 7)));
+    EXPECT_EQ(list.find(Ipv4Address(192, 168, 0, 7)), list.find(QStringLiteral("192.168.0.7")));
+    EXPECT_FALSE(list.isContact(Ipv4Address(192, 168, 0, 8)));
+    EXPECT_FALSE(list.isContact(QStringLiteral("192.168.0.8")));
+    EXPECT_TRUE(list.change(Ipv4Address(192, 168, 0, 7), [](Contact &row) { row.nickname = QStringLiteral("Bea"); }));
+    EXPECT_FALSE(list.change(Ipv4Address(192, 168, 0, 8), [](Contact &row) { row.nickname = QStringLiteral("Bea"); }));
+    EXPECT_THAT(order(list), ElementsAre("Bea"));
+    EXPECT_TRUE(list.remove(QStringLiteral("192.168.0.7")));
+    EXPECT_FALSE(list.isContact(Ipv4Address(192, 168, 0, 7)));
+}
+
+TEST(ContactList, ATextThatIsNoAddressIsARowOfItsOwn)
+{
+    ContactList list;
+    for (const char *const text : {"192.168.0.7", "192.168.000.007", "somewhere", "300.1.2.3"})
+        EXPECT_TRUE(list.add(named(text, text, Presence::unknown))) << text;
+    EXPECT_FALSE(list.add(named("somewhere", "Ben", Presence::unknown)));
+    EXPECT_EQ(list.rowCount(), 4);
+    EXPECT_EQ(list.find(Ipv4Address(192, 168, 0, 7))->ip, QStringLiteral("192.168.0.7"));
+    EXPECT_EQ(list.find(QStringLiteral("192.168.000.007"))->ip, QStringLiteral("192.168.000.007"));
+    EXPECT_FALSE(list.find(QStringLiteral("somewhere"))->ip.ipv4());
+    EXPECT_TRUE(list.remove(QStringLiteral("192.168.000.007")));
+    EXPECT_TRUE(list.remove(QStringLiteral("somewhere")));
+    EXPECT_FALSE(list.isContact(QStringLiteral("somewhere")));
+    EXPECT_THAT(list.addresses(), ElementsAre(QStringLiteral("192.168.0.7"), QStringLiteral("300.1.2.3")));
 }
 
 TEST(ContactList, RowsShowTheirFieldsInTheColumns)

@@ -28,7 +28,7 @@ protected:
     void add(const char *ip, const char *nickname, Presence presence)
     {
         Contact contact;
-        contact.ip = QLatin1String(ip);
+        contact.ip = QString::fromLatin1(ip);
         contact.nickname = QString::fromUtf8(nickname);
         contact.workstation = QStringLiteral("PC");
         contact.setPresence(presence);
@@ -36,7 +36,7 @@ protected:
     }
     void rename(const char *ip, const char *nickname)
     {
-        contacts.change(QLatin1String(ip), [nickname](Contact &contact) {
+        contacts.change(QString::fromLatin1(ip), [nickname](Contact &contact) {
             contact.nickname = QString::fromUtf8(nickname);
             contact.setPresence(contact.presence);
         });
@@ -63,6 +63,25 @@ protected:
     SimulatedWinsock socket{QStringLiteral("10.0.0.1"), QStringLiteral("HERE"), nullptr};
     std::optional<ContactTransfer> transfer;
 };
+
+TEST_F(ContactTransferTest, RowsAreKnownByTheirAddressesAndThoseThatAreNone)
+{
+    add("somewhere", "Fred", Presence::unknown);
+    const TransferList &offered = load().offered();
+    const auto role = [&offered](int row, int which) { return offered.index(row, 0).data(which).toString(); };
+    EXPECT_EQ(role(0, TransferList::KeyRole), QStringLiteral("IP10.0.0.2"));
+    EXPECT_EQ(role(0, TransferList::TagRole), QStringLiteral("10.0.0.2"));
+    EXPECT_EQ(role(2, TransferList::KeyRole), QStringLiteral("IPsomewhere"));
+    EXPECT_EQ(role(2, TransferList::TagRole), QStringLiteral("somewhere"));
+}
+
+TEST_F(ContactTransferTest, AContactWithoutAnAddressIsSentAsItIsWritten)
+{
+    add("somewhere", "Fred", Presence::unknown);
+    load().btnsendone_Click({2});
+    transfer->sendbtn_Click();
+    EXPECT_THAT(sent(), ElementsAre(To{"10.0.0.3", "!USER somewhere PC Fred"}));
+}
 
 TEST_F(ContactTransferTest, OffersEveryContactButTheOneWhoGetsThem)
 {
@@ -227,7 +246,8 @@ TEST_F(ContactTransferTest, AWorkstationTravelsAsOneWord)
 {
     for (const auto &[ip, workstation] : {std::pair("10.0.0.2", "Ann's old PC"), std::pair("10.0.0.4", " two  blanks "),
                                           std::pair("10.0.0.5", " "), std::pair("10.0.0.6", "")}) {
-        contacts.change(QLatin1String(ip), [&](Contact &contact) { contact.workstation = QLatin1String(workstation); });
+        contacts.change(QString::fromLatin1(ip),
+                        [&](Contact &contact) { contact.workstation = QLatin1String(workstation); });
     }
     load().btnsendall_Click();
     transfer->sendbtn_Click();

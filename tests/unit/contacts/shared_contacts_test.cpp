@@ -80,7 +80,7 @@ TEST_F(SharedContactsTest, StrangersShareNothing)
 TEST_F(SharedContactsTest, TheListHasItsLimit)
 {
     for (int i = 0; i < limits::contactsFromStrangers + 10; ++i)
-        copy.engine.dispatcher().receive(QStringLiteral("10.0.0.2"),
+        copy.engine.dispatcher().receive(Ipv4Address(10, 0, 0, 2),
                                          "!USER 11." + std::to_string(i / 62500) + "." + std::to_string(i / 250 % 250)
                                              + "." + std::to_string(i % 250 + 1) + " PC X");
     EXPECT_EQ(copy.engine.contacts().rowCount(), limits::contactsFromStrangers);

@@ -19,7 +19,7 @@ std::multiset<QString> keys(ContactTransfer &transfer)
     std::multiset<QString> all;
     for (const TransferList *const list : {&transfer.offered(), &transfer.chosen()}) {
         for (const TransferRow &row : list->rows())
-            all.insert(row.key);
+            all.insert(row.address.text());
     }
     return all;
 }

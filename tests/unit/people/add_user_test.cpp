@@ -31,11 +31,11 @@ protected:
     }
     QString cell(const char *ip, int column)
     {
-        return contacts.index(contacts.rowOf(QLatin1String(ip)), column).data().toString();
+        return contacts.index(contacts.rowOf(QString::fromLatin1(ip)), column).data().toString();
     }
     QString role(const char *ip, int role)
     {
-        return contacts.index(contacts.rowOf(QLatin1String(ip)), 0).data(role).toString();
+        return contacts.index(contacts.rowOf(QString::fromLatin1(ip)), 0).data(role).toString();
     }
 
     Common common;
@@ -128,7 +128,8 @@ TEST_F(AddUserTest, WhatIsNoDottedAddressIsAccepted)
     EXPECT_TRUE(add("Ben", "PC-BEN", "somewhere"));
     EXPECT_TRUE(add("Cleo", "PC-CLEO", "300.1.2.3"));
     EXPECT_THAT(prompts.told, IsEmpty());
-    EXPECT_EQ(contacts.addresses(), QStringList({"192.168.0.7", "somewhere", "300.1.2.3"}));
+    EXPECT_THAT(contacts.addresses(),
+                ElementsAre(QStringLiteral("192.168.0.7"), QStringLiteral("somewhere"), QStringLiteral("300.1.2.3")));
 }
 
 TEST_F(AddUserTest, TheAddressThatEndsTheStoredListIsRefusedForItWouldBeLost)

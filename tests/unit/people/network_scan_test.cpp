@@ -85,7 +85,7 @@ TEST_F(NetworkScanTest, ANameIsAskedWhenItsAddressIsFound)
 {
     click("PC-ANN");
     EXPECT_THAT(socket.sent, IsEmpty());
-    resolver.answer(0, QStringLiteral("10.0.0.2"));
+    resolver.answer(0, Ipv4Address(10, 0, 0, 2));
     EXPECT_THAT(socket.sent, ElementsAre(To{"10.0.0.2", "?ONLINE 192.168.1.5 HERE Me"}));
     EXPECT_THAT(shown.lines(), IsEmpty());
 }
@@ -114,7 +114,7 @@ TEST_F(NetworkScanTest, AnAnswerFindsItsWayWhenTheScanIsGone)
         passing.Command1_Click(QStringLiteral("PC-BEN"));
     }
     resolver.answer(1, std::nullopt);
-    resolver.answer(0, QStringLiteral("10.0.0.2"));
+    resolver.answer(0, Ipv4Address(10, 0, 0, 2));
     EXPECT_THAT(socket.sent, ElementsAre(To{"10.0.0.2", "?ONLINE 192.168.1.5 HERE Me"}));
     EXPECT_THAT(shown.lines(), ElementsAre("No address was found for \"PC-BEN\", so nobody was asked."));
 }

@@ -22,8 +22,8 @@ class HostNameResolverTest : public testing::Test
 protected:
     void ask(const QString &name)
     {
-        resolver->resolve(name, [this, name](const std::optional<QString> &address) {
-            answers.push_back((name + u'=' + address.value_or(QStringLiteral("nothing"))).toStdString());
+        resolver->resolve(name, [this, name](std::optional<Ipv4Address> address) {
+            answers.push_back(name.toStdString() + '=' + (address ? address->toText() : "nothing"));
         });
     }
     /// Returns when the question waits in the system.
@@ -72,7 +72,7 @@ TEST_F(HostNameResolverTest, WhatNoHostCanBeCalledIsNotFound)
                                QString(255, u'x') + QStringLiteral(".invalid")};
     for (const QString &name : names)
         resolver->resolve(
-            name, [this](const std::optional<QString> &address) { answers.push_back(address ? "found" : "nothing"); });
+            name, [this](std::optional<Ipv4Address> address) { answers.push_back(address ? "found" : "nothing"); });
     ASSERT_TRUE(answered(3));
     EXPECT_THAT(answers, ElementsAre("nothing", "nothing", "nothing"));
 }

@@ -10,7 +10,7 @@ int main(int argumentCount, char **arguments)
     QCoreApplication application(argumentCount, arguments);
     nimb::HostNameResolver resolver;
     int answers = 0;
-    resolver.resolve(QStringLiteral("slow.invalid"), [&](const std::optional<QString> &) { ++answers; });
+    resolver.resolve(QStringLiteral("slow.invalid"), [&](std::optional<nimb::Ipv4Address>) { ++answers; });
     QTimer reached;
     QObject::connect(&reached, &QTimer::timeout, &application, [&] {
         if (nimb::test::slowQuestions() == 1)

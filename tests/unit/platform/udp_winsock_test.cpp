@@ -1,6 +1,7 @@
 #include "platform/udp_winsock.h"
 
 #include "print_qt.h"
+#include "protocol/send_datagram.h"
 #include "raw_peer.h"
 
 #include <QCoreApplication>
@@ -61,12 +62,12 @@ struct Copy {
         socket.setRemotePort(testPort());
         socket.DataArrival = [this](std::size_t byteCount) {
             const std::string bytes = socket.GetData(byteCount);
-            heard.push_back({bytes, socket.RemoteHostIP().toStdString()});
+            heard.push_back({bytes, socket.RemoteHostIP().toText()});
         };
         socket.Error = [this] { ++errors; };
     }
 
-    void sendTo(const QString &address, const std::string &bytes)
+    void sendTo(std::optional<Ipv4Address> address, const std::string &bytes)
     {
         socket.setRemoteHost(address);
         socket.SendData(bytes);
@@ -107,9 +108,9 @@ TEST(UdpWinsock, SendsExactlyTheBytesGivenFromItsOwnAddressAndPort)
     Copy copy("127.0.1.1");
     ASSERT_TRUE(copy.socket.bind());
 
-    copy.sendTo("127.0.1.2", "?ONLINE 127.0.1.1 PC-ANN Ann Lee");
-    copy.sendTo("127.0.1.2", "");
-    copy.sendTo("127.0.1.2", "-a\0b\xff"s);
+    copy.sendTo(Ipv4Address(127, 0, 1, 2), "?ONLINE 127.0.1.1 PC-ANN Ann Lee");
+    copy.sendTo(Ipv4Address(127, 0, 1, 2), "");
+    copy.sendTo(Ipv4Address(127, 0, 1, 2), "-a\0b\xff"s);
 
     EXPECT_EQ(peer.receive(), (RawPeer::Datagram{"?ONLINE 127.0.1.1 PC-ANN Ann Lee", "127.0.1.1", testPort()}));
     EXPECT_EQ(peer.receive(), (RawPeer::Datagram{"", "127.0.1.1", testPort()}));
@@ -158,7 +159,7 @@ TEST(UdpWinsock, PassesEveryByteValueBothWays)
     Copy copy("127.0.1.1");
     ASSERT_TRUE(copy.socket.bind());
 
-    copy.sendTo("127.0.1.2", everyByte());
+    copy.sendTo(Ipv4Address(127, 0, 1, 2), everyByte());
     const auto sent = peer.receive();
     peer.send("127.0.1.1", testPort(), everyByte());
 
@@ -176,7 +177,7 @@ TEST(UdpWinsock, PassesTheLargestDatagramBothWays)
     largest.front() = '<';
     largest.back() = '>';
 
-    copy.sendTo("127.0.1.2", largest);
+    copy.sendTo(Ipv4Address(127, 0, 1, 2), largest);
     const auto sent = peer.receive();
     ASSERT_TRUE(peer.send("127.0.1.1", testPort(), largest));
 
@@ -192,8 +193,8 @@ TEST(UdpWinsock, CountsADatagramThatIsTooLargeAndGoesOn)
     Copy copy("127.0.1.1");
     ASSERT_TRUE(copy.socket.bind());
 
-    copy.sendTo("127.0.1.2", std::string(65508, 'x'));
-    copy.sendTo("127.0.1.2", "next");
+    copy.sendTo(Ipv4Address(127, 0, 1, 2), std::string(65508, 'x'));
+    copy.sendTo(Ipv4Address(127, 0, 1, 2), "next");
 
     EXPECT_THAT(peer.receive(), Optional(Field(&RawPeer::Datagram::bytes, "next")));
     EXPECT_EQ(copy.drops.of(Drop::notSent), 1U);
@@ -255,7 +256,7 @@ TEST(UdpWinsock, TwoCopiesOnDifferentPortsDoNotSeeEachOther)
     ASSERT_TRUE(here.socket.bind());
     ASSERT_TRUE(there.socket.bind());
 
-    here.sendTo("127.0.1.2", "to nobody");
+    here.sendTo(Ipv4Address(127, 0, 1, 2), "to nobody");
     witness.send("127.0.1.2", otherTestPort(), "to you");
 
     ASSERT_TRUE(there.hears(1));
@@ -295,7 +296,7 @@ TEST(UdpWinsock, EveryCopyOnTheLoopbackNetworkHearsABroadcastWithItsSendersAddre
     ASSERT_TRUE(ben.socket.bind());
     ASSERT_TRUE(eve.socket.bind());
 
-    eve.sendTo("127.255.255.255", "?ONLINE 127.0.1.3 PC Eve");
+    eve.sendTo(Ipv4Address(127, 255, 255, 255), "?ONLINE 127.0.1.3 PC Eve");
 
     ASSERT_TRUE(ann.hears(1));
     ASSERT_TRUE(ben.hears(1));
@@ -338,12 +339,12 @@ TEST(UdpWinsock, CountsWhatIsSentWhileNotBoundAndLetsNothingOut)
     const RawPeer peer("127.0.1.2", testPort());
     Copy copy("127.0.1.1");
 
-    copy.sendTo("127.0.1.2", "one");
-    copy.sendTo("127.0.1.2", "two");
+    copy.sendTo(Ipv4Address(127, 0, 1, 2), "one");
+    copy.sendTo(Ipv4Address(127, 0, 1, 2), "two");
     EXPECT_EQ(copy.drops.of(Drop::notSent), 2U);
 
     ASSERT_TRUE(copy.socket.bind());
-    copy.sendTo("127.0.1.2", "three");
+    copy.sendTo(Ipv4Address(127, 0, 1, 2), "three");
     EXPECT_THAT(peer.receive(), Optional(Field(&RawPeer::Datagram::bytes, "three")));
     EXPECT_EQ(copy.drops.of(Drop::notSent), 2U);
 }
@@ -358,10 +359,10 @@ TEST(UdpWinsock, CountsWhatIsSentToAnythingButADottedAddressAndSendsItNowhere)
            u" 127.0.1.2", u"127.0.01.2", u"127.0.1.2:80", u"2130706690", u"::ffff:7f00:102", u"127.0.1.\u0662"};
 
     for (const char16_t *text : texts) {
-        copy.sendTo("127.0.1.2", "before");
-        copy.sendTo(QString::fromUtf16(text), "lost");
+        copy.sendTo(Ipv4Address(127, 0, 1, 2), "before");
+        sendBytes(copy.socket, QString::fromUtf16(text), "lost");
     }
-    copy.sendTo("127.0.1.2", "end");
+    copy.sendTo(Ipv4Address(127, 0, 1, 2), "end");
 
     EXPECT_EQ(copy.drops.of(Drop::notSent), texts.size());
     for (std::size_t i = 0; i < texts.size(); ++i)
@@ -374,11 +375,11 @@ TEST(UdpWinsock, SurvivesSendingToAPortWhereNobodyListens)
     Copy copy("127.0.1.1");
     ASSERT_TRUE(copy.socket.bind());
     for (int i = 0; i < 5; ++i)
-        copy.sendTo("127.0.1.2", "anybody?");
+        copy.sendTo(Ipv4Address(127, 0, 1, 2), "anybody?");
     EXPECT_EQ(copy.drops.of(Drop::notSent), 0U);
 
     const RawPeer peer("127.0.1.2", testPort());
-    copy.sendTo("127.0.1.2", "hello");
+    copy.sendTo(Ipv4Address(127, 0, 1, 2), "hello");
     const auto sent = peer.receive();
     peer.send("127.0.1.1", testPort(), "hello yourself");
 
@@ -396,7 +397,7 @@ TEST(UdpWinsock, AFloodLetsOtherEventsInAfterEveryBatch)
     int longestRun = 0;
     int otherEvents = 0;
     QEventLoop loop;
-    copy.socket.setRemoteHost("127.0.1.1");
+    copy.socket.setRemoteHost(Ipv4Address(127, 0, 1, 1));
     copy.socket.DataArrival = [&](std::size_t byteCount) {
         longestRun = std::max(longestRun, ++sinceOtherEvent);
         const std::string bytes = copy.socket.GetData(byteCount);
@@ -427,7 +428,7 @@ TEST(UdpWinsock, TimersKeepFiringThroughAFloodWithoutEnd)
     Copy copy("127.0.1.1");
     int arrivals = 0;
     int ticks = 0;
-    copy.socket.setRemoteHost("127.0.1.1");
+    copy.socket.setRemoteHost(Ipv4Address(127, 0, 1, 1));
     copy.socket.DataArrival = [&](std::size_t byteCount) {
         ++arrivals;
         copy.socket.SendData(copy.socket.GetData(byteCount));
@@ -593,7 +594,7 @@ TEST(UdpWinsock, NeedsNoHandlers)
     ASSERT_TRUE(copy.socket.bind());
 
     peer.send("127.0.1.1", testPort(), "unheard");
-    copy.sendTo("127.0.1.2", std::string(70000, 'x'));
+    copy.sendTo(Ipv4Address(127, 0, 1, 2), std::string(70000, 'x'));
     QCoreApplication::processEvents();
     copy.socket.DataArrival = note;
     peer.send("127.0.1.1", testPort(), "heard");
@@ -623,7 +624,7 @@ TEST(UdpWinsock, TellsTheFixedIdentity)
     const UdpWinsock socket(drops, "127.0.1.1", "PC-ANN");
     EXPECT_EQ(socket.LocalIP(), "127.0.1.1");
     EXPECT_EQ(socket.LocalHostName(), "PC-ANN");
-    EXPECT_EQ(socket.RemoteHostIP(), "");
+    EXPECT_TRUE(socket.RemoteHostIP().isUnspecified());
 }
 
 } // namespace

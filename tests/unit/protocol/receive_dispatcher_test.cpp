@@ -1,5 +1,7 @@
 #include "protocol/receive_dispatcher.h"
 
+#include "protocol/address_text.h"
+
 #include <gmock/gmock.h>
 
 namespace nimb
@@ -21,42 +23,39 @@ class Everyone : public Senders,
                  public UnknownDatagramHandler
 {
 public:
-    bool isContact(const QString &ip) const override { return ip == QLatin1String("10.0.0.2"); }
+    bool isContact(Ipv4Address ip) const override { return ip == Ipv4Address(10, 0, 0, 2); }
 
-    void strangerSeen(const QString &ip, const PeerIdentity &peer, bool online) override
+    void strangerSeen(Ipv4Address ip, const PeerIdentity &peer, bool online) override
     {
         note(QStringLiteral("stranger %1 %2 %3")
-                 .arg(ip, online ? QStringLiteral("on") : QStringLiteral("off"), who(peer)));
+                 .arg(addressText(ip), online ? QStringLiteral("on") : QStringLiteral("off"), who(peer)));
     }
-    void cameOnline(const QString &, const std::optional<PeerIdentity> &peer, bool asks) override
+    void cameOnline(Ipv4Address, const std::optional<PeerIdentity> &peer, bool asks) override
     {
         note(QStringLiteral("online %1 %2")
                  .arg(asks ? QStringLiteral("asks") : QStringLiteral("answers"),
                       peer ? who(*peer) : QStringLiteral("?")));
     }
-    void wentOffline(const QString &) override { note(QStringLiteral("offline")); }
-    void changedState(const QString &, const QString &state, const QString &text) override
+    void wentOffline(Ipv4Address) override { note(QStringLiteral("offline")); }
+    void changedState(Ipv4Address, const QString &state, const QString &text) override
     {
         note(QStringLiteral("state [%1] [%2]").arg(state, text));
     }
-    void privateMessage(const QString &, const QString &text) override
-    {
-        note(QStringLiteral("message [%1]").arg(text));
-    }
-    void buzz(const QString &) override { note(QStringLiteral("buzz")); }
-    void typing(const QString &) override { note(QStringLiteral("typing")); }
-    void liveType(const QString &, const QString &text) override { note(QStringLiteral("live [%1]").arg(text)); }
-    void mood(const QString &, const QString &value) override { note(QStringLiteral("mood [%1]").arg(value)); }
-    void avatarHeadQuestion(const QString &) override { note(QStringLiteral("head?")); }
-    void avatarBodyQuestion(const QString &) override { note(QStringLiteral("body?")); }
-    void avatarHead(const QString &, const std::string &head) override { told.push_back("head [" + head + "]"); }
-    void avatarBody(const QString &, const std::string &body) override { told.push_back("body [" + body + "]"); }
-    void avatarOff(const QString &) override { note(QStringLiteral("avatar off")); }
-    void sharedContact(const QString &, const PeerIdentity &contact) override
+    void privateMessage(Ipv4Address, const QString &text) override { note(QStringLiteral("message [%1]").arg(text)); }
+    void buzz(Ipv4Address) override { note(QStringLiteral("buzz")); }
+    void typing(Ipv4Address) override { note(QStringLiteral("typing")); }
+    void liveType(Ipv4Address, const QString &text) override { note(QStringLiteral("live [%1]").arg(text)); }
+    void mood(Ipv4Address, const QString &value) override { note(QStringLiteral("mood [%1]").arg(value)); }
+    void avatarHeadQuestion(Ipv4Address) override { note(QStringLiteral("head?")); }
+    void avatarBodyQuestion(Ipv4Address) override { note(QStringLiteral("body?")); }
+    void avatarHead(Ipv4Address, const std::string &head) override { told.push_back("head [" + head + "]"); }
+    void avatarBody(Ipv4Address, const std::string &body) override { told.push_back("body [" + body + "]"); }
+    void avatarOff(Ipv4Address) override { note(QStringLiteral("avatar off")); }
+    void sharedContact(Ipv4Address, const PeerIdentity &contact) override
     {
         note(QLatin1String("user ") + who(contact));
     }
-    void conferenceDatagram(const QString &, const wire::Datagram &datagram) override
+    void conferenceDatagram(Ipv4Address, const wire::Datagram &datagram) override
     {
         told.push_back("conference " + wire::serialise(datagram));
     }
@@ -79,13 +78,13 @@ protected:
     std::vector<std::string> contactSends(std::string_view bytes)
     {
         everyone.told.clear();
-        dispatcher.receive(QStringLiteral("10.0.0.2"), bytes);
+        dispatcher.receive(Ipv4Address(10, 0, 0, 2), bytes);
         return everyone.told;
     }
     std::vector<std::string> strangerSends(std::string_view bytes)
     {
         everyone.told.clear();
-        dispatcher.receive(QStringLiteral("10.0.0.9"), bytes);
+        dispatcher.receive(Ipv4Address(10, 0, 0, 9), bytes);
         return everyone.told;
     }
 
@@ -169,7 +168,7 @@ TEST(DispatcherWithoutFeatures, KnownCommandsAreDroppedAndCountedNotCalledUnsupp
     ReceiveDispatcher dispatcher(everyone, {.presence = &everyone, .unknown = &everyone}, drops);
     for (const char *known : {"-hello", "!BUZZ", "!TYPING", "!MOOD 1", "!LIVETYPE x", "?AVATARHEAD", "!AVATARBODY x",
                               "!USER 1.2.3.4 PC Ed", "?CONF INVITE #1", "+1.2.3.4 #1 x"})
-        dispatcher.receive(QStringLiteral("10.0.0.2"), known);
+        dispatcher.receive(Ipv4Address(10, 0, 0, 2), known);
     EXPECT_THAT(everyone.told, IsEmpty());
     EXPECT_EQ(drops.of(Drop::noFeature), 10u);
 }
