@@ -45,7 +45,7 @@ Environment Environment::fromSystem()
 
 Program::Program(const Environment &environment)
     : m_wantedAddress(environment.address), m_store(environment.profileFolder), m_instance(environment.profileFolder),
-      m_socket(m_drops, environment.address, environment.hostName),
+      m_socket(m_drops, environment.address ? readAddress(*environment.address) : std::nullopt, environment.hostName),
       m_forms({m_common, m_timers, m_clock, m_socket, m_store, m_prompts, m_links, m_pictures, m_names, m_netSend,
                m_systemInfo, [] { return readProgramFile(QStringLiteral("TOTD.txt")); }})
 {

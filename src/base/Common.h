@@ -3,6 +3,7 @@
 
 #include "base/options.h"
 #include "base/own_presence.h"
+#include "protocol/ipv4_address.h"
 
 #include <QByteArray>
 #include <QString>
@@ -42,7 +43,7 @@ struct Common {
     Common(const Common &) = delete;
     Common &operator=(const Common &) = delete;
 
-    QString ownIP; ///< dotted IPv4, read once from the socket
+    Ipv4Address ownIP; ///< read once from the socket
     QString ownHostName;
     QString ownNickname;
 

@@ -25,8 +25,10 @@ QString withoutOuterBlanks(const QString &text)
 Conference::Conference(const Services &services, Identity identity, std::function<void()> unloaded)
     : Conversation(services.conversation, std::move(unloaded)), m_services(services), m_identity(std::move(identity))
 {
-    m_participants.add(
-        {.ip = common().ownIP, .name = tr("%1 (you)").arg(common().ownNickname), .present = true, .own = true});
+    m_participants.add({.ip = addressText(common().ownIP),
+                        .name = tr("%1 (you)").arg(common().ownNickname),
+                        .present = true,
+                        .own = true});
     m_view = services.forms.makeConferenceForm(*this);
     conversationView().setCaption(caption());
 }
@@ -56,13 +58,13 @@ QString Conference::textToSend(const QString &typed) const
 
 void Conference::deliver(const QString &text)
 {
-    relay(text, common().ownIP);
+    relay(text, addressText(common().ownIP));
     showOwnAvatar();
 }
 
 void Conference::relay(const QString &text, const QString &origin)
 {
-    const bool isOwn = origin == common().ownIP;
+    const bool isOwn = origin == addressText(common().ownIP);
     const wire::ConferenceMessage message{origin.toStdString(), m_identity.ConfNum, toWire(text)};
     if (!isHostedHere()) {
         if (isOwn)
@@ -132,7 +134,7 @@ void Conference::Broadcastlist(const QString &dest)
 {
     if (!isHostedHere())
         return;
-    wire::ConferenceList list{m_identity.ConfNum, {common().ownIP.toStdString()}};
+    wire::ConferenceList list{m_identity.ConfNum, {common().ownIP.toText()}};
     for (const Participant &participant : m_participants.rows()) {
         if (participant.isPresentPeer())
             list.addresses.push_back(participant.ip.toStdString());

@@ -195,7 +195,7 @@ void ConferenceCommands::operator()(const wire::ConferenceClose &close)
 /// it would go round for ever.
 bool ConferenceCommands::isWritersOwn(const QString &origin, const Conference &conference) const
 {
-    if (origin == m_ip || origin == m_parts.common.ownIP)
+    if (origin == m_ip || origin == addressText(m_parts.common.ownIP))
         return true;
     const bool isSomebodyElses = m_parts.contacts.isContact(origin) || conference.partecipanti().find(origin);
     return !isSomebodyElses && !m_parts.conferences.mayBeListedBy(m_ip, conference.identity().ConfNum);
@@ -210,7 +210,7 @@ void ConferenceCommands::operator()(const wire::ConferenceMessage &message)
     if (!address || !address->isUnicast())
         return drop();
     const QString origin = addressText(*address);
-    if (origin != m_parts.common.ownIP) {
+    if (address != m_parts.common.ownIP) {
         if (Conference *const conference = m_parts.conferences.joined(m_ip, message.id))
             return conference->ReceiveMessage(origin, text);
     }

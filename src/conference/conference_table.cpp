@@ -28,7 +28,7 @@ int ConferenceTable::CreateNewConfWin(bool host, std::int16_t ChnNum, const QStr
     if (slot > lastSlot)
         return 0;
     const Conference::Identity identity{.ImHostingThatConf = host,
-                                        .ConfServerIP = host ? m_services.conversation.common.ownIP : IP,
+                                        .ConfServerIP = host ? addressText(m_services.conversation.common.ownIP) : IP,
                                         .ConfNum = ChnNum != 0 ? ChnNum : static_cast<std::int16_t>(slot),
                                         .fConfN = slot};
     if (!host)
@@ -43,7 +43,7 @@ int ConferenceTable::CreateNewConfWin(bool host, std::int16_t ChnNum, const QStr
 
 void ConferenceTable::mnuCreateNewConf()
 {
-    if (CreateNewConfWin(true, 0, m_services.conversation.common.ownIP) < 1)
+    if (CreateNewConfWin(true, 0, {}) < 1)
         m_services.prompts.tell(tr("Sorry, conf windows are over!!!"), programTitle);
 }
 

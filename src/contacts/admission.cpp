@@ -1,7 +1,6 @@
 #include "contacts/admission.h"
 
 #include "base/limits.h"
-#include "protocol/address_text.h"
 
 namespace nimb
 {
@@ -10,7 +9,7 @@ std::optional<Refusal> contactRefusal(std::optional<Ipv4Address> ip, const Commo
 {
     if (!ip)
         return Refusal::noUnicast;
-    if (ip == readAddress(common.ownIP))
+    if (ip == common.ownIP)
         return Refusal::ownAddress;
     if (ip == Ipv4Address(127, 0, 0, 1))
         return Refusal::thisMachine;

@@ -11,7 +11,7 @@ namespace
 
 wire::Identity ownIdentity(const Common &common)
 {
-    return {toWire(common.ownIP), toWire(common.ownHostName), toWire(common.ownNickname)};
+    return {common.ownIP.toText(), toWire(common.ownHostName), toWire(common.ownNickname)};
 }
 
 } // namespace

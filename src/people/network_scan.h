@@ -5,6 +5,7 @@
 #include "base/main_log.h"
 #include "base/name_resolver.h"
 #include "contacts/announcement.h"
+#include "protocol/address_text.h"
 
 namespace nimb
 {
@@ -21,7 +22,7 @@ public:
     }
 
     /// What the box offers to be edited: the own address.
-    QString Form_Load() const { return m_common.ownIP; }
+    QString Form_Load() const { return addressText(m_common.ownIP); }
     /// Asks the dotted address at once, broadcast addresses and such with zeros before a number included. All else is a
     /// name, which is asked when its address has been found; the main log says when there is none. Blanks around the
     /// text do not count.

@@ -1,7 +1,6 @@
 #include "platform/own_identity.h"
 
 #include "platform/datagram_socket.h"
-#include "protocol/address_text.h"
 #include "protocol/wire_text.h"
 
 #include <QHostInfo>
@@ -34,14 +33,14 @@ std::optional<Ipv4Address> firstOfAnyInterface()
 
 } // namespace
 
-QString ownAddress(const std::optional<QString> &fixed)
+Ipv4Address ownAddress(std::optional<Ipv4Address> fixed)
 {
-    if (fixed && readAddress(*fixed))
+    if (fixed)
         return *fixed;
     const std::optional<Ipv4Address> routed = sourceAddressTowards(farAway);
     if (routed && isUsable(*routed))
-        return addressText(*routed);
-    return addressText(firstOfAnyInterface().value_or(Ipv4Address(127, 0, 0, 1)));
+        return *routed;
+    return firstOfAnyInterface().value_or(Ipv4Address(127, 0, 0, 1));
 }
 
 QString ownHostName(const std::optional<QString> &fixed)

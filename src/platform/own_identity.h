@@ -1,6 +1,8 @@
 // Who this machine is on the network.
 #pragma once
 
+#include "protocol/ipv4_address.h"
+
 #include <QString>
 
 #include <optional>
@@ -8,9 +10,9 @@
 namespace nimb
 {
 
-/// The fixed address when it is a dotted IPv4 one; otherwise the one that the default route uses, else the first one
+/// The fixed address when there is one; otherwise the one that the default route uses, else the first one
 /// of any interface that is not loopback, else 127.0.0.1.
-QString ownAddress(const std::optional<QString> &fixed);
+Ipv4Address ownAddress(std::optional<Ipv4Address> fixed);
 
 /// The fixed name unless it is empty; otherwise the system's. Never empty, and one word: blanks become hyphens.
 QString ownHostName(const std::optional<QString> &fixed);

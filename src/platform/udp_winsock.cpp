@@ -1,7 +1,6 @@
 #include "platform/udp_winsock.h"
 
 #include "platform/own_identity.h"
-#include "protocol/address_text.h"
 
 #include <QScopeGuard>
 
@@ -23,9 +22,9 @@ constexpr int sendBufferAsked = 4 * 1024 * 1024;
 
 } // namespace
 
-UdpWinsock::UdpWinsock(DropCounts &drops, std::optional<QString> address, std::optional<QString> hostName,
+UdpWinsock::UdpWinsock(DropCounts &drops, std::optional<Ipv4Address> address, std::optional<QString> hostName,
                        QObject *parent)
-    : QObject(parent), m_drops(drops), m_fixedAddress(std::move(address)), m_fixedHostName(std::move(hostName))
+    : QObject(parent), m_drops(drops), m_fixedAddress(address), m_fixedHostName(std::move(hostName))
 {
 }
 
@@ -49,7 +48,7 @@ bool UdpWinsock::bind()
         return true;
     if (m_localPort == 0)
         return false;
-    const Ipv4Address address = readAddress(m_fixedAddress.value_or(QString())).value_or(Ipv4Address());
+    const Ipv4Address address = m_fixedAddress.value_or(Ipv4Address());
     int error = 0;
     m_own = listen({address, m_localPort}, DatagramSocket::Sharing::exclusive, &UdpWinsock::readOwn, error);
     m_bindFailure = m_own ? BindFailure::none : bindFailureOf(error);
@@ -96,7 +95,7 @@ std::string UdpWinsock::GetData(std::size_t byteCount)
     return std::string(m_buffer.data(), size);
 }
 
-QString UdpWinsock::LocalIP() const
+Ipv4Address UdpWinsock::LocalIP() const
 {
     return ownAddress(m_fixedAddress);
 }

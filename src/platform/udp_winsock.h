@@ -25,10 +25,9 @@ public:
     static constexpr int batchSize = 64;
     static constexpr int receiveBufferAsked = 4 * 1024 * 1024; ///< bytes
 
-    /// address: the dotted IPv4 address to bind to and to report as the own one; missing or malformed, the socket is
-    /// bound to every interface. hostName: reported in place of the system's. Losses are counted in drops, which must
-    /// outlive this object.
-    explicit UdpWinsock(DropCounts &drops, std::optional<QString> address = std::nullopt,
+    /// address: the one to bind to and to report as the own one; without it, the socket is bound to every interface.
+    /// hostName: reported in place of the system's. Losses are counted in drops, which must outlive this object.
+    explicit UdpWinsock(DropCounts &drops, std::optional<Ipv4Address> address = std::nullopt,
                         std::optional<QString> hostName = std::nullopt, QObject *parent = nullptr);
 
     void setLocalPort(std::uint16_t port) override { m_localPort = port; }
@@ -44,7 +43,7 @@ public:
     Ipv4Address RemoteHostIP() const override { return m_lastSource; }
 
     /// NIMB-Chat's own address as other copies see it; asked of the system anew each time.
-    QString LocalIP() const override;
+    Ipv4Address LocalIP() const override;
     QString LocalHostName() const override;
 
     /// Bytes that the system granted for waiting datagrams, comparable with receiveBufferAsked; 0 while not bound.
@@ -68,7 +67,7 @@ private:
     void reportError() const;
 
     DropCounts &m_drops;
-    std::optional<QString> m_fixedAddress;
+    std::optional<Ipv4Address> m_fixedAddress;
     std::optional<QString> m_fixedHostName;
     std::uint16_t m_localPort = 0;
     std::uint16_t m_remotePort = 0;

@@ -52,8 +52,7 @@ public:
     /// Source address of the datagram taken last; unspecified before the first.
     virtual Ipv4Address RemoteHostIP() const = 0;
 
-    /// Dotted IPv4.
-    virtual QString LocalIP() const = 0;
+    virtual Ipv4Address LocalIP() const = 0;
     virtual QString LocalHostName() const = 0;
 
     /// Called once for each datagram, zero-length ones included, with its size in bytes.

@@ -10,7 +10,7 @@ namespace nimb::test
 namespace
 {
 
-const QString ownAddress = QStringLiteral("11.0.0.1");
+constexpr Ipv4Address ownAddress{11, 0, 0, 1};
 
 Ipv4Address addressOf(int contact)
 {

@@ -83,11 +83,10 @@ private:
 
 struct Host : WholeEngine<UdpWinsock, SilentViews> {
     Host()
-        : WholeEngine(std::make_shared<VirtualTime>(), [](DropCounts &counts) {
-              return UdpWinsock(counts, addressText(hostAddress), QStringLiteral("HERE"));
-          })
+        : WholeEngine(std::make_shared<VirtualTime>(),
+                      [](DropCounts &counts) { return UdpWinsock(counts, hostAddress, QStringLiteral("HERE")); })
     {
-        common.ownIP = addressText(hostAddress);
+        common.ownIP = hostAddress;
         common.ownNickname = QStringLiteral("Host");
         socket.setLocalPort(port);
         socket.setRemotePort(port);

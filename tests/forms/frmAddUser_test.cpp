@@ -26,7 +26,7 @@ class FrmAddUser : public testing::Test
 protected:
     FrmAddUser()
     {
-        common.ownIP = QStringLiteral("192.168.0.5");
+        common.ownIP = Ipv4Address(192, 168, 0, 5);
         common.ownHostName = QStringLiteral("HERE");
         parent.show();
         dialog = new frmAddUser(rules, &parent);

@@ -36,7 +36,7 @@ struct Engine : WholeEngine<SimulatedWinsock, SilentViews> {
         : WholeEngine(std::make_shared<VirtualTime>(),
                       [](DropCounts &) { return SimulatedWinsock(ownAddress, QStringLiteral("HERE"), nullptr); })
     {
-        common.ownIP = ownAddress;
+        common.ownIP = readAddress(ownAddress).value();
         common.ownNickname = QStringLiteral("Me");
         for (int peer = 0; peer + 1 < peers; ++peer)
             addPresent(addressOf(peer), QStringLiteral("Peer %1").arg(peer));

@@ -302,9 +302,9 @@ private:
         std::set<QString> expected{conference.identity().ConfServerIP};
         if (conference.isHostedHere()) {
             expected = presentIn(rowsOf(conference));
-            expected.erase(copy.common.ownIP);
+            expected.erase(copy.ip());
         }
-        checkRelayed(copy, text, copy.common.ownIP, conference.identity().ConfNum, expected);
+        checkRelayed(copy, text, copy.ip(), conference.identity().ConfNum, expected);
         return text;
     }
 
@@ -318,7 +318,7 @@ private:
         const QString ip = rows[static_cast<std::size_t>(m_dice.below(static_cast<int>(rows.size())))].ip;
         tell(who, "kicks " + ip.toStdString() + " from #" + std::to_string(conference->identity().fConfN));
         conference->kickuserbtn_Click(ip);
-        require(conference->partecipanti().find(m_copies[static_cast<std::size_t>(who)]->common.ownIP) != nullptr,
+        require(conference->partecipanti().find(m_copies[static_cast<std::size_t>(who)]->ip()) != nullptr,
                 "a host has kicked itself");
     }
 
@@ -386,7 +386,7 @@ private:
         };
         const std::string &bytes = forms[static_cast<std::size_t>(m_dice.below(forms.size()))];
         tell(who, "forges " + bytes + " for " + addressOf(target).toStdString());
-        m_network.send(copy.common.ownIP, addressOf(target), bytes);
+        m_network.send(copy.ip(), addressOf(target), bytes);
     }
 
     /// Counts what a window has shown before it goes.
@@ -442,8 +442,7 @@ private:
     void compare(const QString &from, const Copy &copy, const std::string &bytes, const wire::Datagram &datagram,
                  const Snapshot &before, const Snapshot &after)
     {
-        const std::string what
-            = " (" + from.toStdString() + " to " + copy.common.ownIP.toStdString() + ": " + bytes + ')';
+        const std::string what = " (" + from.toStdString() + " to " + copy.ip().toStdString() + ": " + bytes + ')';
         if (before.conference != after.conference)
             return violated("a datagram has opened or closed a window" + what);
         if (!before.conference)
@@ -484,7 +483,7 @@ private:
     {
         if (message.id < 1)
             return 0;
-        if (message.origin != copy.common.ownIP.toStdString()) {
+        if (message.origin != copy.ip().toStdString()) {
             for (std::size_t slot = 1; slot < before.size(); ++slot) {
                 const Snapshot &one = before[slot];
                 if (one.conference && !one.conference->isHostedHere() && !one.terminated
@@ -499,9 +498,9 @@ private:
             return 0;
         const QString origin = QString::fromStdString(message.origin);
         const bool known
-            = origin == copy.common.ownIP || hosted.rows.contains(origin) || copy.engine.contacts().isContact(origin);
-        const bool relayed = origin != from && origin != copy.common.ownIP
-            && (known || m_guestOf[copyWith(copy.common.ownIP)].contains(Name(from, message.id)));
+            = origin == copy.ip() || hosted.rows.contains(origin) || copy.engine.contacts().isContact(origin);
+        const bool relayed = origin != from && origin != copy.ip()
+            && (known || m_guestOf[copyWith(copy.ip())].contains(Name(from, message.id)));
         if (relayed)
             return 0;
         const auto writer = hosted.rows.find(from);
@@ -512,7 +511,7 @@ private:
                       const std::array<Snapshot, ConferenceTable::lastSlot + 1> &before,
                       const std::array<Snapshot, ConferenceTable::lastSlot + 1> &after)
     {
-        const int who = copyWith(copy.common.ownIP);
+        const int who = copyWith(copy.ip());
         const QString text = QString::fromStdString(message.text);
         ++m_delivered[{who, text}];
         const std::size_t expected = slotFor(from, copy, message, before);
@@ -525,7 +524,7 @@ private:
             for (std::size_t i = before[slot].pieces; i < pieces.size(); ++i)
                 shown += pieces[i].text == text;
             require(shown == (slot == expected ? 1 : 0),
-                    copy.common.ownIP.toStdString() + " has shown " + message.text + ' ' + std::to_string(shown)
+                    copy.ip().toStdString() + " has shown " + message.text + ' ' + std::to_string(shown)
                         + " times in slot " + std::to_string(slot) + ", and slot " + std::to_string(expected)
                         + " was meant");
             if (shown > 0)
@@ -535,7 +534,7 @@ private:
         if (!relays)
             return checkNothingRelayed(copy, message.text);
         std::set<QString> expectedReceivers = presentIn(before[expected].rows);
-        expectedReceivers.erase(copy.common.ownIP);
+        expectedReceivers.erase(copy.ip());
         expectedReceivers.erase(from);
         checkRelayed(copy, text, from, message.id, expectedReceivers);
     }
@@ -574,7 +573,7 @@ private:
         for (const QString &ip : expected)
             wanted.insert(ip.toStdString());
         require(receivers == wanted,
-                copy.common.ownIP.toStdString() + " has not sent " + text.toStdString()
+                copy.ip().toStdString() + " has not sent " + text.toStdString()
                     + " once to each of the others who are present, and to nobody else");
     }
 
@@ -625,7 +624,7 @@ private:
     bool isMember(const Copy &copy, const Conference &joined)
     {
         Conference *const host = hostsWindow(joined);
-        const Participant *const row = host ? host->partecipanti().find(copy.common.ownIP) : nullptr;
+        const Participant *const row = host ? host->partecipanti().find(copy.ip()) : nullptr;
         return row && row->present && !joined.isOver();
     }
 
@@ -647,8 +646,8 @@ private:
             return findGhosts(conference, rowsOf(conference));
         if (conference.isOver())
             return;
-        const std::string whose = copy.common.ownIP.toStdString() + " in " + nameOf(conference).first.toStdString()
-            + " #" + std::to_string(nameOf(conference).second);
+        const std::string whose = copy.ip().toStdString() + " in " + nameOf(conference).first.toStdString() + " #"
+            + std::to_string(nameOf(conference).second);
         if (!isMember(copy, conference)) {
             // With everything delivered before the next one acts, nobody is left behind; unless an invitation was
             // accepted while its host was away.
@@ -667,7 +666,7 @@ private:
     bool isAmbiguous(const Copy &guest, const Conference &conference)
     {
         Copy *const host = find(conference.identity().ConfServerIP);
-        return host && host->engine.conferences().joined(guest.common.ownIP, conference.identity().ConfNum);
+        return host && host->engine.conferences().joined(guest.ip(), conference.identity().ConfNum);
     }
 
     void hearEachOther(Copy &copy, int who, Conference &conference)
@@ -687,8 +686,7 @@ private:
             const auto shown = std::count_if(pieces.begin(), pieces.end(),
                                              [&](const RecorderLog::Piece &piece) { return piece.text == text; });
             require(shown == (member ? 1 : 0),
-                    other.common.ownIP.toStdString() + " shows " + text.toStdString() + ' ' + std::to_string(shown)
-                        + " times");
+                    other.ip().toStdString() + " shows " + text.toStdString() + ' ' + std::to_string(shown) + " times");
         });
     }
 
@@ -849,10 +847,10 @@ TEST(ConferenceOfThree, HearsAGuestWhoKnowsItselfByAnotherAddress)
         {.ip = QStringLiteral("10.0.0.2"), .nickname = QStringLiteral("Ben"), .contacts = {toAnn}}, &network, time};
     Copy cleo{
         {.ip = QStringLiteral("10.0.0.3"), .nickname = QStringLiteral("Cleo"), .contacts = {toAnn}}, &network, time};
-    ben.common.ownIP = QStringLiteral("192.168.7.2");
+    ben.common.ownIP = Ipv4Address(192, 168, 7, 2);
     ann.engine.conferences().mnuCreateNewConf();
     for (Copy *const guest : {&ben, &cleo}) {
-        ann.engine.conferences().mnuInvite2Conf(1, guest->socket.LocalIP());
+        ann.engine.conferences().mnuInvite2Conf(1, addressText(guest->socket.LocalIP()));
         network.settle();
         guest->engine.invitations().ConfAgreebtn_Click(0);
         network.settle();

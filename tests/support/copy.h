@@ -36,7 +36,7 @@ public:
                       [&](DropCounts &) { return SimulatedWinsock(setup.ip, setup.host, network); })
     {
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
-        common.ownIP = setup.ip;
+        common.ownIP = readAddress(setup.ip).value();
         common.ownHostName = setup.host;
         common.ownNickname = setup.nickname;
         socket.portTaken = setup.portTaken;
@@ -46,6 +46,8 @@ public:
             engine.mainWindow().Form_Load();
     }
 
+    /// The own address, as others write it.
+    QString ip() const { return addressText(common.ownIP); }
     void announce() { engine.announcement().run(); }
     void advance(std::chrono::milliseconds span) { time->advance(span); }
     void arrive(const char *from, const std::string &bytes) { socket.arrive(QLatin1String(from), bytes); }

@@ -78,7 +78,7 @@ public:
 struct ScanSurroundings {
     ScanSurroundings()
     {
-        common.ownIP = QStringLiteral("192.168.1.5");
+        common.ownIP = Ipv4Address(192, 168, 1, 5);
         common.ownHostName = QStringLiteral("HERE");
         common.ownNickname = QStringLiteral("Me");
         socket.bind();

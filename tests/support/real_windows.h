@@ -29,7 +29,7 @@ public:
                          const std::map<std::string, QString> &stored = {})
     {
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
-        common.ownIP = QStringLiteral("10.0.0.1");
+        common.ownIP = Ipv4Address(10, 0, 0, 1);
         common.ownHostName = QStringLiteral("HERE");
         common.ownNickname = QStringLiteral("Me");
         int n = 0;

@@ -59,8 +59,12 @@ private:
 class SimulatedWinsock : public Winsock
 {
 public:
-    SimulatedWinsock(QString ip, QString host, SimulatedNetwork *network)
-        : m_ip(std::move(ip)), m_host(std::move(host)), m_network(network)
+    SimulatedWinsock(const QString &ip, QString host, SimulatedNetwork *network)
+        : SimulatedWinsock(readAddress(ip).value(), std::move(host), network)
+    {
+    }
+    SimulatedWinsock(Ipv4Address ip, QString host, SimulatedNetwork *network)
+        : m_ip(ip), m_host(std::move(host)), m_network(network)
     {
         if (m_network)
             m_network->attach(*this);
@@ -87,11 +91,11 @@ public:
             return;
         sent.push_back({m_remoteHost->toText(), bytes});
         if (m_network)
-            m_network->send(m_ip, addressText(*m_remoteHost), bytes);
+            m_network->send(addressText(m_ip), addressText(*m_remoteHost), bytes);
     }
     std::string GetData(std::size_t byteCount) override { return m_arrived.substr(0, byteCount); }
     Ipv4Address RemoteHostIP() const override { return m_source; }
-    QString LocalIP() const override { return m_ip; }
+    Ipv4Address LocalIP() const override { return m_ip; }
     QString LocalHostName() const override { return m_host; }
 
     void arrive(const QString &from, const std::string &bytes)
@@ -109,7 +113,7 @@ public:
     std::vector<To> sent;
 
 private:
-    QString m_ip;
+    Ipv4Address m_ip;
     QString m_host;
     SimulatedNetwork *m_network;
     std::optional<Ipv4Address> m_remoteHost;
@@ -120,12 +124,12 @@ private:
 
 inline void SimulatedNetwork::attach(SimulatedWinsock &socket)
 {
-    m_sockets[socket.LocalIP()] = &socket;
+    m_sockets[addressText(socket.LocalIP())] = &socket;
 }
 
 inline void SimulatedNetwork::detach(const SimulatedWinsock &socket)
 {
-    m_sockets.erase(socket.LocalIP());
+    m_sockets.erase(addressText(socket.LocalIP()));
 }
 
 inline SimulatedWinsock *SimulatedNetwork::listener(const QString &ip) const

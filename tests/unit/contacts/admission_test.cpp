@@ -17,10 +17,10 @@ class AdmissionTest : public testing::Test
 protected:
     AdmissionTest()
     {
-        common.ownIP = QStringLiteral("10.0.0.1");
+        common.ownIP = Ipv4Address(10, 0, 0, 1);
         addContact(QStringLiteral("10.0.0.2"));
     }
-    void addContact(const QString &ip)
+    void addContact(const ContactAddress &ip)
     {
         Contact contact;
         contact.ip = ip;
@@ -50,7 +50,7 @@ TEST_F(AdmissionTest, TheOwnAddressIsRefusedAsSuchEvenWhenItIsAContactOrLoopback
 {
     addContact(common.ownIP);
     EXPECT_THAT(refusal("10.0.0.1"), Optional(Refusal::ownAddress));
-    common.ownIP = QStringLiteral("127.0.0.1");
+    common.ownIP = Ipv4Address(127, 0, 0, 1);
     EXPECT_THAT(refusal("127.0.0.1"), Optional(Refusal::ownAddress));
 }
 
@@ -58,7 +58,7 @@ TEST_F(AdmissionTest, OfTheLoopbackAddressesOnlyTheUsualOneIsRefused)
 {
     EXPECT_THAT(refusal("127.0.0.1"), Optional(Refusal::thisMachine));
     EXPECT_THAT(refusal("127.0.1.1"), Eq(std::nullopt));
-    common.ownIP = QStringLiteral("127.0.1.1");
+    common.ownIP = Ipv4Address(127, 0, 1, 1);
     EXPECT_THAT(refusal("127.0.0.1"), Optional(Refusal::thisMachine));
     EXPECT_THAT(refusal("127.0.1.2"), Eq(std::nullopt));
 }

@@ -17,7 +17,7 @@ class AddUserTest : public testing::Test
 protected:
     AddUserTest()
     {
-        common.ownIP = QStringLiteral("192.168.0.5");
+        common.ownIP = Ipv4Address(192, 168, 0, 5);
         common.ownHostName = QStringLiteral("HERE");
         Contact ann;
         ann.nickname = QStringLiteral("Ann");

@@ -56,7 +56,7 @@ struct Heard {
 
 /// A copy's socket that notes all it hears.
 struct Copy {
-    explicit Copy(const std::optional<QString> &address = std::nullopt) : socket(drops, address)
+    explicit Copy(const QString &address = {}) : socket(drops, readAddress(address))
     {
         socket.setLocalPort(testPort());
         socket.setRemotePort(testPort());
@@ -241,7 +241,7 @@ TEST(UdpWinsock, IsFreeToBindAgainOnceBound)
 TEST(UdpWinsock, DoesNotBindBeforeItHasAPort)
 {
     DropCounts drops;
-    UdpWinsock socket(drops, "127.0.1.1");
+    UdpWinsock socket(drops, Ipv4Address(127, 0, 1, 1));
     EXPECT_FALSE(socket.bind());
     socket.setLocalPort(testPort());
     EXPECT_TRUE(socket.bind());
@@ -621,8 +621,8 @@ TEST(UdpWinsock, ChildProcessesDoNotKeepItsPort)
 TEST(UdpWinsock, TellsTheFixedIdentity)
 {
     DropCounts drops;
-    const UdpWinsock socket(drops, "127.0.1.1", "PC-ANN");
-    EXPECT_EQ(socket.LocalIP(), "127.0.1.1");
+    const UdpWinsock socket(drops, Ipv4Address(127, 0, 1, 1), "PC-ANN");
+    EXPECT_EQ(socket.LocalIP(), Ipv4Address(127, 0, 1, 1));
     EXPECT_EQ(socket.LocalHostName(), "PC-ANN");
     EXPECT_TRUE(socket.RemoteHostIP().isUnspecified());
 }

@@ -22,7 +22,7 @@ TEST_F(LoginTest, LearnsTheOwnIdentityFromTheSocket)
 {
     login.Form_Load();
     EXPECT_EQ(common.ownHostName, QStringLiteral("HERE"));
-    EXPECT_EQ(common.ownIP, QStringLiteral("10.0.0.1"));
+    EXPECT_EQ(common.ownIP, Ipv4Address(10, 0, 0, 1));
 }
 
 TEST_F(LoginTest, TheFirstRunOffersTheHostName)
