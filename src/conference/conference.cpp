@@ -23,9 +23,9 @@ QString withoutOuterBlanks(const QString &text)
 } // namespace
 
 Conference::Conference(const Services &services, Identity identity, std::function<void()> unloaded)
-    : Conversation(services.conversation, std::move(unloaded)), m_services(services), m_identity(std::move(identity))
+    : Conversation(services.conversation, std::move(unloaded)), m_services(services), m_identity(identity)
 {
-    m_participants.add({.ip = addressText(common().ownIP),
+    m_participants.add({.ip = common().ownIP,
                         .name = tr("%1 (you)").arg(common().ownNickname),
                         .present = true,
                         .own = true});
@@ -40,7 +40,7 @@ QString Conference::caption() const
     const Contact *const host = m_services.contacts.find(m_identity.ConfServerIP);
     return tr("Conference #%1 (Hosted by '%2') - NIMB-Chat")
         .arg(m_identity.fConfN)
-        .arg(host ? host->nickname : m_identity.ConfServerIP);
+        .arg(host ? host->nickname : addressText(m_identity.ConfServerIP));
 }
 
 // --- writing
@@ -58,14 +58,14 @@ QString Conference::textToSend(const QString &typed) const
 
 void Conference::deliver(const QString &text)
 {
-    relay(text, addressText(common().ownIP));
+    relay(text, common().ownIP);
     showOwnAvatar();
 }
 
-void Conference::relay(const QString &text, const QString &origin)
+void Conference::relay(const QString &text, Ipv4Address origin)
 {
-    const bool isOwn = origin == addressText(common().ownIP);
-    const wire::ConferenceMessage message{origin.toStdString(), m_identity.ConfNum, toWire(text)};
+    const bool isOwn = origin == common().ownIP;
+    const wire::ConferenceMessage message{origin.toText(), m_identity.ConfNum, toWire(text)};
     if (!isHostedHere()) {
         if (isOwn)
             sendDatagram(socket(), m_identity.ConfServerIP, message);
@@ -74,22 +74,22 @@ void Conference::relay(const QString &text, const QString &origin)
     const std::string bytes = wire::serialise(message);
     for (const Participant &participant : m_participants.rows()) {
         if (participant.isPresentPeer() && participant.ip != origin)
-            sendBytes(socket(), participant.ip, bytes);
+            sendBytes(socket(), participant.ip.ipv4(), bytes);
     }
 }
 
 // --- receiving
 
-Conference::Writer Conference::writerOf(const QString &ip) const
+Conference::Writer Conference::writerOf(Ipv4Address ip) const
 {
     const Participant *const row = m_participants.find(ip);
     if (row)
         return {row->name, row->colour.value_or(colours::presence)};
     const Contact *const contact = m_services.contacts.find(ip);
-    return {contact ? contact->nickname : remoteName(ip), colours::presence};
+    return {contact ? contact->nickname : addressText(ip), colours::presence};
 }
 
-void Conference::ReceiveMessage(const QString &IP, const QString &msg)
+void Conference::ReceiveMessage(Ipv4Address IP, const QString &msg)
 {
     const QString text = trimmedMessage(msg);
     appendReceived(writerOf(IP), remoteBody(text));
@@ -106,21 +106,21 @@ void Conference::terminate()
 
 // --- participants
 
-void Conference::invite(const QString &ip)
+void Conference::invite(const ContactAddress &ip)
 {
     const Contact *const contact = m_services.contacts.find(ip);
     if (!contact || !isHostedHere())
         return;
     m_participants.add({.ip = ip, .name = contact->nickname});
-    sendDatagram(socket(), ip, wire::ConferenceInvitation{m_identity.ConfNum});
+    sendDatagram(socket(), ip.ipv4(), wire::ConferenceInvitation{m_identity.ConfNum});
 }
 
-void Conference::kickuserbtn_Click(const QString &ip)
+void Conference::kickuserbtn_Click(const ContactAddress &ip)
 {
     const Participant *const participant = m_participants.find(ip);
     if (!participant || participant->own || !isHostedHere())
         return;
-    sendDatagram(socket(), ip, wire::ConferenceClose{m_identity.ConfNum});
+    sendDatagram(socket(), ip.ipv4(), wire::ConferenceClose{m_identity.ConfNum});
     m_participants.remove(ip);
 }
 
@@ -130,20 +130,20 @@ void Conference::refreshlistbtn_Click()
         sendDatagram(socket(), m_identity.ConfServerIP, wire::ConferenceListQuestion{m_identity.ConfNum});
 }
 
-void Conference::Broadcastlist(const QString &dest)
+void Conference::Broadcastlist(std::optional<Ipv4Address> dest)
 {
     if (!isHostedHere())
         return;
     wire::ConferenceList list{m_identity.ConfNum, {common().ownIP.toText()}};
     for (const Participant &participant : m_participants.rows()) {
         if (participant.isPresentPeer())
-            list.addresses.push_back(participant.ip.toStdString());
+            list.addresses.push_back(participant.ip.text().toStdString());
     }
     const std::string bytes = wire::serialise(list);
-    if (dest.isEmpty())
-        sendToAll(bytes);
-    else
+    if (dest)
         sendBytes(socket(), dest, bytes);
+    else
+        sendToAll(bytes);
 }
 
 void Conference::BroadcastClose()
@@ -157,7 +157,7 @@ void Conference::sendToAll(const std::string &bytes)
 {
     for (const Participant &participant : m_participants.rows()) {
         if (!participant.own)
-            sendBytes(socket(), participant.ip, bytes);
+            sendBytes(socket(), participant.ip.ipv4(), bytes);
     }
 }
 
@@ -176,7 +176,7 @@ void Conference::showOwnAvatar()
         showAvatar(name, m_services.ownAvatar.picture());
 }
 
-void Conference::showAvatarOf(const QString &ip)
+void Conference::showAvatarOf(Ipv4Address ip)
 {
     const Contact *const contact = m_services.contacts.find(ip);
     if (!contact || contact->nickname == m_avatarLabel)

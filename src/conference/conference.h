@@ -30,7 +30,7 @@ public:
     /// Which conference it is.
     struct Identity {
         bool ImHostingThatConf = false;
-        QString ConfServerIP;     ///< the host's address, the own one for a hosted conference
+        Ipv4Address ConfServerIP; ///< the host's address, the own one for a hosted conference
         std::int16_t ConfNum = 0; ///< the host's number; carried in every datagram
         int fConfN = 0;           ///< slot in the window table; shown to the user
     };
@@ -45,17 +45,17 @@ public:
     ConferenceView &view() { return *m_view; }
 
     /// Removes a participant; nobody and the own row are left alone. The others learn it with the next list.
-    void kickuserbtn_Click(const QString &ip);
+    void kickuserbtn_Click(const ContactAddress &ip);
     void refreshlistbtn_Click();
 
     /// A contact is invited; one who is present stays so.
-    void invite(const QString &ip);
+    void invite(const ContactAddress &ip);
 
-    /// The host sends the list of those present to dest or, when it is empty, to everybody in the list.
-    void Broadcastlist(const QString &dest);
+    /// The host sends the list of those present to dest or, without it, to everybody in the list.
+    void Broadcastlist(std::optional<Ipv4Address> dest);
     void BroadcastClose();
     /// A message of the participant with this address: shown and, at the host, relayed.
-    void ReceiveMessage(const QString &IP, const QString &msg);
+    void ReceiveMessage(Ipv4Address IP, const QString &msg);
     void ReceiveCommand(const QString &msg, Colour color) { appendLine(msg, color); }
     /// The host has closed it, or has removed this copy from it.
     void terminate();
@@ -71,11 +71,11 @@ private:
     void deliver(const QString &text) override;
 
     QString caption() const;
-    Writer writerOf(const QString &ip) const;
-    void relay(const QString &text, const QString &origin);
+    Writer writerOf(Ipv4Address ip) const;
+    void relay(const QString &text, Ipv4Address origin);
     void sendToAll(const std::string &bytes);
     void showOwnAvatar();
-    void showAvatarOf(const QString &ip);
+    void showAvatarOf(Ipv4Address ip);
     void showAvatar(const QString &name, const std::optional<QByteArray> &picture);
 
     Services m_services;

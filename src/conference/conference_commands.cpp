@@ -24,7 +24,7 @@ bool isHostsNumber(std::int16_t number)
 
 void ConferenceCommands::conferenceDatagram(Ipv4Address ip, const wire::Datagram &datagram)
 {
-    m_ip = addressText(ip);
+    m_ip = ip;
     std::visit(*this, datagram);
 }
 
@@ -73,14 +73,14 @@ void ConferenceCommands::agreed(Conference &conference)
     askForAvatar(m_ip);
 }
 
-void ConferenceCommands::joined(Conference &conference, const QString &address)
+void ConferenceCommands::joined(Conference &conference, Ipv4Address address)
 {
     conference.partecipanti().setPresent(address);
     const QString &nickname = m_parts.contacts.find(address)->nickname;
     conference.ReceiveCommand(tr("--- %1 joined the conference").arg(nickname), colours::banner);
 }
 
-void ConferenceCommands::left(Conference &conference, const QString &address, const QString &nickname)
+void ConferenceCommands::left(Conference &conference, const ContactAddress &address, const QString &nickname)
 {
     conference.ReceiveCommand(tr("--- %1 left the conference.").arg(nickname), colours::banner);
     conference.partecipanti().remove(address);
@@ -123,18 +123,18 @@ void ConferenceCommands::operator()(const wire::ConferenceList &list)
         else if (refusal == Refusal::listFull)
             m_parts.drops.count(Drop::tooManyContacts);
         else
-            listed(*conference, addressText(*ip));
+            listed(*conference, *ip);
     }
-    QStringList gone;
+    std::vector<ContactAddress> gone;
     for (const Participant &participant : participants.rows()) {
         if (!participant.present)
-            gone.append(participant.ip);
+            gone.push_back(participant.ip);
     }
-    for (const QString &ip : std::as_const(gone))
+    for (const ContactAddress &ip : gone)
         left(*conference, ip, participants.find(ip)->name);
 }
 
-void ConferenceCommands::listed(Conference &conference, const QString &address)
+void ConferenceCommands::listed(Conference &conference, Ipv4Address address)
 {
     if (!m_parts.contacts.isContact(address))
         greet(address);
@@ -148,7 +148,7 @@ void ConferenceCommands::listed(Conference &conference, const QString &address)
 
 /// A participant whom this copy does not know becomes a contact, and is asked for its name unless that would tell of
 /// somebody who is invisible.
-void ConferenceCommands::greet(const QString &address)
+void ConferenceCommands::greet(Ipv4Address address)
 {
     Contact contact;
     contact.ip = address;
@@ -162,7 +162,7 @@ void ConferenceCommands::greet(const QString &address)
     m_parts.sender.statusUnlessOnline(address);
 }
 
-void ConferenceCommands::askForAvatar(const QString &address)
+void ConferenceCommands::askForAvatar(Ipv4Address address)
 {
     if (m_parts.avatars.of(address).head.empty())
         sendDatagram(m_parts.socket, address, wire::AvatarHeadQuestion{});
@@ -193,9 +193,9 @@ void ConferenceCommands::operator()(const wire::ConferenceClose &close)
 /// Whether what a participant sends to its host under this origin are its own words. It may know itself by an address
 /// that nobody else sees. Anything else was relayed by a host who takes this copy for a guest: two more such hosts, and
 /// it would go round for ever.
-bool ConferenceCommands::isWritersOwn(const QString &origin, const Conference &conference) const
+bool ConferenceCommands::isWritersOwn(Ipv4Address origin, const Conference &conference) const
 {
-    if (origin == m_ip || origin == addressText(m_parts.common.ownIP))
+    if (origin == m_ip || origin == m_parts.common.ownIP)
         return true;
     const bool isSomebodyElses = m_parts.contacts.isContact(origin) || conference.partecipanti().find(origin);
     return !isSomebodyElses && !m_parts.conferences.mayBeListedBy(m_ip, conference.identity().ConfNum);
@@ -204,18 +204,17 @@ bool ConferenceCommands::isWritersOwn(const QString &origin, const Conference &c
 /// Whose message it is. A guest sends its own address as the origin, so at the host the writer is who sent it.
 void ConferenceCommands::operator()(const wire::ConferenceMessage &message)
 {
-    const std::optional<Ipv4Address> address = Ipv4Address::parse(message.origin);
+    const std::optional<Ipv4Address> origin = Ipv4Address::parse(message.origin);
     const QString text = fromWire(message.text);
     // Hosts name writers by their addresses; anything else would stand in the log as if it were somebody's name.
-    if (!address || !address->isUnicast())
+    if (!origin || !origin->isUnicast())
         return drop();
-    const QString origin = addressText(*address);
-    if (address != m_parts.common.ownIP) {
+    if (origin != m_parts.common.ownIP) {
         if (Conference *const conference = m_parts.conferences.joined(m_ip, message.id))
-            return conference->ReceiveMessage(origin, text);
+            return conference->ReceiveMessage(*origin, text);
     }
     Conference *const conference = attended(message.id);
-    if (!conference || conference->partecipanti().find(m_ip)->own || !isWritersOwn(origin, *conference))
+    if (!conference || conference->partecipanti().find(m_ip)->own || !isWritersOwn(*origin, *conference))
         return drop();
     conference->ReceiveMessage(m_ip, text);
 }

@@ -46,19 +46,19 @@ private:
     void drop() { m_parts.drops.count(Drop::noConference); }
     /// Display name of the sender.
     QString name() const;
-    bool isWritersOwn(const QString &origin, const Conference &conference) const;
+    bool isWritersOwn(Ipv4Address origin, const Conference &conference) const;
     Conference *attended(std::int16_t number) const;
     void agreed(Conference &conference);
     void denied(Conference &conference);
-    void listed(Conference &conference, const QString &address);
+    void listed(Conference &conference, Ipv4Address address);
     /// Rows and log follow those who come and go.
-    void joined(Conference &conference, const QString &address);
-    void left(Conference &conference, const QString &address, const QString &nickname);
-    void greet(const QString &address);
-    void askForAvatar(const QString &address);
+    void joined(Conference &conference, Ipv4Address address);
+    void left(Conference &conference, const ContactAddress &address, const QString &nickname);
+    void greet(Ipv4Address address);
+    void askForAvatar(Ipv4Address address);
 
     Parts m_parts;
-    QString m_ip; ///< the sender of the datagram at hand
+    Ipv4Address m_ip; ///< the sender of the datagram at hand
 };
 
 } // namespace nimb

@@ -16,11 +16,11 @@ void ConferenceTable::contactChanged(const Contact &contact)
 {
     for (const auto &conference : m_slots) {
         if (conference)
-            conference->partecipanti().setName(contact.ip.text(), contact.nickname);
+            conference->partecipanti().setName(contact.ip, contact.nickname);
     }
 }
 
-int ConferenceTable::CreateNewConfWin(bool host, std::int16_t ChnNum, const QString &IP)
+int ConferenceTable::CreateNewConfWin(bool host, std::int16_t ChnNum, Ipv4Address IP)
 {
     int slot = 1;
     while (slot <= lastSlot && at(slot))
@@ -28,7 +28,7 @@ int ConferenceTable::CreateNewConfWin(bool host, std::int16_t ChnNum, const QStr
     if (slot > lastSlot)
         return 0;
     const Conference::Identity identity{.ImHostingThatConf = host,
-                                        .ConfServerIP = host ? addressText(m_services.conversation.common.ownIP) : IP,
+                                        .ConfServerIP = host ? m_services.conversation.common.ownIP : IP,
                                         .ConfNum = ChnNum != 0 ? ChnNum : static_cast<std::int16_t>(slot),
                                         .fConfN = slot};
     if (!host)
@@ -43,11 +43,11 @@ int ConferenceTable::CreateNewConfWin(bool host, std::int16_t ChnNum, const QStr
 
 void ConferenceTable::mnuCreateNewConf()
 {
-    if (CreateNewConfWin(true, 0, {}) < 1)
+    if (CreateNewConfWin(true, 0, m_services.common.ownIP) < 1)
         m_services.prompts.tell(tr("Sorry, conf windows are over!!!"), programTitle);
 }
 
-void ConferenceTable::mnuInvite2Conf(int slot, const QString &ip)
+void ConferenceTable::mnuInvite2Conf(int slot, const ContactAddress &ip)
 {
     if (Conference *const conference = hosted(slot))
         conference->invite(ip);
@@ -64,7 +64,7 @@ Conference *ConferenceTable::hosted(int number)
     return conference && conference->isHostedHere() ? conference : nullptr;
 }
 
-Conference *ConferenceTable::joined(const QString &host, int number)
+Conference *ConferenceTable::joined(Ipv4Address host, int number)
 {
     for (const auto &conference : m_slots) {
         if (!conference || conference->isHostedHere() || conference->isOver())

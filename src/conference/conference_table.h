@@ -25,23 +25,23 @@ public:
 
     /// Opens the window of a new conference; ChnNum is the host's number of a joined one and 0 for a hosted one.
     /// Returns its slot, or 0 when none is free.
-    int CreateNewConfWin(bool host, std::int16_t ChnNum, const QString &IP);
+    int CreateNewConfWin(bool host, std::int16_t ChnNum, Ipv4Address IP);
     void mnuCreateNewConf();
     /// Invites the contact to the conference in this slot.
-    void mnuInvite2Conf(int slot, const QString &ip);
+    void mnuInvite2Conf(int slot, const ContactAddress &ip);
 
     /// The conference that is hosted here under this number, or null.
     Conference *hosted(int number);
     /// The conference that this host numbers so and that is not terminated, or null.
-    Conference *joined(const QString &host, int number);
+    Conference *joined(Ipv4Address host, int number);
     /// The window in this slot, or null.
     Conference *at(int slot);
 
     /// Whether this host may still take this copy for a guest of its conference of this number: windows close here
     /// without the host's hearing of it.
-    bool mayBeListedBy(const QString &host, int number) const { return m_guestships.contains({host, number}); }
+    bool mayBeListedBy(Ipv4Address host, int number) const { return m_guestships.contains({host, number}); }
     /// This host has said that its conference of this number is over for this copy.
-    void forgetGuestship(const QString &host, int number) { m_guestships.erase({host, number}); }
+    void forgetGuestship(Ipv4Address host, int number) { m_guestships.erase({host, number}); }
 
     void unloadAll();
 
@@ -53,7 +53,7 @@ private:
     Conference::Services m_services;
     ConferenceMenuView &m_menu;
     std::array<std::unique_ptr<Conference>, lastSlot + 2> m_slots;
-    std::set<std::pair<QString, int>> m_guestships; ///< host and its number
+    std::set<std::pair<Ipv4Address, int>> m_guestships; ///< host and its number
 };
 
 } // namespace nimb

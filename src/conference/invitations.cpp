@@ -22,7 +22,7 @@ constexpr qint64 oldestAge = std::numeric_limits<std::int16_t>::max(); // second
 
 // --- the rows
 
-int InvitationList::rowOf(const QString &host, std::int16_t number) const
+int InvitationList::rowOf(Ipv4Address host, std::int16_t number) const
 {
     const auto found = std::find_if(m_rows.begin(), m_rows.end(),
                                     [&](const Invitation &one) { return one.host == host && one.number == number; });
@@ -92,9 +92,9 @@ QVariant InvitationList::data(const QModelIndex &index, int role) const
     case Qt::ToolTipRole: // for what the column cuts off
         return invitation.text;
     case KeyRole:
-        return QStringLiteral("IP%1:%2").arg(invitation.host).arg(invitation.number);
+        return QStringLiteral("IP%1:%2").arg(addressText(invitation.host)).arg(invitation.number);
     case TagRole:
-        return invitation.host;
+        return addressText(invitation.host);
     case PictureRole:
         return invitation.state == Invitation::State::pending ? QStringLiteral("green") : QStringLiteral("red");
     default:
@@ -144,7 +144,7 @@ void Invitations::Form_Load(InvitationsView &view)
 }
 
 /// What one host sends must not keep out what others send.
-bool Invitations::makeRoom(const QString &host)
+bool Invitations::makeRoom(Ipv4Address host)
 {
     int ofHost = 0, overOfHost = -1, over = -1;
     for (int row = m_list.rowCount() - 1; row >= 0; --row) {
@@ -164,7 +164,7 @@ bool Invitations::makeRoom(const QString &host)
     return oldest >= 0;
 }
 
-bool Invitations::arrived(const QString &host, std::int16_t number)
+bool Invitations::arrived(Ipv4Address host, std::int16_t number)
 {
     const Contact *const contact = m_services.contacts.find(host);
     if (!contact)
@@ -187,7 +187,7 @@ bool Invitations::arrived(const QString &host, std::int16_t number)
     return true;
 }
 
-void Invitations::closed(const QString &host, std::int16_t number)
+void Invitations::closed(Ipv4Address host, std::int16_t number)
 {
     if (const int row = m_list.rowOf(host, number); row >= 0)
         m_list.setState(row, Invitation::State::closed);

@@ -16,7 +16,7 @@ namespace nimb
 struct Invitation {
     enum class State { pending, refused, autorefused, closed };
 
-    QString host;            ///< the row's tag
+    Ipv4Address host;        ///< the row's tag
     std::int16_t number = 0; ///< as the host knows the conference
     QString text;
     QDateTime arrived;
@@ -38,7 +38,7 @@ public:
 
     const Invitation &at(int row) const { return *std::next(m_rows.begin(), row); }
     /// -1 when there is none.
-    int rowOf(const QString &host, std::int16_t number) const;
+    int rowOf(Ipv4Address host, std::int16_t number) const;
     void add(const Invitation &invitation);
     void remove(int row);
     void setState(int row, Invitation::State state);
@@ -90,9 +90,9 @@ public:
 
     /// An invitation arrived; one that is there already is replaced. The oldest one that is over makes room in a full
     /// list; false when there is none, or when the host is no contact.
-    bool arrived(const QString &host, std::int16_t number);
+    bool arrived(Ipv4Address host, std::int16_t number);
     /// The host has closed the conference.
-    void closed(const QString &host, std::int16_t number);
+    void closed(Ipv4Address host, std::int16_t number);
 
     void mnushowinvitations();
     /// A row that is not there, or not to be answered any more, is left alone.
@@ -110,7 +110,7 @@ public:
     void Form_Unload();
 
 private:
-    bool makeRoom(const QString &host);
+    bool makeRoom(Ipv4Address host);
     bool isToBeAutorefused(const Invitation &invitation) const;
     void Timer1_Timer();
     void deny(int row);

@@ -7,14 +7,14 @@
 namespace nimb
 {
 
-int Participants::rowOf(const QString &ip) const
+int Participants::rowOf(const ContactAddress &ip) const
 {
     const auto found
         = std::find_if(m_rows.begin(), m_rows.end(), [&ip](const Participant &one) { return one.ip == ip; });
     return found == m_rows.end() ? -1 : static_cast<int>(found - m_rows.begin());
 }
 
-const Participant *Participants::find(const QString &ip) const
+const Participant *Participants::find(const ContactAddress &ip) const
 {
     const int row = rowOf(ip);
     return row < 0 ? nullptr : &at(row);
@@ -31,7 +31,7 @@ bool Participants::add(const Participant &participant)
     return true;
 }
 
-bool Participants::remove(const QString &ip)
+bool Participants::remove(const ContactAddress &ip)
 {
     const int row = rowOf(ip);
     if (row < 0)
@@ -42,7 +42,7 @@ bool Participants::remove(const QString &ip)
     return true;
 }
 
-template <class Change> void Participants::change(const QString &ip, const Change &change)
+template <class Change> void Participants::change(const ContactAddress &ip, const Change &change)
 {
     const int row = rowOf(ip);
     if (row < 0)
@@ -51,7 +51,7 @@ template <class Change> void Participants::change(const QString &ip, const Chang
     Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
 }
 
-void Participants::setPresent(const QString &ip)
+void Participants::setPresent(const ContactAddress &ip)
 {
     change(ip, [this](Participant &participant) {
         participant.present = true;
@@ -67,7 +67,7 @@ void Participants::setAllAbsent()
     Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
 }
 
-void Participants::setName(const QString &ip, const QString &name)
+void Participants::setName(const ContactAddress &ip, const QString &name)
 {
     const Participant *const row = find(ip);
     if (row && !row->own && row->name != name)
@@ -107,9 +107,9 @@ QVariant Participants::data(const QModelIndex &index, int role) const
             return participant.name;
         return participant.own ? QStringLiteral("!") : QString();
     case KeyRole:
-        return QString(QLatin1String("IP") + participant.ip);
+        return QString(QLatin1String("IP") + participant.ip.text());
     case TagRole:
-        return participant.ip;
+        return participant.ip.text();
     case PictureRole:
         return participant.present ? QStringLiteral("green") : QStringLiteral("blue");
     case ColourRole:

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/colour.h"
+#include "base/contact_address.h"
 
 #include <QAbstractTableModel>
 #include <QHash>
@@ -14,7 +15,7 @@ namespace nimb
 {
 
 struct Participant {
-    QString ip;
+    ContactAddress ip;
     QString name;                                ///< the row's text
     bool present = false;                        ///< "green"; otherwise invited and not there yet, "blue"
     bool own = false;                            ///< marked with "!"
@@ -38,18 +39,18 @@ public:
 
     const std::vector<Participant> &rows() const { return m_rows; }
     /// Null when there is none with this address.
-    const Participant *find(const QString &ip) const;
+    const Participant *find(const ContactAddress &ip) const;
 
     /// False, and nothing changes, when the address is there already.
     bool add(const Participant &participant);
-    bool remove(const QString &ip);
+    bool remove(const ContactAddress &ip);
     /// Marks a row as present and gives it a colour, unless it has one: the lowest of the table that no row has, and
     /// once all are taken one after the other in turn.
-    void setPresent(const QString &ip);
+    void setPresent(const ContactAddress &ip);
     /// Marks all but the own row as not there.
     void setAllAbsent();
     /// The own row keeps its name.
-    void setName(const QString &ip, const QString &name);
+    void setName(const ContactAddress &ip, const QString &name);
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
@@ -57,9 +58,9 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    int rowOf(const QString &ip) const; ///< -1 when there is none
+    int rowOf(const ContactAddress &ip) const; ///< -1 when there is none
     const Participant &at(int row) const { return *std::next(m_rows.begin(), row); }
-    template <class Change> void change(const QString &ip, const Change &change);
+    template <class Change> void change(const ContactAddress &ip, const Change &change);
     Colour nextColour();
 
     std::vector<Participant> m_rows;

@@ -103,7 +103,7 @@ struct Host : WholeEngine<UdpWinsock, SilentViews> {
     {
         engine.conferences().mnuCreateNewConf();
         for (int i = 0; i < count; ++i)
-            engine.conferences().mnuInvite2Conf(1, addressText(addressOf(i)));
+            engine.conferences().mnuInvite2Conf(1, addressOf(i));
         for (int i = 0; i < count; ++i)
             receive(addressOf(i), "!CONF INVITE #1 AGREE");
     }
@@ -176,7 +176,7 @@ void measureMemory(int participants)
     host.engine.conferences().mnuCreateNewConf();
     const std::size_t before = mallinfo2().uordblks;
     for (int i = 0; i < participants; ++i)
-        host.engine.conferences().mnuInvite2Conf(1, addressText(addressOf(i)));
+        host.engine.conferences().mnuInvite2Conf(1, addressOf(i));
     for (int i = 0; i < participants; ++i)
         host.receive(addressOf(i), "!CONF INVITE #1 AGREE");
     const std::size_t after = mallinfo2().uordblks;

@@ -299,7 +299,7 @@ void takeConference(Gallery &gallery)
     windows.entry("mnuCreateNewConf").trigger();
     QWidget &hosted = topLevel("frmConference");
     for (const char *ip : {"192.168.1.12", "192.168.1.20", "192.168.1.31", "192.168.1.44", "192.168.1.45"})
-        windows.engine.conferences().mnuInvite2Conf(1, QLatin1String(ip));
+        windows.engine.conferences().mnuInvite2Conf(1, QString::fromLatin1(ip));
     for (const char *ip : {"192.168.1.12", "192.168.1.20", "192.168.1.31"})
         windows.arrive(ip, "!CONF INVITE #1 AGREE");
     windows.arrive("192.168.1.45", "!CONF INVITE #1 DENY");
@@ -319,7 +319,7 @@ void takeConference(Gallery &gallery)
     windows.arrive("192.168.1.31", "?CONF INVITE #3");
     windows.arrive("192.168.1.12", "?CONF INVITE #1");
     windows.arrive("192.168.1.44", "?CONF INVITE #2");
-    windows.engine.invitations().closed(QStringLiteral("192.168.1.44"), 2);
+    windows.engine.invitations().closed(Ipv4Address(192, 168, 1, 44), 2);
     QWidget &invitations = topLevel("frmConfInvitations");
     RealWindows::control<QTreeView>(invitations, "ListView1")
         .setCurrentIndex(windows.engine.invitations().list().index(0, 0).isValid()

@@ -74,8 +74,8 @@ public:
         table.mnuInvite2Conf(1, addressOf(0));
         table.mnuInvite2Conf(1, addressOf(1));
         table.mnuInvite2Conf(2, addressOf(2));
-        table.CreateNewConfWin(false, 1, addressOf(0));
-        table.CreateNewConfWin(false, 7, addressOf(3));
+        table.CreateNewConfWin(false, 1, readAddress(addressOf(0)).value());
+        table.CreateNewConfWin(false, 7, readAddress(addressOf(3)).value());
     }
 
     void play()
@@ -180,7 +180,7 @@ private:
             one.terminated = conference->isOver();
             one.pieces = static_cast<Silent<RecorderConferenceView> &>(conference->view()).silent.pieces;
             for (const Participant &row : conference->partecipanti().rows())
-                one.rows[row.ip] = row.present;
+                one.rows[row.ip.text()] = row.present;
         }
         return all;
     }
@@ -214,7 +214,7 @@ private:
             return;
         const Conference::Identity &identity = before.window->identity();
         const bool hosted = before.window->isHostedHere();
-        const bool fromHost = known && !hosted && from == identity.ConfServerIP && !before.terminated;
+        const bool fromHost = known && !hosted && from == addressText(identity.ConfServerIP) && !before.terminated;
         if (before.terminated != after.terminated) {
             const auto *close = std::get_if<wire::ConferenceClose>(&datagram);
             require(fromHost && close && close->id == identity.ConfNum, "only the host closes a conference");
@@ -264,7 +264,7 @@ private:
             require(known && identity.ConfNum == message.id && !before[slot].terminated,
                     "a message is shown in the conference that it names, and to nobody for whom it is over");
             if (!before[slot].window->isHostedHere()) {
-                require(identity.ConfServerIP == from, "a guest hears its host alone");
+                require(addressText(identity.ConfServerIP) == from, "a guest hears its host alone");
                 continue;
             }
             relays = true;
@@ -296,7 +296,7 @@ private:
         require(!table.at(0) && !table.at(6), "slots 1 to 5 are handed out");
         require(m_engine.engine.invitations().list().rowCount() <= limits::invitations, "invitations are limited");
         require(m_engine.engine.contacts().rowCount() <= limits::contactsFromStrangers, "contacts are limited");
-        std::set<std::pair<QString, int>> open;
+        std::set<std::pair<Ipv4Address, int>> open;
         for (int slot = 1; slot <= ConferenceTable::lastSlot; ++slot) {
             Conference *const conference = table.at(slot);
             if (!conference)
@@ -316,7 +316,7 @@ private:
         std::set<QString> addresses;
         int own = 0;
         for (const Participant &row : conference.partecipanti().rows()) {
-            require(addresses.insert(row.ip).second, "nobody is in a list twice");
+            require(addresses.insert(row.ip.text()).second, "nobody is in a list twice");
             require(row.own == (row.ip == ownAddress), "the own row is the own address's");
             require(conference.isHostedHere() || row.present, "a guest lists who is there");
             own += row.own;

@@ -58,7 +58,7 @@ using Name = std::pair<QString, int>;
 
 Name nameOf(const Conference &conference)
 {
-    return {conference.identity().ConfServerIP, conference.identity().ConfNum};
+    return {addressText(conference.identity().ConfServerIP), conference.identity().ConfNum};
 }
 
 RecorderConferenceView &viewOf(Conference &conference)
@@ -88,7 +88,7 @@ std::map<QString, bool> rowsOf(Conference &conference)
 {
     std::map<QString, bool> rows;
     for (const Participant &row : conference.partecipanti().rows())
-        rows[row.ip] = row.present;
+        rows[row.ip.text()] = row.present;
     return rows;
 }
 
@@ -257,13 +257,13 @@ private:
             Invitations &invitations = copy->engine.invitations();
             const int row = m_dice.below(invitations.list().rowCount());
             const Invitation invitation = invitations.list().at(row);
-            const std::string which = invitation.host.toStdString() + " #" + std::to_string(invitation.number);
+            const std::string which = invitation.host.toText() + " #" + std::to_string(invitation.number);
             const int what = m_dice.below(20);
             if (what < 15) {
                 tell(static_cast<int>(i), "accepts " + which);
                 invitations.ConfAgreebtn_Click(row);
                 if (copy->engine.conferences().joined(invitation.host, invitation.number))
-                    m_guestOf[static_cast<int>(i)].insert({invitation.host, invitation.number});
+                    m_guestOf[static_cast<int>(i)].insert({addressText(invitation.host), invitation.number});
             } else if (what < 17) {
                 tell(static_cast<int>(i), "refuses " + which);
                 invitations.ConfDenybtn_Click(row);
@@ -299,7 +299,7 @@ private:
             return {};
         m_saidIn[text] = nameOf(conference);
         m_authors[text] = who;
-        std::set<QString> expected{conference.identity().ConfServerIP};
+        std::set<QString> expected{nameOf(conference).first};
         if (conference.isHostedHere()) {
             expected = presentIn(rowsOf(conference));
             expected.erase(copy.ip());
@@ -315,7 +315,7 @@ private:
         if (!conference)
             return;
         const auto &rows = conference->partecipanti().rows();
-        const QString ip = rows[static_cast<std::size_t>(m_dice.below(static_cast<int>(rows.size())))].ip;
+        const QString ip = rows[static_cast<std::size_t>(m_dice.below(static_cast<int>(rows.size())))].ip.text();
         tell(who, "kicks " + ip.toStdString() + " from #" + std::to_string(conference->identity().fConfN));
         conference->kickuserbtn_Click(ip);
         require(conference->partecipanti().find(m_copies[static_cast<std::size_t>(who)]->ip()) != nullptr,
@@ -448,7 +448,7 @@ private:
         if (!before.conference)
             return;
         const bool hosted = before.conference->isHostedHere();
-        const bool fromHost = !hosted && before.conference->identity().ConfServerIP == from;
+        const bool fromHost = !hosted && nameOf(*before.conference).first == from;
         if (before.terminated != after.terminated) {
             const auto *close = std::get_if<wire::ConferenceClose>(&datagram);
             require(fromHost && close && close->id == before.conference->identity().ConfNum && after.terminated,
@@ -617,7 +617,7 @@ private:
     Copy *find(const QString &ip) { return m_copies[static_cast<std::size_t>(copyWith(ip))].get(); }
     Conference *hostsWindow(const Conference &joined)
     {
-        Copy *const host = find(joined.identity().ConfServerIP);
+        Copy *const host = find(nameOf(joined).first);
         return host ? host->engine.conferences().hosted(joined.identity().ConfNum) : nullptr;
     }
     /// Both know the guest as present.
@@ -633,7 +633,7 @@ private:
     {
         for (const QString &ip : presentIn(rows)) {
             Copy *const guest = find(ip);
-            const bool there = ip == hosted.identity().ConfServerIP
+            const bool there = ip == nameOf(hosted).first
                 || (guest
                     && guest->engine.conferences().joined(hosted.identity().ConfServerIP, hosted.identity().ConfNum));
             require(there || m_plan.kind != Plan::Kind::calm, "a host lists who is not there: " + ip.toStdString());
@@ -651,7 +651,7 @@ private:
         if (!isMember(copy, conference)) {
             // With everything delivered before the next one acts, nobody is left behind; unless an invitation was
             // accepted while its host was away.
-            require(m_plan.kind != Plan::Kind::calm || m_haveLeft.contains(conference.identity().ConfServerIP),
+            require(m_plan.kind != Plan::Kind::calm || m_haveLeft.contains(nameOf(conference).first),
                     "an open window belongs to nobody whom its host knows: " + whose);
             return;
         }
@@ -665,8 +665,8 @@ private:
     /// Whether what the guest writes to its host is taken for a message of the guest's own conference.
     bool isAmbiguous(const Copy &guest, const Conference &conference)
     {
-        Copy *const host = find(conference.identity().ConfServerIP);
-        return host && host->engine.conferences().joined(guest.ip(), conference.identity().ConfNum);
+        Copy *const host = find(nameOf(conference).first);
+        return host && host->engine.conferences().joined(guest.common.ownIP, conference.identity().ConfNum);
     }
 
     void hearEachOther(Copy &copy, int who, Conference &conference)
@@ -779,7 +779,7 @@ protected:
         ben.engine.conferences().at(1)->closed();
         network.settle();
     }
-    Conference *bensOpenWindow() { return ben.engine.conferences().joined(QStringLiteral("10.0.0.1"), 1); }
+    Conference *bensOpenWindow() { return ben.engine.conferences().joined(Ipv4Address(10, 0, 0, 1), 1); }
     bool isBenListed()
     {
         const Participant *const row
@@ -850,7 +850,7 @@ TEST(ConferenceOfThree, HearsAGuestWhoKnowsItselfByAnotherAddress)
     ben.common.ownIP = Ipv4Address(192, 168, 7, 2);
     ann.engine.conferences().mnuCreateNewConf();
     for (Copy *const guest : {&ben, &cleo}) {
-        ann.engine.conferences().mnuInvite2Conf(1, addressText(guest->socket.LocalIP()));
+        ann.engine.conferences().mnuInvite2Conf(1, guest->socket.LocalIP());
         network.settle();
         guest->engine.invitations().ConfAgreebtn_Click(0);
         network.settle();

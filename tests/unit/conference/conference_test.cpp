@@ -30,7 +30,7 @@ protected:
         table().mnuCreateNewConf();
         Conference &conference = copy.conferenceForms.views.back()->conference;
         for (const char *guest : guests) {
-            table().mnuInvite2Conf(conference.identity().fConfN, QLatin1String(guest));
+            table().mnuInvite2Conf(conference.identity().fConfN, QString::fromLatin1(guest));
             copy.arrive(guest, "!CONF INVITE #" + std::to_string(conference.identity().ConfNum) + " AGREE");
         }
         copy.sent();
@@ -69,7 +69,7 @@ TEST_F(ConferenceTest, AHostedOneTakesTheFirstFreeSlot)
     Conference &first = host();
     EXPECT_EQ(first.identity().fConfN, 1);
     EXPECT_EQ(first.identity().ConfNum, 1);
-    EXPECT_EQ(first.identity().ConfServerIP, QStringLiteral("10.0.0.1"));
+    EXPECT_EQ(first.identity().ConfServerIP, Ipv4Address(10, 0, 0, 1));
     EXPECT_TRUE(first.isHostedHere());
     EXPECT_EQ(view().caption, QStringLiteral("Conference #1 (Hosted here) - NIMB-Chat"));
     EXPECT_THAT(view().log.lines(), ElementsAre("« NIMB-Chat [today:21/11/2026 - now:14:05:10] Conference #1 Ready »"));
@@ -200,12 +200,26 @@ TEST_F(ConferenceTest, TheOwnRowKeepsItsNameWhateverAContactWithTheOwnAddressIsC
     EXPECT_THAT(rows(conference), ElementsAre("Me (you) green"));
 }
 
+TEST_F(ConferenceTest, WhoHasATextInPlaceOfAnAddressIsListedAndSentNothing)
+{
+    Contact fred;
+    fred.ip = QStringLiteral("somewhere");
+    fred.nickname = QStringLiteral("Fred");
+    copy.engine.contacts().add(fred);
+    Conference &conference = host();
+    table().mnuInvite2Conf(1, QStringLiteral("somewhere"));
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_THAT(rows(conference), ElementsAre("Me (you) green", "Fred blue"));
+    conference.kickuserbtn_Click(QStringLiteral("somewhere"));
+    EXPECT_THAT(rows(conference), ElementsAre("Me (you) green"));
+}
+
 // --- colours
 
 TEST_F(ConferenceTest, EverybodyGetsTheLowestFreeColour)
 {
     Conference &conference = host({"10.0.0.2", "10.0.0.3"});
-    const auto colour = [&](const char *ip) { return conference.partecipanti().find(QLatin1String(ip))->colour; };
+    const auto colour = [&](const char *ip) { return conference.partecipanti().find(QString::fromLatin1(ip))->colour; };
     EXPECT_EQ(colour("10.0.0.2"), 0xC00000u);
     EXPECT_EQ(colour("10.0.0.3"), 0x008000u);
     copy.arrive("10.0.0.2", "!CONF LEAVE #1");

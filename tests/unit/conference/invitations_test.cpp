@@ -257,21 +257,22 @@ TEST_F(InvitationsTest, OnesThatAreOverMakeRoomForNewOnesOfTheirHost)
     invite("10.0.0.2", 901);
     invite("10.0.0.2", 902);
     EXPECT_EQ(invitations().list().rowCount(), limits::invitationsOfHost);
-    EXPECT_LT(invitations().list().rowOf(QStringLiteral("10.0.0.2"), 4), 0);
-    EXPECT_LT(invitations().list().rowOf(QStringLiteral("10.0.0.2"), 9), 0);
-    EXPECT_GE(invitations().list().rowOf(QStringLiteral("10.0.0.2"), 901), 0);
-    EXPECT_LT(invitations().list().rowOf(QStringLiteral("10.0.0.2"), 902), 0) << "all the others still wait";
+    EXPECT_LT(invitations().list().rowOf(Ipv4Address(10, 0, 0, 2), 4), 0);
+    EXPECT_LT(invitations().list().rowOf(Ipv4Address(10, 0, 0, 2), 9), 0);
+    EXPECT_GE(invitations().list().rowOf(Ipv4Address(10, 0, 0, 2), 901), 0);
+    EXPECT_LT(invitations().list().rowOf(Ipv4Address(10, 0, 0, 2), 902), 0) << "all the others still wait";
 }
 
 TEST(Invitations, AFullListMakesRoomByWhatIsOverWhoeverSentIt)
 {
     CopySetup setup;
+    const auto hostAddress = [](int host) { return Ipv4Address(10, 0, 1, static_cast<std::uint8_t>(host)); };
     constexpr int hosts = limits::invitations / limits::invitationsOfHost + 1;
     for (int host = 0; host < hosts; ++host)
-        setup.contacts.push_back({QStringLiteral("10.0.1.%1").arg(host), QStringLiteral("Host")});
+        setup.contacts.push_back({addressText(hostAddress(host)), QStringLiteral("Host")});
     Copy copy(setup);
-    const auto invite = [&copy](int host, int number) {
-        copy.engine.invitations().arrived(QStringLiteral("10.0.1.%1").arg(host), static_cast<std::int16_t>(number));
+    const auto invite = [&copy, &hostAddress](int host, int number) {
+        copy.engine.invitations().arrived(hostAddress(host), static_cast<std::int16_t>(number));
     };
     for (int host = 0; host < hosts - 1; ++host) {
         for (int number = 1; number <= limits::invitationsOfHost; ++number)
@@ -279,11 +280,11 @@ TEST(Invitations, AFullListMakesRoomByWhatIsOverWhoeverSentIt)
     }
     invite(hosts - 1, 1);
     EXPECT_EQ(copy.engine.invitations().list().rowCount(), limits::invitations);
-    copy.engine.invitations().closed(QStringLiteral("10.0.1.3"), 5);
+    copy.engine.invitations().closed(Ipv4Address(10, 0, 1, 3), 5);
     invite(hosts - 1, 1);
     EXPECT_EQ(copy.engine.invitations().list().rowCount(), limits::invitations);
-    EXPECT_GE(copy.engine.invitations().list().rowOf(QStringLiteral("10.0.1.%1").arg(hosts - 1), 1), 0);
-    EXPECT_LT(copy.engine.invitations().list().rowOf(QStringLiteral("10.0.1.3"), 5), 0);
+    EXPECT_GE(copy.engine.invitations().list().rowOf(hostAddress(hosts - 1), 1), 0);
+    EXPECT_LT(copy.engine.invitations().list().rowOf(Ipv4Address(10, 0, 1, 3), 5), 0);
 }
 
 } // namespace
