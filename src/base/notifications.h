@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/presence.h"
+#include "protocol/ipv4_address.h"
 
 #include <QString>
 
@@ -11,7 +12,7 @@ namespace nimb
 struct Notification {
     QString text;
     Presence presence = Presence::online; ///< what the contact has become
-    QString ip;                           ///< of the contact it is about
+    Ipv4Address ip;                       ///< of the contact it is about
 };
 
 class Notifications

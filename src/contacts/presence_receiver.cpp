@@ -57,7 +57,7 @@ void PresenceReceiver::cameOnline(Ipv4Address ip, const std::optional<PeerIdenti
     });
     const Contact &contact = *m_contacts.find(ip);
     if (!wasPresent)
-        notify({tr("%1 is online").arg(paintedName(contact.nickname)), Presence::online, addressText(ip)});
+        notify({tr("%1 is online").arg(paintedName(contact.nickname)), Presence::online, ip});
     m_log.wentOnline(contact.nickname);
     tellPrivateWindow(contact, tr("%1 is online").arg(contact.nickname));
     if (asks)
@@ -71,7 +71,7 @@ void PresenceReceiver::wentOffline(Ipv4Address ip)
         contact.state.clear();
     });
     const Contact &contact = *m_contacts.find(ip);
-    notify({tr("%1 is offline").arg(paintedName(contact.nickname)), Presence::offline, addressText(ip)});
+    notify({tr("%1 is offline").arg(paintedName(contact.nickname)), Presence::offline, ip});
     m_log.wentOffline(contact.nickname);
     tellPrivateWindow(contact, tr("%1 has gone offline").arg(contact.nickname));
 }

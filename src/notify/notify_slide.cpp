@@ -1,6 +1,7 @@
 #include "notify/notify_slide.h"
 
 #include "base/limits.h"
+#include "protocol/address_text.h"
 #include "widgets/twips.h"
 
 namespace nimb
@@ -50,7 +51,7 @@ QVariant NotifyRows::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return row.text;
     case TagRole:
-        return row.ip;
+        return addressText(row.ip);
     case PictureRole:
         return pictureKey(pictureOf(row.presence));
     default:

@@ -114,7 +114,7 @@ TEST_F(FrmNotifyTest, WhereWindowsCannotBePlacedItStaysHidden)
 {
     NotifySlide slide(windows.common, windows.time);
     const frmNotify elsewhere(slide); // tied to nothing
-    slide.add({QStringLiteral("Ann is online"), Presence::online, QStringLiteral("10.0.0.2")});
+    slide.add({QStringLiteral("Ann is online"), Presence::online, Ipv4Address(10, 0, 0, 2)});
     slide.startTimer();
     windows.time.advance(2000ms);
     EXPECT_FALSE(elsewhere.isVisible());

@@ -33,7 +33,7 @@ TEST(TwoScreens, WhileItRisesOnlyThePartOnItsOwnScreenIsSeen)
     NotifySlide slide(common, time);
     frmNotify window(slide);
     slide.Form_Load(window);
-    slide.add({QStringLiteral("Ann is online"), Presence::online, QStringLiteral("10.0.0.2")});
+    slide.add({QStringLiteral("Ann is online"), Presence::online, Ipv4Address(10, 0, 0, 2)});
     slide.startTimer();
     time.advance(500ms);
     ASSERT_LT(window.y(), 600);

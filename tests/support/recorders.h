@@ -277,7 +277,7 @@ public:
     void add(const Notification &row) override
     {
         rows.push_back(row.text.toStdString() + " [" + pictureKey(pictureOf(row.presence)).toStdString() + "]");
-        lastIp = row.ip.toStdString();
+        lastIp = row.ip.toText();
     }
     void startTimer() override { ++starts; }
 

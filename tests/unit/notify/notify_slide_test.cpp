@@ -30,7 +30,7 @@ protected:
 
     void happen(const char *text)
     {
-        slide.add({QLatin1String(text), Presence::online, QStringLiteral("10.0.0.2")});
+        slide.add({QLatin1String(text), Presence::online, Ipv4Address(10, 0, 0, 2)});
         slide.startTimer();
     }
     Place place() const { return view.places.back(); }
@@ -194,7 +194,8 @@ TEST_F(NotifySlideTest, SwitchedOffWhileItIsShownItParksWithTheNextEvent)
 TEST_F(NotifySlideTest, KeepsTheNewestHundredRows)
 {
     for (int i = 1; i <= 105; ++i)
-        slide.add({QStringLiteral("N%1 is online").arg(i), Presence::online, QStringLiteral("10.0.0.%1").arg(i)});
+        slide.add({QStringLiteral("N%1 is online").arg(i), Presence::online,
+                   Ipv4Address(10, 0, 0, static_cast<std::uint8_t>(i))});
     EXPECT_EQ(slide.list().rowCount(), 100);
     EXPECT_EQ(slide.list().index(0).data().toString(), QStringLiteral("N6 is online"));
     EXPECT_EQ(slide.list().index(99).data(Qt::UserRole + 1).toString(), QStringLiteral("10.0.0.105"));

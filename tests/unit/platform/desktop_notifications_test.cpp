@@ -1,6 +1,7 @@
 #include "platform/desktop_notifications.h"
 
 #include "child_process.h"
+#include "protocol/address_text.h"
 
 #include <gmock/gmock.h>
 
@@ -97,7 +98,7 @@ protected:
     }
     void happen(const char *text, const char *ip = "10.0.0.2")
     {
-        notifications->add({QString::fromUtf8(text), Presence::online, QLatin1String(ip)});
+        notifications->add({QString::fromUtf8(text), Presence::online, readAddress(QString::fromLatin1(ip)).value()});
         notifications->startTimer();
     }
     bool waitForShown(std::size_t number)
