@@ -2,6 +2,8 @@
 // the menus, for a contact.
 #pragma once
 
+#include "base/contact_address.h"
+
 #include <QString>
 
 namespace nimb
@@ -53,9 +55,9 @@ class PrivateChats
 public:
     virtual ~PrivateChats() = default;
     /// Shows the contact's private window, normal and active; makes it when there is none.
-    virtual void openPrivate(const QString &ip) = 0;
+    virtual void openPrivate(const ContactAddress &ip) = 0;
     /// The contact has been removed from the list.
-    virtual void contactRemoved(const QString &ip) = 0;
+    virtual void contactRemoved(const ContactAddress &ip) = 0;
 };
 
 /// The windows that end with the main window and are not the engine's, in the order of the calls.

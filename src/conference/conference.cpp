@@ -25,10 +25,8 @@ QString withoutOuterBlanks(const QString &text)
 Conference::Conference(const Services &services, Identity identity, std::function<void()> unloaded)
     : Conversation(services.conversation, std::move(unloaded)), m_services(services), m_identity(identity)
 {
-    m_participants.add({.ip = common().ownIP,
-                        .name = tr("%1 (you)").arg(common().ownNickname),
-                        .present = true,
-                        .own = true});
+    m_participants.add(
+        {.ip = common().ownIP, .name = tr("%1 (you)").arg(common().ownNickname), .present = true, .own = true});
     m_view = services.forms.makeConferenceForm(*this);
     conversationView().setCaption(caption());
 }

@@ -43,7 +43,7 @@ int ConferenceTable::CreateNewConfWin(bool host, std::int16_t ChnNum, Ipv4Addres
 
 void ConferenceTable::mnuCreateNewConf()
 {
-    if (CreateNewConfWin(true, 0, m_services.common.ownIP) < 1)
+    if (CreateNewConfWin(true, 0, m_services.conversation.common.ownIP) < 1)
         m_services.prompts.tell(tr("Sorry, conf windows are over!!!"), programTitle);
 }
 

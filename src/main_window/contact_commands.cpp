@@ -41,8 +41,8 @@ void ContactCommands::mnuPrivateChat(const QString &ip)
 
 void ContactCommands::mnuBuzzUser(const QString &ip)
 {
-    if (m_contacts.isContact(ip))
-        sendBuzz(m_services.common, m_services.socket, m_services.sound, ip);
+    if (const Contact *const contact = m_contacts.find(ip))
+        sendBuzz(m_services.common, m_services.socket, m_services.sound, contact->ip.ipv4());
 }
 
 void ContactCommands::mnuRemoveUser(const QString &ip)

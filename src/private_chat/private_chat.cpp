@@ -29,16 +29,16 @@ PrivateChat::PrivateChat(const Services &services, std::function<void()> unloade
     m_view->setLiveTypeOn(common().options.liveType);
 }
 
-void PrivateChat::setPeer(const QString &ip)
+void PrivateChat::setPeer(const ContactAddress &ip)
 {
     m_rIP = ip;
-    m_view->setPeerAddress(ip);
+    m_view->setPeerAddress(ip.text());
     avatarWanted();
 }
 
 void PrivateChat::avatarWanted()
 {
-    sendDatagram(socket(), m_rIP, wire::AvatarHeadQuestion{});
+    sendDatagram(socket(), m_rIP.ipv4(), wire::AvatarHeadQuestion{});
 }
 
 QString PrivateChat::openingLine(const QString &date, const QString &time) const
@@ -53,7 +53,7 @@ QString PrivateChat::textToSend(const QString &typed) const
 
 void PrivateChat::deliver(const QString &text)
 {
-    sendDatagram(socket(), m_rIP, wire::PrivateMessage{toWire(text)});
+    sendDatagram(socket(), m_rIP.ipv4(), wire::PrivateMessage{toWire(text)});
 }
 
 void PrivateChat::MessageReceived(const QString &nik, QString &msg)
@@ -91,7 +91,7 @@ void PrivateChat::buzzed(const QString &text)
 
 void PrivateChat::BuzzBtn_Click()
 {
-    sendBuzz(common(), socket(), m_services.sound, m_rIP);
+    sendBuzz(common(), socket(), m_services.sound, m_rIP.ipv4());
     appendBuzz();
     conversationView().focusInput();
 }
@@ -105,7 +105,7 @@ void PrivateChat::intext_Change(const QString &typed)
 {
     if (!m_typingNotice.textChanged(typed.size()))
         return;
-    sendDatagram(socket(), m_rIP, wire::Typing{});
+    sendDatagram(socket(), m_rIP.ipv4(), wire::Typing{});
     if (!m_view->isLiveTypeOn())
         return;
     m_liveTypePending = true;
@@ -125,7 +125,7 @@ void PrivateChat::TimerLiveType_Timer()
 {
     if (!m_liveTypePending || !m_view->isLiveTypeOn())
         return;
-    sendDatagram(socket(), m_rIP, wire::LiveType{toWire(liveTypeToSend(conversationView().typedText()))});
+    sendDatagram(socket(), m_rIP.ipv4(), wire::LiveType{toWire(liveTypeToSend(conversationView().typedText()))});
     m_liveTypePending = false;
 }
 
@@ -157,7 +157,7 @@ void PrivateChat::mymoodpct_MouseDown(float value)
     if (!mood)
         return;
     m_view->setOwnMood(*mood);
-    sendDatagram(socket(), m_rIP, wire::Mood{Mood::toSend(value).toStdString()});
+    sendDatagram(socket(), m_rIP.ipv4(), wire::Mood{Mood::toSend(value).toStdString()});
 }
 
 void PrivateChat::setmood(std::int16_t mood)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/avatar.h"
+#include "base/contact_address.h"
 #include "base/sound.h"
 #include "conversation/conversation.h"
 #include "private_chat/private_chat_view.h"
@@ -30,8 +31,8 @@ public:
     PrivateChat(const Services &services, std::function<void()> unloaded);
 
     /// Tells the window its peer, and asks that peer for its avatar.
-    void setPeer(const QString &ip);
-    const QString &rIP() const { return m_rIP; }
+    void setPeer(const ContactAddress &ip);
+    const ContactAddress &rIP() const { return m_rIP; }
     PrivateChatView &view() { return *m_view; }
 
     /// Sets fonts, empties the log and writes its opening line.
@@ -77,7 +78,7 @@ private:
     void replyAutomatically(BaseState state, bool on, const QString &text);
 
     Services m_services;
-    QString m_rIP;
+    ContactAddress m_rIP;
     std::unique_ptr<Timer> m_autoReplyTimer;
     std::unique_ptr<Timer> m_timer; ///< clears the panel of the peer's activity
     std::unique_ptr<Timer> m_timerLiveType;

@@ -29,7 +29,7 @@ void PrivateWindows::privateMessage(Ipv4Address ip, const QString &text)
     chat.MessageReceived(m_contacts.find(ip)->nickname, body);
 }
 
-void PrivateWindows::openPrivate(const QString &ip)
+void PrivateWindows::openPrivate(const ContactAddress &ip)
 {
     if (const Contact *const contact = m_contacts.find(ip))
         windowOf(*contact).view().showWindow(ShowMode::active);
@@ -40,7 +40,7 @@ PrivateChat &PrivateWindows::windowOf(const Contact &contact)
     if (PrivateChat *open = at(contact.privateWindow))
         return *open;
     // A contact that was removed and came back finds the window that still talks to its address.
-    if (const int number = numberOf(contact.ip.text())) {
+    if (const int number = numberOf(contact.ip)) {
         m_contacts.change(contact.ip, [number](Contact &row) { row.privateWindow = number; });
         at(number)->setContact(true);
         return *at(number);
@@ -55,12 +55,12 @@ PrivateChat &PrivateWindows::make(const Contact &contact)
     m_contacts.change(contact.ip, [number](Contact &row) { row.privateWindow = number; });
     PrivateChat &chat = *m_table.back();
     chat.view().conversation().setCaption(tr("%1 - NIMB-Chat - Private Chat Window").arg(contact.nickname));
-    chat.setPeer(contact.ip.text());
+    chat.setPeer(contact.ip);
     chat.preparewindow();
     return chat;
 }
 
-int PrivateWindows::numberOf(const QString &ip) const
+int PrivateWindows::numberOf(const ContactAddress &ip) const
 {
     const auto found
         = std::find_if(m_table.begin(), m_table.end(), [&ip](const auto &chat) { return chat && chat->rIP() == ip; });
@@ -83,7 +83,7 @@ void PrivateWindows::unloadAll()
     }
 }
 
-void PrivateWindows::contactRemoved(const QString &ip)
+void PrivateWindows::contactRemoved(const ContactAddress &ip)
 {
     const int number = numberOf(ip);
     if (number <= 0)

@@ -23,9 +23,9 @@ public:
 
     /// A message always reaches the user: a missing window is made, a hidden one shown, neither takes the focus.
     void privateMessage(Ipv4Address ip, const QString &text) override;
-    void openPrivate(const QString &ip) override;
+    void openPrivate(const ContactAddress &ip) override;
     /// A hidden window of a removed contact could never be seen again and is unloaded.
-    void contactRemoved(const QString &ip) override;
+    void contactRemoved(const ContactAddress &ip) override;
     void appendPresence(int window, const QString &line) override;
 
     void unloadAll();
@@ -37,7 +37,7 @@ private:
     PrivateChat &windowOf(const Contact &contact);
     PrivateChat &make(const Contact &contact);
     /// Number of a window whose peer has this address, or 0.
-    int numberOf(const QString &ip) const;
+    int numberOf(const ContactAddress &ip) const;
     void unload(int window);
 
     PrivateChat::Services m_services;

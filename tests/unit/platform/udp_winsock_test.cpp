@@ -1,7 +1,7 @@
 #include "platform/udp_winsock.h"
 
 #include "print_qt.h"
-#include "protocol/send_datagram.h"
+#include "protocol/address_text.h"
 #include "raw_peer.h"
 
 #include <QCoreApplication>
@@ -360,7 +360,7 @@ TEST(UdpWinsock, CountsWhatIsSentToAnythingButADottedAddressAndSendsItNowhere)
 
     for (const char16_t *text : texts) {
         copy.sendTo(Ipv4Address(127, 0, 1, 2), "before");
-        sendBytes(copy.socket, QString::fromUtf16(text), "lost");
+        copy.sendTo(readAddress(text), "lost");
     }
     copy.sendTo(Ipv4Address(127, 0, 1, 2), "end");
 

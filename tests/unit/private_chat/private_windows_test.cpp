@@ -42,6 +42,33 @@ TEST_F(PrivateWindowsTest, AMessageMakesAWindowForItsSender)
     EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.3", "?AVATARHEAD"}));
 }
 
+TEST_F(PrivateWindowsTest, ContactsWithTextsInPlaceOfAddressesHaveWindowsOfTheirOwnAndFindThemAgain)
+{
+    const auto add = [this](const char *place) {
+        Contact contact;
+        contact.ip = QString::fromLatin1(place);
+        contact.nickname = contact.ip.text();
+        contact.setPresence(Presence::offline);
+        copy.engine.contacts().add(std::move(contact));
+    };
+    add("here");
+    add("there");
+    open("here");
+    open("there");
+    ASSERT_EQ(made(), 2u);
+    EXPECT_EQ(copy.window(1).peer, QStringLiteral("here"));
+    EXPECT_EQ(copy.window(2).peer, QStringLiteral("there"));
+    EXPECT_TRUE(copy.window(2).chat.send(QStringLiteral("hello")));
+    EXPECT_THAT(copy.sent(), IsEmpty()) << "nothing can be sent there";
+
+    copy.engine.contacts().remove(QStringLiteral("there"));
+    copy.engine.privateWindows().contactRemoved(QStringLiteral("there"));
+    add("there");
+    open("there");
+    EXPECT_EQ(made(), 2u);
+    EXPECT_EQ(copy.contact("there").privateWindow, 2);
+}
+
 TEST_F(PrivateWindowsTest, TheOptionDecidesHowAPeersWindowIsShown)
 {
     copy.arrive("10.0.0.3", "-hello");
