@@ -35,12 +35,10 @@ bool FormOpener::showLogin(Login &login)
     return chosen;
 }
 
-bool FormOpener::closeLogin()
+void FormOpener::closeLogin()
 {
-    if (!m_login)
-        return false;
-    m_login->reject();
-    return true;
+    if (m_login)
+        m_login->reject();
 }
 
 frmMain &FormOpener::makeMain()

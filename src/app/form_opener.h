@@ -29,9 +29,9 @@ public:
     /// placed: windows stand where they are put, so that the pop-up can slide in.
     void loadNotify(bool placed = true);
     /// Shows the login dialog until it ends; false when it was closed without a nickname.
-    bool showLogin(Login &login);
-    /// Ends the login dialog as its close box does; false when it is not open.
-    bool closeLogin();
+    [[nodiscard]] bool showLogin(Login &login);
+    /// Ends the login dialog, if it is open, as its close box does.
+    void closeLogin();
 
     /// The main window, made once, without its engine.
     frmMain &makeMain();

@@ -14,9 +14,9 @@ class Prompts
 public:
     virtual ~Prompts() = default;
     /// An OK/Cancel box; true for OK. Text and title are plain text.
-    virtual bool confirm(const QString &text, const QString &title) = 0;
+    [[nodiscard]] virtual bool confirm(const QString &text, const QString &title) = 0;
     /// A Yes/No box; true for Yes.
-    virtual bool ask(const QString &text, const QString &title) = 0;
+    [[nodiscard]] virtual bool ask(const QString &text, const QString &title) = 0;
     /// A box with OK alone. May be silent when nobody is there to read it, as at the end of a session.
     virtual void tell(const QString &text, const QString &title) = 0;
 };

@@ -21,7 +21,7 @@ public:
     virtual void write(const QString &section, const QString &key, const QString &value) = 0;
     /// Writes everything noted since the last save, all or nothing. Empty on success; otherwise one sentence for
     /// the user that says what failed, and the store is as it was before.
-    virtual std::optional<QString> save() = 0;
+    [[nodiscard]] virtual std::optional<QString> save() = 0;
     /// What keeps the store from being read or written, as one sentence for the user; empty when all is well.
     virtual std::optional<QString> problem() const = 0;
 };

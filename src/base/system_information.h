@@ -9,7 +9,7 @@ class SystemInformation
 public:
     virtual ~SystemInformation() = default;
     /// Starts the tool and does not wait for it; false when there is none.
-    virtual bool StartSysInfo() = 0;
+    [[nodiscard]] virtual bool StartSysInfo() = 0;
 };
 
 } // namespace nimb

@@ -15,7 +15,7 @@ class StartUpSteps
 public:
     virtual ~StartUpSteps() = default;
     /// True when another copy with the same profile runs.
-    virtual bool anotherCopyRuns() = 0;
+    [[nodiscard]] virtual bool anotherCopyRuns() = 0;
     /// Asks that copy to restore its main window if the window bears this caption.
     virtual void restoreOtherCopy(const QString &caption) = 0;
     virtual void loadNotify() = 0;

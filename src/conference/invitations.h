@@ -90,7 +90,7 @@ public:
 
     /// An invitation arrived; one that is there already is replaced. The oldest one that is over makes room in a full
     /// list; false when there is none, or when the host is no contact.
-    bool arrived(Ipv4Address host, std::int16_t number);
+    [[nodiscard]] bool arrived(Ipv4Address host, std::int16_t number);
     /// The host has closed the conference.
     void closed(Ipv4Address host, std::int16_t number);
 
@@ -110,7 +110,7 @@ public:
     void Form_Unload();
 
 private:
-    bool makeRoom(Ipv4Address host);
+    [[nodiscard]] bool makeRoom(Ipv4Address host);
     bool isToBeAutorefused(const Invitation &invitation) const;
     void Timer1_Timer();
     void deny(int row);

@@ -36,7 +36,7 @@ public:
     void cancelPersonalized();
     /// Adds a personalised state on one of the base states online, busy and away, and chooses it. An empty text adds
     /// nothing. True when it was added.
-    bool addPersonalized(BaseState base, const QString &text);
+    [[nodiscard]] bool addPersonalized(BaseState base, const QString &text);
 
     /// The check box beside the chooser: automatic reply in the present state.
     void setAutoReply(bool on);

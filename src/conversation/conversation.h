@@ -34,7 +34,7 @@ public:
     /// Empties the log and writes its opening line.
     void Clearbtn_Click();
     /// Sends what was typed; false when there was nothing, or nobody to send it to. Line breaks are CR LF.
-    bool send(const QString &typed);
+    [[nodiscard]] bool send(const QString &typed);
     /// Date and time for the input box.
     QString dateAndTime() const;
     /// Something was added to the log.
@@ -43,7 +43,7 @@ public:
     /// Nobody can be written to any more; the log stays to be read.
     bool isOver() const { return m_over; }
     /// What becomes of the window; the user may be asked.
-    virtual CloseDecision Form_QueryUnload(UnloadMode mode) = 0;
+    [[nodiscard]] virtual CloseDecision Form_QueryUnload(UnloadMode mode) = 0;
     /// The form has been closed for good.
     void closed() { m_unloaded(); }
 

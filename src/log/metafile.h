@@ -25,10 +25,10 @@ struct IndexedBitmap {
 };
 
 /// Nothing when the bytes are no such metafile.
-std::optional<IndexedBitmap> decodeMetafile(const QByteArray &bytes);
+[[nodiscard]] std::optional<IndexedBitmap> decodeMetafile(const QByteArray &bytes);
 
 /// The bitmap in a fragment of the form {\pict\picwW\pichH\wmetafile8 HEX}; nothing when it has another form.
-std::optional<IndexedBitmap> decodePictureFragment(QStringView fragment);
+[[nodiscard]] std::optional<IndexedBitmap> decodePictureFragment(QStringView fragment);
 
 /// The fragment of the emoticon picture with this number, 1 to 9: 318 hundredths of a millimetre wide and high, which
 /// is 12 logical pixels.

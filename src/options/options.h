@@ -41,7 +41,7 @@ public:
     const QByteArray &avatar() const { return m_common.avatarBody; }
     /// Takes everything, or nothing: then the sentence says what the user is to correct. The port is that of the next
     /// start.
-    std::optional<QString> CmdOK_Click(const OptionControls &controls);
+    [[nodiscard]] std::optional<QString> CmdOK_Click(const OptionControls &controls);
 
 private:
     void takeAvatar(const OptionControls &controls);

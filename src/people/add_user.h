@@ -22,7 +22,7 @@ public:
     }
 
     /// True when the contact was added; otherwise the user has been told why it was not.
-    bool CmdOK_Click(const QString &nickname, const QString &hostname, const QString &ipaddress);
+    [[nodiscard]] bool CmdOK_Click(const QString &nickname, const QString &hostname, const QString &ipaddress);
 
 private:
     /// Empty when nothing speaks against the contact.

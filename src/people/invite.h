@@ -32,7 +32,7 @@ public:
     QString Form_Load(const QString &selectedAddress);
     const Target &target() const { return m_target; }
     /// True when the text is under way; otherwise the user has been told what is missing.
-    bool sendbtn_Click(const QString &message);
+    [[nodiscard]] bool sendbtn_Click(const QString &message);
 
 private:
     const Common &m_common;

@@ -83,16 +83,14 @@ std::optional<std::uint32_t> lostCount(msghdr &message)
 
 } // namespace
 
-std::optional<DatagramSocket> DatagramSocket::open(Ipv4Endpoint local, Sharing sharing, int &error)
+std::variant<DatagramSocket, DatagramSocket::SystemError> DatagramSocket::open(Ipv4Endpoint local, Sharing sharing)
 {
     DatagramSocket socket(::socket(AF_INET, SOCK_DGRAM, 0)); // closes it on every way out
     const int descriptor = socket.descriptor();
     const bool usable = descriptor != noDescriptor && neverBlocksNorInherits(descriptor)
         && (sharing != Sharing::shared || switchOn(descriptor, SO_REUSEADDR)) && bindTo(descriptor, local);
-    if (!usable) {
-        error = errno;
-        return std::nullopt;
-    }
+    if (!usable)
+        return SystemError{errno};
     // Without these two the socket still serves: broadcasts stay unsent, losses uncounted.
     switchOn(descriptor, SO_BROADCAST);
 #ifdef SO_RXQ_OVFL
@@ -176,8 +174,8 @@ DatagramSocket::Arrival DatagramSocket::receive(Buffer &buffer)
 
 std::optional<Ipv4Address> sourceAddressTowards(Ipv4Endpoint destination)
 {
-    int error = 0;
-    const std::optional<DatagramSocket> socket = DatagramSocket::open({}, DatagramSocket::Sharing::exclusive, error);
+    const auto opened = DatagramSocket::open({}, DatagramSocket::Sharing::exclusive);
+    const auto *const socket = std::get_if<DatagramSocket>(&opened);
     if (!socket)
         return std::nullopt;
     const sockaddr_in address = toSystem(destination);

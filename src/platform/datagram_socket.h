@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <optional>
 #include <string_view>
+#include <variant>
 
 namespace nimb
 {
@@ -37,8 +38,12 @@ public:
     /// The largest datagram that IPv4 can carry fits in.
     using Buffer = std::array<char, 65536>;
 
-    /// Empty when the address and port are taken or may not be used; the system's error number is then in `error`.
-    static std::optional<DatagramSocket> open(Ipv4Endpoint local, Sharing sharing, int &error);
+    struct SystemError {
+        int number; ///< as errno has it
+    };
+
+    /// The error when the address and port are taken or may not be used.
+    [[nodiscard]] static std::variant<DatagramSocket, SystemError> open(Ipv4Endpoint local, Sharing sharing);
 
     DatagramSocket(DatagramSocket &&other) noexcept;
     DatagramSocket &operator=(DatagramSocket &&other) noexcept;
@@ -53,7 +58,7 @@ public:
     void growSendBuffer(int bytes);
 
     /// False when the system did not take the datagram.
-    bool send(Ipv4Endpoint destination, std::string_view bytes);
+    [[nodiscard]] bool send(Ipv4Endpoint destination, std::string_view bytes);
     /// Takes one waiting datagram into the buffer.
     Arrival receive(Buffer &buffer);
 

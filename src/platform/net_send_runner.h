@@ -39,7 +39,7 @@ class NetSendRunner : public NetSend
 public:
     explicit NetSendRunner(MessageSystem system = ownMessageSystem) : m_system(system) { }
 
-    std::optional<QString> send(const QString &computer, const QString &message) override;
+    [[nodiscard]] std::optional<QString> send(const QString &computer, const QString &message) override;
 
 private:
     QString missing() const;

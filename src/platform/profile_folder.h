@@ -10,9 +10,9 @@ namespace nimb
 
 /// Makes the folder, and what is missing above it, for the user alone; what exists already stays as it is. Empty when
 /// the folder is there afterwards, otherwise the system's reason why not.
-std::optional<QString> makePrivateFolder(const QString &path);
+[[nodiscard]] std::optional<QString> makePrivateFolder(const QString &path);
 
 /// The same for an empty file in an existing folder.
-std::optional<QString> makePrivateFile(const QString &path);
+[[nodiscard]] std::optional<QString> makePrivateFile(const QString &path);
 
 } // namespace nimb

@@ -97,8 +97,8 @@ bool SingleInstance::acquire()
 {
     if (m_server)
         return true;
-    makePrivateFolder(m_folder);            // a failure shows in the next line
-    m_socketPath = socketPathFor(m_folder); // canonical only once the folder is there
+    static_cast<void>(makePrivateFolder(m_folder)); // a failure shows in the next line
+    m_socketPath = socketPathFor(m_folder);         // canonical only once the folder is there
     if (!m_lock)
         m_lock = std::make_unique<InstanceLock>(m_folder + QStringLiteral("/lock"));
     switch (m_lock->tryToHold()) {

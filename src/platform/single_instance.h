@@ -28,7 +28,7 @@ public:
 
     /// True when this is the first copy; it listens from then on. Where no lock can be had at all (a folder that
     /// cannot be made or written to) every copy counts as the first: the program starts rather than not.
-    bool acquire();
+    [[nodiscard]] bool acquire();
 
     /// Tells the first copy that somebody started the program again. Returns after its acknowledgement, and after two
     /// seconds at the latest when there is none. A caption of more than longestMessage bytes arrives cut.

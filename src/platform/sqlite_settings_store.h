@@ -31,7 +31,7 @@ public:
     QString read(const QString &section, const QString &key, const QString &defaultValue) const override;
     void write(const QString &section, const QString &key, const QString &value) override;
     /// After a failure the values stay pending, and a further save() tries them again.
-    std::optional<QString> save() override;
+    [[nodiscard]] std::optional<QString> save() override;
     std::optional<QString> problem() const override;
 
 private:

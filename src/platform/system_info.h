@@ -16,7 +16,7 @@ namespace nimb
 class SystemInfo : public SystemInformation
 {
 public:
-    bool StartSysInfo() override;
+    [[nodiscard]] bool StartSysInfo() override;
 };
 
 /// What finding the tool on Windows needs.
@@ -28,12 +28,12 @@ public:
     virtual std::optional<QString> GetKeyValue(const QString &key, const QString &name) const = 0;
     virtual bool exists(const QString &file) const = 0;
     /// False when it could not be started.
-    virtual bool run(const QString &file) = 0;
+    [[nodiscard]] virtual bool run(const QString &file) = 0;
 };
 
 /// The tool at the path that the registry names, else the one in the folder that it names; false when neither can be
 /// started.
-bool startRegisteredSysInfo(RegistryMachine &machine);
+[[nodiscard]] bool startRegisteredSysInfo(RegistryMachine &machine);
 
 /// Text of a registry value: a string (type 1) up to its first NUL and 1024 characters at most, or a 32-bit number
 /// (type 4, lowest byte first) as a signed decimal one. Empty for every other type.

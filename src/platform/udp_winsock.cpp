@@ -49,30 +49,35 @@ bool UdpWinsock::bind()
     if (m_localPort == 0)
         return false;
     const Ipv4Address address = m_fixedAddress.value_or(Ipv4Address());
-    int error = 0;
-    m_own = listen({address, m_localPort}, DatagramSocket::Sharing::exclusive, &UdpWinsock::readOwn, error);
-    m_bindFailure = m_own ? BindFailure::none : bindFailureOf(error);
-    if (!m_own)
+    auto own = listen({address, m_localPort}, DatagramSocket::Sharing::exclusive, &UdpWinsock::readOwn);
+    if (const auto *const error = std::get_if<DatagramSocket::SystemError>(&own)) {
+        m_bindFailure = bindFailureOf(error->number);
         return false;
+    }
+    m_bindFailure = BindFailure::none;
+    m_own = std::get<Ear>(std::move(own));
     m_receiveBufferBytes = m_own->socket.growReceiveBuffer(receiveBufferAsked);
     m_own->socket.growSendBuffer(sendBufferAsked);
 
     // A socket that is bound to one loopback address hears no broadcast; one bound to every interface does.
     if (address.isLoopback() && address != loopbackBroadcast) {
-        m_broadcasts = listen({loopbackBroadcast, m_localPort}, DatagramSocket::Sharing::shared,
-                              &UdpWinsock::readBroadcasts, error);
-        if (m_broadcasts)
-            m_broadcasts->socket.growReceiveBuffer(receiveBufferAsked);
+        auto broadcasts
+            = listen({loopbackBroadcast, m_localPort}, DatagramSocket::Sharing::shared, &UdpWinsock::readBroadcasts);
+        if (auto *const ear = std::get_if<Ear>(&broadcasts)) {
+            ear->socket.growReceiveBuffer(receiveBufferAsked);
+            m_broadcasts = std::move(*ear);
+        }
     }
     return true;
 }
 
-std::optional<UdpWinsock::Ear> UdpWinsock::listen(Ipv4Endpoint local, DatagramSocket::Sharing sharing,
-                                                  void (UdpWinsock::*arrivals)(), int &error)
+std::variant<UdpWinsock::Ear, DatagramSocket::SystemError>
+UdpWinsock::listen(Ipv4Endpoint local, DatagramSocket::Sharing sharing, void (UdpWinsock::*arrivals)())
 {
-    std::optional<DatagramSocket> socket = DatagramSocket::open(local, sharing, error);
+    auto opened = DatagramSocket::open(local, sharing);
+    auto *const socket = std::get_if<DatagramSocket>(&opened);
     if (!socket)
-        return std::nullopt;
+        return std::get<DatagramSocket::SystemError>(opened);
     auto notifier = std::make_unique<QSocketNotifier>(socket->descriptor(), QSocketNotifier::Read);
     connect(notifier.get(), &QSocketNotifier::activated, this, arrivals);
     return Ear{std::move(*socket), std::move(notifier)};

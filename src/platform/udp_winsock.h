@@ -34,7 +34,7 @@ public:
     void setRemotePort(std::uint16_t port) override { m_remotePort = port; }
     void setRemoteHost(std::optional<Ipv4Address> address) override { m_remoteHost = address; }
 
-    bool bind() override;
+    [[nodiscard]] bool bind() override;
     bool isBound() const override { return m_own.has_value(); }
     BindFailure bindFailure() const override { return m_bindFailure; }
 
@@ -57,8 +57,8 @@ private:
     };
 
     static BindFailure bindFailureOf(int error);
-    std::optional<Ear> listen(Ipv4Endpoint local, DatagramSocket::Sharing sharing, void (UdpWinsock::*arrivals)(),
-                              int &error);
+    std::variant<Ear, DatagramSocket::SystemError> listen(Ipv4Endpoint local, DatagramSocket::Sharing sharing,
+                                                          void (UdpWinsock::*arrivals)());
     void readOwn() { readBatch(*m_own); }
     void readBroadcasts() { readBatch(*m_broadcasts); }
     void readBatch(Ear &ear);

@@ -11,7 +11,7 @@ class TypingNotice
 {
 public:
     /// The input box holds this many characters now (UTF-16 units, a line break counts two). True: send a notice.
-    bool textChanged(qsizetype length)
+    [[nodiscard]] bool textChanged(qsizetype length)
     {
         if (length == 0)
             m_lastNoted = 0;

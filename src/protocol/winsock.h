@@ -40,7 +40,7 @@ public:
 
     /// Listens on the local port, shared with nobody. False when the port is taken or may not be used; calling it
     /// again tries again, and is free once bound.
-    virtual bool bind() = 0;
+    [[nodiscard]] virtual bool bind() = 0;
     virtual bool isBound() const = 0;
     /// Why the last bind() failed.
     virtual BindFailure bindFailure() const = 0;

@@ -22,7 +22,7 @@ public:
     QString Form_Load();
     /// Takes the nickname typed, or the host name when nothing was, and saves it. Returns one sentence for the user
     /// when saving failed; the nickname holds for this session all the same.
-    std::optional<QString> CmdOK_Click(const QString &typed);
+    [[nodiscard]] std::optional<QString> CmdOK_Click(const QString &typed);
 
 private:
     Common &m_common;

@@ -36,10 +36,10 @@ public:
     /// The next item of the file, whose commas part a tip into pieces. Behind the last one the file is read anew.
     ShownTip nextbtn_Click();
     /// Saves the option and how many tips have been shown. Returns one sentence for the user when saving failed.
-    std::optional<QString> Form_Unload(bool showAtStart);
+    [[nodiscard]] std::optional<QString> Form_Unload(bool showAtStart);
 
 private:
-    bool open();
+    [[nodiscard]] bool open();
     QString readLineOfCounter();
     ShownTip shown(const QString &tip);
     static ShownTip unreadable();

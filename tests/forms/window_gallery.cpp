@@ -153,11 +153,11 @@ void takePrivate(Gallery &gallery)
     QWidget &form = windows.privateWindow();
     PrivateChat &chat = *windows.engine.privateWindows().at(1);
     windows.arrive("192.168.1.12", "-Hello! Did you see the new plan?");
-    chat.send(QStringLiteral("Not yet. Is it on the server?"));
+    EXPECT_TRUE(chat.send(QStringLiteral("Not yet. Is it on the server?")));
     windows.arrive("192.168.1.12",
                    "-Yes, in the usual place. It is a long one, so take your time; the part about the "
                    "network in the basement is the one that matters for us.\r\nThere is a second line, too.");
-    chat.send(QStringLiteral("I'll read it after lunch"));
+    EXPECT_TRUE(chat.send(QStringLiteral("I'll read it after lunch")));
     windows.arrive("192.168.1.12",
                    "-Good :) It is at http://fileserver/plans/2026 (all of it), or ask "
                    "mailto:paul@example.org ;-p");
@@ -206,7 +206,7 @@ void takePrivatePanels(Gallery &gallery)
     windows.doubleClick(0);
     QWidget &form = windows.privateWindow();
     windows.arrive("192.168.1.12", "-Hello! Did you see the new plan?");
-    windows.engine.privateWindows().at(1)->send(QStringLiteral("Not yet. Is it on the server?"));
+    EXPECT_TRUE(windows.engine.privateWindows().at(1)->send(QStringLiteral("Not yet. Is it on the server?")));
     windows.arrive("192.168.1.12",
                    "-Yes, in the usual place. It is a long one, so take your time; the part about the "
                    "network in the basement is the one that matters for us.");
@@ -304,7 +304,8 @@ void takeConference(Gallery &gallery)
         windows.arrive(ip, "!CONF INVITE #1 AGREE");
     windows.arrive("192.168.1.45", "!CONF INVITE #1 DENY");
     windows.arrive("192.168.1.31", "+192.168.1.31 #1 Has everybody read it? :)");
-    windows.engine.conferences().at(1)->send(QStringLiteral("Only the first part, up to http://fileserver/plans"));
+    EXPECT_TRUE(
+        windows.engine.conferences().at(1)->send(QStringLiteral("Only the first part, up to http://fileserver/plans")));
     windows.arrive("192.168.1.20", "+192.168.1.20 #1 Not yet. Where is it?");
     windows.arrive("192.168.1.12",
                    "+192.168.1.12 #1 In the usual place, as always when there is something that everybody "

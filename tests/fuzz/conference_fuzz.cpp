@@ -157,7 +157,7 @@ private:
             return;
         case 8:
             if (conference)
-                conference->send(QStringLiteral(" hello :) "));
+                static_cast<void>(conference->send(QStringLiteral(" hello :) ")));
             return;
         case 9:
             if (conference)

@@ -856,12 +856,12 @@ TEST(ConferenceOfThree, HearsAGuestWhoKnowsItselfByAnotherAddress)
         network.settle();
     }
 
-    ben.engine.conferences().at(1)->send(QStringLiteral("Can you hear me?"));
+    EXPECT_TRUE(ben.engine.conferences().at(1)->send(QStringLiteral("Can you hear me?")));
     network.settle();
     EXPECT_EQ(ann.conference(1).log.lastLine(), "Ben> Can you hear me?");
     EXPECT_EQ(cleo.conference(1).log.lastLine(), "Ben> Can you hear me?");
     EXPECT_EQ(ben.conference(1).log.lastLine(), "Ben> Can you hear me?");
-    ann.engine.conferences().at(1)->send(QStringLiteral("Yes"));
+    EXPECT_TRUE(ann.engine.conferences().at(1)->send(QStringLiteral("Yes")));
     network.settle();
     EXPECT_EQ(ben.conference(1).log.lastLine(), "Ann> Yes");
 }
@@ -936,7 +936,7 @@ private:
 TEST_F(ConferenceStorm, HostsWhoListEachOtherWithoutAWindowDoNotRelayForEver)
 {
     listEachOther(2);
-    hosted(0).send(QStringLiteral("Is anybody here?"));
+    EXPECT_TRUE(hosted(0).send(QStringLiteral("Is anybody here?")));
     EXPECT_TRUE(network.calmDown(12ms)) << network.underWay() << " datagrams are under way";
 }
 
@@ -945,7 +945,7 @@ TEST_F(ConferenceStorm, NorDoHostsWhoDoNotKnowTheWriter)
 {
     listEachOther(1);
     const std::uint64_t sentBefore = network.sent();
-    hosted(0).send(QStringLiteral("Is anybody here?"));
+    EXPECT_TRUE(hosted(0).send(QStringLiteral("Is anybody here?")));
     EXPECT_TRUE(network.calmDown(12ms)) << network.underWay() << " datagrams are under way";
     EXPECT_EQ(network.sent() - sentBefore, 4u) << "two to the neighbours, and one from each of them";
 }

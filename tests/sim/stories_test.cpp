@@ -67,7 +67,7 @@ TEST_F(Story, TwoWhoKnowEachOtherMeetChangeStateLeaveAndComeBack)
     EXPECT_EQ(ben->contact("10.0.0.1").presence, Presence::online);
     EXPECT_THAT(ann.notifications.rows, ElementsAre("Ben is online [green]"));
 
-    ben->engine.ownState().addPersonalized(BaseState::busy, QStringLiteral("In a meeting"));
+    EXPECT_TRUE(ben->engine.ownState().addPersonalized(BaseState::busy, QStringLiteral("In a meeting")));
     pass();
     EXPECT_EQ(ann.contact("10.0.0.2").presence, Presence::busy);
     EXPECT_EQ(ann.contact("10.0.0.2").state, QStringLiteral("BUSY - In a meeting"));
@@ -116,12 +116,12 @@ TEST_F(Story, ThreeWriteToEachOther)
     Copy &cleo = enter("10.0.0.3", "Cleo", {{"10.0.0.1", "Ann"}, {"10.0.0.2", "Ben"}});
     pass();
     ann.engine.contactCommands().mnuPrivateChat(QStringLiteral("10.0.0.2"));
-    ann.window(1).chat.send(QStringLiteral("Grüße, Ben 😀"));
+    EXPECT_TRUE(ann.window(1).chat.send(QStringLiteral("Grüße, Ben 😀")));
     pass();
     ASSERT_EQ(ben.privateForms.views.size(), 1u);
     EXPECT_EQ(ben.window(1).log.lastLine(), "Ann> Grüße, Ben 😀");
     EXPECT_TRUE(cleo.privateForms.views.empty());
-    ben.window(1).chat.send(QStringLiteral("hi"));
+    EXPECT_TRUE(ben.window(1).chat.send(QStringLiteral("hi")));
     pass();
     EXPECT_EQ(ann.window(1).log.lastLine(), "Ben> hi");
     EXPECT_EQ(ann.privateForms.views.size(), 1u);
@@ -136,7 +136,7 @@ TEST_F(Story, ABusyFriendRepliesByItself)
     ben.engine.ownState().setAutoReply(true);
     pass();
     ann.engine.contactCommands().mnuPrivateChat(QStringLiteral("10.0.0.2"));
-    ann.window(1).chat.send(QStringLiteral("there?"));
+    EXPECT_TRUE(ann.window(1).chat.send(QStringLiteral("there?")));
     pass();
     EXPECT_EQ(ann.window(1).log.lastLine(), "Ben> [AutoReply] I'm busy, please do not disturb");
     EXPECT_EQ(ben.window(1).log.lastLine(), "Ann> there?");
@@ -155,7 +155,7 @@ TEST_F(Story, TwoBusyFriendsExchangeOneMessageAndOneReply)
     ann.engine.contactCommands().mnuPrivateChat(QStringLiteral("10.0.0.2"));
     ann.sent();
     ben.sent();
-    ann.window(1).chat.send(QStringLiteral("there?"));
+    EXPECT_TRUE(ann.window(1).chat.send(QStringLiteral("there?")));
     for (int i = 0; i < 10; ++i)
         pass();
     EXPECT_THAT(messages(ann), ElementsAre("-there?"));
@@ -222,7 +222,7 @@ TEST_F(Story, WhatOneTypesFeelsAndShowsTheOtherSees)
     EXPECT_EQ(ann.window(1).peerActivity, QStringLiteral("Ben is typing a message..."));
     pass();
     EXPECT_EQ(ann.window(1).liveType, QStringLiteral("I am writing this"));
-    ben.window(1).chat.send(ben.window(1).typed);
+    EXPECT_TRUE(ben.window(1).chat.send(ben.window(1).typed));
     network.settle();
     EXPECT_EQ(ann.window(1).liveType, QString());
 

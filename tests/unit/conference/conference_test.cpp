@@ -158,7 +158,7 @@ TEST_F(ConferenceTest, ARefusalOfSomebodyWhoIsPresentRemovesTheRowToo)
     EXPECT_EQ(lines().back(), "--- Ann refused to partecipate to conf");
     EXPECT_EQ(view().log.colourOfLastPiece(), 0xA0A0A0u);
     EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "!CONF CLOSE #1"))) << "a window of hers would hear nobody";
-    conference.send(QStringLiteral("hello"));
+    EXPECT_TRUE(conference.send(QStringLiteral("hello")));
     EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.3", "+10.0.0.1 #1 hello")));
 }
 
@@ -374,7 +374,7 @@ TEST_F(ConferenceTest, AGuestTalksToTheHostAlone)
     Conference &conference = join(3);
     copy.arrive("10.0.0.2", "!CONF USERS #3 10.0.0.2 10.0.0.1 10.0.0.3");
     copy.sent();
-    conference.send(QStringLiteral("hello"));
+    EXPECT_TRUE(conference.send(QStringLiteral("hello")));
     EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "+10.0.0.1 #3 hello")));
     copy.arrive("10.0.0.2", "+10.0.0.3 #3 hi");
     EXPECT_THAT(copy.sent(), IsEmpty()) << "a guest relays nothing";
@@ -648,7 +648,7 @@ TEST_F(ConferenceTest, ShowsTheAvatarOfWhoeverWroteLast)
     EXPECT_FALSE(view().picture);
     copy.common.avatarHead = QStringLiteral("mine");
     copy.common.avatarBody = QByteArray(7500, 'm');
-    conference.send(QStringLiteral("four"));
+    EXPECT_TRUE(conference.send(QStringLiteral("four")));
     EXPECT_EQ(view().avatarLabel, QStringLiteral("Me"));
     EXPECT_EQ(view().picture, QByteArray(7500, 'm'));
 }
@@ -658,7 +658,7 @@ TEST_F(ConferenceTest, TheOwnAvatarIsTheOneThatPeersGet)
     copy.common.avatarHead = QStringLiteral("mine");
     copy.common.avatarBody = QByteArray(7500, 'm');
     copy.engine.ownAvatar().setSource(std::make_unique<test::RecorderPictureSource>(Camera{}, std::nullopt));
-    host().send(QStringLiteral("smile"));
+    EXPECT_TRUE(host().send(QStringLiteral("smile")));
     EXPECT_EQ(view().avatarLabel, QStringLiteral("Me"));
     EXPECT_EQ(view().picture, QByteArray(7500, 'f'));
 }
@@ -666,7 +666,7 @@ TEST_F(ConferenceTest, TheOwnAvatarIsTheOneThatPeersGet)
 TEST_F(ConferenceTest, WithoutAHeadThereIsNoOwnAvatar)
 {
     copy.common.avatarBody = QByteArray(7500, 'm');
-    host().send(QStringLiteral("one"));
+    EXPECT_TRUE(host().send(QStringLiteral("one")));
     EXPECT_EQ(view().avatarLabel, QStringLiteral("Me"));
     EXPECT_FALSE(view().picture);
 }

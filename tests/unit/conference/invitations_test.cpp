@@ -272,13 +272,13 @@ TEST(Invitations, AFullListMakesRoomByWhatIsOverWhoeverSentIt)
         setup.contacts.push_back({addressText(hostAddress(host)), QStringLiteral("Host")});
     Copy copy(setup);
     const auto invite = [&copy, &hostAddress](int host, int number) {
-        copy.engine.invitations().arrived(hostAddress(host), static_cast<std::int16_t>(number));
+        return copy.engine.invitations().arrived(hostAddress(host), static_cast<std::int16_t>(number));
     };
     for (int host = 0; host < hosts - 1; ++host) {
         for (int number = 1; number <= limits::invitationsOfHost; ++number)
-            invite(host, number);
+            EXPECT_TRUE(invite(host, number));
     }
-    invite(hosts - 1, 1);
+    EXPECT_FALSE(invite(hosts - 1, 1));
     EXPECT_EQ(copy.engine.invitations().list().rowCount(), limits::invitations);
     copy.engine.invitations().closed(Ipv4Address(10, 0, 1, 3), 5);
     invite(hosts - 1, 1);

@@ -59,7 +59,7 @@ TEST(Announcement, APersonalisedTextIsTold)
 {
     Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
     copy.settleStart();
-    copy.engine.ownState().addPersonalized(BaseState::busy, QStringLiteral("In a meeting"));
+    EXPECT_TRUE(copy.engine.ownState().addPersonalized(BaseState::busy, QStringLiteral("In a meeting")));
     copy.announce();
     EXPECT_THAT(copy.sent(),
                 ElementsAre(To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!STATUS BUSY In a meeting"}));

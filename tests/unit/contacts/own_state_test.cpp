@@ -75,7 +75,7 @@ TEST_F(OwnStateTest, APersonalisedEntryIsShownSentAndStored)
 
 TEST_F(OwnStateTest, APersonalisedTextMayHoldTheSeparator)
 {
-    copy.engine.ownState().addPersonalized(BaseState::online, QStringLiteral("a - b"));
+    EXPECT_TRUE(copy.engine.ownState().addPersonalized(BaseState::online, QStringLiteral("a - b")));
     EXPECT_EQ(copy.view.ownStates.back().text, QStringLiteral("Online - a - b"));
     EXPECT_THAT(copy.engine.ownState().storedValues(), ElementsAre(QStringLiteral("1a - b")));
 }
@@ -89,7 +89,7 @@ TEST_F(OwnStateTest, AnEmptyPersonalisedTextAddsNothing)
 
 TEST_F(OwnStateTest, AStatePlainAgainHasNoText)
 {
-    copy.engine.ownState().addPersonalized(BaseState::busy, QStringLiteral("later"));
+    EXPECT_TRUE(copy.engine.ownState().addPersonalized(BaseState::busy, QStringLiteral("later")));
     copy.sent();
     choose(busy);
     EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "!STATUS BUSY"}, To{"10.0.0.3", "!STATUS BUSY"}));
@@ -99,10 +99,10 @@ TEST_F(OwnStateTest, AStatePlainAgainHasNoText)
 TEST_F(OwnStateTest, TheNinthPersonalisedStateWorksAndSaysThatItIsNotKept)
 {
     for (int n = 1; n <= 8; ++n)
-        copy.engine.ownState().addPersonalized(BaseState::away, QStringLiteral("text %1").arg(n));
+        EXPECT_TRUE(copy.engine.ownState().addPersonalized(BaseState::away, QStringLiteral("text %1").arg(n)));
     EXPECT_EQ(copy.view.log.text(), QString());
     copy.sent();
-    copy.engine.ownState().addPersonalized(BaseState::away, QStringLiteral("text 9"));
+    EXPECT_TRUE(copy.engine.ownState().addPersonalized(BaseState::away, QStringLiteral("text 9")));
     EXPECT_EQ(copy.sent().front().bytes, "!STATUS AWAY text 9");
     EXPECT_THAT(copy.view.log.lastLine(), testing::HasSubstr("Away - text 9"));
     copy.engine.mainWindow().Form_Unload();

@@ -67,7 +67,7 @@ TEST_F(PresenceReceiverTest, AQuestionIsAnsweredWithPresenceAndState)
     copy.sent();
     copy.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC Ann");
     EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "!ONLINE 10.0.0.1 HERE Me"}));
-    copy.engine.ownState().addPersonalized(BaseState::away, QStringLiteral("Back at five"));
+    EXPECT_TRUE(copy.engine.ownState().addPersonalized(BaseState::away, QStringLiteral("Back at five")));
     copy.sent();
     copy.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC Ann");
     EXPECT_THAT(copy.sent(),
@@ -76,7 +76,7 @@ TEST_F(PresenceReceiverTest, AQuestionIsAnsweredWithPresenceAndState)
 
 TEST_F(PresenceReceiverTest, WhoIsOnlineInOwnWordsAnswersWithoutAState)
 {
-    copy.engine.ownState().addPersonalized(BaseState::online, QStringLiteral("on the phone"));
+    EXPECT_TRUE(copy.engine.ownState().addPersonalized(BaseState::online, QStringLiteral("on the phone")));
     EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "!STATUS ONLINE on the phone"}));
     copy.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC Ann");
     EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "!ONLINE 10.0.0.1 HERE Me"}));

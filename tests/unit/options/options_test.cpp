@@ -88,7 +88,7 @@ TEST_F(OptionValuesTest, TheChosenFontIsTaken)
 {
     OptionControls controls = values.Form_Load();
     controls.font = {QStringLiteral("DejaVu Serif"), 12, QStringLiteral("bi")};
-    values.CmdOK_Click(controls);
+    EXPECT_EQ(values.CmdOK_Click(controls), std::nullopt);
     EXPECT_EQ(copy.common.logFont, controls.font);
     EXPECT_EQ(values.Form_Load().font, controls.font);
 }
@@ -98,7 +98,7 @@ TEST_F(OptionValuesTest, ALoadedPictureBecomesTheAvatarWithItsTime)
     OptionControls controls = values.Form_Load();
     controls.avatar = AvatarChoice::still;
     controls.loaded = QByteArray(7500, 'a');
-    values.CmdOK_Click(controls);
+    EXPECT_EQ(values.CmdOK_Click(controls), std::nullopt);
     EXPECT_EQ(copy.common.avatarBody, QByteArray(7500, 'a'));
     EXPECT_THAT(copy.common.avatarHead.toStdString(), HasSubstr("2026-11-21 14:05:1"));
     EXPECT_THAT(answers(), ElementsAre(To{"10.0.0.2", "!AVATARHEAD " + copy.common.avatarHead.toStdString()}));
@@ -109,7 +109,7 @@ TEST_F(OptionValuesTest, AnAvatarThatIsLeftAloneKeepsItsTime)
 {
     copy.common.avatarHead = QStringLiteral("long ago");
     copy.common.avatarBody = QByteArray(7500, 'o');
-    values.CmdOK_Click(values.Form_Load());
+    EXPECT_EQ(values.CmdOK_Click(values.Form_Load()), std::nullopt);
     EXPECT_EQ(copy.common.avatarHead, QStringLiteral("long ago"));
     EXPECT_EQ(copy.common.avatarBody, QByteArray(7500, 'o'));
 }
@@ -118,7 +118,7 @@ TEST_F(OptionValuesTest, WithoutAPictureLoadedThereIsStillNoAvatar)
 {
     OptionControls controls = values.Form_Load();
     controls.avatar = AvatarChoice::still;
-    values.CmdOK_Click(controls);
+    EXPECT_EQ(values.CmdOK_Click(controls), std::nullopt);
     EXPECT_EQ(copy.common.avatarHead, QString());
 }
 
@@ -129,7 +129,7 @@ TEST_F(OptionValuesTest, NoAvatarEmptiesHeadAndPicture)
     OptionControls controls = values.Form_Load();
     EXPECT_EQ(controls.avatar, AvatarChoice::still);
     controls.avatar = AvatarChoice::none;
-    values.CmdOK_Click(controls);
+    EXPECT_EQ(values.CmdOK_Click(controls), std::nullopt);
     EXPECT_EQ(copy.common.avatarHead, QString());
     EXPECT_TRUE(copy.common.avatarBody.isEmpty());
     EXPECT_THAT(answers(), ElementsAre(To{"10.0.0.2", "!AVATAROFF"}));
@@ -151,7 +151,7 @@ TEST_F(OptionValuesTest, APolledPictureStandsInForTheStillOne)
     EXPECT_FALSE(values.CmdOK_Click(controls));
     EXPECT_EQ(sources.opened, 1) << "one that runs already is not opened again";
     controls.avatar = AvatarChoice::still;
-    values.CmdOK_Click(controls);
+    EXPECT_EQ(values.CmdOK_Click(controls), std::nullopt);
     EXPECT_THAT(answers(), ElementsAre(To{"10.0.0.2", "!AVATARHEAD long ago"}));
 }
 

@@ -72,7 +72,8 @@ TEST_P(AnyComputer, IsPartOfOneArgument)
 {
     const SearchPath path;
     path.add("smbclient", "printf '%s\\0' \"$@\" > args\nmv args done\n");
-    NetSendRunner(MessageSystem::smbClient).send(QString::fromUtf8(GetParam()), QStringLiteral("Hello"));
+    NetSendRunner runner(MessageSystem::smbClient);
+    EXPECT_EQ(runner.send(QString::fromUtf8(GetParam()), QStringLiteral("Hello")), std::nullopt);
     EXPECT_EQ(path.waitFor("done"), QByteArray("--message=") + GetParam() + QByteArray("\0", 1));
 }
 

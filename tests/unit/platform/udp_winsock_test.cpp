@@ -221,9 +221,10 @@ TEST(UdpWinsock, LetsNoOtherProgramShareItsPortEvenIfThatProgramIsWilling)
 {
     Copy copy("127.0.1.1");
     ASSERT_TRUE(copy.socket.bind());
-    int error = 0;
-    EXPECT_FALSE(DatagramSocket::open({Ipv4Address(127, 0, 1, 1), testPort()}, DatagramSocket::Sharing::shared, error));
-    EXPECT_EQ(error, EADDRINUSE);
+    const auto opened = DatagramSocket::open({Ipv4Address(127, 0, 1, 1), testPort()}, DatagramSocket::Sharing::shared);
+    const auto *const error = std::get_if<DatagramSocket::SystemError>(&opened);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->number, EADDRINUSE);
 }
 
 TEST(UdpWinsock, IsFreeToBindAgainOnceBound)

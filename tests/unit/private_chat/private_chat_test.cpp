@@ -65,20 +65,20 @@ TEST_F(PrivateChatTest, BlanksAndBreaksAloneAreSentAsAnEmptyMessage)
 
 TEST_F(PrivateChatTest, BlanksAndBreaksAtTheEndsGoThoseInsideStay)
 {
-    chat().send(QStringLiteral("  hello\r\n\r\n"));
-    chat().send(QStringLiteral(" a \r\n b "));
+    EXPECT_TRUE(chat().send(QStringLiteral("  hello\r\n\r\n")));
+    EXPECT_TRUE(chat().send(QStringLiteral(" a \r\n b ")));
     EXPECT_THAT(sentBytes(), ElementsAre("-hello", "-a \r\n b"));
 }
 
 TEST_F(PrivateChatTest, OnlyTheFirst2000CharactersAreSent)
 {
-    chat().send(QString(2500, u'x'));
+    EXPECT_TRUE(chat().send(QString(2500, u'x')));
     EXPECT_THAT(sentBytes(), ElementsAre("-" + std::string(2000, 'x')));
 }
 
 TEST_F(PrivateChatTest, TheCutComesBeforeTheTrimming)
 {
-    chat().send(QString(1999, u'x') + QStringLiteral("  y"));
+    EXPECT_TRUE(chat().send(QString(1999, u'x') + QStringLiteral("  y")));
     EXPECT_THAT(sentBytes(), ElementsAre("-" + std::string(1999, 'x')));
 }
 

@@ -47,7 +47,7 @@ TEST_F(LoginTest, OkOnAnEmptyBoxTakesTheHostName)
 TEST_F(LoginTest, ANicknameWithSpacesIsKeptWhole)
 {
     login.Form_Load();
-    login.CmdOK_Click(QStringLiteral("Bob the Builder"));
+    EXPECT_EQ(login.CmdOK_Click(QStringLiteral("Bob the Builder")), std::nullopt);
     EXPECT_EQ(common.ownNickname, QStringLiteral("Bob the Builder"));
     EXPECT_EQ(store.value("Settings", "MyNickName"), "Bob the Builder");
 }

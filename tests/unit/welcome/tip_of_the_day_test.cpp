@@ -267,7 +267,7 @@ TEST_F(TipOfTheDayTest, UnloadingSavesBothSettingsAtOnce)
     EXPECT_EQ(store.value("Options", "TipOTDay"), "0");
     EXPECT_EQ(store.value("Options", "TipOTDayNum"), "2");
     EXPECT_EQ(store.saves, 1);
-    tips->Form_Unload(true);
+    EXPECT_EQ(tips->Form_Unload(true), std::nullopt);
     EXPECT_EQ(store.value("Options", "TipOTDay"), "1");
 }
 
