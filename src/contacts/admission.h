@@ -12,10 +12,10 @@ namespace nimb
 /// The rule that keeps an address out of the contact list.
 enum class Refusal {
     ownAddress,   ///< it is this copy's own
-    thisMachine,  ///< 127.0.0.1, which means whoever says it. Other copies on this machine have other loopback
-                  ///< addresses.
     noUnicast,    ///< it is not the address of one host, or none at all
     alreadyThere, ///< it is a contact's
+    thisMachine,  ///< 127.0.0.1, which means whoever says it, unless the user has added it. Other copies on this
+                  ///< machine have other loopback addresses.
     listFull,     ///< peers have caused as many contacts as they may
 };
 

@@ -57,7 +57,6 @@ public:
     /// change() only.
     const Contact *find(const ContactAddress &ip) const;
     bool isContact(Ipv4Address ip) const override { return find(ip) != nullptr; }
-    bool isContact(const ContactAddress &ip) const { return find(ip) != nullptr; }
     const Contact &at(int row) const;
     int rowOf(const ContactAddress &ip) const; ///< -1 when there is none
     /// In list order.

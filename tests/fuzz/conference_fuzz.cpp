@@ -189,7 +189,7 @@ private:
     {
         const Snapshots before = snapshots();
         const int invitations = m_engine.engine.invitations().list().rowCount();
-        const bool known = m_engine.engine.contacts().isContact(from);
+        const bool known = m_engine.engine.contacts().find(from);
         const std::uint64_t dropped = m_engine.drops.of(Drop::noConference);
         m_engine.socket.arrive(from, bytes);
         const Snapshots after = snapshots();

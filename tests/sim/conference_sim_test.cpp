@@ -424,7 +424,7 @@ private:
         const wire::Datagram datagram = wire::parse(bytes);
         const bool conference = bytes.starts_with('+') || bytes.starts_with("!CONF") || bytes.starts_with("?CONF");
         const auto before = snapshotOf(copy, conference);
-        const bool fromContact = copy.engine.contacts().isContact(from);
+        const bool fromContact = copy.engine.contacts().find(from);
         copy.socket.sent.clear();
         arrive();
         const auto after = snapshotOf(copy, conference);
@@ -497,8 +497,7 @@ private:
         if (!hosted.conference || !hosted.conference->isHostedHere())
             return 0;
         const QString origin = QString::fromStdString(message.origin);
-        const bool known
-            = origin == copy.ip() || hosted.rows.contains(origin) || copy.engine.contacts().isContact(origin);
+        const bool known = origin == copy.ip() || hosted.rows.contains(origin) || copy.engine.contacts().find(origin);
         const bool relayed = origin != from && origin != copy.ip()
             && (known || m_guestOf[copyWith(copy.ip())].contains(Name(from, message.id)));
         if (relayed)

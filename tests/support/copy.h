@@ -66,7 +66,7 @@ public:
         notifications.rows.clear();
     }
 
-    bool knows(const char *ip) { return engine.contacts().isContact(QString::fromLatin1(ip)); }
+    bool knows(const char *ip) { return engine.contacts().find(QString::fromLatin1(ip)) != nullptr; }
     const Contact &contact(const char *ip) { return *engine.contacts().find(QString::fromLatin1(ip)); }
     std::vector<std::string> names()
     {

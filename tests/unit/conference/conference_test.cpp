@@ -493,6 +493,18 @@ TEST_F(ConferenceTest, AListMakesNoContactOfThisMachine)
     EXPECT_EQ(copy.drops.of(Drop::noConference), 1u) << "its own address is no fault of the host";
 }
 
+TEST_F(ConferenceTest, AContactAtTheUsualLoopbackAddressIsListedLikeAnyOther)
+{
+    Contact here;
+    here.ip = QStringLiteral("127.0.0.1");
+    here.nickname = QStringLiteral("Here");
+    copy.engine.contacts().add(here);
+    Conference &conference = join(3);
+    copy.arrive("10.0.0.2", "!CONF USERS #3 10.0.0.2 127.0.0.1");
+    EXPECT_THAT(rows(conference), ElementsAre("Me (you) green", "Ann green", "Here green"));
+    EXPECT_EQ(copy.drops.of(Drop::noConference), 0u);
+}
+
 TEST_F(ConferenceTest, AHugeListIsCut)
 {
     Conference &conference = join(3);

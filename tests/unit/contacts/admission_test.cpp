@@ -75,6 +75,12 @@ TEST_F(AdmissionTest, AContactIsNotAddedTwice)
     EXPECT_THAT(refusal("10.0.0.2"), Optional(Refusal::alreadyThere));
 }
 
+TEST_F(AdmissionTest, WhoWasAddedByHandIsAContactAtTheUsualLoopbackAddressToo)
+{
+    addContact(QStringLiteral("127.0.0.1"));
+    EXPECT_THAT(refusal("127.0.0.1"), Optional(Refusal::alreadyThere));
+}
+
 TEST_F(AdmissionTest, AFullListTakesNobodyElse)
 {
     for (int i = contacts.rowCount(); i < limits::contactsFromStrangers; ++i) {

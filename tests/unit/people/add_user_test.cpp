@@ -120,7 +120,7 @@ TEST_F(AddUserTest, TheOwnHostNameInAnotherCaseIsAnotherHost)
 TEST_F(AddUserTest, TheOwnAddressWithLeadingZerosIsNotRecognised)
 {
     EXPECT_TRUE(add("Me", "PC-ME", "192.168.000.005"));
-    EXPECT_TRUE(contacts.isContact(QStringLiteral("192.168.000.005")));
+    EXPECT_TRUE(contacts.find(QStringLiteral("192.168.000.005")));
 }
 
 TEST_F(AddUserTest, WhatIsNoDottedAddressIsAccepted)
