@@ -3,7 +3,9 @@
 
 #include <QByteArray>
 
+#include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 
 namespace nimb
@@ -13,14 +15,17 @@ constexpr int avatarSide = 50; ///< pixels
 /// Three bytes per pixel (blue, green, red), row by row from the top.
 constexpr qsizetype avatarBytes = qsizetype(3) * avatarSide * avatarSide;
 
-/// The bytes of a picture of avatarSide by avatarSide pixels, each 0xRRGGBB with anything in the byte above.
-inline QByteArray avatarBodyOf(const std::uint32_t *pixels)
+/// A picture of avatarSide by avatarSide pixels, each 0xRRGGBB with anything in the byte above.
+using AvatarPixels = std::span<const std::uint32_t, std::size_t(avatarSide) * avatarSide>;
+
+/// The bytes of that picture.
+inline QByteArray avatarBodyOf(AvatarPixels pixels)
 {
     QByteArray body;
     body.reserve(avatarBytes);
-    for (int i = 0; i < avatarSide * avatarSide; ++i) {
+    for (const std::uint32_t pixel : pixels) {
         for (const int shift : {0, 8, 16})
-            body.append(static_cast<char>(pixels[i] >> shift & 0xFF));
+            body.append(static_cast<char>(pixel >> shift & 0xFF));
     }
     return body;
 }

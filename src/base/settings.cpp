@@ -86,8 +86,8 @@ QString flagText(bool value)
 
 const SettingKey &settingKey(QLatin1String key)
 {
-    const auto *const found = std::find_if(settingKeys.begin(), settingKeys.end(),
-                                           [key](const SettingKey &row) { return key == QLatin1String(row.key); });
+    const auto *const found
+        = std::ranges::find_if(settingKeys, [key](const SettingKey &row) { return key == QLatin1String(row.key); });
     Q_ASSERT(found != settingKeys.end());
     return *found;
 }

@@ -24,8 +24,8 @@ constexpr qint64 oldestAge = std::numeric_limits<std::int16_t>::max(); // second
 
 int InvitationList::rowOf(Ipv4Address host, std::int16_t number) const
 {
-    const auto found = std::find_if(m_rows.begin(), m_rows.end(),
-                                    [&](const Invitation &one) { return one.host == host && one.number == number; });
+    const auto found
+        = std::ranges::find_if(m_rows, [&](const Invitation &one) { return one.host == host && one.number == number; });
     return found == m_rows.end() ? -1 : static_cast<int>(found - m_rows.begin());
 }
 

@@ -9,8 +9,7 @@ namespace nimb
 
 int Participants::rowOf(const ContactAddress &ip) const
 {
-    const auto found
-        = std::find_if(m_rows.begin(), m_rows.end(), [&ip](const Participant &one) { return one.ip == ip; });
+    const auto found = std::ranges::find(m_rows, ip, &Participant::ip);
     return found == m_rows.end() ? -1 : static_cast<int>(found - m_rows.begin());
 }
 
@@ -78,8 +77,7 @@ Colour Participants::nextColour()
 {
     const auto &table = emoticonTables.participantColours;
     for (const Colour colour : table) {
-        const bool taken = std::any_of(m_rows.begin(), m_rows.end(),
-                                       [colour](const Participant &one) { return one.colour == colour; });
+        const bool taken = std::ranges::find(m_rows, colour, &Participant::colour) != m_rows.end();
         if (!taken)
             return colour;
     }

@@ -82,8 +82,8 @@ bool ContactList::before(const Row &left, const Row &right)
 
 int ContactList::position(const Row &row) const
 {
-    const auto found = std::lower_bound(m_rows.begin(), m_rows.end(), row,
-                                        [](const auto &element, const Row &value) { return before(*element, value); });
+    const auto found
+        = std::ranges::lower_bound(m_rows, row, before, [](const auto &element) -> const Row & { return *element; });
     return static_cast<int>(found - m_rows.begin());
 }
 

@@ -15,9 +15,9 @@ namespace
 void moveRows(TransferList &from, TransferList &to, std::vector<int> rows)
 {
     const auto isMissing = [&from](int row) { return row < 0 || row >= from.rowCount(); };
-    rows.erase(std::remove_if(rows.begin(), rows.end(), isMissing), rows.end());
-    std::sort(rows.begin(), rows.end());
-    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    std::erase_if(rows, isMissing);
+    std::ranges::sort(rows);
+    rows.erase(std::ranges::unique(rows).begin(), rows.end());
     to.append(from.take(rows));
 }
 

@@ -41,7 +41,7 @@ constexpr QSize cell(40, 46);
 QIcon iconOf(QLatin1String emoticon)
 {
     const auto &texts = emoticonTables.texts;
-    const auto entry = static_cast<std::size_t>(std::find(texts.begin(), texts.end(), emoticon) - texts.begin());
+    const auto entry = static_cast<std::size_t>(std::ranges::find(texts, emoticon) - texts.begin());
     const std::optional<IndexedBitmap> bitmap = decodePictureFragment(emoticonFragment(entry / 2 + 1));
     if (!bitmap)
         return {};

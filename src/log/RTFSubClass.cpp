@@ -17,8 +17,7 @@ void RTFSubClass::HookRichText(RichTextLogEdit &control, QWidget &parent)
 
 void RTFSubClass::UnhookRichText(RichTextLogEdit &control)
 {
-    const auto hook = std::find_if(m_hooks.begin(), m_hooks.end(),
-                                   [&control](const Hook &entry) { return entry.control == &control; });
+    const auto hook = std::ranges::find(m_hooks, &control, &Hook::control);
     if (hook == m_hooks.end())
         return;
     control.setLinkDetection(false);
@@ -28,8 +27,7 @@ void RTFSubClass::UnhookRichText(RichTextLogEdit &control)
 
 bool RTFSubClass::isHooked(const RichTextLogEdit &control) const
 {
-    return std::any_of(m_hooks.begin(), m_hooks.end(),
-                       [&control](const Hook &entry) { return entry.control == &control; });
+    return std::ranges::find(m_hooks, &control, &Hook::control) != m_hooks.end();
 }
 
 /// The target is whole and cut already: the log holds what its search for links allows and nothing else.

@@ -39,7 +39,7 @@ std::optional<Match> emoticonAt(QStringView rest)
 
 qsizetype firstTrigger(QStringView rest)
 {
-    const auto found = std::find_if(rest.begin(), rest.end(), [](QChar c) { return c == u':' || c == u';'; });
+    const auto found = std::ranges::find_if(rest, [](QChar c) { return c == u':' || c == u';'; });
     return found == rest.end() ? -1 : found - rest.begin();
 }
 

@@ -129,8 +129,8 @@ bool endsEveryLink(char32_t c)
 
 bool isBracket(char32_t c)
 {
-    return std::any_of(bracketPairs.begin(), bracketPairs.end(),
-                       [c](const BracketPair &pair) { return c == pair.opening || c == pair.closing; });
+    return std::ranges::any_of(bracketPairs,
+                               [c](const BracketPair &pair) { return c == pair.opening || c == pair.closing; });
 }
 
 /// Punctuation that belongs to the sentence where a link ends with it.
@@ -180,7 +180,7 @@ bool isValidLabel(std::string_view label)
     const auto isValidCharacter
         = [](char c) { return isAsciiLetterOrDigit(static_cast<unsigned char>(c)) || c == '-'; };
     return !label.empty() && label.size() <= longestLabel && label.front() != '-' && label.back() != '-'
-        && std::all_of(label.begin(), label.end(), isValidCharacter);
+        && std::ranges::all_of(label, isValidCharacter);
 }
 
 std::vector<std::string_view> labelsOf(std::string_view host)
@@ -200,7 +200,7 @@ bool isNumber(std::string_view label)
 {
     const bool hexadecimal = label.starts_with("0x");
     const std::string_view digits = hexadecimal ? label.substr(2) : label;
-    return std::all_of(digits.begin(), digits.end(), [hexadecimal](char c) {
+    return std::ranges::all_of(digits, [hexadecimal](char c) {
         const auto digit = static_cast<unsigned char>(c);
         return hexadecimal ? isAsciiHexDigit(digit) : isAsciiDigit(digit);
     });
@@ -233,7 +233,7 @@ std::optional<Host> readHost(QStringView text)
         return std::nullopt;
     const std::string_view name(host.name.constData(), static_cast<std::size_t>(host.name.size()));
     const std::vector<std::string_view> labels = labelsOf(name);
-    if (!std::all_of(labels.begin(), labels.end(), isValidLabel))
+    if (!std::ranges::all_of(labels, isValidLabel))
         return std::nullopt;
     host.labels = static_cast<qsizetype>(labels.size());
     host.isName = !isNumber(labels.back());
@@ -247,7 +247,7 @@ std::optional<Host> readBracketedHost(QStringView text)
 {
     const auto isValidCharacter = [](QChar c) { return isAsciiHexDigit(c.unicode()) || c == u':' || c == u'.'; };
     const QStringView inner = text.sliced(1, text.size() - 2);
-    if (!std::all_of(inner.begin(), inner.end(), isValidCharacter))
+    if (!std::ranges::all_of(inner, isValidCharacter))
         return std::nullopt;
     const QByteArray name = text.toLatin1().toLower();
     if (!QUrl::fromEncoded("http://" + name, QUrl::StrictMode).isValid())
@@ -343,8 +343,8 @@ public:
 private:
     const Beginning *beginningAt(qsizetype start) const
     {
-        const auto *const found = std::find_if(beginnings.begin(), beginnings.end(),
-                                               [&](const Beginning &b) { return standsAt(b.text, start); });
+        const auto *const found
+            = std::ranges::find_if(beginnings, [&](const Beginning &b) { return standsAt(b.text, start); });
         return found != beginnings.end() && mayBegin(*found, start) ? found : nullptr;
     }
 

@@ -4,6 +4,9 @@
 
 #include <QRegularExpression>
 
+#include <iterator>
+#include <span>
+
 namespace nimb
 {
 namespace
@@ -15,14 +18,14 @@ constexpr int largestSide = 64; ///< of a bitmap, in pixels
 class Words
 {
 public:
-    explicit Words(const QByteArray &bytes) : m_bytes(bytes) { }
+    explicit Words(std::span<const char> bytes) : m_bytes(bytes) { }
 
     qsizetype position() const { return m_at; } ///< in words
     void seek(qsizetype word) { m_at = word; }
     /// Takes sizes as the bytes give them, which no signed number of a 32-bit machine holds.
     bool has(std::uint32_t words) const
     {
-        const qsizetype left = m_bytes.size() / 2 - m_at;
+        const qsizetype left = std::ssize(m_bytes) / 2 - m_at;
         return left >= 0 && words <= static_cast<std::uint64_t>(left);
     }
     bool overrun() const { return m_overrun; }
@@ -42,13 +45,13 @@ public:
 private:
     std::uint32_t byteAt(qsizetype at)
     {
-        if (at < m_bytes.size())
-            return static_cast<std::uint8_t>(m_bytes[at]);
+        if (at < std::ssize(m_bytes))
+            return static_cast<std::uint8_t>(m_bytes[static_cast<std::size_t>(at)]);
         m_overrun = true;
         return 0;
     }
 
-    const QByteArray &m_bytes;
+    std::span<const char> m_bytes;
     qsizetype m_at = 0;
     bool m_overrun = false;
 };

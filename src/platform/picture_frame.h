@@ -17,7 +17,7 @@ inline QByteArray frameOf(const QImage &picture)
     const QImage frame = picture.copy((picture.width() - side) / 2, (picture.height() - side) / 2, side, side)
                              .scaled(avatarSide, avatarSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
                              .convertToFormat(QImage::Format_RGB32);
-    return avatarBodyOf(reinterpret_cast<const std::uint32_t *>(frame.constBits()));
+    return avatarBodyOf(AvatarPixels(reinterpret_cast<const std::uint32_t *>(frame.constBits()), AvatarPixels::extent));
 }
 
 } // namespace nimb

@@ -113,7 +113,7 @@ bool SystemInfo::StartSysInfo()
     WindowsMachine machine;
     return startRegisteredSysInfo(machine);
 #else
-    return std::any_of(tools.begin(), tools.end(), start);
+    return std::ranges::any_of(tools, start);
 #endif
 }
 

@@ -62,8 +62,7 @@ PrivateChat &PrivateWindows::make(const Contact &contact)
 
 int PrivateWindows::numberOf(const ContactAddress &ip) const
 {
-    const auto found
-        = std::find_if(m_table.begin(), m_table.end(), [&ip](const auto &chat) { return chat && chat->rIP() == ip; });
+    const auto found = std::ranges::find_if(m_table, [&ip](const auto &chat) { return chat && chat->rIP() == ip; });
     return found == m_table.end() ? 0 : static_cast<int>(found - m_table.begin()) + 1;
 }
 

@@ -25,7 +25,7 @@ std::optional<char> westernByte(char16_t c)
 {
     if (c < firstUpper || (c > lastUpper && c <= 0xFF))
         return static_cast<char>(c);
-    const auto *const found = std::find(westernUpper.begin(), westernUpper.end(), c);
+    const auto *const found = std::ranges::find(westernUpper, c);
     if (found == westernUpper.end())
         return std::nullopt;
     return static_cast<char>(firstUpper + (found - westernUpper.begin()));
@@ -54,7 +54,7 @@ std::optional<std::string> toWestern(const QString &text)
 
 bool isAscii(std::string_view bytes)
 {
-    return std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    return std::ranges::all_of(bytes, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
 QByteArrayView viewOf(std::string_view bytes)

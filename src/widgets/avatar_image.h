@@ -26,7 +26,8 @@ inline QByteArray avatarBody(const QImage &image)
         return {};
     const QImage stretched = image.scaled(avatarSide, avatarSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
                                  .convertToFormat(QImage::Format_RGB32);
-    return avatarBodyOf(reinterpret_cast<const std::uint32_t *>(stretched.constBits()));
+    return avatarBodyOf(
+        AvatarPixels(reinterpret_cast<const std::uint32_t *>(stretched.constBits()), AvatarPixels::extent));
 }
 
 } // namespace nimb

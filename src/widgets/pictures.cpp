@@ -99,7 +99,7 @@ private:
     /// Scaled down where this very size was not rendered.
     QImage rendered(int side) const
     {
-        const auto *const next = std::lower_bound(renderedSizes.begin(), renderedSizes.end(), side);
+        const auto *const next = std::ranges::lower_bound(renderedSizes, side);
         const int size = next == renderedSizes.end() ? renderedSizes.back() : *next;
         QImage image(fileOf(m_path, size));
         if (size == side)
