@@ -7,7 +7,8 @@ Messenger::Messenger(Common &common, const Surroundings &around)
     : m_socket(around.socket), m_windows(around.windows), m_log(around.mainView.outtext(), around.clock),
       m_sender(common, around.socket), m_announcement(common, m_contacts, m_sender, around.timers, around.mainView),
       m_ownState(common, m_contacts, m_sender, m_announcement, m_log, around.mainView),
-      m_port(around.socket, common, around.timers, m_log, around.mainView, [this] { m_announcement.run(); }),
+      m_port(around.socket, common, around.timers, m_log, around.mainView,
+             [this] { m_announcement.runUnlessInvisible(); }),
       m_privateWindows({{common, around.socket, around.clock}, around.sound, around.timers, around.privateForms},
                        m_contacts),
       m_presence(common, m_contacts, m_sender, m_log, m_privateWindows, around.notifications, around.clock,
@@ -23,7 +24,7 @@ Messenger::Messenger(Common &common, const Surroundings &around)
                                                                          around.prompts,
                                                                          around.conferenceForms},
                                                                         around.mainView),
-      m_invitations({around.socket, m_contacts, around.timers, around.clock, around.store, m_conferences}),
+      m_invitations({common, around.socket, m_contacts, around.timers, around.clock, around.store, m_conferences}),
       m_conferenceCommands(
           {common, around.socket, m_contacts, m_avatars, m_sender, m_conferences, m_invitations, around.drops}),
       m_contactCommands({common, around.socket, around.sound, around.prompts}, m_contacts, m_privateWindows),

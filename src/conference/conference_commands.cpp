@@ -52,8 +52,9 @@ void ConferenceCommands::operator()(const wire::ConferenceAnswer &answer)
     Conference *const conference = m_parts.conferences.hosted(answer.id);
     if (!conference || !conference->partecipanti().find(m_ip)) {
         drop();
-        // Who takes an old invitation has opened a window that nobody would ever write to.
-        if (answer.agreed && isHostsNumber(answer.id))
+        // Who takes an old invitation has opened a window that nobody would ever write to. But anybody can say that he
+        // agrees, and hear from whoever is invisible.
+        if (answer.agreed && isHostsNumber(answer.id) && !m_parts.common.isInvisible())
             sendDatagram(m_parts.socket, m_ip, wire::ConferenceClose{answer.id});
         return;
     }
@@ -164,7 +165,7 @@ void ConferenceCommands::greet(Ipv4Address address)
 
 void ConferenceCommands::askForAvatar(Ipv4Address address)
 {
-    if (m_parts.avatars.of(address).head.empty())
+    if (m_parts.avatars.of(address).head.empty() && !m_parts.common.isInvisible())
         sendDatagram(m_parts.socket, address, wire::AvatarHeadQuestion{});
 }
 

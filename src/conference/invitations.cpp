@@ -265,10 +265,10 @@ QString Invitations::setAutorefuseMins(const QString &text)
     return QString::number(m_autorefuseMins);
 }
 
-/// Age ends no conference that the user is in.
+/// Age ends no conference that the user is in, and gives nobody away who is invisible: it is told later.
 bool Invitations::isToBeAutorefused(const Invitation &invitation) const
 {
-    return m_autorefuse && invitation.minutes >= m_autorefuseMins
+    return m_autorefuse && !m_services.common.isInvisible() && invitation.minutes >= m_autorefuseMins
         && !m_services.conferences.joined(invitation.host, invitation.number);
 }
 

@@ -74,6 +74,7 @@ class Invitations
 
 public:
     struct Services {
+        const Common &common;
         Winsock &socket;
         const ContactList &contacts;
         Timers &timers;

@@ -61,6 +61,12 @@ void Announcement::run()
     askNextBatch();
 }
 
+void Announcement::runUnlessInvisible()
+{
+    if (!m_common.isInvisible())
+        run();
+}
+
 void Announcement::askNextBatch()
 {
     const std::size_t end = std::min(m_toAsk.size(), m_asked + limits::announcementBatch);

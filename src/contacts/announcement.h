@@ -37,6 +37,8 @@ public:
     Announcement(Common &common, ContactList &contacts, PresenceSender &sender, Timers &timers, AnnouncementView &view);
 
     void run();
+    /// Where the user has not asked for it.
+    void runUnlessInvisible();
 
 private:
     void askNextBatch();

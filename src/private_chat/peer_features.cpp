@@ -61,7 +61,10 @@ void PeerFeatures::avatarBodyQuestion(Ipv4Address ip)
 void PeerFeatures::avatarHead(Ipv4Address ip, const std::string &head)
 {
     m_parts.avatars.setHead(ip, head);
-    sendDatagram(m_parts.socket, ip, wire::AvatarBodyQuestion{});
+    PrivateChat *const window = windowOf(ip);
+    const bool wanted = window && window->takeAvatarWanted();
+    if (wanted || !m_parts.common.isInvisible())
+        sendDatagram(m_parts.socket, ip, wire::AvatarBodyQuestion{});
 }
 
 void PeerFeatures::avatarBody(Ipv4Address ip, const std::string &body)

@@ -44,7 +44,8 @@ public:
 
     void avatarHeadQuestion(Ipv4Address ip) override;
     void avatarBodyQuestion(Ipv4Address ip) override;
-    /// Kept, and answered by the question for the body.
+    /// Kept, and answered by the question for the body. Whoever is invisible asks for it only when the user wanted the
+    /// avatar: a head can come from anybody at any time.
     void avatarHead(Ipv4Address ip, const std::string &head) override;
     void avatarBody(Ipv4Address ip, const std::string &body) override;
     void avatarOff(Ipv4Address ip) override;

@@ -22,7 +22,7 @@ PrivateChat::PrivateChat(const Services &services, std::function<void()> unloade
       m_autoReplyTimer(services.timers.oneShot(limits::autoReplyPause, [] {})),
       m_timer(services.timers.oneShot(peerActivityShown, [this] { m_view->setPeerActivity({}); })),
       m_timerLiveType(services.timers.oneShot(liveTypeInterval, [this] { TimerLiveType_Timer(); })),
-      m_webCamTimer(services.timers.repeating(pollingInterval, [this] { avatarWanted(); })),
+      m_webCamTimer(services.timers.repeating(pollingInterval, [this] { askForAvatarUnlessInvisible(); })),
       m_view(services.forms.makePrivateForm(*this))
 {
     conversationView().setLogFont(common().logFont);
@@ -33,12 +33,18 @@ void PrivateChat::setPeer(const ContactAddress &ip)
 {
     m_rIP = ip;
     m_view->setPeerAddress(ip.text());
-    avatarWanted();
 }
 
 void PrivateChat::avatarWanted()
 {
+    m_avatarWanted = true;
     sendDatagram(socket(), m_rIP.ipv4(), wire::AvatarHeadQuestion{});
+}
+
+void PrivateChat::askForAvatarUnlessInvisible()
+{
+    if (!common().isInvisible())
+        sendDatagram(socket(), m_rIP.ipv4(), wire::AvatarHeadQuestion{});
 }
 
 QString PrivateChat::openingLine(const QString &date, const QString &time) const

@@ -9,6 +9,7 @@
 #include "private_chat/typing_notice.h"
 
 #include <memory>
+#include <utility>
 
 namespace nimb
 {
@@ -30,7 +31,7 @@ public:
     /// unloaded: called last of all when the user closes the window for good; it may destroy this chat.
     PrivateChat(const Services &services, std::function<void()> unloaded);
 
-    /// Tells the window its peer, and asks that peer for its avatar.
+    /// Tells the window its peer.
     void setPeer(const ContactAddress &ip);
     const ContactAddress &rIP() const { return m_rIP; }
     PrivateChatView &view() { return *m_view; }
@@ -60,8 +61,13 @@ public:
     void intext_Change(const QString &typed);
     void livetypebtn_Click();
     void BuzzBtn_Click();
-    /// The avatar panel is about to be shown.
+    /// The user opens the window or its avatar panel: the peer is asked for its avatar.
     void avatarWanted();
+    /// The same where nobody at this keyboard wants it, as when a message opens the window: whoever is invisible does
+    /// not ask.
+    void askForAvatarUnlessInvisible();
+    /// Whether the head that has come is the one that avatarWanted() asked for; true once for each such question.
+    [[nodiscard]] bool takeAvatarWanted() { return std::exchange(m_avatarWanted, false); }
     /// The own gauge was clicked at this height, in units of the scale.
     void mymoodpct_MouseDown(float value);
 
@@ -86,6 +92,7 @@ private:
     TypingNotice m_typingNotice;
     bool m_liveTypePending = false;
     bool m_isContact = true;
+    bool m_avatarWanted = false; ///< by the user, and no head has come yet
     ViewPtr<PrivateChatView> m_view;
 };
 

@@ -21,7 +21,7 @@ PrivateChat *PrivateWindows::at(int window)
 
 void PrivateWindows::privateMessage(Ipv4Address ip, const QString &text)
 {
-    PrivateChat &chat = windowOf(*m_contacts.find(ip));
+    PrivateChat &chat = windowOf(*m_contacts.find(ip), OpenedBy::peer);
     if (chat.view().isHidden())
         chat.view().showWindow(m_services.conversation.common.options.privateWindowsOnTop ? ShowMode::onTop
                                                                                           : ShowMode::minimised);
@@ -32,10 +32,10 @@ void PrivateWindows::privateMessage(Ipv4Address ip, const QString &text)
 void PrivateWindows::openPrivate(const ContactAddress &ip)
 {
     if (const Contact *const contact = m_contacts.find(ip))
-        windowOf(*contact).view().showWindow(ShowMode::active);
+        windowOf(*contact, OpenedBy::user).view().showWindow(ShowMode::active);
 }
 
-PrivateChat &PrivateWindows::windowOf(const Contact &contact)
+PrivateChat &PrivateWindows::windowOf(const Contact &contact, OpenedBy opener)
 {
     if (PrivateChat *open = at(contact.privateWindow))
         return *open;
@@ -45,10 +45,10 @@ PrivateChat &PrivateWindows::windowOf(const Contact &contact)
         at(number)->setContact(true);
         return *at(number);
     }
-    return make(contact);
+    return make(contact, opener);
 }
 
-PrivateChat &PrivateWindows::make(const Contact &contact)
+PrivateChat &PrivateWindows::make(const Contact &contact, OpenedBy opener)
 {
     const int number = static_cast<int>(m_table.size()) + 1;
     m_table.push_back(std::make_unique<PrivateChat>(m_services, [this, number] { unload(number); }));
@@ -56,6 +56,10 @@ PrivateChat &PrivateWindows::make(const Contact &contact)
     PrivateChat &chat = *m_table.back();
     chat.view().conversation().setCaption(tr("%1 - NIMB-Chat - Private Chat Window").arg(contact.nickname));
     chat.setPeer(contact.ip);
+    if (opener == OpenedBy::user)
+        chat.avatarWanted();
+    else
+        chat.askForAvatarUnlessInvisible();
     chat.preparewindow();
     return chat;
 }

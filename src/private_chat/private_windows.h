@@ -33,9 +33,11 @@ public:
     PrivateChat *at(int window);
 
 private:
+    enum class OpenedBy { user, peer };
+
     /// The contact's window; made, hidden and prepared when there is none. The contact must exist.
-    PrivateChat &windowOf(const Contact &contact);
-    PrivateChat &make(const Contact &contact);
+    PrivateChat &windowOf(const Contact &contact, OpenedBy opener);
+    PrivateChat &make(const Contact &contact, OpenedBy opener);
     /// Number of a window whose peer has this address, or 0.
     int numberOf(const ContactAddress &ip) const;
     void unload(int window);

@@ -457,7 +457,29 @@ TEST_F(ConferenceTest, WhoIsInvisibleTellsNoUnknownParticipantSo)
     copy.arrive("10.0.0.2", "!CONF USERS #3 10.0.0.2 10.0.0.99");
     EXPECT_THAT(rows(conference), ElementsAre("Me (you) green", "Ann green", "(unknown) green"));
     EXPECT_TRUE(copy.knows("10.0.0.99"));
-    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "?AVATARHEAD"), To("10.0.0.99", "?AVATARHEAD")));
+    EXPECT_THAT(copy.sent(), IsEmpty());
+}
+
+TEST_F(ConferenceTest, WhoIsInvisibleDoesNotAnswerThoseWhoTakeAnInvitationThatIsNoMore)
+{
+    copy.engine.ownState().choose(4);
+    copy.sent();
+    copy.arrive("10.0.0.3", "!CONF INVITE #1 AGREE");
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    copy.engine.ownState().choose(1);
+    copy.sent();
+    copy.arrive("10.0.0.3", "!CONF INVITE #1 AGREE");
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.3", "!CONF CLOSE #1")));
+}
+
+TEST_F(ConferenceTest, WhoIsInvisibleLetsGuestsInAndAsksThemNothing)
+{
+    copy.engine.ownState().choose(4);
+    host();
+    table().mnuInvite2Conf(1, QStringLiteral("10.0.0.3"));
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.3", "?CONF INVITE #1")));
+    copy.arrive("10.0.0.3", "!CONF INVITE #1 AGREE");
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.3", "!CONF USERS #1 10.0.0.1 10.0.0.3")));
 }
 
 TEST_F(ConferenceTest, ListsAreTakenFromTheHostAlone)

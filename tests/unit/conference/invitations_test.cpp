@@ -168,6 +168,21 @@ TEST_F(InvitationsTest, ALimitOfZeroRefusesAtTheNextTick)
     EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "!CONF INVITE #3 DENY")));
 }
 
+TEST_F(InvitationsTest, AgeGivesNobodyAwayWhoIsInvisible)
+{
+    invitations().setAutorefuse(true);
+    invitations().setAutorefuseMins(QStringLiteral("0"));
+    copy.engine.ownState().choose(4);
+    copy.sent();
+    invite("10.0.0.2", 3);
+    copy.advance(60s);
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_THAT(rows(), ElementsAre("IP10.0.0.2:3 green 1 minute(s)"));
+    copy.common.ownPresence.base = BaseState::online;
+    copy.advance(5s);
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "!CONF INVITE #3 DENY")));
+}
+
 TEST_F(InvitationsTest, AgeThrowsNobodyOutOfAConference)
 {
     invitations().setAutorefuse(true);

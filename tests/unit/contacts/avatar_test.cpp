@@ -233,6 +233,40 @@ TEST_F(AvatarTest, NobodyPollsARemovedContact)
     EXPECT_EQ(copy.engine.privateWindows().at(1)->Form_QueryUnload(UnloadMode::closeBox), CloseDecision::hide);
 }
 
+TEST_F(AvatarTest, WhoIsInvisibleAsksForThePictureOnlyOfAnAvatarThatTheUserWanted)
+{
+    copy.engine.ownState().choose(4);
+    copy.sent();
+    copy.arrive("10.0.0.2", "!AVATARHEAD 2026-11-21 10:00:00");
+    EXPECT_EQ(kept().head, "2026-11-21 10:00:00");
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    copy.engine.privateWindows().openPrivate(QStringLiteral("10.0.0.2"));
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "?AVATARHEAD")));
+    copy.arrive("10.0.0.2", "!AVATARHEAD 2026-11-21 10:00:00");
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "?AVATARBODY")));
+    copy.arrive("10.0.0.2", "!AVATARHEAD 2026-11-21 10:00:00");
+    EXPECT_THAT(copy.sent(), IsEmpty()) << "one question, one answer";
+}
+
+TEST_F(AvatarTest, WhoIsInvisibleDoesNotPollAMovingPicture)
+{
+    copy.engine.privateWindows().openPrivate(QStringLiteral("10.0.0.2"));
+    copy.arrive("10.0.0.2", "!AVATARHEAD WEBCAM1");
+    copy.arrive("10.0.0.2", "!AVATARBODY " + std::string(7500, 'x'));
+    copy.sent();
+    copy.advance(1100ms);
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "?AVATARHEAD")));
+    copy.engine.ownState().choose(4);
+    copy.sent();
+    copy.advance(1100ms);
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    copy.engine.ownState().choose(1);
+    copy.advance(0ms);
+    copy.sent();
+    copy.advance(1100ms);
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "?AVATARHEAD")));
+}
+
 TEST_F(AvatarTest, AHugeHeadIsCut)
 {
     copy.arrive("10.0.0.2", "!AVATARHEAD WEBCAM" + std::string(60000, 'x'));

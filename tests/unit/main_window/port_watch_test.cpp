@@ -35,6 +35,16 @@ TEST(PortWatch, TriesAgainEveryFiveSecondsAndThenAnnounces)
     EXPECT_THAT(copy.sent(), IsEmpty());
 }
 
+TEST(PortWatch, AnnouncesNobodyWhoIsInvisible)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}, .portTaken = true});
+    copy.engine.ownState().choose(4);
+    copy.socket.portTaken = false;
+    copy.advance(5000ms);
+    EXPECT_TRUE(copy.socket.isBound());
+    EXPECT_THAT(copy.sent(), IsEmpty());
+}
+
 TEST(PortWatch, SaysWhatKeepsItFromListening)
 {
     Copy copy({.portTaken = true, .loaded = false});

@@ -42,6 +42,17 @@ TEST_F(PrivateWindowsTest, AMessageMakesAWindowForItsSender)
     EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.3", "?AVATARHEAD"}));
 }
 
+TEST_F(PrivateWindowsTest, WhoIsInvisibleAsksForAnAvatarOnlyWhenTheUserOpensTheWindow)
+{
+    copy.engine.ownState().choose(4);
+    copy.sent();
+    copy.arrive("10.0.0.3", "-are you there?");
+    EXPECT_EQ(copy.window(1).log.lastLine(), "Ben> are you there?");
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    open("10.0.0.2");
+    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "?AVATARHEAD"}));
+}
+
 TEST_F(PrivateWindowsTest, ContactsWithTextsInPlaceOfAddressesHaveWindowsOfTheirOwnAndFindThemAgain)
 {
     const auto add = [this](const char *place) {
