@@ -213,6 +213,9 @@ void ConferenceCommands::operator()(const wire::ConferenceMessage &message)
     if (origin != m_parts.common.ownIP) {
         if (Conference *const conference = m_parts.conferences.joined(m_ip, message.id))
             return conference->ReceiveMessage(*origin, text);
+        // Said in a conference that is over here, it is not for the guests of one that only bears the same number.
+        if (m_parts.conferences.hasWindowOf(m_ip, message.id))
+            return drop();
     }
     Conference *const conference = attended(message.id);
     if (!conference || conference->partecipanti().find(m_ip)->own || !isWritersOwn(*origin, *conference))

@@ -1,5 +1,7 @@
 #include "conference/conference_table.h"
 
+#include <algorithm>
+
 namespace nimb
 {
 
@@ -64,16 +66,22 @@ Conference *ConferenceTable::hosted(int number)
     return conference && conference->isHostedHere() ? conference : nullptr;
 }
 
+bool ConferenceTable::isOf(const Conference *conference, Ipv4Address host, int number)
+{
+    return conference && !conference->isHostedHere() && conference->identity().ConfServerIP == host
+        && conference->identity().ConfNum == number;
+}
+
 Conference *ConferenceTable::joined(Ipv4Address host, int number)
 {
-    for (const auto &conference : m_slots) {
-        if (!conference || conference->isHostedHere() || conference->isOver())
-            continue;
-        const Conference::Identity &identity = conference->identity();
-        if (identity.ConfServerIP == host && identity.ConfNum == number)
-            return conference.get();
-    }
-    return nullptr;
+    const auto found = std::ranges::find_if(
+        m_slots, [&](const auto &conference) { return isOf(conference.get(), host, number) && !conference->isOver(); });
+    return found == m_slots.end() ? nullptr : found->get();
+}
+
+bool ConferenceTable::hasWindowOf(Ipv4Address host, int number) const
+{
+    return std::ranges::any_of(m_slots, [&](const auto &conference) { return isOf(conference.get(), host, number); });
 }
 
 void ConferenceTable::unload(int slot)

@@ -34,6 +34,8 @@ public:
     Conference *hosted(int number);
     /// The conference that this host numbers so and that is not terminated, or null.
     Conference *joined(Ipv4Address host, int number);
+    /// Whether a window stands for the conference that this host numbers so, be it terminated or not.
+    bool hasWindowOf(Ipv4Address host, int number) const;
     /// The window in this slot, or null.
     Conference *at(int slot);
 
@@ -46,6 +48,8 @@ public:
     void unloadAll();
 
 private:
+    /// Whether it is joined, and which this host numbers so.
+    static bool isOf(const Conference *conference, Ipv4Address host, int number);
     std::unique_ptr<Conference> &windowIn(int slot) { return *std::next(m_slots.begin(), slot); }
     void unload(int slot);
     void contactChanged(const Contact &contact);

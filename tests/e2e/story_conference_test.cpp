@@ -403,6 +403,25 @@ TEST_F(StoryConference, AConferenceThatItsHostClosedTakesNoInputAndIsLeftWithout
     EXPECT_THAT(meanwhile(ann), ElementsAre("!CONF LEAVE #3"));
 }
 
+TEST_F(StoryConference, WhatIsSaidInAConferenceThatIsOverDoesNotReachTheGuestsOfTheOwnOne)
+{
+    const ConferenceWindow hosted = hostWithBoth();
+    ann.send(bob.address(), "?CONF INVITE #1");
+    accept(shown(invitationsCaption));
+    EXPECT_EQ(ann.next(), "!CONF INVITE #1 AGREE");
+    const ConferenceWindow joined(opened("Conference #2 (Hosted by 'Ann') - NIMB-Chat"));
+    ann.send(bob.address(), "!CONF CLOSE #1");
+    ann.send(bob.address(), "+127.0.38.2 #1 Ben must not hear this");
+    EXPECT_THAT(meanwhile(ann), IsEmpty());
+    EXPECT_THAT(meanwhile(ben), IsEmpty());
+
+    joined.close();
+    EXPECT_TRUE(disappears(joined));
+    EXPECT_THAT(meanwhile(ann), ElementsAre("!CONF LEAVE #1"));
+    ann.send(bob.address(), "+127.0.38.2 #1 but this");
+    EXPECT_EQ(ben.next(), "+127.0.38.2 #1 but this");
+}
+
 TEST_F(StoryConference, AnInvitationIsRefusedByTheButton)
 {
     ann.send(bob.address(), "?CONF INVITE #3");

@@ -484,12 +484,18 @@ private:
         if (message.id < 1)
             return 0;
         if (message.origin != copy.ip().toStdString()) {
+            bool isOver = false;
             for (std::size_t slot = 1; slot < before.size(); ++slot) {
                 const Snapshot &one = before[slot];
-                if (one.conference && !one.conference->isHostedHere() && !one.terminated
-                    && nameOf(*one.conference) == Name(from, message.id))
+                if (!one.conference || one.conference->isHostedHere()
+                    || nameOf(*one.conference) != Name(from, message.id))
+                    continue;
+                if (!one.terminated)
                     return slot;
+                isOver = true;
             }
+            if (isOver)
+                return 0;
         }
         if (message.id > ConferenceTable::lastSlot)
             return 0;
@@ -661,11 +667,12 @@ private:
                 "a guest lists who is not there: " + whose);
     }
 
-    /// Whether what the guest writes to its host is taken for a message of the guest's own conference.
+    /// Whether what the guest writes to its host is taken for a message of the guest's own conference, be that one over
+    /// for the host.
     bool isAmbiguous(const Copy &guest, const Conference &conference)
     {
         Copy *const host = find(nameOf(conference).first);
-        return host && host->engine.conferences().joined(guest.common.ownIP, conference.identity().ConfNum);
+        return host && host->engine.conferences().hasWindowOf(guest.common.ownIP, conference.identity().ConfNum);
     }
 
     void hearEachOther(Copy &copy, int who, Conference &conference)

@@ -651,6 +651,24 @@ TEST_F(ConferenceTest, TheEndOfTheProgramClosesAndLeaves)
     EXPECT_EQ(sent[1], To("10.0.0.2", "!CONF LEAVE #3"));
 }
 
+TEST_F(ConferenceTest, WhatAHostSaysInAConferenceThatIsOverHereIsNotForTheGuestsOfAnother)
+{
+    Conference &hosted = host({"10.0.0.2", "10.0.0.3"});
+    Conference &joined = join(1);
+    copy.arrive("10.0.0.2", "!CONF CLOSE #1");
+    copy.arrive("10.0.0.2", "+10.0.0.2 #1 between us");
+    copy.arrive("10.0.0.2", "+10.0.0.4 #1 Cleo says so too");
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_EQ(lines(1).back(), "--- Ben joined the conference");
+    EXPECT_EQ(lines(2).back(), "--- This conference is terminated.");
+    EXPECT_EQ(copy.drops.of(Drop::noConference), 2u);
+    EXPECT_EQ(rows(hosted).size(), 3u);
+    joined.closed();
+    copy.sent();
+    copy.arrive("10.0.0.2", "+10.0.0.2 #1 to all of you");
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.3", "+10.0.0.2 #1 to all of you")));
+}
+
 TEST_F(ConferenceTest, ATerminatedWindowLeavesUnlessItWasJoinedAgain)
 {
     Conference &first = join(3);
