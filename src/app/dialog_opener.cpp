@@ -42,7 +42,7 @@ void DialogOpener::mnuNetworkscan()
 
 void DialogOpener::mnuAddUser()
 {
-    const AddUser rules(m_services.common, m_engine.contacts(), m_services.prompts);
+    const AddUser rules(m_services.common, m_engine.admission(), m_engine.contacts(), m_services.prompts);
     open(new frmAddUser(rules, &m_main));
 }
 

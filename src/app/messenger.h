@@ -19,6 +19,7 @@ struct Surroundings {
     SettingsStore &store;
     Timers &timers;
     const WallClock &clock;
+    const OwnAddresses &ownAddresses;
     Prompts &prompts;
     Notifications &notifications;
     Sound &sound;
@@ -39,6 +40,7 @@ public:
 
     MainWindow &mainWindow() { return m_mainWindow; }
     ContactList &contacts() { return m_contacts; }
+    const Admission &admission() const { return m_admission; }
     ContactCommands &contactCommands() { return m_contactCommands; }
     OwnState &ownState() { return m_ownState; }
     Announcement &announcement() { return m_announcement; }
@@ -58,6 +60,7 @@ private:
     Winsock &m_socket;
     SecondaryWindows &m_windows;
     ContactList m_contacts;
+    Admission m_admission;
     MainLog m_log;
     PresenceSender m_sender;
     Announcement m_announcement;

@@ -46,6 +46,7 @@ Environment Environment::fromSystem()
 Program::Program(const Environment &environment)
     : m_wantedAddress(environment.address), m_store(environment.profileFolder), m_instance(environment.profileFolder),
       m_socket(m_drops, environment.address ? readAddress(*environment.address) : std::nullopt, environment.hostName),
+      m_ownAddresses(environment.address ? readAddress(*environment.address) : std::nullopt),
       m_forms({m_common, m_timers, m_clock, m_socket, m_store, m_prompts, m_links, m_pictures, m_names, m_netSend,
                m_systemInfo, [] { return readProgramFile(QStringLiteral("TOTD.txt")); }})
 {
@@ -141,8 +142,9 @@ void Program::loadMain()
     Notifications &notifications
         = m_desktopNotifications ? static_cast<Notifications &>(*m_desktopNotifications) : m_forms.notifications();
     m_engine.emplace(m_common,
-                     Surroundings{m_socket, m_store, m_timers, m_clock, m_prompts, notifications, m_sound, *m_tray,
-                                  m_forms, m_forms.conversations(), m_forms.conversations(), window, m_drops});
+                     Surroundings{m_socket, m_store, m_timers, m_clock, m_ownAddresses, m_prompts, notifications,
+                                  m_sound, *m_tray, m_forms, m_forms.conversations(), m_forms.conversations(), window,
+                                  m_drops});
     m_forms.connectMain(
         *m_engine, [this] { return statusNotes(); }, [] { QCoreApplication::exit(0); });
     window.Form_Load();

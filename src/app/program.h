@@ -9,6 +9,7 @@
 #include "platform/link_opener.h"
 #include "platform/name_resolver.h"
 #include "platform/net_send_runner.h"
+#include "platform/own_identity.h"
 #include "platform/picture_sources.h"
 #include "platform/qt_timers.h"
 #include "platform/single_instance.h"
@@ -75,6 +76,7 @@ private:
     QtTimers m_timers;
     SystemClock m_clock;
     UdpWinsock m_socket;
+    MachineAddresses m_ownAddresses;
     MessageBoxes m_prompts;
     PlainToolTips m_toolTips;
     SoundPlayer m_sound;

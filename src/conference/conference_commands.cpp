@@ -1,7 +1,6 @@
 #include "conference/conference_commands.h"
 
 #include "base/limits.h"
-#include "contacts/admission.h"
 #include "protocol/address_text.h"
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
@@ -13,6 +12,12 @@ namespace
 
 /// What a participant is called before it has told its name. Shown, and never stored in another language.
 const QString unheardName = QStringLiteral("(unknown)");
+
+/// Whether it cannot be a peer's address, neither a contact's nor one that is to become a contact.
+bool isNobodys(std::optional<Refusal> refusal)
+{
+    return refusal == Refusal::thisMachine || refusal == Refusal::noUnicast || refusal == Refusal::broadcast;
+}
 
 /// The numbers that a host may give its conferences. Nobody joins one under another.
 bool isHostsNumber(std::int16_t number)
@@ -115,11 +120,10 @@ void ConferenceCommands::operator()(const wire::ConferenceList &list)
     std::size_t taken = 0;
     for (const std::string &address : list.addresses) {
         const std::optional<Ipv4Address> ip = Ipv4Address::parse(address);
-        const std::optional<Refusal> refusal = contactRefusal(ip, m_parts.common, m_parts.contacts);
+        const std::optional<Refusal> refusal = m_parts.admission.refusal(ip);
         if (refusal == Refusal::ownAddress)
             continue;
-        const bool isPeer = refusal != Refusal::thisMachine && refusal != Refusal::noUnicast;
-        if (!isPeer || ++taken > limits::participants)
+        if (isNobodys(refusal) || ++taken > limits::participants)
             drop();
         else if (refusal == Refusal::listFull)
             m_parts.drops.count(Drop::tooManyContacts);

@@ -3,6 +3,7 @@
 
 #include "conference/conference_table.h"
 #include "conference/invitations.h"
+#include "contacts/admission.h"
 #include "contacts/announcement.h"
 #include "protocol/drop_counts.h"
 #include "protocol/handlers.h"
@@ -19,6 +20,7 @@ class ConferenceCommands : public ConferenceHandler
 public:
     struct Parts {
         const Common &common;
+        const Admission &admission;
         Winsock &socket;
         ContactList &contacts;
         const AvatarStore &avatars;

@@ -5,17 +5,19 @@
 namespace nimb
 {
 
-std::optional<Refusal> contactRefusal(std::optional<Ipv4Address> ip, const Common &common, const ContactList &contacts)
+std::optional<Refusal> Admission::refusal(std::optional<Ipv4Address> ip) const
 {
-    if (ip == common.ownIP)
+    if (ip == m_common.ownIP || (ip && m_ownAddresses.isOwn(*ip)))
         return Refusal::ownAddress;
     if (!ip || !ip->isUnicast())
         return Refusal::noUnicast;
-    if (contacts.isContact(*ip))
+    if (m_ownAddresses.isBroadcast(*ip))
+        return Refusal::broadcast;
+    if (m_contacts.isContact(*ip))
         return Refusal::alreadyThere;
     if (ip == Ipv4Address(127, 0, 0, 1))
         return Refusal::thisMachine;
-    if (contacts.rowCount() >= limits::contactsFromStrangers)
+    if (m_contacts.rowCount() >= limits::contactsFromStrangers)
         return Refusal::listFull;
     return std::nullopt;
 }

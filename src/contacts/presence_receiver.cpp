@@ -2,7 +2,6 @@
 
 #include "base/clock_text.h"
 #include "base/remote_text.h"
-#include "contacts/admission.h"
 
 namespace nimb
 {
@@ -14,6 +13,7 @@ Drop reasonOf(Refusal refusal)
 {
     switch (refusal) {
     case Refusal::noUnicast:
+    case Refusal::broadcast:
         return Drop::badAddress;
     case Refusal::listFull:
         return Drop::tooManyContacts;
@@ -24,17 +24,17 @@ Drop reasonOf(Refusal refusal)
 
 } // namespace
 
-PresenceReceiver::PresenceReceiver(const Common &common, ContactList &contacts, PresenceSender &sender, MainLog &log,
-                                   PrivateLogs &privateLogs, Notifications &notifications, const WallClock &clock,
-                                   DropCounts &drops)
-    : m_common(common), m_contacts(contacts), m_sender(sender), m_log(log), m_privateLogs(privateLogs),
-      m_notifications(notifications), m_clock(clock), m_drops(drops)
+PresenceReceiver::PresenceReceiver(const Common &common, const Admission &admission, ContactList &contacts,
+                                   PresenceSender &sender, MainLog &log, PrivateLogs &privateLogs,
+                                   Notifications &notifications, const WallClock &clock, DropCounts &drops)
+    : m_common(common), m_admission(admission), m_contacts(contacts), m_sender(sender), m_log(log),
+      m_privateLogs(privateLogs), m_notifications(notifications), m_clock(clock), m_drops(drops)
 {
 }
 
 void PresenceReceiver::strangerSeen(Ipv4Address ip, const PeerIdentity &peer, bool online)
 {
-    if (const std::optional<Refusal> refusal = contactRefusal(ip, m_common, m_contacts))
+    if (const std::optional<Refusal> refusal = m_admission.refusal(ip))
         return m_drops.count(reasonOf(*refusal));
     Contact contact;
     contact.ip = ip;

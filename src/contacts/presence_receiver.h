@@ -3,6 +3,7 @@
 
 #include "base/main_log.h"
 #include "base/notifications.h"
+#include "contacts/admission.h"
 #include "contacts/announcement.h"
 #include "contacts/contact_list.h"
 #include "protocol/drop_counts.h"
@@ -24,8 +25,9 @@ class PresenceReceiver : public PresenceHandler
     Q_DECLARE_TR_FUNCTIONS(PresenceReceiver)
 
 public:
-    PresenceReceiver(const Common &common, ContactList &contacts, PresenceSender &sender, MainLog &log,
-                     PrivateLogs &privateLogs, Notifications &notifications, const WallClock &clock, DropCounts &drops);
+    PresenceReceiver(const Common &common, const Admission &admission, ContactList &contacts, PresenceSender &sender,
+                     MainLog &log, PrivateLogs &privateLogs, Notifications &notifications, const WallClock &clock,
+                     DropCounts &drops);
 
     void strangerSeen(Ipv4Address ip, const PeerIdentity &peer, bool online) override;
     void cameOnline(Ipv4Address ip, const std::optional<PeerIdentity> &peer, bool asks) override;
@@ -38,6 +40,7 @@ private:
     void answer(Ipv4Address ip);
 
     const Common &m_common;
+    const Admission &m_admission;
     ContactList &m_contacts;
     PresenceSender &m_sender;
     MainLog &m_log;

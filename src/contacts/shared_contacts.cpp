@@ -1,15 +1,13 @@
 #include "contacts/shared_contacts.h"
 
-#include "contacts/admission.h"
-
 namespace nimb
 {
 
 void SharedContacts::sharedContact(Ipv4Address, const PeerIdentity &shared)
 {
     const std::optional<Ipv4Address> address = readAddress(shared.ip);
-    const std::optional<Refusal> refusal = contactRefusal(address, m_common, m_contacts);
-    if (refusal == Refusal::noUnicast)
+    const std::optional<Refusal> refusal = m_admission.refusal(address);
+    if (refusal == Refusal::noUnicast || refusal == Refusal::broadcast)
         return m_drops.count(Drop::badAddress);
     if (refusal == Refusal::listFull)
         return m_drops.count(Drop::tooManyContacts);

@@ -1,8 +1,7 @@
 // Contacts that peers send.
 #pragma once
 
-#include "base/Common.h"
-#include "contacts/contact_list.h"
+#include "contacts/admission.h"
 #include "protocol/drop_counts.h"
 #include "protocol/handlers.h"
 
@@ -13,15 +12,15 @@ namespace nimb
 class SharedContacts : public SharedContactHandler
 {
 public:
-    SharedContacts(const Common &common, ContactList &contacts, DropCounts &drops)
-        : m_common(common), m_contacts(contacts), m_drops(drops)
+    SharedContacts(const Admission &admission, ContactList &contacts, DropCounts &drops)
+        : m_admission(admission), m_contacts(contacts), m_drops(drops)
     {
     }
 
     void sharedContact(Ipv4Address ip, const PeerIdentity &contact) override;
 
 private:
-    const Common &m_common;
+    const Admission &m_admission;
     ContactList &m_contacts;
     DropCounts &m_drops;
 };

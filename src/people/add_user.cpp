@@ -1,7 +1,5 @@
 #include "people/add_user.h"
 
-#include "contacts/admission.h"
-
 namespace nimb
 {
 
@@ -11,9 +9,11 @@ QString AddUser::objection(const QString &nickname, const QString &hostname, con
         return tr("IP Address already used by another user");
     if (nickname.isEmpty() || hostname.isEmpty() || ipaddress.isEmpty())
         return tr("Please fill all the fields");
-    const std::optional<Refusal> refusal = contactRefusal(readAddress(ipaddress), m_common, m_contacts);
+    const std::optional<Refusal> refusal = m_admission.refusal(readAddress(ipaddress));
     if (hostname == m_common.ownHostName || refusal == Refusal::ownAddress)
         return tr("You can't add yourself...");
+    if (refusal == Refusal::broadcast)
+        return tr("This is not the address of one computer: everybody on the network hears what is sent there.");
     // The other rules guard against what peers bring. What the user types may be a name, and is taken as it is.
     if (ipaddress == endOfStoredContacts)
         return tr("This address cannot be kept: it marks the end of the stored list.");

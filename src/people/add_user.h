@@ -1,9 +1,8 @@
 // The rules of adding a contact by hand.
 #pragma once
 
-#include "base/Common.h"
 #include "base/prompts.h"
-#include "contacts/contact_list.h"
+#include "contacts/admission.h"
 
 #include <QCoreApplication>
 
@@ -16,8 +15,8 @@ class AddUser
     Q_DECLARE_TR_FUNCTIONS(AddUser)
 
 public:
-    AddUser(const Common &common, ContactList &contacts, Prompts &prompts)
-        : m_common(common), m_contacts(contacts), m_prompts(prompts)
+    AddUser(const Common &common, const Admission &admission, ContactList &contacts, Prompts &prompts)
+        : m_common(common), m_admission(admission), m_contacts(contacts), m_prompts(prompts)
     {
     }
 
@@ -29,6 +28,7 @@ private:
     QString objection(const QString &nickname, const QString &hostname, const QString &ipaddress) const;
 
     const Common &m_common;
+    const Admission &m_admission;
     ContactList &m_contacts;
     Prompts &m_prompts;
 };

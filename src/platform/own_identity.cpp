@@ -7,6 +7,8 @@
 #include <QNetworkInterface>
 #include <QSysInfo>
 
+#include <algorithm>
+
 namespace nimb
 {
 namespace
@@ -41,6 +43,48 @@ Ipv4Address ownAddress(std::optional<Ipv4Address> fixed)
     if (routed && isUsable(*routed))
         return *routed;
     return firstOfAnyInterface().value_or(Ipv4Address(127, 0, 0, 1));
+}
+
+std::optional<Ipv4Address> broadcastAddress(Ipv4Address address, int prefix)
+{
+    // A network of two has no address left for it, and one of none is everything.
+    if (prefix < 1 || prefix > 30)
+        return std::nullopt;
+    return Ipv4Address::of(address.number() | (0xFFFFFFFFU >> prefix));
+}
+
+bool MachineAddresses::isOwn(Ipv4Address address) const
+{
+    if (m_fixed)
+        return address == m_fixed;
+    read();
+    return std::ranges::find(m_own, address) != m_own.end();
+}
+
+bool MachineAddresses::isBroadcast(Ipv4Address address) const
+{
+    read();
+    return std::ranges::find(m_broadcast, address) != m_broadcast.end();
+}
+
+void MachineAddresses::read() const
+{
+    if (m_sinceRead.isValid() && m_sinceRead.elapsed() < 2000)
+        return;
+    m_sinceRead.start();
+    m_own.clear();
+    m_broadcast.clear();
+    for (const QNetworkInterface &interface : QNetworkInterface::allInterfaces()) {
+        for (const QNetworkAddressEntry &entry : interface.addressEntries()) {
+            if (entry.ip().protocol() != QAbstractSocket::IPv4Protocol)
+                continue;
+            const Ipv4Address address = Ipv4Address::of(entry.ip().toIPv4Address());
+            if (isUsable(address))
+                m_own.push_back(address);
+            if (const auto everybody = broadcastAddress(address, entry.prefixLength()))
+                m_broadcast.push_back(*everybody);
+        }
+    }
 }
 
 QString ownHostName(const std::optional<QString> &fixed)

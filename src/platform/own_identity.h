@@ -1,11 +1,13 @@
 // Who this machine is on the network.
 #pragma once
 
-#include "protocol/ipv4_address.h"
+#include "base/own_addresses.h"
 
+#include <QElapsedTimer>
 #include <QString>
 
 #include <optional>
+#include <vector>
 
 namespace nimb
 {
@@ -13,6 +15,29 @@ namespace nimb
 /// The fixed address when there is one; otherwise the one that the default route uses, else the first one
 /// of any interface that is not loopback, else 127.0.0.1.
 Ipv4Address ownAddress(std::optional<Ipv4Address> fixed);
+
+/// Where everybody on the network of an interface with this address hears what is sent; empty when it has no such
+/// address. prefix: how many bits of the address name the network.
+std::optional<Ipv4Address> broadcastAddress(Ipv4Address address, int prefix);
+
+/// The addresses of this machine's interfaces. Whoever asks may do so for every datagram of a flood, so they are read
+/// at most once in two seconds, which nobody notices of a network that comes or goes.
+class MachineAddresses : public OwnAddresses
+{
+public:
+    /// A copy that is told its address has that one alone: others on this machine may have the rest.
+    explicit MachineAddresses(std::optional<Ipv4Address> fixed) : m_fixed(fixed) { }
+
+    bool isOwn(Ipv4Address address) const override;
+    bool isBroadcast(Ipv4Address address) const override;
+
+private:
+    void read() const;
+
+    const std::optional<Ipv4Address> m_fixed;
+    mutable QElapsedTimer m_sinceRead;
+    mutable std::vector<Ipv4Address> m_own, m_broadcast;
+};
 
 /// The fixed name unless it is empty; otherwise the system's. Never empty, and one word: blanks become hyphens.
 QString ownHostName(const std::optional<QString> &fixed);

@@ -373,8 +373,8 @@ TEST_F(StoryExtras, AContactThatAPeerSendsIsAddedAndSaved)
     ann.send("127.0.46.1", "!USER 127.0.46.77 DORA-PC Dora the Great");
     for (const char *refused :
          {"!USER 127.0.46.1 BOB-PC Bob himself", "!USER 127.0.0.1 LOCALHOST Anybody", "!USER 127.0.46.2 OTHER Not Ann",
-          "!USER 224.0.0.1 GROUP Everybody", "!USER 255.255.255.255 END The end", "!USER somewhere PC Else",
-          "!USER 127.0.46.78 INCOMPLETE"})
+          "!USER 224.0.0.1 GROUP Everybody", "!USER 127.255.255.255 ALL Everybody here",
+          "!USER 255.255.255.255 END The end", "!USER somewhere PC Else", "!USER 127.0.46.78 INCOMPLETE"})
         ann.send("127.0.46.1", refused);
     ASSERT_TRUE(isDealtWith(ann));
     EXPECT_THAT(dora.waiting(), IsEmpty());

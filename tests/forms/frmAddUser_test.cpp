@@ -46,7 +46,9 @@ protected:
     Common common;
     ContactList contacts;
     InterruptedPrompts prompts;
-    AddUser rules{common, contacts, prompts};
+    ToldAddresses ownAddresses;
+    Admission admission{common, contacts, ownAddresses};
+    AddUser rules{common, admission, contacts, prompts};
     QWidget parent;
     QPointer<frmAddUser> dialog;
 };

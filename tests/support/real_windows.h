@@ -131,7 +131,7 @@ private:
 
 public:
     Messenger engine{common,
-                     {socket, settings, time, time, prompts, forms.notifications(), sound, tray, forms,
+                     {socket, settings, time, time, ownAddresses, prompts, forms.notifications(), sound, tray, forms,
                       forms.conversations(), forms.conversations(), m_main, drops}};
 };
 

@@ -4,6 +4,7 @@
 #include "base/link_opener.h"
 #include "base/main_window_view.h"
 #include "base/notifications.h"
+#include "base/own_addresses.h"
 #include "base/picture_source.h"
 #include "base/prompts.h"
 #include "base/settings_store.h"
@@ -16,6 +17,7 @@
 #include <QStringList>
 
 #include <map>
+#include <set>
 #include <vector>
 
 namespace nimb::test
@@ -450,10 +452,21 @@ public:
     std::optional<QString> failure;
 };
 
+/// A machine with the addresses that a test tells it.
+class ToldAddresses : public OwnAddresses
+{
+public:
+    bool isOwn(Ipv4Address address) const override { return own.contains(address); }
+    bool isBroadcast(Ipv4Address address) const override { return broadcast.contains(address); }
+
+    std::set<Ipv4Address> own, broadcast;
+};
+
 /// Around an engine everything but its socket, its time and its windows.
 struct Recorders {
     MemoryStore settings;
     RecorderPrompts prompts;
+    ToldAddresses ownAddresses;
     RecorderSound sound;
     Steps steps;
     RecorderTray tray{steps};

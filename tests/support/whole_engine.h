@@ -47,7 +47,7 @@ public:
     RecorderWindows windows{steps};
     Socket socket;
     Messenger engine{common,
-                     {socket, settings, *time, *time, prompts, Views::notifications, sound, tray, windows,
+                     {socket, settings, *time, *time, ownAddresses, prompts, Views::notifications, sound, tray, windows,
                       Views::privateForms, Views::conferenceForms, Views::view, drops}};
 };
 

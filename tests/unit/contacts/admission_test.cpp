@@ -2,6 +2,8 @@
 
 #include "base/limits.h"
 
+#include "recorders.h"
+
 #include <gmock/gmock.h>
 
 namespace nimb::test
@@ -28,11 +30,13 @@ protected:
     }
     std::optional<Refusal> refusal(const char *ip) const
     {
-        return contactRefusal(readAddress(QString::fromLatin1(ip)), common, contacts);
+        return admission.refusal(readAddress(QString::fromLatin1(ip)));
     }
 
     Common common;
     ContactList contacts;
+    ToldAddresses ownAddresses;
+    Admission admission{common, contacts, ownAddresses};
 };
 
 TEST_F(AdmissionTest, AnAddressOfOneHostIsWelcome)
@@ -52,6 +56,24 @@ TEST_F(AdmissionTest, TheOwnAddressIsRefusedAsSuchEvenWhenItIsAContactOrLoopback
     EXPECT_THAT(refusal("10.0.0.1"), Optional(Refusal::ownAddress));
     common.ownIP = Ipv4Address(127, 0, 0, 1);
     EXPECT_THAT(refusal("127.0.0.1"), Optional(Refusal::ownAddress));
+}
+
+TEST_F(AdmissionTest, EveryAddressOfThisMachineIsRefused)
+{
+    ownAddresses.own = {Ipv4Address(172, 16, 0, 1)};
+    EXPECT_THAT(refusal("172.16.0.1"), Optional(Refusal::ownAddress));
+    EXPECT_THAT(refusal("172.16.0.2"), Eq(std::nullopt));
+    ownAddresses.own.clear(); // a network that has gone
+    EXPECT_THAT(refusal("172.16.0.1"), Eq(std::nullopt));
+}
+
+TEST_F(AdmissionTest, WhatEverybodyOnANetworkHearsIsRefused)
+{
+    ownAddresses.broadcast = {Ipv4Address(10, 0, 0, 255)};
+    EXPECT_THAT(refusal("10.0.0.255"), Optional(Refusal::broadcast));
+    EXPECT_THAT(refusal("10.0.1.255"), Eq(std::nullopt));
+    addContact(QStringLiteral("10.0.0.255"));
+    EXPECT_THAT(refusal("10.0.0.255"), Optional(Refusal::broadcast)) << "stored before the network was so";
 }
 
 TEST_F(AdmissionTest, OfTheLoopbackAddressesOnlyTheUsualOneIsRefused)

@@ -41,8 +41,24 @@ protected:
     Common common;
     ContactList contacts;
     RecorderPrompts prompts;
-    AddUser rules{common, contacts, prompts};
+    ToldAddresses ownAddresses;
+    Admission admission{common, contacts, ownAddresses};
+    AddUser rules{common, admission, contacts, prompts};
 };
+
+TEST_F(AddUserTest, NoOtherAddressOfThisMachineAndNoneThatEverybodyHearsIsTaken)
+{
+    ownAddresses.own = {Ipv4Address(172, 16, 0, 5)};
+    ownAddresses.broadcast = {Ipv4Address(192, 168, 0, 255)};
+    EXPECT_FALSE(add("Me", "OTHER-NAME", "172.16.0.5"));
+    EXPECT_FALSE(add("All", "EVERYBODY", "192.168.0.255"));
+    EXPECT_THAT(
+        prompts.told,
+        ElementsAre("NIMB-Chat: You can't add yourself...",
+                    "NIMB-Chat: This is not the address of one computer: everybody on the network hears what is "
+                    "sent there."));
+    EXPECT_EQ(contacts.rowCount(), 1);
+}
 
 TEST_F(AddUserTest, AddsARowThatIsNotYetKnown)
 {

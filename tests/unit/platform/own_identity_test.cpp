@@ -5,6 +5,7 @@
 #include "print_qt.h"
 
 #include <QHostInfo>
+#include <QNetworkInterface>
 #include <QSysInfo>
 
 #include <gmock/gmock.h>
@@ -30,6 +31,50 @@ TEST(OwnIdentity, AMalformedFixedAddressIsNotTakenOver)
 {
     EXPECT_EQ(ownAddress(readAddress(u"10.20.30")), ownAddress(std::nullopt));
     EXPECT_EQ(ownAddress(readAddress(u"")), ownAddress(std::nullopt));
+}
+
+TEST(OwnIdentity, EverybodyHearsTheLastAddressOfANetwork)
+{
+    EXPECT_EQ(broadcastAddress(Ipv4Address(192, 168, 0, 5), 24), Ipv4Address(192, 168, 0, 255));
+    EXPECT_EQ(broadcastAddress(Ipv4Address(10, 1, 2, 3), 22), Ipv4Address(10, 1, 3, 255));
+    EXPECT_EQ(broadcastAddress(Ipv4Address(10, 1, 2, 1), 30), Ipv4Address(10, 1, 2, 3));
+    EXPECT_EQ(broadcastAddress(Ipv4Address(127, 0, 0, 1), 8), Ipv4Address(127, 255, 255, 255));
+    for (const int none : {31, 32, 0, -1})
+        EXPECT_EQ(broadcastAddress(Ipv4Address(10, 1, 2, 3), none), std::nullopt) << none;
+}
+
+std::vector<Ipv4Address> addressesOfThisMachine()
+{
+    std::vector<Ipv4Address> found;
+    for (const QHostAddress &any : QNetworkInterface::allAddresses()) {
+        if (any.protocol() == QAbstractSocket::IPv4Protocol)
+            found.push_back(Ipv4Address::of(any.toIPv4Address()));
+    }
+    return found;
+}
+
+TEST(OwnIdentity, EveryAddressOfThisMachineButLoopbackIsItsOwn)
+{
+    const MachineAddresses machine(std::nullopt);
+    for (const Ipv4Address address : addressesOfThisMachine())
+        EXPECT_EQ(machine.isOwn(address), !address.isLoopback()) << address.toText();
+    EXPECT_FALSE(machine.isOwn(Ipv4Address(8, 8, 8, 8)));
+}
+
+TEST(OwnIdentity, ACopyThatIsToldItsAddressLeavesTheOthersToOthers)
+{
+    const MachineAddresses machine(Ipv4Address(127, 0, 3, 1));
+    EXPECT_TRUE(machine.isOwn(Ipv4Address(127, 0, 3, 1)));
+    for (const Ipv4Address address : addressesOfThisMachine())
+        EXPECT_FALSE(machine.isOwn(address)) << address.toText();
+}
+
+TEST(OwnIdentity, WhatEverybodyOnThisMachineHearsIsNobodysAddress)
+{
+    const MachineAddresses machine(std::nullopt);
+    EXPECT_TRUE(machine.isBroadcast(Ipv4Address(127, 255, 255, 255)));
+    for (const Ipv4Address address : addressesOfThisMachine())
+        EXPECT_FALSE(machine.isBroadcast(address)) << address.toText();
 }
 
 TEST(OwnIdentity, TheFixedHostNameWins)

@@ -1,0 +1,21 @@
+// Which addresses this machine has, as the rules for contacts ask for them.
+#pragma once
+
+#include "protocol/ipv4_address.h"
+
+namespace nimb
+{
+
+/// They change while the program runs, with every network that comes and goes.
+class OwnAddresses
+{
+public:
+    virtual ~OwnAddresses() = default;
+    /// Whatever is sent there comes back to this copy. Loopback addresses do not count: other copies on this machine
+    /// may have them.
+    [[nodiscard]] virtual bool isOwn(Ipv4Address address) const = 0;
+    /// Everybody on one of this machine's networks hears what is sent there.
+    [[nodiscard]] virtual bool isBroadcast(Ipv4Address address) const = 0;
+};
+
+} // namespace nimb
