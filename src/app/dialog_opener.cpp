@@ -81,7 +81,8 @@ void DialogOpener::mnusendcontacts(const QString &ip)
 
 void DialogOpener::mnuToolsOptions()
 {
-    const OptionValues values(m_services.common, m_engine.ownAvatar(), m_services.pictures, m_services.clock);
+    const OptionValues values(m_services.common, m_engine.ownAvatar(), m_services.pictures, m_services.clock,
+                              [this] { m_engine.recovery().settingsChanged(); });
     open(new frmOptions(values, m_services.prompts, &m_main));
 }
 

@@ -7,7 +7,9 @@ Messenger::Messenger(Common &common, const Surroundings &around)
     : m_socket(around.socket), m_windows(around.windows), m_admission(common, m_contacts, around.ownAddresses),
       m_log(around.mainView.outtext(), around.clock), m_sender(common, around.socket),
       m_announcement(common, m_contacts, m_sender, around.timers, around.mainView),
-      m_ownState(common, m_contacts, m_sender, m_announcement, m_log, around.mainView),
+      m_ownState(common, m_contacts, m_sender, m_announcement, m_log, around.mainView,
+                 [this] { m_recovery.settingsChanged(); }),
+      m_recovery({common, around.store, m_contacts, m_ownState, around.timers, m_log, around.mainView}),
       m_port(around.socket, common, around.timers, m_log, around.mainView,
              [this] { m_announcement.runUnlessInvisible(); }),
       m_privateWindows({{common, around.socket, around.clock}, around.sound, around.timers, around.privateForms},
@@ -39,7 +41,7 @@ Messenger::Messenger(Common &common, const Surroundings &around)
                     .conferences = &m_conferenceCommands},
                    around.drops),
       m_mainWindow({common, around.store, around.socket, m_contacts, m_ownState, m_sender, m_announcement, m_port,
-                    m_log, around.prompts, [this] { unloadOtherWindows(); }, around.tray, around.mainView})
+                    m_recovery, m_log, around.prompts, [this] { unloadOtherWindows(); }, around.tray, around.mainView})
 {
     m_dispatcher.listenTo(m_socket);
 }

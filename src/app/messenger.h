@@ -6,6 +6,7 @@
 #include "contacts/shared_contacts.h"
 #include "main_window/contact_commands.h"
 #include "main_window/main_window.h"
+#include "main_window/recovery.h"
 #include "private_chat/peer_features.h"
 #include "private_chat/private_windows.h"
 #include "protocol/receive_dispatcher.h"
@@ -44,6 +45,7 @@ public:
     ContactCommands &contactCommands() { return m_contactCommands; }
     OwnState &ownState() { return m_ownState; }
     Announcement &announcement() { return m_announcement; }
+    Recovery &recovery() { return m_recovery; }
     MainLog &log() { return m_log; }
     const PresenceSender &sender() const { return m_sender; }
     PrivateWindows &privateWindows() { return m_privateWindows; }
@@ -65,6 +67,7 @@ private:
     PresenceSender m_sender;
     Announcement m_announcement;
     OwnState m_ownState;
+    Recovery m_recovery;
     PortWatch m_port;
     PrivateWindows m_privateWindows;
     PresenceReceiver m_presence;

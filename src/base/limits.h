@@ -48,6 +48,10 @@ constexpr std::chrono::milliseconds announcementTime{1000};
 constexpr std::chrono::milliseconds autoReplyPause{1000};
 /// Time between two attempts to get a port that another program holds.
 constexpr std::chrono::milliseconds bindRetry{5000};
+/// How long a change of contacts or settings may wait for others before it is kept: a run that is killed loses no more.
+constexpr std::chrono::milliseconds keepDelay{1000};
+/// Time between two attempts to keep what could not be kept.
+constexpr std::chrono::milliseconds keepRetry{30000};
 /// Personalised states that the store keeps.
 constexpr int storedPersonalizedStates = 8;
 

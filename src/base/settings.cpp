@@ -98,7 +98,7 @@ QString readSetting(const SettingsStore &store, QLatin1String key)
     return store.read(QLatin1String(row.section), key, QLatin1String(row.defaultValue));
 }
 
-void writeSetting(SettingsStore &store, QLatin1String key, const QString &value)
+void writeSetting(SettingsSink &store, QLatin1String key, const QString &value)
 {
     store.write(QLatin1String(settingKey(key).section), key, value);
 }
@@ -135,7 +135,7 @@ LoadedSettings loadSettings(const SettingsStore &store, Common &common)
     return loaded;
 }
 
-void saveSettings(SettingsStore &store, const Common &common, const QStringList &personalizedStates)
+void saveSettings(SettingsSink &store, const Common &common, const QStringList &personalizedStates)
 {
     const auto write
         = [&store](const char *key, const QString &value) { writeSetting(store, QLatin1String(key), value); };

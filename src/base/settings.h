@@ -61,7 +61,7 @@ const SettingKey &settingKey(QLatin1String key);
 
 /// The stored text, or the table's default.
 QString readSetting(const SettingsStore &store, QLatin1String key);
-void writeSetting(SettingsStore &store, QLatin1String key, const QString &value);
+void writeSetting(SettingsSink &store, QLatin1String key, const QString &value);
 
 /// The option: a tip at every start. Exactly "1" means yes.
 bool tipsAtStart(const SettingsStore &store);
@@ -74,8 +74,8 @@ struct LoadedSettings {
 
 /// Reads the main window's settings in their order. A stored number that is none gives the default and a notice.
 LoadedSettings loadSettings(const SettingsStore &store, Common &common);
-/// Notes them for saving, in their order. Of the personalised states the first eight are kept; without an avatar
+/// Hands them over for saving, in their order. Of the personalised states the first eight are kept; without an avatar
 /// head no body is.
-void saveSettings(SettingsStore &store, const Common &common, const QStringList &personalizedStates);
+void saveSettings(SettingsSink &store, const Common &common, const QStringList &personalizedStates);
 
 } // namespace nimb

@@ -4,26 +4,55 @@
 #include <QString>
 
 #include <optional>
+#include <vector>
 
 namespace nimb
 {
 
-/// String values addressed by section and key; the application name is the store's own affair. Values may hold any
-/// character, U+0000 included. Nothing is ever deleted.
-class SettingsStore
+/// Where values go that are to be kept.
+class SettingsSink
 {
 public:
-    virtual ~SettingsStore() = default;
+    virtual ~SettingsSink() = default;
+    virtual void write(const QString &section, const QString &key, const QString &value) = 0;
+};
 
-    /// The stored value, or the given default when the key is missing or the store cannot be read.
+/// A change that is kept before it is saved. Without a value: what the key names is gone.
+struct KeptChange {
+    QString section;
+    QString key;
+    std::optional<QString> value;
+    bool operator==(const KeptChange &) const = default;
+};
+
+/// What a run kept that did not come to save it.
+struct RecoveredChanges {
+    std::vector<KeptChange> changes; ///< in the order of section and key
+    int unreadable = 0;              ///< further ones that were damaged
+};
+
+/// String values addressed by section and key; the application name is the store's own affair. Values may hold any
+/// character, U+0000 included. Nothing is ever deleted.
+class SettingsStore : public SettingsSink
+{
+public:
+    /// What the last run kept or stored, or the given default when the key is missing or the store cannot be read.
     virtual QString read(const QString &section, const QString &key, const QString &defaultValue) const = 0;
     /// Notes a value for the next save(); read() does not see it before.
-    virtual void write(const QString &section, const QString &key, const QString &value) = 0;
+    void write(const QString &section, const QString &key, const QString &value) override = 0;
     /// Writes everything noted since the last save, all or nothing. Empty on success; otherwise one sentence for
     /// the user that says what failed, and the store is as it was before.
     [[nodiscard]] virtual std::optional<QString> save() = 0;
     /// What keeps the store from being read or written, as one sentence for the user; empty when all is well.
     virtual std::optional<QString> problem() const = 0;
+
+    /// Keeps these changes beside the stored values, all or nothing, until they are saved; a later change of the same
+    /// key takes the place of an earlier one. Empty on success; otherwise one sentence for the user.
+    [[nodiscard]] virtual std::optional<QString> keep(const std::vector<KeptChange> &changes) = 0;
+    /// What an earlier run kept and nobody saved since. Nothing after an orderly end.
+    virtual RecoveredChanges recovered() const = 0;
+    /// Notes for the next save() that it saves whatever was kept.
+    virtual void dropKept() = 0;
 };
 
 } // namespace nimb

@@ -6,8 +6,9 @@ namespace nimb
 {
 
 OwnState::OwnState(Common &common, ContactList &contacts, PresenceSender &sender, Announcement &announcement,
-                   MainLog &log, OwnStateView &view)
-    : m_common(common), m_contacts(contacts), m_sender(sender), m_announcement(announcement), m_log(log), m_view(view)
+                   MainLog &log, OwnStateView &view, std::function<void()> changed)
+    : m_common(common), m_contacts(contacts), m_sender(sender), m_announcement(announcement), m_log(log), m_view(view),
+      m_changed(std::move(changed))
 {
 }
 
@@ -140,6 +141,7 @@ bool OwnState::addPersonalized(BaseState base, const QString &text)
                          .arg(QString::number(limits::storedPersonalizedStates), m_entries.back().text));
     m_view.selectOwnState(position);
     choose(position);
+    m_changed();
     return true;
 }
 
@@ -147,12 +149,14 @@ void OwnState::setAutoReply(bool on)
 {
     const bool busy = m_common.ownPresence.base == BaseState::busy;
     (busy ? m_common.autoReply.onBusy : m_common.autoReply.onAway) = on;
+    m_changed();
 }
 
 void OwnState::setAutoReplyText(const QString &text)
 {
     const bool busy = m_common.ownPresence.base == BaseState::busy;
     (busy ? m_common.autoReply.busyText : m_common.autoReply.awayText) = text;
+    m_changed();
 }
 
 } // namespace nimb

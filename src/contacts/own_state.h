@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 
+#include <functional>
 #include <vector>
 
 namespace nimb
@@ -21,8 +22,9 @@ public:
     /// The four plain states and the entry that adds a personalised one stand first.
     static constexpr int plainEntries = 5;
 
+    /// changed: called when something has changed that is stored.
     OwnState(Common &common, ContactList &contacts, PresenceSender &sender, Announcement &announcement, MainLog &log,
-             OwnStateView &view);
+             OwnStateView &view, std::function<void()> changed);
 
     /// Fills the chooser: the plain entries, then those of the stored values that are personalised states. Returns
     /// the values that are none.
@@ -63,6 +65,7 @@ private:
     Announcement &m_announcement;
     MainLog &m_log;
     OwnStateView &m_view;
+    std::function<void()> m_changed;
     std::vector<OwnStateEntry> m_entries;
     int m_chosen = 1; ///< position of the entry that is the own state
 };

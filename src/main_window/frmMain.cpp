@@ -321,13 +321,18 @@ void frmMain::noteGeometry()
 {
     if (!isVisible() || windowState() & (Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen))
         return;
-    const auto note = [](double &kept, int now) {
-        if (pixels(kept) != now)
-            kept = twips(now);
+    bool changed = false;
+    const auto note = [&changed](double &kept, int now) {
+        if (pixels(kept) == now)
+            return;
+        kept = twips(now);
+        changed = true;
     };
     note(m_place.left, pos().x());
     note(m_place.top, pos().y());
     note(m_place.height, height());
+    if (changed && m_engine)
+        m_engine->window.placeChanged();
 }
 
 void frmMain::setPlace(const WindowPlace &place)

@@ -22,8 +22,10 @@ void MainWindow::Form_Load()
         m_parts.log.fault(notice);
     m_parts.port.report();
     m_parts.contacts.load(m_parts.store);
+    m_parts.recovery.takeOver();
     m_parts.announcement.run();
     m_parts.tray.AddIcon(QStringLiteral("NIMB-Chat"));
+    m_parts.recovery.begin();
 }
 
 void MainWindow::loadSettings(QStringList &notices)
@@ -54,6 +56,7 @@ void MainWindow::Form_Unload()
 {
     // Who is leaving answers nobody, however long the end takes.
     m_parts.socket.DataArrival = nullptr;
+    m_parts.recovery.end();
     m_parts.unloadOtherWindows();
     sayFarewellAndSaveContacts();
     save();
@@ -78,6 +81,7 @@ void MainWindow::save()
 {
     m_parts.common.mainPlace = m_parts.view.place();
     saveSettings(m_parts.store, m_parts.common, m_parts.ownState.storedValues());
+    m_parts.store.dropKept();
     if (const std::optional<QString> problem = m_parts.store.save())
         m_parts.prompts.tell(*problem, programTitle);
 }

@@ -11,6 +11,7 @@
 #include "contacts/contact_list.h"
 #include "contacts/own_state.h"
 #include "main_window/port_watch.h"
+#include "main_window/recovery.h"
 
 #include <QCoreApplication>
 
@@ -37,6 +38,7 @@ public:
         PresenceSender &sender;
         Announcement &announcement;
         PortWatch &port;
+        Recovery &recovery;
         MainLog &log;
         Prompts &prompts;
         std::function<void()> unloadOtherWindows;
@@ -49,6 +51,8 @@ public:
     void Form_Load();
     /// Whether the window is to be unloaded, or what else happens to it.
     CloseDecision Form_QueryUnload(UnloadMode mode);
+    /// The user moved the window or gave it another height.
+    void placeChanged() { m_parts.recovery.settingsChanged(); }
     /// Ends everything that the window owns: windows are unloaded, contacts told, contacts and settings saved.
     void Form_Unload();
 

@@ -48,6 +48,7 @@ std::optional<QString> OptionValues::CmdOK_Click(const OptionControls &controls)
     m_common.udpPort = *port;
     m_common.logFont = controls.font;
     takeAvatar(controls);
+    m_taken();
     return std::nullopt;
 }
 

@@ -8,7 +8,9 @@
 
 #include <QCoreApplication>
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 namespace nimb
 {
@@ -31,8 +33,10 @@ class OptionValues
     Q_DECLARE_TR_FUNCTIONS(OptionValues)
 
 public:
-    OptionValues(Common &common, OwnAvatar &ownAvatar, PictureSources &sources, const WallClock &clock)
-        : m_common(common), m_ownAvatar(ownAvatar), m_sources(sources), m_clock(clock)
+    /// taken: called when the options have been taken.
+    OptionValues(Common &common, OwnAvatar &ownAvatar, PictureSources &sources, const WallClock &clock,
+                 std::function<void()> taken)
+        : m_common(common), m_ownAvatar(ownAvatar), m_sources(sources), m_clock(clock), m_taken(std::move(taken))
     {
     }
 
@@ -50,6 +54,7 @@ private:
     OwnAvatar &m_ownAvatar;
     PictureSources &m_sources;
     const WallClock &m_clock;
+    std::function<void()> m_taken;
 };
 
 } // namespace nimb

@@ -2,6 +2,7 @@
 
 #include "platform/profile_folder.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -9,17 +10,34 @@
 
 #include <sqlite3.h>
 
+#include <array>
+
 namespace nimb
 {
 namespace
 {
 
 constexpr int busyTimeoutMs = 2000;
+/// Of what is kept while the user works: it can wait for the next time better than the user can.
+constexpr int busyTimeoutOfKeepingMs = 200;
 
 constexpr auto createTable = "CREATE TABLE IF NOT EXISTS settings(section TEXT, key TEXT, value TEXT, "
                              "PRIMARY KEY(section, key))";
 constexpr auto putValue = "INSERT INTO settings(section, key, value) VALUES(?1, ?2, ?3) "
                           "ON CONFLICT(section, key) DO UPDATE SET value = excluded.value";
+
+/// What was kept by a run that has not saved it. The value is NULL where what the key names is gone; the sum is that of
+/// section, key and value.
+constexpr auto createRecovery = "CREATE TABLE IF NOT EXISTS recovery(section TEXT, key TEXT, value TEXT, sum TEXT, "
+                                "PRIMARY KEY(section, key))";
+// Whatever writes to the settings, an older copy of the program included, knows better than what was kept before.
+constexpr std::array createTriggers
+    = {"CREATE TRIGGER IF NOT EXISTS newer_insert AFTER INSERT ON settings BEGIN DELETE FROM recovery "
+       "WHERE section = NEW.section AND (key = NEW.key OR section = 'Users'); END",
+       "CREATE TRIGGER IF NOT EXISTS newer_update AFTER UPDATE ON settings BEGIN DELETE FROM recovery "
+       "WHERE section = NEW.section AND (key = NEW.key OR section = 'Users'); END"};
+constexpr auto putChange = "INSERT OR REPLACE INTO recovery(section, key, value, sum) VALUES(?1, ?2, ?3, ?4)";
+constexpr auto readChanges = "SELECT section, key, value, sum FROM recovery";
 
 /// Thrown and caught within this file only.
 struct Failure {
@@ -31,10 +49,20 @@ QString translated(const char *text)
     return QCoreApplication::translate("SqliteSettingsStore", text);
 }
 
+/// Why the system refused, as far as anybody remembers: what failed while a transaction was committed is known to the
+/// file alone.
+int systemErrorOf(sqlite3 *database)
+{
+    int error = sqlite3_system_errno(database);
+    if (error == 0)
+        sqlite3_file_control(database, "main", SQLITE_FCNTL_LAST_ERRNO, &error);
+    return error;
+}
+
 /// Why the last call on the database failed, to be put in brackets. The code is an extended one.
 QString reasonFor(int code, sqlite3 *database)
 {
-    const int systemError = database != nullptr ? sqlite3_system_errno(database) : 0;
+    const int systemError = database != nullptr ? systemErrorOf(database) : 0;
     switch (code & 0xff) {
     case SQLITE_FULL:
         return translated(QT_TRANSLATE_NOOP("SqliteSettingsStore", "the disk is full"));
@@ -102,6 +130,17 @@ public:
         return decoder(QByteArrayView(bytes, size));
     }
 
+    /// Of the text as UTF-8; a NULL has none.
+    QByteArray bytes(int column) const
+    {
+        if (isNull(column))
+            return {};
+        const unsigned char *bytes = sqlite3_column_text(m_statement, column);
+        if (bytes == nullptr)
+            throw Failure{reasonFor(SQLITE_NOMEM, m_database)};
+        return QByteArray(reinterpret_cast<const char *>(bytes), sqlite3_column_bytes(m_statement, column));
+    }
+
     /// The bytes must live until the statement has run.
     void bind(int parameter, const QByteArray &utf8)
     {
@@ -109,6 +148,8 @@ public:
         check(sqlite3_bind_text64(m_statement, parameter, utf8.constData(), size, SQLITE_STATIC, SQLITE_UTF8),
               m_database);
     }
+
+    void bindNull(int parameter) { check(sqlite3_bind_null(m_statement, parameter), m_database); }
 
     /// Makes it ready to run once more.
     void reset() { check(sqlite3_reset(m_statement), m_database); }
@@ -148,10 +189,24 @@ void checkIntegrity(sqlite3 *database, const QString &path)
         throw Failure{damaged()};
 }
 
-bool hasTable(sqlite3 *database)
+bool hasTable(sqlite3 *database, const char *name)
 {
-    Statement table(database, "SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = 'settings'");
+    Statement table(database, "SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ?1");
+    const QByteArray bytes(name);
+    table.bind(1, bytes);
     return table.next();
+}
+
+/// Finds a bit that has flipped: the database itself checks its structure and not what it holds.
+QByteArray sumOf(const QByteArray &section, const QByteArray &key, const std::optional<QByteArray> &value)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    for (const QByteArray &part : {section, key, value.value_or(QByteArray())}) {
+        hash.addData(QByteArray::number(part.size()) + ':');
+        hash.addData(part);
+    }
+    hash.addData(value ? "value" : "none");
+    return hash.result().toHex().left(16);
 }
 
 } // namespace
@@ -172,6 +227,8 @@ SqliteSettingsStore::~SqliteSettingsStore() = default;
 
 QString SqliteSettingsStore::read(const QString &section, const QString &key, const QString &defaultValue) const
 {
+    if (const auto change = m_recovered.constFind({section, key}); change != m_recovered.cend() && change->has_value())
+        return **change;
     return m_values.value({section, key}, defaultValue);
 }
 
@@ -186,16 +243,54 @@ std::optional<QString> SqliteSettingsStore::save()
         return std::nullopt;
     try {
         openForSaving();
-        writePending();
+        inTransaction([this] { writePending(); });
     } catch (const Failure &failure) {
         return tr("The settings were not saved in %1 (%2), so what was changed since the last save is not kept; "
                   "what was stored before is unchanged.")
             .arg(QDir::toNativeSeparators(m_file), failure.reason);
     }
+    forgetKept();
     m_values.insert(m_pending);
     m_pending.clear();
     m_trouble = Trouble::none;
     return std::nullopt;
+}
+
+/// What the file has forgotten by saving the pending values.
+void SqliteSettingsStore::forgetKept()
+{
+    for (auto entry = m_pending.keyBegin(); entry != m_pending.keyEnd(); ++entry)
+        m_recovered.remove(*entry);
+    if (std::exchange(m_droppingKept, false))
+        m_recovered.clear();
+}
+
+std::optional<QString> SqliteSettingsStore::keep(const std::vector<KeptChange> &changes)
+{
+    try {
+        if (!m_database)
+            openForSaving();
+        sqlite3_busy_timeout(m_database.get(), busyTimeoutOfKeepingMs);
+        inTransaction([this, &changes] { writeChanges(changes); });
+        sqlite3_busy_timeout(m_database.get(), busyTimeoutMs);
+    } catch (const Failure &failure) {
+        if (m_database)
+            sqlite3_busy_timeout(m_database.get(), busyTimeoutMs);
+        return tr("What has changed cannot be kept in %1 now (%2), so it would be lost if NIMB-Chat ended before it "
+                  "can "
+                  "save.")
+            .arg(QDir::toNativeSeparators(m_file), failure.reason);
+    }
+    return std::nullopt;
+}
+
+RecoveredChanges SqliteSettingsStore::recovered() const
+{
+    RecoveredChanges recovered;
+    for (auto entry = m_recovered.cbegin(); entry != m_recovered.cend(); ++entry)
+        recovered.changes.push_back({entry.key().first, entry.key().second, entry.value()});
+    recovered.unreadable = m_unreadableChanges;
+    return recovered;
 }
 
 std::optional<QString> SqliteSettingsStore::problem() const
@@ -257,15 +352,33 @@ void SqliteSettingsStore::readFile()
     checkIntegrity(opened, m_file);
 
     Values values;
-    if (hasTable(opened)) {
+    if (hasTable(opened, "settings")) {
         Statement all(opened, "SELECT section, key, value FROM settings");
         while (all.next()) {
             if (!all.isNull(0) && !all.isNull(1) && !all.isNull(2))
                 values.insert({all.text(0), all.text(1)}, all.text(2));
         }
     }
+    readRecovery(opened);
     m_database = std::move(database);
     m_values = std::move(values);
+}
+
+void SqliteSettingsStore::readRecovery(sqlite3 *database)
+{
+    m_recovered.clear();
+    m_unreadableChanges = 0;
+    if (!hasTable(database, "recovery"))
+        return;
+    Statement all(database, readChanges);
+    while (all.next()) {
+        const std::optional<QByteArray> value = all.isNull(2) ? std::nullopt : std::optional(all.bytes(2));
+        const bool isWhole = all.bytes(3) == sumOf(all.bytes(0), all.bytes(1), value);
+        if (isWhole)
+            m_recovered.insert({all.text(0), all.text(1)}, value ? std::optional(all.text(2)) : std::nullopt);
+        else
+            ++m_unreadableChanges;
+    }
 }
 
 void SqliteSettingsStore::checkWritable() const
@@ -302,27 +415,54 @@ void SqliteSettingsStore::openForSaving()
     throw Failure{m_reason};
 }
 
-void SqliteSettingsStore::writePending()
+void SqliteSettingsStore::inTransaction(const std::function<void()> &write)
 {
     sqlite3 *database = m_database.get();
     try {
         execute(database, "BEGIN IMMEDIATE");
         execute(database, createTable);
-        Statement put(database, putValue);
-        for (auto entry = m_pending.cbegin(); entry != m_pending.cend(); ++entry) {
-            const QByteArray section = entry.key().first.toUtf8();
-            const QByteArray key = entry.key().second.toUtf8();
-            const QByteArray value = entry.value().toUtf8();
-            put.bind(1, section);
-            put.bind(2, key);
-            put.bind(3, value);
-            put.next();
-            put.reset();
-        }
+        execute(database, createRecovery);
+        for (const char *const trigger : createTriggers)
+            execute(database, trigger);
+        write();
         execute(database, "COMMIT");
     } catch (const Failure &) {
         rollBack();
         throw;
+    }
+}
+
+void SqliteSettingsStore::writePending()
+{
+    if (m_droppingKept)
+        execute(m_database.get(), "DELETE FROM recovery");
+    Statement put(m_database.get(), putValue);
+    for (auto entry = m_pending.cbegin(); entry != m_pending.cend(); ++entry) {
+        const QByteArray section = entry.key().first.toUtf8();
+        const QByteArray key = entry.key().second.toUtf8();
+        const QByteArray value = entry.value().toUtf8();
+        put.bind(1, section);
+        put.bind(2, key);
+        put.bind(3, value);
+        put.next();
+        put.reset();
+    }
+}
+
+void SqliteSettingsStore::writeChanges(const std::vector<KeptChange> &changes)
+{
+    Statement put(m_database.get(), putChange);
+    for (const KeptChange &change : changes) {
+        const QByteArray section = change.section.toUtf8();
+        const QByteArray key = change.key.toUtf8();
+        const std::optional<QByteArray> value = change.value ? std::optional(change.value->toUtf8()) : std::nullopt;
+        const QByteArray sum = sumOf(section, key, value);
+        put.bind(1, section);
+        put.bind(2, key);
+        value ? put.bind(3, *value) : put.bindNull(3);
+        put.bind(4, sum);
+        put.next();
+        put.reset();
     }
 }
 

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QMap>
 
+#include <functional>
 #include <memory>
 #include <utility>
 
@@ -34,9 +35,16 @@ public:
     [[nodiscard]] std::optional<QString> save() override;
     std::optional<QString> problem() const override;
 
+    /// The changes go into the table `recovery` of the same file, in one transaction that is on the disk before this
+    /// returns. Waits a fifth of a second at most for another program that holds the file.
+    [[nodiscard]] std::optional<QString> keep(const std::vector<KeptChange> &changes) override;
+    RecoveredChanges recovered() const override;
+    void dropKept() override { m_droppingKept = true; }
+
 private:
     using Name = std::pair<QString, QString>; ///< section and key
     using Values = QMap<Name, QString>;
+    using Changes = QMap<Name, std::optional<QString>>;
 
     struct CloseDatabase {
         void operator()(sqlite3 *database) const;
@@ -45,9 +53,13 @@ private:
 
     void open();
     void readFile();
+    void readRecovery(sqlite3 *database);
     void checkWritable() const;
     void openForSaving();
+    void inTransaction(const std::function<void()> &write);
     void writePending();
+    void writeChanges(const std::vector<KeptChange> &changes);
+    void forgetKept();
     void rollBack();
 
     QString m_folder;
@@ -55,6 +67,9 @@ private:
     std::unique_ptr<sqlite3, CloseDatabase> m_database; ///< empty unless its values could be read
     Values m_values;
     Values m_pending;
+    Changes m_recovered;         ///< by an earlier run, and not saved since
+    int m_unreadableChanges = 0; ///< beside those
+    bool m_droppingKept = false;
     Trouble m_trouble = Trouble::none;
     QString m_reason;          ///< of the trouble, part of a sentence
     bool m_valuesSeen = false; ///< the program works with what is in the file, not with defaults

@@ -485,19 +485,21 @@ TEST_F(TheEnd, ByKillLeavesTheOldStoreAndHindersNoNewStart)
     start(bob);
     EXPECT_EQ(bob.end(), 0);
     EXPECT_EQ(ann.next(), "!OFFLINE 127.0.33.1 BOB-PC Bob");
-    const QByteArray before = contentOf(bob.storeFile());
+    const Rows before = bob.readStore();
 
     start(bob);
     ann.send("127.0.33.1", "!ONLINE 127.0.33.2 NEW-PC New name");
     EXPECT_TRUE(answers(bob));
+    EXPECT_TRUE(waitUntil([&] { return !bob.kept().empty(); }));
     bob.kill();
     EXPECT_THAT(ann.waiting(), IsEmpty()); // no farewell
-    EXPECT_EQ(contentOf(bob.storeFile()), before);
+    EXPECT_EQ(bob.readStore(), before);
 
     start(bob);
     MainWindow::of("Bob");
     EXPECT_EQ(bob.end(), 0);
-    EXPECT_THAT(bob.storedContacts(), ElementsAre(StoredContact{"127.0.33.2", "Ann", "ANN-PC"}));
+    EXPECT_THAT(bob.storedContacts(), ElementsAre(StoredContact{"127.0.33.2", "New name", "NEW-PC"}));
+    EXPECT_THAT(bob.kept(), IsEmpty());
 }
 
 TEST_F(TheEnd, ByKillWhileItSavesLeavesOneWholeStore)

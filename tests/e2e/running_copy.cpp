@@ -61,6 +61,17 @@ std::string columnText(const Statement &statement, int column)
     return bytes ? std::string(bytes, size) : std::string();
 }
 
+Rows rowsOf(const Database &database, const char *sql)
+{
+    Rows rows;
+    const Statement all = prepareStatement(database, sql);
+    int code = SQLITE_ROW;
+    while ((code = sqlite3_step(all.get())) == SQLITE_ROW)
+        rows[{columnText(all, 0), columnText(all, 1)}] = columnText(all, 2);
+    EXPECT_EQ(code, SQLITE_DONE) << sqlite3_errmsg(database.get());
+    return rows;
+}
+
 std::optional<int> statusOf(const QProcess &process)
 {
     if (process.state() != QProcess::NotRunning || process.exitStatus() != QProcess::NormalExit)
@@ -215,15 +226,17 @@ void RunningCopy::writeStore(const Rows &rows) const
 
 Rows RunningCopy::readStore() const
 {
-    Rows rows;
     // To write as well: what a killed copy left half done is undone by whoever opens the file next.
+    return rowsOf(openDatabase(storeFile(), SQLITE_OPEN_READWRITE), "SELECT section, key, value FROM settings");
+}
+
+Rows RunningCopy::kept() const
+{
     const Database database = openDatabase(storeFile(), SQLITE_OPEN_READWRITE);
-    const Statement all = prepareStatement(database, "SELECT section, key, value FROM settings");
-    int code = SQLITE_ROW;
-    while ((code = sqlite3_step(all.get())) == SQLITE_ROW)
-        rows[{columnText(all, 0), columnText(all, 1)}] = columnText(all, 2);
-    EXPECT_EQ(code, SQLITE_DONE) << sqlite3_errmsg(database.get());
-    return rows;
+    const Statement table = prepareStatement(database, "SELECT 1 FROM sqlite_master WHERE name = 'recovery'");
+    if (sqlite3_step(table.get()) != SQLITE_ROW)
+        return {};
+    return rowsOf(database, "SELECT section, key, ifnull(value, '(gone)') FROM recovery");
 }
 
 std::optional<std::string> RunningCopy::stored(const std::string &section, const std::string &key) const

@@ -80,6 +80,8 @@ public:
     Rows readStore() const;
     /// The value of one row; nothing when there is none.
     std::optional<std::string> stored(const std::string &section, const std::string &key) const;
+    /// What is kept beside the store; what is kept as gone reads "(gone)".
+    Rows kept() const;
     /// What is stored in "Users" up to the end marker, by the rules for reading it.
     std::vector<StoredContact> storedContacts() const;
 

@@ -400,6 +400,8 @@ class MemoryStore : public SettingsStore
 public:
     QString read(const QString &section, const QString &key, const QString &defaultValue) const override
     {
+        if (const auto change = kept.find({section, key}); change != kept.end() && change->second)
+            return *change->second;
         const auto found = saved.find({section, key});
         return found == saved.end() ? defaultValue : found->second;
     }
@@ -415,10 +417,30 @@ public:
         for (const auto &[address, value] : pending)
             saved[address] = value;
         pending.clear();
+        if (std::exchange(dropping, false))
+            kept.clear();
         ++saves;
         return std::nullopt;
     }
     std::optional<QString> problem() const override { return failure; }
+    std::optional<QString> keep(const std::vector<KeptChange> &changes) override
+    {
+        ++keeps;
+        if (failure)
+            return failure;
+        for (const KeptChange &change : changes)
+            kept[{change.section, change.key}] = change.value;
+        return std::nullopt;
+    }
+    RecoveredChanges recovered() const override
+    {
+        RecoveredChanges result;
+        for (const auto &[address, value] : kept)
+            result.changes.push_back({address.first, address.second, value});
+        result.unreadable = damagedChanges;
+        return result;
+    }
+    void dropKept() override { dropping = true; }
 
     std::string value(const char *section, const char *key) const
     {
@@ -449,6 +471,10 @@ public:
     std::vector<std::pair<std::pair<QString, QString>, QString>> pending;
     std::vector<std::string> order; ///< "section/key" of every write
     int saves = 0;
+    std::map<std::pair<QString, QString>, std::optional<QString>> kept; ///< beside what is saved
+    int keeps = 0;                                                      ///< attempts to keep changes
+    int damagedChanges = 0;
+    bool dropping = false;
     std::optional<QString> failure;
 };
 

@@ -26,7 +26,8 @@ protected:
 
     Copy copy{{.contacts = {{QStringLiteral("10.0.0.2"), QStringLiteral("Ann")}}}};
     RecorderPictureSources sources;
-    OptionValues values{copy.common, copy.engine.ownAvatar(), sources, *copy.time};
+    OptionValues values{copy.common, copy.engine.ownAvatar(), sources, *copy.time,
+                        [this] { copy.engine.recovery().settingsChanged(); }};
 };
 
 TEST_F(OptionValuesTest, AtFirstTheControlsShowTheDefaults)
@@ -43,6 +44,23 @@ TEST_F(OptionValuesTest, AtFirstTheControlsShowTheDefaults)
     EXPECT_EQ(controls.UDPPorttxt, QStringLiteral("5549"));
     EXPECT_EQ(controls.avatar, AvatarChoice::none);
     EXPECT_EQ(controls.font, LogFont());
+}
+
+TEST_F(OptionValuesTest, WhatIsTakenIsKeptWithinTwoSecondsAndWhatIsRefusedIsNot)
+{
+    copy.settleStart();
+    OptionControls controls = values.Form_Load();
+    controls.options.notifyWindow = false;
+    controls.UDPPorttxt = QStringLiteral("none");
+    EXPECT_TRUE(values.CmdOK_Click(controls));
+    EXPECT_EQ(copy.time->nextDue(), std::nullopt);
+    controls.UDPPorttxt = QStringLiteral("6000");
+    EXPECT_FALSE(values.CmdOK_Click(controls));
+    copy.advance(std::chrono::milliseconds(2000));
+    EXPECT_EQ(copy.settings.kept.size(), 2u);
+    EXPECT_EQ(copy.settings.read("Options", "NotifyWin", {}), QStringLiteral("0"));
+    EXPECT_EQ(copy.settings.read("Settings", "UDPPort", {}), QStringLiteral("6000"));
+    EXPECT_EQ(copy.settings.saves, 0);
 }
 
 TEST_F(OptionValuesTest, EveryOptionIsShownAsItIsAndTakenAsItWasChosen)

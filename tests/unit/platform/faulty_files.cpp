@@ -101,6 +101,10 @@ int checkReservedLock(sqlite3_file *file, int *held)
 
 int fileControl(sqlite3_file *file, int operation, void *argument)
 {
+    if (operation == SQLITE_FCNTL_LAST_ERRNO && own(file).faults->systemError() != 0) {
+        *static_cast<int *>(argument) = own(file).faults->systemError();
+        return SQLITE_OK;
+    }
     sqlite3_file *real = own(file).real();
     return real->pMethods->xFileControl(real, operation, argument);
 }
@@ -167,6 +171,8 @@ FaultyFiles::FaultyFiles() : m_real(sqlite3_vfs_find(nullptr))
     layer.xAccess = accessFile;
     // These three look their own data up in the structure they are given.
     layer.xGetLastError = [](sqlite3_vfs *vfs, int size, char *text) {
+        if (const int error = faultsOf(vfs).systemError(); error != 0)
+            return error;
         sqlite3_vfs *real = faultsOf(vfs).real();
         return real->xGetLastError(real, size, text);
     };
@@ -187,12 +193,13 @@ FaultyFiles::~FaultyFiles()
     sqlite3_vfs_register(m_real, 1);
 }
 
-void FaultyFiles::failAt(int n, Lasting lasting, int writeCode)
+void FaultyFiles::failAt(int n, Lasting lasting, int writeCode, int systemError)
 {
     heal();
     m_at = n;
     m_lasting = lasting;
     m_writeCode = writeCode;
+    m_systemError = systemError;
 }
 
 void FaultyFiles::doAt(int n, std::function<void()> action)
@@ -206,6 +213,7 @@ void FaultyFiles::heal()
 {
     m_calls = 0;
     m_at = 0;
+    m_systemError = 0;
     m_action = nullptr;
 }
 

@@ -20,8 +20,9 @@ public:
 
     enum class Lasting { once, forGood };
 
-    /// The n-th call from now on (counted from 1) fails, or all from there on do; a failing write returns writeCode.
-    void failAt(int n, Lasting lasting, int writeCode);
+    /// The n-th call from now on (counted from 1) fails, or all from there on do; a failing write returns writeCode,
+    /// and systemError is what the system is said to have given as its reason.
+    void failAt(int n, Lasting lasting, int writeCode, int systemError = 0);
     /// Before the n-th call from now on this is done; a write has put half of its bytes into the file by then.
     void doAt(int n, std::function<void()> action);
     void heal();
@@ -32,6 +33,7 @@ public:
     /// Used by the layer: counts one call and tells whether it has to fail.
     bool mustFail(const std::function<void()> &halfOfIt = {});
     int writeCode() const { return m_writeCode; }
+    int systemError() const { return happened() ? m_systemError : 0; }
     sqlite3_vfs *real() const { return m_real; }
 
 private:
@@ -40,6 +42,7 @@ private:
     int m_at = 0;
     Lasting m_lasting = Lasting::once;
     int m_writeCode = 0;
+    int m_systemError = 0;
     std::function<void()> m_action;
 };
 

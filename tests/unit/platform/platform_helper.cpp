@@ -36,12 +36,22 @@ int save(const QString &folder, const QString &generation, const QString &phase,
         files.doAt(n, killMyself);
     SqliteSettingsStore store(folder);
     writeGeneration(store, generation);
+    store.dropKept();
     if (phase == "saving")
         files.doAt(n, killMyself);
     const std::optional<QString> failure = store.save();
     if (failure)
         say(*failure);
     return failure ? 2 : 0;
+}
+
+/// Keeps the changes of that generation, and is killed at the n-th call to the disk.
+int keep(const QString &folder, const QString &generation, int n)
+{
+    FaultyFiles files;
+    SqliteSettingsStore store(folder);
+    files.doAt(n, killMyself);
+    return store.keep(changesOfGeneration(generation)) ? 2 : 0;
 }
 
 /// The first copy: says so, and says what later starts ask for.
@@ -79,6 +89,8 @@ int run(const QStringList &arguments)
     const QString task = arguments.value(1);
     if (task == "save")
         return save(arguments.value(2), arguments.value(3), arguments.value(4), arguments.value(5).toInt());
+    if (task == "keep")
+        return keep(arguments.value(2), arguments.value(3), arguments.value(4).toInt());
     if (task == "hold")
         return hold(arguments.value(2));
     if (task == "start")

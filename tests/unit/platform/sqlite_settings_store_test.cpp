@@ -14,6 +14,7 @@
 #include <gmock/gmock.h>
 #include <sqlite3.h>
 
+#include <cerrno>
 #include <csignal>
 #include <memory>
 
@@ -77,6 +78,9 @@ public:
     void write(const QString &, const QString &, const QString &) override { ADD_FAILURE(); }
     std::optional<QString> save() override { return std::nullopt; }
     std::optional<QString> problem() const override { return std::nullopt; }
+    std::optional<QString> keep(const std::vector<KeptChange> &) override { return "not from here"; }
+    RecoveredChanges recovered() const override { return {}; }
+    void dropKept() override { ADD_FAILURE(); }
 
 private:
     static std::string column(sqlite3_stmt *statement)
@@ -336,16 +340,163 @@ TEST_F(SqliteSettingsStoreTest, TheJournalOfASaveIsGoneAfterIt)
     EXPECT_EQ(QDir(folder).entryList(QDir::Files | QDir::Hidden), QStringList{"settings.sqlite3"});
 }
 
+// What is kept beside the stored values until they are saved.
+
+class Kept : public SqliteSettingsStoreTest
+{
+protected:
+    void keep(const std::vector<KeptChange> &changes) const
+    {
+        ASSERT_EQ(SqliteSettingsStore(folder).keep(changes), std::nullopt);
+    }
+    std::vector<KeptChange> recovered() const { return SqliteSettingsStore(folder).recovered().changes; }
+};
+
+TEST_F(Kept, ChangesAreReadByTheNextRunAndStoredByNobody)
+{
+    saveGeneration("old");
+    keep({{"Settings", "MyNickName", "new"}, {"Users", "Nn:10.0.0.2", "Ann"}, {"Users", "Nn:10.0.0.3", std::nullopt}});
+
+    const SqliteSettingsStore next(folder);
+    EXPECT_EQ(next.read("Settings", "MyNickName", ""), "new");
+    EXPECT_THAT(next.recovered().changes,
+                testing::ElementsAre(KeptChange{"Settings", "MyNickName", "new"},
+                                     KeptChange{"Users", "Nn:10.0.0.2", "Ann"},
+                                     KeptChange{"Users", "Nn:10.0.0.3", std::nullopt}));
+    EXPECT_EQ(generationOnDisk(), "old");
+}
+
+TEST_F(Kept, ChangesStandInTheDocumentedTable)
+{
+    saveGeneration("old");
+    keep({{"Options", "LiveType", "0"}, {"Users", "Nn:10.0.0.3", std::nullopt}});
+    const Database database(file);
+    EXPECT_EQ(database.one("SELECT group_concat(name || ' ' || type || ' ' || pk) FROM pragma_table_info('recovery')"),
+              "section TEXT 1,key TEXT 2,value TEXT 0,sum TEXT 0");
+    EXPECT_EQ(
+        database.one("SELECT group_concat(section || '/' || key || '=' || ifnull(value, '(gone)')) FROM recovery"),
+        "Options/LiveType=0,Users/Nn:10.0.0.3=(gone)");
+    // SHA-256 of "7:Options8:LiveType1:0value": its first sixteen digits.
+    EXPECT_EQ(database.one("SELECT sum FROM recovery WHERE key = 'LiveType'"), "85e5f967b1df5ec4");
+}
+
+TEST_F(Kept, TheLaterChangeWinsAndOthersStay)
+{
+    keep({{"Options", "LiveType", "0"}, {"Options", "NotifyWin", "0"}});
+    keep({{"Options", "LiveType", "2"}});
+    EXPECT_THAT(recovered(),
+                testing::ElementsAre(KeptChange{"Options", "LiveType", "2"}, KeptChange{"Options", "NotifyWin", "0"}));
+}
+
+TEST_F(Kept, ValuesOfAnyCharacterComeBackWhole)
+{
+    keep({{"Settings", "AvatarBody", avatarData(u'\0')}, {"Settings", "AvatarHead", ""}});
+    const SqliteSettingsStore next(folder);
+    EXPECT_TRUE(next.read("Settings", "AvatarBody", "") == avatarData(u'\0'));
+    EXPECT_EQ(next.read("Settings", "AvatarHead", "default"), "");
+}
+
+TEST_F(Kept, ChangesAreGoneOnceTheyAreSaved)
+{
+    SqliteSettingsStore store(folder);
+    ASSERT_EQ(store.keep({{"Settings", "MyNickName", "new"}, {"Made up", "key", "value"}}), std::nullopt);
+    writeGeneration(store, "new");
+    store.dropKept();
+    ASSERT_EQ(store.save(), std::nullopt);
+    EXPECT_THAT(recovered(), testing::IsEmpty());
+    EXPECT_EQ(generationOnDisk(), "new");
+}
+
+TEST_F(Kept, ChangesThatWereTakenOverAreNotReadAnyMoreOnceTheyAreSaved)
+{
+    keep({{"Settings", "MyNickName", "killed"}});
+    SqliteSettingsStore store(folder);
+    store.write("Settings", "MyNickName", "ended well");
+    store.dropKept();
+    ASSERT_EQ(store.save(), std::nullopt);
+    EXPECT_EQ(store.read("Settings", "MyNickName", ""), "ended well");
+    EXPECT_THAT(store.recovered().changes, testing::IsEmpty());
+}
+
+TEST_F(Kept, AValueThatIsSavedOnItsOwnIsNewerThanWhatWasKept)
+{
+    keep({{"Options", "TipOTDay", "1"}, {"Options", "LiveType", "0"}});
+    SqliteSettingsStore store(folder);
+    store.write("Options", "TipOTDay", "0");
+    ASSERT_EQ(store.save(), std::nullopt);
+    EXPECT_EQ(store.read("Options", "TipOTDay", ""), "0");
+    EXPECT_THAT(recovered(), testing::ElementsAre(KeptChange{"Options", "LiveType", "0"}));
+}
+
+TEST_F(Kept, WhatAnotherProgramStoresLaterIsNewer)
+{
+    saveGeneration("old");
+    keep({{"Options", "TipOTDay", "1"}, {"Options", "LiveType", "0"}, {"Users", "Nn:10.0.0.2", "Ann"}});
+    // As an older copy of the program does, which knows of no other table.
+    Database(file).run("INSERT INTO settings VALUES('Options', 'TipOTDay', '0'), ('Users', 'IP1', '10.0.0.9') "
+                       "ON CONFLICT(section, key) DO UPDATE SET value = excluded.value");
+    EXPECT_THAT(recovered(), testing::ElementsAre(KeptChange{"Options", "LiveType", "0"}));
+    keep({{"Users", "Nn:10.0.0.2", "Ann"}});
+    Database(file).run("INSERT INTO settings VALUES('Users', 'IP1', '10.0.0.8') "
+                       "ON CONFLICT(section, key) DO UPDATE SET value = excluded.value");
+    EXPECT_THAT(recovered(), testing::ElementsAre(KeptChange{"Options", "LiveType", "0"}));
+}
+
+TEST_F(Kept, ADamagedChangeIsLeftOutAndCounted)
+{
+    keep({{"Options", "LiveType", "0"}, {"Options", "NotifyWin", "0"}, {"Users", "Nn:10.0.0.2", "Ann"}});
+    Database(file).run("UPDATE recovery SET value = 'Aon' WHERE value = 'Ann'");
+    Database(file).run("UPDATE recovery SET sum = NULL WHERE key = 'NotifyWin'");
+    const SqliteSettingsStore next(folder);
+    EXPECT_EQ(next.problem(), std::nullopt);
+    EXPECT_THAT(next.recovered().changes, testing::ElementsAre(KeptChange{"Options", "LiveType", "0"}));
+    EXPECT_EQ(next.recovered().unreadable, 2);
+}
+
+TEST_F(Kept, NothingIsKeptOverAStoreThatCouldNotBeRead)
+{
+    putFile("this is no database");
+    SqliteSettingsStore store(folder);
+    EXPECT_THAT(sentence(store.keep({{"Options", "LiveType", "0"}})),
+                isSentenceWith(file, "(the file is damaged or holds something else)"));
+    EXPECT_EQ(fileBytes(), "this is no database");
+}
+
+TEST_F(Kept, AWriterElsewhereIsSaidAndDoesNotHoldTheProgramUp)
+{
+    saveGeneration("old");
+    SqliteSettingsStore store(folder);
+    {
+        Database other(file);
+        other.run("BEGIN IMMEDIATE");
+        EXPECT_THAT(sentence(store.keep({{"Options", "LiveType", "0"}})),
+                    isSentenceWith(file, "(another program is using the file)"));
+        other.run("ROLLBACK");
+    }
+    EXPECT_EQ(store.keep({{"Options", "LiveType", "0"}}), std::nullopt);
+    EXPECT_THAT(recovered(), testing::ElementsAre(KeptChange{"Options", "LiveType", "0"}));
+}
+
 // Failures: each call to the disk fails once and for good, with every code a write can give.
 
 struct Fault {
     const char *name;
     FaultyFiles::Lasting lasting;
     int writeCode;
+    int systemError = 0;
 };
 
 class EveryFault : public SqliteSettingsStoreTest, public testing::WithParamInterface<Fault>
 {
+protected:
+    void fail(FaultyFiles &files, int n) const
+    {
+        files.failAt(n, GetParam().lasting, GetParam().writeCode, GetParam().systemError);
+    }
+    void keepGeneration(const QString &generation) const
+    {
+        ASSERT_EQ(SqliteSettingsStore(folder).keep(changesOfGeneration(generation)), std::nullopt);
+    }
 };
 
 TEST_P(EveryFault, OfASaveLeavesTheOldStoreWholeAndTheNewValuesPending)
@@ -358,7 +509,7 @@ TEST_P(EveryFault, OfASaveLeavesTheOldStoreWholeAndTheNewValuesPending)
         ASSERT_EQ(store.problem(), std::nullopt);
         writeGeneration(store, "new");
 
-        files.failAt(n, GetParam().lasting, GetParam().writeCode);
+        fail(files, n);
         const std::optional<QString> failure = store.save();
         const bool happened = files.happened();
         files.heal();
@@ -386,7 +537,7 @@ TEST_P(EveryFault, OfTheFirstReadingLosesNothing)
     const QByteArray before = fileBytes();
     int problems = 0;
     for (int n = 1;; ++n) {
-        files.failAt(n, GetParam().lasting, GetParam().writeCode);
+        fail(files, n);
         SqliteSettingsStore store(folder);
         const bool happened = files.happened();
         files.heal();
@@ -410,11 +561,99 @@ TEST_P(EveryFault, OfTheFirstReadingLosesNothing)
     EXPECT_GT(problems, 5);
 }
 
+TEST_P(EveryFault, OfKeepingLeavesWhatWasKeptBeforeWholeAndIsTold)
+{
+    FaultyFiles files;
+    saveGeneration("old");
+    int failures = 0;
+    for (int n = 1;; ++n) {
+        keepGeneration("first");
+        SqliteSettingsStore store(folder);
+        ASSERT_EQ(store.problem(), std::nullopt);
+
+        fail(files, n);
+        const std::optional<QString> failure = store.keep(changesOfGeneration("second"));
+        const bool happened = files.happened();
+        files.heal();
+
+        const QString kept = generationKept(SqliteSettingsStore(folder));
+        if (failure) {
+            ++failures;
+            EXPECT_THAT(sentence(failure), isSentenceWith(file, "What has changed cannot be kept"));
+            ASSERT_EQ(kept, "first") << "call " << n;
+            EXPECT_EQ(store.keep(changesOfGeneration("second")), std::nullopt) << "call " << n;
+            EXPECT_EQ(generationKept(SqliteSettingsStore(folder)), "second") << "call " << n;
+        } else {
+            ASSERT_EQ(kept, "second") << "call " << n;
+        }
+        EXPECT_EQ(generationOnDisk(), "old") << "call " << n;
+        if (!happened)
+            break;
+    }
+    EXPECT_GT(failures, 20);
+}
+
+TEST_P(EveryFault, OfTakingOverLosesNothingThatWasKept)
+{
+    FaultyFiles files;
+    saveGeneration("old");
+    keepGeneration("kept");
+    const QByteArray before = fileBytes();
+    int problems = 0;
+    for (int n = 1;; ++n) {
+        fail(files, n);
+        const SqliteSettingsStore store(folder);
+        const bool happened = files.happened();
+        files.heal();
+
+        problems += store.problem() ? 1 : 0;
+        EXPECT_THAT(generationKept(store).toStdString(),
+                    store.problem() ? testing::AnyOf("kept", "none") : testing::AnyOf("kept", "kept"))
+            << "call " << n;
+        EXPECT_TRUE(fileBytes() == before) << "call " << n;
+        if (!happened)
+            break;
+    }
+    EXPECT_GT(problems, 5);
+}
+
+TEST_P(EveryFault, OfTheSaveAfterwardsLeavesWhatWasKeptWithTheOldStore)
+{
+    FaultyFiles files;
+    saveGeneration("old");
+    int failures = 0;
+    for (int n = 1;; ++n) {
+        keepGeneration("kept");
+        SqliteSettingsStore store(folder);
+        writeGeneration(store, "new");
+        store.dropKept();
+
+        fail(files, n);
+        const std::optional<QString> failure = store.save();
+        const bool happened = files.happened();
+        files.heal();
+
+        failures += failure ? 1 : 0;
+        ASSERT_EQ(generationOnDisk(), failure ? "old" : "new") << "call " << n;
+        ASSERT_EQ(generationKept(SqliteSettingsStore(folder)), failure ? "kept" : "none") << "call " << n;
+        if (failure) {
+            EXPECT_EQ(store.save(), std::nullopt) << "call " << n;
+            EXPECT_EQ(generationKept(SqliteSettingsStore(folder)), "none") << "call " << n;
+        }
+        if (!happened)
+            break;
+        saveGeneration("old");
+    }
+    EXPECT_GT(failures, 20);
+}
+
 INSTANTIATE_TEST_SUITE_P(SqliteSettingsStore, EveryFault,
                          testing::Values(Fault{"DiskFullOnce", FaultyFiles::Lasting::once, SQLITE_FULL},
                                          Fault{"DiskFullForGood", FaultyFiles::Lasting::forGood, SQLITE_FULL},
                                          Fault{"DiskErrorOnce", FaultyFiles::Lasting::once, SQLITE_IOERR_WRITE},
-                                         Fault{"DiskErrorForGood", FaultyFiles::Lasting::forGood, SQLITE_IOERR_WRITE}),
+                                         Fault{"DiskErrorForGood", FaultyFiles::Lasting::forGood, SQLITE_IOERR_WRITE},
+                                         Fault{"QuotaForGood", FaultyFiles::Lasting::forGood, SQLITE_IOERR_WRITE,
+                                               EDQUOT}),
                          [](const auto &tested) { return std::string(tested.param.name); });
 
 TEST_F(SqliteSettingsStoreTest, AFullDiskIsCalledThat)
@@ -429,6 +668,16 @@ TEST_F(SqliteSettingsStoreTest, AFullDiskIsCalledThat)
         message = sentence(store.save());
     }
     EXPECT_THAT(message, isSentenceWith(file, "(the disk is full)"));
+}
+
+TEST_F(SqliteSettingsStoreTest, AQuotaThatIsUsedUpIsCalledThat)
+{
+    FaultyFiles files;
+    saveGeneration("old");
+    SqliteSettingsStore store(folder);
+    writeGeneration(store, "new");
+    files.failAt(10, FaultyFiles::Lasting::forGood, SQLITE_IOERR_WRITE, EDQUOT);
+    EXPECT_THAT(sentence(store.save()), isSentenceWith(file, "(Disk quota exceeded)"));
 }
 
 TEST_F(SqliteSettingsStoreTest, TheSystemsOwnLimitLeavesTheOldStoreWhole)
@@ -582,7 +831,11 @@ TEST_F(SqliteSettingsStoreTest, DamageAnywhereNeverCrashesNorChangesTheFileUnask
             damaged[i] = static_cast<char>(~damaged[i]);
         putFile(damaged);
         const SqliteSettingsStore store(folder);
-        if (store.problem()) {
+        // What only keeps from writing leaves what can be read.
+        const bool unread = sentence(store.problem()).find("cannot be read") != std::string::npos;
+        const bool unwritable = sentence(store.problem()).find("cannot be changed") != std::string::npos;
+        EXPECT_EQ(store.problem().has_value(), unread || unwritable) << offset;
+        if (unread) {
             EXPECT_EQ(generationIn(store), "none") << offset;
         }
         EXPECT_TRUE(fileBytes() == damaged) << offset;
@@ -787,6 +1040,46 @@ TEST_F(Killed, InMidSaveLeavesTheOldStoreOrTheNewOneWhole)
     EXPECT_GT(oldOnes, 20);
     RecordProperty("killed_before_it_counted", oldOnes);
     RecordProperty("killed_after_it_counted", newOnes);
+}
+
+TEST_F(Killed, WhileKeepingLeavesWhatWasKeptBeforeOrAllOfTheNew)
+{
+    saveGeneration("old");
+    int firstOnes = 0;
+    for (int n = 1;; ++n) {
+        ASSERT_EQ(SqliteSettingsStore(folder).keep(changesOfGeneration("first")), std::nullopt);
+        const bool finished = runToEnd({"keep", folder, "second", QString::number(n)});
+        const SqliteSettingsStore store(folder);
+        EXPECT_EQ(store.problem(), std::nullopt) << "call " << n;
+        ASSERT_THAT(generationKept(store).toStdString(), testing::AnyOf("first", "second")) << "call " << n;
+        EXPECT_EQ(generationOnDisk(), "old") << "call " << n;
+        if (finished) {
+            EXPECT_EQ(generationKept(store), "second");
+            break;
+        }
+        firstOnes += generationKept(store) == "first" ? 1 : 0;
+    }
+    EXPECT_GT(firstOnes, 20);
+}
+
+TEST_F(Killed, WhileTakingOverOrSavingLeavesWhatWasKeptOrHasItSaved)
+{
+    for (const char *phase : {"opening", "saving"}) {
+        int killed = 0;
+        for (int n = 1;; ++n) {
+            saveGeneration("old");
+            ASSERT_EQ(SqliteSettingsStore(folder).keep(changesOfGeneration("kept")), std::nullopt);
+            const bool finished = runToEnd({"save", folder, "new", phase, QString::number(n)});
+            const SqliteSettingsStore store(folder);
+            EXPECT_EQ(store.problem(), std::nullopt) << phase << ", call " << n;
+            const std::string both = (generationOnDisk() + ' ' + generationKept(store)).toStdString();
+            ASSERT_THAT(both, testing::AnyOf("old kept", "new none")) << phase << ", call " << n;
+            if (finished)
+                break;
+            ++killed;
+        }
+        EXPECT_GT(killed, 5) << phase;
+    }
 }
 
 TEST_F(Killed, WhileMakingTheFileLeavesAnEmptyStoreThatWorks)

@@ -3,10 +3,18 @@
 
 #include "base/settings_store.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace nimb::test
 {
 
-constexpr int generationContacts = 60;
+/// NIMB_STORE_FAULTS=long: so many that the file has a thousand pages, and each of their writes is made to fail.
+inline int contactsOfAGeneration()
+{
+    static const int count = qEnvironmentVariable("NIMB_STORE_FAULTS") == QLatin1String("long") ? 3000 : 60;
+    return count;
+}
 
 /// 7500 characters, U+0000 to U+00FF over and over, starting at the given one.
 inline QString avatarData(char16_t first)
@@ -22,7 +30,7 @@ inline void writeGeneration(SettingsStore &store, const QString &generation)
 {
     store.write("Settings", "MyNickName", generation);
     store.write("Settings", "AvatarHead", avatarData(generation.isEmpty() ? u'\0' : generation[0].unicode()));
-    for (int n = 1; n <= generationContacts; ++n)
+    for (int n = 1; n <= contactsOfAGeneration(); ++n)
         store.write("Users", QString("Nn%1").arg(n),
                     QString("%1 contact %2 %3").arg(generation).arg(n).arg(QString(100, u'.')));
 }
@@ -35,7 +43,7 @@ inline QString generationIn(const SettingsStore &store)
     bool whole = generation == missing ? store.read("Settings", "AvatarHead", missing) == missing
                                        : store.read("Settings", "AvatarHead", missing)
             == avatarData(generation.isEmpty() ? u'\0' : generation[0].unicode());
-    for (int n = 1; n <= generationContacts; ++n) {
+    for (int n = 1; n <= contactsOfAGeneration(); ++n) {
         const QString expected = generation == missing
             ? missing
             : QString("%1 contact %2 %3").arg(generation).arg(n).arg(QString(100, u'.'));
@@ -44,6 +52,32 @@ inline QString generationIn(const SettingsStore &store)
     if (!whole)
         return "mixed";
     return generation == missing ? "none" : generation;
+}
+
+/// Changes that all belong together, as a run keeps them that learns and forgets contacts.
+inline std::vector<KeptChange> changesOfGeneration(const QString &generation)
+{
+    std::vector<KeptChange> changes
+        = {{"Settings", "AvatarBody", avatarData(generation[0].unicode())}, {"Settings", "UDPPort", generation}};
+    for (int n = 1; n <= contactsOfAGeneration() / 2; ++n)
+        changes.push_back({"Users", QString("Nn:10.0.%1.%2").arg(n / 256).arg(n % 256),
+                           n % 5 == 0 ? std::nullopt : std::optional(generation + QString(100, u'.'))});
+    return changes;
+}
+
+/// The generation to which all that was kept belongs, "none" when there is nothing, "mixed" for anything else.
+inline QString generationKept(const SettingsStore &store)
+{
+    const RecoveredChanges recovered = store.recovered();
+    if (recovered.changes.empty() && recovered.unreadable == 0)
+        return "none";
+    const QString generation = store.read("Settings", "UDPPort", "nothing");
+    std::vector<KeptChange> expected = changesOfGeneration(generation);
+    const auto byName = [](const KeptChange &left, const KeptChange &right) {
+        return std::pair(left.section, left.key) < std::pair(right.section, right.key);
+    };
+    std::sort(expected.begin(), expected.end(), byName);
+    return recovered.changes == expected && recovered.unreadable == 0 ? generation : "mixed";
 }
 
 } // namespace nimb::test

@@ -1,0 +1,198 @@
+#include "main_window/recovery.h"
+
+#include "base/limits.h"
+#include "base/settings.h"
+
+namespace nimb
+{
+namespace
+{
+
+const QString usersSection = QStringLiteral("Users");
+const QString nicknamePrefix = QStringLiteral("Nn:");
+const QString workstationPrefix = QStringLiteral("Ws:");
+
+/// Takes what would be saved.
+class Collector : public SettingsSink
+{
+public:
+    void write(const QString &section, const QString &key, const QString &value) override
+    {
+        values.insert_or_assign({section, key}, value);
+    }
+
+    std::map<std::pair<QString, QString>, QString> values;
+};
+
+} // namespace
+
+Recovery::Recovery(const Parts &parts)
+    : m_parts(parts), m_delay(parts.timers.oneShot(limits::keepDelay, [this] { keep(); })),
+      m_retry(parts.timers.oneShot(limits::keepRetry, [this] { keep(); }))
+{
+}
+
+void Recovery::takeOver()
+{
+    const RecoveredChanges recovered = m_parts.store.recovered();
+    if (recovered.changes.empty() && recovered.unreadable == 0)
+        return;
+    for (const KeptChange &change : recovered.changes)
+        takeOver(change);
+    QString line = tr("--- NIMB-Chat could not save everything when it last ended: what had changed is taken over ---");
+    if (recovered.unreadable > 0)
+        line = tr("--- NIMB-Chat could not save everything when it last ended: what had changed is taken over, but for "
+                  "%1 damaged values ---")
+                   .arg(recovered.unreadable);
+    m_parts.log.remark(line);
+}
+
+/// The settings are read with their changes; only contacts have to be found by their address.
+void Recovery::takeOver(const KeptChange &change)
+{
+    if (change.section != usersSection)
+        return;
+    const ContactAddress ip = change.key.mid(nicknamePrefix.size());
+    if (!change.value) {
+        m_parts.contacts.remove(ip);
+        return;
+    }
+    const bool isNickname = change.key.startsWith(nicknamePrefix);
+    if (!isNickname && !change.key.startsWith(workstationPrefix))
+        return;
+    if (!m_parts.contacts.find(ip)) {
+        Contact contact;
+        contact.ip = ip;
+        contact.nickname = unknownName;
+        contact.workstation = unknownName;
+        m_parts.contacts.add(std::move(contact));
+    }
+    m_parts.contacts.change(ip, [&change, isNickname](Contact &contact) {
+        (isNickname ? contact.nickname : contact.workstation) = nameOrUnknown(*change.value);
+        contact.setUnheard();
+    });
+}
+
+void Recovery::begin()
+{
+    if (m_parts.store.problem())
+        return; // which has been said; trying again and again would help nobody
+    m_keptSettings = settings();
+    for (const ContactAddress &ip : m_parts.contacts.addresses())
+        m_keptContacts.insert(ip, *namesOf(ip));
+    watchContacts();
+    m_begun = true;
+}
+
+void Recovery::watchContacts()
+{
+    ContactList &contacts = m_parts.contacts;
+    const auto cameOrGoes = [this](const QModelIndex &, int first, int last) {
+        for (int row = first; row <= last; ++row)
+            m_changedContacts.insert(m_parts.contacts.at(row).ip);
+        wait();
+    };
+    const auto changed = [this](const QModelIndex &first, const QModelIndex &last) {
+        for (int row = first.row(); row <= last.row(); ++row)
+            contactChanged(m_parts.contacts.at(row));
+    };
+    QObject::connect(&contacts, &ContactList::rowsInserted, &m_connections, cameOrGoes);
+    QObject::connect(&contacts, &ContactList::rowsAboutToBeRemoved, &m_connections, cameOrGoes);
+    QObject::connect(&contacts, &ContactList::dataChanged, &m_connections, changed);
+}
+
+/// Most changes are of the presence, which is not kept.
+void Recovery::contactChanged(const Contact &contact)
+{
+    const auto kept = m_keptContacts.constFind(contact.ip);
+    if (kept != m_keptContacts.cend() && *kept == Names{contact.nickname, contact.workstation})
+        return;
+    m_changedContacts.insert(contact.ip);
+    wait();
+}
+
+void Recovery::settingsChanged()
+{
+    if (m_begun)
+        wait();
+}
+
+void Recovery::end()
+{
+    m_begun = false;
+    m_delay->stop();
+    m_retry->stop();
+    QObject::disconnect(&m_parts.contacts, nullptr, &m_connections, nullptr);
+}
+
+/// From the first change on, or a stream of them would never be kept.
+void Recovery::wait()
+{
+    if (!m_delay->isActive())
+        m_delay->start();
+}
+
+void Recovery::keep()
+{
+    m_retry->stop();
+    Values now = settings();
+    const std::vector<KeptChange> changes = changesOf(now);
+    if (!changes.empty()) {
+        const std::optional<QString> problem = m_parts.store.keep(changes);
+        if (problem && !std::exchange(m_failing, true))
+            m_parts.log.fault(*problem);
+        if (problem)
+            return m_retry->start();
+    }
+    m_failing = false;
+    keptAre(std::move(now));
+}
+
+Recovery::Values Recovery::settings() const
+{
+    m_parts.common.mainPlace = m_parts.view.place();
+    Collector collector;
+    saveSettings(collector, m_parts.common, m_parts.ownState.storedValues());
+    return std::move(collector.values);
+}
+
+std::optional<Recovery::Names> Recovery::namesOf(const ContactAddress &ip) const
+{
+    const Contact *const contact = m_parts.contacts.find(ip);
+    return contact ? std::optional(Names{contact->nickname, contact->workstation}) : std::nullopt;
+}
+
+std::vector<KeptChange> Recovery::changesOf(const Values &now) const
+{
+    std::vector<KeptChange> changes;
+    for (const auto &[name, value] : now) {
+        const auto kept = m_keptSettings.find(name);
+        if (kept == m_keptSettings.end() || kept->second != value)
+            changes.push_back({name.first, name.second, value});
+    }
+    for (const ContactAddress &ip : m_changedContacts) {
+        // The stored list ends at this address, so it is not stored either.
+        const QString address = ip.text();
+        if (address == endOfStoredContacts)
+            continue;
+        const std::optional<Names> names = namesOf(ip);
+        changes.push_back(
+            {usersSection, nicknamePrefix + address, names ? std::optional(names->nickname) : std::nullopt});
+        changes.push_back(
+            {usersSection, workstationPrefix + address, names ? std::optional(names->workstation) : std::nullopt});
+    }
+    return changes;
+}
+
+void Recovery::keptAre(Values now)
+{
+    m_keptSettings = std::move(now);
+    for (const ContactAddress &ip : std::exchange(m_changedContacts, {})) {
+        if (std::optional<Names> names = namesOf(ip))
+            m_keptContacts.insert(ip, *std::move(names));
+        else
+            m_keptContacts.remove(ip);
+    }
+}
+
+} // namespace nimb

@@ -1,0 +1,78 @@
+// Keeps what changes while the program runs, so that a run that is killed loses a moment and not the day.
+#pragma once
+
+#include "base/main_log.h"
+#include "base/main_window_view.h"
+#include "base/settings_store.h"
+#include "contacts/contact_list.h"
+#include "contacts/own_state.h"
+
+#include <QCoreApplication>
+#include <QObject>
+#include <QSet>
+
+#include <map>
+#include <utility>
+
+namespace nimb
+{
+
+/// All that is saved when the main window ends, kept beside the stored values soon after it has changed. Settings are
+/// kept as they are stored. A contact is kept by its address, for its number changes with every row that moves: under
+/// "Nn:" and "Ws:" followed by the address, without a value once it is removed.
+class Recovery
+{
+    Q_DECLARE_TR_FUNCTIONS(Recovery)
+
+public:
+    struct Parts {
+        Common &common;
+        SettingsStore &store;
+        ContactList &contacts;
+        const OwnState &ownState;
+        Timers &timers;
+        MainLog &log;
+        const MainWindowView &view;
+    };
+
+    explicit Recovery(const Parts &parts);
+
+    /// Brings the stored contacts up to what the last run kept, and says so when it kept anything.
+    void takeOver();
+    /// What changes from now on is kept; what is there now is taken for stored or kept.
+    void begin();
+    /// Something that is saved with the settings may have changed.
+    void settingsChanged();
+    /// From now on nothing is kept any more.
+    void end();
+
+private:
+    using Values = std::map<std::pair<QString, QString>, QString>; ///< by section and key
+    struct Names {
+        QString nickname;
+        QString workstation;
+        bool operator==(const Names &) const = default;
+    };
+
+    void takeOver(const KeptChange &change);
+    void watchContacts();
+    void contactChanged(const Contact &contact);
+    void wait();
+    void keep();
+    Values settings() const;
+    std::optional<Names> namesOf(const ContactAddress &ip) const;
+    std::vector<KeptChange> changesOf(const Values &now) const;
+    void keptAre(Values now);
+
+    Parts m_parts;
+    QObject m_connections; ///< to the contacts, as long as it lives
+    std::unique_ptr<Timer> m_delay;
+    std::unique_ptr<Timer> m_retry;
+    bool m_begun = false;
+    bool m_failing = false; ///< and that has been said
+    Values m_keptSettings;
+    QHash<ContactAddress, Names> m_keptContacts;
+    QSet<ContactAddress> m_changedContacts;
+};
+
+} // namespace nimb
