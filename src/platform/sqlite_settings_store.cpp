@@ -348,7 +348,7 @@ void SqliteSettingsStore::readFile()
     check(code, opened);
     check(sqlite3_extended_result_codes(opened, 1), opened);
     check(sqlite3_busy_timeout(opened, busyTimeoutMs), opened);
-    execute(opened, "PRAGMA synchronous = FULL");
+    execute(opened, "PRAGMA synchronous = EXTRA");
     checkIntegrity(opened, m_file);
 
     Values values;
