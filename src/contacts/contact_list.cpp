@@ -24,6 +24,33 @@ uint codePointRank(char16_t unit)
     return QChar::isSurrogate(unit) ? uint(unit) + 0x10000 : uint(unit);
 }
 
+/// Whether there is such a value; it is empty after the next save.
+bool emptyValue(SettingsStore &store, QLatin1String prefix, int number)
+{
+    static const QString missing(1, QChar(0xFFFF)); // a character that is none
+    const QString key = prefix + QString::number(number);
+    const QString value = store.read(usersSection, key, missing);
+    if (value == missing)
+        return false;
+    if (!value.isEmpty())
+        store.write(usersSection, key, {});
+    return true;
+}
+
+/// What a longer list has left behind its end is read by nobody, and of people whom the user has removed.
+void emptyRest(SettingsStore &store, int end)
+{
+    emptyValue(store, QLatin1String("Nn"), end);
+    emptyValue(store, QLatin1String("Ws"), end);
+    for (int n = end + 1;; ++n) {
+        const bool ip = emptyValue(store, QLatin1String("IP"), n);
+        const bool nickname = emptyValue(store, QLatin1String("Nn"), n);
+        const bool workstation = emptyValue(store, QLatin1String("Ws"), n);
+        if (!ip && !nickname && !workstation)
+            return;
+    }
+}
+
 } // namespace
 
 int compareCodePoints(const QString &left, const QString &right)
@@ -178,6 +205,7 @@ void ContactList::saveContact(SettingsStore &store, int number, const Contact &c
 void ContactList::saveEnd(SettingsStore &store, int count)
 {
     store.write(usersSection, QLatin1String("IP") + QString::number(count + 1), endOfStoredContacts);
+    emptyRest(store, count + 1);
 }
 
 int ContactList::rowCount(const QModelIndex &parent) const

@@ -73,7 +73,7 @@ public:
     void load(const SettingsStore &store);
     /// Notes contact number n, counted from 1, for saving.
     static void saveContact(SettingsStore &store, int number, const Contact &contact);
-    /// Notes the end of a stored list of this many contacts.
+    /// Notes the end of a stored list of this many contacts, and empties what a longer one has left behind it.
     static void saveEnd(SettingsStore &store, int count);
 
     int rowCount(const QModelIndex &parent = {}) const override;

@@ -5,7 +5,13 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cerrno>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
 
 namespace nimb
 {
@@ -13,6 +19,12 @@ namespace
 {
 
 constexpr QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
+
+/// The lock, or the settings with whatever stands beside them.
+bool isOwnFile(const QString &name)
+{
+    return name == u"lock" || name.startsWith(u"settings.");
+}
 
 } // namespace
 
@@ -45,6 +57,27 @@ std::optional<QString> makePrivateFile(const QString &path)
     if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly, ownerOnly) || QFileInfo(path).isFile())
         return std::nullopt;
     return file.errorString();
+}
+
+void takeFileFromOthers(const QString &path)
+{
+#ifdef Q_OS_UNIX
+    constexpr mode_t others = S_IRWXG | S_IRWXO;
+    const QByteArray name = QFile::encodeName(path);
+    struct stat found = {};
+    if (::stat(name.constData(), &found) == 0 && found.st_uid == ::geteuid() && (found.st_mode & others) != 0)
+        ::chmod(name.constData(), found.st_mode & 07777 & ~others);
+#else
+    Q_UNUSED(path);
+#endif
+}
+
+void takeFolderFromOthers(const QString &path)
+{
+    const QStringList entries
+        = QDir(path).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    if (!entries.isEmpty() && std::ranges::all_of(entries, isOwnFile))
+        takeFileFromOthers(path);
 }
 
 } // namespace nimb

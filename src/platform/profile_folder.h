@@ -15,4 +15,11 @@ namespace nimb
 /// The same for an empty file in an existing folder.
 [[nodiscard]] std::optional<QString> makePrivateFile(const QString &path);
 
+/// Takes the rights that others have to an existing file of this user, and gives none.
+void takeFileFromOthers(const QString &path);
+
+/// The same for a folder that holds nothing but files of this program: who names one that serves for more, be it /tmp,
+/// wants it to stay as it is.
+void takeFolderFromOthers(const QString &path);
+
 } // namespace nimb

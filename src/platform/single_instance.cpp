@@ -101,7 +101,9 @@ bool SingleInstance::acquire()
     m_socketPath = socketPathFor(m_folder);         // canonical only once the folder is there
     if (!m_lock)
         m_lock = std::make_unique<InstanceLock>(m_folder + QStringLiteral("/lock"));
-    switch (m_lock->tryToHold()) {
+    const InstanceLock::Outcome outcome = m_lock->tryToHold();
+    takeFileFromOthers(m_folder + QStringLiteral("/lock"));
+    switch (outcome) {
     case InstanceLock::Outcome::heldElsewhere:
         return false;
     case InstanceLock::Outcome::impossible:

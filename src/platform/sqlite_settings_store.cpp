@@ -329,6 +329,8 @@ void SqliteSettingsStore::open()
         step = Trouble::file;
         if (const std::optional<QString> reason = makePrivateFile(m_file))
             throw Failure{*reason};
+        takeFileFromOthers(m_file);
+        takeFolderFromOthers(m_folder);
         step = Trouble::reading;
         readFile();
         step = Trouble::writing;
@@ -349,6 +351,7 @@ void SqliteSettingsStore::readFile()
     check(sqlite3_extended_result_codes(opened, 1), opened);
     check(sqlite3_busy_timeout(opened, busyTimeoutMs), opened);
     execute(opened, "PRAGMA synchronous = EXTRA");
+    execute(opened, "PRAGMA secure_delete = ON"); // what the user has removed is to be gone
     checkIntegrity(opened, m_file);
 
     Values values;

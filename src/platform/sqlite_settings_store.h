@@ -23,8 +23,8 @@ class SqliteSettingsStore : public SettingsStore
     Q_DECLARE_TR_FUNCTIONS(SqliteSettingsStore)
 
 public:
-    /// Makes the folder (mode 0700) and an empty file (mode 0600) where they are missing. May wait two seconds for
-    /// another program that holds the file, as save() may.
+    /// Makes the folder (mode 0700) and an empty file (mode 0600) where they are missing; those that are there are
+    /// taken from everybody else. May wait two seconds for another program that holds the file, as save() may.
     explicit SqliteSettingsStore(const QString &folder);
     ~SqliteSettingsStore() override;
 

@@ -242,6 +242,30 @@ TEST(ContactList, RemovingTheOnlyContactStoresTheMarkerFirst)
     EXPECT_EQ(copy.settings.value("Users", "IP1"), "255.255.255.255");
 }
 
+TEST(ContactList, WhatALongerListLeftBehindTheMarkerIsEmptiedAndItsKeysStay)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann", "PC-ANN"},
+                            {"10.0.0.3", "Ben", "PC-BEN"},
+                            {"10.0.0.4", "Cleo", "PC-CLEO"},
+                            {"10.0.0.5", "Dora", "PC-DORA"}}});
+    for (const char *ip : {"10.0.0.3", "10.0.0.5"})
+        copy.engine.contacts().remove(QString::fromLatin1(ip));
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_EQ(copy.settings.value("Users", "Nn2"), "Cleo");
+    EXPECT_EQ(copy.settings.value("Users", "IP3"), "255.255.255.255");
+    for (const char *key : {"Nn3", "Ws3", "IP4", "Nn4", "Ws4"})
+        EXPECT_EQ(copy.settings.value("Users", key), "") << key;
+    EXPECT_EQ(copy.settings.value("Users", "IP5"), "(missing)");
+
+    // Once it is empty nothing is written to it any more.
+    Copy next({.loaded = false});
+    next.settings.saved = copy.settings.saved;
+    next.engine.mainWindow().Form_Load();
+    next.engine.mainWindow().Form_Unload();
+    EXPECT_THAT(next.settings.order, testing::Not(testing::Contains("Users/IP4")));
+    EXPECT_THAT(next.settings.order, testing::Not(testing::Contains("Users/Nn3")));
+}
+
 TEST(ContactList, TheMarkersAddressIsSkippedWhenSaving)
 {
     Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});

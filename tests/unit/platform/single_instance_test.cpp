@@ -116,6 +116,15 @@ TEST_F(SingleInstanceTest, TheFolderAndItsLockAreForTheUserAlone)
     EXPECT_EQ(modeOf(first.socketPath()) & 077, 0);
 }
 
+TEST_F(SingleInstanceTest, ALockThatIsThereIsTakenFromOthers)
+{
+    ASSERT_TRUE(SingleInstance(folder).acquire());
+    ASSERT_EQ(chmod((folder + "/lock").toUtf8().constData(), 0644), 0);
+    SingleInstance first(folder);
+    ASSERT_TRUE(first.acquire());
+    EXPECT_EQ(modeOf(folder + "/lock"), 0600);
+}
+
 TEST_F(SingleInstanceTest, TheSocketStandsInTheRuntimeFolderUnderAShortName)
 {
     SingleInstance first(folder);

@@ -20,6 +20,7 @@
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace nimb::test
 {
@@ -172,12 +173,47 @@ TEST_F(SqliteSettingsStoreTest, AMissingFolderIsMadeForItsUserAloneAndIsNoProble
     EXPECT_EQ(modeOf(file), 0600);
 }
 
-TEST_F(SqliteSettingsStoreTest, AnExistingFolderKeepsItsMode)
+TEST_F(SqliteSettingsStoreTest, AnExistingFolderIsTakenFromOthersAndTheOneAboveIsNot)
 {
     QDir().mkpath(folder);
+    QFile::setPermissions(m_base.filePath("config"), everybodyMayEnter);
     QFile::setPermissions(folder, everybodyMayEnter);
     const SqliteSettingsStore store(folder);
     EXPECT_EQ(store.problem(), std::nullopt);
+    EXPECT_EQ(modeOf(folder), 0700);
+    EXPECT_EQ(modeOf(m_base.filePath("config")), 0755);
+}
+
+TEST_F(SqliteSettingsStoreTest, AnExistingFileIsTakenFromOthers)
+{
+    saveGeneration("old");
+    for (const auto &[before, after] : {std::pair(0644, 0600), std::pair(0666, 0600), std::pair(0444, 0400)}) {
+        ASSERT_EQ(chmod(file.toUtf8().constData(), static_cast<mode_t>(before)), 0);
+        const SqliteSettingsStore store(folder);
+        EXPECT_EQ(modeOf(file), after);
+        EXPECT_EQ(generationIn(store), "old");
+    }
+}
+
+TEST_F(SqliteSettingsStoreTest, AFolderThatServesForMoreKeepsItsMode)
+{
+    QDir().mkpath(folder + "/other things");
+    QFile::setPermissions(folder, everybodyMayEnter);
+    const SqliteSettingsStore store(folder);
+    EXPECT_EQ(modeOf(folder), 0755);
+    EXPECT_EQ(modeOf(file), 0600);
+}
+
+TEST_F(SqliteSettingsStoreTest, AFolderOfSomebodyElseKeepsItsMode)
+{
+    QDir().mkpath(folder);
+    letEverybodyIn();
+    {
+        const OrdinaryUser user;
+        if (QFileInfo(folder).ownerId() == geteuid())
+            GTEST_SKIP() << "only the superuser has folders of others to show";
+        const SqliteSettingsStore store(folder);
+    }
     EXPECT_EQ(modeOf(folder), 0755);
 }
 
@@ -323,6 +359,19 @@ TEST_F(SqliteSettingsStoreTest, HoldsThousandsOfContacts)
     const SqliteSettingsStore next(folder);
     EXPECT_EQ(next.read("Users", "IP10000", ""), "10.0.39.16");
     EXPECT_EQ(next.read("Users", "Nn1", ""), "Nick 1");
+}
+
+TEST_F(SqliteSettingsStoreTest, NothingOfAnEmptiedValueStaysInTheFile)
+{
+    SqliteSettingsStore store(folder);
+    store.write("Users", "Nn1", "Somebody who was removed");
+    ASSERT_EQ(store.save(), std::nullopt);
+    ASSERT_EQ(store.keep({{"Users", "Nn:10.0.0.2", "Somebody else who was removed"}}), std::nullopt);
+    EXPECT_TRUE(fileBytes().contains("who was removed"));
+    store.write("Users", "Nn1", "");
+    store.dropKept();
+    ASSERT_EQ(store.save(), std::nullopt);
+    EXPECT_FALSE(fileBytes().contains("who was removed"));
 }
 
 TEST_F(SqliteSettingsStoreTest, SavingNothingTouchesNothing)
