@@ -30,6 +30,11 @@ void MainLog::clear()
     banner();
 }
 
+void MainLog::changedName(const QString &from, const QString &to)
+{
+    line(opening() + tr("%1 is now called %2 ---").arg(from, to), colours::stateChange);
+}
+
 void MainLog::wentOnline(const QString &name)
 {
     line(opening() + tr("%1 went online ---").arg(name), colours::presence);

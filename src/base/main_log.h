@@ -22,6 +22,7 @@ public:
     /// Empties the log down to its banner.
     void clear();
 
+    void changedName(const QString &from, const QString &to);
     void wentOnline(const QString &name);
     void wentOffline(const QString &name);
     /// state: the state word alone.

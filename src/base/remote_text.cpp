@@ -1,6 +1,7 @@
 #include "base/remote_text.h"
 
 #include "base/limits.h"
+#include "base/shown_name.h"
 
 #include <QCoreApplication>
 #include <QVector>
@@ -104,7 +105,7 @@ QString remoteLine(const QString &text)
 
 QString remoteName(const QString &text)
 {
-    return cutText(remoteLine(text), limits::nameLength);
+    return cutText(withoutInvisible(remoteLine(text)), limits::nameLength);
 }
 
 QString remoteBody(const QString &text)

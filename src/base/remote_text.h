@@ -14,7 +14,8 @@ QString cutText(const QString &text, qsizetype length);
 /// direction overrides are dropped.
 QString remoteLine(const QString &text);
 
-/// A nickname, workstation name or state: one line of at most limits::nameLength characters.
+/// A nickname, workstation name or state: one line of at most limits::nameLength characters, without those that show
+/// nothing (base/shown_name.h).
 QString remoteName(const QString &text);
 
 /// A message body: every kind of line break becomes CR LF, tabs stay, other control characters become blanks.

@@ -10,9 +10,6 @@ namespace nimb
 namespace
 {
 
-/// What a participant is called before it has told its name. Shown, and never stored in another language.
-const QString unheardName = QStringLiteral("(unknown)");
-
 /// Whether it cannot be a peer's address, neither a contact's nor one that is to become a contact.
 bool isNobodys(std::optional<Refusal> refusal)
 {

@@ -1,6 +1,8 @@
 #include "contacts/contact_list.h"
 
+#include "base/look_alike.h"
 #include "base/remote_text.h"
+#include "base/shown_name.h"
 
 #include <algorithm>
 
@@ -10,7 +12,7 @@ namespace nimb
 QString nameOrUnknown(const QString &remote)
 {
     const QString name = remoteName(remote);
-    return name.isEmpty() ? unknownName : name;
+    return isBlank(name) ? unknownName : name;
 }
 
 namespace
@@ -118,12 +120,14 @@ bool ContactList::add(Contact contact)
 {
     if (contact.ip.isEmpty() || m_byAddress.contains(contact.ip))
         return false;
-    auto row = std::make_unique<Row>(Row{std::move(contact), ++m_arrivals});
-    const int where = position(*row);
+    auto made = std::make_unique<Row>(Row{std::move(contact), ++m_arrivals, {}});
+    Row &row = *made;
+    const int where = position(row);
     beginInsertRows({}, where, where);
-    m_byAddress.insert(row->contact.ip, row.get());
-    m_rows.insert(m_rows.begin() + where, std::move(row));
+    m_byAddress.insert(row.contact.ip, &row);
+    m_rows.insert(m_rows.begin() + where, std::move(made));
     endInsertRows();
+    joinLookAlikes(row);
     return true;
 }
 
@@ -138,10 +142,42 @@ bool ContactList::change(const ContactAddress &ip, const std::function<void(Cont
     Q_ASSERT(edited.contact.ip == row->contact.ip);
     if (edited.contact.sortKey != row->contact.sortKey)
         moveRow(from, edited);
+    const bool renamed = edited.contact.nickname != row->contact.nickname;
     row->contact = std::move(edited.contact);
-    const int now = position(*row);
-    Q_EMIT dataChanged(index(now, 0), index(now, ColumnCount - 1));
+    if (renamed) {
+        leaveLookAlikes(*row);
+        joinLookAlikes(*row);
+    }
+    rowChanged(*row);
     return true;
+}
+
+void ContactList::rowChanged(const Row &row)
+{
+    const int now = position(row);
+    Q_EMIT dataChanged(index(now, 0), index(now, ColumnCount - 1));
+}
+
+void ContactList::joinLookAlikes(Row &row)
+{
+    row.look = lookOf(row.contact.nickname);
+    QSet<Row *> &alike = m_lookAlikes[row.look];
+    alike.insert(&row);
+    if (alike.size() != 2)
+        return;
+    const QSet<Row *> both = alike;
+    for (const Row *const one : both)
+        rowChanged(*one);
+}
+
+void ContactList::leaveLookAlikes(Row &row)
+{
+    QSet<Row *> &alike = m_lookAlikes[row.look];
+    alike.remove(&row);
+    if (alike.isEmpty())
+        m_lookAlikes.remove(row.look);
+    else if (alike.size() == 1)
+        rowChanged(**alike.constBegin());
 }
 
 void ContactList::moveRow(int from, Row &row)
@@ -173,8 +209,10 @@ bool ContactList::remove(const ContactAddress &ip)
         return false;
     beginRemoveRows({}, row, row);
     m_byAddress.remove(ip);
+    const std::unique_ptr<Row> gone = std::move(m_rows[static_cast<std::size_t>(row)]);
     m_rows.erase(m_rows.begin() + row);
     endRemoveRows();
+    leaveLookAlikes(*gone);
     return true;
 }
 
@@ -222,7 +260,12 @@ QVariant ContactList::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
-    const Contact &contact = at(index.row());
+    const Row &row = *m_rows[static_cast<std::size_t>(index.row())];
+    const Contact &contact = row.contact;
+    if (role == SharesNameRole)
+        return sharesName(row);
+    if (role == Qt::AccessibleTextRole && index.column() == Nickname && sharesName(row))
+        return QStringLiteral("%1 (%2)").arg(contact.nickname, contact.ip.text());
     if (role == KeyRole)
         return QString(QLatin1String("IP") + contact.ip.text());
     if (role == TagRole)

@@ -8,6 +8,7 @@
 
 #include <QAbstractTableModel>
 #include <QHash>
+#include <QSet>
 
 #include <functional>
 #include <memory>
@@ -18,6 +19,8 @@ namespace nimb
 
 /// What stands where a peer's nickname or workstation is not known. Stored and compared, so never translated.
 inline const QString unknownName = QStringLiteral("[unknown]");
+/// What a participant of a conference is called before it has told its name.
+inline const QString unheardName = QStringLiteral("(unknown)");
 /// Address that ends the stored list.
 inline const QString endOfStoredContacts = QStringLiteral("255.255.255.255");
 
@@ -37,7 +40,7 @@ struct Contact {
     void setUnheard();
 };
 
-/// A name as a peer wrote it, made fit for a row; unknownName when it is empty.
+/// A name as a peer wrote it, made fit for a row; unknownName when nothing of it can be seen.
 QString nameOrUnknown(const QString &remote);
 
 /// Keyed rows, no two with the same address, sorted ascending on the sort key by code point; equal keys keep the
@@ -48,7 +51,8 @@ class ContactList : public QAbstractTableModel, public Senders
 
 public:
     enum Column { Nickname, Workstation, IpAddress, State, PrivateWin, AvatarNum, StateText, ColumnCount };
-    enum Role { KeyRole = Qt::UserRole, TagRole, PictureRole };
+    /// SharesNameRole: another contact has a name that looks like this one's.
+    enum Role { KeyRole = Qt::UserRole, TagRole, PictureRole, SharesNameRole = Qt::UserRole + 4 };
 
     using QAbstractTableModel::QAbstractTableModel;
     ~ContactList() override;
@@ -85,13 +89,20 @@ private:
     struct Row {
         Contact contact;
         quint64 arrival = 0;
+        QString look; ///< lookOf() the nickname
     };
     static bool before(const Row &left, const Row &right);
     int position(const Row &row) const;
     void moveRow(int from, Row &row);
+    /// The row takes or gives up its place among those whose names look like its own.
+    void joinLookAlikes(Row &row);
+    void leaveLookAlikes(Row &row);
+    bool sharesName(const Row &row) const { return m_lookAlikes.value(row.look).size() > 1; }
+    void rowChanged(const Row &row);
 
     std::vector<std::unique_ptr<Row>> m_rows;
     QHash<ContactAddress, Row *> m_byAddress;
+    QHash<QString, QSet<Row *>> m_lookAlikes; ///< by look
     quint64 m_arrivals = 0;
 };
 

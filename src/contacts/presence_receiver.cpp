@@ -47,6 +47,7 @@ void PresenceReceiver::strangerSeen(Ipv4Address ip, const PeerIdentity &peer, bo
 void PresenceReceiver::cameOnline(Ipv4Address ip, const std::optional<PeerIdentity> &peer, bool asks)
 {
     const bool wasPresent = isPresent(m_contacts.find(ip)->presence);
+    const QString formerName = m_contacts.find(ip)->nickname;
     m_contacts.change(ip, [&peer](Contact &contact) {
         if (peer) {
             contact.nickname = nameOrUnknown(peer->nick);
@@ -58,6 +59,8 @@ void PresenceReceiver::cameOnline(Ipv4Address ip, const std::optional<PeerIdenti
     const Contact &contact = *m_contacts.find(ip);
     if (!wasPresent)
         notify({tr("%1 is online").arg(paintedName(contact.nickname)), Presence::online, ip});
+    if (contact.nickname != formerName && formerName != unknownName && formerName != unheardName)
+        m_log.changedName(formerName, contact.nickname);
     m_log.wentOnline(contact.nickname);
     tellPrivateWindow(contact, tr("%1 is online").arg(contact.nickname));
     if (asks)

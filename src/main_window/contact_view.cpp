@@ -23,14 +23,15 @@ public:
     /// A nickname without a state beside it takes the state's room too.
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
-        const bool hasState = !index.siblingAtColumn(ContactList::StateText).data().toString().isEmpty();
-        if (index.column() == ContactList::StateText && !hasState)
+        if (index.column() == ContactList::StateText && !hasState(index))
             return;
         QStyleOptionViewItem placed = option;
         const auto *const view = qobject_cast<const QTreeView *>(option.widget);
-        if (view && index.column() == ContactList::Nickname && !hasState)
+        if (view && index.column() == ContactList::Nickname && !hasState(index))
             placed.rect.setWidth(placed.rect.width() + view->columnWidth(ContactList::StateText));
         PictureDelegate::paint(painter, placed, index);
+        if (showsAddress(placed, index))
+            paintAddress(*painter, placed, index);
     }
 
 protected:
@@ -43,9 +44,48 @@ protected:
             option->palette.setColor(QPalette::Text, mutedTextColour(option->palette));
         if (index.column() == ContactList::IpAddress)
             shrinkToFit(*option);
+        if (showsAddress(*option, index)) {
+            const int picture = index.column() == ContactList::Nickname ? pictureSide + gap : 0;
+            const int room = option->rect.width() - picture - 3 * gap - addressWidth(*option, index);
+            option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight, qMax(room, 2 * gap));
+        }
     }
 
 private:
+    static constexpr int gap = 6;
+
+    static bool hasState(const QModelIndex &index)
+    {
+        return !index.siblingAtColumn(ContactList::StateText).data().toString().isEmpty();
+    }
+
+    /// Names that look alike are told apart by what cannot be chosen, unless it stands in a column of its own. It takes
+    /// its room from the state where there is one: the name matters more.
+    static bool showsAddress(const QStyleOptionViewItem &option, const QModelIndex &index)
+    {
+        const auto *const view = qobject_cast<const QTreeView *>(option.widget);
+        if (!view || !view->isColumnHidden(ContactList::IpAddress) || !index.data(ContactList::SharesNameRole).toBool())
+            return false;
+        const bool stateIsSeen = hasState(index) && !view->isColumnHidden(ContactList::StateText);
+        return index.column() == (stateIsSeen ? ContactList::StateText : ContactList::Nickname);
+    }
+
+    static int addressWidth(const QStyleOptionViewItem &option, const QModelIndex &index)
+    {
+        return option.fontMetrics.horizontalAdvance(paintedName(index.data(ContactList::TagRole).toString()));
+    }
+
+    static void paintAddress(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index)
+    {
+        const bool selected = option.state.testFlag(QStyle::State_Selected);
+        painter.save();
+        painter.setFont(option.font);
+        painter.setPen(selected ? option.palette.color(QPalette::HighlightedText) : mutedTextColour(option.palette));
+        painter.drawText(option.rect.adjusted(0, 0, -gap, 0), Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
+                         paintedName(index.data(ContactList::TagRole).toString()));
+        painter.restore();
+    }
+
     /// The column of addresses has a fixed width, too narrow for long ones in many fonts; an address with an ellipsis
     /// would be of no use.
     static void shrinkToFit(QStyleOptionViewItem &option)

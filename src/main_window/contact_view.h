@@ -27,7 +27,8 @@ private:
     bool m_captionsShown = false;
 };
 
-/// Rows are those of ContactList. Painted: picture, nickname with an ellipsis where it is long, details muted.
+/// Rows are those of ContactList. Painted: picture, nickname with an ellipsis where it is long, details muted. Behind a
+/// nickname that looks like another one stands the address, where it has no column.
 class ContactView : public QTreeView
 {
     Q_OBJECT

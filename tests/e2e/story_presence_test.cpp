@@ -195,6 +195,24 @@ TEST_F(StoryPresence, WhatIsNotUnderstoodStandsInTheLogAndIsNotAnswered)
                           "--- garbage received  (two lines) ---"));
 }
 
+TEST_F(StoryPresence, AContactThatChangesItsNameIsSaidAndNothingUnseenIsInIt)
+{
+    RunningCopy bob({"127.0.31.1", "BOB-PC"}, profile(port, {{"127.0.31.2", "Ann", "A"}}));
+    bob.start({"Bob"});
+    ann.hearUntil("!STATUS Online");
+    ann.send("127.0.31.1", "!ONLINE 127.0.31.2 A B\xE2\x80\x8Bo\xC2\xADs\xE3\x85\xA4s");
+    ann.send("127.0.31.1", "-I am the boss");
+    EXPECT_EQ(ann.next(), "?AVATARHEAD");
+    EXPECT_THAT(logHeardBy(ann, MainWindow::of("Bob"), PrivateWindow::with("Boss")),
+                ContainsRegex("--- [^\n]+ @ [0-9][0-9]:[0-9][0-9] - Ann is now called Boss ---\r\n"
+                              "--- [^\n]+ @ [0-9][0-9]:[0-9][0-9] - Boss went online ---"));
+    ann.send("127.0.31.1", "!ONLINE 127.0.31.2 A \xE3\x85\xA4 \xE2\x80\x8B");
+    ann.send("127.0.31.1", "?ONLINE");
+    ann.hearUntil("!STATUS Online");
+    EXPECT_EQ(bob.end(), 0);
+    EXPECT_THAT(bob.storedContacts(), ElementsAre(StoredContact{"127.0.31.2", "[unknown]", "A"}));
+}
+
 TEST_F(StoryPresence, AContactThatLeavesStandsBehindThoseWhoAreThere)
 {
     WirePeer cleo("127.0.31.3", port);

@@ -336,6 +336,26 @@ TEST_F(FrmMain, TheToolTipFollowsThePointer)
         << viewport->toolTip().toStdString();
 }
 
+TEST_F(FrmMain, NamesThatLookAlikeAreToldApartByTheirAddresses)
+{
+    QTreeView &list = windows.list();
+    const auto picture = [&] {
+        list.clearSelection();
+        list.clearFocus();
+        const QRect name = list.visualRect(list.model()->index(0, 0));
+        return list.viewport()->grab({0, name.top(), list.viewport()->width(), name.height()}).toImage();
+    };
+    const QImage alone = picture();
+    windows.engine.contacts().add([&] {
+        Contact twin = windows.engine.contacts().at(0);
+        twin.ip = QStringLiteral("10.0.0.99");
+        return twin;
+    }());
+    EXPECT_NE(picture(), alone);
+    windows.engine.contacts().remove(QStringLiteral("10.0.0.99"));
+    EXPECT_EQ(picture(), alone);
+}
+
 TEST_F(FrmMain, RescanningAsksEveryContactAndDisablesItself)
 {
     auto &button = windows.control<QPushButton>("RescanBtn");

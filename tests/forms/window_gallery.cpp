@@ -72,6 +72,7 @@ void fill(RealWindows &windows)
     windows.arrive("192.168.1.44", "!STATUS AWAY Lunch");
     windows.arrive("192.168.1.31", "!STATUS ONLINE");
     windows.arrive("192.168.1.107", "!ONLINE 192.168.1.107 PC-ELENI \xCE\x95\xCE\xBB\xCE\xAD\xCE\xBD\xCE\xB7");
+    windows.arrive("192.168.1.32", "!ONLINE 192.168.1.32 PC-32 Cl\xD0\xB5\xD0\xBE"); // Cyrillic in the end
     windows.arrive("192.168.1.45", "!DANCE");
     windows.arrive("192.168.1.45", "what is this?");
     windows.click(0);

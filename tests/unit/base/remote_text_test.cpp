@@ -32,6 +32,25 @@ TEST(RemoteText, DirectionOverridesAreDroppedInNames)
     EXPECT_EQ(remoteName(QString::fromUtf16(u"A\u200Fb")), QString::fromUtf16(u"A\u200Fb"));
 }
 
+TEST(RemoteText, WhatShowsNothingIsDroppedInNames)
+{
+    EXPECT_EQ(remoteName(QString::fromUtf16(u"A\u200Bn\u00ADn\uFEFF\u2060")), QStringLiteral("Ann"));
+    EXPECT_EQ(remoteName(QString::fromUtf16(u"\u3164A\uFFA0n\u115Fn\u2800")), QStringLiteral("Ann"));
+    EXPECT_EQ(remoteName(QString::fromUtf16(u"A\u200Dnn\uFE0F\u034F")), QStringLiteral("Ann"));
+    EXPECT_EQ(remoteName(QString::fromUcs4(U"Ann\U000E0041\U000E0100", 5)), QStringLiteral("Ann"));
+    EXPECT_EQ(remoteName(QString::fromUtf16(u"\u0645\u200C")), QString::fromUtf16(u"\u0645")) << "joins nothing";
+}
+
+TEST(RemoteText, JoinersInsideWordsAndEmojiStayInNames)
+{
+    for (const char16_t *const name :
+         {u"\u0645\u06CC\u200C\u062E\u0648\u0627\u0647\u0645", // a Persian word
+          u"\u0915\u094D\u200D\u0937",                         // Devanagari
+          u"Zoe \U0001F469\u200D\U0001F4BB", u"\u2764\uFE0F\u200D\U0001F525", u"\U0001F3F3\uFE0F\u200D\U0001F308",
+          u"1\uFE0F\u20E3", u"\U0001F3F4\U000E0067\U000E0062\U000E007F", u"\U0001F44B\U0001F3FD"})
+        EXPECT_EQ(remoteName(QString::fromUtf16(name)), QString::fromUtf16(name));
+}
+
 TEST(RemoteText, NamesAreKeptTo255Characters)
 {
     EXPECT_EQ(remoteName(QString(300, u'x')).size(), 255);

@@ -6,6 +6,7 @@
 #include <QRandomGenerator>
 
 #include <array>
+#include <map>
 
 namespace nimb
 {
@@ -35,6 +36,12 @@ TEST(ContactListModel, KeepsItsPromisesThroughTenThousandRandomChanges)
         case 1:
             list.remove(ip);
             break;
+        case 2:
+            list.change(ip, [presence, letter = random.bounded(4)](Contact &contact) {
+                contact.nickname = QString(QChar(u'a' + letter));
+                contact.setPresence(presence);
+            });
+            break;
         default:
             list.change(ip, [presence](Contact &contact) { contact.setPresence(presence); });
         }
@@ -44,6 +51,66 @@ TEST(ContactListModel, KeepsItsPromisesThroughTenThousandRandomChanges)
             ASSERT_EQ(list.rowOf(list.at(row).ip), row) << "step " << step;
     }
     EXPECT_GT(list.rowCount(), 0);
+}
+
+class NamesInTheList : public testing::Test
+{
+protected:
+    NamesInTheList()
+    {
+        QObject::connect(&list, &ContactList::dataChanged, &list,
+                         [this](const QModelIndex &first) { ++changes[list.at(first.row()).ip.text()]; });
+    }
+    void add(const char *ip, const char16_t *nickname)
+    {
+        Contact contact;
+        contact.ip = QString::fromLatin1(ip);
+        contact.nickname = QString::fromUtf16(nickname);
+        contact.setPresence(Presence::online);
+        list.add(contact);
+    }
+    void rename(const char *ip, const char16_t *nickname)
+    {
+        list.change(QString::fromLatin1(ip), [nickname](Contact &contact) {
+            contact.nickname = QString::fromUtf16(nickname);
+            contact.setPresence(contact.presence);
+        });
+    }
+    QVariant of(const char *ip, int role) { return list.index(list.rowOf(QString::fromLatin1(ip)), 0).data(role); }
+    bool shares(const char *ip) { return of(ip, ContactList::SharesNameRole).toBool(); }
+
+    ContactList list;
+    std::map<QString, int> changes; ///< by address
+};
+
+TEST_F(NamesInTheList, ThatLookAlikeAreMarkedWithWhomeverTheyLookLike)
+{
+    add("10.0.0.2", u"Ann");
+    EXPECT_FALSE(shares("10.0.0.2"));
+    add("10.0.0.3", u"\u0410nn"); // with a Cyrillic A
+    add("10.0.0.4", u"Ben");
+    EXPECT_TRUE(shares("10.0.0.2"));
+    EXPECT_TRUE(shares("10.0.0.3"));
+    EXPECT_FALSE(shares("10.0.0.4"));
+    EXPECT_EQ(changes[QStringLiteral("10.0.0.2")], 1) << "it is painted anew";
+    EXPECT_EQ(of("10.0.0.2", Qt::DisplayRole).toString(), QStringLiteral("Ann"));
+    EXPECT_EQ(of("10.0.0.2", Qt::AccessibleTextRole).toString(), QStringLiteral("Ann (10.0.0.2)"));
+    EXPECT_EQ(of("10.0.0.4", Qt::AccessibleTextRole).toString(), QString());
+}
+
+TEST_F(NamesInTheList, AreNotMarkedAnyMoreWhenTheOtherHasGoneOrIsCalledOtherwise)
+{
+    add("10.0.0.2", u"Ann");
+    add("10.0.0.3", u"ann");
+    rename("10.0.0.3", u"Cleo");
+    EXPECT_FALSE(shares("10.0.0.2"));
+    EXPECT_FALSE(shares("10.0.0.3"));
+    rename("10.0.0.3", u"ANN");
+    EXPECT_TRUE(shares("10.0.0.2"));
+    changes.clear();
+    list.remove(QStringLiteral("10.0.0.3"));
+    EXPECT_FALSE(shares("10.0.0.2"));
+    EXPECT_EQ(changes[QStringLiteral("10.0.0.2")], 1) << "it is painted anew";
 }
 
 } // namespace

@@ -36,7 +36,9 @@ TEST_F(PresenceReceiverTest, AContactThatComesOnlineIsShownLoggedAndNotified)
     EXPECT_EQ(copy.contact("10.0.0.3").nickname, QStringLiteral("Big Ben"));
     EXPECT_EQ(copy.contact("10.0.0.3").workstation, QStringLiteral("PC-BEN"));
     EXPECT_EQ(copy.contact("10.0.0.3").sortKey, QStringLiteral("A_BIG BEN"));
-    EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- 21/11/2026 @ 14:05 - Big Ben went online ---"));
+    EXPECT_THAT(copy.view.log.lines(),
+                ElementsAre("--- 21/11/2026 @ 14:05 - Ben is now called Big Ben ---",
+                            "--- 21/11/2026 @ 14:05 - Big Ben went online ---"));
     EXPECT_EQ(copy.view.log.colourOfLastPiece(), 0x808080u);
     EXPECT_THAT(copy.notifications.rows, ElementsAre("Big Ben is online [green]"));
     EXPECT_EQ(copy.notifications.starts, 1);
@@ -80,6 +82,33 @@ TEST_F(PresenceReceiverTest, WhoIsOnlineInOwnWordsAnswersWithoutAState)
     EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "!STATUS ONLINE on the phone"}));
     copy.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC Ann");
     EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "!ONLINE 10.0.0.1 HERE Me"}));
+}
+
+TEST_F(PresenceReceiverTest, ANameOfWhichNothingCanBeSeenIsUnknown)
+{
+    for (const char *const blank :
+         {" ", "   ", "\xE3\x85\xA4", "\xE2\x80\x8B\xE2\x80\x8E ", "\xE2\xA0\x80", "\xE3\x80\x80"}) {
+        copy.arrive("10.0.0.2", std::string("!ONLINE 10.0.0.2 PC ") + blank);
+        EXPECT_EQ(copy.contact("10.0.0.2").nickname, QStringLiteral("[unknown]"));
+    }
+}
+
+TEST_F(PresenceReceiverTest, AContactThatChangesItsNameIsSaidInTheLog)
+{
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
+    copy.view.log.clear();
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC The boss");
+    EXPECT_THAT(copy.view.log.lines(),
+                ElementsAre("--- 21/11/2026 @ 14:05 - Ann is now called The boss ---",
+                            "--- 21/11/2026 @ 14:05 - The boss went online ---"));
+    copy.view.log.clear();
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 OTHER-PC The boss");
+    EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- 21/11/2026 @ 14:05 - The boss went online ---"));
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC ");
+    copy.view.log.clear();
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
+    EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- 21/11/2026 @ 14:05 - Ann went online ---"))
+        << "it had none before";
 }
 
 TEST_F(PresenceReceiverTest, AnInvisibleCopyDoesNotAnswer)
@@ -214,7 +243,9 @@ TEST_F(PresenceReceiverTest, LongGarbageIsQuotedInPart)
 TEST_F(PresenceReceiverTest, NamesCannotForgeLines)
 {
     copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann\r\n--- Ben went online ---");
-    EXPECT_EQ(copy.view.log.lines().size(), 1u);
+    EXPECT_THAT(copy.view.log.lines(),
+                ElementsAre("--- 21/11/2026 @ 14:05 - Ann is now called Ann --- Ben went online --- ---",
+                            "--- 21/11/2026 @ 14:05 - Ann --- Ben went online --- went online ---"));
     copy.arrive("10.0.0.2", "!STATUS a\r\nb");
     EXPECT_EQ(copy.contact("10.0.0.2").state, QStringLiteral("a b"));
 }
