@@ -17,10 +17,18 @@ constexpr qsizetype nameLength = 255;
 constexpr qsizetype paintedNameLength = 64;
 /// Characters of a received text that are shown: laying out one line of 64,000 takes seconds.
 constexpr qsizetype shownTextLength = 8000;
+/// Lines of a received text that are shown: more push everything else out of sight.
+constexpr int shownLines = 200;
+/// Emoticons of one message that are drawn: fixed, other copies show the rest as text too.
+constexpr int messagePictures = 10;
 /// Lines a log holds; beyond it re-layout and memory grow without use to anybody.
 constexpr int logLines = 50000;
 /// Lines dropped at a time from a full log: dropping one by one lays the document out anew for each line.
 constexpr int logLinesDropped = 1000;
+/// Characters a log holds: lines of 8000 would take a gigabyte long before there are too many of them.
+constexpr int logCharacters = 4'000'000;
+/// Pictures a log holds: each takes as much memory as a hundred lines of text.
+constexpr int logPictures = 5000;
 /// Contact rows up to which strangers are added: a subnet of 65,000 forged addresses must not fill the list.
 constexpr int contactsFromStrangers = 10000;
 /// Characters of what is being typed that the peer sees: the last ones are what matters.

@@ -13,6 +13,7 @@ namespace
 
 constexpr char16_t carriageReturn = u'\r';
 constexpr char16_t lineFeed = u'\n';
+const QLatin1String lineBreak("\r\n");
 constexpr char16_t popDirectionalFormatting = 0x202C;
 constexpr char16_t popDirectionalIsolate = 0x2069;
 
@@ -65,12 +66,21 @@ QString closingsOf(const QString &line)
     return open;
 }
 
+/// Behind the last of the first lines, so many of them, or behind the whole text when it has no more.
+qsizetype endOfLines(const QString &text, int lines)
+{
+    qsizetype end = text.indexOf(lineBreak);
+    for (int line = 1; line < lines && end >= 0; ++line)
+        end = text.indexOf(lineBreak, end + lineBreak.size());
+    return end < 0 ? text.size() : end;
+}
+
 QString withClosedDirections(const QString &text)
 {
-    QStringList lines = text.split(QStringLiteral("\r\n"));
+    QStringList lines = text.split(lineBreak);
     for (QString &line : lines)
         line += closingsOf(line);
-    return lines.join(QStringLiteral("\r\n"));
+    return lines.join(lineBreak);
 }
 
 } // namespace
@@ -116,7 +126,7 @@ QString remoteBody(const QString &text)
         const char16_t c = text[i].unicode();
         if (isLineBreak(c)) {
             i += lengthOfBreak(text, i) - 1;
-            body += QStringLiteral("\r\n");
+            body += lineBreak;
         } else {
             body += isUnshowable(c) && c != u'\t' ? QChar(u' ') : QChar(c);
         }
@@ -126,11 +136,15 @@ QString remoteBody(const QString &text)
 
 QString shownText(const QString &text)
 {
-    QString shown = withClosedDirections(cutText(text, limits::shownTextLength));
-    if (text.size() <= limits::shownTextLength)
+    const qsizetype linesEnd = endOfLines(text, limits::shownLines);
+    const QString kept = cutText(text, qMin(linesEnd, limits::shownTextLength));
+    const QString shown = withClosedDirections(kept);
+    if (kept.size() == text.size())
         return shown;
-    const qsizetype more = text.size() - cutText(text, limits::shownTextLength).size();
-    return shown + QCoreApplication::translate("RemoteText", "... (%1 more characters)").arg(more);
+    if (linesEnd <= limits::shownTextLength)
+        return shown
+            + QCoreApplication::translate("RemoteText", "... (%1 more lines)").arg(text.mid(linesEnd).count(lineBreak));
+    return shown + QCoreApplication::translate("RemoteText", "... (%1 more characters)").arg(text.size() - kept.size());
 }
 
 QString paintedName(const QString &name)

@@ -21,8 +21,8 @@ QString remoteName(const QString &text);
 /// A message body: every kind of line break becomes CR LF, tabs stay, other control characters become blanks.
 QString remoteBody(const QString &text);
 
-/// What a log shows of a text: at most limits::shownTextLength characters, then a remark that says how many more
-/// there are. Direction overrides are closed at the end of their line.
+/// What a log shows of a text: at most limits::shownLines lines and limits::shownTextLength characters, then a remark
+/// that says how many more there are. Direction overrides are closed at the end of their line.
 QString shownText(const QString &text);
 
 /// A name for a menu or a pop-up: at most limits::paintedNameLength characters, then an ellipsis.

@@ -21,6 +21,9 @@ public:
     /// Colour of what is inserted from now on.
     virtual void setSelColor(Colour colour) = 0;
     virtual void setSelFont(const LogFont &font) = 0;
+    /// Whether the lines that are begun from now on go on with what stands before them, as those of a message do. They
+    /// are shown so that nobody takes one for a line of its own.
+    virtual void setSelContinues(bool continues) = 0;
     /// Replaces the selection by plain text; CR LF is a line break.
     virtual void setSelText(const QString &text) = 0;
     /// Replaces the selection by a fragment of rich text, which may be a picture; see log/metafile.h for its form.

@@ -1,5 +1,6 @@
 #include "log/emoticons.h"
 
+#include "base/limits.h"
 #include "base/remote_text.h"
 #include "log/emoticon_tables.h"
 #include "log/metafile.h"
@@ -11,8 +12,6 @@ namespace nimb
 {
 namespace
 {
-
-constexpr int picturesACall = 10;
 
 struct Match {
     std::size_t picture; ///< from 1
@@ -43,12 +42,8 @@ qsizetype firstTrigger(QStringView rest)
     return found == rest.end() ? -1 : found - rest.begin();
 }
 
-} // namespace
-
-void AddTextWithEmoticons(RichTextLog &log, const QString &text, Colour colour)
+void appendBody(RichTextLog &log, QStringView rest, Colour colour)
 {
-    const QString shown = shownText(text);
-    QStringView rest = shown;
     int pictures = 0;
     for (;;) {
         const qsizetype trigger = firstTrigger(rest);
@@ -59,7 +54,7 @@ void AddTextWithEmoticons(RichTextLog &log, const QString &text, Colour colour)
 
         const std::optional<Match> match = emoticonAt(rest);
         const qsizetype length = match ? match->length : 1;
-        if (match && pictures < picturesACall) {
+        if (match && pictures < limits::messagePictures) {
             appendPicture(log, emoticonFragment(match->picture), rest.left(length).toString());
             ++pictures;
         } else {
@@ -67,6 +62,15 @@ void AddTextWithEmoticons(RichTextLog &log, const QString &text, Colour colour)
         }
         rest = rest.mid(length);
     }
+}
+
+} // namespace
+
+void AddTextWithEmoticons(RichTextLog &log, const QString &text, Colour colour)
+{
+    log.setSelContinues(true);
+    appendBody(log, shownText(text), colour);
+    log.setSelContinues(false);
 }
 
 } // namespace nimb

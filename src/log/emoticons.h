@@ -9,7 +9,8 @@ namespace nimb
 {
 
 /// Appends the body at the end of the log in this colour. The caller writes what stands before it and the line break
-/// behind it. The body is shown as far as limits::shownTextLength goes.
+/// behind it. The body is shown as far as limits::shownTextLength and limits::shownLines go; its lines behind the first
+/// continue the one that the caller has begun.
 void AddTextWithEmoticons(RichTextLog &log, const QString &text, Colour colour);
 
 } // namespace nimb

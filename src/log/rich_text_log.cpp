@@ -31,6 +31,35 @@ constexpr std::chrono::milliseconds frame{16};
 constexpr std::size_t piecesAtOnce = 1000;
 constexpr qreal smallestLetters = 5, largestLetters = 48; ///< points
 constexpr int wheelNotch = 120;
+/// Pixels by which what continues a line stands further in than the line.
+constexpr int continuationIndent = 18;
+
+/// A line of its own: only what does not fit into it is indented.
+QTextBlockFormat ownLine()
+{
+    QTextBlockFormat format;
+    format.setIndent(1); // at the side from which the line is read
+    format.setTextIndent(-continuationIndent);
+    return format;
+}
+
+QTextBlockFormat continuedLine()
+{
+    QTextBlockFormat format;
+    format.setIndent(1);
+    return format;
+}
+
+qsizetype picturesIn(const QString &text)
+{
+    return text.count(QChar(QChar::ObjectReplacementCharacter));
+}
+
+/// What is left of a number that has become too large: some room beyond the limit, for each removal costs a layout.
+constexpr qsizetype withRoom(qsizetype limit)
+{
+    return limit - limit / 50;
+}
 
 /// A line in which links are looked for.
 struct SearchedLine {
@@ -118,6 +147,7 @@ RichTextLogEdit::RichTextLogEdit(QWidget *parent)
     m_pictures = new LogPictures([this] { return devicePixelRatioF() * zoomFactor(); },
                                  [this] { return devicePixelRatioF(); }, this);
     document()->documentLayout()->registerHandler(QTextFormat::ImageObject, m_pictures);
+    prepareLines();
     m_frame.setSingleShot(true);
     m_frame.setTimerType(Qt::PreciseTimer);
     // Layout goes on after a change has been made, so the end may move at any time; only the reader leaves it.
@@ -211,7 +241,7 @@ void RichTextLogEdit::gather(const QString &text, const QTextCharFormat &format)
 {
     if (text.isEmpty())
         return;
-    m_gathered.push_back({text, format});
+    m_gathered.push_back({text, format, m_continues});
     m_gatheredLength += text.size();
     if (m_gathered.size() == piecesAtOnce)
         return m_frame.start(0);
@@ -242,7 +272,7 @@ void RichTextLogEdit::insertGathered()
     const QTextCursor reader = textCursor();
     const int anchor = reader.anchor(), position = reader.position(), place = m_caret.position();
     for (const Piece &piece : std::exchange(m_gathered, {}))
-        m_caret.insertText(piece.text, piece.format);
+        insert(piece);
     m_gatheredLength = 0;
     // New text at the end of what a reader has selected would become part of it.
     if (qMax(anchor, position) != place)
@@ -251,6 +281,23 @@ void RichTextLogEdit::insertGathered()
     kept.setPosition(anchor);
     kept.setPosition(position, QTextCursor::KeepAnchor);
     setTextCursor(kept);
+}
+
+void RichTextLogEdit::insert(const Piece &piece)
+{
+    qsizetype from = 0;
+    for (qsizetype end = 0; (end = piece.text.indexOf(u'\n', from)) >= 0; from = end + 1) {
+        m_caret.insertText(piece.text.mid(from, end - from), piece.format);
+        m_caret.insertBlock(piece.continues ? continuedLine() : ownLine(), piece.format);
+    }
+    m_caret.insertText(piece.text.mid(from), piece.format);
+    m_pictureCount += picturesIn(piece.text);
+}
+
+void RichTextLogEdit::prepareLines()
+{
+    document()->setIndentWidth(continuationIndent);
+    m_caret.setBlockFormat(ownLine());
 }
 
 /// Looks through this line and those behind it that are complete.
@@ -280,12 +327,25 @@ void RichTextLogEdit::markLinks(QTextBlock line)
 /// Apart from the insertion: one change from the first to the last line would lay all of them out anew.
 void RichTextLogEdit::dropOldLines()
 {
-    if (document()->blockCount() <= limits::logLines)
+    qsizetype lines = document()->blockCount(), characters = document()->characterCount();
+    const auto bound = [](qsizetype number, qsizetype limit, qsizetype less) { return number > limit ? less : limit; };
+    const qsizetype mostLines = bound(lines, limits::logLines, limits::logLines - limits::logLinesDropped);
+    const qsizetype mostCharacters = bound(characters, limits::logCharacters, withRoom(limits::logCharacters));
+    const qsizetype mostPictures = bound(m_pictureCount, limits::logPictures, withRoom(limits::logPictures));
+    QTextBlock first = document()->begin();
+    for (; first.next().isValid(); first = first.next(), --lines) {
+        if (lines <= mostLines && characters <= mostCharacters && m_pictureCount <= mostPictures)
+            break;
+        characters -= first.length();
+        m_pictureCount -= picturesIn(first.text());
+    }
+    if (first.position() == 0)
         return;
     QTextCursor oldest(document());
-    oldest.movePosition(QTextCursor::NextBlock, QTextCursor::KeepAnchor,
-                        document()->blockCount() - limits::logLines + limits::logLinesDropped);
+    oldest.setPosition(first.position(), QTextCursor::KeepAnchor);
+    const QTextBlockFormat format = first.blockFormat();
     oldest.removeSelectedText();
+    oldest.setBlockFormat(format); // or it has that of the line that has gone
 }
 
 void RichTextLogEdit::clear()
@@ -293,8 +353,11 @@ void RichTextLogEdit::clear()
     m_gathered.clear();
     m_gatheredLength = 0;
     document()->clear();
+    m_pictureCount = 0;
     m_caret.setPosition(0);
     m_format = QTextCharFormat();
+    m_continues = false;
+    prepareLines();
 }
 
 bool RichTextLogEdit::isAtEnd() const

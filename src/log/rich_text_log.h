@@ -17,9 +17,10 @@ namespace nimb
 
 class LogPictures;
 
-/// Bounded: beyond limits::logLines the oldest lines go. What is written is gathered and goes in at most once a frame,
-/// so that a burst costs one layout and one painting. Follows new text only while the reader is at the end. Colours
-/// are adapted to the ground, and again when it changes.
+/// Bounded: beyond limits::logLines, logCharacters and logPictures the oldest lines go. Lines that are broken because
+/// the window is narrow, and those that continue another, are indented. What is written is gathered and goes in at most
+/// once a frame, so that a burst costs one layout and one painting. Follows new text only while the reader is at the
+/// end. Colours are adapted to the ground, and again when it changes.
 class RichTextLogEdit : public QTextEdit, public RichTextLog
 {
     Q_OBJECT
@@ -42,6 +43,7 @@ public:
     void setSelColor(Colour colour) override;
     /// The font of the whole log.
     void setSelFont(const LogFont &font) override;
+    void setSelContinues(bool continues) override { m_continues = continues; }
     void setSelText(const QString &text) override;
     void setSelRtf(const QString &fragment, const QString &alternative) override;
     void clear() override;
@@ -63,6 +65,7 @@ private:
     struct Piece {
         QString text;
         QTextCharFormat format;
+        bool continues = false; ///< the lines that it begins continue the one before
     };
 
     void buildCommands();
@@ -71,6 +74,9 @@ private:
     bool isAtEnd() const;
     void followEnd();
     void insertGathered();
+    void insert(const Piece &piece);
+    /// Of the first line of an empty log, and of those behind it.
+    void prepareLines();
     void markLinks(QTextBlock line);
     void dropOldLines();
     void adaptColours();
@@ -81,12 +87,14 @@ private:
 
     QTextCursor m_caret;
     QTextCharFormat m_format;
+    bool m_continues = false;
     std::optional<LogFont> m_font;
     int m_zoom = 0; ///< points
     bool m_detectsLinks = false;
     std::vector<Piece> m_gathered;
     qsizetype m_gatheredLength = 0;
-    bool m_follows = true; ///< the reader is at the end and stays there
+    qsizetype m_pictureCount = 0; ///< in the document
+    bool m_follows = true;        ///< the reader is at the end and stays there
     QTimer m_frame;
     QElapsedTimer m_sinceWritten;
     int m_wheel = 0; ///< turned since the last whole notch, in eighths of a degree

@@ -127,6 +127,73 @@ TEST_F(RichTextLogTest, AFullLogDropsAThousandOfItsOldestLines)
     EXPECT_EQ(log.document()->lastBlock().previous().text(), QStringLiteral("last"));
 }
 
+TEST_F(RichTextLogTest, AFullLogOfLongLinesDropsTheOldest)
+{
+    const QString line = QString(7990, u'x') + QStringLiteral("\r\n");
+    for (int i = 0; i < 520; ++i) {
+        appendText(log, line, 0);
+        if (i % 100 == 0)
+            log.writeGathered();
+    }
+    log.writeGathered();
+    EXPECT_LE(log.document()->characterCount(), limits::logCharacters);
+    EXPECT_GE(log.document()->characterCount(), limits::logCharacters * 9 / 10);
+}
+
+TEST_F(RichTextLogTest, AFullLogOfPicturesDropsTheOldest)
+{
+    const QString body = QStringLiteral(":) ").repeated(limits::messagePictures);
+    const int messages = limits::logPictures / limits::messagePictures;
+    for (int i = 0; i < messages; ++i)
+        message(body.toUtf8().constData());
+    EXPECT_EQ(log.document()->blockCount(), messages + 1);
+    message(":)");
+    const qsizetype pictures = log.toPlainText().count(QChar(QChar::ObjectReplacementCharacter));
+    EXPECT_LE(pictures, limits::logPictures);
+    EXPECT_GE(pictures, limits::logPictures * 9 / 10);
+    EXPECT_TRUE(log.document()->lastBlock().previous().text().startsWith(QStringLiteral("Ann> ")));
+}
+
+/// Where the first character of a line stands, and of what a narrow window has broken off it.
+TEST_F(RichTextLogTest, WhatContinuesALineStandsFurtherInThanALineOfItsOwn)
+{
+    message("first\r\nBen> I never said this");
+    message("second");
+    append("--- a status line ---\r\n");
+    std::vector<qreal> lefts;
+    for (QTextBlock line = log.document()->begin(); line.next().isValid(); line = line.next())
+        lefts.push_back(line.layout()->lineAt(0).x());
+    ASSERT_EQ(lefts.size(), 4u);
+    EXPECT_GT(lefts[1], lefts[0] + 10);
+    EXPECT_EQ(lefts[2], lefts[0]);
+    EXPECT_EQ(lefts[3], lefts[0]);
+    EXPECT_EQ(log.toPlainText(),
+              QStringLiteral("Ann> first\nBen> I never said this\nAnn> second\n--- a status line ---\n"));
+}
+
+TEST_F(RichTextLogTest, WhatDoesNotFitIntoALineStandsFurtherInToo)
+{
+    message(("blanks" + std::string(200, ' ') + "Ben> I never said this").c_str());
+    const QTextLayout &layout = *log.document()->begin().layout();
+    ASSERT_GE(layout.lineCount(), 2);
+    EXPECT_GT(layout.lineAt(1).x(), layout.lineAt(0).x() + 10);
+    log.clear();
+    message("\xD7\xA9\xD7\x9C\xD7\x95\xD7\x9D\r\n\xD7\xA9\xD7\x9C\xD7\x95\xD7\x9D");
+    const QTextBlock continued = log.document()->findBlockByNumber(1);
+    ASSERT_EQ(continued.textDirection(), Qt::RightToLeft);
+    EXPECT_EQ(continued.blockFormat().indent(), 1) << "at the right";
+}
+
+TEST_F(RichTextLogTest, TheFirstLineThatAFullLogKeepsLooksAsItDid)
+{
+    for (int i = 0; i < limits::logLines / 2; ++i)
+        message("one\r\ntwo");
+    log.writeGathered();
+    const QTextBlock first = log.document()->firstBlock();
+    EXPECT_LT(log.document()->blockCount(), limits::logLines);
+    EXPECT_EQ(first.blockFormat().textIndent() < 0, first.text().startsWith(QStringLiteral("Ann> ")));
+}
+
 TEST_F(RichTextLogTest, ReadersMarkTextWithoutChangingWhereNewTextGoes)
 {
     lines(3);

@@ -23,6 +23,7 @@ public:
     void setSelStart(qsizetype position) override { require(position == m_length, "text is only appended"); }
     void setSelColor(Colour) override { }
     void setSelFont(const LogFont &) override { }
+    void setSelContinues(bool) override { }
     void setSelText(const QString &piece) override { note(piece, false); }
     void setSelRtf(const QString &, const QString &alternative) override { note(alternative, true); }
     void clear() override { }

@@ -30,18 +30,20 @@ public:
     struct Piece {
         QString text;
         Colour colour = 0;
-        QString fragment = {}; ///< of a picture, whose text is its alternative
+        QString fragment = {};  ///< of a picture, whose text is its alternative
+        bool continues = false; ///< the lines that it begins continue the one before
     };
 
     qsizetype textLength() const override { return text().size(); }
     void setSelStart(qsizetype position) override { m_caretAtEnd = position == textLength(); }
     void setSelColor(Colour colour) override { m_colour = colour; }
     void setSelFont(const LogFont &font) override { lastFont = font; }
+    void setSelContinues(bool continues) override { m_continues = continues; }
     void setSelText(const QString &text) override
     {
         if (!m_caretAtEnd)
             qFatal("text inserted before the end of a log");
-        pieces.push_back({text, m_colour});
+        pieces.push_back({.text = text, .colour = m_colour, .continues = m_continues});
         if (changed)
             changed();
     }
@@ -83,6 +85,7 @@ public:
 
 private:
     Colour m_colour = 0;
+    bool m_continues = false;
     bool m_caretAtEnd = true;
 };
 

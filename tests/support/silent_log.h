@@ -14,6 +14,7 @@ public:
     void setSelStart(qsizetype) override { }
     void setSelColor(Colour) override { }
     void setSelFont(const LogFont &) override { }
+    void setSelContinues(bool) override { }
     void setSelText(const QString &) override { ++pieces; }
     void setSelRtf(const QString &, const QString &) override { ++pieces; }
     void clear() override { }

@@ -77,6 +77,16 @@ TEST(RemoteText, ALongTextIsShownInPartAndSaysSo)
     EXPECT_EQ(shownText(QString(8123, u'x')), QString(8000, u'x') + QStringLiteral("... (123 more characters)"));
 }
 
+TEST(RemoteText, ManyLinesAreShownInPartAndSaySo)
+{
+    const QString line = QStringLiteral("x\r\n");
+    EXPECT_EQ(shownText(line.repeated(199) + u'x'), line.repeated(199) + u'x');
+    EXPECT_EQ(shownText(line.repeated(200)), line.repeated(199) + QStringLiteral("x... (1 more lines)"));
+    EXPECT_EQ(shownText(line.repeated(20000)), line.repeated(199) + QStringLiteral("x... (19801 more lines)"));
+    EXPECT_EQ(shownText(QString(8001, u'x') + line.repeated(300)),
+              QString(8000, u'x') + QStringLiteral("... (901 more characters)"));
+}
+
 TEST(RemoteText, NamesInMenusAreShortAndBearNoAccessKey)
 {
     EXPECT_EQ(menuName(QStringLiteral("A & B")), QStringLiteral("A && B"));

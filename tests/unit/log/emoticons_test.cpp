@@ -173,5 +173,16 @@ TEST(Emoticons, ParticipantsHaveEightColours)
                 ElementsAre(0xC00000u, 0x008000u, 0x0000FFu, 0xC08000u, 0xAA00FFu, 0x0080FFu, 0xC000C0u, 0x008080u));
 }
 
+TEST(Emoticons, TheLinesOfABodyContinueTheOneThatItsPrefixBegan)
+{
+    RecorderLog log;
+    AddTextWithEmoticons(log, QStringLiteral("one\r\ntwo :) three"), anyColour);
+    appendText(log, QStringLiteral("\r\n"), anyColour);
+    std::vector<bool> continues;
+    for (const RecorderLog::Piece &piece : log.pieces)
+        continues.push_back(piece.continues);
+    EXPECT_THAT(continues, ElementsAre(true, true, true, false));
+}
+
 } // namespace
 } // namespace nimb
