@@ -1,6 +1,8 @@
 // Makes one whole engine and ties its parts together.
 #pragma once
 
+#include "base/good_copy.h"
+#include "base/next_start.h"
 #include "base/notifications.h"
 #include "conference/conference_commands.h"
 #include "contacts/shared_contacts.h"
@@ -18,6 +20,8 @@ namespace nimb
 struct Surroundings {
     Winsock &socket;
     SettingsStore &store;
+    GoodCopy &goodCopy;
+    NextStart &nextStart;
     Timers &timers;
     const WallClock &clock;
     const OwnAddresses &ownAddresses;

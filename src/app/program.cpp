@@ -2,6 +2,7 @@
 
 #include "base/limits.h"
 #include "main_window/frmMain.h"
+#include "main_window/offer_good_copy.h"
 #include "main_window/sub_main.h"
 #include "platform/own_identity.h"
 #include "platform/program_files.h"
@@ -44,7 +45,8 @@ Environment Environment::fromSystem()
 }
 
 Program::Program(const Environment &environment)
-    : m_wantedAddress(environment.address), m_store(environment.profileFolder), m_instance(environment.profileFolder),
+    : m_wantedAddress(environment.address), m_store(environment.profileFolder), m_nextStart(environment.profileFolder),
+      m_instance(environment.profileFolder),
       m_socket(m_drops, environment.address ? readAddress(*environment.address) : std::nullopt, environment.hostName),
       m_ownAddresses(environment.address ? readAddress(*environment.address) : std::nullopt),
       m_forms({m_common, m_timers, m_clock, m_socket, m_store, m_prompts, m_links, m_pictures, m_names, m_netSend,
@@ -60,11 +62,13 @@ int Program::run(const QString &commandLine)
     listenToTheSystem();
     if (SubMain(commandLine, m_common, m_store, *this) != Started::running)
         return 0;
+    m_exit.emplace([this] { endWithoutScreen(); });
     const int status = QCoreApplication::exec();
+    m_exit.reset();
     m_forms.destroyMain();
     m_engine.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    return status;
+    return m_prompts.wereMissed() ? EXIT_FAILURE : status;
 }
 
 void Program::listenToTheSystem()
@@ -85,11 +89,19 @@ void Program::endSession(QSessionManager &session)
 
 void Program::end(UnloadMode mode)
 {
+    m_ending = true;
     m_prompts.setUnattended();
     if (frmMain *const window = m_forms.main())
         window->unload(mode);
     else
         m_forms.closeLogin();
+}
+
+void Program::endWithoutScreen()
+{
+    m_prompts.setNobodyThere();
+    m_engine->invitations().Form_Unload();
+    m_engine->mainWindow().endWithoutWindows();
 }
 
 bool Program::anotherCopyRuns()
@@ -123,6 +135,12 @@ void Program::loadNotify()
                      [this](const QString &ip) { m_forms.showContact(ip); });
 }
 
+bool Program::offerGoodCopy()
+{
+    nimb::offerGoodCopy(m_store, m_store, m_prompts);
+    return !m_ending;
+}
+
 void Program::showLogin()
 {
     if (!m_forms.showLogin(*m_login))
@@ -142,9 +160,9 @@ void Program::loadMain()
     Notifications &notifications
         = m_desktopNotifications ? static_cast<Notifications &>(*m_desktopNotifications) : m_forms.notifications();
     m_engine.emplace(m_common,
-                     Surroundings{m_socket, m_store, m_timers, m_clock, m_ownAddresses, m_prompts, notifications,
-                                  m_sound, *m_tray, m_forms, m_forms.conversations(), m_forms.conversations(), window,
-                                  m_drops});
+                     Surroundings{m_socket, m_store, m_store, m_nextStart, m_timers, m_clock, m_ownAddresses, m_prompts,
+                                  notifications, m_sound, *m_tray, m_forms, m_forms.conversations(),
+                                  m_forms.conversations(), window, m_drops});
     m_forms.connectMain(
         *m_engine, [this] { return statusNotes(); }, [] { QCoreApplication::exit(0); });
     window.Form_Load();

@@ -9,8 +9,10 @@
 #include "platform/link_opener.h"
 #include "platform/name_resolver.h"
 #include "platform/net_send_runner.h"
+#include "platform/next_start_file.h"
 #include "platform/own_identity.h"
 #include "platform/picture_sources.h"
+#include "platform/process_exit.h"
 #include "platform/qt_timers.h"
 #include "platform/single_instance.h"
 #include "platform/sound_player.h"
@@ -53,6 +55,7 @@ public:
     bool anotherCopyRuns() override;
     void restoreOtherCopy(const QString &caption) override;
     void loadNotify() override;
+    bool offerGoodCopy() override;
     void showLogin() override;
     void loadAndUnloadLogin() override;
     void loadMain() override;
@@ -65,13 +68,17 @@ private:
     void endSession(QSessionManager &session);
     /// Ends the program without anybody there to answer questions.
     void end(UnloadMode mode);
+    /// The screen is gone, and with it every window.
+    void endWithoutScreen();
     void secondStart(const QString &caption);
     QString statusNotes() const;
 
+    bool m_ending = false;
     std::optional<QString> m_wantedAddress;
     DropCounts m_drops;
     Common m_common;
     SqliteSettingsStore m_store;
+    NextStartFile m_nextStart;
     SingleInstance m_instance;
     QtTimers m_timers;
     SystemClock m_clock;
@@ -91,6 +98,7 @@ private:
     std::optional<Tray> m_tray;
     std::optional<Messenger> m_engine;
     std::optional<UnixSignals> m_signals;
+    std::optional<ProcessExit> m_exit;
 };
 
 } // namespace nimb

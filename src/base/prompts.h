@@ -17,8 +17,8 @@ public:
     [[nodiscard]] virtual bool confirm(const QString &text, const QString &title) = 0;
     /// A Yes/No box; true for Yes.
     [[nodiscard]] virtual bool ask(const QString &text, const QString &title) = 0;
-    /// A box with OK alone. May be silent when nobody is there to read it, as at the end of a session.
-    virtual void tell(const QString &text, const QString &title) = 0;
+    /// A box with OK alone. False when nobody was there to read it, as at the end of a session.
+    virtual bool tell(const QString &text, const QString &title) = 0;
 };
 
 } // namespace nimb

@@ -19,6 +19,8 @@ public:
     /// Asks that copy to restore its main window if the window bears this caption.
     virtual void restoreOtherCopy(const QString &caption) = 0;
     virtual void loadNotify() = 0;
+    /// Offers the copy of settings that are damaged or empty; false when the program was asked to end meanwhile.
+    [[nodiscard]] virtual bool offerGoodCopy() = 0;
     /// Shows the login dialog until the user ends it; the own nickname is set then, unless it was closed.
     virtual void showLogin() = 0;
     /// Does what loading the login dialog does, without showing it.

@@ -2,6 +2,7 @@
 
 #include "base/remote_text.h"
 #include "base/settings.h"
+#include "main_window/offer_good_copy.h"
 
 namespace nimb
 {
@@ -18,6 +19,12 @@ void MainWindow::Form_Load()
     m_parts.log.banner();
     if (const std::optional<QString> problem = m_parts.store.problem())
         m_parts.log.fault(*problem);
+    for (const std::optional<QString> &sentence : {m_parts.goodCopy.damage(), waitingCopy(m_parts.goodCopy)}) {
+        if (sentence)
+            m_parts.log.fault(*sentence);
+    }
+    for (const QString &sentence : m_parts.nextStart.take())
+        m_parts.log.fault(tr("When NIMB-Chat last ended: %1").arg(sentence));
     for (const QString &notice : std::as_const(notices))
         m_parts.log.fault(notice);
     m_parts.port.report();
@@ -54,13 +61,28 @@ CloseDecision MainWindow::Form_QueryUnload(UnloadMode mode)
 
 void MainWindow::Form_Unload()
 {
-    // Who is leaving answers nobody, however long the end takes.
-    m_parts.socket.DataArrival = nullptr;
-    m_parts.recovery.end();
+    answerNobody();
     m_parts.unloadOtherWindows();
     sayFarewellAndSaveContacts();
     save();
     m_parts.tray.removeIcon();
+}
+
+void MainWindow::endWithoutWindows()
+{
+    if (m_ended)
+        return;
+    answerNobody();
+    sayFarewellAndSaveContacts();
+    save();
+}
+
+/// Who is leaving answers nobody, however long the end takes.
+void MainWindow::answerNobody()
+{
+    m_ended = true;
+    m_parts.socket.DataArrival = nullptr;
+    m_parts.recovery.end();
 }
 
 void MainWindow::sayFarewellAndSaveContacts()
@@ -77,13 +99,25 @@ void MainWindow::sayFarewellAndSaveContacts()
     ContactList::saveEnd(m_parts.store, saved);
 }
 
+/// As long as the copy is offered it is all that is left of something, so it stays.
+void MainWindow::renewGoodCopy()
+{
+    if (m_parts.goodCopy.offeredCopy())
+        return;
+    if (const std::optional<QString> problem = m_parts.goodCopy.renewCopy())
+        m_parts.nextStart.tell(*problem);
+}
+
 void MainWindow::save()
 {
     m_parts.common.mainPlace = m_parts.view.place();
     saveSettings(m_parts.store, m_parts.common, m_parts.ownState.storedValues());
     m_parts.store.dropKept();
-    if (const std::optional<QString> problem = m_parts.store.save())
-        m_parts.prompts.tell(*problem, programTitle);
+    const std::optional<QString> problem = m_parts.store.save();
+    if (problem && !m_parts.prompts.tell(*problem, programTitle))
+        m_parts.nextStart.tell(*problem);
+    if (!problem)
+        renewGoodCopy();
 }
 
 } // namespace nimb

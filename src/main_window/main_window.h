@@ -2,7 +2,9 @@
 // has begun, and all is saved after the other windows have noted what they keep.
 #pragma once
 
+#include "base/good_copy.h"
 #include "base/main_log.h"
+#include "base/next_start.h"
 #include "base/prompts.h"
 #include "base/settings_store.h"
 #include "base/unload_mode.h"
@@ -32,6 +34,8 @@ public:
     struct Parts {
         Common &common;
         SettingsStore &store;
+        GoodCopy &goodCopy;
+        NextStart &nextStart;
         Winsock &socket;
         ContactList &contacts;
         OwnState &ownState;
@@ -55,14 +59,19 @@ public:
     void placeChanged() { m_parts.recovery.settingsChanged(); }
     /// Ends everything that the window owns: windows are unloaded, contacts told, contacts and settings saved.
     void Form_Unload();
+    /// The same for a program whose screen is gone, as far as it can be: no window is touched.
+    void endWithoutWindows();
 
 private:
     void loadSettings(QStringList &notices);
+    void answerNobody();
     void sayFarewellAndSaveContacts();
     void save();
+    void renewGoodCopy();
 
     Parts m_parts;
     bool m_saidWhyMinimised = false;
+    bool m_ended = false;
 };
 
 } // namespace nimb

@@ -17,6 +17,9 @@ Started SubMain(const QString &commandLine, Common &common, const SettingsStore 
     common.avatarBody.clear();
     common.windowFlashingAvailable = isWindowFlashingAvailable(runningSystem());
     steps.loadNotify();
+    // A nickname on the command line is a start that asks nothing.
+    if (commandLine.isEmpty() && !steps.offerGoodCopy())
+        return Started::withoutNickname;
     if (commandLine.isEmpty()) {
         steps.showLogin();
         if (common.ownNickname.isEmpty())

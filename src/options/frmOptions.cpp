@@ -281,8 +281,10 @@ OptionControls frmOptions::controls() const
 
 void frmOptions::CmdOK_Click()
 {
-    if (const std::optional<QString> problem = m_values.CmdOK_Click(controls()))
-        return m_prompts.tell(*problem, windowTitle());
+    if (const std::optional<QString> problem = m_values.CmdOK_Click(controls())) {
+        m_prompts.tell(*problem, windowTitle());
+        return;
+    }
     accept();
 }
 
@@ -313,8 +315,10 @@ void frmOptions::LoadAvatarbtn_Click()
 
 void frmOptions::takePicture(const ReadPicture &read)
 {
-    if (const auto *const problem = std::get_if<QString>(&read))
-        return m_prompts.tell(*problem, windowTitle());
+    if (const auto *const problem = std::get_if<QString>(&read)) {
+        m_prompts.tell(*problem, windowTitle());
+        return;
+    }
     m_loadedPicture = avatarBody(std::get<QImage>(read));
     Picture2->setPicture(m_loadedPicture);
     Option2->setChecked(true);

@@ -7,8 +7,11 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <filesystem>
+#include <system_error>
 
 #ifdef Q_OS_UNIX
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -57,6 +60,25 @@ std::optional<QString> makePrivateFile(const QString &path)
     if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly, ownerOnly) || QFileInfo(path).isFile())
         return std::nullopt;
     return file.errorString();
+}
+
+std::optional<QString> renameForGood(const QString &from, const QString &to)
+{
+    std::error_code error;
+    std::filesystem::rename(from.toStdU16String(), to.toStdU16String(), error);
+    if (error)
+        return QString::fromLocal8Bit(error.message().c_str());
+#ifdef Q_OS_UNIX
+    const QByteArray folder = QFile::encodeName(QFileInfo(to).absolutePath());
+    const int descriptor = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const bool synced = descriptor != -1 && ::fsync(descriptor) == 0;
+    const int reason = errno;
+    if (descriptor != -1)
+        ::close(descriptor);
+    if (!synced)
+        return qt_error_string(reason);
+#endif
+    return std::nullopt;
 }
 
 void takeFileFromOthers(const QString &path)

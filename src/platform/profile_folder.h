@@ -15,6 +15,10 @@ namespace nimb
 /// The same for an empty file in an existing folder.
 [[nodiscard]] std::optional<QString> makePrivateFile(const QString &path);
 
+/// Gives the file another name, at once and for good: what bore that name is gone, and a power cut brings neither state
+/// back half. Empty on success, otherwise the system's reason.
+[[nodiscard]] std::optional<QString> renameForGood(const QString &from, const QString &to);
+
 /// Takes the rights that others have to an existing file of this user, and gives none.
 void takeFileFromOthers(const QString &path);
 

@@ -37,11 +37,24 @@ constexpr std::array createTriggers
        "CREATE TRIGGER IF NOT EXISTS newer_update AFTER UPDATE ON settings BEGIN DELETE FROM recovery "
        "WHERE section = NEW.section AND (key = NEW.key OR section = 'Users'); END"};
 constexpr auto putChange = "INSERT OR REPLACE INTO recovery(section, key, value, sum) VALUES(?1, ?2, ?3, ?4)";
-constexpr auto readChanges = "SELECT section, key, value, sum FROM recovery";
+constexpr auto getChanges = "SELECT section, key, value, sum FROM recovery";
+
+/// What tells whether a section still is what was saved. An older copy knows of no sums: a trigger removes that of each
+/// section to which somebody else writes.
+constexpr auto createSums = "CREATE TABLE IF NOT EXISTS sums(section TEXT PRIMARY KEY, sum TEXT)";
+constexpr std::array createSumTriggers
+    = {"CREATE TRIGGER IF NOT EXISTS sum_insert AFTER INSERT ON settings BEGIN DELETE FROM sums "
+       "WHERE section = NEW.section; END",
+       "CREATE TRIGGER IF NOT EXISTS sum_update AFTER UPDATE ON settings BEGIN DELETE FROM sums "
+       "WHERE section IN (OLD.section, NEW.section); END",
+       "CREATE TRIGGER IF NOT EXISTS sum_delete AFTER DELETE ON settings BEGIN DELETE FROM sums "
+       "WHERE section = OLD.section; END"};
+constexpr auto putSum = "INSERT OR REPLACE INTO sums(section, sum) VALUES(?1, ?2)";
 
 /// Thrown and caught within this file only.
 struct Failure {
     QString reason;
+    bool damaged = false; ///< the file holds something that it should not
 };
 
 QString translated(const char *text)
@@ -91,8 +104,9 @@ QString reasonFor(int code, sqlite3 *database)
 
 void check(int code, sqlite3 *database)
 {
+    const int kind = code & 0xff;
     if (code != SQLITE_OK)
-        throw Failure{reasonFor(code, database)};
+        throw Failure{reasonFor(code, database), kind == SQLITE_CORRUPT || kind == SQLITE_NOTADB};
 }
 
 /// One prepared statement. Texts go in and out with their lengths, so that they may hold U+0000.
@@ -173,20 +187,20 @@ QByteArray nameForSqlite(const QString &path)
 #endif
 }
 
-QString damaged()
+Failure damaged()
 {
-    return reasonFor(SQLITE_CORRUPT, nullptr);
+    return {reasonFor(SQLITE_CORRUPT, nullptr), true};
 }
 
 void checkIntegrity(sqlite3 *database, const QString &path)
 {
     Statement integrity(database, "PRAGMA integrity_check(1)");
     if (!integrity.next() || integrity.text(0) != u"ok")
-        throw Failure{damaged()};
+        throw damaged();
     // A last page that was cut off in the middle reads as if zeros followed, and a file of one byte as an empty one.
     Statement pages(database, "PRAGMA page_size");
     if (!pages.next() || QFileInfo(path).size() % pages.text(0).toInt() != 0)
-        throw Failure{damaged()};
+        throw damaged();
 }
 
 bool hasTable(sqlite3 *database, const char *name)
@@ -197,16 +211,63 @@ bool hasTable(sqlite3 *database, const char *name)
     return table.next();
 }
 
-/// Finds a bit that has flipped: the database itself checks its structure and not what it holds.
+void addTo(QCryptographicHash &hash, const QByteArray &part)
+{
+    hash.addData(QByteArray::number(part.size()) + ':');
+    hash.addData(part);
+}
+
+/// Sixteen digits find a bit that has flipped: the database itself checks its structure and not what it holds.
+QByteArray digitsOf(const QCryptographicHash &hash)
+{
+    return hash.result().toHex().left(16);
+}
+
+/// The sums of all sections, by section, over their keys and values.
+QMap<QByteArray, QByteArray> sumsOfSections(sqlite3 *database)
+{
+    QMap<QByteArray, QByteArray> sums;
+    QByteArray section;
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    Statement all(database, "SELECT section, key, value FROM settings WHERE section IS NOT NULL ORDER BY section, key");
+    const auto finish = [&] { sums.insert(section, digitsOf(hash)); };
+    for (bool first = true; all.next(); first = false) {
+        if (const QByteArray next = all.bytes(0); first || next != section) {
+            if (!first)
+                finish();
+            section = next;
+            hash.reset();
+        }
+        addTo(hash, all.bytes(1));
+        addTo(hash, all.bytes(2));
+    }
+    if (!section.isNull())
+        finish();
+    return sums;
+}
+
+/// Those sections that have a sum and another one than their values.
+QStringList damagedSections(sqlite3 *database)
+{
+    QStringList damagedOnes;
+    if (!hasTable(database, "sums"))
+        return damagedOnes;
+    const QMap<QByteArray, QByteArray> sums = sumsOfSections(database);
+    Statement all(database, "SELECT section, sum FROM sums ORDER BY section");
+    while (all.next()) {
+        if (sums.value(all.bytes(0)) != all.bytes(1))
+            damagedOnes.append(QString::fromUtf8(all.bytes(0)));
+    }
+    return damagedOnes;
+}
+
 QByteArray sumOf(const QByteArray &section, const QByteArray &key, const std::optional<QByteArray> &value)
 {
     QCryptographicHash hash(QCryptographicHash::Sha256);
-    for (const QByteArray &part : {section, key, value.value_or(QByteArray())}) {
-        hash.addData(QByteArray::number(part.size()) + ':');
-        hash.addData(part);
-    }
+    for (const QByteArray &part : {section, key, value.value_or(QByteArray())})
+        addTo(hash, part);
     hash.addData(value ? "value" : "none");
-    return hash.result().toHex().left(16);
+    return digitsOf(hash);
 }
 
 } // namespace
@@ -221,6 +282,8 @@ SqliteSettingsStore::SqliteSettingsStore(const QString &folder)
 {
     open();
     m_valuesSeen = m_database != nullptr;
+    const bool isEmpty = m_valuesSeen && m_values.isEmpty() && m_recovered.isEmpty();
+    m_copyOffered = (m_damaged || isEmpty || !m_damagedSections.isEmpty()) && QFileInfo(goodCopy()).size() > 0;
 }
 
 SqliteSettingsStore::~SqliteSettingsStore() = default;
@@ -338,49 +401,63 @@ void SqliteSettingsStore::open()
         step = Trouble::none;
     } catch (const Failure &failure) {
         m_reason = failure.reason;
+        m_damaged = step == Trouble::reading && failure.damaged;
     }
     m_trouble = step;
 }
 
 void SqliteSettingsStore::readFile()
 {
+    Database database = openDatabase(m_file);
+    Contents contents = read(database.get(), m_file);
+    m_database = std::move(database);
+    m_values = std::move(contents.values);
+    m_recovered = std::move(contents.changes);
+    m_unreadableChanges = contents.unreadableChanges;
+    m_damagedSections = std::move(contents.damagedSections);
+}
+
+SqliteSettingsStore::Database SqliteSettingsStore::openDatabase(const QString &file)
+{
     sqlite3 *opened = nullptr;
-    const int code = sqlite3_open_v2(nameForSqlite(m_file).constData(), &opened, SQLITE_OPEN_READWRITE, nullptr);
-    std::unique_ptr<sqlite3, CloseDatabase> database(opened); // to be closed even when it could not be opened
+    const int code = sqlite3_open_v2(nameForSqlite(file).constData(), &opened, SQLITE_OPEN_READWRITE, nullptr);
+    Database database(opened); // to be closed even when it could not be opened
     check(code, opened);
     check(sqlite3_extended_result_codes(opened, 1), opened);
     check(sqlite3_busy_timeout(opened, busyTimeoutMs), opened);
     execute(opened, "PRAGMA synchronous = EXTRA");
     execute(opened, "PRAGMA secure_delete = ON"); // what the user has removed is to be gone
-    checkIntegrity(opened, m_file);
-
-    Values values;
-    if (hasTable(opened, "settings")) {
-        Statement all(opened, "SELECT section, key, value FROM settings");
-        while (all.next()) {
-            if (!all.isNull(0) && !all.isNull(1) && !all.isNull(2))
-                values.insert({all.text(0), all.text(1)}, all.text(2));
-        }
-    }
-    readRecovery(opened);
-    m_database = std::move(database);
-    m_values = std::move(values);
+    return database;
 }
 
-void SqliteSettingsStore::readRecovery(sqlite3 *database)
+SqliteSettingsStore::Contents SqliteSettingsStore::read(sqlite3 *database, const QString &file)
 {
-    m_recovered.clear();
-    m_unreadableChanges = 0;
+    checkIntegrity(database, file);
+    Contents contents;
+    if (hasTable(database, "settings")) {
+        Statement all(database, "SELECT section, key, value FROM settings");
+        while (all.next()) {
+            if (!all.isNull(0) && !all.isNull(1) && !all.isNull(2))
+                contents.values.insert({all.text(0), all.text(1)}, all.text(2));
+        }
+        contents.damagedSections = damagedSections(database);
+    }
+    readChanges(database, contents);
+    return contents;
+}
+
+void SqliteSettingsStore::readChanges(sqlite3 *database, Contents &contents)
+{
     if (!hasTable(database, "recovery"))
         return;
-    Statement all(database, readChanges);
+    Statement all(database, getChanges);
     while (all.next()) {
         const std::optional<QByteArray> value = all.isNull(2) ? std::nullopt : std::optional(all.bytes(2));
         const bool isWhole = all.bytes(3) == sumOf(all.bytes(0), all.bytes(1), value);
         if (isWhole)
-            m_recovered.insert({all.text(0), all.text(1)}, value ? std::optional(all.text(2)) : std::nullopt);
+            contents.changes.insert({all.text(0), all.text(1)}, value ? std::optional(all.text(2)) : std::nullopt);
         else
-            ++m_unreadableChanges;
+            ++contents.unreadableChanges;
     }
 }
 
@@ -425,7 +502,10 @@ void SqliteSettingsStore::inTransaction(const std::function<void()> &write)
         execute(database, "BEGIN IMMEDIATE");
         execute(database, createTable);
         execute(database, createRecovery);
+        execute(database, createSums);
         for (const char *const trigger : createTriggers)
+            execute(database, trigger);
+        for (const char *const trigger : createSumTriggers)
             execute(database, trigger);
         write();
         execute(database, "COMMIT");
@@ -447,6 +527,20 @@ void SqliteSettingsStore::writePending()
         put.bind(1, section);
         put.bind(2, key);
         put.bind(3, value);
+        put.next();
+        put.reset();
+    }
+    writeSums();
+}
+
+/// Over what stands there now: other programs may have written to it as well.
+void SqliteSettingsStore::writeSums()
+{
+    const QMap<QByteArray, QByteArray> sums = sumsOfSections(m_database.get());
+    Statement put(m_database.get(), putSum);
+    for (auto entry = sums.cbegin(); entry != sums.cend(); ++entry) {
+        put.bind(1, entry.key());
+        put.bind(2, entry.value());
         put.next();
         put.reset();
     }
@@ -476,6 +570,112 @@ void SqliteSettingsStore::rollBack()
     // Closing gives the transaction up as well, and what it left in the file is undone when it is opened next.
     if (sqlite3_exec(m_database.get(), "ROLLBACK", nullptr, nullptr, nullptr) != SQLITE_OK)
         m_database.reset();
+}
+
+// --- the good copy
+
+std::optional<QDateTime> SqliteSettingsStore::offeredCopy() const
+{
+    return m_copyOffered ? std::optional(QFileInfo(goodCopy()).lastModified()) : std::nullopt;
+}
+
+std::optional<QString> SqliteSettingsStore::damage() const
+{
+    if (m_damagedSections.isEmpty())
+        return std::nullopt;
+    return tr("Some of the settings in %1 are damaged (%2), so they may differ from what was saved.")
+        .arg(QDir::toNativeSeparators(m_file), m_damagedSections.join(QLatin1String(", ")));
+}
+
+std::optional<QString> SqliteSettingsStore::takeCopy()
+{
+    try {
+        copyDatabase(openDatabase(goodCopy()).get(), unfinishedCopy());
+        if (const Contents copied = read(openDatabase(unfinishedCopy()).get(), unfinishedCopy());
+            copied.values.isEmpty() || !copied.damagedSections.isEmpty())
+            throw damaged();
+        m_database.reset();
+        if (m_damaged || !m_damagedSections.isEmpty()) // what is empty is not worth keeping
+            putAside();
+        if (const std::optional<QString> reason = renameForGood(unfinishedCopy(), m_file))
+            throw Failure{*reason};
+    } catch (const Failure &failure) {
+        if (!m_database && m_valuesSeen)
+            open();
+        return tr("The copy %1 cannot take the place of the settings (%2), so the program goes on without them.")
+            .arg(QDir::toNativeSeparators(goodCopy()), failure.reason);
+    }
+    m_copyOffered = false;
+    m_damaged = false;
+    open();
+    m_valuesSeen = m_database != nullptr;
+    return std::nullopt;
+}
+
+/// A copy, so that there is a file in the store's place at every moment. Its journal belongs to it and to no other
+/// file.
+void SqliteSettingsStore::putAside() const
+{
+    const QString stamp = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss-zzz"));
+    const QString aside = QStringLiteral("%1/settings.damaged-%2.sqlite3").arg(m_folder, stamp);
+    const QString journal = QStringLiteral("-journal");
+    QFile wreck(m_file);
+    if (!wreck.copy(aside))
+        throw Failure{wreck.errorString()};
+    takeFileFromOthers(aside);
+    if (!QFileInfo::exists(m_file + journal))
+        return;
+    if (const std::optional<QString> reason = renameForGood(m_file + journal, aside + journal))
+        throw Failure{*reason};
+}
+
+std::optional<QString> SqliteSettingsStore::renewCopy()
+{
+    try {
+        // Not what this connection remembers, but what it would find if it came anew.
+        const Database stored = openDatabase(m_file);
+        const Contents contents = read(stored.get(), m_file);
+        if (!holds(contents.values, m_values) || !contents.damagedSections.isEmpty())
+            throw damaged();
+        copyDatabase(stored.get(), unfinishedCopy());
+        const Contents copied = read(openDatabase(unfinishedCopy()).get(), unfinishedCopy());
+        if (copied.values != contents.values || !copied.damagedSections.isEmpty())
+            throw damaged();
+        if (const std::optional<QString> reason = renameForGood(unfinishedCopy(), goodCopy()))
+            throw Failure{*reason};
+    } catch (const Failure &failure) {
+        return tr("The settings were saved, but the copy of them in %1 could not be renewed (%2).")
+            .arg(QDir::toNativeSeparators(goodCopy()), failure.reason);
+    }
+    return std::nullopt;
+}
+
+/// All that was saved, as far as UTF-8 can hold it.
+bool SqliteSettingsStore::holds(const Values &stored, const Values &saved)
+{
+    for (auto entry = saved.cbegin(); entry != saved.cend(); ++entry) {
+        const auto found = stored.constFind(entry.key());
+        if (found == stored.cend() || found->toUtf8() != entry->toUtf8())
+            return false;
+    }
+    return true;
+}
+
+/// What an earlier attempt left there is written over.
+void SqliteSettingsStore::copyDatabase(sqlite3 *from, const QString &to)
+{
+    QFile::remove(to + QStringLiteral("-journal")); // it would be taken for that of the new file
+    QFile::remove(to);
+    if (const std::optional<QString> reason = makePrivateFile(to))
+        throw Failure{*reason};
+    const Database target = openDatabase(to);
+    sqlite3_backup *const backup = sqlite3_backup_init(target.get(), "main", from, "main");
+    if (backup == nullptr)
+        check(sqlite3_extended_errcode(target.get()), target.get());
+    const int code = sqlite3_backup_step(backup, -1);
+    sqlite3_backup_finish(backup);
+    if (code != SQLITE_DONE)
+        check(code == SQLITE_OK ? SQLITE_BUSY : code, target.get());
 }
 
 } // namespace nimb

@@ -1,10 +1,12 @@
 // The settings in an SQLite file.
 #pragma once
 
+#include "base/good_copy.h"
 #include "base/settings_store.h"
 
 #include <QCoreApplication>
 #include <QMap>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -18,7 +20,7 @@ namespace nimb
 /// Keeps the values in `settings.sqlite3` of one folder. They are read once, when the store is made, so that read()
 /// neither waits nor fails; save() writes what is pending in one transaction that is on the disk before it returns.
 /// A file that cannot be read is never replaced, and values that this run has not seen are never overwritten.
-class SqliteSettingsStore : public SettingsStore
+class SqliteSettingsStore : public SettingsStore, public GoodCopy
 {
     Q_DECLARE_TR_FUNCTIONS(SqliteSettingsStore)
 
@@ -41,6 +43,13 @@ public:
     RecoveredChanges recovered() const override;
     void dropKept() override { m_droppingKept = true; }
 
+    /// The copy is `settings.good.sqlite3` in the same folder.
+    std::optional<QDateTime> offeredCopy() const override;
+    [[nodiscard]] std::optional<QString> takeCopy() override;
+    void declineCopy() override { m_copyOffered = false; }
+    [[nodiscard]] std::optional<QString> renewCopy() override;
+    std::optional<QString> damage() const override;
+
 private:
     using Name = std::pair<QString, QString>; ///< section and key
     using Values = QMap<Name, QString>;
@@ -49,27 +58,46 @@ private:
     struct CloseDatabase {
         void operator()(sqlite3 *database) const;
     };
+    using Database = std::unique_ptr<sqlite3, CloseDatabase>;
+    /// What stands in a file.
+    struct Contents {
+        Values values;
+        Changes changes;
+        int unreadableChanges = 0;
+        QStringList damagedSections; ///< whose values differ from what was saved
+    };
     enum class Trouble { none, folder, file, reading, writing };
 
     void open();
     void readFile();
-    void readRecovery(sqlite3 *database);
+    static Database openDatabase(const QString &file);
+    static Contents read(sqlite3 *database, const QString &file);
+    static void readChanges(sqlite3 *database, Contents &contents);
+    static void copyDatabase(sqlite3 *from, const QString &to);
+    static bool holds(const Values &stored, const Values &saved);
+    QString goodCopy() const { return m_folder + QStringLiteral("/settings.good.sqlite3"); }
+    QString unfinishedCopy() const { return m_folder + QStringLiteral("/settings.new.sqlite3"); }
+    void putAside() const;
     void checkWritable() const;
     void openForSaving();
     void inTransaction(const std::function<void()> &write);
     void writePending();
+    void writeSums();
     void writeChanges(const std::vector<KeptChange> &changes);
     void forgetKept();
     void rollBack();
 
     QString m_folder;
     QString m_file;
-    std::unique_ptr<sqlite3, CloseDatabase> m_database; ///< empty unless its values could be read
+    Database m_database; ///< empty unless its values could be read
     Values m_values;
     Values m_pending;
     Changes m_recovered;         ///< by an earlier run, and not saved since
     int m_unreadableChanges = 0; ///< beside those
     bool m_droppingKept = false;
+    QStringList m_damagedSections;
+    bool m_damaged = false;     ///< the file could not be read because of what it holds
+    bool m_copyOffered = false; ///< and nobody has decided
     Trouble m_trouble = Trouble::none;
     QString m_reason;          ///< of the trouble, part of a sentence
     bool m_valuesSeen = false; ///< the program works with what is in the file, not with defaults

@@ -45,12 +45,16 @@ bool MessageBoxes::ask(const QString &text, const QString &title)
     return show(QMessageBox::Question, QMessageBox::Yes | QMessageBox::No, text, title) == QMessageBox::Yes;
 }
 
-void MessageBoxes::tell(const QString &text, const QString &title)
+bool MessageBoxes::tell(const QString &text, const QString &title)
 {
-    if (m_unattended)
-        std::fprintf(stderr, "%s: %s\n", qUtf8Printable(title), qUtf8Printable(text));
-    else
+    if (!m_unattended)
         show(QMessageBox::Warning, QMessageBox::Ok, text, title);
+    if (!m_unattended)
+        return true;
+    // Nobody, or whoever is there had its box taken away.
+    std::fprintf(stderr, "%s: %s\n", qUtf8Printable(title), qUtf8Printable(text));
+    m_missed = true;
+    return false;
 }
 
 } // namespace nimb

@@ -19,10 +19,14 @@ public:
     /// Nobody is there to answer: boxes that are open close as if cancelled, later questions are answered with Cancel,
     /// and what is told goes to standard error.
     void setUnattended();
+    /// The same when there is no screen any more on which a box could close.
+    void setNobodyThere() { m_unattended = true; }
 
     bool confirm(const QString &text, const QString &title) override;
     bool ask(const QString &text, const QString &title) override;
-    void tell(const QString &text, const QString &title) override;
+    bool tell(const QString &text, const QString &title) override;
+    /// Whether something was told to nobody.
+    bool wereMissed() const { return m_missed; }
 
 private:
     /// The box stands over the window in which the user is.
@@ -31,6 +35,7 @@ private:
     QPointer<QWidget> m_window;
     std::vector<QPointer<QMessageBox>> m_open; ///< the innermost last
     bool m_unattended = false;
+    bool m_missed = false;
 };
 
 } // namespace nimb

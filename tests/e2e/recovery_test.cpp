@@ -1,7 +1,10 @@
 // A copy that is killed loses nothing that it showed.
 #include "chat_windows.h"
+#include "child_process.h"
 #include "running_copy.h"
 #include "wire_peer.h"
+
+#include <QFile>
 
 #include <gmock/gmock.h>
 
@@ -94,6 +97,76 @@ TEST_F(KilledCopy, HasTheOptionsThatWereTakenWithOK)
     EXPECT_EQ(bob.end(), 0);
     EXPECT_EQ(bob.stored("Settings", "UDPPort"), std::to_string(next));
     EXPECT_EQ(bob.stored("Options", "NotifyWin"), "0");
+}
+
+TEST_F(KilledCopy, ThatCouldNotSaveAtTheSignalSaysSoByItsStatusAndAtTheNextStart)
+{
+    start();
+    bob.holdStoreWhile([this] { EXPECT_EQ(bob.end(), 1); });
+    EXPECT_EQ(ann.next(), "!OFFLINE 127.0.52.1 BOB-PC Bob");
+    EXPECT_THAT(bob.printed(), HasSubstr("The settings were not saved"));
+    EXPECT_THAT(mainLog(start()), HasSubstr("When NIMB-Chat last ended: The settings were not saved"));
+    EXPECT_EQ(bob.end(), 0);
+    EXPECT_THAT(mainLog(start()), Not(HasSubstr("When NIMB-Chat last ended")));
+}
+
+TEST_F(KilledCopy, TakesItsLeaveAndSavesWhenTheScreenIsGone)
+{
+    QProcess screen;
+    screen.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    endWithParent(screen);
+    screen.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x900x24", "-nolisten", "tcp", "-noreset"});
+    ASSERT_TRUE(screen.waitForStarted());
+    ASSERT_TRUE(waitUntil([&] { return screen.waitForReadyRead(100) || screen.bytesAvailable() > 0; }));
+    bob.setVariable("DISPLAY", ":" + QString::fromLatin1(screen.readAll().trimmed()));
+    bob.start({"Bob"});
+    ann.hearUntil("!STATUS Online");
+    ann.send(bob.address(), "!ONLINE 127.0.52.2 NEW-PC New name");
+    ann.send(bob.address(), "?ONLINE");
+    ann.hearUntil("!STATUS Online");
+    screen.kill();
+    EXPECT_TRUE(screen.waitForFinished());
+    EXPECT_EQ(ann.next(), "!OFFLINE 127.0.52.1 BOB-PC Bob");
+    EXPECT_NE(bob.exitStatus(), std::nullopt) << "it crashed";
+    EXPECT_THAT(bob.storedContacts(), testing::ElementsAre(StoredContact{"127.0.52.2", "New name", "NEW-PC"}));
+    EXPECT_THAT(bob.kept(), IsEmpty());
+}
+
+TEST_F(KilledCopy, OffersTheGoodCopyOfADamagedStore)
+{
+    start();
+    EXPECT_EQ(bob.end(), 0);
+    QFile wreck(bob.storeFile());
+    ASSERT_TRUE(wreck.open(QFile::WriteOnly));
+    wreck.write("this is no database");
+    wreck.close();
+    bob.start({});
+    const Window question = Window::waitFor("NIMB-Chat");
+    EXPECT_TRUE(waitUntil([&] { return question.isActive(); }));
+    press("alt+y");
+    const auto isDatabase = [this] {
+        QFile store(bob.storeFile());
+        return store.open(QFile::ReadOnly) && store.read(15) == "SQLite format 3";
+    };
+    EXPECT_TRUE(waitUntil(isDatabase));
+    EXPECT_EQ(bob.end(), 0);
+    EXPECT_THAT(bob.storedContacts(), testing::ElementsAreArray(annAlone));
+}
+
+TEST_F(KilledCopy, EndsWhenItIsAskedToWhileItOffersTheGoodCopy)
+{
+    start();
+    EXPECT_EQ(bob.end(), 0);
+    QFile wreck(bob.storeFile());
+    ASSERT_TRUE(wreck.open(QFile::WriteOnly));
+    wreck.write("this is no database");
+    wreck.close();
+    bob.start({});
+    const Window question = Window::waitFor("NIMB-Chat");
+    EXPECT_TRUE(waitUntil([&] { return question.isActive(); }));
+    EXPECT_EQ(bob.end(), 0);
+    ASSERT_TRUE(wreck.open(QFile::ReadOnly));
+    EXPECT_EQ(wreck.readAll(), "this is no database");
 }
 
 TEST_F(KilledCopy, DoesNotKnowARemovedContactAgain)

@@ -230,6 +230,14 @@ Rows RunningCopy::readStore() const
     return rowsOf(openDatabase(storeFile(), SQLITE_OPEN_READWRITE), "SELECT section, key, value FROM settings");
 }
 
+void RunningCopy::holdStoreWhile(const std::function<void()> &action) const
+{
+    const Database database = openDatabase(storeFile(), SQLITE_OPEN_READWRITE);
+    EXPECT_EQ(sqlite3_exec(database.get(), "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    action();
+    EXPECT_EQ(sqlite3_exec(database.get(), "ROLLBACK", nullptr, nullptr, nullptr), SQLITE_OK);
+}
+
 Rows RunningCopy::kept() const
 {
     const Database database = openDatabase(storeFile(), SQLITE_OPEN_READWRITE);

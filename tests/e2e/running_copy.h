@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -80,6 +81,8 @@ public:
     Rows readStore() const;
     /// The value of one row; nothing when there is none.
     std::optional<std::string> stored(const std::string &section, const std::string &key) const;
+    /// Nobody else can write to the store meanwhile.
+    void holdStoreWhile(const std::function<void()> &action) const;
     /// What is kept beside the store; what is kept as gone reads "(gone)".
     Rows kept() const;
     /// What is stored in "Users" up to the end marker, by the rules for reading it.

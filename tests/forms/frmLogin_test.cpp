@@ -72,7 +72,11 @@ TEST_F(FrmLogin, EndedWhileTellingItDoesNotAccept)
     class EndingPrompts : public RecorderPrompts
     {
     public:
-        void tell(const QString &, const QString &) override { ended->reject(); }
+        bool tell(const QString &, const QString &) override
+        {
+            ended->reject();
+            return true;
+        }
         QDialog *ended = nullptr;
     } ending;
     store.failure = QStringLiteral("The disk is full.");

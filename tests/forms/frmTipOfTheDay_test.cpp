@@ -181,10 +181,11 @@ TEST_F(FrmTipOfTheDay, EndedWhileTellingItDoesNotCrash)
     class EndingPrompts : public RecorderPrompts
     {
     public:
-        void tell(const QString &text, const QString &title) override
+        bool tell(const QString &text, const QString &title) override
         {
             RecorderPrompts::tell(text, title);
             delete ended;
+            return true;
         }
         QPointer<QDialog> ended;
     } ending;

@@ -51,11 +51,12 @@ public:
 class InterruptedPrompts : public RecorderPrompts
 {
 public:
-    void tell(const QString &text, const QString &title) override
+    bool tell(const QString &text, const QString &title) override
     {
         RecorderPrompts::tell(text, title);
         if (whileTelling)
             whileTelling();
+        return attended;
     }
 
     std::function<void()> whileTelling;

@@ -131,8 +131,8 @@ private:
 
 public:
     Messenger engine{common,
-                     {socket, settings, time, time, ownAddresses, prompts, forms.notifications(), sound, tray, forms,
-                      forms.conversations(), forms.conversations(), m_main, drops}};
+                     {socket, settings, goodCopy, nextStart, time, time, ownAddresses, prompts, forms.notifications(),
+                      sound, tray, forms, forms.conversations(), forms.conversations(), m_main, drops}};
 };
 
 } // namespace nimb::test

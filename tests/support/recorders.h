@@ -1,8 +1,10 @@
 // What an engine shows and asks, written down for a test to read.
 #pragma once
 
+#include "base/good_copy.h"
 #include "base/link_opener.h"
 #include "base/main_window_view.h"
+#include "base/next_start.h"
 #include "base/notifications.h"
 #include "base/own_addresses.h"
 #include "base/picture_source.h"
@@ -352,12 +354,14 @@ public:
         return answer;
     }
     bool ask(const QString &text, const QString &title) override { return confirm(text, title); }
-    void tell(const QString &text, const QString &title) override
+    bool tell(const QString &text, const QString &title) override
     {
         told.push_back((title + QLatin1String(": ") + text).toStdString());
+        return attended;
     }
 
     bool answer = true;
+    bool attended = true;
     std::vector<std::string> asked;
     std::vector<std::string> told;
 };
@@ -491,9 +495,50 @@ public:
     std::set<Ipv4Address> own, broadcast;
 };
 
+/// What is to be told at the next start.
+class RecorderNextStart : public NextStart
+{
+public:
+    void tell(const QString &sentence) override { sentences.append(sentence); }
+    QStringList take() override { return std::exchange(sentences, {}); }
+
+    QStringList sentences;
+};
+
+/// A copy of the settings that is there or not.
+class RecorderGoodCopy : public GoodCopy
+{
+public:
+    std::optional<QDateTime> offeredCopy() const override { return offered; }
+    std::optional<QString> takeCopy() override
+    {
+        done.push_back("take");
+        offered.reset();
+        return failure;
+    }
+    void declineCopy() override
+    {
+        done.push_back("decline");
+        offered.reset();
+    }
+    std::optional<QString> renewCopy() override
+    {
+        done.push_back("renew");
+        return failure;
+    }
+    std::optional<QString> damage() const override { return damaged; }
+
+    std::optional<QDateTime> offered;
+    std::optional<QString> damaged;
+    std::optional<QString> failure;
+    std::vector<std::string> done;
+};
+
 /// Around an engine everything but its socket, its time and its windows.
 struct Recorders {
     MemoryStore settings;
+    RecorderGoodCopy goodCopy;
+    RecorderNextStart nextStart;
     RecorderPrompts prompts;
     ToldAddresses ownAddresses;
     RecorderSound sound;

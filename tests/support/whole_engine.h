@@ -47,8 +47,8 @@ public:
     RecorderWindows windows{steps};
     Socket socket;
     Messenger engine{common,
-                     {socket, settings, *time, *time, ownAddresses, prompts, Views::notifications, sound, tray, windows,
-                      Views::privateForms, Views::conferenceForms, Views::view, drops}};
+                     {socket, settings, goodCopy, nextStart, *time, *time, ownAddresses, prompts, Views::notifications,
+                      sound, tray, windows, Views::privateForms, Views::conferenceForms, Views::view, drops}};
 };
 
 } // namespace nimb::test

@@ -1,5 +1,7 @@
 #include "copy.h"
 
+#include "main_window/offer_good_copy.h"
+
 namespace nimb::test
 {
 namespace
@@ -154,6 +156,126 @@ TEST(MainWindowUnload, AFailedSaveIsToldToTheUser)
     EXPECT_THAT(copy.prompts.told, ElementsAre("NIMB-Chat: The disk is full."));
     EXPECT_EQ(copy.settings.saves, 0);
     EXPECT_EQ(copy.steps.back(), "remove icon");
+}
+
+TEST(MainWindowUnload, AFailedSaveThatNobodySawIsLeftForTheNextStart)
+{
+    Copy copy;
+    copy.settings.failure = QStringLiteral("The disk is full.");
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_TRUE(copy.nextStart.sentences.isEmpty()) << "the user has read it";
+    copy.prompts.attended = false;
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_EQ(copy.nextStart.sentences, QStringList("The disk is full."));
+}
+
+TEST(MainWindowLoad, WhatTheLastRunLeftToBeToldIsToldOnce)
+{
+    Copy copy({.loaded = false});
+    copy.nextStart.sentences = {QStringLiteral("The disk is full.")};
+    copy.engine.mainWindow().Form_Load();
+    EXPECT_EQ(copy.view.log.lastLine(), "When NIMB-Chat last ended: The disk is full.");
+    EXPECT_EQ(copy.view.log.colourOfLastPiece(), 0x0000FFu);
+    EXPECT_TRUE(copy.nextStart.sentences.isEmpty());
+}
+
+TEST(MainWindowUnload, WithoutAScreenTheContactsAreToldAndEverythingIsSavedOnce)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.settleStart();
+    copy.arrive("10.0.0.2", "-hello");
+    copy.sent();
+    copy.steps.clear();
+    copy.engine.mainWindow().endWithoutWindows();
+    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "!OFFLINE 10.0.0.1 HERE Me"}));
+    EXPECT_EQ(copy.settings.value("Users", "Nn1"), "Ann");
+    EXPECT_EQ(copy.settings.saves, 1);
+    EXPECT_THAT(copy.steps, IsEmpty()) << "no window is touched";
+    EXPECT_FALSE(copy.window(1).gone);
+    copy.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC Ann");
+    copy.engine.mainWindow().endWithoutWindows();
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_EQ(copy.settings.saves, 1);
+}
+
+TEST(MainWindowUnload, TheGoodCopyIsRenewedAfterASaveThatSucceeded)
+{
+    Copy copy;
+    copy.settings.failure = QStringLiteral("The disk is full.");
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_THAT(copy.goodCopy.done, IsEmpty());
+    copy.settings.failure = std::nullopt;
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_THAT(copy.goodCopy.done, ElementsAre("renew"));
+}
+
+TEST(MainWindowUnload, AGoodCopyThatNobodyDecidedAboutStays)
+{
+    Copy copy({.loaded = false});
+    copy.goodCopy.offered = QDateTime(QDate(2026, 11, 20), QTime(9, 30));
+    copy.engine.mainWindow().Form_Load();
+    EXPECT_EQ(copy.view.log.lastLine(),
+              "There is a copy of the settings, saved on 20/11/2026 at 09:30; NIMB-Chat offers "
+              "it when it is started without a nickname.");
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_THAT(copy.goodCopy.done, IsEmpty());
+}
+
+TEST(MainWindowUnload, AGoodCopyThatCannotBeRenewedIsSaidAtTheNextStart)
+{
+    Copy copy;
+    copy.goodCopy.failure = QStringLiteral("The copy could not be renewed.");
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_EQ(copy.nextStart.sentences, QStringList("The copy could not be renewed."));
+}
+
+TEST(OfferGoodCopy, AsksOnlyWhenThereIsOne)
+{
+    RecorderGoodCopy copy;
+    MemoryStore store;
+    RecorderPrompts prompts;
+    offerGoodCopy(copy, store, prompts);
+    EXPECT_THAT(prompts.asked, IsEmpty());
+}
+
+TEST(OfferGoodCopy, SaysWhatIsWrongAndDoesWhatTheUserSays)
+{
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+    for (const bool answer : {true, false}) {
+        RecorderGoodCopy copy;
+        MemoryStore store;
+        RecorderPrompts prompts;
+        prompts.answer = answer;
+        copy.offered = QDateTime(QDate(2026, 11, 20), QTime(9, 30));
+        store.failure = QStringLiteral("The settings cannot be read.");
+        offerGoodCopy(copy, store, prompts);
+        EXPECT_THAT(prompts.asked,
+                    ElementsAre("NIMB-Chat: The settings cannot be read.\n\nThere is a copy of the settings, saved on "
+                                "20/11/2026 at 09:30. Is NIMB-Chat to go on with that copy? What is there now is kept "
+                                "under another name."));
+        EXPECT_THAT(copy.done, ElementsAre(answer ? "take" : "decline"));
+    }
+}
+
+TEST(OfferGoodCopy, SaysThatTheSettingsAreEmpty)
+{
+    RecorderGoodCopy copy;
+    MemoryStore store;
+    RecorderPrompts prompts;
+    copy.offered = QDateTime(QDate(2026, 11, 20), QTime(9, 30));
+    offerGoodCopy(copy, store, prompts);
+    EXPECT_THAT(prompts.asked, ElementsAre(testing::StartsWith("NIMB-Chat: The settings are empty.\n\n")));
+}
+
+TEST(OfferGoodCopy, ACopyThatCannotBeTakenIsSaid)
+{
+    RecorderGoodCopy copy;
+    MemoryStore store;
+    RecorderPrompts prompts;
+    copy.offered = QDateTime(QDate(2026, 11, 20), QTime(9, 30));
+    copy.failure = QStringLiteral("The disk is full.");
+    offerGoodCopy(copy, store, prompts);
+    EXPECT_THAT(prompts.told, ElementsAre("NIMB-Chat: The disk is full."));
 }
 
 TEST(MainWindowUnload, AStoreThatCannotBeUsedIsSaidAtTheStart)

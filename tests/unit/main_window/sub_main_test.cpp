@@ -22,6 +22,12 @@ public:
     }
     void restoreOtherCopy(const QString &caption) override { steps.push_back("restore " + caption.toStdString()); }
     void loadNotify() override { steps.push_back("notify"); }
+    bool offerGoodCopy() override
+    {
+        if (copyNeeded)
+            steps.push_back("good copy?");
+        return !asksToEnd;
+    }
     void showLogin() override
     {
         steps.push_back("login");
@@ -35,6 +41,8 @@ public:
 
     Common &common;
     bool another = false;
+    bool copyNeeded = false;
+    bool asksToEnd = false;
     QString typed = QStringLiteral("Ann");
     Steps steps;
 };
@@ -83,6 +91,29 @@ TEST_F(SubMainTest, ASecondStartWithoutStoredNicknameLooksForTheBareCaption)
     steps.another = true;
     start("");
     EXPECT_THAT(steps.steps, ElementsAre("another copy?", "restore NIMB-Chat 1.2 - "));
+}
+
+TEST_F(SubMainTest, ACopyOfLostSettingsIsOfferedBeforeTheLoginNeedsThem)
+{
+    steps.copyNeeded = true;
+    EXPECT_EQ(start(""), Started::running);
+    EXPECT_THAT(steps.steps,
+                ElementsAre("another copy?", "notify", "good copy?", "login", "load main as Ann", "show main", "tip"));
+}
+
+TEST_F(SubMainTest, WhoIsAskedToEndMeanwhileDoesNotStart)
+{
+    steps.copyNeeded = true;
+    steps.asksToEnd = true;
+    EXPECT_EQ(start(""), Started::withoutNickname);
+    EXPECT_THAT(steps.steps, ElementsAre("another copy?", "notify", "good copy?"));
+}
+
+TEST_F(SubMainTest, AStartWithANicknameAsksNothing)
+{
+    steps.copyNeeded = true;
+    start("Bob");
+    EXPECT_THAT(steps.steps, testing::Not(testing::Contains("good copy?")));
 }
 
 TEST_F(SubMainTest, TheTipIsShownForExactlyTheValue1)

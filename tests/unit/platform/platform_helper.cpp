@@ -1,5 +1,6 @@
 // A second process for the tests: one that is killed in the middle of its work, or that starts a program again.
 #include "faulty_files.h"
+#include "platform/process_exit.h"
 #include "platform/single_instance.h"
 #include "platform/sqlite_settings_store.h"
 #include "platform/unix_signals.h"
@@ -9,6 +10,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 
 #include <unistd.h>
 
@@ -84,6 +86,16 @@ int endPolitely()
     return QCoreApplication::exec();
 }
 
+/// Is ended by exit() as by a library.
+int exitSuddenly(bool watched)
+{
+    std::optional<ProcessExit> exit;
+    exit.emplace([] { say("ending"); });
+    if (!watched)
+        exit.reset();
+    std::exit(5);
+}
+
 int run(const QStringList &arguments)
 {
     const QString task = arguments.value(1);
@@ -91,6 +103,8 @@ int run(const QStringList &arguments)
         return save(arguments.value(2), arguments.value(3), arguments.value(4), arguments.value(5).toInt());
     if (task == "keep")
         return keep(arguments.value(2), arguments.value(3), arguments.value(4).toInt());
+    if (task == "exit")
+        return exitSuddenly(arguments.value(2) == "watched");
     if (task == "hold")
         return hold(arguments.value(2));
     if (task == "start")

@@ -526,6 +526,176 @@ TEST_F(Kept, AWriterElsewhereIsSaidAndDoesNotHoldTheProgramUp)
     EXPECT_THAT(recovered(), testing::ElementsAre(KeptChange{"Options", "LiveType", "0"}));
 }
 
+// What finds a flipped bit, and the copy that stands in for a store that is lost.
+
+class GoodCopyTest : public SqliteSettingsStoreTest
+{
+protected:
+    void saveWithCopy(const QString &generation)
+    {
+        SqliteSettingsStore store(folder);
+        writeGeneration(store, generation);
+        ASSERT_EQ(store.save(), std::nullopt);
+        ASSERT_EQ(store.renewCopy(), std::nullopt);
+    }
+    QString generationOfCopy() const { return generationIn(Database(copy)); }
+    /// Changes a letter in the middle of a value, as bad memory does, past everything that watches.
+    void flipABit() const
+    {
+        QByteArray bytes = fileBytes();
+        const qsizetype place = bytes.indexOf("contact 7 ");
+        ASSERT_GT(place, 0);
+        bytes[place] = static_cast<char>(bytes[place] ^ 1);
+        QFile damagedFile(file);
+        ASSERT_TRUE(damagedFile.open(QIODevice::WriteOnly));
+        damagedFile.write(bytes);
+    }
+    QStringList files() const { return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
+
+    const QString copy = folder + "/settings.good.sqlite3";
+};
+
+TEST_F(GoodCopyTest, AFlippedBitIsFoundAndWhatCanBeReadIsStillThere)
+{
+    saveGeneration("old");
+    EXPECT_EQ(SqliteSettingsStore(folder).damage(), std::nullopt);
+    flipABit();
+    SqliteSettingsStore store(folder);
+    EXPECT_EQ(store.problem(), std::nullopt);
+    EXPECT_THAT(sentence(store.damage()), isSentenceWith(file, "(Users)"));
+    EXPECT_EQ(store.read("Settings", "MyNickName", ""), "old");
+    EXPECT_EQ(store.offeredCopy(), std::nullopt) << "there is none";
+    writeGeneration(store, "new");
+    ASSERT_EQ(store.save(), std::nullopt);
+    EXPECT_EQ(SqliteSettingsStore(folder).damage(), std::nullopt);
+}
+
+TEST_F(GoodCopyTest, WhatAnotherProgramStoresIsNoDamage)
+{
+    saveGeneration("old");
+    Database(file).run("INSERT INTO settings VALUES('Users', 'IP1', '10.0.0.9'), ('Options', 'LiveType', 0)");
+    Database(file).run("UPDATE settings SET value = 'Bob' WHERE key = 'MyNickName'");
+    Database(file).run("DELETE FROM settings WHERE key = 'Nn3'");
+    const SqliteSettingsStore store(folder);
+    EXPECT_EQ(store.damage(), std::nullopt);
+    EXPECT_EQ(store.read("Settings", "MyNickName", ""), "Bob");
+}
+
+TEST_F(GoodCopyTest, IsWhatWasSavedAndForTheUserAlone)
+{
+    saveWithCopy("first");
+    saveWithCopy("second");
+    EXPECT_EQ(generationOfCopy(), "second");
+    EXPECT_EQ(modeOf(copy), 0600);
+    EXPECT_EQ(files(), (QStringList{"settings.good.sqlite3", "settings.sqlite3"}));
+}
+
+TEST_F(GoodCopyTest, IsNotReplacedByWhatCannotBeReadBack)
+{
+    saveWithCopy("good");
+    SqliteSettingsStore store(folder);
+    writeGeneration(store, "next");
+    ASSERT_EQ(store.save(), std::nullopt);
+    Database(file).run("UPDATE settings SET value = 'else' WHERE key = 'MyNickName'");
+    EXPECT_THAT(sentence(store.renewCopy()), isSentenceWith(copy, "could not be renewed"));
+    EXPECT_EQ(generationOfCopy(), "good");
+}
+
+TEST_F(GoodCopyTest, IsNotOfferedWhileTheStoreIsWell)
+{
+    saveWithCopy("old");
+    EXPECT_EQ(SqliteSettingsStore(folder).offeredCopy(), std::nullopt);
+}
+
+TEST_F(GoodCopyTest, TakesThePlaceOfADamagedStoreWhichIsKept)
+{
+    saveWithCopy("old");
+    putFile("this is no database");
+    SqliteSettingsStore store(folder);
+    ASSERT_NE(store.problem(), std::nullopt);
+    ASSERT_NE(store.offeredCopy(), std::nullopt);
+    EXPECT_EQ(store.takeCopy(), std::nullopt);
+
+    EXPECT_EQ(store.problem(), std::nullopt);
+    EXPECT_EQ(store.offeredCopy(), std::nullopt);
+    EXPECT_EQ(generationIn(store), "old");
+    EXPECT_EQ(generationOnDisk(), "old");
+    EXPECT_EQ(generationOfCopy(), "old");
+    const QStringList aside = QDir(folder).entryList({"settings.damaged-*.sqlite3"});
+    ASSERT_EQ(aside.size(), 1);
+    QFile wreck(folder + u'/' + aside.front());
+    ASSERT_TRUE(wreck.open(QIODevice::ReadOnly));
+    EXPECT_EQ(wreck.readAll(), "this is no database");
+    writeGeneration(store, "new");
+    EXPECT_EQ(store.save(), std::nullopt);
+    EXPECT_EQ(generationOnDisk(), "new");
+}
+
+TEST_F(GoodCopyTest, TakesThePlaceOfAStoreWithFlippedBits)
+{
+    saveWithCopy("old");
+    flipABit();
+    SqliteSettingsStore store(folder);
+    ASSERT_NE(store.offeredCopy(), std::nullopt);
+    EXPECT_EQ(store.takeCopy(), std::nullopt);
+    EXPECT_EQ(store.damage(), std::nullopt);
+    EXPECT_EQ(generationIn(store), "old");
+}
+
+TEST_F(GoodCopyTest, TakesThePlaceOfAnEmptyStore)
+{
+    for (const bool missing : {true, false}) {
+        saveWithCopy("old");
+        if (missing)
+            QFile::remove(file);
+        else
+            putFile("");
+        SqliteSettingsStore store(folder);
+        ASSERT_NE(store.offeredCopy(), std::nullopt);
+        EXPECT_EQ(store.takeCopy(), std::nullopt);
+        EXPECT_EQ(generationIn(store), "old");
+        EXPECT_EQ(files(), (QStringList{"settings.good.sqlite3", "settings.sqlite3"}));
+    }
+}
+
+TEST_F(GoodCopyTest, TheJournalOfADamagedStoreDoesNotReachTheCopyInItsPlace)
+{
+    saveWithCopy("old");
+    putFile("this is no database");
+    SqliteSettingsStore store(folder);
+    QFile journal(file + "-journal");
+    ASSERT_TRUE(journal.open(QIODevice::WriteOnly));
+    journal.write("something");
+    journal.close();
+    EXPECT_EQ(store.takeCopy(), std::nullopt);
+    EXPECT_EQ(generationIn(store), "old");
+    EXPECT_FALSE(QFile::exists(file + "-journal"));
+    EXPECT_EQ(QDir(folder).entryList({"settings.damaged-*.sqlite3-journal"}).size(), 1);
+}
+
+TEST_F(GoodCopyTest, ThatWasDeclinedIsNotOfferedAgain)
+{
+    saveWithCopy("old");
+    putFile("this is no database");
+    SqliteSettingsStore store(folder);
+    store.declineCopy();
+    EXPECT_EQ(store.offeredCopy(), std::nullopt);
+    EXPECT_EQ(fileBytes(), "this is no database");
+}
+
+TEST_F(GoodCopyTest, ThatIsDamagedItselfIsNotTakenAndNothingChanges)
+{
+    saveWithCopy("old");
+    putFile("this is no database");
+    QFile copyFile(copy);
+    ASSERT_TRUE(copyFile.open(QIODevice::WriteOnly));
+    copyFile.write("nor is this");
+    copyFile.close();
+    SqliteSettingsStore store(folder);
+    EXPECT_THAT(sentence(store.takeCopy()), isSentenceWith(copy, "(the file is damaged or holds something else)"));
+    EXPECT_EQ(fileBytes(), "this is no database");
+}
+
 // Failures: each call to the disk fails once and for good, with every code a write can give.
 
 struct Fault {
@@ -608,6 +778,61 @@ TEST_P(EveryFault, OfTheFirstReadingLosesNothing)
             break;
     }
     EXPECT_GT(problems, 5);
+}
+
+TEST_P(EveryFault, OfTheGoodCopyLeavesTheOldCopyOrTheNewOneWhole)
+{
+    FaultyFiles files;
+    const QString copy = folder + "/settings.good.sqlite3";
+    int failures = 0;
+    for (int n = 1;; ++n) {
+        saveGeneration("old");
+        ASSERT_EQ(SqliteSettingsStore(folder).renewCopy(), std::nullopt);
+        saveGeneration("new");
+        SqliteSettingsStore store(folder);
+
+        fail(files, n);
+        const std::optional<QString> failure = store.renewCopy();
+        const bool happened = files.happened();
+        files.heal();
+
+        failures += failure ? 1 : 0;
+        ASSERT_EQ(generationIn(Database(copy)), failure ? "old" : "new") << "call " << n;
+        EXPECT_EQ(generationOnDisk(), "new") << "call " << n;
+        if (!happened)
+            break;
+    }
+    EXPECT_GT(failures, 20);
+}
+
+TEST_P(EveryFault, OfTakingTheGoodCopyIsToldAndLeavesItWhole)
+{
+    FaultyFiles files;
+    const QString copy = folder + "/settings.good.sqlite3";
+    int failures = 0;
+    for (int n = 1;; ++n) {
+        QFile::remove(file);
+        saveGeneration("old");
+        ASSERT_EQ(SqliteSettingsStore(folder).renewCopy(), std::nullopt);
+        putFile("this is no database");
+        SqliteSettingsStore store(folder);
+
+        fail(files, n);
+        const std::optional<QString> failure = store.takeCopy();
+        const std::optional<QString> problem = store.problem();
+        const bool happened = files.happened();
+        files.heal();
+
+        failures += failure || problem ? 1 : 0;
+        EXPECT_EQ(generationIn(Database(copy)), "old") << "call " << n;
+        if (failure)
+            EXPECT_EQ(fileBytes(), "this is no database") << "call " << n;
+        else
+            EXPECT_EQ(generationOnDisk(), "old") << "call " << n;
+        if (!happened)
+            break;
+    }
+    EXPECT_GT(failures, 10);
 }
 
 TEST_P(EveryFault, OfKeepingLeavesWhatWasKeptBeforeWholeAndIsTold)
