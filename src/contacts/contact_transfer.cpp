@@ -17,7 +17,7 @@ void moveRows(TransferList &from, TransferList &to, std::vector<int> rows)
     const auto isMissing = [&from](int row) { return row < 0 || row >= from.rowCount(); };
     std::erase_if(rows, isMissing);
     std::ranges::sort(rows);
-    rows.erase(std::ranges::unique(rows).begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
     to.append(from.take(rows));
 }
 
