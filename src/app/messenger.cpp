@@ -5,7 +5,7 @@ namespace nimb
 
 Messenger::Messenger(Common &common, const Surroundings &around)
     : m_socket(around.socket), m_windows(around.windows), m_admission(common, m_contacts, around.ownAddresses),
-      m_log(around.mainView.outtext(), around.clock), m_sender(common, around.socket),
+      m_log(around.mainView.outtext(), around.clock), m_unknown(m_log, around.timers), m_sender(common, around.socket),
       m_announcement(common, m_contacts, m_sender, around.timers, around.mainView),
       m_ownState(common, m_contacts, m_sender, m_announcement, m_log, around.mainView,
                  [this] { m_recovery.settingsChanged(); }),
@@ -33,7 +33,7 @@ Messenger::Messenger(Common &common, const Surroundings &around)
       m_contactCommands({common, around.socket, around.sound, around.prompts}, m_contacts, m_privateWindows),
       m_dispatcher(m_contacts,
                    {.presence = &m_presence,
-                    .unknown = &m_log,
+                    .unknown = &m_unknown,
                     .privateMessages = &m_privateWindows,
                     .peerSignals = &m_peerFeatures,
                     .avatars = &m_peerFeatures,

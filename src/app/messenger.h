@@ -4,6 +4,7 @@
 #include "base/good_copy.h"
 #include "base/next_start.h"
 #include "base/notifications.h"
+#include "base/unknown_datagrams.h"
 #include "conference/conference_commands.h"
 #include "contacts/shared_contacts.h"
 #include "main_window/contact_commands.h"
@@ -68,6 +69,7 @@ private:
     ContactList m_contacts;
     Admission m_admission;
     MainLog m_log;
+    UnknownDatagrams m_unknown;
     PresenceSender m_sender;
     Announcement m_announcement;
     OwnState m_ownState;

@@ -48,6 +48,11 @@ constexpr int invitationsOfHost = 50;
 constexpr std::size_t participants = 1000;
 /// Rows that wait in the notification window.
 constexpr qsizetype notifications = 100;
+/// Bytes of datagrams that wait for the engine: a burst of 100,000 messages, while memory stays what people expect.
+constexpr std::size_t waitingArrivals = 32 * 1024 * 1024;
+/// Lines a second that one sender's datagrams nobody understands may write: they tell that something is wrong there,
+/// and more of them tell nothing more. What is beyond is counted in one line.
+constexpr int unknownLinesPerSecond = 20;
 /// Contacts asked in one turn of the event loop during an announcement, so that their answers are read between.
 constexpr std::size_t announcementBatch = 64;
 /// How long an announcement waits for answers.

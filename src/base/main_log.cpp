@@ -60,6 +60,12 @@ void MainLog::garbage(const QString &data)
     line(tr("--- garbage received  (%1) ---").arg(shownText(remoteLine(data))), colours::unknownDatagram);
 }
 
+void MainLog::moreUnknown(const QString &sender, int count)
+{
+    line(tr("--- %n more that nobody understands received from %1 ---", nullptr, count).arg(sender),
+         colours::unknownDatagram);
+}
+
 void MainLog::fault(const QString &sentence)
 {
     line(sentence, colours::fault);

@@ -3,14 +3,13 @@
 
 #include "base/rich_text.h"
 #include "base/timers.h"
-#include "protocol/handlers.h"
 
 #include <QCoreApplication>
 
 namespace nimb
 {
 
-class MainLog : public UnknownDatagramHandler
+class MainLog
 {
     Q_DECLARE_TR_FUNCTIONS(MainLog)
 
@@ -27,8 +26,11 @@ public:
     void wentOffline(const QString &name);
     /// state: the state word alone.
     void changedState(const QString &name, const QString &state);
-    void unsupportedCommand(const QString &data) override;
-    void garbage(const QString &data) override;
+    /// data: the whole datagram.
+    void unsupportedCommand(const QString &data);
+    void garbage(const QString &data);
+    /// Further ones of this sender, which have no line of their own.
+    void moreUnknown(const QString &sender, int count);
     /// A fault of the program's own surroundings (port, store), one sentence.
     void fault(const QString &sentence);
     /// Something worth knowing that is no fault.

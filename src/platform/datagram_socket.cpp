@@ -1,5 +1,6 @@
 #include "platform/datagram_socket.h"
 
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <utility>
@@ -81,6 +82,53 @@ std::optional<std::uint32_t> lostCount(msghdr &message)
 }
 #endif
 
+/// What the system writes beside a datagram.
+struct Slot {
+    sockaddr_in source = {};
+    iovec data = {};
+    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(std::uint32_t))> extras = {};
+
+    /// For a call that receives into this room.
+    msghdr headerFor(std::span<char> room)
+    {
+        data = {room.data(), room.size()};
+        msghdr header = {};
+        header.msg_name = &source;
+        header.msg_namelen = sizeof source;
+        header.msg_iov = &data;
+        header.msg_iovlen = 1;
+        header.msg_control = extras.data();
+        header.msg_controllen = extras.size();
+        return header;
+    }
+};
+
+#ifdef __linux__
+/// The number received, or -1 with errno.
+int receiveMany(int descriptor, std::span<mmsghdr> headers)
+{
+    return ::recvmmsg(descriptor, headers.data(), static_cast<unsigned>(headers.size()), 0, nullptr);
+}
+#else
+struct mmsghdr {
+    msghdr msg_hdr;
+    unsigned msg_len;
+};
+
+int receiveMany(int descriptor, std::span<mmsghdr> headers)
+{
+    int received = 0;
+    for (mmsghdr &header : headers) {
+        const auto size = ::recvmsg(descriptor, &header.msg_hdr, 0);
+        if (size < 0)
+            return received > 0 ? received : -1;
+        header.msg_len = static_cast<unsigned>(size);
+        ++received;
+    }
+    return received;
+}
+#endif
+
 } // namespace
 
 std::variant<DatagramSocket, DatagramSocket::SystemError> DatagramSocket::open(Ipv4Endpoint local, Sharing sharing)
@@ -146,30 +194,32 @@ bool DatagramSocket::send(Ipv4Endpoint destination, std::string_view bytes)
     return sent >= 0;
 }
 
-DatagramSocket::Arrival DatagramSocket::receive(Buffer &buffer)
+DatagramSocket::Buffers::Buffers() : m_bytes(new char[count * size])
 {
-    sockaddr_in source = {};
-    iovec data = {buffer.data(), buffer.size()};
-    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(std::uint32_t))> extras = {};
-    msghdr message = {};
-    message.msg_name = &source;
-    message.msg_namelen = sizeof source;
-    message.msg_iov = &data;
-    message.msg_iovlen = 1;
-    message.msg_control = extras.data();
-    message.msg_controllen = extras.size();
+    m_datagrams.reserve(count);
+}
 
-    const auto size = ::recvmsg(m_descriptor, &message, 0);
-    if (size < 0) {
-        const bool nothing = errno == EAGAIN || errno == EWOULDBLOCK;
-        return {.outcome = nothing ? Outcome::nothing : Outcome::error};
-    }
-    Arrival arrival{.outcome = Outcome::datagram, .size = static_cast<std::size_t>(size), .source = fromSystem(source)};
+DatagramSocket::Reception DatagramSocket::receive(Buffers &buffers)
+{
+    std::array<Slot, Buffers::count> slots;
+    std::array<mmsghdr, Buffers::count> headers = {};
+    for (std::size_t i = 0; i < slots.size(); ++i)
+        headers[i].msg_hdr = slots[i].headerFor({buffers.buffer(i), Buffers::size});
+
+    const int received = receiveMany(m_descriptor, headers);
+    if (received < 0)
+        return {.failed = errno != EAGAIN && errno != EWOULDBLOCK && errno != EINTR};
+    Reception reception;
+    buffers.m_datagrams.clear();
+    for (std::size_t i = 0; i < static_cast<std::size_t>(received); ++i) {
+        buffers.m_datagrams.push_back({fromSystem(slots[i].source), {buffers.buffer(i), headers[i].msg_len}});
 #ifdef SO_RXQ_OVFL
-    const std::uint32_t lost = lostCount(message).value_or(m_lostSoFar);
-    arrival.newlyLost = lost - std::exchange(m_lostSoFar, lost); // the count may wrap around
+        const std::uint32_t lost = lostCount(headers[i].msg_hdr).value_or(m_lostSoFar);
+        reception.newlyLost += lost - std::exchange(m_lostSoFar, lost); // the count may wrap around
 #endif
-    return arrival;
+    }
+    reception.datagrams = buffers.m_datagrams;
+    return reception;
 }
 
 std::optional<Ipv4Address> sourceAddressTowards(Ipv4Endpoint destination)

@@ -3,12 +3,14 @@
 
 #include "protocol/ipv4_address.h"
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
+#include <span>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 namespace nimb
 {
@@ -26,17 +28,34 @@ public:
         exclusive, ///< fails while any other socket holds the address and port
         shared,    ///< for a broadcast address: every socket bound this way gets its own copy of each datagram
     };
-    enum class Outcome { datagram, nothing, error };
 
-    struct Arrival {
-        Outcome outcome = Outcome::nothing;
-        std::size_t size = 0; ///< bytes of the datagram, zero included
-        Ipv4Endpoint source = {};
-        std::uint32_t newlyLost = 0; ///< datagrams the system dropped for want of room since the last one told
+    struct Datagram {
+        Ipv4Endpoint source;
+        std::string_view bytes; ///< in the buffers that it was received into
     };
 
-    /// The largest datagram that IPv4 can carry fits in.
-    using Buffer = std::array<char, 65536>;
+    /// Room for what one call of receive() takes. Memory that no datagram was long enough to reach is never touched.
+    class Buffers
+    {
+    public:
+        Buffers();
+
+    private:
+        friend class DatagramSocket;
+        static constexpr std::size_t count = 64;
+        static constexpr std::size_t size = 65536; ///< the largest datagram that IPv4 can carry fits in
+
+        char *buffer(std::size_t index) const { return m_bytes.get() + index * size; }
+
+        std::unique_ptr<char[]> m_bytes;
+        std::vector<Datagram> m_datagrams;
+    };
+
+    struct Reception {
+        std::span<const Datagram> datagrams = {}; ///< valid until the buffers are used again
+        std::uint32_t newlyLost = 0; ///< datagrams the system dropped for want of room since the last one told
+        bool failed = false;         ///< of no use to anybody but a counter
+    };
 
     struct SystemError {
         int number; ///< as errno has it
@@ -59,8 +78,8 @@ public:
 
     /// False when the system did not take the datagram.
     [[nodiscard]] bool send(Ipv4Endpoint destination, std::string_view bytes);
-    /// Takes one waiting datagram into the buffer.
-    Arrival receive(Buffer &buffer);
+    /// Takes what waits, as far as there are buffers. Does not wait. May run while another thread sends.
+    Reception receive(Buffers &buffers);
 
 private:
     explicit DatagramSocket(int descriptor) : m_descriptor(descriptor) { }

@@ -1,11 +1,14 @@
 #include "platform/udp_winsock.h"
 
+#include "base/limits.h"
 #include "platform/own_identity.h"
 
 #include <QScopeGuard>
 
 #include <algorithm>
+#include <system_error>
 #include <utility>
+#include <vector>
 
 #include <cerrno>
 
@@ -49,44 +52,51 @@ bool UdpWinsock::bind()
     if (m_localPort == 0)
         return false;
     const Ipv4Address address = m_fixedAddress.value_or(Ipv4Address());
-    auto own = listen({address, m_localPort}, DatagramSocket::Sharing::exclusive, &UdpWinsock::readOwn);
+    auto own = DatagramSocket::open({address, m_localPort}, DatagramSocket::Sharing::exclusive);
     if (const auto *const error = std::get_if<DatagramSocket::SystemError>(&own)) {
         m_bindFailure = bindFailureOf(error->number);
         return false;
     }
-    m_bindFailure = BindFailure::none;
-    m_own = std::get<Ear>(std::move(own));
-    m_receiveBufferBytes = m_own->socket.growReceiveBuffer(receiveBufferAsked);
-    m_own->socket.growSendBuffer(sendBufferAsked);
+    m_own = std::get<DatagramSocket>(std::move(own));
+    m_receiveBufferBytes = m_own->growReceiveBuffer(receiveBufferAsked);
+    m_own->growSendBuffer(sendBufferAsked);
 
     // A socket that is bound to one loopback address hears no broadcast; one bound to every interface does.
     if (address.isLoopback() && address != loopbackBroadcast) {
-        auto broadcasts
-            = listen({loopbackBroadcast, m_localPort}, DatagramSocket::Sharing::shared, &UdpWinsock::readBroadcasts);
-        if (auto *const ear = std::get_if<Ear>(&broadcasts)) {
-            ear->socket.growReceiveBuffer(receiveBufferAsked);
-            m_broadcasts = std::move(*ear);
+        auto broadcasts = DatagramSocket::open({loopbackBroadcast, m_localPort}, DatagramSocket::Sharing::shared);
+        if (auto *const socket = std::get_if<DatagramSocket>(&broadcasts)) {
+            socket->growReceiveBuffer(receiveBufferAsked);
+            m_broadcasts = std::move(*socket);
         }
     }
-    return true;
+    const bool reads = startReading();
+    m_bindFailure = reads ? BindFailure::none : BindFailure::other;
+    if (!reads) {
+        m_own.reset();
+        m_broadcasts.reset();
+    }
+    return reads;
 }
 
-std::variant<UdpWinsock::Ear, DatagramSocket::SystemError>
-UdpWinsock::listen(Ipv4Endpoint local, DatagramSocket::Sharing sharing, void (UdpWinsock::*arrivals)())
+bool UdpWinsock::startReading()
 {
-    auto opened = DatagramSocket::open(local, sharing);
-    auto *const socket = std::get_if<DatagramSocket>(&opened);
-    if (!socket)
-        return std::get<DatagramSocket::SystemError>(opened);
-    auto notifier = std::make_unique<QSocketNotifier>(socket->descriptor(), QSocketNotifier::Read);
-    connect(notifier.get(), &QSocketNotifier::activated, this, arrivals);
-    return Ear{std::move(*socket), std::move(notifier)};
+    std::vector<DatagramSocket *> sockets = {&*m_own};
+    if (m_broadcasts)
+        sockets.push_back(&*m_broadcasts);
+    try {
+        m_reader.emplace(std::move(sockets), limits::waitingArrivals);
+    } catch (const std::system_error &) {
+        return false;
+    }
+    m_notifier = std::make_unique<QSocketNotifier>(m_reader->readable(), QSocketNotifier::Read);
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, &UdpWinsock::handOver);
+    return true;
 }
 
 void UdpWinsock::SendData(const std::string &bytes)
 {
     const bool canSend = m_own && m_remoteHost && m_remotePort != 0;
-    if (canSend && m_own->socket.send({*m_remoteHost, m_remotePort}, bytes))
+    if (canSend && m_own->send({*m_remoteHost, m_remotePort}, bytes))
         return;
     m_drops.count(Drop::notSent);
     if (canSend)
@@ -95,9 +105,10 @@ void UdpWinsock::SendData(const std::string &bytes)
 
 std::string UdpWinsock::GetData(std::size_t byteCount)
 {
-    m_lastSource = m_waiting.source.address;
-    const std::size_t size = std::min(byteCount, std::exchange(m_waiting.size, 0));
-    return std::string(m_buffer.data(), size);
+    m_lastSource = m_waiting.source;
+    std::string taken = std::exchange(m_waiting.bytes, {});
+    taken.resize(std::min(byteCount, taken.size()));
+    return taken;
 }
 
 Ipv4Address UdpWinsock::LocalIP() const
@@ -110,36 +121,32 @@ QString UdpWinsock::LocalHostName() const
     return ownHostName(m_fixedHostName);
 }
 
-void UdpWinsock::readBatch(Ear &ear)
+void UdpWinsock::handOver()
 {
-    // A handler that runs an event loop of its own must see its datagram through before the next one is read.
-    setListening(false);
-    const auto listenAgain = qScopeGuard([this] { setListening(true); });
-    for (int i = 0; i < batchSize; ++i) {
-        const DatagramSocket::Arrival arrival = ear.socket.receive(m_buffer);
-        if (arrival.outcome == DatagramSocket::Outcome::nothing)
-            break;
-        if (arrival.outcome == DatagramSocket::Outcome::error)
-            reportError();
-        else
-            deliver(arrival);
-    }
+    // A handler that runs an event loop of its own must see its datagram through before the next one is handed over.
+    m_notifier->setEnabled(false);
+    const auto listenAgain = qScopeGuard([this] { m_notifier->setEnabled(true); });
+    DatagramReader::Batch batch = m_reader->take(batchSize);
+    count(batch);
+    for (Arrival &arrival : batch.arrivals)
+        deliver(std::move(arrival));
 }
 
-void UdpWinsock::setListening(bool on)
+void UdpWinsock::count(const DatagramReader::Batch &batch)
 {
-    m_own->notifier->setEnabled(on);
-    if (m_broadcasts)
-        m_broadcasts->notifier->setEnabled(on);
+    if (batch.lostBySystem > 0)
+        m_drops.count(Drop::notReceived, batch.lostBySystem);
+    for (const auto &[sender, datagrams] : batch.losses)
+        m_drops.countLoud(sender, datagrams);
+    for (std::uint64_t i = 0; i < batch.errors; ++i)
+        reportError();
 }
 
-void UdpWinsock::deliver(const DatagramSocket::Arrival &arrival)
+void UdpWinsock::deliver(Arrival arrival)
 {
-    if (arrival.newlyLost > 0)
-        m_drops.count(Drop::notReceived, arrival.newlyLost);
-    m_waiting = arrival;
+    m_waiting = std::move(arrival);
     if (DataArrival)
-        DataArrival(arrival.size);
+        DataArrival(m_waiting.bytes.size());
 }
 
 void UdpWinsock::reportError() const

@@ -1,6 +1,7 @@
 // The UDP socket of the operating system behind the Winsock interface.
 #pragma once
 
+#include "platform/datagram_reader.h"
 #include "platform/datagram_socket.h"
 #include "protocol/drop_counts.h"
 #include "protocol/winsock.h"
@@ -14,9 +15,10 @@
 namespace nimb
 {
 
-/// Reads a bounded number of datagrams per activation and returns to the event loop between two batches, so that a
-/// flood starves neither windows nor timers. Handlers of DataArrival may send, and may run an event loop of their
-/// own: nothing further is read before they return. They must not destroy this object.
+/// A thread of its own reads; here datagrams are handed over, a bounded number per activation, with a return to the
+/// event loop between two batches, so that a flood starves neither windows nor timers. Handlers of DataArrival may
+/// send, and may run an event loop of their own: nothing further is handed over before they return. They must not
+/// destroy this object.
 class UdpWinsock : public QObject, public Winsock
 {
     Q_OBJECT
@@ -50,20 +52,12 @@ public:
     int receiveBufferBytes() const { return m_receiveBufferBytes; }
 
 private:
-    /// A socket together with what wakes us for it.
-    struct Ear {
-        DatagramSocket socket;
-        std::unique_ptr<QSocketNotifier> notifier; // goes before its socket
-    };
-
     static BindFailure bindFailureOf(int error);
-    std::variant<Ear, DatagramSocket::SystemError> listen(Ipv4Endpoint local, DatagramSocket::Sharing sharing,
-                                                          void (UdpWinsock::*arrivals)());
-    void readOwn() { readBatch(*m_own); }
-    void readBroadcasts() { readBatch(*m_broadcasts); }
-    void readBatch(Ear &ear);
-    void setListening(bool on);
-    void deliver(const DatagramSocket::Arrival &arrival);
+    /// False when the system has no thread or descriptor left.
+    bool startReading();
+    void handOver();
+    void count(const DatagramReader::Batch &batch);
+    void deliver(Arrival arrival);
     void reportError() const;
 
     DropCounts &m_drops;
@@ -73,10 +67,11 @@ private:
     std::uint16_t m_remotePort = 0;
     std::optional<Ipv4Address> m_remoteHost;
     Ipv4Address m_lastSource;
-    DatagramSocket::Arrival m_waiting; ///< announced and not yet taken
-    DatagramSocket::Buffer m_buffer = {};
-    std::optional<Ear> m_own;
-    std::optional<Ear> m_broadcasts; ///< hears what is sent to every copy on the loopback network
+    Arrival m_waiting; ///< announced and not yet taken
+    std::optional<DatagramSocket> m_own;
+    std::optional<DatagramSocket> m_broadcasts; ///< hears what is sent to every copy on the loopback network
+    std::optional<DatagramReader> m_reader;     ///< goes before its sockets, and after what watches it
+    std::unique_ptr<QSocketNotifier> m_notifier;
     int m_receiveBufferBytes = 0;
     BindFailure m_bindFailure = BindFailure::none;
 };

@@ -6,6 +6,8 @@
 #include <functional>
 
 #ifdef Q_OS_UNIX
+#include "platform/wake_pipe.h"
+
 #include <QObject>
 #include <QSocketNotifier>
 
@@ -38,8 +40,8 @@ private:
     void wake();
 
     std::function<void()> m_askedToEnd;
-    std::array<int, 2> m_pair = {-1, -1}; ///< the handler writes into the first, the event loop reads the second
-    std::unique_ptr<QSocketNotifier> m_notifier;
+    WakePipe m_pipe;
+    std::unique_ptr<QSocketNotifier> m_notifier; // goes before its descriptor
     std::array<Previous, 4> m_previous;
 };
 

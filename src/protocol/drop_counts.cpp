@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 
+#include <algorithm>
 #include <array>
 
 namespace nimb
@@ -12,8 +13,8 @@ namespace
 
 /// In the order of the summary.
 constexpr std::array reasons
-    = {Drop::stranger,   Drop::incomplete,      Drop::noFeature, Drop::noWindow,   Drop::noConference,
-       Drop::badAddress, Drop::tooManyContacts, Drop::notSent,   Drop::notReceived};
+    = {Drop::stranger,   Drop::incomplete,      Drop::noFeature, Drop::noWindow,    Drop::noConference,
+       Drop::badAddress, Drop::tooManyContacts, Drop::notSent,   Drop::notReceived, Drop::tooLoud};
 
 QString label(Drop reason)
 {
@@ -36,11 +37,23 @@ QString label(Drop reason)
         return QCoreApplication::translate("DropCounts", "Datagrams that could not be sent: %1");
     case Drop::notReceived:
         return QCoreApplication::translate("DropCounts", "Datagrams lost before they could be read: %1");
+    case Drop::tooLoud:
+        return QCoreApplication::translate("DropCounts", "More than could wait, of the loudest senders: %1");
     }
     return {};
 }
 
+/// Forged addresses must not take memory without end.
+constexpr std::size_t loudSendersKept = 1000;
+
 } // namespace
+
+void DropCounts::countLoud(Ipv4Address sender, std::uint64_t times)
+{
+    count(Drop::tooLoud, times);
+    if (m_loud.size() < loudSendersKept || m_loud.contains(sender))
+        m_loud[sender] += times;
+}
 
 QString DropCounts::summary() const
 {
@@ -49,6 +62,11 @@ QString DropCounts::summary() const
         if (of(reason) > 0)
             lines << label(reason).arg(of(reason));
     }
+    const auto loudest = std::ranges::max_element(m_loud, {}, &decltype(m_loud)::value_type::second);
+    if (loudest != m_loud.end())
+        lines << QCoreApplication::translate("DropCounts", "of them from %1: %2")
+                     .arg(QLatin1String(loudest->first.toText()))
+                     .arg(loudest->second);
     return lines.join(u'\n');
 }
 

@@ -1,10 +1,13 @@
 // What was dropped, and why. Shown in the status bar's tool tip, never in a log.
 #pragma once
 
+#include "protocol/ipv4_address.h"
+
 #include <QHash>
 #include <QString>
 
 #include <cstdint>
+#include <map>
 
 namespace nimb
 {
@@ -19,6 +22,7 @@ enum class Drop {
     tooManyContacts, ///< strangers have filled the contact list
     notSent,         ///< the system refused to send, or the socket is not bound
     notReceived,     ///< arrived at the machine and was lost before the program could read it
+    tooLoud,         ///< more than could wait, from the sender with the most of it
 };
 
 /// Counts since the start of the program.
@@ -27,11 +31,14 @@ class DropCounts
 public:
     void count(Drop reason, std::uint64_t times = 1) { m_counts[reason] += times; }
     std::uint64_t of(Drop reason) const { return m_counts.value(reason, 0); }
+    /// A tooLoud of this sender, who is named by the summary if nobody lost more.
+    void countLoud(Ipv4Address sender, std::uint64_t times);
     /// One line for each reason that occurred, ready to be shown; empty when nothing was dropped.
     QString summary() const;
 
 private:
     QHash<Drop, std::uint64_t> m_counts;
+    std::map<Ipv4Address, std::uint64_t> m_loud; ///< of the first thousand
 };
 
 } // namespace nimb

@@ -93,8 +93,8 @@ class UnknownDatagramHandler
 public:
     virtual ~UnknownDatagramHandler() = default;
     /// data: the whole datagram.
-    virtual void unsupportedCommand(const QString &data) = 0;
-    virtual void garbage(const QString &data) = 0;
+    virtual void unsupportedCommand(Ipv4Address ip, const QString &data) = 0;
+    virtual void garbage(Ipv4Address ip, const QString &data) = 0;
 };
 
 } // namespace nimb

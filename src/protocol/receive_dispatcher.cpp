@@ -78,13 +78,11 @@ public:
     void operator()(const wire::Incomplete &) const { m_drops.count(Drop::incomplete); }
     void operator()(const wire::Unsupported &d) const
     {
-        if (m_handlers.unknown)
-            m_handlers.unknown->unsupportedCommand(fromWire(d.bytes));
+        to(m_handlers.unknown, &UnknownDatagramHandler::unsupportedCommand, fromWire(d.bytes));
     }
     void operator()(const wire::Garbage &d) const
     {
-        if (m_handlers.unknown)
-            m_handlers.unknown->garbage(fromWire(d.bytes));
+        to(m_handlers.unknown, &UnknownDatagramHandler::garbage, fromWire(d.bytes));
     }
 
 private:

@@ -38,7 +38,7 @@ protected:
         guard.hearUntil("!STATUS Online");
     }
 
-    /// Waits until everything that was sent before has been dealt with; whether the copy answers the guard.
+    /// Whether the copy answers the guard, whatever waits from Ann.
     bool stillAnswers()
     {
         guard.send("127.0.36.1", "?ONLINE");

@@ -59,8 +59,11 @@ public:
     {
         told.push_back("conference " + wire::serialise(datagram));
     }
-    void unsupportedCommand(const QString &data) override { note(QStringLiteral("unsupported [%1]").arg(data)); }
-    void garbage(const QString &data) override { note(QStringLiteral("garbage [%1]").arg(data)); }
+    void unsupportedCommand(Ipv4Address, const QString &data) override
+    {
+        note(QStringLiteral("unsupported [%1]").arg(data));
+    }
+    void garbage(Ipv4Address, const QString &data) override { note(QStringLiteral("garbage [%1]").arg(data)); }
 
     std::vector<std::string> told;
 

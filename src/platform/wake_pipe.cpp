@@ -1,0 +1,57 @@
+#include "platform/wake_pipe.h"
+
+#include <array>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace nimb
+{
+namespace
+{
+
+void neverBlockNorInherit(int descriptor)
+{
+    fcntl(descriptor, F_SETFL, fcntl(descriptor, F_GETFL) | O_NONBLOCK);
+    fcntl(descriptor, F_SETFD, FD_CLOEXEC);
+}
+
+} // namespace
+
+WakePipe::WakePipe()
+{
+    std::array<int, 2> pair = {};
+    if (::socketpair(AF_UNIX, SOCK_STREAM, 0, pair.data()) != 0)
+        return;
+    for (const int descriptor : pair)
+        neverBlockNorInherit(descriptor);
+    m_reading = pair[0];
+    m_writing = pair[1];
+}
+
+WakePipe::~WakePipe()
+{
+    for (const int descriptor : {m_reading, m_writing}) {
+        if (descriptor != none)
+            ::close(descriptor);
+    }
+}
+
+void WakePipe::wake(int writable)
+{
+    const int kept = errno;
+    const char byte = 0;
+    // When the pair is full its reader has been woken already.
+    [[maybe_unused]] const auto written = ::write(writable, &byte, 1);
+    errno = kept;
+}
+
+void WakePipe::calm() const
+{
+    std::array<char, 64> bytes;
+    while (::read(m_reading, bytes.data(), bytes.size()) > 0) { }
+}
+
+} // namespace nimb

@@ -1,0 +1,69 @@
+// What the socket's reader took from the system and the engine has not seen yet.
+#pragma once
+
+#include "protocol/ipv4_address.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <list>
+#include <map>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace nimb
+{
+
+struct Arrival {
+    Ipv4Address source;
+    std::string bytes;
+};
+
+/// Datagrams in the order in which the engine gets them: in turn by sender, so that one who sends without pause keeps
+/// nobody else waiting, and those of one sender as they came. What all of them take has a bound; beyond it the sender
+/// with the most waiting loses the newest. Belongs to one thread at a time.
+class ArrivalQueue
+{
+public:
+    /// Datagrams of one sender that had no room.
+    using Losses = std::map<Ipv4Address, std::uint64_t>;
+
+    /// Bytes that each datagram, and each sender with one, counts beside the text: what its nodes take.
+    static constexpr std::size_t overhead = 128;
+
+    /// capacity: bytes of all that waits, overhead included.
+    explicit ArrivalQueue(std::size_t capacity) : m_capacity(capacity) { }
+
+    bool isEmpty() const { return m_turns.empty(); }
+    std::size_t bytes() const { return m_bytes; }
+
+    void push(Ipv4Address source, std::string_view bytes);
+    /// The next ones, at most so many.
+    std::vector<Arrival> take(std::size_t most);
+    /// Who lost how many since the last call.
+    Losses takeLosses();
+
+private:
+    struct Sender {
+        Ipv4Address address;
+        std::size_t bytes = overhead;
+        std::list<std::string> waiting;
+    };
+    using Turns = std::list<Sender>;
+
+    static std::size_t cost(const std::string &datagram) { return datagram.size() + overhead; }
+    Turns::iterator turnOf(Ipv4Address source);
+    Turns::iterator loudest();
+    void dropNewestOf(Turns::iterator sender);
+    void forget(Turns::iterator sender);
+
+    std::size_t m_capacity;
+    std::size_t m_bytes = 0;
+    Turns m_turns; ///< each with something waiting, the next one first
+    std::unordered_map<std::uint32_t, Turns::iterator> m_byAddress;
+    Turns::iterator m_loudest = m_turns.end(); ///< of those seen since it was looked for, or end
+    Losses m_losses;
+};
+
+} // namespace nimb
