@@ -49,7 +49,7 @@ constexpr std::size_t participants = 1000;
 /// Rows that wait in the notification window.
 constexpr qsizetype notifications = 100;
 /// Bytes of datagrams that wait for the engine: a burst of 100,000 messages, while memory stays what people expect.
-constexpr std::size_t waitingArrivals = 32 * 1024 * 1024;
+constexpr std::size_t waitingArrivals = std::size_t{32} * 1024 * 1024;
 /// Lines a second that one sender's datagrams nobody understands may write: they tell that something is wrong there,
 /// and more of them tell nothing more. What is beyond is counted in one line.
 constexpr int unknownLinesPerSecond = 20;
