@@ -127,7 +127,11 @@ TEST_F(DatagramReaderTest, WhatHasNoRoomIsCountedByTheSenderWhoTookIt)
     const std::vector<Arrival> taken = takeAll(reader, 401, &m_counts);
 
     EXPECT_EQ(m_counts.lostBySystem, 0U);
-    EXPECT_EQ(taken.size(), 200U); // 199 of them fit with what each counts beside its text
+    // 199 of them fit with what each counts beside its text, and Ben's. One more may be on its way between the system
+    // and the queue when the first are taken.
+    EXPECT_GE(taken.size(), 200U);
+    EXPECT_LE(taken.size(), 201U);
+    EXPECT_EQ(m_counts.losses.begin()->second, 401 - taken.size());
     EXPECT_THAT(taken, Contains(Field(&Arrival::bytes, "-hello")));
     EXPECT_THAT(m_counts.losses, ElementsAre(Key(Ipv4Address(127, 0, 2, 2))));
 }
