@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cerrno>
+#include <iterator>
 
 #include <fcntl.h>
 #include <sys/socket.h>
@@ -51,7 +52,7 @@ void WakePipe::wake(int writable)
 void WakePipe::calm() const
 {
     std::array<char, 64> bytes;
-    while (::read(m_reading, bytes.data(), bytes.size()) > 0) { }
+    while (::read(m_reading, bytes.data(), bytes.size()) == std::ssize(bytes)) { }
 }
 
 } // namespace nimb

@@ -51,7 +51,8 @@ constexpr std::size_t loudSendersKept = 1000;
 void DropCounts::countLoud(Ipv4Address sender, std::uint64_t times)
 {
     count(Drop::tooLoud, times);
-    if (m_loud.size() < loudSendersKept || m_loud.contains(sender))
+    const bool named = !sender.isUnspecified() && (m_loud.size() < loudSendersKept || m_loud.contains(sender));
+    if (named)
         m_loud[sender] += times;
 }
 

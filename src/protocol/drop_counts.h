@@ -31,7 +31,7 @@ class DropCounts
 public:
     void count(Drop reason, std::uint64_t times = 1) { m_counts[reason] += times; }
     std::uint64_t of(Drop reason) const { return m_counts.value(reason, 0); }
-    /// A tooLoud of this sender, who is named by the summary if nobody lost more.
+    /// A tooLoud of this sender, or of several when unspecified. The summary names the one who lost most.
     void countLoud(Ipv4Address sender, std::uint64_t times);
     /// One line for each reason that occurred, ready to be shown; empty when nothing was dropped.
     QString summary() const;

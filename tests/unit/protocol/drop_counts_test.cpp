@@ -58,5 +58,19 @@ TEST(DropCounts, SummaryKnowsEveryReason)
               "Datagrams lost before they could be read: 7");
 }
 
+TEST(DropCounts, SummaryNamesTheSenderWhoLostMost)
+{
+    DropCounts counts;
+    counts.countLoud(Ipv4Address(10, 0, 0, 2), 3);
+    counts.countLoud(Ipv4Address(10, 0, 0, 3), 2);
+    counts.countLoud(Ipv4Address(10, 0, 0, 3), 2);
+    counts.countLoud(Ipv4Address(), 9); // of more senders than are told apart
+
+    EXPECT_EQ(counts.of(Drop::tooLoud), 16U);
+    EXPECT_EQ(counts.summary(),
+              "More than could wait, of the loudest senders: 16\n"
+              "of them from 10.0.0.3: 4");
+}
+
 } // namespace
 } // namespace nimb::test
