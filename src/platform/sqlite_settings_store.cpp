@@ -340,8 +340,7 @@ std::optional<QString> SqliteSettingsStore::keep(const std::vector<KeptChange> &
         if (m_database)
             sqlite3_busy_timeout(m_database.get(), busyTimeoutMs);
         return tr("What has changed cannot be kept in %1 now (%2), so it would be lost if NIMB-Chat ended before it "
-                  "can "
-                  "save.")
+                  "can save.")
             .arg(QDir::toNativeSeparators(m_file), failure.reason);
     }
     return std::nullopt;

@@ -38,6 +38,20 @@ protected:
         return logHeardBy(ann, main, window);
     }
 
+    /// A run that ended well, then a store that is none, and the start that offers the good copy.
+    void startWithAWreck()
+    {
+        start();
+        EXPECT_EQ(bob.end(), 0);
+        QFile wreck(bob.storeFile());
+        EXPECT_TRUE(wreck.open(QFile::WriteOnly));
+        wreck.write("this is no database");
+        wreck.close();
+        bob.start({});
+        const Window question = Window::waitFor("NIMB-Chat");
+        EXPECT_TRUE(waitUntil([&] { return question.isActive(); }));
+    }
+
     const std::uint16_t port = freePort();
     const std::vector<StoredContact> annAlone = {{"127.0.52.2", "Ann", "ANN-PC"}};
     WirePeer ann{"127.0.52.2", port};
@@ -134,15 +148,7 @@ TEST_F(KilledCopy, TakesItsLeaveAndSavesWhenTheScreenIsGone)
 
 TEST_F(KilledCopy, OffersTheGoodCopyOfADamagedStore)
 {
-    start();
-    EXPECT_EQ(bob.end(), 0);
-    QFile wreck(bob.storeFile());
-    ASSERT_TRUE(wreck.open(QFile::WriteOnly));
-    wreck.write("this is no database");
-    wreck.close();
-    bob.start({});
-    const Window question = Window::waitFor("NIMB-Chat");
-    EXPECT_TRUE(waitUntil([&] { return question.isActive(); }));
+    startWithAWreck();
     press("alt+y");
     const auto isDatabase = [this] {
         QFile store(bob.storeFile());
@@ -155,16 +161,9 @@ TEST_F(KilledCopy, OffersTheGoodCopyOfADamagedStore)
 
 TEST_F(KilledCopy, EndsWhenItIsAskedToWhileItOffersTheGoodCopy)
 {
-    start();
+    startWithAWreck();
     EXPECT_EQ(bob.end(), 0);
     QFile wreck(bob.storeFile());
-    ASSERT_TRUE(wreck.open(QFile::WriteOnly));
-    wreck.write("this is no database");
-    wreck.close();
-    bob.start({});
-    const Window question = Window::waitFor("NIMB-Chat");
-    EXPECT_TRUE(waitUntil([&] { return question.isActive(); }));
-    EXPECT_EQ(bob.end(), 0);
     ASSERT_TRUE(wreck.open(QFile::ReadOnly));
     EXPECT_EQ(wreck.readAll(), "this is no database");
 }
