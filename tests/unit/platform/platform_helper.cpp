@@ -1,14 +1,10 @@
-// A second process for the tests: one that is killed in the middle of its work, or that starts a program again.
-#include "faulty_files.h"
+// A second process for the tests: one that is ended in several ways, or that starts a program again.
 #include "platform/process_exit.h"
 #include "platform/single_instance.h"
-#include "platform/sqlite_settings_store.h"
 #include "platform/unix_signals.h"
-#include "store_values.h"
 
 #include <QCoreApplication>
 
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
@@ -23,37 +19,6 @@ void say(const QString &line)
 {
     std::puts(qPrintable(line));
     std::fflush(stdout);
-}
-
-void killMyself()
-{
-    kill(getpid(), SIGKILL);
-}
-
-/// Saves the values of that generation, and is killed at the n-th call to the disk: while opening or while saving.
-int save(const QString &folder, const QString &generation, const QString &phase, int n)
-{
-    FaultyFiles files;
-    if (phase == "opening")
-        files.doAt(n, killMyself);
-    SqliteSettingsStore store(folder);
-    writeGeneration(store, generation);
-    store.dropKept();
-    if (phase == "saving")
-        files.doAt(n, killMyself);
-    const std::optional<QString> failure = store.save();
-    if (failure)
-        say(*failure);
-    return failure ? 2 : 0;
-}
-
-/// Keeps the changes of that generation, and is killed at the n-th call to the disk.
-int keep(const QString &folder, const QString &generation, int n)
-{
-    FaultyFiles files;
-    SqliteSettingsStore store(folder);
-    files.doAt(n, killMyself);
-    return store.keep(changesOfGeneration(generation)) ? 2 : 0;
 }
 
 /// The first copy: says so, and says what later starts ask for.
@@ -99,10 +64,6 @@ int exitSuddenly(bool watched)
 int run(const QStringList &arguments)
 {
     const QString task = arguments.value(1);
-    if (task == "save")
-        return save(arguments.value(2), arguments.value(3), arguments.value(4), arguments.value(5).toInt());
-    if (task == "keep")
-        return keep(arguments.value(2), arguments.value(3), arguments.value(4).toInt());
     if (task == "exit")
         return exitSuddenly(arguments.value(2) == "watched");
     if (task == "hold")

@@ -1,4 +1,4 @@
-#include "platform/next_start_file.h"
+#include "store/next_start_file.h"
 
 #include "print_qt.h"
 

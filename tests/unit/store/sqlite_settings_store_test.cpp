@@ -1,4 +1,4 @@
-#include "platform/sqlite_settings_store.h"
+#include "store/sqlite_settings_store.h"
 
 #include "faulty_files.h"
 #include "ordinary_user.h"
@@ -1285,7 +1285,7 @@ protected:
     {
         QProcess helper;
         helper.setProcessChannelMode(QProcess::ForwardedChannels);
-        helper.start(PLATFORM_HELPER, arguments);
+        helper.start(STORE_HELPER, arguments);
         EXPECT_TRUE(helper.waitForFinished(30000));
         if (helper.exitStatus() == QProcess::CrashExit)
             return false;

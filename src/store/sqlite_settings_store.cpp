@@ -1,4 +1,4 @@
-#include "platform/sqlite_settings_store.h"
+#include "store/sqlite_settings_store.h"
 
 #include "platform/profile_folder.h"
 
