@@ -6,7 +6,7 @@ namespace nimb
 Messenger::Messenger(Common &common, const Surroundings &around)
     : m_socket(around.socket), m_windows(around.windows), m_admission(common, m_contacts, around.ownAddresses),
       m_log(around.mainView.outtext(), around.clock), m_unknown(m_log, around.timers), m_sender(common, around.socket),
-      m_announcement(common, m_contacts, m_sender, around.timers, around.mainView),
+      m_announcement(common, m_contacts, m_sender, around.timers, around.clock, around.mainView),
       m_ownState(common, m_contacts, m_sender, m_announcement, m_log, around.mainView,
                  [this] { m_recovery.settingsChanged(); }),
       m_recovery({common, around.store, m_contacts, m_ownState, around.timers, m_log, around.mainView}),

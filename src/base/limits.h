@@ -55,6 +55,11 @@ constexpr std::size_t waitingArrivals = std::size_t{32} * 1024 * 1024;
 constexpr int unknownLinesPerSecond = 20;
 /// Contacts asked in one turn of the event loop during an announcement, so that their answers are read between.
 constexpr std::size_t announcementBatch = 64;
+/// Questions of an announcement that wait for their answers at a time: for each silent neighbour the system keeps an
+/// entry while it looks for it, and with some thousand of them it finds nobody any more.
+constexpr qsizetype questionsUnderWay = 512;
+/// How often an announcement that waits looks for questions that have waited long enough.
+constexpr std::chrono::milliseconds questionsLooked{50};
 /// How long an announcement waits for answers.
 constexpr std::chrono::milliseconds announcementTime{1000};
 /// At most one automatic reply in this time: a flood of messages must not become a flood of answers.

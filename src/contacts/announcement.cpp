@@ -44,11 +44,14 @@ void PresenceSender::statusUnlessOnline(const ContactAddress &ip) const
 }
 
 Announcement::Announcement(Common &common, ContactList &contacts, PresenceSender &sender, Timers &timers,
-                           AnnouncementView &view)
-    : m_common(common), m_contacts(contacts), m_sender(sender), m_view(view),
+                           const WallClock &clock, AnnouncementView &view)
+    : m_common(common), m_contacts(contacts), m_sender(sender), m_view(view), m_clock(clock),
       m_nextBatch(timers.oneShot(std::chrono::milliseconds(0), [this] { askNextBatch(); })),
+      m_look(timers.oneShot(limits::questionsLooked, [this] { askNextBatch(); })),
       m_timer1(timers.oneShot(limits::announcementTime, [this] { Timer1_Timer(); }))
 {
+    QObject::connect(&contacts, &ContactList::dataChanged, &contacts,
+                     [this](const QModelIndex &first) { contactChanged(m_contacts.at(first.row())); });
 }
 
 void Announcement::run()
@@ -58,6 +61,8 @@ void Announcement::run()
     m_view.setRescanEnabled(false);
     m_toAsk = m_contacts.addresses();
     m_asked = 0;
+    m_questions.clear();
+    m_unanswered.clear();
     askNextBatch();
 }
 
@@ -69,13 +74,37 @@ void Announcement::runUnlessInvisible()
 
 void Announcement::askNextBatch()
 {
+    m_look->stop();
+    forgetTheSilent();
     const std::size_t end = std::min(m_toAsk.size(), m_asked + limits::announcementBatch);
-    while (m_asked < end)
+    while (m_asked < end && !isFull())
         ask(m_toAsk.at(m_asked++));
-    if (m_asked < m_toAsk.size())
-        m_nextBatch->start();
-    else
+    if (m_asked == m_toAsk.size())
         m_timer1->start();
+    else if (isFull())
+        m_look->start();
+    else
+        m_nextBatch->start();
+}
+
+/// Whoever has been heard of has answered.
+void Announcement::contactChanged(const Contact &contact)
+{
+    const bool waits = m_look->isActive();
+    if (contact.presence == Presence::unknown || !m_unanswered.remove(contact.ip) || !waits)
+        return;
+    m_look->stop();
+    m_nextBatch->start();
+}
+
+void Announcement::forgetTheSilent()
+{
+    const qint64 now = m_clock.now().toMSecsSinceEpoch();
+    const auto isOver = [now](const Question &question) {
+        return now - question.asked >= limits::announcementTime.count() || now < question.asked; // or set back
+    };
+    for (; !m_questions.empty() && isOver(m_questions.front()); m_questions.pop_front())
+        m_unanswered.remove(m_questions.front().ip);
 }
 
 void Announcement::ask(const ContactAddress &ip)
@@ -88,6 +117,10 @@ void Announcement::ask(const ContactAddress &ip)
         return;
     m_sender.question(ip);
     m_sender.statusUnlessOnline(ip);
+    if (!ip.ipv4())
+        return; // nothing was sent
+    m_questions.push_back({ip, m_clock.now().toMSecsSinceEpoch()});
+    m_unanswered.insert(ip);
 }
 
 void Announcement::Timer1_Timer()

@@ -2,10 +2,15 @@
 #pragma once
 
 #include "base/Common.h"
+#include "base/limits.h"
 #include "base/main_window_view.h"
 #include "base/timers.h"
 #include "contacts/contact_list.h"
 #include "protocol/winsock.h"
+
+#include <QSet>
+
+#include <deque>
 
 namespace nimb
 {
@@ -30,18 +35,28 @@ private:
 };
 
 /// At start, on demand and after leaving Invisible. Asks in batches, so that answers are read in between, and waits
-/// limits::announcementTime after the last question. Running again starts over.
+/// limits::announcementTime after the last question. At most limits::questionsUnderWay wait for their answers at a
+/// time; an answer, or as long a silence, makes room for the next. Running again starts over.
 class Announcement
 {
 public:
-    Announcement(Common &common, ContactList &contacts, PresenceSender &sender, Timers &timers, AnnouncementView &view);
+    Announcement(Common &common, ContactList &contacts, PresenceSender &sender, Timers &timers, const WallClock &clock,
+                 AnnouncementView &view);
 
     void run();
     /// Where the user has not asked for it.
     void runUnlessInvisible();
 
 private:
+    struct Question {
+        ContactAddress ip;
+        qint64 asked = 0; ///< milliseconds of the clock
+    };
+
     void askNextBatch();
+    bool isFull() const { return m_unanswered.size() >= limits::questionsUnderWay; }
+    void contactChanged(const Contact &contact);
+    void forgetTheSilent();
     void ask(const ContactAddress &ip);
     void Timer1_Timer();
 
@@ -49,9 +64,13 @@ private:
     ContactList &m_contacts;
     PresenceSender &m_sender;
     AnnouncementView &m_view;
+    const WallClock &m_clock;
     std::vector<ContactAddress> m_toAsk; ///< the list's order when the announcement began
     std::size_t m_asked = 0;
+    std::deque<Question> m_questions;  ///< in the order in which they were sent, the answered ones included
+    QSet<ContactAddress> m_unanswered; ///< of those, who are silent so far
     std::unique_ptr<Timer> m_nextBatch;
+    std::unique_ptr<Timer> m_look; ///< runs while no further question may be sent
     std::unique_ptr<Timer> m_timer1;
 };
 

@@ -87,6 +87,14 @@ protected:
                                       QStringLiteral("N%1").arg(i, 4, 10, QLatin1Char('0'))});
         return setup;
     }
+    /// How many were sent since the last call.
+    std::size_t questions()
+    {
+        const std::vector<To> sent = copy.sent();
+        return static_cast<std::size_t>(
+            std::ranges::count_if(sent, [](const To &one) { return one.bytes.starts_with("?ONLINE"); }));
+    }
+
     Copy copy{thousand()};
 };
 
@@ -95,17 +103,50 @@ TEST_F(LongAnnouncement, ReadsAnswersBetweenItsBatches)
     EXPECT_LT(copy.socket.sent.size(), 2000u);
     const QString first = QString::fromStdString(copy.socket.sent.front().ip);
     copy.arrive(first.toLatin1().constData(), "!ONLINE x PC N0000");
-    copy.advance(0ms);
+    copy.advance(3000ms);
     EXPECT_EQ(copy.sent().size(), 2000u);
-    copy.advance(1000ms);
     EXPECT_EQ(copy.engine.contacts().find(first)->presence, Presence::online);
     EXPECT_EQ(copy.engine.contacts().at(1).presence, Presence::offline);
     EXPECT_EQ(copy.engine.contacts().at(999).presence, Presence::offline);
 }
 
+TEST_F(LongAnnouncement, HasAtMost512QuestionsUnanswered)
+{
+    copy.advance(0ms);
+    EXPECT_EQ(questions(), 512u);
+    copy.advance(949ms);
+    EXPECT_EQ(questions(), 0u);
+    copy.advance(151ms);
+    EXPECT_EQ(questions(), 488u) << "a second of silence frees a place";
+    EXPECT_TRUE(copy.common.announcing);
+    copy.advance(1000ms);
+    EXPECT_FALSE(copy.common.announcing);
+}
+
+TEST_F(LongAnnouncement, AnAnswerMakesRoomForTheNextQuestionAtOnce)
+{
+    copy.advance(0ms);
+    std::vector<To> asked = copy.sent();
+    for (int round = 0; round < 4; ++round) {
+        for (const To &one : asked) {
+            if (one.bytes.starts_with("?ONLINE"))
+                copy.arrive(one.ip.c_str(), "!ONLINE");
+        }
+        copy.advance(0ms);
+        asked = copy.sent();
+    }
+    int unknown = 0, online = 0;
+    for (int row = 0; row < 1000; ++row) {
+        unknown += copy.engine.contacts().at(row).presence == Presence::unknown;
+        online += copy.engine.contacts().at(row).presence == Presence::online;
+    }
+    EXPECT_EQ(unknown, 0);
+    EXPECT_EQ(online, 1000) << "in no time";
+}
+
 TEST_F(LongAnnouncement, TurnsAContactYellowOnlyWithItsOwnQuestion)
 {
-    copy.advance(1000ms);
+    copy.advance(2000ms);
     copy.announce();
     int unknown = 0;
     for (int row = 0; row < 1000; ++row)
@@ -117,7 +158,7 @@ TEST_F(LongAnnouncement, TurnsAContactYellowOnlyWithItsOwnQuestion)
 TEST_F(LongAnnouncement, SkipsContactsRemovedMeanwhileAndWaitsAfterTheLastQuestion)
 {
     copy.engine.contacts().remove(QStringLiteral("10.0.5.200"));
-    copy.advance(0ms);
+    copy.advance(1000ms);
     for (const To &datagram : copy.sent())
         EXPECT_NE(datagram.ip, "10.0.5.200");
     EXPECT_TRUE(copy.common.announcing);
