@@ -31,6 +31,13 @@ constexpr int logCharacters = 4'000'000;
 constexpr int logPictures = 5000;
 /// Contact rows up to which strangers are added: a subnet of 65,000 forged addresses must not fill the list.
 constexpr int contactsFromStrangers = 10000;
+/// Private windows that peers have opened and that the user has not turned to: two thousand strangers with a message
+/// each must not open two thousand windows. Further messages wait at their contacts' rows.
+constexpr int windowsOpenedUnasked = 50;
+/// Messages that wait at the row of one contact.
+constexpr qsizetype waitingMessages = 100;
+/// Characters of all messages that wait.
+constexpr qsizetype waitingCharacters = 4'000'000;
 /// Characters of what is being typed that the peer sees: the last ones are what matters.
 constexpr qsizetype liveTextLength = 200;
 /// Bytes of an avatar's head that are kept: a time stamp, or how a polled picture begins.
@@ -62,6 +69,10 @@ constexpr qsizetype questionsUnderWay = 512;
 constexpr std::chrono::milliseconds questionsLooked{50};
 /// How long an announcement waits for answers.
 constexpr std::chrono::milliseconds announcementTime{1000};
+/// At most one avatar body and one list of participants for the same contact in this time: a question of twelve bytes,
+/// from whatever address it claims to come, makes an answer of seven thousand. Lists from a host are taken no sooner
+/// either, for each one walks through the whole list.
+constexpr std::chrono::milliseconds answerPause{1000};
 /// At most one automatic reply in this time: a flood of messages must not become a flood of answers.
 constexpr std::chrono::milliseconds autoReplyPause{1000};
 /// Time between two attempts to get a port that another program holds.

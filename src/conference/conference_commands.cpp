@@ -70,7 +70,7 @@ void ConferenceCommands::agreed(Conference &conference)
 {
     // Who is in already and has only opened the window again needs the list, the others need nothing.
     if (conference.partecipanti().find(m_ip)->present)
-        return conference.Broadcastlist(m_ip);
+        return sendListTo(conference, m_ip);
     joined(conference, m_ip);
     conference.Broadcastlist({});
     askForAvatar(m_ip);
@@ -102,9 +102,17 @@ void ConferenceCommands::denied(Conference &conference)
 void ConferenceCommands::operator()(const wire::ConferenceListQuestion &question)
 {
     if (Conference *const conference = attended(question.id))
-        conference->Broadcastlist(m_ip);
+        sendListTo(*conference, m_ip);
     else
         drop();
+}
+
+void ConferenceCommands::sendListTo(Conference &conference, Ipv4Address ip)
+{
+    if (m_listAnswers.take(ip))
+        conference.Broadcastlist(ip);
+    else
+        m_parts.drops.count(Drop::tooOften);
 }
 
 void ConferenceCommands::operator()(const wire::ConferenceList &list)
@@ -112,7 +120,33 @@ void ConferenceCommands::operator()(const wire::ConferenceList &list)
     Conference *const conference = m_parts.conferences.joined(m_ip, list.id);
     if (!conference)
         return drop();
-    Participants &participants = conference->partecipanti();
+    Lists &lists = m_lists[{m_ip, list.id}];
+    if (!lists.pause)
+        lists.pause = m_parts.timers.oneShot(limits::answerPause,
+                                             [this, host = m_ip, id = list.id] { takeWaitingList(host, id); });
+    if (!lists.pause->isActive()) {
+        lists.pause->start();
+        return takeList(*conference, list);
+    }
+    if (std::exchange(lists.waiting, list))
+        m_parts.drops.count(Drop::tooOften);
+}
+
+void ConferenceCommands::takeWaitingList(Ipv4Address host, std::int16_t number)
+{
+    Lists &lists = m_lists.at({host, number});
+    const std::optional<wire::ConferenceList> list = std::exchange(lists.waiting, std::nullopt);
+    Conference *const conference = m_parts.conferences.joined(host, number);
+    // The window may have been closed and the host removed meanwhile.
+    if (!list || !conference || !m_parts.contacts.isContact(host))
+        return;
+    lists.pause->start();
+    takeList(*conference, *list);
+}
+
+void ConferenceCommands::takeList(Conference &conference, const wire::ConferenceList &list)
+{
+    Participants &participants = conference.partecipanti();
     participants.setAllAbsent();
     std::size_t taken = 0;
     for (const std::string &address : list.addresses) {
@@ -125,7 +159,7 @@ void ConferenceCommands::operator()(const wire::ConferenceList &list)
         else if (refusal == Refusal::listFull)
             m_parts.drops.count(Drop::tooManyContacts);
         else
-            listed(*conference, *ip);
+            listed(conference, *ip);
     }
     std::vector<ContactAddress> gone;
     for (const Participant &participant : participants.rows()) {
@@ -133,7 +167,7 @@ void ConferenceCommands::operator()(const wire::ConferenceList &list)
             gone.push_back(participant.ip);
     }
     for (const ContactAddress &ip : gone)
-        left(*conference, ip, participants.find(ip)->name);
+        left(conference, ip, participants.find(ip)->name);
 }
 
 void ConferenceCommands::listed(Conference &conference, Ipv4Address address)
@@ -157,7 +191,7 @@ void ConferenceCommands::greet(Ipv4Address address)
     contact.nickname = unheardName;
     contact.workstation = unknownName;
     contact.setPresence(Presence::online);
-    m_parts.contacts.add(std::move(contact));
+    m_parts.admission.admit(std::move(contact));
     if (m_parts.common.isInvisible())
         return;
     m_parts.sender.question(address);

@@ -5,8 +5,14 @@
 #include "conference/invitations.h"
 #include "contacts/admission.h"
 #include "contacts/announcement.h"
+#include "contacts/answer_pause.h"
 #include "protocol/drop_counts.h"
 #include "protocol/handlers.h"
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <utility>
 
 namespace nimb
 {
@@ -27,10 +33,12 @@ public:
         PresenceSender &sender;
         ConferenceTable &conferences;
         Invitations &invitations;
+        Timers &timers;
+        const WallClock &clock;
         DropCounts &drops;
     };
 
-    explicit ConferenceCommands(const Parts &parts) : m_parts(parts) { }
+    explicit ConferenceCommands(const Parts &parts) : m_parts(parts), m_listAnswers(parts.clock) { }
 
     void conferenceDatagram(Ipv4Address ip, const wire::Datagram &datagram) override;
 
@@ -59,8 +67,19 @@ private:
     void greet(Ipv4Address address);
     void askForAvatar(Ipv4Address address);
 
+    /// What a host has sent while its last list was still fresh: only the newest counts, for a list is whole.
+    struct Lists {
+        std::unique_ptr<Timer> pause;
+        std::optional<wire::ConferenceList> waiting;
+    };
+    void takeList(Conference &conference, const wire::ConferenceList &list);
+    void takeWaitingList(Ipv4Address host, std::int16_t number);
+    void sendListTo(Conference &conference, Ipv4Address ip);
+
     Parts m_parts;
-    Ipv4Address m_ip; ///< the sender of the datagram at hand
+    AnswerPause m_listAnswers;
+    std::map<std::pair<Ipv4Address, std::int16_t>, Lists> m_lists; ///< of joined conferences, by host and its number
+    Ipv4Address m_ip;                                              ///< the sender of the datagram at hand
 };
 
 } // namespace nimb

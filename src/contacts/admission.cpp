@@ -17,9 +17,23 @@ std::optional<Refusal> Admission::refusal(std::optional<Ipv4Address> ip) const
         return Refusal::alreadyThere;
     if (ip == Ipv4Address(127, 0, 0, 1))
         return Refusal::thisMachine;
-    if (m_contacts.rowCount() >= limits::contactsFromStrangers)
+    if (isFull() && !m_contacts.firstToMakeRoom())
         return Refusal::listFull;
     return std::nullopt;
+}
+
+bool Admission::isFull() const
+{
+    return m_contacts.rowCount() >= limits::contactsFromStrangers;
+}
+
+void Admission::admit(Contact contact) const
+{
+    const std::optional<ContactAddress> leaves = isFull() ? m_contacts.firstToMakeRoom() : std::nullopt;
+    if (leaves && m_contacts.remove(*leaves))
+        m_drops.count(Drop::madeRoom);
+    contact.broughtByPeer = true;
+    m_contacts.add(std::move(contact));
 }
 
 } // namespace nimb

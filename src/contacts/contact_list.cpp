@@ -128,6 +128,7 @@ bool ContactList::add(Contact contact)
     m_rows.insert(m_rows.begin() + where, std::move(made));
     endInsertRows();
     joinLookAlikes(row);
+    noteWhetherItMakesRoom(row);
     return true;
 }
 
@@ -144,6 +145,7 @@ bool ContactList::change(const ContactAddress &ip, const std::function<void(Cont
         moveRow(from, edited);
     const bool renamed = edited.contact.nickname != row->contact.nickname;
     row->contact = std::move(edited.contact);
+    noteWhetherItMakesRoom(*row);
     if (renamed) {
         leaveLookAlikes(*row);
         joinLookAlikes(*row);
@@ -213,7 +215,22 @@ bool ContactList::remove(const ContactAddress &ip)
     m_rows.erase(m_rows.begin() + row);
     endRemoveRows();
     leaveLookAlikes(*gone);
+    m_makeRoom.erase(gone->arrival);
     return true;
+}
+
+void ContactList::noteWhetherItMakesRoom(Row &row)
+{
+    const Contact &contact = row.contact;
+    if (contact.broughtByPeer && !contact.spokenTo && contact.presence == Presence::offline)
+        m_makeRoom.insert({row.arrival, &row});
+    else
+        m_makeRoom.erase(row.arrival);
+}
+
+std::optional<ContactAddress> ContactList::firstToMakeRoom() const
+{
+    return m_makeRoom.empty() ? std::nullopt : std::optional(m_makeRoom.begin()->second->contact.ip);
 }
 
 void ContactList::load(const SettingsStore &store)
@@ -264,6 +281,8 @@ QVariant ContactList::data(const QModelIndex &index, int role) const
     const Contact &contact = row.contact;
     if (role == SharesNameRole)
         return sharesName(row);
+    if (role == WaitingRole)
+        return contact.waitingMessages;
     if (role == Qt::AccessibleTextRole && index.column() == Nickname && sharesName(row))
         return QStringLiteral("%1 (%2)").arg(contact.nickname, contact.ip.text());
     if (role == KeyRole)

@@ -11,7 +11,9 @@
 #include <QSet>
 
 #include <functional>
+#include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace nimb
@@ -30,9 +32,12 @@ struct Contact {
     ContactAddress ip; ///< where every datagram to this contact goes; its text is the row's tag
     Presence presence = Presence::unknown;
     QString sortKey;
-    int privateWindow = 0; ///< number of the peer's private window, 0 when none is open
-    QString avatarNumber;  ///< number of the peer's avatar, empty when none is known
-    QString state;         ///< last reported state text
+    int privateWindow = 0;      ///< number of the peer's private window, 0 when none is open
+    QString avatarNumber;       ///< number of the peer's avatar, empty when none is known
+    QString state;              ///< last reported state text
+    bool broughtByPeer = false; ///< in this run, and not by the user
+    bool spokenTo = false;      ///< it has written or been written to, or was buzzed
+    int waitingMessages = 0;    ///< that wait to be read, for it has no window
 
     /// Shows the presence and writes the sort key that goes with it, with the nickname in capitals.
     void setPresence(Presence now);
@@ -51,8 +56,9 @@ class ContactList : public QAbstractTableModel, public Senders
 
 public:
     enum Column { Nickname, Workstation, IpAddress, State, PrivateWin, AvatarNum, StateText, ColumnCount };
-    /// SharesNameRole: another contact has a name that looks like this one's.
-    enum Role { KeyRole = Qt::UserRole, TagRole, PictureRole, SharesNameRole = Qt::UserRole + 4 };
+    /// SharesNameRole: another contact has a name that looks like this one's. WaitingRole: how many messages
+    /// wait to be read.
+    enum Role { KeyRole = Qt::UserRole, TagRole, PictureRole, SharesNameRole = Qt::UserRole + 4, WaitingRole };
 
     using QAbstractTableModel::QAbstractTableModel;
     ~ContactList() override;
@@ -72,6 +78,10 @@ public:
     /// touch the address. False when there is no such contact.
     bool change(const ContactAddress &ip, const std::function<void(Contact &)> &edit);
     bool remove(const ContactAddress &ip);
+
+    /// The contact that makes room first when strangers have filled the list: of those whom peers have brought in this
+    /// run, who are offline and to whom nobody ever spoke, the one that came first. Empty when there is none.
+    std::optional<ContactAddress> firstToMakeRoom() const;
 
     /// Reads the stored list; every contact starts as not yet known. The list must be empty.
     void load(const SettingsStore &store);
@@ -99,11 +109,13 @@ private:
     void leaveLookAlikes(Row &row);
     bool sharesName(const Row &row) const { return m_lookAlikes.value(row.look).size() > 1; }
     void rowChanged(const Row &row);
+    void noteWhetherItMakesRoom(Row &row);
 
     std::vector<std::unique_ptr<Row>> m_rows;
     QHash<ContactAddress, Row *> m_byAddress;
     QHash<QString, QSet<Row *>> m_lookAlikes; ///< by look
     quint64 m_arrivals = 0;
+    std::map<quint64, const Row *> m_makeRoom; ///< by arrival
 };
 
 /// The compound order of code points, which differs from that of UTF-16 units beyond U+FFFF.

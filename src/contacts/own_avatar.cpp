@@ -7,8 +7,8 @@
 namespace nimb
 {
 
-OwnAvatar::OwnAvatar(const Common &common, Winsock &socket, MainLog &log, const WallClock &clock)
-    : m_common(common), m_socket(socket), m_log(log), m_clock(clock)
+OwnAvatar::OwnAvatar(const Common &common, Winsock &socket, MainLog &log, const WallClock &clock, DropCounts &drops)
+    : m_common(common), m_socket(socket), m_log(log), m_clock(clock), m_drops(drops), m_bodies(clock)
 {
 }
 
@@ -74,8 +74,10 @@ void OwnAvatar::answerBody(Ipv4Address ip)
         return;
     if (head().empty())
         sendDatagram(m_socket, ip, wire::AvatarOff{});
-    else
+    else if (m_bodies.take(ip))
         sendDatagram(m_socket, ip, wire::AvatarBody{body().toStdString()});
+    else
+        m_drops.count(Drop::tooOften);
 }
 
 } // namespace nimb

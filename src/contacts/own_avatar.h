@@ -5,6 +5,8 @@
 #include "base/main_log.h"
 #include "base/picture_source.h"
 #include "base/timers.h"
+#include "contacts/answer_pause.h"
+#include "protocol/drop_counts.h"
 #include "protocol/handlers.h"
 #include "protocol/winsock.h"
 
@@ -19,7 +21,7 @@ namespace nimb
 class OwnAvatar
 {
 public:
-    OwnAvatar(const Common &common, Winsock &socket, MainLog &log, const WallClock &clock);
+    OwnAvatar(const Common &common, Winsock &socket, MainLog &log, const WallClock &clock, DropCounts &drops);
 
     /// From now on peers get this source's frames; none: the still avatar. A source that fails is let go, and the log
     /// says why.
@@ -31,7 +33,8 @@ public:
     std::optional<QByteArray> picture();
     /// A peer asks which avatar there is. Nobody is answered while the own state is Invisible.
     void answerHead(Ipv4Address ip);
-    /// A peer asks for the picture. Whether there is one is told by the head.
+    /// A peer asks for the picture. Whether there is one is told by the head. Once in limits::answerPause each peer
+    /// gets it.
     void answerBody(Ipv4Address ip);
 
 private:
@@ -43,6 +46,8 @@ private:
     Winsock &m_socket;
     MainLog &m_log;
     const WallClock &m_clock;
+    DropCounts &m_drops;
+    AnswerPause m_bodies;
     std::unique_ptr<PictureSource> m_source;
     std::string m_frameHead; ///< empty while there has been no frame
     QByteArray m_frame;

@@ -41,7 +41,7 @@ void PresenceReceiver::strangerSeen(Ipv4Address ip, const PeerIdentity &peer, bo
     contact.nickname = nameOrUnknown(peer.nick);
     contact.workstation = nameOrUnknown(peer.host);
     contact.setPresence(online ? Presence::online : Presence::offline);
-    m_contacts.add(std::move(contact));
+    m_admission.admit(std::move(contact));
 }
 
 void PresenceReceiver::cameOnline(Ipv4Address ip, const std::optional<PeerIdentity> &peer, bool asks)

@@ -18,7 +18,7 @@ void SharedContacts::sharedContact(Ipv4Address, const PeerIdentity &shared)
     contact.nickname = nameOrUnknown(shared.nick);
     contact.workstation = nameOrUnknown(shared.host);
     contact.setUnheard();
-    m_contacts.add(std::move(contact));
+    m_admission.admit(std::move(contact));
 }
 
 } // namespace nimb

@@ -12,16 +12,12 @@ namespace nimb
 class SharedContacts : public SharedContactHandler
 {
 public:
-    SharedContacts(const Admission &admission, ContactList &contacts, DropCounts &drops)
-        : m_admission(admission), m_contacts(contacts), m_drops(drops)
-    {
-    }
+    SharedContacts(const Admission &admission, DropCounts &drops) : m_admission(admission), m_drops(drops) { }
 
     void sharedContact(Ipv4Address ip, const PeerIdentity &contact) override;
 
 private:
     const Admission &m_admission;
-    ContactList &m_contacts;
     DropCounts &m_drops;
 };
 

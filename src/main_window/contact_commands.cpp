@@ -6,14 +6,15 @@
 namespace nimb
 {
 
-ContactMenuCaptions ContactCommands::captions(const QString &ip) const
+ContactMenuCaptions ContactCommands::captions(const QString &ip, qsizetype selected) const
 {
     const Contact *contact = m_contacts.find(ip);
     if (!contact)
         return {tr("&Private Chat"), tr("&Buzz User"), tr("Re&move User"), tr("Send &Contacts"), tr("I&nvite user")};
     const QString name = menuName(contact->nickname);
     return {
-        tr("Private chat with '%1'").arg(name), tr("Buzz '%1'").arg(name), tr("Remove '%1' from the list").arg(name),
+        tr("Private chat with '%1'").arg(name), tr("Buzz '%1'").arg(name),
+        selected > 1 ? tr("Remove %1 users from the list").arg(selected) : tr("Remove '%1' from the list").arg(name),
         tr("Send &contacts to '%1'").arg(name),
         (contact->presence == Presence::offline ? tr("&Net send message to '%1'") : tr("I&nvite user '%1'")).arg(name)};
 }
@@ -23,13 +24,24 @@ QString ContactCommands::toolTip(const QString &ip) const
     const Contact *contact = m_contacts.find(ip);
     if (!contact)
         return {};
-    return contact->state.isEmpty() ? contact->nickname : contact->nickname + QLatin1String(": ") + contact->state;
+    const QString line
+        = contact->state.isEmpty() ? contact->nickname : contact->nickname + QLatin1String(": ") + contact->state;
+    if (contact->waitingMessages == 0)
+        return line;
+    return tr("%1 (messages that wait to be read: %2)").arg(line).arg(contact->waitingMessages);
 }
 
 QString ContactCommands::details(const QString &ip) const
 {
     const Contact *contact = m_contacts.find(ip);
     return contact ? tr("%1 on %2 (%3)").arg(contact->nickname, contact->workstation, contact->ip.text()) : QString();
+}
+
+void ContactCommands::openWaiting(const QString &ip)
+{
+    const Contact *const contact = m_contacts.find(ip);
+    if (contact && contact->waitingMessages > 0)
+        m_chats.openPrivate(ip);
 }
 
 void ContactCommands::mnuPrivateChat(const QString &ip)
@@ -41,22 +53,44 @@ void ContactCommands::mnuPrivateChat(const QString &ip)
 
 void ContactCommands::mnuBuzzUser(const QString &ip)
 {
-    if (const Contact *const contact = m_contacts.find(ip))
-        sendBuzz(m_services.common, m_services.socket, m_services.sound, contact->ip.ipv4());
+    const bool isThere = m_contacts.change(ip, [](Contact &contact) { contact.spokenTo = true; });
+    if (isThere)
+        sendBuzz(m_services.common, m_services.socket, m_services.sound, readAddress(ip));
 }
 
-void ContactCommands::mnuRemoveUser(const QString &ip)
+QString ContactCommands::removalQuestion(const std::vector<const Contact *> &contacts) const
 {
-    const Contact *contact = m_contacts.find(ip);
-    if (!contact)
-        return;
-    const QString question = tr("Are you sure you want to remove the user '%1' on workstation '%2' (%3) ?")
-                                 .arg(contact->nickname, contact->workstation, contact->ip.text());
-    if (!m_services.prompts.confirm(question, tr("Please confirm user removal")))
+    constexpr std::size_t mostNames = 10;
+    if (contacts.size() == 1) {
+        const Contact &contact = *contacts.front();
+        return tr("Are you sure you want to remove the user '%1' on workstation '%2' (%3) ?")
+            .arg(contact.nickname, contact.workstation, contact.ip.text());
+    }
+    QStringList lines = {tr("Are you sure you want to remove these %1 users?").arg(contacts.size())};
+    for (const Contact *const contact : contacts) {
+        if (lines.size() > static_cast<qsizetype>(mostNames)) {
+            lines.append(tr("... (%1 more)").arg(contacts.size() - mostNames));
+            break;
+        }
+        lines.append(QStringLiteral("'%1' (%2)").arg(paintedName(contact->nickname), contact->ip.text()));
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+void ContactCommands::removeUsers(const QStringList &ips)
+{
+    std::vector<const Contact *> contacts;
+    for (const QString &ip : ips) {
+        if (const Contact *const contact = m_contacts.find(ip))
+            contacts.push_back(contact);
+    }
+    if (contacts.empty() || !m_services.prompts.confirm(removalQuestion(contacts), tr("Please confirm user removal")))
         return;
     // The list may have changed while the question stood there.
-    if (m_contacts.remove(ip))
-        m_chats.contactRemoved(ip);
+    for (const QString &ip : ips) {
+        if (m_contacts.remove(ip))
+            m_chats.contactRemoved(ip);
+    }
 }
 
 } // namespace nimb

@@ -36,17 +36,24 @@ public:
     {
     }
 
-    ContactMenuCaptions captions(const QString &ip) const;
+    /// selected: how many contacts are selected, of whom this is one.
+    ContactMenuCaptions captions(const QString &ip, qsizetype selected = 1) const;
     /// Nickname and state text of the contact, as one line; empty when there is no such contact.
     QString toolTip(const QString &ip) const;
     /// The same with workstation and address.
     QString details(const QString &ip) const;
 
+    /// The row was clicked: what waits there to be read is opened.
+    void openWaiting(const QString &ip);
     void mnuPrivateChat(const QString &ip);
     void mnuBuzzUser(const QString &ip);
-    void mnuRemoveUser(const QString &ip);
+    void mnuRemoveUser(const QString &ip) { removeUsers({ip}); }
+    /// Removes these contacts after one question.
+    void removeUsers(const QStringList &ips);
 
 private:
+    QString removalQuestion(const std::vector<const Contact *> &contacts) const;
+
     Services m_services;
     ContactList &m_contacts;
     PrivateChats &m_chats;

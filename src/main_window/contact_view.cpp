@@ -10,6 +10,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
+#include <utility>
+
 namespace nimb
 {
 namespace
@@ -30,8 +33,8 @@ public:
         if (view && index.column() == ContactList::Nickname && !hasState(index))
             placed.rect.setWidth(placed.rect.width() + view->columnWidth(ContactList::StateText));
         PictureDelegate::paint(painter, placed, index);
-        if (showsAddress(placed, index))
-            paintAddress(*painter, placed, index);
+        if (isLastSeen(placed, index))
+            paintRightSide(*painter, placed, index);
     }
 
 protected:
@@ -44,9 +47,10 @@ protected:
             option->palette.setColor(QPalette::Text, mutedTextColour(option->palette));
         if (index.column() == ContactList::IpAddress)
             shrinkToFit(*option);
-        if (showsAddress(*option, index)) {
+        const int taken = rightSideWidth(*option, index);
+        if (taken > 0) {
             const int picture = index.column() == ContactList::Nickname ? pictureSide + gap : 0;
-            const int room = option->rect.width() - picture - 3 * gap - addressWidth(*option, index);
+            const int room = option->rect.width() - picture - 2 * gap - taken;
             option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight, qMax(room, 2 * gap));
         }
     }
@@ -59,30 +63,63 @@ private:
         return !index.siblingAtColumn(ContactList::StateText).data().toString().isEmpty();
     }
 
-    /// Names that look alike are told apart by what cannot be chosen, unless it stands in a column of its own. It takes
-    /// its room from the state where there is one: the name matters more.
-    static bool showsAddress(const QStyleOptionViewItem &option, const QModelIndex &index)
+    /// What stands at the right side of a row takes its room from the state where there is one: the name matters more.
+    static bool isLastSeen(const QStyleOptionViewItem &option, const QModelIndex &index)
     {
         const auto *const view = qobject_cast<const QTreeView *>(option.widget);
-        if (!view || !view->isColumnHidden(ContactList::IpAddress) || !index.data(ContactList::SharesNameRole).toBool())
-            return false;
-        const bool stateIsSeen = hasState(index) && !view->isColumnHidden(ContactList::StateText);
-        return index.column() == (stateIsSeen ? ContactList::StateText : ContactList::Nickname);
+        const bool stateIsSeen = view && hasState(index) && !view->isColumnHidden(ContactList::StateText);
+        return view && index.column() == (stateIsSeen ? ContactList::StateText : ContactList::Nickname);
     }
 
-    static int addressWidth(const QStyleOptionViewItem &option, const QModelIndex &index)
+    /// Names that look alike are told apart by what cannot be chosen, unless it stands in a column of its own.
+    static QString address(const QStyleOptionViewItem &option, const QModelIndex &index)
     {
-        return option.fontMetrics.horizontalAdvance(paintedName(index.data(ContactList::TagRole).toString()));
+        const auto *const view = qobject_cast<const QTreeView *>(option.widget);
+        const bool isShown = isLastSeen(option, index) && view->isColumnHidden(ContactList::IpAddress)
+            && index.data(ContactList::SharesNameRole).toBool();
+        return isShown ? paintedName(index.data(ContactList::TagRole).toString()) : QString();
+    }
+    /// How many messages wait, empty for none.
+    static QString waiting(const QStyleOptionViewItem &option, const QModelIndex &index)
+    {
+        const int number = isLastSeen(option, index) ? index.data(ContactList::WaitingRole).toInt() : 0;
+        return number > 0 ? QString::number(number) : QString();
+    }
+    static int badgeWidth(const QStyleOptionViewItem &option, const QString &number)
+    {
+        return qMax(option.fontMetrics.height(), option.fontMetrics.horizontalAdvance(number) + 2 * gap);
+    }
+    static int rightSideWidth(const QStyleOptionViewItem &option, const QModelIndex &index)
+    {
+        const QString shown = address(option, index), number = waiting(option, index);
+        return (shown.isEmpty() ? 0 : option.fontMetrics.horizontalAdvance(shown) + gap)
+            + (number.isEmpty() ? 0 : badgeWidth(option, number) + gap);
     }
 
-    static void paintAddress(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index)
+    /// The address, and behind it how many messages wait.
+    static void paintRightSide(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index)
     {
+        const QString shown = address(option, index), number = waiting(option, index);
+        if (shown.isEmpty() && number.isEmpty())
+            return;
         const bool selected = option.state.testFlag(QStyle::State_Selected);
+        QRect room = option.rect.adjusted(0, 0, -gap, 0);
         painter.save();
         painter.setFont(option.font);
+        if (!number.isEmpty()) {
+            QRect badge(0, 0, badgeWidth(option, number), option.fontMetrics.height());
+            badge.moveCenter(room.center());
+            badge.moveRight(room.right());
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Highlight));
+            painter.drawRoundedRect(badge, badge.height() / 2.0, badge.height() / 2.0);
+            painter.setPen(option.palette.color(selected ? QPalette::Highlight : QPalette::HighlightedText));
+            painter.drawText(badge, Qt::AlignCenter, number);
+            room.setRight(badge.left() - gap);
+        }
         painter.setPen(selected ? option.palette.color(QPalette::HighlightedText) : mutedTextColour(option.palette));
-        painter.drawText(option.rect.adjusted(0, 0, -gap, 0), Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
-                         paintedName(index.data(ContactList::TagRole).toString()));
+        painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, shown);
         painter.restore();
     }
 
@@ -155,7 +192,7 @@ ContactView::ContactView(QWidget *parent)
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
     setEditTriggers(NoEditTriggers);
-    setSelectionMode(SingleSelection);
+    setSelectionMode(ExtendedSelection);
     setFrameShape(NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setMouseTracking(true);
@@ -189,7 +226,19 @@ void ContactView::setDetailColumns(int workstation, int ipAddress, int stateText
 int ContactView::selectedRow() const
 {
     const QModelIndexList rows = selectionModel() ? selectionModel()->selectedRows() : QModelIndexList();
-    return rows.isEmpty() ? -1 : rows.front().row();
+    if (rows.isEmpty())
+        return -1;
+    return selectionModel()->isRowSelected(currentIndex().row()) ? currentIndex().row() : rows.front().row();
+}
+
+QStringList ContactView::selectedAddresses() const
+{
+    QModelIndexList rows = selectionModel() ? selectionModel()->selectedRows() : QModelIndexList();
+    std::ranges::sort(rows, {}, [](const QModelIndex &index) { return index.row(); });
+    QStringList addresses;
+    for (const QModelIndex &index : std::as_const(rows))
+        addresses.append(index.data(ContactList::TagRole).toString());
+    return addresses;
 }
 
 QString ContactView::selectedAddress() const
@@ -213,6 +262,9 @@ void ContactView::mousePressEvent(QMouseEvent *event)
 void ContactView::mouseReleaseEvent(QMouseEvent *event)
 {
     QTreeView::mouseReleaseEvent(event);
+    const QString ip = addressAt(event->position().toPoint());
+    if (m_pressed == Qt::LeftButton && !ip.isEmpty() && ip == m_pressedAddress)
+        Q_EMIT contactClicked(ip);
     if (m_pressed == Qt::RightButton)
         Q_EMIT menuWanted(event->globalPosition().toPoint());
 }

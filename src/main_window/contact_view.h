@@ -39,14 +39,18 @@ public:
     void setRoomAbove(int room);
     /// Widths in pixels of the columns that the details switch sets; 0 hides a column.
     void setDetailColumns(int workstation, int ipAddress, int stateText);
-    /// Address of the selected contact, empty when none is selected.
+    /// Address of the selected contact, empty when none is selected; of several, the one that was selected last.
     QString selectedAddress() const;
     /// -1 when none is selected.
     int selectedRow() const;
+    /// Of all that are selected, in the order of the list.
+    QStringList selectedAddresses() const;
 
 Q_SIGNALS:
     /// Two clicks of the left button on the same contact, or the Enter key.
     void contactOpened(const QString &ip);
+    /// One click of the left button.
+    void contactClicked(const QString &ip);
     /// The right button was released, or the menu key pressed.
     void menuWanted(const QPoint &globalPosition);
     /// The pointer moves over a contact, or over none: empty.

@@ -201,7 +201,7 @@ void frmMain::connectMenus()
     on("mnuFileExit", [this] { unload(UnloadMode::code); });
     on("mnuPrivateChat", [this] { m_engine->commands.mnuPrivateChat(selectedContact()); });
     on("mnuBuzzUser", [this] { m_engine->commands.mnuBuzzUser(selectedContact()); });
-    on("mnuRemoveUser", [this] { m_engine->commands.mnuRemoveUser(selectedContact()); });
+    on("mnuRemoveUser", [this] { m_engine->commands.removeUsers(ListView1->selectedAddresses()); });
     on("mnuNetworkscan", [this] { m_engine->windows.mnuNetworkscan(); });
     on("mnuAddUser", [this] { m_engine->windows.mnuAddUser(); });
     on("mnuToolsOptions", [this] { m_engine->windows.mnuToolsOptions(); });
@@ -220,6 +220,7 @@ void frmMain::connectMenus()
 void frmMain::connectContacts()
 {
     setModelOfKeyedRows(*ListView1, m_engine->contacts);
+    connect(ListView1, &ContactView::contactClicked, this, &frmMain::ListView1_Click);
     connect(ListView1, &ContactView::contactOpened, this, &frmMain::ListView1_DblClick);
     connect(ListView1, &ContactView::pointedAt, this, &frmMain::ListView1_MouseMove);
     connect(ListView1, &ContactView::menuWanted, this, &frmMain::mnuPopUp_Show);
@@ -455,6 +456,11 @@ QString frmMain::selectedContact() const
     return ListView1->selectedAddress();
 }
 
+void frmMain::ListView1_Click(const QString &ip)
+{
+    m_engine->commands.openWaiting(ip);
+}
+
 void frmMain::ListView1_DblClick(const QString &ip)
 {
     m_engine->commands.mnuPrivateChat(ip);
@@ -474,7 +480,7 @@ void frmMain::mnuPopUp_Show(const QPoint &position)
 void frmMain::refreshContextMenu()
 {
     const QString contact = selectedContact();
-    m_menus.setContact(m_engine->commands.captions(contact), !contact.isEmpty());
+    m_menus.setContact(m_engine->commands.captions(contact, ListView1->selectedAddresses().size()), !contact.isEmpty());
     showItemDetails();
 }
 

@@ -116,6 +116,7 @@ private:
     void finish();
 
     QString selectedContact() const;
+    void ListView1_Click(const QString &ip);
     void ListView1_DblClick(const QString &ip);
     void ListView1_MouseMove(const QString &ip);
     void mnuPopUp_Show(const QPoint &position);

@@ -37,6 +37,7 @@ void PrivateChat::setPeer(const ContactAddress &ip)
 
 void PrivateChat::avatarWanted()
 {
+    attend();
     m_avatarWanted = true;
     sendDatagram(socket(), m_rIP.ipv4(), wire::AvatarHeadQuestion{});
 }
@@ -60,6 +61,11 @@ QString PrivateChat::textToSend(const QString &typed) const
 void PrivateChat::deliver(const QString &text)
 {
     sendDatagram(socket(), m_rIP.ipv4(), wire::PrivateMessage{toWire(text)});
+}
+
+void PrivateChat::waitingMessage(const QString &nik, const QString &msg)
+{
+    appendReceived({nik, colours::receivedMessage}, trimmedMessage(msg));
 }
 
 void PrivateChat::MessageReceived(const QString &nik, QString &msg)
@@ -97,6 +103,7 @@ void PrivateChat::buzzed(const QString &text)
 
 void PrivateChat::BuzzBtn_Click()
 {
+    attend();
     sendBuzz(common(), socket(), m_services.sound, m_rIP.ipv4());
     appendBuzz();
     conversationView().focusInput();
@@ -109,6 +116,7 @@ void PrivateChat::appendBuzz()
 
 void PrivateChat::intext_Change(const QString &typed)
 {
+    attend();
     if (!m_typingNotice.textChanged(typed.size()))
         return;
     sendDatagram(socket(), m_rIP.ipv4(), wire::Typing{});
@@ -179,6 +187,7 @@ void PrivateChat::appendPresence(const QString &line)
 
 CloseDecision PrivateChat::Form_QueryUnload(UnloadMode mode)
 {
+    attend();
     const bool hides = mode == UnloadMode::closeBox && m_isContact && !common().options.closedWindowsGo;
     return hides ? CloseDecision::hide : CloseDecision::unload;
 }

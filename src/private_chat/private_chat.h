@@ -38,6 +38,8 @@ public:
 
     /// Sets fonts, empties the log and writes its opening line.
     void preparewindow() { Clearbtn_Click(); }
+    /// Appends a message that came when there was no window for it yet.
+    void waitingMessage(const QString &nik, const QString &msg);
     /// Appends a received message and answers it automatically where that is switched on, unless it is an automatic
     /// reply itself. msg is trimmed in place.
     void MessageReceived(const QString &nik, QString &msg);
@@ -71,6 +73,10 @@ public:
     /// The own gauge was clicked at this height, in units of the scale.
     void mymoodpct_MouseDown(float value);
 
+    /// The user has turned to this window: opened it, typed or clicked in it, closed it, or works in it now.
+    bool isAttended() const { return m_attended || !conversationView().isMinimisedOrInactive(); }
+    void attend() { m_attended = true; }
+
     CloseDecision Form_QueryUnload(UnloadMode mode) override;
 
 private:
@@ -92,6 +98,7 @@ private:
     TypingNotice m_typingNotice;
     bool m_liveTypePending = false;
     bool m_isContact = true;
+    bool m_attended = false;
     bool m_avatarWanted = false; ///< by the user, and no head has come yet
     ViewPtr<PrivateChatView> m_view;
 };

@@ -1,5 +1,6 @@
 #include "private_chat/private_windows.h"
 
+#include "base/limits.h"
 #include "base/remote_text.h"
 
 #include <algorithm>
@@ -7,8 +8,8 @@
 namespace nimb
 {
 
-PrivateWindows::PrivateWindows(const PrivateChat::Services &services, ContactList &contacts)
-    : m_services(services), m_contacts(contacts)
+PrivateWindows::PrivateWindows(const PrivateChat::Services &services, ContactList &contacts, DropCounts &drops)
+    : m_services(services), m_contacts(contacts), m_drops(drops)
 {
 }
 
@@ -21,18 +22,65 @@ PrivateChat *PrivateWindows::at(int window)
 
 void PrivateWindows::privateMessage(Ipv4Address ip, const QString &text)
 {
-    PrivateChat &chat = windowOf(*m_contacts.find(ip), OpenedBy::peer);
+    const Contact &contact = *m_contacts.find(ip);
+    QString body = remoteBody(text);
+    if (!hasWindow(contact) && !mayOpenUnasked())
+        return wait(contact, body);
+    PrivateChat &chat = windowOf(contact, OpenedBy::peer);
     if (chat.view().isHidden())
         chat.view().showWindow(m_services.conversation.common.options.privateWindowsOnTop ? ShowMode::onTop
                                                                                           : ShowMode::minimised);
-    QString body = remoteBody(text);
-    chat.MessageReceived(m_contacts.find(ip)->nickname, body);
+    showWaiting(contact, chat);
+    chat.MessageReceived(contact.nickname, body);
+}
+
+bool PrivateWindows::mayOpenUnasked() const
+{
+    return std::ranges::count_if(m_table, [](const auto &chat) { return chat && !chat->isAttended(); })
+        < limits::windowsOpenedUnasked;
+}
+
+void PrivateWindows::wait(const Contact &contact, const QString &body)
+{
+    const bool tooMany = contact.waitingMessages >= limits::waitingMessages
+        || m_waitingCharacters + body.size() > limits::waitingCharacters;
+    if (tooMany)
+        return m_drops.count(Drop::tooManyWaiting);
+    m_waiting[contact.ip].append(body);
+    m_waitingCharacters += body.size();
+    m_contacts.change(contact.ip, [](Contact &row) {
+        ++row.waitingMessages;
+        row.spokenTo = true;
+    });
+}
+
+void PrivateWindows::showWaiting(const Contact &contact, PrivateChat &chat)
+{
+    const QStringList messages = m_waiting.value(contact.ip);
+    if (messages.isEmpty())
+        return;
+    for (const QString &body : messages)
+        chat.waitingMessage(contact.nickname, body);
+    forgetWaiting(contact.ip);
+}
+
+void PrivateWindows::forgetWaiting(const ContactAddress &ip)
+{
+    const QStringList messages = m_waiting.take(ip);
+    for (const QString &body : messages)
+        m_waitingCharacters -= body.size();
+    m_contacts.change(ip, [](Contact &row) { row.waitingMessages = 0; });
 }
 
 void PrivateWindows::openPrivate(const ContactAddress &ip)
 {
-    if (const Contact *const contact = m_contacts.find(ip))
-        windowOf(*contact, OpenedBy::user).view().showWindow(ShowMode::active);
+    const Contact *const contact = m_contacts.find(ip);
+    if (!contact)
+        return;
+    PrivateChat &chat = windowOf(*contact, OpenedBy::user);
+    chat.attend();
+    showWaiting(*contact, chat);
+    chat.view().showWindow(ShowMode::active);
 }
 
 PrivateChat &PrivateWindows::windowOf(const Contact &contact, OpenedBy opener)
@@ -41,7 +89,10 @@ PrivateChat &PrivateWindows::windowOf(const Contact &contact, OpenedBy opener)
         return *open;
     // A contact that was removed and came back finds the window that still talks to its address.
     if (const int number = numberOf(contact.ip)) {
-        m_contacts.change(contact.ip, [number](Contact &row) { row.privateWindow = number; });
+        m_contacts.change(contact.ip, [number](Contact &row) {
+            row.privateWindow = number;
+            row.spokenTo = true;
+        });
         at(number)->setContact(true);
         return *at(number);
     }
@@ -52,7 +103,10 @@ PrivateChat &PrivateWindows::make(const Contact &contact, OpenedBy opener)
 {
     const int number = static_cast<int>(m_table.size()) + 1;
     m_table.push_back(std::make_unique<PrivateChat>(m_services, [this, number] { unload(number); }));
-    m_contacts.change(contact.ip, [number](Contact &row) { row.privateWindow = number; });
+    m_contacts.change(contact.ip, [number](Contact &row) {
+        row.privateWindow = number;
+        row.spokenTo = true;
+    });
     PrivateChat &chat = *m_table.back();
     chat.view().conversation().setCaption(tr("%1 - NIMB-Chat - Private Chat Window").arg(contact.nickname));
     chat.setPeer(contact.ip);
@@ -88,6 +142,7 @@ void PrivateWindows::unloadAll()
 
 void PrivateWindows::contactRemoved(const ContactAddress &ip)
 {
+    forgetWaiting(ip);
     const int number = numberOf(ip);
     if (number <= 0)
         return;

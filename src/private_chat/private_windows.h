@@ -5,7 +5,11 @@
 #include "contacts/contact_list.h"
 #include "contacts/presence_receiver.h"
 #include "private_chat/private_chat.h"
+#include "protocol/drop_counts.h"
 #include "protocol/handlers.h"
+
+#include <QHash>
+#include <QStringList>
 
 #include <vector>
 
@@ -19,9 +23,11 @@ class PrivateWindows : public PrivateMessageHandler, public PrivateLogs, public 
     Q_DECLARE_TR_FUNCTIONS(PrivateWindows)
 
 public:
-    PrivateWindows(const PrivateChat::Services &services, ContactList &contacts);
+    PrivateWindows(const PrivateChat::Services &services, ContactList &contacts, DropCounts &drops);
 
-    /// A message always reaches the user: a missing window is made, a hidden one shown, neither takes the focus.
+    /// A message always reaches the user: a missing window is made, a hidden one shown, neither takes the focus. While
+    /// limits::windowsOpenedUnasked stand that the user has not turned to, a message without a window waits at the row
+    /// of its contact until the user opens that.
     void privateMessage(Ipv4Address ip, const QString &text) override;
     void openPrivate(const ContactAddress &ip) override;
     /// A hidden window of a removed contact could never be seen again and is unloaded.
@@ -38,12 +44,21 @@ private:
     /// The contact's window; made, hidden and prepared when there is none. The contact must exist.
     PrivateChat &windowOf(const Contact &contact, OpenedBy opener);
     PrivateChat &make(const Contact &contact, OpenedBy opener);
+    bool hasWindow(const Contact &contact) { return at(contact.privateWindow) || numberOf(contact.ip) > 0; }
+    bool mayOpenUnasked() const;
+    void wait(const Contact &contact, const QString &body);
+    /// Puts what has waited into the window that there is now.
+    void showWaiting(const Contact &contact, PrivateChat &chat);
+    void forgetWaiting(const ContactAddress &ip);
     /// Number of a window whose peer has this address, or 0.
     int numberOf(const ContactAddress &ip) const;
     void unload(int window);
 
     PrivateChat::Services m_services;
     ContactList &m_contacts;
+    DropCounts &m_drops;
+    QHash<ContactAddress, QStringList> m_waiting;
+    qsizetype m_waitingCharacters = 0;
     std::vector<std::unique_ptr<PrivateChat>> m_table;
 };
 

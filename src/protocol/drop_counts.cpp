@@ -12,9 +12,10 @@ namespace
 {
 
 /// In the order of the summary.
-constexpr std::array reasons
-    = {Drop::stranger,   Drop::incomplete,      Drop::noFeature, Drop::noWindow,    Drop::noConference,
-       Drop::badAddress, Drop::tooManyContacts, Drop::notSent,   Drop::notReceived, Drop::tooLoud};
+constexpr std::array reasons = {Drop::stranger,     Drop::incomplete, Drop::noFeature,       Drop::noWindow,
+                                Drop::noConference, Drop::badAddress, Drop::tooManyContacts, Drop::tooManyWaiting,
+                                Drop::madeRoom,     Drop::tooOften,   Drop::notSent,         Drop::notReceived,
+                                Drop::tooLoud};
 
 QString label(Drop reason)
 {
@@ -33,6 +34,12 @@ QString label(Drop reason)
         return QCoreApplication::translate("DropCounts", "Addresses that cannot become contacts: %1");
     case Drop::tooManyContacts:
         return QCoreApplication::translate("DropCounts", "New contacts while the list was full: %1");
+    case Drop::tooManyWaiting:
+        return QCoreApplication::translate("DropCounts", "Messages while too many waited to be read: %1");
+    case Drop::madeRoom:
+        return QCoreApplication::translate("DropCounts", "Contacts that made room in a full list: %1");
+    case Drop::tooOften:
+        return QCoreApplication::translate("DropCounts", "Avatars and lists asked for or sent too often: %1");
     case Drop::notSent:
         return QCoreApplication::translate("DropCounts", "Datagrams that could not be sent: %1");
     case Drop::notReceived:

@@ -20,6 +20,9 @@ enum class Drop {
     noConference,    ///< a conference datagram that fits no conference, or that its sender may not send
     badAddress,      ///< an address that cannot become a contact
     tooManyContacts, ///< strangers have filled the contact list
+    tooManyWaiting,  ///< a message while too many waited already for their windows
+    madeRoom,        ///< a contact that strangers had caused left a full list for a newer one
+    tooOften,        ///< asked for, or sent, more often than it is answered or taken
     notSent,         ///< the system refused to send, or the socket is not bound
     notReceived,     ///< arrived at the machine and was lost before the program could read it
     tooLoud,         ///< more than could wait, from the sender with the most of it

@@ -47,7 +47,8 @@ protected:
     ContactList contacts;
     InterruptedPrompts prompts;
     ToldAddresses ownAddresses;
-    Admission admission{common, contacts, ownAddresses};
+    DropCounts drops;
+    Admission admission{common, contacts, ownAddresses, drops};
     AddUser rules{common, admission, contacts, prompts};
     QWidget parent;
     QPointer<frmAddUser> dialog;

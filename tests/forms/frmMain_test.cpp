@@ -1,5 +1,6 @@
 #include "real_windows.h"
 
+#include "base/limits.h"
 #include "main_window/contact_view.h"
 
 #include <QAbstractItemView>
@@ -267,6 +268,48 @@ TEST_F(FrmMain, RemovingAsksAndRemoves)
     windows.entry("mnuRemoveUser").trigger();
     EXPECT_EQ(windows.prompts.asked.size(), 1u);
     EXPECT_EQ(windows.list().model()->rowCount(), 2);
+}
+
+TEST_F(FrmMain, SeveralSelectedContactsAreRemovedAfterOneQuestion)
+{
+    windows.click(0);
+    QTest::mouseClick(windows.list().viewport(), Qt::LeftButton, Qt::ControlModifier, windows.placeOf(2));
+    EXPECT_EQ(windows.entry("mnuRemoveUser").text(), QStringLiteral("Remove 2 users from the list"));
+    windows.entry("mnuRemoveUser").trigger();
+    EXPECT_EQ(windows.prompts.asked.size(), 1u);
+    ASSERT_EQ(windows.list().model()->rowCount(), 1);
+    EXPECT_EQ(windows.list().model()->index(0, 0).data().toString(), QStringLiteral("Ben"));
+    EXPECT_FALSE(windows.list().selectionModel()->hasSelection());
+}
+
+TEST_F(FrmMain, AMessageThatWaitsAtARowIsCountedThereAndOpensOnAClick)
+{
+    QTreeView &list = windows.list();
+    const auto picture = [&] {
+        list.clearSelection();
+        const QRect name = list.visualRect(list.model()->index(1, 0));
+        return list.viewport()->grab({0, name.top(), list.viewport()->width(), name.height()}).toImage();
+    };
+    const QImage none = picture();
+    for (int i = 0; i < limits::windowsOpenedUnasked; ++i) {
+        const QString ip = QStringLiteral("10.1.0.%1").arg(i + 1);
+        windows.engine.contacts().add({.nickname = QStringLiteral("Z%1").arg(i),
+                                       .workstation = {},
+                                       .ip = ip,
+                                       .presence = Presence::offline,
+                                       .sortKey = QStringLiteral("C_Z"),
+                                       .avatarNumber = {},
+                                       .state = {}});
+        windows.arrive(ip.toLatin1().constData(), "-hello");
+    }
+    windows.arrive("10.0.0.3", "-Are you there?");
+    EXPECT_EQ(RealWindows::privateWindows().size(), std::size_t(limits::windowsOpenedUnasked));
+    EXPECT_EQ(list.model()->index(1, 0).data(ContactList::WaitingRole).toInt(), 1);
+    EXPECT_NE(picture(), none);
+    windows.click(1);
+    ASSERT_EQ(RealWindows::privateWindows().size(), std::size_t(limits::windowsOpenedUnasked) + 1);
+    EXPECT_EQ(list.model()->index(1, 0).data(ContactList::WaitingRole).toInt(), 0);
+    EXPECT_EQ(picture(), none);
 }
 
 TEST_F(FrmMain, AfterARemovalNobodyIsSelectedAndEnterActsOnNobody)

@@ -426,9 +426,11 @@ TEST_F(ConferenceTest, AListAddsAndRemovesParticipants)
     EXPECT_THAT(rows(conference), ElementsAre("Me (you) green", "Ann green", "Ben green"));
     EXPECT_THAT(lines(), ElementsAre("--- Ann joined the conference", "--- Ben joined the conference"));
     EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "?AVATARHEAD"), To("10.0.0.3", "?AVATARHEAD")));
+    copy.advance(1s);
     copy.arrive("10.0.0.2", "!CONF USERS #3 10.0.0.2 10.0.0.1 10.0.0.4");
     EXPECT_THAT(rows(conference), ElementsAre("Me (you) green", "Ann green", "Cleo green"));
     EXPECT_EQ(lines().back(), "--- Ben left the conference.");
+    copy.advance(1s);
     copy.arrive("10.0.0.2", "!CONF USERS #3 10.0.0.2 10.0.0.1 10.0.0.4");
     EXPECT_THAT(lines(), SizeIs(4)) << "the same list changes nothing";
 }
@@ -492,6 +494,50 @@ TEST_F(ConferenceTest, ListsAreTakenFromTheHostAlone)
     Conference &hosted = host({"10.0.0.3"});
     copy.arrive("10.0.0.3", "!CONF USERS #2 10.0.0.3 10.0.0.77");
     EXPECT_THAT(rows(hosted), ElementsAre("Me (you) green", "Ben green"));
+}
+
+TEST_F(ConferenceTest, AGuestGetsTheListOnceASecond)
+{
+    host({"10.0.0.2", "10.0.0.3"});
+    const To list("10.0.0.2", "!CONF USERS #1 10.0.0.1 10.0.0.2 10.0.0.3");
+    for (int i = 0; i < 10; ++i)
+        copy.arrive("10.0.0.2", "?CONF USERS #1");
+    copy.arrive("10.0.0.2", "!CONF INVITE #1 AGREE");
+    EXPECT_THAT(copy.sent(), ElementsAre(list));
+    EXPECT_EQ(copy.drops.of(Drop::tooOften), 10u);
+    copy.arrive("10.0.0.3", "?CONF USERS #1");
+    EXPECT_THAT(copy.sent(), SizeIs(1)) << "others are not concerned";
+    copy.advance(1s);
+    copy.arrive("10.0.0.2", "?CONF USERS #1");
+    EXPECT_THAT(copy.sent(), ElementsAre(list));
+}
+
+TEST_F(ConferenceTest, OfTheListsThatAHostSendsWithinASecondTheFirstAndTheLastCount)
+{
+    Conference &conference = join(3);
+    copy.arrive("10.0.0.2", "!CONF USERS #3 10.0.0.2 10.0.0.3");
+    for (int i = 5; i < 50; ++i)
+        copy.arrive("10.0.0.2", "!CONF USERS #3 10.0.0.2 10.0.0." + std::to_string(i));
+    copy.arrive("10.0.0.2", "!CONF USERS #3 10.0.0.2 10.0.0.4");
+    EXPECT_THAT(rows(conference), ElementsAre("Me (you) green", "Ann green", "Ben green"));
+    EXPECT_EQ(copy.drops.of(Drop::tooOften), 45u);
+    copy.advance(1s);
+    EXPECT_THAT(rows(conference), ElementsAre("Me (you) green", "Ann green", "Cleo green"));
+    EXPECT_FALSE(copy.knows("10.0.0.5"));
+    copy.advance(1s);
+    copy.arrive("10.0.0.2", "!CONF USERS #3 10.0.0.2 10.0.0.3");
+    EXPECT_THAT(rows(conference), ElementsAre("Me (you) green", "Ann green", "Ben green"));
+}
+
+TEST_F(ConferenceTest, AListThatWaitsDoesNotOutliveItsConference)
+{
+    Conference &conference = join(3);
+    copy.arrive("10.0.0.2", "!CONF USERS #3 10.0.0.2 10.0.0.3");
+    copy.arrive("10.0.0.2", "!CONF USERS #3 10.0.0.2 10.0.0.77");
+    copy.arrive("10.0.0.2", "!CONF CLOSE #3");
+    copy.advance(1s);
+    EXPECT_THAT(rows(conference), ElementsAre("Me (you) green", "Ann green", "Ben green"));
+    EXPECT_FALSE(copy.knows("10.0.0.77"));
 }
 
 TEST_F(ConferenceTest, AddressesThatAreNoneAreLeftOut)

@@ -36,7 +36,8 @@ protected:
     Common common;
     ContactList contacts;
     ToldAddresses ownAddresses;
-    Admission admission{common, contacts, ownAddresses};
+    DropCounts drops;
+    Admission admission{common, contacts, ownAddresses, drops};
 };
 
 TEST_F(AdmissionTest, AnAddressOfOneHostIsWelcome)
@@ -111,6 +112,64 @@ TEST_F(AdmissionTest, AFullListTakesNobodyElse)
     }
     EXPECT_THAT(refusal("10.0.0.3"), Optional(Refusal::listFull));
     EXPECT_THAT(refusal("10.0.0.2"), Optional(Refusal::alreadyThere)) << "who is there is not too many";
+}
+
+class FullListTest : public AdmissionTest
+{
+protected:
+    static Contact stranger(int number)
+    {
+        Contact contact;
+        contact.ip = Ipv4Address::of(Ipv4Address(10, 1, 0, 0).number() + std::uint32_t(number));
+        contact.setPresence(Presence::online);
+        return contact;
+    }
+    /// By strangers, who are all there; Ann was there before.
+    FullListTest()
+    {
+        for (int i = 1; contacts.rowCount() < limits::contactsFromStrangers; ++i)
+            admission.admit(stranger(i));
+    }
+    void goesOffline(const char *ip)
+    {
+        contacts.change(QString::fromLatin1(ip), [](Contact &contact) { contact.setPresence(Presence::offline); });
+    }
+    bool isThere(const char *ip) const { return contacts.find(QString::fromLatin1(ip)); }
+};
+
+TEST_F(FullListTest, ANewcomerIsRefusedWhileAllStrangersAreThere)
+{
+    EXPECT_THAT(refusal("10.9.9.9"), Optional(Refusal::listFull));
+    goesOffline("10.0.0.2"); // whom the user has added
+    EXPECT_THAT(refusal("10.9.9.9"), Optional(Refusal::listFull));
+}
+
+TEST_F(FullListTest, TheOldestStrangerThatIsOfflineMakesRoom)
+{
+    goesOffline("10.1.0.7");
+    goesOffline("10.1.0.5");
+    EXPECT_THAT(refusal("10.9.9.9"), Eq(std::nullopt));
+    admission.admit(stranger(20000));
+    EXPECT_EQ(contacts.rowCount(), limits::contactsFromStrangers);
+    EXPECT_FALSE(isThere("10.1.0.5"));
+    EXPECT_TRUE(isThere("10.1.0.7"));
+    EXPECT_EQ(drops.of(Drop::madeRoom), 1u);
+    admission.admit(stranger(20001));
+    EXPECT_FALSE(isThere("10.1.0.7"));
+    EXPECT_THAT(refusal("10.9.9.9"), Optional(Refusal::listFull));
+}
+
+TEST_F(FullListTest, WhoComesBackOrWasSpokenToStays)
+{
+    goesOffline("10.1.0.5");
+    contacts.change(QStringLiteral("10.1.0.5"), [](Contact &contact) { contact.setPresence(Presence::online); });
+    goesOffline("10.1.0.6");
+    contacts.change(QStringLiteral("10.1.0.6"), [](Contact &contact) { contact.spokenTo = true; });
+    EXPECT_THAT(refusal("10.9.9.9"), Optional(Refusal::listFull));
+    goesOffline("10.1.0.7");
+    contacts.remove(QStringLiteral("10.1.0.7"));
+    admission.admit(stranger(20000));
+    EXPECT_THAT(refusal("10.9.9.9"), Optional(Refusal::listFull)) << "who was removed makes no room again";
 }
 
 } // namespace

@@ -267,6 +267,25 @@ TEST_F(AvatarTest, WhoIsInvisibleDoesNotPollAMovingPicture)
     EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "?AVATARHEAD")));
 }
 
+TEST_F(AvatarTest, AContactGetsThePictureOnceASecond)
+{
+    copy.common.avatarHead = QStringLiteral("mine");
+    copy.common.avatarBody = QByteArray(7500, 'm');
+    const To body("10.0.0.2", "!AVATARBODY " + std::string(7500, 'm'));
+    for (int i = 0; i < 1000; ++i)
+        copy.arrive("10.0.0.2", "?AVATARBODY");
+    EXPECT_THAT(copy.sent(), ElementsAre(body));
+    EXPECT_EQ(copy.drops.of(Drop::tooOften), 999u);
+    copy.arrive("10.0.0.3", "?AVATARBODY");
+    EXPECT_EQ(copy.sent().size(), 1u) << "others are not concerned";
+    copy.advance(999ms);
+    copy.arrive("10.0.0.2", "?AVATARBODY");
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    copy.advance(1ms);
+    copy.arrive("10.0.0.2", "?AVATARBODY");
+    EXPECT_THAT(copy.sent(), ElementsAre(body));
+}
+
 TEST_F(AvatarTest, AHugeHeadIsCut)
 {
     copy.arrive("10.0.0.2", "!AVATARHEAD WEBCAM" + std::string(60000, 'x'));
@@ -301,6 +320,7 @@ TEST_F(OwnPolledPicture, ReplacesTheStillOneWhileItIsOn)
     EXPECT_EQ(answer("?AVATARBODY"), "!AVATARBODY " + std::string(7500, 'f'));
     EXPECT_EQ(copy.common.avatarHead, QStringLiteral("14.05.2026 10:00")) << "what is saved stays the still one";
     copy.engine.ownAvatar().setSource(nullptr);
+    copy.advance(1s);
     EXPECT_EQ(answer("?AVATARHEAD"), "!AVATARHEAD 14.05.2026 10:00");
     EXPECT_EQ(answer("?AVATARBODY"), "!AVATARBODY " + std::string(7500, 'a'));
 }
@@ -317,6 +337,7 @@ TEST_F(OwnPolledPicture, TheBodyIsTheFrameOfTheLastHead)
     answer("?AVATARHEAD");
     source.frame = QByteArray(7500, 'g');
     EXPECT_EQ(answer("?AVATARBODY"), "!AVATARBODY " + std::string(7500, 'f'));
+    copy.advance(1s);
     answer("?AVATARHEAD");
     EXPECT_EQ(answer("?AVATARBODY"), "!AVATARBODY " + std::string(7500, 'g'));
 }

@@ -108,5 +108,30 @@ TEST(PrivateChatCommand, DoesNothingWithoutASelectedRow)
     EXPECT_THAT(copy.privateForms.views, IsEmpty());
 }
 
+TEST(RemovingManyContacts, AsksOnceAndNamesTheFirst)
+{
+    CopySetup setup;
+    for (int i = 1; i <= 12; ++i)
+        setup.contacts.push_back({QStringLiteral("10.0.1.%1").arg(i), QStringLiteral("N%1").arg(i)});
+    Copy copy(setup);
+    QStringList ips;
+    for (int i = 1; i <= 12; ++i)
+        ips.append(QStringLiteral("10.0.1.%1").arg(i));
+    ips.append(QStringLiteral("10.9.9.9")); // has gone meanwhile
+    copy.prompts.answer = false;
+    copy.engine.contactCommands().removeUsers(ips);
+    EXPECT_EQ(copy.engine.contacts().rowCount(), 12);
+    copy.prompts.answer = true;
+    copy.engine.contactCommands().removeUsers(ips.mid(1));
+    EXPECT_EQ(copy.engine.contacts().rowCount(), 1);
+    ASSERT_EQ(copy.prompts.asked.size(), 2u);
+    EXPECT_EQ(copy.prompts.asked[0],
+              "Please confirm user removal: Are you sure you want to remove these 12 users?\n'N1' (10.0.1.1)\n"
+              "'N2' (10.0.1.2)\n'N3' (10.0.1.3)\n'N4' (10.0.1.4)\n'N5' (10.0.1.5)\n'N6' (10.0.1.6)\n'N7' (10.0.1.7)\n"
+              "'N8' (10.0.1.8)\n'N9' (10.0.1.9)\n'N10' (10.0.1.10)\n... (2 more)");
+    EXPECT_EQ(copy.engine.contactCommands().captions(QStringLiteral("10.0.1.1"), 3).mnuRemoveUser,
+              QStringLiteral("Remove 3 users from the list"));
+}
+
 } // namespace
 } // namespace nimb::test

@@ -42,7 +42,8 @@ protected:
     ContactList contacts;
     RecorderPrompts prompts;
     ToldAddresses ownAddresses;
-    Admission admission{common, contacts, ownAddresses};
+    DropCounts drops;
+    Admission admission{common, contacts, ownAddresses, drops};
     AddUser rules{common, admission, contacts, prompts};
 };
 

@@ -184,5 +184,105 @@ TEST_F(PrivateWindowsTest, UnknownNumbersAreNoWindows)
     EXPECT_EQ(made(), 0u);
 }
 
+/// Sixty contacts, of whom fifty have written; none of their windows has been turned to.
+class ManyPrivateWindows : public testing::Test
+{
+protected:
+    ManyPrivateWindows()
+    {
+        copy.settleStart();
+        for (int i = 1; i <= 50; ++i)
+            arrive(i, "-hello");
+        copy.sent();
+    }
+    static CopySetup sixty()
+    {
+        CopySetup setup;
+        for (int i = 1; i <= 60; ++i)
+            setup.contacts.push_back({QStringLiteral("10.0.1.%1").arg(i), QStringLiteral("N%1").arg(i)});
+        return setup;
+    }
+    void arrive(int contact, const std::string &bytes)
+    {
+        copy.arrive(("10.0.1." + std::to_string(contact)).c_str(), bytes);
+    }
+    int waiting(int contact) { return copy.contact(("10.0.1." + std::to_string(contact)).c_str()).waitingMessages; }
+    void click(int contact) { copy.engine.contactCommands().openWaiting(QStringLiteral("10.0.1.%1").arg(contact)); }
+    std::size_t made() const { return copy.privateForms.views.size(); }
+
+    Copy copy{sixty()};
+};
+
+TEST_F(ManyPrivateWindows, AFurtherMessageWaitsAtTheRowAndOpensOnAClick)
+{
+    ASSERT_EQ(made(), 50u);
+    arrive(51, "-one");
+    arrive(51, "-two");
+    arrive(52, "-three");
+    EXPECT_EQ(made(), 50u);
+    EXPECT_EQ(waiting(51), 2);
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_EQ(copy.engine.contactCommands().toolTip(QStringLiteral("10.0.1.52")),
+              QStringLiteral("N52 (messages that wait to be read: 1)"));
+    click(53);
+    EXPECT_EQ(made(), 50u) << "nothing waits there";
+    click(51);
+    ASSERT_EQ(made(), 51u);
+    EXPECT_EQ(waiting(51), 0);
+    const std::vector<std::string> lines = copy.window(51).log.lines();
+    ASSERT_EQ(lines.size(), 3u);
+    EXPECT_EQ(lines[1], "N51> one");
+    EXPECT_EQ(lines[2], "N51> two");
+    EXPECT_THAT(copy.window(51).shows, ElementsAre(ShowMode::active));
+    arrive(51, "-three");
+    EXPECT_EQ(copy.window(51).log.lastLine(), "N51> three") << "it has its window now";
+}
+
+TEST_F(ManyPrivateWindows, WhoHasAWindowWritesOn)
+{
+    arrive(50, "-again");
+    EXPECT_EQ(copy.window(50).log.lastLine(), "N50> again");
+    EXPECT_EQ(waiting(50), 0);
+}
+
+TEST_F(ManyPrivateWindows, AWindowThatTheUserTurnsToMakesRoomForTheNext)
+{
+    arrive(51, "-one");
+    copy.window(7).chat.intext_Change(QStringLiteral("h"));
+    arrive(51, "-two");
+    ASSERT_EQ(made(), 51u);
+    const std::vector<std::string> lines = copy.window(51).log.lines();
+    ASSERT_EQ(lines.size(), 3u);
+    EXPECT_EQ(lines[1], "N51> one");
+    EXPECT_EQ(lines[2], "N51> two");
+    EXPECT_THAT(copy.window(51).shows, ElementsAre(ShowMode::minimised));
+    arrive(52, "-one");
+    EXPECT_EQ(made(), 51u);
+    copy.window(8).inBackground = false; // it is the one in which the user is
+    arrive(52, "-two");
+    EXPECT_EQ(made(), 52u);
+}
+
+TEST_F(ManyPrivateWindows, WaitingMessagesAreBoundedAndAnsweredByNobody)
+{
+    copy.common.ownPresence.base = BaseState::busy;
+    copy.common.autoReply.onBusy = true;
+    for (int i = 0; i < 150; ++i)
+        arrive(51, "-text " + std::to_string(i));
+    EXPECT_EQ(waiting(51), 100);
+    EXPECT_EQ(copy.drops.of(Drop::tooManyWaiting), 50u);
+    for (int i = 0; i < 90; ++i)
+        arrive(52, "-" + std::string(60000, 'x'));
+    EXPECT_EQ(waiting(52), 66) << "four million characters";
+    click(51);
+    EXPECT_EQ(copy.window(51).log.lastLine(), "N51> text 99");
+    for (const To &sent : copy.sent())
+        EXPECT_EQ(sent.bytes, "?AVATARHEAD");
+    copy.engine.contactCommands().mnuRemoveUser(QStringLiteral("10.0.1.52"));
+    for (int i = 0; i < 66; ++i)
+        arrive(53, "-" + std::string(60000, 'x'));
+    EXPECT_EQ(waiting(53), 66) << "who is removed leaves room";
+}
+
 } // namespace
 } // namespace nimb::test
