@@ -286,11 +286,10 @@ TEST_F(FrmMain, AMessageThatWaitsAtARowIsCountedThereAndOpensOnAClick)
 {
     QTreeView &list = windows.list();
     const auto picture = [&] {
-        list.clearSelection();
+        list.setCurrentIndex({});
         const QRect name = list.visualRect(list.model()->index(1, 0));
         return list.viewport()->grab({0, name.top(), list.viewport()->width(), name.height()}).toImage();
     };
-    const QImage none = picture();
     for (int i = 0; i < limits::windowsOpenedUnasked; ++i) {
         const QString ip = QStringLiteral("10.1.0.%1").arg(i + 1);
         windows.engine.contacts().add({.nickname = QStringLiteral("Z%1").arg(i),
@@ -302,6 +301,7 @@ TEST_F(FrmMain, AMessageThatWaitsAtARowIsCountedThereAndOpensOnAClick)
                                        .state = {}});
         windows.arrive(ip.toLatin1().constData(), "-hello");
     }
+    const QImage none = picture();
     windows.arrive("10.0.0.3", "-Are you there?");
     EXPECT_EQ(RealWindows::privateWindows().size(), std::size_t(limits::windowsOpenedUnasked));
     EXPECT_EQ(list.model()->index(1, 0).data(ContactList::WaitingRole).toInt(), 1);
