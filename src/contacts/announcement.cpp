@@ -21,6 +21,13 @@ void PresenceSender::question(const ContactAddress &ip) const
     sendDatagram(m_socket, ip.ipv4(), wire::OnlineQuestion{ownIdentity(m_common)});
 }
 
+void PresenceSender::questionToAll(const ContactAddress &ip) const
+{
+    m_socket.setBroadcast(true);
+    question(ip);
+    m_socket.setBroadcast(false);
+}
+
 void PresenceSender::answer(const ContactAddress &ip) const
 {
     sendDatagram(m_socket, ip.ipv4(), wire::OnlineAnswer{ownIdentity(m_common)});

@@ -22,6 +22,8 @@ public:
     PresenceSender(const Common &common, Winsock &socket) : m_common(common), m_socket(socket) { }
 
     void question(const ContactAddress &ip) const;
+    /// The same to an address that may be that of everybody on a network; nothing else goes out as a broadcast.
+    void questionToAll(const ContactAddress &ip) const;
     void answer(const ContactAddress &ip) const;
     void farewell(const ContactAddress &ip) const;
     /// The own state word, with its text where it has one.

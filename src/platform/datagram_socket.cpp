@@ -42,10 +42,15 @@ sockaddr *general(sockaddr_in &address)
     return reinterpret_cast<sockaddr *>(&address);
 }
 
+bool set(int descriptor, int option, bool isOn)
+{
+    const int value = isOn ? 1 : 0;
+    return setsockopt(descriptor, SOL_SOCKET, option, &value, sizeof value) == 0;
+}
+
 bool switchOn(int descriptor, int option)
 {
-    const int on = 1;
-    return setsockopt(descriptor, SOL_SOCKET, option, &on, sizeof on) == 0;
+    return set(descriptor, option, true);
 }
 
 bool neverBlocksNorInherits(int descriptor)
@@ -139,10 +144,8 @@ std::variant<DatagramSocket, DatagramSocket::SystemError> DatagramSocket::open(I
         && (sharing != Sharing::shared || switchOn(descriptor, SO_REUSEADDR)) && bindTo(descriptor, local);
     if (!usable)
         return SystemError{errno};
-    // Without these two the socket still serves: broadcasts stay unsent, losses uncounted.
-    switchOn(descriptor, SO_BROADCAST);
 #ifdef SO_RXQ_OVFL
-    switchOn(descriptor, SO_RXQ_OVFL);
+    switchOn(descriptor, SO_RXQ_OVFL); // without it losses are uncounted
 #endif
     return socket;
 }
@@ -181,6 +184,11 @@ int DatagramSocket::growReceiveBuffer(int bytes)
 void DatagramSocket::growSendBuffer(int bytes)
 {
     setsockopt(m_descriptor, SOL_SOCKET, SO_SNDBUF, &bytes, sizeof bytes);
+}
+
+void DatagramSocket::setBroadcast(bool allowed)
+{
+    set(m_descriptor, SO_BROADCAST, allowed);
 }
 
 bool DatagramSocket::send(Ipv4Endpoint destination, std::string_view bytes)

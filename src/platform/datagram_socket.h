@@ -75,6 +75,8 @@ public:
     int growReceiveBuffer(int bytes);
     /// The same for datagrams on their way out.
     void growSendBuffer(int bytes);
+    /// Whether datagrams to broadcast addresses are sent; at first they are not.
+    void setBroadcast(bool allowed);
 
     /// False when the system did not take the datagram.
     [[nodiscard]] bool send(Ipv4Endpoint destination, std::string_view bytes);

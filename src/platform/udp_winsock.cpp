@@ -93,6 +93,12 @@ bool UdpWinsock::startReading()
     return true;
 }
 
+void UdpWinsock::setBroadcast(bool allowed)
+{
+    if (m_own)
+        m_own->setBroadcast(allowed);
+}
+
 void UdpWinsock::SendData(const std::string &bytes)
 {
     const bool canSend = m_own && m_remoteHost && m_remotePort != 0;

@@ -35,6 +35,7 @@ public:
     void setLocalPort(std::uint16_t port) override { m_localPort = port; }
     void setRemotePort(std::uint16_t port) override { m_remotePort = port; }
     void setRemoteHost(std::optional<Ipv4Address> address) override { m_remoteHost = address; }
+    void setBroadcast(bool allowed) override;
 
     [[nodiscard]] bool bind() override;
     bool isBound() const override { return m_own.has_value(); }

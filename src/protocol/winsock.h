@@ -37,6 +37,9 @@ public:
     virtual void setRemotePort(std::uint16_t port) = 0;
     /// Where the following SendData() goes. Without an address it goes nowhere and counts as not sent.
     virtual void setRemoteHost(std::optional<Ipv4Address> address) = 0;
+    /// Whether the following SendData() may go to everybody on a network. Otherwise, and at first, a datagram to a
+    /// broadcast address counts as not sent.
+    virtual void setBroadcast(bool allowed) = 0;
 
     /// Listens on the local port, shared with nobody. False when the port is taken or may not be used; calling it
     /// again tries again, and is free once bound.

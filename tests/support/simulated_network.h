@@ -78,6 +78,7 @@ public:
     void setLocalPort(std::uint16_t port) override { localPort = port; }
     void setRemotePort(std::uint16_t port) override { remotePort = port; }
     void setRemoteHost(std::optional<Ipv4Address> address) override { m_remoteHost = address; }
+    void setBroadcast(bool allowed) override { broadcast = allowed; }
     bool bind() override
     {
         m_bound = !portTaken;
@@ -87,7 +88,7 @@ public:
     BindFailure bindFailure() const override { return m_bound ? BindFailure::none : failure; }
     void SendData(const std::string &bytes) override
     {
-        if (!m_bound || !m_remoteHost)
+        if (!m_bound || !m_remoteHost || (isBroadcast(*m_remoteHost) && !broadcast))
             return;
         sent.push_back({m_remoteHost->toText(), bytes});
         if (m_network)
@@ -106,6 +107,10 @@ public:
             DataArrival(bytes.size());
     }
 
+    /// Every simulated network has a mask of 24 bits.
+    static bool isBroadcast(Ipv4Address address) { return address.number() % 256 == 255; }
+
+    bool broadcast = false; ///< datagrams to everybody leave the machine
     bool portTaken = false;
     BindFailure failure = BindFailure::portTaken; ///< what a taken port looks like
     std::uint16_t localPort = 0;

@@ -29,6 +29,7 @@ using testing::AllOf;
 using testing::ElementsAre;
 using testing::Field;
 using testing::Optional;
+using testing::UnorderedElementsAre;
 using namespace std::string_literals;
 
 /// A port that no other test process uses at the same time.
@@ -295,12 +296,33 @@ TEST(UdpWinsock, EveryCopyOnTheLoopbackNetworkHearsABroadcastWithItsSendersAddre
     ASSERT_TRUE(ben.socket.bind());
     ASSERT_TRUE(eve.socket.bind());
 
+    eve.socket.setBroadcast(true);
     eve.sendTo(Ipv4Address(127, 255, 255, 255), "?ONLINE 127.0.1.3 PC Eve");
 
     ASSERT_TRUE(ann.hears(1));
     ASSERT_TRUE(ben.hears(1));
     EXPECT_THAT(ann.heard, ElementsAre(Heard{"?ONLINE 127.0.1.3 PC Eve", "127.0.1.3"}));
     EXPECT_THAT(ben.heard, ElementsAre(Heard{"?ONLINE 127.0.1.3 PC Eve", "127.0.1.3"}));
+}
+
+TEST(UdpWinsock, SendsNoBroadcastUnlessItIsAllowed)
+{
+    Copy ann("127.0.1.1");
+    Copy eve("127.0.1.3");
+    ASSERT_TRUE(ann.socket.bind());
+    ASSERT_TRUE(eve.socket.bind());
+
+    eve.sendTo(Ipv4Address(127, 255, 255, 255), "before");
+    EXPECT_EQ(eve.drops.of(Drop::notSent), 1);
+    eve.socket.setBroadcast(true);
+    eve.sendTo(Ipv4Address(127, 255, 255, 255), "meant");
+    eve.socket.setBroadcast(false);
+    eve.sendTo(Ipv4Address(127, 255, 255, 255), "after");
+    EXPECT_EQ(eve.drops.of(Drop::notSent), 2);
+    eve.sendTo(Ipv4Address(127, 0, 1, 1), "to one");
+
+    ASSERT_TRUE(ann.hears(2));
+    EXPECT_THAT(ann.heard, UnorderedElementsAre(Heard{"meant", "127.0.1.3"}, Heard{"to one", "127.0.1.3"}));
 }
 
 TEST(UdpWinsock, AnswersABroadcastFromItsOwnAddress)
