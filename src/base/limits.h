@@ -70,9 +70,11 @@ constexpr std::chrono::milliseconds questionsLooked{50};
 /// How long an announcement waits for answers.
 constexpr std::chrono::milliseconds announcementTime{1000};
 /// At most one avatar body and one list of participants for the same contact in this time: a question of twelve bytes,
-/// from whatever address it claims to come, makes an answer of seven thousand. Lists from a host are taken no sooner
-/// either, for each one walks through the whole list.
+/// from whatever address it claims to come, makes an answer of seven thousand.
 constexpr std::chrono::milliseconds answerPause{1000};
+/// Lists of one conference that are taken at once from its host, who earns another in each answerPause: each one walks
+/// through the whole list. As many guests may come one upon the other and have names at once.
+constexpr int listsAtOnce = 50;
 /// At most one automatic reply in this time: a flood of messages must not become a flood of answers.
 constexpr std::chrono::milliseconds autoReplyPause{1000};
 /// Time between two attempts to get a port that another program holds.

@@ -1,6 +1,5 @@
 #include "conference/conference_commands.h"
 
-#include "base/limits.h"
 #include "protocol/address_text.h"
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
@@ -24,6 +23,14 @@ bool isHostsNumber(std::int16_t number)
 
 } // namespace
 
+ConferenceCommands::ConferenceCommands(const Parts &parts)
+    : m_parts(parts), m_listAnswers(parts.timers, [this](const Seat &guest) {
+          if (Conference *const conference = attended(guest))
+              conference->Broadcastlist(guest.ip);
+      })
+{
+}
+
 void ConferenceCommands::conferenceDatagram(Ipv4Address ip, const wire::Datagram &datagram)
 {
     m_ip = ip;
@@ -35,11 +42,10 @@ QString ConferenceCommands::name() const
     return m_parts.contacts.find(m_ip)->nickname;
 }
 
-/// The conference that is hosted here under this number, if the sender is in it.
-Conference *ConferenceCommands::attended(std::int16_t number) const
+Conference *ConferenceCommands::attended(const Seat &seat) const
 {
-    Conference *const conference = m_parts.conferences.hosted(number);
-    const Participant *const sender = conference ? conference->partecipanti().find(m_ip) : nullptr;
+    Conference *const conference = m_parts.conferences.hosted(seat.number);
+    const Participant *const sender = conference ? conference->partecipanti().find(seat.ip) : nullptr;
     return sender && sender->present ? conference : nullptr;
 }
 
@@ -70,7 +76,7 @@ void ConferenceCommands::agreed(Conference &conference)
 {
     // Who is in already and has only opened the window again needs the list, the others need nothing.
     if (conference.partecipanti().find(m_ip)->present)
-        return sendListTo(conference, m_ip);
+        return askForList(conference.identity().ConfNum);
     joined(conference, m_ip);
     conference.Broadcastlist({});
     askForAvatar(m_ip);
@@ -101,17 +107,15 @@ void ConferenceCommands::denied(Conference &conference)
 
 void ConferenceCommands::operator()(const wire::ConferenceListQuestion &question)
 {
-    if (Conference *const conference = attended(question.id))
-        sendListTo(*conference, m_ip);
+    if (attended(question.id))
+        askForList(question.id);
     else
         drop();
 }
 
-void ConferenceCommands::sendListTo(Conference &conference, Ipv4Address ip)
+void ConferenceCommands::askForList(std::int16_t number)
 {
-    if (m_listAnswers.take(ip))
-        conference.Broadcastlist(ip);
-    else
+    if (!m_listAnswers.ask({m_ip, number}))
         m_parts.drops.count(Drop::tooOften);
 }
 
@@ -120,28 +124,32 @@ void ConferenceCommands::operator()(const wire::ConferenceList &list)
     Conference *const conference = m_parts.conferences.joined(m_ip, list.id);
     if (!conference)
         return drop();
-    Lists &lists = m_lists[{m_ip, list.id}];
-    if (!lists.pause)
-        lists.pause = m_parts.timers.oneShot(limits::answerPause,
-                                             [this, host = m_ip, id = list.id] { takeWaitingList(host, id); });
-    if (!lists.pause->isActive()) {
-        lists.pause->start();
+    const Seat host{m_ip, list.id};
+    Lists &lists = m_lists[host];
+    if (!lists.oneMore)
+        lists.oneMore = m_parts.timers.oneShot(limits::answerPause, [this, host] { mayTakeOneMore(host); });
+    if (!lists.oneMore->isActive())
+        lists.oneMore->start();
+    if (lists.left > 0) {
+        --lists.left;
         return takeList(*conference, list);
     }
     if (std::exchange(lists.waiting, list))
         m_parts.drops.count(Drop::tooOften);
 }
 
-void ConferenceCommands::takeWaitingList(Ipv4Address host, std::int16_t number)
+void ConferenceCommands::mayTakeOneMore(const Seat &host)
 {
-    Lists &lists = m_lists.at({host, number});
+    Lists &lists = m_lists.at(host);
     const std::optional<wire::ConferenceList> list = std::exchange(lists.waiting, std::nullopt);
-    Conference *const conference = m_parts.conferences.joined(host, number);
+    if (!list)
+        ++lists.left;
+    if (lists.left < limits::listsAtOnce)
+        lists.oneMore->start();
+    Conference *const conference = list ? m_parts.conferences.joined(host.ip, host.number) : nullptr;
     // The window may have been closed and the host removed meanwhile.
-    if (!list || !conference || !m_parts.contacts.isContact(host))
-        return;
-    lists.pause->start();
-    takeList(*conference, *list);
+    if (conference && m_parts.contacts.isContact(host.ip))
+        takeList(*conference, *list);
 }
 
 void ConferenceCommands::takeList(Conference &conference, const wire::ConferenceList &list)

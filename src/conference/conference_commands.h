@@ -1,14 +1,16 @@
 // What conference datagrams do: invitations, answers, lists, leaving, closing, messages.
 #pragma once
 
+#include "base/limits.h"
 #include "conference/conference_table.h"
 #include "conference/invitations.h"
 #include "contacts/admission.h"
 #include "contacts/announcement.h"
-#include "contacts/answer_pause.h"
+#include "contacts/paced_answers.h"
 #include "protocol/drop_counts.h"
 #include "protocol/handlers.h"
 
+#include <compare>
 #include <map>
 #include <memory>
 #include <optional>
@@ -34,11 +36,10 @@ public:
         ConferenceTable &conferences;
         Invitations &invitations;
         Timers &timers;
-        const WallClock &clock;
         DropCounts &drops;
     };
 
-    explicit ConferenceCommands(const Parts &parts) : m_parts(parts), m_listAnswers(parts.clock) { }
+    explicit ConferenceCommands(const Parts &parts);
 
     void conferenceDatagram(Ipv4Address ip, const wire::Datagram &datagram) override;
 
@@ -57,7 +58,15 @@ private:
     /// Display name of the sender.
     QString name() const;
     bool isWritersOwn(Ipv4Address origin, const Conference &conference) const;
-    Conference *attended(std::int16_t number) const;
+    /// Somebody at this address, and the number that the host has given a conference.
+    struct Seat {
+        Ipv4Address ip;
+        std::int16_t number = 0;
+        std::strong_ordering operator<=>(const Seat &) const = default;
+    };
+    /// The conference that is hosted here, if that somebody is in it.
+    Conference *attended(const Seat &seat) const;
+    Conference *attended(std::int16_t number) const { return attended(Seat{m_ip, number}); }
     void agreed(Conference &conference);
     void denied(Conference &conference);
     void listed(Conference &conference, Ipv4Address address);
@@ -67,19 +76,20 @@ private:
     void greet(Ipv4Address address);
     void askForAvatar(Ipv4Address address);
 
-    /// What a host has sent while its last list was still fresh: only the newest counts, for a list is whole.
+    /// How many lists of a host are taken at once. Of those beyond, only the newest waits, for a list is whole.
     struct Lists {
-        std::unique_ptr<Timer> pause;
+        int left = limits::listsAtOnce;
+        std::unique_ptr<Timer> oneMore;
         std::optional<wire::ConferenceList> waiting;
     };
     void takeList(Conference &conference, const wire::ConferenceList &list);
-    void takeWaitingList(Ipv4Address host, std::int16_t number);
-    void sendListTo(Conference &conference, Ipv4Address ip);
+    void mayTakeOneMore(const Seat &host);
+    void askForList(std::int16_t number);
 
     Parts m_parts;
-    AnswerPause m_listAnswers;
-    std::map<std::pair<Ipv4Address, std::int16_t>, Lists> m_lists; ///< of joined conferences, by host and its number
-    Ipv4Address m_ip;                                              ///< the sender of the datagram at hand
+    PacedAnswers<Seat> m_listAnswers;
+    std::map<Seat, Lists> m_lists; ///< of joined conferences, by their hosts
+    Ipv4Address m_ip;              ///< the sender of the datagram at hand
 };
 
 } // namespace nimb

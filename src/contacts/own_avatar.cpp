@@ -7,8 +7,10 @@
 namespace nimb
 {
 
-OwnAvatar::OwnAvatar(const Common &common, Winsock &socket, MainLog &log, const WallClock &clock, DropCounts &drops)
-    : m_common(common), m_socket(socket), m_log(log), m_clock(clock), m_drops(drops), m_bodies(clock)
+OwnAvatar::OwnAvatar(const Common &common, Winsock &socket, MainLog &log, Timers &timers, const WallClock &clock,
+                     DropCounts &drops)
+    : m_common(common), m_socket(socket), m_log(log), m_clock(clock), m_drops(drops),
+      m_bodies(timers, [this](Ipv4Address ip) { sendBody(ip); })
 {
 }
 
@@ -70,14 +72,18 @@ void OwnAvatar::answerHead(Ipv4Address ip)
 
 void OwnAvatar::answerBody(Ipv4Address ip)
 {
+    if (!m_common.isInvisible() && !m_bodies.ask(ip))
+        m_drops.count(Drop::tooOften);
+}
+
+void OwnAvatar::sendBody(Ipv4Address ip)
+{
     if (m_common.isInvisible())
         return;
     if (head().empty())
         sendDatagram(m_socket, ip, wire::AvatarOff{});
-    else if (m_bodies.take(ip))
-        sendDatagram(m_socket, ip, wire::AvatarBody{body().toStdString()});
     else
-        m_drops.count(Drop::tooOften);
+        sendDatagram(m_socket, ip, wire::AvatarBody{body().toStdString()});
 }
 
 } // namespace nimb

@@ -5,7 +5,7 @@
 #include "base/main_log.h"
 #include "base/picture_source.h"
 #include "base/timers.h"
-#include "contacts/answer_pause.h"
+#include "contacts/paced_answers.h"
 #include "protocol/drop_counts.h"
 #include "protocol/handlers.h"
 #include "protocol/winsock.h"
@@ -21,7 +21,8 @@ namespace nimb
 class OwnAvatar
 {
 public:
-    OwnAvatar(const Common &common, Winsock &socket, MainLog &log, const WallClock &clock, DropCounts &drops);
+    OwnAvatar(const Common &common, Winsock &socket, MainLog &log, Timers &timers, const WallClock &clock,
+              DropCounts &drops);
 
     /// From now on peers get this source's frames; none: the still avatar. A source that fails is let go, and the log
     /// says why.
@@ -33,12 +34,13 @@ public:
     std::optional<QByteArray> picture();
     /// A peer asks which avatar there is. Nobody is answered while the own state is Invisible.
     void answerHead(Ipv4Address ip);
-    /// A peer asks for the picture. Whether there is one is told by the head. Once in limits::answerPause each peer
-    /// gets it.
+    /// A peer asks for the picture. Whether there is one is told by the head. Each peer gets it once in
+    /// limits::answerPause.
     void answerBody(Ipv4Address ip);
 
 private:
     void takeFrame();
+    void sendBody(Ipv4Address ip);
     std::string head() const;
     const QByteArray &body() const;
 
@@ -47,7 +49,7 @@ private:
     MainLog &m_log;
     const WallClock &m_clock;
     DropCounts &m_drops;
-    AnswerPause m_bodies;
+    PacedAnswers<Ipv4Address> m_bodies;
     std::unique_ptr<PictureSource> m_source;
     std::string m_frameHead; ///< empty while there has been no frame
     QByteArray m_frame;

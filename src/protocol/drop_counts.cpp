@@ -12,10 +12,10 @@ namespace
 {
 
 /// In the order of the summary.
-constexpr std::array reasons = {Drop::stranger,     Drop::incomplete, Drop::noFeature,       Drop::noWindow,
-                                Drop::noConference, Drop::badAddress, Drop::tooManyContacts, Drop::tooManyWaiting,
-                                Drop::madeRoom,     Drop::tooOften,   Drop::notSent,         Drop::notReceived,
-                                Drop::tooLoud};
+constexpr std::array reasons
+    = {Drop::stranger,   Drop::incomplete,      Drop::noFeature,      Drop::noWindow, Drop::noConference,
+       Drop::badAddress, Drop::tooManyContacts, Drop::tooManyWaiting, Drop::madeRoom, Drop::tooOften,
+       Drop::notSent,    Drop::notReceived,     Drop::tooLoud};
 
 QString label(Drop reason)
 {

@@ -602,8 +602,6 @@ private:
         require(m_network.sent() == sent, "datagrams are sent though nobody acts");
         forAllConferences([](Copy &, int, Conference &conference) { conference.Broadcastlist({}); });
         calmDown();
-        m_network.pass(1s); // lists that came one upon the other
-        calmDown();
         forAllConferences([this](Copy &copy, int, Conference &conference) { compareLists(copy, conference); });
         forAllConferences(
             [this](Copy &copy, int who, Conference &conference) { hearEachOther(copy, who, conference); });

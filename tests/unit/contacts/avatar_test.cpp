@@ -275,15 +275,15 @@ TEST_F(AvatarTest, AContactGetsThePictureOnceASecond)
     for (int i = 0; i < 1000; ++i)
         copy.arrive("10.0.0.2", "?AVATARBODY");
     EXPECT_THAT(copy.sent(), ElementsAre(body));
-    EXPECT_EQ(copy.drops.of(Drop::tooOften), 999u);
+    EXPECT_EQ(copy.drops.of(Drop::tooOften), 998u);
     copy.arrive("10.0.0.3", "?AVATARBODY");
     EXPECT_EQ(copy.sent().size(), 1u) << "others are not concerned";
     copy.advance(999ms);
-    copy.arrive("10.0.0.2", "?AVATARBODY");
     EXPECT_THAT(copy.sent(), IsEmpty());
     copy.advance(1ms);
-    copy.arrive("10.0.0.2", "?AVATARBODY");
-    EXPECT_THAT(copy.sent(), ElementsAre(body));
+    EXPECT_THAT(copy.sent(), ElementsAre(body)) << "one of the further questions waited";
+    copy.advance(10s);
+    EXPECT_THAT(copy.sent(), IsEmpty());
 }
 
 TEST_F(AvatarTest, AHugeHeadIsCut)
