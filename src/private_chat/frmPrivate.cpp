@@ -262,6 +262,8 @@ void frmPrivate::setPeerActivity(const QString &text)
 
 void frmPrivate::setLiveType(const QString &text)
 {
+    if (text.isEmpty() && futuretype->isHidden())
+        return; // every message empties it, which is work even where nothing is
     futuretype->setPlainText(text);
     futuretype->setVisible(!text.isEmpty());
     futuretype->moveCursor(QTextCursor::End);
