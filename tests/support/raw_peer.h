@@ -37,6 +37,8 @@ public:
     /// Waits until one is there; empty when there is none for that long.
     std::optional<Datagram> receive(std::chrono::milliseconds limit = std::chrono::seconds(10)) const;
     bool hasWaiting() const;
+    /// For whoever waits for several.
+    int descriptor() const { return m_descriptor; }
 
 private:
     int m_descriptor;
