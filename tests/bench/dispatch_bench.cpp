@@ -70,10 +70,10 @@ void stateChange(benchmark::State &state)
     state.SetItemsProcessed(state.iterations());
 }
 
-BENCHMARK(message)->Arg(1)->Arg(100)->Arg(10000);
-BENCHMARK(onlineQuestion)->Arg(1)->Arg(100)->Arg(10000);
-BENCHMARK(stateChange)->Arg(1)->Arg(100)->Arg(10000);
-BENCHMARK(stranger)->Arg(1)->Arg(100)->Arg(10000);
+BENCHMARK(message)->RangeMultiplier(10)->Range(1, 10000);
+BENCHMARK(onlineQuestion)->RangeMultiplier(10)->Range(1, 10000);
+BENCHMARK(stateChange)->RangeMultiplier(10)->Range(1, 10000);
+BENCHMARK(stranger)->RangeMultiplier(10)->Range(1, 10000);
 
 } // namespace
 } // namespace nimb::test

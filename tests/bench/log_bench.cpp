@@ -1,4 +1,4 @@
-// Feeds a log as a flood of messages does, while the event loop goes on: log_bench [lines]
+// Feeds a log as a flood of messages does, while the event loop goes on: log_bench [lines [lines that it holds before]]
 // Prints lines per second, the longest stall of the event loop and the memory of a thousand lines. Needs a screen or
 // QT_QPA_PLATFORM=offscreen.
 #include "log/emoticons.h"
@@ -73,6 +73,10 @@ int main(int argc, char *argv[])
     log.setLinkDetection(true);
     log.resize(560, 260);
     log.show();
+    QCoreApplication::processEvents();
+    for (int i = argc > 2 ? std::atoi(argv[2]) : 0; i > 0; --i)
+        writeMessage(log, i);
+    log.writeGathered();
     QCoreApplication::processEvents();
     const double before = residentMebibytes();
 

@@ -1,7 +1,7 @@
 // Messages that a host relays a second with few and with many participants, over real sockets, against a bare loop of
 // sendto to the same addresses in the same run; and the memory that a participant takes.
 //
-//   relay_bench [seconds a measurement]
+//   relay_bench [seconds a measurement [participants...]]
 //
 // Messages are handed to the engine as if they had arrived; what it sends goes through the system to 127.0.x.y, where
 // one socket for each address takes it. The two are measured in turns, and the best turn of each counts.
@@ -18,9 +18,12 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
+#include <vector>
 
 namespace nimb::test
 {
@@ -192,7 +195,12 @@ int main(int argumentCount, char **arguments)
     QCoreApplication application(argumentCount, arguments);
     const double seconds = argumentCount > 1 ? std::atof(arguments[1]) : 2;
     bool allFast = true;
-    for (const int participants : {5, 50, 200})
+    std::vector<int> counts = {5, 50, 200};
+    if (argumentCount > 2) {
+        counts.clear();
+        std::transform(arguments + 2, arguments + argumentCount, std::back_inserter(counts), std::atoi);
+    }
+    for (const int participants : counts)
         allFast = nimb::test::measure(participants, std::chrono::duration<double>(seconds)) >= 0.5 && allFast;
     nimb::test::measureMemory(200);
     std::puts(allFast ? "the goal of half the bare loop's speed is met" : "slower than half the bare loop");
