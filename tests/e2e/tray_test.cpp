@@ -61,6 +61,7 @@ TEST_F(TrayTest, TheCloseBoxHidesTheWindowAndAClickBringsItBack)
     const MainWindow main = start();
     const Window icon = tray.icon();
     for (const int button : {1, 3}) {
+        SCOPED_TRACE(button);
         main.close();
         EXPECT_TRUE(main.becomes(State::hidden)) << main.state();
         EXPECT_TRUE(answers());
