@@ -3,9 +3,11 @@
 //
 //   NIMB_SIM_SEED=17 conference_sim_test     one run alone, which tells what it does
 //   NIMB_SIM_SEEDS=100000 conference_sim_test    that many runs instead of 200
+//   NIMB_SIM_SEED=17 conference_sim_test --gtest_filter='Hostile*'    the same with a hostile member
 #include "copy.h"
 #include "shaky_network.h"
 
+#include "base/limits.h"
 #include "protocol/datagram.h"
 
 #include <cstdlib>
@@ -23,11 +25,19 @@ constexpr int blocks = 20;
 
 /// What a seed stands for.
 struct Plan {
-    explicit Plan(int number) : seed(number)
+    enum class Kind {
+        calm,    ///< everything arrives before the next one acts
+        busy,    ///< everything arrives in order, while others act
+        mixedUp, ///< everything arrives at least once, in any order
+        stormy,  ///< much is lost; copies die without a word
+        hostile, ///< the same, and a member forges every kind of datagram with every kind of address
+    };
+
+    explicit Plan(int number) : Plan(number, static_cast<Kind>(number / 10 % 5)) { }
+    Plan(int number, Kind kindOfRun) : seed(number), kind(kindOfRun)
     {
         constexpr std::array sizes{50, 2, 10, 3, 2, 10, 3, 2, 10, 3};
         copies = sizes[static_cast<std::size_t>(seed % 10)];
-        kind = static_cast<Kind>(seed / 10 % 5);
         oneHost = seed / 50 % 2 == 1;
         actions = copies == 50 ? 120 : 200;
         if (kind == Kind::busy)
@@ -37,13 +47,6 @@ struct Plan {
         else if (kind >= Kind::stormy)
             weather = {1ms, 200ms, 15, 10, false};
     }
-    enum class Kind {
-        calm,    ///< everything arrives before the next one acts
-        busy,    ///< everything arrives in order, while others act
-        mixedUp, ///< everything arrives at least once, in any order
-        stormy,  ///< much is lost; copies die without a word
-        hostile, ///< the same, and copies send what no engine would
-    };
 
     int seed;
     int copies = 2;
@@ -92,6 +95,28 @@ std::map<QString, bool> rowsOf(Conference &conference)
     return rows;
 }
 
+/// What a peer must never make somebody's contact, or be written to for.
+bool isForbidden(const Copy &copy, std::optional<Ipv4Address> ip)
+{
+    return !ip || !ip->isUnicast() || ip == copy.common.ownIP || ip == Ipv4Address(127, 0, 0, 1)
+        || SimulatedWinsock::isBroadcast(*ip);
+}
+
+/// What a datagram may have changed besides conferences.
+struct Surface {
+    int contacts = 0;
+    int invitations = 0;
+    std::vector<std::size_t> privatePieces; ///< of each private window, in the order in which they were made
+};
+
+Surface surfaceOf(Copy &copy)
+{
+    Surface surface{copy.engine.contacts().rowCount(), copy.engine.invitations().list().rowCount(), {}};
+    for (const auto &window : copy.privateForms.views)
+        surface.privatePieces.push_back(window->log.pieces.size());
+    return surface;
+}
+
 class Simulation
 {
 public:
@@ -118,10 +143,16 @@ public:
         m_network.setWeather(m_plan.weather);
         for (int i = 0; i < m_plan.actions && m_violations.empty(); ++i) {
             act();
+            if (m_plan.kind == Plan::Kind::hostile)
+                actHostile(i);
             if (m_plan.kind == Plan::Kind::calm)
                 calmDown();
             else
                 m_network.pass(std::chrono::milliseconds(m_dice.below(60)));
+            for (const auto &copy : m_copies) {
+                if (copy && m_plan.kind == Plan::Kind::hostile)
+                    checkContacts(*copy, " of " + copy->ip().toStdString());
+            }
         }
         if (m_violations.empty())
             finish();
@@ -133,6 +164,12 @@ public:
     int misplacedMessages() const { return m_misplaced; }
     int finalListsCompared() const { return m_listsCompared; }
     std::uint64_t datagrams() const { return m_network.sent(); }
+    int forgedDatagrams() const { return m_forged; }
+    int forgedMessagesShown() const { return m_forgedShown; }
+    /// How often a copy had as many unasked windows as it may have.
+    int fullOfWindows() const { return m_fullOfWindows; }
+    /// Arrivals at copies that were invisible.
+    int unseenArrivals() const { return m_unseenArrivals; }
 
 private:
     static QString addressOf(int copy) { return QStringLiteral("10.0.0.%1").arg(copy + 1); }
@@ -140,11 +177,13 @@ private:
 
     std::unique_ptr<Copy> makeCopy(int number)
     {
-        return std::make_unique<Copy>(CopySetup{.ip = addressOf(number),
-                                                .host = QStringLiteral("PC"),
-                                                .nickname = QStringLiteral("Copy %1").arg(number),
-                                                .contacts = m_contacts[static_cast<std::size_t>(number)]},
-                                      &m_network, m_time);
+        auto copy = std::make_unique<Copy>(CopySetup{.ip = addressOf(number),
+                                                     .host = QStringLiteral("PC"),
+                                                     .nickname = QStringLiteral("Copy %1").arg(number),
+                                                     .contacts = m_contacts[static_cast<std::size_t>(number)]},
+                                           &m_network, m_time);
+        copy->ownAddresses.broadcast.insert(Ipv4Address(10, 0, 0, 255));
+        return copy;
     }
 
     void violated(const std::string &what) { m_violations.push_back(what); }
@@ -182,8 +221,7 @@ private:
     void act()
     {
         int who = 0;
-        Copy *const copy = randomCopy(who);
-        if (!copy)
+        if (!randomCopy(who))
             return comeBack(who);
         const int what = m_dice.below(100);
         if (what < 8)
@@ -204,8 +242,6 @@ private:
             closeWindow(true);
         else if (what < 97)
             leaveNetwork(who);
-        else if (m_plan.kind == Plan::Kind::hostile)
-            forge(*copy, who);
     }
 
     void create(int who)
@@ -367,26 +403,183 @@ private:
         m_copies[static_cast<std::size_t>(who)] = makeCopy(who);
     }
 
-    /// Datagrams as no engine would send them, from an address that may well be a participant's.
-    void forge(Copy &copy, int who)
+    // --- the hostile member, whose machine can send from any address
+
+    void actHostile(int action)
     {
         int target = 0;
-        if (!randomCopy(target) || target == who)
+        Copy *const copy = randomCopy(target);
+        if (!copy)
             return;
-        const std::string number = std::to_string(m_dice.below(8) - 1);
-        const std::string any = addressOf(m_dice.below(m_plan.copies)).toStdString();
-        const std::array<std::string, 7> forms{
-            "!CONF CLOSE #" + number,
-            "!CONF LEAVE #" + number,
-            "!CONF USERS #" + number + ' ' + any,
+        if (m_dice.percent(3))
+            return hideOrShow(*copy, target);
+        if (action == m_plan.actions / 2)
+            return sendCrowd(target);
+        if (!m_dice.percent(25))
+            return;
+        const int burst = 1 + m_dice.below(12);
+        for (int i = 0; i < burst; ++i)
+            forge(*copy, target);
+    }
+
+    void hideOrShow(Copy &copy, int who)
+    {
+        constexpr int onlineEntry = 1, invisibleEntry = 4;
+        const bool hides = !copy.common.isInvisible();
+        tell(who, hides ? "becomes invisible" : "shows itself");
+        copy.engine.ownState().choose(hides ? invisibleEntry : onlineEntry);
+    }
+
+    /// More strangers than may open windows introduce themselves, and each of them writes.
+    void sendCrowd(int target)
+    {
+        constexpr int crowd = 120;
+        tell(target, "is visited by a crowd");
+        for (int i = 1; i <= crowd; ++i)
+            forge(target, strangerAddress(i), "!ONLINE " + strangerAddress(i).toStdString() + " PC Stranger");
+        m_network.pass(200ms);
+        for (int i = 1; i <= crowd; ++i)
+            forge(target, strangerAddress(i), '-' + forgedText());
+    }
+
+    static QString strangerAddress(int number) { return QStringLiteral("10.0.1.%1").arg(number); }
+    std::string forgedText() { return "forged-" + std::to_string(++m_forgedTexts); }
+
+    QString anyOf(const std::vector<QString> &addresses)
+    {
+        if (addresses.empty())
+            return strangerAddress(1);
+        return addresses[static_cast<std::size_t>(m_dice.below(static_cast<int>(addresses.size())))];
+    }
+
+    /// The addresses that mean something to the target.
+    QString meaningfulAddress(Copy &target)
+    {
+        std::vector<QString> contacts, participants, hosts;
+        for (const ContactAddress &ip : target.engine.contacts().addresses())
+            contacts.push_back(ip.text());
+        for (int slot = 1; slot <= ConferenceTable::lastSlot; ++slot) {
+            Conference *const conference = target.engine.conferences().at(slot);
+            if (!conference)
+                continue;
+            hosts.push_back(nameOf(*conference).first);
+            for (const Participant &row : conference->partecipanti().rows())
+                participants.push_back(row.ip.text());
+        }
+        switch (m_dice.below(4)) {
+        case 0:
+            return target.ip();
+        case 1:
+            return anyOf(contacts);
+        case 2:
+            return anyOf(participants);
+        default:
+            return anyOf(hosts);
+        }
+    }
+
+    /// Any address that a datagram can come from.
+    QString anySource(Copy &target)
+    {
+        if (m_dice.percent(60))
+            return meaningfulAddress(target);
+        return anyOf({addressOf(m_plan.copies - 1), strangerAddress(1 + m_dice.below(30)), QStringLiteral("10.0.0.255"),
+                      QStringLiteral("255.255.255.255"), QStringLiteral("127.0.0.1"), QStringLiteral("127.0.0.2"),
+                      QStringLiteral("0.0.0.0"), QStringLiteral("224.0.0.1"), QStringLiteral("240.0.0.1"),
+                      QStringLiteral("192.168.7.7")});
+    }
+
+    /// What may stand where a datagram names an address.
+    std::string anyAddressField(Copy &target)
+    {
+        if (m_dice.percent(70))
+            return anySource(target).toStdString();
+        return anyOf({QStringLiteral("10.0.0.300"), QStringLiteral("010.0.0.2"), QStringLiteral("10.0.0.2."),
+                      QStringLiteral("10.0.0"), QStringLiteral("localhost"), QString(1000, u'9'), QString(),
+                      QStringLiteral("#1")})
+            .toStdString();
+    }
+
+    std::string anyNumber()
+    {
+        static const std::array<std::string, 12> numbers{"1", "2",  "3", "4", "5",     "1",
+                                                         "2", "-1", "0", "6", "32767", "99999"};
+        return numbers[static_cast<std::size_t>(m_dice.below(static_cast<int>(numbers.size())))];
+    }
+
+    std::string anyDatagram(Copy &target)
+    {
+        const std::string number = anyNumber(), address = anyAddressField(target);
+        const std::string identity = ' ' + address + " PC Copy " + std::to_string(m_dice.below(m_plan.copies));
+        const std::array<std::string, 30> forms{
+            "?ONLINE" + identity,
+            "!ONLINE" + identity,
+            "!OFFLINE" + identity,
+            "?ONLINE",
+            "!STATUS BUSY forged",
+            "!STATUS Invisible",
+            "!BUZZ",
+            "!USER" + identity,
+            "!TYPING",
+            "?AVATARHEAD",
+            "!AVATARHEAD 2026-11-21",
+            "?AVATARBODY",
+            "!AVATARBODY " + std::string(7500, 'x'),
+            "!AVATARBODY short",
+            "!AVATAROFF",
+            "!MOOD 41.5",
+            "!LIVETYPE forged",
+            "?CONF INVITE #" + number,
             "?CONF USERS #" + number,
             "!CONF INVITE #" + number + " AGREE",
             "!CONF INVITE #" + number + " DENY",
-            "?CONF INVITE #" + number,
+            "!CONF USERS #" + number + ' ' + address + ' ' + anyAddressField(target) + ' ' + target.ip().toStdString(),
+            "!CONF LEAVE #" + number,
+            "!CONF CLOSE #" + number,
+            '-' + forgedText(),
+            '+' + address + " #" + number + ' ' + forgedText(),
+            '+' + anySource(target).toStdString() + " #" + number + ' ' + forgedText(),
+            "!CONF",
+            "!NONSENSE " + address,
+            address,
         };
-        const std::string &bytes = forms[static_cast<std::size_t>(m_dice.below(forms.size()))];
-        tell(who, "forges " + bytes + " for " + addressOf(target).toStdString());
-        m_network.send(copy.ip(), addressOf(target), bytes);
+        return forms[static_cast<std::size_t>(m_dice.below(static_cast<int>(forms.size())))];
+    }
+
+    /// In the name of somebody who belongs to one of the target's conferences, and about that one.
+    void forgeFitting(Copy &target, int number)
+    {
+        Conference *const conference = randomConference(target, m_dice.percent(50));
+        if (!conference)
+            return;
+        const auto &rows = conference->partecipanti().rows();
+        const Participant &row = rows[static_cast<std::size_t>(m_dice.below(static_cast<int>(rows.size())))];
+        const QString source = conference->isHostedHere() ? row.ip.text() : nameOf(*conference).first;
+        const std::string sign = " #" + std::to_string(conference->identity().ConfNum);
+        const std::array<std::string, 6> forms{
+            '+' + row.ip.text().toStdString() + sign + ' ' + forgedText(),
+            '+' + anySource(target).toStdString() + sign + ' ' + forgedText(),
+            "!CONF USERS" + sign + ' ' + anyAddressField(target) + ' ' + anyAddressField(target),
+            "!CONF INVITE" + sign + " AGREE",
+            "!CONF LEAVE" + sign,
+            "!CONF CLOSE" + sign,
+        };
+        forge(number, source, forms[static_cast<std::size_t>(m_dice.below(static_cast<int>(forms.size())))]);
+    }
+
+    void forge(Copy &target, int number)
+    {
+        if (m_dice.percent(10))
+            return forgeFitting(target, number);
+        const QString source = anySource(target);
+        forge(number, source, anyDatagram(target));
+    }
+
+    void forge(int target, const QString &source, const std::string &bytes)
+    {
+        ++m_forged;
+        tell(target, "is sent " + bytes.substr(0, 80) + " in the name of " + source.toStdString());
+        m_network.send(source, addressOf(target), bytes);
     }
 
     /// Counts what a window has shown before it goes.
@@ -424,10 +617,14 @@ private:
         const wire::Datagram datagram = wire::parse(bytes);
         const bool conference = bytes.starts_with('+') || bytes.starts_with("!CONF") || bytes.starts_with("?CONF");
         const auto before = snapshotOf(copy, conference);
+        const bool hostile = m_plan.kind == Plan::Kind::hostile;
+        const Surface surface = hostile ? surfaceOf(copy) : Surface();
         const bool fromContact = copy.engine.contacts().find(from);
         copy.socket.sent.clear();
         arrive();
         const auto after = snapshotOf(copy, conference);
+        if (hostile)
+            checkSurface(from, copy, bytes, datagram, surface);
         for (std::size_t slot = 1; slot < before.size(); ++slot)
             compare(from, copy, bytes, datagram, before[slot], after[slot]);
         if (const auto *close = std::get_if<wire::ConferenceClose>(&datagram); close && fromContact)
@@ -436,6 +633,91 @@ private:
             checkMessage(from, copy, *message, fromContact ? before : decltype(before){}, after);
         else
             checkNothingRelayed(copy, bytes);
+    }
+
+    /// Whatever was forged, nothing grows without bound, nobody forbidden is taken for a peer, nothing stands where it
+    /// was not sent, and who is invisible stays so.
+    void checkSurface(const QString &from, Copy &copy, const std::string &bytes, const wire::Datagram &datagram,
+                      const Surface &before)
+    {
+        const std::string what
+            = " (" + from.toStdString() + " to " + copy.ip().toStdString() + ": " + bytes.substr(0, 80) + ')';
+        const auto *list = std::get_if<wire::ConferenceList>(&datagram);
+        const std::size_t named = list ? list->addresses.size() : 1;
+        require(copy.engine.contacts().rowCount() <= before.contacts + static_cast<int>(named),
+                "a datagram has made more contacts than it names" + what);
+        require(copy.engine.invitations().list().rowCount() <= limits::invitations, "too many invitations" + what);
+        require(copy.engine.invitations().list().rowCount()
+                    <= before.invitations + int(std::holds_alternative<wire::ConferenceInvitation>(datagram)),
+                "something else than an invitation has added one" + what);
+        checkPrivateWindows(from, copy, datagram, before, what);
+        checkSent(copy, named, what);
+    }
+
+    void checkContacts(Copy &copy, const std::string &what)
+    {
+        for (const ContactAddress &ip : copy.engine.contacts().addresses()) {
+            require(!isForbidden(copy, ip.ipv4()),
+                    "a contact has a forbidden address: " + ip.text().toStdString() + what);
+            require(copy.engine.contacts().find(ip)->waitingMessages <= limits::waitingMessages,
+                    "too many messages wait" + what);
+        }
+        for (int slot = 1; slot <= ConferenceTable::lastSlot; ++slot) {
+            Conference *const conference = copy.engine.conferences().at(slot);
+            if (!conference)
+                continue;
+            for (const Participant &row : conference->partecipanti().rows())
+                require(row.own || !isForbidden(copy, row.ip.ipv4()),
+                        "a participant has a forbidden address: " + row.ip.text().toStdString() + what);
+        }
+    }
+
+    void checkPrivateWindows(const QString &from, Copy &copy, const wire::Datagram &datagram, const Surface &before,
+                             const std::string &what)
+    {
+        const auto &windows = copy.privateForms.views;
+        const auto *message = std::get_if<wire::PrivateMessage>(&datagram);
+        require(windows.size() <= before.privatePieces.size() + (message ? 1 : 0),
+                "something else than a message has opened a window" + what);
+        require(windows.size() <= limits::windowsOpenedUnasked, "too many windows are open" + what);
+        m_fullOfWindows += windows.size() == limits::windowsOpenedUnasked;
+        for (std::size_t i = 0; i < windows.size(); ++i) {
+            const auto &pieces = windows[i]->log.pieces;
+            for (std::size_t k = i < before.privatePieces.size() ? before.privatePieces[i] : 0; k < pieces.size();
+                 ++k) {
+                const bool isText = pieces[k].text.startsWith(QLatin1String("forged-"))
+                    || pieces[k].text.startsWith(QLatin1String("text-"));
+                require(!isText || (message && windows[i]->peer == from),
+                        "a message stands in the window of somebody else" + what);
+            }
+        }
+    }
+
+    /// What a datagram provokes is bounded by what it names and by who is there to be told, and goes to peers alone.
+    void checkSent(Copy &copy, std::size_t named, const std::string &what)
+    {
+        std::set<std::string> guests;
+        std::size_t mostRows = 0;
+        for (int slot = 1; slot <= ConferenceTable::lastSlot; ++slot) {
+            Conference *const hosted = copy.engine.conferences().hosted(slot);
+            if (!hosted)
+                continue;
+            for (const Participant &row : hosted->partecipanti().rows())
+                guests.insert(row.ip.text().toStdString());
+            mostRows = std::max(mostRows, hosted->partecipanti().rows().size());
+        }
+        require(copy.socket.sent.size() <= 3 * named + 1 + mostRows, "a datagram has provoked too many others" + what);
+        for (const To &sent : copy.socket.sent)
+            require(!isForbidden(copy, Ipv4Address::parse(sent.ip)), "sent to a forbidden address " + sent.ip + what);
+        if (!copy.common.isInvisible())
+            return;
+        ++m_unseenArrivals;
+        for (const To &sent : copy.socket.sent) {
+            const bool isConference = sent.bytes.starts_with('+') || sent.bytes.starts_with("!CONF USERS #")
+                || sent.bytes.starts_with("!CONF CLOSE #");
+            require(isConference && (guests.contains(sent.ip) || sent.bytes.starts_with("!CONF CLOSE #")),
+                    "who is invisible has sent " + sent.bytes.substr(0, 80) + " to " + sent.ip + what);
+        }
     }
 
     /// Nobody changes what is not theirs.
@@ -481,7 +763,8 @@ private:
     std::size_t slotFor(const QString &from, Copy &copy, const wire::ConferenceMessage &message,
                         const std::array<Snapshot, ConferenceTable::lastSlot + 1> &before)
     {
-        if (message.id < 1)
+        const std::optional<Ipv4Address> writtenBy = Ipv4Address::parse(message.origin);
+        if (message.id < 1 || !writtenBy || !writtenBy->isUnicast())
             return 0;
         if (message.origin != copy.ip().toStdString()) {
             bool isOver = false;
@@ -546,6 +829,10 @@ private:
 
     void shownIn(const Conference &window, int who, const QString &text)
     {
+        if (text.startsWith(QLatin1String("forged-"))) {
+            ++m_forgedShown; // where, checkMessage() has seen
+            return;
+        }
         ++m_arrivalsShown;
         const Name said = m_saidIn[text], shown = nameOf(window);
         require(m_authors[text] != who, "a message has come back to its author: " + text.toStdString());
@@ -619,7 +906,12 @@ private:
         }
     }
 
-    Copy *find(const QString &ip) { return m_copies[static_cast<std::size_t>(copyWith(ip))].get(); }
+    Copy *find(const QString &ip)
+    {
+        const int copy = copyWith(ip);
+        const bool isCopys = copy >= 0 && copy < m_plan.copies && addressOf(copy) == ip;
+        return isCopys ? m_copies[static_cast<std::size_t>(copy)].get() : nullptr;
+    }
     Conference *hostsWindow(const Conference &joined)
     {
         Copy *const host = find(nameOf(joined).first);
@@ -724,6 +1016,11 @@ private:
     int m_arrivalsShown = 0;
     int m_misplaced = 0;
     int m_listsCompared = 0;
+    int m_forged = 0;
+    int m_forgedTexts = 0;
+    int m_forgedShown = 0;
+    int m_fullOfWindows = 0;
+    int m_unseenArrivals = 0;
     std::vector<std::string> m_violations;
 };
 
@@ -733,15 +1030,22 @@ int numberFrom(const char *variable, int otherwise)
     return value ? std::atoi(value) : otherwise;
 }
 
+/// The seeds of one block: 200 seeds are shared out, so that tests can run side by side.
+std::pair<int, int> seedsOf(int block)
+{
+    const int all = numberFrom("NIMB_SIM_SEEDS", 200), one = numberFrom("NIMB_SIM_SEED", -1);
+    if (one >= 0)
+        return {one, one + (block == 0)};
+    return {all * block / blocks, all * (block + 1) / blocks};
+}
+
 class ConferenceSim : public testing::TestWithParam<int>
 {
 };
 
 TEST_P(ConferenceSim, NobodyHearsTooMuchAndListsAgreeInTheEnd)
 {
-    const int all = numberFrom("NIMB_SIM_SEEDS", 200), one = numberFrom("NIMB_SIM_SEED", -1);
-    const int first = one >= 0 ? one : all * GetParam() / blocks;
-    const int last = one >= 0 ? one + (GetParam() == 0) : all * (GetParam() + 1) / blocks;
+    const auto [first, last] = seedsOf(GetParam());
     int shown = 0, misplaced = 0, lists = 0;
     std::uint64_t datagrams = 0;
     for (int seed = first; seed < last; ++seed) {
@@ -758,6 +1062,33 @@ TEST_P(ConferenceSim, NobodyHearsTooMuchAndListsAgreeInTheEnd)
     }
     std::cout << datagrams << " datagrams, " << shown << " messages shown, " << misplaced << " of them misplaced, "
               << lists << " lists compared\n";
+}
+
+class HostileSim : public testing::TestWithParam<int>
+{
+};
+
+TEST_P(HostileSim, AMemberWhoForgesEverythingGetsNothingThatIsNotItsOwn)
+{
+    const auto [first, last] = seedsOf(GetParam());
+    int shown = 0, forged = 0, forgedShown = 0, full = 0, unseen = 0;
+    for (int seed = first; seed < last; ++seed) {
+        Simulation simulation{Plan(seed, Plan::Kind::hostile)};
+        ASSERT_THAT(simulation.run(), IsEmpty()) << "run it again with NIMB_SIM_SEED=" << seed;
+        shown += simulation.shownMessages();
+        forged += simulation.forgedDatagrams();
+        forgedShown += simulation.forgedMessagesShown();
+        full += simulation.fullOfWindows();
+        unseen += simulation.unseenArrivals();
+    }
+    if (last - first >= 10) {
+        EXPECT_GT(shown, 0) << "nobody has heard anything";
+        EXPECT_GT(forgedShown, 0) << "nothing was forged so well that it was believed";
+        EXPECT_GT(full, 0) << "the crowd has never opened as many windows as it may";
+        EXPECT_GT(unseen, 0) << "nothing has arrived while a copy was invisible";
+    }
+    std::cout << forged << " datagrams forged, " << forgedShown << " messages among them believed, " << unseen
+              << " arrivals while invisible\n";
 }
 
 /// Ann, who hosts, and Ben, on a network that delivers everything at once.
@@ -957,6 +1288,7 @@ TEST_F(ConferenceStorm, NorDoHostsWhoDoNotKnowTheWriter)
 }
 
 INSTANTIATE_TEST_SUITE_P(Block, ConferenceSim, testing::Range(0, blocks));
+INSTANTIATE_TEST_SUITE_P(Block, HostileSim, testing::Range(0, blocks));
 
 } // namespace
 } // namespace nimb::test
