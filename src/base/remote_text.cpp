@@ -115,7 +115,8 @@ QString remoteLine(const QString &text)
 
 QString remoteName(const QString &text)
 {
-    return cutText(withoutInvisible(remoteLine(text)), limits::nameLength);
+    // Without what followed, the last character may show nothing any more, and would be left out when it is read back.
+    return withoutInvisible(cutText(withoutInvisible(remoteLine(text)), limits::nameLength));
 }
 
 QString remoteBody(const QString &text)

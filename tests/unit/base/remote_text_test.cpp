@@ -55,6 +55,8 @@ TEST(RemoteText, NamesAreKeptTo255Characters)
 {
     EXPECT_EQ(remoteName(QString(300, u'x')).size(), 255);
     EXPECT_EQ(remoteName(QString(255, u'x')).size(), 255);
+    const QString letters(254, QChar(0x0915));
+    EXPECT_EQ(remoteName(letters + QChar(0x200D) + QChar(0x0915)), letters) << "what joined nothing any more is gone";
 }
 
 TEST(RemoteText, EveryLineBreakOfAMessageIsCrLf)
