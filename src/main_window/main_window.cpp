@@ -14,8 +14,7 @@ QString mainCaption(const QString &nickname)
 
 void MainWindow::Form_Load()
 {
-    QStringList notices;
-    loadSettings(notices);
+    const LoadedSettings settings = loadSettings();
     m_parts.log.banner();
     if (const std::optional<QString> problem = m_parts.store.problem())
         m_parts.log.fault(*problem);
@@ -25,27 +24,28 @@ void MainWindow::Form_Load()
     }
     for (const QString &sentence : m_parts.nextStart.take())
         m_parts.log.fault(tr("When NIMB-Chat last ended: %1").arg(sentence));
-    for (const QString &notice : std::as_const(notices))
+    for (const QString &notice : settings.notices)
         m_parts.log.fault(notice);
     m_parts.port.report();
     m_parts.contacts.load(m_parts.store);
     m_parts.recovery.takeOver();
     m_parts.announcement.run();
     m_parts.tray.AddIcon(QStringLiteral("NIMB-Chat"));
-    m_parts.recovery.begin();
+    m_parts.recovery.begin(settings.personalizedStates);
 }
 
-void MainWindow::loadSettings(QStringList &notices)
+LoadedSettings MainWindow::loadSettings()
 {
-    const LoadedSettings loaded = nimb::loadSettings(m_parts.store, m_parts.common);
-    notices = loaded.notices;
+    LoadedSettings loaded = nimb::loadSettings(m_parts.store, m_parts.common);
     m_parts.view.setPlace(m_parts.common.mainPlace);
     m_parts.view.setCaption(mainCaption(m_parts.common.ownNickname));
     for (const QString &value : m_parts.ownState.load(loaded.personalizedStates))
-        notices.append(tr("The stored personalized state \"%1\" begins with no picture digit and is left out, and gone "
-                          "for good once NIMB-Chat ends.")
-                           .arg(remoteLine(value)));
+        loaded.notices.append(
+            tr("The stored personalized state \"%1\" begins with no picture digit and is left out, and gone "
+               "for good once NIMB-Chat ends.")
+                .arg(remoteLine(value)));
     m_parts.port.open();
+    return loaded;
 }
 
 CloseDecision MainWindow::Form_QueryUnload(UnloadMode mode)

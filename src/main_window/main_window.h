@@ -6,6 +6,7 @@
 #include "base/main_log.h"
 #include "base/next_start.h"
 #include "base/prompts.h"
+#include "base/settings.h"
 #include "base/settings_store.h"
 #include "base/unload_mode.h"
 #include "base/window_openers.h"
@@ -63,7 +64,7 @@ public:
     void endWithoutWindows();
 
 private:
-    void loadSettings(QStringList &notices);
+    LoadedSettings loadSettings();
     void answerNobody();
     void sayFarewellAndSaveContacts();
     void save();

@@ -73,11 +73,11 @@ void Recovery::takeOver(const KeptChange &change)
     });
 }
 
-void Recovery::begin()
+void Recovery::begin(const QStringList &storedStates)
 {
     if (m_parts.store.problem())
         return; // which has been said; trying again and again would help nobody
-    m_keptSettings = settings();
+    m_keptSettings = settings(storedStates);
     for (const ContactAddress &ip : m_parts.contacts.addresses())
         m_keptContacts.insert(ip, *namesOf(ip));
     watchContacts();
@@ -135,7 +135,7 @@ void Recovery::wait()
 void Recovery::keep()
 {
     m_retry->stop();
-    Values now = settings();
+    Values now = settings(m_parts.ownState.storedValues());
     const std::vector<KeptChange> changes = changesOf(now);
     if (!changes.empty()) {
         const std::optional<QString> problem = m_parts.store.keep(changes);
@@ -148,11 +148,11 @@ void Recovery::keep()
     keptAre(std::move(now));
 }
 
-Recovery::Values Recovery::settings() const
+Recovery::Values Recovery::settings(const QStringList &states) const
 {
     m_parts.common.mainPlace = m_parts.view.place();
     Collector collector;
-    saveSettings(collector, m_parts.common, m_parts.ownState.storedValues());
+    saveSettings(collector, m_parts.common, states);
     return std::move(collector.values);
 }
 

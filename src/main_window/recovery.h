@@ -39,8 +39,9 @@ public:
 
     /// Brings the stored contacts up to what the last run kept, and says so when it kept anything.
     void takeOver();
-    /// What changes from now on is kept; what is there now is taken for stored or kept.
-    void begin();
+    /// What changes from now on is kept; what is there now is taken for stored or kept. storedStates: the personalised
+    /// states as they were read. Those that could not be used have left their numbers to others.
+    void begin(const QStringList &storedStates);
     /// Something that is saved with the settings may have changed.
     void settingsChanged();
     /// From now on nothing is kept any more.
@@ -59,7 +60,7 @@ private:
     void contactChanged(const Contact &contact);
     void wait();
     void keep();
-    Values settings() const;
+    Values settings(const QStringList &states) const;
     std::optional<Names> namesOf(const ContactAddress &ip) const;
     std::vector<KeptChange> changesOf(const Values &now) const;
     void keptAre(Values now);

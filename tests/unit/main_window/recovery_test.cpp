@@ -126,6 +126,21 @@ TEST(Recovery, KeepsPersonalisedStatesAndAutomaticReplies)
     EXPECT_EQ(kept(copy)["Settings/AutoReplyonBusyText"], "Later");
 }
 
+TEST(Recovery, AStateThatIsAddedTakesNoOtherOnesPlace)
+{
+    Copy copy({.settings = {{"Settings/PersonalizedState1", QStringLiteral("1At lunch")},
+                            {"Settings/PersonalizedState3", QStringLiteral("no digit")},
+                            {"Settings/PersonalizedState4", QStringLiteral("1Reading")}}});
+    copy.settleStart();
+    ASSERT_TRUE(copy.engine.ownState().addPersonalized(BaseState::busy, QStringLiteral("In a meeting")));
+    copy.advance(2000ms);
+    const std::unique_ptr<Copy> next = runAfterKill(copy);
+    std::vector<std::string> states;
+    for (std::size_t i = OwnState::plainEntries; i < next->engine.ownState().entries().size(); ++i)
+        states.push_back(next->engine.ownState().entries()[i].text.toStdString());
+    EXPECT_THAT(states, ElementsAre("Online - At lunch", "Online - Reading", "Busy - In a meeting"));
+}
+
 TEST(Recovery, KeepsWhereTheWindowWasPut)
 {
     Copy copy;
