@@ -1,5 +1,6 @@
 #include "chat_windows.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace nimb::test
@@ -72,6 +73,12 @@ PrivateWindow MainWindow::openWhenOnline(int row, const std::string &nickname) c
         return waitUntil([&] { return Window::exists(caption); }, std::chrono::milliseconds(500));
     });
     return PrivateWindow::with(nickname);
+}
+
+std::vector<std::vector<std::uint32_t>> MainWindow::pictureOfRow(int row) const
+{
+    constexpr int width = 270;
+    return picture(firstRow.x - width / 2, firstRow.y - rowHeight / 2 + row * rowHeight, width, rowHeight);
 }
 
 void MainWindow::openContextMenu(int row) const
@@ -184,6 +191,24 @@ void PrivateWindow::sayClipboard() const
     focusInput();
     press("ctrl+v");
     press("Return");
+}
+
+std::vector<int> PrivateWindow::beginningsOfLines() const
+{
+    constexpr int left = 11, top = 11, width = 560, height = 120; // inside the frame of the log
+    std::vector<int> beginnings;
+    bool inLine = false;
+    for (const auto &row : picture(left, top, width, height)) {
+        const auto ink = std::ranges::find_if(row, [&](std::uint32_t colour) { return colour != row.back(); });
+        const int beginning = static_cast<int>(ink - row.begin());
+        const bool isBlank = ink == row.end();
+        if (!isBlank && !inLine)
+            beginnings.push_back(beginning);
+        else if (!isBlank)
+            beginnings.back() = std::min(beginnings.back(), beginning);
+        inLine = !isBlank;
+    }
+    return beginnings;
 }
 
 std::string logHeardBy(WirePeer &peer, const MainWindow &log, const PrivateWindow &with)

@@ -24,6 +24,8 @@ public:
     void openContact(int row) const;
     /// Tries until it opens a window of this name, for a contact that is not known to be there yet does not open.
     PrivateWindow openWhenOnline(int row, const std::string &nickname) const;
+    /// How a row looks.
+    std::vector<std::vector<std::uint32_t>> pictureOfRow(int row) const;
     /// Returns when the menu is there.
     void openContextMenu(int row) const;
     /// Chooses "Remove" from the context menu of a row.
@@ -63,6 +65,8 @@ public:
     void clickIntoLog(int linesBelow = 0) const;
     /// Into the clipboard.
     void copyLog() const;
+    /// How far from the left edge each line of the log begins, in pixels, as it is painted.
+    std::vector<int> beginningsOfLines() const;
     /// Puts the caret into the input box.
     void focusInput() const;
     /// Sends what is in the clipboard as a message.

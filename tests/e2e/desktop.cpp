@@ -277,6 +277,28 @@ bool Window::shows(std::uint32_t colour) const
     return false;
 }
 
+std::vector<std::vector<std::uint32_t>> Window::picture(int left, int top, int width, int height) const
+{
+    const QString part = QStringLiteral("%1x%2+%3+%4").arg(width).arg(height).arg(left).arg(top);
+    const QByteArray pixels
+        = run(QStringLiteral("import"), {"-silent", "-window", m_id, "-crop", part, "-depth", "8", "rgb:-"}).output;
+    if (pixels.size() != 3 * qsizetype{width} * height) {
+        ADD_FAILURE() << "no picture of " << width << " by " << height << " pixels";
+        return {};
+    }
+    std::vector<std::vector<std::uint32_t>> lines(static_cast<std::size_t>(height));
+    qsizetype at = 0;
+    for (auto &line : lines) {
+        for (int x = 0; x < width; ++x) {
+            std::uint32_t colour = 0;
+            for (int i = 0; i < 3; ++i)
+                colour = colour << 8 | static_cast<unsigned char>(pixels[at++]);
+            line.push_back(colour);
+        }
+    }
+    return lines;
+}
+
 Window::Place Window::place() const
 {
     const QList<QByteArray> lines = run(QStringLiteral("xwininfo"), {"-id", m_id}).output.split('\n');

@@ -81,6 +81,8 @@ public:
     Place place() const;
     /// Whether a pixel of exactly this colour, 0xRRGGBB, is inside it, as far as nothing lies over it.
     bool shows(std::uint32_t colour) const;
+    /// Part of what is inside it, as far as nothing lies over it: a row of colours, 0xRRGGBB, for each line.
+    std::vector<std::vector<std::uint32_t>> picture(int left, int top, int width, int height) const;
 
     /// As a click on its taskbar button does: the window is restored, raised and has the focus afterwards.
     void activate() const;

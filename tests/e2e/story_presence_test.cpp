@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <utility>
+
 namespace nimb::test
 {
 namespace
@@ -211,6 +213,30 @@ TEST_F(StoryPresence, AContactThatChangesItsNameIsSaidAndNothingUnseenIsInIt)
     ann.hearUntil("!STATUS Online");
     EXPECT_EQ(bob.end(), 0);
     EXPECT_THAT(bob.storedContacts(), ElementsAre(StoredContact{"127.0.31.2", "[unknown]", "A"}));
+}
+
+TEST_F(StoryPresence, AContactWhoTakesAnothersNameIsToldApartInTheList)
+{
+    WirePeer ben("127.0.31.3", port);
+    RunningCopy bob({"127.0.31.1", "BOB-PC"}, profile(port, {{"127.0.31.2", "Ann", "A"}, {"127.0.31.3", "Ben", "B"}}));
+    const MainWindow main = MainWindow::startBob(bob, ann);
+    ben.hearUntil("!STATUS Online");
+    ann.send("127.0.31.1", "!ONLINE 127.0.31.2 A Ann");
+    ben.send("127.0.31.1", "!ONLINE 127.0.31.3 B Ben");
+    ben.send("127.0.31.1", "?ONLINE 127.0.31.3 B Ben");
+    EXPECT_EQ(ben.next(), "!ONLINE 127.0.31.1 BOB-PC Bob"); // all of it has arrived
+    std::vector<std::vector<std::uint32_t>> alone;
+    EXPECT_TRUE(waitUntil([&] {
+        const auto now = main.pictureOfRow(0);
+        return now == std::exchange(alone, now);
+    }));
+
+    ben.send("127.0.31.1", "!ONLINE 127.0.31.3 B \xD0\x90nn"); // with a Cyrillic letter
+    EXPECT_TRUE(waitUntil([&] { return main.pictureOfRow(0) != alone; }))
+        << "Ann's row looks as if she was the only one";
+    EXPECT_TRUE(waitUntil([&] { return main.pictureOfRow(1) != main.pictureOfRow(0); })) << "both look the same";
+    ben.send("127.0.31.1", "!ONLINE 127.0.31.3 B Ben");
+    EXPECT_TRUE(waitUntil([&] { return main.pictureOfRow(0) == alone; })) << "she is the only one again";
 }
 
 TEST_F(StoryPresence, AContactThatLeavesStandsBehindThoseWhoAreThere)

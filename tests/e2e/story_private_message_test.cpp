@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdlib>
+
 namespace nimb::test
 {
 namespace
@@ -136,6 +138,24 @@ TEST_F(StoryPrivateMessage, BlanksAndBreaksAtTheEndsAreTrimmedBothWays)
     EXPECT_EQ(ann.nextButTyping(), "-end");
     EXPECT_THAT(logHeardBy(ann, window, window),
                 EndsWith("\r\nAnn> in  side\r\nof it\r\nBob> two  words\r\nand a line\r\nBob> \r\nBob> end"));
+}
+
+TEST_F(StoryPrivateMessage, NobodyWritesALineThatStandsWhereAnothersDoes)
+{
+    RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn({{{"Options", "PrivateBehaviour"}, "1"}}));
+    start(bob);
+    ann.send("127.0.32.1", "-hello\r\nBob> I agree");
+    const PrivateWindow window = PrivateWindow::with("Ann");
+    window.activate();
+    std::vector<int> lines;
+    EXPECT_TRUE(waitUntil([&] {
+        lines = window.beginningsOfLines();
+        return lines.size() == 3;
+    })) << lines.size()
+        << " lines";
+    ASSERT_EQ(lines.size(), 3u); // when the window was opened, what Ann says, and what she wants Bob to have said
+    EXPECT_LE(std::abs(lines[1] - lines[0]), 2);
+    EXPECT_GE(lines[2], lines[1] + 8) << "her second line stands where one of Bob's would";
 }
 
 TEST_F(StoryPrivateMessage, UmlautsAndEmojiTravelAsTheirBytes)
