@@ -2,6 +2,8 @@
 
 #include "base/shown_name.h"
 
+#include <QList>
+
 #include <algorithm>
 #include <array>
 

@@ -139,7 +139,7 @@ QString shownText(const QString &text)
 {
     const qsizetype linesEnd = endOfLines(text, limits::shownLines);
     const QString kept = cutText(text, qMin(linesEnd, limits::shownTextLength));
-    const QString shown = withClosedDirections(kept);
+    QString shown = withClosedDirections(kept);
     if (kept.size() == text.size())
         return shown;
     if (linesEnd <= limits::shownTextLength)

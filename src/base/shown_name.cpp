@@ -1,5 +1,7 @@
 #include "base/shown_name.h"
 
+#include <QList>
+
 #include <algorithm>
 #include <array>
 

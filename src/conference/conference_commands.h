@@ -10,10 +10,10 @@
 #include "protocol/drop_counts.h"
 #include "protocol/handlers.h"
 
-#include <compare>
 #include <map>
 #include <memory>
 #include <optional>
+#include <tuple>
 #include <utility>
 
 namespace nimb
@@ -62,7 +62,10 @@ private:
     struct Seat {
         Ipv4Address ip;
         std::int16_t number = 0;
-        std::strong_ordering operator<=>(const Seat &) const = default;
+        friend bool operator<(const Seat &left, const Seat &right)
+        {
+            return std::tie(left.ip, left.number) < std::tie(right.ip, right.number);
+        }
     };
     /// The conference that is hosted here, if that somebody is in it.
     Conference *attended(const Seat &seat) const;

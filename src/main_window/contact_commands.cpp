@@ -24,11 +24,11 @@ QString ContactCommands::toolTip(const QString &ip) const
     const Contact *contact = m_contacts.find(ip);
     if (!contact)
         return {};
-    const QString line
+    QString line
         = contact->state.isEmpty() ? contact->nickname : contact->nickname + QLatin1String(": ") + contact->state;
     if (contact->waitingMessages == 0)
         return line;
-    return tr("%1 (messages that wait to be read: %2)").arg(line).arg(contact->waitingMessages);
+    return tr("%1 (messages that wait to be read: %2)").arg(line, QString::number(contact->waitingMessages));
 }
 
 QString ContactCommands::details(const QString &ip) const

@@ -24,6 +24,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <utility>
+
 namespace nimb
 {
 namespace
@@ -61,8 +63,8 @@ QString fileOf(const QMimeData &given)
 
 } // namespace
 
-frmOptions::frmOptions(const OptionValues &values, Prompts &prompts, QWidget *parent)
-    : QDialog(parent), m_values(values), m_prompts(prompts)
+frmOptions::frmOptions(OptionValues values, Prompts &prompts, QWidget *parent)
+    : QDialog(parent), m_values(std::move(values)), m_prompts(prompts)
 {
     setObjectName(QStringLiteral("frmOptions"));
     setWindowTitle(tr("NIMB-Chat - Options"));

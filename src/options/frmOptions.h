@@ -30,7 +30,7 @@ class frmOptions : public QDialog
 
 public:
     /// The prompts outlive the dialog.
-    frmOptions(const OptionValues &values, Prompts &prompts, QWidget *parent);
+    frmOptions(OptionValues values, Prompts &prompts, QWidget *parent);
 
 protected:
     void dragEnterEvent(QDragEnterEvent *event) override;

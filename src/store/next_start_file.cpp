@@ -30,7 +30,7 @@ void NextStartFile::tell(const QString &sentence)
 
 QStringList NextStartFile::take()
 {
-    const QStringList lines = read().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QStringList lines = read().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     if (!lines.isEmpty() || QFile(m_file).size() != fileSize)
         write({});
     return lines;

@@ -90,6 +90,15 @@ TEST(ToolTip, ShowsNicknameAndState)
     EXPECT_EQ(copy.engine.contactCommands().toolTip({}), QString());
 }
 
+TEST(ToolTip, CountsMessagesThatWaitAndLeavesPlaceMarkersInNamesAlone)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "%2"}}});
+    copy.settleStart({"10.0.0.2"});
+    copy.engine.contacts().change(ip("10.0.0.2"), [](Contact &contact) { contact.waitingMessages = 7; });
+    EXPECT_EQ(copy.engine.contactCommands().toolTip(ip("10.0.0.2")),
+              QStringLiteral("%2 (messages that wait to be read: 7)"));
+}
+
 TEST(PrivateChatCommand, DoesNothingForAContactNotYetKnown)
 {
     Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
