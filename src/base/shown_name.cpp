@@ -104,7 +104,7 @@ QString withoutInvisible(const QString &name)
     for (qsizetype i = 0; i < all.size(); ++i) {
         const char32_t before = kept.empty() ? 0 : kept.back(), after = i + 1 < all.size() ? all[i + 1] : 0;
         if (!isInvisible(all[i]) || isOfUse(all[i], before, after))
-            kept += all[i];
+            kept += static_cast<char32_t>(all[i]);
     }
     return QString::fromUcs4(kept.data(), static_cast<qsizetype>(kept.size()));
 }
