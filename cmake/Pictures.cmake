@@ -41,7 +41,8 @@ function(nimb_add_pictures target)
     COMMAND Qt6::rcc --name pictures --no-compress --output ${code} ${rendered}/pictures.qrc
     DEPENDS ${rendered}/pictures.qrc ${all}
     COMMENT "Packing the pictures" VERBATIM)
-  set_source_files_properties(${code} PROPERTIES SKIP_AUTOMOC ON SKIP_PRECOMPILE_HEADERS ON)
+  set_source_files_properties(${code} PROPERTIES SKIP_AUTOMOC ON SKIP_PRECOMPILE_HEADERS ON
+    SKIP_UNITY_BUILD_INCLUSION ON)
   target_sources(${target} PRIVATE ${code})
   list(JOIN NIMB_PICTURE_SIZES , sizes)
   target_compile_definitions(${target} PRIVATE NIMB_PICTURE_SIZES=${sizes})

@@ -1,6 +1,7 @@
 #include "base/main_log.h"
 
 #include "base/clock_text.h"
+#include "base/line_break.h"
 #include "base/remote_text.h"
 
 namespace nimb
@@ -8,7 +9,7 @@ namespace nimb
 
 void MainLog::line(const QString &text, Colour colour)
 {
-    appendText(m_log, text + QLatin1String("\r\n"), colour);
+    appendText(m_log, text + lineBreak, colour);
 }
 
 QString MainLog::opening() const

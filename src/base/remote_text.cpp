@@ -1,6 +1,7 @@
 #include "base/remote_text.h"
 
 #include "base/limits.h"
+#include "base/line_break.h"
 #include "base/shown_name.h"
 
 #include <QCoreApplication>
@@ -13,7 +14,6 @@ namespace
 
 constexpr char16_t carriageReturn = u'\r';
 constexpr char16_t lineFeed = u'\n';
-const QLatin1String lineBreak("\r\n");
 constexpr char16_t popDirectionalFormatting = 0x202C;
 constexpr char16_t popDirectionalIsolate = 0x2069;
 

@@ -2,15 +2,12 @@
 
 #include "base/clock_text.h"
 #include "base/limits.h"
+#include "base/line_break.h"
 #include "base/remote_text.h"
 #include "log/emoticons.h"
 
 namespace nimb
 {
-namespace
-{
-const QLatin1String lineBreak("\r\n");
-}
 
 Conversation::Conversation(const Services &services, std::function<void()> unloaded)
     : m_services(services), m_unloaded(std::move(unloaded))

@@ -1,11 +1,9 @@
 #include "conversation/message_text.h"
 
+#include "base/line_break.h"
+
 namespace nimb
 {
-namespace
-{
-const QLatin1String lineBreak("\r\n");
-}
 
 QString TrimTrailingBreaks(QString text)
 {

@@ -1,6 +1,7 @@
 #include "log/rich_text_log.h"
 
 #include "base/limits.h"
+#include "base/line_break.h"
 #include "log/accessible_log.h"
 #include "log/link_finder.h"
 #include "log/log_font.h"
@@ -224,7 +225,7 @@ void RichTextLogEdit::setSelText(const QString &text)
 {
     // One character per line break, as the document counts. The two that it would take for frames are no text.
     QString plain = text;
-    plain.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    plain.replace(lineBreak, QLatin1String("\n"));
     plain.replace(QChar(0xFDD0), QChar::ReplacementCharacter).replace(QChar(0xFDD1), QChar::ReplacementCharacter);
     gather(plain, m_format);
 }

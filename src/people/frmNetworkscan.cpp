@@ -14,7 +14,7 @@ namespace
 using form_layout::margin;
 using form_layout::spacing;
 
-constexpr int textWidth = 380;
+constexpr int explanationWidth = 380;
 
 } // namespace
 
@@ -40,7 +40,7 @@ void frmNetworkscan::buildControls()
                       tr("Note: you can use broadcast IP to scan a whole network (e.g. let's say your IP address is "
                          "192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is "
                          "192.168.1.255)"),
-                      textWidth);
+                      explanationWidth);
     auto *const inFrame = new QVBoxLayout(frame);
     inFrame->setContentsMargins(margin, margin, margin, margin);
     inFrame->setSpacing(spacing);

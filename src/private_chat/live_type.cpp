@@ -1,6 +1,7 @@
 #include "private_chat/live_type.h"
 
 #include "base/limits.h"
+#include "base/line_break.h"
 #include "base/remote_text.h"
 
 namespace nimb
@@ -21,7 +22,7 @@ QString withoutOuterSpaces(QStringView text)
 
 QString liveTypeToSend(const QString &typed)
 {
-    const QString line = QString(typed).replace(QLatin1String("\r\n"), QLatin1String(" "));
+    const QString line = QString(typed).replace(lineBreak, QLatin1String(" "));
     QStringView end = QStringView(line).last(qMin(line.size(), limits::liveTextLength));
     if (end.size() < line.size() && end.front().isLowSurrogate())
         end = end.mid(1);
@@ -30,7 +31,7 @@ QString liveTypeToSend(const QString &typed)
 
 QString liveTypeToShow(const QString &received)
 {
-    const QString line = QString(received).replace(QLatin1String("\r\n"), QLatin1String(" "));
+    const QString line = QString(received).replace(lineBreak, QLatin1String(" "));
     return shownText(remoteLine(line));
 }
 

@@ -1,5 +1,6 @@
 #include "welcome/tip_of_the_day.h"
 
+#include "base/line_break.h"
 #include "base/remote_text.h"
 #include "base/settings.h"
 
@@ -10,7 +11,6 @@ namespace nimb
 namespace
 {
 
-const QString lineBreak = QStringLiteral("\r\n");
 const QLatin1String showKey("TipOTDay");
 const QLatin1String counterKey("TipOTDayNum");
 

@@ -1,5 +1,7 @@
 #include "widgets/form_text.h"
 
+#include "base/line_break.h"
+
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QPlainTextEdit>
@@ -10,12 +12,12 @@ namespace nimb
 
 QString typedText(const QPlainTextEdit &box)
 {
-    return box.toPlainText().replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+    return box.toPlainText().replace(QLatin1Char('\n'), lineBreak);
 }
 
 void setTypedText(QPlainTextEdit &box, const QString &text)
 {
-    box.setPlainText(QString(text).replace(QLatin1String("\r\n"), QLatin1String("\n")));
+    box.setPlainText(QString(text).replace(lineBreak, QLatin1String("\n")));
     box.moveCursor(QTextCursor::End);
 }
 
