@@ -146,6 +146,8 @@ void ConferenceCommands::mayTakeOneMore(const Seat &host)
         ++lists.left;
     if (lists.left < limits::listsAtOnce)
         lists.oneMore->start();
+    else
+        m_lists.erase(host);
     Conference *const conference = list ? m_parts.conferences.joined(host.ip, host.number) : nullptr;
     // The window may have been closed and the host removed meanwhile.
     if (conference && m_parts.contacts.isContact(host.ip))

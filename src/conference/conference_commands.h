@@ -91,7 +91,7 @@ private:
 
     Parts m_parts;
     PacedAnswers<Seat> m_listAnswers;
-    std::map<Seat, Lists> m_lists; ///< of joined conferences, by their hosts
+    std::map<Seat, Lists> m_lists; ///< of those whose hosts may not send as many at once as any other
     Ipv4Address m_ip;              ///< the sender of the datagram at hand
 };
 

@@ -37,6 +37,9 @@ public:
         m_now = end;
     }
 
+    /// How many timers exist, running or not.
+    int timers() const { return m_timers; }
+
     /// When the next timer fires, counted from the start; empty when none runs.
     std::optional<std::chrono::milliseconds> nextDue() const
     {
@@ -50,8 +53,13 @@ private:
         VirtualTimer(VirtualTime &time, std::chrono::milliseconds interval, std::function<void()> fired, bool repeats)
             : m_time(time), m_interval(interval), m_fired(std::move(fired)), m_repeats(repeats)
         {
+            ++m_time.m_timers;
         }
-        ~VirtualTimer() override { stop(); }
+        ~VirtualTimer() override
+        {
+            stop();
+            --m_time.m_timers;
+        }
 
         void start() override
         {
@@ -72,7 +80,9 @@ private:
             stop();
             if (m_repeats)
                 start();
-            m_fired();
+            // The function may destroy this timer, and with it the place where the function was kept.
+            const auto running = m_fired;
+            running();
         }
 
         VirtualTime &m_time;
@@ -94,6 +104,7 @@ private:
     QDateTime m_start;
     std::chrono::milliseconds m_now{0};
     std::uint64_t m_starts = 0;
+    int m_timers = 0;
     std::set<VirtualTimer *, Sooner> m_running;
 };
 

@@ -573,6 +573,19 @@ TEST_F(FloodOfLists, AHostEarnsOneListASecondUntilItHasThemAll)
     EXPECT_THAT(rows(conference), ElementsAre("Me (you) green", "Ann green", "Ben green"));
 }
 
+TEST_F(FloodOfLists, NothingIsKeptOfAHostThatMaySendThemAllAgain)
+{
+    const int before = copy.time->timers();
+    join(3);
+    copy.arrive("10.0.0.2", "!CONF CLOSE #3");
+    list("10.0.0.3");
+    join(4);
+    copy.arrive("10.0.0.2", "!CONF USERS #4 10.0.0.2 10.0.0.3");
+    EXPECT_EQ(copy.time->timers(), before + 1);
+    copy.advance(1s);
+    EXPECT_EQ(copy.time->timers(), before);
+}
+
 TEST_F(FloodOfLists, AListThatWaitsDoesNotOutliveItsConference)
 {
     Conference &conference = join(3);
