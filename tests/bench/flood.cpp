@@ -26,7 +26,6 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QRegularExpression>
-#include <QThread>
 
 #include <algorithm>
 #include <atomic>
@@ -199,10 +198,12 @@ public:
             m_windows.back().activate();
         }
     }
+    /// What was put off until there is time is done, and shown.
+    void waitUntilIdle() const { bench::waitUntilIdle(m_copy.processId()); }
     /// Everything is counted from here.
     void beginMeasuring()
     {
-        QThread::msleep(1500); // what the start has put off is done
+        waitUntilIdle();
         forgetPeak(m_copy.processId());
         m_before = kibibytes(m_copy.processId(), "VmRSS");
         m_lostBefore = lostBySystem({ownAddress, port});
@@ -215,7 +216,7 @@ public:
         const double seconds = secondsSince(m_begin);
         QJsonObject result = m_heartbeat->result();
         result["seconds_until_handled"] = seconds;
-        QThread::msleep(1000); // what was put off until there is time has come into the logs
+        waitUntilIdle();
         addFigures(result);
         result["memory_before_mib"] = m_before / 1024;
         result["memory_more_mib"] = result["memory_peak_mib"].toDouble() - m_before / 1024;
@@ -229,7 +230,7 @@ public:
         result["receive_buffer"] = granted;
         result["memory_peak_mib"] = kibibytes(m_copy.processId(), "VmHWM") / 1024;
         result["lost_by_system"] = double(lostBySystem({ownAddress, port}) - m_lostBefore);
-        result["windows"] = numberOfWindows();
+        result["windows"] = static_cast<int>(test::Window::numberOfManaged());
     }
     /// Numbers that stand behind this word in the logs of all open windows.
     int shown(const QString &word) const
@@ -254,13 +255,6 @@ public:
     }
 
 private:
-    static int numberOfWindows()
-    {
-        QProcess process;
-        process.start(QStringLiteral("xprop"), {"-root", "-notype", "_NET_CLIENT_LIST"});
-        process.waitForFinished();
-        return static_cast<int>(process.readAll().count("0x"));
-    }
     /// What was copied just now. The program may still have much to do before it copies.
     static QString clipboard()
     {
@@ -390,7 +384,7 @@ QJsonObject answers(bool hasSmallBuffer, int count)
     responder.join();
     EXPECT_TRUE(Talker(guardAddress).isAnswered(60s)); // behind all that has come so far
     QJsonObject result{{"seconds_until_handled", secondsSince(begin)}};
-    QThread::msleep(1500); // what is put off until there is time has come into the log
+    victim.waitUntilIdle();
     victim.addFigures(result);
     result["sent"] = answered;
     result["shown"] = victim.wentOnline();
@@ -446,7 +440,7 @@ QJsonObject strangers(bool hasSmallBuffer)
     victim.beginMeasuring();
     const double seconds = sender.send(parcels);
     EXPECT_TRUE(last.isAnswered(120s));
-    QThread::sleep(3); // windows that are still to open and the pop-up belong to the load
+    victim.waitUntilIdle(); // windows that are still to open and the pop-up belong to the load
     QJsonObject result = victim.endMeasuring();
     result["sent"] = double(parcels.size());
     result["sent_per_second"] = std::round(double(parcels.size()) / seconds);

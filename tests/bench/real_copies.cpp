@@ -4,9 +4,11 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QJsonDocument>
+#include <QThread>
 
 #include <gmock/gmock.h>
 
+#include <chrono>
 #include <cstdio>
 #include <memory>
 
@@ -54,6 +56,42 @@ int openDescriptors(qint64 process)
 {
     return static_cast<int>(
         QDir(fileOf(process, "fd")).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System).size());
+}
+
+namespace
+{
+
+/// What the process has taken of the processor, in clock ticks (hundredths of a second).
+qint64 ticksTaken(qint64 process)
+{
+    QFile file(fileOf(process, "stat"));
+    if (!file.open(QFile::ReadOnly))
+        return -1;
+    // The name, which may hold anything, ends with the last parenthesis; behind it the 12th and 13th field count.
+    const QByteArray line = file.readAll();
+    const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
+    return fields.value(11).toLongLong() + fields.value(12).toLongLong();
+}
+
+} // namespace
+
+void waitUntilIdle(qint64 process)
+{
+    using Clock = std::chrono::steady_clock;
+    constexpr qint64 nearlyNothing = 1;
+    constexpr auto longEnough = std::chrono::milliseconds(500);
+    const Clock::time_point end = Clock::now() + std::chrono::minutes(1);
+    qint64 taken = ticksTaken(process);
+    Clock::time_point since = Clock::now();
+    while (Clock::now() < since + longEnough) {
+        if (Clock::now() > end)
+            return ADD_FAILURE() << "process " << process << " is never idle", void();
+        QThread::msleep(20);
+        if (const qint64 now = ticksTaken(process); now > taken + nearlyNothing) {
+            taken = now;
+            since = Clock::now();
+        }
+    }
 }
 
 int runOnScreen(int argumentCount, char **arguments, const std::function<QJsonObject()> &run)

@@ -10,7 +10,6 @@
 
 #include <QGuiApplication>
 #include <QJsonArray>
-#include <QThread>
 
 #include <array>
 #include <chrono>
@@ -111,6 +110,7 @@ public:
         return found;
     }
 
+    void waitUntilIdle() const { bench::waitUntilIdle(m_copy->processId()); }
     void rememberDescriptors() { m_descriptors = openDescriptors(m_copy->processId()); }
     void sample(Clock::time_point start)
     {
@@ -147,7 +147,7 @@ public:
     {
         for (std::size_t i = 0; i < names.size(); ++i)
             m_copies.push_back(std::make_unique<Copy>(i));
-        QThread::sleep(3); // all announcements are over
+        waitUntilIdle(); // all announcements are over
     }
 
     QJsonObject run(double minutes)
@@ -178,6 +178,11 @@ public:
     }
 
 private:
+    void waitUntilIdle() const
+    {
+        for (const auto &copy : m_copies)
+            copy->waitUntilIdle();
+    }
     void round()
     {
         for (const auto &copy : m_copies) {
@@ -198,7 +203,7 @@ private:
         test::type(text);
         test::press("Return");
         ++count;
-        QThread::msleep(300); // a window that it opens elsewhere takes the focus before the next one is wanted
+        waitUntilIdle(); // a window that it opens elsewhere takes the focus before the next one is wanted
     }
     /// To whoever stands in a row of the list.
     void talk(const Copy &copy)
@@ -249,7 +254,7 @@ private:
         question.activate();
         test::press("alt+y");
         EXPECT_TRUE(hosted.becomes(Window::State::hidden));
-        QThread::sleep(1); // the others know that it is over, and close theirs without a question
+        waitUntilIdle(); // the others know that it is over, and close theirs without a question
         for (const Window &window : joined) {
             window.close();
             EXPECT_TRUE(window.becomes(Window::State::hidden));
@@ -260,7 +265,7 @@ private:
     {
         m_copies[number]->restart();
         ++m_restarts;
-        QThread::sleep(3); // its announcement is over
+        waitUntilIdle(); // its announcement is over
     }
 
     QJsonObject finish(std::size_t number)

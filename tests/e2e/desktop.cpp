@@ -218,6 +218,11 @@ Window Window::waitForUnmanaged(const std::string &caption)
     return found;
 }
 
+std::size_t Window::numberOfManaged()
+{
+    return static_cast<std::size_t>(rootProperty("_NET_CLIENT_LIST").count("0x"));
+}
+
 std::size_t Window::numberOfVisible()
 {
     const Outcome search = run(QStringLiteral("xdotool"), {"search", "--onlyvisible", "--class", "^nimb-chat$"});

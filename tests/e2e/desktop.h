@@ -62,6 +62,8 @@ public:
     /// The same for a window that is no business of the window manager.
     static Window waitForUnmanaged(const std::string &caption);
     static bool exists(const std::string &caption) { return !all(caption).empty(); }
+    /// How many the window manager knows, minimised ones included.
+    static std::size_t numberOfManaged();
     /// How many of the program there are, menus included.
     static std::size_t numberOfVisible();
     /// The one that has the focus; null when there is none.
