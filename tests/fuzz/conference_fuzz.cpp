@@ -4,6 +4,7 @@
 // The input is a sequence of steps: one byte with the time that passes and one with who acts, then for a datagram one
 // byte with the kind (below `freeForm` a conference datagram whose rest is one byte of number, one of length and that
 // many bytes; otherwise the bytes themselves), for the user one byte with the action.
+#include "input.h"
 #include "require.h"
 #include "silent_log.h"
 #include "simulated_network.h"
@@ -66,7 +67,7 @@ std::set<QString> presentPeers(const Snapshot &snapshot)
 class Game
 {
 public:
-    Game(const std::uint8_t *data, std::size_t size) : m_data(data), m_end(data + size)
+    explicit Game(FuzzInput input) : m_input(input)
     {
         ConferenceTable &table = m_engine.engine.conferences();
         table.CreateNewConfWin(true, 0, {});
@@ -80,9 +81,9 @@ public:
 
     void play()
     {
-        for (int step = 0; step < mostSteps && m_data < m_end; ++step) {
-            m_engine.time->advance(std::chrono::milliseconds(next() * 20));
-            const int actor = next() % (peers + 1);
+        for (int step = 0; step < mostSteps && !m_input.atEnd(); ++step) {
+            m_engine.time->advance(std::chrono::milliseconds(m_input.next() * 20));
+            const int actor = m_input.next() % (peers + 1);
             m_engine.socket.sent.clear();
             if (actor == peers)
                 actAsUser();
@@ -96,15 +97,6 @@ public:
 private:
     static constexpr int mostSteps = 200;
 
-    std::uint8_t next() { return m_data < m_end ? *m_data++ : std::uint8_t{0}; }
-    std::string nextBytes(std::size_t count)
-    {
-        const auto size = std::min(count, static_cast<std::size_t>(m_end - m_data));
-        const std::string bytes(reinterpret_cast<const char *>(m_data), size);
-        m_data += size;
-        return bytes;
-    }
-
     std::string nextDatagram()
     {
         static const std::array<std::string, 7> leads{"?CONF INVITE #",
@@ -114,13 +106,13 @@ private:
                                                       "!CONF LEAVE #",
                                                       "!CONF CLOSE #",
                                                       "+"};
-        const std::uint8_t kind = next();
+        const std::uint8_t kind = m_input.next();
         if (kind >= freeForm)
-            return nextBytes(next());
+            return m_input.nextBytes(m_input.next());
         const std::string &lead = leads[kind % leads.size()];
-        const std::string number = std::to_string(next() % 10 - 1);
-        const std::uint8_t rest = next();
-        const std::string tail = ' ' + nextBytes(rest);
+        const std::string number = std::to_string(m_input.next() % 10 - 1);
+        const std::uint8_t rest = m_input.next();
+        const std::string tail = ' ' + m_input.nextBytes(rest);
         if (lead == "+")
             return '+' + addressOf(kind % 8 - 1).toStdString() + " #" + number + tail;
         if (kind % 2 == 0 && lead == "!CONF INVITE #")
@@ -131,7 +123,7 @@ private:
     void actAsUser()
     {
         Messenger &messenger = m_engine.engine;
-        const std::uint8_t action = next();
+        const std::uint8_t action = m_input.next();
         const int slot = action / 16 % 6, peer = action % peers;
         Conference *const conference = messenger.conferences().at(slot);
         switch (action % 11) {
@@ -325,8 +317,7 @@ private:
         require(addresses.size() <= limits::participants + 1, "participants are limited");
     }
 
-    const std::uint8_t *m_data;
-    const std::uint8_t *m_end;
+    FuzzInput m_input;
     Engine m_engine;
 };
 
@@ -334,6 +325,6 @@ private:
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    Game(data, size).play();
+    Game(FuzzInput(data, size)).play();
     return 0;
 }

@@ -5,6 +5,7 @@
 // and more) and one with who acts. For a datagram there follow one byte with its sender, one with its kind, one with
 // the address that it names, one with the length of its text, and that many bytes. For the user there follow one byte
 // with the action and one with whom it concerns.
+#include "input.h"
 #include "require.h"
 #include "whole_engine.h"
 
@@ -91,7 +92,7 @@ struct Surface {
 class Game
 {
 public:
-    Game(const std::uint8_t *data, std::size_t size) : m_data(data), m_end(data + size)
+    explicit Game(FuzzInput input) : m_input(input)
     {
         m_copy = std::make_unique<Copy>();
         for (int n = 0; n < contacts; ++n)
@@ -113,10 +114,10 @@ public:
 
     void play()
     {
-        for (int step = 0; step < mostSteps && m_data < m_end; ++step) {
-            const std::uint8_t span = next();
+        for (int step = 0; step < mostSteps && !m_input.atEnd(); ++step) {
+            const std::uint8_t span = m_input.next();
             m_copy->time->advance(std::chrono::milliseconds(span < 250 ? span * 8 : (span - 249) * 1000));
-            const std::uint8_t actor = next();
+            const std::uint8_t actor = m_input.next();
             m_copy->socket.sent.clear();
             if (actor % 4 == 3)
                 actAsUser();
@@ -130,19 +131,10 @@ public:
 private:
     static constexpr int mostSteps = 150;
 
-    std::uint8_t next() { return m_data < m_end ? *m_data++ : std::uint8_t{0}; }
-    std::string nextBytes(std::size_t count)
-    {
-        const auto size = std::min(count, static_cast<std::size_t>(m_end - m_data));
-        const std::string bytes(reinterpret_cast<const char *>(m_data), size);
-        m_data += size;
-        return bytes;
-    }
-
     std::string nextDatagram()
     {
-        const std::uint8_t kind = next();
-        const std::string address = addressOf(next()).toStdString(), text = nextBytes(next());
+        const std::uint8_t kind = m_input.next();
+        const std::string address = addressOf(m_input.next()).toStdString(), text = m_input.nextBytes(m_input.next());
         const std::string identity = ' ' + address + " PC " + text;
         const std::string number = " #" + std::to_string(kind / 32 - 1), rest = ' ' + text;
         switch (kind % 32) {
@@ -215,7 +207,7 @@ private:
 
     void actAsUser()
     {
-        const std::uint8_t action = next(), whom = next();
+        const std::uint8_t action = m_input.next(), whom = m_input.next();
         const QString ip = addressOf(whom);
         const int slot = 1 + whom % ConferenceTable::lastSlot;
         Messenger &engine = m_copy->engine;
@@ -371,7 +363,7 @@ private:
 
     void arrive()
     {
-        const QString from = addressOf(next());
+        const QString from = addressOf(m_input.next());
         arrive(from, nextDatagram());
     }
 
@@ -510,8 +502,7 @@ private:
         }
     }
 
-    const std::uint8_t *m_data;
-    const std::uint8_t *m_end;
+    FuzzInput m_input;
     std::unique_ptr<Copy> m_copy;
     std::set<QString> m_wanted; ///< whose avatar the user has asked for
 };
@@ -520,6 +511,6 @@ private:
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    Game(data, size).play();
+    Game(FuzzInput(data, size)).play();
     return 0;
 }

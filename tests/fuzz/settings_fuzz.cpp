@@ -2,6 +2,7 @@
 //
 // The input is a sequence of entries: one byte that chooses the key (keyOf), one that says where the value stands
 // (`places`), one with its length, and that many bytes of UTF-8.
+#include "input.h"
 #include "require.h"
 #include "whole_engine.h"
 
@@ -41,25 +42,6 @@ struct Copy : WholeEngine<SimulatedWinsock> {
     }
 };
 
-class Bytes
-{
-public:
-    Bytes(const std::uint8_t *data, std::size_t size) : m_data(data), m_end(data + size) { }
-    bool atEnd() const { return m_data == m_end; }
-    std::uint8_t next() { return atEnd() ? std::uint8_t{0} : *m_data++; }
-    QString nextText()
-    {
-        const auto size = std::min<std::ptrdiff_t>(next(), m_end - m_data);
-        const QString text = QString::fromUtf8(reinterpret_cast<const char *>(m_data), size);
-        m_data += size;
-        return text;
-    }
-
-private:
-    const std::uint8_t *m_data;
-    const std::uint8_t *m_end;
-};
-
 using Name = std::pair<QString, QString>;
 
 /// Every key that there is, then those of contacts: as they are stored, and as they are kept.
@@ -86,12 +68,12 @@ Name keyOf(std::uint8_t choice)
     return {QStringLiteral("Users"), kind + rest};
 }
 
-void fill(MemoryStore &store, Bytes input)
+void fill(MemoryStore &store, FuzzInput input)
 {
     while (!input.atEnd()) {
         const Name name = keyOf(input.next());
         const int place = input.next() % places;
-        const QString text = input.nextText();
+        const QString text = QString::fromStdString(input.nextBytes(input.next()));
         if (place == stored)
             store.saved[name] = text;
         else
@@ -205,7 +187,7 @@ void changeSomething(Copy &copy)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     Copy first;
-    fill(first.settings, Bytes(data, size));
+    fill(first.settings, FuzzInput(data, size));
     const bool somethingKept = !first.settings.kept.empty();
     first.start();
     checkLoaded(first);
