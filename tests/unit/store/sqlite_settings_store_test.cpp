@@ -723,7 +723,7 @@ TEST_P(EveryFault, OfASaveLeavesTheOldStoreWholeAndTheNewValuesPending)
     FaultyFiles files;
     saveGeneration("old");
     int failures = 0;
-    for (int n = 1;; ++n) {
+    for (int n = 1;; n = nextFault(n)) {
         SqliteSettingsStore store(folder);
         ASSERT_EQ(store.problem(), std::nullopt);
         writeGeneration(store, "new");
@@ -755,7 +755,7 @@ TEST_P(EveryFault, OfTheFirstReadingLosesNothing)
     saveGeneration("old");
     const QByteArray before = fileBytes();
     int problems = 0;
-    for (int n = 1;; ++n) {
+    for (int n = 1;; n = nextFault(n)) {
         fail(files, n);
         SqliteSettingsStore store(folder);
         const bool happened = files.happened();
@@ -785,7 +785,7 @@ TEST_P(EveryFault, OfTheGoodCopyLeavesTheOldCopyOrTheNewOneWhole)
     FaultyFiles files;
     const QString copy = folder + "/settings.good.sqlite3";
     int failures = 0;
-    for (int n = 1;; ++n) {
+    for (int n = 1;; n = nextFault(n)) {
         saveGeneration("old");
         ASSERT_EQ(SqliteSettingsStore(folder).renewCopy(), std::nullopt);
         saveGeneration("new");
@@ -810,7 +810,7 @@ TEST_P(EveryFault, OfTakingTheGoodCopyIsToldAndLeavesItWhole)
     FaultyFiles files;
     const QString copy = folder + "/settings.good.sqlite3";
     int failures = 0;
-    for (int n = 1;; ++n) {
+    for (int n = 1;; n = nextFault(n)) {
         QFile::remove(file);
         saveGeneration("old");
         ASSERT_EQ(SqliteSettingsStore(folder).renewCopy(), std::nullopt);
@@ -840,7 +840,7 @@ TEST_P(EveryFault, OfKeepingLeavesWhatWasKeptBeforeWholeAndIsTold)
     FaultyFiles files;
     saveGeneration("old");
     int failures = 0;
-    for (int n = 1;; ++n) {
+    for (int n = 1;; n = nextFault(n)) {
         keepGeneration("first");
         SqliteSettingsStore store(folder);
         ASSERT_EQ(store.problem(), std::nullopt);
@@ -874,7 +874,7 @@ TEST_P(EveryFault, OfTakingOverLosesNothingThatWasKept)
     keepGeneration("kept");
     const QByteArray before = fileBytes();
     int problems = 0;
-    for (int n = 1;; ++n) {
+    for (int n = 1;; n = nextFault(n)) {
         fail(files, n);
         const SqliteSettingsStore store(folder);
         const bool happened = files.happened();
@@ -896,7 +896,7 @@ TEST_P(EveryFault, OfTheSaveAfterwardsLeavesWhatWasKeptWithTheOldStore)
     FaultyFiles files;
     saveGeneration("old");
     int failures = 0;
-    for (int n = 1;; ++n) {
+    for (int n = 1;; n = nextFault(n)) {
         keepGeneration("kept");
         SqliteSettingsStore store(folder);
         writeGeneration(store, "new");
@@ -1298,7 +1298,7 @@ TEST_F(Killed, InMidSaveLeavesTheOldStoreOrTheNewOneWhole)
 {
     int oldOnes = 0;
     int newOnes = 0;
-    for (int n = 1;; ++n) {
+    for (int n = 1;; n = nextFault(n)) {
         saveGeneration("old");
         const bool finished = runToEnd({"save", folder, "new", "saving", QString::number(n)});
         const SqliteSettingsStore store(folder);
@@ -1320,7 +1320,7 @@ TEST_F(Killed, WhileKeepingLeavesWhatWasKeptBeforeOrAllOfTheNew)
 {
     saveGeneration("old");
     int firstOnes = 0;
-    for (int n = 1;; ++n) {
+    for (int n = 1;; n = nextFault(n)) {
         ASSERT_EQ(SqliteSettingsStore(folder).keep(changesOfGeneration("first")), std::nullopt);
         const bool finished = runToEnd({"keep", folder, "second", QString::number(n)});
         const SqliteSettingsStore store(folder);
@@ -1336,11 +1336,35 @@ TEST_F(Killed, WhileKeepingLeavesWhatWasKeptBeforeOrAllOfTheNew)
     EXPECT_GT(firstOnes, 20);
 }
 
+TEST_F(Killed, WhileRenewingTheGoodCopyLeavesTheOldOneOrTheNewOneWhole)
+{
+    const QString copy = folder + "/settings.good.sqlite3";
+    int oldOnes = 0;
+    for (int n = 1;; n = nextFault(n)) {
+        saveGeneration("old");
+        ASSERT_EQ(SqliteSettingsStore(folder).renewCopy(), std::nullopt);
+        saveGeneration("new");
+        const bool finished = runToEnd({"copy", folder, QString::number(n)});
+        const QString kept = generationIn(Database(copy));
+        ASSERT_THAT(kept.toStdString(), testing::AnyOf("old", "new")) << "call " << n;
+        EXPECT_EQ(generationOnDisk(), "new") << "call " << n;
+        // What the killed one has left behind is in nobody's way.
+        EXPECT_EQ(SqliteSettingsStore(folder).renewCopy(), std::nullopt) << "call " << n;
+        EXPECT_EQ(generationIn(Database(copy)), "new") << "call " << n;
+        if (finished) {
+            EXPECT_EQ(kept, "new");
+            break;
+        }
+        oldOnes += kept == "old" ? 1 : 0;
+    }
+    EXPECT_GT(oldOnes, 20);
+}
+
 TEST_F(Killed, WhileTakingOverOrSavingLeavesWhatWasKeptOrHasItSaved)
 {
     for (const char *phase : {"opening", "saving"}) {
         int killed = 0;
-        for (int n = 1;; ++n) {
+        for (int n = 1;; n = nextFault(n)) {
             saveGeneration("old");
             ASSERT_EQ(SqliteSettingsStore(folder).keep(changesOfGeneration("kept")), std::nullopt);
             const bool finished = runToEnd({"save", folder, "new", phase, QString::number(n)});
@@ -1359,7 +1383,7 @@ TEST_F(Killed, WhileTakingOverOrSavingLeavesWhatWasKeptOrHasItSaved)
 TEST_F(Killed, WhileMakingTheFileLeavesAnEmptyStoreThatWorks)
 {
     int killed = 0;
-    for (int n = 1;; ++n) {
+    for (int n = 1;; n = nextFault(n)) {
         QDir(folder).removeRecursively();
         const bool finished = runToEnd({"save", folder, "new", "opening", QString::number(n)});
         if (finished)

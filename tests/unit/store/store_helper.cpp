@@ -46,6 +46,15 @@ int keep(const QString &folder, const QString &generation, int n)
     return store.keep(changesOfGeneration(generation)) ? 2 : 0;
 }
 
+/// Renews the good copy, and is killed at the n-th call to the disk.
+int renewCopy(const QString &folder, int n)
+{
+    FaultyFiles files;
+    SqliteSettingsStore store(folder);
+    files.doAt(n, killMyself);
+    return store.renewCopy() ? 2 : 0;
+}
+
 int run(const QStringList &arguments)
 {
     const QString task = arguments.value(1);
@@ -53,6 +62,8 @@ int run(const QStringList &arguments)
         return save(arguments.value(2), arguments.value(3), arguments.value(4), arguments.value(5).toInt());
     if (task == "keep")
         return keep(arguments.value(2), arguments.value(3), arguments.value(4).toInt());
+    if (task == "copy")
+        return renewCopy(arguments.value(2), arguments.value(3).toInt());
     return 1;
 }
 

@@ -9,11 +9,23 @@
 namespace nimb::test
 {
 
-/// NIMB_STORE_FAULTS=long: so many that the file has a thousand pages, and each of their writes is made to fail.
+/// NIMB_STORE_FAULTS=long: the file has a thousand pages.
+inline bool faultsAreLong()
+{
+    static const bool areLong = qEnvironmentVariable("NIMB_STORE_FAULTS") == QLatin1String("long");
+    return areLong;
+}
+
 inline int contactsOfAGeneration()
 {
-    static const int count = qEnvironmentVariable("NIMB_STORE_FAULTS") == QLatin1String("long") ? 3000 : 60;
-    return count;
+    return faultsAreLong() ? 3000 : 60;
+}
+
+/// Which call to the disk is made to fail after this one, counted from 1: the next one. A store of a thousand pages
+/// makes so many that each of them would take a day: there a twentieth further each time.
+inline int nextFault(int call)
+{
+    return faultsAreLong() ? call + 1 + call / 20 : call + 1;
 }
 
 /// 7500 characters, U+0000 to U+00FF over and over, starting at the given one.
