@@ -6,6 +6,7 @@
 #include "virtual_time.h"
 
 #include <memory>
+#include <string_view>
 #include <utility>
 
 namespace nimb::test
@@ -40,7 +41,7 @@ public:
         engine.contacts().add(contact);
     }
     /// The datagram as if it had come from there, without the network.
-    void receive(Ipv4Address from, const std::string &bytes) { engine.dispatcher().receive(from, bytes); }
+    void receive(Ipv4Address from, std::string_view bytes) { engine.dispatcher().receive(from, bytes); }
 
     std::shared_ptr<VirtualTime> time;
     Common common;
