@@ -78,7 +78,7 @@ qint64 ticksTaken(qint64 process)
 void waitUntilIdle(qint64 process)
 {
     using Clock = std::chrono::steady_clock;
-    constexpr qint64 nearlyNothing = 1;
+    constexpr qint64 nearlyNothing = 5;
     constexpr auto longEnough = std::chrono::milliseconds(500);
     const Clock::time_point end = Clock::now() + std::chrono::minutes(1);
     qint64 taken = ticksTaken(process);

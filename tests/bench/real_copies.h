@@ -14,8 +14,8 @@ double kibibytes(qint64 process, const std::string &field);
 /// From now on the peak in "VmHWM" is a new one.
 void forgetPeak(qint64 process);
 int openDescriptors(qint64 process);
-/// Returns when the process has left the processor alone for half a second, so that nothing is left of what it put off
-/// until there is time. A failure after a minute.
+/// Returns when the process has had nearly nothing to do for half a second (a tenth of a processor: a heartbeat goes
+/// on), so that nothing is left of what it put off until there is time. A failure after a minute.
 void waitUntilIdle(qint64 process);
 
 /// main() of a program that drives windows: makes the application, sends failures to the standard error, runs, and
