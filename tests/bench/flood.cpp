@@ -92,13 +92,14 @@ public:
         }
         return false;
     }
-    /// Asks until there is an answer, for questions may be lost as well.
-    bool isAnswered(std::chrono::seconds limit) const
+    /// Asks until there is an answer, for questions may be lost as well. A stranger's question has to say who asks, for
+    /// what made it known may be lost.
+    bool isAnswered(std::chrono::seconds limit, const std::string &question = "?ONLINE") const
     {
         while (hears({}, 0ms)) { }
         const Clock::time_point end = Clock::now() + limit;
         while (Clock::now() < end) {
-            say("?ONLINE");
+            say(question);
             if (hears("!ONLINE ", 50ms))
                 return true;
         }
@@ -439,7 +440,7 @@ QJsonObject strangers(bool hasSmallBuffer)
     const Sender sender({ownAddress, port});
     victim.beginMeasuring();
     const double seconds = sender.send(parcels);
-    EXPECT_TRUE(last.isAnswered(120s));
+    EXPECT_TRUE(last.isAnswered(120s, "?ONLINE " + addressOf(count - 1) + " PC " + nameOf(count - 1)));
     victim.waitUntilIdle(); // windows that are still to open and the pop-up belong to the load
     QJsonObject result = victim.endMeasuring();
     result["sent"] = double(parcels.size());
