@@ -34,6 +34,10 @@ constexpr int contactsFromStrangers = 10000;
 /// Private windows that peers have opened and that the user has not turned to: two thousand strangers with a message
 /// each must not open two thousand windows. Further messages wait at their contacts' rows.
 constexpr int windowsOpenedUnasked = 50;
+/// Of these, how many open at once. Each takes ten milliseconds, in which nobody else is answered.
+constexpr int windowsAtOnce = 3;
+/// After this one more may open: fifty take two seconds, and there is time for everything else in between.
+constexpr std::chrono::milliseconds windowPause{40};
 /// Messages that wait at the row of one contact.
 constexpr qsizetype waitingMessages = 100;
 /// Characters of all messages that wait.

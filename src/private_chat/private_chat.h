@@ -76,6 +76,8 @@ public:
     /// The user has turned to this window: opened it, typed or clicked in it, closed it, or works in it now.
     bool isAttended() const { return m_attended || !conversationView().isMinimisedOrInactive(); }
     void attend() { m_attended = true; }
+    /// A peer opens it anew.
+    void leaveUnattended() { m_attended = false; }
 
     CloseDecision Form_QueryUnload(UnloadMode mode) override;
 

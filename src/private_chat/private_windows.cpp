@@ -9,7 +9,8 @@ namespace nimb
 {
 
 PrivateWindows::PrivateWindows(const PrivateChat::Services &services, ContactList &contacts, DropCounts &drops)
-    : m_services(services), m_contacts(contacts), m_drops(drops)
+    : m_services(services), m_contacts(contacts), m_drops(drops),
+      m_oneMore(services.timers.repeating(limits::windowPause, [this] { openNextInTurn(); }))
 {
 }
 
@@ -23,28 +24,81 @@ PrivateChat *PrivateWindows::at(int window)
 void PrivateWindows::privateMessage(Ipv4Address ip, const QString &text)
 {
     const Contact &contact = *m_contacts.find(ip);
-    QString body = remoteBody(text);
-    if (!hasWindow(contact) && !mayOpenUnasked())
-        return wait(contact, body);
+    const QString body = remoteBody(text);
+    if (!hasOpenWindow(contact) && !opensNow(contact, body))
+        wait(contact, body);
+    else
+        receive(contact, body);
+}
+
+void PrivateWindows::receive(const Contact &contact, QString body)
+{
     PrivateChat &chat = windowOf(contact, OpenedBy::peer);
-    if (chat.view().isHidden())
+    if (chat.view().isHidden()) {
+        chat.leaveUnattended();
         chat.view().showWindow(m_services.conversation.common.options.privateWindowsOnTop ? ShowMode::onTop
                                                                                           : ShowMode::minimised);
+    }
     showWaiting(contact, chat);
     chat.MessageReceived(contact.nickname, body);
 }
 
+bool PrivateWindows::hasOpenWindow(const Contact &contact)
+{
+    PrivateChat *const chat = at(contact.privateWindow > 0 ? contact.privateWindow : numberOf(contact.ip));
+    return chat && !chat->view().isHidden();
+}
+
+bool PrivateWindows::opensNow(const Contact &contact, const QString &body)
+{
+    // Every message of those who get a window is shown: who writes more than may wait comes first.
+    if (std::ranges::find(m_inTurn, contact.ip) != m_inTurn.end())
+        return !hasRoomToWait(contact, body);
+    if (!mayOpenUnasked())
+        return false;
+    if (!m_oneMore->isActive())
+        m_oneMore->start();
+    if (m_atOnce > 0) {
+        --m_atOnce;
+        return true;
+    }
+    m_inTurn.push_back(contact.ip);
+    return !hasRoomToWait(contact, body);
+}
+
+void PrivateWindows::openNextInTurn()
+{
+    while (!m_inTurn.empty()) {
+        const ContactAddress ip = std::move(m_inTurn.front());
+        m_inTurn.pop_front();
+        const QStringList messages = m_waiting.value(ip);
+        const Contact *const contact = m_contacts.find(ip);
+        if (!contact || messages.isEmpty())
+            continue; // removed or opened meanwhile
+        forgetWaiting(ip);
+        for (const QString &body : messages)
+            receive(*contact, body);
+        return;
+    }
+    if (++m_atOnce == limits::windowsAtOnce)
+        m_oneMore->stop();
+}
+
 bool PrivateWindows::mayOpenUnasked() const
 {
-    return std::ranges::count_if(m_table, [](const auto &chat) { return chat && !chat->isAttended(); })
-        < limits::windowsOpenedUnasked;
+    const auto unasked = std::ranges::count_if(m_table, [](const auto &chat) { return chat && !chat->isAttended(); });
+    return unasked + static_cast<std::ptrdiff_t>(m_inTurn.size()) < limits::windowsOpenedUnasked;
+}
+
+bool PrivateWindows::hasRoomToWait(const Contact &contact, const QString &body) const
+{
+    return contact.waitingMessages < limits::waitingMessages
+        && m_waitingCharacters + body.size() <= limits::waitingCharacters;
 }
 
 void PrivateWindows::wait(const Contact &contact, const QString &body)
 {
-    const bool tooMany = contact.waitingMessages >= limits::waitingMessages
-        || m_waitingCharacters + body.size() > limits::waitingCharacters;
-    if (tooMany)
+    if (!hasRoomToWait(contact, body))
         return m_drops.count(Drop::tooManyWaiting);
     m_waiting[contact.ip].append(body);
     m_waitingCharacters += body.size();
@@ -134,6 +188,7 @@ void PrivateWindows::unload(int window)
 
 void PrivateWindows::unloadAll()
 {
+    m_oneMore->stop();
     for (int window = 1; window <= static_cast<int>(m_table.size()); ++window) {
         if (at(window))
             unload(window);

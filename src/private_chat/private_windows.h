@@ -1,6 +1,8 @@
 // The table of private windows, and which contact has which.
 #pragma once
 
+#include "base/limits.h"
+#include "base/timers.h"
 #include "base/window_openers.h"
 #include "contacts/contact_list.h"
 #include "contacts/presence_receiver.h"
@@ -11,6 +13,8 @@
 #include <QHash>
 #include <QStringList>
 
+#include <deque>
+#include <memory>
 #include <vector>
 
 namespace nimb
@@ -25,9 +29,10 @@ class PrivateWindows : public PrivateMessageHandler, public PrivateLogs, public 
 public:
     PrivateWindows(const PrivateChat::Services &services, ContactList &contacts, DropCounts &drops);
 
-    /// A message always reaches the user: a missing window is made, a hidden one shown, neither takes the focus. While
-    /// limits::windowsOpenedUnasked stand that the user has not turned to, a message without a window waits at the row
-    /// of its contact until the user opens that.
+    /// A message always reaches the user: a missing window is made, a hidden one shown, neither takes the focus. When
+    /// several contacts without one write at the same moment, limits::windowsAtOnce open at once and the others in
+    /// turn; messages wait at the row of the contact meanwhile. While limits::windowsOpenedUnasked stand that the user
+    /// has not turned to, they wait there until the user opens that.
     void privateMessage(Ipv4Address ip, const QString &text) override;
     void openPrivate(const ContactAddress &ip) override;
     /// A hidden window of a removed contact could never be seen again and is unloaded.
@@ -44,8 +49,14 @@ private:
     /// The contact's window; made, hidden and prepared when there is none. The contact must exist.
     PrivateChat &windowOf(const Contact &contact, OpenedBy opener);
     PrivateChat &make(const Contact &contact, OpenedBy opener);
-    bool hasWindow(const Contact &contact) { return at(contact.privateWindow) || numberOf(contact.ip) > 0; }
+    /// Whether a window that is not hidden talks to the contact.
+    bool hasOpenWindow(const Contact &contact);
     bool mayOpenUnasked() const;
+    bool hasRoomToWait(const Contact &contact, const QString &body) const;
+    /// Whether the window of this contact, hidden or not yet made, opens for this message; otherwise the message waits.
+    bool opensNow(const Contact &contact, const QString &body);
+    void openNextInTurn();
+    void receive(const Contact &contact, QString body);
     void wait(const Contact &contact, const QString &body);
     /// Puts what has waited into the window that there is now.
     void showWaiting(const Contact &contact, PrivateChat &chat);
@@ -59,6 +70,9 @@ private:
     DropCounts &m_drops;
     QHash<ContactAddress, QStringList> m_waiting;
     qsizetype m_waitingCharacters = 0;
+    int m_atOnce = limits::windowsAtOnce; ///< windows that may still open at once
+    std::deque<ContactAddress> m_inTurn;  ///< whose windows are to open next
+    std::unique_ptr<Timer> m_oneMore;
     std::vector<std::unique_ptr<PrivateChat>> m_table;
 };
 

@@ -301,6 +301,7 @@ TEST_F(FrmMain, AMessageThatWaitsAtARowIsCountedThereAndOpensOnAClick)
                                        .state = {}});
         windows.arrive(ip.toLatin1().constData(), "-hello");
     }
+    windows.time.advance(limits::windowsOpenedUnasked * limits::windowPause); // they open in turn
     const QImage none = picture();
     windows.arrive("10.0.0.3", "-Are you there?");
     EXPECT_EQ(RealWindows::privateWindows().size(), std::size_t(limits::windowsOpenedUnasked));

@@ -460,13 +460,11 @@ private:
         Messenger &engine = m_copy->engine;
         require(engine.contacts().rowCount() <= limits::contactsFromStrangers, "contacts are limited");
         require(engine.invitations().list().rowCount() <= limits::invitations, "invitations are limited");
-        int waiting = 0;
         for (int row = 0; row < engine.contacts().rowCount(); ++row) {
             const Contact &contact = engine.contacts().at(row);
             require(m_copy->mayBeAPeer(contact.ip.ipv4()), "no contact has a forbidden address");
             require(contact.waitingMessages <= limits::waitingMessages, "waiting messages are limited");
             require(contact.waitingMessages == 0 || !windowOf(contact.ip.text()), "nothing waits beside its window");
-            waiting += contact.waitingMessages;
             checkNames(contact);
             require(contact.state.size() <= 2 * limits::nameLength + 3, "a state has its limit");
         }
@@ -476,9 +474,24 @@ private:
             unasked += chat && !chat->isAttended();
         }
         require(unasked <= limits::windowsOpenedUnasked, "windows that peers open are limited");
-        require(waiting == 0 || m_copy->privateForms.views.size() >= std::size_t{limits::windowsOpenedUnasked},
-                "messages wait only while there are too many windows");
+        if (isAnyoneWaiting() && !areManyWindows())
+            m_copy->time->advance(limits::windowsOpenedUnasked * limits::windowPause);
+        require(!isAnyoneWaiting() || areManyWindows(), "messages wait for their turn or while there are many windows");
         checkConferences();
+    }
+
+    bool areManyWindows() const
+    {
+        return m_copy->privateForms.views.size() >= std::size_t{limits::windowsOpenedUnasked};
+    }
+    bool isAnyoneWaiting() const
+    {
+        const ContactList &list = m_copy->engine.contacts();
+        for (int row = 0; row < list.rowCount(); ++row) {
+            if (list.at(row).waitingMessages > 0)
+                return true;
+        }
+        return false;
     }
 
     static void checkNames(const Contact &contact)

@@ -9,20 +9,21 @@ using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+/// The user closes the window by its close box.
+void closeBox(RecorderPrivateView &window)
+{
+    if (window.chat.Form_QueryUnload(UnloadMode::closeBox) == CloseDecision::unload)
+        window.chat.closed();
+    else
+        window.hideWindow();
+}
+
 class PrivateWindowsTest : public testing::Test
 {
 protected:
     PrivateWindowsTest() { copy.settleStart({"10.0.0.2", "10.0.0.3"}); }
 
-    /// The user closes the window by its close box.
-    void close(std::size_t number)
-    {
-        PrivateChat &chat = copy.window(number).chat;
-        if (chat.Form_QueryUnload(UnloadMode::closeBox) == CloseDecision::unload)
-            chat.closed();
-        else
-            copy.window(number).hideWindow();
-    }
+    void close(std::size_t number) { closeBox(copy.window(number)); }
     void open(const char *ip) { copy.engine.contactCommands().mnuPrivateChat(QLatin1String(ip)); }
     std::size_t made() const { return copy.privateForms.views.size(); }
 
@@ -193,12 +194,13 @@ protected:
         copy.settleStart();
         for (int i = 1; i <= 50; ++i)
             arrive(i, "-hello");
+        copy.advance(std::chrono::seconds(10));
         copy.sent();
     }
-    static CopySetup sixty()
+    static CopySetup seventy()
     {
         CopySetup setup;
-        for (int i = 1; i <= 60; ++i)
+        for (int i = 1; i <= 70; ++i)
             setup.contacts.push_back({QStringLiteral("10.0.1.%1").arg(i), QStringLiteral("N%1").arg(i)});
         return setup;
     }
@@ -210,7 +212,7 @@ protected:
     void click(int contact) { copy.engine.contactCommands().openWaiting(QStringLiteral("10.0.1.%1").arg(contact)); }
     std::size_t made() const { return copy.privateForms.views.size(); }
 
-    Copy copy{sixty()};
+    Copy copy{seventy()};
 };
 
 TEST_F(ManyPrivateWindows, AFurtherMessageWaitsAtTheRowAndOpensOnAClick)
@@ -238,6 +240,94 @@ TEST_F(ManyPrivateWindows, AFurtherMessageWaitsAtTheRowAndOpensOnAClick)
     EXPECT_EQ(copy.window(51).log.lastLine(), "N51> three") << "it has its window now";
 }
 
+class CrowdOfWriters : public ManyPrivateWindows
+{
+protected:
+    static constexpr std::chrono::milliseconds pause{40};
+    /// The user has turned to all windows, so that there is room for ten more; the first three open at once.
+    CrowdOfWriters()
+    {
+        for (int i = 1; i <= 50; ++i)
+            copy.window(i).chat.intext_Change(QStringLiteral("h"));
+        copy.sent();
+        for (int i = 51; i <= 60; ++i)
+            arrive(i, "-hello");
+    }
+};
+
+TEST_F(CrowdOfWriters, OpensThreeWindowsAtOnceAndTheOthersInTurn)
+{
+    EXPECT_EQ(made(), 53u);
+    EXPECT_EQ(waiting(53), 0);
+    EXPECT_EQ(waiting(54), 1);
+    copy.advance(pause - 1ms);
+    EXPECT_EQ(made(), 53u);
+    copy.advance(1ms);
+    ASSERT_EQ(made(), 54u);
+    EXPECT_EQ(waiting(54), 0);
+    EXPECT_EQ(copy.window(54).log.lastLine(), "N54> hello");
+    EXPECT_THAT(copy.window(54).shows, ElementsAre(ShowMode::minimised));
+    EXPECT_EQ(waiting(55), 1);
+    copy.advance(6 * pause);
+    EXPECT_EQ(made(), 60u);
+}
+
+TEST_F(CrowdOfWriters, WhatIsSaidMeanwhileIsShownInItsOrder)
+{
+    arrive(55, "-are you there?");
+    EXPECT_EQ(waiting(55), 2);
+    copy.advance(2 * pause);
+    const std::vector<std::string> lines = copy.window(55).log.lines();
+    ASSERT_EQ(lines.size(), 3u);
+    EXPECT_EQ(lines[1], "N55> hello");
+    EXPECT_EQ(lines[2], "N55> are you there?");
+}
+
+TEST_F(CrowdOfWriters, WhoWritesMoreThanMayWaitComesFirstAndLosesNothing)
+{
+    for (int i = 0; i < 150; ++i)
+        arrive(60, "-text " + std::to_string(i));
+    ASSERT_EQ(made(), 54u);
+    EXPECT_EQ(copy.window(54).log.lines().size(), 152u) << "the opening line and all that was said";
+    EXPECT_EQ(copy.drops.of(Drop::tooManyWaiting), 0u);
+    copy.advance(20 * pause);
+    EXPECT_EQ(made(), 60u);
+}
+
+TEST_F(CrowdOfWriters, IsAnsweredAutomaticallyWhenItsWindowsOpen)
+{
+    copy.common.ownPresence.base = BaseState::busy;
+    copy.common.autoReply.onBusy = true;
+    copy.common.autoReply.busyText = QStringLiteral("later");
+    copy.sent();
+    copy.advance(pause);
+    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.1.54", "?AVATARHEAD"}, To{"10.0.1.54", "-[AutoReply] later"}));
+}
+
+TEST_F(CrowdOfWriters, TheUserNeedNotWaitForTheTurn)
+{
+    click(60);
+    ASSERT_EQ(made(), 54u);
+    EXPECT_EQ(copy.window(54).log.lastLine(), "N60> hello");
+    copy.advance(20 * pause);
+    EXPECT_EQ(made(), 60u) << "and it opens once";
+}
+
+TEST_F(CrowdOfWriters, WhoIsRemovedMeanwhileOpensNothing)
+{
+    copy.engine.contactCommands().mnuRemoveUser(QStringLiteral("10.0.1.54"));
+    copy.advance(20 * pause);
+    EXPECT_EQ(made(), 59u);
+}
+
+TEST_F(CrowdOfWriters, ThreeMayOpenAtOnceAgainAfterAWhile)
+{
+    copy.advance(20 * pause);
+    for (int i = 61; i <= 64; ++i)
+        arrive(i, "-hello");
+    EXPECT_EQ(made(), 63u);
+}
+
 TEST_F(ManyPrivateWindows, WhoHasAWindowWritesOn)
 {
     arrive(50, "-again");
@@ -261,6 +351,30 @@ TEST_F(ManyPrivateWindows, AWindowThatTheUserTurnsToMakesRoomForTheNext)
     copy.window(8).inBackground = false; // it is the one in which the user is
     arrive(52, "-two");
     EXPECT_EQ(made(), 52u);
+}
+
+TEST_F(ManyPrivateWindows, ClosingThemMakesRoomForFiftyAndNotForMore)
+{
+    for (int i = 1; i <= 50; ++i)
+        closeBox(copy.window(i));
+    for (int i = 1; i <= 70; ++i)
+        arrive(i, "-again");
+    copy.advance(std::chrono::seconds(10));
+    int shown = 0;
+    for (std::size_t i = 1; i <= made(); ++i)
+        shown += copy.window(i).isHidden() ? 0 : 1;
+    EXPECT_EQ(shown, 50);
+    for (int i = 51; i <= 70; ++i)
+        EXPECT_EQ(waiting(i), 1) << i;
+    closeBox(copy.window(3));
+    closeBox(copy.window(4));
+    arrive(4, "-once more");
+    arrive(3, "-and I wait");
+    copy.advance(std::chrono::seconds(10));
+    EXPECT_EQ(waiting(3), 0);
+    EXPECT_EQ(waiting(4), 0);
+    arrive(51, "-and I still do");
+    EXPECT_EQ(waiting(51), 2);
 }
 
 TEST_F(ManyPrivateWindows, WaitingMessagesAreBoundedAndAnsweredByNobody)
