@@ -79,6 +79,16 @@ void Announcement::runUnlessInvisible()
         run();
 }
 
+void Announcement::stopAsking()
+{
+    if (m_asked == m_toAsk.size())
+        return;
+    m_toAsk.resize(m_asked);
+    m_nextBatch->stop();
+    m_look->stop();
+    m_timer1->start();
+}
+
 void Announcement::askNextBatch()
 {
     m_look->stop();

@@ -48,6 +48,8 @@ public:
     void run();
     /// Where the user has not asked for it.
     void runUnlessInvisible();
+    /// Asks nobody further; what has been asked may still be answered.
+    void stopAsking();
 
 private:
     struct Question {

@@ -102,6 +102,7 @@ void OwnState::goInvisible()
     m_common.ownPresence = {BaseState::invisible, {}};
     m_view.setStatusPanel(tr("Status: %1").arg(stateWord(BaseState::invisible)));
     tellPresentContacts(&PresenceSender::farewell);
+    m_announcement.stopAsking();
     m_view.setRescanEnabled(true);
 }
 

@@ -155,6 +155,21 @@ TEST_F(LongAnnouncement, TurnsAContactYellowOnlyWithItsOwnQuestion)
     EXPECT_LT(unknown, 1000);
 }
 
+TEST_F(LongAnnouncement, EndsWhenItsUserBecomesInvisible)
+{
+    constexpr int invisible = 4; // counted from 1
+    copy.advance(0ms);
+    EXPECT_EQ(questions(), 512u);
+    copy.engine.ownState().choose(invisible);
+    copy.sent();
+    copy.advance(999ms);
+    EXPECT_TRUE(copy.common.announcing);
+    copy.advance(1ms);
+    EXPECT_FALSE(copy.common.announcing);
+    copy.advance(10000ms);
+    EXPECT_THAT(copy.sent(), testing::IsEmpty());
+}
+
 TEST_F(LongAnnouncement, SkipsContactsRemovedMeanwhileAndWaitsAfterTheLastQuestion)
 {
     copy.engine.contacts().remove(QStringLiteral("10.0.5.200"));
