@@ -84,15 +84,28 @@ bool ConferenceTable::hasWindowOf(Ipv4Address host, int number) const
     return std::ranges::any_of(m_slots, [&](const auto &conference) { return isOf(conference.get(), host, number); });
 }
 
+void ConferenceTable::takeLeave(Conference &conference)
+{
+    // A window whose conference is over must not take leave for one that was joined again.
+    const Conference::Identity &identity = conference.identity();
+    const bool joinedAgain = conference.isOver() && joined(identity.ConfServerIP, identity.ConfNum);
+    conference.Form_Unload(!joinedAgain);
+}
+
+void ConferenceTable::takeLeave()
+{
+    for (const std::unique_ptr<Conference> &conference : m_slots) {
+        if (conference)
+            takeLeave(*conference);
+    }
+}
+
 void ConferenceTable::unload(int slot)
 {
     const std::unique_ptr<Conference> conference = std::move(windowIn(slot));
     if (!conference)
         return;
-    // A window whose conference is over must not take leave for one that was joined again.
-    const Conference::Identity &identity = conference->identity();
-    const bool joinedAgain = conference->isOver() && joined(identity.ConfServerIP, identity.ConfNum);
-    conference->Form_Unload(!joinedAgain);
+    takeLeave(*conference);
     m_menu.setInvite2ConfVisible(slot, false);
 }
 

@@ -46,11 +46,14 @@ public:
     void forgetGuestship(Ipv4Address host, int number) { m_guestships.erase({host, number}); }
 
     void unloadAll();
+    /// What unloading says to hosts and guests; the windows stay as they are.
+    void takeLeave();
 
 private:
     /// Whether it is joined, and which this host numbers so.
     static bool isOf(const Conference *conference, Ipv4Address host, int number);
     std::unique_ptr<Conference> &windowIn(int slot) { return *std::next(m_slots.begin(), slot); }
+    void takeLeave(Conference &conference);
     void unload(int slot);
     void contactChanged(const Contact &contact);
 

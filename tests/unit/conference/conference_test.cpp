@@ -107,6 +107,15 @@ TEST_F(ConferenceTest, AJoinedOneShowsItsSlotAndSendsItsHostsNumber)
     EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "!CONF LEAVE #3")));
 }
 
+TEST_F(ConferenceTest, LeaveIsTakenOfAllWhenTheScreenHasGone)
+{
+    host({"10.0.0.2"});
+    join(3);
+    copy.sent();
+    copy.engine.conferences().takeLeave();
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "!CONF CLOSE #1"), To("10.0.0.2", "!CONF LEAVE #3")));
+}
+
 // --- inviting
 
 TEST_F(ConferenceTest, AnInvitedContactIsBlueUntilItAnswers)
