@@ -14,12 +14,13 @@ class GoodCopy
 {
 public:
     virtual ~GoodCopy() = default;
-    /// When the copy was made that could take the store's place. Nothing where there is none, where the store is well,
-    /// or after somebody has decided.
+    /// When the copy was made that could take the store's place. Nothing where there is none, where the store is well
+    /// and was so at all starts before, or after somebody has decided.
     virtual std::optional<QDateTime> offeredCopy() const = 0;
     /// Puts the copy in the store's place; what stood there is kept beside it under another name. Empty on success,
     /// otherwise one sentence for the user, and the store is as it was before.
     [[nodiscard]] virtual std::optional<QString> takeCopy() = 0;
+    /// It is kept under another name.
     virtual void declineCopy() = 0;
     /// Replaces the copy by what is stored now, once that could be read back. Empty on success; otherwise one sentence
     /// for the user, and the copy is as it was before.

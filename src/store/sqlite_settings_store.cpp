@@ -283,7 +283,11 @@ SqliteSettingsStore::SqliteSettingsStore(const QString &folder)
     open();
     m_valuesSeen = m_database != nullptr;
     const bool isEmpty = m_valuesSeen && m_values.isEmpty() && m_recovered.isEmpty();
-    m_copyOffered = (m_damaged || isEmpty || !m_damagedSections.isEmpty()) && QFileInfo(goodCopy()).size() > 0;
+    m_isLost = m_damaged || isEmpty || !m_damagedSections.isEmpty();
+    m_copyOffered = (m_isLost || QFile::exists(offerMark())) && QFileInfo(goodCopy()).size() > 0;
+    // What is stored next hides the loss from the next start, and with it that nobody has decided yet.
+    if (m_copyOffered)
+        QFile(offerMark()).open(QFile::WriteOnly);
 }
 
 SqliteSettingsStore::~SqliteSettingsStore() = default;
@@ -578,8 +582,18 @@ std::optional<QDateTime> SqliteSettingsStore::offeredCopy() const
     return m_copyOffered ? std::optional(QFileInfo(goodCopy()).lastModified()) : std::nullopt;
 }
 
+void SqliteSettingsStore::declineCopy()
+{
+    m_copyOffered = false;
+    QFile::remove(offerMark());
+    // The next good copy would replace it, and who declined may find out later what he has lost.
+    (void)renameForGood(goodCopy(), m_folder + QStringLiteral("/settings.declined.sqlite3"));
+}
+
 std::optional<QString> SqliteSettingsStore::damage() const
 {
+    if (m_copyOffered && !m_isLost)
+        return tr("The settings were damaged or empty when NIMB-Chat started before.");
     if (m_damagedSections.isEmpty())
         return std::nullopt;
     return tr("Some of the settings in %1 are damaged (%2), so they may differ from what was saved.")
@@ -594,7 +608,7 @@ std::optional<QString> SqliteSettingsStore::takeCopy()
             copied.values.isEmpty() || !copied.damagedSections.isEmpty())
             throw damaged();
         m_database.reset();
-        if (m_damaged || !m_damagedSections.isEmpty()) // what is empty is not worth keeping
+        if (m_damaged || !m_values.isEmpty()) // what is empty is not worth keeping
             putAside();
         if (const std::optional<QString> reason = renameForGood(unfinishedCopy(), m_file))
             throw Failure{*reason};
@@ -605,6 +619,7 @@ std::optional<QString> SqliteSettingsStore::takeCopy()
             .arg(QDir::toNativeSeparators(goodCopy()), failure.reason);
     }
     m_copyOffered = false;
+    QFile::remove(offerMark());
     m_damaged = false;
     open();
     m_valuesSeen = m_database != nullptr;

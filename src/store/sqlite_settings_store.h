@@ -46,7 +46,8 @@ public:
     /// The copy is `settings.good.sqlite3` in the same folder.
     std::optional<QDateTime> offeredCopy() const override;
     [[nodiscard]] std::optional<QString> takeCopy() override;
-    void declineCopy() override { m_copyOffered = false; }
+    /// It stays as `settings.declined.sqlite3`.
+    void declineCopy() override;
     [[nodiscard]] std::optional<QString> renewCopy() override;
     std::optional<QString> damage() const override;
 
@@ -76,6 +77,8 @@ private:
     static void copyDatabase(sqlite3 *from, const QString &to);
     static bool holds(const Values &stored, const Values &saved);
     QString goodCopy() const { return m_folder + QStringLiteral("/settings.good.sqlite3"); }
+    /// Stands there from a start that found the store lost until somebody decides about the copy.
+    QString offerMark() const { return m_folder + QStringLiteral("/settings.offer"); }
     QString unfinishedCopy() const { return m_folder + QStringLiteral("/settings.new.sqlite3"); }
     void putAside() const;
     void checkWritable() const;
@@ -97,6 +100,7 @@ private:
     bool m_droppingKept = false;
     QStringList m_damagedSections;
     bool m_damaged = false;     ///< the file could not be read because of what it holds
+    bool m_isLost = false;      ///< damaged or empty when it was opened
     bool m_copyOffered = false; ///< and nobody has decided
     Trouble m_trouble = Trouble::none;
     QString m_reason;          ///< of the trouble, part of a sentence

@@ -673,7 +673,7 @@ TEST_F(GoodCopyTest, TheJournalOfADamagedStoreDoesNotReachTheCopyInItsPlace)
     EXPECT_EQ(QDir(folder).entryList({"settings.damaged-*.sqlite3-journal"}).size(), 1);
 }
 
-TEST_F(GoodCopyTest, ThatWasDeclinedIsNotOfferedAgain)
+TEST_F(GoodCopyTest, ThatWasDeclinedIsNotOfferedAgainAndStaysUnderAnotherName)
 {
     saveWithCopy("old");
     putFile("this is no database");
@@ -681,6 +681,29 @@ TEST_F(GoodCopyTest, ThatWasDeclinedIsNotOfferedAgain)
     store.declineCopy();
     EXPECT_EQ(store.offeredCopy(), std::nullopt);
     EXPECT_EQ(fileBytes(), "this is no database");
+    EXPECT_EQ(SqliteSettingsStore(folder).offeredCopy(), std::nullopt);
+    EXPECT_EQ(files(), (QStringList{"settings.declined.sqlite3", "settings.sqlite3"}));
+    EXPECT_EQ(generationIn(Database(folder + "/settings.declined.sqlite3")), "old");
+}
+
+TEST_F(GoodCopyTest, IsOfferedUntilSomebodyDecidesWhateverIsStoredMeanwhile)
+{
+    saveWithCopy("old");
+    QFile::remove(file);
+    for (const char *generation : {"default", "other"}) {
+        SqliteSettingsStore store(folder);
+        ASSERT_NE(store.offeredCopy(), std::nullopt) << generation;
+        writeGeneration(store, generation);
+        ASSERT_EQ(store.save(), std::nullopt);
+    }
+    SqliteSettingsStore store(folder);
+    EXPECT_EQ(store.problem(), std::nullopt);
+    EXPECT_EQ(store.damage(), "The settings were damaged or empty when NIMB-Chat started before.");
+    EXPECT_EQ(store.takeCopy(), std::nullopt);
+    EXPECT_EQ(generationOnDisk(), "old");
+    EXPECT_EQ(store.damage(), std::nullopt);
+    EXPECT_EQ(QDir(folder).entryList({"settings.damaged-*.sqlite3"}).size(), 1) << "what was stored meanwhile";
+    EXPECT_EQ(SqliteSettingsStore(folder).offeredCopy(), std::nullopt);
 }
 
 TEST_F(GoodCopyTest, ThatIsDamagedItselfIsNotTakenAndNothingChanges)
