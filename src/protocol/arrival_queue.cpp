@@ -1,6 +1,5 @@
 #include "protocol/arrival_queue.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace nimb
@@ -17,12 +16,9 @@ void ArrivalQueue::push(Ipv4Address source, std::string_view bytes)
 {
     const auto sender = turnOf(source);
     sender->waiting.emplace_back(bytes);
-    sender->bytes += cost(sender->waiting.back());
-    m_bytes += cost(sender->waiting.back());
-    if (m_loudest != m_turns.end() && sender->bytes > m_loudest->bytes)
-        m_loudest = sender;
+    nowHas(sender, sender->bytes + cost(sender->waiting.back()));
     while (m_bytes > m_capacity)
-        dropNewestOf(loudest());
+        dropNewestOf(m_loud.empty() ? sender : m_byAddress.at(m_loud.rbegin()->second));
 }
 
 std::vector<Arrival> ArrivalQueue::take(std::size_t most)
@@ -30,17 +26,11 @@ std::vector<Arrival> ArrivalQueue::take(std::size_t most)
     std::vector<Arrival> taken;
     while (taken.size() < most && !isEmpty()) {
         const auto sender = m_turns.begin();
-        if (sender == m_loudest)
-            m_loudest = m_turns.end(); // another may have more now
         const std::size_t size = cost(sender->waiting.front());
         taken.push_back({sender->address, std::move(sender->waiting.front())});
         sender->waiting.pop_front();
-        sender->bytes -= size;
-        m_bytes -= size;
-        if (sender->waiting.empty())
-            forget(sender);
-        else
-            m_turns.splice(m_turns.end(), m_turns, sender);
+        m_turns.splice(m_turns.end(), m_turns, sender);
+        nowHas(sender, sender->bytes - size);
     }
     return taken;
 }
@@ -52,21 +42,13 @@ ArrivalQueue::Losses ArrivalQueue::takeLosses()
 
 ArrivalQueue::Turns::iterator ArrivalQueue::turnOf(Ipv4Address source)
 {
-    const auto known = m_byAddress.find(source.number());
+    const auto known = m_byAddress.find(source);
     if (known != m_byAddress.end())
         return known->second;
     const auto sender = m_turns.insert(m_turns.end(), Sender{.address = source, .waiting = {}});
-    m_byAddress.emplace(source.number(), sender);
+    m_byAddress.emplace(source, sender);
     m_bytes += overhead;
     return sender;
-}
-
-ArrivalQueue::Turns::iterator ArrivalQueue::loudest()
-{
-    if (m_loudest == m_turns.end())
-        m_loudest = std::max_element(m_turns.begin(), m_turns.end(),
-                                     [](const Sender &one, const Sender &other) { return one.bytes < other.bytes; });
-    return m_loudest;
 }
 
 void ArrivalQueue::dropNewestOf(Turns::iterator sender)
@@ -75,18 +57,25 @@ void ArrivalQueue::dropNewestOf(Turns::iterator sender)
     ++m_losses[told ? sender->address : Ipv4Address()];
     const std::size_t size = cost(sender->waiting.back());
     sender->waiting.pop_back();
-    sender->bytes -= size;
-    m_bytes -= size;
+    nowHas(sender, sender->bytes - size);
+}
+
+/// After a datagram of that sender came or went.
+void ArrivalQueue::nowHas(Turns::iterator sender, std::size_t bytes)
+{
+    m_loud.erase({sender->bytes, sender->address});
+    m_bytes = m_bytes - sender->bytes + bytes;
+    sender->bytes = bytes;
     if (sender->waiting.empty())
         forget(sender);
+    else if (sender->waiting.size() > 1)
+        m_loud.emplace(bytes, sender->address);
 }
 
 void ArrivalQueue::forget(Turns::iterator sender)
 {
-    if (sender == m_loudest)
-        m_loudest = m_turns.end();
     m_bytes -= overhead;
-    m_byAddress.erase(sender->address.number());
+    m_byAddress.erase(sender->address);
     m_turns.erase(sender);
 }
 

@@ -7,9 +7,10 @@
 #include <cstdint>
 #include <list>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace nimb
@@ -21,8 +22,10 @@ struct Arrival {
 };
 
 /// Datagrams in the order in which the engine gets them: in turn by sender, so that one who sends without pause keeps
-/// nobody else waiting, and those of one sender as they came. What all of them take has a bound; beyond it the sender
-/// with the most waiting loses the newest. Belongs to one thread at a time.
+/// nobody else waiting, and those of one sender as they came. What all of them take has a bound; beyond it whoever has
+/// the most bytes of those with two datagrams or more loses the newest, and when nobody has two, the one that arrives
+/// is lost: however many send, the only datagram of a sender stays. No step takes longer than the logarithm of the
+/// number of senders, whom others can forge. Belongs to one thread at a time.
 class ArrivalQueue
 {
 public:
@@ -54,15 +57,15 @@ private:
 
     static std::size_t cost(const std::string &datagram) { return datagram.size() + overhead; }
     Turns::iterator turnOf(Ipv4Address source);
-    Turns::iterator loudest();
     void dropNewestOf(Turns::iterator sender);
+    void nowHas(Turns::iterator sender, std::size_t bytes);
     void forget(Turns::iterator sender);
 
     std::size_t m_capacity;
     std::size_t m_bytes = 0;
-    Turns m_turns; ///< each with something waiting, the next one first
-    std::unordered_map<std::uint32_t, Turns::iterator> m_byAddress;
-    Turns::iterator m_loudest = m_turns.end(); ///< of those seen since it was looked for, or end
+    Turns m_turns;                                        ///< each with something waiting, the next one first
+    std::map<Ipv4Address, Turns::iterator> m_byAddress;   ///< no hash table: addresses can be forged to share a place
+    std::set<std::pair<std::size_t, Ipv4Address>> m_loud; ///< bytes of each with two or more waiting
     Losses m_losses;
 };
 

@@ -25,7 +25,7 @@ enum class Drop {
     tooOften,        ///< asked for, or sent, more often than it is answered or taken
     notSent,         ///< the system refused to send, or the socket is not bound
     notReceived,     ///< arrived at the machine and was lost before the program could read it
-    tooLoud,         ///< more than could wait, from the sender with the most of it
+    tooLoud,         ///< more than could wait; the senders with the most lose first
 };
 
 /// Counts since the start of the program.

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <string>
 
 namespace nimb::test
@@ -9,8 +10,11 @@ namespace nimb::test
 namespace
 {
 
+using testing::AllOf;
+using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Ne;
 using testing::Pair;
 
 constexpr Ipv4Address ann(10, 0, 0, 1), ben(10, 0, 0, 2), cleo(10, 0, 0, 3);
@@ -95,6 +99,77 @@ TEST(ArrivalQueueTest, WhoIsLoudestIsFoundAnewWhenThatSendersDatagramsWereTaken)
 
     EXPECT_THAT(queue.takeLosses(), ElementsAre(Pair(ben, 2U)));
     EXPECT_THAT(texts(queue.take(9)), ElementsAre("10.0.0.2 ", "10.0.0.3 ", "10.0.0.2 "));
+}
+
+TEST(ArrivalQueueTest, TheOnlyDatagramOfASenderIsNeverLostToOthers)
+{
+    constexpr std::size_t threeSenders = 6 * ArrivalQueue::overhead + 2000 + 2 * 30;
+    ArrivalQueue queue(threeSenders);
+    queue.push(ann, std::string(2000, 'a'));
+    queue.push(ben, std::string(30, 'b'));
+    queue.push(cleo, std::string(30, 'c'));
+
+    for (std::uint8_t i = 1; i <= 100; ++i)
+        queue.push(Ipv4Address(10, 0, 1, i), std::string(30, 'x'));
+
+    const ArrivalQueue::Losses losses = queue.takeLosses();
+    EXPECT_EQ(losses.size(), 100U);
+    EXPECT_THAT(losses, Each(Pair(AllOf(Ne(ann), Ne(ben), Ne(cleo)), 1U)));
+    EXPECT_THAT(texts(queue.take(9)),
+                ElementsAre("10.0.0.1 " + std::string(2000, 'a'), "10.0.0.2 " + std::string(30, 'b'),
+                            "10.0.0.3 " + std::string(30, 'c')));
+}
+
+TEST(ArrivalQueueTest, OfThoseWithTwoOrMoreWaitingTheOneWithTheMostBytesLoses)
+{
+    constexpr Ipv4Address dora(10, 0, 0, 4), eve(10, 0, 0, 5), fay(10, 0, 0, 6);
+    ArrivalQueue queue(8 * ArrivalQueue::overhead + 2000 + 2 * 100 + 2 * 200);
+    queue.push(ann, std::string(2000, 'a'));
+    for (const Ipv4Address sender : {cleo, cleo, ben, ben})
+        queue.push(sender, std::string(sender == cleo ? 200 : 100, 'x'));
+    EXPECT_THAT(queue.takeLosses(), IsEmpty());
+
+    queue.push(dora, "");
+    EXPECT_THAT(queue.takeLosses(), ElementsAre(Pair(cleo, 1U)));
+    queue.push(eve, "");
+    EXPECT_THAT(queue.takeLosses(), ElementsAre(Pair(ben, 1U)));
+    queue.push(fay, "");
+    EXPECT_THAT(queue.takeLosses(), ElementsAre(Pair(fay, 1U)));
+    EXPECT_EQ(queue.take(9).size(), 5U);
+}
+
+// The next two take an hour where every datagram makes the queue search all senders.
+
+TEST(ArrivalQueueTest, SendersWithoutEndAreNotSearchedForTheLoudest)
+{
+    constexpr std::uint32_t fitting = 100'000;
+    ArrivalQueue queue(fitting * (2 * ArrivalQueue::overhead + 1));
+    for (std::uint32_t i = 0; i < 2 * fitting; ++i)
+        queue.push(Ipv4Address::of(0x0A000000 + i), "x");
+
+    EXPECT_EQ(queue.take(2 * fitting).size(), fitting);
+    const ArrivalQueue::Losses losses = queue.takeLosses();
+    EXPECT_EQ(losses.size(), 1001U) << "a thousand senders, and the rest together";
+    EXPECT_EQ(losses.at(Ipv4Address::of(0x0A000000 + fitting)), 1U);
+    EXPECT_EQ(losses.at(Ipv4Address()), fitting - 1000);
+}
+
+TEST(ArrivalQueueTest, SendersWithoutEndWhoHaveTwoWaitingAreNotSearchedEither)
+{
+    constexpr std::uint32_t fitting = 100'000;
+    ArrivalQueue queue(fitting * (3 * ArrivalQueue::overhead + 2));
+    for (std::uint32_t i = 0; i < 2 * fitting; ++i)
+        queue.push(Ipv4Address::of(0x0A000000 + i % fitting), "x");
+    EXPECT_THAT(queue.takeLosses(), IsEmpty());
+
+    for (std::uint32_t i = 0; i < fitting; ++i)
+        queue.push(Ipv4Address::of(0x0B000000 + i), "x");
+
+    const std::vector<Arrival> arrivals = queue.take(fitting);
+    EXPECT_TRUE(std::ranges::all_of(arrivals, [](const Arrival &one) {
+        return one.source < Ipv4Address::of(0x0A000000 + fitting);
+    })) << "each of the first has one waiting still";
+    EXPECT_GT(queue.take(fitting).size(), fitting / 3) << "and newcomers took the place of the others";
 }
 
 TEST(ArrivalQueueTest, NeverHoldsMoreThanItsCapacity)
