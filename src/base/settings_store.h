@@ -25,6 +25,12 @@ struct KeptChange {
     bool operator==(const KeptChange &) const = default;
 };
 
+/// What names a value.
+struct SettingName {
+    QString section;
+    QString key;
+};
+
 /// What a run kept that did not come to save it.
 struct RecoveredChanges {
     std::vector<KeptChange> changes; ///< in the order of section and key
@@ -46,9 +52,12 @@ public:
     /// What keeps the store from being read or written, as one sentence for the user; empty when all is well.
     virtual std::optional<QString> problem() const = 0;
 
-    /// Keeps these changes beside the stored values, all or nothing, until they are saved; a later change of the same
-    /// key takes the place of an earlier one. Empty on success; otherwise one sentence for the user.
-    [[nodiscard]] virtual std::optional<QString> keep(const std::vector<KeptChange> &changes) = 0;
+    /// Keeps these changes beside the stored values until they are saved, and of what is undone nothing any more; all
+    /// or nothing. A later change of the same key takes the place of an earlier one. Empty on success; otherwise one
+    /// sentence for the user.
+    [[nodiscard]] virtual std::optional<QString> keep(const std::vector<KeptChange> &changes,
+                                                      const std::vector<SettingName> &undone)
+        = 0;
     /// What an earlier run kept and nobody saved since. Nothing after an orderly end.
     virtual RecoveredChanges recovered() const = 0;
     /// Notes for the next save() that it saves whatever was kept.

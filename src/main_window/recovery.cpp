@@ -34,6 +34,8 @@ Recovery::Recovery(const Parts &parts)
 
 void Recovery::takeOver()
 {
+    for (const ContactAddress &ip : m_parts.contacts.addresses())
+        m_storedContacts.insert(ip);
     const RecoveredChanges recovered = m_parts.store.recovered();
     if (recovered.changes.empty() && recovered.unreadable == 0)
         return;
@@ -87,17 +89,21 @@ void Recovery::begin(const QStringList &storedStates)
 void Recovery::watchContacts()
 {
     ContactList &contacts = m_parts.contacts;
-    const auto cameOrGoes = [this](const QModelIndex &, int first, int last) {
+    const auto came = [this](const QModelIndex &, int first, int last) {
         for (int row = first; row <= last; ++row)
             m_changedContacts.insert(m_parts.contacts.at(row).ip);
         wait();
+    };
+    const auto goes = [this](const QModelIndex &, int first, int last) {
+        for (int row = first; row <= last; ++row)
+            contactGoes(m_parts.contacts.at(row).ip);
     };
     const auto changed = [this](const QModelIndex &first, const QModelIndex &last) {
         for (int row = first.row(); row <= last.row(); ++row)
             contactChanged(m_parts.contacts.at(row));
     };
-    QObject::connect(&contacts, &ContactList::rowsInserted, &m_connections, cameOrGoes);
-    QObject::connect(&contacts, &ContactList::rowsAboutToBeRemoved, &m_connections, cameOrGoes);
+    QObject::connect(&contacts, &ContactList::rowsInserted, &m_connections, came);
+    QObject::connect(&contacts, &ContactList::rowsAboutToBeRemoved, &m_connections, goes);
     QObject::connect(&contacts, &ContactList::dataChanged, &m_connections, changed);
 }
 
@@ -108,6 +114,17 @@ void Recovery::contactChanged(const Contact &contact)
     if (kept != m_keptContacts.cend() && *kept == Names{contact.nickname, contact.workstation})
         return;
     m_changedContacts.insert(contact.ip);
+    wait();
+}
+
+/// Who came since the last time and goes before the next one leaves nothing to keep.
+void Recovery::contactGoes(const ContactAddress &ip)
+{
+    if (!m_keptContacts.contains(ip) && !m_storedContacts.contains(ip)) {
+        m_changedContacts.remove(ip);
+        return;
+    }
+    m_changedContacts.insert(ip);
     wait();
 }
 
@@ -136,9 +153,9 @@ void Recovery::keep()
 {
     m_retry->stop();
     Values now = settings(m_parts.ownState.storedValues());
-    const std::vector<KeptChange> changes = changesOf(now);
-    if (!changes.empty()) {
-        const std::optional<QString> problem = m_parts.store.keep(changes);
+    const Changes changes = changesOf(now);
+    if (!changes.kept.empty() || !changes.undone.empty()) {
+        const std::optional<QString> problem = m_parts.store.keep(changes.kept, changes.undone);
         if (problem && !std::exchange(m_failing, true))
             m_parts.log.fault(*problem);
         if (problem)
@@ -162,26 +179,36 @@ std::optional<Recovery::Names> Recovery::namesOf(const ContactAddress &ip) const
     return contact ? std::optional(Names{contact->nickname, contact->workstation}) : std::nullopt;
 }
 
-std::vector<KeptChange> Recovery::changesOf(const Values &now) const
+Recovery::Changes Recovery::changesOf(const Values &now) const
 {
-    std::vector<KeptChange> changes;
+    Changes changes;
     for (const auto &[name, value] : now) {
         const auto kept = m_keptSettings.find(name);
         if (kept == m_keptSettings.end() || kept->second != value)
-            changes.push_back({name.first, name.second, value});
+            changes.kept.push_back({name.first, name.second, value});
     }
-    for (const ContactAddress &ip : m_changedContacts) {
-        // The stored list ends at this address, so it is not stored either.
-        const QString address = ip.text();
-        if (address == endOfStoredContacts)
-            continue;
-        const std::optional<Names> names = namesOf(ip);
-        changes.push_back(
-            {usersSection, nicknamePrefix + address, names ? std::optional(names->nickname) : std::nullopt});
-        changes.push_back(
-            {usersSection, workstationPrefix + address, names ? std::optional(names->workstation) : std::nullopt});
-    }
+    for (const ContactAddress &ip : m_changedContacts)
+        addContact(ip, changes);
     return changes;
+}
+
+void Recovery::addContact(const ContactAddress &ip, Changes &changes) const
+{
+    const QString address = ip.text();
+    if (address == endOfStoredContacts)
+        return; // The stored list ends at this address, so it is not stored either.
+    const QString nicknameKey = nicknamePrefix + address;
+    const QString workstationKey = workstationPrefix + address;
+    if (const std::optional<Names> names = namesOf(ip)) {
+        changes.kept.push_back({usersSection, nicknameKey, names->nickname});
+        changes.kept.push_back({usersSection, workstationKey, names->workstation});
+    } else if (m_storedContacts.contains(ip)) {
+        changes.kept.push_back({usersSection, nicknameKey, std::nullopt});
+        changes.kept.push_back({usersSection, workstationKey, std::nullopt});
+    } else {
+        changes.undone.push_back({usersSection, nicknameKey});
+        changes.undone.push_back({usersSection, workstationKey});
+    }
 }
 
 void Recovery::keptAre(Values now)

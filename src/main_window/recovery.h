@@ -19,7 +19,8 @@ namespace nimb
 
 /// All that is saved when the main window ends, kept beside the stored values soon after it has changed. Settings are
 /// kept as they are stored. A contact is kept by its address, for its number changes with every row that moves: under
-/// "Nn:" and "Ws:" followed by the address, without a value once it is removed.
+/// "Nn:" and "Ws:" followed by the address, without a value once a stored one is removed. Nothing is kept of others who
+/// are gone: strangers come and go without end.
 class Recovery
 {
     Q_DECLARE_TR_FUNCTIONS(Recovery)
@@ -58,11 +59,17 @@ private:
     void takeOver(const KeptChange &change);
     void watchContacts();
     void contactChanged(const Contact &contact);
+    void contactGoes(const ContactAddress &ip);
     void wait();
     void keep();
     Values settings(const QStringList &states) const;
     std::optional<Names> namesOf(const ContactAddress &ip) const;
-    std::vector<KeptChange> changesOf(const Values &now) const;
+    struct Changes {
+        std::vector<KeptChange> kept;
+        std::vector<SettingName> undone;
+    };
+    Changes changesOf(const Values &now) const;
+    void addContact(const ContactAddress &ip, Changes &changes) const;
     void keptAre(Values now);
 
     Parts m_parts;
@@ -73,6 +80,7 @@ private:
     bool m_failing = false; ///< and that has been said
     Values m_keptSettings;
     QHash<ContactAddress, Names> m_keptContacts;
+    QSet<ContactAddress> m_storedContacts;
     QSet<ContactAddress> m_changedContacts;
 };
 

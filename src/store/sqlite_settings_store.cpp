@@ -37,6 +37,7 @@ constexpr std::array createTriggers
        "CREATE TRIGGER IF NOT EXISTS newer_update AFTER UPDATE ON settings BEGIN DELETE FROM recovery "
        "WHERE section = NEW.section AND (key = NEW.key OR section = 'Users'); END"};
 constexpr auto putChange = "INSERT OR REPLACE INTO recovery(section, key, value, sum) VALUES(?1, ?2, ?3, ?4)";
+constexpr auto removeChange = "DELETE FROM recovery WHERE section = ?1 AND key = ?2";
 constexpr auto getChanges = "SELECT section, key, value, sum FROM recovery";
 
 /// What tells whether a section still is what was saved. An older copy knows of no sums: a trigger removes that of each
@@ -332,13 +333,17 @@ void SqliteSettingsStore::forgetKept()
         m_recovered.clear();
 }
 
-std::optional<QString> SqliteSettingsStore::keep(const std::vector<KeptChange> &changes)
+std::optional<QString> SqliteSettingsStore::keep(const std::vector<KeptChange> &changes,
+                                                 const std::vector<SettingName> &undone)
 {
     try {
         if (!m_database)
             openForSaving();
         sqlite3_busy_timeout(m_database.get(), busyTimeoutOfKeepingMs);
-        inTransaction([this, &changes] { writeChanges(changes); });
+        inTransaction([&] {
+            writeChanges(changes);
+            removeChanges(undone);
+        });
         sqlite3_busy_timeout(m_database.get(), busyTimeoutMs);
     } catch (const Failure &failure) {
         if (m_database)
@@ -563,6 +568,19 @@ void SqliteSettingsStore::writeChanges(const std::vector<KeptChange> &changes)
         put.bind(4, sum);
         put.next();
         put.reset();
+    }
+}
+
+void SqliteSettingsStore::removeChanges(const std::vector<SettingName> &undone)
+{
+    Statement remove(m_database.get(), removeChange);
+    for (const SettingName &name : undone) {
+        const QByteArray section = name.section.toUtf8();
+        const QByteArray key = name.key.toUtf8();
+        remove.bind(1, section);
+        remove.bind(2, key);
+        remove.next();
+        remove.reset();
     }
 }
 

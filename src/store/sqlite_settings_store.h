@@ -39,7 +39,8 @@ public:
 
     /// The changes go into the table `recovery` of the same file, in one transaction that is on the disk before this
     /// returns. Waits a fifth of a second at most for another program that holds the file.
-    [[nodiscard]] std::optional<QString> keep(const std::vector<KeptChange> &changes) override;
+    [[nodiscard]] std::optional<QString> keep(const std::vector<KeptChange> &changes,
+                                              const std::vector<SettingName> &undone) override;
     RecoveredChanges recovered() const override;
     void dropKept() override { m_droppingKept = true; }
 
@@ -87,6 +88,7 @@ private:
     void writePending();
     void writeSums();
     void writeChanges(const std::vector<KeptChange> &changes);
+    void removeChanges(const std::vector<SettingName> &undone);
     void forgetKept();
     void rollBack();
 

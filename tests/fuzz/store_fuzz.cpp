@@ -70,7 +70,7 @@ void checkNextStart(const QString &folder, const QString &value)
 void checkKeeping(const QString &folder)
 {
     SqliteSettingsStore store(folder);
-    if (store.keep({{users, kept, QStringLiteral("Ben")}, {section, name, QStringLiteral("Cleo")}}))
+    if (store.keep({{users, kept, QStringLiteral("Ben")}, {section, name, QStringLiteral("Cleo")}}, {}))
         return; // a table of another shape stands there
     SqliteSettingsStore next(folder);
     const RecoveredChanges recovered = next.recovered();

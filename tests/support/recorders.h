@@ -430,13 +430,15 @@ public:
         return std::nullopt;
     }
     std::optional<QString> problem() const override { return failure; }
-    std::optional<QString> keep(const std::vector<KeptChange> &changes) override
+    std::optional<QString> keep(const std::vector<KeptChange> &changes, const std::vector<SettingName> &undone) override
     {
         ++keeps;
         if (failure)
             return failure;
         for (const KeptChange &change : changes)
             kept[{change.section, change.key}] = change.value;
+        for (const SettingName &name : undone)
+            kept.erase({name.section, name.key});
         return std::nullopt;
     }
     RecoveredChanges recovered() const override

@@ -86,6 +86,67 @@ TEST(Recovery, KeepsARemovedContactAsGone)
     EXPECT_THAT(kept(copy), ElementsAre(Pair("Users/Nn:10.0.0.2", "(gone)"), Pair("Users/Ws:10.0.0.2", "(gone)")));
 }
 
+TEST(Recovery, KeepsNothingOfWhoComesAndGoesBetweenTwoTimes)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.settleStart();
+    copy.arrive("10.0.0.3", "?ONLINE 10.0.0.3 PC-BEN Ben");
+    copy.engine.contacts().remove(QStringLiteral("10.0.0.3"));
+    copy.advance(2000ms);
+    EXPECT_THAT(kept(copy), IsEmpty());
+    EXPECT_EQ(copy.settings.keeps, 0);
+}
+
+TEST(Recovery, ForgetsWhoIsKeptButNotStoredOnceGone)
+{
+    Copy killed({.contacts = {{"10.0.0.2", "Ann"}}});
+    killed.settleStart();
+    for (const char *ip : {"10.0.0.3", "10.0.0.4"})
+        killed.arrive(ip, "?ONLINE " + std::string(ip) + " PC Stranger");
+    killed.advance(2000ms);
+    ASSERT_EQ(kept(killed).size(), 4u);
+    killed.engine.contacts().remove(QStringLiteral("10.0.0.3"));
+    killed.advance(2000ms);
+    EXPECT_THAT(kept(killed), ElementsAre(Pair("Users/Nn:10.0.0.4", "Stranger"), Pair("Users/Ws:10.0.0.4", "PC")));
+
+    const std::unique_ptr<Copy> next = runAfterKill(killed);
+    EXPECT_THAT(next->names(), ElementsAre("Ann", "Stranger"));
+    next->engine.contacts().remove(QStringLiteral("10.0.0.4"));
+    next->advance(2000ms);
+    EXPECT_THAT(kept(*next), IsEmpty());
+}
+
+TEST(Recovery, AStoredContactThatReturnsAndGoesAgainStaysGone)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.settleStart();
+    copy.engine.contacts().remove(QStringLiteral("10.0.0.2"));
+    copy.advance(2000ms);
+    copy.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC-ANN Ann");
+    copy.engine.contacts().remove(QStringLiteral("10.0.0.2"));
+    copy.advance(2000ms);
+    EXPECT_THAT(kept(copy), ElementsAre(Pair("Users/Nn:10.0.0.2", "(gone)"), Pair("Users/Ws:10.0.0.2", "(gone)")));
+    EXPECT_THAT(runAfterKill(copy)->names(), IsEmpty());
+}
+
+TEST(Recovery, StrangersWithoutEndLeaveNothingWhileNothingCanBeKept)
+{
+    Copy copy;
+    copy.settleStart();
+    copy.settings.failure = QStringLiteral("The disk is full.");
+    for (int i = 1; i <= 200; ++i) {
+        const std::string ip = "10.0.1." + std::to_string(i);
+        copy.arrive(ip.c_str(), "?ONLINE " + ip + " PC Stranger");
+        copy.advance(1500ms);
+        copy.engine.contacts().remove(QString::fromStdString(ip));
+    }
+    copy.settings.failure = std::nullopt;
+    const int keeps = copy.settings.keeps;
+    copy.advance(limits::keepRetry);
+    EXPECT_THAT(kept(copy), IsEmpty());
+    EXPECT_EQ(copy.settings.keeps, keeps) << "there was nothing left to keep";
+}
+
 TEST(Recovery, KeepsNothingOfTheAddressThatEndsTheStoredList)
 {
     Copy copy;

@@ -79,7 +79,10 @@ public:
     void write(const QString &, const QString &, const QString &) override { ADD_FAILURE(); }
     std::optional<QString> save() override { return std::nullopt; }
     std::optional<QString> problem() const override { return std::nullopt; }
-    std::optional<QString> keep(const std::vector<KeptChange> &) override { return "not from here"; }
+    std::optional<QString> keep(const std::vector<KeptChange> &, const std::vector<SettingName> &) override
+    {
+        return "not from here";
+    }
     RecoveredChanges recovered() const override { return {}; }
     void dropKept() override { ADD_FAILURE(); }
 
@@ -366,7 +369,7 @@ TEST_F(SqliteSettingsStoreTest, NothingOfAnEmptiedValueStaysInTheFile)
     SqliteSettingsStore store(folder);
     store.write("Users", "Nn1", "Somebody who was removed");
     ASSERT_EQ(store.save(), std::nullopt);
-    ASSERT_EQ(store.keep({{"Users", "Nn:10.0.0.2", "Somebody else who was removed"}}), std::nullopt);
+    ASSERT_EQ(store.keep({{"Users", "Nn:10.0.0.2", "Somebody else who was removed"}}, {}), std::nullopt);
     EXPECT_TRUE(fileBytes().contains("who was removed"));
     store.write("Users", "Nn1", "");
     store.dropKept();
@@ -396,7 +399,7 @@ class Kept : public SqliteSettingsStoreTest
 protected:
     void keep(const std::vector<KeptChange> &changes) const
     {
-        ASSERT_EQ(SqliteSettingsStore(folder).keep(changes), std::nullopt);
+        ASSERT_EQ(SqliteSettingsStore(folder).keep(changes, {}), std::nullopt);
     }
     std::vector<KeptChange> recovered() const { return SqliteSettingsStore(folder).recovered().changes; }
 };
@@ -437,6 +440,19 @@ TEST_F(Kept, TheLaterChangeWinsAndOthersStay)
                 testing::ElementsAre(KeptChange{"Options", "LiveType", "2"}, KeptChange{"Options", "NotifyWin", "0"}));
 }
 
+TEST_F(Kept, AChangeThatIsUndoneIsKeptNoMore)
+{
+    saveGeneration("old");
+    keep({{"Options", "LiveType", "0"}, {"Users", "Nn:10.0.0.2", "Ann"}, {"Users", "Nn:10.0.0.3", std::nullopt}});
+    SqliteSettingsStore store(folder);
+    ASSERT_EQ(store.keep({{"Options", "NotifyWin", "0"}}, {{"Users", "Nn:10.0.0.2"}, {"Users", "Nn:10.0.0.9"}}),
+              std::nullopt);
+    EXPECT_THAT(recovered(),
+                testing::ElementsAre(KeptChange{"Options", "LiveType", "0"}, KeptChange{"Options", "NotifyWin", "0"},
+                                     KeptChange{"Users", "Nn:10.0.0.3", std::nullopt}));
+    EXPECT_EQ(generationOnDisk(), "old");
+}
+
 TEST_F(Kept, ValuesOfAnyCharacterComeBackWhole)
 {
     keep({{"Settings", "AvatarBody", avatarData(u'\0')}, {"Settings", "AvatarHead", ""}});
@@ -448,7 +464,7 @@ TEST_F(Kept, ValuesOfAnyCharacterComeBackWhole)
 TEST_F(Kept, ChangesAreGoneOnceTheyAreSaved)
 {
     SqliteSettingsStore store(folder);
-    ASSERT_EQ(store.keep({{"Settings", "MyNickName", "new"}, {"Made up", "key", "value"}}), std::nullopt);
+    ASSERT_EQ(store.keep({{"Settings", "MyNickName", "new"}, {"Made up", "key", "value"}}, {}), std::nullopt);
     writeGeneration(store, "new");
     store.dropKept();
     ASSERT_EQ(store.save(), std::nullopt);
@@ -506,7 +522,7 @@ TEST_F(Kept, NothingIsKeptOverAStoreThatCouldNotBeRead)
 {
     putFile("this is no database");
     SqliteSettingsStore store(folder);
-    EXPECT_THAT(sentence(store.keep({{"Options", "LiveType", "0"}})),
+    EXPECT_THAT(sentence(store.keep({{"Options", "LiveType", "0"}}, {})),
                 isSentenceWith(file, "(the file is damaged or holds something else)"));
     EXPECT_EQ(fileBytes(), "this is no database");
 }
@@ -518,11 +534,11 @@ TEST_F(Kept, AWriterElsewhereIsSaidAndDoesNotHoldTheProgramUp)
     {
         Database other(file);
         other.run("BEGIN IMMEDIATE");
-        EXPECT_THAT(sentence(store.keep({{"Options", "LiveType", "0"}})),
+        EXPECT_THAT(sentence(store.keep({{"Options", "LiveType", "0"}}, {})),
                     isSentenceWith(file, "(another program is using the file)"));
         other.run("ROLLBACK");
     }
-    EXPECT_EQ(store.keep({{"Options", "LiveType", "0"}}), std::nullopt);
+    EXPECT_EQ(store.keep({{"Options", "LiveType", "0"}}, {}), std::nullopt);
     EXPECT_THAT(recovered(), testing::ElementsAre(KeptChange{"Options", "LiveType", "0"}));
 }
 
@@ -737,7 +753,7 @@ protected:
     }
     void keepGeneration(const QString &generation) const
     {
-        ASSERT_EQ(SqliteSettingsStore(folder).keep(changesOfGeneration(generation)), std::nullopt);
+        ASSERT_EQ(SqliteSettingsStore(folder).keep(changesOfGeneration(generation), {}), std::nullopt);
     }
 };
 
@@ -869,7 +885,7 @@ TEST_P(EveryFault, OfKeepingLeavesWhatWasKeptBeforeWholeAndIsTold)
         ASSERT_EQ(store.problem(), std::nullopt);
 
         fail(files, n);
-        const std::optional<QString> failure = store.keep(changesOfGeneration("second"));
+        const std::optional<QString> failure = store.keep(changesOfGeneration("second"), {});
         const bool happened = files.happened();
         files.heal();
 
@@ -878,7 +894,7 @@ TEST_P(EveryFault, OfKeepingLeavesWhatWasKeptBeforeWholeAndIsTold)
             ++failures;
             EXPECT_THAT(sentence(failure), isSentenceWith(file, "What has changed cannot be kept"));
             ASSERT_EQ(kept, "first") << "call " << n;
-            EXPECT_EQ(store.keep(changesOfGeneration("second")), std::nullopt) << "call " << n;
+            EXPECT_EQ(store.keep(changesOfGeneration("second"), {}), std::nullopt) << "call " << n;
             EXPECT_EQ(generationKept(SqliteSettingsStore(folder)), "second") << "call " << n;
         } else {
             ASSERT_EQ(kept, "second") << "call " << n;
@@ -1344,7 +1360,7 @@ TEST_F(Killed, WhileKeepingLeavesWhatWasKeptBeforeOrAllOfTheNew)
     saveGeneration("old");
     int firstOnes = 0;
     for (int n = 1;; n = nextFault(n)) {
-        ASSERT_EQ(SqliteSettingsStore(folder).keep(changesOfGeneration("first")), std::nullopt);
+        ASSERT_EQ(SqliteSettingsStore(folder).keep(changesOfGeneration("first"), {}), std::nullopt);
         const bool finished = runToEnd({"keep", folder, "second", QString::number(n)});
         const SqliteSettingsStore store(folder);
         EXPECT_EQ(store.problem(), std::nullopt) << "call " << n;
@@ -1389,7 +1405,7 @@ TEST_F(Killed, WhileTakingOverOrSavingLeavesWhatWasKeptOrHasItSaved)
         int killed = 0;
         for (int n = 1;; n = nextFault(n)) {
             saveGeneration("old");
-            ASSERT_EQ(SqliteSettingsStore(folder).keep(changesOfGeneration("kept")), std::nullopt);
+            ASSERT_EQ(SqliteSettingsStore(folder).keep(changesOfGeneration("kept"), {}), std::nullopt);
             const bool finished = runToEnd({"save", folder, "new", phase, QString::number(n)});
             const SqliteSettingsStore store(folder);
             EXPECT_EQ(store.problem(), std::nullopt) << phase << ", call " << n;

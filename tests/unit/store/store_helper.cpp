@@ -43,7 +43,7 @@ int keep(const QString &folder, const QString &generation, int n)
     FaultyFiles files;
     SqliteSettingsStore store(folder);
     files.doAt(n, killMyself);
-    return store.keep(changesOfGeneration(generation)) ? 2 : 0;
+    return store.keep(changesOfGeneration(generation), {}) ? 2 : 0;
 }
 
 /// Renews the good copy, and is killed at the n-th call to the disk.
