@@ -17,8 +17,10 @@ void ArrivalQueue::push(Ipv4Address source, std::string_view bytes)
     const auto sender = turnOf(source);
     sender->waiting.emplace_back(bytes);
     nowHas(sender, sender->bytes + cost(sender->waiting.back()));
-    while (m_bytes > m_capacity)
-        dropNewestOf(m_loud.empty() ? sender : m_byAddress.at(m_loud.rbegin()->second));
+    while (m_bytes > m_capacity) {
+        rank();
+        dropNewestOf(m_loud->empty() ? sender : m_byAddress.at(m_loud->rbegin()->second));
+    }
 }
 
 std::vector<Arrival> ArrivalQueue::take(std::size_t most)
@@ -32,6 +34,8 @@ std::vector<Arrival> ArrivalQueue::take(std::size_t most)
         m_turns.splice(m_turns.end(), m_turns, sender);
         nowHas(sender, sender->bytes - size);
     }
+    if (m_bytes < m_capacity / 2)
+        m_loud.reset();
     return taken;
 }
 
@@ -51,6 +55,17 @@ ArrivalQueue::Turns::iterator ArrivalQueue::turnOf(Ipv4Address source)
     return sender;
 }
 
+void ArrivalQueue::rank()
+{
+    if (m_loud)
+        return;
+    m_loud.emplace();
+    for (const Sender &sender : m_turns) {
+        if (sender.waiting.size() > 1)
+            m_loud->emplace(sender.bytes, sender.address);
+    }
+}
+
 void ArrivalQueue::dropNewestOf(Turns::iterator sender)
 {
     const bool told = m_losses.size() < sendersTold || m_losses.contains(sender->address);
@@ -63,13 +78,14 @@ void ArrivalQueue::dropNewestOf(Turns::iterator sender)
 /// After a datagram of that sender came or went.
 void ArrivalQueue::nowHas(Turns::iterator sender, std::size_t bytes)
 {
-    m_loud.erase({sender->bytes, sender->address});
+    if (m_loud)
+        m_loud->erase({sender->bytes, sender->address});
     m_bytes = m_bytes - sender->bytes + bytes;
     sender->bytes = bytes;
     if (sender->waiting.empty())
         forget(sender);
-    else if (sender->waiting.size() > 1)
-        m_loud.emplace(bytes, sender->address);
+    else if (m_loud && sender->waiting.size() > 1)
+        m_loud->emplace(bytes, sender->address);
 }
 
 void ArrivalQueue::forget(Turns::iterator sender)

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <list>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -25,7 +26,8 @@ struct Arrival {
 /// nobody else waiting, and those of one sender as they came. What all of them take has a bound; beyond it whoever has
 /// the most bytes of those with two datagrams or more loses the newest, and when nobody has two, the one that arrives
 /// is lost: however many send, the only datagram of a sender stays. No step takes longer than the logarithm of the
-/// number of senders, whom others can forge. Belongs to one thread at a time.
+/// number of senders, whom others can forge, but for one each time that the room runs out. Belongs to one thread at a
+/// time.
 class ArrivalQueue
 {
 public:
@@ -57,15 +59,18 @@ private:
 
     static std::size_t cost(const std::string &datagram) { return datagram.size() + overhead; }
     Turns::iterator turnOf(Ipv4Address source);
+    void rank();
     void dropNewestOf(Turns::iterator sender);
     void nowHas(Turns::iterator sender, std::size_t bytes);
     void forget(Turns::iterator sender);
 
     std::size_t m_capacity;
     std::size_t m_bytes = 0;
-    Turns m_turns;                                        ///< each with something waiting, the next one first
-    std::map<Ipv4Address, Turns::iterator> m_byAddress;   ///< no hash table: addresses can be forged to share a place
-    std::set<std::pair<std::size_t, Ipv4Address>> m_loud; ///< bytes of each with two or more waiting
+    Turns m_turns;                                      ///< each with something waiting, the next one first
+    std::map<Ipv4Address, Turns::iterator> m_byAddress; ///< no hash table: addresses can be forged to share a place
+    /// Bytes of each with two or more waiting. Kept from a lack of room on until half of it is free, for while there is
+    /// room it would only make the reader slower.
+    std::optional<std::set<std::pair<std::size_t, Ipv4Address>>> m_loud;
     Losses m_losses;
 };
 
