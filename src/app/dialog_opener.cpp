@@ -36,14 +36,20 @@ DialogOpener::~DialogOpener()
 
 void DialogOpener::mnuNetworkscan()
 {
-    const NetworkScan scan(m_services.common, m_engine.sender(), m_services.names, m_engine.log());
+    const NetworkScan scan(m_services.common, m_engine.search(), m_services.names, m_engine.log());
     open(new frmNetworkscan(scan, &m_main));
 }
 
 void DialogOpener::mnuAddUser()
 {
-    const AddUser rules(m_services.common, m_engine.admission(), m_engine.contacts(), m_services.prompts);
+    const AddUser rules(m_services.common, m_engine.admission(), m_engine.contacts(), m_engine.search(),
+                        m_services.prompts);
     open(new frmAddUser(rules, &m_main));
+}
+
+void DialogOpener::mnuFindEverybody()
+{
+    m_engine.search().findEverybody();
 }
 
 void DialogOpener::mnuHelpAbout()

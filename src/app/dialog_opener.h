@@ -44,6 +44,7 @@ public:
 
     void mnuNetworkscan() override;
     void mnuAddUser() override;
+    void mnuFindEverybody() override;
     void mnuToolsOptions() override;
     void mnuHelpAbout() override;
     void mnuTOTD() override;

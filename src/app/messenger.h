@@ -10,6 +10,7 @@
 #include "main_window/contact_commands.h"
 #include "main_window/main_window.h"
 #include "main_window/recovery.h"
+#include "people/search.h"
 #include "private_chat/peer_features.h"
 #include "private_chat/private_windows.h"
 #include "protocol/receive_dispatcher.h"
@@ -53,6 +54,7 @@ public:
     Recovery &recovery() { return m_recovery; }
     MainLog &log() { return m_log; }
     const PresenceSender &sender() const { return m_sender; }
+    Search &search() { return m_search; }
     PrivateWindows &privateWindows() { return m_privateWindows; }
     OwnAvatar &ownAvatar() { return m_ownAvatar; }
     const AvatarStore &avatars() const { return m_avatars; }
@@ -76,6 +78,7 @@ private:
     Recovery m_recovery;
     PortWatch m_port;
     PrivateWindows m_privateWindows;
+    Search m_search;
     PresenceReceiver m_presence;
     Activity m_activity;
     AvatarStore m_avatars;

@@ -71,6 +71,12 @@ constexpr std::size_t announcementBatch = 64;
 constexpr qsizetype questionsUnderWay = 512;
 /// How often an announcement that waits looks for questions that have waited long enough.
 constexpr std::chrono::milliseconds questionsLooked{50};
+/// Questions of a search that leave in a tenth of a second: a network of 254 is asked within three seconds.
+constexpr std::size_t questionsOfSearch = 10;
+/// Of a range that is asked address by address: 254 of them.
+constexpr int smallestScannedPrefix = 24;
+/// Names of those who answered a search, in its line in the log.
+constexpr qsizetype namesOfAnswer = 20;
 /// How long an announcement waits for answers.
 constexpr std::chrono::milliseconds announcementTime{1000};
 /// At most one avatar body and one list of participants for the same contact in this time: a question of twelve bytes,

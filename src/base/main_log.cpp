@@ -72,6 +72,11 @@ void MainLog::fault(const QString &sentence)
     line(sentence, colours::fault);
 }
 
+void MainLog::note(const QString &text)
+{
+    line(tr("--- %1 ---").arg(text), colours::banner);
+}
+
 void MainLog::remark(const QString &sentence)
 {
     line(sentence, colours::banner);

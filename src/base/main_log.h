@@ -33,6 +33,8 @@ public:
     void moreUnknown(const QString &sender, int count);
     /// A fault of the program's own surroundings (port, store), one sentence.
     void fault(const QString &sentence);
+    /// What the program does, or has done, because the user has asked for it: a part of a sentence.
+    void note(const QString &text);
     /// Something worth knowing that is no fault.
     void remark(const QString &sentence);
 

@@ -3,8 +3,20 @@
 
 #include "protocol/ipv4_address.h"
 
+#include <QString>
+
+#include <vector>
+
 namespace nimb
 {
+
+/// One of this machine's cards, and how everybody on its network is reached.
+struct NetworkCard {
+    QString name;          ///< the system's
+    Ipv4Address address;   ///< of this machine there
+    Ipv4Address broadcast; ///< of everybody there
+    bool operator==(const NetworkCard &) const = default;
+};
 
 /// They change while the program runs, with every network that comes and goes.
 class OwnAddresses
@@ -16,6 +28,9 @@ public:
     [[nodiscard]] virtual bool isOwn(Ipv4Address address) const = 0;
     /// Everybody on one of this machine's networks hears what is sent there.
     [[nodiscard]] virtual bool isBroadcast(Ipv4Address address) const = 0;
+    /// Those that run, without loopback, lines to a single machine, and the networks of containers and virtual
+    /// machines.
+    [[nodiscard]] virtual std::vector<NetworkCard> cards() const = 0;
 };
 
 } // namespace nimb

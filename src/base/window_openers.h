@@ -31,13 +31,15 @@ public:
     virtual void showTipOfTheDay() = 0;
 };
 
-/// The windows that the menus of the main window open.
+/// What the menus of the main window open, and whom they look for.
 class MenuWindows
 {
 public:
     virtual ~MenuWindows() = default;
     virtual void mnuNetworkscan() = 0;
     virtual void mnuAddUser() = 0;
+    /// Opens nothing: the log says who is there.
+    virtual void mnuFindEverybody() = 0;
     virtual void mnuToolsOptions() = 0;
     virtual void mnuHelpAbout() = 0;
     virtual void mnuTOTD() = 0;

@@ -21,10 +21,18 @@ void PresenceSender::question(const ContactAddress &ip) const
     sendDatagram(m_socket, ip.ipv4(), wire::OnlineQuestion{ownIdentity(m_common)});
 }
 
-void PresenceSender::questionToAll(const ContactAddress &ip) const
+void PresenceSender::questionToAll(Ipv4Address ip, std::optional<Ipv4Address> source) const
 {
+    wire::Identity identity = ownIdentity(m_common);
+    if (source)
+        identity.ip = source->toText();
     m_socket.setBroadcast(true);
-    question(ip);
+    m_socket.setSource(source);
+    sendDatagram(m_socket, ip, wire::OnlineQuestion{identity});
+    const BaseState own = m_common.ownPresence.base;
+    if (own == BaseState::busy || own == BaseState::away)
+        status(ip);
+    m_socket.setSource(std::nullopt);
     m_socket.setBroadcast(false);
 }
 

@@ -22,8 +22,10 @@ public:
     PresenceSender(const Common &common, Winsock &socket) : m_common(common), m_socket(socket) { }
 
     void question(const ContactAddress &ip) const;
-    /// The same to an address that may be that of everybody on a network; nothing else goes out as a broadcast.
-    void questionToAll(const ContactAddress &ip) const;
+    /// The same to an address that may be that of everybody on a network, and the own state behind it where that is
+    /// busy or away; nothing else goes out as a broadcast. source: the own address that it names and leaves from, where
+    /// that is not the usual one.
+    void questionToAll(Ipv4Address ip, std::optional<Ipv4Address> source) const;
     void answer(const ContactAddress &ip) const;
     void farewell(const ContactAddress &ip) const;
     /// The own state word, with its text where it has one.

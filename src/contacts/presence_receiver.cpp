@@ -26,9 +26,10 @@ Drop reasonOf(Refusal refusal)
 
 PresenceReceiver::PresenceReceiver(const Common &common, const Admission &admission, ContactList &contacts,
                                    PresenceSender &sender, MainLog &log, PrivateLogs &privateLogs,
-                                   Notifications &notifications, const WallClock &clock, DropCounts &drops)
+                                   Notifications &notifications, const WallClock &clock, PresenceWitness &witness,
+                                   DropCounts &drops)
     : m_common(common), m_admission(admission), m_contacts(contacts), m_sender(sender), m_log(log),
-      m_privateLogs(privateLogs), m_notifications(notifications), m_clock(clock), m_drops(drops)
+      m_privateLogs(privateLogs), m_notifications(notifications), m_clock(clock), m_witness(witness), m_drops(drops)
 {
 }
 
@@ -42,6 +43,8 @@ void PresenceReceiver::strangerSeen(Ipv4Address ip, const PeerIdentity &peer, bo
     contact.workstation = nameOrUnknown(peer.host);
     contact.setPresence(online ? Presence::online : Presence::offline);
     m_admission.admit(std::move(contact));
+    if (online)
+        m_witness.seenOnline(ip, true);
 }
 
 void PresenceReceiver::cameOnline(Ipv4Address ip, const std::optional<PeerIdentity> &peer, bool asks)
@@ -63,6 +66,7 @@ void PresenceReceiver::cameOnline(Ipv4Address ip, const std::optional<PeerIdenti
         m_log.changedName(formerName, contact.nickname);
     m_log.wentOnline(contact.nickname);
     tellPrivateWindow(contact, tr("%1 is online").arg(contact.nickname));
+    m_witness.seenOnline(ip, false);
     if (asks)
         answer(ip);
 }

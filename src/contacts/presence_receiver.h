@@ -20,6 +20,15 @@ public:
     virtual void appendPresence(int window, const QString &line) = 0;
 };
 
+/// Hears of everybody who says that he is there.
+class PresenceWitness
+{
+public:
+    virtual ~PresenceWitness() = default;
+    /// isNew: he has just become a contact.
+    virtual void seenOnline(Ipv4Address ip, bool isNew) = 0;
+};
+
 class PresenceReceiver : public PresenceHandler
 {
     Q_DECLARE_TR_FUNCTIONS(PresenceReceiver)
@@ -27,7 +36,7 @@ class PresenceReceiver : public PresenceHandler
 public:
     PresenceReceiver(const Common &common, const Admission &admission, ContactList &contacts, PresenceSender &sender,
                      MainLog &log, PrivateLogs &privateLogs, Notifications &notifications, const WallClock &clock,
-                     DropCounts &drops);
+                     PresenceWitness &witness, DropCounts &drops);
 
     void strangerSeen(Ipv4Address ip, const PeerIdentity &peer, bool online) override;
     void cameOnline(Ipv4Address ip, const std::optional<PeerIdentity> &peer, bool asks) override;
@@ -47,6 +56,7 @@ private:
     PrivateLogs &m_privateLogs;
     Notifications &m_notifications;
     const WallClock &m_clock;
+    PresenceWitness &m_witness;
     DropCounts &m_drops;
 };
 

@@ -4,11 +4,15 @@
 #include "contacts/contact_list.h"
 #include "widgets/muted_colour.h"
 #include "widgets/picture_delegate.h"
+#include "widgets/pictures.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPushButton>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -181,8 +185,10 @@ void RoomyHeader::paintEvent(QPaintEvent *)
 }
 
 ContactView::ContactView(QWidget *parent)
-    : QTreeView(parent), m_header(new RoomyHeader(this)), m_scrollBarRoom(new QWidget(this))
+    : QTreeView(parent), m_header(new RoomyHeader(this)), m_scrollBarRoom(new QWidget(this)),
+      m_invitation(new QWidget(viewport()))
 {
+    buildInvitation();
     setHeader(m_header);
     m_header->setStretchLastSection(false);
     addScrollBarWidget(m_scrollBarRoom, Qt::AlignTop);
@@ -309,15 +315,48 @@ void ContactView::focusInEvent(QFocusEvent *event)
         selectionModel()->select(currentIndex(), QItemSelectionModel::SelectCurrent | QItemSelectionModel::Rows);
 }
 
-void ContactView::paintEvent(QPaintEvent *event)
+void ContactView::buildInvitation()
 {
-    QTreeView::paintEvent(event);
-    if (!model() || model()->rowCount() > 0)
+    auto *const sentence
+        = new QLabel(tr("Nobody is in your list yet. One click asks everybody on your network."), m_invitation);
+    sentence->setWordWrap(true);
+    sentence->setAlignment(Qt::AlignCenter);
+    auto *const button
+        = new QPushButton(namedPicture(QStringLiteral("search")), tr("Find everybody here"), m_invitation);
+    button->setObjectName(QStringLiteral("findEverybodyBtn"));
+    auto *const layout = new QVBoxLayout(m_invitation);
+    layout->addStretch();
+    layout->addWidget(sentence);
+    layout->addWidget(button, 0, Qt::AlignHCenter);
+    layout->addStretch();
+    connect(button, &QPushButton::clicked, this, &ContactView::everybodyWanted);
+}
+
+void ContactView::setModel(QAbstractItemModel *model)
+{
+    QTreeView::setModel(model);
+    placeInvitation();
+    if (!model)
         return;
-    QPainter painter(viewport());
-    painter.setPen(mutedTextColour(palette()));
-    painter.drawText(viewport()->rect().adjusted(24, 0, -24, 0), Qt::AlignCenter | Qt::TextWordWrap,
-                     tr("No contacts yet: scan the network or add one"));
+    connect(model, &QAbstractItemModel::rowsInserted, this, &ContactView::placeInvitation);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, &ContactView::placeInvitation);
+    connect(model, &QAbstractItemModel::modelReset, this, &ContactView::placeInvitation);
+}
+
+void ContactView::placeInvitation()
+{
+    const bool isEmpty = model() && model()->rowCount() == 0;
+    // Hiding a control that has the focus would pass it on to whatever comes next.
+    if (!isEmpty && m_invitation->isAncestorOf(focusWidget()))
+        setFocus();
+    m_invitation->setGeometry(viewport()->rect());
+    m_invitation->setVisible(isEmpty);
+}
+
+void ContactView::resizeEvent(QResizeEvent *event)
+{
+    QTreeView::resizeEvent(event);
+    placeInvitation();
 }
 
 } // namespace nimb

@@ -36,6 +36,7 @@ class ContactView : public QTreeView
 public:
     explicit ContactView(QWidget *parent = nullptr);
 
+    void setModel(QAbstractItemModel *model) override;
     void setRoomAbove(int room);
     /// Widths in pixels of the columns that the details switch sets; 0 hides a column.
     void setDetailColumns(int workstation, int ipAddress, int stateText);
@@ -51,6 +52,8 @@ Q_SIGNALS:
     void contactOpened(const QString &ip);
     /// One click of the left button.
     void contactClicked(const QString &ip);
+    /// The button was clicked that stands in a list without contacts.
+    void everybodyWanted();
     /// The right button was released, or the menu key pressed.
     void menuWanted(const QPoint &globalPosition);
     /// The pointer moves over a contact, or over none: empty.
@@ -63,14 +66,18 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
 
 private:
     QString addressAt(const QPoint &position) const;
+    void buildInvitation();
+    /// What stands in the list while it is empty.
+    void placeInvitation();
 
     RoomyHeader *m_header;
     QWidget *m_scrollBarRoom;
+    QWidget *m_invitation;
     Qt::MouseButton m_pressed = Qt::NoButton;
     QString m_pressedAddress;
 };

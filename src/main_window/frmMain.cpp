@@ -204,6 +204,7 @@ void frmMain::connectMenus()
     on("mnuRemoveUser", [this] { m_engine->commands.removeUsers(ListView1->selectedAddresses()); });
     on("mnuNetworkscan", [this] { m_engine->windows.mnuNetworkscan(); });
     on("mnuAddUser", [this] { m_engine->windows.mnuAddUser(); });
+    on("mnuFindEverybody", [this] { m_engine->windows.mnuFindEverybody(); });
     on("mnuToolsOptions", [this] { m_engine->windows.mnuToolsOptions(); });
     on("mnuHelpAbout", [this] { m_engine->windows.mnuHelpAbout(); });
     on("mnuTOTD", [this] { m_engine->windows.mnuTOTD(); });
@@ -222,6 +223,7 @@ void frmMain::connectContacts()
     setModelOfKeyedRows(*ListView1, m_engine->contacts);
     connect(ListView1, &ContactView::contactClicked, this, &frmMain::ListView1_Click);
     connect(ListView1, &ContactView::contactOpened, this, &frmMain::ListView1_DblClick);
+    connect(ListView1, &ContactView::everybodyWanted, this, [this] { m_engine->windows.mnuFindEverybody(); });
     connect(ListView1, &ContactView::pointedAt, this, &frmMain::ListView1_MouseMove);
     connect(ListView1, &ContactView::menuWanted, this, &frmMain::mnuPopUp_Show);
     connect(ListView1->selectionModel(), &QItemSelectionModel::selectionChanged, this, &frmMain::refreshContextMenu);

@@ -53,6 +53,7 @@ inline constexpr std::array file = {
 inline constexpr std::array users = {
     MenuEntry{"mnuNetworkscan", QT_TRANSLATE_NOOP("MainMenu", "&Network scan..."), "search"},
     MenuEntry{"mnuAddUser", QT_TRANSLATE_NOOP("MainMenu", "&Add offline user..."), "add-user"},
+    MenuEntry{"mnuFindEverybody", QT_TRANSLATE_NOOP("MainMenu", "&Find everybody here"), "search"},
 };
 inline constexpr std::array conference = {
     MenuEntry{"mnuCreateNewConf", QT_TRANSLATE_NOOP("MainMenu", "Create &new...")},

@@ -1,5 +1,7 @@
 #include "people/add_user.h"
 
+#include "base/remote_text.h"
+
 namespace nimb
 {
 
@@ -31,7 +33,11 @@ bool AddUser::CmdOK_Click(const QString &nickname, const QString &hostname, cons
     contact.workstation = hostname;
     contact.ip = ipaddress;
     contact.setUnheard();
-    return m_contacts.add(std::move(contact));
+    if (!m_contacts.add(std::move(contact)))
+        return false;
+    if (const std::optional<Ipv4Address> ip = readAddress(ipaddress); ip && ip->isUnicast())
+        m_search.askUnlessInvisible({{*ip}}, remoteName(nickname));
+    return true;
 }
 
 } // namespace nimb

@@ -3,6 +3,7 @@
 
 #include "base/prompts.h"
 #include "contacts/admission.h"
+#include "people/search.h"
 
 #include <QCoreApplication>
 
@@ -15,12 +16,13 @@ class AddUser
     Q_DECLARE_TR_FUNCTIONS(AddUser)
 
 public:
-    AddUser(const Common &common, const Admission &admission, ContactList &contacts, Prompts &prompts)
-        : m_common(common), m_admission(admission), m_contacts(contacts), m_prompts(prompts)
+    AddUser(const Common &common, const Admission &admission, ContactList &contacts, Search &search, Prompts &prompts)
+        : m_common(common), m_admission(admission), m_contacts(contacts), m_search(search), m_prompts(prompts)
     {
     }
 
-    /// True when the contact was added; otherwise the user has been told why it was not.
+    /// True when the contact was added, and is asked whether it is there unless the user is invisible; otherwise the
+    /// user has been told why not.
     [[nodiscard]] bool CmdOK_Click(const QString &nickname, const QString &hostname, const QString &ipaddress);
 
 private:
@@ -30,6 +32,7 @@ private:
     const Common &m_common;
     const Admission &m_admission;
     ContactList &m_contacts;
+    Search &m_search;
     Prompts &m_prompts;
 };
 

@@ -4,7 +4,7 @@
 #include "base/Common.h"
 #include "base/main_log.h"
 #include "base/name_resolver.h"
-#include "contacts/announcement.h"
+#include "people/search.h"
 #include "protocol/address_text.h"
 
 namespace nimb
@@ -16,21 +16,28 @@ class NetworkScan
     Q_DECLARE_TR_FUNCTIONS(NetworkScan)
 
 public:
-    NetworkScan(const Common &common, const PresenceSender &sender, NameResolver &resolver, MainLog &log)
-        : m_common(common), m_sender(sender), m_resolver(resolver), m_log(log)
+    NetworkScan(const Common &common, Search &search, NameResolver &resolver, MainLog &log)
+        : m_common(common), m_search(search), m_resolver(resolver), m_log(log)
     {
     }
 
     /// What the box offers to be edited: the own address.
     QString Form_Load() const { return addressText(m_common.ownIP); }
-    /// Asks the dotted address at once, broadcast addresses and such with zeros before a number included. All else is a
-    /// name, which is asked when its address has been found; the main log says when there is none. Blanks around the
-    /// text do not count.
+    /// Asks the dotted address at once, broadcast addresses and such with zeros before a number included, or everybody
+    /// in a range such as "192.168.2.0/24". All else is a name, which is asked when its address has been found; the
+    /// main log says when there is none. Blanks around the text do not count.
     void Command1_Click(const QString &typed);
 
 private:
+    struct Range {
+        Ipv4Address address; ///< any one in it
+        int prefix = 0;      ///< how many bits all of them share
+    };
+    static std::optional<Range> readRange(QStringView text);
+    void ask(const Range &range, const QString &text) const;
+
     const Common &m_common;
-    const PresenceSender &m_sender;
+    Search &m_search;
     NameResolver &m_resolver;
     MainLog &m_log;
 };

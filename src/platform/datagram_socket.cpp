@@ -87,6 +87,27 @@ std::optional<std::uint32_t> lostCount(msghdr &message)
 }
 #endif
 
+/// Tells the system from which of this machine's addresses a datagram leaves.
+class SourceNote
+{
+public:
+    void attachTo(msghdr &message, Ipv4Address source)
+    {
+        message.msg_control = m_bytes.data();
+        message.msg_controllen = m_bytes.size();
+        cmsghdr *const part = CMSG_FIRSTHDR(&message);
+        part->cmsg_level = IPPROTO_IP;
+        part->cmsg_type = IP_PKTINFO;
+        part->cmsg_len = CMSG_LEN(sizeof(in_pktinfo));
+        in_pktinfo info = {};
+        info.ipi_spec_dst.s_addr = htonl(source.number());
+        std::memcpy(CMSG_DATA(part), &info, sizeof info);
+    }
+
+private:
+    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(in_pktinfo))> m_bytes = {};
+};
+
 /// What the system writes beside a datagram.
 struct Slot {
     sockaddr_in source = {};
@@ -191,11 +212,19 @@ void DatagramSocket::setBroadcast(bool allowed)
     set(m_descriptor, SO_BROADCAST, allowed);
 }
 
-bool DatagramSocket::send(Ipv4Endpoint destination, std::string_view bytes)
+bool DatagramSocket::send(Ipv4Endpoint destination, std::string_view bytes, std::optional<Ipv4Address> source)
 {
-    const sockaddr_in address = toSystem(destination);
-    const auto attempt
-        = [&] { return ::sendto(m_descriptor, bytes.data(), bytes.size(), 0, general(address), sizeof address); };
+    sockaddr_in address = toSystem(destination);
+    iovec data = {const_cast<char *>(bytes.data()), bytes.size()}; // it is read only
+    msghdr message = {};
+    message.msg_name = &address;
+    message.msg_namelen = sizeof address;
+    message.msg_iov = &data;
+    message.msg_iovlen = 1;
+    SourceNote note;
+    if (source)
+        note.attachTo(message, *source);
+    const auto attempt = [&] { return ::sendmsg(m_descriptor, &message, 0); };
     auto sent = attempt();
     if (sent < 0 && (errno == EINTR || isEchoOfClosedPort(errno)))
         sent = attempt();

@@ -78,8 +78,9 @@ public:
     /// Whether datagrams to broadcast addresses are sent; at first they are not.
     void setBroadcast(bool allowed);
 
-    /// False when the system did not take the datagram.
-    [[nodiscard]] bool send(Ipv4Endpoint destination, std::string_view bytes);
+    /// False when the system did not take the datagram. source: an address of this machine from which it leaves.
+    [[nodiscard]] bool send(Ipv4Endpoint destination, std::string_view bytes,
+                            std::optional<Ipv4Address> source = std::nullopt);
     /// Takes what waits, as far as there are buffers. Does not wait. May run while another thread sends.
     Reception receive(Buffers &buffers);
 

@@ -5,9 +5,11 @@
 
 #include <QHostInfo>
 #include <QNetworkInterface>
+#include <QRegularExpression>
 #include <QSysInfo>
 
 #include <algorithm>
+#include <array>
 
 namespace nimb
 {
@@ -20,6 +22,15 @@ constexpr Ipv4Endpoint farAway{{192, 0, 2, 1}, 9};
 bool isUsable(Ipv4Address address)
 {
     return !address.isUnspecified() && !address.isLoopback();
+}
+
+bool reachesOthers(const QNetworkInterface &interface)
+{
+    const QNetworkInterface::InterfaceFlags needed
+        = QNetworkInterface::IsUp | QNetworkInterface::IsRunning | QNetworkInterface::CanBroadcast;
+    const QNetworkInterface::InterfaceFlags flags = interface.flags();
+    return (flags & needed) == needed && !flags.testFlag(QNetworkInterface::IsLoopBack)
+        && !flags.testFlag(QNetworkInterface::IsPointToPoint) && !isInsideMachine(interface.name());
 }
 
 std::optional<Ipv4Address> firstOfAnyInterface()
@@ -53,6 +64,17 @@ std::optional<Ipv4Address> broadcastAddress(Ipv4Address address, int prefix)
     return Ipv4Address::of(address.number() | (0xFFFFFFFFU >> prefix));
 }
 
+bool isInsideMachine(const QString &interface)
+{
+    static constexpr std::array names{"docker", "virbr", "vmnet",  "vboxnet",  "lxcbr",
+                                      "lxdbr",  "cni",   "podman", "waydroid", "incusbr"};
+    // A bridge of containers has a number; one that somebody has called br-lan joins machines.
+    static const QRegularExpression numberedBridge(QStringLiteral("^br-[0-9a-f]{12}$"));
+    return numberedBridge.match(interface).hasMatch() || std::ranges::any_of(names, [&interface](const char *name) {
+               return interface.startsWith(QLatin1String(name));
+           });
+}
+
 bool MachineAddresses::isOwn(Ipv4Address address) const
 {
     if (m_fixed)
@@ -67,6 +89,15 @@ bool MachineAddresses::isBroadcast(Ipv4Address address) const
     return std::ranges::find(m_broadcast, address) != m_broadcast.end();
 }
 
+std::vector<NetworkCard> MachineAddresses::cards() const
+{
+    read();
+    std::vector<NetworkCard> cards = m_cards;
+    if (m_fixed) // nothing leaves a socket that is bound to one address from another
+        std::erase_if(cards, [this](const NetworkCard &card) { return card.address != m_fixed; });
+    return cards;
+}
+
 void MachineAddresses::read() const
 {
     if (m_sinceRead.isValid() && m_sinceRead.elapsed() < 2000)
@@ -74,6 +105,7 @@ void MachineAddresses::read() const
     m_sinceRead.start();
     m_own.clear();
     m_broadcast.clear();
+    m_cards.clear();
     for (const QNetworkInterface &interface : QNetworkInterface::allInterfaces()) {
         for (const QNetworkAddressEntry &entry : interface.addressEntries()) {
             if (entry.ip().protocol() != QAbstractSocket::IPv4Protocol)
@@ -81,8 +113,12 @@ void MachineAddresses::read() const
             const Ipv4Address address = Ipv4Address::of(entry.ip().toIPv4Address());
             if (isUsable(address))
                 m_own.push_back(address);
-            if (const auto everybody = broadcastAddress(address, entry.prefixLength()))
-                m_broadcast.push_back(*everybody);
+            const auto everybody = broadcastAddress(address, entry.prefixLength());
+            if (!everybody)
+                continue;
+            m_broadcast.push_back(*everybody);
+            if (reachesOthers(interface))
+                m_cards.push_back({interface.name(), address, *everybody});
         }
     }
 }

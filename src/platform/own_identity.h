@@ -20,6 +20,9 @@ Ipv4Address ownAddress(std::optional<Ipv4Address> fixed);
 /// address. prefix: how many bits of the address name the network.
 std::optional<Ipv4Address> broadcastAddress(Ipv4Address address, int prefix);
 
+/// Whether an interface of this name joins the containers or virtual machines of this machine: nobody else is there.
+bool isInsideMachine(const QString &interface);
+
 /// The addresses of this machine's interfaces. Whoever asks may do so for every datagram of a flood, so they are read
 /// at most once in two seconds, which nobody notices of a network that comes or goes.
 class MachineAddresses : public OwnAddresses
@@ -30,6 +33,7 @@ public:
 
     bool isOwn(Ipv4Address address) const override;
     bool isBroadcast(Ipv4Address address) const override;
+    std::vector<NetworkCard> cards() const override;
 
 private:
     void read() const;
@@ -37,6 +41,7 @@ private:
     const std::optional<Ipv4Address> m_fixed;
     mutable QElapsedTimer m_sinceRead;
     mutable std::vector<Ipv4Address> m_own, m_broadcast;
+    mutable std::vector<NetworkCard> m_cards;
 };
 
 /// The fixed name unless it is empty; otherwise the system's. Never empty, and one word: blanks become hyphens.

@@ -103,7 +103,7 @@ void UdpWinsock::setBroadcast(bool allowed)
 void UdpWinsock::SendData(const std::string &bytes)
 {
     const bool canSend = m_own && m_remoteHost && m_remotePort != 0;
-    if (canSend && m_own->send({*m_remoteHost, m_remotePort}, bytes))
+    if (canSend && m_own->send({*m_remoteHost, m_remotePort}, bytes, m_source))
         return;
     m_drops.count(Drop::notSent);
     if (canSend)

@@ -36,6 +36,7 @@ public:
     void setRemotePort(std::uint16_t port) override { m_remotePort = port; }
     void setRemoteHost(std::optional<Ipv4Address> address) override { m_remoteHost = address; }
     void setBroadcast(bool allowed) override;
+    void setSource(std::optional<Ipv4Address> address) override { m_source = address; }
 
     [[nodiscard]] bool bind() override;
     bool isBound() const override { return m_own.has_value(); }
@@ -67,6 +68,7 @@ private:
     std::uint16_t m_localPort = 0;
     std::uint16_t m_remotePort = 0;
     std::optional<Ipv4Address> m_remoteHost;
+    std::optional<Ipv4Address> m_source; ///< of what is sent
     Ipv4Address m_lastSource;
     Arrival m_waiting; ///< announced and not yet taken
     std::optional<DatagramSocket> m_own;

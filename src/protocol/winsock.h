@@ -40,6 +40,9 @@ public:
     /// Whether the following SendData() may go to everybody on a network. Otherwise, and at first, a datagram to a
     /// broadcast address counts as not sent.
     virtual void setBroadcast(bool allowed) = 0;
+    /// Which of this machine's addresses the following SendData() leaves from. Nothing, as at first: the system chooses
+    /// by the way.
+    virtual void setSource(std::optional<Ipv4Address> address) = 0;
 
     /// Listens on the local port, shared with nobody. False when the port is taken or may not be used; calling it
     /// again tries again, and is free once bound.

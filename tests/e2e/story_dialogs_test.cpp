@@ -19,6 +19,7 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::StartsWith;
+using testing::UnorderedElementsAre;
 
 class StoryDialogs : public testing::Test
 {
@@ -162,6 +163,32 @@ TEST_F(StoryDialogs, AScanOfTheBroadcastAddressReachesACopyThatWasNotKnown)
     cleo.signal(SIGCONT);
     EXPECT_EQ(cleo.end(), 0);
     EXPECT_THAT(cleo.storedContacts(), Contains(StoredContact{"127.0.49.1", "Bob", "BOB-PC"}));
+}
+
+TEST_F(StoryDialogs, EverybodyIsFoundByOneChoiceInTheMenu)
+{
+    const std::vector<StoredContact> annAlone{{"127.0.49.2", "Ann", "ANN-PC"}};
+    RunningCopy cleo({"127.0.49.3", "CLEO-PC"}, profile(port, annAlone));
+    cleo.start({"Cleo"});
+    ann.hearUntil("!STATUS Online");
+    RunningCopy dan({"127.0.49.4", "DAN-PC"}, profile(port, annAlone));
+    dan.start({"Dan"});
+    ann.hearUntil("!STATUS Online");
+    const MainWindow main = start();
+    // Before the others come, or Ann's row would not be the first.
+    ann.send("127.0.49.1", "!ONLINE 127.0.49.2 ANN-PC Ann");
+    const PrivateWindow window = main.openWhenOnline(0, "Ann");
+    main.activate();
+    press("alt+u");
+    press("f");
+    EXPECT_TRUE(waitUntil([&] { return logHeardBy(ann, main, window).find("--- 2 answered: ") != std::string::npos; }));
+    EXPECT_EQ(bob.end(), 0);
+    EXPECT_THAT(bob.storedContacts(),
+                UnorderedElementsAre(StoredContact{"127.0.49.2", "Ann", "ANN-PC"},
+                                     StoredContact{"127.0.49.3", "Cleo", "CLEO-PC"},
+                                     StoredContact{"127.0.49.4", "Dan", "DAN-PC"}));
+    EXPECT_EQ(cleo.end(), 0);
+    EXPECT_EQ(dan.end(), 0);
 }
 
 TEST_F(StoryDialogs, AUserAddedByHandIsKept)

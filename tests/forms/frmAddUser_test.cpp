@@ -21,7 +21,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
-class FrmAddUser : public testing::Test
+class FrmAddUser : public testing::Test, protected SearchSurroundings
 {
 protected:
     FrmAddUser()
@@ -43,13 +43,10 @@ protected:
     }
     bool isGone() { return hasGone(dialog); }
 
-    Common common;
-    ContactList contacts;
     InterruptedPrompts prompts;
-    ToldAddresses ownAddresses;
     DropCounts drops;
     Admission admission{common, contacts, ownAddresses, drops};
-    AddUser rules{common, admission, contacts, prompts};
+    AddUser rules{common, admission, contacts, search, prompts};
     QWidget parent;
     QPointer<frmAddUser> dialog;
 };

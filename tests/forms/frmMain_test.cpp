@@ -82,6 +82,8 @@ TEST_F(FrmMain, BearsItsFixedNames)
                              "mnuinviteuser",
                              "mnuNetworkscan",
                              "mnuAddUser",
+                             "mnuFindEverybody",
+                             "findEverybodyBtn",
                              "mnuToolsOptions",
                              "mnuCreateNewConf",
                              "mnushowinvitations",
@@ -311,6 +313,26 @@ TEST_F(FrmMain, AMessageThatWaitsAtARowIsCountedThereAndOpensOnAClick)
     ASSERT_EQ(RealWindows::privateWindows().size(), std::size_t(limits::windowsOpenedUnasked) + 1);
     EXPECT_EQ(list.model()->index(1, 0).data(ContactList::WaitingRole).toInt(), 0);
     EXPECT_EQ(picture(), none);
+}
+
+TEST(EmptyContactList, SaysWhatToDoAndAsksEverybodyOnAClick)
+{
+    RealWindows windows;
+    windows.main().show();
+    windows.ownAddresses.running = {{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1), Ipv4Address(10, 0, 0, 255)}};
+    auto &button = windows.control<QPushButton>("findEverybodyBtn");
+    EXPECT_TRUE(button.isVisible());
+    EXPECT_EQ(button.text(), QStringLiteral("Find everybody here"));
+    windows.sent();
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_THAT(windows.sent(), ElementsAre(To{"10.0.0.255", "?ONLINE 10.0.0.1 HERE Me"}));
+    button.setFocus();
+    windows.arrive("10.0.0.9", "!ONLINE 10.0.0.9 PC-NEW New");
+    EXPECT_FALSE(button.isVisible());
+    EXPECT_TRUE(windows.list().hasFocus());
+    windows.click(0);
+    windows.entry("mnuRemoveUser").trigger();
+    EXPECT_TRUE(button.isVisible()) << "the list is empty again";
 }
 
 TEST_F(FrmMain, AfterARemovalNobodyIsSelectedAndEnterActsOnNobody)

@@ -56,7 +56,8 @@ TEST_F(MainMenusTest, TheMenuBarHasEveryEntryInItsPlace)
                             "-", "mnuFilePageSetup: Page Setup", "mnuFilePrintPreview: Print Preview",
                             "mnuFilePrint: Print", "-", "mnuFileSend: Send", "-", "-", "mnuFileExit: E&xit"));
     EXPECT_THAT(entriesOf(menu("mnuUsers")),
-                ElementsAre("mnuNetworkscan: &Network scan...", "mnuAddUser: &Add offline user..."));
+                ElementsAre("mnuNetworkscan: &Network scan...", "mnuAddUser: &Add offline user...",
+                            "mnuFindEverybody: &Find everybody here"));
     EXPECT_THAT(entriesOf(menu("mnuConference")),
                 ElementsAre("mnuCreateNewConf: Create &new...", "mnushowinvitations: View &invitations..."));
     EXPECT_THAT(entriesOf(menu("mnuTools")),
@@ -228,6 +229,18 @@ TEST_F(MainMenusTest, EveryDialogOpensFromItsEntryAndTheProgramGoesOn)
     }
 }
 
+TEST_F(MainMenusTest, EverybodyIsAskedWithoutADialog)
+{
+    windows.ownAddresses.running = {{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1), Ipv4Address(10, 0, 0, 255)}};
+    windows.sent();
+    windows.entry("mnuFindEverybody").trigger();
+    EXPECT_THAT(windows.sent(), ElementsAre(To{"10.0.0.255", "?ONLINE 10.0.0.1 HERE Me"}));
+    EXPECT_THAT(dialogs(), IsEmpty());
+    windows.arrive("10.0.0.9", "!ONLINE 10.0.0.9 PC-NEW New");
+    windows.time.advance(std::chrono::seconds(3));
+    EXPECT_TRUE(windows.logText().contains(QStringLiteral("--- 1 answered: New; 1 new ---")));
+}
+
 TEST_F(MainMenusTest, TheTipIsShownOnceHoweverOftenItIsAskedFor)
 {
     windows.entry("mnuTOTD").trigger();
@@ -291,7 +304,7 @@ TEST_F(MainMenusTest, AnAddedUserStandsInTheListAsNotYetKnown)
     const QModelIndex last = windows.list().model()->index(2, 0);
     EXPECT_EQ(last.data().toString(), QStringLiteral("Zoe"));
     EXPECT_EQ(last.data(Qt::UserRole + 2).toString(), QStringLiteral("yellow"));
-    EXPECT_THAT(windows.sent(), IsEmpty());
+    EXPECT_THAT(windows.sent(), ElementsAre(To{"10.0.0.9", "?ONLINE 10.0.0.1 HERE Me"}));
 }
 
 TEST_F(MainMenusTest, AnInvitationGoesToTheSelectedContactsComputer)

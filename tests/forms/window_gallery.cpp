@@ -117,6 +117,25 @@ void takeMain(Gallery &gallery)
     windows.click(1, Qt::RightButton);
     gallery.take(menu, "main_context_menu");
     menu.close();
+    auto &users = windows.control<QMenu>("mnuUsers");
+    users.popup(windows.main().pos() + QPoint(20, 60));
+    gallery.take(users, "main_users_menu");
+    users.close();
+}
+
+void takeMainAfterASearch(Gallery &gallery)
+{
+    RealWindows windows;
+    windows.ownAddresses.running = {{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1), Ipv4Address(10, 0, 0, 255)},
+                                    {QStringLiteral("wlan0"), Ipv4Address(10, 7, 0, 1), Ipv4Address(10, 7, 3, 255)}};
+    windows.ownAddresses.broadcast = {Ipv4Address(10, 0, 0, 255)};
+    windows.control<QPushButton>("findEverybodyBtn").click();
+    windows.time.advance(std::chrono::seconds(3));
+    windows.control<QPushButton>("findEverybodyBtn").click();
+    for (const auto &[ip, name] : everybody)
+        windows.arrive(ip, "!ONLINE " + std::string(ip) + " PC " + name);
+    windows.time.advance(std::chrono::seconds(3));
+    gallery.take(windows.main(), "main_after_a_search");
 }
 
 void takeMainInTrouble(Gallery &gallery)
@@ -379,6 +398,7 @@ int main(int argc, char *argv[])
     nimb::test::Gallery gallery(words[1]);
     nimb::test::takeLogin(gallery);
     nimb::test::takeMain(gallery);
+    nimb::test::takeMainAfterASearch(gallery);
     nimb::test::takeMainInTrouble(gallery);
     nimb::test::takeMainWithThousand(gallery);
     nimb::test::takePrivate(gallery);

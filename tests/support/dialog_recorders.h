@@ -75,9 +75,9 @@ public:
     int starts = 0;
 };
 
-/// A network scan of 192.168.1.5 and what it acts on.
-struct ScanSurroundings {
-    ScanSurroundings()
+/// A search from 192.168.1.5 and what it acts on.
+struct SearchSurroundings {
+    SearchSurroundings()
     {
         common.ownIP = Ipv4Address(192, 168, 1, 5);
         common.ownHostName = QStringLiteral("HERE");
@@ -86,13 +86,19 @@ struct ScanSurroundings {
     }
 
     Common common;
+    ContactList contacts;
+    ToldAddresses ownAddresses;
     SimulatedWinsock socket{QStringLiteral("192.168.1.5"), QStringLiteral("HERE"), nullptr};
-    RecorderResolver resolver;
     RecorderLog shown;
     VirtualTime time;
     PresenceSender sender{common, socket};
     MainLog log{shown, time};
-    NetworkScan scan{common, sender, resolver, log};
+    Search search{{common, sender, contacts, ownAddresses, log, time}};
+};
+
+struct ScanSurroundings : SearchSurroundings {
+    RecorderResolver resolver;
+    NetworkScan scan{common, search, resolver, log};
 };
 
 } // namespace nimb::test

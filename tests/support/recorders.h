@@ -494,7 +494,10 @@ public:
     bool isOwn(Ipv4Address address) const override { return own.contains(address); }
     bool isBroadcast(Ipv4Address address) const override { return broadcast.contains(address); }
 
+    std::vector<NetworkCard> cards() const override { return running; }
+
     std::set<Ipv4Address> own, broadcast;
+    std::vector<NetworkCard> running;
 };
 
 /// What is to be told at the next start.

@@ -79,6 +79,7 @@ public:
     void setRemotePort(std::uint16_t port) override { remotePort = port; }
     void setRemoteHost(std::optional<Ipv4Address> address) override { m_remoteHost = address; }
     void setBroadcast(bool allowed) override { broadcast = allowed; }
+    void setSource(std::optional<Ipv4Address> address) override { source = address; }
     bool bind() override
     {
         m_bound = !portTaken;
@@ -91,6 +92,7 @@ public:
         if (!m_bound || !m_remoteHost || (isBroadcast(*m_remoteHost) && !broadcast))
             return;
         sent.push_back({m_remoteHost->toText(), bytes});
+        sources.push_back(source);
         if (m_network)
             m_network->send(addressText(m_ip), addressText(*m_remoteHost), bytes);
     }
@@ -111,6 +113,8 @@ public:
     static bool isBroadcast(Ipv4Address address) { return address.number() % 256 == 255; }
 
     bool broadcast = false; ///< datagrams to everybody leave the machine
+    std::optional<Ipv4Address> source;
+    std::vector<std::optional<Ipv4Address>> sources; ///< of all that was ever sent
     bool portTaken = false;
     BindFailure failure = BindFailure::portTaken; ///< what a taken port looks like
     std::uint16_t localPort = 0;

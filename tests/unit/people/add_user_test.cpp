@@ -1,6 +1,7 @@
 #include "people/add_user.h"
 
-#include "recorders.h"
+#include "copy.h"
+#include "dialog_recorders.h"
 
 #include <gmock/gmock.h>
 
@@ -9,10 +10,11 @@ namespace nimb::test
 namespace
 {
 
+using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class AddUserTest : public testing::Test
+class AddUserTest : public testing::Test, protected SearchSurroundings
 {
 protected:
     AddUserTest()
@@ -38,13 +40,10 @@ protected:
         return contacts.index(contacts.rowOf(QString::fromLatin1(ip)), 0).data(role).toString();
     }
 
-    Common common;
-    ContactList contacts;
     RecorderPrompts prompts;
-    ToldAddresses ownAddresses;
     DropCounts drops;
     Admission admission{common, contacts, ownAddresses, drops};
-    AddUser rules{common, admission, contacts, prompts};
+    AddUser rules{common, admission, contacts, search, prompts};
 };
 
 TEST_F(AddUserTest, NoOtherAddressOfThisMachineAndNoneThatEverybodyHearsIsTaken)
@@ -59,6 +58,37 @@ TEST_F(AddUserTest, NoOtherAddressOfThisMachineAndNoneThatEverybodyHearsIsTaken)
                     "NIMB-Chat: This is not the address of one computer: everybody on the network hears what is "
                     "sent there."));
     EXPECT_EQ(contacts.rowCount(), 1);
+}
+
+TEST_F(AddUserTest, WhoIsAddedIsAsked)
+{
+    EXPECT_TRUE(add("Ben", "PC-BEN", "192.168.0.8"));
+    EXPECT_THAT(shown.lines(), ElementsAre("--- asking Ben who is there ---"));
+    time.advance(1s);
+    const std::string question = "?ONLINE " + common.ownIP.toText() + " HERE Me";
+    EXPECT_THAT(socket.sent, ElementsAre(To{"192.168.0.8", question}, To{"192.168.0.8", question}));
+}
+
+TEST_F(AddUserTest, ANameInsteadOfAnAddressIsAskedNothing)
+{
+    EXPECT_TRUE(add("Ben", "PC-BEN", "ben.example"));
+    EXPECT_THAT(socket.sent, IsEmpty());
+    EXPECT_THAT(shown.lines(), IsEmpty());
+}
+
+TEST_F(AddUserTest, AnAddressThatIsNotOfOneHostIsAskedNothing)
+{
+    EXPECT_TRUE(add("Many", "MANY", "224.0.0.1"));
+    EXPECT_TRUE(add("None", "NONE", "0.0.0.0"));
+    EXPECT_THAT(socket.sent, IsEmpty());
+}
+
+TEST_F(AddUserTest, WhoIsInvisibleAsksNobody)
+{
+    common.ownPresence.base = BaseState::invisible;
+    EXPECT_TRUE(add("Ben", "PC-BEN", "192.168.0.8"));
+    EXPECT_THAT(socket.sent, IsEmpty());
+    EXPECT_THAT(shown.lines(), IsEmpty());
 }
 
 TEST_F(AddUserTest, AddsARowThatIsNotYetKnown)

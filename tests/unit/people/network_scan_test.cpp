@@ -2,14 +2,18 @@
 
 #include "copy.h"
 #include "dialog_recorders.h"
+#include "simulated_subnet.h"
 
 #include <gmock/gmock.h>
+
+#include <set>
 
 namespace nimb::test
 {
 namespace
 {
 
+using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -29,7 +33,7 @@ TEST_F(NetworkScanTest, AsksAnAddressAtOnceWithTheQuestionOfTheAnnouncement)
     click("192.168.7.20");
     EXPECT_THAT(socket.sent, ElementsAre(To{"192.168.7.20", "?ONLINE 192.168.1.5 HERE Me"}));
     EXPECT_THAT(resolver.names, IsEmpty());
-    EXPECT_THAT(shown.lines(), IsEmpty());
+    EXPECT_THAT(shown.lines(), ElementsAre("--- asking 192.168.7.20 who is there ---"));
 }
 
 TEST_F(NetworkScanTest, AsksBroadcastAddresses)
@@ -56,6 +60,73 @@ TEST_F(NetworkScanTest, NumbersWithZerosBeforeThemAreDecimal)
     EXPECT_THAT(socket.sent, ElementsAre(To{"192.168.10.5", "?ONLINE 192.168.1.5 HERE Me"}));
 }
 
+TEST_F(NetworkScanTest, ARangeIsAskedAddressByAddressButNotItsEndsNorOneself)
+{
+    click("192.168.1.77/29");
+    EXPECT_THAT(
+        socket.sent,
+        ElementsAre(
+            To{"192.168.1.73", "?ONLINE 192.168.1.5 HERE Me"}, To{"192.168.1.74", "?ONLINE 192.168.1.5 HERE Me"},
+            To{"192.168.1.75", "?ONLINE 192.168.1.5 HERE Me"}, To{"192.168.1.76", "?ONLINE 192.168.1.5 HERE Me"},
+            To{"192.168.1.77", "?ONLINE 192.168.1.5 HERE Me"}, To{"192.168.1.78", "?ONLINE 192.168.1.5 HERE Me"}));
+    EXPECT_THAT(shown.lines(), ElementsAre("--- asking 192.168.1.77/29 who is there ---"));
+    socket.sent.clear();
+    click("192.168.1.6/30");
+    EXPECT_THAT(socket.sent, ElementsAre(To{"192.168.1.6", "?ONLINE 192.168.1.5 HERE Me"}));
+    socket.sent.clear();
+    click("192.168.1.8/31");
+    EXPECT_THAT(socket.sent,
+                ElementsAre(To{"192.168.1.8", "?ONLINE 192.168.1.5 HERE Me"},
+                            To{"192.168.1.9", "?ONLINE 192.168.1.5 HERE Me"}));
+    socket.sent.clear();
+    click("192.168.1.10/32");
+    EXPECT_THAT(socket.sent, ElementsAre(To{"192.168.1.10", "?ONLINE 192.168.1.5 HERE Me"}));
+}
+
+TEST_F(NetworkScanTest, AWholeNetworkOfTwoHundredAndFiftyFourIsAsked)
+{
+    click("10.0.0.0/24");
+    time.advance(2500ms);
+    std::set<std::string> asked;
+    for (const To &to : socket.sent)
+        asked.insert(to.ip);
+    EXPECT_EQ(asked.size(), 254U);
+    EXPECT_EQ(asked.count("10.0.0.0") + asked.count("10.0.0.255"), 0U);
+}
+
+TEST_F(NetworkScanTest, ALargerRangeIsRefused)
+{
+    click("10.0.0.0/23");
+    click("0.0.0.0/0");
+    EXPECT_THAT(socket.sent, IsEmpty());
+    EXPECT_THAT(shown.lines(),
+                ElementsAre("10.0.0.0/23 has too many addresses to be asked one by one: the largest range is /24.",
+                            "0.0.0.0/0 has too many addresses to be asked one by one: the largest range is /24."));
+}
+
+TEST_F(NetworkScanTest, ItIsSaidThatTheOwnAddressIsOnesOwn)
+{
+    click("192.168.1.5");
+    EXPECT_THAT(shown.lines(),
+                ElementsAre("--- 192.168.1.5 is your own address: nobody else hears what is sent there ---"));
+    EXPECT_THAT(socket.sent, ElementsAre(To{"192.168.1.5", "?ONLINE 192.168.1.5 HERE Me"}));
+    shown.clear();
+    ownAddresses.own = {Ipv4Address(172, 16, 0, 5)};
+    click("172.16.0.5");
+    click("127.0.0.1");
+    click("192.168.1.5/32");
+    click("MY-OTHER-NAME");
+    resolver.answer(0, Ipv4Address(127, 0, 1, 1));
+    EXPECT_THAT(shown.lines(),
+                ElementsAre("--- 172.16.0.5 is your own address: nobody else hears what is sent there ---",
+                            "--- 127.0.0.1 is your own address: nobody else hears what is sent there ---",
+                            "--- 192.168.1.5 is your own address: nobody else hears what is sent there ---",
+                            "--- 127.0.1.1 is your own address: nobody else hears what is sent there ---"));
+    shown.clear();
+    time.advance(5s);
+    EXPECT_THAT(shown.lines(), IsEmpty()) << "nothing more is to be said of oneself";
+}
+
 TEST_F(NetworkScanTest, AnEmptyTextDoesNothing)
 {
     click("");
@@ -79,7 +150,8 @@ TEST_P(NoDottedAddress, IsTakenForAName)
 INSTANTIATE_TEST_SUITE_P(NetworkScan, NoDottedAddress,
                          testing::Values("PC-ANN", "192.168.1", "192.168.1.1.1", "192.168.1.256", "192.168.1.",
                                          "192.168.1.-1", "192.168.1.+1", "192.168.1.0001", "192.168. 1.1", "1.2.3.x",
-                                         "0x7f.0.0.1", "::1", "fe80::1", "\xD9\xA1.2.3.4", "$(reboot)"));
+                                         "0x7f.0.0.1", "::1", "fe80::1", "10.0.0.0/33", "10.0.0.0/-1", "10.0.0.0/x",
+                                         "10.0.0/24", "/24", "\xD9\xA1.2.3.4", "$(reboot)"));
 
 TEST_F(NetworkScanTest, ANameIsAskedWhenItsAddressIsFound)
 {
@@ -87,7 +159,7 @@ TEST_F(NetworkScanTest, ANameIsAskedWhenItsAddressIsFound)
     EXPECT_THAT(socket.sent, IsEmpty());
     resolver.answer(0, Ipv4Address(10, 0, 0, 2));
     EXPECT_THAT(socket.sent, ElementsAre(To{"10.0.0.2", "?ONLINE 192.168.1.5 HERE Me"}));
-    EXPECT_THAT(shown.lines(), IsEmpty());
+    EXPECT_THAT(shown.lines(), ElementsAre("--- asking PC-ANN who is there ---"));
 }
 
 TEST_F(NetworkScanTest, ANameThatIsNotFoundIsSaidInTheLogAndNobodyIsAsked)
@@ -109,52 +181,33 @@ TEST_F(NetworkScanTest, TheLogNamesWhatWasTypedOnOneLineAndNotWithoutEnd)
 TEST_F(NetworkScanTest, AnAnswerFindsItsWayWhenTheScanIsGone)
 {
     {
-        NetworkScan passing(common, sender, resolver, log);
+        NetworkScan passing(common, search, resolver, log);
         passing.Command1_Click(QStringLiteral("PC-ANN"));
         passing.Command1_Click(QStringLiteral("PC-BEN"));
     }
     resolver.answer(1, std::nullopt);
     resolver.answer(0, Ipv4Address(10, 0, 0, 2));
     EXPECT_THAT(socket.sent, ElementsAre(To{"10.0.0.2", "?ONLINE 192.168.1.5 HERE Me"}));
-    EXPECT_THAT(shown.lines(), ElementsAre("No address was found for \"PC-BEN\", so nobody was asked."));
-}
-
-TEST_F(NetworkScanTest, AQuestionThatCannotBeSentIsNotReported)
-{
-    SimulatedWinsock unbound(QStringLiteral("192.168.1.5"), QStringLiteral("HERE"), nullptr);
-    const PresenceSender mute(common, unbound);
-    NetworkScan(common, mute, resolver, log).Command1_Click(QStringLiteral("10.0.0.2"));
-    EXPECT_THAT(unbound.sent, IsEmpty());
-    EXPECT_THAT(shown.lines(), IsEmpty());
+    EXPECT_THAT(
+        shown.lines(),
+        ElementsAre("No address was found for \"PC-BEN\", so nobody was asked.", "--- asking PC-ANN who is there ---"));
 }
 
 // --- whole copies on one subnet
 
-/// Delivers what goes to 192.168.1.255 to everybody there, its sender included.
-class Subnet : public SimulatedNetwork
-{
-public:
-    void send(const QString &from, const QString &to, const std::string &bytes) override
-    {
-        if (to != QLatin1String("192.168.1.255")) {
-            SimulatedNetwork::send(from, to, bytes);
-            return;
-        }
-        for (int last = 1; last < 255; ++last)
-            SimulatedNetwork::send(from, QStringLiteral("192.168.1.%1").arg(last), bytes);
-    }
-};
-
 class NetworkScanOnASubnet : public testing::Test
 {
 protected:
+    /// And gives the others a second and a half.
     void scanFor(const char *text)
     {
-        NetworkScan(me.common, sender, resolver, me.engine.log()).Command1_Click(QLatin1String(text));
+        NetworkScan(me.common, me.engine.search(), resolver, me.engine.log()).Command1_Click(QLatin1String(text));
+        network.settle();
+        me.advance(1500ms);
         network.settle();
     }
 
-    Subnet network;
+    SimulatedSubnet network{QStringLiteral("192.168.1.")};
     Copy me{{.ip = QStringLiteral("192.168.1.5"), .host = QStringLiteral("HERE")}, &network};
     Copy ann{
         {.ip = QStringLiteral("192.168.1.20"), .host = QStringLiteral("PC-ANN"), .nickname = QStringLiteral("Ann")},
@@ -162,19 +215,14 @@ protected:
     Copy ben{
         {.ip = QStringLiteral("192.168.1.30"), .host = QStringLiteral("PC-BEN"), .nickname = QStringLiteral("Ben")},
         &network};
-    PresenceSender sender{me.common, me.socket};
     RecorderResolver resolver;
 };
 
-TEST_F(NetworkScanOnASubnet, ABroadcastReachesEverybodyAndWhoKnowsUsAnswersAndIsAdded)
+TEST_F(NetworkScanOnASubnet, ABroadcastReachesEverybodyAndEachOneIsAdded)
 {
     scanFor("192.168.1.255");
-    // Whoever has not heard of us before takes note of us and keeps silent.
     EXPECT_THAT(ann.names(), ElementsAre("Me"));
     EXPECT_THAT(ben.names(), ElementsAre("Me"));
-    EXPECT_THAT(me.names(), IsEmpty());
-
-    scanFor("192.168.1.255");
     EXPECT_THAT(me.names(), ElementsAre("Ann", "Ben"));
     EXPECT_EQ(me.contact("192.168.1.20").presence, Presence::online);
     EXPECT_EQ(me.contact("192.168.1.30").workstation, QStringLiteral("PC-BEN"));

@@ -77,6 +77,25 @@ TEST(OwnIdentity, WhatEverybodyOnThisMachineHearsIsNobodysAddress)
         EXPECT_FALSE(machine.isBroadcast(address)) << address.toText();
 }
 
+TEST(OwnIdentity, EveryCardHasABroadcastAddressOfItsOwnAndNoneIsLoopback)
+{
+    const MachineAddresses machine(std::nullopt);
+    for (const NetworkCard &card : machine.cards()) {
+        EXPECT_TRUE(machine.isOwn(card.address)) << qPrintable(card.name);
+        EXPECT_TRUE(machine.isBroadcast(card.broadcast)) << qPrintable(card.name);
+        EXPECT_FALSE(card.address.isLoopback()) << qPrintable(card.name);
+    }
+    EXPECT_THAT(MachineAddresses(Ipv4Address(127, 0, 3, 1)).cards(), testing::IsEmpty());
+}
+
+TEST(OwnIdentity, NetworksOfContainersAndVirtualMachinesAreKnownByTheirNames)
+{
+    for (const char *const name : {"docker0", "br-1a2b3c4d5e6f", "virbr0", "vmnet8", "vboxnet0", "lxcbr0", "podman1"})
+        EXPECT_TRUE(isInsideMachine(QLatin1String(name))) << name;
+    for (const char *const name : {"eth0", "enp3s0", "wlan0", "br0", "br-lan", "bond0", "veth1", "usb0"})
+        EXPECT_FALSE(isInsideMachine(QLatin1String(name))) << name;
+}
+
 TEST(OwnIdentity, TheFixedHostNameWins)
 {
     EXPECT_EQ(ownHostName("PC-ANN"), "PC-ANN");

@@ -276,6 +276,20 @@ TEST(UdpWinsock, WithoutAnAddressHearsWhateverReachesTheMachine)
     EXPECT_THAT(copy.heard, ElementsAre(Heard{"one", "127.0.1.2"}, Heard{"all", "127.0.1.2"}));
 }
 
+TEST(UdpWinsock, LeavesFromTheAddressOfThisMachineThatIsAskedForUntilAnotherIs)
+{
+    const RawPeer peer("127.0.1.2", otherTestPort());
+    Copy copy;
+    copy.socket.setRemotePort(otherTestPort());
+    ASSERT_TRUE(copy.socket.bind());
+    copy.socket.setSource(Ipv4Address(127, 0, 1, 7));
+    copy.sendTo(Ipv4Address(127, 0, 1, 2), "from seven");
+    copy.socket.setSource(std::nullopt);
+    copy.sendTo(Ipv4Address(127, 0, 1, 2), "as usual");
+    EXPECT_EQ(peer.receive(), (RawPeer::Datagram{"from seven", "127.0.1.7", testPort()}));
+    EXPECT_EQ(peer.receive(), (RawPeer::Datagram{"as usual", "127.0.0.1", testPort()}));
+}
+
 TEST(UdpWinsock, TakesAMalformedAddressForNone)
 {
     const RawPeer peer("127.0.1.2", otherTestPort());

@@ -1,0 +1,153 @@
+#include "people/search.h"
+
+#include "base/limits.h"
+#include "base/remote_text.h"
+#include "protocol/address_text.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace nimb
+{
+namespace
+{
+
+constexpr std::chrono::milliseconds tickTime{100};
+constexpr std::size_t ticksOfSecond = 10;
+constexpr std::size_t secondQuestion = ticksOfSecond;
+constexpr std::size_t endOfAnswers = 3 * ticksOfSecond;
+
+std::size_t batchesOf(std::size_t targets)
+{
+    return (targets + limits::questionsOfSearch - 1) / limits::questionsOfSearch;
+}
+
+} // namespace
+
+void Search::ask(std::vector<SearchTarget> targets, const QString &where)
+{
+    std::erase_if(m_runs, [](const auto &run) { return !run->timer->isActive(); });
+    if (targets.empty())
+        return;
+    if (targets.size() == 1 && isOneself(targets.front().destination))
+        return askOneself(targets.front().destination);
+    m_parts.log.note(tr("asking %1 who is there").arg(where));
+    Run &run = *m_runs.emplace_back(std::make_unique<Run>());
+    run.targets = std::move(targets);
+    run.timer = m_parts.timers.repeating(tickTime, [this, &run] {
+        ++run.tick;
+        tick(run);
+    });
+    run.timer->start();
+    tick(run);
+}
+
+void Search::askUnlessInvisible(std::vector<SearchTarget> targets, const QString &where)
+{
+    if (!m_parts.common.isInvisible())
+        ask(std::move(targets), where);
+}
+
+void Search::findEverybody()
+{
+    if (m_parts.common.isInvisible())
+        return m_parts.log.note(
+            tr("nobody was asked: you are invisible, and the question would show everybody that you "
+               "are there"));
+    // Copies that have addresses of the loopback network are on this machine, and on no other.
+    if (m_parts.common.ownIP.isLoopback()) {
+        constexpr Ipv4Address everybodyHere(127, 255, 255, 255);
+        return ask({{everybodyHere}}, tr("everybody on this computer"));
+    }
+    std::vector<SearchTarget> targets;
+    QStringList networks;
+    for (const NetworkCard &card : m_parts.ownAddresses.cards()) {
+        targets.push_back({card.broadcast, card.address});
+        networks.append(tr("%1 (%2)").arg(addressText(card.broadcast), card.name));
+    }
+    if (targets.empty())
+        return m_parts.log.note(tr("nobody can be asked: no network is connected"));
+    ask(std::move(targets), tr("everybody on %1").arg(networks.join(QStringLiteral(", "))));
+}
+
+void Search::tick(Run &run)
+{
+    askBatch(run, run.tick, false);
+    if (run.tick >= secondQuestion)
+        askBatch(run, run.tick - secondQuestion, true);
+    if (run.tick + 1 >= batchesOf(run.targets.size()) + endOfAnswers)
+        finish(run);
+}
+
+void Search::askBatch(const Run &run, std::size_t batch, bool again) const
+{
+    const std::size_t end = std::min(run.targets.size(), (batch + 1) * limits::questionsOfSearch);
+    for (std::size_t i = batch * limits::questionsOfSearch; i < end; ++i) {
+        const SearchTarget &target = run.targets[i];
+        const bool hasAnswered = std::ranges::find(run.answers, target.destination) != run.answers.end();
+        if (!again || !hasAnswered)
+            m_parts.sender.questionToAll(target.destination, target.source);
+    }
+}
+
+bool Search::isOneself(Ipv4Address address) const
+{
+    const Ipv4Address own = m_parts.common.ownIP;
+    return address == own || m_parts.ownAddresses.isOwn(address) || (address.isLoopback() && !own.isLoopback());
+}
+
+/// The question goes out all the same: it shows that the socket works.
+void Search::askOneself(Ipv4Address address) const
+{
+    m_parts.sender.questionToAll(address, std::nullopt);
+    m_parts.log.note(tr("%1 is your own address: nobody else hears what is sent there").arg(addressText(address)));
+}
+
+bool Search::isEverybodys(Ipv4Address address) const
+{
+    // Those of other networks are not known, and most of them end so.
+    return m_parts.ownAddresses.isBroadcast(address) || address.number() % 256 == 255;
+}
+
+bool Search::concerns(const Run &run, Ipv4Address ip) const
+{
+    return run.timer->isActive() && std::ranges::any_of(run.targets, [this, ip](const SearchTarget &target) {
+               return target.destination == ip || isEverybodys(target.destination);
+           });
+}
+
+void Search::seenOnline(Ipv4Address ip, bool isNew)
+{
+    for (const auto &run : m_runs) {
+        if (!concerns(*run, ip))
+            continue;
+        if (std::ranges::find(run->answers, ip) == run->answers.end())
+            run->answers.push_back(ip);
+        run->newOnes += isNew ? 1 : 0;
+    }
+}
+
+QString Search::names(const Run &run) const
+{
+    QStringList names;
+    for (const Ipv4Address ip : run.answers) {
+        if (const Contact *const contact = m_parts.contacts.find(ip); contact && names.size() < limits::namesOfAnswer)
+            names.append(paintedName(contact->nickname));
+    }
+    if (const qsizetype more = static_cast<qsizetype>(run.answers.size()) - names.size(); more > 0)
+        names.append(tr("%n more", nullptr, static_cast<int>(more)));
+    return names.join(QStringLiteral(", "));
+}
+
+void Search::finish(Run &run)
+{
+    run.timer->stop();
+    if (run.answers.empty())
+        return m_parts.log.note(tr("nobody answered: nobody may be there, a firewall may be in the way, or the network "
+                                   "may keep its machines apart"));
+    m_parts.log.note(tr("%1 answered: %2; %3 new")
+                         .arg(QString::number(run.answers.size()), names(run), QString::number(run.newOnes)));
+}
+
+} // namespace nimb

@@ -1,0 +1,72 @@
+// Asks strangers who is there, and tells who answered.
+#pragma once
+
+#include "base/main_log.h"
+#include "base/own_addresses.h"
+#include "contacts/announcement.h"
+#include "contacts/presence_receiver.h"
+
+#include <memory>
+#include <vector>
+
+namespace nimb
+{
+
+/// One question somewhere, as it leaves this machine.
+struct SearchTarget {
+    Ipv4Address destination;             ///< of one copy, or of everybody on a network
+    std::optional<Ipv4Address> source{}; ///< of the card through which it goes; nothing: as the system chooses
+    bool operator==(const SearchTarget &) const = default;
+};
+
+/// Everybody is asked twice: whoever does not know this copy takes note of it at the first question, and answers the
+/// second. The main log says what is asked, and who has answered when the time for it is over.
+class Search : public PresenceWitness
+{
+    Q_DECLARE_TR_FUNCTIONS(Search)
+
+public:
+    struct Parts {
+        const Common &common;
+        const PresenceSender &sender;
+        const ContactList &contacts;
+        const OwnAddresses &ownAddresses;
+        MainLog &log;
+        Timers &timers;
+    };
+
+    explicit Search(const Parts &parts) : m_parts(parts) { }
+
+    /// where: what the log calls the targets. At most limits::questionsOfSearch leave in a tenth of a second.
+    void ask(std::vector<SearchTarget> targets, const QString &where);
+    /// For questions that the user has not asked for in so many words: they would show that he is there.
+    void askUnlessInvisible(std::vector<SearchTarget> targets, const QString &where);
+
+    /// Asks everybody on every network that this machine is in, unless the user is invisible.
+    void findEverybody();
+
+    void seenOnline(Ipv4Address ip, bool isNew) override;
+
+private:
+    struct Run {
+        std::vector<SearchTarget> targets;
+        std::size_t tick = 0;             ///< tenths of a second since the first question
+        std::vector<Ipv4Address> answers; ///< in the order in which they came, each one once
+        int newOnes = 0;
+        std::unique_ptr<Timer> timer;
+    };
+
+    void tick(Run &run);
+    void askBatch(const Run &run, std::size_t batch, bool again) const;
+    bool concerns(const Run &run, Ipv4Address ip) const;
+    bool isOneself(Ipv4Address address) const;
+    void askOneself(Ipv4Address address) const;
+    bool isEverybodys(Ipv4Address address) const;
+    void finish(Run &run);
+    QString names(const Run &run) const;
+
+    Parts m_parts;
+    std::vector<std::unique_ptr<Run>> m_runs;
+};
+
+} // namespace nimb

@@ -1,0 +1,219 @@
+#include "people/search.h"
+
+#include "copy.h"
+#include "simulated_subnet.h"
+
+#include <gmock/gmock.h>
+
+namespace nimb::test
+{
+namespace
+{
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::IsEmpty;
+using testing::SizeIs;
+using testing::StartsWith;
+
+class SearchTest : public testing::Test
+{
+protected:
+    SearchTest() { me.ownAddresses.broadcast = {everybody}; }
+
+    Search &search() { return me.engine.search(); }
+    void ask(Ipv4Address address) { search().ask({{address}}, addressText(address)); }
+    void pass(std::chrono::milliseconds time)
+    {
+        for (; time > 0ms; time -= 100ms) {
+            network.settle();
+            me.advance(100ms);
+        }
+        network.settle();
+    }
+    std::string lastLine() { return me.view.log.lines().back(); }
+
+    const Ipv4Address everybody{10, 0, 0, 255};
+    SimulatedSubnet network{QStringLiteral("10.0.0.")};
+    Copy me{{.ip = QStringLiteral("10.0.0.1"), .host = QStringLiteral("HERE")}, &network};
+    Copy ann{{.ip = QStringLiteral("10.0.0.2"), .host = QStringLiteral("PC-ANN"), .nickname = QStringLiteral("Ann")},
+             &network};
+    Copy ben{{.ip = QStringLiteral("10.0.0.3"), .host = QStringLiteral("PC-BEN"), .nickname = QStringLiteral("Ben")},
+             &network};
+};
+
+TEST_F(SearchTest, ANewcomerFindsEverybodyWithOneSearch)
+{
+    ask(everybody);
+    EXPECT_EQ(lastLine(), "--- asking 10.0.0.255 who is there ---");
+    pass(2s);
+    EXPECT_THAT(me.names(), ElementsAre("Ann", "Ben"));
+    EXPECT_THAT(ann.names(), ElementsAre("Me"));
+    EXPECT_THAT(
+        me.sent(),
+        ElementsAre(To{"10.0.0.255", "?ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.255", "?ONLINE 10.0.0.1 HERE Me"}));
+    pass(1s);
+    EXPECT_EQ(lastLine(), "--- 2 answered: Ann, Ben; 2 new ---");
+}
+
+TEST_F(SearchTest, WhoAnswersTheFirstQuestionIsNotAskedAgain)
+{
+    ask(Ipv4Address(10, 0, 0, 2));
+    pass(3s);
+    EXPECT_THAT(me.names(), ElementsAre("Ann"));
+    me.sent();
+    ask(Ipv4Address(10, 0, 0, 2));
+    pass(3s);
+    EXPECT_THAT(me.sent(), ElementsAre(To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Me"}));
+    EXPECT_EQ(lastLine(), "--- 1 answered: Ann; 0 new ---");
+}
+
+TEST_F(SearchTest, SilenceIsSaid)
+{
+    ask(Ipv4Address(10, 0, 0, 77));
+    pass(2900ms);
+    EXPECT_EQ(lastLine(), "--- asking 10.0.0.77 who is there ---");
+    pass(100ms);
+    EXPECT_THAT(lastLine(), StartsWith("--- nobody answered"));
+    EXPECT_THAT(me.sent(), SizeIs(2));
+}
+
+TEST_F(SearchTest, SomebodyElseWhoComesMeanwhileIsNoAnswer)
+{
+    ask(Ipv4Address(10, 0, 0, 77));
+    me.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC-ANN Ann");
+    pass(3s);
+    EXPECT_THAT(lastLine(), StartsWith("--- nobody answered"));
+}
+
+TEST_F(SearchTest, WhoComesWhenItIsOverIsNoAnswer)
+{
+    ask(Ipv4Address(10, 0, 0, 77));
+    pass(3s);
+    me.arrive("10.0.0.77", "?ONLINE 10.0.0.77 PC-LATE Late");
+    EXPECT_THAT(lastLine(), StartsWith("--- nobody answered"));
+    ask(Ipv4Address(10, 0, 0, 78));
+    pass(3s);
+    EXPECT_THAT(lastLine(), StartsWith("--- nobody answered"));
+}
+
+TEST_F(SearchTest, TwoSearchesAtATimeHaveTheirOwnAnswers)
+{
+    ask(Ipv4Address(10, 0, 0, 2));
+    pass(500ms);
+    ask(Ipv4Address(10, 0, 0, 77));
+    pass(2500ms);
+    EXPECT_EQ(lastLine(), "--- 1 answered: Ann; 1 new ---");
+    pass(500ms);
+    EXPECT_THAT(lastLine(), StartsWith("--- nobody answered"));
+}
+
+TEST_F(SearchTest, AWholeNetworkIsAskedAHundredASecond)
+{
+    std::vector<SearchTarget> targets;
+    for (unsigned i = 0; i < 254; ++i)
+        targets.push_back({Ipv4Address::of(Ipv4Address(10, 7, 0, 1).number() + i)});
+    search().ask(targets, QStringLiteral("10.7.0.0/24"));
+    EXPECT_THAT(me.sent(), SizeIs(10));
+    pass(900ms);
+    EXPECT_THAT(me.sent(), SizeIs(90));
+    pass(2600ms);
+    EXPECT_THAT(me.sent(), SizeIs(154 + 254));
+    EXPECT_EQ(lastLine(), "--- asking 10.7.0.0/24 who is there ---");
+    pass(2000ms);
+    EXPECT_THAT(lastLine(), StartsWith("--- nobody answered"));
+    EXPECT_THAT(me.sent(), IsEmpty());
+}
+
+TEST_F(SearchTest, OfACrowdTheFirstTwentyAreNamed)
+{
+    ask(everybody);
+    for (int i = 10; i < 35; ++i) {
+        const std::string ip = "10.0.0." + std::to_string(i);
+        me.arrive(ip.c_str(), "!ONLINE " + ip + " PC Guest" + std::to_string(i));
+    }
+    pass(3s);
+    EXPECT_THAT(lastLine(), StartsWith("--- 27 answered: Guest10, Guest11, "));
+    EXPECT_THAT(lastLine(), EndsWith(", Guest29, 7 more; 27 new ---"));
+}
+
+TEST_F(SearchTest, AQuestionThroughACardNamesItsAddressAndLeavesFromIt)
+{
+    const Ipv4Address card(192, 168, 7, 1);
+    search().ask({{Ipv4Address(192, 168, 7, 255), card}}, QStringLiteral("192.168.7.255"));
+    EXPECT_THAT(me.sent(), ElementsAre(To{"192.168.7.255", "?ONLINE 192.168.7.1 HERE Me"}));
+    EXPECT_EQ(me.socket.sources.back(), card);
+    ask(Ipv4Address(10, 0, 0, 77));
+    EXPECT_EQ(me.socket.sources.back(), std::nullopt);
+    EXPECT_FALSE(me.socket.broadcast);
+}
+
+TEST_F(SearchTest, EverybodyOnEveryNetworkIsAskedThroughItsCard)
+{
+    me.ownAddresses.running = {{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1), Ipv4Address(10, 0, 0, 255)},
+                               {QStringLiteral("wlan0"), Ipv4Address(172, 16, 3, 9), Ipv4Address(172, 16, 255, 255)}};
+    me.socket.sources.clear();
+    search().findEverybody();
+    EXPECT_EQ(lastLine(), "--- asking everybody on 10.0.0.255 (eth0), 172.16.255.255 (wlan0) who is there ---");
+    EXPECT_THAT(
+        me.sent(),
+        ElementsAre(To{"10.0.0.255", "?ONLINE 10.0.0.1 HERE Me"}, To{"172.16.255.255", "?ONLINE 172.16.3.9 HERE Me"}));
+    EXPECT_THAT(me.socket.sources, ElementsAre(Ipv4Address(10, 0, 0, 1), Ipv4Address(172, 16, 3, 9)));
+    pass(3s);
+    EXPECT_EQ(lastLine(), "--- 2 answered: Ann, Ben; 2 new ---");
+}
+
+TEST_F(SearchTest, WhoIsBusyIsFoundBusy)
+{
+    me.common.ownPresence.base = BaseState::busy;
+    ask(everybody);
+    EXPECT_THAT(me.sent(), ElementsAre(To{"10.0.0.255", "?ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.255", "!STATUS BUSY"}));
+    pass(2s);
+    EXPECT_EQ(ann.contact("10.0.0.1").presence, Presence::busy);
+}
+
+TEST_F(SearchTest, WhoIsInvisibleAsksNobodyByThatClick)
+{
+    me.ownAddresses.running = {{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1), everybody}};
+    me.common.ownPresence.base = BaseState::invisible;
+    search().findEverybody();
+    EXPECT_EQ(lastLine(),
+              "--- nobody was asked: you are invisible, and the question would show everybody that you are "
+              "there ---");
+    EXPECT_THAT(me.sent(), IsEmpty());
+}
+
+TEST_F(SearchTest, AScanOfWhoIsInvisibleTellsNoState)
+{
+    me.common.ownPresence.base = BaseState::invisible;
+    ask(Ipv4Address(10, 0, 0, 2));
+    EXPECT_THAT(me.sent(), ElementsAre(To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Me"}));
+}
+
+TEST_F(SearchTest, WithoutACardNobodyCanBeAsked)
+{
+    search().findEverybody();
+    EXPECT_EQ(lastLine(), "--- nobody can be asked: no network is connected ---");
+    EXPECT_THAT(me.sent(), IsEmpty());
+}
+
+TEST_F(SearchTest, ACopyOfTheLoopbackNetworkAsksThatOne)
+{
+    Copy here{{.ip = QStringLiteral("127.0.3.1"), .host = QStringLiteral("HERE")}};
+    here.engine.search().findEverybody();
+    EXPECT_EQ(here.view.log.lines().back(), "--- asking everybody on this computer who is there ---");
+    EXPECT_THAT(here.sent(), ElementsAre(To{"127.255.255.255", "?ONLINE 127.0.3.1 HERE Me"}));
+}
+
+TEST_F(SearchTest, NobodyToAskIsNoSearch)
+{
+    const std::size_t lines = me.view.log.lines().size();
+    search().ask({}, QStringLiteral("nobody"));
+    pass(4s);
+    EXPECT_THAT(me.view.log.lines(), SizeIs(lines));
+    EXPECT_THAT(me.sent(), IsEmpty());
+}
+
+} // namespace
+} // namespace nimb::test
