@@ -1,7 +1,9 @@
 #include "app/dialog_opener.h"
 
+#include "base/limits.h"
 #include "main_window/frmMain.h"
 #include "options/frmOptions.h"
+#include "people/contact_import.h"
 #include "people/frmAddUser.h"
 #include "people/frmInvite.h"
 #include "people/frmNetworkscan.h"
@@ -9,6 +11,11 @@
 #include "welcome/frmAbout.h"
 #include "welcome/frmTipOfTheDay.h"
 #include "widgets/bring_back.h"
+#include "widgets/file_dialogs.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
 
 namespace nimb
 {
@@ -20,6 +27,12 @@ void open(QDialog *dialog)
 {
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
+}
+
+QString contactFiles()
+{
+    return QCoreApplication::translate("DialogOpener", "Contacts (*.csv)") + QLatin1String(" (*.csv);;")
+        + QCoreApplication::translate("DialogOpener", "All Files (*.*)") + QLatin1String(" (*)");
 }
 
 } // namespace
@@ -50,6 +63,50 @@ void DialogOpener::mnuAddUser()
 void DialogOpener::mnuFindEverybody()
 {
     m_engine.search().findEverybody();
+}
+
+void DialogOpener::mnuImportContacts()
+{
+    askForFile(m_main, contactFiles(), [this](const QString &path) { importContacts(path); });
+}
+
+void DialogOpener::importContacts(const QString &path)
+{
+    QFile file(path);
+    const QString name = QFileInfo(path).fileName();
+    // Not all that can be opened has a size.
+    const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.read(limits::contactFileBytes + 1) : QByteArray();
+    if (file.error() != QFileDevice::NoError || bytes.size() > limits::contactFileBytes) {
+        const bool isRead = file.error() == QFileDevice::NoError;
+        const QString reason = isRead ? tr("it is too large for a list of contacts") : file.errorString();
+        m_services.prompts.tell(tr("%1 cannot be read: %2.").arg(name, reason), programTitle);
+        return;
+    }
+    ContactImport(m_engine.admission(), m_engine.contacts(), m_engine.search(), m_engine.log(), m_services.prompts)
+        .take(bytes, name);
+}
+
+void DialogOpener::mnuExportContacts()
+{
+    askForNewFile(m_main, QStringLiteral("contacts.csv"), contactFiles(),
+                  [this](const QString &path) { exportContacts(path); });
+}
+
+/// The file that was there stays as it is unless all of the new one could be written.
+void DialogOpener::exportContacts(const QString &path)
+{
+    QSaveFile file(path);
+    const QString name = QFileInfo(path).fileName();
+    const std::vector<ContactFile::Entry> entries = ContactFile::entriesOf(m_engine.contacts());
+    const QByteArray bytes = ContactFile::write(entries);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
+        m_services.prompts.tell(tr("%1 cannot be written: %2.").arg(name, file.errorString()), programTitle);
+        return;
+    }
+    const auto others = m_engine.contacts().rowCount() - static_cast<qsizetype>(entries.size());
+    m_engine.log().note(others == 0 ? tr("contacts in %1: %2").arg(name, QString::number(entries.size()))
+                                    : tr("contacts in %1: %2; left out, for nobody else could reach them: %3")
+                                          .arg(name, QString::number(entries.size()), QString::number(others)));
 }
 
 void DialogOpener::mnuHelpAbout()

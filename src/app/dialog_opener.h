@@ -10,6 +10,7 @@
 #include "base/window_openers.h"
 #include "welcome/tip_of_the_day.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 
 namespace nimb
@@ -37,6 +38,8 @@ struct FormServices {
 
 class DialogOpener : public MenuWindows
 {
+    Q_DECLARE_TR_FUNCTIONS(DialogOpener)
+
 public:
     /// The dialogs stand over that window, which ends before this.
     DialogOpener(const FormServices &services, Messenger &engine, frmMain &over);
@@ -45,6 +48,8 @@ public:
     void mnuNetworkscan() override;
     void mnuAddUser() override;
     void mnuFindEverybody() override;
+    void mnuImportContacts() override;
+    void mnuExportContacts() override;
     void mnuToolsOptions() override;
     void mnuHelpAbout() override;
     void mnuTOTD() override;
@@ -57,6 +62,9 @@ public:
     void unloadTipOfTheDay();
 
 private:
+    void importContacts(const QString &path);
+    void exportContacts(const QString &path);
+
     const FormServices &m_services;
     Messenger &m_engine;
     frmMain &m_main;

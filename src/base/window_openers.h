@@ -40,6 +40,8 @@ public:
     virtual void mnuAddUser() = 0;
     /// Opens nothing: the log says who is there.
     virtual void mnuFindEverybody() = 0;
+    virtual void mnuImportContacts() = 0;
+    virtual void mnuExportContacts() = 0;
     virtual void mnuToolsOptions() = 0;
     virtual void mnuHelpAbout() = 0;
     virtual void mnuTOTD() = 0;

@@ -204,6 +204,8 @@ void frmMain::connectMenus()
     on("mnuRemoveUser", [this] { m_engine->commands.removeUsers(ListView1->selectedAddresses()); });
     on("mnuNetworkscan", [this] { m_engine->windows.mnuNetworkscan(); });
     on("mnuAddUser", [this] { m_engine->windows.mnuAddUser(); });
+    on("mnuImportContacts", [this] { m_engine->windows.mnuImportContacts(); });
+    on("mnuExportContacts", [this] { m_engine->windows.mnuExportContacts(); });
     on("mnuFindEverybody", [this] { m_engine->windows.mnuFindEverybody(); });
     on("mnuToolsOptions", [this] { m_engine->windows.mnuToolsOptions(); });
     on("mnuHelpAbout", [this] { m_engine->windows.mnuHelpAbout(); });

@@ -54,6 +54,9 @@ inline constexpr std::array users = {
     MenuEntry{"mnuNetworkscan", QT_TRANSLATE_NOOP("MainMenu", "&Network scan..."), "search"},
     MenuEntry{"mnuAddUser", QT_TRANSLATE_NOOP("MainMenu", "&Add offline user..."), "add-user"},
     MenuEntry{"mnuFindEverybody", QT_TRANSLATE_NOOP("MainMenu", "&Find everybody here"), "search"},
+    separator,
+    MenuEntry{"mnuImportContacts", QT_TRANSLATE_NOOP("MainMenu", "&Import contacts...")},
+    MenuEntry{"mnuExportContacts", QT_TRANSLATE_NOOP("MainMenu", "&Export contacts...")},
 };
 inline constexpr std::array conference = {
     MenuEntry{"mnuCreateNewConf", QT_TRANSLATE_NOOP("MainMenu", "Create &new...")},

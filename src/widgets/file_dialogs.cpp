@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QPageSetupDialog>
 
 namespace nimb
@@ -27,6 +28,19 @@ void askForFile(QWidget &parent, const QString &filter, std::function<void(const
     // What stands before the last bracket is what is shown.
     dialog->setOption(QFileDialog::HideNameFilterDetails);
     dialog->setFileMode(QFileDialog::ExistingFile);
+    open(dialog, std::move(chosen));
+}
+
+void askForNewFile(QWidget &parent, const QString &name, const QString &filter,
+                   std::function<void(const QString &path)> chosen)
+{
+    auto *const dialog
+        = new QFileDialog(&parent, QCoreApplication::translate("FileDialogs", "Save"), QString(), filter);
+    dialog->setOption(QFileDialog::HideNameFilterDetails);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setDefaultSuffix(QFileInfo(name).suffix());
+    dialog->selectFile(name);
     open(dialog, std::move(chosen));
 }
 

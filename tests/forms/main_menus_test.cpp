@@ -2,11 +2,14 @@
 
 #include <QCheckBox>
 #include <QDialog>
+#include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QTemporaryDir>
 
 namespace nimb::test
 {
@@ -15,6 +18,8 @@ namespace
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
+using testing::StartsWith;
 
 class MainMenusTest : public testing::Test
 {
@@ -57,7 +62,8 @@ TEST_F(MainMenusTest, TheMenuBarHasEveryEntryInItsPlace)
                             "mnuFilePrint: Print", "-", "mnuFileSend: Send", "-", "-", "mnuFileExit: E&xit"));
     EXPECT_THAT(entriesOf(menu("mnuUsers")),
                 ElementsAre("mnuNetworkscan: &Network scan...", "mnuAddUser: &Add offline user...",
-                            "mnuFindEverybody: &Find everybody here"));
+                            "mnuFindEverybody: &Find everybody here", "-", "mnuImportContacts: &Import contacts...",
+                            "mnuExportContacts: &Export contacts..."));
     EXPECT_THAT(entriesOf(menu("mnuConference")),
                 ElementsAre("mnuCreateNewConf: Create &new...", "mnushowinvitations: View &invitations..."));
     EXPECT_THAT(entriesOf(menu("mnuTools")),
@@ -227,6 +233,53 @@ TEST_F(MainMenusTest, EveryDialogOpensFromItsEntryAndTheProgramGoesOn)
         shown(name)->close();
         EXPECT_FALSE(shown(name)) << name;
     }
+}
+
+TEST_F(MainMenusTest, ContactsAreExportedAndImportedAgain)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("office.csv"));
+    windows.entry("mnuExportContacts").trigger();
+    ASSERT_THAT(dialogs(), SizeIs(1));
+    auto *files = qobject_cast<QFileDialog *>(dialogs().front());
+    ASSERT_TRUE(files);
+    EXPECT_EQ(files->acceptMode(), QFileDialog::AcceptSave);
+    EXPECT_EQ(QFileInfo(files->selectedFiles().value(0)).fileName(), QStringLiteral("contacts.csv"));
+    Q_EMIT files->fileSelected(path);
+    files->reject();
+    QFile written(path);
+    ASSERT_TRUE(written.open(QIODevice::ReadWrite));
+    EXPECT_TRUE(windows.logText().contains(QStringLiteral("--- contacts in office.csv: 2 ---")));
+    EXPECT_EQ(written.readAll(), "address,nickname,workstation\r\n10.0.0.2,Ann,PC\r\n10.0.0.3,Ben & Co,PC\r\n");
+    written.write("10.0.0.4,Cleo,PC-CLEO\r\n");
+    written.close();
+
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    windows.entry("mnuImportContacts").trigger();
+    ASSERT_THAT(dialogs(), SizeIs(1));
+    files = qobject_cast<QFileDialog *>(dialogs().front());
+    EXPECT_EQ(files->acceptMode(), QFileDialog::AcceptOpen);
+    Q_EMIT files->fileSelected(path);
+    files->reject();
+    EXPECT_TRUE(windows.engine.contacts().find(QStringLiteral("10.0.0.4")));
+    EXPECT_TRUE(
+        windows.logText().contains(QStringLiteral("--- contacts taken from office.csv: 1; there already: 2 ---")));
+}
+
+TEST_F(MainMenusTest, AFileThatCannotBeReadOrWrittenIsSaid)
+{
+    windows.entry("mnuImportContacts").trigger();
+    auto *const files = qobject_cast<QFileDialog *>(dialogs().front());
+    Q_EMIT files->fileSelected(QStringLiteral("/nowhere/office.csv"));
+    files->reject();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    windows.entry("mnuExportContacts").trigger();
+    auto *const target = qobject_cast<QFileDialog *>(dialogs().front());
+    Q_EMIT target->fileSelected(QStringLiteral("/nowhere/office.csv"));
+    target->reject();
+    EXPECT_THAT(windows.prompts.told,
+                ElementsAre(StartsWith("NIMB-Chat: office.csv cannot be read: "),
+                            StartsWith("NIMB-Chat: office.csv cannot be written: ")));
 }
 
 TEST_F(MainMenusTest, EverybodyIsAskedWithoutADialog)
