@@ -74,7 +74,7 @@ constexpr std::chrono::milliseconds questionsLooked{50};
 /// Questions of a search that leave in a tenth of a second: a network of 254 is asked within three seconds.
 constexpr std::size_t questionsOfSearch = 10;
 /// A file of contacts: some ten thousand lines.
-constexpr qint64 contactFileBytes = 1024 * 1024;
+constexpr qint64 contactFileBytes = qint64{1024} * 1024;
 /// Of a range that is asked address by address: 254 of them.
 constexpr int smallestScannedPrefix = 24;
 /// Names of those who answered a search, in its line in the log.

@@ -20,14 +20,14 @@ using form_layout::groupDistance;
 using form_layout::margin;
 using form_layout::spacing;
 
-constexpr int textWidth = 360;
+constexpr int labelWidth = 360;
 
 /// One line that never widens the dialog; what there is no room for can be read in its tool tip.
 QLabel *textLine(QWidget *parent, const char *name)
 {
     auto *const label = named(new ElidedLabel(parent), name);
     label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    label->setMinimumWidth(textWidth);
+    label->setMinimumWidth(labelWidth);
     return label;
 }
 
