@@ -56,10 +56,11 @@ qsizetype picturesIn(const QString &text)
     return text.count(QChar(QChar::ObjectReplacementCharacter));
 }
 
-/// What is left of a number that has become too large: some room beyond the limit, for each removal costs a layout.
+/// What is left of a number that has become too large: a tenth of it is free again, for each removal costs a layout of all
+/// that stays.
 constexpr qsizetype withRoom(qsizetype limit)
 {
-    return limit - limit / 50;
+    return limit - limit / 10;
 }
 
 /// A line in which links are looked for.
@@ -211,6 +212,13 @@ void RichTextLogEdit::setSelStart(qsizetype position)
 
 void RichTextLogEdit::setSelColor(Colour colour)
 {
+    // To find out what can be read on the ground takes longer than to write a word.
+    if (m_format.property(askedColour) != QVariant(colour))
+        applyColour(colour);
+}
+
+void RichTextLogEdit::applyColour(Colour colour)
+{
     m_format.setProperty(askedColour, colour);
     m_format.setForeground(readableOn(screenColour(colour), palette().color(QPalette::Base)));
 }
@@ -286,13 +294,17 @@ void RichTextLogEdit::insertGathered()
 
 void RichTextLogEdit::insert(const Piece &piece)
 {
+    m_pictureCount += picturesIn(piece.text);
+    // A line break as the document inserts it hands the form of the line on to the next one.
+    const QTextBlockFormat next = piece.continues ? continuedLine() : ownLine();
+    if (!piece.text.contains(u'\n') || m_caret.blockFormat() == next)
+        return m_caret.insertText(piece.text, piece.format);
     qsizetype from = 0;
     for (qsizetype end = 0; (end = piece.text.indexOf(u'\n', from)) >= 0; from = end + 1) {
         m_caret.insertText(piece.text.mid(from, end - from), piece.format);
-        m_caret.insertBlock(piece.continues ? continuedLine() : ownLine(), piece.format);
+        m_caret.insertBlock(next, piece.format);
     }
     m_caret.insertText(piece.text.mid(from), piece.format);
-    m_pictureCount += picturesIn(piece.text);
 }
 
 void RichTextLogEdit::prepareLines()
@@ -346,7 +358,8 @@ void RichTextLogEdit::dropOldLines()
     oldest.setPosition(first.position(), QTextCursor::KeepAnchor);
     const QTextBlockFormat format = first.blockFormat();
     oldest.removeSelectedText();
-    oldest.setBlockFormat(format); // or it has that of the line that has gone
+    if (oldest.blockFormat() != format) // it may have that of the line that has gone
+        oldest.setBlockFormat(format);
 }
 
 void RichTextLogEdit::clear()
@@ -452,7 +465,7 @@ void RichTextLogEdit::adaptColours()
     }
     cursor.endEditBlock();
     if (m_format.hasProperty(askedColour))
-        setSelColor(m_format.property(askedColour).toUInt());
+        applyColour(m_format.property(askedColour).toUInt());
 }
 
 // --- the reader's hands

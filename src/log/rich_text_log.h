@@ -74,6 +74,7 @@ private:
     bool isAtEnd() const;
     void followEnd();
     void insertGathered();
+    void applyColour(Colour colour);
     void insert(const Piece &piece);
     /// Of the first line of an empty log, and of those behind it.
     void prepareLines();
