@@ -56,8 +56,8 @@ qsizetype picturesIn(const QString &text)
     return text.count(QChar(QChar::ObjectReplacementCharacter));
 }
 
-/// What is left of a number that has become too large: a tenth of it is free again, for each removal costs a layout of all
-/// that stays.
+/// What is left of a number that has become too large: a tenth of it is free again, for each removal costs a layout of
+/// all that stays.
 constexpr qsizetype withRoom(qsizetype limit)
 {
     return limit - limit / 10;
