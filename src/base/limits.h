@@ -40,7 +40,8 @@ constexpr int windowsAtOnce = 3;
 constexpr std::chrono::milliseconds windowPause{40};
 /// Messages that wait at the row of one contact.
 constexpr qsizetype waitingMessages = 100;
-/// Characters of all messages that wait.
+/// Characters of all messages that wait. Those of contacts whom peers have brought in this run may be half of it, so
+/// that a crowd of strangers leaves room for those whom the user knows.
 constexpr qsizetype waitingCharacters = 4'000'000;
 /// Characters of what is being typed that the peer sees: the last ones are what matters.
 constexpr qsizetype liveTextLength = 200;

@@ -26,7 +26,7 @@ void offerGoodCopy(GoodCopy &copy, const SettingsStore &store, Prompts &prompts)
     const QString question
         = translated(QT_TRANSLATE_NOOP("GoodCopy",
                                        "There is a copy of the settings, saved on %1 at %2. Is NIMB-Chat to "
-                                       "go on with that copy? What is there now is kept under another name."))
+                                       "go on with that copy? What is not used is kept under another name."))
               .arg(shortDate(*made), shortTime(*made));
     if (!prompts.ask(trouble + QLatin1String("\n\n") + question, programTitle))
         return copy.declineCopy();

@@ -92,8 +92,8 @@ bool PrivateWindows::mayOpenUnasked() const
 
 bool PrivateWindows::hasRoomToWait(const Contact &contact, const QString &body) const
 {
-    return contact.waitingMessages < limits::waitingMessages
-        && m_waitingCharacters + body.size() <= limits::waitingCharacters;
+    const qsizetype room = contact.broughtByPeer ? limits::waitingCharacters / 2 : limits::waitingCharacters;
+    return contact.waitingMessages < limits::waitingMessages && m_waitingCharacters + body.size() <= room;
 }
 
 void PrivateWindows::wait(const Contact &contact, const QString &body)

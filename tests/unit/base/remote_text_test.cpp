@@ -36,6 +36,7 @@ TEST(RemoteText, WhatShowsNothingIsDroppedInNames)
 {
     EXPECT_EQ(remoteName(QString::fromUtf16(u"A\u200Bn\u00ADn\uFEFF\u2060")), QStringLiteral("Ann"));
     EXPECT_EQ(remoteName(QString::fromUtf16(u"\u3164A\uFFA0n\u115Fn\u2800")), QStringLiteral("Ann"));
+    EXPECT_EQ(remoteName(QString::fromUcs4(U"A\U00013430n\U0001343Fn\U00016FE4")), QStringLiteral("Ann"));
     EXPECT_EQ(remoteName(QString::fromUtf16(u"A\u200Dnn\uFE0F\u034F")), QStringLiteral("Ann"));
     EXPECT_EQ(remoteName(QString::fromUcs4(U"Ann\U000E0041\U000E0100", 5)), QStringLiteral("Ann"));
     EXPECT_EQ(remoteName(QString::fromUtf16(u"\u0645\u200C")), QString::fromUtf16(u"\u0645")) << "joins nothing";

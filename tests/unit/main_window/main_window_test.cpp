@@ -251,7 +251,7 @@ TEST(OfferGoodCopy, SaysWhatIsWrongAndDoesWhatTheUserSays)
         offerGoodCopy(copy, store, prompts);
         EXPECT_THAT(prompts.asked,
                     ElementsAre("NIMB-Chat: The settings cannot be read.\n\nThere is a copy of the settings, saved on "
-                                "20/11/2026 at 09:30. Is NIMB-Chat to go on with that copy? What is there now is kept "
+                                "20/11/2026 at 09:30. Is NIMB-Chat to go on with that copy? What is not used is kept "
                                 "under another name."));
         EXPECT_THAT(copy.done, ElementsAre(answer ? "take" : "decline"));
     }

@@ -398,5 +398,15 @@ TEST_F(ManyPrivateWindows, WaitingMessagesAreBoundedAndAnsweredByNobody)
     EXPECT_EQ(waiting(53), 66) << "who is removed leaves room";
 }
 
+TEST_F(ManyPrivateWindows, StrangersWhoWriteALotLeaveRoomForThoseWhomTheUserKnows)
+{
+    copy.arrive("10.0.2.1", "!ONLINE 10.0.2.1 PC Stranger");
+    for (int i = 0; i < 70; ++i)
+        copy.arrive("10.0.2.1", "-" + std::string(60000, 'x'));
+    EXPECT_EQ(copy.contact("10.0.2.1").waitingMessages, 33) << "two million characters";
+    arrive(51, "-hello");
+    EXPECT_EQ(waiting(51), 1);
+}
+
 } // namespace
 } // namespace nimb::test
