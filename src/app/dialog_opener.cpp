@@ -65,6 +65,11 @@ void DialogOpener::mnuFindEverybody()
     m_engine.search().findEverybody();
 }
 
+void DialogOpener::stopSearching()
+{
+    m_engine.search().stop();
+}
+
 void DialogOpener::mnuImportContacts()
 {
     askForFile(m_main, contactFiles(), [this](const QString &path) { importContacts(path); });

@@ -48,6 +48,7 @@ public:
     void mnuNetworkscan() override;
     void mnuAddUser() override;
     void mnuFindEverybody() override;
+    void stopSearching() override;
     void mnuImportContacts() override;
     void mnuExportContacts() override;
     void mnuToolsOptions() override;

@@ -15,7 +15,7 @@ Messenger::Messenger(Common &common, const Surroundings &around)
              [this] { m_announcement.runUnlessInvisible(); }),
       m_privateWindows({{common, around.socket, around.clock}, around.sound, around.timers, around.privateForms},
                        m_contacts, around.drops),
-      m_search({common, m_sender, m_contacts, around.ownAddresses, m_log, around.timers}),
+      m_search({common, m_sender, m_contacts, around.ownAddresses, m_log, around.mainView, around.timers}),
       m_presence(common, m_admission, m_contacts, m_sender, m_log, m_privateWindows, around.notifications, around.clock,
                  m_search, around.drops),
       m_activity(around.timers, around.mainView), m_avatars(m_contacts),

@@ -57,6 +57,21 @@ public:
     virtual void setActivityPanel(const QString &text) = 0;
 };
 
+/// How far a search through many addresses has come.
+struct SearchProgress {
+    int asked = 0;
+    int all = 0;
+    bool operator==(const SearchProgress &) const = default;
+};
+
+class SearchView
+{
+public:
+    virtual ~SearchView() = default;
+    /// With a way to stop it; empty: nothing is to be waited for.
+    virtual void setSearchProgress(const std::optional<SearchProgress> &progress) = 0;
+};
+
 /// The entries of the contact menu that invite to a conference.
 class ConferenceMenuView
 {
@@ -70,6 +85,7 @@ class MainWindowView : public MainLogView,
                        public AnnouncementView,
                        public OwnStateView,
                        public ActivityView,
+                       public SearchView,
                        public ConferenceMenuView
 {
 public:

@@ -40,6 +40,7 @@ public:
     virtual void mnuAddUser() = 0;
     /// Opens nothing: the log says who is there.
     virtual void mnuFindEverybody() = 0;
+    virtual void stopSearching() = 0;
     virtual void mnuImportContacts() = 0;
     virtual void mnuExportContacts() = 0;
     virtual void mnuToolsOptions() = 0;

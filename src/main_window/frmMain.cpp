@@ -23,10 +23,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTabBar>
+#include <QToolButton>
 
 namespace nimb
 {
@@ -91,7 +93,7 @@ void frmMain::fitFonts()
     for (;;) {
         for (QWidget *const control : std::initializer_list<QWidget *>{
                  ImageCombo1, TabStrip1, RescanBtn, buzzmute, ListDetails, ItemDetailstxt, AutoReplyOn, Autoreplybtn,
-                 clearbtn, menuBar(), statusBar(), m_status, m_activity, m_trouble})
+                 clearbtn, menuBar(), statusBar(), m_status, m_activity, searchProgress, stopSearchBtn, m_trouble})
             control->setFont(font);
         if (fits() || font.pointSizeF() <= smallestFont)
             return;
@@ -172,11 +174,30 @@ void frmMain::buildStatusBar()
     m_trouble->hide();
     bar->addWidget(m_status);
     bar->addWidget(m_activity, 1);
+    addSearchProgress(*bar);
     bar->addPermanentWidget(m_trouble);
     bar->setAttribute(Qt::WA_Hover);
     for (QLabel *const label : {m_status, m_activity, m_trouble})
         label->setMouseTracking(true);
     bar->installEventFilter(this);
+}
+
+/// Only there while a search goes on.
+void frmMain::addSearchProgress(QStatusBar &bar)
+{
+    searchProgress = named(new QProgressBar(&bar), "searchProgress");
+    searchProgress->setAccessibleName(tr("Addresses asked"));
+    searchProgress->setFormat(QStringLiteral("%v / %m"));
+    searchProgress->setFixedSize(90, 16);
+    stopSearchBtn = named(new QToolButton(&bar), "stopSearchBtn");
+    stopSearchBtn->setText(tr("Stop"));
+    stopSearchBtn->setToolTip(tr("Asks nobody else"));
+    stopSearchBtn->setAutoRaise(true);
+    stopSearchBtn->setFocusPolicy(Qt::TabFocus);
+    for (QWidget *const part : std::initializer_list<QWidget *>{searchProgress, stopSearchBtn}) {
+        bar.addPermanentWidget(part);
+        part->hide();
+    }
 }
 
 void frmMain::connectControls(const MainWindowEngine &engine, std::function<void()> ended)
@@ -186,6 +207,7 @@ void frmMain::connectControls(const MainWindowEngine &engine, std::function<void
     connectContacts();
     connectOwnState();
     connect(clearbtn, &QPushButton::clicked, this, &frmMain::clearbtn_Click);
+    connect(stopSearchBtn, &QToolButton::clicked, this, [this] { m_engine->windows.stopSearching(); });
     connectMenus();
 }
 
@@ -611,6 +633,16 @@ void frmMain::setInvite2ConfVisible(int slot, bool visible)
 void frmMain::setActivityPanel(const QString &text)
 {
     m_activity->setText(text);
+}
+
+void frmMain::setSearchProgress(const std::optional<SearchProgress> &progress)
+{
+    if (progress) {
+        searchProgress->setMaximum(progress->all);
+        searchProgress->setValue(progress->asked);
+    }
+    searchProgress->setVisible(progress.has_value());
+    stopSearchBtn->setVisible(progress.has_value());
 }
 
 void frmMain::setTroublePanel(const QString &text)

@@ -15,8 +15,11 @@ class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QProgressBar;
 class QPushButton;
+class QStatusBar;
 class QTabBar;
+class QToolButton;
 
 namespace nimb
 {
@@ -87,6 +90,7 @@ public:
     WindowPlace place() const override;
     void setInvite2ConfVisible(int slot, bool visible) override;
     void setActivityPanel(const QString &text) override;
+    void setSearchProgress(const std::optional<SearchProgress> &progress) override;
     void setTroublePanel(const QString &text) override;
 
 protected:
@@ -101,6 +105,7 @@ private:
     void buildOwnState(QWidget *parent);
     void buildContacts(QWidget *parent);
     void buildStatusBar();
+    void addSearchProgress(QStatusBar &bar);
     void orderControls();
     void fitFonts();
     void connectContacts();
@@ -152,6 +157,8 @@ private:
     AutoreplyFrame *m_autoReply = nullptr;
     QLabel *m_status = nullptr;
     QLabel *m_activity = nullptr;
+    QProgressBar *searchProgress = nullptr;
+    QToolButton *stopSearchBtn = nullptr;
     QLabel *m_trouble = nullptr;
 };
 

@@ -43,6 +43,43 @@ void Search::ask(std::vector<SearchTarget> targets, const QString &where)
     tick(run);
 }
 
+bool Search::isUnderWay(const Run &run)
+{
+    const std::size_t batches = batchesOf(run.targets.size());
+    return batches > 1 && run.timer->isActive() && run.tick + 1 < batches + secondQuestion;
+}
+
+void Search::showProgress() const
+{
+    SearchProgress sum;
+    for (const auto &run : m_runs) {
+        if (!isUnderWay(*run))
+            continue;
+        sum.asked += static_cast<int>(std::min(run->targets.size(), (run->tick + 1) * limits::questionsOfSearch));
+        sum.all += static_cast<int>(run->targets.size());
+    }
+    m_parts.view.setSearchProgress(sum.all > 0 ? std::optional(sum) : std::nullopt);
+}
+
+void Search::stop()
+{
+    for (const auto &run : m_runs) {
+        if (isUnderWay(*run))
+            stop(*run);
+    }
+    showProgress();
+}
+
+void Search::stop(Run &run)
+{
+    run.timer->stop();
+    const std::size_t asked = std::min(run.targets.size(), (run.tick + 1) * limits::questionsOfSearch);
+    m_parts.log.note(
+        tr("stopped when %1 of %2 had been asked").arg(QString::number(asked), QString::number(run.targets.size())));
+    if (!run.answers.empty())
+        tellAnswers(run);
+}
+
 void Search::askUnlessInvisible(std::vector<SearchTarget> targets, const QString &where)
 {
     if (!m_parts.common.isInvisible())
@@ -78,6 +115,7 @@ void Search::tick(Run &run)
         askBatch(run, run.tick - secondQuestion, true);
     if (run.tick + 1 >= batchesOf(run.targets.size()) + endOfAnswers)
         finish(run);
+    showProgress();
 }
 
 void Search::askBatch(const Run &run, std::size_t batch, bool again) const
@@ -146,6 +184,11 @@ void Search::finish(Run &run)
     if (run.answers.empty())
         return m_parts.log.note(tr("nobody answered: nobody may be there, a firewall may be in the way, or the network "
                                    "may keep its machines apart"));
+    tellAnswers(run);
+}
+
+void Search::tellAnswers(const Run &run) const
+{
     m_parts.log.note(tr("%1 answered: %2; %3 new")
                          .arg(QString::number(run.answers.size()), names(run), QString::number(run.newOnes)));
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/main_log.h"
+#include "base/main_window_view.h"
 #include "base/own_addresses.h"
 #include "contacts/announcement.h"
 #include "contacts/presence_receiver.h"
@@ -20,7 +21,8 @@ struct SearchTarget {
 };
 
 /// Everybody is asked twice: whoever does not know this copy takes note of it at the first question, and answers the
-/// second. The main log says what is asked, and who has answered when the time for it is over.
+/// second. The main log says what is asked, and who has answered when the time for it is over. Where so many are to be
+/// asked that it takes a while, the view shows how far that has come.
 class Search : public PresenceWitness
 {
     Q_DECLARE_TR_FUNCTIONS(Search)
@@ -32,6 +34,7 @@ public:
         const ContactList &contacts;
         const OwnAddresses &ownAddresses;
         MainLog &log;
+        SearchView &view;
         Timers &timers;
     };
 
@@ -44,6 +47,9 @@ public:
 
     /// Asks everybody on every network that this machine is in, unless the user is invisible.
     void findEverybody();
+
+    /// Asks none of those any more who are still to be asked.
+    void stop();
 
     void seenOnline(Ipv4Address ip, bool isNew) override;
 
@@ -62,7 +68,12 @@ private:
     bool isOneself(Ipv4Address address) const;
     void askOneself(Ipv4Address address) const;
     bool isEverybodys(Ipv4Address address) const;
+    /// It takes a while, and not everybody has been asked twice.
+    static bool isUnderWay(const Run &run);
+    void showProgress() const;
+    void stop(Run &run);
     void finish(Run &run);
+    void tellAnswers(const Run &run) const;
     QString names(const Run &run) const;
 
     Parts m_parts;

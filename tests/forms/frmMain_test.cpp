@@ -10,9 +10,11 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTabBar>
+#include <QToolButton>
 #include <QWheelEvent>
 
 namespace nimb::test
@@ -333,6 +335,24 @@ TEST(EmptyContactList, SaysWhatToDoAndAsksEverybodyOnAClick)
     windows.click(0);
     windows.entry("mnuRemoveUser").trigger();
     EXPECT_TRUE(button.isVisible()) << "the list is empty again";
+}
+
+TEST_F(FrmMain, ALongSearchIsShownInTheStatusBarAndCanBeStopped)
+{
+    auto &bar = windows.control<QProgressBar>("searchProgress");
+    auto &stop = windows.control<QToolButton>("stopSearchBtn");
+    EXPECT_FALSE(bar.isVisible());
+    EXPECT_FALSE(stop.isVisible());
+    std::vector<SearchTarget> targets;
+    for (unsigned char i = 1; i < 101; ++i)
+        targets.push_back({Ipv4Address(172, 16, 0, i)});
+    windows.engine.search().ask(targets, QStringLiteral("many"));
+    EXPECT_TRUE(bar.isVisible());
+    EXPECT_EQ(bar.text(), QStringLiteral("10 / 100"));
+    QTest::mouseClick(&stop, Qt::LeftButton);
+    EXPECT_FALSE(bar.isVisible());
+    EXPECT_FALSE(stop.isVisible());
+    EXPECT_TRUE(windows.logText().contains(QStringLiteral("--- stopped when 10 of 100 had been asked ---")));
 }
 
 TEST_F(FrmMain, AfterARemovalNobodyIsSelectedAndEnterActsOnNobody)

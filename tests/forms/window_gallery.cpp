@@ -136,6 +136,14 @@ void takeMainAfterASearch(Gallery &gallery)
         windows.arrive(ip, "!ONLINE " + std::string(ip) + " PC " + name);
     windows.time.advance(std::chrono::seconds(3));
     gallery.take(windows.main(), "main_after_a_search");
+    std::vector<SearchTarget> targets;
+    for (unsigned char i = 1; i < 255; ++i)
+        targets.push_back({Ipv4Address(192, 168, 2, i)});
+    windows.engine.search().ask(targets, QStringLiteral("192.168.2.0/24"));
+    windows.time.advance(std::chrono::seconds(1));
+    gallery.take(windows.main(), "main_while_searching");
+    windows.entry("mnuLogWindow").trigger();
+    gallery.take(windows.main(), "main_while_searching_without_log");
 }
 
 void takeMainInTrouble(Gallery &gallery)

@@ -75,6 +75,14 @@ public:
     int starts = 0;
 };
 
+class RecorderSearchView : public SearchView
+{
+public:
+    void setSearchProgress(const std::optional<SearchProgress> &now) override { progress = now; }
+
+    std::optional<SearchProgress> progress;
+};
+
 /// A search from 192.168.1.5 and what it acts on.
 struct SearchSurroundings {
     SearchSurroundings()
@@ -93,7 +101,8 @@ struct SearchSurroundings {
     VirtualTime time;
     PresenceSender sender{common, socket};
     MainLog log{shown, time};
-    Search search{{common, sender, contacts, ownAddresses, log, time}};
+    RecorderSearchView progress;
+    Search search{{common, sender, contacts, ownAddresses, log, progress, time}};
 };
 
 struct ScanSurroundings : SearchSurroundings {

@@ -110,6 +110,7 @@ public:
     void setTroublePanel(const QString &text) override { trouble = text; }
     void setInvite2ConfVisible(int slot, bool visible) override { invitable[slot] = visible; }
     void setActivityPanel(const QString &text) override { activityPanel = text; }
+    void setSearchProgress(const std::optional<SearchProgress> &progress) override { searchProgress = progress; }
 
     RecorderLog log;
     bool rescanEnabled = true;
@@ -117,6 +118,7 @@ public:
     std::vector<OwnStateEntry> ownStates;
     int selectedState = 0;
     QString statusPanel;
+    std::optional<SearchProgress> searchProgress;
     QString rescanToolTip;
     std::optional<AutoReplyPanel> autoReply;
     bool personalizedVisible = false;

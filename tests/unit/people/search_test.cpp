@@ -32,6 +32,13 @@ protected:
         }
         network.settle();
     }
+    void askNetwork()
+    {
+        std::vector<SearchTarget> targets;
+        for (unsigned i = 0; i < 254; ++i)
+            targets.push_back({Ipv4Address::of(Ipv4Address(10, 7, 0, 1).number() + i)});
+        search().ask(targets, QStringLiteral("10.7.0.0/24"));
+    }
     std::string lastLine() { return me.view.log.lines().back(); }
 
     const Ipv4Address everybody{10, 0, 0, 255};
@@ -111,10 +118,7 @@ TEST_F(SearchTest, TwoSearchesAtATimeHaveTheirOwnAnswers)
 
 TEST_F(SearchTest, AWholeNetworkIsAskedAHundredASecond)
 {
-    std::vector<SearchTarget> targets;
-    for (unsigned i = 0; i < 254; ++i)
-        targets.push_back({Ipv4Address::of(Ipv4Address(10, 7, 0, 1).number() + i)});
-    search().ask(targets, QStringLiteral("10.7.0.0/24"));
+    askNetwork();
     EXPECT_THAT(me.sent(), SizeIs(10));
     pass(900ms);
     EXPECT_THAT(me.sent(), SizeIs(90));
@@ -124,6 +128,52 @@ TEST_F(SearchTest, AWholeNetworkIsAskedAHundredASecond)
     pass(2000ms);
     EXPECT_THAT(lastLine(), StartsWith("--- nobody answered"));
     EXPECT_THAT(me.sent(), IsEmpty());
+}
+
+TEST_F(SearchTest, HowFarALongSearchHasComeIsShownUntilEverybodyHasBeenAskedTwice)
+{
+    ask(everybody);
+    EXPECT_EQ(me.view.searchProgress, std::nullopt) << "one question is no work";
+    askNetwork();
+    EXPECT_EQ(me.view.searchProgress, (SearchProgress{10, 254}));
+    pass(1s);
+    EXPECT_EQ(me.view.searchProgress, (SearchProgress{110, 254}));
+    pass(1500ms);
+    EXPECT_EQ(me.view.searchProgress, (SearchProgress{254, 254}));
+    pass(1s);
+    EXPECT_EQ(me.view.searchProgress, std::nullopt);
+}
+
+TEST_F(SearchTest, ASearchThatIsStoppedAsksNobodyElse)
+{
+    askNetwork();
+    pass(500ms);
+    me.sent();
+    search().stop();
+    EXPECT_EQ(lastLine(), "--- stopped when 60 of 254 had been asked ---");
+    EXPECT_EQ(me.view.searchProgress, std::nullopt);
+    pass(5s);
+    EXPECT_THAT(me.sent(), IsEmpty());
+    EXPECT_EQ(lastLine(), "--- stopped when 60 of 254 had been asked ---");
+}
+
+TEST_F(SearchTest, WhoAnsweredBeforeTheSearchWasStoppedIsTold)
+{
+    askNetwork();
+    me.arrive("10.7.0.3", "!ONLINE 10.7.0.3 PC Early");
+    search().stop();
+    EXPECT_EQ(lastLine(), "--- 1 answered: Early; 1 new ---");
+}
+
+TEST_F(SearchTest, StoppingLeavesShortSearchesAlone)
+{
+    ask(everybody);
+    search().stop();
+    pass(3s);
+    EXPECT_EQ(lastLine(), "--- 2 answered: Ann, Ben; 2 new ---");
+    const std::size_t lines = me.view.log.lines().size();
+    search().stop();
+    EXPECT_THAT(me.view.log.lines(), SizeIs(lines));
 }
 
 TEST_F(SearchTest, OfACrowdTheFirstTwentyAreNamed)
