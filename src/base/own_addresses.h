@@ -28,6 +28,8 @@ public:
     [[nodiscard]] virtual bool isOwn(Ipv4Address address) const = 0;
     /// Everybody on one of this machine's networks hears what is sent there.
     [[nodiscard]] virtual bool isBroadcast(Ipv4Address address) const = 0;
+    /// Whether the system knows where to send what is meant for that address.
+    [[nodiscard]] virtual bool hasWayTo(Ipv4Address address) const = 0;
     /// Those that run, without loopback, lines to a single machine, and the networks of containers and virtual
     /// machines.
     [[nodiscard]] virtual std::vector<NetworkCard> cards() const = 0;

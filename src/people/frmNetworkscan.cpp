@@ -1,8 +1,10 @@
 #include "people/frmNetworkscan.h"
 
 #include "widgets/dialog_parts.h"
+#include "widgets/form_text.h"
 #include "widgets/pictures.h"
 
+#include <QComboBox>
 #include <QGroupBox>
 #include <QVBoxLayout>
 
@@ -35,6 +37,14 @@ void frmNetworkscan::buildControls()
     auto *const caption = named(new QLabel(tr("&Workstation name / IP Address:"), frame), "Label1");
     Text1 = nameBox(frame, "Text1");
     caption->setBuddy(Text1);
+    networksCombo = named(new QComboBox(frame), "networksCombo");
+    nameCombo(*networksCombo, tr("Everybody on a network of this computer"));
+    networksCombo->setPlaceholderText(tr("Everybody on..."));
+    networksCombo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    auto *const row = new QHBoxLayout;
+    row->setSpacing(spacing);
+    row->addWidget(Text1, 1);
+    row->addWidget(networksCombo);
     auto *const note
         = runningText(frame, "Label2",
                       tr("Note: you can use broadcast IP to scan a whole network (e.g. let's say your IP address is "
@@ -45,7 +55,7 @@ void frmNetworkscan::buildControls()
     inFrame->setContentsMargins(margin, margin, margin, margin);
     inFrame->setSpacing(spacing);
     inFrame->addWidget(caption);
-    inFrame->addWidget(Text1);
+    inFrame->addLayout(row);
     inFrame->addWidget(note);
 
     auto *const buttons = new QDialogButtonBox(this);
@@ -57,15 +67,26 @@ void frmNetworkscan::buildControls()
 
 void frmNetworkscan::connectControls()
 {
+    connect(networksCombo, &QComboBox::activated, this, &frmNetworkscan::networksCombo_Click);
     connect(Command1, &QPushButton::clicked, this, &frmNetworkscan::Command1_Click);
     connect(Command2, &QPushButton::clicked, this, &frmNetworkscan::reject);
 }
 
 void frmNetworkscan::Form_Load()
 {
+    for (const NetworkCard &network : m_scan.networks())
+        networksCombo->addItem(tr("%1 (%2)").arg(addressText(network.broadcast), network.name),
+                               addressText(network.broadcast));
+    networksCombo->setCurrentIndex(-1);
+    networksCombo->setVisible(networksCombo->count() > 0);
     Text1->setText(m_scan.Form_Load());
     Text1->selectAll();
     Text1->setFocus();
+}
+
+void frmNetworkscan::networksCombo_Click(int position)
+{
+    Text1->setText(networksCombo->itemData(position).toString());
 }
 
 void frmNetworkscan::Command1_Click()

@@ -5,6 +5,7 @@
 
 #include <QDialog>
 
+class QComboBox;
 class QLineEdit;
 class QPushButton;
 
@@ -24,9 +25,11 @@ private:
     void connectControls();
     void Form_Load();
     void Command1_Click();
+    void networksCombo_Click(int position);
 
     NetworkScan m_scan;
     QLineEdit *Text1 = nullptr;
+    QComboBox *networksCombo = nullptr; ///< hidden where there is no network
     QPushButton *Command1 = nullptr;
     QPushButton *Command2 = nullptr;
 };

@@ -4,18 +4,44 @@
 #include "base/remote_text.h"
 #include "protocol/address_text.h"
 
+#include <QRegularExpression>
+
 namespace nimb
 {
+
+namespace
+{
+
+/// What the system may know as the name of a host: words of letters, digits and hyphens, the last one no number. An
+/// underscore is not allowed there and yet met.
+bool mayBeName(const QString &text)
+{
+    static const QRegularExpression name(
+        QStringLiteral("^(?:\\w(?:[\\w-]{0,61}\\w)?\\.)*(?!\\d+\\.?$)\\w(?:[\\w-]{0,61}\\w)?\\.?$"),
+        QRegularExpression::UseUnicodePropertiesOption);
+    return name.match(text).hasMatch();
+}
+
+bool isAskable(Ipv4Address address)
+{
+    constexpr Ipv4Address everybody(255, 255, 255, 255);
+    return address.isUnicast() || address == everybody;
+}
+
+} // namespace
 
 void NetworkScan::Command1_Click(const QString &typed)
 {
     const QString text = typed.trimmed();
     if (text.isEmpty())
         return;
-    if (const auto address = readAddress(text, Ipv4Address::LeadingZeros::skipped))
+    if (const auto address = readAddress(text, Ipv4Address::LeadingZeros::skipped); address && isAskable(*address))
         return m_search.ask({{*address}}, addressText(*address));
     if (const std::optional<Range> range = readRange(text))
         return ask(*range, text);
+    if (!mayBeName(text))
+        return m_log.fault(tr("\"%1\" is neither a name nor the address of a computer or a network, so nobody was asked.")
+                               .arg(remoteName(text)));
     // The answer may come when the dialog and this object are gone.
     m_resolver.resolve(text, [&search = m_search, &log = m_log, text](std::optional<Ipv4Address> address) {
         if (address)
@@ -33,7 +59,7 @@ std::optional<NetworkScan::Range> NetworkScan::readRange(QStringView text)
     const auto address = readAddress(text.left(slash), Ipv4Address::LeadingZeros::skipped);
     bool isNumber = false;
     const int prefix = text.mid(slash + 1).toInt(&isNumber);
-    if (!address || !isNumber || prefix < 0 || prefix > 32)
+    if (!address || !address->isUnicast() || !isNumber || prefix < 0 || prefix > 32)
         return std::nullopt;
     return Range{*address, prefix};
 }

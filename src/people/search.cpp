@@ -32,6 +32,10 @@ void Search::ask(std::vector<SearchTarget> targets, const QString &where)
         return;
     if (targets.size() == 1 && isOneself(targets.front().destination))
         return askOneself(targets.front().destination);
+    const auto hasWay = [this](const SearchTarget &to) { return m_parts.ownAddresses.hasWayTo(to.destination); };
+    if (std::ranges::none_of(targets, hasWay))
+        return m_parts.log.fault(
+            tr("No network of this computer leads to %1, so nobody was asked.").arg(where));
     m_parts.log.note(tr("asking %1 who is there").arg(where));
     Run &run = *m_runs.emplace_back(std::make_unique<Run>());
     run.targets = std::move(targets);
@@ -92,20 +96,24 @@ void Search::findEverybody()
         return m_parts.log.note(
             tr("nobody was asked: you are invisible, and the question would show everybody that you "
                "are there"));
-    // Copies that have addresses of the loopback network are on this machine, and on no other.
-    if (m_parts.common.ownIP.isLoopback()) {
-        constexpr Ipv4Address everybodyHere(127, 255, 255, 255);
-        return ask({{everybodyHere}}, tr("everybody on this computer"));
-    }
     std::vector<SearchTarget> targets;
-    QStringList networks;
-    for (const NetworkCard &card : m_parts.ownAddresses.cards()) {
-        targets.push_back({card.broadcast, card.address});
-        networks.append(tr("%1 (%2)").arg(addressText(card.broadcast), card.name));
+    QStringList names;
+    for (const NetworkCard &network : networks()) {
+        targets.push_back({network.broadcast, network.address});
+        names.append(tr("%1 (%2)").arg(addressText(network.broadcast), network.name));
     }
     if (targets.empty())
         return m_parts.log.note(tr("nobody can be asked: no network is connected"));
-    ask(std::move(targets), tr("everybody on %1").arg(networks.join(QStringLiteral(", "))));
+    ask(std::move(targets), tr("everybody on %1").arg(names.join(QStringLiteral(", "))));
+}
+
+std::vector<NetworkCard> Search::networks() const
+{
+    // Copies that have addresses of the loopback network are on this machine, and on no other.
+    constexpr Ipv4Address everybodyHere(127, 255, 255, 255);
+    if (const Ipv4Address own = m_parts.common.ownIP; own.isLoopback())
+        return {{tr("this computer"), own, everybodyHere}};
+    return m_parts.ownAddresses.cards();
 }
 
 void Search::tick(Run &run)

@@ -45,7 +45,9 @@ public:
     /// For questions that the user has not asked for in so many words: they would show that he is there.
     void askUnlessInvisible(std::vector<SearchTarget> targets, const QString &where);
 
-    /// Asks everybody on every network that this machine is in, unless the user is invisible.
+    /// Those on which everybody can be asked. For a copy with a loopback address that is this very machine.
+    [[nodiscard]] std::vector<NetworkCard> networks() const;
+    /// Asks everybody on all of them, unless the user is invisible.
     void findEverybody();
 
     /// Asks none of those any more who are still to be asked.

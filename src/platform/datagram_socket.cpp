@@ -259,12 +259,13 @@ DatagramSocket::Reception DatagramSocket::receive(Buffers &buffers)
     return reception;
 }
 
-std::optional<Ipv4Address> sourceAddressTowards(Ipv4Endpoint destination)
+std::optional<Ipv4Address> sourceAddressTowards(Ipv4Endpoint destination, Ipv4Address from)
 {
-    const auto opened = DatagramSocket::open({}, DatagramSocket::Sharing::exclusive);
-    const auto *const socket = std::get_if<DatagramSocket>(&opened);
+    auto opened = DatagramSocket::open({from, 0}, DatagramSocket::Sharing::exclusive);
+    auto *const socket = std::get_if<DatagramSocket>(&opened);
     if (!socket)
         return std::nullopt;
+    socket->setBroadcast(true);
     const sockaddr_in address = toSystem(destination);
     if (::connect(socket->descriptor(), general(address), sizeof address) != 0)
         return std::nullopt;

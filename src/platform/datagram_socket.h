@@ -91,7 +91,8 @@ private:
     std::uint32_t m_lostSoFar = 0;
 };
 
-/// The own address that the system would put on a datagram to this destination. Nothing is sent.
-std::optional<Ipv4Address> sourceAddressTowards(Ipv4Endpoint destination);
+/// The own address that the system would put on a datagram to this destination, broadcast ones included; nothing where
+/// it knows no way. from: the address of the socket that sends it. Nothing is sent.
+std::optional<Ipv4Address> sourceAddressTowards(Ipv4Endpoint destination, Ipv4Address from = {});
 
 } // namespace nimb

@@ -89,6 +89,11 @@ bool MachineAddresses::isBroadcast(Ipv4Address address) const
     return std::ranges::find(m_broadcast, address) != m_broadcast.end();
 }
 
+bool MachineAddresses::hasWayTo(Ipv4Address address) const
+{
+    return sourceAddressTowards({address, farAway.port}, m_fixed.value_or(Ipv4Address())).has_value();
+}
+
 std::vector<NetworkCard> MachineAddresses::cards() const
 {
     read();

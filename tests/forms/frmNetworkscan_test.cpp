@@ -11,6 +11,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -105,6 +106,30 @@ TEST_F(FrmNetworkscan, EscapeClosesWithoutAsking)
 {
     press(Qt::Key_Escape);
     EXPECT_THAT(socket.sent, IsEmpty());
+    EXPECT_TRUE(isGone());
+}
+
+TEST_F(FrmNetworkscan, OffersTheBroadcastAddressesOfThisComputer)
+{
+    EXPECT_FALSE(dialog->findChild<QComboBox *>(QStringLiteral("networksCombo"))->isVisible()) << "there is none";
+    dialog->close();
+    ownAddresses.running = {{QStringLiteral("eth0"), Ipv4Address(192, 168, 1, 5), Ipv4Address(192, 168, 1, 255)},
+                            {QStringLiteral("wlan0"), Ipv4Address(10, 7, 0, 1), Ipv4Address(10, 7, 3, 255)}};
+    dialog = new frmNetworkscan(scan, &parent);
+    dialog->open();
+    auto &networks = *dialog->findChild<QComboBox *>(QStringLiteral("networksCombo"));
+    EXPECT_TRUE(networks.isVisible());
+    EXPECT_EQ(networks.currentIndex(), -1);
+    EXPECT_EQ(text().text(), QStringLiteral("192.168.1.5")) << "the own address stays the offer";
+    EXPECT_EQ(networks.count(), 2);
+    EXPECT_EQ(networks.itemText(0), QStringLiteral("192.168.1.255 (eth0)"));
+    EXPECT_THAT(tabStops(*dialog), ElementsAre("Text1", "networksCombo", "Command1", "Command2"));
+    EXPECT_THAT(badLabels(*dialog), IsEmpty());
+    networks.setFocus();
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_THAT(socket.sent, ElementsAre(To{"10.7.3.255", "?ONLINE 192.168.1.5 HERE Me"}));
     EXPECT_TRUE(isGone());
 }
 

@@ -496,9 +496,10 @@ public:
     bool isOwn(Ipv4Address address) const override { return own.contains(address); }
     bool isBroadcast(Ipv4Address address) const override { return broadcast.contains(address); }
 
+    bool hasWayTo(Ipv4Address address) const override { return !unreachable.contains(address); }
     std::vector<NetworkCard> cards() const override { return running; }
 
-    std::set<Ipv4Address> own, broadcast;
+    std::set<Ipv4Address> own, broadcast, unreachable;
     std::vector<NetworkCard> running;
 };
 

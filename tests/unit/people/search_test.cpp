@@ -252,8 +252,20 @@ TEST_F(SearchTest, ACopyOfTheLoopbackNetworkAsksThatOne)
 {
     Copy here{{.ip = QStringLiteral("127.0.3.1"), .host = QStringLiteral("HERE")}};
     here.engine.search().findEverybody();
-    EXPECT_EQ(here.view.log.lines().back(), "--- asking everybody on this computer who is there ---");
+    EXPECT_EQ(here.view.log.lines().back(), "--- asking everybody on 127.255.255.255 (this computer) who is there ---");
     EXPECT_THAT(here.sent(), ElementsAre(To{"127.255.255.255", "?ONLINE 127.0.3.1 HERE Me"}));
+}
+
+TEST_F(SearchTest, ANetworkToWhichNoWayLeadsIsSaidAtOnce)
+{
+    me.ownAddresses.unreachable = {Ipv4Address(172, 16, 0, 9)};
+    ask(Ipv4Address(172, 16, 0, 9));
+    EXPECT_EQ(lastLine(), "No network of this computer leads to 172.16.0.9, so nobody was asked.");
+    pass(4s);
+    EXPECT_THAT(me.sent(), IsEmpty());
+    EXPECT_EQ(lastLine(), "No network of this computer leads to 172.16.0.9, so nobody was asked.");
+    search().ask({{Ipv4Address(172, 16, 0, 9)}, {Ipv4Address(10, 0, 0, 2)}}, QStringLiteral("two"));
+    EXPECT_EQ(lastLine(), "--- asking two who is there ---") << "one of them can be reached";
 }
 
 TEST_F(SearchTest, NobodyToAskIsNoSearch)
