@@ -21,11 +21,15 @@ public:
     {
     }
 
+    /// What speaks against the address while it is typed, in the words of the refusal; empty where nothing does.
+    [[nodiscard]] QString remark(const QString &ipaddress) const;
     /// True when the contact was added, and is asked whether it is there unless the user is invisible; otherwise the
     /// user has been told why not.
     [[nodiscard]] bool CmdOK_Click(const QString &nickname, const QString &hostname, const QString &ipaddress);
 
 private:
+    /// The refusal of this address, whatever the other fields hold.
+    QString objection(const QString &ipaddress) const;
     /// Empty when nothing speaks against the contact.
     QString objection(const QString &nickname, const QString &hostname, const QString &ipaddress) const;
 

@@ -2,8 +2,10 @@
 
 #include "base/remote_text.h"
 #include "widgets/dialog_parts.h"
+#include "widgets/muted_colour.h"
 #include "widgets/pictures.h"
 
+#include <QAction>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QVBoxLayout>
@@ -57,6 +59,17 @@ void frmAddUser::buildControls()
     addRow("Label2", tr("&Workstation"), hostname, 2);
     addRow("Label3", tr("&IP Address"), ipaddress, 1);
     grid->addWidget(Resolvebtn, row - 1, 2);
+    m_wrongAddress = ipaddress->addAction(statePicture(Picture::red), QLineEdit::TrailingPosition);
+    addressRemark = named(new QLabel(frame), "addressRemark");
+    addressRemark->setTextFormat(Qt::PlainText);
+    addressRemark->setWordWrap(true);
+    addressRemark->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    // The room is kept, or the dialog would jump while somebody types.
+    addressRemark->setFixedHeight(2 * addressRemark->fontMetrics().lineSpacing());
+    QPalette colours = addressRemark->palette();
+    colours.setColor(QPalette::WindowText, readableOn(Qt::red, colours.color(QPalette::Window)));
+    addressRemark->setPalette(colours);
+    grid->addWidget(addressRemark, row, 1, 1, 2);
 
     auto *const buttons = new QDialogButtonBox(this);
     CmdOK = addButton(*buttons, "CmdOK", tr("OK"), QDialogButtonBox::AcceptRole);
@@ -68,12 +81,23 @@ void frmAddUser::buildControls()
     for (auto control = order.begin(); control + 1 != order.end(); ++control)
         setTabOrder(*control, *(control + 1));
     nicktxt->setFocus();
+    ipaddress_Change();
 }
 
 void frmAddUser::connectControls()
 {
     connect(CmdOK, &QPushButton::clicked, this, &frmAddUser::CmdOK_Click);
     connect(Command1, &QPushButton::clicked, this, &frmAddUser::reject);
+    connect(ipaddress, &QLineEdit::textChanged, this, &frmAddUser::ipaddress_Change);
+}
+
+void frmAddUser::ipaddress_Change()
+{
+    const QString remark = m_rules.remark(typed(*ipaddress));
+    addressRemark->setText(remark);
+    ipaddress->setAccessibleDescription(remark);
+    m_wrongAddress->setToolTip(remark);
+    m_wrongAddress->setVisible(!remark.isEmpty());
 }
 
 void frmAddUser::CmdOK_Click()

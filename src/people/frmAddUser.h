@@ -5,6 +5,8 @@
 
 #include <QDialog>
 
+class QAction;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 
@@ -23,11 +25,14 @@ private:
     void buildControls();
     void connectControls();
     void CmdOK_Click();
+    void ipaddress_Change();
 
     AddUser m_rules;
     QLineEdit *nicktxt = nullptr;
     QLineEdit *hostname = nullptr;
     QLineEdit *ipaddress = nullptr;
+    QAction *m_wrongAddress = nullptr; ///< the mark in its box
+    QLabel *addressRemark = nullptr;   ///< what is wrong with it
     QPushButton *Resolvebtn = nullptr; ///< without a function: nothing is looked up here
     QPushButton *CmdOK = nullptr;
     QPushButton *Command1 = nullptr;

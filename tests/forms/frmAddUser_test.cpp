@@ -8,6 +8,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QAction>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -141,6 +143,24 @@ TEST_F(FrmAddUser, CancelAndEscapeCloseWithoutAdding)
     QTest::keyClick(dialog, Qt::Key_Escape);
     EXPECT_TRUE(isGone());
     EXPECT_EQ(contacts.rowCount(), 0);
+}
+
+TEST_F(FrmAddUser, AWrongAddressIsMarkedInItsBoxWhileItIsTyped)
+{
+    const auto &remark = *dialog->findChild<QLabel *>(QStringLiteral("addressRemark"));
+    const auto &mark = *box("ipaddress").actions().front();
+    const QSize size = dialog->size();
+    EXPECT_FALSE(mark.isVisible());
+    box("ipaddress").setFocus();
+    type("192.168.0.5");
+    EXPECT_TRUE(mark.isVisible());
+    EXPECT_EQ(remark.text(), QStringLiteral("You can't add yourself..."));
+    EXPECT_EQ(box("ipaddress").accessibleDescription(), remark.text());
+    type("6");
+    EXPECT_FALSE(mark.isVisible());
+    EXPECT_EQ(remark.text(), QString());
+    EXPECT_EQ(dialog->size(), size);
+    EXPECT_THAT(prompts.told, IsEmpty());
 }
 
 TEST_F(FrmAddUser, PastedLineBreaksBecomeBlanks)

@@ -288,6 +288,8 @@ void takeDialogs(Gallery &gallery)
 {
     RealWindows windows(everybody);
     fill(windows);
+    windows.ownAddresses.running = {{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1), Ipv4Address(10, 0, 0, 255)}};
+    windows.ownAddresses.broadcast = {Ipv4Address(192, 168, 1, 255)};
     windows.tips = QByteArray("Somebody does not answer? Press Ctrl+G in the private window to buzz.\n"
                               "Enter sends what you have typed.||Shift+Enter begins a new line in the same message.\n");
     windows.settings.put("Options", "TipOTDayNum", QStringLiteral("1"));
@@ -314,6 +316,10 @@ void takeDialogs(Gallery &gallery)
             list.setCurrentIndex(list.model()->index(0, 0));
         }
         gallery.take(dialog, picture);
+        if (QLatin1String(name) == QLatin1String("frmAddUser")) {
+            RealWindows::control<QLineEdit>(dialog, "ipaddress").setText(QStringLiteral("192.168.1.255"));
+            gallery.take(dialog, "add_user_wrong");
+        }
         dialog.close();
     }
 }

@@ -91,6 +91,21 @@ TEST_F(AddUserTest, WhoIsInvisibleAsksNobody)
     EXPECT_THAT(shown.lines(), IsEmpty());
 }
 
+TEST_F(AddUserTest, AWrongAddressIsRemarkedWhileItIsTyped)
+{
+    ownAddresses.broadcast = {Ipv4Address(192, 168, 0, 255)};
+    const auto remark = [this](const char *typed) { return rules.remark(QString::fromLatin1(typed)).toStdString(); };
+    EXPECT_EQ(remark(""), "");
+    EXPECT_EQ(remark("192.168.0.8"), "");
+    EXPECT_EQ(remark("192.168.0.7"), "IP Address already used by another user");
+    EXPECT_EQ(remark("192.168.0.5"), "You can't add yourself...");
+    EXPECT_EQ(remark("192.168.0.255"),
+              "This is not the address of one computer: everybody on the network hears what is sent there.");
+    for (const char *const none : {"192.168.0", "192.168.0.", "192.168.000.005", "pc-ann", "300.1.2.3", "224.0.0.1"})
+        EXPECT_EQ(remark(none), "This is no address such as 192.168.1.20: nothing can be sent there.") << none;
+    EXPECT_THAT(prompts.told, IsEmpty());
+}
+
 TEST_F(AddUserTest, AddsARowThatIsNotYetKnown)
 {
     EXPECT_TRUE(add("Ben the Builder", "PC-BEN", "192.168.0.8"));
