@@ -150,7 +150,7 @@ void DialogOpener::mnusendcontacts(const QString &ip)
 void DialogOpener::mnuToolsOptions()
 {
     const OptionValues values(m_services.common, m_engine.ownAvatar(), m_services.pictures, m_services.clock,
-                              [this] { m_engine.recovery().settingsChanged(); });
+                              m_engine.ownAddresses(), [this] { m_engine.recovery().settingsChanged(); });
     open(new frmOptions(values, m_services.prompts, &m_main));
 }
 

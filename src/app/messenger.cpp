@@ -4,7 +4,7 @@ namespace nimb
 {
 
 Messenger::Messenger(Common &common, const Surroundings &around)
-    : m_socket(around.socket), m_windows(around.windows),
+    : m_socket(around.socket), m_ownAddresses(around.ownAddresses), m_windows(around.windows),
       m_admission(common, m_contacts, around.ownAddresses, around.drops),
       m_log(around.mainView.outtext(), around.clock), m_unknown(m_log, around.timers), m_sender(common, around.socket),
       m_announcement(common, m_contacts, m_sender, around.timers, around.clock, around.mainView),
@@ -42,7 +42,7 @@ Messenger::Messenger(Common &common, const Surroundings &around)
                     .sharedContacts = &m_sharedContacts,
                     .conferences = &m_conferenceCommands},
                    around.drops),
-      m_mainWindow({common, around.store, around.goodCopy, around.nextStart, around.socket, m_contacts, m_ownState,
+      m_mainWindow({common, around.store, around.goodCopy, around.nextStart, around.socket, around.ownAddresses, m_contacts, m_ownState,
                     m_sender, m_announcement, m_port, m_recovery, m_log, around.prompts,
                     [this] { unloadOtherWindows(); }, around.tray, around.mainView})
 {

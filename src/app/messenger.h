@@ -55,6 +55,7 @@ public:
     MainLog &log() { return m_log; }
     const PresenceSender &sender() const { return m_sender; }
     Search &search() { return m_search; }
+    const OwnAddresses &ownAddresses() const { return m_ownAddresses; }
     PrivateWindows &privateWindows() { return m_privateWindows; }
     OwnAvatar &ownAvatar() { return m_ownAvatar; }
     const AvatarStore &avatars() const { return m_avatars; }
@@ -67,6 +68,7 @@ private:
     void unloadOtherWindows();
 
     Winsock &m_socket;
+    const OwnAddresses &m_ownAddresses;
     SecondaryWindows &m_windows;
     ContactList m_contacts;
     Admission m_admission;

@@ -43,7 +43,7 @@ struct Common {
     Common(const Common &) = delete;
     Common &operator=(const Common &) = delete;
 
-    Ipv4Address ownIP; ///< read once from the socket
+    Ipv4Address ownIP; ///< found once, at the start
     QString ownHostName;
     QString ownNickname;
 
@@ -56,6 +56,7 @@ struct Common {
     QString avatarHead;    ///< empty: no avatar
     QByteArray avatarBody; ///< 7500 bytes, or empty
     std::uint16_t udpPort = 5549;
+    QString ownCard; ///< the network card whose address is the own one; empty: as the system chooses
     WindowPlace mainPlace;
 
     bool windowFlashingAvailable = false;

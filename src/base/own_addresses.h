@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 namespace nimb
@@ -12,9 +13,11 @@ namespace nimb
 
 /// One of this machine's cards, and how everybody on its network is reached.
 struct NetworkCard {
-    QString name;          ///< the system's
-    Ipv4Address address;   ///< of this machine there
-    Ipv4Address broadcast; ///< of everybody there
+    QString name;        ///< the system's
+    Ipv4Address address; ///< of this machine there
+    /// Of everybody there. Nothing where nobody else would hear it: a line to a single machine, or a network of
+    /// containers and virtual machines.
+    std::optional<Ipv4Address> broadcast{};
     bool operator==(const NetworkCard &) const = default;
 };
 
@@ -28,11 +31,22 @@ public:
     [[nodiscard]] virtual bool isOwn(Ipv4Address address) const = 0;
     /// Everybody on one of this machine's networks hears what is sent there.
     [[nodiscard]] virtual bool isBroadcast(Ipv4Address address) const = 0;
+    /// Whoever started the program has fixed the own one, and nothing leaves from another.
+    [[nodiscard]] virtual bool isFixed() const = 0;
     /// Whether the system knows where to send what is meant for that address.
     [[nodiscard]] virtual bool hasWayTo(Ipv4Address address) const = 0;
-    /// Those that run, without loopback, lines to a single machine, and the networks of containers and virtual
-    /// machines.
+    /// Those that run, without loopback. One with several addresses is there with each of them.
     [[nodiscard]] virtual std::vector<NetworkCard> cards() const = 0;
 };
+
+/// The address of the card with that name; nothing where it does not run.
+inline std::optional<Ipv4Address> addressOfCard(const OwnAddresses &own, const QString &name)
+{
+    for (const NetworkCard &card : own.cards()) {
+        if (card.name == name)
+            return card.address;
+    }
+    return std::nullopt;
+}
 
 } // namespace nimb

@@ -129,6 +129,7 @@ LoadedSettings loadSettings(const SettingsStore &store, Common &common)
     common.logFont.size = read.integer16("StandardFontSize");
     common.logFont.face = read.text("StandardFontFace");
     common.logFont.style = read.text("StandardFontStyle");
+    common.ownCard = read.text("OwnNetworkCard");
     for (int n = 1; n <= limits::storedPersonalizedStates; ++n)
         loaded.personalizedStates.append(store.read(
             QLatin1String(settingKey(QLatin1String("PersonalizedState")).section), personalizedStateKey(n), {}));
@@ -154,6 +155,7 @@ void saveSettings(SettingsSink &store, const Common &common, const QStringList &
     write("StandardFontSize", QString::number(common.logFont.size));
     write("StandardFontFace", common.logFont.face);
     write("StandardFontStyle", common.logFont.style);
+    write("OwnNetworkCard", common.ownCard);
     // Unused numbers are emptied, or entries of an earlier, longer list would come back.
     for (int n = 1; n <= limits::storedPersonalizedStates; ++n)
         store.write(QLatin1String(settingKey(QLatin1String("PersonalizedState")).section), personalizedStateKey(n),

@@ -49,6 +49,8 @@ inline constexpr std::array settingKeys = {
     SettingKey{"Settings", "StandardFontSize", SettingType::integer16, "8", "log font, points"},
     SettingKey{"Settings", "StandardFontFace", SettingType::text, "MS Sans Serif", "log font, face"},
     SettingKey{"Settings", "StandardFontStyle", SettingType::text, "", "log font: b for bold, i for italic"},
+    SettingKey{"Settings", "OwnNetworkCard", SettingType::text, "",
+               "network card whose address is the own one, empty: as the system chooses"},
     SettingKey{"Settings", "PersonalizedState", SettingType::text, "", "picture digit and text of an own state"},
     SettingKey{"Settings", "AutorefuseConf", SettingType::integer16, "0", "1: invitations are refused by age"},
     SettingKey{"Settings", "AutorefuseConfMins", SettingType::text, "5", "that age, minutes"},

@@ -26,13 +26,14 @@ void PresenceSender::questionToAll(Ipv4Address ip, std::optional<Ipv4Address> so
     wire::Identity identity = ownIdentity(m_common);
     if (source)
         identity.ip = source->toText();
+    const std::optional<Ipv4Address> usual = m_socket.source();
     m_socket.setBroadcast(true);
-    m_socket.setSource(source);
+    m_socket.setSource(source ? source : usual);
     sendDatagram(m_socket, ip, wire::OnlineQuestion{identity});
     const BaseState own = m_common.ownPresence.base;
     if (own == BaseState::busy || own == BaseState::away)
         status(ip);
-    m_socket.setSource(std::nullopt);
+    m_socket.setSource(usual);
     m_socket.setBroadcast(false);
 }
 

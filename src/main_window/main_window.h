@@ -5,6 +5,7 @@
 #include "base/good_copy.h"
 #include "base/main_log.h"
 #include "base/next_start.h"
+#include "base/own_addresses.h"
 #include "base/prompts.h"
 #include "base/settings.h"
 #include "base/settings_store.h"
@@ -38,6 +39,7 @@ public:
         GoodCopy &goodCopy;
         NextStart &nextStart;
         Winsock &socket;
+        const OwnAddresses &ownAddresses;
         ContactList &contacts;
         OwnState &ownState;
         PresenceSender &sender;
@@ -65,6 +67,8 @@ public:
 
 private:
     LoadedSettings loadSettings();
+    /// Takes the address of the card that the user has chosen; the sentence says that it is not there.
+    std::optional<QString> takeOwnCard();
     void answerNobody();
     void sayFarewellAndSaveContacts();
     void save();

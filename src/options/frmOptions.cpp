@@ -124,14 +124,23 @@ QGroupBox *frmOptions::makeProgram()
     addOptions(OptionGroup::mainWindow, *column);
     UDPPorttxt = named(new QLineEdit(group), "UDPPorttxt");
     UDPPorttxt->setFixedWidth(80);
-    auto *const caption = new QLabel(tr("UDP &port:"), group);
-    caption->setBuddy(UDPPorttxt);
-    auto *const port = new QHBoxLayout;
-    port->setSpacing(spacing);
-    port->addWidget(caption);
-    port->addWidget(UDPPorttxt);
-    port->addWidget(note(tr("A change takes effect at the next start."), group), 1);
-    column->addLayout(port);
+    auto *const portCaption = new QLabel(tr("UDP &port:"), group);
+    portCaption->setBuddy(UDPPorttxt);
+    ownAddressCombo = named(new QComboBox(group), "ownAddressCombo");
+    nameCombo(*ownAddressCombo, tr("Your address"));
+    ownAddressCombo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    ownAddressCombo->setMinimumContentsLength(12);
+    auto *const addressCaption = new QLabel(tr("Yo&ur address:"), group);
+    addressCaption->setBuddy(ownAddressCombo);
+    auto *const network = new QGridLayout;
+    network->setSpacing(spacing);
+    network->addWidget(portCaption, 0, 0);
+    network->addWidget(UDPPorttxt, 0, 1, Qt::AlignLeft);
+    network->addWidget(addressCaption, 1, 0);
+    network->addWidget(ownAddressCombo, 1, 1);
+    network->setColumnStretch(1, 1);
+    column->addLayout(network);
+    column->addWidget(note(tr("A change of these two takes effect at the next start."), group));
     return group;
 }
 
@@ -240,6 +249,12 @@ void frmOptions::Form_Load()
     for (const ShownOption &shown : m_options)
         shown.box->setChecked(shown.row->isTicked(now.options));
     UDPPorttxt->setText(now.UDPPorttxt);
+    for (const OptionValues::Card &card : m_values.cards())
+        ownAddressCombo->addItem(card.caption, card.name);
+    ownAddressCombo->setCurrentIndex(ownAddressCombo->findData(now.ownCard));
+    ownAddressCombo->setEnabled(m_values.mayChooseCard());
+    if (!m_values.mayChooseCard())
+        ownAddressCombo->setToolTip(tr("The environment variable NIMBCHAT_ADDRESS says it"));
     m_font = now.font;
     showFont();
     avatarButton(now.avatar)->setChecked(true);
@@ -270,6 +285,7 @@ OptionControls frmOptions::controls() const
     for (const ShownOption &shown : m_options)
         shown.row->setTicked(now.options, shown.box->isChecked());
     now.UDPPorttxt = UDPPorttxt->text();
+    now.ownCard = ownAddressCombo->currentData().toString();
     now.font = m_font;
     now.loaded = m_loadedPicture;
     for (const AvatarChoice choice : {AvatarChoice::none, AvatarChoice::still, AvatarChoice::polled}) {

@@ -77,6 +77,7 @@ private:
 
     std::vector<ShownOption> m_options;
     QLineEdit *UDPPorttxt = nullptr;
+    QComboBox *ownAddressCombo = nullptr;
     QLabel *m_fontSample = nullptr;
     QPushButton *font_btn = nullptr;
     QRadioButton *Option1 = nullptr;

@@ -1,6 +1,10 @@
 #include "options/options.h"
 
 #include "base/avatar.h"
+#include "base/remote_text.h"
+#include "protocol/address_text.h"
+
+#include <algorithm>
 
 namespace nimb
 {
@@ -22,6 +26,7 @@ OptionControls OptionValues::Form_Load() const
     OptionControls controls;
     controls.options = m_common.options;
     controls.UDPPorttxt = QString::number(m_common.udpPort);
+    controls.ownCard = m_common.ownCard;
     controls.font = m_common.logFont;
     controls.avatar = m_common.avatarHead.isEmpty() ? AvatarChoice::none : AvatarChoice::still;
     if (const std::optional<PolledPicture> polled = m_ownAvatar.source()) {
@@ -29,6 +34,21 @@ OptionControls OptionValues::Form_Load() const
         controls.polled = *polled;
     }
     return controls;
+}
+
+std::vector<OptionValues::Card> OptionValues::cards() const
+{
+    std::vector<Card> cards{{{}, tr("automatic")}};
+    const auto isListed = [&cards](const QString &name) {
+        return std::ranges::any_of(cards, [&name](const Card &card) { return card.name == name; });
+    };
+    for (const NetworkCard &card : m_ownAddresses.cards()) {
+        if (!isListed(card.name))
+            cards.push_back({card.name, tr("%1 (%2)").arg(card.name, addressText(card.address))});
+    }
+    if (!isListed(m_common.ownCard))
+        cards.push_back({m_common.ownCard, tr("%1 (not connected)").arg(paintedName(remoteName(m_common.ownCard)))});
+    return cards;
 }
 
 std::optional<QString> OptionValues::CmdOK_Click(const OptionControls &controls)
@@ -46,6 +66,7 @@ std::optional<QString> OptionValues::CmdOK_Click(const OptionControls &controls)
     }
     m_common.options = controls.options;
     m_common.udpPort = *port;
+    m_common.ownCard = controls.ownCard;
     m_common.logFont = controls.font;
     takeAvatar(controls);
     m_taken();

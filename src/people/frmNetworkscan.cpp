@@ -74,9 +74,10 @@ void frmNetworkscan::connectControls()
 
 void frmNetworkscan::Form_Load()
 {
-    for (const NetworkCard &network : m_scan.networks())
-        networksCombo->addItem(tr("%1 (%2)").arg(addressText(network.broadcast), network.name),
-                               addressText(network.broadcast));
+    for (const SearchedNetwork &network : m_scan.networks()) {
+        const QString everybody = addressText(network.everybody);
+        networksCombo->addItem(tr("%1 (%2)").arg(everybody, network.name), everybody);
+    }
     networksCombo->setCurrentIndex(-1);
     networksCombo->setVisible(networksCombo->count() > 0);
     Text1->setText(m_scan.Form_Load());

@@ -24,7 +24,7 @@ public:
     /// What the box offers to be edited: the own address.
     QString Form_Load() const { return addressText(m_common.ownIP); }
     /// The networks of this machine, for the dialog to offer their broadcast addresses.
-    [[nodiscard]] std::vector<NetworkCard> networks() const { return m_search.networks(); }
+    [[nodiscard]] std::vector<SearchedNetwork> networks() const { return m_search.networks(); }
     /// Asks the dotted address at once, broadcast addresses and such with zeros before a number included, or everybody
     /// in a range such as "192.168.2.0/24", or a name when its address has been found. The main log says where that
     /// cannot be. Blanks around the text do not count.

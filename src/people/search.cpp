@@ -98,22 +98,28 @@ void Search::findEverybody()
                "are there"));
     std::vector<SearchTarget> targets;
     QStringList names;
-    for (const NetworkCard &network : networks()) {
-        targets.push_back({network.broadcast, network.address});
-        names.append(tr("%1 (%2)").arg(addressText(network.broadcast), network.name));
+    for (const SearchedNetwork &network : networks()) {
+        targets.push_back({network.everybody, network.address});
+        names.append(tr("%1 (%2)").arg(addressText(network.everybody), network.name));
     }
     if (targets.empty())
         return m_parts.log.note(tr("nobody can be asked: no network is connected"));
     ask(std::move(targets), tr("everybody on %1").arg(names.join(QStringLiteral(", "))));
 }
 
-std::vector<NetworkCard> Search::networks() const
+std::vector<SearchedNetwork> Search::networks() const
 {
     // Copies that have addresses of the loopback network are on this machine, and on no other.
     constexpr Ipv4Address everybodyHere(127, 255, 255, 255);
     if (const Ipv4Address own = m_parts.common.ownIP; own.isLoopback())
         return {{tr("this computer"), own, everybodyHere}};
-    return m_parts.ownAddresses.cards();
+    std::vector<SearchedNetwork> networks;
+    for (const NetworkCard &card : m_parts.ownAddresses.cards()) {
+        const bool canAsk = !m_parts.ownAddresses.isFixed() || card.address == m_parts.common.ownIP;
+        if (canAsk && card.broadcast)
+            networks.push_back({card.name, card.address, *card.broadcast});
+    }
+    return networks;
 }
 
 void Search::tick(Run &run)

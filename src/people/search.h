@@ -20,6 +20,13 @@ struct SearchTarget {
     bool operator==(const SearchTarget &) const = default;
 };
 
+/// A network on which everybody can be asked.
+struct SearchedNetwork {
+    QString name;          ///< of the card, or what the user calls it
+    Ipv4Address address;   ///< of this machine there
+    Ipv4Address everybody; ///< where everybody there hears it
+};
+
 /// Everybody is asked twice: whoever does not know this copy takes note of it at the first question, and answers the
 /// second. The main log says what is asked, and who has answered when the time for it is over. Where so many are to be
 /// asked that it takes a while, the view shows how far that has come.
@@ -46,7 +53,7 @@ public:
     void askUnlessInvisible(std::vector<SearchTarget> targets, const QString &where);
 
     /// Those on which everybody can be asked. For a copy with a loopback address that is this very machine.
-    [[nodiscard]] std::vector<NetworkCard> networks() const;
+    [[nodiscard]] std::vector<SearchedNetwork> networks() const;
     /// Asks everybody on all of them, unless the user is invisible.
     void findEverybody();
 

@@ -24,13 +24,17 @@ bool isUsable(Ipv4Address address)
     return !address.isUnspecified() && !address.isLoopback();
 }
 
+bool runs(const QNetworkInterface &interface)
+{
+    const QNetworkInterface::InterfaceFlags flags = interface.flags();
+    return flags.testFlag(QNetworkInterface::IsUp) && flags.testFlag(QNetworkInterface::IsRunning);
+}
+
 bool reachesOthers(const QNetworkInterface &interface)
 {
-    const QNetworkInterface::InterfaceFlags needed
-        = QNetworkInterface::IsUp | QNetworkInterface::IsRunning | QNetworkInterface::CanBroadcast;
     const QNetworkInterface::InterfaceFlags flags = interface.flags();
-    return (flags & needed) == needed && !flags.testFlag(QNetworkInterface::IsLoopBack)
-        && !flags.testFlag(QNetworkInterface::IsPointToPoint) && !isInsideMachine(interface.name());
+    return flags.testFlag(QNetworkInterface::CanBroadcast) && !flags.testFlag(QNetworkInterface::IsPointToPoint)
+        && !isInsideMachine(interface.name());
 }
 
 std::optional<Ipv4Address> firstOfAnyInterface()
@@ -97,10 +101,7 @@ bool MachineAddresses::hasWayTo(Ipv4Address address) const
 std::vector<NetworkCard> MachineAddresses::cards() const
 {
     read();
-    std::vector<NetworkCard> cards = m_cards;
-    if (m_fixed) // nothing leaves a socket that is bound to one address from another
-        std::erase_if(cards, [this](const NetworkCard &card) { return card.address != m_fixed; });
-    return cards;
+    return m_cards;
 }
 
 void MachineAddresses::read() const
@@ -119,11 +120,11 @@ void MachineAddresses::read() const
             if (isUsable(address))
                 m_own.push_back(address);
             const auto everybody = broadcastAddress(address, entry.prefixLength());
-            if (!everybody)
-                continue;
-            m_broadcast.push_back(*everybody);
-            if (reachesOthers(interface))
-                m_cards.push_back({interface.name(), address, *everybody});
+            if (everybody)
+                m_broadcast.push_back(*everybody);
+            if (isUsable(address) && runs(interface))
+                m_cards.push_back(
+                    {interface.name(), address, reachesOthers(interface) ? everybody : std::nullopt});
         }
     }
 }

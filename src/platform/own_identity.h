@@ -33,6 +33,7 @@ public:
 
     bool isOwn(Ipv4Address address) const override;
     bool isBroadcast(Ipv4Address address) const override;
+    bool isFixed() const override { return m_fixed.has_value(); }
     bool hasWayTo(Ipv4Address address) const override;
     std::vector<NetworkCard> cards() const override;
 

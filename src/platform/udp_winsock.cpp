@@ -105,6 +105,9 @@ void UdpWinsock::SendData(const std::string &bytes)
     const bool canSend = m_own && m_remoteHost && m_remotePort != 0;
     if (canSend && m_own->send({*m_remoteHost, m_remotePort}, bytes, m_source))
         return;
+    // The card that has this address may have gone, or there may be no way from it.
+    if (canSend && m_source && m_own->send({*m_remoteHost, m_remotePort}, bytes))
+        return;
     m_drops.count(Drop::notSent);
     if (canSend)
         reportError();

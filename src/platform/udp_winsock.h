@@ -37,6 +37,7 @@ public:
     void setRemoteHost(std::optional<Ipv4Address> address) override { m_remoteHost = address; }
     void setBroadcast(bool allowed) override;
     void setSource(std::optional<Ipv4Address> address) override { m_source = address; }
+    std::optional<Ipv4Address> source() const override { return m_source; }
 
     [[nodiscard]] bool bind() override;
     bool isBound() const override { return m_own.has_value(); }

@@ -43,6 +43,7 @@ public:
     /// Which of this machine's addresses the following SendData() leaves from. Nothing, as at first: the system chooses
     /// by the way.
     virtual void setSource(std::optional<Ipv4Address> address) = 0;
+    virtual std::optional<Ipv4Address> source() const = 0;
 
     /// Listens on the local port, shared with nobody. False when the port is taken or may not be used; calling it
     /// again tries again, and is free once bound.

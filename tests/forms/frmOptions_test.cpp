@@ -127,6 +127,26 @@ TEST_F(FrmOptions, ShowsTheOptionsAsTheyAre)
     EXPECT_FALSE(hasPicture());
 }
 
+TEST_F(FrmOptions, TheCardWhoseAddressIsTheOwnOneIsChosenFromThoseOfThisComputer)
+{
+    windows.ownAddresses.running = {{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1)},
+                                    {QStringLiteral("wlan0"), Ipv4Address(192, 168, 7, 1)}};
+    EXPECT_EQ(control<QComboBox>("ownAddressCombo").currentText(), QStringLiteral("automatic"));
+    control<QComboBox>("ownAddressCombo").setFocus();
+    QTest::keyClick(&control<QComboBox>("ownAddressCombo"), Qt::Key_End);
+    click("CmdOK");
+    EXPECT_EQ(windows.common.ownCard, QStringLiteral("wlan0"));
+    EXPECT_EQ(control<QComboBox>("ownAddressCombo").currentText(), QStringLiteral("wlan0 (192.168.7.1)"));
+    windows.ownAddresses.running.clear();
+    click("Command1");
+    EXPECT_EQ(control<QComboBox>("ownAddressCombo").currentText(), QStringLiteral("wlan0 (not connected)"));
+    control<QComboBox>("ownAddressCombo").setCurrentIndex(0);
+    click("CmdOK");
+    EXPECT_EQ(windows.common.ownCard, QString());
+    windows.ownAddresses.fixed = true;
+    EXPECT_FALSE(control<QComboBox>("ownAddressCombo").isEnabled());
+}
+
 TEST_F(FrmOptions, OkTakesWhatWasClicked)
 {
     for (const char *const name : {"localbuzz", "remotebuzz", "statusonprivate", "PrivateDestroyonClose",

@@ -496,10 +496,12 @@ public:
     bool isOwn(Ipv4Address address) const override { return own.contains(address); }
     bool isBroadcast(Ipv4Address address) const override { return broadcast.contains(address); }
 
+    bool isFixed() const override { return fixed; }
     bool hasWayTo(Ipv4Address address) const override { return !unreachable.contains(address); }
     std::vector<NetworkCard> cards() const override { return running; }
 
     std::set<Ipv4Address> own, broadcast, unreachable;
+    bool fixed = false;
     std::vector<NetworkCard> running;
 };
 

@@ -79,7 +79,8 @@ public:
     void setRemotePort(std::uint16_t port) override { remotePort = port; }
     void setRemoteHost(std::optional<Ipv4Address> address) override { m_remoteHost = address; }
     void setBroadcast(bool allowed) override { broadcast = allowed; }
-    void setSource(std::optional<Ipv4Address> address) override { source = address; }
+    void setSource(std::optional<Ipv4Address> address) override { m_usedSource = address; }
+    std::optional<Ipv4Address> source() const override { return m_usedSource; }
     bool bind() override
     {
         m_bound = !portTaken;
@@ -92,7 +93,7 @@ public:
         if (!m_bound || !m_remoteHost || (isBroadcast(*m_remoteHost) && !broadcast))
             return;
         sent.push_back({m_remoteHost->toText(), bytes});
-        sources.push_back(source);
+        sources.push_back(m_usedSource);
         if (m_network)
             m_network->send(addressText(m_ip), addressText(*m_remoteHost), bytes);
     }
@@ -113,7 +114,6 @@ public:
     static bool isBroadcast(Ipv4Address address) { return address.number() % 256 == 255; }
 
     bool broadcast = false; ///< datagrams to everybody leave the machine
-    std::optional<Ipv4Address> source;
     std::vector<std::optional<Ipv4Address>> sources; ///< of all that was ever sent
     bool portTaken = false;
     BindFailure failure = BindFailure::portTaken; ///< what a taken port looks like
@@ -127,6 +127,7 @@ private:
     SimulatedNetwork *m_network;
     std::optional<Ipv4Address> m_remoteHost;
     Ipv4Address m_source;
+    std::optional<Ipv4Address> m_usedSource; ///< of what is sent
     std::string m_arrived;
     bool m_bound = false;
 };

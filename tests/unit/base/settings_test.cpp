@@ -70,7 +70,7 @@ TEST(Settings, EveryKeyIsThereOnceInItsSection)
     EXPECT_THAT(options,
                 ElementsAre("ShowStatusOnPrivate", "BuzzLocal", "BuzzRemote", "PrivateBehaviour", "DontDestroyWindow",
                             "NotifyWin", "LiveType", "CloseButtonDoesMinimize", "TipOTDay", "TipOTDayNum"));
-    EXPECT_EQ(keys.size(), 27u);
+    EXPECT_EQ(keys.size(), 28u);
 }
 
 TEST(Settings, SavingKeepsItsOrder)
@@ -84,7 +84,7 @@ TEST(Settings, SavingKeepsItsOrder)
                             "Settings/MainLeft", "Settings/MainTop", "Settings/MainHeight", "Settings/AvatarHead",
                             "Settings/AvatarBody", "Settings/AutoReplyonBusyActive", "Settings/AutoReplyonAwayActive",
                             "Settings/AutoReplyonBusyText", "Settings/AutoReplyonawayText", "Settings/StandardFontSize",
-                            "Settings/StandardFontFace", "Settings/StandardFontStyle", "Settings/PersonalizedState1",
+                            "Settings/StandardFontFace", "Settings/StandardFontStyle", "Settings/OwnNetworkCard", "Settings/PersonalizedState1",
                             "Settings/PersonalizedState2", "Settings/PersonalizedState3", "Settings/PersonalizedState4",
                             "Settings/PersonalizedState5", "Settings/PersonalizedState6", "Settings/PersonalizedState7",
                             "Settings/PersonalizedState8"));

@@ -32,6 +32,47 @@ TEST(MainWindowLoad, WithNoSettingStoredThePortIs5549)
     EXPECT_EQ(Copy().socket.localPort, 5549);
 }
 
+TEST(MainWindowLoad, TheAddressOfTheChosenCardIsTheOwnOneAndWhatIsSentLeavesFromIt)
+{
+    Copy copy{{.contacts = {{QStringLiteral("10.0.0.2"), QStringLiteral("Ann")}},
+               .settings = {{"Settings/OwnNetworkCard", QStringLiteral("wlan0")}},
+               .loaded = false}};
+    copy.ownAddresses.running = {{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1)},
+                                 {QStringLiteral("wlan0"), Ipv4Address(192, 168, 7, 1)}};
+    copy.engine.mainWindow().Form_Load();
+    EXPECT_EQ(copy.common.ownIP, Ipv4Address(192, 168, 7, 1));
+    EXPECT_THAT(copy.sent(),
+                ElementsAre(To{"10.0.0.2", "?ONLINE 192.168.7.1 HERE Me"}, To{"10.0.0.2", "!STATUS Online"}));
+    EXPECT_THAT(copy.socket.sources, testing::Each(Ipv4Address(192, 168, 7, 1)));
+    copy.engine.search().ask({{Ipv4Address(10, 0, 0, 255), Ipv4Address(10, 0, 0, 1)}}, QStringLiteral("others"));
+    EXPECT_EQ(copy.socket.sources.back(), Ipv4Address(10, 0, 0, 1)) << "a question through another card";
+    EXPECT_EQ(copy.socket.source(), Ipv4Address(192, 168, 7, 1));
+}
+
+TEST(MainWindowLoad, AFixedAddressGoesBeforeTheChosenCard)
+{
+    Copy copy{{.settings = {{"Settings/OwnNetworkCard", QStringLiteral("wlan0")}}, .loaded = false}};
+    copy.ownAddresses.fixed = true;
+    copy.ownAddresses.running = {{QStringLiteral("wlan0"), Ipv4Address(192, 168, 7, 1)}};
+    copy.engine.mainWindow().Form_Load();
+    EXPECT_EQ(copy.common.ownIP, Ipv4Address(10, 0, 0, 1));
+    EXPECT_EQ(copy.socket.source(), std::nullopt);
+    EXPECT_THAT(copy.view.log.lines(), testing::SizeIs(1)) << "nothing is to be said of it";
+}
+
+TEST(MainWindowLoad, AChosenCardThatIsNotThereIsSaidAndKept)
+{
+    Copy copy{{.settings = {{"Settings/OwnNetworkCard", QStringLiteral("wlan0")}}, .loaded = false}};
+    copy.engine.mainWindow().Form_Load();
+    EXPECT_EQ(copy.common.ownIP, Ipv4Address(10, 0, 0, 1));
+    EXPECT_EQ(copy.socket.source(), std::nullopt);
+    EXPECT_THAT(copy.view.log.lines(),
+                testing::Contains("The network card wlan0, whose address the options name as yours, is not connected; "
+                                  "your address is 10.0.0.1 until the next start."));
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_EQ(copy.settings.value("Settings", "OwnNetworkCard"), "wlan0");
+}
+
 TEST(MainWindowLoad, TheCaptionEndsWithTheWholeNickname)
 {
     EXPECT_EQ(Copy({.nickname = QStringLiteral("Bob the Builder")}).view.shownCaption,

@@ -26,7 +26,7 @@ protected:
 
     Copy copy{{.contacts = {{QStringLiteral("10.0.0.2"), QStringLiteral("Ann")}}}};
     RecorderPictureSources sources;
-    OptionValues values{copy.common, copy.engine.ownAvatar(), sources, *copy.time,
+    OptionValues values{copy.common, copy.engine.ownAvatar(), sources, *copy.time, copy.ownAddresses,
                         [this] { copy.engine.recovery().settingsChanged(); }};
 };
 
@@ -85,6 +85,28 @@ TEST_F(OptionValuesTest, ThePortIsThatOfTheNextStart)
         EXPECT_EQ(copy.common.udpPort, port);
     }
     EXPECT_EQ(copy.socket.localPort, 5549);
+}
+
+TEST_F(OptionValuesTest, TheOwnCardIsThatOfTheNextStart)
+{
+    copy.ownAddresses.running = {{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1)},
+                                 {QStringLiteral("tun0"), Ipv4Address(10, 8, 0, 2)},
+                                 {QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 77)}};
+    const auto captions = [this] {
+        std::vector<std::string> list;
+        for (const OptionValues::Card &card : values.cards())
+            list.push_back(card.caption.toStdString());
+        return list;
+    };
+    EXPECT_THAT(captions(), ElementsAre("automatic", "eth0 (10.0.0.1)", "tun0 (10.8.0.2)"));
+    OptionControls controls = values.Form_Load();
+    EXPECT_EQ(controls.ownCard, QString());
+    controls.ownCard = QStringLiteral("tun0");
+    EXPECT_FALSE(values.CmdOK_Click(controls));
+    EXPECT_EQ(copy.common.ownCard, QStringLiteral("tun0"));
+    EXPECT_EQ(copy.common.ownIP, Ipv4Address(10, 0, 0, 1)) << "not in this run";
+    copy.ownAddresses.running.clear();
+    EXPECT_THAT(captions(), ElementsAre("automatic", "tun0 (not connected)"));
 }
 
 TEST_F(OptionValuesTest, APortThatIsNoneIsSaidAndNothingIsTaken)

@@ -214,6 +214,18 @@ TEST_F(SearchTest, EverybodyOnEveryNetworkIsAskedThroughItsCard)
     EXPECT_EQ(lastLine(), "--- 2 answered: Ann, Ben; 2 new ---");
 }
 
+TEST_F(SearchTest, NobodyIsAskedWhereNobodyElseWouldHearOrTheFixedAddressDoesNotReach)
+{
+    me.ownAddresses.running = {{QStringLiteral("tun0"), Ipv4Address(10, 8, 0, 2)},
+                               {QStringLiteral("wlan0"), Ipv4Address(172, 16, 3, 9), Ipv4Address(172, 16, 255, 255)},
+                               {QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1), Ipv4Address(10, 0, 0, 255)}};
+    search().findEverybody();
+    EXPECT_EQ(lastLine(), "--- asking everybody on 172.16.255.255 (wlan0), 10.0.0.255 (eth0) who is there ---");
+    me.ownAddresses.fixed = true;
+    search().findEverybody();
+    EXPECT_EQ(lastLine(), "--- asking everybody on 10.0.0.255 (eth0) who is there ---");
+}
+
 TEST_F(SearchTest, WhoIsBusyIsFoundBusy)
 {
     me.common.ownPresence.base = BaseState::busy;

@@ -290,6 +290,18 @@ TEST(UdpWinsock, LeavesFromTheAddressOfThisMachineThatIsAskedForUntilAnotherIs)
     EXPECT_EQ(peer.receive(), (RawPeer::Datagram{"as usual", "127.0.0.1", testPort()}));
 }
 
+TEST(UdpWinsock, LeavesAsTheSystemChoosesWhereTheAddressIsNotThisMachinesAnyMore)
+{
+    const RawPeer peer("127.0.1.2", otherTestPort());
+    Copy copy;
+    copy.socket.setRemotePort(otherTestPort());
+    ASSERT_TRUE(copy.socket.bind());
+    copy.socket.setSource(Ipv4Address(192, 0, 2, 77));
+    copy.sendTo(Ipv4Address(127, 0, 1, 2), "all the same");
+    EXPECT_EQ(peer.receive(), (RawPeer::Datagram{"all the same", "127.0.0.1", testPort()}));
+    EXPECT_EQ(copy.drops.of(Drop::notSent), 0U);
+}
+
 TEST(UdpWinsock, TakesAMalformedAddressForNone)
 {
     const RawPeer peer("127.0.1.2", otherTestPort());
