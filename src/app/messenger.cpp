@@ -42,8 +42,8 @@ Messenger::Messenger(Common &common, const Surroundings &around)
                     .sharedContacts = &m_sharedContacts,
                     .conferences = &m_conferenceCommands},
                    around.drops),
-      m_mainWindow({common, around.store, around.goodCopy, around.nextStart, around.socket, around.ownAddresses, m_contacts, m_ownState,
-                    m_sender, m_announcement, m_port, m_recovery, m_log, around.prompts,
+      m_mainWindow({common, around.store, around.goodCopy, around.nextStart, around.socket, around.ownAddresses,
+                    m_contacts, m_ownState, m_sender, m_announcement, m_port, m_recovery, m_log, around.prompts,
                     [this] { unloadOtherWindows(); }, around.tray, around.mainView})
 {
     m_dispatcher.listenTo(m_socket);

@@ -56,8 +56,8 @@ public:
     bool mayChooseCard() const { return !m_ownAddresses.isFixed(); }
     /// The still avatar, for the dialog to show; avatarBytes bytes, or none.
     const QByteArray &avatar() const { return m_common.avatarBody; }
-    /// Takes everything, or nothing: then the sentence says what the user is to correct. The port and the card are those
-    /// of the next start.
+    /// Takes everything, or nothing: then the sentence says what the user is to correct. The port and the card are
+    /// those of the next start.
     [[nodiscard]] std::optional<QString> CmdOK_Click(const OptionControls &controls);
 
 private:

@@ -40,8 +40,9 @@ void NetworkScan::Command1_Click(const QString &typed)
     if (const std::optional<Range> range = readRange(text))
         return ask(*range, text);
     if (!mayBeName(text))
-        return m_log.fault(tr("\"%1\" is neither a name nor the address of a computer or a network, so nobody was asked.")
-                               .arg(remoteName(text)));
+        return m_log.fault(
+            tr("\"%1\" is neither a name nor the address of a computer or a network, so nobody was asked.")
+                .arg(remoteName(text)));
     // The answer may come when the dialog and this object are gone.
     m_resolver.resolve(text, [&search = m_search, &log = m_log, text](std::optional<Ipv4Address> address) {
         if (address)

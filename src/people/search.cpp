@@ -34,8 +34,7 @@ void Search::ask(std::vector<SearchTarget> targets, const QString &where)
         return askOneself(targets.front().destination);
     const auto hasWay = [this](const SearchTarget &to) { return m_parts.ownAddresses.hasWayTo(to.destination); };
     if (std::ranges::none_of(targets, hasWay))
-        return m_parts.log.fault(
-            tr("No network of this computer leads to %1, so nobody was asked.").arg(where));
+        return m_parts.log.fault(tr("No network of this computer leads to %1, so nobody was asked.").arg(where));
     m_parts.log.note(tr("asking %1 who is there").arg(where));
     Run &run = *m_runs.emplace_back(std::make_unique<Run>());
     run.targets = std::move(targets);

@@ -129,8 +129,8 @@ TEST_F(FrmOptions, ShowsTheOptionsAsTheyAre)
 
 TEST_F(FrmOptions, TheCardWhoseAddressIsTheOwnOneIsChosenFromThoseOfThisComputer)
 {
-    windows.ownAddresses.running = {{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1)},
-                                    {QStringLiteral("wlan0"), Ipv4Address(192, 168, 7, 1)}};
+    windows.ownAddresses.running
+        = {{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1)}, {QStringLiteral("wlan0"), Ipv4Address(192, 168, 7, 1)}};
     EXPECT_EQ(control<QComboBox>("ownAddressCombo").currentText(), QStringLiteral("automatic"));
     control<QComboBox>("ownAddressCombo").setFocus();
     QTest::keyClick(&control<QComboBox>("ownAddressCombo"), Qt::Key_End);

@@ -113,7 +113,7 @@ public:
     /// Every simulated network has a mask of 24 bits.
     static bool isBroadcast(Ipv4Address address) { return address.number() % 256 == 255; }
 
-    bool broadcast = false; ///< datagrams to everybody leave the machine
+    bool broadcast = false;                          ///< datagrams to everybody leave the machine
     std::vector<std::optional<Ipv4Address>> sources; ///< of all that was ever sent
     bool portTaken = false;
     BindFailure failure = BindFailure::portTaken; ///< what a taken port looks like

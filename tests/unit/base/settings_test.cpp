@@ -84,10 +84,10 @@ TEST(Settings, SavingKeepsItsOrder)
                             "Settings/MainLeft", "Settings/MainTop", "Settings/MainHeight", "Settings/AvatarHead",
                             "Settings/AvatarBody", "Settings/AutoReplyonBusyActive", "Settings/AutoReplyonAwayActive",
                             "Settings/AutoReplyonBusyText", "Settings/AutoReplyonawayText", "Settings/StandardFontSize",
-                            "Settings/StandardFontFace", "Settings/StandardFontStyle", "Settings/OwnNetworkCard", "Settings/PersonalizedState1",
-                            "Settings/PersonalizedState2", "Settings/PersonalizedState3", "Settings/PersonalizedState4",
-                            "Settings/PersonalizedState5", "Settings/PersonalizedState6", "Settings/PersonalizedState7",
-                            "Settings/PersonalizedState8"));
+                            "Settings/StandardFontFace", "Settings/StandardFontStyle", "Settings/OwnNetworkCard",
+                            "Settings/PersonalizedState1", "Settings/PersonalizedState2", "Settings/PersonalizedState3",
+                            "Settings/PersonalizedState4", "Settings/PersonalizedState5", "Settings/PersonalizedState6",
+                            "Settings/PersonalizedState7", "Settings/PersonalizedState8"));
 }
 
 TEST(Settings, ATrueFlagIsStoredAsMinusOneAndReadAsActive)

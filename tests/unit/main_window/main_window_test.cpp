@@ -37,8 +37,8 @@ TEST(MainWindowLoad, TheAddressOfTheChosenCardIsTheOwnOneAndWhatIsSentLeavesFrom
     Copy copy{{.contacts = {{QStringLiteral("10.0.0.2"), QStringLiteral("Ann")}},
                .settings = {{"Settings/OwnNetworkCard", QStringLiteral("wlan0")}},
                .loaded = false}};
-    copy.ownAddresses.running = {{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1)},
-                                 {QStringLiteral("wlan0"), Ipv4Address(192, 168, 7, 1)}};
+    copy.ownAddresses.running
+        = {{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1)}, {QStringLiteral("wlan0"), Ipv4Address(192, 168, 7, 1)}};
     copy.engine.mainWindow().Form_Load();
     EXPECT_EQ(copy.common.ownIP, Ipv4Address(192, 168, 7, 1));
     EXPECT_THAT(copy.sent(),

@@ -26,8 +26,8 @@ protected:
 
     Copy copy{{.contacts = {{QStringLiteral("10.0.0.2"), QStringLiteral("Ann")}}}};
     RecorderPictureSources sources;
-    OptionValues values{copy.common, copy.engine.ownAvatar(), sources, *copy.time, copy.ownAddresses,
-                        [this] { copy.engine.recovery().settingsChanged(); }};
+    OptionValues values{copy.common, copy.engine.ownAvatar(), sources,
+                        *copy.time,  copy.ownAddresses,       [this] { copy.engine.recovery().settingsChanged(); }};
 };
 
 TEST_F(OptionValuesTest, AtFirstTheControlsShowTheDefaults)

@@ -151,10 +151,10 @@ TEST_P(NoName, AndNoAddressIsSaidAtOnceAndNobodyIsAsked)
 }
 
 INSTANTIATE_TEST_SUITE_P(NetworkScan, NoName,
-                         testing::Values("192.168.1", "192.168.1.1.1", "192.168.1.256", "192.168.1.",
-                                         "192.168.1.-1", "192.168.1.+1", "192.168.1.0001", "192.168. 1.1",
-                                         "0x7f.0.0.1", "::1", "fe80::1", "10.0.0.0/33", "10.0.0.0/-1", "10.0.0.0/x",
-                                         "10.0.0/24", "/24", "\xD9\xA1.2.3.4", "$(reboot)", "two words", "a,b", "a..b", ".", "42",
+                         testing::Values("192.168.1", "192.168.1.1.1", "192.168.1.256", "192.168.1.", "192.168.1.-1",
+                                         "192.168.1.+1", "192.168.1.0001", "192.168. 1.1", "0x7f.0.0.1", "::1",
+                                         "fe80::1", "10.0.0.0/33", "10.0.0.0/-1", "10.0.0.0/x", "10.0.0/24", "/24",
+                                         "\xD9\xA1.2.3.4", "$(reboot)", "two words", "a,b", "a..b", ".", "42",
                                          "0.0.0.0", "224.0.0.1", "240.0.0.1", "224.0.0.0/24"));
 
 class Name : public NetworkScanTest, public testing::WithParamInterface<const char *>
@@ -171,7 +171,9 @@ TEST_P(Name, IsLookedUp)
 
 INSTANTIATE_TEST_SUITE_P(NetworkScan, Name,
                          testing::Values("PC-ANN", "pc-ann.example.", "1.2.3.x", "3com", "my_printer",
-                                         "b\xC3\xBC" "cher.example", "\xD1\x84\xD0\xB0\xD0\xB9\xD0\xBB"));
+                                         "b\xC3\xBC"
+                                         "cher.example",
+                                         "\xD1\x84\xD0\xB0\xD0\xB9\xD0\xBB"));
 
 TEST_F(NetworkScanTest, ANameIsAskedWhenItsAddressIsFound)
 {
