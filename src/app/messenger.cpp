@@ -56,6 +56,7 @@ Messenger::~Messenger()
 
 void Messenger::unloadOtherWindows()
 {
+    m_search.end();
     m_conferences.unloadAll();
     m_privateWindows.unloadAll();
     m_windows.unloadNotify();

@@ -38,6 +38,7 @@ void Search::ask(std::vector<SearchTarget> targets, const QString &where)
     m_parts.log.note(tr("asking %1 who is there").arg(where));
     Run &run = *m_runs.emplace_back(std::make_unique<Run>());
     run.targets = std::move(targets);
+    run.byInvisible = m_parts.common.isInvisible();
     run.timer = m_parts.timers.repeating(tickTime, [this, &run] {
         ++run.tick;
         tick(run);
@@ -121,8 +122,20 @@ std::vector<SearchedNetwork> Search::networks() const
     return networks;
 }
 
+void Search::end()
+{
+    for (const auto &run : m_runs)
+        run->timer->stop();
+    showProgress();
+}
+
 void Search::tick(Run &run)
 {
+    if (m_parts.common.isInvisible() && !run.byInvisible) {
+        run.timer->stop();
+        m_parts.log.note(tr("nobody is asked any more: you are invisible"));
+        return showProgress();
+    }
     askBatch(run, run.tick, false);
     if (run.tick >= secondQuestion)
         askBatch(run, run.tick - secondQuestion, true);

@@ -59,6 +59,8 @@ public:
 
     /// Asks none of those any more who are still to be asked.
     void stop();
+    /// The same for good, without a word: the program ends.
+    void end();
 
     void seenOnline(Ipv4Address ip, bool isNew) override;
 
@@ -68,6 +70,7 @@ private:
         std::size_t tick = 0;             ///< tenths of a second since the first question
         std::vector<Ipv4Address> answers; ///< in the order in which they came, each one once
         int newOnes = 0;
+        bool byInvisible = false; ///< the user was so already when he asked for it
         std::unique_ptr<Timer> timer;
     };
 

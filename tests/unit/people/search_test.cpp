@@ -246,11 +246,34 @@ TEST_F(SearchTest, WhoIsInvisibleAsksNobodyByThatClick)
     EXPECT_THAT(me.sent(), IsEmpty());
 }
 
+TEST_F(SearchTest, WhoBecomesInvisibleMeanwhileAsksNobodyAnyMore)
+{
+    ask(everybody);
+    pass(500ms);
+    me.sent();
+    me.common.ownPresence.base = BaseState::invisible;
+    pass(4s);
+    EXPECT_THAT(me.sent(), IsEmpty());
+    EXPECT_EQ(lastLine(), "--- nobody is asked any more: you are invisible ---");
+}
+
+TEST_F(SearchTest, AProgramThatEndsAsksNobodyAnyMore)
+{
+    askNetwork();
+    me.engine.mainWindow().Form_Unload();
+    me.sent();
+    EXPECT_EQ(me.view.searchProgress, std::nullopt);
+    pass(4s);
+    EXPECT_THAT(me.sent(), IsEmpty());
+}
+
 TEST_F(SearchTest, AScanOfWhoIsInvisibleTellsNoState)
 {
     me.common.ownPresence.base = BaseState::invisible;
     ask(Ipv4Address(10, 0, 0, 2));
-    EXPECT_THAT(me.sent(), ElementsAre(To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Me"}));
+    pass(2s);
+    EXPECT_THAT(me.sent(),
+                ElementsAre(To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Me"}));
 }
 
 TEST_F(SearchTest, WithoutACardNobodyCanBeAsked)
