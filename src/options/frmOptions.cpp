@@ -140,7 +140,7 @@ QGroupBox *frmOptions::makeProgram()
     network->addWidget(ownAddressCombo, 1, 1);
     network->setColumnStretch(1, 1);
     column->addLayout(network);
-    column->addWidget(note(tr("A change of these two takes effect at the next start."), group));
+    column->addWidget(note(tr("A change takes effect at the next start."), group));
     return group;
 }
 

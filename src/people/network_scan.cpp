@@ -22,12 +22,6 @@ bool mayBeName(const QString &text)
     return name.match(text).hasMatch();
 }
 
-bool isAskable(Ipv4Address address)
-{
-    constexpr Ipv4Address everybody(255, 255, 255, 255);
-    return address.isUnicast() || address == everybody;
-}
-
 } // namespace
 
 void NetworkScan::Command1_Click(const QString &typed)
@@ -35,7 +29,7 @@ void NetworkScan::Command1_Click(const QString &typed)
     const QString text = typed.trimmed();
     if (text.isEmpty())
         return;
-    if (const auto address = readAddress(text, Ipv4Address::LeadingZeros::skipped); address && isAskable(*address))
+    if (const auto address = readAddress(text, Ipv4Address::LeadingZeros::skipped))
         return m_search.ask({{*address}}, addressText(*address));
     if (const std::optional<Range> range = readRange(text))
         return ask(*range, text);
@@ -60,7 +54,7 @@ std::optional<NetworkScan::Range> NetworkScan::readRange(QStringView text)
     const auto address = readAddress(text.left(slash), Ipv4Address::LeadingZeros::skipped);
     bool isNumber = false;
     const int prefix = text.mid(slash + 1).toInt(&isNumber);
-    if (!address || !address->isUnicast() || !isNumber || prefix < 0 || prefix > 32)
+    if (!address || !isNumber || prefix < 0 || prefix > 32)
         return std::nullopt;
     return Range{*address, prefix};
 }

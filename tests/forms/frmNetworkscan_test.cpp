@@ -31,6 +31,10 @@ protected:
     FrmNetworkscan()
     {
         parent.show();
+        open();
+    }
+    void open()
+    {
         dialog = new frmNetworkscan(scan, &parent);
         dialog->open();
         EXPECT_TRUE(QTest::qWaitFor([this] { return text().hasFocus(); }, 5000));
@@ -115,8 +119,7 @@ TEST_F(FrmNetworkscan, OffersTheBroadcastAddressesOfThisComputer)
     dialog->close();
     ownAddresses.running = {{QStringLiteral("eth0"), Ipv4Address(192, 168, 1, 5), Ipv4Address(192, 168, 1, 255)},
                             {QStringLiteral("wlan0"), Ipv4Address(10, 7, 0, 1), Ipv4Address(10, 7, 3, 255)}};
-    dialog = new frmNetworkscan(scan, &parent);
-    dialog->open();
+    open();
     auto &networks = *dialog->findChild<QComboBox *>(QStringLiteral("networksCombo"));
     EXPECT_TRUE(networks.isVisible());
     EXPECT_EQ(networks.currentIndex(), -1);
