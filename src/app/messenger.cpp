@@ -13,6 +13,8 @@ Messenger::Messenger(Common &common, const Surroundings &around)
       m_recovery({common, around.store, m_contacts, m_ownState, around.timers, m_log, around.mainView}),
       m_port(around.socket, common, around.timers, m_log, around.mainView,
              [this] { m_announcement.runUnlessInvisible(); }),
+      m_networks({common, around.socket, around.ownAddresses, around.networkWatch, m_port, m_announcement, m_log,
+                  around.mainView, around.timers, around.chance}),
       m_privateWindows({{common, around.socket, around.clock}, around.sound, around.timers, around.privateForms},
                        m_contacts, around.drops),
       m_search({common, m_sender, m_contacts, around.ownAddresses, m_log, around.mainView, around.timers}),
@@ -42,8 +44,8 @@ Messenger::Messenger(Common &common, const Surroundings &around)
                     .sharedContacts = &m_sharedContacts,
                     .conferences = &m_conferenceCommands},
                    around.drops),
-      m_mainWindow({common, around.store, around.goodCopy, around.nextStart, around.socket, around.ownAddresses,
-                    m_contacts, m_ownState, m_sender, m_announcement, m_port, m_recovery, m_log, around.prompts,
+      m_mainWindow({common, around.store, around.goodCopy, around.nextStart, around.socket, m_networks, m_contacts,
+                    m_ownState, m_sender, m_announcement, m_port, m_recovery, m_log, around.prompts,
                     [this] { unloadOtherWindows(); }, around.tray, around.mainView})
 {
     m_dispatcher.listenTo(m_socket);

@@ -26,7 +26,9 @@ struct Surroundings {
     NextStart &nextStart;
     Timers &timers;
     const WallClock &clock;
-    const OwnAddresses &ownAddresses;
+    OwnAddresses &ownAddresses;
+    NetworkWatch &networkWatch;
+    Chance &chance;
     Prompts &prompts;
     Notifications &notifications;
     Sound &sound;
@@ -79,6 +81,7 @@ private:
     OwnState m_ownState;
     Recovery m_recovery;
     PortWatch m_port;
+    OwnNetworks m_networks;
     PrivateWindows m_privateWindows;
     Search m_search;
     PresenceReceiver m_presence;

@@ -161,9 +161,9 @@ void Program::loadMain()
     Notifications &notifications
         = m_desktopNotifications ? static_cast<Notifications &>(*m_desktopNotifications) : m_forms.notifications();
     m_engine.emplace(m_common,
-                     Surroundings{m_socket, m_store, m_store, m_nextStart, m_timers, m_clock, m_ownAddresses, m_prompts,
-                                  notifications, m_sound, *m_tray, m_forms, m_forms.conversations(),
-                                  m_forms.conversations(), window, m_drops});
+                     Surroundings{m_socket, m_store, m_store, m_nextStart, m_timers, m_clock, m_ownAddresses,
+                                  m_networkWatch, m_chance, m_prompts, notifications, m_sound, *m_tray, m_forms,
+                                  m_forms.conversations(), m_forms.conversations(), window, m_drops});
     m_forms.connectMain(
         *m_engine, [this] { return statusNotes(); }, [] { QCoreApplication::exit(0); });
     window.Form_Load();

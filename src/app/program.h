@@ -9,12 +9,14 @@
 #include "platform/link_opener.h"
 #include "platform/name_resolver.h"
 #include "platform/net_send_runner.h"
+#include "platform/network_watch.h"
 #include "platform/own_identity.h"
 #include "platform/picture_sources.h"
 #include "platform/process_exit.h"
 #include "platform/qt_timers.h"
 #include "platform/single_instance.h"
 #include "platform/sound_player.h"
+#include "platform/system_chance.h"
 #include "platform/system_info.h"
 #include "platform/udp_winsock.h"
 #include "platform/unix_signals.h"
@@ -84,6 +86,8 @@ private:
     SystemClock m_clock;
     UdpWinsock m_socket;
     MachineAddresses m_ownAddresses;
+    SystemNetworkWatch m_networkWatch{m_timers};
+    SystemChance m_chance;
     MessageBoxes m_prompts;
     PlainToolTips m_toolTips;
     SoundPlayer m_sound;

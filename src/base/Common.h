@@ -43,7 +43,7 @@ struct Common {
     Common(const Common &) = delete;
     Common &operator=(const Common &) = delete;
 
-    Ipv4Address ownIP; ///< found once, at the start
+    Ipv4Address ownIP; ///< found at the start, and anew whenever the networks of this machine change
     QString ownHostName;
     QString ownNickname;
 

@@ -92,6 +92,11 @@ constexpr int listsAtOnce = 50;
 constexpr std::chrono::milliseconds autoReplyPause{1000};
 /// Time between two attempts to get a port that another program holds.
 constexpr std::chrono::milliseconds bindRetry{5000};
+/// Within this time after a change of this machine's networks its contacts are asked. Each machine chooses for itself:
+/// a hall of them that wake together would answer each other all at once.
+constexpr std::chrono::milliseconds announcementSpread{3000};
+/// How long the status bar says that the networks have changed.
+constexpr std::chrono::milliseconds networkChangeShown{10000};
 /// How long a change of contacts or settings may wait for others before it is kept: a run that is killed loses no more.
 constexpr std::chrono::milliseconds keepDelay{1000};
 /// Time between two attempts to keep what could not be kept.

@@ -72,6 +72,14 @@ public:
     virtual void setSearchProgress(const std::optional<SearchProgress> &progress) = 0;
 };
 
+class NetworkView
+{
+public:
+    virtual ~NetworkView() = default;
+    /// One sentence about the networks of this machine; empty when there is nothing to say.
+    virtual void setNetworkPanel(const QString &text) = 0;
+};
+
 /// The entries of the contact menu that invite to a conference.
 class ConferenceMenuView
 {
@@ -86,6 +94,7 @@ class MainWindowView : public MainLogView,
                        public OwnStateView,
                        public ActivityView,
                        public SearchView,
+                       public NetworkView,
                        public ConferenceMenuView
 {
 public:

@@ -18,6 +18,7 @@ struct NetworkCard {
     /// Of everybody there. Nothing where nobody else would hear it: a line to a single machine, or a network of
     /// containers and virtual machines.
     std::optional<Ipv4Address> broadcast{};
+    bool isInsideMachine{}; ///< it joins nobody but containers and virtual machines of this one
     bool operator==(const NetworkCard &) const = default;
 };
 
@@ -37,6 +38,8 @@ public:
     [[nodiscard]] virtual bool hasWayTo(Ipv4Address address) const = 0;
     /// Those that run, without loopback. One with several addresses is there with each of them.
     [[nodiscard]] virtual std::vector<NetworkCard> cards() const = 0;
+    /// The networks have changed: what is remembered of them is out of date.
+    virtual void readAnew() = 0;
 };
 
 /// The address of the card with that name; nothing where it does not run.

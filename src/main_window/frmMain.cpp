@@ -91,9 +91,10 @@ void frmMain::fitFonts()
     };
     QFont font = this->font();
     for (;;) {
-        for (QWidget *const control : std::initializer_list<QWidget *>{
-                 ImageCombo1, TabStrip1, RescanBtn, buzzmute, ListDetails, ItemDetailstxt, AutoReplyOn, Autoreplybtn,
-                 clearbtn, menuBar(), statusBar(), m_status, m_activity, searchProgress, stopSearchBtn, m_trouble})
+        for (QWidget *const control :
+             std::initializer_list<QWidget *>{ImageCombo1, TabStrip1, RescanBtn, buzzmute, ListDetails, ItemDetailstxt,
+                                              AutoReplyOn, Autoreplybtn, clearbtn, menuBar(), statusBar(), m_status,
+                                              m_activity, searchProgress, stopSearchBtn, m_network, m_trouble})
             control->setFont(font);
         if (fits() || font.pointSizeF() <= smallestFont)
             return;
@@ -172,12 +173,15 @@ void frmMain::buildStatusBar()
     m_activity = panel(bar, "StatusBar_activity");
     m_trouble = panel(bar, "StatusBar_trouble");
     m_trouble->hide();
+    m_network = panel(bar, "StatusBar_network");
+    m_network->hide();
     bar->addWidget(m_status);
     bar->addWidget(m_activity, 1);
     addSearchProgress(*bar);
+    bar->addPermanentWidget(m_network);
     bar->addPermanentWidget(m_trouble);
     bar->setAttribute(Qt::WA_Hover);
-    for (QLabel *const label : {m_status, m_activity, m_trouble})
+    for (QLabel *const label : {m_status, m_activity, m_network, m_trouble})
         label->setMouseTracking(true);
     bar->installEventFilter(this);
 }
@@ -649,6 +653,12 @@ void frmMain::setTroublePanel(const QString &text)
 {
     m_trouble->setText(text);
     m_trouble->setVisible(!text.isEmpty());
+}
+
+void frmMain::setNetworkPanel(const QString &text)
+{
+    m_network->setText(text);
+    m_network->setVisible(!text.isEmpty());
 }
 
 } // namespace nimb

@@ -92,6 +92,7 @@ public:
     void setActivityPanel(const QString &text) override;
     void setSearchProgress(const std::optional<SearchProgress> &progress) override;
     void setTroublePanel(const QString &text) override;
+    void setNetworkPanel(const QString &text) override;
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -160,6 +161,7 @@ private:
     QProgressBar *searchProgress = nullptr;
     QToolButton *stopSearchBtn = nullptr;
     QLabel *m_trouble = nullptr;
+    QLabel *m_network = nullptr;
 };
 
 } // namespace nimb

@@ -44,25 +44,9 @@ LoadedSettings MainWindow::loadSettings()
             tr("The stored personalized state \"%1\" begins with no picture digit and is left out, and gone "
                "for good once NIMB-Chat ends.")
                 .arg(remoteLine(value)));
-    if (const std::optional<QString> sentence = takeOwnCard())
-        loaded.notices.append(*sentence);
+    loaded.notices.append(m_parts.networks.begin());
     m_parts.port.open();
     return loaded;
-}
-
-std::optional<QString> MainWindow::takeOwnCard()
-{
-    Common &common = m_parts.common;
-    if (common.ownCard.isEmpty() || m_parts.ownAddresses.isFixed())
-        return std::nullopt;
-    const std::optional<Ipv4Address> address = addressOfCard(m_parts.ownAddresses, common.ownCard);
-    if (!address)
-        return tr("The network card %1, whose address the options name as yours, is not connected; your address is "
-                  "%2 until the next start.")
-            .arg(remoteName(common.ownCard), addressText(common.ownIP));
-    common.ownIP = *address;
-    m_parts.socket.setSource(*address);
-    return std::nullopt;
 }
 
 CloseDecision MainWindow::Form_QueryUnload(UnloadMode mode)
@@ -100,6 +84,7 @@ void MainWindow::answerNobody()
     m_ended = true;
     m_parts.socket.DataArrival = nullptr;
     m_parts.recovery.end();
+    m_parts.networks.end();
 }
 
 void MainWindow::sayFarewellAndSaveContacts()

@@ -5,7 +5,6 @@
 #include "base/good_copy.h"
 #include "base/main_log.h"
 #include "base/next_start.h"
-#include "base/own_addresses.h"
 #include "base/prompts.h"
 #include "base/settings.h"
 #include "base/settings_store.h"
@@ -14,6 +13,7 @@
 #include "contacts/announcement.h"
 #include "contacts/contact_list.h"
 #include "contacts/own_state.h"
+#include "main_window/own_networks.h"
 #include "main_window/port_watch.h"
 #include "main_window/recovery.h"
 
@@ -39,7 +39,7 @@ public:
         GoodCopy &goodCopy;
         NextStart &nextStart;
         Winsock &socket;
-        const OwnAddresses &ownAddresses;
+        OwnNetworks &networks;
         ContactList &contacts;
         OwnState &ownState;
         PresenceSender &sender;
@@ -67,8 +67,6 @@ public:
 
 private:
     LoadedSettings loadSettings();
-    /// Takes the address of the card that the user has chosen; the sentence says that it is not there.
-    std::optional<QString> takeOwnCard();
     void answerNobody();
     void sayFarewellAndSaveContacts();
     void save();

@@ -51,12 +51,36 @@ QString PortWatch::fault() const
 
 void PortWatch::tryAgain()
 {
+    if (listensAgain())
+        m_gained();
+}
+
+bool PortWatch::listensAgain()
+{
+    const bool wasTaken = m_socket.bindFailure() == BindFailure::portTaken;
     if (!m_socket.bind())
-        return;
+        return false;
     m_retry->stop();
     m_view.setTroublePanel({});
-    m_log.remark(tr("Port %1 is free now: you can be reached.").arg(m_port));
-    m_gained();
+    m_log.remark(
+        (wasTaken ? tr("Port %1 is free now: you can be reached.") : tr("You can be reached on port %1 again."))
+            .arg(m_port));
+    return true;
+}
+
+bool PortWatch::networksChanged()
+{
+    const bool listened = m_socket.isBound();
+    m_socket.networksChanged();
+    if (m_socket.isBound())
+        return false;
+    if (!listened)
+        return listensAgain();
+    if (m_socket.bind())
+        return true;
+    m_retry->start();
+    report();
+    return false;
 }
 
 } // namespace nimb

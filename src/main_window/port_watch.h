@@ -26,11 +26,15 @@ public:
     void open();
     /// Says what open() met, once the log is ready for it.
     void report();
+    /// The networks of this machine have changed: listens anew where that has ended with them, or becomes possible with
+    /// them. True when listening begins, which is not told as gained.
+    bool networksChanged();
 
 private:
     /// The sentence for the log; the place marker stands for the port.
     QString fault() const;
     void tryAgain();
+    bool listensAgain();
 
     Winsock &m_socket;
     const Common &m_common;

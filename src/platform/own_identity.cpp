@@ -123,7 +123,8 @@ void MachineAddresses::read() const
             if (everybody)
                 m_broadcast.push_back(*everybody);
             if (isUsable(address) && runs(interface))
-                m_cards.push_back({interface.name(), address, reachesOthers(interface) ? everybody : std::nullopt});
+                m_cards.push_back({interface.name(), address, reachesOthers(interface) ? everybody : std::nullopt,
+                                   isInsideMachine(interface.name())});
         }
     }
 }

@@ -24,7 +24,7 @@ std::optional<Ipv4Address> broadcastAddress(Ipv4Address address, int prefix);
 bool isInsideMachine(const QString &interface);
 
 /// The addresses of this machine's interfaces. Whoever asks may do so for every datagram of a flood, so they are read
-/// at most once in two seconds, which nobody notices of a network that comes or goes.
+/// at most once in two seconds, unless somebody knows that they have changed.
 class MachineAddresses : public OwnAddresses
 {
 public:
@@ -36,6 +36,7 @@ public:
     bool isFixed() const override { return m_fixed.has_value(); }
     bool hasWayTo(Ipv4Address address) const override;
     std::vector<NetworkCard> cards() const override;
+    void readAnew() override { m_sinceRead.invalidate(); }
 
 private:
     void read() const;

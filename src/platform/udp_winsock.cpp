@@ -94,6 +94,33 @@ bool UdpWinsock::startReading()
     return true;
 }
 
+void UdpWinsock::networksChanged()
+{
+    if (m_own && !hasAddressStill())
+        close();
+}
+
+/// A socket for every interface outlives them all. The one for an address that is gone says nothing of it; only another
+/// one cannot be bound to it any more.
+bool UdpWinsock::hasAddressStill() const
+{
+    if (!m_fixedAddress)
+        return true;
+    const auto another = DatagramSocket::open({*m_fixedAddress, 0}, DatagramSocket::Sharing::exclusive);
+    return std::holds_alternative<DatagramSocket>(another);
+}
+
+void UdpWinsock::close()
+{
+    // Whoever is told of a datagram may have run an event loop, and this in it: the notifier is in use then.
+    m_notifier->setEnabled(false);
+    m_notifier.release()->deleteLater();
+    m_reader.reset();
+    m_broadcasts.reset();
+    m_own.reset();
+    m_receiveBufferBytes = 0;
+}
+
 void UdpWinsock::setBroadcast(bool allowed)
 {
     if (m_own)
@@ -135,7 +162,10 @@ void UdpWinsock::handOver()
 {
     // A handler that runs an event loop of its own must see its datagram through before the next one is handed over.
     m_notifier->setEnabled(false);
-    const auto listenAgain = qScopeGuard([this] { m_notifier->setEnabled(true); });
+    const auto listenAgain = qScopeGuard([this] {
+        if (m_notifier)
+            m_notifier->setEnabled(true);
+    });
     DatagramReader::Batch batch = m_reader->take(batchSize);
     count(batch);
     for (Arrival &arrival : batch.arrivals) {

@@ -40,6 +40,7 @@ public:
     std::optional<Ipv4Address> source() const override { return m_source; }
 
     [[nodiscard]] bool bind() override;
+    void networksChanged() override;
     bool isBound() const override { return m_own.has_value(); }
     BindFailure bindFailure() const override { return m_bindFailure; }
 
@@ -58,6 +59,8 @@ private:
     static BindFailure bindFailureOf(int error);
     /// False when the system has no thread or descriptor left.
     bool startReading();
+    bool hasAddressStill() const;
+    void close();
     void handOver();
     void count(const DatagramReader::Batch &batch);
     void deliver(Arrival arrival);

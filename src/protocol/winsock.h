@@ -49,6 +49,9 @@ public:
     /// again tries again, and is free once bound.
     [[nodiscard]] virtual bool bind() = 0;
     virtual bool isBound() const = 0;
+    /// The networks of this machine have changed. Listens no more where the address to listen on has gone; bind()
+    /// listens anew.
+    virtual void networksChanged() = 0;
     /// Why the last bind() failed.
     virtual BindFailure bindFailure() const = 0;
 

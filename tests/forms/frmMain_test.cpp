@@ -337,6 +337,21 @@ TEST(EmptyContactList, SaysWhatToDoAndAsksEverybodyOnAClick)
     EXPECT_TRUE(button.isVisible()) << "the list is empty again";
 }
 
+TEST_F(FrmMain, AChangeOfTheNetworksIsShownInTheStatusBar)
+{
+    auto &panel = windows.control<QLabel>("StatusBar_network");
+    EXPECT_FALSE(panel.isVisible());
+    windows.ownAddresses.running.clear();
+    windows.networkWatch.tell();
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_EQ(panel.text(), QStringLiteral("No network"));
+    windows.ownAddresses.running = {{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1), Ipv4Address(10, 0, 0, 255)}};
+    windows.networkWatch.tell();
+    EXPECT_EQ(panel.text(), QStringLiteral("There is a network again: your address is 10.0.0.1"));
+    windows.time.advance(std::chrono::seconds(10));
+    EXPECT_FALSE(panel.isVisible());
+}
+
 TEST_F(FrmMain, ALongSearchIsShownInTheStatusBarAndCanBeStopped)
 {
     auto &bar = windows.control<QProgressBar>("searchProgress");

@@ -31,6 +31,7 @@ protected:
     FrmNetworkscan()
     {
         parent.show();
+        ownAddresses.running.clear();
         open();
     }
     void open()

@@ -2,8 +2,11 @@
 
 #include "child_process.h"
 
+#include <QCoreApplication>
 #include <QProcess>
 #include <QStandardPaths>
+
+#include <utility>
 
 #ifdef Q_OS_LINUX
 #include <fcntl.h>
@@ -16,21 +19,34 @@ namespace nimb::test
 namespace
 {
 
-/// It stands where ordinary users do not look.
-QString programIp()
+/// Those that an administrator uses stand where ordinary users do not look.
+QString placeOf(const QString &program)
 {
-    const QString found = QStandardPaths::findExecutable(QStringLiteral("ip"));
-    return found.isEmpty() ? QStandardPaths::findExecutable(QStringLiteral("ip"), {"/usr/sbin", "/sbin"}) : found;
+    const QString found = QStandardPaths::findExecutable(program);
+    return found.isEmpty() ? QStandardPaths::findExecutable(program, {"/usr/sbin", "/sbin"}) : found;
 }
+
+#ifdef Q_OS_LINUX
+int networkOfThisThread()
+{
+    return ::open("/proc/thread-self/ns/net", O_RDONLY | O_CLOEXEC);
+}
+
+void enter(int network)
+{
+    if (::setns(network, CLONE_NEWNET) != 0)
+        qFatal("a network cannot be entered");
+}
+#endif
 
 } // namespace
 
-std::optional<QString> runIp(const QStringList &words)
+std::optional<QString> runTool(const QString &program, const QStringList &words)
 {
     QProcess process;
     endWithParent(process);
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(programIp(), words);
+    process.start(placeOf(program), words);
     if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
         return std::nullopt;
     return QString::fromLocal8Bit(process.readAllStandardOutput());
@@ -39,25 +55,51 @@ std::optional<QString> runIp(const QStringList &words)
 OwnNetwork::OwnNetwork()
 {
 #ifdef Q_OS_LINUX
-    if (programIp().isEmpty())
+    if (placeOf(QStringLiteral("ip")).isEmpty())
         return;
-    const int outside = ::open("/proc/thread-self/ns/net", O_RDONLY | O_CLOEXEC);
-    if (outside != -1 && ::unshare(CLONE_NEWNET) == 0)
-        m_outside = outside;
-    else if (outside != -1)
+    const int outside = networkOfThisThread();
+    if (outside != none && ::unshare(CLONE_NEWNET) == 0) {
+        m_descriptor = networkOfThisThread();
+        enter(outside);
+    }
+    if (outside != none)
         ::close(outside);
 #endif
 }
 
+OwnNetwork::OwnNetwork(OwnNetwork &&other) noexcept : m_descriptor(std::exchange(other.m_descriptor, none)) { }
+
 OwnNetwork::~OwnNetwork()
 {
 #ifdef Q_OS_LINUX
-    if (!m_outside)
-        return;
-    if (::setns(*m_outside, CLONE_NEWNET) != 0)
-        qFatal("there is no way back to the network outside");
-    ::close(*m_outside);
+    if (m_descriptor != none)
+        ::close(m_descriptor);
 #endif
 }
+
+QString OwnNetwork::name() const
+{
+    return QStringLiteral("/proc/%1/fd/%2").arg(QCoreApplication::applicationPid()).arg(m_descriptor);
+}
+
+#ifdef Q_OS_LINUX
+
+OwnNetwork::Visit::Visit(const OwnNetwork &network) : m_outside(networkOfThisThread())
+{
+    enter(network.m_descriptor);
+}
+
+OwnNetwork::Visit::~Visit()
+{
+    enter(m_outside);
+    ::close(m_outside);
+}
+
+#else
+
+OwnNetwork::Visit::Visit(const OwnNetwork &) : m_outside(none) { }
+OwnNetwork::Visit::~Visit() = default;
+
+#endif
 
 } // namespace nimb::test

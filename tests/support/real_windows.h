@@ -131,8 +131,9 @@ private:
 
 public:
     Messenger engine{common,
-                     {socket, settings, goodCopy, nextStart, time, time, ownAddresses, prompts, forms.notifications(),
-                      sound, tray, forms, forms.conversations(), forms.conversations(), m_main, drops}};
+                     {socket, settings, goodCopy, nextStart, time, time, ownAddresses, networkWatch, chance, prompts,
+                      forms.notifications(), sound, tray, forms, forms.conversations(), forms.conversations(), m_main,
+                      drops}};
 };
 
 } // namespace nimb::test

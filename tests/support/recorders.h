@@ -1,9 +1,11 @@
 // What an engine shows and asks, written down for a test to read.
 #pragma once
 
+#include "base/chance.h"
 #include "base/good_copy.h"
 #include "base/link_opener.h"
 #include "base/main_window_view.h"
+#include "base/network_watch.h"
 #include "base/next_start.h"
 #include "base/notifications.h"
 #include "base/own_addresses.h"
@@ -109,6 +111,7 @@ public:
     WindowPlace place() const override { return shownPlace; }
     void setTroublePanel(const QString &text) override { trouble = text; }
     void setInvite2ConfVisible(int slot, bool visible) override { invitable[slot] = visible; }
+    void setNetworkPanel(const QString &text) override { networkPanel = text; }
     void setActivityPanel(const QString &text) override { activityPanel = text; }
     void setSearchProgress(const std::optional<SearchProgress> &progress) override { searchProgress = progress; }
 
@@ -125,6 +128,7 @@ public:
     QString shownCaption;
     WindowPlace shownPlace;
     QString trouble;
+    QString networkPanel;
     QString activityPanel;
     std::map<int, bool> invitable; ///< by slot
 };
@@ -499,10 +503,35 @@ public:
     bool isFixed() const override { return fixed; }
     bool hasWayTo(Ipv4Address address) const override { return !unreachable.contains(address); }
     std::vector<NetworkCard> cards() const override { return running; }
+    void readAnew() override { ++readings; }
 
     std::set<Ipv4Address> own, broadcast, unreachable;
     bool fixed = false;
-    std::vector<NetworkCard> running;
+    std::vector<NetworkCard> running{{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1), Ipv4Address(10, 0, 0, 255)}};
+    int readings = 0; ///< since the networks changed
+};
+
+/// The networks change when a test says so.
+class ToldNetworkChanges : public NetworkWatch
+{
+public:
+    void listen(std::function<void()> changed) override { tell = std::move(changed); }
+
+    std::function<void()> tell; ///< empty while nobody listens
+};
+
+/// The longest span, unless a test decides otherwise.
+class ToldChance : public Chance
+{
+public:
+    std::chrono::milliseconds upTo(std::chrono::milliseconds most) override
+    {
+        asked.push_back(most);
+        return std::min(most, span);
+    }
+
+    std::chrono::milliseconds span = std::chrono::milliseconds::max();
+    std::vector<std::chrono::milliseconds> asked;
 };
 
 /// What is to be told at the next start.
@@ -551,6 +580,8 @@ struct Recorders {
     RecorderNextStart nextStart;
     RecorderPrompts prompts;
     ToldAddresses ownAddresses;
+    ToldNetworkChanges networkWatch;
+    ToldChance chance;
     RecorderSound sound;
     Steps steps;
     RecorderTray tray{steps};

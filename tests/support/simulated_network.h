@@ -83,9 +83,10 @@ public:
     std::optional<Ipv4Address> source() const override { return m_usedSource; }
     bool bind() override
     {
-        m_bound = !portTaken;
+        m_bound = !portTaken && !addressGone;
         return m_bound;
     }
+    void networksChanged() override { m_bound = m_bound && !addressGone; }
     bool isBound() const override { return m_bound; }
     BindFailure bindFailure() const override { return m_bound ? BindFailure::none : failure; }
     void SendData(const std::string &bytes) override
@@ -99,7 +100,7 @@ public:
     }
     std::string GetData(std::size_t byteCount) override { return m_arrived.substr(0, byteCount); }
     Ipv4Address RemoteHostIP() const override { return m_source; }
-    Ipv4Address LocalIP() const override { return m_ip; }
+    Ipv4Address LocalIP() const override { return ownAddress.value_or(m_ip); }
     QString LocalHostName() const override { return m_host; }
 
     void arrive(const QString &from, const std::string &bytes)
@@ -115,6 +116,8 @@ public:
 
     bool broadcast = false;                          ///< datagrams to everybody leave the machine
     std::vector<std::optional<Ipv4Address>> sources; ///< of all that was ever sent
+    std::optional<Ipv4Address> ownAddress; ///< that the system would choose now; at first the one of its making
+    bool addressGone = false;              ///< the one to listen on
     bool portTaken = false;
     BindFailure failure = BindFailure::portTaken; ///< what a taken port looks like
     std::uint16_t localPort = 0;
@@ -122,6 +125,8 @@ public:
     std::vector<To> sent;
 
 private:
+    friend class SimulatedNetwork;
+
     Ipv4Address m_ip;
     QString m_host;
     SimulatedNetwork *m_network;
@@ -134,12 +139,12 @@ private:
 
 inline void SimulatedNetwork::attach(SimulatedWinsock &socket)
 {
-    m_sockets[addressText(socket.LocalIP())] = &socket;
+    m_sockets[addressText(socket.m_ip)] = &socket;
 }
 
 inline void SimulatedNetwork::detach(const SimulatedWinsock &socket)
 {
-    m_sockets.erase(addressText(socket.LocalIP()));
+    m_sockets.erase(addressText(socket.m_ip));
 }
 
 inline SimulatedWinsock *SimulatedNetwork::listener(const QString &ip) const

@@ -48,8 +48,9 @@ public:
     RecorderWindows windows{steps};
     Socket socket;
     Messenger engine{common,
-                     {socket, settings, goodCopy, nextStart, *time, *time, ownAddresses, prompts, Views::notifications,
-                      sound, tray, windows, Views::privateForms, Views::conferenceForms, Views::view, drops}};
+                     {socket, settings, goodCopy, nextStart, *time, *time, ownAddresses, networkWatch, chance, prompts,
+                      Views::notifications, sound, tray, windows, Views::privateForms, Views::conferenceForms,
+                      Views::view, drops}};
 };
 
 } // namespace nimb::test

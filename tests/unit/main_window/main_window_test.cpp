@@ -68,7 +68,7 @@ TEST(MainWindowLoad, AChosenCardThatIsNotThereIsSaidAndKept)
     EXPECT_EQ(copy.socket.source(), std::nullopt);
     EXPECT_THAT(copy.view.log.lines(),
                 testing::Contains("The network card wlan0, whose address the options name as yours, is not connected; "
-                                  "your address is 10.0.0.1 until the next start."));
+                                  "your address is 10.0.0.1 until it is."));
     copy.engine.mainWindow().Form_Unload();
     EXPECT_EQ(copy.settings.value("Settings", "OwnNetworkCard"), "wlan0");
 }

@@ -278,6 +278,7 @@ TEST_F(SearchTest, AScanOfWhoIsInvisibleTellsNoState)
 
 TEST_F(SearchTest, WithoutACardNobodyCanBeAsked)
 {
+    me.ownAddresses.running.clear();
     search().findEverybody();
     EXPECT_EQ(lastLine(), "--- nobody can be asked: no network is connected ---");
     EXPECT_THAT(me.sent(), IsEmpty());

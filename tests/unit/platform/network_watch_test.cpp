@@ -26,6 +26,7 @@ protected:
     {
         if (!network.isThere())
             GTEST_SKIP() << "the system allows no network of our own here";
+        visit.emplace(network);
         watch.emplace(time);
         watch->listen([this] { ++told; });
     }
@@ -43,6 +44,7 @@ protected:
     }
 
     OwnNetwork network;
+    std::optional<OwnNetwork::Visit> visit;
     VirtualTime time;
     std::optional<SystemNetworkWatch> watch;
     int told = 0;

@@ -1,12 +1,13 @@
 #include "platform/own_identity.h"
 
-#include "protocol/address_text.h"
-
+#include "own_network.h"
 #include "print_qt.h"
+#include "protocol/address_text.h"
 
 #include <QHostInfo>
 #include <QNetworkInterface>
 #include <QSysInfo>
+#include <QTest>
 
 #include <gmock/gmock.h>
 
@@ -104,6 +105,62 @@ TEST(OwnIdentity, NetworksOfContainersAndVirtualMachinesAreKnownByTheirNames)
         EXPECT_TRUE(isInsideMachine(QLatin1String(name))) << name;
     for (const char *const name : {"eth0", "enp3s0", "wlan0", "br0", "br-lan", "bond0", "veth1", "usb0"})
         EXPECT_FALSE(isInsideMachine(QLatin1String(name))) << name;
+}
+
+/// On a machine of the test's own, whose cards are bridges without anything behind them.
+class OwnIdentityOfAMachine : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        if (!network.isThere())
+            GTEST_SKIP() << "the system allows no network of our own here";
+        visit.emplace(network);
+        ASSERT_TRUE(runIp({"link", "set", "lo", "up"}));
+    }
+    static void addCard(const QString &name, const QString &address)
+    {
+        ASSERT_TRUE(runIp({"link", "add", name, "type", "bridge"}));
+        ASSERT_TRUE(runIp({"address", "add", address, "dev", name}));
+        ASSERT_TRUE(runIp({"link", "set", name, "up"}));
+    }
+
+    OwnNetwork network;
+    std::optional<OwnNetwork::Visit> visit;
+};
+
+TEST_F(OwnIdentityOfAMachine, WithoutANetworkItIsThatOfTheMachineItself)
+{
+    EXPECT_EQ(ownAddress(std::nullopt), Ipv4Address(127, 0, 0, 1));
+    EXPECT_TRUE(MachineAddresses(std::nullopt).cards().empty());
+}
+
+TEST_F(OwnIdentityOfAMachine, WhoKnowsThatTheNetworksHaveChangedSeesThemAnewAtOnce)
+{
+    MachineAddresses machine(std::nullopt);
+    ASSERT_TRUE(machine.cards().empty());
+    addCard("eth0", "10.1.0.1/24");
+    EXPECT_TRUE(machine.cards().empty()) << "they were read a moment ago";
+    EXPECT_FALSE(machine.isOwn(Ipv4Address(10, 1, 0, 1)));
+    machine.readAnew();
+    EXPECT_TRUE(machine.isOwn(Ipv4Address(10, 1, 0, 1)));
+    EXPECT_EQ(ownAddress(std::nullopt), Ipv4Address(10, 1, 0, 1));
+}
+
+TEST_F(OwnIdentityOfAMachine, ABridgeOfContainersIsMarked)
+{
+    addCard("docker0", "172.17.0.1/16");
+    ASSERT_TRUE(runIp({"link", "add", "port", "type", "veth", "peer", "name", "container"}));
+    ASSERT_TRUE(runIp({"link", "set", "port", "master", "docker0", "up"}));
+    ASSERT_TRUE(runIp({"link", "set", "container", "up"}));
+    MachineAddresses machine(std::nullopt);
+    const auto isThere = [&machine] {
+        machine.readAnew();
+        return !machine.cards().empty();
+    };
+    ASSERT_TRUE(QTest::qWaitFor(isThere, 20000)) << "it has a cable now";
+    const NetworkCard expected{QStringLiteral("docker0"), Ipv4Address(172, 17, 0, 1), std::nullopt, true};
+    EXPECT_EQ(machine.cards(), std::vector{expected});
 }
 
 TEST(OwnIdentity, TheFixedHostNameWins)

@@ -1,5 +1,6 @@
 #include "platform/udp_winsock.h"
 
+#include "own_network.h"
 #include "print_qt.h"
 #include "protocol/address_text.h"
 #include "raw_peer.h"
@@ -679,6 +680,72 @@ TEST(UdpWinsock, TellsTheFixedIdentity)
     EXPECT_EQ(socket.LocalIP(), Ipv4Address(127, 0, 1, 1));
     EXPECT_EQ(socket.LocalHostName(), "PC-ANN");
     EXPECT_TRUE(socket.RemoteHostIP().isUnspecified());
+}
+
+/// On a machine of the test's own.
+class UdpWinsockOfAMachine : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        if (!network.isThere())
+            GTEST_SKIP() << "the system allows no network of our own here";
+        visit.emplace(network);
+        ASSERT_TRUE(runIp({"link", "set", "lo", "up"}));
+        ASSERT_TRUE(runIp({"address", "add", "10.1.0.1/32", "dev", "lo"}));
+    }
+
+    OwnNetwork network;
+    std::optional<OwnNetwork::Visit> visit;
+};
+
+TEST_F(UdpWinsockOfAMachine, ListensNoMoreWhereItsAddressHasGoneAndAgainWhereItIsBack)
+{
+    Copy me(QStringLiteral("10.1.0.1"));
+    ASSERT_TRUE(me.socket.bind());
+    me.socket.networksChanged();
+    EXPECT_TRUE(me.socket.isBound()) << "it is still there";
+    ASSERT_TRUE(runIp({"address", "del", "10.1.0.1/32", "dev", "lo"}));
+    me.socket.networksChanged();
+    EXPECT_FALSE(me.socket.isBound());
+    EXPECT_FALSE(me.socket.bind());
+    EXPECT_EQ(me.socket.bindFailure(), BindFailure::addressNotHere);
+    ASSERT_TRUE(runIp({"address", "add", "10.1.0.1/32", "dev", "lo"}));
+    ASSERT_TRUE(me.socket.bind());
+    me.sendTo(Ipv4Address(10, 1, 0, 1), "hello");
+    ASSERT_TRUE(me.hears(1));
+    EXPECT_EQ(me.heard.front(), (Heard{"hello", "10.1.0.1"}));
+}
+
+TEST_F(UdpWinsockOfAMachine, ASocketForEveryInterfaceOutlivesThemAll)
+{
+    Copy me;
+    ASSERT_TRUE(me.socket.bind());
+    ASSERT_TRUE(runIp({"address", "del", "10.1.0.1/32", "dev", "lo"}));
+    ASSERT_TRUE(runIp({"link", "set", "lo", "down"}));
+    me.socket.networksChanged();
+    EXPECT_TRUE(me.socket.isBound());
+    ASSERT_TRUE(runIp({"link", "set", "lo", "up"}));
+    ASSERT_TRUE(runIp({"address", "add", "10.1.0.2/32", "dev", "lo"}));
+    me.sendTo(Ipv4Address(10, 1, 0, 2), "hello");
+    EXPECT_TRUE(me.hears(1));
+}
+
+TEST_F(UdpWinsockOfAMachine, MayStopListeningWhileADatagramIsHandled)
+{
+    Copy me(QStringLiteral("10.1.0.1"));
+    ASSERT_TRUE(me.socket.bind());
+    me.socket.DataArrival = [&me](std::size_t byteCount) {
+        me.heard.push_back({me.socket.GetData(byteCount), {}});
+        runIp({"address", "del", "10.1.0.1/32", "dev", "lo"});
+        me.socket.networksChanged();
+    };
+    me.sendTo(Ipv4Address(10, 1, 0, 1), "one");
+    me.sendTo(Ipv4Address(10, 1, 0, 1), "two");
+    ASSERT_TRUE(me.hears(1));
+    EXPECT_FALSE(me.socket.isBound());
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 } // namespace
