@@ -17,6 +17,7 @@ struct Point {
 constexpr Point stateChooser = {150, 47};
 constexpr Point firstRow = {150, 104};
 constexpr int rowHeight = 24;
+constexpr Point findEverybody = {150, 220};
 constexpr Point fourthMenuEntry = {40, 77}; // from where the menu was opened
 constexpr Point muteAboveBottom = {130, 79};
 constexpr Point autoReplyButtonAboveBottom = {240, 40};
@@ -73,6 +74,12 @@ PrivateWindow MainWindow::openWhenOnline(int row, const std::string &nickname) c
         return waitUntil([&] { return Window::exists(caption); }, std::chrono::milliseconds(500));
     });
     return PrivateWindow::with(nickname);
+}
+
+void MainWindow::clickFindEverybody() const
+{
+    activate();
+    click(findEverybody.x, findEverybody.y);
 }
 
 std::vector<std::vector<std::uint32_t>> MainWindow::pictureOfRow(int row) const

@@ -24,6 +24,8 @@ public:
     void openContact(int row) const;
     /// Tries until it opens a window of this name, for a contact that is not known to be there yet does not open.
     PrivateWindow openWhenOnline(int row, const std::string &nickname) const;
+    /// While the list is empty: clicks on the button in it.
+    void clickFindEverybody() const;
     /// How a row looks.
     std::vector<std::vector<std::uint32_t>> pictureOfRow(int row) const;
     /// Returns when the menu is there.
