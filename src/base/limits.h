@@ -60,6 +60,9 @@ constexpr int invitationsOfHost = 50;
 constexpr std::size_t participants = 1000;
 /// Rows that wait in the notification window.
 constexpr qsizetype notifications = 100;
+/// Peers of whom is remembered which own address leads to them: more than there are contacts, and no scan of many
+/// networks fills the memory.
+constexpr std::size_t waysRemembered = 20000;
 /// Bytes of datagrams that wait for the engine: a burst of 100,000 messages, while memory stays what people expect.
 constexpr std::size_t waitingArrivals = std::size_t{32} * 1024 * 1024;
 /// Lines a second that one sender's datagrams nobody understands may write: they tell that something is wrong there,

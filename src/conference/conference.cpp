@@ -1,9 +1,12 @@
 #include "conference/conference.h"
 
+#include "base/own_address.h"
 #include "base/remote_text.h"
 #include "conversation/message_text.h"
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
+
+#include <map>
 
 namespace nimb
 {
@@ -56,24 +59,33 @@ QString Conference::textToSend(const QString &typed) const
 
 void Conference::deliver(const QString &text)
 {
-    relay(text, common().ownIP);
+    const auto sayTo = [&](std::optional<Ipv4Address> peer) {
+        sendDatagram(socket(), peer,
+                     wire::ConferenceMessage{ownAddress(peer).toText(), m_identity.ConfNum, toWire(text)});
+    };
+    if (!isHostedHere())
+        sayTo(m_identity.ConfServerIP);
+    for (const Participant &participant : m_participants.rows()) {
+        if (isHostedHere() && participant.isPresentPeer())
+            sayTo(participant.ip.ipv4());
+    }
     showOwnAvatar();
 }
 
+/// What a guest has said, to all the others.
 void Conference::relay(const QString &text, Ipv4Address origin)
 {
-    const bool isOwn = origin == common().ownIP;
-    const wire::ConferenceMessage message{origin.toText(), m_identity.ConfNum, toWire(text)};
-    if (!isHostedHere()) {
-        if (isOwn)
-            sendDatagram(socket(), m_identity.ConfServerIP, message);
-        return;
-    }
-    const std::string bytes = wire::serialise(message);
+    const std::string bytes
+        = wire::serialise(wire::ConferenceMessage{origin.toText(), m_identity.ConfNum, toWire(text)});
     for (const Participant &participant : m_participants.rows()) {
         if (participant.isPresentPeer() && participant.ip != origin)
             sendBytes(socket(), participant.ip.ipv4(), bytes);
     }
+}
+
+Ipv4Address Conference::ownAddress(std::optional<Ipv4Address> peer) const
+{
+    return ownAddressTowards(common(), socket(), peer);
 }
 
 // --- receiving
@@ -132,16 +144,31 @@ void Conference::Broadcastlist(std::optional<Ipv4Address> dest)
 {
     if (!isHostedHere())
         return;
-    wire::ConferenceList list{m_identity.ConfNum, {common().ownIP.toText()}};
+    // Each of the own addresses has one list, for there may be a thousand who get it.
+    std::map<Ipv4Address, std::string> lists;
+    const auto sendTo = [&](std::optional<Ipv4Address> peer) {
+        const Ipv4Address own = ownAddress(peer);
+        std::string &bytes = lists[own];
+        if (bytes.empty())
+            bytes = wire::serialise(listUnder(own));
+        sendBytes(socket(), peer, bytes);
+    };
+    if (dest)
+        return sendTo(dest);
+    for (const Participant &participant : m_participants.rows()) {
+        if (!participant.own)
+            sendTo(participant.ip.ipv4());
+    }
+}
+
+wire::ConferenceList Conference::listUnder(Ipv4Address own) const
+{
+    wire::ConferenceList list{m_identity.ConfNum, {own.toText()}};
     for (const Participant &participant : m_participants.rows()) {
         if (participant.isPresentPeer())
             list.addresses.push_back(participant.ip.text().toStdString());
     }
-    const std::string bytes = wire::serialise(list);
-    if (dest)
-        sendBytes(socket(), dest, bytes);
-    else
-        sendToAll(bytes);
+    return list;
 }
 
 void Conference::BroadcastClose()

@@ -8,6 +8,7 @@
 #include "contacts/contact_list.h"
 #include "contacts/own_avatar.h"
 #include "conversation/conversation.h"
+#include "protocol/datagram.h"
 
 namespace nimb
 {
@@ -73,6 +74,9 @@ private:
     QString caption() const;
     Writer writerOf(Ipv4Address ip) const;
     void relay(const QString &text, Ipv4Address origin);
+    Ipv4Address ownAddress(std::optional<Ipv4Address> peer) const;
+    /// The participants, this copy first under that address.
+    wire::ConferenceList listUnder(Ipv4Address own) const;
     void sendToAll(const std::string &bytes);
     void showOwnAvatar();
     void showAvatarOf(Ipv4Address ip);

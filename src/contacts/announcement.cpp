@@ -1,6 +1,7 @@
 #include "contacts/announcement.h"
 
 #include "base/limits.h"
+#include "base/own_address.h"
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
 
@@ -9,23 +10,26 @@ namespace nimb
 namespace
 {
 
-wire::Identity ownIdentity(const Common &common)
+wire::Identity ownIdentity(const Common &common, Ipv4Address ip)
 {
-    return {common.ownIP.toText(), toWire(common.ownHostName), toWire(common.ownNickname)};
+    return {ip.toText(), toWire(common.ownHostName), toWire(common.ownNickname)};
 }
 
 } // namespace
 
+wire::Identity PresenceSender::identityFor(const ContactAddress &ip) const
+{
+    return ownIdentity(m_common, ownAddressTowards(m_common, m_socket, ip.ipv4()));
+}
+
 void PresenceSender::question(const ContactAddress &ip) const
 {
-    sendDatagram(m_socket, ip.ipv4(), wire::OnlineQuestion{ownIdentity(m_common)});
+    sendDatagram(m_socket, ip.ipv4(), wire::OnlineQuestion{identityFor(ip)});
 }
 
 void PresenceSender::questionToAll(Ipv4Address ip, std::optional<Ipv4Address> source) const
 {
-    wire::Identity identity = ownIdentity(m_common);
-    if (source)
-        identity.ip = source->toText();
+    const wire::Identity identity = ownIdentity(m_common, source ? *source : ownAddressTowards(m_common, m_socket, ip));
     const std::optional<Ipv4Address> usual = m_socket.source();
     m_socket.setBroadcast(true);
     m_socket.setSource(source ? source : usual);
@@ -39,12 +43,12 @@ void PresenceSender::questionToAll(Ipv4Address ip, std::optional<Ipv4Address> so
 
 void PresenceSender::answer(const ContactAddress &ip) const
 {
-    sendDatagram(m_socket, ip.ipv4(), wire::OnlineAnswer{ownIdentity(m_common)});
+    sendDatagram(m_socket, ip.ipv4(), wire::OnlineAnswer{identityFor(ip)});
 }
 
 void PresenceSender::farewell(const ContactAddress &ip) const
 {
-    sendDatagram(m_socket, ip.ipv4(), wire::Offline{ownIdentity(m_common)});
+    sendDatagram(m_socket, ip.ipv4(), wire::Offline{identityFor(ip)});
 }
 
 void PresenceSender::status(const ContactAddress &ip) const

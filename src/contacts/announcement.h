@@ -6,6 +6,7 @@
 #include "base/main_window_view.h"
 #include "base/timers.h"
 #include "contacts/contact_list.h"
+#include "protocol/datagram.h"
 #include "protocol/winsock.h"
 
 #include <QSet>
@@ -34,6 +35,8 @@ public:
     void statusUnlessOnline(const ContactAddress &ip) const;
 
 private:
+    wire::Identity identityFor(const ContactAddress &ip) const;
+
     const Common &m_common;
     Winsock &m_socket;
 };

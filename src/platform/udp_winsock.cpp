@@ -94,8 +94,24 @@ bool UdpWinsock::startReading()
     return true;
 }
 
+std::optional<Ipv4Address> UdpWinsock::addressTowards(Ipv4Address peer) const
+{
+    if (m_fixedAddress || m_source)
+        return std::nullopt;
+    const auto known = m_ways.find(peer);
+    if (known != m_ways.end())
+        return known->second;
+    std::optional<Ipv4Address> from = sourceAddressTowards({peer, m_localPort});
+    if (from && from->isLoopback())
+        from.reset();
+    if (m_ways.size() >= limits::waysRemembered)
+        m_ways.clear();
+    return m_ways[peer] = from;
+}
+
 void UdpWinsock::networksChanged()
 {
+    m_ways.clear();
     if (m_own && !hasAddressStill())
         close();
 }

@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QSocketNotifier>
 
+#include <map>
 #include <memory>
 #include <optional>
 
@@ -40,6 +41,7 @@ public:
     std::optional<Ipv4Address> source() const override { return m_source; }
 
     [[nodiscard]] bool bind() override;
+    std::optional<Ipv4Address> addressTowards(Ipv4Address peer) const override;
     void networksChanged() override;
     bool isBound() const override { return m_own.has_value(); }
     BindFailure bindFailure() const override { return m_bindFailure; }
@@ -73,6 +75,8 @@ private:
     std::uint16_t m_remotePort = 0;
     std::optional<Ipv4Address> m_remoteHost;
     std::optional<Ipv4Address> m_source; ///< of what is sent
+    mutable std::map<Ipv4Address, std::optional<Ipv4Address>>
+        m_ways; ///< from which address, as long as nothing changes
     Ipv4Address m_lastSource;
     Arrival m_waiting; ///< announced and not yet taken
     std::optional<DatagramSocket> m_own;

@@ -49,8 +49,11 @@ public:
     /// again tries again, and is free once bound.
     [[nodiscard]] virtual bool bind() = 0;
     virtual bool isBound() const = 0;
-    /// The networks of this machine have changed. Listens no more where the address to listen on has gone; bind()
-    /// listens anew.
+    /// The address of this machine that a datagram to that one leaves from. Nothing where the way does not decide it,
+    /// for it is fixed or chosen, where there is no way, and within this machine.
+    virtual std::optional<Ipv4Address> addressTowards(Ipv4Address peer) const = 0;
+    /// The networks of this machine have changed: ways lead elsewhere. Listens no more where the address to listen on
+    /// has gone; bind() listens anew.
     virtual void networksChanged() = 0;
     /// Why the last bind() failed.
     virtual BindFailure bindFailure() const = 0;

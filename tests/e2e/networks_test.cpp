@@ -101,6 +101,15 @@ TEST_F(Networks, AMachineWithTwoCardsFindsBothSidesAndEachSeesTheAddressOfItsOwn
     ann->send("10.1.0.1", "!ONLINE 10.1.0.2 ANN-PC Ann");
     ben->send("10.2.0.1", "!ONLINE 10.2.0.2 BEN-PC Ben");
     EXPECT_TRUE(waitUntil([&] { return newcomers(bob).size() == 2; }));
+    ann->waiting(); // it was asked twice
+    ben->waiting();
+    ann->send("10.1.0.1", "?ONLINE 10.1.0.2 ANN-PC Ann");
+    ben->send("10.2.0.1", "?ONLINE 10.2.0.2 BEN-PC Ben");
+    ann->hearUntil("!ONLINE 10.1.0.1 BOB-PC Bob");
+    ben->hearUntil("!ONLINE 10.2.0.1 BOB-PC Bob");
+    EXPECT_EQ(bob.end(), 0);
+    EXPECT_EQ(ann->hearUntil("!OFFLINE 10.1.0.1 BOB-PC Bob").back(), "!OFFLINE 10.1.0.1 BOB-PC Bob");
+    EXPECT_EQ(ben->hearUntil("!OFFLINE 10.2.0.1 BOB-PC Bob").back(), "!OFFLINE 10.2.0.1 BOB-PC Bob");
 }
 
 TEST_F(Networks, AChatGoesOnWhenTheAddressChangesAndThePeerLearnsTheNewOne)

@@ -86,6 +86,11 @@ public:
         m_bound = !portTaken && !addressGone;
         return m_bound;
     }
+    std::optional<Ipv4Address> addressTowards(Ipv4Address peer) const override
+    {
+        const auto way = ways.find(peer);
+        return way == ways.end() || m_usedSource ? std::nullopt : std::optional(way->second);
+    }
     void networksChanged() override { m_bound = m_bound && !addressGone; }
     bool isBound() const override { return m_bound; }
     BindFailure bindFailure() const override { return m_bound ? BindFailure::none : failure; }
@@ -116,8 +121,9 @@ public:
 
     bool broadcast = false;                          ///< datagrams to everybody leave the machine
     std::vector<std::optional<Ipv4Address>> sources; ///< of all that was ever sent
-    std::optional<Ipv4Address> ownAddress; ///< that the system would choose now; at first the one of its making
-    bool addressGone = false;              ///< the one to listen on
+    std::optional<Ipv4Address> ownAddress;   ///< that the system would choose now; at first the one of its making
+    std::map<Ipv4Address, Ipv4Address> ways; ///< from which address, to peers where that is not the usual one
+    bool addressGone = false;                ///< the one to listen on
     bool portTaken = false;
     BindFailure failure = BindFailure::portTaken; ///< what a taken port looks like
     std::uint16_t localPort = 0;

@@ -855,5 +855,28 @@ TEST_F(ConferenceTest, AWriterThatIsNoAddressIsNotShown)
     EXPECT_EQ(copy.drops.of(Drop::noConference), 4u);
 }
 
+// --- several networks
+
+TEST_F(ConferenceTest, AHostBearsForEachGuestTheAddressThatTheGuestKnows)
+{
+    copy.socket.ways[Ipv4Address(10, 0, 0, 4)] = Ipv4Address(10, 2, 0, 1); // Cleo's way leads through another card
+    Conference &conference = host({"10.0.0.3", "10.0.0.4"});
+    conference.Broadcastlist({});
+    EXPECT_THAT(copy.sent(),
+                ElementsAre(To{"10.0.0.3", "!CONF USERS #1 10.0.0.1 10.0.0.3 10.0.0.4"},
+                            To{"10.0.0.4", "!CONF USERS #1 10.2.0.1 10.0.0.3 10.0.0.4"}));
+    EXPECT_TRUE(conference.send(QStringLiteral("hello")));
+    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.3", "+10.0.0.1 #1 hello"}, To{"10.0.0.4", "+10.2.0.1 #1 hello"}));
+    copy.arrive("10.0.0.3", "+10.0.0.3 #1 hi");
+    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.4", "+10.0.0.3 #1 hi"}));
+}
+
+TEST_F(ConferenceTest, AGuestWritesUnderTheAddressThatTheHostKnows)
+{
+    copy.socket.ways[Ipv4Address(10, 0, 0, 2)] = Ipv4Address(10, 2, 0, 1);
+    EXPECT_TRUE(join(3).send(QStringLiteral("hello")));
+    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "+10.2.0.1 #3 hello"}));
+}
+
 } // namespace
 } // namespace nimb

@@ -19,6 +19,41 @@ TEST(Announcement, AsksEveryContactInListOrderAndTellsTheFreshState)
     EXPECT_TRUE(copy.common.announcing);
 }
 
+/// Ann is reached through the first card of the machine, Zoe through the second one.
+CopySetup onTwoNetworks()
+{
+    return {.contacts = {{"10.0.0.2", "Ann"}, {"10.2.0.2", "Zoe"}}, .loaded = false};
+}
+
+TEST(Announcement, EachContactIsToldTheAddressOfTheWayToIt)
+{
+    Copy copy(onTwoNetworks());
+    copy.socket.ways[Ipv4Address(10, 2, 0, 2)] = Ipv4Address(10, 2, 0, 1);
+    copy.engine.mainWindow().Form_Load();
+    EXPECT_THAT(copy.sent(),
+                ElementsAre(To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!STATUS Online"},
+                            To{"10.2.0.2", "?ONLINE 10.2.0.1 HERE Me"}, To{"10.2.0.2", "!STATUS Online"}));
+    copy.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC-ANN Ann");
+    copy.arrive("10.2.0.2", "?ONLINE 10.2.0.2 PC-ZOE Zoe");
+    EXPECT_THAT(copy.sent(),
+                ElementsAre(To{"10.0.0.2", "!ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!STATUS Online"},
+                            To{"10.2.0.2", "!ONLINE 10.2.0.1 HERE Me"}, To{"10.2.0.2", "!STATUS Online"}));
+    copy.engine.search().ask({{Ipv4Address(10, 2, 0, 2)}}, QStringLiteral("Zoe"));
+    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.2.0.2", "?ONLINE 10.2.0.1 HERE Me"}));
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_THAT(copy.sent(),
+                ElementsAre(To{"10.0.0.2", "!OFFLINE 10.0.0.1 HERE Me"}, To{"10.2.0.2", "!OFFLINE 10.2.0.1 HERE Me"}));
+}
+
+TEST(Announcement, TheAddressOfAChosenCardIsToldToEverybody)
+{
+    Copy copy(onTwoNetworks());
+    copy.socket.ways[Ipv4Address(10, 2, 0, 2)] = Ipv4Address(10, 2, 0, 1);
+    copy.settings.put({{"Settings/OwnNetworkCard", QStringLiteral("eth0")}});
+    copy.engine.mainWindow().Form_Load();
+    EXPECT_THAT(copy.sent(), testing::Contains(To{"10.2.0.2", "?ONLINE 10.0.0.1 HERE Me"}));
+}
+
 TEST(Announcement, MarksOnlyTheSilentContactsOffline)
 {
     Copy copy({.contacts = {{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}}});

@@ -731,6 +731,32 @@ TEST_F(UdpWinsockOfAMachine, ASocketForEveryInterfaceOutlivesThemAll)
     EXPECT_TRUE(me.hears(1));
 }
 
+TEST_F(UdpWinsockOfAMachine, TheWayToAPeerDecidesWhichAddressItSees)
+{
+    for (const auto &[card, address] : {std::pair("eth0", "10.2.0.1/24"), std::pair("eth1", "10.3.0.1/24")}) {
+        ASSERT_TRUE(runIp({"link", "add", card, "type", "bridge"}));
+        ASSERT_TRUE(runIp({"address", "add", address, "dev", card}));
+        ASSERT_TRUE(runIp({"link", "set", card, "up"}));
+    }
+    const Ipv4Address first(10, 2, 0, 9), second(10, 3, 0, 9);
+    Copy me;
+    EXPECT_EQ(me.socket.addressTowards(first), Ipv4Address(10, 2, 0, 1));
+    EXPECT_EQ(me.socket.addressTowards(second), Ipv4Address(10, 3, 0, 1));
+    EXPECT_EQ(me.socket.addressTowards(Ipv4Address(10, 3, 0, 255)), Ipv4Address(10, 3, 0, 1)) << "everybody there";
+    EXPECT_EQ(me.socket.addressTowards(Ipv4Address(192, 0, 2, 1)), std::nullopt) << "no way leads there";
+    EXPECT_EQ(me.socket.addressTowards(Ipv4Address(127, 0, 1, 1)), std::nullopt) << "it stays within this machine";
+
+    ASSERT_TRUE(runIp({"address", "del", "10.3.0.1/24", "dev", "eth1"}));
+    ASSERT_TRUE(runIp({"address", "add", "10.3.0.7/24", "dev", "eth1"}));
+    EXPECT_EQ(me.socket.addressTowards(second), Ipv4Address(10, 3, 0, 1)) << "it was asked the system again";
+    me.socket.networksChanged();
+    EXPECT_EQ(me.socket.addressTowards(second), Ipv4Address(10, 3, 0, 7));
+
+    me.socket.setSource(Ipv4Address(10, 2, 0, 1));
+    EXPECT_EQ(me.socket.addressTowards(second), std::nullopt) << "somebody has chosen";
+    EXPECT_EQ(Copy(QStringLiteral("10.2.0.1")).socket.addressTowards(second), std::nullopt) << "it is fixed";
+}
+
 TEST_F(UdpWinsockOfAMachine, MayStopListeningWhileADatagramIsHandled)
 {
     Copy me(QStringLiteral("10.1.0.1"));
