@@ -112,6 +112,22 @@ TEST_F(Networks, AMachineWithTwoCardsFindsBothSidesAndEachSeesTheAddressOfItsOwn
     EXPECT_EQ(ben->hearUntil("!OFFLINE 10.2.0.1 BOB-PC Bob").back(), "!OFFLINE 10.2.0.1 BOB-PC Bob");
 }
 
+TEST_F(Networks, WhereTheSwitchKeepsMachinesApartNobodyIsFound)
+{
+    LanMachine bobs, anns, printers;
+    bobs.plug(office, "eth0", "10.1.0.1/24");
+    anns.plug(office, "eth0", "10.1.0.2/24");
+    printers.plug(office, "eth0", "10.1.0.3/24");
+    bobs.isolate("eth0");
+    anns.isolate("eth0");
+    const auto ann = peerOn(anns, "0.0.0.0"), printer = peerOn(printers, "0.0.0.0");
+    RunningCopy bob({anyAddress, "BOB-PC"}, profile(port, {}));
+    start(bob, bobs, "Bob").clickFindEverybody();
+    for (int question = 0; question < 2; ++question)
+        EXPECT_EQ(printer->next(), "?ONLINE 10.1.0.1 BOB-PC Bob");
+    EXPECT_THAT(ann->waiting(), IsEmpty());
+}
+
 TEST_F(Networks, AChatGoesOnWhenTheAddressChangesAndThePeerLearnsTheNewOne)
 {
     LanMachine bobs, anns;

@@ -32,6 +32,15 @@ int networkOfThisThread()
     return ::open("/proc/thread-self/ns/net", O_RDONLY | O_CLOEXEC);
 }
 
+/// They are modules of the system, which may lack them.
+bool hasVirtualCards()
+{
+    const auto exists = [](const QString &type) {
+        return runIp({"link", "add", "trial", "type", type}) && runIp({"link", "del", "trial"});
+    };
+    return exists(QStringLiteral("bridge")) && exists(QStringLiteral("veth"));
+}
+
 void enter(int network)
 {
     if (::setns(network, CLONE_NEWNET) != 0)
@@ -59,7 +68,8 @@ OwnNetwork::OwnNetwork()
         return;
     const int outside = networkOfThisThread();
     if (outside != none && ::unshare(CLONE_NEWNET) == 0) {
-        m_descriptor = networkOfThisThread();
+        if (hasVirtualCards())
+            m_descriptor = networkOfThisThread();
         enter(outside);
     }
     if (outside != none)

@@ -27,7 +27,7 @@ public:
     OwnNetwork &operator=(OwnNetwork &&other) = delete;
     ~OwnNetwork();
 
-    /// Otherwise the system does not allow it, or lacks the program "ip".
+    /// Otherwise the system does not allow it, or lacks the program "ip" or its virtual cards and bridges.
     bool isThere() const { return m_descriptor != none; }
     /// What the program "ip" takes for its name, as in "link set eth0 netns NAME".
     QString name() const;
