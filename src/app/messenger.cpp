@@ -49,6 +49,8 @@ Messenger::Messenger(Common &common, const Surroundings &around)
                     [this] { unloadOtherWindows(); }, around.tray, around.mainView})
 {
     m_dispatcher.listenTo(m_socket);
+    QObject::connect(&m_contacts, &ContactList::acquaintanceChanged,
+                     [this](Ipv4Address ip, bool acquainted) { m_socket.setAcquainted(ip, acquainted); });
 }
 
 Messenger::~Messenger()

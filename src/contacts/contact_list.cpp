@@ -5,6 +5,7 @@
 #include "base/shown_name.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace nimb
 {
@@ -120,7 +121,7 @@ bool ContactList::add(Contact contact)
 {
     if (contact.ip.isEmpty() || m_byAddress.contains(contact.ip))
         return false;
-    auto made = std::make_unique<Row>(Row{std::move(contact), ++m_arrivals, {}});
+    auto made = std::make_unique<Row>(Row{.contact = std::move(contact), .arrival = ++m_arrivals});
     Row &row = *made;
     const int where = position(row);
     beginInsertRows({}, where, where);
@@ -129,6 +130,7 @@ bool ContactList::add(Contact contact)
     endInsertRows();
     joinLookAlikes(row);
     noteWhetherItMakesRoom(row);
+    tellWhetherAcquainted(row, row.contact.isAcquaintance());
     return true;
 }
 
@@ -146,6 +148,7 @@ bool ContactList::change(const ContactAddress &ip, const std::function<void(Cont
     const bool renamed = edited.contact.nickname != row->contact.nickname;
     row->contact = std::move(edited.contact);
     noteWhetherItMakesRoom(*row);
+    tellWhetherAcquainted(*row, row->contact.isAcquaintance());
     if (renamed) {
         leaveLookAlikes(*row);
         joinLookAlikes(*row);
@@ -216,6 +219,7 @@ bool ContactList::remove(const ContactAddress &ip)
     endRemoveRows();
     leaveLookAlikes(*gone);
     m_makeRoom.erase(gone->arrival);
+    tellWhetherAcquainted(*gone, false);
     return true;
 }
 
@@ -226,6 +230,12 @@ void ContactList::noteWhetherItMakesRoom(Row &row)
         m_makeRoom.insert({row.arrival, &row});
     else
         m_makeRoom.erase(row.arrival);
+}
+
+void ContactList::tellWhetherAcquainted(Row &row, bool acquainted)
+{
+    if (std::exchange(row.toldAcquainted, acquainted) != acquainted && row.contact.ip.ipv4())
+        Q_EMIT acquaintanceChanged(*row.contact.ip.ipv4(), acquainted);
 }
 
 std::optional<ContactAddress> ContactList::firstToMakeRoom() const

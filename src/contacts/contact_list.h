@@ -37,8 +37,12 @@ struct Contact {
     QString state;              ///< last reported state text
     bool broughtByPeer = false; ///< in this run, and not by the user
     bool spokenTo = false;      ///< it has written or been written to, or was buzzed
+    bool soughtByUser = false;  ///< in this run: its window was opened by the user or typed in, or it was buzzed
     int waitingMessages = 0;    ///< that wait to be read, for it has no window
 
+    /// The user knows it. Nothing that it does itself makes it so, for whoever forges addresses can do all of it in the
+    /// name of thousands.
+    bool isAcquaintance() const { return !broughtByPeer || soughtByUser; }
     /// Shows the presence and writes the sort key that goes with it, with the nickname in capitals.
     void setPresence(Presence now);
     /// Nothing is known yet and nobody was asked: sorted by the nickname as it is written.
@@ -95,11 +99,16 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+Q_SIGNALS:
+    /// Somebody whom the user knows is in the list now, or no longer.
+    void acquaintanceChanged(nimb::Ipv4Address ip, bool acquainted);
+
 private:
     struct Row {
         Contact contact;
         quint64 arrival = 0;
-        QString look; ///< lookOf() the nickname
+        QString look{}; ///< lookOf() the nickname
+        bool toldAcquainted = false;
     };
     static bool before(const Row &left, const Row &right);
     int position(const Row &row) const;
@@ -110,6 +119,7 @@ private:
     bool sharesName(const Row &row) const { return m_lookAlikes.value(row.look).size() > 1; }
     void rowChanged(const Row &row);
     void noteWhetherItMakesRoom(Row &row);
+    void tellWhetherAcquainted(Row &row, bool acquainted);
 
     std::vector<std::unique_ptr<Row>> m_rows;
     QHash<ContactAddress, Row *> m_byAddress;

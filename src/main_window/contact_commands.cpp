@@ -53,7 +53,10 @@ void ContactCommands::mnuPrivateChat(const QString &ip)
 
 void ContactCommands::mnuBuzzUser(const QString &ip)
 {
-    const bool isThere = m_contacts.change(ip, [](Contact &contact) { contact.spokenTo = true; });
+    const bool isThere = m_contacts.change(ip, [](Contact &contact) {
+        contact.spokenTo = true;
+        contact.soughtByUser = true;
+    });
     if (isThere)
         sendBuzz(m_services.common, m_services.socket, m_services.sound, readAddress(ip));
 }

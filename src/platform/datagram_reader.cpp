@@ -9,8 +9,9 @@
 namespace nimb
 {
 
-DatagramReader::DatagramReader(std::vector<DatagramSocket *> sockets, std::size_t capacity)
-    : m_sockets(std::move(sockets)), m_queue(capacity)
+DatagramReader::DatagramReader(std::vector<DatagramSocket *> sockets, std::size_t capacity,
+                               std::set<Ipv4Address> acquaintances)
+    : m_sockets(std::move(sockets)), m_queue(capacity, std::move(acquaintances))
 {
     if (!m_somethingWaits.isOpen() || !m_end.isOpen())
         throw std::system_error(errno, std::generic_category());
@@ -21,6 +22,12 @@ DatagramReader::~DatagramReader()
 {
     m_end.wake();
     m_thread.join();
+}
+
+void DatagramReader::setAcquainted(Ipv4Address sender, bool acquainted)
+{
+    const std::lock_guard lock(m_mutex);
+    m_queue.setAcquainted(sender, acquainted);
 }
 
 DatagramReader::Batch DatagramReader::take(std::size_t most)

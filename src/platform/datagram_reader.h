@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <mutex>
+#include <set>
 #include <thread>
 #include <vector>
 
@@ -27,11 +28,14 @@ public:
 
     /// The sockets stay their owner's, who may send with them meanwhile, and outlive the reader. Throws
     /// std::system_error when the system has no thread or descriptor left.
-    DatagramReader(std::vector<DatagramSocket *> sockets, std::size_t capacity);
+    DatagramReader(std::vector<DatagramSocket *> sockets, std::size_t capacity,
+                   std::set<Ipv4Address> acquaintances = {});
     ~DatagramReader();
 
     /// Readable while there is something to take.
     int readable() const { return m_somethingWaits.readable(); }
+    /// As ArrivalQueue::setAcquainted().
+    void setAcquainted(Ipv4Address sender, bool acquainted);
     /// At most so many datagrams, and all counts since the last call.
     Batch take(std::size_t most);
 

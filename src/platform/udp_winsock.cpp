@@ -85,7 +85,7 @@ bool UdpWinsock::startReading()
     if (m_broadcasts)
         sockets.push_back(&*m_broadcasts);
     try {
-        m_reader.emplace(std::move(sockets), limits::waitingArrivals);
+        m_reader.emplace(std::move(sockets), limits::waitingArrivals, m_acquaintances);
     } catch (const std::system_error &) {
         return false;
     }
@@ -162,6 +162,17 @@ std::string UdpWinsock::GetData(std::size_t byteCount)
     std::string taken = std::exchange(m_waiting.bytes, {});
     taken.resize(std::min(byteCount, taken.size()));
     return taken;
+}
+
+void UdpWinsock::setAcquainted(Ipv4Address sender, bool acquainted)
+{
+    // Kept here as well, for there is no reader before the socket is bound.
+    if (acquainted)
+        m_acquaintances.insert(sender);
+    else
+        m_acquaintances.erase(sender);
+    if (m_reader)
+        m_reader->setAcquainted(sender, acquainted);
 }
 
 Ipv4Address UdpWinsock::LocalIP() const

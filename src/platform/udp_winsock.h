@@ -12,6 +12,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 
 namespace nimb
 {
@@ -50,6 +51,8 @@ public:
     std::string GetData(std::size_t byteCount) override;
     Ipv4Address RemoteHostIP() const override { return m_lastSource; }
 
+    void setAcquainted(Ipv4Address sender, bool acquainted) override;
+
     /// NIMB-Chat's own address as other copies see it; asked of the system anew each time.
     Ipv4Address LocalIP() const override;
     QString LocalHostName() const override;
@@ -79,6 +82,7 @@ private:
         m_ways; ///< from which address, as long as nothing changes
     Ipv4Address m_lastSource;
     Arrival m_waiting; ///< announced and not yet taken
+    std::set<Ipv4Address> m_acquaintances;
     std::optional<DatagramSocket> m_own;
     std::optional<DatagramSocket> m_broadcasts; ///< hears what is sent to every copy on the loopback network
     std::optional<DatagramReader> m_reader;     ///< goes before its sockets, and after what watches it

@@ -17,13 +17,13 @@ constexpr std::chrono::milliseconds peerActivityShown{2500};
 constexpr std::chrono::milliseconds pollingInterval{1100};
 } // namespace
 
-PrivateChat::PrivateChat(const Services &services, std::function<void()> unloaded)
+PrivateChat::PrivateChat(const Services &services, std::function<void()> unloaded, std::function<void()> sought)
     : Conversation(services.conversation, std::move(unloaded)), m_services(services),
       m_autoReplyTimer(services.timers.oneShot(limits::autoReplyPause, [] {})),
       m_timer(services.timers.oneShot(peerActivityShown, [this] { m_view->setPeerActivity({}); })),
       m_timerLiveType(services.timers.oneShot(liveTypeInterval, [this] { TimerLiveType_Timer(); })),
       m_webCamTimer(services.timers.repeating(pollingInterval, [this] { askForAvatarUnlessInvisible(); })),
-      m_view(services.forms.makePrivateForm(*this))
+      m_sought(std::move(sought)), m_view(services.forms.makePrivateForm(*this))
 {
     conversationView().setLogFont(common().logFont);
     m_view->setLiveTypeOn(common().options.liveType);
@@ -33,6 +33,12 @@ void PrivateChat::setPeer(const ContactAddress &ip)
 {
     m_rIP = ip;
     m_view->setPeerAddress(ip.text());
+}
+
+void PrivateChat::attend()
+{
+    m_attended = true;
+    m_sought();
 }
 
 void PrivateChat::avatarWanted()
@@ -187,7 +193,7 @@ void PrivateChat::appendPresence(const QString &line)
 
 CloseDecision PrivateChat::Form_QueryUnload(UnloadMode mode)
 {
-    attend();
+    m_attended = true;
     const bool hides = mode == UnloadMode::closeBox && m_isContact && !common().options.closedWindowsGo;
     return hides ? CloseDecision::hide : CloseDecision::unload;
 }

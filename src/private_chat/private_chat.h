@@ -28,8 +28,9 @@ public:
         PrivateForms &forms;
     };
 
-    /// unloaded: called last of all when the user closes the window for good; it may destroy this chat.
-    PrivateChat(const Services &services, std::function<void()> unloaded);
+    /// unloaded: called last of all when the user closes the window for good; it may destroy this chat. sought: called
+    /// when the user turns to the peer.
+    PrivateChat(const Services &services, std::function<void()> unloaded, std::function<void()> sought);
 
     /// Tells the window its peer.
     void setPeer(const ContactAddress &ip);
@@ -75,7 +76,7 @@ public:
 
     /// The user has turned to this window: opened it, typed or clicked in it, closed it, or works in it now.
     bool isAttended() const { return m_attended || !conversationView().isMinimisedOrInactive(); }
-    void attend() { m_attended = true; }
+    void attend();
     /// A peer opens it anew.
     void leaveUnattended() { m_attended = false; }
 
@@ -97,6 +98,7 @@ private:
     std::unique_ptr<Timer> m_timer; ///< clears the panel of the peer's activity
     std::unique_ptr<Timer> m_timerLiveType;
     std::unique_ptr<Timer> m_webCamTimer;
+    std::function<void()> m_sought;
     TypingNotice m_typingNotice;
     bool m_liveTypePending = false;
     bool m_isContact = true;

@@ -156,7 +156,8 @@ PrivateChat &PrivateWindows::windowOf(const Contact &contact, OpenedBy opener)
 PrivateChat &PrivateWindows::make(const Contact &contact, OpenedBy opener)
 {
     const int number = static_cast<int>(m_table.size()) + 1;
-    m_table.push_back(std::make_unique<PrivateChat>(m_services, [this, number] { unload(number); }));
+    m_table.push_back(std::make_unique<PrivateChat>(
+        m_services, [this, number] { unload(number); }, [this, number] { sought(number); }));
     m_contacts.change(contact.ip, [number](Contact &row) {
         row.privateWindow = number;
         row.spokenTo = true;
@@ -176,6 +177,18 @@ int PrivateWindows::numberOf(const ContactAddress &ip) const
 {
     const auto found = std::ranges::find_if(m_table, [&ip](const auto &chat) { return chat && chat->rIP() == ip; });
     return found == m_table.end() ? 0 : static_cast<int>(found - m_table.begin()) + 1;
+}
+
+/// The user turned to that window, whoever opened it.
+void PrivateWindows::sought(int window)
+{
+    const Contact *const contact = m_contacts.find(at(window)->rIP());
+    if (!contact || contact->soughtByUser)
+        return;
+    m_contacts.change(contact->ip, [](Contact &row) {
+        row.spokenTo = true;
+        row.soughtByUser = true;
+    });
 }
 
 void PrivateWindows::unload(int window)

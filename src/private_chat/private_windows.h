@@ -63,6 +63,7 @@ private:
     void forgetWaiting(const ContactAddress &ip);
     /// Number of a window whose peer has this address, or 0.
     int numberOf(const ContactAddress &ip) const;
+    void sought(int window);
     void unload(int window);
 
     PrivateChat::Services m_services;

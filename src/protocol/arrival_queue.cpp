@@ -23,15 +23,31 @@ void ArrivalQueue::push(Ipv4Address source, std::string_view bytes)
     }
 }
 
+void ArrivalQueue::setAcquainted(Ipv4Address sender, bool acquainted)
+{
+    if (acquainted)
+        m_acquaintances.insert(sender);
+    else
+        m_acquaintances.erase(sender);
+    const auto waiting = m_byAddress.find(sender);
+    if (waiting == m_byAddress.end() || waiting->second->isAcquainted == acquainted)
+        return;
+    Turns &former = turnsOf(*waiting->second);
+    waiting->second->isAcquainted = acquainted;
+    Turns &turns = turnsOf(*waiting->second);
+    turns.splice(turns.end(), former, waiting->second);
+}
+
 std::vector<Arrival> ArrivalQueue::take(std::size_t most)
 {
     std::vector<Arrival> taken;
     while (taken.size() < most && !isEmpty()) {
-        const auto sender = m_turns.begin();
+        const auto sender = nextTurn();
         const std::size_t size = cost(sender->waiting.front());
         taken.push_back({sender->address, std::move(sender->waiting.front())});
         sender->waiting.pop_front();
-        m_turns.splice(m_turns.end(), m_turns, sender);
+        Turns &turns = turnsOf(*sender);
+        turns.splice(turns.end(), turns, sender);
         nowHas(sender, sender->bytes - size);
     }
     if (m_bytes < m_capacity / 2)
@@ -49,10 +65,23 @@ ArrivalQueue::Turns::iterator ArrivalQueue::turnOf(Ipv4Address source)
     const auto known = m_byAddress.find(source);
     if (known != m_byAddress.end())
         return known->second;
-    const auto sender = m_turns.insert(m_turns.end(), Sender{.address = source, .waiting = {}});
+    Sender made{.address = source, .isAcquainted = m_acquaintances.contains(source), .waiting = {}};
+    Turns &turns = turnsOf(made);
+    const auto sender = turns.insert(turns.end(), std::move(made));
     m_byAddress.emplace(source, sender);
     m_bytes += overhead;
     return sender;
+}
+
+ArrivalQueue::Turns::iterator ArrivalQueue::nextTurn()
+{
+    const bool othersHaveWaited = m_sinceOthersTurn >= turnsOfAcquaintances && !m_othersTurns.empty();
+    if (othersHaveWaited || m_acquaintancesTurns.empty()) {
+        m_sinceOthersTurn = 0;
+        return m_othersTurns.begin();
+    }
+    m_sinceOthersTurn += m_othersTurns.empty() ? 0 : 1;
+    return m_acquaintancesTurns.begin();
 }
 
 void ArrivalQueue::rank()
@@ -60,9 +89,9 @@ void ArrivalQueue::rank()
     if (m_loud)
         return;
     m_loud.emplace();
-    for (const Sender &sender : m_turns) {
-        if (sender.waiting.size() > 1)
-            m_loud->emplace(sender.bytes, sender.address);
+    for (const auto &[address, sender] : m_byAddress) {
+        if (sender->waiting.size() > 1)
+            m_loud->emplace(sender->bytes, address);
     }
 }
 
@@ -92,7 +121,7 @@ void ArrivalQueue::forget(Turns::iterator sender)
 {
     m_bytes -= overhead;
     m_byAddress.erase(sender->address);
-    m_turns.erase(sender);
+    turnsOf(*sender).erase(sender);
 }
 
 } // namespace nimb

@@ -65,6 +65,10 @@ public:
     /// Source address of the datagram taken last; unspecified before the first.
     virtual Ipv4Address RemoteHostIP() const = 0;
 
+    /// Whether what this sender sends goes before what others send, while more waits than can be handled at once.
+    /// Nobody's does at first.
+    virtual void setAcquainted(Ipv4Address sender, bool acquainted) = 0;
+
     virtual Ipv4Address LocalIP() const = 0;
     virtual QString LocalHostName() const = 0;
 

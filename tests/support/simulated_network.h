@@ -7,6 +7,7 @@
 #include <deque>
 #include <map>
 #include <ostream>
+#include <set>
 #include <vector>
 
 namespace nimb::test
@@ -105,6 +106,13 @@ public:
     }
     std::string GetData(std::size_t byteCount) override { return m_arrived.substr(0, byteCount); }
     Ipv4Address RemoteHostIP() const override { return m_source; }
+    void setAcquainted(Ipv4Address sender, bool acquainted) override
+    {
+        if (acquainted)
+            acquaintances.insert(sender);
+        else
+            acquaintances.erase(sender);
+    }
     Ipv4Address LocalIP() const override { return ownAddress.value_or(m_ip); }
     QString LocalHostName() const override { return m_host; }
 
@@ -129,6 +137,7 @@ public:
     std::uint16_t localPort = 0;
     std::uint16_t remotePort = 0;
     std::vector<To> sent;
+    std::set<Ipv4Address> acquaintances; ///< whose datagrams would go first
 
 private:
     friend class SimulatedNetwork;

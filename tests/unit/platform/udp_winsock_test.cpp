@@ -533,6 +533,33 @@ TEST(UdpWinsock, OneWhoFloodsKeepsNobodyElseWaiting)
     EXPECT_LT(hello - copy.heard.begin(), 1000);
 }
 
+TEST(UdpWinsock, AcquaintancesDoNotWaitForStrangersWhoCameEarlier)
+{
+    std::vector<std::unique_ptr<RawPeer>> strangers;
+    for (int i = 1; i <= 250; ++i)
+        strangers.push_back(std::make_unique<RawPeer>("127.0.9." + std::to_string(i), testPort()));
+    const RawPeer ann("127.0.1.2", testPort());
+    const RawPeer ben("127.0.1.3", testPort());
+    Copy copy("127.0.1.1");
+    copy.socket.setAcquainted(Ipv4Address(127, 0, 1, 2), true);
+    copy.socket.setAcquainted(Ipv4Address(127, 0, 9, 250), true);
+    ASSERT_TRUE(copy.socket.bind());
+    copy.socket.setAcquainted(Ipv4Address(127, 0, 1, 3), true);
+    copy.socket.setAcquainted(Ipv4Address(127, 0, 9, 250), false);
+    for (int i = 1; i < 250; ++i)
+        strangers[std::size_t(i - 1)]->send("127.0.1.1", testPort(), "-hello");
+    ann.send("127.0.1.1", testPort(), "-one");
+    ben.send("127.0.1.1", testPort(), "-two");
+    strangers.back()->send("127.0.1.1", testPort(), "-hello");
+
+    ASSERT_TRUE(copy.hears(252));
+
+    const auto placeOf = [&](const Heard &heard) { return std::ranges::find(copy.heard, heard) - copy.heard.begin(); };
+    EXPECT_LT(placeOf({"-one", "127.0.1.2"}), 249);
+    EXPECT_LT(placeOf({"-two", "127.0.1.3"}), 249);
+    EXPECT_EQ(copy.heard.back(), (Heard{"-hello", "127.0.9.250"})) << "an acquaintance no longer";
+}
+
 #ifdef __linux__
 TEST(UdpWinsock, CountsExactlyWhatTheSystemDroppedForWantOfRoom)
 {

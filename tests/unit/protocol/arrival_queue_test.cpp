@@ -68,6 +68,86 @@ TEST(ArrivalQueueTest, TurnsGoOnFromOneBatchToTheNext)
     EXPECT_THAT(texts(queue.take(9)), ElementsAre("10.0.0.2 4"));
 }
 
+TEST(ArrivalQueueTest, AnAcquaintanceGoesBeforeStrangersWhoCameEarlier)
+{
+    ArrivalQueue queue(plenty, {cleo});
+    queue.push(ann, "-one");
+    queue.push(ben, "-two");
+    queue.push(cleo, "?ONLINE");
+
+    EXPECT_THAT(texts(queue.take(9)), ElementsAre("10.0.0.3 ?ONLINE", "10.0.0.1 -one", "10.0.0.2 -two"));
+    EXPECT_TRUE(queue.isEmpty());
+}
+
+TEST(ArrivalQueueTest, AcquaintancesHaveTheirTurnsAmongThemselves)
+{
+    ArrivalQueue queue(plenty, {ann, ben});
+    queue.push(cleo, "-stranger");
+    for (const char *bytes : {"1", "2", "3"})
+        queue.push(ann, bytes);
+    queue.push(ben, "4");
+
+    EXPECT_THAT(texts(queue.take(9)),
+                ElementsAre("10.0.0.1 1", "10.0.0.2 4", "10.0.0.1 2", "10.0.0.1 3", "10.0.0.3 -stranger"));
+}
+
+TEST(ArrivalQueueTest, AStrangerHasItsTurnAfterSevenOfAcquaintances)
+{
+    ArrivalQueue queue(plenty, {ann});
+    for (int i = 0; i < 20; ++i)
+        queue.push(ann, "a");
+    queue.push(ben, "b1");
+    queue.push(ben, "b2");
+    queue.push(cleo, "c1");
+
+    EXPECT_THAT(texts(queue.take(7)), Each("10.0.0.1 a"));
+    EXPECT_THAT(texts(queue.take(1)), ElementsAre("10.0.0.2 b1"));
+    EXPECT_THAT(texts(queue.take(7)), Each("10.0.0.1 a"));
+    EXPECT_THAT(texts(queue.take(9)),
+                ElementsAre("10.0.0.3 c1", "10.0.0.1 a", "10.0.0.1 a", "10.0.0.1 a", "10.0.0.1 a", "10.0.0.1 a",
+                            "10.0.0.1 a", "10.0.0.2 b2"));
+}
+
+TEST(ArrivalQueueTest, WhoBecomesAnAcquaintanceGoesFirstWithWhatWaitsInItsOrder)
+{
+    ArrivalQueue queue(plenty);
+    for (const char *bytes : {"1", "2"})
+        queue.push(ann, bytes);
+    for (const char *bytes : {"3", "4"})
+        queue.push(ben, bytes);
+
+    queue.setAcquainted(ben, true);
+    EXPECT_THAT(texts(queue.take(9)), ElementsAre("10.0.0.2 3", "10.0.0.2 4", "10.0.0.1 1", "10.0.0.1 2"));
+    queue.push(ann, "5");
+    queue.push(ben, "6");
+    EXPECT_THAT(texts(queue.take(9)), ElementsAre("10.0.0.2 6", "10.0.0.1 5"));
+}
+
+TEST(ArrivalQueueTest, WhoIsNoAcquaintanceAnyMoreGoesBehindTheStrangersWhoWait)
+{
+    ArrivalQueue queue(plenty, {ben});
+    queue.push(ann, "1");
+    for (const char *bytes : {"2", "3"})
+        queue.push(ben, bytes);
+
+    queue.setAcquainted(ben, false);
+    EXPECT_THAT(texts(queue.take(9)), ElementsAre("10.0.0.1 1", "10.0.0.2 2", "10.0.0.2 3"));
+    queue.push(ann, "4");
+    queue.push(ben, "5");
+    EXPECT_THAT(texts(queue.take(9)), ElementsAre("10.0.0.1 4", "10.0.0.2 5"));
+}
+
+TEST(ArrivalQueueTest, AnAcquaintanceWhoFloodsLosesAsAStrangerDoes)
+{
+    ArrivalQueue queue(5 * ArrivalQueue::overhead, {ann});
+    for (const char *bytes : {"", "", ""})
+        queue.push(ann, bytes);
+    queue.push(ben, "");
+
+    EXPECT_THAT(queue.takeLosses(), ElementsAre(Pair(ann, 1U)));
+    EXPECT_THAT(texts(queue.take(9)), ElementsAre("10.0.0.1 ", "10.0.0.1 ", "10.0.0.2 "));
+}
+
 TEST(ArrivalQueueTest, WithoutRoomTheLoudestSenderLosesTheNewest)
 {
     ArrivalQueue queue(4 * ArrivalQueue::overhead + 2 * ArrivalQueue::overhead + 40);
@@ -178,6 +258,7 @@ TEST(ArrivalQueueTest, NeverHoldsMoreThanItsCapacity)
     std::uint64_t pushed = 0, lost = 0, taken = 0;
     for (std::uint32_t i = 0; i < 5000; ++i) {
         queue.push(Ipv4Address::of(0x0A000000 + i * 7919 % 97), std::string(i % 200, 'x'));
+        queue.setAcquainted(Ipv4Address::of(0x0A000000 + i * 31 % 97), i % 3 == 0);
         ++pushed;
         ASSERT_LE(queue.bytes(), 10'000U);
         if (i % 50 == 0)
