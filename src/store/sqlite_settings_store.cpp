@@ -311,7 +311,10 @@ std::optional<QString> SqliteSettingsStore::save()
         return std::nullopt;
     try {
         openForSaving();
-        inTransaction([this] { writePending(); });
+        inTransaction([this] {
+            writeAllKnown();
+            writePending();
+        });
     } catch (const Failure &failure) {
         return tr("The settings were not saved in %1 (%2), so what was changed since the last save is not kept; "
                   "what was stored before is unchanged.")
@@ -320,6 +323,7 @@ std::optional<QString> SqliteSettingsStore::save()
     forgetKept();
     m_values.insert(m_pending);
     m_pending.clear();
+    m_allIsToBeWritten = false;
     m_trouble = Trouble::none;
     return std::nullopt;
 }
@@ -327,20 +331,35 @@ std::optional<QString> SqliteSettingsStore::save()
 /// What the file has forgotten by saving the pending values.
 void SqliteSettingsStore::forgetKept()
 {
-    for (auto entry = m_pending.keyBegin(); entry != m_pending.keyEnd(); ++entry)
-        m_recovered.remove(*entry);
-    if (std::exchange(m_droppingKept, false))
+    if (std::exchange(m_droppingKept, false)) {
         m_recovered.clear();
+        m_kept.clear();
+    }
+    forget(m_recovered, m_pending);
+    forget(m_kept, m_pending);
+}
+
+/// As the triggers do it.
+void SqliteSettingsStore::forget(Changes &changes, const Values &saved)
+{
+    static const QString users = QStringLiteral("Users");
+    bool hasUsers = false;
+    for (auto entry = saved.keyBegin(); entry != saved.keyEnd(); ++entry) {
+        changes.remove(*entry);
+        hasUsers = hasUsers || entry->first == users;
+    }
+    if (hasUsers)
+        changes.removeIf([](const Changes::iterator &change) { return change.key().first == users; });
 }
 
 std::optional<QString> SqliteSettingsStore::keep(const std::vector<KeptChange> &changes,
                                                  const std::vector<SettingName> &undone)
 {
     try {
-        if (!m_database)
-            openForSaving();
+        openForSaving();
         sqlite3_busy_timeout(m_database.get(), busyTimeoutOfKeepingMs);
         inTransaction([&] {
+            writeAllKnown();
             writeChanges(changes);
             removeChanges(undone);
         });
@@ -352,16 +371,17 @@ std::optional<QString> SqliteSettingsStore::keep(const std::vector<KeptChange> &
                   "can save.")
             .arg(QDir::toNativeSeparators(m_file), failure.reason);
     }
+    m_allIsToBeWritten = false;
+    for (const KeptChange &change : changes)
+        m_kept.insert({change.section, change.key}, change.value);
+    for (const SettingName &name : undone)
+        m_kept.remove({name.section, name.key});
     return std::nullopt;
 }
 
 RecoveredChanges SqliteSettingsStore::recovered() const
 {
-    RecoveredChanges recovered;
-    for (auto entry = m_recovered.cbegin(); entry != m_recovered.cend(); ++entry)
-        recovered.changes.push_back({entry.key().first, entry.key().second, entry.value()});
-    recovered.unreadable = m_unreadableChanges;
-    return recovered;
+    return {.changes = listed(m_recovered), .unreadable = m_unreadableChanges};
 }
 
 std::optional<QString> SqliteSettingsStore::problem() const
@@ -420,7 +440,8 @@ void SqliteSettingsStore::readFile()
     Contents contents = read(database.get(), m_file);
     m_database = std::move(database);
     m_values = std::move(contents.values);
-    m_recovered = std::move(contents.changes);
+    m_recovered = contents.changes;
+    m_kept = std::move(contents.changes);
     m_unreadableChanges = contents.unreadableChanges;
     m_damagedSections = std::move(contents.damagedSections);
 }
@@ -480,15 +501,14 @@ void SqliteSettingsStore::checkWritable() const
 
 void SqliteSettingsStore::openForSaving()
 {
-    if (m_database && !QFileInfo::exists(m_file)) {
-        // Somebody removed the file: all that is known goes into a new one.
-        Values everything = m_values;
-        everything.insert(m_pending);
-        m_pending = everything;
+    if (m_valuesSeen && isGone()) {
         m_database.reset();
+        m_allIsToBeWritten = true;
     }
     if (m_database)
         return;
+    if (m_allIsToBeWritten)
+        return makeAgain();
     open();
     if (!m_database)
         throw Failure{m_reason};
@@ -501,6 +521,37 @@ void SqliteSettingsStore::openForSaving()
     m_trouble = Trouble::reading;
     m_reason = tr("they could not be read when the program started and would be lost");
     throw Failure{m_reason};
+}
+
+/// Somebody has removed the file, or put an empty one in its place.
+bool SqliteSettingsStore::isGone() const
+{
+    const QFileInfo file(m_file);
+    if (!file.exists())
+        return true;
+    int hasMoved = 0;
+    if (m_database && file.size() == 0)
+        sqlite3_file_control(m_database.get(), "main", SQLITE_FCNTL_HAS_MOVED, &hasMoved);
+    return hasMoved != 0;
+}
+
+/// Makes a new file; what is known stays known. One that holds something is somebody else's by now.
+void SqliteSettingsStore::makeAgain()
+{
+    Values values = m_values;
+    Changes recovered = m_recovered;
+    Changes kept = m_kept;
+    open();
+    const bool holdsSomething = m_database && !(m_values.isEmpty() && m_kept.isEmpty());
+    m_values = std::move(values);
+    m_recovered = std::move(recovered);
+    m_kept = std::move(kept);
+    if (holdsSomething) {
+        m_database.reset();
+        throw Failure{reasonFor(SQLITE_READONLY_DBMOVED, nullptr)};
+    }
+    if (!m_database)
+        throw Failure{m_reason};
 }
 
 void SqliteSettingsStore::inTransaction(const std::function<void()> &write)
@@ -523,12 +574,28 @@ void SqliteSettingsStore::inTransaction(const std::function<void()> &write)
     }
 }
 
+/// Into a file that was made again. What was kept goes behind the values, for it would be forgotten with them.
+void SqliteSettingsStore::writeAllKnown()
+{
+    if (!m_allIsToBeWritten)
+        return;
+    writeValues(m_values);
+    writeSums();
+    writeChanges(listed(m_kept));
+}
+
 void SqliteSettingsStore::writePending()
 {
     if (m_droppingKept)
         execute(m_database.get(), "DELETE FROM recovery");
+    writeValues(m_pending);
+    writeSums();
+}
+
+void SqliteSettingsStore::writeValues(const Values &values)
+{
     Statement put(m_database.get(), putValue);
-    for (auto entry = m_pending.cbegin(); entry != m_pending.cend(); ++entry) {
+    for (auto entry = values.cbegin(); entry != values.cend(); ++entry) {
         const QByteArray section = entry.key().first.toUtf8();
         const QByteArray key = entry.key().second.toUtf8();
         const QByteArray value = entry.value().toUtf8();
@@ -538,7 +605,6 @@ void SqliteSettingsStore::writePending()
         put.next();
         put.reset();
     }
-    writeSums();
 }
 
 /// Over what stands there now: other programs may have written to it as well.
@@ -552,6 +618,14 @@ void SqliteSettingsStore::writeSums()
         put.next();
         put.reset();
     }
+}
+
+std::vector<KeptChange> SqliteSettingsStore::listed(const Changes &changes)
+{
+    std::vector<KeptChange> list;
+    for (auto entry = changes.cbegin(); entry != changes.cend(); ++entry)
+        list.push_back({entry.key().first, entry.key().second, entry.value()});
+    return list;
 }
 
 void SqliteSettingsStore::writeChanges(const std::vector<KeptChange> &changes)
@@ -638,6 +712,7 @@ std::optional<QString> SqliteSettingsStore::takeCopy()
     }
     m_copyOffered = false;
     QFile::remove(offerMark());
+    m_allIsToBeWritten = false;
     m_damaged = false;
     open();
     m_valuesSeen = m_database != nullptr;

@@ -38,7 +38,8 @@ public:
     std::optional<QString> problem() const override;
 
     /// The changes go into the table `recovery` of the same file, in one transaction that is on the disk before this
-    /// returns. Waits a fifth of a second at most for another program that holds the file.
+    /// returns. Waits a fifth of a second at most for another program that holds the file. Where somebody has removed
+    /// the file, all that is known goes into a new one, as it does with save().
     [[nodiscard]] std::optional<QString> keep(const std::vector<KeptChange> &changes,
                                               const std::vector<SettingName> &undone) override;
     RecoveredChanges recovered() const override;
@@ -84,11 +85,17 @@ private:
     void putAside() const;
     void checkWritable() const;
     void openForSaving();
+    bool isGone() const;
+    void makeAgain();
     void inTransaction(const std::function<void()> &write);
+    void writeAllKnown();
+    void writeValues(const Values &values);
     void writePending();
     void writeSums();
+    static std::vector<KeptChange> listed(const Changes &changes);
     void writeChanges(const std::vector<KeptChange> &changes);
     void removeChanges(const std::vector<SettingName> &undone);
+    static void forget(Changes &changes, const Values &saved);
     void forgetKept();
     void rollBack();
 
@@ -97,8 +104,10 @@ private:
     Database m_database; ///< empty unless its values could be read
     Values m_values;
     Values m_pending;
-    Changes m_recovered;         ///< by an earlier run, and not saved since
-    int m_unreadableChanges = 0; ///< beside those
+    Changes m_recovered;             ///< by an earlier run, and not saved since
+    int m_unreadableChanges = 0;     ///< beside those
+    Changes m_kept;                  ///< all that the file holds beside the values
+    bool m_allIsToBeWritten = false; ///< the file was removed, and the new one holds nothing yet
     bool m_droppingKept = false;
     QStringList m_damagedSections;
     bool m_damaged = false;     ///< the file could not be read because of what it holds

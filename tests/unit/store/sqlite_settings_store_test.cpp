@@ -527,6 +527,96 @@ TEST_F(Kept, NothingIsKeptOverAStoreThatCouldNotBeRead)
     EXPECT_EQ(fileBytes(), "this is no database");
 }
 
+TEST_F(Kept, AFileThatIsRemovedMeanwhileIsMadeAgainWithAllThatIsKnown)
+{
+    saveGeneration("old");
+    keep({{"Options", "LiveType", "0"}, {"Users", "Nn:10.0.0.2", "Ann"}});
+    SqliteSettingsStore store(folder);
+    ASSERT_EQ(store.keep({{"Users", "Nn:10.0.0.3", std::nullopt}, {"Users", "Nn:10.0.0.4", "Dora"}}, {}), std::nullopt);
+    ASSERT_TRUE(QFile::remove(file));
+
+    EXPECT_EQ(store.keep({{"Options", "NotifyWin", "0"}}, {{"Users", "Nn:10.0.0.4"}}), std::nullopt);
+
+    EXPECT_EQ(modeOf(file), 0600);
+    EXPECT_EQ(generationOnDisk(), "old");
+    const SqliteSettingsStore next(folder);
+    EXPECT_EQ(next.damage(), std::nullopt);
+    EXPECT_THAT(next.recovered().changes,
+                testing::ElementsAre(KeptChange{"Options", "LiveType", "0"}, KeptChange{"Options", "NotifyWin", "0"},
+                                     KeptChange{"Users", "Nn:10.0.0.2", "Ann"},
+                                     KeptChange{"Users", "Nn:10.0.0.3", std::nullopt}));
+}
+
+TEST_F(Kept, AFileThatWasMadeAgainHasTheSumsOfItsSections)
+{
+    saveGeneration("old");
+    SqliteSettingsStore store(folder);
+    ASSERT_TRUE(QFile::remove(file));
+    ASSERT_EQ(store.keep({{"Options", "NotifyWin", "0"}}, {}), std::nullopt);
+    EXPECT_EQ(Database(file).one("SELECT group_concat(section) FROM sums"), "Settings,Users");
+}
+
+TEST_F(Kept, AFolderThatIsRemovedMeanwhileIsMadeAgainToo)
+{
+    saveGeneration("old");
+    SqliteSettingsStore store(folder);
+    ASSERT_TRUE(QDir(folder).removeRecursively());
+    EXPECT_EQ(store.keep({{"Options", "NotifyWin", "0"}}, {}), std::nullopt);
+    EXPECT_EQ(generationOnDisk(), "old");
+    EXPECT_THAT(recovered(), testing::ElementsAre(KeptChange{"Options", "NotifyWin", "0"}));
+}
+
+TEST_F(Kept, AFileThatIsReplacedByAnEmptyOneIsFilledAgain)
+{
+    saveGeneration("old");
+    SqliteSettingsStore store(folder);
+    ASSERT_TRUE(QFile::remove(file));
+    putFile({});
+    EXPECT_EQ(store.keep({{"Options", "NotifyWin", "0"}}, {}), std::nullopt);
+    EXPECT_EQ(generationOnDisk(), "old");
+    EXPECT_THAT(recovered(), testing::ElementsAre(KeptChange{"Options", "NotifyWin", "0"}));
+}
+
+TEST_F(Kept, AFileThatIsReplacedByOneThatHoldsSomethingIsNotTouched)
+{
+    saveGeneration("old");
+    SqliteSettingsStore store(folder);
+    ASSERT_TRUE(QFile::remove(file));
+    saveGeneration("somebody else's");
+    const QByteArray before = fileBytes();
+    EXPECT_THAT(sentence(store.keep({{"Options", "NotifyWin", "0"}}, {})),
+                isSentenceWith(file, "(the file has been moved or replaced)"));
+    EXPECT_TRUE(fileBytes() == before);
+}
+
+TEST_F(Kept, ASaveIntoAFileThatWasRemovedLosesNothingThatIsKept)
+{
+    saveGeneration("old");
+    keep({{"Options", "LiveType", "0"}, {"Options", "TipOTDay", "1"}});
+    SqliteSettingsStore store(folder);
+    ASSERT_EQ(store.keep({{"Options", "NotifyWin", "0"}}, {}), std::nullopt);
+    ASSERT_TRUE(QFile::remove(file));
+    store.write("Options", "TipOTDay", "0");
+    EXPECT_EQ(store.save(), std::nullopt);
+    EXPECT_EQ(generationOnDisk(), "old");
+    EXPECT_EQ(Database(file).read("Options", "TipOTDay", "none"), "0");
+    EXPECT_THAT(recovered(),
+                testing::ElementsAre(KeptChange{"Options", "LiveType", "0"}, KeptChange{"Options", "NotifyWin", "0"}));
+}
+
+TEST_F(Kept, WhatWasSavedIsNotKeptAgainInAFileThatIsMadeAgain)
+{
+    SqliteSettingsStore store(folder);
+    ASSERT_EQ(store.keep({{"Options", "LiveType", "0"}, {"Users", "Nn:10.0.0.2", "Ann"}}, {}), std::nullopt);
+    store.write("Options", "LiveType", "2");
+    store.write("Users", "IP1", "10.0.0.2");
+    ASSERT_EQ(store.save(), std::nullopt);
+    ASSERT_TRUE(QFile::remove(file));
+    EXPECT_EQ(store.keep({{"Options", "NotifyWin", "0"}}, {}), std::nullopt);
+    EXPECT_THAT(recovered(), testing::ElementsAre(KeptChange{"Options", "NotifyWin", "0"}));
+    EXPECT_EQ(Database(file).read("Options", "LiveType", "none"), "2");
+}
+
 TEST_F(Kept, AWriterElsewhereIsSaidAndDoesNotHoldTheProgramUp)
 {
     saveGeneration("old");
@@ -900,6 +990,37 @@ TEST_P(EveryFault, OfKeepingLeavesWhatWasKeptBeforeWholeAndIsTold)
             ASSERT_EQ(kept, "second") << "call " << n;
         }
         EXPECT_EQ(generationOnDisk(), "old") << "call " << n;
+        if (!happened)
+            break;
+    }
+    EXPECT_GT(failures, 20);
+}
+
+TEST_P(EveryFault, OfMakingARemovedFileAgainIsToldAndLosesNothing)
+{
+    FaultyFiles files;
+    int failures = 0;
+    for (int n = 1;; n = nextFault(n)) {
+        QFile::remove(file);
+        saveGeneration("old");
+        keepGeneration("first");
+        SqliteSettingsStore store(folder);
+        ASSERT_EQ(store.problem(), std::nullopt);
+        ASSERT_TRUE(QFile::remove(file));
+
+        fail(files, n);
+        const std::optional<QString> failure = store.keep({{"Settings", "UDPPort", "first"}}, {});
+        const bool happened = files.happened();
+        files.heal();
+
+        if (failure) {
+            ++failures;
+            EXPECT_THAT(sentence(failure), isSentenceWith(file, "What has changed cannot be kept"));
+            EXPECT_EQ(generationOnDisk(), "none") << "call " << n;
+            ASSERT_EQ(store.keep({{"Settings", "UDPPort", "first"}}, {}), std::nullopt) << "call " << n;
+        }
+        ASSERT_EQ(generationOnDisk(), "old") << "call " << n;
+        ASSERT_EQ(generationKept(SqliteSettingsStore(folder)), "first") << "call " << n;
         if (!happened)
             break;
     }
