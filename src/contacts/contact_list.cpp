@@ -218,18 +218,32 @@ bool ContactList::remove(const ContactAddress &ip)
     m_rows.erase(m_rows.begin() + row);
     endRemoveRows();
     leaveLookAlikes(*gone);
-    m_makeRoom.erase(gone->arrival);
+    if (gone->placeToGo)
+        m_makeRoom.erase(*gone->placeToGo);
     tellWhetherAcquainted(*gone, false);
     return true;
 }
 
-void ContactList::noteWhetherItMakesRoom(Row &row)
+std::optional<ContactList::PlaceToGo> ContactList::placeToGo(const Row &row)
 {
     const Contact &contact = row.contact;
-    if (contact.broughtByPeer && !contact.spokenTo && contact.presence == Presence::offline)
-        m_makeRoom.insert({row.arrival, &row});
-    else
-        m_makeRoom.erase(row.arrival);
+    if (!contact.broughtByPeer || contact.spokenTo)
+        return std::nullopt;
+    if (contact.presence == Presence::offline)
+        return PlaceToGo(false, row.arrival);
+    return contact.hasAnswered ? std::nullopt : std::optional(PlaceToGo(true, row.arrival));
+}
+
+void ContactList::noteWhetherItMakesRoom(Row &row)
+{
+    const std::optional<PlaceToGo> place = placeToGo(row);
+    if (place == row.placeToGo)
+        return;
+    if (row.placeToGo)
+        m_makeRoom.erase(*row.placeToGo);
+    if (place)
+        m_makeRoom.insert({*place, &row});
+    row.placeToGo = place;
 }
 
 void ContactList::tellWhetherAcquainted(Row &row, bool acquainted)

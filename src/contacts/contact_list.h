@@ -37,6 +37,7 @@ struct Contact {
     QString state;              ///< last reported state text
     bool broughtByPeer = false; ///< in this run, and not by the user
     bool spokenTo = false;      ///< it has written or been written to, or was buzzed
+    bool hasAnswered = false;   ///< a question of this run: more than whoever forges addresses hears of
     bool soughtByUser = false;  ///< in this run: its window was opened by the user or typed in, or it was buzzed
     int waitingMessages = 0;    ///< that wait to be read, for it has no window
 
@@ -84,7 +85,8 @@ public:
     bool remove(const ContactAddress &ip);
 
     /// The contact that makes room first when strangers have filled the list: of those whom peers have brought in this
-    /// run, who are offline and to whom nobody ever spoke, the one that came first. Empty when there is none.
+    /// run and to whom nobody ever spoke, one who is offline; else one who has never answered, and may be a forged
+    /// address. Of several the one that came first. Empty when there is none.
     std::optional<ContactAddress> firstToMakeRoom() const;
 
     /// Reads the stored list; every contact starts as not yet known. The list must be empty.
@@ -104,11 +106,14 @@ Q_SIGNALS:
     void acquaintanceChanged(nimb::Ipv4Address ip, bool acquainted);
 
 private:
+    /// Whether it is there nevertheless, and when it came: the order in which contacts make room.
+    using PlaceToGo = std::pair<bool, quint64>;
     struct Row {
         Contact contact;
         quint64 arrival = 0;
         QString look{}; ///< lookOf() the nickname
         bool toldAcquainted = false;
+        std::optional<PlaceToGo> placeToGo{}; ///< in m_makeRoom
     };
     static bool before(const Row &left, const Row &right);
     int position(const Row &row) const;
@@ -118,6 +123,7 @@ private:
     void leaveLookAlikes(Row &row);
     bool sharesName(const Row &row) const { return m_lookAlikes.value(row.look).size() > 1; }
     void rowChanged(const Row &row);
+    static std::optional<PlaceToGo> placeToGo(const Row &row);
     void noteWhetherItMakesRoom(Row &row);
     void tellWhetherAcquainted(Row &row, bool acquainted);
 
@@ -125,7 +131,7 @@ private:
     QHash<ContactAddress, Row *> m_byAddress;
     QHash<QString, QSet<Row *>> m_lookAlikes; ///< by look
     quint64 m_arrivals = 0;
-    std::map<quint64, const Row *> m_makeRoom; ///< by arrival
+    std::map<PlaceToGo, const Row *> m_makeRoom;
 };
 
 /// The compound order of code points, which differs from that of UTF-16 units beyond U+FFFF.

@@ -51,7 +51,9 @@ void PresenceReceiver::cameOnline(Ipv4Address ip, const std::optional<PeerIdenti
 {
     const bool wasPresent = isPresent(m_contacts.find(ip)->presence);
     const QString formerName = m_contacts.find(ip)->nickname;
-    m_contacts.change(ip, [&peer](Contact &contact) {
+    m_contacts.change(ip, [&peer, asks](Contact &contact) {
+        if (!asks && contact.presence == Presence::unknown)
+            contact.hasAnswered = true;
         if (peer) {
             contact.nickname = nameOrUnknown(peer->nick);
             contact.workstation = nameOrUnknown(peer->host);

@@ -122,9 +122,10 @@ protected:
         Contact contact;
         contact.ip = Ipv4Address::of(Ipv4Address(10, 1, 0, 0).number() + std::uint32_t(number));
         contact.setPresence(Presence::online);
+        contact.hasAnswered = true;
         return contact;
     }
-    /// By strangers, who are all there; Ann was there before.
+    /// By strangers, who are all there and have answered; Ann was there before.
     FullListTest()
     {
         for (int i = 1; contacts.rowCount() < limits::contactsFromStrangers; ++i)
@@ -133,6 +134,10 @@ protected:
     void goesOffline(const char *ip)
     {
         contacts.change(QString::fromLatin1(ip), [](Contact &contact) { contact.setPresence(Presence::offline); });
+    }
+    void neverAnswered(const char *ip)
+    {
+        contacts.change(QString::fromLatin1(ip), [](Contact &contact) { contact.hasAnswered = false; });
     }
     bool isThere(const char *ip) const { return contacts.find(QString::fromLatin1(ip)); }
 };
@@ -156,6 +161,29 @@ TEST_F(FullListTest, TheOldestStrangerThatIsOfflineMakesRoom)
     EXPECT_EQ(drops.of(Drop::madeRoom), 1u);
     admission.admit(stranger(20001));
     EXPECT_FALSE(isThere("10.1.0.7"));
+    EXPECT_THAT(refusal("10.9.9.9"), Optional(Refusal::listFull));
+}
+
+TEST_F(FullListTest, WhoNeverAnsweredMakesRoomAfterAllWhoAreOffline)
+{
+    neverAnswered("10.1.0.4");
+    neverAnswered("10.1.0.3");
+    goesOffline("10.1.0.7");
+    for (const char *leaves : {"10.1.0.7", "10.1.0.3", "10.1.0.4"}) {
+        EXPECT_THAT(refusal("10.9.9.9"), Eq(std::nullopt));
+        EXPECT_TRUE(isThere(leaves));
+        admission.admit(stranger(20000 + contacts.rowCount() + int(drops.of(Drop::madeRoom))));
+        EXPECT_FALSE(isThere(leaves)) << leaves;
+    }
+    EXPECT_THAT(refusal("10.9.9.9"), Optional(Refusal::listFull));
+    EXPECT_EQ(contacts.rowCount(), limits::contactsFromStrangers);
+}
+
+TEST_F(FullListTest, WhoNeverAnsweredStaysWhenItIsTheUsersOrWasSpokenTo)
+{
+    neverAnswered("10.0.0.2"); // whom the user has added
+    neverAnswered("10.1.0.5");
+    contacts.change(QStringLiteral("10.1.0.5"), [](Contact &contact) { contact.spokenTo = true; });
     EXPECT_THAT(refusal("10.9.9.9"), Optional(Refusal::listFull));
 }
 

@@ -111,6 +111,20 @@ TEST_F(PresenceReceiverTest, AContactThatChangesItsNameIsSaidInTheLog)
         << "it had none before";
 }
 
+TEST_F(PresenceReceiverTest, OnlyTheAnswerToAQuestionOfOursIsOne)
+{
+    copy.arrive("10.0.0.9", "!ONLINE 10.0.0.9 PC Cleo");
+    copy.arrive("10.0.0.9", "!ONLINE 10.0.0.9 PC Cleo");
+    copy.arrive("10.0.0.9", "?ONLINE 10.0.0.9 PC Cleo");
+    EXPECT_FALSE(copy.contact("10.0.0.9").hasAnswered) << "nobody has asked";
+    copy.announce();
+    copy.arrive("10.0.0.9", "?ONLINE 10.0.0.9 PC Cleo");
+    EXPECT_FALSE(copy.contact("10.0.0.9").hasAnswered) << "a question of its own";
+    copy.announce();
+    copy.arrive("10.0.0.9", "!ONLINE 10.0.0.9 PC Cleo");
+    EXPECT_TRUE(copy.contact("10.0.0.9").hasAnswered);
+}
+
 TEST_F(PresenceReceiverTest, AnInvisibleCopyDoesNotAnswer)
 {
     copy.engine.ownState().choose(4);
@@ -323,7 +337,11 @@ TEST_F(PresenceReceiverTest, StrangersCannotFillTheListWithoutEnd)
         copy.arrive(ip.c_str(), "!ONLINE " + ip + " PC N");
     }
     EXPECT_EQ(copy.engine.contacts().rowCount(), 10000);
-    EXPECT_EQ(copy.drops.of(Drop::tooManyContacts), 52u);
+    EXPECT_EQ(copy.drops.of(Drop::madeRoom), 52u) << "nobody of them has ever answered";
+    EXPECT_EQ(copy.drops.of(Drop::tooManyContacts), 0u);
+    EXPECT_TRUE(copy.knows("10.0.0.2") && copy.knows("10.0.0.3")) << "whom the user has added";
+    EXPECT_FALSE(copy.knows("20.0.0.51"));
+    EXPECT_TRUE(copy.knows("20.0.0.52") && copy.knows("20.0.39.65"));
     copy.arrive("224.0.0.5", "!ONLINE 224.0.0.5 PC N");
     EXPECT_EQ(copy.drops.of(Drop::badAddress), 1u);
 }

@@ -84,7 +84,11 @@ TEST_F(SharedContactsTest, TheListHasItsLimit)
                                          "!USER 11." + std::to_string(i / 62500) + "." + std::to_string(i / 250 % 250)
                                              + "." + std::to_string(i % 250 + 1) + " PC X");
     EXPECT_EQ(copy.engine.contacts().rowCount(), limits::contactsFromStrangers);
-    EXPECT_EQ(copy.drops.of(Drop::tooManyContacts), 11u);
+    EXPECT_EQ(copy.drops.of(Drop::madeRoom), 11u) << "of those who have never answered, the first ones";
+    EXPECT_EQ(copy.drops.of(Drop::tooManyContacts), 0u);
+    EXPECT_TRUE(copy.knows("10.0.0.2")) << "whom the user has added";
+    EXPECT_FALSE(copy.knows("11.0.0.1"));
+    EXPECT_TRUE(copy.knows("11.0.40.10"));
 }
 
 } // namespace
