@@ -64,6 +64,13 @@ int compareCodePoints(const QString &left, const QString &right)
     return codePointRank(l->unicode()) < codePointRank(r->unicode()) ? -1 : 1;
 }
 
+void Contact::rename(const QString &remoteNickname)
+{
+    if (nickname != unknownName && nickname != unheardName)
+        formerNickname = nickname;
+    nickname = nameOrUnknown(remoteNickname);
+}
+
 void Contact::setPresence(Presence now)
 {
     presence = now;

@@ -27,7 +27,8 @@ inline const QString unheardName = QStringLiteral("(unknown)");
 inline const QString endOfStoredContacts = QStringLiteral("255.255.255.255");
 
 struct Contact {
-    QString nickname; ///< the row's text
+    QString nickname;         ///< the row's text
+    QString formerNickname{}; ///< what it was called before, [unknown] left out; empty when it had no name
     QString workstation;
     ContactAddress ip; ///< where every datagram to this contact goes; its text is the row's tag
     Presence presence = Presence::unknown;
@@ -41,6 +42,8 @@ struct Contact {
     bool soughtByUser = false;  ///< in this run: its window was opened by the user or typed in, or it was buzzed
     int waitingMessages = 0;    ///< that wait to be read, for it has no window
 
+    /// What cannot be seen is no name.
+    void rename(const QString &remoteNickname);
     /// The user knows it. Nothing that it does itself makes it so, for whoever forges addresses can do all of it in the
     /// name of thousands.
     bool isAcquaintance() const { return !broughtByPeer || soughtByUser; }

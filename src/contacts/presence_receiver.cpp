@@ -50,12 +50,12 @@ void PresenceReceiver::strangerSeen(Ipv4Address ip, const PeerIdentity &peer, bo
 void PresenceReceiver::cameOnline(Ipv4Address ip, const std::optional<PeerIdentity> &peer, bool asks)
 {
     const bool wasPresent = isPresent(m_contacts.find(ip)->presence);
-    const QString formerName = m_contacts.find(ip)->nickname;
+    const QString shownName = m_contacts.find(ip)->nickname;
     m_contacts.change(ip, [&peer, asks](Contact &contact) {
         if (!asks && contact.presence == Presence::unknown)
             contact.hasAnswered = true;
         if (peer) {
-            contact.nickname = nameOrUnknown(peer->nick);
+            contact.rename(peer->nick);
             contact.workstation = nameOrUnknown(peer->host);
         }
         contact.setPresence(Presence::online);
@@ -64,8 +64,11 @@ void PresenceReceiver::cameOnline(Ipv4Address ip, const std::optional<PeerIdenti
     const Contact &contact = *m_contacts.find(ip);
     if (!wasPresent)
         notify({tr("%1 is online").arg(paintedName(contact.nickname)), Presence::online, ip});
-    if (contact.nickname != formerName && formerName != unknownName && formerName != unheardName)
-        m_log.changedName(formerName, contact.nickname);
+    if (contact.nickname != shownName && !contact.formerNickname.isEmpty()) {
+        // Who takes the name back that was blank for a while has changed it from what was shown last.
+        const bool tookItBack = contact.nickname == contact.formerNickname;
+        m_log.changedName(tookItBack ? shownName : contact.formerNickname, contact.nickname);
+    }
     m_log.wentOnline(contact.nickname);
     tellPrivateWindow(contact, tr("%1 is online").arg(contact.nickname));
     m_witness.seenOnline(ip, false);

@@ -104,11 +104,41 @@ TEST_F(PresenceReceiverTest, AContactThatChangesItsNameIsSaidInTheLog)
     copy.view.log.clear();
     copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 OTHER-PC The boss");
     EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- 21/11/2026 @ 14:05 - The boss went online ---"));
+}
+
+TEST_F(PresenceReceiverTest, AContactThatIsNamelessForAWhileHasChangedItsNameAllTheSame)
+{
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC ");
+    EXPECT_THAT(copy.view.log.lines(),
+                ElementsAre("--- 21/11/2026 @ 14:05 - Ann is now called [unknown] ---",
+                            "--- 21/11/2026 @ 14:05 - [unknown] went online ---"));
+    copy.view.log.clear();
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC ");
+    EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- 21/11/2026 @ 14:05 - [unknown] went online ---"));
+    copy.view.log.clear();
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC The boss");
+    EXPECT_THAT(copy.view.log.lines(),
+                ElementsAre("--- 21/11/2026 @ 14:05 - Ann is now called The boss ---",
+                            "--- 21/11/2026 @ 14:05 - The boss went online ---"));
+}
+
+TEST_F(PresenceReceiverTest, AContactThatTakesItsNameBackIsSaidToHaveDoneSo)
+{
     copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC ");
     copy.view.log.clear();
     copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
-    EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- 21/11/2026 @ 14:05 - Ann went online ---"))
-        << "it had none before";
+    EXPECT_THAT(copy.view.log.lines(),
+                ElementsAre("--- 21/11/2026 @ 14:05 - [unknown] is now called Ann ---",
+                            "--- 21/11/2026 @ 14:05 - Ann went online ---"));
+}
+
+TEST_F(PresenceReceiverTest, TheFirstNameOfAContactIsNoChange)
+{
+    copy.arrive("10.0.0.9", "?ONLINE 10.0.0.9 PC  ");
+    ASSERT_EQ(copy.contact("10.0.0.9").nickname, QStringLiteral("[unknown]"));
+    copy.view.log.clear();
+    copy.arrive("10.0.0.9", "!ONLINE 10.0.0.9 PC Cleo");
+    EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- 21/11/2026 @ 14:05 - Cleo went online ---"));
 }
 
 TEST_F(PresenceReceiverTest, OnlyTheAnswerToAQuestionOfOursIsOne)
