@@ -37,6 +37,10 @@ void Search::ask(std::vector<SearchTarget> targets, const QString &where)
         return m_parts.log.fault(tr("No network of this computer leads to %1, so nobody was asked.").arg(where));
     m_parts.log.note(tr("asking %1 who is there").arg(where));
     Run &run = *m_runs.emplace_back(std::make_unique<Run>());
+    for (const SearchTarget &target : targets) {
+        run.destinations.insert(target.destination);
+        run.asksEverybody = run.asksEverybody || isEverybodys(target.destination);
+    }
     run.targets = std::move(targets);
     run.byInvisible = m_parts.common.isInvisible();
     run.timer = m_parts.timers.repeating(tickTime, [this, &run] {
@@ -149,8 +153,7 @@ void Search::askBatch(const Run &run, std::size_t batch, bool again) const
     const std::size_t end = std::min(run.targets.size(), (batch + 1) * limits::questionsOfSearch);
     for (std::size_t i = batch * limits::questionsOfSearch; i < end; ++i) {
         const SearchTarget &target = run.targets[i];
-        const bool hasAnswered = std::ranges::find(run.answers, target.destination) != run.answers.end();
-        if (!again || !hasAnswered)
+        if (!again || !run.answered.contains(target.destination))
             m_parts.sender.questionToAll(target.destination, target.source);
     }
 }
@@ -174,11 +177,9 @@ bool Search::isEverybodys(Ipv4Address address) const
     return m_parts.ownAddresses.isBroadcast(address) || address.number() % 256 == 255;
 }
 
-bool Search::concerns(const Run &run, Ipv4Address ip) const
+bool Search::concerns(const Run &run, Ipv4Address ip)
 {
-    return run.timer->isActive() && std::ranges::any_of(run.targets, [this, ip](const SearchTarget &target) {
-               return target.destination == ip || isEverybodys(target.destination);
-           });
+    return run.timer->isActive() && (run.asksEverybody || run.destinations.contains(ip));
 }
 
 void Search::seenOnline(Ipv4Address ip, bool isNew)
@@ -186,7 +187,7 @@ void Search::seenOnline(Ipv4Address ip, bool isNew)
     for (const auto &run : m_runs) {
         if (!concerns(*run, ip))
             continue;
-        if (std::ranges::find(run->answers, ip) == run->answers.end())
+        if (run->answered.insert(ip).second)
             run->answers.push_back(ip);
         run->newOnes += isNew ? 1 : 0;
     }

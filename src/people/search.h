@@ -8,6 +8,7 @@
 #include "contacts/presence_receiver.h"
 
 #include <memory>
+#include <set>
 #include <vector>
 
 namespace nimb
@@ -67,8 +68,11 @@ public:
 private:
     struct Run {
         std::vector<SearchTarget> targets;
-        std::size_t tick = 0;             ///< tenths of a second since the first question
-        std::vector<Ipv4Address> answers; ///< in the order in which they came, each one once
+        std::set<Ipv4Address> destinations; ///< of the targets
+        bool asksEverybody = false;         ///< one of them is everybody's on a network
+        std::size_t tick = 0;               ///< tenths of a second since the first question
+        std::vector<Ipv4Address> answers;   ///< in the order in which they came, each one once
+        std::set<Ipv4Address> answered;     ///< the same
         int newOnes = 0;
         bool byInvisible = false; ///< the user was so already when he asked for it
         std::unique_ptr<Timer> timer;
@@ -76,7 +80,7 @@ private:
 
     void tick(Run &run);
     void askBatch(const Run &run, std::size_t batch, bool again) const;
-    bool concerns(const Run &run, Ipv4Address ip) const;
+    static bool concerns(const Run &run, Ipv4Address ip);
     bool isOneself(Ipv4Address address) const;
     void askOneself(Ipv4Address address) const;
     bool isEverybodys(Ipv4Address address) const;
