@@ -25,6 +25,13 @@ namespace
 
 constexpr std::array renderedSizes{NIMB_PICTURE_SIZES}; // pixels, ascending
 
+/// What window managers and trays are given. Each window sends all of them as they are: every size that was rendered
+/// takes a megabyte for each.
+constexpr std::array iconSizes{16, 22, 24, 32, 48, 64, 128, 256};
+
+/// Larger ones are drawn once, as the icon of a window; they would fill more room than all others together.
+constexpr int largestKept = 96;
+
 /// Draws what was rendered while the program was built: no plugin takes part. Only paint() and pixmap() are its own,
 /// whose sizes mean the same in every version of Qt.
 class PictureEngine : public QIconEngine
@@ -68,7 +75,8 @@ public:
             option.palette = QGuiApplication::palette();
             result = QApplication::style()->generatedIconPixmap(mode, result, &option);
         }
-        QPixmapCache::insert(key, result);
+        if (side <= largestKept)
+            QPixmapCache::insert(key, result);
         return result;
     }
 
@@ -77,11 +85,10 @@ public:
         const int side = std::min(size.width(), size.height());
         return {side, side};
     }
-    /// What window managers and trays are given.
     QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override
     {
         QList<QSize> sizes;
-        for (const int size : renderedSizes)
+        for (const int size : iconSizes)
             sizes.append({size, size});
         return sizes;
     }

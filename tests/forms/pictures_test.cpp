@@ -170,10 +170,24 @@ TEST(Pictures, ThoseOfSeveralColoursKeepThem)
     EXPECT_FALSE(showsColour(picture.pixmap(16, 16, QIcon::Disabled).toImage(), green));
 }
 
-TEST(Pictures, AreGivenToWindowManagersInEverySize)
+TEST(Pictures, AreGivenToWindowManagersInEverySizeThatTheyShow)
 {
     EXPECT_THAT(programIcon().availableSizes(),
                 testing::IsSupersetOf({QSize(16, 16), QSize(32, 32), QSize(48, 48), QSize(256, 256)}));
+}
+
+TEST(Pictures, OfAWindowTakeLessThanHalfAMegabyte)
+{
+    int bytes = 0;
+    for (const QSize size : programIcon().availableSizes())
+        bytes += size.width() * size.height() * 4;
+    EXPECT_LT(bytes, 500'000);
+}
+
+TEST(Pictures, AreDrawnInSizesThatNoWindowIsGiven)
+{
+    EXPECT_EQ(programIcon().pixmap(60, 60).size(), QSize(60, 60));
+    EXPECT_EQ(programIcon().pixmap(160, 160).size(), QSize(160, 160));
 }
 
 TEST(Pictures, AreDrawnCrispIntoAControl)
