@@ -1,6 +1,7 @@
 #include "app/dialog_opener.h"
 
 #include "base/limits.h"
+#include "doctor/frmDoctor.h"
 #include "main_window/frmMain.h"
 #include "options/frmOptions.h"
 #include "people/contact_import.h"
@@ -134,6 +135,26 @@ void DialogOpener::mnuTOTD()
         m_tip = new frmTipOfTheDay(TipOfTheDay(m_services.store, m_services.openTips), m_services.prompts, nullptr);
     bringBack(*m_tip);
     m_tip->activateWindow();
+}
+
+void DialogOpener::mnuNetworkDoctor()
+{
+    if (!m_doctor || !m_doctor->isVisible()) {
+        delete m_doctor; // one that is closed may still wait for an answer
+        m_doctor = new frmDoctor({.common = m_services.common,
+                                  .socket = m_services.socket,
+                                  .trace = m_services.trace,
+                                  .drops = m_services.drops,
+                                  .ownAddresses = m_engine.ownAddresses(),
+                                  .diagnosis = m_services.diagnosis,
+                                  .sender = m_engine.sender(),
+                                  .contacts = m_engine.contacts(),
+                                  .timers = m_services.timers,
+                                  .clock = m_services.clock},
+                                 &m_main);
+    }
+    bringBack(*m_doctor);
+    m_doctor->activateWindow();
 }
 
 void DialogOpener::mnusendcontacts(const QString &ip)

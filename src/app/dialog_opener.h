@@ -5,9 +5,11 @@
 #include "base/link_opener.h"
 #include "base/name_resolver.h"
 #include "base/net_send.h"
+#include "base/network_diagnosis.h"
 #include "base/picture_source.h"
 #include "base/system_information.h"
 #include "base/window_openers.h"
+#include "protocol/datagram_trace.h"
 #include "welcome/tip_of_the_day.h"
 
 #include <QCoreApplication>
@@ -16,6 +18,7 @@
 namespace nimb
 {
 
+class frmDoctor;
 class frmMain;
 class frmSendContact;
 class frmTipOfTheDay;
@@ -33,6 +36,9 @@ struct FormServices {
     NameResolver &names;
     NetSend &netSend;
     SystemInformation &systemInformation;
+    NetworkDiagnosis &diagnosis;
+    DatagramTrace &trace; ///< of the socket
+    const DropCounts &drops;
     TipOfTheDay::OpenFile openTips;
 };
 
@@ -54,6 +60,7 @@ public:
     void mnuToolsOptions() override;
     void mnuHelpAbout() override;
     void mnuTOTD() override;
+    void mnuNetworkDoctor() override;
     void mnusendcontacts(const QString &ip) override;
     void mnuinviteuser(const QString &ip) override;
     void mnuCreateNewConf() override;
@@ -72,6 +79,7 @@ private:
     // They delete themselves when they are closed.
     QPointer<frmTipOfTheDay> m_tip;
     QPointer<frmSendContact> m_sendContact;
+    QPointer<frmDoctor> m_doctor;
 };
 
 } // namespace nimb

@@ -9,25 +9,12 @@
 #include "protocol/address_text.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QImageReader>
 #include <QLocale>
 #include <QSessionManager>
-#include <QStandardPaths>
 
 namespace nimb
 {
-namespace
-{
-
-std::optional<QString> variable(const char *name)
-{
-    const QString value = qEnvironmentVariable(name);
-    return value.isEmpty() ? std::nullopt : std::optional(value);
-}
-
-} // namespace
-
 QString commandLineOf(int argc, char *argv[])
 {
     QStringList words;
@@ -36,21 +23,14 @@ QString commandLineOf(int argc, char *argv[])
     return words.join(QLatin1Char(' '));
 }
 
-Environment Environment::fromSystem()
-{
-    const QString standard
-        = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QLatin1String("/NIMB-Chat");
-    return {variable("NIMBCHAT_ADDRESS"), variable("NIMBCHAT_HOSTNAME"),
-            QDir(variable("NIMBCHAT_PROFILE").value_or(standard)).absolutePath()};
-}
-
 Program::Program(const Environment &environment)
     : m_wantedAddress(environment.address), m_store(environment.profileFolder), m_nextStart(environment.profileFolder),
       m_instance(environment.profileFolder),
-      m_socket(m_drops, environment.address ? readAddress(*environment.address) : std::nullopt, environment.hostName),
-      m_ownAddresses(environment.address ? readAddress(*environment.address) : std::nullopt),
+      m_udp(m_drops, environment.address ? readAddress(*environment.address) : std::nullopt, environment.hostName),
+      m_socket(m_udp, m_trace), m_ownAddresses(environment.address ? readAddress(*environment.address) : std::nullopt),
+      m_diagnosis(m_udp),
       m_forms({m_common, m_timers, m_clock, m_socket, m_store, m_prompts, m_links, m_pictures, m_names, m_netSend,
-               m_systemInfo, [] { return readProgramFile(QStringLiteral("TOTD.txt")); }})
+               m_systemInfo, m_diagnosis, m_trace, m_drops, [] { return readProgramFile(QStringLiteral("TOTD.txt")); }})
 {
     qApp->installEventFilter(&m_toolTips);
     // For pictures that are pasted as well as for those of files.
@@ -178,7 +158,7 @@ QString Program::statusNotes() const
     QStringList notes;
     if (const QString drops = m_drops.summary(); !drops.isEmpty())
         notes.append(drops);
-    const int granted = m_socket.receiveBufferBytes();
+    const int granted = m_udp.receiveBufferBytes();
     if (m_socket.isBound() && granted < UdpWinsock::receiveBufferAsked)
         notes.append(tr("The system grants %1 KiB for waiting datagrams instead of %2 KiB: sudden bursts may be lost.")
                          .arg(granted / 1024)

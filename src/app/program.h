@@ -6,9 +6,11 @@
 #include "base/window_openers.h"
 #include "main_window/Tray.h"
 #include "platform/desktop_notifications.h"
+#include "platform/environment.h"
 #include "platform/link_opener.h"
 #include "platform/name_resolver.h"
 #include "platform/net_send_runner.h"
+#include "platform/network_diagnosis.h"
 #include "platform/network_watch.h"
 #include "platform/own_identity.h"
 #include "platform/picture_sources.h"
@@ -20,6 +22,7 @@
 #include "platform/system_info.h"
 #include "platform/udp_winsock.h"
 #include "platform/unix_signals.h"
+#include "protocol/traced_winsock.h"
 #include "store/next_start_file.h"
 #include "store/sqlite_settings_store.h"
 #include "widgets/message_boxes.h"
@@ -34,15 +37,6 @@ namespace nimb
 
 /// All arguments joined by single blanks.
 QString commandLineOf(int argc, char *argv[]);
-
-/// What the program is told by its environment.
-struct Environment {
-    std::optional<QString> address;  ///< NIMBCHAT_ADDRESS: dotted IPv4 to bind to
-    std::optional<QString> hostName; ///< NIMBCHAT_HOSTNAME
-    QString profileFolder;           ///< NIMBCHAT_PROFILE, or NIMB-Chat in the user's configuration folder
-
-    static Environment fromSystem();
-};
 
 class Program : public StartUpSteps
 {
@@ -84,7 +78,9 @@ private:
     SingleInstance m_instance;
     QtTimers m_timers;
     SystemClock m_clock;
-    UdpWinsock m_socket;
+    DatagramTrace m_trace;
+    UdpWinsock m_udp;
+    TracedWinsock m_socket;
     MachineAddresses m_ownAddresses;
     SystemNetworkWatch m_networkWatch{m_timers};
     SystemChance m_chance;
@@ -96,6 +92,7 @@ private:
     HostNameResolver m_names;
     NetSendRunner m_netSend;
     SystemInfo m_systemInfo;
+    SystemNetworkDiagnosis m_diagnosis;
     FormOpener m_forms;
     std::optional<DesktopNotifications> m_desktopNotifications;
     std::optional<Login> m_login;

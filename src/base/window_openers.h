@@ -46,6 +46,7 @@ public:
     virtual void mnuToolsOptions() = 0;
     virtual void mnuHelpAbout() = 0;
     virtual void mnuTOTD() = 0;
+    virtual void mnuNetworkDoctor() = 0;
     /// An address that is no contact's is ignored.
     virtual void mnusendcontacts(const QString &ip) = 0;
     /// Empty: no contact is selected.

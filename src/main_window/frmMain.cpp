@@ -236,6 +236,7 @@ void frmMain::connectMenus()
     on("mnuToolsOptions", [this] { m_engine->windows.mnuToolsOptions(); });
     on("mnuHelpAbout", [this] { m_engine->windows.mnuHelpAbout(); });
     on("mnuTOTD", [this] { m_engine->windows.mnuTOTD(); });
+    on("mnuNetworkDoctor", [this] { m_engine->windows.mnuNetworkDoctor(); });
     on("mnusendcontacts", [this] { m_engine->windows.mnusendcontacts(selectedContact()); });
     on("mnuinviteuser", [this] { m_engine->windows.mnuinviteuser(selectedContact()); });
     on("mnuCreateNewConf", [this] { m_engine->windows.mnuCreateNewConf(); });

@@ -70,6 +70,7 @@ inline constexpr std::array help = {
     MenuEntry{"mnuHelpContents", QT_TRANSLATE_NOOP("MainMenu", "&Contents"), "help"},
     MenuEntry{"mnuHelpSearchForHelpOn", QT_TRANSLATE_NOOP("MainMenu", "&Search For Help On...")},
     MenuEntry{"mnuTOTD", QT_TRANSLATE_NOOP("MainMenu", "&Tip of the day..."), "tip"},
+    MenuEntry{"mnuNetworkDoctor", QT_TRANSLATE_NOOP("MainMenu", "&Network doctor...")},
     MenuEntry{"mnuHelpAbout", QT_TRANSLATE_NOOP("MainMenu", "&About")},
 };
 

@@ -69,7 +69,7 @@ void frmAddUser::buildControls()
     QPalette colours = addressRemark->palette();
     colours.setColor(QPalette::WindowText, readableOn(Qt::red, colours.color(QPalette::Window)));
     addressRemark->setPalette(colours);
-    grid->addWidget(addressRemark, row, 1, 1, 2);
+    grid->addWidget(addressRemark, row, 0, 1, 3);
 
     auto *const buttons = new QDialogButtonBox(this);
     CmdOK = addButton(*buttons, "CmdOK", tr("OK"), QDialogButtonBox::AcceptRole);

@@ -210,7 +210,7 @@ void Search::finish(Run &run)
     run.timer->stop();
     if (run.answers.empty())
         return m_parts.log.note(tr("nobody answered: nobody may be there, a firewall may be in the way, or the network "
-                                   "may keep its machines apart"));
+                                   "may keep its machines apart; Help, Network doctor... looks which"));
     tellAnswers(run);
 }
 

@@ -2,6 +2,7 @@
 // without waiting for an answer fits into the receive buffer that every machine grants, so that the system drops none.
 #include "chat_windows.h"
 #include "child_process.h"
+#include "clipboard.h"
 #include "running_copy.h"
 #include "wire_peer.h"
 
@@ -29,18 +30,6 @@ std::string addressOf(int number)
 std::string nameOf(int number)
 {
     return "Contact " + std::to_string(number);
-}
-
-QString clipboard()
-{
-    QProcess helper;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-    helper.setProcessEnvironment(environment);
-    endWithParent(helper);
-    helper.start(QStringLiteral(CLIPBOARD_HELPER), QStringList());
-    EXPECT_TRUE(helper.waitForFinished(static_cast<int>(patience().count())));
-    return QString::fromUtf8(helper.readAllStandardOutput());
 }
 
 /// The numbers behind this word in a log, in the order of its lines. It is copied again until the last one is there.

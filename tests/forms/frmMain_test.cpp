@@ -92,7 +92,8 @@ TEST_F(FrmMain, BearsItsFixedNames)
                              "mnuHelpContents",
                              "mnuHelpSearchForHelpOn",
                              "mnuHelpAbout",
-                             "mnuTOTD"})
+                             "mnuTOTD",
+                             "mnuNetworkDoctor"})
         EXPECT_TRUE(windows.main().findChild<QObject *>(QLatin1String(name))) << name;
     EXPECT_EQ(windows.main().windowTitle(), QStringLiteral("NIMB-Chat 1.2 - Me"));
 }

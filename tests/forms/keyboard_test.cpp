@@ -57,9 +57,9 @@ private:
     static const char *entryFor(QLatin1String window)
     {
         constexpr std::pair<const char *, const char *> entries[] = {
-            {"frmNetworkscan", "mnuNetworkscan"},  {"frmAddUser", "mnuAddUser"},   {"frmOptions", "mnuToolsOptions"},
-            {"frmAbout", "mnuHelpAbout"},          {"frmInvite", "mnuinviteuser"}, {"frmTipOfTheDay", "mnuTOTD"},
-            {"frmSendContact", "mnusendcontacts"},
+            {"frmNetworkscan", "mnuNetworkscan"},  {"frmAddUser", "mnuAddUser"},      {"frmOptions", "mnuToolsOptions"},
+            {"frmAbout", "mnuHelpAbout"},          {"frmInvite", "mnuinviteuser"},    {"frmTipOfTheDay", "mnuTOTD"},
+            {"frmSendContact", "mnusendcontacts"}, {"frmDoctor", "mnuNetworkDoctor"},
         };
         for (const auto &[name, entry] : entries) {
             if (window == QLatin1String(name))

@@ -70,7 +70,8 @@ TEST_F(MainMenusTest, TheMenuBarHasEveryEntryInItsPlace)
                 ElementsAre("mnuLogWindow: Show &Log Window", "mnuToolsOptions: &Options..."));
     EXPECT_THAT(entriesOf(menu("mnuHelp")),
                 ElementsAre("mnuHelpContents: &Contents", "mnuHelpSearchForHelpOn: &Search For Help On...",
-                            "mnuTOTD: &Tip of the day...", "mnuHelpAbout: &About"));
+                            "mnuTOTD: &Tip of the day...", "mnuNetworkDoctor: &Network doctor...",
+                            "mnuHelpAbout: &About"));
     for (const char *name : {"mnuFile", "mnuUsers", "mnuConference", "mnuTools", "mnuHelp"}) {
         for (const QAction *const action : menu(name).actions())
             EXPECT_EQ(action->isEnabled(), action->isVisible()) << action->objectName().toStdString();
@@ -219,9 +220,9 @@ QDialog *shown(const char *name)
 TEST_F(MainMenusTest, EveryDialogOpensFromItsEntryAndTheProgramGoesOn)
 {
     constexpr std::pair<const char *, const char *> dialogs[]
-        = {{"mnuNetworkscan", "frmNetworkscan"}, {"mnuAddUser", "frmAddUser"},  {"mnuToolsOptions", "frmOptions"},
-           {"mnuHelpAbout", "frmAbout"},         {"mnuTOTD", "frmTipOfTheDay"}, {"mnuinviteuser", "frmInvite"},
-           {"mnusendcontacts", "frmSendContact"}};
+        = {{"mnuNetworkscan", "frmNetworkscan"},  {"mnuAddUser", "frmAddUser"},     {"mnuToolsOptions", "frmOptions"},
+           {"mnuHelpAbout", "frmAbout"},          {"mnuTOTD", "frmTipOfTheDay"},    {"mnuinviteuser", "frmInvite"},
+           {"mnusendcontacts", "frmSendContact"}, {"mnuNetworkDoctor", "frmDoctor"}};
     windows.click(0);
     for (const auto &[entry, name] : dialogs) {
         EXPECT_FALSE(shown(name)) << name;

@@ -3,6 +3,7 @@
 #include "welcome/frmLogin.h"
 #include "widgets/message_boxes.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
@@ -324,6 +325,32 @@ void takeDialogs(Gallery &gallery)
     }
 }
 
+void takeDoctor(Gallery &gallery)
+{
+    RealWindows windows(everybody);
+    fill(windows);
+    windows.ownAddresses.running = {{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1), Ipv4Address(10, 0, 0, 255)},
+                                    {QStringLiteral("wlan0"), Ipv4Address(10, 0, 0, 7), Ipv4Address(10, 0, 0, 255)}};
+    windows.entry("mnuNetworkDoctor").trigger();
+    QWidget &doctor = topLevel("frmDoctor");
+    gallery.take(doctor, "doctor_under_way");
+    windows.arrive("10.0.0.1", "?ONLINE 10.0.0.1 HERE Me");
+    windows.diagnosis.firewallRead(
+        {Firewall::Verdict::blocks, QStringLiteral("ufw"), QStringLiteral("sudo ufw allow 5549/udp")});
+    windows.arrive("10.0.0.2", "-Did you see the new plan?");
+    RealWindows::control<QPushButton>(doctor, "askContactBtn").click();
+    windows.time.advance(std::chrono::seconds(2));
+    gallery.take(doctor, "doctor_firewall");
+    windows.ownAddresses.running.clear();
+    windows.diagnosis.receiveBuffer = 8192;
+    RealWindows::control<QPushButton>(doctor, "examineBtn").click();
+    windows.diagnosis.firewallRead({});
+    windows.time.advance(std::chrono::seconds(1));
+    RealWindows::control<QCheckBox>(doctor, "showTextsBox").click();
+    gallery.take(doctor, "doctor_no_network");
+    doctor.close();
+}
+
 void takeConference(Gallery &gallery)
 {
     RealWindows windows(everybody);
@@ -421,6 +448,7 @@ int main(int argc, char *argv[])
     nimb::test::takeNotify(gallery);
     nimb::test::takeOptions(gallery);
     nimb::test::takeDialogs(gallery);
+    nimb::test::takeDoctor(gallery);
     nimb::test::takeMessageBox(gallery);
     return 0;
 }

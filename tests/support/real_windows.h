@@ -6,6 +6,7 @@
 #include "dialog_recorders.h"
 #include "log/rich_text_log.h"
 #include "main_window/frmMain.h"
+#include "protocol/traced_winsock.h"
 #include "recorders.h"
 #include "simulated_network.h"
 #include "virtual_time.h"
@@ -116,14 +117,17 @@ public:
     VirtualTime time;
     Common common;
     SimulatedWinsock socket{QStringLiteral("10.0.0.1"), QStringLiteral("HERE"), nullptr};
+    DatagramTrace trace;
+    TracedWinsock traced{socket, trace};
     RecorderLinks links;
     RecorderPictureSources pictures;
     RecorderResolver names;
     RecorderNetSend netSend;
     RecorderSystemInformation systemInformation;
+    ToldDiagnosis diagnosis;
     std::optional<QByteArray> tips = QByteArray("The first tip||in two lines\nThe second tip, with a comma\n");
-    FormOpener forms{{common, time, time, socket, settings, prompts, links, pictures, names, netSend, systemInformation,
-                      [this] { return tips; }}};
+    FormOpener forms{{common, time, time, traced, settings, prompts, links, pictures, names, netSend, systemInformation,
+                      diagnosis, trace, drops, [this] { return tips; }}};
     bool ended = false;
 
 private:
@@ -131,7 +135,7 @@ private:
 
 public:
     Messenger engine{common,
-                     {socket, settings, goodCopy, nextStart, time, time, ownAddresses, networkWatch, chance, prompts,
+                     {traced, settings, goodCopy, nextStart, time, time, ownAddresses, networkWatch, chance, prompts,
                       forms.notifications(), sound, tray, forms, forms.conversations(), forms.conversations(), m_main,
                       drops}};
 };

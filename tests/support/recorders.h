@@ -5,6 +5,7 @@
 #include "base/good_copy.h"
 #include "base/link_opener.h"
 #include "base/main_window_view.h"
+#include "base/network_diagnosis.h"
 #include "base/network_watch.h"
 #include "base/next_start.h"
 #include "base/notifications.h"
@@ -532,6 +533,28 @@ public:
 
     std::chrono::milliseconds span = std::chrono::milliseconds::max();
     std::vector<std::chrono::milliseconds> asked;
+};
+
+/// What the system knows of the network, as a test wants it.
+class ToldDiagnosis : public NetworkDiagnosis
+{
+public:
+    std::optional<PortHolder> holderOf(std::uint16_t) const override { return holder; }
+    int receiveBufferBytes() const override { return receiveBuffer; }
+    bool canBroadcast(const NetworkCard &card) const override { return !mute.contains(card.name); }
+    void readFirewall(std::uint16_t, std::function<void(const Firewall &)> read) override { firewallRead = read; }
+    Neighbour neighbour(Ipv4Address address) const override
+    {
+        const auto told = neighbours.find(address);
+        return told == neighbours.end() ? Neighbour::unknown : told->second;
+    }
+    bool isTunnel(const QString &card) const override { return tunnels.contains(card); }
+
+    std::optional<PortHolder> holder;
+    int receiveBuffer = 4 * 1024 * 1024;
+    std::set<QString> mute, tunnels; ///< names of cards
+    std::map<Ipv4Address, Neighbour> neighbours;
+    std::function<void(const Firewall &)> firewallRead; ///< to be called by the test
 };
 
 /// What is to be told at the next start.

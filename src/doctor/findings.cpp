@@ -1,0 +1,262 @@
+#include "doctor/findings.h"
+
+#include "protocol/address_text.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+
+namespace nimb
+{
+
+namespace
+{
+
+/// Room for the burst with which a few hundred copies answer; every system that we know grants more unless somebody
+/// has changed that.
+constexpr int enoughBuffer = 128 * 1024;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Doctor", text);
+}
+
+QString namesOf(const std::vector<NetworkCard> &cards)
+{
+    QStringList names;
+    for (const NetworkCard &card : cards)
+        names.append(tr("%1 (%2)").arg(addressText(card.address), card.name));
+    return names.join(QStringLiteral(", "));
+}
+
+const NetworkCard *cardWith(const std::vector<NetworkCard> &cards, Ipv4Address address)
+{
+    const auto card = std::ranges::find(cards, address, &NetworkCard::address);
+    return card == cards.end() ? nullptr : &*card;
+}
+
+} // namespace
+
+const char *nameOf(Check check)
+{
+    static constexpr std::array names = {"network",   "ownAddress", "port",        "receiveBuffer", "ownDatagram",
+                                         "broadcast", "firewall",   "severalWays", "contact"};
+    return names[static_cast<std::size_t>(check)];
+}
+
+const char *nameOf(Verdict verdict)
+{
+    static constexpr std::array names = {"underWay", "fine", "doubtful", "wrong"};
+    return names[static_cast<std::size_t>(verdict)];
+}
+
+namespace findings
+{
+
+Finding network(const std::vector<NetworkCard> &cards, Ipv4Address own, bool isFixed)
+{
+    if (isFixed && own.isLoopback())
+        return {Check::network, Verdict::fine,
+                tr("NIMB-Chat was told to stay on this computer: it uses the loopback network.")};
+    if (cards.empty())
+        return {Check::network, Verdict::wrong, tr("No network is connected."),
+                tr("Plug in the cable, or join the wireless network that the others use.")};
+    return {Check::network, Verdict::fine, tr("Connected as %1.").arg(namesOf(cards))};
+}
+
+Finding ownAddress(const std::vector<NetworkCard> &cards, Ipv4Address own, bool isFixed)
+{
+    const QString address = addressText(own);
+    if (isFixed && own.isLoopback())
+        return {Check::ownAddress, Verdict::doubtful,
+                tr("Your address is %1, which only programs on this computer can reach.").arg(address),
+                tr("Start NIMB-Chat without NIMBCHAT_ADDRESS to talk to other computers.")};
+    const NetworkCard *const card = cardWith(cards, own);
+    if (!card)
+        return {Check::ownAddress, Verdict::wrong,
+                tr("Your address is %1, and no network card of this computer has it.").arg(address),
+                isFixed ? tr("Correct NIMBCHAT_ADDRESS, or connect that network.")
+                        : tr("Connect a network, or choose another own address in Tools, Options.")};
+    if (!card->broadcast)
+        return {
+            Check::ownAddress, Verdict::doubtful,
+            tr("Your address is %1 of the card %2, on which nobody can be found: it leads to a single machine, or to "
+               "what runs inside this one.")
+                .arg(address, card->name),
+            tr("If the others are on another network, choose its card as your own address in Tools, Options.")};
+    return {Check::ownAddress, Verdict::fine, tr("Your address is %1, of the card %2.").arg(address, card->name)};
+}
+
+Finding port(std::uint16_t port, bool isBound, BindFailure failure, const std::optional<PortHolder> &holder)
+{
+    if (isBound)
+        return {Check::port, Verdict::fine, tr("NIMB-Chat listens on UDP port %1.").arg(port)};
+    if (failure == BindFailure::notAllowed)
+        return {Check::port, Verdict::wrong, tr("The system does not let NIMB-Chat use port %1.").arg(port),
+                tr("Choose a port above 1023 in Tools, Options, the same as everybody else's.")};
+    if (failure == BindFailure::addressNotHere)
+        return {Check::port, Verdict::wrong, tr("Nothing listens: this machine does not have your address."),
+                tr("Connect the network that has it; NIMB-Chat tries again every 5 seconds.")};
+    if (holder && !holder->program.isEmpty())
+        return {Check::port, Verdict::wrong,
+                tr("Port %1 is used by the program %2 (process %3).")
+                    .arg(QString::number(port), holder->program, QString::number(holder->process)),
+                tr("Close that program; NIMB-Chat tries again every 5 seconds.")};
+    if (failure == BindFailure::portTaken || holder)
+        return {Check::port, Verdict::wrong,
+                tr("Port %1 is used by another program, which belongs to another user of this computer.").arg(port),
+                tr("\"sudo ss -ulpn sport = :%1\" shows which one.").arg(port)};
+    return {Check::port, Verdict::wrong, tr("NIMB-Chat does not listen on port %1.").arg(port),
+            tr("NIMB-Chat tries again every 5 seconds; if that does not help, start it anew.")};
+}
+
+Finding portIsFree(std::uint16_t port)
+{
+    return {Check::port, Verdict::fine, tr("UDP port %1 is free for NIMB-Chat, which does not run.").arg(port)};
+}
+
+Finding runningCopy(std::uint16_t port, const PortHolder &copy)
+{
+    return {Check::port, Verdict::fine,
+            tr("NIMB-Chat runs (process %1) and listens on UDP port %2.")
+                .arg(QString::number(copy.process), QString::number(port))};
+}
+
+Finding receiveBuffer(int bytes)
+{
+    if (bytes == 0)
+        return {Check::receiveBuffer, Verdict::doubtful, tr("The system gives no room for waiting datagrams."), {}};
+    const QString room = QString::number(bytes / 1024);
+    if (bytes < enoughBuffer)
+        return {
+            Check::receiveBuffer, Verdict::doubtful,
+            tr("The system keeps only %1 KiB of waiting datagrams: when many answer at once, some are lost.").arg(room),
+            tr("\"sudo sysctl -w net.core.rmem_max=4194304\" lets it keep more.")};
+    return {Check::receiveBuffer, Verdict::fine, tr("The system keeps %1 KiB of waiting datagrams.").arg(room)};
+}
+
+Finding ownDatagram(Ipv4Address own, bool cameBack)
+{
+    if (cameBack)
+        return {Check::ownDatagram, Verdict::fine, tr("A datagram to %1, yourself, came back.").arg(addressText(own))};
+    return {Check::ownDatagram, Verdict::wrong,
+            tr("A datagram to %1, yourself, did not come back within a second.").arg(addressText(own)),
+            tr("A firewall on this computer keeps even its own datagrams out, or the address is not its own.")};
+}
+
+Finding ownDatagramNotTried()
+{
+    return {Check::ownDatagram, Verdict::doubtful, tr("No datagram was sent to yourself, for nothing listens for it."),
+            tr("See to the port first.")};
+}
+
+Finding ownDatagramLeftToTheCopy()
+{
+    return {
+        Check::ownDatagram, Verdict::fine,
+        tr("No datagram was sent to yourself, for the copy that runs would get it: its own network doctor tries it.")};
+}
+
+Finding broadcast(const std::vector<BroadcastTrial> &trials, Ipv4Address own, bool isFixed)
+{
+    if (trials.empty() && isFixed && own.isLoopback())
+        return {Check::broadcast, Verdict::fine, tr("Everybody on this computer can be asked.")};
+    if (trials.empty())
+        return {Check::broadcast, Verdict::doubtful, tr("There is no network on which everybody can be asked."),
+                tr("Add the others by their addresses: Users, Add offline user.")};
+    QStringList leaving, refused;
+    for (const BroadcastTrial &trial : trials)
+        (trial.left ? leaving : refused).append(tr("%1 (%2)").arg(addressText(*trial.card.broadcast), trial.card.name));
+    const QString comma = QStringLiteral(", ");
+    if (refused.isEmpty())
+        return {Check::broadcast, Verdict::fine, tr("A question to everybody leaves: %1.").arg(leaving.join(comma))};
+    return {Check::broadcast, leaving.isEmpty() ? Verdict::wrong : Verdict::doubtful,
+            tr("The system refuses to send to everybody: %1.").arg(refused.join(comma)),
+            tr("A firewall on this computer keeps it in; let UDP out to that address.")};
+}
+
+Finding firewall(const Firewall &firewall, std::uint16_t port)
+{
+    const QString number = QString::number(port);
+    switch (firewall.verdict) {
+    case Firewall::Verdict::none:
+        return {Check::firewall, Verdict::fine, tr("No firewall is seen on this computer.")};
+    case Firewall::Verdict::lets:
+        return {Check::firewall, Verdict::fine,
+                tr("The firewall %1 is on and lets UDP port %2 in.").arg(firewall.name, number)};
+    case Firewall::Verdict::blocks:
+        return {Check::firewall, Verdict::wrong,
+                tr("The firewall %1 is on and keeps UDP port %2 out: nobody reaches you.").arg(firewall.name, number),
+                tr("This opens the port: %1").arg(firewall.opening)};
+    case Firewall::Verdict::unreadable:
+        break;
+    }
+    return {Check::firewall, Verdict::doubtful,
+            tr("The firewall %1 is on; only the administrator may see whether it lets UDP port %2 in.")
+                .arg(firewall.name, number),
+            tr("This opens the port: %1").arg(firewall.opening)};
+}
+
+Finding severalWays(const std::vector<NetworkCard> &cards, const std::vector<QString> &tunnels, Ipv4Address own)
+{
+    for (auto one = cards.begin(); one != cards.end(); ++one) {
+        const auto other = std::find_if(one + 1, cards.end(), [one](const NetworkCard &card) {
+            return one->broadcast && card.broadcast == one->broadcast && card.name != one->name;
+        });
+        if (other != cards.end())
+            return {Check::severalWays, Verdict::doubtful,
+                    tr("The cards %1 and %2 are on the same network: others may see you under either address.")
+                        .arg(one->name, other->name),
+                    tr("Turn one of them off, or choose one as your own address in Tools, Options.")};
+    }
+    const NetworkCard *const card = cardWith(cards, own);
+    if (card && std::ranges::find(tunnels, card->name) != tunnels.end())
+        return {Check::severalWays, Verdict::doubtful,
+                tr("Your address is that of %1, a VPN or another line to a single machine.").arg(card->name),
+                tr("If the others are on the local network, choose its card as your own address in Tools, Options.")};
+    if (!tunnels.empty())
+        return {Check::severalWays, Verdict::fine,
+                tr("A VPN is up (%1); your address is not on it.")
+                    .arg(QStringList(tunnels.begin(), tunnels.end()).join(QStringLiteral(", ")))};
+    return {Check::severalWays, Verdict::fine, tr("There is no VPN, and no network has two cards of this computer.")};
+}
+
+Finding contactAnswered(const QString &nickname, std::chrono::milliseconds after)
+{
+    return {Check::contact, Verdict::fine,
+            tr("%1 answered after %2 ms.").arg(nickname, QString::number(after.count()))};
+}
+
+Finding contactSilent(const QString &nickname, Ipv4Address address, Neighbour neighbour)
+{
+    const QString ip = addressText(address);
+    switch (neighbour) {
+    case Neighbour::known:
+        return {
+            Check::contact, Verdict::wrong, tr("%1 did not answer, but the computer at %2 is there.").arg(nickname, ip),
+            tr("A firewall there may keep UDP out, NIMB-Chat may not run there or its user may be invisible, or that "
+               "copy does not know you yet: let both sides use Users, Find everybody here. Run the network doctor "
+               "there as well.")};
+    case Neighbour::unknown:
+        return {Check::contact, Verdict::wrong,
+                tr("%1 did not answer, and no computer on your network has the address %2.").arg(nickname, ip),
+                tr("It is off, it has another address by now, it is on another network, or the access point keeps its "
+                   "machines apart (client isolation).")};
+    case Neighbour::farAway:
+        break;
+    }
+    return {Check::contact, Verdict::wrong,
+            tr("%1 did not answer. The address %2 is on another network, behind a router.").arg(nickname, ip),
+            tr("The router must let UDP through in both directions; and what may be wrong on one network may be wrong "
+               "there: a firewall, a copy that does not run, a user who is invisible.")};
+}
+
+Finding contactNotAsked(const QString &reason, const QString &advice)
+{
+    return {Check::contact, Verdict::doubtful, reason, advice};
+}
+
+} // namespace findings
+} // namespace nimb

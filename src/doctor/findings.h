@@ -1,0 +1,42 @@
+// From what is known of the network to what is said of it.
+#pragma once
+
+#include "base/network_diagnosis.h"
+#include "doctor/finding.h"
+#include "protocol/winsock.h"
+
+#include <chrono>
+#include <vector>
+
+namespace nimb::findings
+{
+
+/// isFixed: whoever started the program has fixed the own address.
+Finding network(const std::vector<NetworkCard> &cards, Ipv4Address own, bool isFixed);
+Finding ownAddress(const std::vector<NetworkCard> &cards, Ipv4Address own, bool isFixed);
+/// holder: whoever listens there when it is not we.
+Finding port(std::uint16_t port, bool isBound, BindFailure failure, const std::optional<PortHolder> &holder);
+/// No copy runs, and nothing keeps one from listening.
+Finding portIsFree(std::uint16_t port);
+Finding runningCopy(std::uint16_t port, const PortHolder &copy);
+/// bytes: 0 where the system grants no room.
+Finding receiveBuffer(int bytes);
+Finding ownDatagram(Ipv4Address own, bool cameBack);
+/// Without a port of our own there is nothing to send from.
+Finding ownDatagramNotTried();
+Finding ownDatagramLeftToTheCopy();
+
+struct BroadcastTrial {
+    NetworkCard card;
+    bool left = false;
+};
+Finding broadcast(const std::vector<BroadcastTrial> &trials, Ipv4Address own, bool isFixed);
+Finding firewall(const Firewall &firewall, std::uint16_t port);
+/// tunnels: names of the cards that lead to a single machine.
+Finding severalWays(const std::vector<NetworkCard> &cards, const std::vector<QString> &tunnels, Ipv4Address own);
+
+Finding contactAnswered(const QString &nickname, std::chrono::milliseconds after);
+Finding contactSilent(const QString &nickname, Ipv4Address address, Neighbour neighbour);
+Finding contactNotAsked(const QString &reason, const QString &advice);
+
+} // namespace nimb::findings

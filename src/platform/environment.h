@@ -1,0 +1,20 @@
+// What a program of this house is told from outside.
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace nimb
+{
+
+/// What the program is told by its environment.
+struct Environment {
+    std::optional<QString> address;  ///< NIMBCHAT_ADDRESS: dotted IPv4 to bind to
+    std::optional<QString> hostName; ///< NIMBCHAT_HOSTNAME
+    QString profileFolder;           ///< NIMBCHAT_PROFILE, or NIMB-Chat in the user's configuration folder
+
+    static Environment fromSystem();
+};
+
+} // namespace nimb

@@ -1,0 +1,237 @@
+#include "platform/network_diagnosis.h"
+
+#include "platform/datagram_socket.h"
+#include "platform/firewall_rules.h"
+#include "protocol/address_text.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QNetworkInterface>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace nimb
+{
+namespace
+{
+
+constexpr std::uint16_t discardPort = 9;
+constexpr std::chrono::seconds commandTime{3};
+constexpr int noStatus = -1;
+
+QByteArray contentsOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The inode of the socket in a table such as /proc/net/udp; empty when nobody has the port.
+QByteArray inodeOf(const QByteArray &table, std::uint16_t port)
+{
+    constexpr int local = 1, inode = 9;
+    for (const QByteArray &line : table.split('\n').mid(1)) {
+        const QList<QByteArray> fields = line.simplified().split(' ');
+        if (fields.size() > inode && fields[local].split(':').last().toUInt(nullptr, 16) == port)
+            return fields[inode];
+    }
+    return {};
+}
+
+bool holdsSocket(const QString &process, const QString &link)
+{
+    const QFileInfoList descriptors = QDir(process + QLatin1String("/fd")).entryInfoList(QDir::Files | QDir::System);
+    return std::ranges::any_of(descriptors, [&link](const QFileInfo &descriptor) {
+        return QFileInfo(descriptor.filePath()).symLinkTarget().endsWith(link);
+    });
+}
+
+/// Those of the administrator are not always in the search path of others.
+QString findCommand(const QString &name)
+{
+    const QString found = QStandardPaths::findExecutable(name);
+    return found.isEmpty()
+        ? QStandardPaths::findExecutable(name, {QStringLiteral("/usr/sbin"), QStringLiteral("/sbin")})
+        : found;
+}
+
+QString ufwCommand(std::uint16_t port)
+{
+    return QStringLiteral("sudo ufw allow %1/udp").arg(port);
+}
+
+QString firewalldCommand(std::uint16_t port)
+{
+    return QStringLiteral("sudo firewall-cmd --permanent --add-port=%1/udp && sudo firewall-cmd --reload").arg(port);
+}
+
+QString nftCommand(const NftBlock &block, std::uint16_t port)
+{
+    return QStringLiteral("sudo nft insert rule %1 %2 %3 udp dport %4 accept")
+        .arg(block.family, block.table, block.chain, QString::number(port));
+}
+
+Firewall::Verdict verdictOf(bool lets)
+{
+    return lets ? Firewall::Verdict::lets : Firewall::Verdict::blocks;
+}
+
+Firewall nftFirewall(const std::optional<NftAnswer> &answer, std::uint16_t port)
+{
+    const QString name = QStringLiteral("nftables");
+    // What systemd started and has not stopped.
+    const bool isOn = QFileInfo(QStringLiteral("/run/systemd/units/invocation:nftables.service")).isSymLink();
+    const NftBlock usual{QStringLiteral("inet"), QStringLiteral("filter"), QStringLiteral("input")};
+    if (!answer)
+        return isOn ? Firewall{Firewall::Verdict::unreadable, name, nftCommand(usual, port)} : Firewall{};
+    if (!answer->hasInput)
+        return {};
+    return {verdictOf(!answer->block), name, answer->block ? nftCommand(*answer->block, port) : QString()};
+}
+
+} // namespace
+
+std::optional<PortHolder> holderOfUdpPort(const QString &proc, std::uint16_t port)
+{
+    const QByteArray inode = inodeOf(contentsOf(proc + QLatin1String("/net/udp")), port);
+    if (inode.isEmpty())
+        return std::nullopt;
+    const QString link = QStringLiteral("socket:[%1]").arg(QLatin1String(inode));
+    for (const QString &entry : QDir(proc).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        bool isProcess = false;
+        const qint64 process = entry.toLongLong(&isProcess);
+        const QString folder = proc + u'/' + entry;
+        if (isProcess && holdsSocket(folder, link))
+            return PortHolder{QString::fromLocal8Bit(contentsOf(folder + QLatin1String("/comm")).trimmed()), process};
+    }
+    return PortHolder{};
+}
+
+bool isInNeighbourTable(const QByteArray &table, Ipv4Address address)
+{
+    constexpr int ip = 0, flags = 2;
+    constexpr unsigned complete = 2;
+    for (const QByteArray &line : table.split('\n').mid(1)) {
+        const QList<QByteArray> fields = line.simplified().split(' ');
+        if (fields.size() > flags && fields[ip] == address.toText().c_str())
+            return (fields[flags].toUInt(nullptr, 16) & complete) != 0;
+    }
+    return false;
+}
+
+SystemNetworkDiagnosis::SystemNetworkDiagnosis(const UdpWinsock &socket)
+    : m_socket(socket), m_life(std::make_unique<QObject>())
+{
+}
+
+SystemNetworkDiagnosis::~SystemNetworkDiagnosis() = default;
+
+std::optional<PortHolder> SystemNetworkDiagnosis::holderOf(std::uint16_t port) const
+{
+    return holderOfUdpPort(QStringLiteral("/proc"), port);
+}
+
+int SystemNetworkDiagnosis::receiveBufferBytes() const
+{
+    if (m_socket.isBound())
+        return m_socket.receiveBufferBytes();
+    auto opened = DatagramSocket::open({}, DatagramSocket::Sharing::exclusive);
+    auto *const socket = std::get_if<DatagramSocket>(&opened);
+    return socket ? socket->growReceiveBuffer(UdpWinsock::receiveBufferAsked) : 0;
+}
+
+bool SystemNetworkDiagnosis::canBroadcast(const NetworkCard &card) const
+{
+    auto opened = DatagramSocket::open({card.address, 0}, DatagramSocket::Sharing::exclusive);
+    auto *const socket = std::get_if<DatagramSocket>(&opened);
+    if (!socket || !card.broadcast)
+        return false;
+    socket->setBroadcast(true);
+    return socket->send({*card.broadcast, discardPort}, {});
+}
+
+bool SystemNetworkDiagnosis::isTunnel(const QString &card) const
+{
+    return QNetworkInterface::interfaceFromName(card).flags().testFlag(QNetworkInterface::IsPointToPoint);
+}
+
+Neighbour SystemNetworkDiagnosis::neighbour(Ipv4Address address) const
+{
+    if (address.isLoopback())
+        return Neighbour::known;
+    for (const QNetworkInterface &interface : QNetworkInterface::allInterfaces()) {
+        for (const QNetworkAddressEntry &entry : interface.addressEntries()) {
+            const QHostAddress peer(address.number());
+            if (entry.ip().protocol() != QAbstractSocket::IPv4Protocol
+                || !peer.isInSubnet(entry.ip(), entry.prefixLength()))
+                continue;
+            const bool isKnown = isInNeighbourTable(contentsOf(QStringLiteral("/proc/net/arp")), address);
+            return isKnown ? Neighbour::known : Neighbour::unknown;
+        }
+    }
+    return Neighbour::farAway;
+}
+
+void SystemNetworkDiagnosis::run(const QString &program, const QStringList &arguments, CommandEnded ended)
+{
+    const QString path = findCommand(program);
+    if (path.isEmpty()) {
+        QTimer::singleShot(0, m_life.get(), [ended = std::move(ended)] { ended(noStatus, {}); });
+        return;
+    }
+    auto *const process = new QProcess(m_life.get());
+    const auto end = [process, ended = std::move(ended)](int status) {
+        process->disconnect();
+        process->deleteLater();
+        ended(status, process->readAllStandardOutput());
+    };
+    QObject::connect(process, &QProcess::finished, process, [end](int status, QProcess::ExitStatus how) {
+        end(how == QProcess::NormalExit ? status : noStatus);
+    });
+    QObject::connect(process, &QProcess::errorOccurred, process, [end](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            end(noStatus);
+    });
+    QTimer::singleShot(commandTime, process, &QProcess::kill);
+    process->setStandardErrorFile(QProcess::nullDevice());
+    process->start(path, arguments);
+}
+
+void SystemNetworkDiagnosis::readFirewall(std::uint16_t port, FirewallRead read)
+{
+    if (isUfwOn(contentsOf(QStringLiteral("/etc/ufw/ufw.conf")))) {
+        QFile rules(QStringLiteral("/etc/ufw/user.rules"));
+        Firewall ufw{Firewall::Verdict::unreadable, QStringLiteral("ufw"), ufwCommand(port)};
+        if (rules.open(QIODevice::ReadOnly))
+            ufw.verdict = verdictOf(doesUfwLet(contentsOf(QStringLiteral("/etc/default/ufw")), rules.readAll(), port));
+        QTimer::singleShot(0, m_life.get(), [ufw, read = std::move(read)] { read(ufw); });
+        return;
+    }
+    if (QFile::exists(QStringLiteral("/run/firewalld.pid")))
+        return askFirewalld(port, read);
+    askNftables(port, read);
+}
+
+/// It answers whoever sits at the machine, and says no by the status 1.
+void SystemNetworkDiagnosis::askFirewalld(std::uint16_t port, const FirewallRead &read)
+{
+    run(QStringLiteral("firewall-cmd"), {QStringLiteral("--query-port=%1/udp").arg(port)},
+        [port, read](int status, const QByteArray &) {
+            const bool isAnswer = status == 0 || status == 1;
+            read({isAnswer ? verdictOf(status == 0) : Firewall::Verdict::unreadable, QStringLiteral("firewalld"),
+                  firewalldCommand(port)});
+        });
+}
+
+void SystemNetworkDiagnosis::askNftables(std::uint16_t port, const FirewallRead &read)
+{
+    run(QStringLiteral("nft"), {QStringLiteral("-j"), QStringLiteral("list"), QStringLiteral("ruleset")},
+        [port, read](int status, const QByteArray &output) {
+            read(nftFirewall(status == 0 ? nftAnswer(output, port) : std::nullopt, port));
+        });
+}
+
+} // namespace nimb

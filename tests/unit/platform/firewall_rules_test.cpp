@@ -1,0 +1,156 @@
+#include "platform/firewall_rules.h"
+
+#include <gmock/gmock.h>
+
+namespace nimb::test
+{
+namespace
+{
+
+constexpr std::uint16_t port = 5549;
+
+TEST(Ufw, IsOnWhereItsConfigurationSaysSo)
+{
+    EXPECT_TRUE(isUfwOn("# /etc/ufw/ufw.conf\n#\n\nENABLED=yes\nLOGLEVEL=low\n"));
+    EXPECT_FALSE(isUfwOn("# /etc/ufw/ufw.conf\nENABLED=no\nLOGLEVEL=low\n"));
+    EXPECT_FALSE(isUfwOn("#ENABLED=yes\n"));
+    EXPECT_FALSE(isUfwOn({}));
+}
+
+bool ufwLets(const QByteArray &rules, const QByteArray &policy = "DROP")
+{
+    return doesUfwLet("IPV6=yes\nDEFAULT_INPUT_POLICY=\"" + policy + "\"\n", "*filter\n### RULES ###\n" + rules, port);
+}
+
+TEST(Ufw, GoesByItsFirstRuleForThePortAndElseByItsPolicy)
+{
+    EXPECT_FALSE(ufwLets({}));
+    EXPECT_TRUE(ufwLets({}, "ACCEPT"));
+    EXPECT_TRUE(ufwLets("### tuple ### allow udp 5549 0.0.0.0/0 any 0.0.0.0/0 in\n"
+                        "-A ufw-user-input -p udp --dport 5549 -j ACCEPT\n"));
+    EXPECT_TRUE(ufwLets("### tuple ### allow any 5500:5600 0.0.0.0/0 any 0.0.0.0/0 in\n"));
+    EXPECT_TRUE(ufwLets("### tuple ### limit udp 22,5549 0.0.0.0/0 any 0.0.0.0/0 in_eth0\n"));
+    EXPECT_FALSE(ufwLets("### tuple ### allow tcp 5549 0.0.0.0/0 any 0.0.0.0/0 in\n"));
+    EXPECT_FALSE(ufwLets("### tuple ### allow udp 5550 0.0.0.0/0 any 0.0.0.0/0 in\n"));
+    EXPECT_FALSE(ufwLets("### tuple ### allow udp 5549 0.0.0.0/0 any 0.0.0.0/0 out\n"));
+    EXPECT_FALSE(ufwLets("### tuple ### allow udp 5549 0.0.0.0/0 any 10.0.0.9 in\n")) << "not for everybody";
+    EXPECT_FALSE(ufwLets("### tuple ### deny udp 5549 0.0.0.0/0 any 0.0.0.0/0 in\n", "ACCEPT"));
+    EXPECT_FALSE(ufwLets("### tuple ### reject any any 0.0.0.0/0 any 0.0.0.0/0 in\n"
+                         "### tuple ### allow udp 5549 0.0.0.0/0 any 0.0.0.0/0 in\n"));
+    EXPECT_FALSE(ufwLets("### tuple ###\n### tuple ### allow\n"));
+}
+
+/// A ruleset with one chain for what comes in.
+QByteArray ruleset(const QByteArray &rules, const QByteArray &policy = "drop", const QByteArray &more = {})
+{
+    return R"({"nftables": [{"metainfo": {"version": "1.0.6", "json_schema_version": 1}},
+        {"table": {"family": "inet", "name": "filter", "handle": 1}},
+        {"chain": {"family": "inet", "table": "filter", "name": "input", "handle": 1, "type": "filter",
+                   "hook": "input", "prio": 0, "policy": ")"
+        + policy + "\"}}" + more + (rules.isEmpty() ? QByteArray() : "," + rules) + "]}";
+}
+
+QByteArray rule(const QByteArray &expressions, const QByteArray &chain = "input")
+{
+    return R"({"rule": {"family": "inet", "table": "filter", "chain": ")" + chain + R"(", "handle": 2, "expr": [)"
+        + expressions + "]}}";
+}
+
+const QByteArray toOurPort = R"({"match": {"op": "==", "left": {"payload": {"protocol": "udp", "field": "dport"}},
+    "right": 5549}})";
+
+bool nftLets(const QByteArray &json)
+{
+    const std::optional<NftAnswer> answer = nftAnswer(json, port);
+    return answer.has_value() && !answer->block.has_value();
+}
+
+TEST(Nftables, WithoutAChainForWhatComesInThereIsNoFirewall)
+{
+    const std::optional<NftAnswer> empty = nftAnswer(R"({"nftables": [{"metainfo": {"version": "1.0.6"}}]})", port);
+    ASSERT_TRUE(empty);
+    EXPECT_FALSE(empty->hasInput);
+    EXPECT_FALSE(empty->block);
+    EXPECT_TRUE(nftAnswer(ruleset({}), port)->hasInput);
+}
+
+TEST(Nftables, WhatIsNoRulesetSaysNothing)
+{
+    EXPECT_FALSE(nftAnswer({}, port));
+    EXPECT_FALSE(nftAnswer("Operation not permitted", port));
+    EXPECT_FALSE(nftAnswer("[]", port));
+}
+
+TEST(Nftables, TheChainsPolicyDecidesWhereNoRuleDoes)
+{
+    EXPECT_FALSE(nftLets(ruleset({})));
+    EXPECT_TRUE(nftLets(ruleset({}, "accept")));
+    EXPECT_EQ(nftAnswer(ruleset({}), port)->block,
+              (NftBlock{QStringLiteral("inet"), QStringLiteral("filter"), QStringLiteral("input")}));
+}
+
+TEST(Nftables, ARuleForThePortDecides)
+{
+    EXPECT_TRUE(nftLets(ruleset(rule(toOurPort + R"(, {"accept": null})"))));
+    EXPECT_FALSE(nftLets(ruleset(rule(toOurPort + R"(, {"drop": null})"), "accept")));
+    EXPECT_FALSE(
+        nftLets(ruleset(rule(toOurPort + R"(, {"counter": {"packets": 0, "bytes": 0}}, {"reject": null})"), "accept")));
+    EXPECT_TRUE(nftLets(ruleset(rule(
+        R"({"match": {"op": "==", "left": {"payload": {"protocol": "udp", "field": "dport"}},
+            "right": {"set": [53, {"range": [5000, 6000]}]}}}, {"accept": null})"))));
+    EXPECT_FALSE(nftLets(ruleset(rule(
+        R"({"match": {"op": "==", "left": {"payload": {"protocol": "udp", "field": "dport"}}, "right": 53}},
+           {"accept": null})"))));
+    EXPECT_FALSE(nftLets(ruleset(rule(
+        R"({"match": {"op": "==", "left": {"payload": {"protocol": "tcp", "field": "dport"}}, "right": 5549}},
+           {"accept": null})"))))
+        << "another protocol";
+}
+
+TEST(Nftables, WhatConcernsAnswersLoopbackOrSomeSendersDoesNotConcernEverybody)
+{
+    const QByteArray established = R"({"match": {"op": "in", "left": {"ct": {"key": "state"}},
+        "right": ["established", "related"]}}, {"accept": null})";
+    const QByteArray loopback = R"({"match": {"op": "==", "left": {"meta": {"key": "iifname"}}, "right": "lo"}},
+        {"accept": null})";
+    const QByteArray someSender = R"({"match": {"op": "==", "left": {"payload": {"protocol": "ip", "field": "saddr"}},
+        "right": "10.0.0.9"}}, {"accept": null})";
+    for (const QByteArray &exception : {established, loopback, someSender})
+        EXPECT_FALSE(nftLets(ruleset(rule(exception)))) << exception.toStdString();
+    const QByteArray fresh = R"({"match": {"op": "==", "left": {"ct": {"key": "state"}}, "right": "new"}},)";
+    EXPECT_TRUE(nftLets(ruleset(rule(fresh + toOurPort + R"(, {"accept": null})"))));
+    const QByteArray notLoopback = R"({"match": {"op": "!=", "left": {"meta": {"key": "iifname"}}, "right": "lo"}},)";
+    EXPECT_FALSE(nftLets(ruleset(rule(notLoopback + R"({"drop": null})"), "accept")));
+}
+
+TEST(Nftables, AProtocolAloneDecides)
+{
+    const QByteArray udp = R"({"match": {"op": "==", "left": {"meta": {"key": "l4proto"}}, "right": "udp"}},)";
+    EXPECT_TRUE(nftLets(ruleset(rule(udp + R"({"accept": null})"))));
+    const QByteArray tcp = R"({"match": {"op": "==", "left": {"meta": {"key": "l4proto"}}, "right": "tcp"}},)";
+    EXPECT_FALSE(nftLets(ruleset(rule(tcp + R"({"accept": null})"))));
+}
+
+TEST(Nftables, ChainsThatAreJumpedToAreFollowed)
+{
+    const QByteArray chain = R"(, {"chain": {"family": "inet", "table": "filter", "name": "lan", "handle": 5}})";
+    const QByteArray jump = rule(R"({"jump": {"target": "lan"}})") + ",";
+    EXPECT_TRUE(nftLets(ruleset(jump + rule(toOurPort + R"(, {"accept": null})", "lan"), "drop", chain)));
+    EXPECT_FALSE(nftLets(ruleset(jump + rule(toOurPort + R"(, {"drop": null})", "lan"), "accept", chain)));
+    EXPECT_TRUE(
+        nftLets(ruleset(jump + rule(R"({"return": null})", "lan") + "," + rule(R"({"accept": null})"), "drop", chain)));
+    const QByteArray circle = rule(R"({"jump": {"target": "lan"}})", "lan");
+    EXPECT_FALSE(nftLets(ruleset(jump + circle, "drop", chain))) << "and comes to an end";
+}
+
+TEST(Nftables, EveryChainMayKeepItOut)
+{
+    const QByteArray second = R"(, {"chain": {"family": "ip", "table": "mine", "name": "late", "handle": 1,
+        "type": "filter", "hook": "input", "prio": 10, "policy": "drop"}})";
+    const std::optional<NftAnswer> answer
+        = nftAnswer(ruleset(rule(toOurPort + R"(, {"accept": null})"), "drop", second), port);
+    EXPECT_EQ(answer->block, (NftBlock{QStringLiteral("ip"), QStringLiteral("mine"), QStringLiteral("late")}));
+}
+
+} // namespace
+} // namespace nimb::test
