@@ -51,6 +51,8 @@ protected:
     };
     /// Null when nobody listens there.
     SimulatedWinsock *listener(const QString &ip) const;
+    /// The addresses of everybody who is there.
+    std::vector<QString> attached() const;
 
 private:
     std::map<QString, SimulatedWinsock *> m_sockets;
@@ -166,6 +168,14 @@ inline SimulatedWinsock *SimulatedNetwork::listener(const QString &ip) const
 {
     const auto socket = m_sockets.find(ip);
     return socket != m_sockets.end() && socket->second->isBound() ? socket->second : nullptr;
+}
+
+inline std::vector<QString> SimulatedNetwork::attached() const
+{
+    std::vector<QString> addresses;
+    for (const auto &[address, socket] : m_sockets)
+        addresses.push_back(address);
+    return addresses;
 }
 
 inline void SimulatedNetwork::settle()
