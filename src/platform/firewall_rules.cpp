@@ -117,19 +117,59 @@ private:
             if (kind == QLatin1String("match")) {
                 if (!matches(statement.value(kind).toObject()))
                     return Outcome::goesOn;
-            } else if (kind == QLatin1String("accept")) {
-                return Outcome::accepted;
-            } else if (kind == QLatin1String("drop") || kind == QLatin1String("reject")) {
-                return Outcome::dropped;
-            } else if (kind == QLatin1String("return")) {
-                return Outcome::returned;
-            } else if (kind == QLatin1String("jump") || kind == QLatin1String("goto")) {
-                return follow(text(statement.value(kind).toObject(), "target"), chain, depth);
-            } else if (kind == QLatin1String("limit")) {
-                return Outcome::goesOn; // concerns a flood, not everybody
+            } else if (kind == QLatin1String("limit") || kind == QLatin1String("xt")) {
+                return Outcome::goesOn; // concerns a flood, or asks what only the kernel understands
+            } else if (const Outcome outcome = kind == QLatin1String("vmap")
+                           ? chosen(statement.value(kind).toObject(), chain, depth)
+                           : decided(statement, chain, depth);
+                       outcome != Outcome::goesOn) {
+                return outcome;
             }
         }
         return Outcome::goesOn;
+    }
+
+    /// What a verdict says; statements that are none decide nothing.
+    Outcome decided(const QJsonObject &statement, const QJsonObject &chain, int depth) const
+    {
+        const QString kind = statement.isEmpty() ? QString() : statement.begin().key();
+        if (kind == QLatin1String("accept"))
+            return Outcome::accepted;
+        if (kind == QLatin1String("drop") || kind == QLatin1String("reject"))
+            return Outcome::dropped;
+        if (kind == QLatin1String("return"))
+            return Outcome::returned;
+        if (kind == QLatin1String("jump") || kind == QLatin1String("goto"))
+            return follow(text(statement.value(kind).toObject(), "target"), chain, depth);
+        return Outcome::goesOn;
+    }
+
+    /// A map of values to verdicts.
+    Outcome chosen(const QJsonObject &map, const QJsonObject &chain, int depth) const
+    {
+        const QJsonValue data = map.value(QLatin1String("data"));
+        const QJsonArray elements
+            = data.isString() ? namedElements(data.toString(), "map") : data[QLatin1String("set")].toArray();
+        for (const QJsonValue &element : elements) {
+            const QJsonArray pair = element.toArray();
+            const QJsonObject question{{QStringLiteral("op"), QStringLiteral("==")},
+                                       {QStringLiteral("left"), map.value(QLatin1String("key"))},
+                                       {QStringLiteral("right"), pair.at(0)}};
+            if (pair.size() == 2 && matches(question))
+                return decided(pair.at(1).toObject(), chain, depth);
+        }
+        return Outcome::goesOn;
+    }
+
+    /// Those of the set or map of this name, "@allowed".
+    QJsonArray namedElements(const QString &name, const char *kind) const
+    {
+        for (const QJsonValue &entry : m_ruleset) {
+            const QJsonObject set = entry[QLatin1String(kind)].toObject();
+            if (name == u'@' + text(set, "name"))
+                return set.value(QLatin1String("elem")).toArray();
+        }
+        return {};
     }
 
     Outcome follow(const QString &target, const QJsonObject &from, int depth) const
@@ -164,13 +204,16 @@ private:
         return false;
     }
 
-    /// right: a value, a list of them, a set, or a range within one.
-    static bool holds(const QJsonValue &right, const QJsonValue &value)
+    /// right: a value, a list of them, a set, the name of one, or a range within one.
+    bool holds(const QJsonValue &right, const QJsonValue &value) const
     {
         if (right == value)
             return true;
+        if (right.toString().startsWith(u'@'))
+            return holds(namedElements(right.toString(), "set"), value);
         if (right.isArray())
-            return std::ranges::any_of(right.toArray(), [&value](const QJsonValue &one) { return holds(one, value); });
+            return std::ranges::any_of(right.toArray(),
+                                       [this, &value](const QJsonValue &one) { return holds(one, value); });
         const QJsonArray range = right[QLatin1String("range")].toArray();
         if (range.size() == 2)
             return value.isDouble() && range.first().toInt() <= value.toInt() && value.toInt() <= range.last().toInt();

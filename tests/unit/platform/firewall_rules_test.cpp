@@ -131,6 +131,41 @@ TEST(Nftables, AProtocolAloneDecides)
     EXPECT_FALSE(nftLets(ruleset(rule(tcp + R"({"accept": null})"))));
 }
 
+TEST(Nftables, MapsOfVerdictsAreRead)
+{
+    const QByteArray states = R"({"vmap": {"key": {"ct": {"key": "state"}}, "data": {"set": [
+        ["established", {"accept": null}], ["invalid", {"drop": null}]]}}})";
+    EXPECT_FALSE(nftLets(ruleset(rule(states)))) << "concerns answers alone";
+    EXPECT_TRUE(nftLets(ruleset(rule(states), "accept")));
+    const QByteArray ports = R"({"vmap": {"key": {"payload": {"protocol": "udp", "field": "dport"}}, "data": {"set": [
+        [53, {"drop": null}], [5549, {"accept": null}]]}}})";
+    EXPECT_TRUE(nftLets(ruleset(rule(ports))));
+    const QByteArray named
+        = R"({"vmap": {"key": {"payload": {"protocol": "udp", "field": "dport"}}, "data": "@doors"}})";
+    const QByteArray doors = R"(, {"map": {"family": "inet", "table": "filter", "name": "doors", "type": "inet_service",
+        "map": "verdict", "elem": [[5549, {"drop": null}]]}})";
+    EXPECT_FALSE(nftLets(ruleset(rule(named), "accept", doors)));
+}
+
+TEST(Nftables, NamedSetsAreLookedUp)
+{
+    const QByteArray toOpen = R"({"match": {"op": "==", "left": {"payload": {"protocol": "th", "field": "dport"}},
+        "right": "@open"}}, {"accept": null})";
+    const auto open = [](const QByteArray &elements) {
+        return R"(, {"set": {"family": "inet", "table": "filter", "name": "open", "type": "inet_service", "elem": [)"
+            + elements + "]}}";
+    };
+    EXPECT_TRUE(nftLets(ruleset(rule(toOpen), "drop", open(R"(22, {"range": [5500, 5600]})"))));
+    EXPECT_FALSE(nftLets(ruleset(rule(toOpen), "drop", open("22"))));
+    EXPECT_FALSE(nftLets(ruleset(rule(toOpen)))) << "a set that is not there";
+}
+
+TEST(Nftables, WhatOnlyTheKernelUnderstandsDecidesNothing)
+{
+    EXPECT_FALSE(nftLets(ruleset(rule(R"({"xt": {"type": "match", "name": "mac"}}, {"accept": null})"))));
+    EXPECT_FALSE(nftLets(ruleset(rule(R"({"limit": {"rate": 10, "per": "second"}}, {"accept": null})"))));
+}
+
 TEST(Nftables, ChainsThatAreJumpedToAreFollowed)
 {
     const QByteArray chain = R"(, {"chain": {"family": "inet", "table": "filter", "name": "lan", "handle": 5}})";
