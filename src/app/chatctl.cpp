@@ -1,5 +1,6 @@
 // nimb-chatctl: what can be asked of NIMB-Chat on a console.
 #include "app/console_doctor.h"
+#include "protocol/address_text.h"
 
 #include <QCoreApplication>
 #include <QTimer>
@@ -37,7 +38,12 @@ const char usage[] = "usage: nimb-chatctl doctor [--json]\n"
 
 int examine(bool asJson)
 {
-    nimb::ConsoleDoctor console(nimb::Environment::fromSystem(), [] { QCoreApplication::quit(); });
+    const nimb::Environment environment = nimb::Environment::fromSystem();
+    if (environment.address && !nimb::readAddress(*environment.address))
+        print("nimb-chatctl: NIMBCHAT_ADDRESS is no IPv4 address and is left out\n", stderr);
+    nimb::ConsoleDoctor console(environment, [] { QCoreApplication::quit(); });
+    if (const std::optional<QString> trouble = console.profileTrouble())
+        print("nimb-chatctl: " + trouble->toLocal8Bit() + "\n", stderr);
     // The findings may all be there before the event loop is.
     QTimer::singleShot(0, &console, [&console] { console.start(); });
     QCoreApplication::exec();

@@ -49,6 +49,7 @@ void ConsoleDoctor::readProfile(const QString &folder)
     if (!QFile::exists(folder + QLatin1String("/settings.sqlite3")))
         return;
     const SqliteSettingsStore store(folder);
+    m_profileTrouble = store.problem();
     loadSettings(store, m_common);
     if (m_ownAddresses.isFixed() || m_common.ownCard.isEmpty())
         return;

@@ -28,6 +28,8 @@ public:
 
     void start() { m_doctor.examine(); }
     const Doctor &doctor() const { return m_doctor; }
+    /// What keeps the settings from being read, so that the program's own are taken: one sentence.
+    const std::optional<QString> &profileTrouble() const { return m_profileTrouble; }
 
     void showFinding(const Finding &) override { }
     void examined() override;
@@ -37,6 +39,7 @@ private:
     void readProfile(const QString &folder);
 
     std::function<void()> m_ended;
+    std::optional<QString> m_profileTrouble;
     Common m_common;
     DropCounts m_drops;
     DatagramTrace m_trace;

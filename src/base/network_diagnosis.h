@@ -24,11 +24,13 @@ struct Firewall {
         none,       ///< there is none, as far as one can see
         lets,       ///< it lets our datagrams in
         blocks,     ///< it keeps them out
+        forSome,    ///< it has rules of which we cannot say whom they concern
+        unknown,    ///< only the administrator may see whether there is one
         unreadable, ///< it is on, and only the administrator may read its rules
     };
     Verdict verdict = Verdict::none;
-    QString name;    ///< "ufw", "firewalld" or "nftables"
-    QString opening; ///< the command that opens the port
+    QString name{};    ///< "ufw", "firewalld" or "nftables"
+    QString opening{}; ///< the command that opens the port
     bool operator==(const Firewall &) const = default;
 };
 

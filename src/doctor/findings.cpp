@@ -105,8 +105,7 @@ Finding port(std::uint16_t port, bool isBound, BindFailure failure, const std::o
                     .arg(QString::number(port), holder->program, QString::number(holder->process)),
                 tr("Close that program; NIMB-Chat tries again every 5 seconds.")};
     if (failure == BindFailure::portTaken || holder)
-        return {Check::port, Verdict::wrong,
-                tr("Port %1 is used by another program, which belongs to another user of this computer.").arg(port),
+        return {Check::port, Verdict::wrong, tr("Port %1 is used by another program.").arg(port),
                 tr("\"sudo ss -ulpn sport = :%1\" shows which one.").arg(port)};
     return {Check::port, Verdict::wrong, tr("NIMB-Chat does not listen on port %1.").arg(port),
             tr("NIMB-Chat tries again every 5 seconds; if that does not help, start it anew.")};
@@ -190,6 +189,15 @@ Finding firewall(const Firewall &firewall, std::uint16_t port)
         return {Check::firewall, Verdict::wrong,
                 tr("The firewall %1 is on and keeps UDP port %2 out: nobody reaches you.").arg(firewall.name, number),
                 tr("This opens the port: %1").arg(firewall.opening)};
+    case Firewall::Verdict::forSome:
+        return {Check::firewall, Verdict::doubtful,
+                tr("The firewall %1 is on and lets UDP port %2 in for some and not for others, as it seems.")
+                    .arg(firewall.name, number),
+                tr("If others do not reach you, this opens the port for everybody: %1").arg(firewall.opening)};
+    case Firewall::Verdict::unknown:
+        return {Check::firewall, Verdict::doubtful,
+                tr("Only the administrator may see whether a firewall keeps UDP port %1 out.").arg(number),
+                tr("\"sudo nimb-chatctl doctor\" tells.")};
     case Firewall::Verdict::unreadable:
         break;
     }
@@ -235,7 +243,8 @@ Finding contactSilent(const QString &nickname, Ipv4Address address, Neighbour ne
     switch (neighbour) {
     case Neighbour::known:
         return {
-            Check::contact, Verdict::wrong, tr("%1 did not answer, but the computer at %2 is there.").arg(nickname, ip),
+            Check::contact, Verdict::wrong,
+            tr("%1 did not answer, but the computer at %2 is there, or was a moment ago.").arg(nickname, ip),
             tr("A firewall there may keep UDP out, NIMB-Chat may not run there or its user may be invisible, or that "
                "copy does not know you yet: let both sides use Users, Find everybody here. Run the network doctor "
                "there as well.")};

@@ -27,7 +27,7 @@ bool holdsWords(const wire::Datagram &datagram)
     return std::holds_alternative<wire::PrivateMessage>(datagram)
         || std::holds_alternative<wire::ConferenceMessage>(datagram) || std::holds_alternative<wire::LiveType>(datagram)
         || std::holds_alternative<wire::Status>(datagram) || std::holds_alternative<wire::Garbage>(datagram)
-        || std::holds_alternative<wire::Unsupported>(datagram);
+        || std::holds_alternative<wire::Unsupported>(datagram) || std::holds_alternative<wire::Incomplete>(datagram);
 }
 
 /// Bodies are bytes that no text could show.
@@ -46,6 +46,8 @@ QString kindOf(const wire::Datagram &datagram, std::string_view bytes)
         return tr("no command");
     if (std::holds_alternative<wire::Unsupported>(datagram))
         return tr("unknown command");
+    if (std::holds_alternative<wire::Incomplete>(datagram))
+        return tr("incomplete");
     return remoteName(fromWire(bytes.substr(0, bytes.find(' '))));
 }
 

@@ -6,6 +6,7 @@
 #include <QList>
 
 #include <algorithm>
+#include <map>
 #include <vector>
 
 namespace nimb
@@ -39,69 +40,80 @@ bool holdsPort(const QByteArray &ports, std::uint16_t port)
 /// What one rule does with our datagram.
 enum class Outcome { goesOn, accepted, dropped, returned };
 
+/// How questions that are not understood turn out.
+enum class Unknown { doesNotMatch, matches };
+
 /// One walk of a datagram through the chains of a ruleset.
 class NftWalk
 {
 public:
-    NftWalk(const QJsonArray &ruleset, std::uint16_t port) : m_ruleset(ruleset), m_port(port) { }
-
-    NftAnswer answer() const
+    NftWalk(const QJsonArray &ruleset, std::uint16_t port, Unknown unknown)
+        : m_ruleset(ruleset), m_port(port), m_unknown(unknown)
     {
-        NftAnswer answer;
-        for (const QJsonObject &chain : inputChains()) {
-            answer.hasInput = true;
+        for (const QJsonValue &entry : ruleset) {
+            const QJsonObject rule = entry[QLatin1String("rule")].toObject();
+            if (!rule.isEmpty())
+                m_rules[placeOf(rule, "chain")].push_back(rule.value(QLatin1String("expr")).toArray());
+        }
+    }
+
+    bool hasInput() const { return !firstChains().empty(); }
+    /// Rules beyond number were met.
+    bool gaveUp() const { return m_steps >= mostSteps; }
+
+    std::optional<NftBlock> block()
+    {
+        for (const QJsonObject &chain : firstChains()) {
             Outcome outcome = walk(chain, 0);
             if (outcome == Outcome::goesOn || outcome == Outcome::returned)
                 outcome = text(chain, "policy") == QLatin1String("drop") ? Outcome::dropped : Outcome::accepted;
-            if (outcome != Outcome::dropped)
-                continue; // the next chain may still drop it
-            answer.block = NftBlock{text(chain, "family"), text(chain, "table"), text(chain, "name")};
-            break;
+            if (outcome == Outcome::dropped) // what one chain accepts the next may still drop
+                return NftBlock{text(chain, "family"), text(chain, "table"), text(chain, "name")};
         }
-        return answer;
+        return std::nullopt;
     }
 
 private:
-    /// Chains that lead into themselves are refused by the system; this is a stop for texts that it did not write.
+    /// Chains that lead into themselves are refused by the system; these are stops for texts that it did not write, and
+    /// for rules that branch without end.
     static constexpr int deepest = 16;
+    static constexpr int mostSteps = 200'000;
 
     static QString text(const QJsonObject &object, const char *key)
     {
         return object.value(QLatin1String(key)).toString();
     }
 
-    std::vector<QJsonObject> inputChains() const
+    static QString placeOf(const QJsonObject &object, const char *nameKey)
+    {
+        return text(object, "family") + u' ' + text(object, "table") + u' ' + text(object, nameKey);
+    }
+
+    /// In the order in which a datagram meets them.
+    std::vector<QJsonObject> firstChains() const
     {
         std::vector<QJsonObject> chains;
         for (const QJsonValue &entry : m_ruleset) {
             const QJsonObject chain = entry[QLatin1String("chain")].toObject();
-            const QString family = text(chain, "family");
-            if (text(chain, "hook") == QLatin1String("input")
-                && (family == QLatin1String("ip") || family == QLatin1String("inet")))
+            const QString family = text(chain, "family"), hook = text(chain, "hook");
+            const bool isMet = hook == QLatin1String("input") || hook == QLatin1String("prerouting");
+            if (isMet && (family == QLatin1String("ip") || family == QLatin1String("inet")))
                 chains.push_back(chain);
         }
-        std::ranges::stable_sort(chains, {},
-                                 [](const QJsonObject &chain) { return chain.value(QLatin1String("prio")).toInt(); });
+        std::ranges::stable_sort(chains, {}, [](const QJsonObject &chain) {
+            return std::pair(text(chain, "hook") == QLatin1String("input"), chain.value(QLatin1String("prio")).toInt());
+        });
         return chains;
     }
 
-    std::vector<QJsonArray> rulesOf(const QJsonObject &chain) const
+    Outcome walk(const QJsonObject &chain, int depth)
     {
-        std::vector<QJsonArray> rules;
-        for (const QJsonValue &entry : m_ruleset) {
-            const QJsonObject rule = entry[QLatin1String("rule")].toObject();
-            if (text(rule, "family") == text(chain, "family") && text(rule, "table") == text(chain, "table")
-                && text(rule, "chain") == text(chain, "name"))
-                rules.push_back(rule.value(QLatin1String("expr")).toArray());
-        }
-        return rules;
-    }
-
-    Outcome walk(const QJsonObject &chain, int depth) const
-    {
-        if (depth == deepest)
+        const auto rules = m_rules.find(placeOf(chain, "name"));
+        if (depth == deepest || rules == m_rules.end())
             return Outcome::goesOn;
-        for (const QJsonArray &rule : rulesOf(chain)) {
+        for (const QJsonArray &rule : rules->second) {
+            if (++m_steps >= mostSteps)
+                return Outcome::goesOn;
             const Outcome outcome = apply(rule, chain, depth);
             if (outcome != Outcome::goesOn)
                 return outcome;
@@ -109,70 +121,57 @@ private:
         return Outcome::goesOn;
     }
 
-    Outcome apply(const QJsonArray &rule, const QJsonObject &chain, int depth) const
+    Outcome apply(const QJsonArray &rule, const QJsonObject &chain, int depth)
     {
         for (const QJsonValue &part : rule) {
             const QJsonObject statement = part.toObject();
             const QString kind = statement.isEmpty() ? QString() : statement.begin().key();
-            if (kind == QLatin1String("match")) {
-                if (!matches(statement.value(kind).toObject()))
-                    return Outcome::goesOn;
-            } else if (kind == QLatin1String("limit") || kind == QLatin1String("xt")) {
-                return Outcome::goesOn; // concerns a flood, or asks what only the kernel understands
-            } else if (const Outcome outcome = kind == QLatin1String("vmap")
-                           ? chosen(statement.value(kind).toObject(), chain, depth)
-                           : decided(statement, chain, depth);
-                       outcome != Outcome::goesOn) {
+            const QJsonObject body = statement.value(kind).toObject();
+            if (kind == QLatin1String("vmap")) {
+                if (const Outcome outcome = chosen(body, chain, depth); outcome != Outcome::goesOn)
+                    return outcome;
+            } else if (!goesFurther(kind, body, chain)) {
+                return Outcome::goesOn;
+            } else if (const Outcome outcome = decided(statement, chain, depth); outcome != Outcome::goesOn) {
                 return outcome;
             }
         }
         return Outcome::goesOn;
     }
 
+    /// Whether the rule goes on behind this part of it.
+    bool goesFurther(const QString &kind, const QJsonObject &body, const QJsonObject &chain) const
+    {
+        if (kind == QLatin1String("match"))
+            return matches(body, chain);
+        if (kind == QLatin1String("limit"))
+            return !body.value(QLatin1String("inv")).toBool(); // a first datagram is below it
+        const bool asks = kind == QLatin1String("ct count") || kind == QLatin1String("quota")
+            || kind == QLatin1String("set")
+            || (kind == QLatin1String("xt") && text(body, "type") != QLatin1String("target"));
+        return !asks || m_unknown == Unknown::matches;
+    }
+
     /// What a verdict says; statements that are none decide nothing.
-    Outcome decided(const QJsonObject &statement, const QJsonObject &chain, int depth) const
+    Outcome decided(const QJsonObject &statement, const QJsonObject &chain, int depth)
     {
         const QString kind = statement.isEmpty() ? QString() : statement.begin().key();
+        const QJsonObject body = statement.value(kind).toObject();
         if (kind == QLatin1String("accept"))
             return Outcome::accepted;
-        if (kind == QLatin1String("drop") || kind == QLatin1String("reject"))
+        const bool rejects = kind == QLatin1String("xt") && text(body, "name") == QLatin1String("REJECT");
+        if (kind == QLatin1String("drop") || kind == QLatin1String("reject") || rejects)
             return Outcome::dropped;
         if (kind == QLatin1String("return"))
             return Outcome::returned;
-        if (kind == QLatin1String("jump") || kind == QLatin1String("goto"))
-            return follow(text(statement.value(kind).toObject(), "target"), chain, depth);
-        return Outcome::goesOn;
+        const bool goesTo = kind == QLatin1String("goto");
+        if (!goesTo && kind != QLatin1String("jump"))
+            return Outcome::goesOn;
+        const Outcome outcome = follow(text(body, "target"), chain, depth);
+        return goesTo && outcome == Outcome::goesOn ? Outcome::returned : outcome;
     }
 
-    /// A map of values to verdicts.
-    Outcome chosen(const QJsonObject &map, const QJsonObject &chain, int depth) const
-    {
-        const QJsonValue data = map.value(QLatin1String("data"));
-        const QJsonArray elements
-            = data.isString() ? namedElements(data.toString(), "map") : data[QLatin1String("set")].toArray();
-        for (const QJsonValue &element : elements) {
-            const QJsonArray pair = element.toArray();
-            const QJsonObject question{{QStringLiteral("op"), QStringLiteral("==")},
-                                       {QStringLiteral("left"), map.value(QLatin1String("key"))},
-                                       {QStringLiteral("right"), pair.at(0)}};
-            if (pair.size() == 2 && matches(question))
-                return decided(pair.at(1).toObject(), chain, depth);
-        }
-        return Outcome::goesOn;
-    }
-
-    /// Those of the set or map of this name, "@allowed".
-    QJsonArray namedElements(const QString &name, const char *kind) const
-    {
-        for (const QJsonValue &entry : m_ruleset) {
-            const QJsonObject set = entry[QLatin1String(kind)].toObject();
-            if (name == u'@' + text(set, "name"))
-                return set.value(QLatin1String("elem")).toArray();
-        }
-        return {};
-    }
-
-    Outcome follow(const QString &target, const QJsonObject &from, int depth) const
+    Outcome follow(const QString &target, const QJsonObject &from, int depth)
     {
         QJsonObject chain = from;
         chain.insert(QLatin1String("name"), target);
@@ -180,50 +179,105 @@ private:
         return outcome == Outcome::returned ? Outcome::goesOn : outcome;
     }
 
-    bool matches(const QJsonObject &match) const
+    /// A map of values to verdicts.
+    Outcome chosen(const QJsonObject &map, const QJsonObject &chain, int depth)
     {
-        const QString operation = text(match, "op");
-        const bool differs = operation == QLatin1String("!=");
+        const QJsonValue data = map.value(QLatin1String("data"));
+        const QJsonArray elements
+            = data.isString() ? namedElements(data.toString(), "map", chain) : data[QLatin1String("set")].toArray();
+        for (const QJsonValue &element : elements) {
+            const QJsonArray pair = element.toArray();
+            const QJsonObject question{{QStringLiteral("op"), QStringLiteral("==")},
+                                       {QStringLiteral("left"), map.value(QLatin1String("key"))},
+                                       {QStringLiteral("right"), pair.at(0)}};
+            if (pair.size() == 2 && matches(question, chain))
+                return decided(pair.at(1).toObject(), chain, depth);
+        }
+        return Outcome::goesOn;
+    }
+
+    /// Those of the set or map of this name, "@allowed", in the table of the chain.
+    QJsonArray namedElements(const QString &name, const char *kind, const QJsonObject &chain) const
+    {
+        for (const QJsonValue &entry : m_ruleset) {
+            const QJsonObject set = entry[QLatin1String(kind)].toObject();
+            if (name == u'@' + text(set, "name") && text(set, "table") == text(chain, "table")
+                && text(set, "family") == text(chain, "family"))
+                return set.value(QLatin1String("elem")).toArray();
+        }
+        return {};
+    }
+
+    bool matches(const QJsonObject &match, const QJsonObject &chain) const
+    {
+        const bool differs = text(match, "op") == QLatin1String("!=");
         const QJsonObject left = match.value(QLatin1String("left")).toObject();
         const QJsonValue right = match.value(QLatin1String("right"));
         const QJsonObject payload = left.value(QLatin1String("payload")).toObject();
         const QString protocol = text(payload, "protocol"), field = text(payload, "field");
         const QString meta = text(left.value(QLatin1String("meta")).toObject(), "key");
-        const bool asksPort
-            = field == QLatin1String("dport") && (protocol == QLatin1String("udp") || protocol == QLatin1String("th"));
-        if (asksPort)
-            return holds(right, QJsonValue(m_port)) != differs;
+        const auto has = [&](const QJsonValue &value) { return holds(right, value, chain); };
+        if (field == QLatin1String("dport") && (protocol == QLatin1String("udp") || protocol == QLatin1String("th")))
+            return has(QJsonValue(m_port)) != differs;
+        if (field == QLatin1String("dport"))
+            return false; // of another protocol
         if (meta == QLatin1String("l4proto") || field == QLatin1String("protocol"))
-            return (holds(right, QStringLiteral("udp")) || holds(right, QJsonValue(17))) != differs;
-        if (meta == QLatin1String("nfproto"))
-            return (holds(right, QStringLiteral("ipv4"))) != differs;
-        if (meta == QLatin1String("iifname") || meta == QLatin1String("iif"))
-            return differs && holds(right, QStringLiteral("lo"));
+            return (has(QStringLiteral("udp")) || has(QJsonValue(17))) != differs;
+        if (meta == QLatin1String("nfproto") || meta == QLatin1String("protocol"))
+            return (has(QStringLiteral("ipv4")) || has(QStringLiteral("ip"))) != differs;
         if (text(left.value(QLatin1String("ct")).toObject(), "key") == QLatin1String("state"))
-            return holds(right, QStringLiteral("new")) != differs;
-        return false;
+            return has(QStringLiteral("new")) != differs;
+        const bool asksCard = meta == QLatin1String("iifname") || meta == QLatin1String("iif");
+        if (asksCard && right == QJsonValue(QStringLiteral("lo")))
+            return differs;
+        return m_unknown == Unknown::matches;
     }
 
-    /// right: a value, a list of them, a set, the name of one, or a range within one.
-    bool holds(const QJsonValue &right, const QJsonValue &value) const
+    /// right: a value, a list of them, a set, the name of one, an element with a counter, or a range.
+    bool holds(const QJsonValue &right, const QJsonValue &value, const QJsonObject &chain) const
     {
         if (right == value)
             return true;
         if (right.toString().startsWith(u'@'))
-            return holds(namedElements(right.toString(), "set"), value);
+            return holds(namedElements(right.toString(), "set", chain), value, chain);
         if (right.isArray())
             return std::ranges::any_of(right.toArray(),
-                                       [this, &value](const QJsonValue &one) { return holds(one, value); });
+                                       [&](const QJsonValue &one) { return holds(one, value, chain); });
+        const QJsonValue element = right[QLatin1String("elem")];
+        if (element.isObject())
+            return holds(element[QLatin1String("val")], value, chain);
         const QJsonArray range = right[QLatin1String("range")].toArray();
         if (range.size() == 2)
             return value.isDouble() && range.first().toInt() <= value.toInt() && value.toInt() <= range.last().toInt();
         const QJsonValue set = right[QLatin1String("set")];
-        return set.isArray() && holds(set, value);
+        return set.isArray() && holds(set, value, chain);
     }
 
     const QJsonArray &m_ruleset;
     int m_port;
+    Unknown m_unknown;
+    std::map<QString, std::vector<QJsonArray>> m_rules; ///< by chain
+    int m_steps = 0;
 };
+
+/// A rule of ufw that may be about us: ACTION PROTOCOL PORT DESTINATION SOURCEPORT SOURCE [APPLICATIONS] DIRECTION
+struct UfwRule {
+    QByteArray action, protocol, port, destination, sourcePort, source, direction;
+};
+
+std::optional<UfwRule> readUfwRule(const QByteArray &line)
+{
+    const QByteArray mark = "### tuple ### ";
+    const QList<QByteArray> words = line.mid(mark.size()).simplified().split(' ');
+    constexpr qsizetype fewest = 7;
+    if (!line.startsWith(mark) || words.size() < fewest || words[0].startsWith("route:"))
+        return std::nullopt;
+    const auto direction
+        = std::find_if(words.begin() + 6, words.end(), [](const QByteArray &word) { return word.startsWith("in"); });
+    if (direction == words.end() || *direction == "in_lo")
+        return std::nullopt;
+    return UfwRule{words[0].split('_').first(), words[1], words[2], words[3], words[4], words[5], *direction};
+}
 
 } // namespace
 
@@ -232,21 +286,25 @@ bool isUfwOn(const QByteArray &configuration)
     return valueOf(configuration, "ENABLED").toLower() == "yes";
 }
 
-bool doesUfwLet(const QByteArray &defaults, const QByteArray &rules, std::uint16_t udpPort)
+RuleAnswer ufwAnswer(const QByteArray &defaults, const QByteArray &rules, std::uint16_t udpPort)
 {
-    // ### tuple ### ACTION PROTOCOL PORT DESTINATION SOURCEPORT SOURCE DIRECTION
-    constexpr int action = 0, protocol = 1, port = 2, source = 5, direction = 6, fields = 7;
+    const QByteArray everybody = "0.0.0.0/0";
+    const bool accepts = valueOf(defaults, "DEFAULT_INPUT_POLICY").toUpper() == "ACCEPT";
+    const RuleAnswer policy = accepts ? RuleAnswer::lets : RuleAnswer::blocks;
     for (const QByteArray &line : rules.split('\n')) {
-        if (!line.startsWith("### tuple ### "))
+        const std::optional<UfwRule> rule = readUfwRule(line);
+        if (!rule || (rule->protocol != "udp" && rule->protocol != "any") || !holdsPort(rule->port, udpPort))
             continue;
-        const QList<QByteArray> rule = line.mid(14).simplified().split(' ');
-        const bool isOurs = rule.size() >= fields && (rule[protocol] == "udp" || rule[protocol] == "any")
-            && holdsPort(rule[port], udpPort) && rule[source] == "0.0.0.0/0" && rule[direction].startsWith("in");
-        if (isOurs)
-            return rule[action] == "allow" || rule[action] == "limit";
+        const bool lets = rule->action == "allow" || rule->action == "limit";
+        const RuleAnswer says = lets ? RuleAnswer::lets : RuleAnswer::blocks;
+        const bool isForAll = rule->source == everybody && rule->destination == everybody && rule->sourcePort == "any"
+            && rule->direction == "in";
+        if (isForAll)
+            return says;
+        if (says != policy)
+            return RuleAnswer::unsure;
     }
-    const QByteArray policy = valueOf(defaults, "DEFAULT_INPUT_POLICY").toUpper();
-    return policy == "ACCEPT";
+    return policy;
 }
 
 std::optional<NftAnswer> nftAnswer(const QByteArray &json, std::uint16_t udpPort)
@@ -255,7 +313,12 @@ std::optional<NftAnswer> nftAnswer(const QByteArray &json, std::uint16_t udpPort
     if (!object.contains(QLatin1String("nftables")))
         return std::nullopt;
     const QJsonArray ruleset = object.value(QLatin1String("nftables")).toArray();
-    return NftWalk(ruleset, udpPort).answer();
+    NftWalk strict(ruleset, udpPort, Unknown::doesNotMatch), lenient(ruleset, udpPort, Unknown::matches);
+    const std::optional<NftBlock> one = strict.block(), other = lenient.block();
+    const bool isSure = one.has_value() == other.has_value() && !strict.gaveUp() && !lenient.gaveUp();
+    const RuleAnswer answer = one ? RuleAnswer::blocks : RuleAnswer::lets;
+    return NftAnswer{
+        .hasInput = strict.hasInput(), .answer = isSure ? answer : RuleAnswer::unsure, .block = one ? one : other};
 }
 
 } // namespace nimb

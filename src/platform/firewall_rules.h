@@ -13,9 +13,16 @@ namespace nimb
 /// Whether /etc/ufw/ufw.conf turns ufw on.
 [[nodiscard]] bool isUfwOn(const QByteArray &configuration);
 
+/// What rules do with a first datagram that another machine sends to the port.
+enum class RuleAnswer {
+    lets,
+    blocks,
+    unsure, ///< they let some in and not others, or ask what is not understood here
+};
+
 /// defaults: /etc/default/ufw; rules: /etc/ufw/user.rules, of which the comments "### tuple ###" count, from which ufw
-/// itself reads its rules. A rule for some senders only counts as none.
-[[nodiscard]] bool doesUfwLet(const QByteArray &defaults, const QByteArray &rules, std::uint16_t udpPort);
+/// itself reads its rules.
+[[nodiscard]] RuleAnswer ufwAnswer(const QByteArray &defaults, const QByteArray &rules, std::uint16_t udpPort);
 
 /// What keeps a datagram out.
 struct NftBlock {
@@ -24,13 +31,14 @@ struct NftBlock {
 };
 
 struct NftAnswer {
-    bool hasInput = false;         ///< something looks at what comes in
-    std::optional<NftBlock> block; ///< nothing where the datagram is let in
+    bool hasInput = false; ///< something looks at what comes in
+    RuleAnswer answer = RuleAnswer::lets;
+    std::optional<NftBlock> block{}; ///< where it is kept out, be it for some
 };
 
-/// json: what `nft -j list ruleset` prints; nothing when it is no such text. Asks what becomes of a first datagram that
-/// comes from another machine. Of what rules can ask, protocol, port, connection state and the loopback card are
-/// understood; a rule that asks anything else counts as none, for it is not about everybody.
+/// json: what `nft -j list ruleset` prints; nothing when it is no such text. Of what rules can ask, protocol, port,
+/// connection state and the loopback card are understood. Where it makes a difference how anything else turns out, the
+/// answer is not sure.
 [[nodiscard]] std::optional<NftAnswer> nftAnswer(const QByteArray &json, std::uint16_t udpPort);
 
 } // namespace nimb

@@ -13,6 +13,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <array>
 
 namespace nimb
 {
@@ -74,9 +75,26 @@ QString nftCommand(const NftBlock &block, std::uint16_t port)
         .arg(block.family, block.table, block.chain, QString::number(port));
 }
 
-Firewall::Verdict verdictOf(bool lets)
+Firewall::Verdict verdictOf(RuleAnswer answer)
 {
-    return lets ? Firewall::Verdict::lets : Firewall::Verdict::blocks;
+    switch (answer) {
+    case RuleAnswer::lets:
+        return Firewall::Verdict::lets;
+    case RuleAnswer::blocks:
+        return Firewall::Verdict::blocks;
+    case RuleAnswer::unsure:
+        break;
+    }
+    return Firewall::Verdict::forSome;
+}
+
+/// Rules of nftables, and of iptables in both of its forms, need one of these. Everybody may see whether they are
+/// there.
+bool mayHaveRules()
+{
+    return std::ranges::any_of(std::array{"nf_tables", "iptable_filter"}, [](const char *module) {
+        return QFile::exists(QLatin1String("/sys/module/") + QLatin1String(module));
+    });
 }
 
 Firewall nftFirewall(const std::optional<NftAnswer> &answer, std::uint16_t port)
@@ -85,11 +103,13 @@ Firewall nftFirewall(const std::optional<NftAnswer> &answer, std::uint16_t port)
     // What systemd started and has not stopped.
     const bool isOn = QFileInfo(QStringLiteral("/run/systemd/units/invocation:nftables.service")).isSymLink();
     const NftBlock usual{QStringLiteral("inet"), QStringLiteral("filter"), QStringLiteral("input")};
+    if (!answer && isOn)
+        return {Firewall::Verdict::unreadable, name, nftCommand(usual, port)};
     if (!answer)
-        return isOn ? Firewall{Firewall::Verdict::unreadable, name, nftCommand(usual, port)} : Firewall{};
+        return {mayHaveRules() ? Firewall::Verdict::unknown : Firewall::Verdict::none, {}, {}};
     if (!answer->hasInput)
         return {};
-    return {verdictOf(!answer->block), name, answer->block ? nftCommand(*answer->block, port) : QString()};
+    return {verdictOf(answer->answer), name, nftCommand(answer->block.value_or(usual), port)};
 }
 
 } // namespace
@@ -206,7 +226,7 @@ void SystemNetworkDiagnosis::readFirewall(std::uint16_t port, FirewallRead read)
         QFile rules(QStringLiteral("/etc/ufw/user.rules"));
         Firewall ufw{Firewall::Verdict::unreadable, QStringLiteral("ufw"), ufwCommand(port)};
         if (rules.open(QIODevice::ReadOnly))
-            ufw.verdict = verdictOf(doesUfwLet(contentsOf(QStringLiteral("/etc/default/ufw")), rules.readAll(), port));
+            ufw.verdict = verdictOf(ufwAnswer(contentsOf(QStringLiteral("/etc/default/ufw")), rules.readAll(), port));
         QTimer::singleShot(0, m_life.get(), [ufw, read = std::move(read)] { read(ufw); });
         return;
     }
@@ -221,8 +241,9 @@ void SystemNetworkDiagnosis::askFirewalld(std::uint16_t port, const FirewallRead
     run(QStringLiteral("firewall-cmd"), {QStringLiteral("--query-port=%1/udp").arg(port)},
         [port, read](int status, const QByteArray &) {
             const bool isAnswer = status == 0 || status == 1;
-            read({isAnswer ? verdictOf(status == 0) : Firewall::Verdict::unreadable, QStringLiteral("firewalld"),
-                  firewalldCommand(port)});
+            read({isAnswer ? verdictOf(status == 0 ? RuleAnswer::lets : RuleAnswer::blocks)
+                           : Firewall::Verdict::unreadable,
+                  QStringLiteral("firewalld"), firewalldCommand(port)});
         });
 }
 

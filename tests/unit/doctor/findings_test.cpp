@@ -47,8 +47,7 @@ TEST(Findings, OfThePort)
     EXPECT_EQ(said(findings::port(5549, false, BindFailure::portTaken, PortHolder{QStringLiteral("otherd"), 4711})),
               "wrong: Port 5549 is used by the program otherd (process 4711).");
     const Finding unnamed = findings::port(5549, false, BindFailure::portTaken, PortHolder{});
-    EXPECT_EQ(said(unnamed),
-              "wrong: Port 5549 is used by another program, which belongs to another user of this computer.");
+    EXPECT_EQ(said(unnamed), "wrong: Port 5549 is used by another program.");
     EXPECT_THAT(unnamed.advice.toStdString(), HasSubstr("sudo ss -ulpn sport = :5549"));
     EXPECT_EQ(said(findings::port(80, false, BindFailure::notAllowed, std::nullopt)),
               "wrong: The system does not let NIMB-Chat use port 80.");
@@ -91,6 +90,13 @@ TEST(Findings, OfAFirewallWithTheCommandThatOpensIt)
     const Finding blocks = findings::firewall({Firewall::Verdict::blocks, QStringLiteral("ufw"), opening}, 5549);
     EXPECT_EQ(said(blocks), "wrong: The firewall ufw is on and keeps UDP port 5549 out: nobody reaches you.");
     EXPECT_THAT(blocks.advice.toStdString(), HasSubstr("sudo ufw allow 5549/udp"));
+    const Finding some = findings::firewall({Firewall::Verdict::forSome, QStringLiteral("ufw"), opening}, 5549);
+    EXPECT_EQ(said(some),
+              "doubtful: The firewall ufw is on and lets UDP port 5549 in for some and not for others, as it "
+              "seems.");
+    EXPECT_THAT(some.advice.toStdString(), HasSubstr("sudo ufw allow 5549/udp"));
+    EXPECT_EQ(said(findings::firewall({Firewall::Verdict::unknown}, 5549)),
+              "doubtful: Only the administrator may see whether a firewall keeps UDP port 5549 out.");
     const Finding unread = findings::firewall({Firewall::Verdict::unreadable, QStringLiteral("ufw"), opening}, 5549);
     EXPECT_EQ(said(unread),
               "doubtful: The firewall ufw is on; only the administrator may see whether it lets UDP port 5549 in.");
@@ -119,7 +125,7 @@ TEST(Findings, OfAContactThatIsSilent)
     const QString ann = QStringLiteral("Ann");
     const Ipv4Address there(192, 168, 1, 9);
     const Finding known = findings::contactSilent(ann, there, Neighbour::known);
-    EXPECT_EQ(said(known), "wrong: Ann did not answer, but the computer at 192.168.1.9 is there.");
+    EXPECT_EQ(said(known), "wrong: Ann did not answer, but the computer at 192.168.1.9 is there, or was a moment ago.");
     EXPECT_THAT(known.advice.toStdString(), HasSubstr("A firewall there may keep UDP out"));
     const Finding unknown = findings::contactSilent(ann, there, Neighbour::unknown);
     EXPECT_EQ(said(unknown), "wrong: Ann did not answer, and no computer on your network has the address 192.168.1.9.");

@@ -47,6 +47,7 @@ TEST(TraceLine, LeavesOutWhatPeopleWroteUnlessItIsWanted)
     EXPECT_EQ(lineOf("!LIVETYPE the secret", false), "!LIVETYPE|");
     EXPECT_EQ(lineOf("!STATUS PERSONALIZED the secret", false), "!STATUS|");
     EXPECT_EQ(lineOf("!SECRET command", false), "unknown command|");
+    EXPECT_EQ(lineOf("+hello the secret", false), "incomplete|");
     EXPECT_EQ(lineOf("secret", false), "no command|");
     EXPECT_EQ(lineOf("secret", true), "no command|secret");
     EXPECT_EQ(lineOf("?CONF INVITE #1", false), "?CONF|?CONF INVITE #1");

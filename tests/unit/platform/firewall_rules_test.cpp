@@ -17,9 +17,14 @@ TEST(Ufw, IsOnWhereItsConfigurationSaysSo)
     EXPECT_FALSE(isUfwOn({}));
 }
 
+RuleAnswer ufwSays(const QByteArray &rules, const QByteArray &policy = "DROP")
+{
+    return ufwAnswer("IPV6=yes\nDEFAULT_INPUT_POLICY=\"" + policy + "\"\n", "*filter\n### RULES ###\n" + rules, port);
+}
+
 bool ufwLets(const QByteArray &rules, const QByteArray &policy = "DROP")
 {
-    return doesUfwLet("IPV6=yes\nDEFAULT_INPUT_POLICY=\"" + policy + "\"\n", "*filter\n### RULES ###\n" + rules, port);
+    return ufwSays(rules, policy) == RuleAnswer::lets;
 }
 
 TEST(Ufw, GoesByItsFirstRuleForThePortAndElseByItsPolicy)
@@ -29,15 +34,28 @@ TEST(Ufw, GoesByItsFirstRuleForThePortAndElseByItsPolicy)
     EXPECT_TRUE(ufwLets("### tuple ### allow udp 5549 0.0.0.0/0 any 0.0.0.0/0 in\n"
                         "-A ufw-user-input -p udp --dport 5549 -j ACCEPT\n"));
     EXPECT_TRUE(ufwLets("### tuple ### allow any 5500:5600 0.0.0.0/0 any 0.0.0.0/0 in\n"));
-    EXPECT_TRUE(ufwLets("### tuple ### limit udp 22,5549 0.0.0.0/0 any 0.0.0.0/0 in_eth0\n"));
+    EXPECT_TRUE(ufwLets("### tuple ### limit udp 22,5549 0.0.0.0/0 any 0.0.0.0/0 in\n"));
+    EXPECT_TRUE(ufwLets("### tuple ### allow_log udp 5549 0.0.0.0/0 any 0.0.0.0/0 in\n"));
+    EXPECT_TRUE(ufwLets("### tuple ### allow udp 5549 0.0.0.0/0 any 0.0.0.0/0 NIMB-Chat - in\n"));
+    EXPECT_FALSE(ufwLets("### tuple ### route:allow udp 5549 0.0.0.0/0 any 0.0.0.0/0 in\n"));
+    EXPECT_FALSE(ufwLets("### tuple ### allow udp 5549 0.0.0.0/0 any 0.0.0.0/0 in_lo\n"));
     EXPECT_FALSE(ufwLets("### tuple ### allow tcp 5549 0.0.0.0/0 any 0.0.0.0/0 in\n"));
     EXPECT_FALSE(ufwLets("### tuple ### allow udp 5550 0.0.0.0/0 any 0.0.0.0/0 in\n"));
     EXPECT_FALSE(ufwLets("### tuple ### allow udp 5549 0.0.0.0/0 any 0.0.0.0/0 out\n"));
-    EXPECT_FALSE(ufwLets("### tuple ### allow udp 5549 0.0.0.0/0 any 10.0.0.9 in\n")) << "not for everybody";
     EXPECT_FALSE(ufwLets("### tuple ### deny udp 5549 0.0.0.0/0 any 0.0.0.0/0 in\n", "ACCEPT"));
     EXPECT_FALSE(ufwLets("### tuple ### reject any any 0.0.0.0/0 any 0.0.0.0/0 in\n"
                          "### tuple ### allow udp 5549 0.0.0.0/0 any 0.0.0.0/0 in\n"));
     EXPECT_FALSE(ufwLets("### tuple ###\n### tuple ### allow\n"));
+}
+
+TEST(Ufw, OfARuleForSomeItIsNotSureUnlessThePolicySaysTheSame)
+{
+    for (const char *const some : {"any 192.168.0.0/16 in", "53 0.0.0.0/0 in", "any 0.0.0.0/0 in_eth0"}) {
+        const QByteArray rule = QByteArray("### tuple ### allow udp 5549 0.0.0.0/0 ") + some + "\n";
+        EXPECT_EQ(ufwSays(rule), RuleAnswer::unsure) << some;
+        EXPECT_EQ(ufwSays(rule, "ACCEPT"), RuleAnswer::lets) << some;
+    }
+    EXPECT_EQ(ufwSays("### tuple ### allow udp 5549 10.1.1.1 any 0.0.0.0/0 in\n"), RuleAnswer::unsure);
 }
 
 /// A ruleset with one chain for what comes in.
@@ -59,10 +77,15 @@ QByteArray rule(const QByteArray &expressions, const QByteArray &chain = "input"
 const QByteArray toOurPort = R"({"match": {"op": "==", "left": {"payload": {"protocol": "udp", "field": "dport"}},
     "right": 5549}})";
 
-bool nftLets(const QByteArray &json)
+std::optional<RuleAnswer> nftSays(const QByteArray &json)
 {
     const std::optional<NftAnswer> answer = nftAnswer(json, port);
-    return answer.has_value() && !answer->block.has_value();
+    return answer ? std::optional(answer->answer) : std::nullopt;
+}
+
+bool nftLets(const QByteArray &json)
+{
+    return nftSays(json) == RuleAnswer::lets;
 }
 
 TEST(Nftables, WithoutAChainForWhatComesInThereIsNoFirewall)
@@ -107,16 +130,14 @@ TEST(Nftables, ARuleForThePortDecides)
         << "another protocol";
 }
 
-TEST(Nftables, WhatConcernsAnswersLoopbackOrSomeSendersDoesNotConcernEverybody)
+TEST(Nftables, WhatConcernsAnswersOrLoopbackDoesNotConcernOthers)
 {
     const QByteArray established = R"({"match": {"op": "in", "left": {"ct": {"key": "state"}},
         "right": ["established", "related"]}}, {"accept": null})";
     const QByteArray loopback = R"({"match": {"op": "==", "left": {"meta": {"key": "iifname"}}, "right": "lo"}},
         {"accept": null})";
-    const QByteArray someSender = R"({"match": {"op": "==", "left": {"payload": {"protocol": "ip", "field": "saddr"}},
-        "right": "10.0.0.9"}}, {"accept": null})";
-    for (const QByteArray &exception : {established, loopback, someSender})
-        EXPECT_FALSE(nftLets(ruleset(rule(exception)))) << exception.toStdString();
+    for (const QByteArray &exception : {established, loopback})
+        EXPECT_EQ(nftSays(ruleset(rule(exception))), RuleAnswer::blocks) << exception.toStdString();
     const QByteArray fresh = R"({"match": {"op": "==", "left": {"ct": {"key": "state"}}, "right": "new"}},)";
     EXPECT_TRUE(nftLets(ruleset(rule(fresh + toOurPort + R"(, {"accept": null})"))));
     const QByteArray notLoopback = R"({"match": {"op": "!=", "left": {"meta": {"key": "iifname"}}, "right": "lo"}},)";
@@ -152,18 +173,83 @@ TEST(Nftables, NamedSetsAreLookedUp)
     const QByteArray toOpen = R"({"match": {"op": "==", "left": {"payload": {"protocol": "th", "field": "dport"}},
         "right": "@open"}}, {"accept": null})";
     const auto open = [](const QByteArray &elements) {
-        return R"(, {"set": {"family": "inet", "table": "filter", "name": "open", "type": "inet_service", "elem": [)"
+        return QByteArray(
+                   R"(, {"set": {"family": "inet", "table": "filter", "name": "open", "type": "inet_service", "elem": [)")
             + elements + "]}}";
     };
     EXPECT_TRUE(nftLets(ruleset(rule(toOpen), "drop", open(R"(22, {"range": [5500, 5600]})"))));
     EXPECT_FALSE(nftLets(ruleset(rule(toOpen), "drop", open("22"))));
     EXPECT_FALSE(nftLets(ruleset(rule(toOpen)))) << "a set that is not there";
+    EXPECT_FALSE(nftLets(ruleset(rule(toOpen), "drop", open("5549").replace("filter", "other")))) << "another table's";
 }
 
-TEST(Nftables, WhatOnlyTheKernelUnderstandsDecidesNothing)
+TEST(Nftables, IsNotSureWhereItMattersHowSomethingElseTurnsOut)
 {
-    EXPECT_FALSE(nftLets(ruleset(rule(R"({"xt": {"type": "match", "name": "mac"}}, {"accept": null})"))));
-    EXPECT_FALSE(nftLets(ruleset(rule(R"({"limit": {"rate": 10, "per": "second"}}, {"accept": null})"))));
+    const QByteArray questions[] = {
+        R"({"match": {"op": "==", "left": {"payload": {"protocol": "ip", "field": "saddr"}}, "right": "10.0.0.9"}})",
+        R"({"match": {"op": "==", "left": {"meta": {"key": "iifname"}}, "right": "eth0"}})",
+        R"({"match": {"op": "==", "left": {"concat": [{"meta": {"key": "l4proto"}}]}, "right": "@some"}})",
+        R"({"xt": {"type": "match", "name": "conntrack"}})",
+        R"({"ct count": {"val": 20}})",
+        R"({"quota": {"val": 100, "val_unit": "mbytes"}})",
+    };
+    for (const QByteArray &question : questions) {
+        EXPECT_EQ(nftSays(ruleset(rule(question + R"(, {"accept": null})"))), RuleAnswer::unsure)
+            << question.toStdString();
+        EXPECT_EQ(nftSays(ruleset(rule(question + R"(, {"drop": null})"), "accept")), RuleAnswer::unsure)
+            << question.toStdString();
+        EXPECT_EQ(nftSays(ruleset(rule(question + R"(, {"accept": null})"), "accept")), RuleAnswer::lets)
+            << "either way";
+    }
+    EXPECT_TRUE(nftAnswer(ruleset(rule(questions[0] + R"(, {"accept": null})")), port)->block) << "the place is known";
+}
+
+TEST(Nftables, ALimitConcernsOnlyWhatIsAboveIt)
+{
+    EXPECT_TRUE(nftLets(ruleset(rule(R"({"limit": {"rate": 10, "per": "second"}}, {"accept": null})"))));
+    EXPECT_TRUE(
+        nftLets(ruleset(rule(R"({"limit": {"rate": 10, "per": "second", "inv": true}}, {"drop": null})"), "accept")));
+}
+
+TEST(Nftables, ATargetOfIptablesThatRejectsDrops)
+{
+    EXPECT_EQ(nftSays(ruleset(rule(R"({"xt": {"type": "target", "name": "REJECT"}})"), "accept")), RuleAnswer::blocks);
+    EXPECT_EQ(nftSays(ruleset(rule(R"({"xt": {"type": "target", "name": "LOG"}})"), "accept")), RuleAnswer::lets);
+}
+
+TEST(Nftables, ElementsMayHaveCounters)
+{
+    EXPECT_TRUE(nftLets(ruleset(rule(
+        R"({"match": {"op": "==", "left": {"payload": {"protocol": "udp", "field": "dport"}},
+            "right": {"set": [{"elem": {"val": 5549, "counter": {"packets": 0, "bytes": 0}}}]}}}, {"accept": null})"))));
+}
+
+TEST(Nftables, WhatIsDroppedBeforeItComesInIsDropped)
+{
+    const QByteArray early = R"(, {"chain": {"family": "inet", "table": "filter", "name": "early", "handle": 7,
+        "type": "filter", "hook": "prerouting", "prio": -300, "policy": "drop"}})";
+    EXPECT_EQ(nftAnswer(ruleset({}, "accept", early), port)->block,
+              (NftBlock{QStringLiteral("inet"), QStringLiteral("filter"), QStringLiteral("early")}));
+}
+
+TEST(Nftables, WhoGoesToAChainDoesNotComeBack)
+{
+    const QByteArray chain = R"(, {"chain": {"family": "inet", "table": "filter", "name": "lan", "handle": 5}})";
+    const QByteArray rest = "," + rule(R"({"accept": null})");
+    EXPECT_EQ(nftSays(ruleset(rule(R"({"goto": {"target": "lan"}})") + rest, "drop", chain)), RuleAnswer::blocks);
+    EXPECT_EQ(nftSays(ruleset(rule(R"({"jump": {"target": "lan"}})") + rest, "drop", chain)), RuleAnswer::lets);
+}
+
+TEST(Nftables, ChainsThatBranchWithoutEndAreGivenUp)
+{
+    QByteArray chains, rules;
+    for (int i = 0; i < 16; ++i) {
+        const QByteArray name = "c" + QByteArray::number(i), next = "c" + QByteArray::number(i + 1);
+        chains += R"(, {"chain": {"family": "inet", "table": "filter", "name": ")" + name + R"(", "handle": 5}})";
+        for (int k = 0; k < 4; ++k)
+            rules += "," + rule(R"({"jump": {"target": ")" + next + R"("}})", name);
+    }
+    EXPECT_EQ(nftSays(ruleset(rule(R"({"jump": {"target": "c0"}})") + rules, "drop", chains)), RuleAnswer::unsure);
 }
 
 TEST(Nftables, ChainsThatAreJumpedToAreFollowed)
