@@ -1,6 +1,6 @@
 #include "platform/network_watch.h"
 
-#include "own_network.h"
+#include "on_own_network.h"
 #include "platform/qt_timers.h"
 #include "virtual_time.h"
 
@@ -19,14 +19,11 @@ namespace
 using namespace std::chrono_literals;
 
 /// A watch in a network of its own, whose time passes when a test says so. Messages of the system come as they come.
-class NetworkWatchTest : public testing::Test
+class NetworkWatchTest : public OnOwnNetwork
 {
 protected:
-    void SetUp() override
+    void arrange() override
     {
-        if (!network.isThere())
-            GTEST_SKIP() << "the system allows no network of our own here";
-        visit.emplace(network);
         watch.emplace(time);
         watch->listen([this] { ++told; });
     }
@@ -43,8 +40,6 @@ protected:
             QCoreApplication::processEvents();
     }
 
-    OwnNetwork network;
-    std::optional<OwnNetwork::Visit> visit;
     VirtualTime time;
     std::optional<SystemNetworkWatch> watch;
     int told = 0;

@@ -1,6 +1,6 @@
 #include "platform/own_identity.h"
 
-#include "own_network.h"
+#include "on_own_network.h"
 #include "print_qt.h"
 #include "protocol/address_text.h"
 
@@ -108,25 +108,16 @@ TEST(OwnIdentity, NetworksOfContainersAndVirtualMachinesAreKnownByTheirNames)
 }
 
 /// On a machine of the test's own, whose cards are bridges without anything behind them.
-class OwnIdentityOfAMachine : public testing::Test
+class OwnIdentityOfAMachine : public OnOwnNetwork
 {
 protected:
-    void SetUp() override
-    {
-        if (!network.isThere())
-            GTEST_SKIP() << "the system allows no network of our own here";
-        visit.emplace(network);
-        ASSERT_TRUE(runIp({"link", "set", "lo", "up"}));
-    }
+    void arrange() override { ASSERT_TRUE(runIp({"link", "set", "lo", "up"})); }
     static void addCard(const QString &name, const QString &address)
     {
         ASSERT_TRUE(runIp({"link", "add", name, "type", "bridge"}));
         ASSERT_TRUE(runIp({"address", "add", address, "dev", name}));
         ASSERT_TRUE(runIp({"link", "set", name, "up"}));
     }
-
-    OwnNetwork network;
-    std::optional<OwnNetwork::Visit> visit;
 };
 
 TEST_F(OwnIdentityOfAMachine, WithoutANetworkItIsThatOfTheMachineItself)

@@ -1,6 +1,6 @@
 #include "platform/udp_winsock.h"
 
-#include "own_network.h"
+#include "on_own_network.h"
 #include "print_qt.h"
 #include "protocol/address_text.h"
 #include "raw_peer.h"
@@ -710,20 +710,14 @@ TEST(UdpWinsock, TellsTheFixedIdentity)
 }
 
 /// On a machine of the test's own.
-class UdpWinsockOfAMachine : public testing::Test
+class UdpWinsockOfAMachine : public OnOwnNetwork
 {
 protected:
-    void SetUp() override
+    void arrange() override
     {
-        if (!network.isThere())
-            GTEST_SKIP() << "the system allows no network of our own here";
-        visit.emplace(network);
         ASSERT_TRUE(runIp({"link", "set", "lo", "up"}));
         ASSERT_TRUE(runIp({"address", "add", "10.1.0.1/32", "dev", "lo"}));
     }
-
-    OwnNetwork network;
-    std::optional<OwnNetwork::Visit> visit;
 };
 
 TEST_F(UdpWinsockOfAMachine, ListensNoMoreWhereItsAddressHasGoneAndAgainWhereItIsBack)
