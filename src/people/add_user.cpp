@@ -34,7 +34,7 @@ QString AddUser::remark(const QString &ipaddress) const
 {
     if (ipaddress.isEmpty())
         return {};
-    if (const QString reason = objection(ipaddress); !reason.isEmpty())
+    if (QString reason = objection(ipaddress); !reason.isEmpty())
         return reason;
     const std::optional<Ipv4Address> address = readAddress(ipaddress);
     if (!address || !address->isUnicast())

@@ -50,7 +50,7 @@ public:
     NftWalk(const QJsonArray &ruleset, std::uint16_t port, Unknown unknown)
         : m_ruleset(ruleset), m_port(port), m_unknown(unknown)
     {
-        for (const QJsonValue &entry : ruleset) {
+        for (const QJsonValue entry : ruleset) {
             const QJsonObject rule = entry[QLatin1String("rule")].toObject();
             if (!rule.isEmpty())
                 m_rules[placeOf(rule, "chain")].push_back(rule.value(QLatin1String("expr")).toArray());
@@ -93,7 +93,7 @@ private:
     std::vector<QJsonObject> firstChains() const
     {
         std::vector<QJsonObject> chains;
-        for (const QJsonValue &entry : m_ruleset) {
+        for (const QJsonValue entry : m_ruleset) {
             const QJsonObject chain = entry[QLatin1String("chain")].toObject();
             const QString family = text(chain, "family"), hook = text(chain, "hook");
             const bool isMet = hook == QLatin1String("input") || hook == QLatin1String("prerouting");
@@ -123,7 +123,7 @@ private:
 
     Outcome apply(const QJsonArray &rule, const QJsonObject &chain, int depth)
     {
-        for (const QJsonValue &part : rule) {
+        for (const QJsonValue part : rule) {
             const QJsonObject statement = part.toObject();
             const QString kind = statement.isEmpty() ? QString() : statement.begin().key();
             const QJsonObject body = statement.value(kind).toObject();
@@ -185,7 +185,7 @@ private:
         const QJsonValue data = map.value(QLatin1String("data"));
         const QJsonArray elements
             = data.isString() ? namedElements(data.toString(), "map", chain) : data[QLatin1String("set")].toArray();
-        for (const QJsonValue &element : elements) {
+        for (const QJsonValue element : elements) {
             const QJsonArray pair = element.toArray();
             const QJsonObject question{{QStringLiteral("op"), QStringLiteral("==")},
                                        {QStringLiteral("left"), map.value(QLatin1String("key"))},
@@ -199,7 +199,7 @@ private:
     /// Those of the set or map of this name, "@allowed", in the table of the chain.
     QJsonArray namedElements(const QString &name, const char *kind, const QJsonObject &chain) const
     {
-        for (const QJsonValue &entry : m_ruleset) {
+        for (const QJsonValue entry : m_ruleset) {
             const QJsonObject set = entry[QLatin1String(kind)].toObject();
             if (name == u'@' + text(set, "name") && text(set, "table") == text(chain, "table")
                 && text(set, "family") == text(chain, "family"))

@@ -21,7 +21,12 @@ namespace
 using namespace std::chrono_literals;
 using testing::IsEmpty;
 
-constexpr int blocks = 20;
+#ifdef __SANITIZE_ADDRESS__
+constexpr int seeds = 60; // each takes several times as long there
+#else
+constexpr int seeds = 200;
+#endif
+constexpr int blocks = seeds / 10;
 
 /// What a seed stands for.
 struct Plan {
@@ -1030,10 +1035,10 @@ int numberFrom(const char *variable, int otherwise)
     return value ? std::atoi(value) : otherwise;
 }
 
-/// The seeds of one block: 200 seeds are shared out, so that tests can run side by side.
+/// The seeds of one block: all of them are shared out, so that tests can run side by side.
 std::pair<int, int> seedsOf(int block)
 {
-    const int all = numberFrom("NIMB_SIM_SEEDS", 200), one = numberFrom("NIMB_SIM_SEED", -1);
+    const int all = numberFrom("NIMB_SIM_SEEDS", seeds), one = numberFrom("NIMB_SIM_SEED", -1);
     if (one >= 0)
         return {one, one + (block == 0)};
     return {all * block / blocks, all * (block + 1) / blocks};
