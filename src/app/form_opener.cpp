@@ -48,6 +48,8 @@ frmMain &FormOpener::makeMain()
     log->setFrameShape(QFrame::NoFrame);
     log->setInsets(frmMain::logInsetAbove, frmMain::logInsetBelow);
     m_main = std::make_unique<frmMain>(frmMain::Log{*log, *log});
+    QObject::connect(log, &RichTextLogEdit::commandPressed, m_main.get(),
+                     [this](const QString &command) { runCommand(command); });
     return *m_main;
 }
 
@@ -59,6 +61,12 @@ void FormOpener::connectMain(Messenger &engine, std::function<QString()> statusN
                              engine.announcement(), engine.log(), m_services.common, *m_dialogs,
                              std::move(statusNotes)},
                             std::move(ended));
+}
+
+void FormOpener::runCommand(const QString &name)
+{
+    if (m_dialogs && name == networkDoctorCommand)
+        m_dialogs->mnuNetworkDoctor();
 }
 
 void FormOpener::destroyMain()

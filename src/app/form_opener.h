@@ -55,6 +55,9 @@ public:
     void unloadTipOfTheDay() override;
 
 private:
+    /// Of the main window's log; one that is not known is ignored.
+    void runCommand(const QString &name);
+
     FormServices m_services;
     ConversationForms m_conversations;
     NotifySlide m_slide;

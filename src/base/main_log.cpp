@@ -77,6 +77,17 @@ void MainLog::note(const QString &text)
     line(tr("--- %1 ---").arg(text), colours::banner);
 }
 
+void MainLog::note(const QString &text, const LogCommand &command)
+{
+    const QString mark = QStringLiteral("%1"), whole = tr("--- %1 ---").arg(text);
+    const qsizetype place = whole.indexOf(mark);
+    if (place < 0)
+        return line(whole, colours::banner);
+    appendText(m_log, whole.left(place), colours::banner);
+    appendCommand(m_log, command.words, colours::banner, command.name);
+    line(whole.mid(place + mark.size()), colours::banner);
+}
+
 void MainLog::remark(const QString &sentence)
 {
     line(sentence, colours::banner);

@@ -9,6 +9,15 @@
 namespace nimb
 {
 
+/// Words in a line of the log that open something when they are clicked.
+struct LogCommand {
+    QString words;
+    QString name; ///< see RichTextLog::setSelCommand()
+};
+
+/// Opens the network doctor.
+inline const QString networkDoctorCommand = QStringLiteral("networkDoctor");
+
 class MainLog
 {
     Q_DECLARE_TR_FUNCTIONS(MainLog)
@@ -35,6 +44,8 @@ public:
     void fault(const QString &sentence);
     /// What the program does, or has done, because the user has asked for it: a part of a sentence.
     void note(const QString &text);
+    /// The same with a command in the place of "%1".
+    void note(const QString &text, const LogCommand &command);
     /// Something worth knowing that is no fault.
     void remark(const QString &sentence);
 

@@ -24,6 +24,8 @@ public:
     /// Whether the lines that are begun from now on go on with what stands before them, as those of a message do. They
     /// are shown so that nobody takes one for a line of its own.
     virtual void setSelContinues(bool continues) = 0;
+    /// What is inserted from now on is a command: a click on it asks for what has this name. Empty: it is none.
+    virtual void setSelCommand(const QString &name) = 0;
     /// Replaces the selection by plain text; CR LF is a line break.
     virtual void setSelText(const QString &text) = 0;
     /// Replaces the selection by a fragment of rich text, which may be a picture; see log/metafile.h for its form.
@@ -38,6 +40,14 @@ inline void appendText(RichTextLog &log, const QString &text, Colour colour)
     log.setSelStart(log.textLength());
     log.setSelColor(colour);
     log.setSelText(text);
+}
+
+/// The same, with a command; see RichTextLog::setSelCommand().
+inline void appendCommand(RichTextLog &log, const QString &text, Colour colour, const QString &name)
+{
+    log.setSelCommand(name);
+    appendText(log, text, colour);
+    log.setSelCommand({});
 }
 
 /// Appends a picture at the end of the log and leaves the caret behind it.

@@ -32,6 +32,8 @@ constexpr std::chrono::milliseconds frame{16};
 constexpr std::size_t piecesAtOnce = 1000;
 constexpr qreal smallestLetters = 5, largestLetters = 48; ///< points
 constexpr int wheelNotch = 120;
+/// In front of the name of a command where links have an address. No address that is found in a text begins so.
+constexpr QLatin1Char commandMark('#');
 /// Pixels by which what continues a line stands further in than the line.
 constexpr int continuationIndent = 18;
 
@@ -235,7 +237,7 @@ void RichTextLogEdit::setSelText(const QString &text)
     QString plain = text;
     plain.replace(lineBreak, QLatin1String("\n"));
     plain.replace(QChar(0xFDD0), QChar::ReplacementCharacter).replace(QChar(0xFDD1), QChar::ReplacementCharacter);
-    gather(plain, m_format);
+    gather(plain, m_command.isEmpty() ? m_format : commandFormat());
 }
 
 void RichTextLogEdit::setSelRtf(const QString &fragment, const QString &alternative)
@@ -371,6 +373,7 @@ void RichTextLogEdit::clear()
     m_caret.setPosition(0);
     m_format = QTextCharFormat();
     m_continues = false;
+    m_command.clear();
     prepareLines();
 }
 
@@ -418,6 +421,16 @@ qreal RichTextLogEdit::zoomFactor() const
 QColor RichTextLogEdit::linkColour() const
 {
     return readableOn(palette().color(QPalette::Link), palette().color(QPalette::Base));
+}
+
+QTextCharFormat RichTextLogEdit::commandFormat() const
+{
+    QTextCharFormat format = m_format;
+    format.setAnchor(true);
+    format.setAnchorHref(commandMark + m_command);
+    format.setForeground(linkColour());
+    format.setFontUnderline(true);
+    return format;
 }
 
 void RichTextLogEdit::changeEvent(QEvent *event)
@@ -472,21 +485,33 @@ void RichTextLogEdit::adaptColours()
 
 QUrl RichTextLogEdit::linkAt(const QPoint &place) const
 {
-    return QUrl(anchorAt(place), QUrl::StrictMode);
+    const QString target = anchorAt(place);
+    return target.startsWith(commandMark) ? QUrl() : QUrl(target, QUrl::StrictMode);
+}
+
+QString RichTextLogEdit::commandAt(const QPoint &place) const
+{
+    const QString target = anchorAt(place);
+    return target.startsWith(commandMark) ? target.mid(1) : QString();
 }
 
 void RichTextLogEdit::mousePressEvent(QMouseEvent *event)
 {
-    const QUrl target = event->button() == Qt::LeftButton ? linkAt(event->position().toPoint()) : QUrl();
+    const bool isLeft = event->button() == Qt::LeftButton;
+    const QUrl target = isLeft ? linkAt(event->position().toPoint()) : QUrl();
+    const QString command = isLeft ? commandAt(event->position().toPoint()) : QString();
     QTextEdit::mousePressEvent(event);
     if (!target.isEmpty())
         Q_EMIT linkPressed(target);
+    if (!command.isEmpty())
+        Q_EMIT commandPressed(command);
 }
 
 void RichTextLogEdit::mouseMoveEvent(QMouseEvent *event)
 {
     const QUrl target = linkAt(event->position().toPoint());
-    viewport()->setCursor(target.isEmpty() ? Qt::IBeamCursor : Qt::PointingHandCursor);
+    const bool leadsSomewhere = !anchorAt(event->position().toPoint()).isEmpty();
+    viewport()->setCursor(leadsSomewhere ? Qt::PointingHandCursor : Qt::IBeamCursor);
     viewport()->setToolTip(target.isEmpty() ? QString() : readableAddress(target));
     QTextEdit::mouseMoveEvent(event);
 }

@@ -44,6 +44,7 @@ public:
     /// The font of the whole log.
     void setSelFont(const LogFont &font) override;
     void setSelContinues(bool continues) override { m_continues = continues; }
+    void setSelCommand(const QString &name) override { m_command = name; }
     void setSelText(const QString &text) override;
     void setSelRtf(const QString &fragment, const QString &alternative) override;
     void clear() override;
@@ -51,6 +52,8 @@ public:
 Q_SIGNALS:
     /// The left button was pressed on a link.
     void linkPressed(const QUrl &target);
+    /// The same on a command; see setSelCommand().
+    void commandPressed(const QString &name);
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -84,11 +87,15 @@ private:
     void applyFont();
     qreal zoomFactor() const;
     QColor linkColour() const;
+    QTextCharFormat commandFormat() const;
     QUrl linkAt(const QPoint &place) const;
+    /// Empty where there is none.
+    QString commandAt(const QPoint &place) const;
 
     QTextCursor m_caret;
     QTextCharFormat m_format;
     bool m_continues = false;
+    QString m_command;
     std::optional<LogFont> m_font;
     int m_zoom = 0; ///< points
     bool m_detectsLinks = false;

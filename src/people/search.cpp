@@ -210,7 +210,8 @@ void Search::finish(Run &run)
     run.timer->stop();
     if (run.answers.empty())
         return m_parts.log.note(tr("nobody answered: nobody may be there, a firewall may be in the way, or the network "
-                                   "may keep its machines apart; Help, Network doctor... looks which"));
+                                   "may keep its machines apart; %1 looks which"),
+                                {tr("Help, Network doctor..."), networkDoctorCommand});
     tellAnswers(run);
 }
 

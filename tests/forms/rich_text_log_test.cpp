@@ -510,6 +510,28 @@ TEST_F(RichTextLogTest, ALinkUnderThePointerShowsAHandAndItsWholeAddress)
     EXPECT_EQ(log.viewport()->toolTip(), QString());
 }
 
+TEST_F(RichTextLogTest, ACommandIsAskedForByItsNameAndIsNoLinkToBeOpened)
+{
+    log.setLinkDetection(true);
+    appendText(log, QStringLiteral("ask the "), 0);
+    appendCommand(log, QStringLiteral("doctor"), 0, QStringLiteral("networkDoctor"));
+    appendText(log, QStringLiteral(" now #networkDoctor\r\n"), 0);
+    log.writeGathered();
+    EXPECT_EQ(log.toPlainText(), QStringLiteral("ask the doctor now #networkDoctor\n"));
+    QSignalSpy links(&log, &RichTextLogEdit::linkPressed), commands(&log, &RichTextLogEdit::commandPressed);
+    QTest::mouseMove(log.viewport(), placeOf("doctor"));
+    EXPECT_EQ(log.viewport()->cursor().shape(), Qt::PointingHandCursor);
+    EXPECT_EQ(log.viewport()->toolTip(), QString());
+    QTest::mousePress(log.viewport(), Qt::RightButton, {}, placeOf("doctor"));
+    QTest::mousePress(log.viewport(), Qt::LeftButton, {}, placeOf("now"));
+    QTest::mousePress(log.viewport(), Qt::LeftButton, {}, placeOf("#network"));
+    EXPECT_EQ(commands.count(), 0);
+    QTest::mousePress(log.viewport(), Qt::LeftButton, {}, placeOf("doctor"));
+    ASSERT_EQ(commands.count(), 1);
+    EXPECT_EQ(commands.front().front().toString(), QStringLiteral("networkDoctor"));
+    EXPECT_EQ(links.count(), 0);
+}
+
 TEST_F(RichTextLogTest, AMixedScriptHostIsShownInPunycodeBeforeTheClick)
 {
     log.setLinkDetection(true);

@@ -24,6 +24,7 @@ public:
     void setSelColor(Colour) override { }
     void setSelFont(const LogFont &) override { }
     void setSelContinues(bool) override { }
+    void setSelCommand(const QString &) override { }
     void setSelText(const QString &piece) override { note(piece, false); }
     void setSelRtf(const QString &, const QString &alternative) override { note(alternative, true); }
     void clear() override { }

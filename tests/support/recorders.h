@@ -37,6 +37,7 @@ public:
         Colour colour = 0;
         QString fragment = {};  ///< of a picture, whose text is its alternative
         bool continues = false; ///< the lines that it begins continue the one before
+        QString command = {};   ///< what a click on it asks for
     };
 
     qsizetype textLength() const override { return text().size(); }
@@ -44,11 +45,12 @@ public:
     void setSelColor(Colour colour) override { m_colour = colour; }
     void setSelFont(const LogFont &font) override { lastFont = font; }
     void setSelContinues(bool continues) override { m_continues = continues; }
+    void setSelCommand(const QString &name) override { m_command = name; }
     void setSelText(const QString &text) override
     {
         if (!m_caretAtEnd)
             qFatal("text inserted before the end of a log");
-        pieces.push_back({.text = text, .colour = m_colour, .continues = m_continues});
+        pieces.push_back({.text = text, .colour = m_colour, .continues = m_continues, .command = m_command});
         if (changed)
             changed();
     }
@@ -91,6 +93,7 @@ public:
 private:
     Colour m_colour = 0;
     bool m_continues = false;
+    QString m_command;
     bool m_caretAtEnd = true;
 };
 

@@ -15,6 +15,7 @@ public:
     void setSelColor(Colour) override { }
     void setSelFont(const LogFont &) override { }
     void setSelContinues(bool) override { }
+    void setSelCommand(const QString &) override { }
     void setSelText(const QString &) override { ++pieces; }
     void setSelRtf(const QString &, const QString &) override { ++pieces; }
     void clear() override { }
