@@ -14,7 +14,7 @@ Messenger::Messenger(Common &common, const Surroundings &around)
       m_port(around.socket, common, around.timers, m_log, around.mainView,
              [this] { m_announcement.runUnlessInvisible(); }),
       m_networks({common, around.socket, around.ownAddresses, around.networkWatch, m_port, m_announcement, m_log,
-                  around.mainView, around.timers, around.chance}),
+                  around.mainView, around.timers, around.chance, [this] { m_conferences.ownAddressChanged(); }}),
       m_privateWindows({{common, around.socket, around.clock}, around.sound, around.timers, around.privateForms},
                        m_contacts, around.drops),
       m_search({common, m_sender, m_contacts, around.ownAddresses, m_log, around.mainView, around.timers}),

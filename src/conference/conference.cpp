@@ -108,6 +108,13 @@ void Conference::ReceiveMessage(Ipv4Address IP, const QString &msg)
     showAvatarOf(IP);
 }
 
+void Conference::ownAddressChanged()
+{
+    m_participants.setOwnAddress(common().ownIP);
+    if (isHostedHere())
+        m_identity.ConfServerIP = common().ownIP;
+}
+
 void Conference::terminate()
 {
     ReceiveCommand(tr("--- This conference is terminated."), colours::banner);

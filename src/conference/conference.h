@@ -58,6 +58,8 @@ public:
     /// A message of the participant with this address: shown and, at the host, relayed.
     void ReceiveMessage(Ipv4Address IP, const QString &msg);
     void ReceiveCommand(const QString &msg, Colour color) { appendLine(msg, color); }
+    /// This copy is known by another address now.
+    void ownAddressChanged();
     /// The host has closed it, or has removed this copy from it.
     void terminate();
 

@@ -22,6 +22,14 @@ void ConferenceTable::contactChanged(const Contact &contact)
     }
 }
 
+void ConferenceTable::ownAddressChanged()
+{
+    for (const auto &conference : m_slots) {
+        if (conference)
+            conference->ownAddressChanged();
+    }
+}
+
 int ConferenceTable::CreateNewConfWin(bool host, std::int16_t ChnNum, Ipv4Address IP)
 {
     int slot = 1;

@@ -45,6 +45,9 @@ public:
     /// This host has said that its conference of this number is over for this copy.
     void forgetGuestship(Ipv4Address host, int number) { m_guestships.erase({host, number}); }
 
+    /// This copy is known by another address now.
+    void ownAddressChanged();
+
     void unloadAll();
     /// What unloading says to hosts and guests; the windows stay as they are.
     void takeLeave();

@@ -66,6 +66,16 @@ void Participants::setAllAbsent()
     Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
 }
 
+void Participants::setOwnAddress(const ContactAddress &ip)
+{
+    const auto own = std::ranges::find(m_rows, true, &Participant::own);
+    if (own == m_rows.end() || own->ip == ip)
+        return;
+    const ContactAddress before = own->ip;
+    remove(ip);
+    change(before, [&ip](Participant &participant) { participant.ip = ip; });
+}
+
 void Participants::setName(const ContactAddress &ip, const QString &name)
 {
     const Participant *const row = find(ip);

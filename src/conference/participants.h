@@ -49,6 +49,8 @@ public:
     void setPresent(const ContactAddress &ip);
     /// Marks all but the own row as not there.
     void setAllAbsent();
+    /// Of the own row. Another row with that address goes: it has been somebody else's.
+    void setOwnAddress(const ContactAddress &ip);
     /// The own row keeps its name.
     void setName(const ContactAddress &ip, const QString &name);
 

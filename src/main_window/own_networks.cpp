@@ -88,6 +88,8 @@ void OwnNetworks::changed()
     const bool listensAgain = m_parts.port.networksChanged();
     const Networks before = std::exchange(m_now, look());
     take(m_now);
+    if (m_now.own != before.own)
+        m_parts.ownAddressChanged();
     if (m_now == before && !listensAgain)
         return;
     tellChange(before);

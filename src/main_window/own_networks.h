@@ -12,6 +12,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -37,6 +38,7 @@ public:
         NetworkView &view;
         Timers &timers;
         Chance &chance;
+        std::function<void()> ownAddressChanged; ///< after the start
     };
 
     explicit OwnNetworks(const Parts &parts);

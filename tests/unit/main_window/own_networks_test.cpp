@@ -56,6 +56,23 @@ TEST(OwnNetworks, AnAddressThatChangesIsTakenAndToldToTheContacts)
     EXPECT_THAT(machine.chance.asked, ElementsAre(3000ms));
 }
 
+TEST(OwnNetworks, ConferencesThatAreOpenBearTheNewAddress)
+{
+    Machine machine({.contacts = {{"10.0.0.2", "Ann"}, {"10.0.0.7", "Ben"}}});
+    machine.arrive("10.0.0.7", "!ONLINE 10.0.0.7 PC-BEN Ben");
+    machine.engine.conferences().mnuCreateNewConf();
+    Conference &conference = machine.conference(1).conference;
+    conference.invite(QStringLiteral("10.0.0.7"));
+    conference.invite(QStringLiteral("10.0.0.2"));
+    machine.becomes({otherAddress}, Ipv4Address(10, 0, 0, 7));
+    std::vector<std::string> rows;
+    for (const Participant &one : conference.partecipanti().rows())
+        rows.push_back(one.ip.text().toStdString() + " " + one.name.toStdString());
+    EXPECT_THAT(rows, ElementsAre("10.0.0.7 Me (you)", "10.0.0.2 Ann")) << "Ben's address is ours now";
+    EXPECT_TRUE(conference.partecipanti().rows().front().own);
+    EXPECT_EQ(conference.identity().ConfServerIP, Ipv4Address(10, 0, 0, 7));
+}
+
 TEST(OwnNetworks, ChanceDecidesWhenTheContactsAreAsked)
 {
     Machine machine;
