@@ -8,7 +8,6 @@ namespace nimb
 namespace
 {
 
-/// An echo of this copy's own datagrams is nobody's.
 Drop reasonOf(Refusal refusal)
 {
     switch (refusal) {
@@ -35,8 +34,11 @@ PresenceReceiver::PresenceReceiver(const Common &common, const Admission &admiss
 
 void PresenceReceiver::strangerSeen(Ipv4Address ip, const PeerIdentity &peer, bool online)
 {
-    if (const std::optional<Refusal> refusal = m_admission.refusal(ip))
-        return m_drops.count(reasonOf(*refusal));
+    if (const std::optional<Refusal> refusal = m_admission.refusal(ip)) {
+        if (refusal != Refusal::ownAddress) // an own question that comes back is no loss
+            m_drops.count(reasonOf(*refusal));
+        return;
+    }
     Contact contact;
     contact.ip = ip;
     contact.nickname = nameOrUnknown(peer.nick);

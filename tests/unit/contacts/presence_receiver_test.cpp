@@ -344,6 +344,7 @@ TEST_F(PresenceReceiverTest, OwnAndLoopbackDatagramsNeverAddARow)
     copy.arrive("127.0.0.1", "?ONLINE 127.0.0.1 HERE Me");
     EXPECT_FALSE(copy.knows("10.0.0.1"));
     EXPECT_FALSE(copy.knows("127.0.0.1"));
+    EXPECT_EQ(copy.drops.of(Drop::stranger), 1u) << "an echo of the own question is no loss";
 }
 
 TEST_F(PresenceReceiverTest, OtherDatagramsOfStrangersLeaveNoTrace)

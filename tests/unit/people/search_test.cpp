@@ -90,8 +90,9 @@ TEST_F(SearchTest, TheLineAboutSilenceNamesTheDoctorAndOpensIt)
 {
     ask(Ipv4Address(10, 0, 0, 77));
     pass(3s);
-    EXPECT_EQ(lastLine(), "--- nobody answered: nobody may be there, a firewall may be in the way, or the network may "
-                          "keep its machines apart; Help, Network doctor... looks which ---");
+    EXPECT_EQ(lastLine(),
+              "--- nobody answered: nobody may be there, a firewall may be in the way, or the network may "
+              "keep its machines apart; Help, Network doctor... looks which ---");
     std::vector<std::string> commands;
     for (const RecorderLog::Piece &piece : me.view.log.pieces) {
         if (!piece.command.isEmpty())
