@@ -4,6 +4,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QList>
+#include <QStringList>
 
 #include <algorithm>
 #include <map>
@@ -95,15 +96,50 @@ private:
         std::vector<QJsonObject> chains;
         for (const QJsonValue entry : m_ruleset) {
             const QJsonObject chain = entry[QLatin1String("chain")].toObject();
-            const QString family = text(chain, "family"), hook = text(chain, "hook");
-            const bool isMet = hook == QLatin1String("input") || hook == QLatin1String("prerouting");
-            if (isMet && (family == QLatin1String("ip") || family == QLatin1String("inet")))
+            const QString family = text(chain, "family");
+            const bool isOurs
+                = family == QLatin1String("ip") || family == QLatin1String("inet") || family == QLatin1String("netdev");
+            if (isOurs && placeOnTheWay(chain) && isMet(chain))
                 chains.push_back(chain);
         }
         std::ranges::stable_sort(chains, {}, [](const QJsonObject &chain) {
-            return std::pair(text(chain, "hook") == QLatin1String("input"), chain.value(QLatin1String("prio")).toInt());
+            return std::pair(placeOnTheWay(chain), chain.value(QLatin1String("prio")).toInt());
         });
         return chains;
+    }
+
+    /// From 1 on, nothing where our datagram does not come by.
+    static std::optional<int> placeOnTheWay(const QJsonObject &chain)
+    {
+        static const QStringList hooks{QStringLiteral("ingress"), QStringLiteral("prerouting"),
+                                       QStringLiteral("input")};
+        const qsizetype place = hooks.indexOf(text(chain, "hook"));
+        return place < 0 ? std::nullopt : std::optional(static_cast<int>(place) + 1);
+    }
+
+    /// Those of one card are met by what comes through it, those of a table that sleeps by nothing. nft 1.0.6 writes
+    /// something else where it should say that a table sleeps or has an owner.
+    bool isMet(const QJsonObject &chain) const
+    {
+        const bool isOfOneCard = text(chain, "hook") == QLatin1String("ingress");
+        const QJsonValue flags = flagsOfTable(chain);
+        const auto has = [&flags](const char *name) {
+            return flags == QJsonValue(QLatin1String(name)) || flags.toArray().contains(QLatin1String(name));
+        };
+        if (has("dormant"))
+            return false;
+        const bool isPlain = flags.isUndefined() || flags.isArray() || has("owner") || has("persist");
+        return (isPlain && !isOfOneCard) || m_unknown == Unknown::matches;
+    }
+
+    QJsonValue flagsOfTable(const QJsonObject &chain) const
+    {
+        for (const QJsonValue entry : m_ruleset) {
+            const QJsonObject table = entry[QLatin1String("table")].toObject();
+            if (text(table, "name") == text(chain, "table") && text(table, "family") == text(chain, "family"))
+                return table.value(QLatin1String("flags"));
+        }
+        return QJsonValue::Undefined;
     }
 
     Outcome walk(const QJsonObject &chain, int depth)
@@ -318,7 +354,7 @@ std::optional<NftAnswer> nftAnswer(const QByteArray &json, std::uint16_t udpPort
     const bool isSure = one.has_value() == other.has_value() && !strict.gaveUp() && !lenient.gaveUp();
     const RuleAnswer answer = one ? RuleAnswer::blocks : RuleAnswer::lets;
     return NftAnswer{
-        .hasInput = strict.hasInput(), .answer = isSure ? answer : RuleAnswer::unsure, .block = one ? one : other};
+        .hasInput = lenient.hasInput(), .answer = isSure ? answer : RuleAnswer::unsure, .block = one ? one : other};
 }
 
 } // namespace nimb

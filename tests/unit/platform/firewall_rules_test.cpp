@@ -232,6 +232,36 @@ TEST(Nftables, WhatIsDroppedBeforeItComesInIsDropped)
               (NftBlock{QStringLiteral("inet"), QStringLiteral("filter"), QStringLiteral("early")}));
 }
 
+TEST(Nftables, ATableThatSleepsKeepsNothingOut)
+{
+    const auto sleeping = [](const QByteArray &flags) {
+        return R"({"nftables": [{"table": {"family": "inet", "name": "x", "handle": 1, "flags": )" + flags + R"(}},
+            {"chain": {"family": "inet", "table": "x", "name": "in", "handle": 1, "type": "filter", "hook": "input",
+                       "prio": 0, "policy": "drop"}}]})";
+    };
+    EXPECT_TRUE(nftLets(sleeping(R"("dormant")")));
+    EXPECT_TRUE(nftLets(sleeping(R"(["owner", "dormant"])")));
+    EXPECT_FALSE(nftAnswer(sleeping(R"("dormant")"), port)->hasInput);
+    EXPECT_EQ(nftSays(sleeping(R"("owner")")), RuleAnswer::blocks);
+    EXPECT_EQ(nftSays(sleeping(R"(["owner"])")), RuleAnswer::blocks);
+    EXPECT_EQ(nftSays(sleeping(R"("x")")), RuleAnswer::unsure) << "as nft 1.0.6 writes both";
+}
+
+TEST(Nftables, WhatOneCardKeepsOutIsKeptOutForSome)
+{
+    const auto card = [](const QByteArray &rules) {
+        return R"({"nftables": [{"table": {"family": "netdev", "name": "y", "handle": 2}},
+            {"chain": {"family": "netdev", "table": "y", "name": "in", "handle": 1, "type": "filter",
+                       "hook": "ingress", "prio": 0, "policy": "accept"}},
+            {"rule": {"family": "netdev", "table": "y", "chain": "in", "handle": 2, "expr": [)"
+            + rules + "]}}]}";
+    };
+    EXPECT_EQ(nftSays(card(toOurPort + R"(, {"drop": null})")), RuleAnswer::unsure);
+    EXPECT_EQ(nftAnswer(card(toOurPort + R"(, {"drop": null})"), port)->block,
+              (NftBlock{QStringLiteral("netdev"), QStringLiteral("y"), QStringLiteral("in")}));
+    EXPECT_TRUE(nftLets(card(R"({"counter": {"packets": 0, "bytes": 0}})")));
+}
+
 TEST(Nftables, WhoGoesToAChainDoesNotComeBack)
 {
     const QByteArray chain = R"(, {"chain": {"family": "inet", "table": "filter", "name": "lan", "handle": 5}})";
