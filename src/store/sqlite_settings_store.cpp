@@ -278,14 +278,15 @@ void SqliteSettingsStore::CloseDatabase::operator()(sqlite3 *database) const
     sqlite3_close_v2(database);
 }
 
-SqliteSettingsStore::SqliteSettingsStore(const QString &folder)
-    : m_folder(QDir(folder).absolutePath()), m_file(m_folder + QStringLiteral("/settings.sqlite3"))
+SqliteSettingsStore::SqliteSettingsStore(const QString &folder, Access access)
+    : m_folder(QDir(folder).absolutePath()), m_file(m_folder + QStringLiteral("/settings.sqlite3")), m_access(access)
 {
     open();
     m_valuesSeen = m_database != nullptr;
     const bool isEmpty = m_valuesSeen && m_values.isEmpty() && m_recovered.isEmpty();
     m_isLost = m_damaged || isEmpty || !m_damagedSections.isEmpty();
-    m_copyOffered = (m_isLost || QFile::exists(offerMark())) && QFileInfo(goodCopy()).size() > 0;
+    m_copyOffered = m_access == Access::readAndWrite && (m_isLost || QFile::exists(offerMark()))
+        && QFileInfo(goodCopy()).size() > 0;
     // What is stored next hides the loss from the next start, and with it that nobody has decided yet.
     if (m_copyOffered)
         QFile(offerMark()).open(QFile::WriteOnly);
@@ -413,19 +414,23 @@ std::optional<QString> SqliteSettingsStore::problem() const
 /// Leaves the cause of a failure in m_trouble and m_reason.
 void SqliteSettingsStore::open()
 {
+    const bool mayWrite = m_access == Access::readAndWrite;
     Trouble step = Trouble::folder;
     try {
-        if (const std::optional<QString> reason = makePrivateFolder(m_folder))
-            throw Failure{*reason};
-        step = Trouble::file;
-        if (const std::optional<QString> reason = makePrivateFile(m_file))
-            throw Failure{*reason};
-        takeFileFromOthers(m_file);
-        takeFolderFromOthers(m_folder);
+        if (mayWrite) {
+            if (const std::optional<QString> reason = makePrivateFolder(m_folder))
+                throw Failure{*reason};
+            step = Trouble::file;
+            if (const std::optional<QString> reason = makePrivateFile(m_file))
+                throw Failure{*reason};
+            takeFileFromOthers(m_file);
+            takeFolderFromOthers(m_folder);
+        }
         step = Trouble::reading;
         readFile();
         step = Trouble::writing;
-        checkWritable();
+        if (mayWrite)
+            checkWritable();
         step = Trouble::none;
     } catch (const Failure &failure) {
         m_reason = failure.reason;
@@ -436,7 +441,7 @@ void SqliteSettingsStore::open()
 
 void SqliteSettingsStore::readFile()
 {
-    Database database = openDatabase(m_file);
+    Database database = openDatabase(m_file, m_access);
     Contents contents = read(database.get(), m_file);
     m_database = std::move(database);
     m_values = std::move(contents.values);
@@ -446,10 +451,11 @@ void SqliteSettingsStore::readFile()
     m_damagedSections = std::move(contents.damagedSections);
 }
 
-SqliteSettingsStore::Database SqliteSettingsStore::openDatabase(const QString &file)
+SqliteSettingsStore::Database SqliteSettingsStore::openDatabase(const QString &file, Access access)
 {
     sqlite3 *opened = nullptr;
-    const int code = sqlite3_open_v2(nameForSqlite(file).constData(), &opened, SQLITE_OPEN_READWRITE, nullptr);
+    const int flags = access == Access::readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
+    const int code = sqlite3_open_v2(nameForSqlite(file).constData(), &opened, flags, nullptr);
     Database database(opened); // to be closed even when it could not be opened
     check(code, opened);
     check(sqlite3_extended_result_codes(opened, 1), opened);

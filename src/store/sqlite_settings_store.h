@@ -27,7 +27,9 @@ class SqliteSettingsStore : public SettingsStore, public GoodCopy
 public:
     /// Makes the folder (mode 0700) and an empty file (mode 0600) where they are missing; those that are there are
     /// taken from everybody else. May wait two seconds for another program that holds the file, as save() may.
-    explicit SqliteSettingsStore(const QString &folder);
+    explicit SqliteSettingsStore(const QString &folder) : SqliteSettingsStore(folder, Access::readAndWrite) { }
+    /// For whoever only looks: nothing is made or changed in the folder, and saving fails.
+    static SqliteSettingsStore forReading(const QString &folder) { return {folder, Access::readOnly}; }
     ~SqliteSettingsStore() override;
 
     /// Every character comes back as it was written, except that UTF-8 has no room for half a surrogate pair.
@@ -70,10 +72,13 @@ private:
         QStringList damagedSections; ///< whose values differ from what was saved
     };
     enum class Trouble { none, folder, file, reading, writing };
+    enum class Access { readAndWrite, readOnly };
+
+    SqliteSettingsStore(const QString &folder, Access access);
 
     void open();
     void readFile();
-    static Database openDatabase(const QString &file);
+    static Database openDatabase(const QString &file, Access access = Access::readAndWrite);
     static Contents read(sqlite3 *database, const QString &file);
     static void readChanges(sqlite3 *database, Contents &contents);
     static void copyDatabase(sqlite3 *from, const QString &to);
@@ -101,6 +106,7 @@ private:
 
     QString m_folder;
     QString m_file;
+    Access m_access;
     Database m_database; ///< empty unless its values could be read
     Values m_values;
     Values m_pending;

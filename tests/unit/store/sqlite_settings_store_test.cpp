@@ -220,6 +220,29 @@ TEST_F(SqliteSettingsStoreTest, AFolderOfSomebodyElseKeepsItsMode)
     EXPECT_EQ(modeOf(folder), 0755);
 }
 
+TEST_F(SqliteSettingsStoreTest, WhoeverOnlyLooksChangesNothing)
+{
+    {
+        const SqliteSettingsStore nothing = SqliteSettingsStore::forReading(folder);
+        EXPECT_NE(nothing.problem(), std::nullopt);
+        EXPECT_FALSE(QFile::exists(folder));
+        SqliteSettingsStore store(folder);
+        store.write("Options", "LiveType", "0");
+        ASSERT_EQ(store.save(), std::nullopt);
+    }
+    letEverybodyIn();
+    SqliteSettingsStore looking = SqliteSettingsStore::forReading(folder);
+    EXPECT_EQ(looking.problem(), std::nullopt);
+    EXPECT_EQ(looking.read("Options", "LiveType", "1"), "0");
+    looking.write("Options", "LiveType", "1");
+    EXPECT_NE(looking.save(), std::nullopt);
+    EXPECT_EQ(SqliteSettingsStore::forReading(folder).read("Options", "LiveType", "1"), "0");
+    EXPECT_EQ(modeOf(folder), 0755);
+    putFile("");
+    EXPECT_EQ(SqliteSettingsStore::forReading(folder).problem(), std::nullopt);
+    EXPECT_EQ(QFileInfo(file).size(), 0);
+}
+
 TEST_F(SqliteSettingsStoreTest, AnEmptyFileIsAnEmptyStore)
 {
     putFile("");
