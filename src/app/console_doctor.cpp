@@ -31,7 +31,7 @@ ConsoleDoctor::ConsoleDoctor(const Environment &environment, std::function<void(
                 .contacts = m_contacts,
                 .timers = m_timers,
                 .clock = m_clock,
-                .patient = Patient::runningCopy},
+                .profileElsewhere = environment.profileFolder},
                *this)
 {
     m_common.ownHostName = m_socket.LocalHostName();
@@ -48,7 +48,7 @@ void ConsoleDoctor::readProfile(const QString &folder)
 {
     if (!QFile::exists(folder + QLatin1String("/settings.sqlite3")))
         return;
-    const SqliteSettingsStore store(folder);
+    const SqliteSettingsStore store = SqliteSettingsStore::forReading(folder);
     m_profileTrouble = store.problem();
     loadSettings(store, m_common);
     if (m_ownAddresses.isFixed() || m_common.ownCard.isEmpty())

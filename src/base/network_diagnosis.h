@@ -16,6 +16,7 @@ namespace nimb
 struct PortHolder {
     QString program; ///< empty where the system does not tell: it is another user's
     qint64 process = 0;
+    QString profile{}; ///< folder of the settings that NIMB-Chat would use there; empty where the system does not tell
     bool operator==(const PortHolder &) const = default;
 };
 
@@ -45,8 +46,10 @@ class NetworkDiagnosis
 {
 public:
     virtual ~NetworkDiagnosis() = default;
-    /// Nothing where nobody listens there, or the system does not tell.
-    [[nodiscard]] virtual std::optional<PortHolder> holderOf(std::uint16_t port) const = 0;
+    /// Who listens at this port of this address, or without one at that of any address of this machine. Nothing where
+    /// nobody does, or the system does not tell.
+    [[nodiscard]] virtual std::optional<PortHolder> holderOf(std::uint16_t port,
+                                                             std::optional<Ipv4Address> address) const = 0;
     /// Bytes that the system grants for waiting datagrams; 0 where it grants none.
     [[nodiscard]] virtual int receiveBufferBytes() const = 0;
     /// Sends an empty datagram to everybody on the card's network, at the port where whatever comes is thrown away

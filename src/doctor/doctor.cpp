@@ -110,12 +110,13 @@ void Doctor::examinePort()
 {
     const std::uint16_t port = m_parts.common.udpPort;
     const bool isBound = m_parts.socket.isBound();
-    const std::optional<PortHolder> holder = isBound ? std::nullopt : m_parts.diagnosis.holderOf(port);
-    m_isHeldByPatient
-        = m_parts.patient == Patient::runningCopy && holder && holder->program == QLatin1String("nimb-chat");
+    const auto address = m_parts.ownAddresses.isFixed() ? std::optional(m_parts.common.ownIP) : std::nullopt;
+    const std::optional<PortHolder> holder = isBound ? std::nullopt : m_parts.diagnosis.holderOf(port, address);
+    m_isHeldByPatient = m_parts.profileElsewhere && holder && holder->program == QLatin1String("nimb-chat")
+        && holder->profile == m_parts.profileElsewhere;
     if (m_isHeldByPatient)
         found(findings::runningCopy(port, *holder));
-    else if (isBound && m_parts.patient == Patient::runningCopy)
+    else if (isBound && m_parts.profileElsewhere)
         found(findings::portIsFree(port));
     else
         found(findings::port(port, isBound, m_parts.socket.bindFailure(), holder));

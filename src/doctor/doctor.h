@@ -21,9 +21,6 @@
 namespace nimb
 {
 
-/// Who is examined: the copy in this process, or one in another that may have the port.
-enum class Patient { ourselves, runningCopy };
-
 class DoctorView
 {
 public:
@@ -52,7 +49,9 @@ public:
         const ContactList &contacts;
         Timers &timers;
         const WallClock &clock;
-        Patient patient = Patient::ourselves;
+        /// The folder of the settings of whom is examined, where that is a copy in another process, which may have the
+        /// port. Nothing: it is the copy in this one.
+        std::optional<QString> profileElsewhere{};
     };
 
     Doctor(const Parts &parts, DoctorView &view);

@@ -1,6 +1,7 @@
 #include "platform/environment.h"
 
 #include <QDir>
+#include <QProcessEnvironment>
 #include <QStandardPaths>
 
 namespace nimb
@@ -8,20 +9,31 @@ namespace nimb
 namespace
 {
 
-std::optional<QString> variable(const char *name)
+/// configuration: the user's folder for what programs keep.
+Environment environmentOf(const QProcessEnvironment &variables, const QString &configuration, const QString &folder)
 {
-    const QString value = qEnvironmentVariable(name);
-    return value.isEmpty() ? std::nullopt : std::optional(value);
+    const auto variable = [&variables](const char *name) {
+        const QString value = variables.value(QLatin1String(name));
+        return value.isEmpty() ? std::nullopt : std::optional(value);
+    };
+    const QString profile = variable("NIMBCHAT_PROFILE").value_or(configuration + QLatin1String("/NIMB-Chat"));
+    return {variable("NIMBCHAT_ADDRESS"), variable("NIMBCHAT_HOSTNAME"),
+            QDir::cleanPath(QDir(folder).absoluteFilePath(profile))};
 }
 
 } // namespace
 
 Environment Environment::fromSystem()
 {
-    const QString standard
-        = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QLatin1String("/NIMB-Chat");
-    return {variable("NIMBCHAT_ADDRESS"), variable("NIMBCHAT_HOSTNAME"),
-            QDir(variable("NIMBCHAT_PROFILE").value_or(standard)).absolutePath()};
+    return environmentOf(QProcessEnvironment::systemEnvironment(),
+                         QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation), QDir::currentPath());
+}
+
+Environment Environment::ofProcess(const QProcessEnvironment &variables, const QString &folder)
+{
+    const QString configuration = variables.value(QStringLiteral("XDG_CONFIG_HOME"));
+    const QString home = variables.value(QStringLiteral("HOME")) + QLatin1String("/.config");
+    return environmentOf(variables, configuration.isEmpty() ? home : configuration, folder);
 }
 
 } // namespace nimb

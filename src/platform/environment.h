@@ -5,6 +5,8 @@
 
 #include <optional>
 
+class QProcessEnvironment;
+
 namespace nimb
 {
 
@@ -15,6 +17,8 @@ struct Environment {
     QString profileFolder;           ///< NIMBCHAT_PROFILE, or NIMB-Chat in the user's configuration folder
 
     static Environment fromSystem();
+    /// Of another process on Linux, of which the system tells its variables and the folder in which it runs.
+    static Environment ofProcess(const QProcessEnvironment &variables, const QString &folder);
 };
 
 } // namespace nimb

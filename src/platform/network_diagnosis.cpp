@@ -1,6 +1,7 @@
 #include "platform/network_diagnosis.h"
 
 #include "platform/datagram_socket.h"
+#include "platform/environment.h"
 #include "platform/firewall_rules.h"
 #include "protocol/address_text.h"
 
@@ -9,8 +10,10 @@
 #include <QFileInfo>
 #include <QNetworkInterface>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QStandardPaths>
 #include <QTimer>
+#include <QtEndian>
 
 #include <algorithm>
 #include <array>
@@ -30,16 +33,38 @@ QByteArray contentsOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+/// Whether a socket at the address of the table stands in the way of one at that address. The tables write IPv4
+/// addresses as numbers of the machine, in hexadecimal; those of IPv6 end in them. All zeros are every address.
+bool isInTheWay(const QByteArray &written, std::optional<Ipv4Address> address)
+{
+    const std::uint32_t there = qFromBigEndian(written.right(8).toUInt(nullptr, 16));
+    return !address || written.count('0') == written.size() || there == address->number();
+}
+
 /// The inode of the socket in a table such as /proc/net/udp; empty when nobody has the port.
-QByteArray inodeOf(const QByteArray &table, std::uint16_t port)
+QByteArray inodeOf(const QByteArray &table, std::uint16_t port, std::optional<Ipv4Address> address)
 {
     constexpr int local = 1, inode = 9;
     for (const QByteArray &line : table.split('\n').mid(1)) {
         const QList<QByteArray> fields = line.simplified().split(' ');
-        if (fields.size() > inode && fields[local].split(':').last().toUInt(nullptr, 16) == port)
+        const QList<QByteArray> place = fields.value(local).split(':');
+        if (fields.size() > inode && place.last().toUInt(nullptr, 16) == port && isInTheWay(place.first(), address))
             return fields[inode];
     }
     return {};
+}
+
+/// The environment of a process as it was started; empty where it is somebody else's.
+Environment environmentOf(const QString &process)
+{
+    QProcessEnvironment variables;
+    for (const QByteArray &entry : contentsOf(process + QLatin1String("/environ")).split('\0')) {
+        if (const qsizetype equals = entry.indexOf('='); equals > 0)
+            variables.insert(QFile::decodeName(entry.left(equals)), QFile::decodeName(entry.mid(equals + 1)));
+    }
+    return variables.isEmpty()
+        ? Environment{}
+        : Environment::ofProcess(variables, QFile::symLinkTarget(process + QLatin1String("/cwd")));
 }
 
 bool holdsSocket(const QString &process, const QString &link)
@@ -114,9 +139,11 @@ Firewall nftFirewall(const std::optional<NftAnswer> &answer, std::uint16_t port)
 
 } // namespace
 
-std::optional<PortHolder> holderOfUdpPort(const QString &proc, std::uint16_t port)
+std::optional<PortHolder> holderOfUdpPort(const QString &proc, std::uint16_t port, std::optional<Ipv4Address> address)
 {
-    const QByteArray inode = inodeOf(contentsOf(proc + QLatin1String("/net/udp")), port);
+    QByteArray inode = inodeOf(contentsOf(proc + QLatin1String("/net/udp")), port, address);
+    if (inode.isEmpty()) // a socket for both kinds of addresses stands in the other table alone
+        inode = inodeOf(contentsOf(proc + QLatin1String("/net/udp6")), port, address);
     if (inode.isEmpty())
         return std::nullopt;
     const QString link = QStringLiteral("socket:[%1]").arg(QLatin1String(inode));
@@ -125,7 +152,8 @@ std::optional<PortHolder> holderOfUdpPort(const QString &proc, std::uint16_t por
         const qint64 process = entry.toLongLong(&isProcess);
         const QString folder = proc + u'/' + entry;
         if (isProcess && holdsSocket(folder, link))
-            return PortHolder{QString::fromLocal8Bit(contentsOf(folder + QLatin1String("/comm")).trimmed()), process};
+            return PortHolder{QString::fromLocal8Bit(contentsOf(folder + QLatin1String("/comm")).trimmed()), process,
+                              environmentOf(folder).profileFolder};
     }
     return PortHolder{};
 }
@@ -149,9 +177,9 @@ SystemNetworkDiagnosis::SystemNetworkDiagnosis(const UdpWinsock &socket)
 
 SystemNetworkDiagnosis::~SystemNetworkDiagnosis() = default;
 
-std::optional<PortHolder> SystemNetworkDiagnosis::holderOf(std::uint16_t port) const
+std::optional<PortHolder> SystemNetworkDiagnosis::holderOf(std::uint16_t port, std::optional<Ipv4Address> address) const
 {
-    return holderOfUdpPort(QStringLiteral("/proc"), port);
+    return holderOfUdpPort(QStringLiteral("/proc"), port, address);
 }
 
 int SystemNetworkDiagnosis::receiveBufferBytes() const

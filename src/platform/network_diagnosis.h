@@ -11,8 +11,9 @@
 namespace nimb
 {
 
-/// The process that holds the UDP port, by the lists of a Linux system. proc: where they are.
-std::optional<PortHolder> holderOfUdpPort(const QString &proc, std::uint16_t port);
+/// The process that holds the UDP port of this address or, without one, of any, by the lists of a Linux system. proc:
+/// where they are.
+std::optional<PortHolder> holderOfUdpPort(const QString &proc, std::uint16_t port, std::optional<Ipv4Address> address);
 
 /// Whether the table /proc/net/arp knows a machine with that address.
 bool isInNeighbourTable(const QByteArray &table, Ipv4Address address);
@@ -25,7 +26,7 @@ public:
     explicit SystemNetworkDiagnosis(const UdpWinsock &socket);
     ~SystemNetworkDiagnosis() override;
 
-    std::optional<PortHolder> holderOf(std::uint16_t port) const override;
+    std::optional<PortHolder> holderOf(std::uint16_t port, std::optional<Ipv4Address> address) const override;
     int receiveBufferBytes() const override;
     bool canBroadcast(const NetworkCard &card) const override;
     void readFirewall(std::uint16_t port, std::function<void(const Firewall &)> read) override;

@@ -113,6 +113,18 @@ TEST_F(ConsoleDoctor, NamesTheProgramThatHasThePort)
     EXPECT_EQ(answer.status, wrong);
 }
 
+TEST_F(ConsoleDoctor, TakesACopyWithAnotherProfileForAnotherProgram)
+{
+    WirePeer ann("127.0.36.2", port);
+    bob.start({"Bob"});
+    ann.hearUntil("!STATUS Online");
+    const RunningCopy other({"127.0.36.1", "BOB-PC"}, profile(port, {}));
+    EXPECT_THAT(Console(other.profileFolder(), "127.0.36.1").doctor().of("port"),
+                StartsWith("wrong: Port " + std::to_string(port) + " is used by the program nimb-chat (process "
+                           + std::to_string(bob.processId()) + ")."));
+    EXPECT_EQ(bob.end(), 0);
+}
+
 TEST_F(ConsoleDoctor, PrintsForPeopleUnlessItIsToldOtherwise)
 {
     const Console::Answer answer = console.run({QStringLiteral("doctor")});

@@ -542,7 +542,7 @@ public:
 class ToldDiagnosis : public NetworkDiagnosis
 {
 public:
-    std::optional<PortHolder> holderOf(std::uint16_t) const override { return holder; }
+    std::optional<PortHolder> holderOf(std::uint16_t, std::optional<Ipv4Address>) const override { return holder; }
     int receiveBufferBytes() const override { return receiveBuffer; }
     bool canBroadcast(const NetworkCard &card) const override { return !mute.contains(card.name); }
     void readFirewall(std::uint16_t, std::function<void(const Firewall &)> read) override { firewallRead = read; }

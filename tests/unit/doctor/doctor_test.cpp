@@ -58,7 +58,7 @@ protected:
                 .contacts = contacts,
                 .timers = time,
                 .clock = time,
-                .patient = patient};
+                .profileElsewhere = profileElsewhere};
     }
     Doctor &doctor()
     {
@@ -86,7 +86,7 @@ protected:
     ToldDiagnosis diagnosis;
     ContactList contacts;
     PresenceSender sender{common, socket};
-    Patient patient = Patient::ourselves;
+    std::optional<QString> profileElsewhere;
     int shown = 0, examinations = 0;
 
 private:
@@ -158,19 +158,33 @@ TEST_F(DoctorTest, AnotherCopyThatHasThePortIsTroubleForACopyAndWhatAConsoleLook
 
 TEST_F(DoctorTest, OnAConsoleTheRunningCopyIsThePatient)
 {
-    patient = Patient::runningCopy;
+    profileElsewhere = QStringLiteral("/people/me/.config/NIMB-Chat");
     wire.portTaken = true;
     EXPECT_FALSE(socket.bind());
-    diagnosis.holder = PortHolder{QStringLiteral("nimb-chat"), 4711};
+    diagnosis.holder = PortHolder{QStringLiteral("nimb-chat"), 4711, QStringLiteral("/people/me/.config/NIMB-Chat")};
     doctor().examine();
     EXPECT_EQ(of(Check::port), "fine: NIMB-Chat runs (process 4711) and listens on UDP port 5549.");
     EXPECT_THAT(of(Check::ownDatagram), HasSubstr("fine: No datagram was sent to yourself"));
     EXPECT_THAT(sent(), IsEmpty());
 }
 
+TEST_F(DoctorTest, OnAConsoleACopyWithOtherSettingsIsAnotherProgram)
+{
+    profileElsewhere = QStringLiteral("/people/me/.config/NIMB-Chat");
+    wire.portTaken = true;
+    EXPECT_FALSE(socket.bind());
+    diagnosis.holder = PortHolder{QStringLiteral("nimb-chat"), 4711, QStringLiteral("/tmp/trial")};
+    doctor().examine();
+    EXPECT_EQ(of(Check::port), "wrong: Port 5549 is used by the program nimb-chat (process 4711).");
+    diagnosis.holder = PortHolder{QStringLiteral("nimb-chat"), 4711};
+    doctor().examine();
+    EXPECT_EQ(of(Check::port), "wrong: Port 5549 is used by the program nimb-chat (process 4711).")
+        << "and one of which the system tells nothing";
+}
+
 TEST_F(DoctorTest, OnAConsoleAFreePortIsFine)
 {
-    patient = Patient::runningCopy;
+    profileElsewhere = QStringLiteral("/people/me/.config/NIMB-Chat");
     examine();
     EXPECT_EQ(of(Check::port), "fine: UDP port 5549 is free for NIMB-Chat, which does not run.");
     EXPECT_EQ(doctor().verdict(), Verdict::fine);
