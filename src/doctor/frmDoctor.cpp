@@ -7,6 +7,7 @@
 #include "widgets/muted_colour.h"
 #include "widgets/pictures.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -18,6 +19,8 @@
 #include <QScrollBar>
 #include <QTimer>
 #include <QTreeWidget>
+
+#include <algorithm>
 
 namespace nimb
 {
@@ -199,16 +202,27 @@ void frmDoctor::connectControls()
     connect(showTextsBox, &QCheckBox::toggled, this, &frmDoctor::showDatagrams);
     m_refresh = new QTimer(this);
     connect(m_refresh, &QTimer::timeout, this, &frmDoctor::showDatagrams);
+    connect(m_refresh, &QTimer::timeout, this, &frmDoctor::fillContacts);
     m_refresh->start(refreshTime);
+    const auto note = [this] { m_contactsHaveChanged = true; };
+    connect(&m_doctor.contacts(), &ContactList::rowsInserted, this, note);
+    connect(&m_doctor.contacts(), &ContactList::rowsRemoved, this, note);
+    connect(&m_doctor.contacts(), &ContactList::dataChanged, this, note);
 }
 
 void frmDoctor::fillContacts()
 {
+    if (!m_contactsHaveChanged || contactCombo->view()->isVisible())
+        return;
+    m_contactsHaveChanged = false;
+    const QVariant chosen = contactCombo->currentData();
+    contactCombo->clear();
     for (int row = 0; row < m_doctor.contacts().rowCount(); ++row) {
         const Contact &contact = m_doctor.contacts().at(row);
         const QString ip = contact.ip.text();
         contactCombo->addItem(QStringLiteral("%1 (%2)").arg(paintedName(contact.nickname), remoteName(ip)), ip);
     }
+    contactCombo->setCurrentIndex(std::max(contactCombo->findData(chosen), std::min(contactCombo->count() - 1, 0)));
     contactCombo->setEnabled(contactCombo->count() > 0);
     askContactBtn->setEnabled(contactCombo->count() > 0);
 }

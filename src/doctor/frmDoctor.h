@@ -43,6 +43,7 @@ private:
     QWidget *datagramsPart();
     Line addLine(QGridLayout &grid, Check check);
     void connectControls();
+    /// Those of the list, where they have changed; who is chosen stays so.
     void fillContacts();
     void showDatagrams();
 
@@ -60,6 +61,7 @@ private:
     QPushButton *copyReportBtn = nullptr;
     QPushButton *closeBtn = nullptr;
     QTimer *m_refresh = nullptr;
+    bool m_contactsHaveChanged = true; ///< since contactCombo was filled
     Doctor m_doctor;
 };
 

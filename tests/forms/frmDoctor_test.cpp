@@ -114,6 +114,33 @@ TEST_F(FrmDoctor, AsksTheContactThatIsChosen)
     EXPECT_EQ(text("contactSentence"), QStringLiteral("Ben & Co answered after 5 ms."));
 }
 
+TEST_F(FrmDoctor, OffersContactsThatComeMeanwhile)
+{
+    endWell();
+    auto &combo = control<QComboBox>("contactCombo");
+    combo.setCurrentIndex(1);
+    windows.arrive("10.0.0.9", "?ONLINE 10.0.0.9 PC-ABE Abe");
+    EXPECT_TRUE(QTest::qWaitFor([&combo] { return combo.count() == 3; }, 5000));
+    EXPECT_EQ(combo.itemText(0), QStringLiteral("Abe (10.0.0.9)"));
+    EXPECT_EQ(combo.currentText(), QStringLiteral("Ben & Co (10.0.0.3)"));
+}
+
+TEST_F(FrmDoctor, OpensFromTheLineThatNobodyAnswered)
+{
+    shownDoctor()->close();
+    EXPECT_FALSE(shownDoctor());
+    windows.engine.search().ask({{Ipv4Address(10, 0, 0, 77)}}, QStringLiteral("10.0.0.77"));
+    windows.time.advance(std::chrono::seconds(3));
+    RichTextLogEdit &log = RealWindows::logOf(windows.main());
+    QTextCursor words = log.document()->find(QStringLiteral("Network doctor"));
+    ASSERT_FALSE(words.isNull());
+    words.setPosition(words.selectionStart() + 1);
+    log.setTextCursor(words);
+    log.ensureCursorVisible();
+    QTest::mouseClick(log.viewport(), Qt::LeftButton, {}, log.cursorRect(words).center());
+    EXPECT_TRUE(shownDoctor());
+}
+
 TEST_F(FrmDoctor, ShowsTheLatestDatagramsWithoutWhatPeopleWrote)
 {
     endWell();
