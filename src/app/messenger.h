@@ -6,6 +6,7 @@
 #include "base/notifications.h"
 #include "base/unknown_datagrams.h"
 #include "conference/conference_commands.h"
+#include "contacts/same_machine.h"
 #include "contacts/shared_contacts.h"
 #include "main_window/contact_commands.h"
 #include "main_window/main_window.h"
@@ -84,6 +85,7 @@ private:
     OwnNetworks m_networks;
     PrivateWindows m_privateWindows;
     Search m_search;
+    SameMachine m_sameMachine;
     PresenceReceiver m_presence;
     Activity m_activity;
     AvatarStore m_avatars;

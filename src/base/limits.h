@@ -83,6 +83,12 @@ constexpr qint64 contactFileBytes = qint64{1024} * 1024;
 constexpr int smallestScannedPrefix = 24;
 /// Names of those who answered a search, in its line in the log.
 constexpr qsizetype namesOfAnswer = 20;
+/// Two contacts of the same names that are heard within this time may be one machine with two addresses.
+constexpr std::chrono::milliseconds sameMachineTime{1000};
+/// Contacts of one name among which such a machine is looked for: whoever has more addresses forges them.
+constexpr qsizetype lookAlikesCompared = 8;
+/// Contacts that are hidden because another one stands for them, for the same reason.
+constexpr std::size_t machinesShownOnce = 100;
 /// How long an announcement waits for answers.
 constexpr std::chrono::milliseconds announcementTime{1000};
 /// At most one avatar body and one list of participants for the same contact in this time: a question of twelve bytes,

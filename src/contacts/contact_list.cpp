@@ -102,6 +102,20 @@ int ContactList::rowOf(const ContactAddress &ip) const
     return row ? position(*row) : -1;
 }
 
+std::vector<const Contact *> ContactList::lookAlikesOf(const ContactAddress &ip, qsizetype atMost) const
+{
+    std::vector<const Contact *> others;
+    const Row *const own = m_byAddress.value(ip);
+    const auto alike = own ? m_lookAlikes.constFind(own->look) : m_lookAlikes.cend();
+    if (alike == m_lookAlikes.cend() || alike->size() > atMost + 1)
+        return others;
+    for (const Row *const row : *alike) {
+        if (row != own)
+            others.push_back(&row->contact);
+    }
+    return others;
+}
+
 std::vector<ContactAddress> ContactList::addresses() const
 {
     std::vector<ContactAddress> list;
@@ -314,6 +328,8 @@ QVariant ContactList::data(const QModelIndex &index, int role) const
         return sharesName(row);
     if (role == WaitingRole)
         return contact.waitingMessages;
+    if (role == HiddenRole)
+        return contact.shownBy.has_value();
     if (role == Qt::AccessibleTextRole && index.column() == Nickname && sharesName(row))
         return QStringLiteral("%1 (%2)").arg(contact.nickname, contact.ip.text());
     if (role == KeyRole)

@@ -41,6 +41,8 @@ struct Contact {
     bool hasAnswered = false;   ///< a question of this run: more than whoever forges addresses hears of
     bool soughtByUser = false;  ///< in this run: its window was opened by the user or typed in, or it was buzzed
     int waitingMessages = 0;    ///< that wait to be read, for it has no window
+    qint64 seenAt = 0;          ///< when it last said that it is there: ms since 1970; 0: not in this run
+    std::optional<ContactAddress> shownBy{}; ///< the contact that stands for it on the screen; see SameMachine
 
     /// What cannot be seen is no name.
     void rename(const QString &remoteNickname);
@@ -65,8 +67,15 @@ class ContactList : public QAbstractTableModel, public Senders
 public:
     enum Column { Nickname, Workstation, IpAddress, State, PrivateWin, AvatarNum, StateText, ColumnCount };
     /// SharesNameRole: another contact has a name that looks like this one's. WaitingRole: how many messages
-    /// wait to be read.
-    enum Role { KeyRole = Qt::UserRole, TagRole, PictureRole, SharesNameRole = Qt::UserRole + 4, WaitingRole };
+    /// wait to be read. HiddenRole: another row stands for this one.
+    enum Role {
+        KeyRole = Qt::UserRole,
+        TagRole,
+        PictureRole,
+        SharesNameRole = Qt::UserRole + 4,
+        WaitingRole,
+        HiddenRole
+    };
 
     using QAbstractTableModel::QAbstractTableModel;
     ~ContactList() override;
@@ -77,6 +86,8 @@ public:
     bool isContact(Ipv4Address ip) const override { return find(ip) != nullptr; }
     const Contact &at(int row) const;
     int rowOf(const ContactAddress &ip) const; ///< -1 when there is none
+    /// The other contacts whose names look like this one's; none of them when there are more than that.
+    std::vector<const Contact *> lookAlikesOf(const ContactAddress &ip, qsizetype atMost) const;
     /// In list order.
     std::vector<ContactAddress> addresses() const;
 

@@ -25,10 +25,11 @@ Drop reasonOf(Refusal refusal)
 
 PresenceReceiver::PresenceReceiver(const Common &common, const Admission &admission, ContactList &contacts,
                                    PresenceSender &sender, MainLog &log, PrivateLogs &privateLogs,
-                                   Notifications &notifications, const WallClock &clock, PresenceWitness &witness,
-                                   DropCounts &drops)
+                                   Notifications &notifications, const WallClock &clock,
+                                   std::vector<PresenceWitness *> witnesses, DropCounts &drops)
     : m_common(common), m_admission(admission), m_contacts(contacts), m_sender(sender), m_log(log),
-      m_privateLogs(privateLogs), m_notifications(notifications), m_clock(clock), m_witness(witness), m_drops(drops)
+      m_privateLogs(privateLogs), m_notifications(notifications), m_clock(clock), m_witnesses(std::move(witnesses)),
+      m_drops(drops)
 {
 }
 
@@ -44,16 +45,26 @@ void PresenceReceiver::strangerSeen(Ipv4Address ip, const PeerIdentity &peer, bo
     contact.nickname = nameOrUnknown(peer.nick);
     contact.workstation = nameOrUnknown(peer.host);
     contact.setPresence(online ? Presence::online : Presence::offline);
+    if (online)
+        contact.seenAt = m_clock.now().toMSecsSinceEpoch();
     m_admission.admit(std::move(contact));
     if (online)
-        m_witness.seenOnline(ip, true);
+        tellWitnesses(ip, true);
+}
+
+void PresenceReceiver::tellWitnesses(Ipv4Address ip, bool isNew)
+{
+    for (PresenceWitness *const witness : m_witnesses)
+        witness->seenOnline(ip, isNew);
 }
 
 void PresenceReceiver::cameOnline(Ipv4Address ip, const std::optional<PeerIdentity> &peer, bool asks)
 {
     const bool wasPresent = isPresent(m_contacts.find(ip)->presence);
     const QString shownName = m_contacts.find(ip)->nickname;
-    m_contacts.change(ip, [&peer, asks](Contact &contact) {
+    const qint64 now = m_clock.now().toMSecsSinceEpoch();
+    m_contacts.change(ip, [&peer, asks, now](Contact &contact) {
+        contact.seenAt = now;
         if (!asks && contact.presence == Presence::unknown)
             contact.hasAnswered = true;
         if (peer) {
@@ -73,7 +84,7 @@ void PresenceReceiver::cameOnline(Ipv4Address ip, const std::optional<PeerIdenti
     }
     m_log.wentOnline(contact.nickname);
     tellPrivateWindow(contact, tr("%1 is online").arg(contact.nickname));
-    m_witness.seenOnline(ip, false);
+    tellWitnesses(ip, false);
     if (asks)
         answer(ip);
 }

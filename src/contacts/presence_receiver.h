@@ -36,7 +36,7 @@ class PresenceReceiver : public PresenceHandler
 public:
     PresenceReceiver(const Common &common, const Admission &admission, ContactList &contacts, PresenceSender &sender,
                      MainLog &log, PrivateLogs &privateLogs, Notifications &notifications, const WallClock &clock,
-                     PresenceWitness &witness, DropCounts &drops);
+                     std::vector<PresenceWitness *> witnesses, DropCounts &drops);
 
     void strangerSeen(Ipv4Address ip, const PeerIdentity &peer, bool online) override;
     void cameOnline(Ipv4Address ip, const std::optional<PeerIdentity> &peer, bool asks) override;
@@ -47,6 +47,7 @@ private:
     void notify(const Notification &notification);
     void tellPrivateWindow(const Contact &contact, const QString &sentence);
     void answer(Ipv4Address ip);
+    void tellWitnesses(Ipv4Address ip, bool isNew);
 
     const Common &m_common;
     const Admission &m_admission;
@@ -56,7 +57,7 @@ private:
     PrivateLogs &m_privateLogs;
     Notifications &m_notifications;
     const WallClock &m_clock;
-    PresenceWitness &m_witness;
+    std::vector<PresenceWitness *> m_witnesses; ///< who outlive it
     DropCounts &m_drops;
 };
 

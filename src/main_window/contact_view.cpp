@@ -341,6 +341,25 @@ void ContactView::setModel(QAbstractItemModel *model)
     connect(model, &QAbstractItemModel::rowsInserted, this, &ContactView::placeInvitation);
     connect(model, &QAbstractItemModel::rowsRemoved, this, &ContactView::placeInvitation);
     connect(model, &QAbstractItemModel::modelReset, this, &ContactView::placeInvitation);
+    connect(model, &QAbstractItemModel::dataChanged, this,
+            [this](const QModelIndex &first, const QModelIndex &last) { hideRows(first.row(), last.row()); });
+    hideRows(0, model->rowCount() - 1);
+}
+
+void ContactView::hideRows(int first, int last)
+{
+    for (int row = first; row <= last; ++row) {
+        const QModelIndex index = model()->index(row, 0);
+        const bool hidden = index.data(ContactList::HiddenRole).toBool();
+        if (hidden == isRowHidden(row, {}))
+            continue;
+        if (hidden) { // what acts on the selection acts on what is seen
+            selectionModel()->select(index, QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
+            if (currentIndex().row() == row)
+                selectionModel()->clearCurrentIndex();
+        }
+        setRowHidden(row, {}, hidden);
+    }
 }
 
 void ContactView::placeInvitation()

@@ -74,6 +74,8 @@ private:
     void buildInvitation();
     /// What stands in the list while it is empty.
     void placeInvitation();
+    /// Hides those rows for which another one stands, and shows the others.
+    void hideRows(int first, int last);
 
     RoomyHeader *m_header;
     QWidget *m_scrollBarRoom;

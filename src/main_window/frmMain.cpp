@@ -327,7 +327,8 @@ void frmMain::restore()
 void frmMain::showContact(const QString &ip)
 {
     restore();
-    const int row = m_engine->contacts.rowOf(ip);
+    const Contact *const contact = m_engine->contacts.find(ip);
+    const int row = contact ? m_engine->contacts.rowOf(contact->shownBy.value_or(contact->ip)) : -1;
     if (row < 0)
         return;
     ListView1->setCurrentIndex(ListView1->model()->index(row, 0));

@@ -458,6 +458,26 @@ TEST_F(FrmMain, NamesThatLookAlikeAreToldApartByTheirAddresses)
     EXPECT_EQ(picture(), alone);
 }
 
+TEST_F(FrmMain, AMachineThatAnswersFromTwoAddressesHasOneRow)
+{
+    windows.arrive("10.7.0.2", "?ONLINE 10.7.0.2 PC Anna");
+    windows.time.advance(5s);
+    const auto row = [this](const char *ip) { return windows.engine.contacts().rowOf(QString::fromLatin1(ip)); };
+    const auto isShown = [this](int number) { return !windows.list().isRowHidden(number, {}); };
+    windows.click(row("10.7.0.2"));
+    windows.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
+    windows.arrive("10.7.0.2", "!ONLINE 10.7.0.2 PC Ann");
+    EXPECT_FALSE(isShown(row("10.7.0.2")));
+    EXPECT_TRUE(isShown(row("10.0.0.2")) && isShown(row("10.0.0.3")) && isShown(row("10.0.0.4")));
+    EXPECT_THAT(windows.list().selectionModel()->selectedRows(), IsEmpty()) << "nobody acts on whom he does not see";
+    windows.list().selectAll();
+    EXPECT_EQ(windows.list().selectionModel()->selectedRows().size(), 3);
+    windows.main().showContact(QStringLiteral("10.7.0.2"));
+    EXPECT_EQ(windows.list().currentIndex().row(), row("10.0.0.2"));
+    windows.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");
+    EXPECT_TRUE(isShown(row("10.7.0.2")));
+}
+
 TEST_F(FrmMain, RescanningAsksEveryContactAndDisablesItself)
 {
     auto &button = windows.control<QPushButton>("RescanBtn");

@@ -1,0 +1,95 @@
+#include "contacts/same_machine.h"
+
+#include "base/limits.h"
+#include "base/remote_text.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace nimb
+{
+namespace
+{
+
+bool haveSameNames(const Contact &one, const Contact &other)
+{
+    return one.nickname == other.nickname && one.workstation == other.workstation && one.nickname != unknownName
+        && one.workstation != unknownName;
+}
+
+bool mayBeHidden(const Contact &contact)
+{
+    return !contact.spokenTo && !contact.soughtByUser && contact.privateWindow == 0 && contact.waitingMessages == 0;
+}
+
+bool mayBeElsewhere(const Contact &contact)
+{
+    return contact.ip.ipv4() && !contact.ip.ipv4()->isLoopback();
+}
+
+} // namespace
+
+SameMachine::SameMachine(ContactList &contacts, MainLog &log) : m_contacts(contacts), m_log(log)
+{
+    const auto checkThem = [this] { check(); };
+    m_connections = {QObject::connect(&contacts, &ContactList::dataChanged, checkThem),
+                     QObject::connect(&contacts, &ContactList::rowsRemoved, checkThem)};
+}
+
+SameMachine::~SameMachine()
+{
+    for (const QMetaObject::Connection &connection : m_connections)
+        QObject::disconnect(connection);
+}
+
+void SameMachine::seenOnline(Ipv4Address ip, bool)
+{
+    const Contact *const seen = m_contacts.find(ip);
+    if (!seen || seen->shownBy || !mayBeElsewhere(*seen))
+        return;
+    const std::vector<const Contact *> others = m_contacts.lookAlikesOf(ip, limits::lookAlikesCompared);
+    const auto isSame = [seen](const Contact *other) {
+        return !other->shownBy && mayBeElsewhere(*other) && isPresent(other->presence) && haveSameNames(*seen, *other)
+            && std::abs(seen->seenAt - other->seenAt) <= limits::sameMachineTime.count();
+    };
+    if (const auto same = std::ranges::find_if(others, isSame); same != others.end())
+        showOnce(*seen, **same);
+}
+
+void SameMachine::showOnce(const Contact &later, const Contact &earlier)
+{
+    const bool laterGoes
+        = mayBeHidden(later) && (!mayBeHidden(earlier) || !later.isAcquaintance() || earlier.isAcquaintance());
+    if (laterGoes)
+        hide(later.ip, earlier.ip);
+    else if (mayBeHidden(earlier))
+        hide(earlier.ip, later.ip);
+}
+
+void SameMachine::hide(const ContactAddress &hidden, const ContactAddress &shown)
+{
+    if (m_hidden.size() >= limits::machinesShownOnce)
+        return;
+    m_hidden.insert({hidden.text(), shown});
+    m_contacts.change(hidden, [&shown](Contact &contact) { contact.shownBy = shown; });
+    m_log.note(tr("%1 answers from %2 and from %3 and is shown once")
+                   .arg(paintedName(m_contacts.find(shown)->nickname), shown.text(), hidden.text()));
+}
+
+void SameMachine::check()
+{
+    std::vector<ContactAddress> shownAgain;
+    for (const auto &[address, shownBy] : m_hidden) {
+        const Contact *const hidden = m_contacts.find(address), *const shown = m_contacts.find(shownBy);
+        const bool stays = hidden && shown && mayBeHidden(*hidden) && haveSameNames(*hidden, *shown)
+            && hidden->presence != Presence::offline && shown->presence != Presence::offline;
+        if (!stays)
+            shownAgain.emplace_back(address);
+    }
+    for (const ContactAddress &address : shownAgain) {
+        m_hidden.erase(address.text());
+        m_contacts.change(address, [](Contact &contact) { contact.shownBy.reset(); });
+    }
+}
+
+} // namespace nimb
