@@ -269,24 +269,28 @@ private:
         return m_unknown == Unknown::matches;
     }
 
-    /// right: a value, a list of them, a set, the name of one, an element with a counter, or a range.
+    /// right: the name of a set, or what contains() takes.
     bool holds(const QJsonValue &right, const QJsonValue &value, const QJsonObject &chain) const
+    {
+        const bool isName = right.toString().startsWith(u'@');
+        return contains(isName ? QJsonValue(namedElements(right.toString(), "set", chain)) : right, value);
+    }
+
+    /// right: a value, a list of them, a set, an element with a counter, or a range.
+    static bool contains(const QJsonValue &right, const QJsonValue &value)
     {
         if (right == value)
             return true;
-        if (right.toString().startsWith(u'@'))
-            return holds(namedElements(right.toString(), "set", chain), value, chain);
         if (right.isArray())
-            return std::ranges::any_of(right.toArray(),
-                                       [&](const QJsonValue &one) { return holds(one, value, chain); });
+            return std::ranges::any_of(right.toArray(), [&](const QJsonValue &one) { return contains(one, value); });
         const QJsonValue element = right[QLatin1String("elem")];
         if (element.isObject())
-            return holds(element[QLatin1String("val")], value, chain);
+            return contains(element[QLatin1String("val")], value);
         const QJsonArray range = right[QLatin1String("range")].toArray();
         if (range.size() == 2)
             return value.isDouble() && range.first().toInt() <= value.toInt() && value.toInt() <= range.last().toInt();
         const QJsonValue set = right[QLatin1String("set")];
-        return set.isArray() && holds(set, value, chain);
+        return set.isArray() && contains(set, value);
     }
 
     const QJsonArray &m_ruleset;

@@ -183,6 +183,14 @@ TEST(Nftables, NamedSetsAreLookedUp)
     EXPECT_FALSE(nftLets(ruleset(rule(toOpen), "drop", open("5549").replace("filter", "other")))) << "another table's";
 }
 
+TEST(Nftables, ASetThatNamesItselfComesToAnEnd)
+{
+    const QByteArray set = R"(, {"set": {"family": "inet", "table": "filter", "name": "s", "elem": [53, "@s"]}})";
+    const QByteArray match = R"({"match": {"op": "==", "left": {"payload": {"protocol": "udp", "field": "dport"}},
+        "right": "@s"}}, {"accept": null})";
+    EXPECT_EQ(nftSays(ruleset(rule(match), "drop", set)), RuleAnswer::blocks);
+}
+
 TEST(Nftables, IsNotSureWhereItMattersHowSomethingElseTurnsOut)
 {
     const QByteArray questions[] = {
