@@ -26,7 +26,7 @@ QStringList OwnNetworks::begin()
 {
     m_card = m_parts.ownAddresses.isFixed() ? QString() : m_parts.common.ownCard;
     take(look());
-    m_parts.watch.listen([this] { changed(); });
+    m_parts.watch.listen([this](NetworkChange change) { changed(change); });
     QStringList sentences;
     if (!m_now.any) {
         m_parts.view.setNetworkPanel(tr("No network"));
@@ -82,7 +82,7 @@ void OwnNetworks::take(const Networks &networks)
     m_parts.socket.setSource(leavesFromCard ? std::optional(networks.own) : std::nullopt);
 }
 
-void OwnNetworks::changed()
+void OwnNetworks::changed(NetworkChange change)
 {
     m_parts.ownAddresses.readAnew();
     const bool listensAgain = m_parts.port.networksChanged();
@@ -90,9 +90,10 @@ void OwnNetworks::changed()
     take(m_now);
     if (m_now.own != before.own)
         m_parts.ownAddressChanged();
-    if (m_now == before && !listensAgain)
+    // Of what the others did while this machine slept it has heard nothing.
+    if (m_now == before && !listensAgain && change != NetworkChange::wokeUp)
         return;
-    tellChange(before);
+    tellChange(before, change);
     if (!m_now.any)
         return m_announcement.reset();
     if (m_announcement && m_announcement->isActive())
@@ -102,7 +103,7 @@ void OwnNetworks::changed()
     m_announcement->start();
 }
 
-void OwnNetworks::tellChange(const Networks &before)
+void OwnNetworks::tellChange(const Networks &before, NetworkChange change)
 {
     m_shown->stop();
     if (!m_now.any) {
@@ -110,13 +111,15 @@ void OwnNetworks::tellChange(const Networks &before)
             m_parts.log.fault(nothingThere());
         return m_parts.view.setNetworkPanel(tr("No network"));
     }
-    if (before.hasCard && !m_now.hasCard)
+    if ((before.hasCard || !before.any) && !m_now.hasCard)
         m_parts.log.fault(cardIsGone());
     const QString address = addressText(m_now.own);
     if (!before.any)
         show(tr("There is a network again: your address is %1").arg(address));
     else if (m_now.own != before.own)
         show(tr("Your address is now %1").arg(address));
+    else if (change == NetworkChange::wokeUp)
+        show(tr("This computer has slept: your address is still %1").arg(address));
     else
         show(tr("The networks have changed: your address is still %1").arg(address));
 }
@@ -138,7 +141,9 @@ QString OwnNetworks::cardIsGone() const
 
 QString OwnNetworks::nothingThere()
 {
-    return tr("This computer is connected to no network, so nobody can reach you. NIMB-Chat goes on as soon as it is.");
+    return tr(
+        "No network gives this computer an IPv4 address, so nobody can reach you. NIMB-Chat goes on as soon as one "
+        "does.");
 }
 
 } // namespace nimb

@@ -19,9 +19,10 @@
 namespace nimb
 {
 
-/// A change of what others can see makes one announcement, so that everybody learns the new address and who is still
-/// reached is known. It leaves after a while that chance decides: a hall of machines that wake together must not shout
-/// at once. Cards that join nothing but the containers and virtual machines of this machine come and go unnoticed.
+/// A change of what others can see, and a sleep of this machine, makes one announcement, so that everybody learns the
+/// new address and who is still reached is known. It leaves after a while that chance decides: a hall of machines that
+/// wake together must not shout at once. Cards that join nothing but the containers and virtual machines of this
+/// machine come and go unnoticed.
 class OwnNetworks
 {
     Q_DECLARE_TR_FUNCTIONS(OwnNetworks)
@@ -63,8 +64,8 @@ private:
     Networks look() const;
     std::vector<NetworkCard> noticedCards() const;
     void take(const Networks &networks);
-    void changed();
-    void tellChange(const Networks &before);
+    void changed(NetworkChange change);
+    void tellChange(const Networks &before, NetworkChange change);
     void show(const QString &sentence);
     QString cardIsGone() const;
     static QString nothingThere();

@@ -19,29 +19,42 @@ namespace nimb
 
 #ifdef Q_OS_LINUX
 
-/// The kernel itself tells each change; in between nothing wakes the program. Where the system gives no socket for it,
-/// nothing is told.
+/// The kernel itself tells each change, and that the machine has slept; in between nothing wakes the program. Where the
+/// system gives no descriptor for it, nothing is told.
 class SystemNetworkWatch : public QObject, public NetworkWatch
 {
 public:
     /// A change is told this long after its first message, for a card that comes up sends a dozen of them.
     static constexpr std::chrono::milliseconds settlingTime{150};
 
-    explicit SystemNetworkWatch(Timers &timers);
+    /// How long the machine has slept since it was switched on.
+    using Slept = std::function<std::chrono::nanoseconds()>;
+
+    explicit SystemNetworkWatch(Timers &timers, Slept slept = sleptOfMachine);
     ~SystemNetworkWatch() override;
 
-    void listen(std::function<void()> changed) override { m_changed = std::move(changed); }
+    void listen(std::function<void(NetworkChange)> changed) override { m_changed = std::move(changed); }
 
     /// For a test to give it less room for messages.
     int descriptor() const { return m_descriptor; }
 
-private:
-    void read();
+    static std::chrono::nanoseconds sleptOfMachine();
 
-    int m_descriptor;
-    std::unique_ptr<QSocketNotifier> m_notifier; ///< goes before its descriptor
+private:
+    /// Calls read when the descriptor has something to say; empty where there is no descriptor.
+    std::unique_ptr<QSocketNotifier> notifier(int descriptor, void (SystemNetworkWatch::*read)());
+    void read();
+    void readClock();
+    void note(NetworkChange change);
+
+    int m_descriptor; ///< of netlink
+    int m_clock;      ///< a timer that never ends, and tells when the clock makes a leap, as it does after a sleep
+    Slept m_slept;
+    std::chrono::nanoseconds m_sleptBefore;
+    std::unique_ptr<QSocketNotifier> m_notifier, m_clockNotifier; ///< they go before their descriptors
     std::unique_ptr<Timer> m_settled;
-    std::function<void()> m_changed;
+    NetworkChange m_noted = NetworkChange::networks; ///< since the timer was started
+    std::function<void(NetworkChange)> m_changed;
 };
 
 #else
@@ -51,7 +64,7 @@ class SystemNetworkWatch : public NetworkWatch
 {
 public:
     explicit SystemNetworkWatch(const Timers &) { }
-    void listen(std::function<void()>) override { }
+    void listen(std::function<void(NetworkChange)>) override { }
 };
 
 #endif

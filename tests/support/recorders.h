@@ -519,9 +519,10 @@ public:
 class ToldNetworkChanges : public NetworkWatch
 {
 public:
-    void listen(std::function<void()> changed) override { tell = std::move(changed); }
+    void listen(std::function<void(NetworkChange)> changed) override { listener = std::move(changed); }
+    void tell(NetworkChange change = NetworkChange::networks) const { listener(change); }
 
-    std::function<void()> tell; ///< empty while nobody listens
+    std::function<void(NetworkChange)> listener; ///< empty while nobody listens
 };
 
 /// The longest span, unless a test decides otherwise.

@@ -146,12 +146,35 @@ TEST(OwnNetworks, WhoIsInvisibleAnnouncesNothing)
     EXPECT_EQ(machine.common.ownIP, office.address);
 }
 
+TEST(OwnNetworks, AfterASleepTheContactsAreAskedThoughNothingIsDifferent)
+{
+    Machine machine;
+    machine.networkWatch.tell(NetworkChange::networks);
+    machine.advance(60s);
+    EXPECT_THAT(machine.sent(), IsEmpty());
+    machine.networkWatch.tell(NetworkChange::wokeUp);
+    EXPECT_EQ(machine.view.networkPanel, QStringLiteral("This computer has slept: your address is still 10.0.0.1"));
+    machine.advance(3s);
+    EXPECT_THAT(machine.sent(),
+                ElementsAre(To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Me"}, To{"10.0.0.2", "!STATUS Online"}));
+}
+
+TEST(OwnNetworks, AfterASleepWithoutANetworkNobodyIsAsked)
+{
+    Machine machine;
+    machine.losesAll();
+    machine.networkWatch.tell(NetworkChange::wokeUp);
+    EXPECT_EQ(machine.view.networkPanel, QStringLiteral("No network"));
+    machine.advance(60s);
+    EXPECT_THAT(machine.sent(), IsEmpty());
+}
+
 TEST(OwnNetworks, WithoutANetworkNothingIsSentUntilThereIsOneAgain)
 {
     Machine machine;
     machine.losesAll();
     EXPECT_EQ(machine.view.networkPanel, QStringLiteral("No network"));
-    EXPECT_THAT(machine.view.log.lastLine(), HasSubstr("connected to no network"));
+    EXPECT_THAT(machine.view.log.lastLine(), HasSubstr("No network gives this computer an IPv4 address"));
     EXPECT_EQ(machine.common.ownIP, office.address) << "no peer is to see 127.0.0.1 for it";
     machine.advance(60s);
     EXPECT_THAT(machine.sent(), IsEmpty());
@@ -177,7 +200,7 @@ TEST(OwnNetworks, AStartWithoutANetworkSaysSoAndGoesOnWhenThereIsOne)
     copy.ownAddresses.running.clear();
     copy.engine.mainWindow().Form_Load();
     EXPECT_EQ(copy.view.networkPanel, QStringLiteral("No network"));
-    EXPECT_THAT(copy.view.log.lastLine(), HasSubstr("connected to no network"));
+    EXPECT_THAT(copy.view.log.lastLine(), HasSubstr("No network gives this computer an IPv4 address"));
     copy.settleStart();
     copy.ownAddresses.running = {office};
     copy.socket.ownAddress = office.address;
@@ -199,6 +222,10 @@ TEST(OwnNetworks, TheAddressIsThatOfTheChosenCardAsLongAsItIsThere)
                          "address is 192.168.7.1 until it is."));
     EXPECT_EQ(machine.common.ownIP, wireless.address);
     EXPECT_EQ(machine.socket.source(), std::nullopt);
+    machine.losesAll();
+    machine.view.log.clear();
+    machine.becomes({wireless}, wireless.address);
+    EXPECT_THAT(machine.view.log.lines(), Contains(HasSubstr("The network card eth0, whose address")));
     machine.becomes({wireless, office}, wireless.address);
     EXPECT_EQ(machine.common.ownIP, office.address);
     EXPECT_EQ(machine.socket.source(), office.address);
@@ -247,7 +274,7 @@ TEST(OwnNetworks, AnEndedCopyHearsOfNoChange)
     machine.becomes({otherAddress}, Ipv4Address(10, 0, 0, 7));
     machine.engine.mainWindow().Form_Unload();
     machine.sent();
-    EXPECT_FALSE(machine.networkWatch.tell);
+    EXPECT_FALSE(machine.networkWatch.listener);
     machine.advance(60s);
     EXPECT_THAT(machine.sent(), IsEmpty());
 }

@@ -10,6 +10,7 @@
 
 #include <poll.h>
 #include <sys/socket.h>
+#include <sys/timex.h>
 
 namespace nimb::test
 {
@@ -24,8 +25,11 @@ class NetworkWatchTest : public OnOwnNetwork
 protected:
     void arrange() override
     {
-        watch.emplace(time);
-        watch->listen([this] { ++told; });
+        watch.emplace(time, [this] { return slept; });
+        watch->listen([this](NetworkChange change) {
+            ++told;
+            last = change;
+        });
     }
 
     /// True once the system's messages have arrived.
@@ -42,7 +46,9 @@ protected:
 
     VirtualTime time;
     std::optional<SystemNetworkWatch> watch;
+    std::chrono::nanoseconds slept{0};
     int told = 0;
+    std::optional<NetworkChange> last;
 };
 
 TEST_F(NetworkWatchTest, TellsOfACardThatComesAndGoes)
@@ -114,6 +120,34 @@ TEST_F(NetworkWatchTest, MessagesThatHadNoRoomAreAChangeToo)
     ASSERT_TRUE(hears());
     time.advance(200ms);
     EXPECT_EQ(told, 2);
+}
+
+/// Moves the clock by a millionth of a second, and back. False where that is not allowed.
+bool leap(long microseconds)
+{
+    timex change = {};
+    change.modes = ADJ_SETOFFSET;
+    change.time.tv_sec = microseconds < 0 ? -1 : 0;
+    change.time.tv_usec = microseconds < 0 ? 1'000'000 + microseconds : microseconds;
+    return ::adjtimex(&change) >= 0;
+}
+
+TEST_F(NetworkWatchTest, TellsThatTheMachineHasSleptButNotThatTheClockWasSet)
+{
+    if (!leap(1))
+        GTEST_SKIP() << "only who may set the clock can make it leap";
+    readAll();
+    EXPECT_FALSE(time.nextDue().has_value());
+    slept = 2s;
+    ASSERT_TRUE(leap(-1));
+    ASSERT_TRUE(hears());
+    time.advance(200ms);
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(last, NetworkChange::wokeUp);
+    ASSERT_TRUE(runIp({"link", "add", "one", "type", "bridge"}));
+    ASSERT_TRUE(hears());
+    time.advance(200ms);
+    EXPECT_EQ(last, NetworkChange::networks);
 }
 
 TEST_F(NetworkWatchTest, NothingWakesItWhileNothingChanges)
