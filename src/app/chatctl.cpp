@@ -38,7 +38,7 @@ const char usage[] = "usage: nimb-chatctl doctor [--json]\n"
 
 int examine(bool asJson)
 {
-    const nimb::Environment environment = nimb::Environment::fromSystem();
+    const nimb::Environment environment = nimb::Environment::ofCaller();
     if (environment.address && !nimb::readAddress(*environment.address))
         print("nimb-chatctl: NIMBCHAT_ADDRESS is no IPv4 address and is left out\n", stderr);
     nimb::ConsoleDoctor console(environment, [] { QCoreApplication::quit(); });

@@ -27,6 +27,7 @@ struct Firewall {
         blocks,     ///< it keeps them out
         forSome,    ///< it has rules of which we cannot say whom they concern
         unknown,    ///< only the administrator may see whether there is one
+        noReader,   ///< there may be one whose rules nothing here can read
         unreadable, ///< it is on, and only the administrator may read its rules
     };
     Verdict verdict = Verdict::none;

@@ -76,10 +76,11 @@ void Doctor::examine()
     m_underWay = 2;
     const Common &common = m_parts.common;
     const std::vector<NetworkCard> cards = m_parts.ownAddresses.cards();
-    const bool isFixed = m_parts.ownAddresses.isFixed();
+    const findings::OwnAddress own{
+        .address = common.ownIP, .isFixed = m_parts.ownAddresses.isFixed(), .card = common.ownCard};
 
-    found(findings::network(cards, common.ownIP, isFixed));
-    found(findings::ownAddress(cards, common.ownIP, isFixed));
+    found(findings::network(cards, own));
+    found(findings::ownAddress(cards, own));
     examinePort();
     found(findings::receiveBuffer(m_parts.diagnosis.receiveBufferBytes()));
     found({Check::ownDatagram, Verdict::underWay, tr("A datagram is on its way to yourself.")});
@@ -87,14 +88,14 @@ void Doctor::examine()
     std::vector<findings::BroadcastTrial> trials;
     std::vector<QString> tunnels;
     for (const NetworkCard &card : cards) {
-        if (card.broadcast && (!isFixed || card.address == common.ownIP))
+        if (card.broadcast && (!own.isFixed || card.address == own.address))
             trials.push_back({card, m_parts.diagnosis.canBroadcast(card)});
         if (m_parts.diagnosis.isTunnel(card.name))
             tunnels.push_back(card.name);
     }
-    found(findings::broadcast(trials, common.ownIP, isFixed));
+    found(findings::broadcast(trials, own));
     found({Check::firewall, Verdict::underWay, tr("Looking for a firewall.")});
-    found(findings::severalWays(cards, tunnels, common.ownIP));
+    found(findings::severalWays(cards, tunnels, own));
 
     m_parts.diagnosis.readFirewall(common.udpPort,
                                    [this, round, life = std::weak_ptr(m_life)](const Firewall &firewall) {
@@ -161,6 +162,9 @@ void Doctor::ask(const ContactAddress &ip)
     if (!m_parts.ownAddresses.hasWayTo(*address))
         return found(findings::contactNotAsked(tr("No network of this computer leads to %1.").arg(text),
                                                tr("Connect the network on which the contact is.")));
+    if (!m_parts.socket.isBound())
+        return found(findings::contactNotAsked(tr("%1 was not asked, for nothing listens for an answer.").arg(nickname),
+                                               tr("See to the port first.")));
     m_question = Question{*address, nickname, m_parts.clock.now()};
     found({Check::contact, Verdict::underWay, tr("Waiting for an answer of %1.").arg(nickname)});
     m_answerLate->start();
@@ -179,9 +183,11 @@ void Doctor::endContact(bool answered)
 {
     m_answerLate->stop();
     const Question question = *std::exchange(m_question, std::nullopt);
-    if (answered)
-        return found(findings::contactAnswered(question.nickname,
-                                               std::chrono::milliseconds(question.time.msecsTo(m_parts.clock.now()))));
+    if (answered) {
+        const std::chrono::milliseconds passed(question.time.msecsTo(m_parts.clock.now()));
+        // Somebody may have set the clock meanwhile.
+        return found(findings::contactAnswered(question.nickname, std::clamp(passed, {}, {answerTime})));
+    }
     found(findings::contactSilent(question.nickname, question.address, m_parts.diagnosis.neighbour(question.address)));
 }
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace nimb
 {
@@ -55,37 +56,62 @@ const char *nameOf(Verdict verdict)
 namespace findings
 {
 
-Finding network(const std::vector<NetworkCard> &cards, Ipv4Address own, bool isFixed)
+Finding network(const std::vector<NetworkCard> &cards, const OwnAddress &own)
 {
-    if (isFixed && own.isLoopback())
+    if (own.isFixed && own.address.isLoopback())
         return {Check::network, Verdict::fine,
                 tr("NIMB-Chat was told to stay on this computer: it uses the loopback network.")};
-    if (cards.empty())
-        return {Check::network, Verdict::wrong, tr("No network is connected."),
+    std::vector<NetworkCard> outside;
+    std::ranges::remove_copy_if(cards, std::back_inserter(outside), &NetworkCard::isInsideMachine);
+    if (outside.empty())
+        return {Check::network, Verdict::wrong, tr("No network with an IPv4 address is connected."),
                 tr("Plug in the cable, or join the wireless network that the others use.")};
-    return {Check::network, Verdict::fine, tr("Connected as %1.").arg(namesOf(cards))};
+    return {Check::network, Verdict::fine, tr("Connected as %1.").arg(namesOf(outside))};
 }
 
-Finding ownAddress(const std::vector<NetworkCard> &cards, Ipv4Address own, bool isFixed)
+namespace
 {
-    const QString address = addressText(own);
-    if (isFixed && own.isLoopback())
+
+Finding addressIsNowhere(const OwnAddress &own)
+{
+    return {Check::ownAddress, Verdict::wrong,
+            tr("Your address is %1, and no network card of this computer has it.").arg(addressText(own.address)),
+            own.isFixed ? tr("Correct NIMBCHAT_ADDRESS, or connect that network.")
+                        : tr("Connect a network, or choose another own address in Tools, Options.")};
+}
+
+Finding nobodyIsFoundThere(const OwnAddress &own, const QString &card)
+{
+    return {Check::ownAddress, Verdict::doubtful,
+            tr("Your address is %1 of the card %2, on which nobody can be found: it leads to a single machine, or to "
+               "what runs inside this one.")
+                .arg(addressText(own.address), card),
+            own.isFixed
+                ? tr("If the others are on another network, correct NIMBCHAT_ADDRESS.")
+                : tr("If the others are on another network, choose its card as your own address in Tools, Options.")};
+}
+
+} // namespace
+
+Finding ownAddress(const std::vector<NetworkCard> &cards, const OwnAddress &own)
+{
+    const QString address = addressText(own.address);
+    if (own.isFixed && own.address.isLoopback())
         return {Check::ownAddress, Verdict::doubtful,
                 tr("Your address is %1, which only programs on this computer can reach.").arg(address),
                 tr("Start NIMB-Chat without NIMBCHAT_ADDRESS to talk to other computers.")};
-    const NetworkCard *const card = cardWith(cards, own);
+    const NetworkCard *const card = cardWith(cards, own.address);
     if (!card)
-        return {Check::ownAddress, Verdict::wrong,
-                tr("Your address is %1, and no network card of this computer has it.").arg(address),
-                isFixed ? tr("Correct NIMBCHAT_ADDRESS, or connect that network.")
-                        : tr("Connect a network, or choose another own address in Tools, Options.")};
+        return addressIsNowhere(own);
+    const bool isGone = std::ranges::find(cards, own.card, &NetworkCard::name) == cards.end();
+    if (!own.isFixed && !own.card.isEmpty() && isGone)
+        return {Check::ownAddress, Verdict::doubtful,
+                tr("The network card %1, whose address the options name as yours, is not connected; your address is %2 "
+                   "of the card %3.")
+                    .arg(own.card, address, card->name),
+                tr("Connect that card, or choose another own address in Tools, Options.")};
     if (!card->broadcast)
-        return {
-            Check::ownAddress, Verdict::doubtful,
-            tr("Your address is %1 of the card %2, on which nobody can be found: it leads to a single machine, or to "
-               "what runs inside this one.")
-                .arg(address, card->name),
-            tr("If the others are on another network, choose its card as your own address in Tools, Options.")};
+        return nobodyIsFoundThere(own, card->name);
     return {Check::ownAddress, Verdict::fine, tr("Your address is %1, of the card %2.").arg(address, card->name)};
 }
 
@@ -158,9 +184,9 @@ Finding ownDatagramLeftToTheCopy()
         tr("No datagram was sent to yourself, for the copy that runs would get it: its own network doctor tries it.")};
 }
 
-Finding broadcast(const std::vector<BroadcastTrial> &trials, Ipv4Address own, bool isFixed)
+Finding broadcast(const std::vector<BroadcastTrial> &trials, const OwnAddress &own)
 {
-    if (trials.empty() && isFixed && own.isLoopback())
+    if (trials.empty() && own.isFixed && own.address.isLoopback())
         return {Check::broadcast, Verdict::fine, tr("Everybody on this computer can be asked.")};
     if (trials.empty())
         return {Check::broadcast, Verdict::doubtful, tr("There is no network on which everybody can be asked."),
@@ -198,6 +224,11 @@ Finding firewall(const Firewall &firewall, std::uint16_t port)
         return {Check::firewall, Verdict::doubtful,
                 tr("Only the administrator may see whether a firewall keeps UDP port %1 out.").arg(number),
                 tr("\"sudo nimb-chatctl doctor\" tells.")};
+    case Firewall::Verdict::noReader:
+        return {Check::firewall, Verdict::doubtful,
+                tr("This computer may have a firewall, and no program is here that shows all of its rules."),
+                tr("\"sudo nft list ruleset\" and \"sudo iptables-legacy -S\" show them, of the packages nftables and "
+                   "iptables.")};
     case Firewall::Verdict::unreadable:
         break;
     }
@@ -207,23 +238,31 @@ Finding firewall(const Firewall &firewall, std::uint16_t port)
             tr("This opens the port: %1").arg(firewall.opening)};
 }
 
-Finding severalWays(const std::vector<NetworkCard> &cards, const std::vector<QString> &tunnels, Ipv4Address own)
+Finding severalWays(const std::vector<NetworkCard> &cards, const std::vector<QString> &tunnels, const OwnAddress &own)
 {
+    const NetworkCard *const card = cardWith(cards, own.address);
+    const bool isChosen = own.isFixed || (card && card->name == own.card);
     for (auto one = cards.begin(); one != cards.end(); ++one) {
         const auto other = std::find_if(one + 1, cards.end(), [one](const NetworkCard &card) {
             return one->broadcast && card.broadcast == one->broadcast && card.name != one->name;
         });
-        if (other != cards.end())
-            return {Check::severalWays, Verdict::doubtful,
-                    tr("The cards %1 and %2 are on the same network: others may see you under either address.")
-                        .arg(one->name, other->name),
-                    tr("Turn one of them off, or choose one as your own address in Tools, Options.")};
-    }
-    const NetworkCard *const card = cardWith(cards, own);
-    if (card && std::ranges::find(tunnels, card->name) != tunnels.end())
+        if (other == cards.end())
+            continue;
+        if (isChosen)
+            return {Check::severalWays, Verdict::fine,
+                    tr("The cards %1 and %2 are on the same network; your address is the one that was chosen.")
+                        .arg(one->name, other->name)};
         return {Check::severalWays, Verdict::doubtful,
+                tr("The cards %1 and %2 are on the same network: others may see you under either address.")
+                    .arg(one->name, other->name),
+                tr("Turn one of them off, or choose one as your own address in Tools, Options.")};
+    }
+    if (card && std::ranges::find(tunnels, card->name) != tunnels.end())
+        return {Check::severalWays, isChosen ? Verdict::fine : Verdict::doubtful,
                 tr("Your address is that of %1, a VPN or another line to a single machine.").arg(card->name),
-                tr("If the others are on the local network, choose its card as your own address in Tools, Options.")};
+                isChosen ? QString()
+                         : tr("If the others are on the local network, choose its card as your own address in Tools, "
+                              "Options.")};
     if (!tunnels.empty())
         return {Check::severalWays, Verdict::fine,
                 tr("A VPN is up (%1); your address is not on it.")
@@ -256,10 +295,13 @@ Finding contactSilent(const QString &nickname, Ipv4Address address, Neighbour ne
     case Neighbour::farAway:
         break;
     }
-    return {Check::contact, Verdict::wrong,
-            tr("%1 did not answer. The address %2 is on another network, behind a router.").arg(nickname, ip),
-            tr("The router must let UDP through in both directions; and what may be wrong on one network may be wrong "
-               "there: a firewall, a copy that does not run, a user who is invisible.")};
+    return {
+        Check::contact, Verdict::wrong,
+        tr("%1 did not answer. The address %2 is on another network, behind a router or at the other end of a tunnel.")
+            .arg(nickname, ip),
+        tr("What leads there must let UDP through in both directions; and what may be wrong on one network may be "
+           "wrong "
+           "there: a firewall, a copy that does not run, a user who is invisible.")};
 }
 
 Finding contactNotAsked(const QString &reason, const QString &advice)

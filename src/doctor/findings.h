@@ -11,9 +11,15 @@
 namespace nimb::findings
 {
 
-/// isFixed: whoever started the program has fixed the own address.
-Finding network(const std::vector<NetworkCard> &cards, Ipv4Address own, bool isFixed);
-Finding ownAddress(const std::vector<NetworkCard> &cards, Ipv4Address own, bool isFixed);
+/// How the own address came about.
+struct OwnAddress {
+    Ipv4Address address;
+    bool isFixed = false; ///< by whoever started the program
+    QString card{};       ///< the one that the options name; empty: the system's choice
+};
+
+Finding network(const std::vector<NetworkCard> &cards, const OwnAddress &own);
+Finding ownAddress(const std::vector<NetworkCard> &cards, const OwnAddress &own);
 /// holder: whoever listens there when it is not we.
 Finding port(std::uint16_t port, bool isBound, BindFailure failure, const std::optional<PortHolder> &holder);
 /// No copy runs, and nothing keeps one from listening.
@@ -30,10 +36,10 @@ struct BroadcastTrial {
     NetworkCard card;
     bool left = false;
 };
-Finding broadcast(const std::vector<BroadcastTrial> &trials, Ipv4Address own, bool isFixed);
+Finding broadcast(const std::vector<BroadcastTrial> &trials, const OwnAddress &own);
 Finding firewall(const Firewall &firewall, std::uint16_t port);
 /// tunnels: names of the cards that lead to a single machine.
-Finding severalWays(const std::vector<NetworkCard> &cards, const std::vector<QString> &tunnels, Ipv4Address own);
+Finding severalWays(const std::vector<NetworkCard> &cards, const std::vector<QString> &tunnels, const OwnAddress &own);
 
 Finding contactAnswered(const QString &nickname, std::chrono::milliseconds after);
 Finding contactSilent(const QString &nickname, Ipv4Address address, Neighbour neighbour);

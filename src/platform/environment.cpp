@@ -1,8 +1,14 @@
 #include "platform/environment.h"
 
 #include <QDir>
+#include <QFile>
 #include <QProcessEnvironment>
 #include <QStandardPaths>
+
+#ifdef Q_OS_UNIX
+#include <pwd.h>
+#include <unistd.h>
+#endif
 
 namespace nimb
 {
@@ -27,6 +33,19 @@ Environment Environment::fromSystem()
 {
     return environmentOf(QProcessEnvironment::systemEnvironment(),
                          QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation), QDir::currentPath());
+}
+
+Environment Environment::ofCaller()
+{
+#ifdef Q_OS_UNIX
+    bool isNumber = false;
+    const uint caller = qEnvironmentVariable("SUDO_UID").toUInt(&isNumber);
+    const passwd *const user = ::geteuid() == 0 && isNumber ? ::getpwuid(caller) : nullptr;
+    if (user)
+        return environmentOf(QProcessEnvironment::systemEnvironment(),
+                             QFile::decodeName(user->pw_dir) + QLatin1String("/.config"), QDir::currentPath());
+#endif
+    return fromSystem();
 }
 
 Environment Environment::ofProcess(const QProcessEnvironment &variables, const QString &folder)

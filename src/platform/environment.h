@@ -17,6 +17,8 @@ struct Environment {
     QString profileFolder;           ///< NIMBCHAT_PROFILE, or NIMB-Chat in the user's configuration folder
 
     static Environment fromSystem();
+    /// The same for a tool that looks at what another program uses: with sudo its user is still the one who sits there.
+    static Environment ofCaller();
     /// Of another process on Linux, of which the system tells its variables and the folder in which it runs.
     static Environment ofProcess(const QProcessEnvironment &variables, const QString &folder);
 };

@@ -319,7 +319,76 @@ std::optional<UfwRule> readUfwRule(const QByteArray &line)
     return UfwRule{words[0].split('_').first(), words[1], words[2], words[3], words[4], words[5], *direction};
 }
 
+/// A zone of firewalld: its lines "key: value", and whether it has rules of its own language.
+struct FirewalldZone {
+    QByteArray name;
+    std::map<QByteArray, QList<QByteArray>> words; ///< of the value, by key
+    bool hasRichRules = false;
+
+    bool holds(const char *key, const QByteArray &word) const { return wordsOf(key).contains(word); }
+    QList<QByteArray> wordsOf(const char *key) const
+    {
+        const auto found = words.find(key);
+        return found == words.end() ? QList<QByteArray>() : found->second;
+    }
+    bool isInUse() const { return !wordsOf("interfaces").isEmpty() || !wordsOf("sources").isEmpty(); }
+};
+
+std::vector<FirewalldZone> readFirewalldZones(const QByteArray &text)
+{
+    std::vector<FirewalldZone> zones;
+    for (const QByteArray &line : text.split('\n')) {
+        const QByteArray trimmed = line.simplified();
+        if (trimmed.isEmpty())
+            continue;
+        if (line.front() != ' ' && line.front() != '\t') {
+            zones.push_back({.name = trimmed.split(' ').first()});
+            continue;
+        }
+        if (zones.empty())
+            return {};
+        FirewalldZone &zone = zones.back();
+        zone.hasRichRules = zone.hasRichRules || trimmed.startsWith("rule ") || trimmed.startsWith("rich rules: rule");
+        if (const qsizetype colon = trimmed.indexOf(':'); colon > 0 && !trimmed.mid(colon + 1).trimmed().isEmpty())
+            zone.words[trimmed.left(colon)] = trimmed.mid(colon + 1).trimmed().split(' ');
+    }
+    return zones;
+}
+
+RuleAnswer answerOf(const FirewalldZone &zone, std::uint16_t port)
+{
+    const QList<QByteArray> ports = zone.wordsOf("ports");
+    const bool hasPort = std::ranges::any_of(ports, [port](const QByteArray &word) {
+        const QList<QByteArray> parts = word.split('/');
+        return parts.size() == 2 && parts[1] == "udp" && holdsPort(QByteArray(parts[0]).replace('-', ':'), port);
+    });
+    const bool lets = hasPort || zone.holds("target", "ACCEPT") || zone.holds("services", "nimb-chat")
+        || zone.holds("protocols", "udp");
+    if (zone.hasRichRules)
+        return RuleAnswer::unsure;
+    return lets ? RuleAnswer::lets : RuleAnswer::blocks;
+}
+
 } // namespace
+
+std::optional<FirewalldAnswer> firewalldAnswer(const QByteArray &zones, const QByteArray &defaultZone,
+                                               std::uint16_t udpPort)
+{
+    std::vector<FirewalldZone> all = readFirewalldZones(zones);
+    const bool anyInUse = std::ranges::any_of(all, &FirewalldZone::isInUse);
+    std::erase_if(all, [&](const FirewalldZone &zone) {
+        return anyInUse ? !zone.isInUse() : zone.name != defaultZone.trimmed();
+    });
+    if (all.empty())
+        return std::nullopt;
+    const auto letsIn = [udpPort](const FirewalldZone &zone) { return answerOf(zone, udpPort) == RuleAnswer::lets; };
+    const auto keepsOut = std::ranges::find_if_not(all, letsIn);
+    if (keepsOut == all.end())
+        return FirewalldAnswer{RuleAnswer::lets, all.front().name};
+    const bool allKeepOut = std::ranges::all_of(
+        all, [udpPort](const FirewalldZone &zone) { return answerOf(zone, udpPort) == RuleAnswer::blocks; });
+    return FirewalldAnswer{allKeepOut ? RuleAnswer::blocks : RuleAnswer::unsure, keepsOut->name};
+}
 
 bool isUfwOn(const QByteArray &configuration)
 {

@@ -24,6 +24,18 @@ enum class RuleAnswer {
 /// itself reads its rules.
 [[nodiscard]] RuleAnswer ufwAnswer(const QByteArray &defaults, const QByteArray &rules, std::uint16_t udpPort);
 
+struct FirewalldAnswer {
+    RuleAnswer answer = RuleAnswer::blocks;
+    QByteArray zone{}; ///< in which the port would have to be opened
+    bool operator==(const FirewalldAnswer &) const = default;
+};
+
+/// zones: what `firewall-cmd --list-all-zones` prints; defaultZone: the name that counts for cards in no zone. Cards
+/// and sources decide which zones matter; services are known by their names, of which only ours opens the port. Nothing
+/// when it is no such text.
+[[nodiscard]] std::optional<FirewalldAnswer> firewalldAnswer(const QByteArray &zones, const QByteArray &defaultZone,
+                                                             std::uint16_t udpPort);
+
 /// What keeps a datagram out.
 struct NftBlock {
     QString family, table, chain; ///< where a rule that lets it in would have to stand

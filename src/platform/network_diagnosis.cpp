@@ -16,7 +16,10 @@
 #include <QtEndian>
 
 #include <algorithm>
-#include <array>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
 
 namespace nimb
 {
@@ -75,6 +78,12 @@ bool holdsSocket(const QString &process, const QString &link)
     });
 }
 
+bool hasNeighbours(const QNetworkInterface &interface)
+{
+    return interface.flags().testFlag(QNetworkInterface::CanBroadcast)
+        && !interface.flags().testFlag(QNetworkInterface::IsPointToPoint);
+}
+
 /// Those of the administrator are not always in the search path of others.
 QString findCommand(const QString &name)
 {
@@ -89,9 +98,32 @@ QString ufwCommand(std::uint16_t port)
     return QStringLiteral("sudo ufw allow %1/udp").arg(port);
 }
 
-QString firewalldCommand(std::uint16_t port)
+/// zone: empty for that of cards in no zone.
+QString firewalldCommand(std::uint16_t port, const QString &zone)
 {
-    return QStringLiteral("sudo firewall-cmd --permanent --add-port=%1/udp && sudo firewall-cmd --reload").arg(port);
+    return QStringLiteral("sudo firewall-cmd --permanent %1--add-port=%2/udp && sudo firewall-cmd --reload")
+        .arg(zone.isEmpty() ? QString() : QStringLiteral("--zone=%1 ").arg(zone), QString::number(port));
+}
+
+/// What systemd has started and not stopped leaves a link without a target.
+bool isUnitOn(const char *unit)
+{
+    return QFileInfo(QLatin1String("/run/systemd/units/invocation:") + QLatin1String(unit)).isSymLink();
+}
+
+bool isFirewalldOn()
+{
+    return isUnitOn("firewalld.service") || QFile::exists(QStringLiteral("/run/firewalld.pid"));
+}
+
+/// Nothing can be kept from us for want of permission.
+bool isSuperuser()
+{
+#ifdef Q_OS_UNIX
+    return ::geteuid() == 0;
+#else
+    return false;
+#endif
 }
 
 QString nftCommand(const NftBlock &block, std::uint16_t port)
@@ -115,25 +147,27 @@ Firewall::Verdict verdictOf(RuleAnswer answer)
 
 /// Rules of nftables, and of iptables in both of its forms, need one of these. Everybody may see whether they are
 /// there.
+bool isLoaded(const char *module)
+{
+    return QFile::exists(QLatin1String("/sys/module/") + QLatin1String(module));
+}
+
 bool mayHaveRules()
 {
-    return std::ranges::any_of(std::array{"nf_tables", "iptable_filter"}, [](const char *module) {
-        return QFile::exists(QLatin1String("/sys/module/") + QLatin1String(module));
-    });
+    return isLoaded("nf_tables") || isLoaded("iptable_filter");
 }
 
 Firewall nftFirewall(const std::optional<NftAnswer> &answer, std::uint16_t port)
 {
     const QString name = QStringLiteral("nftables");
-    // What systemd started and has not stopped.
-    const bool isOn = QFileInfo(QStringLiteral("/run/systemd/units/invocation:nftables.service")).isSymLink();
+    const Firewall::Verdict whoMayLook = isSuperuser() ? Firewall::Verdict::noReader : Firewall::Verdict::unknown;
     const NftBlock usual{QStringLiteral("inet"), QStringLiteral("filter"), QStringLiteral("input")};
-    if (!answer && isOn)
+    if (!answer && !isSuperuser() && isUnitOn("nftables.service"))
         return {Firewall::Verdict::unreadable, name, nftCommand(usual, port)};
     if (!answer)
-        return {mayHaveRules() ? Firewall::Verdict::unknown : Firewall::Verdict::none, {}, {}};
-    if (!answer->hasInput)
-        return {};
+        return {mayHaveRules() ? whoMayLook : Firewall::Verdict::none, {}, {}};
+    if (!answer->hasInput) // the older form of iptables has rules that nft does not see
+        return {isLoaded("iptable_filter") ? whoMayLook : Firewall::Verdict::none, {}, {}};
     return {verdictOf(answer->answer), name, nftCommand(answer->block.value_or(usual), port)};
 }
 
@@ -162,12 +196,11 @@ bool isInNeighbourTable(const QByteArray &table, Ipv4Address address)
 {
     constexpr int ip = 0, flags = 2;
     constexpr unsigned complete = 2;
-    for (const QByteArray &line : table.split('\n').mid(1)) {
+    return std::ranges::any_of(table.split('\n').mid(1), [address](const QByteArray &line) {
         const QList<QByteArray> fields = line.simplified().split(' ');
-        if (fields.size() > flags && fields[ip] == address.toText().c_str())
-            return (fields[flags].toUInt(nullptr, 16) & complete) != 0;
-    }
-    return false;
+        return fields.size() > flags && fields[ip] == address.toText().c_str()
+            && (fields[flags].toUInt(nullptr, 16) & complete) != 0;
+    });
 }
 
 SystemNetworkDiagnosis::SystemNetworkDiagnosis(const UdpWinsock &socket)
@@ -206,15 +239,18 @@ bool SystemNetworkDiagnosis::isTunnel(const QString &card) const
     return QNetworkInterface::interfaceFromName(card).flags().testFlag(QNetworkInterface::IsPointToPoint);
 }
 
+/// Neighbours are on the network of the card through which the way to them leads. Lines to a single machine keep no
+/// table of them.
 Neighbour SystemNetworkDiagnosis::neighbour(Ipv4Address address) const
 {
     if (address.isLoopback())
         return Neighbour::known;
+    const std::optional<Ipv4Address> own = sourceAddressTowards({address, discardPort});
+    const QHostAddress peer(address.number());
     for (const QNetworkInterface &interface : QNetworkInterface::allInterfaces()) {
         for (const QNetworkAddressEntry &entry : interface.addressEntries()) {
-            const QHostAddress peer(address.number());
-            if (entry.ip().protocol() != QAbstractSocket::IPv4Protocol
-                || !peer.isInSubnet(entry.ip(), entry.prefixLength()))
+            const bool isTheWay = own && entry.ip() == QHostAddress(own->number());
+            if (!isTheWay || !peer.isInSubnet(entry.ip(), entry.prefixLength()) || !hasNeighbours(interface))
                 continue;
             const bool isKnown = isInNeighbourTable(contentsOf(QStringLiteral("/proc/net/arp")), address);
             return isKnown ? Neighbour::known : Neighbour::unknown;
@@ -258,21 +294,24 @@ void SystemNetworkDiagnosis::readFirewall(std::uint16_t port, FirewallRead read)
         QTimer::singleShot(0, m_life.get(), [ufw, read = std::move(read)] { read(ufw); });
         return;
     }
-    if (QFile::exists(QStringLiteral("/run/firewalld.pid")))
+    if (isFirewalldOn())
         return askFirewalld(port, read);
     askNftables(port, read);
 }
 
-/// It answers whoever sits at the machine, and says no by the status 1.
+/// It answers whoever sits at the machine.
 void SystemNetworkDiagnosis::askFirewalld(std::uint16_t port, const FirewallRead &read)
 {
-    run(QStringLiteral("firewall-cmd"), {QStringLiteral("--query-port=%1/udp").arg(port)},
-        [port, read](int status, const QByteArray &) {
-            const bool isAnswer = status == 0 || status == 1;
-            read({isAnswer ? verdictOf(status == 0 ? RuleAnswer::lets : RuleAnswer::blocks)
-                           : Firewall::Verdict::unreadable,
-                  QStringLiteral("firewalld"), firewalldCommand(port)});
+    const QString program = QStringLiteral("firewall-cmd");
+    const auto tell = [port, read](const std::optional<FirewalldAnswer> &answer) {
+        read({answer ? verdictOf(answer->answer) : Firewall::Verdict::unreadable, QStringLiteral("firewalld"),
+              firewalldCommand(port, answer ? QString::fromUtf8(answer->zone) : QString())});
+    };
+    run(program, {QStringLiteral("--get-default-zone")}, [=, this](int, const QByteArray &defaultZone) {
+        run(program, {QStringLiteral("--list-all-zones")}, [=](int status, const QByteArray &zones) {
+            tell(status == 0 ? firewalldAnswer(zones, defaultZone, port) : std::nullopt);
         });
+    });
 }
 
 void SystemNetworkDiagnosis::askNftables(std::uint16_t port, const FirewallRead &read)

@@ -37,15 +37,21 @@ bool reachesOthers(const QNetworkInterface &interface)
         && !isInsideMachine(interface.name());
 }
 
+/// Of a card on which others are, if there is one.
 std::optional<Ipv4Address> firstOfAnyInterface()
 {
-    const QList<QHostAddress> addresses = QNetworkInterface::allAddresses();
-    for (const QHostAddress &any : addresses) {
-        const Ipv4Address address = Ipv4Address::of(any.toIPv4Address());
-        if (any.protocol() == QAbstractSocket::IPv4Protocol && isUsable(address))
-            return address;
+    std::optional<Ipv4Address> first;
+    for (const QNetworkInterface &interface : QNetworkInterface::allInterfaces()) {
+        for (const QNetworkAddressEntry &entry : interface.addressEntries()) {
+            const Ipv4Address address = Ipv4Address::of(entry.ip().toIPv4Address());
+            if (entry.ip().protocol() != QAbstractSocket::IPv4Protocol || !isUsable(address))
+                continue;
+            if (runs(interface) && reachesOthers(interface))
+                return address;
+            first = first.value_or(address);
+        }
     }
-    return std::nullopt;
+    return first;
 }
 
 } // namespace

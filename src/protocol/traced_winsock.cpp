@@ -29,7 +29,8 @@ void TracedWinsock::setRemoteHost(std::optional<Ipv4Address> address)
 
 void TracedWinsock::SendData(const std::string &bytes)
 {
-    m_trace.note(TracedDatagram::Direction::out, m_remoteHost, bytes);
+    if (m_other.isBound()) // else nothing leaves
+        m_trace.note(TracedDatagram::Direction::out, m_remoteHost, bytes);
     m_other.SendData(bytes);
 }
 

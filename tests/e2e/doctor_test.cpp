@@ -209,7 +209,7 @@ TEST_F(DoctorOnANetwork, NoticesThatThereIsNone)
 {
     const LanMachine alone;
     const Console::Answer answer = examine(alone);
-    EXPECT_THAT(answer.of("network"), StartsWith("wrong: No network is connected."));
+    EXPECT_THAT(answer.of("network"), StartsWith("wrong: No network with an IPv4 address is connected."));
     EXPECT_EQ(answer.status, wrong);
 }
 

@@ -38,6 +38,12 @@ void checkUfw(const QByteArray &files)
     require(behind("deny") == RuleAnswer::blocks, "the first rule for everybody keeps out");
 }
 
+void checkFirewalld(const QByteArray &zones)
+{
+    const std::optional<FirewalldAnswer> answer = firewalldAnswer(zones, "public", port);
+    require(!answer || zones.contains(answer->zone), "a zone is one of the text");
+}
+
 void checkNeighbours(const QByteArray &table)
 {
     const Ipv4Address ann(192, 168, 1, 9);
@@ -52,12 +58,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     if (size == 0)
         return 0;
     const QByteArray bytes(reinterpret_cast<const char *>(data) + 1, static_cast<qsizetype>(size) - 1);
-    switch (data[0] % 3) {
+    switch (data[0] % 4) {
     case 0:
         checkNftables(bytes);
         break;
     case 1:
         checkUfw(bytes);
+        break;
+    case 2:
+        checkFirewalld(bytes);
         break;
     default:
         checkNeighbours(bytes);

@@ -207,6 +207,16 @@ TEST_F(DoctorTest, ACopyWithAFixedAddressSendsNothingThroughOtherCards)
     EXPECT_EQ(of(Check::broadcast), "fine: A question to everybody leaves: 192.168.1.255 (eth0).");
 }
 
+TEST_F(DoctorTest, AsksNobodyWithoutAPort)
+{
+    wire.portTaken = true;
+    EXPECT_FALSE(socket.bind());
+    ask("192.168.1.9");
+    EXPECT_EQ(of(Check::contact), "doubtful: Ann was not asked, for nothing listens for an answer.");
+    EXPECT_THAT(sent(), IsEmpty());
+    EXPECT_THAT(trace.datagrams(), IsEmpty());
+}
+
 TEST_F(DoctorTest, NamesAFirewallWhenItHasBeenFound)
 {
     doctor().examine();

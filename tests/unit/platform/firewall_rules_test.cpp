@@ -58,6 +58,52 @@ TEST(Ufw, OfARuleForSomeItIsNotSureUnlessThePolicySaysTheSame)
     EXPECT_EQ(ufwSays("### tuple ### allow udp 5549 10.1.1.1 any 0.0.0.0/0 in\n"), RuleAnswer::unsure);
 }
 
+/// What firewalld 1.3 prints of a zone.
+QByteArray zone(const QByteArray &name, const QByteArray &cards, const QByteArray &services, const QByteArray &ports,
+                const QByteArray &rich = {}, const QByteArray &target = "default")
+{
+    return name + "\n  target: " + target + "\n  icmp-block-inversion: no\n  interfaces: " + cards
+        + "\n  sources: \n  services: " + services + "\n  ports: " + ports
+        + "\n  protocols: \n  forward: yes\n  masquerade: no\n  forward-ports: \n  source-ports: \n  icmp-blocks: \n"
+          "  rich rules: \n"
+        + rich + "\n";
+}
+
+FirewalldAnswer firewalldSays(const QByteArray &zones)
+{
+    return firewalldAnswer(zones, "public\n", port).value_or(FirewalldAnswer{RuleAnswer::unsure, "nothing"});
+}
+
+TEST(Firewalld, TheZoneOfTheCardDecides)
+{
+    const QByteArray home = zone("home", "", "ssh", "5549/udp"), ssh = "ssh dhcpv6-client";
+    const auto answers = [](RuleAnswer answer, const char *name) { return FirewalldAnswer{answer, name}; };
+    EXPECT_EQ(firewalldSays(home + zone("public (active)", "eth0", ssh, "")), answers(RuleAnswer::blocks, "public"));
+    EXPECT_EQ(firewalldSays(home + zone("public (active)", "eth0", ssh, "80/tcp 5549/udp")),
+              answers(RuleAnswer::lets, "public"));
+    EXPECT_EQ(firewalldSays(home + zone("public (active)", "eth0", ssh, "5500-5600/udp")),
+              answers(RuleAnswer::lets, "public"));
+    EXPECT_EQ(firewalldSays(zone("public (active)", "eth0", ssh, "5549/tcp 5500-5548/udp")),
+              answers(RuleAnswer::blocks, "public"));
+    EXPECT_EQ(firewalldSays(zone("work (active)", "eth0", "nimb-chat ssh", "")), answers(RuleAnswer::lets, "work"));
+    EXPECT_EQ(firewalldSays(zone("trusted (active)", "eth0", "", "", "", "ACCEPT")),
+              answers(RuleAnswer::lets, "trusted"));
+    EXPECT_EQ(firewalldSays(zone("work (active)", "wlan0", ssh, "") + zone("home (active)", "eth0", ssh, "5549/udp")),
+              answers(RuleAnswer::unsure, "work"));
+    EXPECT_EQ(firewalldSays(home + zone("public", "", ssh, "")), answers(RuleAnswer::blocks, "public"))
+        << "cards in no zone are in this one";
+    EXPECT_EQ(firewalldSays(zone("public (active)", "eth0", ssh, "",
+                                 "\trule family=\"ipv4\" source address=\"10.0.0.0/8\" accept\n")),
+              answers(RuleAnswer::unsure, "public"));
+}
+
+TEST(Firewalld, WhatIsNoListOfZonesSaysNothing)
+{
+    EXPECT_EQ(firewalldAnswer({}, "public", port), std::nullopt);
+    EXPECT_EQ(firewalldAnswer("  target: default\n", "public", port), std::nullopt);
+    EXPECT_EQ(firewalldAnswer(zone("home", "", "", ""), "public", port), std::nullopt);
+}
+
 /// A ruleset with one chain for what comes in.
 QByteArray ruleset(const QByteArray &rules, const QByteArray &policy = "drop", const QByteArray &more = {})
 {

@@ -125,6 +125,10 @@ TEST(NeighbourTable, KnowsWhoHasSaidThatTheAddressIsHis)
     EXPECT_TRUE(isInNeighbourTable(table, Ipv4Address(192, 168, 1, 9)));
     EXPECT_FALSE(isInNeighbourTable(table, Ipv4Address(192, 168, 1, 8))) << "asked for in vain";
     EXPECT_TRUE(isInNeighbourTable(table, Ipv4Address(192, 168, 1, 99))) << "one that is written down";
+    EXPECT_TRUE(
+        isInNeighbourTable(table + "192.168.1.8      0x1         0x2         52:54:00:12:34:58     *        wlan0\n",
+                           Ipv4Address(192, 168, 1, 8)))
+        << "through another card";
     EXPECT_FALSE(isInNeighbourTable(table, Ipv4Address(192, 168, 1, 7)));
     EXPECT_FALSE(isInNeighbourTable({}, Ipv4Address(192, 168, 1, 9)));
 }
