@@ -82,7 +82,8 @@ void SameMachine::check()
     for (const auto &[address, shownBy] : m_hidden) {
         const Contact *const hidden = m_contacts.find(address), *const shown = m_contacts.find(shownBy);
         const bool stays = hidden && shown && mayBeHidden(*hidden) && haveSameNames(*hidden, *shown)
-            && hidden->presence != Presence::offline && shown->presence != Presence::offline;
+            && shown->presence != Presence::offline
+            && (hidden->presence != Presence::offline || !hidden->isAcquaintance());
         if (!stays)
             shownAgain.emplace_back(address);
     }

@@ -14,8 +14,9 @@ namespace nimb
 
 /// Two contacts are taken for one machine when they bear the same nickname and the same workstation name and both are
 /// heard within limits::sameMachineTime. Names can be forged, so nobody is hidden to whom the user has spoken or who
-/// has something to say, and whoever does speak is shown again. Copies with loopback addresses are on one machine, and
-/// yet not one. The list itself keeps both, and so does the store.
+/// has something to say, and whoever does speak is shown again. A stranger stays hidden while it is silent, for a
+/// machine often answers from one of its addresses alone. Copies with loopback addresses are on one machine, and yet
+/// not one. The list itself keeps both, and so does the store.
 class SameMachine : public PresenceWitness
 {
     Q_DECLARE_TR_FUNCTIONS(SameMachine)

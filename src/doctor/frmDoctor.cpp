@@ -248,16 +248,25 @@ void frmDoctor::examined()
 
 void frmDoctor::showDatagrams()
 {
+    showLines(m_doctor.datagrams(showTextsBox->isChecked()));
+    const QString drops = m_doctor.drops();
+    dropsLabel->setText(drops.isEmpty() ? tr("Nothing has been dropped.") : tr("Dropped:") + u'\n' + drops);
+}
+
+/// Left alone while nothing changes, for somebody may walk through them.
+void frmDoctor::showLines(const std::vector<TraceLine> &lines)
+{
+    if (lines == m_shownLines)
+        return;
+    m_shownLines = lines;
     QScrollBar &bar = *datagramList->verticalScrollBar();
     const bool follows = bar.value() == bar.maximum();
     datagramList->clear();
-    for (const TraceLine &line : m_doctor.datagrams(showTextsBox->isChecked()))
+    for (const TraceLine &line : lines)
         datagramList->addTopLevelItem(
             new QTreeWidgetItem({line.time, line.direction, line.address, line.size, line.kind, line.text}));
     if (follows)
         datagramList->scrollToBottom();
-    const QString drops = m_doctor.drops();
-    dropsLabel->setText(drops.isEmpty() ? tr("Nothing has been dropped.") : tr("Dropped:") + u'\n' + drops);
 }
 
 void frmDoctor::examineBtn_Click()

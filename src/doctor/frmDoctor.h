@@ -46,6 +46,7 @@ private:
     /// Those of the list, where they have changed; who is chosen stays so.
     void fillContacts();
     void showDatagrams();
+    void showLines(const std::vector<TraceLine> &lines);
 
     void examineBtn_Click();
     void askContactBtn_Click();
@@ -61,6 +62,7 @@ private:
     QPushButton *copyReportBtn = nullptr;
     QPushButton *closeBtn = nullptr;
     QTimer *m_refresh = nullptr;
+    std::vector<TraceLine> m_shownLines;
     bool m_contactsHaveChanged = true; ///< since contactCombo was filled
     Doctor m_doctor;
 };

@@ -19,6 +19,7 @@ struct TraceLine {
     QString size; ///< bytes
     QString kind; ///< the command word, or what it is
     QString text; ///< the datagram on one line; empty where people's words are left out
+    bool operator==(const TraceLine &) const = default;
 };
 
 /// withTexts: also what people wrote, and the names of their states.

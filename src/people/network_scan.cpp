@@ -38,9 +38,12 @@ void NetworkScan::Command1_Click(const QString &typed)
             tr("\"%1\" is neither a name nor the address of a computer or a network, so nobody was asked.")
                 .arg(remoteName(text)));
     // The answer may come when the dialog and this object are gone.
-    m_resolver.resolve(text, [&search = m_search, &log = m_log, text](std::optional<Ipv4Address> address) {
-        if (address)
+    const bool byInvisible = m_common.isInvisible();
+    m_resolver.resolve(text, [&search = m_search, &log = m_log, text, byInvisible](std::optional<Ipv4Address> address) {
+        if (address && byInvisible)
             search.ask({{*address}}, remoteName(text));
+        else if (address) // he may have become so meanwhile
+            search.askUnlessInvisible({{*address}}, remoteName(text));
         else
             log.fault(tr("No address was found for \"%1\", so nobody was asked.").arg(remoteName(text)));
     });

@@ -28,7 +28,7 @@ std::size_t batchesOf(std::size_t targets)
 void Search::ask(std::vector<SearchTarget> targets, const QString &where)
 {
     std::erase_if(m_runs, [](const auto &run) { return !run->timer->isActive(); });
-    if (targets.empty())
+    if (targets.empty() || m_hasEnded)
         return;
     if (targets.size() == 1 && isOneself(targets.front().destination))
         return askOneself(targets.front().destination);
@@ -119,15 +119,22 @@ std::vector<SearchedNetwork> Search::networks() const
         return {{tr("this computer"), own, everybodyHere}};
     std::vector<SearchedNetwork> networks;
     for (const NetworkCard &card : m_parts.ownAddresses.cards()) {
-        const bool canAsk = !m_parts.ownAddresses.isFixed() || card.address == m_parts.common.ownIP;
-        if (canAsk && card.broadcast)
+        const bool isOwn = card.address == m_parts.common.ownIP;
+        if (!card.broadcast || (m_parts.ownAddresses.isFixed() && !isOwn))
+            continue;
+        // Who is asked from two addresses on one network knows two of us, and one of them never answers.
+        const auto same = std::ranges::find(networks, *card.broadcast, &SearchedNetwork::everybody);
+        if (same == networks.end())
             networks.push_back({card.name, card.address, *card.broadcast});
+        else if (isOwn)
+            *same = {card.name, card.address, *card.broadcast};
     }
     return networks;
 }
 
 void Search::end()
 {
+    m_hasEnded = true;
     for (const auto &run : m_runs)
         run->timer->stop();
     showProgress();

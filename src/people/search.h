@@ -26,6 +26,7 @@ struct SearchedNetwork {
     QString name;          ///< of the card, or what the user calls it
     Ipv4Address address;   ///< of this machine there
     Ipv4Address everybody; ///< where everybody there hears it
+    bool operator==(const SearchedNetwork &) const = default;
 };
 
 /// Everybody is asked twice: whoever does not know this copy takes note of it at the first question, and answers the
@@ -53,7 +54,8 @@ public:
     /// For questions that the user has not asked for in so many words: they would show that he is there.
     void askUnlessInvisible(std::vector<SearchTarget> targets, const QString &where);
 
-    /// Those on which everybody can be asked. For a copy with a loopback address that is this very machine.
+    /// Those on which everybody can be asked, each one once. For a copy with a loopback address that is this very
+    /// machine.
     [[nodiscard]] std::vector<SearchedNetwork> networks() const;
     /// Asks everybody on all of them, unless the user is invisible.
     void findEverybody();
@@ -94,6 +96,7 @@ private:
 
     Parts m_parts;
     std::vector<std::unique_ptr<Run>> m_runs;
+    bool m_hasEnded = false;
 };
 
 } // namespace nimb

@@ -95,7 +95,7 @@ TEST_F(FrmDoctor, CheckAgainExaminesAgain)
     windows.sent();
     windows.ownAddresses.running.clear();
     click("examineBtn");
-    EXPECT_EQ(text("networkSentence"), QStringLiteral("No network is connected."));
+    EXPECT_EQ(text("networkSentence"), QStringLiteral("No network with an IPv4 address is connected."));
     EXPECT_THAT(windows.sent(), ElementsAre(To{"10.0.0.1", "?ONLINE 10.0.0.1 HERE Me"}));
 }
 
@@ -155,6 +155,17 @@ TEST_F(FrmDoctor, ShowsTheLatestDatagramsWithoutWhatPeopleWrote)
     EXPECT_EQ(column(2).back(), "10.0.0.3");
     control<QCheckBox>("showTextsBox").click();
     EXPECT_EQ(column(5)[message], "-the secret");
+}
+
+TEST_F(FrmDoctor, TheLatestDatagramsCanBeWalkedThrough)
+{
+    endWell();
+    auto &list = control<QTreeWidget>("datagramList");
+    EXPECT_TRUE(QTest::qWaitFor([&list] { return list.topLevelItemCount() > 1; }, 5000));
+    list.setCurrentItem(list.topLevelItem(1));
+    windows.diagnosis.firewallRead({}); // whatever is shown anew
+    ASSERT_TRUE(list.currentItem());
+    EXPECT_EQ(list.indexOfTopLevelItem(list.currentItem()), 1);
 }
 
 TEST_F(FrmDoctor, CopiesAReport)

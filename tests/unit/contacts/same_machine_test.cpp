@@ -119,11 +119,23 @@ TEST_F(SameMachineTest, WhoIsOfflineStandsForNobodyAndIsHiddenByNobody)
     answer("10.7.0.2");
     copy.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC-ANN Ann");
     EXPECT_THAT(hidden(), IsEmpty());
+}
+
+TEST_F(SameMachineTest, AStrangerWhoIsSilentStaysHiddenAndAnAcquaintanceDoesNot)
+{
     answer("10.0.0.2");
     answer("10.7.0.2");
-    EXPECT_THAT(hidden(), ElementsAre("10.7.0.2"));
     copy.arrive("10.7.0.2", "!OFFLINE 10.7.0.2 PC-ANN Ann");
-    EXPECT_THAT(hidden(), IsEmpty());
+    EXPECT_THAT(hidden(), ElementsAre("10.7.0.2"));
+    Contact cable;
+    cable.ip = QStringLiteral("10.8.0.2");
+    cable.nickname = QStringLiteral("Ann");
+    cable.workstation = QStringLiteral("PC-ANN");
+    copy.engine.contacts().add(cable); // by the user
+    answer("10.8.0.2");
+    EXPECT_THAT(hidden(), UnorderedElementsAre("10.7.0.2", "10.8.0.2"));
+    copy.arrive("10.8.0.2", "!OFFLINE 10.8.0.2 PC-ANN Ann");
+    EXPECT_THAT(hidden(), ElementsAre("10.7.0.2"));
 }
 
 TEST_F(SameMachineTest, AnAnnouncementThatBothAnswerShowsNobodyInBetween)

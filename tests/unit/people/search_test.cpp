@@ -101,6 +101,25 @@ TEST_F(SearchTest, TheLineAboutSilenceNamesTheDoctorAndOpensIt)
     EXPECT_THAT(commands, ElementsAre("Help, Network doctor...: networkDoctor"));
 }
 
+TEST_F(SearchTest, OfTwoAddressesOnOneNetworkTheOwnOneAsks)
+{
+    me.ownAddresses.running = {{QStringLiteral("wlan0"), Ipv4Address(10, 0, 0, 9), everybody},
+                               {QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1), everybody},
+                               {QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 8), everybody},
+                               {QStringLiteral("eth1"), Ipv4Address(10, 7, 0, 1), Ipv4Address(10, 7, 0, 255)}};
+    EXPECT_EQ(
+        search().networks(),
+        (std::vector<SearchedNetwork>{{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1), everybody},
+                                      {QStringLiteral("eth1"), Ipv4Address(10, 7, 0, 1), Ipv4Address(10, 7, 0, 255)}}));
+}
+
+TEST_F(SearchTest, NobodyIsAskedOnceTheProgramEnds)
+{
+    search().end();
+    ask(Ipv4Address(10, 0, 0, 2));
+    EXPECT_THAT(me.sent(), IsEmpty());
+}
+
 TEST_F(SearchTest, SomebodyElseWhoComesMeanwhileIsNoAnswer)
 {
     ask(Ipv4Address(10, 0, 0, 77));
