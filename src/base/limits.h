@@ -47,6 +47,9 @@ constexpr qsizetype waitingCharacters = 4'000'000;
 constexpr qsizetype liveTextLength = 200;
 /// Bytes of an avatar's head that are kept: a time stamp, or how a polled picture begins.
 constexpr std::size_t avatarHeadLength = 255;
+/// Pictures of contacts whom peers have brought in this run: those of ten thousand would take as much memory as the
+/// whole program.
+constexpr int avatarsOfStrangers = 1000;
 /// Pixels of a picture that is to become the own avatar: it is shown with 50 by 50, and more would take the memory of
 /// the whole program many times over.
 constexpr qint64 pictureFilePixels = 50'000'000;

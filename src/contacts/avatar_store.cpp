@@ -14,8 +14,11 @@ AvatarStore::AvatarStore(ContactList &contacts) : m_contacts(contacts)
 void AvatarStore::forgetRows(int first, int last)
 {
     for (int row = first; row <= last; ++row) {
-        if (const std::optional<Ipv4Address> address = m_contacts.at(row).ip.ipv4())
-            m_avatars.remove(*address);
+        const std::optional<Ipv4Address> address = m_contacts.at(row).ip.ipv4();
+        if (!address)
+            continue;
+        m_avatars.remove(*address);
+        m_picturesOfStrangers.remove(*address);
     }
 }
 
@@ -40,16 +43,26 @@ void AvatarStore::setHead(Ipv4Address ip, const std::string &head)
     entry(ip).head = head.substr(0, limits::avatarHeadLength);
 }
 
-void AvatarStore::setBody(Ipv4Address ip, const std::string &body)
+bool AvatarStore::setBody(Ipv4Address ip, const std::string &body)
 {
-    const QByteArray bytes = QByteArray::fromStdString(body);
-    entry(ip).body = bytes.size() == avatarBytes ? bytes : QByteArray();
+    const bool isPicture = body.size() == static_cast<std::size_t>(avatarBytes);
+    const Contact *const contact = m_contacts.find(ip);
+    const bool isStranger = contact && !contact->isAcquaintance() && contact->privateWindow == 0;
+    m_picturesOfStrangers.remove(ip);
+    if (isPicture && isStranger) {
+        if (m_picturesOfStrangers.size() >= limits::avatarsOfStrangers)
+            return false;
+        m_picturesOfStrangers.insert(ip);
+    }
+    entry(ip).body = isPicture ? QByteArray::fromStdString(body) : QByteArray();
+    return true;
 }
 
 void AvatarStore::clear(Ipv4Address ip)
 {
     if (m_avatars.contains(ip))
         m_avatars[ip] = {};
+    m_picturesOfStrangers.remove(ip);
 }
 
 } // namespace nimb

@@ -5,6 +5,7 @@
 #include "contacts/contact_list.h"
 
 #include <QHash>
+#include <QSet>
 
 namespace nimb
 {
@@ -19,8 +20,9 @@ public:
     /// The contact's avatar; an empty one when none is known.
     const Avatar &of(const ContactAddress &ip) const;
     void setHead(Ipv4Address ip, const std::string &head);
-    /// Bytes of any other length than that of a picture are kept as no picture.
-    void setBody(Ipv4Address ip, const std::string &body);
+    /// Bytes of any other length than that of a picture are kept as no picture. False when there is no room for that of
+    /// a stranger, and nothing changes.
+    [[nodiscard]] bool setBody(Ipv4Address ip, const std::string &body);
     /// The peer says that it has no avatar.
     void clear(Ipv4Address ip);
 
@@ -30,6 +32,7 @@ private:
 
     ContactList &m_contacts;
     QHash<Ipv4Address, Avatar> m_avatars;
+    QSet<Ipv4Address> m_picturesOfStrangers;
     int m_count = 0;
 };
 

@@ -1,5 +1,6 @@
 #include "contacts/contact_list.h"
 
+#include "base/limits.h"
 #include "base/look_alike.h"
 #include "base/remote_text.h"
 #include "base/shown_name.h"
@@ -280,16 +281,22 @@ std::optional<ContactAddress> ContactList::firstToMakeRoom() const
 
 void ContactList::load(const SettingsStore &store)
 {
+    std::vector<Contact> stored;
     for (int n = 1;; ++n) {
         const QString number = QString::number(n);
         const QString ip = store.read(usersSection, QLatin1String("IP") + number, endOfStoredContacts);
         if (ip == endOfStoredContacts)
-            return;
+            break;
         Contact contact;
         contact.ip = ip;
         contact.nickname = nameOrUnknown(store.read(usersSection, QLatin1String("Nn") + number, {}));
         contact.workstation = nameOrUnknown(store.read(usersSection, QLatin1String("Ws") + number, {}));
         contact.setUnheard();
+        stored.push_back(std::move(contact));
+    }
+    const bool isFull = stored.size() >= limits::contactsFromStrangers;
+    for (Contact &contact : stored) {
+        contact.broughtByPeer = isFull;
         add(std::move(contact));
     }
 }

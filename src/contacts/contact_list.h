@@ -36,7 +36,7 @@ struct Contact {
     int privateWindow = 0;      ///< number of the peer's private window, 0 when none is open
     QString avatarNumber;       ///< number of the peer's avatar, empty when none is known
     QString state;              ///< last reported state text
-    bool broughtByPeer = false; ///< in this run, and not by the user
+    bool broughtByPeer = false; ///< in this run, and not by the user; or in a stored list that was full
     bool spokenTo = false;      ///< it has written or been written to, or was buzzed
     bool hasAnswered = false;   ///< a question of this run: more than whoever forges addresses hears of
     bool soughtByUser = false;  ///< in this run: its window was opened by the user or typed in, or it was buzzed
@@ -103,7 +103,8 @@ public:
     /// address. Of several the one that came first. Empty when there is none.
     std::optional<ContactAddress> firstToMakeRoom() const;
 
-    /// Reads the stored list; every contact starts as not yet known. The list must be empty.
+    /// Reads the stored list; every contact starts as not yet known. The list must be empty. A list that is full when
+    /// it is read was filled by strangers in earlier runs, and they make room as those of this run do.
     void load(const SettingsStore &store);
     /// Notes contact number n, counted from 1, for saving.
     static void saveContact(SettingsStore &store, int number, const Contact &contact);

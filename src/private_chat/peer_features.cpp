@@ -69,7 +69,8 @@ void PeerFeatures::avatarHead(Ipv4Address ip, const std::string &head)
 
 void PeerFeatures::avatarBody(Ipv4Address ip, const std::string &body)
 {
-    m_parts.avatars.setBody(ip, body);
+    if (!m_parts.avatars.setBody(ip, body))
+        return m_parts.drops.count(Drop::tooManyAvatars);
     avatarChanged(ip);
 }
 

@@ -21,6 +21,7 @@ enum class Drop {
     badAddress,      ///< an address that cannot become a contact
     tooManyContacts, ///< strangers have filled the contact list
     tooManyWaiting,  ///< a message while too many waited already for their windows
+    tooManyAvatars,  ///< the picture of a stranger while those of too many were kept
     madeRoom,        ///< a contact that strangers had caused left a full list for a newer one
     tooOften,        ///< asked for, or sent, more often than it is answered or taken
     notSent,         ///< the system refused to send, or the socket is not bound

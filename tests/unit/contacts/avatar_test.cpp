@@ -54,6 +54,32 @@ protected:
     Copy copy{CopySetup{.contacts = {{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}}}};
 };
 
+TEST_F(AvatarTest, PicturesOfStrangersAreBoundedAndThoseOfOthersAreNot)
+{
+    const std::string body = "!AVATARBODY " + std::string(7500, 'x');
+    const auto address = [](int i) { return "10.1." + std::to_string(i / 250) + '.' + std::to_string(i % 250 + 1); };
+    const auto introduce = [&](int i) { copy.arrive(address(i).c_str(), "!ONLINE " + address(i) + " PC N"); };
+    for (int i = 0; i < 1001; ++i) {
+        introduce(i);
+        copy.arrive(address(i).c_str(), body);
+    }
+    EXPECT_THAT(kept(address(999).c_str()).body, SizeIs(7500));
+    EXPECT_THAT(kept(address(1000).c_str()).body, IsEmpty());
+    EXPECT_EQ(copy.drops.of(Drop::tooManyAvatars), 1u);
+    copy.arrive(address(7).c_str(), body);
+    EXPECT_EQ(copy.drops.of(Drop::tooManyAvatars), 1u) << "a new one takes the place of the old one";
+    copy.arrive("10.0.0.2", body);
+    EXPECT_THAT(kept().body, SizeIs(7500)) << "whom the user knows";
+    copy.arrive(address(8).c_str(), "!AVATAROFF");
+    copy.arrive(address(1000).c_str(), body);
+    EXPECT_THAT(kept(address(1000).c_str()).body, SizeIs(7500)) << "who has none any more leaves room";
+    introduce(1001);
+    copy.arrive(address(1001).c_str(), "-hello");
+    copy.arrive(address(1001).c_str(), body);
+    EXPECT_THAT(kept(address(1001).c_str()).body, SizeIs(7500)) << "who has a window";
+    EXPECT_EQ(copy.drops.of(Drop::tooManyAvatars), 1u);
+}
+
 TEST_F(AvatarTest, QuestionsAreAnsweredWithHeadAndBody)
 {
     copy.arrive("10.0.0.2", "?AVATARHEAD");

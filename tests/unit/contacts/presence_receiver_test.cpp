@@ -360,6 +360,23 @@ TEST_F(PresenceReceiverTest, OtherDatagramsOfStrangersLeaveNoTrace)
     EXPECT_EQ(copy.drops.of(Drop::stranger), 4u);
 }
 
+TEST_F(PresenceReceiverTest, AStoredListThatStrangersHaveFilledTakesNewcomers)
+{
+    CopySetup setup;
+    for (int i = 0; i < 10000; ++i)
+        setup.contacts.push_back({QStringLiteral("20.0.%1.%2").arg(i / 250).arg(i % 250 + 1), QStringLiteral("N")});
+    Copy full(setup);
+    full.settleStart();
+    full.arrive("10.0.0.9", "!ONLINE 10.0.0.9 PC-ZOE Zoe");
+    EXPECT_TRUE(full.knows("10.0.0.9"));
+    EXPECT_EQ(full.engine.contacts().rowCount(), 10000);
+    setup.contacts.pop_back();
+    Copy almost(setup);
+    almost.settleStart();
+    almost.arrive("10.0.0.9", "!ONLINE 10.0.0.9 PC-ZOE Zoe");
+    EXPECT_TRUE(almost.knows("10.0.0.9") && almost.knows("20.0.0.1")) << "nobody whom the user may have added goes";
+}
+
 TEST_F(PresenceReceiverTest, StrangersCannotFillTheListWithoutEnd)
 {
     for (int i = 0; i < 10050; ++i) {
