@@ -4,8 +4,8 @@ namespace nimb
 {
 
 Messenger::Messenger(Common &common, const Surroundings &around)
-    : m_socket(around.socket), m_ownAddresses(around.ownAddresses), m_windows(around.windows),
-      m_admission(common, m_contacts, around.ownAddresses, around.drops),
+    : m_socket(around.socket), m_ownAddresses(around.ownAddresses), m_nextStart(around.nextStart),
+      m_windows(around.windows), m_admission(common, m_contacts, around.ownAddresses, around.drops),
       m_log(around.mainView.outtext(), around.clock), m_unknown(m_log, around.timers), m_sender(common, around.socket),
       m_announcement(common, m_contacts, m_sender, around.timers, around.clock, around.mainView),
       m_ownState(common, m_contacts, m_sender, m_announcement, m_log, around.mainView,
@@ -63,6 +63,8 @@ void Messenger::unloadOtherWindows()
 {
     m_search.end();
     m_conferences.unloadAll();
+    if (const qsizetype waiting = m_privateWindows.waitingMessages(); waiting > 0)
+        m_nextStart.tell(tr("Messages that waited to be read when the program ended are lost: %1.").arg(waiting));
     m_privateWindows.unloadAll();
     m_windows.unloadNotify();
     m_invitations.Form_Unload();

@@ -16,6 +16,8 @@
 #include "private_chat/private_windows.h"
 #include "protocol/receive_dispatcher.h"
 
+#include <QCoreApplication>
+
 namespace nimb
 {
 
@@ -44,6 +46,8 @@ struct Surroundings {
 /// The engine of one copy from the loading of the main window to its end. A process may hold any number of them.
 class Messenger
 {
+    Q_DECLARE_TR_FUNCTIONS(Messenger)
+
 public:
     Messenger(Common &common, const Surroundings &surroundings);
     ~Messenger();
@@ -72,6 +76,7 @@ private:
 
     Winsock &m_socket;
     const OwnAddresses &m_ownAddresses;
+    NextStart &m_nextStart;
     SecondaryWindows &m_windows;
     ContactList m_contacts;
     Admission m_admission;

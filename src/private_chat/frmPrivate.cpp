@@ -234,6 +234,13 @@ bool frmPrivate::Form_KeyDown(const QKeyEvent &event)
     return true;
 }
 
+void frmPrivate::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && m_chat)
+        m_chat->Form_Activate();
+}
+
 void frmPrivate::closeEvent(QCloseEvent *event)
 {
     m_pane->Form_QueryUnload(*event);

@@ -74,9 +74,11 @@ public:
     /// The own gauge was clicked at this height, in units of the scale.
     void mymoodpct_MouseDown(float value);
 
-    /// The user has turned to this window: opened it, typed or clicked in it, closed it, or works in it now.
+    /// The user has turned to this window: opened it, had it active before him, typed or clicked in it, or closed it.
     bool isAttended() const { return m_attended || !conversationView().isMinimisedOrInactive(); }
     void attend();
+    /// The window has become the active one. That alone, which a desktop may do by itself, makes nobody known.
+    void Form_Activate() { m_attended = true; }
     /// A peer opens it anew.
     void leaveUnattended() { m_attended = false; }
 

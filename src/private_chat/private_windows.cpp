@@ -208,6 +208,14 @@ void PrivateWindows::unloadAll()
     }
 }
 
+qsizetype PrivateWindows::waitingMessages() const
+{
+    qsizetype messages = 0;
+    for (const QStringList &ofOne : m_waiting)
+        messages += ofOne.size();
+    return messages;
+}
+
 void PrivateWindows::contactRemoved(const ContactAddress &ip)
 {
     forgetWaiting(ip);

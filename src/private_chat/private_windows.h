@@ -40,6 +40,8 @@ public:
     void appendPresence(int window, const QString &line) override;
 
     void unloadAll();
+    /// How many wait at the rows of their contacts.
+    qsizetype waitingMessages() const;
     /// The window with this number, or null.
     PrivateChat *at(int window);
 

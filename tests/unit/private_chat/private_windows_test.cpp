@@ -353,6 +353,26 @@ TEST_F(ManyPrivateWindows, AWindowThatTheUserTurnsToMakesRoomForTheNext)
     EXPECT_EQ(made(), 52u);
 }
 
+TEST_F(ManyPrivateWindows, AWindowThatWasReadMakesRoomAndMakesNobodyKnown)
+{
+    arrive(51, "-one");
+    ASSERT_EQ(made(), 50u);
+    copy.window(7).chat.Form_Activate();
+    arrive(51, "-two");
+    EXPECT_EQ(made(), 51u);
+    EXPECT_FALSE(copy.contact("10.0.1.7").soughtByUser);
+}
+
+TEST_F(ManyPrivateWindows, WhatStillWaitsAtTheEndIsToldAtTheNextStart)
+{
+    arrive(51, "-one");
+    arrive(51, "-two");
+    arrive(52, "-three");
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_THAT(copy.nextStart.sentences,
+                ElementsAre(QStringLiteral("Messages that waited to be read when the program ended are lost: 3.")));
+}
+
 TEST_F(ManyPrivateWindows, ClosingThemMakesRoomForFiftyAndNotForMore)
 {
     for (int i = 1; i <= 50; ++i)
