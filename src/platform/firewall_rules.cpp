@@ -322,7 +322,7 @@ std::optional<UfwRule> readUfwRule(const QByteArray &line)
 /// A zone of firewalld: its lines "key: value", and whether it has rules of its own language.
 struct FirewalldZone {
     QByteArray name;
-    std::map<QByteArray, QList<QByteArray>> words; ///< of the value, by key
+    std::map<QByteArray, QList<QByteArray>> words{}; ///< of the value, by key
     bool hasRichRules = false;
 
     bool holds(const char *key, const QByteArray &word) const { return wordsOf(key).contains(word); }

@@ -78,12 +78,12 @@ SystemNetworkWatch::~SystemNetworkWatch()
     }
 }
 
-std::unique_ptr<QSocketNotifier> SystemNetworkWatch::notifier(int descriptor, void (SystemNetworkWatch::*read)())
+std::unique_ptr<QSocketNotifier> SystemNetworkWatch::notifier(int descriptor, void (SystemNetworkWatch::*procedure)())
 {
     if (descriptor == noDescriptor)
         return nullptr;
     auto made = std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read);
-    connect(made.get(), &QSocketNotifier::activated, this, read);
+    connect(made.get(), &QSocketNotifier::activated, this, procedure);
     return made;
 }
 

@@ -41,8 +41,8 @@ public:
     static std::chrono::nanoseconds sleptOfMachine();
 
 private:
-    /// Calls read when the descriptor has something to say; empty where there is no descriptor.
-    std::unique_ptr<QSocketNotifier> notifier(int descriptor, void (SystemNetworkWatch::*read)());
+    /// Calls the procedure when the descriptor has something to say; empty where there is no descriptor.
+    std::unique_ptr<QSocketNotifier> notifier(int descriptor, void (SystemNetworkWatch::*procedure)());
     void read();
     void readClock();
     void note(NetworkChange change);
