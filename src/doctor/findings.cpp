@@ -243,8 +243,8 @@ Finding severalWays(const std::vector<NetworkCard> &cards, const std::vector<QSt
     const NetworkCard *const card = cardWith(cards, own.address);
     const bool isChosen = own.isFixed || (card && card->name == own.card);
     for (auto one = cards.begin(); one != cards.end(); ++one) {
-        const auto other = std::find_if(one + 1, cards.end(), [one](const NetworkCard &card) {
-            return one->broadcast && card.broadcast == one->broadcast && card.name != one->name;
+        const auto other = std::find_if(one + 1, cards.end(), [one](const NetworkCard &further) {
+            return one->broadcast && further.broadcast == one->broadcast && further.name != one->name;
         });
         if (other == cards.end())
             continue;

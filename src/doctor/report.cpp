@@ -16,7 +16,7 @@ namespace nimb
 namespace
 {
 
-QString tr(const char *text)
+QString translated(const char *text)
 {
     return QCoreApplication::translate("Doctor", text);
 }
@@ -39,15 +39,15 @@ bool holdsPicture(const wire::Datagram &datagram)
 QString kindOf(const wire::Datagram &datagram, std::string_view bytes)
 {
     if (std::holds_alternative<wire::PrivateMessage>(datagram))
-        return tr("private message");
+        return translated("private message");
     if (std::holds_alternative<wire::ConferenceMessage>(datagram))
-        return tr("conference message");
+        return translated("conference message");
     if (std::holds_alternative<wire::Garbage>(datagram))
-        return tr("no command");
+        return translated("no command");
     if (std::holds_alternative<wire::Unsupported>(datagram))
-        return tr("unknown command");
+        return translated("unknown command");
     if (std::holds_alternative<wire::Incomplete>(datagram))
-        return tr("incomplete");
+        return translated("incomplete");
     return remoteName(fromWire(bytes.substr(0, bytes.find(' '))));
 }
 
@@ -55,15 +55,15 @@ QString wordFor(Verdict verdict)
 {
     switch (verdict) {
     case Verdict::underWay:
-        return tr("[...]");
+        return translated("[...]");
     case Verdict::fine:
-        return tr("[fine]");
+        return translated("[fine]");
     case Verdict::doubtful:
-        return tr("[doubtful]");
+        return translated("[doubtful]");
     case Verdict::wrong:
         break;
     }
-    return tr("[WRONG]");
+    return translated("[WRONG]");
 }
 
 } // namespace
@@ -75,7 +75,7 @@ TraceLine traceLine(const TracedDatagram &datagram, bool withTexts)
     const bool shown = !holdsPicture(read) && (withTexts || !holdsWords(read));
     return {
         .time = QDateTime::fromMSecsSinceEpoch(sinceEpoch.count()).toString(QStringLiteral("HH:mm:ss.zzz")),
-        .direction = datagram.direction == TracedDatagram::Direction::in ? tr("in") : tr("out"),
+        .direction = datagram.direction == TracedDatagram::Direction::in ? translated("in") : translated("out"),
         .address = addressText(datagram.peer),
         .size = QString::number(datagram.size),
         .kind = kindOf(read, datagram.beginning),
@@ -97,9 +97,9 @@ QString findingsText(const std::vector<Finding> &findings)
 QString reportText(const std::vector<Finding> &findings, const QString &drops, const std::vector<TraceLine> &datagrams)
 {
     QString text = findingsText(findings);
-    text += u'\n' + tr("Dropped since the start:") + u'\n';
-    text += (drops.isEmpty() ? tr("nothing") : drops) + u'\n';
-    text += u'\n' + tr("The latest datagrams:") + u'\n';
+    text += u'\n' + translated("Dropped since the start:") + u'\n';
+    text += (drops.isEmpty() ? translated("nothing") : drops) + u'\n';
+    text += u'\n' + translated("The latest datagrams:") + u'\n';
     for (const TraceLine &line : datagrams) {
         text += QStringList{line.time, line.direction, line.address, line.size, line.kind, line.text}
                     .join(u'\t')

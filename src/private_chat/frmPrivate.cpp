@@ -237,7 +237,7 @@ bool frmPrivate::Form_KeyDown(const QKeyEvent &event)
 void frmPrivate::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() && m_chat)
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && !isMinimized() && m_chat)
         m_chat->Form_Activate();
 }
 

@@ -15,7 +15,7 @@ namespace
 
 using testing::IsEmpty;
 
-constexpr std::uint16_t port = 5549;
+constexpr std::uint16_t usualPort = 5549;
 /// Whoever has no address told to him uses all that his machine has.
 const std::string anyAddress;
 
@@ -32,7 +32,7 @@ protected:
     static std::unique_ptr<WirePeer> peerOn(const LanMachine &machine, const std::string &address)
     {
         const auto visit = machine.visit();
-        return std::make_unique<WirePeer>(address, port);
+        return std::make_unique<WirePeer>(address, usualPort);
     }
     static MainWindow start(RunningCopy &copy, const LanMachine &machine, const std::string &nickname)
     {
@@ -71,11 +71,11 @@ TEST_F(Networks, OneClickFindsEverybodyAndMakesOneselfKnown)
         const std::string name = std::string("Person") + static_cast<char>('A' + i);
         machines[i].plug(office, "eth0", QString::fromStdString(address + "/24"));
         others.push_back(
-            std::make_unique<RunningCopy>(RunningCopy::Place{anyAddress, name + "-PC"}, profile(port, {})));
+            std::make_unique<RunningCopy>(RunningCopy::Place{anyAddress, name + "-PC"}, profile(usualPort, {})));
         start(*others.back(), machines[i], name);
         expected[{"Users", "Nn:" + address}] = name;
     }
-    RunningCopy bob({anyAddress, "BOB-PC"}, profile(port, {}));
+    RunningCopy bob({anyAddress, "BOB-PC"}, profile(usualPort, {}));
     start(bob, bobs, "Bob").clickFindEverybody();
     EXPECT_TRUE(waitUntil([&] { return newcomers(bob) == expected; })) << testing::PrintToString(newcomers(bob));
     for (const auto &other : others) {
@@ -94,10 +94,10 @@ TEST_F(Networks, AMachineWithTwoCardsFindsBothSidesAndEachSeesTheAddressOfItsOwn
     anns.plug(office, "eth0", "10.1.0.2/24");
     bens.plug(workshop, "eth0", "10.2.0.2/24");
     const auto ann = peerOn(anns, "0.0.0.0"), ben = peerOn(bens, "0.0.0.0");
-    RunningCopy bob({anyAddress, "BOB-PC"}, profile(port, {}));
+    RunningCopy bob({anyAddress, "BOB-PC"}, profile(usualPort, {}));
     start(bob, bobs, "Bob").clickFindEverybody();
-    EXPECT_EQ(ann->hear(), (Heard{"?ONLINE 10.1.0.1 BOB-PC Bob", "10.1.0.1", port}));
-    EXPECT_EQ(ben->hear(), (Heard{"?ONLINE 10.2.0.1 BOB-PC Bob", "10.2.0.1", port}));
+    EXPECT_EQ(ann->hear(), (Heard{"?ONLINE 10.1.0.1 BOB-PC Bob", "10.1.0.1", usualPort}));
+    EXPECT_EQ(ben->hear(), (Heard{"?ONLINE 10.2.0.1 BOB-PC Bob", "10.2.0.1", usualPort}));
     ann->send("10.1.0.1", "!ONLINE 10.1.0.2 ANN-PC Ann");
     ben->send("10.2.0.1", "!ONLINE 10.2.0.2 BEN-PC Ben");
     EXPECT_TRUE(waitUntil([&] { return newcomers(bob).size() == 2; }));
@@ -121,7 +121,7 @@ TEST_F(Networks, WhereTheSwitchKeepsMachinesApartNobodyIsFound)
     bobs.isolate("eth0");
     anns.isolate("eth0");
     const auto ann = peerOn(anns, "0.0.0.0"), printer = peerOn(printers, "0.0.0.0");
-    RunningCopy bob({anyAddress, "BOB-PC"}, profile(port, {}));
+    RunningCopy bob({anyAddress, "BOB-PC"}, profile(usualPort, {}));
     start(bob, bobs, "Bob").clickFindEverybody();
     for (int question = 0; question < 2; ++question)
         EXPECT_EQ(printer->next(), "?ONLINE 10.1.0.1 BOB-PC Bob");
@@ -134,9 +134,9 @@ TEST_F(Networks, AChatGoesOnWhenTheAddressChangesAndThePeerLearnsTheNewOne)
     bobs.plug(office, "eth0", "10.1.0.1/24");
     anns.plug(office, "eth0", "10.1.0.2/24");
     const auto ann = peerOn(anns, "10.1.0.2");
-    RunningCopy bob({anyAddress, "BOB-PC"}, profile(port, {{"10.1.0.2", "Ann", "ANN-PC"}}));
+    RunningCopy bob({anyAddress, "BOB-PC"}, profile(usualPort, {{"10.1.0.2", "Ann", "ANN-PC"}}));
     const MainWindow main = start(bob, bobs, "Bob");
-    EXPECT_EQ(ann->hear(), (Heard{"?ONLINE 10.1.0.1 BOB-PC Bob", "10.1.0.1", port}));
+    EXPECT_EQ(ann->hear(), (Heard{"?ONLINE 10.1.0.1 BOB-PC Bob", "10.1.0.1", usualPort}));
     EXPECT_EQ(ann->next(), "!STATUS Online");
     ann->send("10.1.0.1", "!ONLINE 10.1.0.2 ANN-PC Ann");
     const PrivateWindow chat = main.openWhenOnline(0, "Ann");
@@ -146,13 +146,13 @@ TEST_F(Networks, AChatGoesOnWhenTheAddressChangesAndThePeerLearnsTheNewOne)
     bobs.removeAddress("eth0", "10.1.0.1/24");
     bobs.addAddress("eth0", "10.1.0.9/24");
     const Heard question = ann->hearWhere([](const std::string &bytes) { return bytes.starts_with('?'); });
-    EXPECT_EQ(question, (Heard{"?ONLINE 10.1.0.9 BOB-PC Bob", "10.1.0.9", port}));
+    EXPECT_EQ(question, (Heard{"?ONLINE 10.1.0.9 BOB-PC Bob", "10.1.0.9", usualPort}));
     ann->hearUntil("!STATUS Online");
     ann->send("10.1.0.9", "!ONLINE 10.1.0.2 ANN-PC Ann");
     ann->send("10.1.0.9", "-welcome back");
     chat.say("after");
     const Heard after = ann->hearWhere([](const std::string &bytes) { return bytes.starts_with('-'); });
-    EXPECT_EQ(after, (Heard{"-after", "10.1.0.9", port}));
+    EXPECT_EQ(after, (Heard{"-after", "10.1.0.9", usualPort}));
     EXPECT_THAT(logHeardBy(*ann, chat, chat), testing::HasSubstr("welcome back"));
 }
 
@@ -162,7 +162,7 @@ TEST_F(Networks, ACardThatGoesDownAndComesBackMakesOneAnnouncement)
     bobs.plug(office, "eth0", "10.1.0.1/24");
     anns.plug(office, "eth0", "10.1.0.2/24");
     const auto ann = peerOn(anns, "10.1.0.2");
-    RunningCopy bob({anyAddress, "BOB-PC"}, profile(port, {{"10.1.0.2", "Ann", "ANN-PC"}}));
+    RunningCopy bob({anyAddress, "BOB-PC"}, profile(usualPort, {{"10.1.0.2", "Ann", "ANN-PC"}}));
     const MainWindow main = start(bob, bobs, "Bob");
     ann->hearUntil("!STATUS Online");
     letWindowsSettle();
@@ -182,10 +182,10 @@ TEST_F(Networks, ACopyThatStartsWithoutANetworkGoesOnWhenThereIsOne)
     LanMachine bobs, anns;
     anns.plug(office, "eth0", "10.1.0.2/24");
     const auto ann = peerOn(anns, "10.1.0.2");
-    RunningCopy bob({anyAddress, "BOB-PC"}, profile(port, {{"10.1.0.2", "Ann", "ANN-PC"}}));
+    RunningCopy bob({anyAddress, "BOB-PC"}, profile(usualPort, {{"10.1.0.2", "Ann", "ANN-PC"}}));
     start(bob, bobs, "Bob");
     bobs.plug(office, "eth0", "10.1.0.1/24");
-    EXPECT_EQ(ann->hear(), (Heard{"?ONLINE 10.1.0.1 BOB-PC Bob", "10.1.0.1", port}));
+    EXPECT_EQ(ann->hear(), (Heard{"?ONLINE 10.1.0.1 BOB-PC Bob", "10.1.0.1", usualPort}));
     EXPECT_EQ(ann->next(), "!STATUS Online");
 }
 
@@ -195,7 +195,7 @@ TEST_F(Networks, ASocketForAFixedAddressListensAgainWhenThatIsBack)
     bobs.plug(office, "eth0", "10.1.0.1/24");
     anns.plug(office, "eth0", "10.1.0.2/24");
     const auto ann = peerOn(anns, "10.1.0.2");
-    RunningCopy bob({"10.1.0.1", "BOB-PC"}, profile(port, {{"10.1.0.2", "Ann", "ANN-PC"}}));
+    RunningCopy bob({"10.1.0.1", "BOB-PC"}, profile(usualPort, {{"10.1.0.2", "Ann", "ANN-PC"}}));
     const MainWindow main = start(bob, bobs, "Bob");
     ann->hearUntil("!STATUS Online");
     letWindowsSettle();

@@ -19,7 +19,7 @@ namespace nimb::test
 namespace
 {
 
-constexpr int patienceMs = 20000;
+constexpr int serverPatienceMs = 20000;
 
 // A wave passes through zero all the time: loud is a stretch of this length, as a whole.
 constexpr int stretch = SoundServer::samplesPerSecond / 200;
@@ -87,7 +87,7 @@ QString SoundServer::address() const
 void SoundServer::stop()
 {
     m_server.kill();
-    EXPECT_TRUE(m_server.waitForFinished(patienceMs));
+    EXPECT_TRUE(m_server.waitForFinished(serverPatienceMs));
 }
 
 void SoundServer::listen()
@@ -101,7 +101,7 @@ void SoundServer::listen()
                              "--latency-msec=20"});
             return m_ear.bytesAvailable() > 0;
         },
-        patienceMs);
+        serverPatienceMs);
     EXPECT_TRUE(hears) << "pulseaudio or parec does not start: " << m_server.errorString().toStdString() << ", "
                        << m_ear.errorString().toStdString();
 }
@@ -127,7 +127,7 @@ void SoundServer::judge(const QByteArray &samples)
 bool SoundServer::hears(int count)
 {
     const int before = loudSamples();
-    return QTest::qWaitFor([&] { return loudSamples() - before >= count; }, patienceMs);
+    return QTest::qWaitFor([&] { return loudSamples() - before >= count; }, serverPatienceMs);
 }
 
 bool SoundServer::isSilent(int samples)
@@ -139,7 +139,7 @@ bool SoundServer::isSilent(int samples)
             loudSamples();
             return m_silent >= samples;
         },
-        patienceMs);
+        serverPatienceMs);
 }
 
 int SoundServer::playing() const
@@ -159,7 +159,7 @@ QByteArray SoundServer::list(const QStringList &what) const
     process.setProcessEnvironment(m_environment);
     endWithParent(process);
     process.start(QStringLiteral("pactl"), QStringList{QStringLiteral("list")} + what);
-    EXPECT_TRUE(process.waitForFinished(patienceMs)) << "pactl does not end";
+    EXPECT_TRUE(process.waitForFinished(serverPatienceMs)) << "pactl does not end";
     return process.readAllStandardOutput();
 }
 

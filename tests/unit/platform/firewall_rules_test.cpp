@@ -7,7 +7,7 @@ namespace nimb::test
 namespace
 {
 
-constexpr std::uint16_t port = 5549;
+constexpr std::uint16_t ourPort = 5549;
 
 TEST(Ufw, IsOnWhereItsConfigurationSaysSo)
 {
@@ -19,7 +19,8 @@ TEST(Ufw, IsOnWhereItsConfigurationSaysSo)
 
 RuleAnswer ufwSays(const QByteArray &rules, const QByteArray &policy = "DROP")
 {
-    return ufwAnswer("IPV6=yes\nDEFAULT_INPUT_POLICY=\"" + policy + "\"\n", "*filter\n### RULES ###\n" + rules, port);
+    return ufwAnswer("IPV6=yes\nDEFAULT_INPUT_POLICY=\"" + policy + "\"\n", "*filter\n### RULES ###\n" + rules,
+                     ourPort);
 }
 
 bool ufwLets(const QByteArray &rules, const QByteArray &policy = "DROP")
@@ -71,7 +72,7 @@ QByteArray zone(const QByteArray &name, const QByteArray &cards, const QByteArra
 
 FirewalldAnswer firewalldSays(const QByteArray &zones)
 {
-    return firewalldAnswer(zones, "public\n", port).value_or(FirewalldAnswer{RuleAnswer::unsure, "nothing"});
+    return firewalldAnswer(zones, "public\n", ourPort).value_or(FirewalldAnswer{RuleAnswer::unsure, "nothing"});
 }
 
 TEST(Firewalld, TheZoneOfTheCardDecides)
@@ -99,9 +100,9 @@ TEST(Firewalld, TheZoneOfTheCardDecides)
 
 TEST(Firewalld, WhatIsNoListOfZonesSaysNothing)
 {
-    EXPECT_EQ(firewalldAnswer({}, "public", port), std::nullopt);
-    EXPECT_EQ(firewalldAnswer("  target: default\n", "public", port), std::nullopt);
-    EXPECT_EQ(firewalldAnswer(zone("home", "", "", ""), "public", port), std::nullopt);
+    EXPECT_EQ(firewalldAnswer({}, "public", ourPort), std::nullopt);
+    EXPECT_EQ(firewalldAnswer("  target: default\n", "public", ourPort), std::nullopt);
+    EXPECT_EQ(firewalldAnswer(zone("home", "", "", ""), "public", ourPort), std::nullopt);
 }
 
 /// A ruleset with one chain for what comes in.
@@ -125,7 +126,7 @@ const QByteArray toOurPort = R"({"match": {"op": "==", "left": {"payload": {"pro
 
 std::optional<RuleAnswer> nftSays(const QByteArray &json)
 {
-    const std::optional<NftAnswer> answer = nftAnswer(json, port);
+    const std::optional<NftAnswer> answer = nftAnswer(json, ourPort);
     return answer ? std::optional(answer->answer) : std::nullopt;
 }
 
@@ -136,25 +137,25 @@ bool nftLets(const QByteArray &json)
 
 TEST(Nftables, WithoutAChainForWhatComesInThereIsNoFirewall)
 {
-    const std::optional<NftAnswer> empty = nftAnswer(R"({"nftables": [{"metainfo": {"version": "1.0.6"}}]})", port);
+    const std::optional<NftAnswer> empty = nftAnswer(R"({"nftables": [{"metainfo": {"version": "1.0.6"}}]})", ourPort);
     ASSERT_TRUE(empty);
     EXPECT_FALSE(empty->hasInput);
     EXPECT_FALSE(empty->block);
-    EXPECT_TRUE(nftAnswer(ruleset({}), port)->hasInput);
+    EXPECT_TRUE(nftAnswer(ruleset({}), ourPort)->hasInput);
 }
 
 TEST(Nftables, WhatIsNoRulesetSaysNothing)
 {
-    EXPECT_FALSE(nftAnswer({}, port));
-    EXPECT_FALSE(nftAnswer("Operation not permitted", port));
-    EXPECT_FALSE(nftAnswer("[]", port));
+    EXPECT_FALSE(nftAnswer({}, ourPort));
+    EXPECT_FALSE(nftAnswer("Operation not permitted", ourPort));
+    EXPECT_FALSE(nftAnswer("[]", ourPort));
 }
 
 TEST(Nftables, TheChainsPolicyDecidesWhereNoRuleDoes)
 {
     EXPECT_FALSE(nftLets(ruleset({})));
     EXPECT_TRUE(nftLets(ruleset({}, "accept")));
-    EXPECT_EQ(nftAnswer(ruleset({}), port)->block,
+    EXPECT_EQ(nftAnswer(ruleset({}), ourPort)->block,
               (NftBlock{QStringLiteral("inet"), QStringLiteral("filter"), QStringLiteral("input")}));
 }
 
@@ -255,7 +256,8 @@ TEST(Nftables, IsNotSureWhereItMattersHowSomethingElseTurnsOut)
         EXPECT_EQ(nftSays(ruleset(rule(question + R"(, {"accept": null})"), "accept")), RuleAnswer::lets)
             << "either way";
     }
-    EXPECT_TRUE(nftAnswer(ruleset(rule(questions[0] + R"(, {"accept": null})")), port)->block) << "the place is known";
+    EXPECT_TRUE(nftAnswer(ruleset(rule(questions[0] + R"(, {"accept": null})")), ourPort)->block)
+        << "the place is known";
 }
 
 TEST(Nftables, ALimitConcernsOnlyWhatIsAboveIt)
@@ -282,7 +284,7 @@ TEST(Nftables, WhatIsDroppedBeforeItComesInIsDropped)
 {
     const QByteArray early = R"(, {"chain": {"family": "inet", "table": "filter", "name": "early", "handle": 7,
         "type": "filter", "hook": "prerouting", "prio": -300, "policy": "drop"}})";
-    EXPECT_EQ(nftAnswer(ruleset({}, "accept", early), port)->block,
+    EXPECT_EQ(nftAnswer(ruleset({}, "accept", early), ourPort)->block,
               (NftBlock{QStringLiteral("inet"), QStringLiteral("filter"), QStringLiteral("early")}));
 }
 
@@ -295,7 +297,7 @@ TEST(Nftables, ATableThatSleepsKeepsNothingOut)
     };
     EXPECT_TRUE(nftLets(sleeping(R"("dormant")")));
     EXPECT_TRUE(nftLets(sleeping(R"(["owner", "dormant"])")));
-    EXPECT_FALSE(nftAnswer(sleeping(R"("dormant")"), port)->hasInput);
+    EXPECT_FALSE(nftAnswer(sleeping(R"("dormant")"), ourPort)->hasInput);
     EXPECT_EQ(nftSays(sleeping(R"("owner")")), RuleAnswer::blocks);
     EXPECT_EQ(nftSays(sleeping(R"(["owner"])")), RuleAnswer::blocks);
     EXPECT_EQ(nftSays(sleeping(R"("x")")), RuleAnswer::unsure) << "as nft 1.0.6 writes both";
@@ -311,7 +313,7 @@ TEST(Nftables, WhatOneCardKeepsOutIsKeptOutForSome)
             + rules + "]}}]}";
     };
     EXPECT_EQ(nftSays(card(toOurPort + R"(, {"drop": null})")), RuleAnswer::unsure);
-    EXPECT_EQ(nftAnswer(card(toOurPort + R"(, {"drop": null})"), port)->block,
+    EXPECT_EQ(nftAnswer(card(toOurPort + R"(, {"drop": null})"), ourPort)->block,
               (NftBlock{QStringLiteral("netdev"), QStringLiteral("y"), QStringLiteral("in")}));
     EXPECT_TRUE(nftLets(card(R"({"counter": {"packets": 0, "bytes": 0}})")));
 }
@@ -353,7 +355,7 @@ TEST(Nftables, EveryChainMayKeepItOut)
     const QByteArray second = R"(, {"chain": {"family": "ip", "table": "mine", "name": "late", "handle": 1,
         "type": "filter", "hook": "input", "prio": 10, "policy": "drop"}})";
     const std::optional<NftAnswer> answer
-        = nftAnswer(ruleset(rule(toOurPort + R"(, {"accept": null})"), "drop", second), port);
+        = nftAnswer(ruleset(rule(toOurPort + R"(, {"accept": null})"), "drop", second), ourPort);
     EXPECT_EQ(answer->block, (NftBlock{QStringLiteral("ip"), QStringLiteral("mine"), QStringLiteral("late")}));
 }
 

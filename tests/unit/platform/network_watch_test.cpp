@@ -28,7 +28,7 @@ protected:
         watch.emplace(time, [this] { return slept; });
         watch->listen([this](NetworkChange change) {
             ++told;
-            last = change;
+            lastChange = change;
         });
     }
 
@@ -48,7 +48,7 @@ protected:
     std::optional<SystemNetworkWatch> watch;
     std::chrono::nanoseconds slept{0};
     int told = 0;
-    std::optional<NetworkChange> last;
+    std::optional<NetworkChange> lastChange;
 };
 
 TEST_F(NetworkWatchTest, TellsOfACardThatComesAndGoes)
@@ -143,11 +143,11 @@ TEST_F(NetworkWatchTest, TellsThatTheMachineHasSleptButNotThatTheClockWasSet)
     ASSERT_TRUE(hears());
     time.advance(200ms);
     EXPECT_EQ(told, 1);
-    EXPECT_EQ(last, NetworkChange::wokeUp);
+    EXPECT_EQ(lastChange, NetworkChange::wokeUp);
     ASSERT_TRUE(runIp({"link", "add", "one", "type", "bridge"}));
     ASSERT_TRUE(hears());
     time.advance(200ms);
-    EXPECT_EQ(last, NetworkChange::networks);
+    EXPECT_EQ(lastChange, NetworkChange::networks);
 }
 
 TEST_F(NetworkWatchTest, NothingWakesItWhileNothingChanges)
