@@ -168,6 +168,19 @@ TEST_F(FrmDoctor, TheLatestDatagramsCanBeWalkedThrough)
     EXPECT_EQ(list.indexOfTopLevelItem(list.currentItem()), 1);
 }
 
+TEST_F(FrmDoctor, ShowsAllOfWhatWasDropped)
+{
+    endWell();
+    EXPECT_EQ(text("dropsLabel"), QStringLiteral("Nothing has been dropped."));
+    windows.arrive("10.0.0.99", "-hello");
+    windows.arrive("10.0.0.2", "!CONF CLOSE #3");
+    auto &label = control<QLabel>("dropsLabel");
+    EXPECT_TRUE(QTest::qWaitFor([&label] { return label.text().count(u'\n') == 2; }, 5000))
+        << label.text().toStdString();
+    EXPECT_TRUE(QTest::qWaitFor([&label] { return label.height() >= label.sizeHint().height(); }, 5000))
+        << label.height() << " of " << label.sizeHint().height();
+}
+
 TEST_F(FrmDoctor, CopiesAReport)
 {
     endWell();
