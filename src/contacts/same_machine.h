@@ -25,7 +25,7 @@ public:
     SameMachine(ContactList &contacts, MainLog &log);
     SameMachine(const SameMachine &) = delete;
     SameMachine &operator=(const SameMachine &) = delete;
-    ~SameMachine();
+    ~SameMachine() override;
 
     void seenOnline(Ipv4Address ip, bool isNew) override;
 
