@@ -352,7 +352,11 @@ void frmMain::resizeEvent(QResizeEvent *event)
 /// kept, or it would drift with every run.
 void frmMain::noteGeometry()
 {
-    if (!isVisible() || windowState() & (Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen))
+    if (!isVisible() || windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen))
+        return;
+    // A window that is moved and minimised at once may hear of both in either order. Windows puts a minimised one where
+    // no screen is.
+    if (isMinimized() && !QGuiApplication::screenAt(frameGeometry().center()))
         return;
     bool changed = false;
     const auto note = [&changed](double &kept, int now) {

@@ -714,6 +714,7 @@ TEST_F(Store, KeepsTheWindowWhereTheUserPutIt)
     main.activate();
     main.move(40, 60);
     main.minimise();
+    EXPECT_TRUE(waitUntil([&bob] { return bob.kept()[{"Settings", "MainLeft"}] == "600"; }));
     EXPECT_EQ(bob.end(), 0);
     EXPECT_EQ(bob.stored("Settings", "MainLeft"), "600");
     EXPECT_EQ(bob.stored("Settings", "MainTop"), "900");
@@ -722,6 +723,22 @@ TEST_F(Store, KeepsTheWindowWhereTheUserPutIt)
     again.activate();
     EXPECT_TRUE(waitUntil([&] { return again.place().left == 40 && again.place().top == 60; }))
         << again.place().left << ' ' << again.place().top;
+}
+
+TEST_F(Store, KeepsThePlaceOfAWindowThatIsMinimisedBeforeTheProgramHearsOfTheMove)
+{
+    RunningCopy bob(home, withAnn({{{"Settings", "MyNickName"}, "Bob"}}));
+    start(bob);
+    const MainWindow main = MainWindow::of("Bob");
+    main.activate();
+    bob.signal(SIGSTOP);
+    main.move(40, 60);
+    main.minimise();
+    bob.signal(SIGCONT);
+    EXPECT_TRUE(waitUntil([&bob] { return bob.kept()[{"Settings", "MainLeft"}] == "600"; }));
+    EXPECT_EQ(bob.end(), 0);
+    EXPECT_EQ(bob.stored("Settings", "MainLeft"), "600");
+    EXPECT_EQ(bob.stored("Settings", "MainTop"), "900");
 }
 
 TEST_F(Store, KeepsAHeightThatTheWindowMayHave)
