@@ -31,9 +31,10 @@ bool mayBeElsewhere(const Contact &contact)
 
 SameMachine::SameMachine(ContactList &contacts, MainLog &log) : m_contacts(contacts), m_log(log)
 {
-    const auto checkThem = [this] { check(); };
-    m_connections = {QObject::connect(&contacts, &ContactList::dataChanged, checkThem),
-                     QObject::connect(&contacts, &ContactList::rowsRemoved, checkThem)};
+    m_connections
+        = {QObject::connect(&contacts, &ContactList::dataChanged,
+                            [this](const QModelIndex &first) { checkThoseOf(m_contacts.at(first.row()).ip); }),
+           QObject::connect(&contacts, &ContactList::rowsRemoved, [this] { check(); })};
 }
 
 SameMachine::~SameMachine()
@@ -61,34 +62,45 @@ void SameMachine::showOnce(const Contact &later, const Contact &earlier)
     const bool laterGoes
         = mayBeHidden(later) && (!mayBeHidden(earlier) || !later.isAcquaintance() || earlier.isAcquaintance());
     if (laterGoes)
-        hide(later.ip, earlier.ip);
+        hide(*later.ip.ipv4(), *earlier.ip.ipv4());
     else if (mayBeHidden(earlier))
-        hide(earlier.ip, later.ip);
+        hide(*earlier.ip.ipv4(), *later.ip.ipv4());
 }
 
-void SameMachine::hide(const ContactAddress &hidden, const ContactAddress &shown)
+void SameMachine::hide(Ipv4Address hidden, Ipv4Address shown)
 {
     if (m_hidden.size() >= limits::machinesShownOnce)
         return;
-    m_hidden.insert({hidden.text(), shown});
-    m_contacts.change(hidden, [&shown](Contact &contact) { contact.shownBy = shown; });
+    m_hidden.insert({hidden, shown});
+    m_contacts.change(hidden, [shown](Contact &contact) { contact.shownBy = shown; });
     m_log.note(tr("%1 answers from %2 and from %3 and is shown once")
-                   .arg(paintedName(m_contacts.find(shown)->nickname), shown.text(), hidden.text()));
+                   .arg(paintedName(m_contacts.find(shown)->nickname), addressText(shown), addressText(hidden)));
+}
+
+bool SameMachine::staysHidden(Ipv4Address hiddenAddress, Ipv4Address shownAddress) const
+{
+    const Contact *const hidden = m_contacts.find(hiddenAddress), *const shown = m_contacts.find(shownAddress);
+    return hidden && shown && mayBeHidden(*hidden) && haveSameNames(*hidden, *shown)
+        && shown->presence != Presence::offline && (hidden->presence != Presence::offline || !hidden->isAcquaintance());
+}
+
+/// Every datagram of a contact changes its row, and nearly none is one of these.
+void SameMachine::checkThoseOf(const ContactAddress &changed)
+{
+    const std::optional<Ipv4Address> &ip = changed.ipv4();
+    if (std::ranges::any_of(m_hidden, [&ip](const auto &pair) { return ip == pair.first || ip == pair.second; }))
+        check();
 }
 
 void SameMachine::check()
 {
-    std::vector<ContactAddress> shownAgain;
-    for (const auto &[address, shownBy] : m_hidden) {
-        const Contact *const hidden = m_contacts.find(address), *const shown = m_contacts.find(shownBy);
-        const bool stays = hidden && shown && mayBeHidden(*hidden) && haveSameNames(*hidden, *shown)
-            && shown->presence != Presence::offline
-            && (hidden->presence != Presence::offline || !hidden->isAcquaintance());
-        if (!stays)
-            shownAgain.emplace_back(address);
+    std::vector<Ipv4Address> shownAgain;
+    for (const auto &[hidden, shown] : m_hidden) {
+        if (!staysHidden(hidden, shown))
+            shownAgain.push_back(hidden);
     }
-    for (const ContactAddress &address : shownAgain) {
-        m_hidden.erase(address.text());
+    for (const Ipv4Address address : shownAgain) {
+        m_hidden.erase(address);
         m_contacts.change(address, [](Contact &contact) { contact.shownBy.reset(); });
     }
 }

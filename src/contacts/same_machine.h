@@ -32,13 +32,16 @@ public:
 private:
     /// One of them goes on standing for both, if one may be hidden.
     void showOnce(const Contact &later, const Contact &earlier);
-    void hide(const ContactAddress &hidden, const ContactAddress &shown);
+    void hide(Ipv4Address hidden, Ipv4Address shown);
     /// Shows again what is no longer to be hidden.
     void check();
+    /// The same where this contact is one of the two.
+    void checkThoseOf(const ContactAddress &changed);
+    bool staysHidden(Ipv4Address hidden, Ipv4Address shown) const;
 
     ContactList &m_contacts;
     MainLog &m_log;
-    std::map<QString, ContactAddress> m_hidden; ///< address of the hidden one, and the one that is shown
+    std::map<Ipv4Address, Ipv4Address> m_hidden; ///< the hidden one, and the one that is shown
     std::vector<QMetaObject::Connection> m_connections;
 };
 
