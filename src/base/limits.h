@@ -43,6 +43,9 @@ constexpr qsizetype waitingMessages = 100;
 /// Characters of all messages that wait. Those of contacts whom peers have brought in this run may be half of it, so
 /// that a crowd of strangers leaves room for those whom the user knows.
 constexpr qsizetype waitingCharacters = 4'000'000;
+/// Messages of one contact that are counted as unread: more than a thousand tell nothing more, and each is a change of
+/// the list.
+constexpr int unreadCounted = 999;
 /// Characters of what is being typed that the peer sees: the last ones are what matters.
 constexpr qsizetype liveTextLength = 200;
 /// Bytes of an avatar's head that are kept: a time stamp, or how a polled picture begins.

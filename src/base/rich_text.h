@@ -4,10 +4,21 @@
 #include "base/Common.h"
 #include "base/colour.h"
 
+#include <QDateTime>
 #include <QString>
+
+#include <optional>
 
 namespace nimb
 {
+
+/// A message, as far as a log shows it beside its text and above it.
+struct LogMessage {
+    QString writer;
+    QDateTime time;
+    bool isOwn = false;
+    bool arrives = true; ///< as far as is known when it is written
+};
 
 /// A log to which text is only ever appended. Text is plain text always: nothing in it is taken for markup.
 class RichTextLog
@@ -26,11 +37,18 @@ public:
     virtual void setSelContinues(bool continues) = 0;
     /// What is inserted from now on is a command: a click on it asks for what has this name. Empty: it is none.
     virtual void setSelCommand(const QString &name) = 0;
+    /// Lines that are begun from now on are those of this message; with nothing they are of none.
+    virtual void setSelMessage(const std::optional<LogMessage> &message) = 0;
+    virtual void setSelBold(bool bold) = 0;
     /// Replaces the selection by plain text; CR LF is a line break.
     virtual void setSelText(const QString &text) = 0;
     /// Replaces the selection by a fragment of rich text, which may be a picture; see log/metafile.h for its form.
     /// alternative: the text it stands for, for whoever copies or cannot see it, and for a fragment that is none.
     virtual void setSelRtf(const QString &fragment, const QString &alternative) = 0;
+    /// What is inserted from now on is new to the reader, which is shown above it and stands in no text.
+    virtual void markNew() = 0;
+    /// Nothing is shown as new any more.
+    virtual void unmarkNew() = 0;
     virtual void clear() = 0;
 };
 

@@ -333,8 +333,10 @@ QVariant ContactList::data(const QModelIndex &index, int role) const
     const Contact &contact = row.contact;
     if (role == SharesNameRole)
         return sharesName(row);
-    if (role == WaitingRole)
-        return contact.waitingMessages;
+    if (role == UnreadRole)
+        return contact.unread();
+    if (role == LastMessageRole)
+        return contact.lastMessage;
     if (role == HiddenRole)
         return contact.shownBy.has_value();
     if (role == Qt::AccessibleTextRole && index.column() == Nickname && sharesName(row))

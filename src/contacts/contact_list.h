@@ -7,6 +7,7 @@
 #include "protocol/handlers.h"
 
 #include <QAbstractTableModel>
+#include <QDateTime>
 #include <QHash>
 #include <QSet>
 
@@ -41,11 +42,15 @@ struct Contact {
     bool hasAnswered = false;   ///< a question of this run: more than whoever forges addresses hears of
     bool soughtByUser = false;  ///< in this run: its window was opened by the user or typed in, or it was buzzed
     int waitingMessages = 0;    ///< that wait to be read, for it has no window
+    int unreadInWindow = 0;     ///< messages in its window that nobody has seen; limits::unreadCounted at most
+    QDateTime lastMessage{};    ///< when it wrote the last one in this run
     qint64 seenAt = 0;          ///< when it last said that it is there: ms since 1970; 0: not in this run
     std::optional<ContactAddress> shownBy{}; ///< the contact that stands for it on the screen; see SameMachine
 
     /// What cannot be seen is no name.
     void rename(const QString &remoteNickname);
+    /// Messages that nobody has seen.
+    int unread() const { return waitingMessages + unreadInWindow; }
     /// The user knows it. Nothing that it does itself makes it so, for whoever forges addresses can do all of it in the
     /// name of thousands.
     bool isAcquaintance() const { return !broughtByPeer || soughtByUser; }
@@ -66,16 +71,9 @@ class ContactList : public QAbstractTableModel, public Senders
 
 public:
     enum Column { Nickname, Workstation, IpAddress, State, PrivateWin, AvatarNum, StateText, ColumnCount };
-    /// SharesNameRole: another contact has a name that looks like this one's. WaitingRole: how many messages
-    /// wait to be read. HiddenRole: another row stands for this one.
-    enum Role {
-        KeyRole = Qt::UserRole,
-        TagRole,
-        PictureRole,
-        SharesNameRole = Qt::UserRole + 4,
-        WaitingRole,
-        HiddenRole
-    };
+    /// UnreadRole: how many messages nobody has seen. SharesNameRole: another contact has a name that looks like this
+    /// one's. LastMessageRole: when the last message came. HiddenRole: another row stands for this one.
+    enum Role { KeyRole = Qt::UserRole, TagRole, PictureRole, UnreadRole, SharesNameRole, LastMessageRole, HiddenRole };
 
     using QAbstractTableModel::QAbstractTableModel;
     ~ContactList() override;

@@ -20,6 +20,7 @@ void Conversation::Clearbtn_Click()
     conversationView().setLogFont(font);
     RichTextLog &log = conversationView().outtext();
     log.clear();
+    m_hasUnread = false;
     log.setSelFont(font);
     const QDateTime now = m_services.clock.now();
     appendLine(openingLine(shortDate(now), longTime(now)), colours::banner);
@@ -31,23 +32,34 @@ bool Conversation::send(const QString &typed)
         return false;
     const QString text = textToSend(cutText(typed, limits::messageLength));
     deliver(text);
-    appendMessage({common().ownNickname, conversationView().windowTextColour()}, text);
+    conversationView().outtext().unmarkNew();
+    const Writer self{common().ownNickname, conversationView().windowTextColour()};
+    appendMessage(self, text,
+                  {.writer = self.name, .time = m_services.clock.now(), .isOwn = true, .arrives = arrives()});
     return true;
 }
 
 void Conversation::appendReceived(const Writer &writer, const QString &text)
 {
-    appendMessage(writer, text);
+    if (!m_hasUnread && !conversationView().isEndSeen()) {
+        m_hasUnread = true;
+        conversationView().outtext().markNew();
+    }
     const QDateTime now = m_services.clock.now();
+    appendMessage(writer, text, {.writer = writer.name, .time = now});
     conversationView().setLastMessage(tr("Last message: %1 @ %2").arg(shortDate(now), longTime(now)));
 }
 
-void Conversation::appendMessage(const Writer &writer, const QString &text)
+void Conversation::appendMessage(const Writer &writer, const QString &text, const LogMessage &message)
 {
     RichTextLog &log = conversationView().outtext();
+    log.setSelMessage(message);
+    log.setSelBold(true);
     appendText(log, writer.name + QLatin1String("> "), writer.colour);
+    log.setSelBold(false);
     AddTextWithEmoticons(log, text, writer.colour);
     appendText(log, lineBreak, writer.colour);
+    log.setSelMessage({});
 }
 
 void Conversation::appendLine(const QString &line, Colour colour)
@@ -65,6 +77,12 @@ QString Conversation::dateAndTime() const
 {
     const QDateTime now = m_services.clock.now();
     return shortDate(now) + QLatin1Char(' ') + longTime(now);
+}
+
+void Conversation::endSeen()
+{
+    m_hasUnread = false;
+    allRead();
 }
 
 void Conversation::outtext_Change()

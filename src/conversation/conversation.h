@@ -39,6 +39,8 @@ public:
     QString dateAndTime() const;
     /// Something was added to the log.
     void outtext_Change();
+    /// The window has become the active one, or its reader has come to the end of the log: all has been seen.
+    void endSeen();
 
     /// Nobody can be written to any more; the log stays to be read.
     bool isOver() const { return m_over; }
@@ -70,12 +72,17 @@ private:
     virtual QString textToSend(const QString &typed) const = 0;
     /// Sends to whoever else takes part.
     virtual void deliver(const QString &text) = 0;
+    /// Nothing is unread any more.
+    virtual void allRead() { }
+    /// Somebody is known to be there who gets what is sent.
+    virtual bool arrives() const { return true; }
 
-    void appendMessage(const Writer &writer, const QString &text);
+    void appendMessage(const Writer &writer, const QString &text, const LogMessage &message);
 
     Services m_services;
     std::function<void()> m_unloaded;
     bool m_over = false;
+    bool m_hasUnread = false;
 };
 
 } // namespace nimb

@@ -14,13 +14,31 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace nimb
 {
 
 using form_layout::spacing;
+
+namespace
+{
+
+/// Of what is typed where nothing takes it.
+bool isMeantForMessage(const QKeyEvent &event)
+{
+    if (event.matches(QKeySequence::Paste))
+        return true;
+    if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        return false;
+    const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    return isEnter || (!event.text().isEmpty() && event.text().front().isPrint());
+}
+
+} // namespace
 
 ConversationPane::ConversationPane(Conversation &conversation, RTFSubClass &links, QWidget *parent)
     : QWidget(parent), m_conversation(&conversation), m_links(links)
@@ -85,11 +103,15 @@ void ConversationPane::connectControls()
 {
     connect(sendbtn, &QPushButton::clicked, this, &ConversationPane::sendbtn_Click);
     connect(intext, &MessageInput::entered, sendbtn, &QPushButton::click);
+    connect(intext, &MessageInput::recallWanted, this, [this] { setTypedText(*intext, m_lastSent); });
+    auto *const close = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_W), this);
+    connect(close, &QShortcut::activated, this, [this] { window()->close(); });
     connect(clearbtn, &QToolButton::clicked, this, &ConversationPane::Clearbtn_Click);
     connect(datetimebtn, &QToolButton::clicked, this, &ConversationPane::datetimebtn_Click);
     connect(Emoticbtn, &QToolButton::toggled, this, &ConversationPane::Emoticbtn_Click);
     connect(ListViewEmot, &EmoticonPicker::picked, this, &ConversationPane::ListViewEmot_ItemClick);
     connect(m_outtext, &QTextEdit::textChanged, this, &ConversationPane::outtext_Change);
+    connect(m_outtext, &RichTextLogEdit::endReached, this, &ConversationPane::noteWhatIsSeen);
 }
 
 // --- what the window adds
@@ -154,9 +176,25 @@ void ConversationPane::Form_Unload()
 
 void ConversationPane::sendbtn_Click()
 {
-    if (m_conversation->send(typedText()))
+    const QString typed = typedText();
+    if (m_conversation->send(typed)) {
+        m_lastSent = typed;
         intext->clear();
+        m_outtext->showEnd();
+    }
     intext->setFocus();
+}
+
+void ConversationPane::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && Emoticbtn->isChecked()) {
+        Emoticbtn->setChecked(false);
+        return focusInput();
+    }
+    if (!intext->isEnabled() || intext->hasFocus() || !isMeantForMessage(*event))
+        return QWidget::keyPressEvent(event);
+    focusInput();
+    QCoreApplication::sendEvent(intext, event);
 }
 
 void ConversationPane::Clearbtn_Click()
@@ -239,6 +277,26 @@ Colour ConversationPane::windowTextColour() const
 bool ConversationPane::isMinimisedOrInactive() const
 {
     return window()->isMinimized() || !window()->isActiveWindow();
+}
+
+bool ConversationPane::isEndSeen() const
+{
+    return !isMinimisedOrInactive() && m_outtext->isAtItsEnd();
+}
+
+/// Each widget of a window hears that it has become the active one; changeEvent() tells the window alone.
+bool ConversationPane::event(QEvent *event)
+{
+    const bool taken = QWidget::event(event);
+    if (event->type() == QEvent::WindowActivate)
+        noteWhatIsSeen();
+    return taken;
+}
+
+void ConversationPane::noteWhatIsSeen()
+{
+    if (m_conversation && isEndSeen())
+        m_conversation->endSeen();
 }
 
 void ConversationPane::flash()

@@ -56,7 +56,12 @@ public:
     void focusInput() override;
     Colour windowTextColour() const override;
     bool isMinimisedOrInactive() const override;
+    bool isEndSeen() const override;
     void flash() override;
+
+protected:
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 Q_SIGNALS:
     /// When the last message came, for the window's status bar.
@@ -75,9 +80,11 @@ private:
     void Emoticbtn_Click(bool shown);
     void ListViewEmot_ItemClick(const QString &emoticon);
     void outtext_Change();
+    void noteWhatIsSeen();
     void Form_Unload();
 
     Conversation *m_conversation; ///< null once the window was let go
+    QString m_lastSent;
     RTFSubClass &m_links;
 
     RichTextLogEdit *m_outtext = nullptr;

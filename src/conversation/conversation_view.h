@@ -29,6 +29,8 @@ public:
     virtual Colour windowTextColour() const = 0;
 
     virtual bool isMinimisedOrInactive() const = 0;
+    /// The window is the active one, and what is added to its log comes into sight.
+    virtual bool isEndSeen() const = 0;
     /// Flashes the window's task-bar button, the button only, as often and as fast as the system does.
     virtual void flash() = 0;
 };

@@ -30,6 +30,8 @@ void MessageInput::keyPressEvent(QKeyEvent *event)
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && !(event->modifiers() & Qt::ShiftModifier))
         Q_EMIT entered();
+    else if (event->key() == Qt::Key_Up && document()->isEmpty())
+        Q_EMIT recallWanted();
     else
         PlainTextBox::keyPressEvent(event);
 }

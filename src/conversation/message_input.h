@@ -18,6 +18,8 @@ public:
 
 Q_SIGNALS:
     void entered();
+    /// The Up key was pressed in an empty box.
+    void recallWanted();
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

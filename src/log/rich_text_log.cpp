@@ -3,12 +3,13 @@
 #include "base/limits.h"
 #include "base/line_break.h"
 #include "log/accessible_log.h"
+#include "log/find_bar.h"
 #include "log/link_finder.h"
 #include "log/log_font.h"
 #include "log/log_pictures.h"
+#include "log/new_lines_button.h"
 #include "widgets/muted_colour.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -17,8 +18,12 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTextFrame>
+
+#include <algorithm>
 
 namespace nimb
 {
@@ -34,25 +39,6 @@ constexpr qreal smallestLetters = 5, largestLetters = 48; ///< points
 constexpr int wheelNotch = 120;
 /// In front of the name of a command where links have an address. No address that is found in a text begins so.
 constexpr QLatin1Char commandMark('#');
-/// Pixels by which what continues a line stands further in than the line.
-constexpr int continuationIndent = 18;
-
-/// A line of its own: only what does not fit into it is indented.
-QTextBlockFormat ownLine()
-{
-    QTextBlockFormat format;
-    format.setIndent(1); // at the side from which the line is read
-    format.setTextIndent(-continuationIndent);
-    return format;
-}
-
-QTextBlockFormat continuedLine()
-{
-    QTextBlockFormat format;
-    format.setIndent(1);
-    return format;
-}
-
 qsizetype picturesIn(const QString &text)
 {
     return text.count(QChar(QChar::ObjectReplacementCharacter));
@@ -156,9 +142,16 @@ RichTextLogEdit::RichTextLogEdit(QWidget *parent)
     m_frame.setTimerType(Qt::PreciseTimer);
     // Layout goes on after a change has been made, so the end may move at any time; only the reader leaves it.
     connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &RichTextLogEdit::followEnd);
-    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { m_follows = isAtEnd(); });
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+        if (std::exchange(m_follows, isAtEnd()) || !m_follows)
+            return;
+        noteLinesBelow(0);
+        Q_EMIT endReached();
+    });
     connect(&m_frame, &QTimer::timeout, this, &RichTextLogEdit::writeGathered);
     buildCommands();
+    new FindBar(*this);
+    new NewLinesButton(*this);
     QAccessible::installFactory(AccessibleLog::make); // again and again, which Qt ignores
 }
 
@@ -187,9 +180,23 @@ void RichTextLogEdit::buildCommands()
 
 void RichTextLogEdit::setInsets(int above, int below)
 {
-    setViewportMargins(0, above, 0, below);
-    m_above->setFixedHeight(above);
-    m_below->setFixedHeight(below);
+    m_insetAbove = above;
+    m_insetBelow = below;
+    setViewportMargins(0, above + m_roomAbove, 0, below + m_roomBelow);
+    m_above->setFixedHeight(above + m_roomAbove);
+    m_below->setFixedHeight(below + m_roomBelow);
+}
+
+void RichTextLogEdit::setRoomAbove(int room)
+{
+    m_roomAbove = room;
+    setInsets(m_insetAbove, m_insetBelow);
+}
+
+void RichTextLogEdit::setRoomBelow(int room)
+{
+    if (std::exchange(m_roomBelow, room) != room)
+        setInsets(m_insetAbove, m_insetBelow);
 }
 
 // --- writing
@@ -225,10 +232,30 @@ void RichTextLogEdit::applyColour(Colour colour)
     m_format.setForeground(readableOn(screenColour(colour), palette().color(QPalette::Base)));
 }
 
+/// What the store holds before anybody has chosen is no choice.
 void RichTextLogEdit::setSelFont(const LogFont &font)
 {
-    m_font = font;
+    m_font = font == LogFont() ? std::nullopt : std::optional(font);
     applyFont();
+}
+
+void RichTextLogEdit::setSelMessage(const std::optional<LogMessage> &message)
+{
+    m_isOwn = message && message->isOwn;
+    m_firstLine.reset();
+    if (!message)
+        return;
+    m_firstLine = m_marks.firstLine(*message);
+    if (!std::exchange(m_hasMargin, true))
+        makeRoom();
+}
+
+void RichTextLogEdit::setSelBold(bool bold)
+{
+    if (bold)
+        m_format.setFontWeight(QFont::Bold);
+    else
+        m_format.clearProperty(QTextFormat::FontWeight);
 }
 
 void RichTextLogEdit::setSelText(const QString &text)
@@ -252,7 +279,7 @@ void RichTextLogEdit::gather(const QString &text, const QTextCharFormat &format)
 {
     if (text.isEmpty())
         return;
-    m_gathered.push_back({text, format, m_continues});
+    m_gathered.push_back({text, format, m_continues, m_isOwn, std::exchange(m_firstLine, {})});
     m_gatheredLength += text.size();
     if (m_gathered.size() == piecesAtOnce)
         return m_frame.start(0);
@@ -267,14 +294,17 @@ void RichTextLogEdit::writeGathered()
     m_frame.stop();
     if (m_gathered.empty())
         return;
-    const int firstLine = m_caret.block().position();
+    const int firstLine = m_caret.block().position(), lines = document()->blockCount();
     m_caret.beginEditBlock();
     insertGathered();
     if (m_detectsLinks)
         markLinks(document()->findBlock(firstLine));
     m_caret.endEditBlock();
+    const int more = document()->blockCount() - lines;
     dropOldLines();
     followEnd();
+    if (!m_follows)
+        noteLinesBelow(m_linesBelow + more);
     m_sinceWritten.start();
 }
 
@@ -297,8 +327,13 @@ void RichTextLogEdit::insertGathered()
 void RichTextLogEdit::insert(const Piece &piece)
 {
     m_pictureCount += picturesIn(piece.text);
+    if (piece.line && m_caret.atBlockStart()) {
+        QTextBlockFormat first = *piece.line;
+        LogMarks::setNew(first, LogMarks::isNew(m_caret.blockFormat()));
+        m_caret.setBlockFormat(LogMarks::withRoom(first, font()));
+    }
     // A line break as the document inserts it hands the form of the line on to the next one.
-    const QTextBlockFormat next = piece.continues ? continuedLine() : ownLine();
+    const QTextBlockFormat next = piece.continues ? LogMarks::continuedLine(piece.isOwn) : LogMarks::ownLine();
     if (!piece.text.contains(u'\n') || m_caret.blockFormat() == next)
         return m_caret.insertText(piece.text, piece.format);
     qsizetype from = 0;
@@ -311,8 +346,8 @@ void RichTextLogEdit::insert(const Piece &piece)
 
 void RichTextLogEdit::prepareLines()
 {
-    document()->setIndentWidth(continuationIndent);
-    m_caret.setBlockFormat(ownLine());
+    document()->setIndentWidth(LogMarks::continuationIndent);
+    m_caret.setBlockFormat(LogMarks::ownLine());
 }
 
 /// Looks through this line and those behind it that are complete.
@@ -364,8 +399,55 @@ void RichTextLogEdit::dropOldLines()
         oldest.setBlockFormat(format);
 }
 
+/// The line that comes next is empty so far, and gets the room above it in which the mark is painted.
+void RichTextLogEdit::markNew()
+{
+    unmarkNew();
+    writeGathered();
+    m_new = QTextCursor(document());
+    m_new.movePosition(QTextCursor::End);
+    m_new.setKeepPositionOnInsert(true);
+    setNewLine(true);
+}
+
+void RichTextLogEdit::unmarkNew()
+{
+    if (m_new.isNull())
+        return;
+    setNewLine(false);
+    m_new = QTextCursor();
+}
+
+void RichTextLogEdit::setNewLine(bool isNew)
+{
+    QTextBlockFormat format = m_new.blockFormat();
+    LogMarks::setNew(format, isNew);
+    m_new.setBlockFormat(LogMarks::withRoom(format, font()));
+}
+
+/// Beside the text and above those lines that something is painted above.
+void RichTextLogEdit::makeRoom()
+{
+    writeGathered();
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        if (!LogMarks::hasRoomAbove(block.blockFormat()))
+            continue;
+        cursor.setPosition(block.position());
+        cursor.setBlockFormat(LogMarks::withRoom(block.blockFormat(), font()));
+    }
+    cursor.endEditBlock();
+    if (!m_hasMargin)
+        return;
+    QTextFrameFormat margins = document()->rootFrame()->frameFormat();
+    margins.setRightMargin(LogMarks::marginRight(font()));
+    document()->rootFrame()->setFrameFormat(margins);
+}
+
 void RichTextLogEdit::clear()
 {
+    m_new = QTextCursor();
     m_gathered.clear();
     m_gatheredLength = 0;
     document()->clear();
@@ -373,13 +455,29 @@ void RichTextLogEdit::clear()
     m_caret.setPosition(0);
     m_format = QTextCharFormat();
     m_continues = false;
+    m_isOwn = false;
+    m_firstLine.reset();
+    m_marks.forget();
+    m_hasMargin = false;
     m_command.clear();
+    noteLinesBelow(0);
     prepareLines();
 }
 
 bool RichTextLogEdit::isAtEnd() const
 {
     return verticalScrollBar()->value() >= verticalScrollBar()->maximum();
+}
+
+void RichTextLogEdit::showEnd()
+{
+    const bool followed = std::exchange(m_follows, true);
+    writeGathered();
+    followEnd();
+    if (followed)
+        return;
+    noteLinesBelow(0);
+    Q_EMIT endReached();
 }
 
 void RichTextLogEdit::followEnd()
@@ -433,11 +531,127 @@ QTextCharFormat RichTextLogEdit::commandFormat() const
     return format;
 }
 
+std::vector<LogMarks::Seen> RichTextLogEdit::linesIn(const QRect &place) const
+{
+    const int scrolled = verticalScrollBar()->value();
+    QAbstractTextDocumentLayout &layout = *document()->documentLayout();
+    const int hit = layout.hitTest(QPointF(0, place.top() + scrolled), Qt::FuzzyHit);
+    std::vector<LogMarks::Seen> lines;
+    // One more at either side: what is painted above a line, and the ground around it, reach out of it.
+    QTextBlock block = document()->findBlock(qMax(hit, 0));
+    if (block.previous().isValid())
+        block = block.previous();
+    for (; block.isValid(); block = block.next()) {
+        lines.push_back({block, layout.blockBoundingRect(block).translated(0, -scrolled)});
+        if (lines.back().place.top() > place.bottom() && lines.size() > 2)
+            break;
+    }
+    return lines;
+}
+
+void RichTextLogEdit::paintEvent(QPaintEvent *event)
+{
+    const std::vector<LogMarks::Seen> lines = linesIn(event->rect());
+    QPainter painter(viewport());
+    painter.setClipRect(event->rect());
+    for (const LogMarks::Seen &line : lines)
+        LogMarks::paintGround(painter, line, palette());
+    paintText(painter, event->rect(), lines);
+    for (const LogMarks::Seen &line : lines)
+        LogMarks::paintMarks(painter, line, palette(), font());
+}
+
+/// As Qt's own painting does it, with other colours: those that cannot be read on this ground.
+void RichTextLogEdit::paintText(QPainter &painter, const QRect &place, const std::vector<LogMarks::Seen> &lines)
+{
+    const QPoint scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.palette = palette();
+    context.clip = place.translated(scrolled);
+    context.selections = adaptedColours(lines);
+    showFound(context.selections, lines);
+    if (textCursor().hasSelection()) {
+        QAbstractTextDocumentLayout::Selection selection;
+        selection.cursor = textCursor();
+        const auto group = isActiveWindow() ? QPalette::Active : QPalette::Inactive;
+        selection.format.setBackground(palette().brush(group, QPalette::Highlight));
+        selection.format.setForeground(palette().brush(group, QPalette::HighlightedText));
+        context.selections.append(selection);
+    }
+    painter.save();
+    painter.translate(-scrolled);
+    document()->documentLayout()->draw(&painter, context);
+    painter.restore();
+}
+
+QList<QAbstractTextDocumentLayout::Selection> RichTextLogEdit::adaptedColours(const std::vector<LogMarks::Seen> &lines)
+{
+    QList<QAbstractTextDocumentLayout::Selection> selections;
+    const QColor ground = palette().color(QPalette::Base);
+    for (const LogMarks::Seen &line : lines) {
+        for (auto it = line.block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            const QTextCharFormat format = fragment.charFormat();
+            if (!format.hasProperty(QTextFormat::ForegroundBrush))
+                continue;
+            const QColor asked = format.foreground().color();
+            auto shown = m_adapted.constFind(asked.rgb());
+            if (shown == m_adapted.constEnd())
+                shown = m_adapted.insert(asked.rgb(), contrastingOn(asked, ground));
+            if (*shown == asked)
+                continue;
+            QAbstractTextDocumentLayout::Selection selection;
+            selection.cursor = QTextCursor(document());
+            selection.cursor.setPosition(fragment.position());
+            selection.cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
+            selection.format.setForeground(*shown);
+            selections.append(selection);
+        }
+    }
+    return selections;
+}
+
+void RichTextLogEdit::setFound(std::vector<int> places, int length)
+{
+    m_found = std::move(places);
+    m_foundLength = length;
+    viewport()->update();
+}
+
+void RichTextLogEdit::showFound(QList<QAbstractTextDocumentLayout::Selection> &selections,
+                                const std::vector<LogMarks::Seen> &lines) const
+{
+    if (m_found.empty() || lines.empty())
+        return;
+    const int last = lines.back().block.position() + lines.back().block.length();
+    for (auto place = std::ranges::lower_bound(m_found, lines.front().block.position());
+         place != m_found.end() && *place < last; ++place) {
+        QAbstractTextDocumentLayout::Selection selection;
+        selection.cursor = QTextCursor(document());
+        selection.cursor.setPosition(qMin(*place, document()->characterCount() - 1));
+        selection.cursor.setPosition(qMin(*place + m_foundLength, document()->characterCount() - 1),
+                                     QTextCursor::KeepAnchor);
+        selection.format.setBackground(QColor(0xFF, 0xD5, 0x4F));
+        selection.format.setForeground(QColor(0x1B, 0x1F, 0x24));
+        selections.append(selection);
+    }
+}
+
+void RichTextLogEdit::noteLinesBelow(int lines)
+{
+    if (std::exchange(m_linesBelow, lines) != lines)
+        Q_EMIT linesBelow(lines);
+}
+
 void RichTextLogEdit::changeEvent(QEvent *event)
 {
     QTextEdit::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
+    if (event->type() == QEvent::PaletteChange) {
+        m_adapted.clear();
         adaptColours();
+    }
+    if (event->type() == QEvent::FontChange)
+        makeRoom();
 }
 
 void RichTextLogEdit::resizeEvent(QResizeEvent *event)

@@ -2,8 +2,11 @@
 #pragma once
 
 #include "base/rich_text.h"
+#include "log/log_marks.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QElapsedTimer>
+#include <QHash>
 #include <QTextBlock>
 #include <QTextEdit>
 #include <QTimer>
@@ -20,7 +23,9 @@ class LogPictures;
 /// Bounded: beyond limits::logLines, logCharacters and logPictures the oldest lines go. Lines that are broken because
 /// the window is narrow, and those that continue another, are indented. What is written is gathered and goes in at most
 /// once a frame, so that a burst costs one layout and one painting. Follows new text only while the reader is at the
-/// end. Colours are adapted to the ground, and again when it changes.
+/// end. Colours are adapted to the ground, and again when it changes; on a light one the document keeps them as they
+/// were asked for, and they are adapted on the screen alone. Times, days and the like are painted beside the text and
+/// above it, see LogMarks, and stand in no text.
 class RichTextLogEdit : public QTextEdit, public RichTextLog
 {
     Q_OBJECT
@@ -37,6 +42,15 @@ public:
     void zoom(int points);
     /// Puts in what has been gathered.
     void writeGathered();
+    /// Goes to the end, and follows it from now on.
+    void showEnd();
+    /// What is added comes into sight.
+    bool isAtItsEnd() const { return m_follows; }
+    /// Room above and below the text, in pixels, for what would lie over it.
+    void setRoomAbove(int room);
+    void setRoomBelow(int room);
+    /// Marks these places of the text, each of this many characters, in the order of the text.
+    void setFound(std::vector<int> places, int length);
 
     qsizetype textLength() const override;
     void setSelStart(qsizetype position) override;
@@ -45,6 +59,10 @@ public:
     void setSelFont(const LogFont &font) override;
     void setSelContinues(bool continues) override { m_continues = continues; }
     void setSelCommand(const QString &name) override { m_command = name; }
+    void setSelMessage(const std::optional<LogMessage> &message) override;
+    void setSelBold(bool bold) override;
+    void markNew() override;
+    void unmarkNew() override;
     void setSelText(const QString &text) override;
     void setSelRtf(const QString &fragment, const QString &alternative) override;
     void clear() override;
@@ -54,8 +72,13 @@ Q_SIGNALS:
     void linkPressed(const QUrl &target);
     /// The same on a command; see setSelCommand().
     void commandPressed(const QString &name);
+    /// The reader has come to the end of the text.
+    void endReached();
+    /// So many lines have come since the reader has left the end.
+    void linesBelow(int lines);
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -68,7 +91,9 @@ private:
     struct Piece {
         QString text;
         QTextCharFormat format;
-        bool continues = false; ///< the lines that it begins continue the one before
+        bool continues = false;                    ///< the lines that it begins continue the one before
+        bool isOwn = false;                        ///< they are of a message of one's own
+        std::optional<QTextBlockFormat> line = {}; ///< of the line that it begins, when that is a message's first
     };
 
     void buildCommands();
@@ -81,6 +106,15 @@ private:
     void insert(const Piece &piece);
     /// Of the first line of an empty log, and of those behind it.
     void prepareLines();
+    void setNewLine(bool isNew);
+    /// Room for the marks as the font is now.
+    void makeRoom();
+    std::vector<LogMarks::Seen> linesIn(const QRect &place) const;
+    void paintText(QPainter &painter, const QRect &place, const std::vector<LogMarks::Seen> &lines);
+    QList<QAbstractTextDocumentLayout::Selection> adaptedColours(const std::vector<LogMarks::Seen> &lines);
+    void showFound(QList<QAbstractTextDocumentLayout::Selection> &selections,
+                   const std::vector<LogMarks::Seen> &lines) const;
+    void noteLinesBelow(int lines);
     void markLinks(QTextBlock line);
     void dropOldLines();
     void adaptColours();
@@ -93,8 +127,13 @@ private:
     QString commandAt(const QPoint &place) const;
 
     QTextCursor m_caret;
+    QTextCursor m_new; ///< at the beginning of what is new; null while nothing is
     QTextCharFormat m_format;
     bool m_continues = false;
+    bool m_isOwn = false;
+    std::optional<QTextBlockFormat> m_firstLine; ///< of the message that begins with what is written next
+    LogMarks m_marks;
+    bool m_hasMargin = false; ///< beside the text, for times
     QString m_command;
     std::optional<LogFont> m_font;
     int m_zoom = 0; ///< points
@@ -106,6 +145,11 @@ private:
     QTimer m_frame;
     QElapsedTimer m_sinceWritten;
     int m_wheel = 0; ///< turned since the last whole notch, in eighths of a degree
+    int m_linesBelow = 0;
+    std::vector<int> m_found; ///< places
+    int m_foundLength = 0;
+    QHash<QRgb, QColor> m_adapted; ///< colours of the document as they are shown on this ground
+    int m_insetAbove = 0, m_insetBelow = 0, m_roomAbove = 0, m_roomBelow = 0;
     LogPictures *m_pictures;
     QWidget *m_above;
     QWidget *m_below;

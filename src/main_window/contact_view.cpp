@@ -1,5 +1,6 @@
 #include "main_window/contact_view.h"
 
+#include "base/clock_text.h"
 #include "base/remote_text.h"
 #include "contacts/contact_list.h"
 #include "widgets/muted_colour.h"
@@ -49,6 +50,10 @@ protected:
         option->textElideMode = Qt::ElideRight;
         if (index.column() != ContactList::Nickname)
             option->palette.setColor(QPalette::Text, mutedTextColour(option->palette));
+        if (index.column() == ContactList::Nickname && index.data(ContactList::UnreadRole).toInt() > 0) {
+            option->font.setBold(true);
+            option->fontMetrics = QFontMetrics(option->font);
+        }
         if (index.column() == ContactList::IpAddress)
             shrinkToFit(*option);
         const int taken = rightSideWidth(*option, index);
@@ -83,11 +88,24 @@ private:
             && index.data(ContactList::SharesNameRole).toBool();
         return isShown ? paintedName(index.data(ContactList::TagRole).toString()) : QString();
     }
-    /// How many messages wait, empty for none.
-    static QString waiting(const QStyleOptionViewItem &option, const QModelIndex &index)
+    /// How many messages nobody has seen, empty for none.
+    static QString unread(const QStyleOptionViewItem &option, const QModelIndex &index)
     {
-        const int number = isLastSeen(option, index) ? index.data(ContactList::WaitingRole).toInt() : 0;
+        const int number = isLastSeen(option, index) ? index.data(ContactList::UnreadRole).toInt() : 0;
         return number > 0 ? QString::number(number) : QString();
+    }
+    /// When the last of them came.
+    static QString unreadSince(const QStyleOptionViewItem &option, const QModelIndex &index)
+    {
+        return unread(option, index).isEmpty() ? QString()
+                                               : shortTime(index.data(ContactList::LastMessageRole).toDateTime());
+    }
+    /// What stands before the number: the address, and the time.
+    static QString muted(const QStyleOptionViewItem &option, const QModelIndex &index)
+    {
+        QStringList words{address(option, index), unreadSince(option, index)};
+        words.removeAll(QString());
+        return words.join(QLatin1Char(' '));
     }
     static int badgeWidth(const QStyleOptionViewItem &option, const QString &number)
     {
@@ -95,15 +113,15 @@ private:
     }
     static int rightSideWidth(const QStyleOptionViewItem &option, const QModelIndex &index)
     {
-        const QString shown = address(option, index), number = waiting(option, index);
+        const QString shown = muted(option, index), number = unread(option, index);
         return (shown.isEmpty() ? 0 : option.fontMetrics.horizontalAdvance(shown) + gap)
             + (number.isEmpty() ? 0 : badgeWidth(option, number) + gap);
     }
 
-    /// The address, and behind it how many messages wait.
+    /// The address and the time, and behind them how many messages nobody has seen.
     static void paintRightSide(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index)
     {
-        const QString shown = address(option, index), number = waiting(option, index);
+        const QString shown = muted(option, index), number = unread(option, index);
         if (shown.isEmpty() && number.isEmpty())
             return;
         const bool selected = option.state.testFlag(QStyle::State_Selected);

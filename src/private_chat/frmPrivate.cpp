@@ -5,6 +5,7 @@
 #include "log/rich_text_log.h"
 #include "private_chat/live_type.h"
 #include "private_chat/mood_gauge.h"
+#include "private_chat/peer_header.h"
 #include "private_chat/private_chat.h"
 #include "widgets/avatar_picture.h"
 #include "widgets/bring_back.h"
@@ -59,9 +60,11 @@ void frmPrivate::buildControls()
     auto *const margins = new QVBoxLayout;
     margins->setContentsMargins(margin, margin, margin, spacing);
     margins->addWidget(m_pane);
+    m_header = new PeerHeader(this);
     auto *const whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->setSpacing(0);
+    whole->addWidget(m_header);
     whole->addLayout(margins, 1);
     whole->addWidget(makeStatusBar());
 }
@@ -71,6 +74,7 @@ void frmPrivate::makeTools()
     BuzzBtn = toolButton(m_pane, "BuzzBtn", tr("Buzz!"), "buzz");
     BuzzBtn->setToolTip(tr("(CTRL+G)"));
     livetypebtn = named(new QCheckBox(tr("LiveType!"), m_pane), "livetypebtn");
+    livetypebtn->setToolTip(tr("The other one sees what you type before you send it"));
     moodbtn = toolButton(m_pane, "moodbtn", tr("Mood"), "mood");
     AvatarBtn = toolButton(m_pane, "AvatarBtn", tr("Avatar"), "avatar");
     moodbtn->setCheckable(true);
@@ -168,7 +172,7 @@ void frmPrivate::intext_Change()
         m_chat->intext_Change(m_pane->typedText());
 }
 
-/// The preview grows upwards over the lower part of the log.
+/// The preview grows upwards over the lower part of the log, whose lines make room for it.
 void frmPrivate::futuretype_Change()
 {
     constexpr double aboveLogsEnd = 340; // twips
@@ -180,6 +184,7 @@ void frmPrivate::futuretype_Change()
     futuretype->setGeometry(log.left() + inset, log.bottom() + 1 - boxHeight - pixels(aboveLogsEnd),
                             log.width() - 2 * inset - outtext.verticalScrollBar()->sizeHint().width(), boxHeight);
     futuretype->raise();
+    m_pane->log().setRoomBelow(futuretype->isHidden() ? 0 : boxHeight + pixels(aboveLogsEnd) + inset);
 }
 
 void frmPrivate::moodbtn_Click(bool shown)
@@ -262,6 +267,11 @@ void frmPrivate::setPeerAddress(const QString &ip)
     rIP->setText(ip);
 }
 
+void frmPrivate::setPeer(const PeerShown &peer)
+{
+    m_header->setPeer(peer);
+}
+
 void frmPrivate::setPeerActivity(const QString &text)
 {
     m_panels[1]->setText(text);
@@ -271,8 +281,8 @@ void frmPrivate::setLiveType(const QString &text)
 {
     if (text.isEmpty() && futuretype->isHidden())
         return; // every message empties it, which is work even where nothing is
-    futuretype->setPlainText(text);
     futuretype->setVisible(!text.isEmpty());
+    futuretype->setPlainText(text);
     futuretype->moveCursor(QTextCursor::End);
 }
 
@@ -290,6 +300,7 @@ void frmPrivate::setAvatar(const QString &marker, const std::optional<QByteArray
 {
     AvatarCh->setText(marker);
     Picture1->setPicture(picture);
+    m_header->setAvatar(picture);
 }
 
 void frmPrivate::setOwnMood(const MoodMark &mood)

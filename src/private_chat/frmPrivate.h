@@ -18,6 +18,7 @@ namespace nimb
 class AvatarPicture;
 class ConversationPane;
 class MoodGauge;
+class PeerHeader;
 class RTFSubClass;
 
 class frmPrivate : public QWidget, public PrivateChatView
@@ -30,6 +31,7 @@ public:
 
     ConversationView &conversation() override;
     void setPeerAddress(const QString &ip) override;
+    void setPeer(const PeerShown &peer) override;
     void setPeerActivity(const QString &text) override;
     void setLiveType(const QString &text) override;
     void setLiveTypeOn(bool on) override;
@@ -66,6 +68,7 @@ private:
     PrivateChat *m_chat; ///< null once the window was let go
 
     ConversationPane *m_pane;
+    PeerHeader *m_header = nullptr;
     QLineEdit *rIP = nullptr;
     QPlainTextEdit *futuretype = nullptr;
     QToolButton *BuzzBtn = nullptr;

@@ -11,6 +11,9 @@ namespace nimb
 /// How far what the peer sees may lag behind the typing.
 constexpr std::chrono::milliseconds liveTypeInterval{750};
 
+/// How long a preview stays that does not change: whoever wrote it has left it.
+constexpr std::chrono::seconds liveTypeAge{30};
+
 /// What is sent of a typed text, whose line breaks are CR LF: the end of it, as one line.
 QString liveTypeToSend(const QString &typed);
 

@@ -17,13 +17,15 @@ constexpr std::chrono::milliseconds peerActivityShown{2500};
 constexpr std::chrono::milliseconds pollingInterval{1100};
 } // namespace
 
-PrivateChat::PrivateChat(const Services &services, std::function<void()> unloaded, std::function<void()> sought)
+PrivateChat::PrivateChat(const Services &services, std::function<void()> unloaded, std::function<void()> sought,
+                         std::function<void()> read)
     : Conversation(services.conversation, std::move(unloaded)), m_services(services),
       m_autoReplyTimer(services.timers.oneShot(limits::autoReplyPause, [] {})),
       m_timer(services.timers.oneShot(peerActivityShown, [this] { m_view->setPeerActivity({}); })),
       m_timerLiveType(services.timers.oneShot(liveTypeInterval, [this] { TimerLiveType_Timer(); })),
+      m_liveTypeAge(services.timers.oneShot(liveTypeAge, [this] { m_view->setLiveType({}); })),
       m_webCamTimer(services.timers.repeating(pollingInterval, [this] { askForAvatarUnlessInvisible(); })),
-      m_sought(std::move(sought)), m_view(services.forms.makePrivateForm(*this))
+      m_sought(std::move(sought)), m_read(std::move(read)), m_view(services.forms.makePrivateForm(*this))
 {
     conversationView().setLogFont(common().logFont);
     m_view->setLiveTypeOn(common().options.liveType);
@@ -33,6 +35,14 @@ void PrivateChat::setPeer(const ContactAddress &ip)
 {
     m_rIP = ip;
     m_view->setPeerAddress(ip.text());
+}
+
+void PrivateChat::showPeer(const PeerShown &peer)
+{
+    if (m_peer == peer)
+        return;
+    m_peer = peer;
+    m_view->setPeer(m_peer);
 }
 
 void PrivateChat::attend()
@@ -151,7 +161,12 @@ void PrivateChat::TimerLiveType_Timer()
 
 void PrivateChat::liveTypeReceived(const QString &text)
 {
-    m_view->setLiveType(liveTypeToShow(text));
+    const QString shown = liveTypeToShow(text);
+    m_view->setLiveType(shown);
+    if (shown.isEmpty())
+        m_liveTypeAge->stop();
+    else
+        m_liveTypeAge->start();
 }
 
 void PrivateChat::AvatarCh_Change(const Avatar &avatar)
@@ -167,8 +182,12 @@ void PrivateChat::AvatarCh_Change(const Avatar &avatar)
 void PrivateChat::setContact(bool isContact)
 {
     m_isContact = isContact;
-    if (!isContact)
-        AvatarCh_Change({});
+    if (isContact)
+        return;
+    AvatarCh_Change({});
+    PeerShown stranger = m_peer;
+    stranger.isContact = false;
+    showPeer(stranger);
 }
 
 void PrivateChat::mymoodpct_MouseDown(float value)

@@ -29,11 +29,14 @@ public:
     };
 
     /// unloaded: called last of all when the user closes the window for good; it may destroy this chat. sought: called
-    /// when the user turns to the peer.
-    PrivateChat(const Services &services, std::function<void()> unloaded, std::function<void()> sought);
+    /// when the user turns to the peer; read: when he has seen all that was written.
+    PrivateChat(const Services &services, std::function<void()> unloaded, std::function<void()> sought,
+                std::function<void()> read);
 
     /// Tells the window its peer.
     void setPeer(const ContactAddress &ip);
+    /// What is known of the peer, now and whenever it changes.
+    void showPeer(const PeerShown &peer);
     const ContactAddress &rIP() const { return m_rIP; }
     PrivateChatView &view() { return *m_view; }
 
@@ -89,6 +92,8 @@ private:
     QString openingLine(const QString &date, const QString &time) const override;
     QString textToSend(const QString &typed) const override;
     void deliver(const QString &text) override;
+    void allRead() override { m_read(); }
+    bool arrives() const override { return m_peer.isContact && isPresent(m_peer.presence); }
 
     void TimerLiveType_Timer();
     void appendBuzz();
@@ -96,11 +101,13 @@ private:
 
     Services m_services;
     ContactAddress m_rIP;
+    PeerShown m_peer;
     std::unique_ptr<Timer> m_autoReplyTimer;
     std::unique_ptr<Timer> m_timer; ///< clears the panel of the peer's activity
     std::unique_ptr<Timer> m_timerLiveType;
+    std::unique_ptr<Timer> m_liveTypeAge; ///< clears what the peer has begun and left
     std::unique_ptr<Timer> m_webCamTimer;
-    std::function<void()> m_sought;
+    std::function<void()> m_sought, m_read;
     TypingNotice m_typingNotice;
     bool m_liveTypePending = false;
     bool m_isContact = true;

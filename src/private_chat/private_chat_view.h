@@ -1,6 +1,7 @@
 // What the engine shows in a private window, named after what is seen.
 #pragma once
 
+#include "base/presence.h"
 #include "base/view_ptr.h"
 #include "conversation/conversation_view.h"
 #include "private_chat/mood.h"
@@ -22,6 +23,17 @@ enum class ShowMode {
     onTop,     ///< as it last was, above the others, without taking the focus
 };
 
+/// Who is talked to, as the head of the window shows him.
+struct PeerShown {
+    QString name;
+    Presence presence = Presence::unknown;
+    QString state{}; ///< as he has told it last
+    QString workstation{};
+    QString address{};
+    bool isContact = true; ///< false: he has been removed meanwhile
+    bool operator==(const PeerShown &) const = default;
+};
+
 class PrivateChatView
 {
 public:
@@ -29,6 +41,7 @@ public:
     /// What it has in common with the other conversations.
     virtual ConversationView &conversation() = 0;
     virtual void setPeerAddress(const QString &ip) = 0;
+    virtual void setPeer(const PeerShown &peer) = 0;
     /// The second panel of the status bar.
     virtual void setPeerActivity(const QString &text) = 0;
     /// Shows what the peer is typing; an empty text hides the preview.

@@ -12,6 +12,18 @@ PrivateWindows::PrivateWindows(const PrivateChat::Services &services, ContactLis
     : m_services(services), m_contacts(contacts), m_drops(drops),
       m_oneMore(services.timers.repeating(limits::windowPause, [this] { openNextInTurn(); }))
 {
+    QObject::connect(&contacts, &ContactList::dataChanged, &contacts,
+                     [this](const QModelIndex &first) { showPeer(m_contacts.at(first.row())); });
+}
+
+void PrivateWindows::showPeer(const Contact &contact)
+{
+    if (PrivateChat *const chat = at(contact.privateWindow))
+        chat->showPeer({.name = contact.nickname,
+                        .presence = contact.presence,
+                        .state = contact.state,
+                        .workstation = contact.workstation,
+                        .address = contact.ip.text()});
 }
 
 PrivateChat *PrivateWindows::at(int window)
@@ -40,7 +52,27 @@ void PrivateWindows::receive(const Contact &contact, QString body)
                                                                                           : ShowMode::minimised);
     }
     showWaiting(contact, chat);
+    const bool isUnread = !chat.view().conversation().isEndSeen();
     chat.MessageReceived(contact.nickname, body);
+    noteMessage(contact, isUnread);
+}
+
+void PrivateWindows::noteMessage(const Contact &contact, bool isUnreadInWindow)
+{
+    // A flood of messages must not be one of changes to the list as well.
+    if (contact.unreadInWindow >= limits::unreadCounted)
+        return;
+    m_contacts.change(contact.ip, [now = m_services.conversation.clock.now(), isUnreadInWindow](Contact &row) {
+        row.lastMessage = now;
+        row.unreadInWindow += isUnreadInWindow ? 1 : 0;
+    });
+}
+
+void PrivateWindows::read(int window)
+{
+    const Contact *const contact = at(window) ? m_contacts.find(at(window)->rIP()) : nullptr;
+    if (contact && contact->unreadInWindow > 0)
+        m_contacts.change(contact->ip, [](Contact &row) { row.unreadInWindow = 0; });
 }
 
 bool PrivateWindows::hasOpenWindow(const Contact &contact)
@@ -102,8 +134,9 @@ void PrivateWindows::wait(const Contact &contact, const QString &body)
         return m_drops.count(Drop::tooManyWaiting);
     m_waiting[contact.ip].append(body);
     m_waitingCharacters += body.size();
-    m_contacts.change(contact.ip, [](Contact &row) {
+    m_contacts.change(contact.ip, [now = m_services.conversation.clock.now()](Contact &row) {
         ++row.waitingMessages;
+        row.lastMessage = now;
         row.spokenTo = true;
     });
 }
@@ -113,9 +146,14 @@ void PrivateWindows::showWaiting(const Contact &contact, PrivateChat &chat)
     const QStringList messages = m_waiting.value(contact.ip);
     if (messages.isEmpty())
         return;
+    const bool isUnread = !chat.view().conversation().isEndSeen();
     for (const QString &body : messages)
         chat.waitingMessage(contact.nickname, body);
     forgetWaiting(contact.ip);
+    if (isUnread)
+        m_contacts.change(contact.ip, [count = static_cast<int>(messages.size())](Contact &row) {
+            row.unreadInWindow = std::min(row.unreadInWindow + count, limits::unreadCounted);
+        });
 }
 
 void PrivateWindows::forgetWaiting(const ContactAddress &ip)
@@ -157,7 +195,9 @@ PrivateChat &PrivateWindows::make(const Contact &contact, OpenedBy opener)
 {
     const int number = static_cast<int>(m_table.size()) + 1;
     m_table.push_back(std::make_unique<PrivateChat>(
-        m_services, [this, number] { unload(number); }, [this, number] { sought(number); }));
+        m_services, [this, number] { unload(number); }, [this, number] { sought(number); },
+        [this, number] { read(number); }));
+    // The head of the window follows the row from now on.
     m_contacts.change(contact.ip, [number](Contact &row) {
         row.privateWindow = number;
         row.spokenTo = true;
@@ -196,7 +236,10 @@ void PrivateWindows::unload(int window)
     const std::unique_ptr<PrivateChat> gone = std::move(m_table[static_cast<std::size_t>(window - 1)]);
     const Contact *contact = m_contacts.find(gone->rIP());
     if (contact && contact->privateWindow == window)
-        m_contacts.change(gone->rIP(), [](Contact &row) { row.privateWindow = 0; });
+        m_contacts.change(gone->rIP(), [](Contact &row) {
+            row.privateWindow = 0;
+            row.unreadInWindow = 0;
+        });
 }
 
 void PrivateWindows::unloadAll()

@@ -21,6 +21,11 @@ double luminance(const QColor &colour)
     return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
 }
 
+bool isDark(const QColor &ground)
+{
+    return luminance(ground) < 0.18;
+}
+
 QColor mixed(const QColor &colour, const QColor &with, double share)
 {
     const auto mix = [share](float a, float b) { return static_cast<float>(a + (b - a) * share); };
@@ -54,10 +59,17 @@ QColor mutedTextColour(const QPalette &palette)
 
 QColor readableOn(const QColor &colour, const QColor &ground)
 {
-    const bool dark = luminance(ground) < 0.18;
-    if (dark)
-        return moved(colour, Qt::white, ground);
-    return contrast(colour, ground) < visibleContrast ? moved(colour, Qt::black, ground) : colour;
+    return isDark(ground) || contrast(colour, ground) < visibleContrast ? contrastingOn(colour, ground) : colour;
+}
+
+QColor contrastingOn(const QColor &colour, const QColor &ground)
+{
+    return moved(colour, isDark(ground) ? Qt::white : Qt::black, ground);
+}
+
+QColor tintedGround(const QPalette &palette)
+{
+    return mixed(palette.color(QPalette::Base), palette.color(QPalette::Highlight), 0.08);
 }
 
 } // namespace nimb

@@ -16,4 +16,10 @@ QColor mutedTextColour(const QPalette &palette);
 /// A log's colour as it is on a light ground, its lighter sister of the same hue on a dark one.
 QColor readableOn(const QColor &colour, const QColor &ground);
 
+/// The colour where its contrast with the ground is 4.5, else its nearest sister of the same hue that has it.
+QColor contrastingOn(const QColor &colour, const QColor &ground);
+
+/// The ground of lists and logs with a breath of the accent.
+QColor tintedGround(const QPalette &palette);
+
 } // namespace nimb

@@ -24,10 +24,10 @@ constexpr Point autoReplyButtonAboveBottom = {240, 40};
 constexpr Point autoReplyText = {150, 235};
 constexpr Point mainLog = {450, 200};
 
-// Private window: the log takes the upper part, the input box stands at the bottom above the status bar.
-constexpr Point privateLog = {200, 100};
-constexpr Point beginningOfLine = {50, 60};
-constexpr int lineHeight = 13;
+// Private window: below its head the log takes the upper part, the input box stands at the bottom above the status bar.
+constexpr Point privateLog = {200, 140};
+constexpr Point logInside = {11, 58}; // its upper left corner
+constexpr int beginningOfLine = 50;
 constexpr Point inputAboveBottom = {100, 70};
 
 void copyAllAt(const Window &window, Point log)
@@ -176,10 +176,13 @@ void PrivateWindow::say(const std::string &utf8) const
     press("Return");
 }
 
-void PrivateWindow::clickIntoLog(int linesBelow) const
+void PrivateWindow::clickIntoLog(int linesBelow, int clicks) const
 {
     activate();
-    click(beginningOfLine.x, beginningOfLine.y + linesBelow * lineHeight);
+    const std::vector<SeenLine> lines = linesSeen();
+    const auto line = static_cast<std::size_t>(linesBelow) + 1; // the first may be cut off
+    ASSERT_LT(line, lines.size());
+    click(beginningOfLine, lines[line].middle, clicks);
 }
 
 void PrivateWindow::copyLog() const
@@ -200,22 +203,27 @@ void PrivateWindow::sayClipboard() const
     press("Return");
 }
 
-std::vector<int> PrivateWindow::beginningsOfLines() const
+std::vector<PrivateWindow::SeenLine> PrivateWindow::linesSeen() const
 {
-    constexpr int left = 11, top = 11, width = 560, height = 120; // inside the frame of the log
-    std::vector<int> beginnings;
+    constexpr int width = 560, height = 220;
+    std::vector<SeenLine> lines;
     bool inLine = false;
-    for (const auto &row : picture(left, top, width, height)) {
+    int y = logInside.y;
+    int top = y;
+    for (const auto &row : picture(logInside.x, logInside.y, width, height)) {
         const auto ink = std::ranges::find_if(row, [&](std::uint32_t colour) { return colour != row.back(); });
         const int beginning = static_cast<int>(ink - row.begin());
         const bool isBlank = ink == row.end();
-        if (!isBlank && !inLine)
-            beginnings.push_back(beginning);
-        else if (!isBlank)
-            beginnings.back() = std::min(beginnings.back(), beginning);
+        if (!isBlank && !inLine) {
+            lines.push_back({beginning, y});
+            top = y;
+        } else if (!isBlank) {
+            lines.back() = {std::min(lines.back().beginning, beginning), (top + y) / 2};
+        }
         inLine = !isBlank;
+        ++y;
     }
-    return beginnings;
+    return lines;
 }
 
 std::string logHeardBy(WirePeer &peer, const MainWindow &log, const PrivateWindow &with)

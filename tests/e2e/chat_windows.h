@@ -64,11 +64,15 @@ public:
     void say(const std::string &utf8) const;
     /// Clicks near the beginning of a line in the upper half of the log, so many lines further down. On one line two
     /// quick clicks were a double click.
-    void clickIntoLog(int linesBelow = 0) const;
+    void clickIntoLog(int linesBelow = 0, int clicks = 1) const;
     /// Into the clipboard.
     void copyLog() const;
-    /// How far from the left edge each line of the log begins, in pixels, as it is painted.
-    std::vector<int> beginningsOfLines() const;
+    struct SeenLine {
+        int beginning; ///< pixels from the left edge of the log
+        int middle;    ///< pixels from the upper edge of the window
+    };
+    /// Whatever is painted in the upper part of the log, line by line.
+    std::vector<SeenLine> linesSeen() const;
     /// Puts the caret into the input box.
     void focusInput() const;
     /// Sends what is in the clipboard as a message.

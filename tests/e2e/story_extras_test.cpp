@@ -27,7 +27,7 @@ constexpr int avatarButton = 475;
 constexpr int previewAboveBottom = 215;
 constexpr int inputAboveBottom = 70;
 constexpr int ownGaugeFromRight = 98;
-constexpr int upperPartOfGauge = 225;
+constexpr int upperPartOfGauge = 272;
 constexpr int pixelsAMoodUnit = 2;
 
 /// A timer may be early by this share of its time, and never earlier.
@@ -183,7 +183,7 @@ TEST_F(StoryExtras, AMessageTakesThePlaceOfThePreview)
 
     ann.send("127.0.46.1", "-one");
     ASSERT_TRUE(isDealtWith(ann));
-    window.click(40, 34, 3); // a line with its end is marked, and stays so where there is nothing to mark
+    window.clickIntoLog(1, 3); // a line with its end is marked, and stays so where there is nothing to mark
     EXPECT_EQ(textAtThePreview(), "-Ann> hello\r\n.");
 }
 

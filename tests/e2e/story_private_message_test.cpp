@@ -144,18 +144,20 @@ TEST_F(StoryPrivateMessage, NobodyWritesALineThatStandsWhereAnothersDoes)
 {
     RunningCopy bob({"127.0.32.1", "BOB-PC"}, withAnn({{{"Options", "PrivateBehaviour"}, "1"}}));
     start(bob);
+    ann.send("127.0.32.1", "!ONLINE 127.0.32.2 ANN-PC Ann");
     ann.send("127.0.32.1", "-hello\r\nBob> I agree");
     const PrivateWindow window = PrivateWindow::with("Ann");
     window.activate();
-    std::vector<int> lines;
+    std::vector<PrivateWindow::SeenLine> lines;
     EXPECT_TRUE(waitUntil([&] {
-        lines = window.beginningsOfLines();
-        return lines.size() == 3;
+        lines = window.linesSeen();
+        return lines.size() == 5;
     })) << lines.size()
         << " lines";
-    ASSERT_EQ(lines.size(), 3u); // when the window was opened, what Ann says, and what she wants Bob to have said
-    EXPECT_LE(std::abs(lines[1] - lines[0]), 2);
-    EXPECT_GE(lines[2], lines[1] + 8) << "her second line stands where one of Bob's would";
+    // When the window was opened, the day, that this is new, what Ann says, and what she wants Bob to have said.
+    ASSERT_EQ(lines.size(), 5u);
+    EXPECT_LE(std::abs(lines[3].beginning - lines[0].beginning), 4); // the letters themselves
+    EXPECT_GE(lines[4].beginning, lines[3].beginning + 8) << "her second line stands where one of Bob's would";
 }
 
 TEST_F(StoryPrivateMessage, UmlautsAndEmojiTravelAsTheirBytes)

@@ -6,6 +6,8 @@
 #include "widgets/avatar_picture.h"
 
 #include <QCheckBox>
+#include <QClipboard>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -64,6 +66,104 @@ TEST_F(FrmPrivate, BearsItsFixedNamesAndCaptions)
     EXPECT_EQ(control<QCheckBox>("livetypebtn").text(), QStringLiteral("LiveType!"));
     EXPECT_EQ(control<QLineEdit>("rIP").text(), QStringLiteral("10.0.0.2"));
     EXPECT_TRUE(control<QLineEdit>("rIP").isReadOnly());
+}
+
+TEST_F(FrmPrivate, ItsHeadSaysWhoIsTalkedTo)
+{
+    EXPECT_TRUE(control<QWidget>("peerHeader").isVisible());
+    EXPECT_EQ(control<QLabel>("peerName").text(), QStringLiteral("Ann"));
+    EXPECT_EQ(control<QLabel>("peerDetails").text(), QStringLiteral("Online · PC · 10.0.0.2"));
+    EXPECT_FALSE(control<QLabel>("peerBand").isVisible());
+    windows.arrive("10.0.0.2", "!STATUS BUSY Back at five");
+    EXPECT_EQ(control<QLabel>("peerDetails").text().section(u'·', 0, 0).trimmed().right(12),
+              QStringLiteral("Back at five"));
+    windows.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC-2 <b>Anna</b>");
+    EXPECT_EQ(control<QLabel>("peerName").text(), QStringLiteral("<b>Anna</b>"));
+    EXPECT_EQ(control<QLabel>("peerDetails").text(), QStringLiteral("Online · PC-2 · 10.0.0.2"));
+    EXPECT_EQ(control<QLabel>("peerName").textFormat(), Qt::PlainText);
+}
+
+TEST_F(FrmPrivate, ABandSaysWhatDoesNotArrive)
+{
+    auto &band = control<QLabel>("peerBand");
+    windows.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");
+    EXPECT_TRUE(band.isVisible());
+    EXPECT_EQ(band.text(), QStringLiteral("Ann is offline: what you write does not arrive"));
+    windows.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC Ann");
+    EXPECT_FALSE(band.isVisible());
+}
+
+TEST_F(FrmPrivate, AnAnnouncementThatIsAnsweredShowsNoBand)
+{
+    auto &band = control<QLabel>("peerBand");
+    windows.engine.announcement().run();
+    EXPECT_FALSE(band.isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([&band] { return band.isVisible(); }, 5000)) << "nobody answers";
+    EXPECT_EQ(band.text(), QStringLiteral("Ann is not known to be there: what you write may not arrive"));
+    windows.time.advance(std::chrono::seconds(1));
+    EXPECT_EQ(band.text(), QStringLiteral("Ann is offline: what you write does not arrive"));
+}
+
+TEST_F(FrmPrivate, WhoIsNoContactAnyMoreIsSaidToBeNone)
+{
+    windows.engine.contactCommands().mnuRemoveUser(QStringLiteral("10.0.0.2"));
+    EXPECT_EQ(control<QLabel>("peerDetails").text(), QStringLiteral("No contact any more · PC · 10.0.0.2"));
+    EXPECT_EQ(control<QLabel>("peerBand").text(),
+              QStringLiteral("Ann is no contact any more: what comes from there is not shown"));
+}
+
+TEST_F(FrmPrivate, WhatIsTypedIntoTheLogGoesToTheInput)
+{
+    outtext().setFocus();
+    QTest::keyClicks(&outtext(), QStringLiteral("Hi"));
+    EXPECT_EQ(intext().toPlainText(), QStringLiteral("Hi"));
+    EXPECT_EQ(form().focusWidget(), &intext());
+    QGuiApplication::clipboard()->setText(QStringLiteral(" there"));
+    outtext().setFocus();
+    QTest::keyClick(&outtext(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(intext().toPlainText(), QStringLiteral("Hi there"));
+    outtext().setFocus();
+    QTest::keyClick(&outtext(), Qt::Key_Return);
+    EXPECT_THAT(windows.sent(), testing::Contains(To{"10.0.0.2", "-Hi there"}));
+    EXPECT_EQ(intext().toPlainText(), QString());
+}
+
+TEST_F(FrmPrivate, TheUpKeyInAnEmptyInputBringsTheLastMessageBack)
+{
+    type(QStringLiteral("first"));
+    QTest::keyClick(&intext(), Qt::Key_Return);
+    QTest::keyClick(&intext(), Qt::Key_Up);
+    EXPECT_EQ(intext().toPlainText(), QStringLiteral("first"));
+    type(QStringLiteral("!"));
+    EXPECT_EQ(intext().toPlainText(), QStringLiteral("first!"));
+    QTest::keyClick(&intext(), Qt::Key_Up);
+    EXPECT_EQ(intext().toPlainText(), QStringLiteral("first!")) << "there the key moves the caret";
+}
+
+TEST_F(FrmPrivate, SendingShowsTheEndOfTheLog)
+{
+    for (int i = 0; i < 100; ++i)
+        windows.arrive("10.0.0.2", "-line");
+    QScrollBar &bar = *outtext().verticalScrollBar();
+    bar.setValue(3);
+    windows.arrive("10.0.0.2", "-another line");
+    EXPECT_EQ(bar.value(), 3);
+    type(QStringLiteral("mine"));
+    QTest::keyClick(&intext(), Qt::Key_Return);
+    outtext();
+    EXPECT_EQ(bar.value(), bar.maximum());
+}
+
+TEST_F(FrmPrivate, TheEscapeKeyLeavesThePickerAndCtrlWTheWindow)
+{
+    control<QToolButton>("Emoticbtn").click();
+    QTest::keyClick(&intext(), Qt::Key_Escape);
+    EXPECT_FALSE(control<QListWidget>("ListViewEmot").isVisible());
+    EXPECT_TRUE(form().isVisible());
+    form().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form()));
+    QTest::keyClick(&intext(), Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(form().isVisible());
 }
 
 TEST_F(FrmPrivate, TheTabKeyGoesFromTheLogToTheInputAndThenToTheTools)
@@ -252,6 +352,30 @@ TEST_F(FrmPrivate, ThePreviewGrowsUpwardsOverTheLogUntilTheMessageComes)
     windows.arrive("10.0.0.2", "!LIVETYPE more");
     EXPECT_TRUE(preview.isVisible());
     windows.arrive("10.0.0.2", "!LIVETYPE ");
+    EXPECT_FALSE(preview.isVisible());
+}
+
+TEST_F(FrmPrivate, ThePreviewCoversNoLineOfTheLog)
+{
+    auto &preview = control<QPlainTextEdit>("futuretype");
+    auto &log = control<QTextEdit>("outtext");
+    const int room = log.viewport()->height();
+    windows.arrive("10.0.0.2", "!LIVETYPE what is being typed");
+    EXPECT_LE(log.viewport()->mapTo(&form(), QPoint(0, log.viewport()->height())).y(), preview.geometry().top());
+    windows.arrive("10.0.0.2", "-done");
+    EXPECT_EQ(log.viewport()->height(), room);
+}
+
+TEST_F(FrmPrivate, APreviewThatNobodyGoesOnWithGoesAfterHalfAMinute)
+{
+    auto &preview = control<QPlainTextEdit>("futuretype");
+    windows.arrive("10.0.0.2", "!LIVETYPE begun");
+    windows.time.advance(std::chrono::milliseconds(29'900));
+    EXPECT_TRUE(preview.isVisible());
+    windows.arrive("10.0.0.2", "!LIVETYPE begun anew");
+    windows.time.advance(std::chrono::milliseconds(29'900));
+    EXPECT_TRUE(preview.isVisible());
+    windows.time.advance(std::chrono::milliseconds(200));
     EXPECT_FALSE(preview.isVisible());
 }
 

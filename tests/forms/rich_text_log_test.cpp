@@ -532,6 +532,42 @@ TEST_F(RichTextLogTest, ACommandIsAskedForByItsNameAndIsNoLinkToBeOpened)
     EXPECT_EQ(links.count(), 0);
 }
 
+TEST_F(RichTextLogTest, WhatIsNewIsMarkedByPaintAlone)
+{
+    lines(3);
+    const QString before = log.toPlainText();
+    const auto picture = [this] { return log.viewport()->grab().toImage(); };
+    log.markNew();
+    EXPECT_EQ(log.toPlainText(), before);
+    appendText(log, QStringLiteral("unread\r\n"), 0);
+    log.writeGathered();
+    EXPECT_EQ(log.toPlainText(), before + QStringLiteral("unread\n"));
+    const QImage marked = picture();
+    log.unmarkNew();
+    EXPECT_EQ(log.toPlainText(), before + QStringLiteral("unread\n"));
+    EXPECT_NE(picture(), marked);
+    log.markNew();
+    log.clear();
+    lines(4);
+    const QImage cleared = picture();
+    log.unmarkNew();
+    EXPECT_EQ(picture(), cleared) << "nothing is new in an emptied log";
+}
+
+TEST_F(RichTextLogTest, TellsWhenItsReaderHasComeToTheEnd)
+{
+    lines(100);
+    EXPECT_TRUE(log.isAtItsEnd());
+    QSignalSpy reached(&log, &RichTextLogEdit::endReached);
+    log.verticalScrollBar()->setValue(20);
+    EXPECT_FALSE(log.isAtItsEnd());
+    lines(1);
+    EXPECT_EQ(reached.count(), 0);
+    log.verticalScrollBar()->setValue(log.verticalScrollBar()->maximum());
+    EXPECT_TRUE(log.isAtItsEnd());
+    EXPECT_EQ(reached.count(), 1);
+}
+
 TEST_F(RichTextLogTest, AMixedScriptHostIsShownInPunycodeBeforeTheClick)
 {
     log.setLinkDetection(true);

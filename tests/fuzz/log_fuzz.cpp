@@ -25,6 +25,10 @@ public:
     void setSelFont(const LogFont &) override { }
     void setSelContinues(bool) override { }
     void setSelCommand(const QString &) override { }
+    void setSelMessage(const std::optional<LogMessage> &) override { }
+    void setSelBold(bool) override { }
+    void markNew() override { }
+    void unmarkNew() override { }
     void setSelText(const QString &piece) override { note(piece, false); }
     void setSelRtf(const QString &, const QString &alternative) override { note(alternative, true); }
     void clear() override { }

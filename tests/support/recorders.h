@@ -38,6 +38,7 @@ public:
         QString fragment = {};  ///< of a picture, whose text is its alternative
         bool continues = false; ///< the lines that it begins continue the one before
         QString command = {};   ///< what a click on it asks for
+        bool bold = false;
     };
 
     qsizetype textLength() const override { return text().size(); }
@@ -46,11 +47,20 @@ public:
     void setSelFont(const LogFont &font) override { lastFont = font; }
     void setSelContinues(bool continues) override { m_continues = continues; }
     void setSelCommand(const QString &name) override { m_command = name; }
+    void setSelMessage(const std::optional<LogMessage> &message) override
+    {
+        if (message)
+            messages.push_back(*message);
+    }
+    void setSelBold(bool bold) override { m_bold = bold; }
+    void markNew() override { newFrom = text().size(); }
+    void unmarkNew() override { newFrom.reset(); }
     void setSelText(const QString &text) override
     {
         if (!m_caretAtEnd)
             qFatal("text inserted before the end of a log");
-        pieces.push_back({.text = text, .colour = m_colour, .continues = m_continues, .command = m_command});
+        pieces.push_back(
+            {.text = text, .colour = m_colour, .continues = m_continues, .command = m_command, .bold = m_bold});
         if (changed)
             changed();
     }
@@ -62,6 +72,8 @@ public:
     void clear() override
     {
         pieces.clear();
+        messages.clear();
+        newFrom.reset();
         m_caretAtEnd = true;
     }
 
@@ -87,6 +99,8 @@ public:
     Colour colourOfLastPiece() const { return pieces.empty() ? 0 : pieces.back().colour; }
 
     std::vector<Piece> pieces;
+    std::vector<LogMessage> messages;
+    std::optional<qsizetype> newFrom; ///< where what is new begins
     std::optional<LogFont> lastFont;
     std::function<void()> changed;
 
@@ -94,6 +108,7 @@ private:
     Colour m_colour = 0;
     bool m_continues = false;
     QString m_command;
+    bool m_bold = false;
     bool m_caretAtEnd = true;
 };
 
@@ -149,6 +164,7 @@ public:
     void focusInput() override { ++inputFocused; }
     Colour windowTextColour() const override { return 0x123456; }
     bool isMinimisedOrInactive() const override { return inBackground; }
+    bool isEndSeen() const override { return !inBackground && atEnd; }
     void flash() override { ++flashes; }
 
     RecorderLog log;
@@ -159,6 +175,7 @@ public:
     bool inputEnabled = true;
     int inputFocused = 0;
     bool inBackground = true;
+    bool atEnd = true;
     int flashes = 0;
 };
 
@@ -169,6 +186,11 @@ public:
 
     ConversationView &conversation() override { return *this; }
     void setPeerAddress(const QString &ip) override { peer = ip; }
+    void setPeer(const PeerShown &shown) override
+    {
+        shownPeer = shown;
+        ++peerChanges;
+    }
     void setPeerActivity(const QString &text) override { peerActivity = text; }
     void setLiveType(const QString &text) override
     {
@@ -201,6 +223,8 @@ public:
 
     PrivateChat &chat;
     QString peer;
+    PeerShown shownPeer;
+    int peerChanges = 0;
     QString peerActivity;
     int liveTypeHidden = 0;
     QString liveType;

@@ -16,6 +16,10 @@ public:
     void setSelFont(const LogFont &) override { }
     void setSelContinues(bool) override { }
     void setSelCommand(const QString &) override { }
+    void setSelMessage(const std::optional<LogMessage> &) override { }
+    void setSelBold(bool) override { }
+    void markNew() override { }
+    void unmarkNew() override { }
     void setSelText(const QString &) override { ++pieces; }
     void setSelRtf(const QString &, const QString &) override { ++pieces; }
     void clear() override { }

@@ -176,6 +176,43 @@ TEST_F(PrivateWindowsTest, TheSenderIsNamedAsItsRowIsAtThatMoment)
     EXPECT_EQ(copy.window(1).log.lastLine(), "Benjamin> hello");
 }
 
+TEST_F(PrivateWindowsTest, MessagesThatNobodySeesAreCountedAtTheRowUntilTheyAreSeen)
+{
+    copy.arrive("10.0.0.2", "-one");
+    copy.arrive("10.0.0.2", "-two");
+    EXPECT_EQ(copy.contact("10.0.0.2").unread(), 2);
+    EXPECT_EQ(copy.contact("10.0.0.2").lastMessage, copy.time->now());
+    copy.window(1).inBackground = false;
+    copy.window(1).chat.endSeen();
+    EXPECT_EQ(copy.contact("10.0.0.2").unread(), 0);
+    copy.arrive("10.0.0.2", "-three");
+    EXPECT_EQ(copy.contact("10.0.0.2").unread(), 0) << "it is seen as it comes";
+    copy.window(1).atEnd = false;
+    copy.arrive("10.0.0.2", "-four");
+    EXPECT_EQ(copy.contact("10.0.0.2").unread(), 1) << "the reader is further up";
+}
+
+TEST_F(PrivateWindowsTest, WhatIsNewIsMarkedWhereReadingStopped)
+{
+    copy.arrive("10.0.0.2", "-one");
+    const std::optional<qsizetype> first = copy.window(1).log.newFrom;
+    ASSERT_TRUE(first);
+    EXPECT_TRUE(copy.window(1).log.text().mid(*first).startsWith(QStringLiteral("Ann")))
+        << copy.window(1).log.text().mid(*first).toStdString();
+    copy.arrive("10.0.0.2", "-two");
+    EXPECT_EQ(copy.window(1).log.newFrom, first);
+    copy.window(1).inBackground = false;
+    copy.window(1).chat.endSeen();
+    EXPECT_EQ(copy.window(1).log.newFrom, first) << "the mark stays for whoever looks where to begin";
+    copy.arrive("10.0.0.2", "-three");
+    EXPECT_EQ(copy.window(1).log.newFrom, first);
+    copy.window(1).inBackground = true;
+    copy.arrive("10.0.0.2", "-four");
+    EXPECT_GT(copy.window(1).log.newFrom, first);
+    EXPECT_TRUE(copy.window(1).chat.send(QStringLiteral("hello")));
+    EXPECT_EQ(copy.window(1).log.newFrom, std::nullopt);
+}
+
 TEST_F(PrivateWindowsTest, UnknownNumbersAreNoWindows)
 {
     EXPECT_EQ(copy.engine.privateWindows().at(0), nullptr);

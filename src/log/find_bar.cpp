@@ -1,0 +1,208 @@
+#include "log/find_bar.h"
+
+#include "log/rich_text_log.h"
+#include "widgets/tool_button.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QShortcut>
+
+#include <algorithm>
+
+namespace nimb
+{
+namespace
+{
+
+std::vector<int> placesOf(const QString &word, const QTextDocument &document, Qt::CaseSensitivity sensitivity)
+{
+    std::vector<int> places;
+    if (word.isEmpty())
+        return places;
+    const QString text = document.toRawText(); // a character for each place
+    for (qsizetype at = text.indexOf(word, 0, sensitivity); at >= 0;
+         at = text.indexOf(word, at + word.size(), sensitivity))
+        places.push_back(static_cast<int>(at));
+    return places;
+}
+
+QToolButton *pictureButton(QWidget *parent, const char *name, const QString &tip, const char *picture)
+{
+    QToolButton *const button = toolButton(parent, name, tip, picture);
+    button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    button->setToolTip(tip);
+    return button;
+}
+
+} // namespace
+
+FindBar::FindBar(RichTextLogEdit &log) : QWidget(&log), m_log(log)
+{
+    setObjectName(QStringLiteral("findBar"));
+    setAutoFillBackground(true);
+    buildControls();
+    hide();
+    log.viewport()->installEventFilter(this);
+    auto *const find = new QShortcut(QKeySequence(QKeySequence::Find), &log);
+    connect(find, &QShortcut::activated, this, &FindBar::open);
+    connect(findText, &QLineEdit::textChanged, this, &FindBar::search);
+    connect(findCase, &QToolButton::toggled, this, &FindBar::search);
+    connect(findPrevious, &QToolButton::clicked, this, [this] { step(-1); });
+    connect(findNext, &QToolButton::clicked, this, [this] { step(1); });
+    connect(findClose, &QToolButton::clicked, this, &FindBar::shut);
+    // A flood of lines is searched now and then, not with each of them.
+    m_later.setSingleShot(true);
+    m_later.setInterval(std::chrono::milliseconds(100));
+    connect(&m_later, &QTimer::timeout, this, &FindBar::lookAgain);
+    connect(&log, &QTextEdit::textChanged, this, [this] {
+        if (!isHidden() && !m_later.isActive())
+            m_later.start();
+    });
+}
+
+void FindBar::buildControls()
+{
+    findText = new QLineEdit(this);
+    findText->setObjectName(QStringLiteral("findText"));
+    findText->setPlaceholderText(tr("Find"));
+    findText->setAccessibleName(findText->placeholderText());
+    findText->setClearButtonEnabled(true);
+    findText->addAction(namedPicture(QStringLiteral("search")), QLineEdit::LeadingPosition);
+    findCount = new QLabel(this);
+    findCount->setObjectName(QStringLiteral("findCount"));
+    findCase = toolButton(this, "findCase", tr("Aa"), "");
+    findCase->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    findCase->setToolTip(tr("Match case"));
+    findCase->setAccessibleName(findCase->toolTip());
+    findCase->setCheckable(true);
+    findPrevious = pictureButton(this, "findPrevious", tr("Previous (Enter)"), "up");
+    findNext = pictureButton(this, "findNext", tr("Next (Shift+Enter)"), "down");
+    findClose = pictureButton(this, "findClose", tr("Close (Esc)"), "close");
+    auto *const row = new QHBoxLayout(this);
+    row->setContentsMargins(6, 4, 6, 4);
+    row->setSpacing(4);
+    row->addWidget(findText, 1);
+    row->addWidget(findCount);
+    for (QToolButton *const button : {findCase, findPrevious, findNext, findClose})
+        row->addWidget(button);
+}
+
+void FindBar::open()
+{
+    if (!isAncestorOf(window()->focusWidget()))
+        m_before = window()->focusWidget();
+    const QString selected = m_log.textCursor().selectedText();
+    show();
+    raise();
+    m_log.setRoomAbove(sizeHint().height());
+    place();
+    if (!selected.isEmpty() && !selected.contains(QChar::ParagraphSeparator))
+        findText->setText(selected);
+    findText->setFocus(Qt::ShortcutFocusReason);
+    findText->selectAll();
+    search();
+}
+
+void FindBar::shut()
+{
+    hide();
+    m_log.setRoomAbove(0);
+    m_log.setFound({}, 0);
+    if (m_before)
+        m_before->setFocus();
+}
+
+void FindBar::search()
+{
+    if (isHidden())
+        return;
+    findPlaces();
+    m_current = static_cast<qsizetype>(m_places.size()) - 1;
+    showCount();
+    selectPlace();
+}
+
+void FindBar::findPlaces()
+{
+    m_later.stop();
+    m_log.writeGathered();
+    const QString word = findText->text();
+    m_places = placesOf(word, *m_log.document(), findCase->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive);
+    m_log.setFound(m_places, static_cast<int>(word.size()));
+    m_later.stop();
+}
+
+/// The place that is selected stays so, at whatever number it is now.
+void FindBar::lookAgain()
+{
+    if (isHidden())
+        return;
+    findPlaces();
+    const auto selected = std::ranges::lower_bound(m_places, m_log.textCursor().selectionStart());
+    const auto last = static_cast<qsizetype>(m_places.size()) - 1;
+    m_current = qMin(static_cast<qsizetype>(selected - m_places.begin()), last);
+    showCount();
+}
+
+void FindBar::step(int by)
+{
+    if (m_later.isActive())
+        lookAgain();
+    const auto count = static_cast<qsizetype>(m_places.size());
+    if (count == 0)
+        return search();
+    m_current = (m_current + by + count) % count;
+    showCount();
+    selectPlace();
+}
+
+void FindBar::showCount()
+{
+    const bool isFound = m_current >= 0;
+    findPrevious->setEnabled(isFound);
+    findNext->setEnabled(isFound);
+    if (findText->text().isEmpty())
+        findCount->clear();
+    else if (isFound)
+        findCount->setText(tr("%1 of %2").arg(m_current + 1).arg(m_places.size()));
+    else
+        findCount->setText(tr("Not found"));
+}
+
+void FindBar::selectPlace()
+{
+    if (m_current < 0)
+        return;
+    QTextCursor found(m_log.document());
+    found.setPosition(m_places[static_cast<std::size_t>(m_current)]);
+    found.setPosition(found.position() + static_cast<int>(findText->text().size()), QTextCursor::KeepAnchor);
+    m_log.setTextCursor(found);
+    m_log.ensureCursorVisible();
+}
+
+void FindBar::place()
+{
+    const QRect shown = m_log.viewport()->geometry();
+    const int height = sizeHint().height();
+    setGeometry(m_log.frameWidth(), shown.top() - height, m_log.width() - 2 * m_log.frameWidth(), height);
+}
+
+bool FindBar::eventFilter(QObject *watched, QEvent *event)
+{
+    if (!isHidden() && (event->type() == QEvent::Resize || event->type() == QEvent::Move))
+        place();
+    return QWidget::eventFilter(watched, event);
+}
+
+void FindBar::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        return shut();
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        step(event->modifiers() & Qt::ShiftModifier ? 1 : -1);
+    event->accept(); // nothing that is typed here is meant for the conversation
+}
+
+} // namespace nimb

@@ -1,0 +1,59 @@
+// Looks for words in a log.
+#pragma once
+
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+
+#include <vector>
+
+class QLabel;
+class QLineEdit;
+class QToolButton;
+
+namespace nimb
+{
+
+class RichTextLogEdit;
+
+/// Lies over the top of its log, whose text makes room for it. Ctrl+F in the log's window shows it, Esc hides it. All
+/// places are marked, one of them is selected; the search begins with the newest, for that is what one has just read.
+class FindBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// A child of the log.
+    explicit FindBar(RichTextLogEdit &log);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void buildControls();
+    void open();
+    void shut();
+    void search();
+    /// By one to the newer or the older, around the ends.
+    void step(int by);
+    void findPlaces();
+    void lookAgain();
+    void showCount();
+    void selectPlace();
+    void place();
+
+    RichTextLogEdit &m_log;
+    QLineEdit *findText = nullptr;
+    QToolButton *findCase = nullptr;
+    QLabel *findCount = nullptr;
+    QToolButton *findPrevious = nullptr;
+    QToolButton *findNext = nullptr;
+    QToolButton *findClose = nullptr;
+    std::vector<int> m_places; ///< in the text, the oldest first
+    qsizetype m_current = -1;  ///< of them
+    QTimer m_later;
+    QPointer<QWidget> m_before; ///< had the focus before the bar was opened
+};
+
+} // namespace nimb

@@ -1,0 +1,200 @@
+#include "log/log_marks.h"
+
+#include "base/clock_text.h"
+#include "widgets/muted_colour.h"
+
+#include <QCoreApplication>
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPalette>
+
+namespace nimb
+{
+namespace
+{
+
+/// Properties of a line. Whole minutes and days, so that few formats serve many lines.
+enum Property {
+    ownMessage = QTextFormat::UserProperty + 16,
+    undelivered,
+    gapAbove,  ///< pixels
+    timeShown, ///< text
+    dayShown,  ///< Julian day
+    beginsNew,
+};
+
+constexpr double lineHeight = 135;             // percent
+constexpr int gapOfWriter = 2, gapOfOther = 6; // pixels
+constexpr int edge = 12, gap = 8;              // pixels, beside what is painted
+
+QFont smaller(QFont font)
+{
+    font.setBold(false);
+    font.setItalic(false);
+    font.setPointSizeF(font.pointSizeF() * 0.85);
+    return font;
+}
+
+int roomOfLine(const QFont &font)
+{
+    return QFontMetrics(font).lineSpacing() + 4;
+}
+
+QTextBlockFormat line()
+{
+    QTextBlockFormat format;
+    format.setIndent(1); // at the side from which the line is read
+    format.setLineHeight(lineHeight, QTextBlockFormat::ProportionalHeight);
+    format.setTopMargin(gapOfWriter);
+    return format;
+}
+
+/// A word between two thin lines.
+void paintDivider(QPainter &painter, const QRect &place, const QString &word, const QColor &colour)
+{
+    const int wordWidth = painter.fontMetrics().horizontalAdvance(word);
+    painter.setPen(colour);
+    painter.drawText(place, Qt::AlignCenter, word);
+    QColor faint = colour;
+    faint.setAlphaF(0.5F);
+    painter.setPen(faint);
+    const int middle = place.center().y(), centre = place.center().x();
+    painter.drawLine(place.left() + edge, middle, centre - wordWidth / 2 - gap, middle);
+    painter.drawLine(centre + wordWidth / 2 + gap, middle, place.right() - edge, middle);
+}
+
+/// A ring with an exclamation mark, which needs no font.
+void paintUndelivered(QPainter &painter, const QRectF &place, const QColor &colour)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour, 1.2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(place);
+    const QPointF middle = place.center();
+    painter.setPen(QPen(colour, 1.6, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(QPointF(middle.x(), place.top() + place.height() * 0.25),
+                     QPointF(middle.x(), place.top() + place.height() * 0.55));
+    painter.drawPoint(QPointF(middle.x(), place.top() + place.height() * 0.76));
+    painter.restore();
+}
+
+} // namespace
+
+QTextBlockFormat LogMarks::ownLine()
+{
+    QTextBlockFormat format = line();
+    format.setTextIndent(-continuationIndent);
+    return format;
+}
+
+QTextBlockFormat LogMarks::continuedLine(bool isOwnMessage)
+{
+    QTextBlockFormat format = line();
+    format.setTopMargin(0);
+    if (isOwnMessage)
+        format.setProperty(ownMessage, true);
+    return format;
+}
+
+QTextBlockFormat LogMarks::firstLine(const LogMessage &message)
+{
+    QTextBlockFormat format = ownLine();
+    format.setProperty(gapAbove, message.writer == m_writer ? gapOfWriter : gapOfOther);
+    m_writer = message.writer;
+    if (message.isOwn)
+        format.setProperty(ownMessage, true);
+    if (!message.arrives)
+        format.setProperty(undelivered, true);
+    const QDateTime minute(message.time.date(), QTime(message.time.time().hour(), message.time.time().minute()));
+    if (minute != m_minute)
+        format.setProperty(timeShown, shortTime(minute));
+    if (minute.date() != m_day)
+        format.setProperty(dayShown, minute.date().toJulianDay());
+    m_minute = minute;
+    m_day = minute.date();
+    return format;
+}
+
+void LogMarks::setNew(QTextBlockFormat &line, bool isNew)
+{
+    if (isNew)
+        line.setProperty(beginsNew, true);
+    else
+        line.clearProperty(beginsNew);
+}
+
+bool LogMarks::isNew(const QTextBlockFormat &line)
+{
+    return line.hasProperty(beginsNew);
+}
+
+bool LogMarks::isUndelivered(const QTextBlockFormat &line)
+{
+    return line.hasProperty(undelivered);
+}
+
+bool LogMarks::hasRoomAbove(const QTextBlockFormat &line)
+{
+    return line.hasProperty(beginsNew) || line.hasProperty(dayShown);
+}
+
+QTextBlockFormat LogMarks::withRoom(QTextBlockFormat line, const QFont &font)
+{
+    const int dividers = (line.hasProperty(beginsNew) ? 1 : 0) + (line.hasProperty(dayShown) ? 1 : 0);
+    const int own = line.hasProperty(gapAbove) ? line.intProperty(gapAbove) : gapOfWriter;
+    line.setTopMargin(own + dividers * roomOfLine(font));
+    return line;
+}
+
+int LogMarks::marginRight(const QFont &font)
+{
+    return QFontMetrics(smaller(font)).horizontalAdvance(QStringLiteral("00:00")) + edge + 2 * gap;
+}
+
+void LogMarks::paintGround(QPainter &painter, const Seen &line, const QPalette &palette)
+{
+    const QTextBlockFormat format = line.block.blockFormat();
+    if (!format.hasProperty(ownMessage))
+        return;
+    // The height of a line is below its text; the ground stands around it, and without a gap between two of one writer.
+    const double below = QFontMetrics(line.block.charFormat().font()).height() * (lineHeight - 100) / 200;
+    const double above = format.topMargin() <= gapOfWriter ? format.topMargin() : 0;
+    const QRectF place = line.place.adjusted(0, -below - above, 0, -below);
+    painter.fillRect(QRectF(0, place.top(), painter.viewport().width(), place.height()).toAlignedRect(),
+                     tintedGround(palette));
+}
+
+void LogMarks::paintMarks(QPainter &painter, const Seen &line, const QPalette &palette, const QFont &font)
+{
+    const QTextBlockFormat format = line.block.blockFormat();
+    const int width = painter.viewport().width();
+    const QColor ground = palette.color(QPalette::Base), muted = mutedTextColour(palette);
+    painter.setFont(smaller(font));
+    const int room = roomOfLine(font);
+    // From the line upwards.
+    QRect above(0, qRound(line.place.top()) - format.intProperty(gapAbove) - room, width, room);
+    if (format.hasProperty(beginsNew)) {
+        paintDivider(painter, above, QCoreApplication::translate("LogMarks", "new"),
+                     readableOn(QColor(0xD1, 0x24, 0x2F), ground));
+        above.translate(0, -room);
+    }
+    if (format.hasProperty(dayShown)) {
+        const QDate day = QDate::fromJulianDay(format.property(dayShown).toLongLong());
+        paintDivider(painter, above, QLocale().toString(day, QStringLiteral("dddd, d MMMM")), muted);
+    }
+    const int ascent = painter.fontMetrics().height();
+    QRect time(0, qRound(line.place.top()), width - edge, QFontMetrics(font).height());
+    if (format.hasProperty(undelivered)) {
+        const double side = ascent * 0.8;
+        paintUndelivered(painter, {time.right() - side, time.center().y() - side / 2, side, side},
+                         readableOn(QColor(0x7A, 0x41, 0x00), ground));
+        time.setRight(time.right() - qRound(side) - gap / 2);
+    }
+    if (format.hasProperty(timeShown)) {
+        painter.setPen(muted);
+        painter.drawText(time, Qt::AlignRight | Qt::AlignVCenter, format.stringProperty(timeShown));
+    }
+}
+
+} // namespace nimb

@@ -1,0 +1,64 @@
+// What a log shows beside its lines and above them, and what stands in no text: the time, the day, whose message it is,
+// what is new, what has not arrived.
+#pragma once
+
+#include "base/rich_text.h"
+
+#include <QDate>
+#include <QTextBlock>
+#include <QTextBlockFormat>
+
+class QFontMetrics;
+class QPainter;
+class QPalette;
+class QRect;
+class QTextDocument;
+
+namespace nimb
+{
+
+/// Writes into the formats of lines what belongs to them, and paints it.
+class LogMarks
+{
+public:
+    /// Of a line that belongs to no message, or that continues one.
+    static QTextBlockFormat ownLine();
+    static QTextBlockFormat continuedLine(bool isOwnMessage);
+    /// Pixels by which what continues a line stands further in than the line.
+    static constexpr int continuationIndent = 18;
+
+    /// Of the first line of this message, which comes next.
+    QTextBlockFormat firstLine(const LogMessage &message);
+    /// A line of no message comes next.
+    void endMessages() { m_writer.clear(); }
+    /// The log is empty again.
+    void forget() { *this = {}; }
+
+    /// What is new begins with this line, or does not any more.
+    static void setNew(QTextBlockFormat &line, bool isNew);
+    static bool isNew(const QTextBlockFormat &line);
+    /// The same line with the room that what is painted above it needs.
+    static QTextBlockFormat withRoom(QTextBlockFormat line, const QFont &font);
+    /// Room at the right side in which times are painted, in pixels.
+    static int marginRight(const QFont &font);
+    static bool hasRoomAbove(const QTextBlockFormat &line);
+    /// Message of one's own that has not arrived, as far as is known.
+    static bool isUndelivered(const QTextBlockFormat &line);
+
+    /// One line of the log as it is seen: where it lies, without the room above it.
+    struct Seen {
+        QTextBlock block;
+        QRectF place;
+    };
+    /// Under the text; above: the line before, if there is one.
+    static void paintGround(QPainter &painter, const Seen &line, const QPalette &palette);
+    /// Beside the text and above it.
+    static void paintMarks(QPainter &painter, const Seen &line, const QPalette &palette, const QFont &font);
+
+private:
+    QString m_writer;
+    QDateTime m_minute; ///< that was painted last, in whole minutes
+    QDate m_day;
+};
+
+} // namespace nimb

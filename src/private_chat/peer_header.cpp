@@ -1,0 +1,165 @@
+#include "private_chat/peer_header.h"
+
+#include "base/limits.h"
+#include "base/remote_text.h"
+#include "widgets/avatar_image.h"
+#include "widgets/elided_label.h"
+#include "widgets/form_layout.h"
+#include "widgets/muted_colour.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace nimb
+{
+namespace
+{
+
+using form_layout::margin;
+
+constexpr int faceSide = 36;
+
+/// Painted anew for every size and scale.
+class Face : public QWidget
+{
+public:
+    Face(const PeerPicture &picture, QWidget *parent) : QWidget(parent), m_picture(picture)
+    {
+        setFixedSize(faceSide + 2, faceSide + 2);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        paintPeerPicture(painter, {0, 0, faceSide, faceSide}, m_picture, palette());
+    }
+
+private:
+    const PeerPicture &m_picture;
+};
+
+QString presenceText(Presence presence)
+{
+    switch (presence) {
+    case Presence::online:
+        return PeerHeader::tr("Online");
+    case Presence::busy:
+        return PeerHeader::tr("Busy");
+    case Presence::away:
+        return PeerHeader::tr("Away");
+    case Presence::offline:
+        return PeerHeader::tr("Offline");
+    case Presence::unknown:
+        break;
+    }
+    return PeerHeader::tr("Not known to be there");
+}
+
+QString detailsOf(const PeerShown &peer)
+{
+    QStringList details{peer.state.isEmpty() ? presenceText(peer.presence) : peer.state};
+    if (!peer.isContact)
+        details = {PeerHeader::tr("No contact any more")};
+    if (!peer.workstation.isEmpty())
+        details.append(paintedName(peer.workstation));
+    details.append(paintedName(peer.address));
+    return details.join(QStringLiteral(" · "));
+}
+
+QString warningOf(const PeerShown &peer)
+{
+    const QString name = paintedName(peer.name);
+    if (!peer.isContact)
+        return PeerHeader::tr("%1 is no contact any more: what comes from there is not shown").arg(name);
+    if (peer.presence == Presence::offline)
+        return PeerHeader::tr("%1 is offline: what you write does not arrive").arg(name);
+    return PeerHeader::tr("%1 is not known to be there: what you write may not arrive").arg(name);
+}
+
+} // namespace
+
+PeerHeader::PeerHeader(QWidget *parent) : QWidget(parent)
+{
+    setObjectName(QStringLiteral("peerHeader"));
+    auto *const column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(makeHead());
+    column->addWidget(makeBand());
+    m_uncertain.setSingleShot(true);
+    m_uncertain.setInterval(limits::announcementTime + std::chrono::milliseconds(500));
+    connect(&m_uncertain, &QTimer::timeout, this, &PeerHeader::showBand);
+}
+
+QWidget *PeerHeader::makeHead()
+{
+    auto *const head = new QWidget(this);
+    m_face = new Face(m_picture, head);
+    peerName = new ElidedLabel(head);
+    peerName->setObjectName(QStringLiteral("peerName"));
+    QFont bold = peerName->font();
+    bold.setBold(true);
+    peerName->setFont(bold);
+    peerDetails = new ElidedLabel(head);
+    peerDetails->setObjectName(QStringLiteral("peerDetails"));
+    QPalette muted = peerDetails->palette();
+    muted.setColor(QPalette::WindowText, mutedTextColour(muted));
+    peerDetails->setPalette(muted);
+    auto *const lines = new QVBoxLayout;
+    lines->setSpacing(0);
+    lines->addWidget(peerName);
+    lines->addWidget(peerDetails);
+    auto *const row = new QHBoxLayout(head);
+    row->setContentsMargins(margin, margin, margin, 0);
+    row->setSpacing(margin);
+    row->addWidget(m_face);
+    row->addLayout(lines, 1);
+    return head;
+}
+
+QWidget *PeerHeader::makeBand()
+{
+    peerBand = new QLabel(this);
+    peerBand->setObjectName(QStringLiteral("peerBand"));
+    peerBand->setTextFormat(Qt::PlainText);
+    peerBand->setWordWrap(true);
+    peerBand->setMargin(margin);
+    peerBand->setAutoFillBackground(true);
+    peerBand->setBackgroundRole(QPalette::ToolTipBase);
+    peerBand->setForegroundRole(QPalette::ToolTipText);
+    peerBand->hide();
+    return peerBand;
+}
+
+void PeerHeader::setPeer(const PeerShown &peer)
+{
+    m_peer = peer;
+    m_picture.name = peer.name;
+    m_picture.presence = peer.isContact ? std::optional(peer.presence) : std::nullopt;
+    m_face->update();
+    peerName->setText(paintedName(peer.name));
+    peerDetails->setText(detailsOf(peer));
+    setAccessibleName(peerName->text() + QStringLiteral(", ") + peerDetails->text());
+    m_uncertain.stop();
+    const bool isUncertain = peer.isContact && peer.presence == Presence::unknown;
+    if (isUncertain && peerBand->isHidden())
+        m_uncertain.start();
+    else
+        showBand();
+}
+
+void PeerHeader::showBand()
+{
+    peerBand->setText(warningOf(m_peer));
+    peerBand->setVisible(!m_peer.isContact || !isPresent(m_peer.presence));
+}
+
+void PeerHeader::setAvatar(const std::optional<QByteArray> &picture)
+{
+    m_picture.avatar = picture ? avatarImage(*picture) : QImage();
+    m_face->update();
+}
+
+} // namespace nimb

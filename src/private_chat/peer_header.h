@@ -1,0 +1,43 @@
+// The head of a private window: who is talked to, and whether what is written arrives.
+#pragma once
+
+#include "private_chat/private_chat_view.h"
+#include "widgets/peer_picture.h"
+
+#include <QTimer>
+#include <QWidget>
+
+class QLabel;
+
+namespace nimb
+{
+
+class ElidedLabel;
+
+/// Names that are shown are plain text.
+class PeerHeader : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PeerHeader(QWidget *parent);
+
+    void setPeer(const PeerShown &peer);
+    void setAvatar(const std::optional<QByteArray> &picture);
+    const PeerPicture &picture() const { return m_picture; }
+
+private:
+    QWidget *makeHead();
+    QWidget *makeBand();
+    void showBand();
+
+    PeerShown m_peer;
+    PeerPicture m_picture{.name = {}, .ground = QPalette::Window};
+    QWidget *m_face = nullptr;
+    ElidedLabel *peerName = nullptr;
+    ElidedLabel *peerDetails = nullptr;
+    QLabel *peerBand = nullptr;
+    QTimer m_uncertain; ///< every announcement makes a peer unknown until it has answered
+};
+
+} // namespace nimb

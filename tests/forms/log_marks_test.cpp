@@ -1,0 +1,356 @@
+// What is painted beside the lines of a log and above them, and how one finds his way in it.
+#include "log/find_bar.h"
+#include "log/rich_text_log.h"
+#include "widgets/muted_colour.h"
+
+#include <gmock/gmock.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTest>
+#include <QToolButton>
+
+#include <set>
+
+namespace nimb
+{
+namespace
+{
+
+const QDateTime saturday(QDate(2026, 11, 21), QTime(20, 58, 10));
+
+class LogMarksTest : public testing::Test
+{
+protected:
+    LogMarksTest()
+    {
+        log.resize(400, 300);
+        log.show();
+        QCoreApplication::processEvents();
+    }
+    void write(const LogMessage &message, const QString &text)
+    {
+        log.setSelMessage(message);
+        log.setSelBold(true);
+        appendText(log, message.writer + QStringLiteral("> "), 0xC00000);
+        log.setSelBold(false);
+        log.setSelContinues(true);
+        appendText(log, text, 0xC00000);
+        log.setSelContinues(false);
+        appendText(log, QStringLiteral("\r\n"), 0xC00000);
+        log.setSelMessage({});
+        log.writeGathered();
+        QCoreApplication::processEvents();
+    }
+    void ann(const QString &text, const QDateTime &time = saturday) { write({.writer = ann_, .time = time}, text); }
+    void me(const QString &text, bool arrives = true)
+    {
+        write({.writer = QStringLiteral("Me"), .time = saturday, .isOwn = true, .arrives = arrives}, text);
+    }
+    void lines(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            appendText(log, QStringLiteral("line %1\r\n").arg(i), 0);
+        log.writeGathered();
+        QCoreApplication::processEvents();
+    }
+    QRectF placeOf(int line) const
+    {
+        const QTextBlock block = log.document()->findBlockByNumber(line);
+        return log.document()->documentLayout()->blockBoundingRect(block).translated(0,
+                                                                                     -log.verticalScrollBar()->value());
+    }
+    double roomAbove(int line) const { return log.document()->findBlockByNumber(line).blockFormat().topMargin(); }
+    QImage picture() { return log.viewport()->grab().toImage(); }
+    /// Of a strip at the right side, as high as a line.
+    QImage marginOf(int line)
+    {
+        const QRect place = placeOf(line).toAlignedRect();
+        return picture().copy(log.viewport()->width() - 60, place.top() + 1, 60, log.fontMetrics().height() - 2);
+    }
+    static bool isBlank(const QImage &image)
+    {
+        std::set<QRgb> colours;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                colours.insert(image.pixel(x, y));
+        }
+        return colours.size() == 1;
+    }
+
+    const QString ann_ = QStringLiteral("Ann");
+    RichTextLogEdit log;
+};
+
+TEST_F(LogMarksTest, NothingThatIsPaintedStandsInTheText)
+{
+    ann(QStringLiteral("Hello"));
+    me(QStringLiteral("Hi"), false);
+    log.markNew();
+    ann(QStringLiteral("Plan"), saturday.addDays(1));
+    EXPECT_EQ(log.toPlainText(), QStringLiteral("Ann> Hello\nMe> Hi\nAnn> Plan\n"));
+}
+
+TEST_F(LogMarksTest, TheTimeStandsBesideTheFirstLineOfAMinute)
+{
+    ann(QStringLiteral("Hello"));
+    ann(QStringLiteral("again"), saturday.addSecs(20));
+    ann(QStringLiteral("a minute later"), saturday.addSecs(60));
+    EXPECT_FALSE(isBlank(marginOf(0)));
+    EXPECT_TRUE(isBlank(marginOf(1)));
+    EXPECT_FALSE(isBlank(marginOf(2)));
+}
+
+TEST_F(LogMarksTest, NoTextRunsUnderTheTimes)
+{
+    ann(QString(500, u'x'), saturday);
+    ann(QString(500, u'x'), saturday);
+    EXPECT_TRUE(isBlank(marginOf(1)));
+}
+
+TEST_F(LogMarksTest, ADayStandsWhereTheDateChanges)
+{
+    ann(QStringLiteral("Hello"));
+    ann(QStringLiteral("again"));
+    ann(QStringLiteral("tomorrow"), saturday.addDays(1));
+    EXPECT_GT(roomAbove(0), log.fontMetrics().height());
+    EXPECT_LT(roomAbove(1), log.fontMetrics().height());
+    EXPECT_GT(roomAbove(2), log.fontMetrics().height());
+    const QRect above(0, qRound(placeOf(2).top() - roomAbove(2)) + 2, log.viewport()->width(), 12);
+    EXPECT_FALSE(isBlank(picture().copy(above)));
+}
+
+TEST_F(LogMarksTest, LinesOfOneWriterStandCloserThanThoseOfTwo)
+{
+    ann(QStringLiteral("one"));
+    ann(QStringLiteral("two"));
+    me(QStringLiteral("three"));
+    EXPECT_EQ(roomAbove(1), 2);
+    EXPECT_EQ(roomAbove(2), 6);
+}
+
+TEST_F(LogMarksTest, OwnMessagesHaveAGroundOfTheirOwn)
+{
+    ann(QStringLiteral("Hello"));
+    me(QStringLiteral("Hi\r\nand more"));
+    const auto groundOf = [this](int line) {
+        return picture().pixelColor(2, qRound(placeOf(line).top()) + log.fontMetrics().height() / 2).rgb();
+    };
+    EXPECT_EQ(groundOf(0), log.palette().color(QPalette::Base).rgb());
+    EXPECT_EQ(groundOf(1), tintedGround(log.palette()).rgb());
+    EXPECT_EQ(groundOf(2), tintedGround(log.palette()).rgb());
+}
+
+TEST_F(LogMarksTest, WhatHasNotArrivedBearsAMark)
+{
+    me(QStringLiteral("first"));
+    me(QStringLiteral("arrives"));
+    me(QStringLiteral("does not"), false);
+    EXPECT_TRUE(isBlank(marginOf(1)));
+    EXPECT_FALSE(isBlank(marginOf(2)));
+}
+
+TEST_F(LogMarksTest, TheNameOfTheWriterIsBold)
+{
+    ann(QStringLiteral("Hello"));
+    auto fragment = log.document()->firstBlock().begin();
+    EXPECT_EQ(fragment.fragment().text(), QStringLiteral("Ann> "));
+    EXPECT_EQ(fragment.fragment().charFormat().fontWeight(), QFont::Bold);
+    ++fragment;
+    EXPECT_EQ(fragment.fragment().text(), QStringLiteral("Hello"));
+    EXPECT_NE(fragment.fragment().charFormat().fontWeight(), QFont::Bold);
+}
+
+TEST_F(LogMarksTest, TheMarkOfWhatIsNewStaysWithItsLine)
+{
+    ann(QStringLiteral("Hello"));
+    log.markNew();
+    ann(QStringLiteral("new"));
+    EXPECT_GT(roomAbove(1), log.fontMetrics().height());
+    log.unmarkNew();
+    EXPECT_EQ(roomAbove(1), 2);
+}
+
+TEST_F(LogMarksTest, LargerLettersGetMoreRoomForTheirMarks)
+{
+    ann(QStringLiteral("Hello"));
+    const double room = roomAbove(0);
+    log.zoom(10);
+    EXPECT_GT(roomAbove(0), room + 5);
+}
+
+TEST_F(LogMarksTest, AnEmptiedLogBeginsWithTheDayAnew)
+{
+    ann(QStringLiteral("Hello"));
+    log.clear();
+    ann(QStringLiteral("Hello"));
+    EXPECT_GT(roomAbove(0), log.fontMetrics().height());
+    EXPECT_FALSE(isBlank(marginOf(0)));
+}
+
+/// Of the text that was written in this colour, as it is seen.
+double contrastSeen(RichTextLogEdit &log, Colour colour)
+{
+    log.clear();
+    appendText(log, QString(30, QChar(0x2588)), colour); // full blocks
+    log.writeGathered();
+    QCoreApplication::processEvents();
+    const QImage image = log.viewport()->grab().toImage();
+    const QColor ground = log.palette().color(QPalette::Base);
+    double most = 1;
+    for (int y = 0; y < 20; ++y) {
+        for (int x = 10; x < 100; ++x)
+            most = qMax(most, contrast(image.pixelColor(x, y), ground));
+    }
+    return most;
+}
+
+TEST_F(LogMarksTest, EveryColourOfALogCanBeReadOnEveryGround)
+{
+    constexpr Colour all[] = {colours::banner,          colours::presence, colours::stateChange,
+                              colours::unknownDatagram, colours::fault,    colours::receivedMessage};
+    for (const auto &[ground, text] : {std::pair(QColor(Qt::white), QColor(Qt::black)),
+                                       std::pair(QColor(0x15, 0x18, 0x1B), QColor(0xE6, 0xE9, 0xEC)),
+                                       std::pair(QColor(Qt::black), QColor(Qt::yellow))}) {
+        QPalette palette;
+        palette.setColor(QPalette::Base, ground);
+        palette.setColor(QPalette::Text, text);
+        log.setPalette(palette);
+        for (const Colour colour : all)
+            EXPECT_GE(contrastSeen(log, colour), 4.5) << std::hex << colour << " on " << ground.name().toStdString();
+    }
+}
+
+TEST_F(LogMarksTest, TheDocumentKeepsTheColoursThatWereAskedFor)
+{
+    QPalette light;
+    light.setColor(QPalette::Base, Qt::white);
+    log.setPalette(light);
+    appendText(log, QStringLiteral("grey"), 0xA0A0A0);
+    log.writeGathered();
+    EXPECT_EQ(log.document()->firstBlock().begin().fragment().charFormat().foreground().color(), QColor(160, 160, 160));
+}
+
+TEST_F(LogMarksTest, ARoundButtonCountsWhatComesBelowAndLeadsThere)
+{
+    auto &button = *log.findChild<QToolButton *>(QStringLiteral("newLinesBtn"));
+    lines(100);
+    log.verticalScrollBar()->setValue(20);
+    EXPECT_FALSE(button.isVisible());
+    lines(3);
+    EXPECT_TRUE(button.isVisible());
+    EXPECT_EQ(button.text(), QStringLiteral("3"));
+    lines(2);
+    EXPECT_EQ(button.text(), QStringLiteral("5"));
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(log.verticalScrollBar()->value(), log.verticalScrollBar()->maximum());
+    EXPECT_FALSE(button.isVisible());
+}
+
+TEST_F(LogMarksTest, TheButtonGoesWhenTheReaderComesToTheEnd)
+{
+    lines(100);
+    log.verticalScrollBar()->setValue(20);
+    lines(1);
+    log.verticalScrollBar()->setValue(log.verticalScrollBar()->maximum());
+    EXPECT_FALSE(log.findChild<QToolButton *>(QStringLiteral("newLinesBtn"))->isVisible());
+}
+
+class FindBarTest : public LogMarksTest
+{
+protected:
+    FindBarTest()
+    {
+        for (const char *const line : {"The key is at the desk", "Which KEY?", "the key", "nothing"})
+            appendText(log, QString::fromLatin1(line) + QStringLiteral("\r\n"), 0);
+        log.writeGathered();
+        log.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&log));
+        log.setFocus();
+        QTest::keyClick(&log, Qt::Key_F, Qt::ControlModifier);
+    }
+    template <class T> T &child(const char *name) { return *log.findChild<T *>(QLatin1String(name)); }
+    QWidget &bar() { return child<QWidget>("findBar"); }
+    QLineEdit &text() { return child<QLineEdit>("findText"); }
+    QString count() { return child<QLabel>("findCount").text(); }
+    int foundAt() { return log.textCursor().selectionStart(); }
+};
+
+TEST_F(FindBarTest, ComesWithCtrlFAndGoesWithEscape)
+{
+    EXPECT_TRUE(bar().isVisible());
+    EXPECT_TRUE(text().hasFocus());
+    QTest::keyClick(&text(), Qt::Key_Escape);
+    EXPECT_FALSE(bar().isVisible());
+    EXPECT_TRUE(log.hasFocus());
+}
+
+TEST_F(FindBarTest, CoversNoLineOfTheLog)
+{
+    EXPECT_LE(bar().geometry().bottom(), log.viewport()->geometry().top());
+}
+
+TEST_F(FindBarTest, FindsTheNewestFirstAndCounts)
+{
+    QTest::keyClicks(&text(), QStringLiteral("key"));
+    EXPECT_EQ(count(), QStringLiteral("3 of 3"));
+    EXPECT_EQ(foundAt(), log.toPlainText().lastIndexOf(QStringLiteral("key")));
+    EXPECT_EQ(log.textCursor().selectedText(), QStringLiteral("key"));
+    QTest::keyClick(&text(), Qt::Key_Return);
+    EXPECT_EQ(count(), QStringLiteral("2 of 3"));
+    EXPECT_EQ(log.textCursor().selectedText(), QStringLiteral("KEY"));
+    QTest::keyClick(&text(), Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(count(), QStringLiteral("3 of 3"));
+}
+
+TEST_F(FindBarTest, GoesAroundTheEnds)
+{
+    QTest::keyClicks(&text(), QStringLiteral("key"));
+    QTest::mouseClick(&child<QToolButton>("findNext"), Qt::LeftButton);
+    EXPECT_EQ(count(), QStringLiteral("1 of 3"));
+    QTest::mouseClick(&child<QToolButton>("findPrevious"), Qt::LeftButton);
+    EXPECT_EQ(count(), QStringLiteral("3 of 3"));
+}
+
+TEST_F(FindBarTest, MatchesTheCaseWhenAsked)
+{
+    QTest::keyClicks(&text(), QStringLiteral("key"));
+    child<QToolButton>("findCase").click();
+    EXPECT_EQ(count(), QStringLiteral("2 of 2"));
+}
+
+TEST_F(FindBarTest, SaysWhenThereIsNothing)
+{
+    QTest::keyClicks(&text(), QStringLiteral("keys"));
+    EXPECT_EQ(count(), QStringLiteral("Not found"));
+    EXPECT_FALSE(child<QToolButton>("findNext").isEnabled());
+}
+
+TEST_F(FindBarTest, LooksAgainInATextThatHasGrown)
+{
+    QTest::keyClicks(&text(), QStringLiteral("key"));
+    lines(1);
+    appendText(log, QStringLiteral("a fourth key\r\n"), 0);
+    log.writeGathered();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return count() == QStringLiteral("3 of 4"); }));
+    QTest::keyClick(&text(), Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(count(), QStringLiteral("4 of 4"));
+}
+
+TEST_F(FindBarTest, MarksEveryPlaceThatItFinds)
+{
+    const QImage before = picture();
+    QTest::keyClicks(&text(), QStringLiteral("desk"));
+    log.setTextCursor(QTextCursor(log.document()));
+    EXPECT_NE(picture(), before);
+}
+
+TEST_F(FindBarTest, AWordThatGoesAcrossLinesIsNone)
+{
+    QTest::keyClicks(&text(), QStringLiteral("deskWhich"));
+    EXPECT_EQ(count(), QStringLiteral("Not found"));
+}
+
+} // namespace
+} // namespace nimb
