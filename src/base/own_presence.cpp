@@ -28,6 +28,8 @@ Expression expressionOf(BaseState state)
     return {QLatin1String("Invisible"), QLatin1String("Invisible"), Picture::invisible};
 }
 
+const QLatin1String beforeOwnWords(" - ");
+
 } // namespace
 
 QLatin1String stateWord(BaseState state)
@@ -66,7 +68,19 @@ Presence presenceOfStateWord(const QString &word)
 
 QString withOwnWords(const QString &state, const QString &words)
 {
-    return state + QLatin1String(" - ") + words;
+    return state + beforeOwnWords + words;
+}
+
+QString ownWordsOf(const QString &state)
+{
+    for (const BaseState base : {BaseState::online, BaseState::busy, BaseState::away, BaseState::invisible}) {
+        const QLatin1String word = stateWord(base);
+        if (state.compare(word, Qt::CaseInsensitive) == 0)
+            return {};
+        if (state.startsWith(word + beforeOwnWords, Qt::CaseInsensitive))
+            return state.mid(word.size() + beforeOwnWords.size());
+    }
+    return state;
 }
 
 } // namespace nimb

@@ -43,5 +43,8 @@ Presence presenceOfStateWord(const QString &word);
 
 /// "BUSY - In a meeting".
 QString withOwnWords(const QString &state, const QString &words);
+/// What such a state says beyond the presence: "In a meeting", nothing for "BUSY" alone, and all of a state that begins
+/// with no known word.
+QString ownWordsOf(const QString &state);
 
 } // namespace nimb

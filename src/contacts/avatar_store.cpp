@@ -55,6 +55,7 @@ bool AvatarStore::setBody(Ipv4Address ip, const std::string &body)
         m_picturesOfStrangers.insert(ip);
     }
     entry(ip).body = isPicture ? QByteArray::fromStdString(body) : QByteArray();
+    m_contacts.showAnew(ip);
     return true;
 }
 
@@ -63,6 +64,7 @@ void AvatarStore::clear(Ipv4Address ip)
     if (m_avatars.contains(ip))
         m_avatars[ip] = {};
     m_picturesOfStrangers.remove(ip);
+    m_contacts.showAnew(ip);
 }
 
 } // namespace nimb

@@ -10,8 +10,8 @@
 namespace nimb
 {
 
-/// Numbered from 1 and only growing; a contact's row holds the number of its avatar once one is known. What is kept of
-/// a contact goes with its row.
+/// Numbered from 1 and only growing; a contact's row holds the number of its avatar once one is known, and changes with
+/// the picture. What is kept of a contact goes with its row.
 class AvatarStore
 {
 public:

@@ -2,6 +2,7 @@
 
 #include "base/limits.h"
 #include "base/look_alike.h"
+#include "base/own_presence.h"
 #include "base/remote_text.h"
 #include "base/shown_name.h"
 
@@ -53,6 +54,29 @@ void emptyRest(SettingsStore &store, int end)
         if (!ip && !nickname && !workstation)
             return;
     }
+}
+
+QString presenceWord(Presence presence)
+{
+    switch (presence) {
+    case Presence::online:
+        return ContactList::tr("online");
+    case Presence::busy:
+        return ContactList::tr("busy");
+    case Presence::away:
+        return ContactList::tr("away");
+    case Presence::offline:
+        return ContactList::tr("offline");
+    case Presence::unknown:
+        break;
+    }
+    return ContactList::tr("not yet known");
+}
+
+/// Whoever is offline does nothing else, whatever was heard last.
+QString wordsOf(const Contact &contact)
+{
+    return contact.presence == Presence::offline ? presenceWord(contact.presence) : ownWordsOf(contact.state);
 }
 
 } // namespace
@@ -183,6 +207,12 @@ void ContactList::rowChanged(const Row &row)
 {
     const int now = position(row);
     Q_EMIT dataChanged(index(now, 0), index(now, ColumnCount - 1));
+}
+
+void ContactList::showAnew(const ContactAddress &ip)
+{
+    if (const Row *const row = m_byAddress.value(ip))
+        rowChanged(*row);
 }
 
 void ContactList::joinLookAlikes(Row &row)
@@ -325,6 +355,19 @@ int ContactList::columnCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : ColumnCount;
 }
 
+QString ContactList::readOut(const Row &row) const
+{
+    const Contact &contact = row.contact;
+    const QString name
+        = sharesName(row) ? QStringLiteral("%1 (%2)").arg(contact.nickname, contact.ip.text()) : contact.nickname;
+    QStringList parts{name, presenceWord(contact.presence)};
+    if (const QString words = wordsOf(contact); !words.isEmpty() && contact.presence != Presence::offline)
+        parts.append(words);
+    if (contact.unread() > 0)
+        parts.append(tr("%1 unread").arg(contact.unread()));
+    return parts.join(QLatin1String(", "));
+}
+
 QVariant ContactList::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
@@ -339,8 +382,12 @@ QVariant ContactList::data(const QModelIndex &index, int role) const
         return contact.lastMessage;
     if (role == HiddenRole)
         return contact.shownBy.has_value();
-    if (role == Qt::AccessibleTextRole && index.column() == Nickname && sharesName(row))
-        return QStringLiteral("%1 (%2)").arg(contact.nickname, contact.ip.text());
+    if (role == PresenceRole)
+        return static_cast<int>(contact.presence);
+    if (role == WordsRole)
+        return wordsOf(contact);
+    if (role == Qt::AccessibleTextRole && index.column() == Nickname)
+        return readOut(row);
     if (role == KeyRole)
         return QString(QLatin1String("IP") + contact.ip.text());
     if (role == TagRole)

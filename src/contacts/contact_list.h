@@ -72,8 +72,19 @@ class ContactList : public QAbstractTableModel, public Senders
 public:
     enum Column { Nickname, Workstation, IpAddress, State, PrivateWin, AvatarNum, StateText, ColumnCount };
     /// UnreadRole: how many messages nobody has seen. SharesNameRole: another contact has a name that looks like this
-    /// one's. LastMessageRole: when the last message came. HiddenRole: another row stands for this one.
-    enum Role { KeyRole = Qt::UserRole, TagRole, PictureRole, UnreadRole, SharesNameRole, LastMessageRole, HiddenRole };
+    /// one's. LastMessageRole: when the last message came. HiddenRole: another row stands for this one. PresenceRole: a
+    /// Presence, as int. WordsRole: what is said about the contact beside its presence, or "offline".
+    enum Role {
+        KeyRole = Qt::UserRole,
+        TagRole,
+        PictureRole,
+        UnreadRole,
+        SharesNameRole,
+        LastMessageRole,
+        HiddenRole,
+        PresenceRole,
+        WordsRole,
+    };
 
     using QAbstractTableModel::QAbstractTableModel;
     ~ContactList() override;
@@ -95,6 +106,8 @@ public:
     /// touch the address. False when there is no such contact.
     bool change(const ContactAddress &ip, const std::function<void(Contact &)> &edit);
     bool remove(const ContactAddress &ip);
+    /// Something that is shown in the contact's row, and kept elsewhere, has changed.
+    void showAnew(const ContactAddress &ip);
 
     /// The contact that makes room first when strangers have filled the list: of those whom peers have brought in this
     /// run and to whom nobody ever spoke, one who is offline; else one who has never answered, and may be a forged
@@ -136,6 +149,8 @@ private:
     void leaveLookAlikes(Row &row);
     bool sharesName(const Row &row) const { return m_lookAlikes.value(row.look).size() > 1; }
     void rowChanged(const Row &row);
+    /// "Ann, away, Back at five, 2 unread".
+    QString readOut(const Row &row) const;
     static std::optional<PlaceToGo> placeToGo(const Row &row);
     void noteWhetherItMakesRoom(Row &row);
     void tellWhetherAcquainted(Row &row, bool acquainted);

@@ -65,5 +65,17 @@ TEST(StateWord, IsFollowedByTheOwnWords)
               QStringLiteral("BUSY - In a meeting"));
 }
 
+TEST(StateWord, LeavesTheOwnWordsBehindIt)
+{
+    const auto words = [](const char *state) { return ownWordsOf(QLatin1String(state)); };
+    EXPECT_EQ(words("BUSY - In a meeting"), QStringLiteral("In a meeting"));
+    EXPECT_EQ(words("Away - Lunch - till two"), QStringLiteral("Lunch - till two"));
+    EXPECT_EQ(words("Online - here"), QStringLiteral("here"));
+    for (const char *plain : {"", "ONLINE", "Online", "BUSY", "away", "Invisible"})
+        EXPECT_EQ(words(plain), QString()) << plain;
+    for (const char *unknown : {"Phoning", "BUSYBODY", "Phoning - a client"})
+        EXPECT_EQ(words(unknown), QLatin1String(unknown));
+}
+
 } // namespace
 } // namespace nimb

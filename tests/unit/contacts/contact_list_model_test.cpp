@@ -94,8 +94,60 @@ TEST_F(NamesInTheList, ThatLookAlikeAreMarkedWithWhomeverTheyLookLike)
     EXPECT_FALSE(shares("10.0.0.4"));
     EXPECT_EQ(changes[QStringLiteral("10.0.0.2")], 1) << "it is painted anew";
     EXPECT_EQ(of("10.0.0.2", Qt::DisplayRole).toString(), QStringLiteral("Ann"));
-    EXPECT_EQ(of("10.0.0.2", Qt::AccessibleTextRole).toString(), QStringLiteral("Ann (10.0.0.2)"));
-    EXPECT_EQ(of("10.0.0.4", Qt::AccessibleTextRole).toString(), QString());
+    EXPECT_EQ(of("10.0.0.2", Qt::AccessibleTextRole).toString(), QStringLiteral("Ann (10.0.0.2), online"));
+    EXPECT_EQ(of("10.0.0.4", Qt::AccessibleTextRole).toString(), QStringLiteral("Ben, online"));
+}
+
+/// What a screen reader reads of a row, and what stands beside its name.
+class RowInTheList : public testing::Test
+{
+protected:
+    RowInTheList()
+    {
+        Contact contact;
+        contact.ip = ip;
+        contact.nickname = QStringLiteral("Ann");
+        list.add(contact);
+    }
+    void set(Presence presence, const char *state, int unread = 0)
+    {
+        list.change(ip, [&](Contact &contact) {
+            contact.setPresence(presence);
+            contact.state = QLatin1String(state);
+            contact.unreadInWindow = unread;
+        });
+    }
+    QString text(int role) { return list.index(0, ContactList::Nickname).data(role).toString(); }
+    QString readOut() { return text(Qt::AccessibleTextRole); }
+    QString words() { return text(ContactList::WordsRole); }
+
+    const ContactAddress ip = QStringLiteral("10.0.0.2");
+    ContactList list;
+};
+
+TEST_F(RowInTheList, IsReadAsNamePresenceStateAndWhatIsUnread)
+{
+    EXPECT_EQ(readOut(), QStringLiteral("Ann, not yet known"));
+    set(Presence::away, "AWAY - Back at five", 2);
+    EXPECT_EQ(readOut(), QStringLiteral("Ann, away, Back at five, 2 unread"));
+    set(Presence::busy, "BUSY");
+    EXPECT_EQ(readOut(), QStringLiteral("Ann, busy"));
+    set(Presence::online, "Phoning", 1);
+    EXPECT_EQ(readOut(), QStringLiteral("Ann, online, Phoning, 1 unread"));
+    set(Presence::offline, "");
+    EXPECT_EQ(readOut(), QStringLiteral("Ann, offline"));
+}
+
+TEST_F(RowInTheList, SaysBesideTheNameWhatThePictureDoesNot)
+{
+    set(Presence::away, "AWAY - Back at five");
+    EXPECT_EQ(words(), QStringLiteral("Back at five"));
+    EXPECT_EQ(list.index(0, ContactList::StateText).data().toString(), QStringLiteral("AWAY - Back at five"));
+    set(Presence::online, "ONLINE");
+    EXPECT_EQ(words(), QString());
+    set(Presence::offline, "BUSY - In a meeting");
+    EXPECT_EQ(words(), QStringLiteral("offline"));
+    EXPECT_EQ(list.index(0, ContactList::StateText).data().toString(), QStringLiteral("BUSY - In a meeting"));
 }
 
 TEST_F(NamesInTheList, AreNotMarkedAnyMoreWhenTheOtherHasGoneOrIsCalledOtherwise)
