@@ -57,8 +57,8 @@ void FormOpener::connectMain(Messenger &engine, std::function<QString()> statusN
 {
     m_dialogs.emplace(m_services, engine, *m_main);
     m_invitations = std::make_unique<frmConfInvitations>(engine.invitations());
-    m_main->connectControls({engine.mainWindow(), engine.contacts(), engine.contactCommands(), engine.ownState(),
-                             engine.announcement(), engine.log(), m_services.common, *m_dialogs,
+    m_main->connectControls({engine.mainWindow(), engine.contacts(), engine.avatars(), engine.contactCommands(),
+                             engine.ownState(), engine.announcement(), engine.log(), m_services.common, *m_dialogs,
                              std::move(statusNotes)},
                             std::move(ended));
 }

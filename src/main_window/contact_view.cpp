@@ -1,10 +1,12 @@
 #include "main_window/contact_view.h"
 
-#include "base/clock_text.h"
 #include "base/remote_text.h"
 #include "contacts/contact_list.h"
-#include "widgets/muted_colour.h"
-#include "widgets/picture_delegate.h"
+#include "main_window/accessible_contacts.h"
+#include "main_window/contact_delegate.h"
+#include "main_window/contact_filter.h"
+#include "widgets/elided_label.h"
+#include "widgets/form_layout.h"
 #include "widgets/pictures.h"
 
 #include <QContextMenuEvent>
@@ -13,6 +15,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -23,142 +26,14 @@ namespace nimb
 namespace
 {
 
-class ContactDelegate : public PictureDelegate
+/// The rows come in their order.
+void addRow(QItemSelection &rows, const QModelIndex &row)
 {
-public:
-    using PictureDelegate::PictureDelegate;
-
-    /// A nickname without a state beside it takes the state's room too.
-    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        if (index.column() == ContactList::StateText && !hasState(index))
-            return;
-        QStyleOptionViewItem placed = option;
-        const auto *const view = qobject_cast<const QTreeView *>(option.widget);
-        if (view && index.column() == ContactList::Nickname && !hasState(index))
-            placed.rect.setWidth(placed.rect.width() + view->columnWidth(ContactList::StateText));
-        PictureDelegate::paint(painter, placed, index);
-        if (isLastSeen(placed, index))
-            paintRightSide(*painter, placed, index);
-    }
-
-protected:
-    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
-    {
-        PictureDelegate::initStyleOption(option, index);
-        option->text = paintedName(option->text);
-        option->textElideMode = Qt::ElideRight;
-        if (index.column() != ContactList::Nickname)
-            option->palette.setColor(QPalette::Text, mutedTextColour(option->palette));
-        if (index.column() == ContactList::Nickname && index.data(ContactList::UnreadRole).toInt() > 0) {
-            option->font.setBold(true);
-            option->fontMetrics = QFontMetrics(option->font);
-        }
-        if (index.column() == ContactList::IpAddress)
-            shrinkToFit(*option);
-        const int taken = rightSideWidth(*option, index);
-        if (taken > 0) {
-            const int picture = index.column() == ContactList::Nickname ? pictureSide + gap : 0;
-            const int room = option->rect.width() - picture - 2 * gap - taken;
-            option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight, qMax(room, 2 * gap));
-        }
-    }
-
-private:
-    static constexpr int gap = 6;
-
-    static bool hasState(const QModelIndex &index)
-    {
-        return !index.siblingAtColumn(ContactList::StateText).data().toString().isEmpty();
-    }
-
-    /// What stands at the right side of a row takes its room from the state where there is one: the name matters more.
-    static bool isLastSeen(const QStyleOptionViewItem &option, const QModelIndex &index)
-    {
-        const auto *const view = qobject_cast<const QTreeView *>(option.widget);
-        const bool stateIsSeen = view && hasState(index) && !view->isColumnHidden(ContactList::StateText);
-        return view && index.column() == (stateIsSeen ? ContactList::StateText : ContactList::Nickname);
-    }
-
-    /// Names that look alike are told apart by what cannot be chosen, unless it stands in a column of its own.
-    static QString address(const QStyleOptionViewItem &option, const QModelIndex &index)
-    {
-        const auto *const view = qobject_cast<const QTreeView *>(option.widget);
-        const bool isShown = isLastSeen(option, index) && view->isColumnHidden(ContactList::IpAddress)
-            && index.data(ContactList::SharesNameRole).toBool();
-        return isShown ? paintedName(index.data(ContactList::TagRole).toString()) : QString();
-    }
-    /// How many messages nobody has seen, empty for none.
-    static QString unread(const QStyleOptionViewItem &option, const QModelIndex &index)
-    {
-        const int number = isLastSeen(option, index) ? index.data(ContactList::UnreadRole).toInt() : 0;
-        return number > 0 ? QString::number(number) : QString();
-    }
-    /// When the last of them came.
-    static QString unreadSince(const QStyleOptionViewItem &option, const QModelIndex &index)
-    {
-        return unread(option, index).isEmpty() ? QString()
-                                               : shortTime(index.data(ContactList::LastMessageRole).toDateTime());
-    }
-    /// What stands before the number: the address, and the time.
-    static QString muted(const QStyleOptionViewItem &option, const QModelIndex &index)
-    {
-        QStringList words{address(option, index), unreadSince(option, index)};
-        words.removeAll(QString());
-        return words.join(QLatin1Char(' '));
-    }
-    static int badgeWidth(const QStyleOptionViewItem &option, const QString &number)
-    {
-        return qMax(option.fontMetrics.height(), option.fontMetrics.horizontalAdvance(number) + 2 * gap);
-    }
-    static int rightSideWidth(const QStyleOptionViewItem &option, const QModelIndex &index)
-    {
-        const QString shown = muted(option, index), number = unread(option, index);
-        return (shown.isEmpty() ? 0 : option.fontMetrics.horizontalAdvance(shown) + gap)
-            + (number.isEmpty() ? 0 : badgeWidth(option, number) + gap);
-    }
-
-    /// The address and the time, and behind them how many messages nobody has seen.
-    static void paintRightSide(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index)
-    {
-        const QString shown = muted(option, index), number = unread(option, index);
-        if (shown.isEmpty() && number.isEmpty())
-            return;
-        const bool selected = option.state.testFlag(QStyle::State_Selected);
-        QRect room = option.rect.adjusted(0, 0, -gap, 0);
-        painter.save();
-        painter.setFont(option.font);
-        if (!number.isEmpty()) {
-            QRect badge(0, 0, badgeWidth(option, number), option.fontMetrics.height());
-            badge.moveCenter(room.center());
-            badge.moveRight(room.right());
-            painter.setRenderHint(QPainter::Antialiasing);
-            painter.setPen(Qt::NoPen);
-            painter.setBrush(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Highlight));
-            painter.drawRoundedRect(badge, badge.height() / 2.0, badge.height() / 2.0);
-            painter.setPen(option.palette.color(selected ? QPalette::Highlight : QPalette::HighlightedText));
-            painter.drawText(badge, Qt::AlignCenter, number);
-            room.setRight(badge.left() - gap);
-        }
-        painter.setPen(selected ? option.palette.color(QPalette::HighlightedText) : mutedTextColour(option.palette));
-        painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, shown);
-        painter.restore();
-    }
-
-    /// The column of addresses has a fixed width, too narrow for long ones in many fonts; an address with an ellipsis
-    /// would be of no use.
-    static void shrinkToFit(QStyleOptionViewItem &option)
-    {
-        constexpr double smallest = 0.75;
-        constexpr int margins = 8;
-        const double room = option.rect.width() - margins;
-        const double share = room / qMax(1, QFontMetrics(option.font).horizontalAdvance(option.text));
-        if (share >= 1 || room <= 0)
-            return;
-        option.font.setPointSizeF(option.font.pointSizeF() * qMax(smallest, share));
-        option.fontMetrics = QFontMetrics(option.font);
-    }
-};
+    if (!rows.isEmpty() && rows.back().bottom() + 1 == row.row())
+        rows.back() = QItemSelectionRange(rows.back().topLeft(), row);
+    else
+        rows.append(QItemSelectionRange(row));
+}
 
 } // namespace
 
@@ -203,14 +78,17 @@ void RoomyHeader::paintEvent(QPaintEvent *)
 }
 
 ContactView::ContactView(QWidget *parent)
-    : QTreeView(parent), m_header(new RoomyHeader(this)), m_scrollBarRoom(new QWidget(this)),
-      m_invitation(new QWidget(viewport()))
+    : QTreeView(parent), m_delegate(new ContactDelegate(*this)), m_header(new RoomyHeader(this)),
+      m_scrollBarRoom(new QWidget(this)), m_invitation(new QWidget(viewport())),
+      m_filter(new ContactFilter(parent ? parent : this)), m_nobody(new ElidedLabel(viewport()))
 {
+    QAccessible::installFactory(AccessibleContacts::make); // again and again, which Qt ignores
     buildInvitation();
+    buildFilter();
     setHeader(m_header);
     m_header->setStretchLastSection(false);
     addScrollBarWidget(m_scrollBarRoom, Qt::AlignTop);
-    setItemDelegate(new ContactDelegate(this));
+    setItemDelegate(m_delegate);
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setUniformRowHeights(true);
@@ -224,8 +102,14 @@ ContactView::ContactView(QWidget *parent)
 
 void ContactView::setRoomAbove(int room)
 {
-    m_header->setRoom(room);
-    m_scrollBarRoom->setFixedHeight(room);
+    m_room = room;
+    placeFilter();
+}
+
+void ContactView::setAvatars(const AvatarStore &avatars)
+{
+    m_delegate->setAvatars(avatars);
+    viewport()->update();
 }
 
 void ContactView::setDetailColumns(int workstation, int ipAddress, int stateText)
@@ -300,7 +184,7 @@ void ContactView::mouseDoubleClickEvent(QMouseEvent *event)
     const bool opens = m_pressed == Qt::LeftButton && event->button() == Qt::LeftButton && ip == m_pressedAddress;
     QTreeView::mouseDoubleClickEvent(event);
     if (opens && !ip.isEmpty())
-        Q_EMIT contactOpened(ip);
+        open(ip);
 }
 
 void ContactView::mouseMoveEvent(QMouseEvent *event)
@@ -313,7 +197,13 @@ void ContactView::keyPressEvent(QKeyEvent *event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && !selectedAddress().isEmpty())
-        Q_EMIT contactOpened(selectedAddress());
+        open(selectedAddress());
+    else if (event->key() == Qt::Key_Delete && !(event->modifiers() & ~Qt::KeypadModifier))
+        Q_EMIT removalWanted();
+    else if (event->key() == Qt::Key_Escape && !m_filter->isHidden())
+        endSearch();
+    else if (isTyped(*event))
+        type(*event);
     else
         QTreeView::keyPressEvent(event);
 }
@@ -331,6 +221,18 @@ void ContactView::focusInEvent(QFocusEvent *event)
     QTreeView::focusInEvent(event);
     if (selectionModel() && !selectionModel()->hasSelection() && currentIndex().isValid())
         selectionModel()->select(currentIndex(), QItemSelectionModel::SelectCurrent | QItemSelectionModel::Rows);
+}
+
+void ContactView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    const QScopedValueRollback counting(m_countsCells, true);
+    QTreeView::currentChanged(current, previous);
+}
+
+void ContactView::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
+{
+    const QScopedValueRollback counting(m_countsCells, true);
+    QTreeView::selectionChanged(selected, deselected);
 }
 
 void ContactView::buildInvitation()
@@ -353,9 +255,15 @@ void ContactView::buildInvitation()
 void ContactView::setModel(QAbstractItemModel *model)
 {
     QTreeView::setModel(model);
+    m_hidden = 0;
     placeInvitation();
     if (!model)
         return;
+    connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+            [this](const QModelIndex &, int first, int last) { rowsGo(first, last); });
+    connect(model, &QAbstractItemModel::rowsInserted, this,
+            [this](const QModelIndex &, int first, int last) { hideRows(first, last); });
+    connect(model, &QAbstractItemModel::rowsRemoved, this, &ContactView::placeNobody);
     connect(model, &QAbstractItemModel::rowsInserted, this, &ContactView::placeInvitation);
     connect(model, &QAbstractItemModel::rowsRemoved, this, &ContactView::placeInvitation);
     connect(model, &QAbstractItemModel::modelReset, this, &ContactView::placeInvitation);
@@ -366,18 +274,213 @@ void ContactView::setModel(QAbstractItemModel *model)
 
 void ContactView::hideRows(int first, int last)
 {
+    QItemSelection unseen;
     for (int row = first; row <= last; ++row) {
         const QModelIndex index = model()->index(row, 0);
-        const bool hidden = index.data(ContactList::HiddenRole).toBool();
+        const bool hidden = index.data(ContactList::HiddenRole).toBool() || !isLookedFor(index);
         if (hidden == isRowHidden(row, {}))
             continue;
-        if (hidden) { // what acts on the selection acts on what is seen
-            selectionModel()->select(index, QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
-            if (currentIndex().row() == row)
-                selectionModel()->clearCurrentIndex();
-        }
+        if (hidden && selectionModel()->isRowSelected(row))
+            addRow(unseen, index);
+        if (hidden && currentIndex().row() == row)
+            selectionModel()->clearCurrentIndex();
         setRowHidden(row, {}, hidden);
+        m_hidden += hidden ? 1 : -1;
     }
+    // What acts on the selection acts on what is seen. All at once, for somebody listens to each change.
+    if (!unseen.isEmpty())
+        selectionModel()->select(unseen, QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
+    placeNobody();
+}
+
+void ContactView::rowsGo(int first, int last)
+{
+    for (int row = first; row <= last; ++row)
+        m_hidden -= isRowHidden(row, {}) ? 1 : 0;
+    Q_EMIT rowsAboutToGo(first, last);
+}
+
+int ContactView::shownCount() const
+{
+    return model() ? model()->rowCount() - m_hidden : 0;
+}
+
+/// All rows are of one height, so that where one lies says which one it is.
+QModelIndex ContactView::shownAt(int number) const
+{
+    const QModelIndex first = indexAt({0, -verticalOffset()});
+    if (number <= 0)
+        return number < 0 ? QModelIndex() : first.siblingAtColumn(0);
+    return indexAt({0, number * visualRect(first).height() - verticalOffset()}).siblingAtColumn(0);
+}
+
+int ContactView::numberOf(const QModelIndex &contact) const
+{
+    const QRect place = visualRect(contact);
+    return place.isEmpty() ? -1 : (place.top() + verticalOffset()) / place.height();
+}
+
+QList<QWidget *> ContactView::partsOverRows() const
+{
+    return {m_nobody, m_invitation};
+}
+
+// --- finding contacts
+
+void ContactView::buildFilter()
+{
+    m_filter->hide();
+    connect(m_filter, &ContactFilter::textChanged, this, &ContactView::search);
+    connect(m_filter, &ContactFilter::cancelled, this, &ContactView::endSearch);
+    connect(m_filter, &ContactFilter::leftEmpty, this, &ContactView::endSearch);
+    connect(m_filter, &ContactFilter::listWanted, this, &ContactView::goToFirstFound);
+    connect(m_filter, &ContactFilter::entered, this, &ContactView::openFirstFound);
+    m_nobody->setObjectName(QStringLiteral("nobodyFound"));
+    m_nobody->setAlignment(Qt::AlignCenter);
+    m_nobody->setForegroundRole(QPalette::Text);
+    m_nobody->hide();
+}
+
+QWidget &ContactView::filterBox() const
+{
+    return *m_filter;
+}
+
+void ContactView::find()
+{
+    showFilter();
+    m_filter->setFocus(Qt::ShortcutFocusReason);
+    m_filter->selectAll();
+}
+
+void ContactView::showFilter()
+{
+    if (!m_filter->isHidden())
+        return;
+    m_before = selectedRow() < 0 ? QModelIndex() : model()->index(selectedRow(), 0);
+    m_filter->show();
+    placeFilter();
+}
+
+void ContactView::endSearch()
+{
+    if (m_filter->isHidden())
+        return;
+    const bool hadFocus = m_filter->hasFocus();
+    m_filter->clear();
+    const QModelIndex before = std::exchange(m_before, {});
+    const bool isChosen = selectionModel() && selectionModel()->hasSelection();
+    // Nobody, said outright, or the view would mark its first row when it gets the focus.
+    if (!isChosen)
+        setCurrentIndex(before.isValid() && !isRowHidden(before.row(), {}) ? before : QModelIndex());
+    if (hadFocus)
+        setFocus();
+    m_filter->hide();
+    placeFilter();
+    scrollTo(currentIndex());
+}
+
+/// The rows make room for it, and the controls above stay where they are.
+void ContactView::placeFilter()
+{
+    constexpr int lowest = 26;
+    constexpr int distance = form_layout::spacing / 2;
+    const int height = qMax(lowest, m_filter->sizeHint().height());
+    const QPoint corner = m_filter->parentWidget() == this ? QPoint() : pos();
+    m_filter->setGeometry(corner.x(), corner.y() + m_room + distance, width(), height);
+    const int room = m_room + (m_filter->isHidden() ? 0 : height + 2 * distance);
+    m_header->setRoom(room);
+    m_scrollBarRoom->setFixedHeight(room);
+    updateGeometries();
+}
+
+bool ContactView::isLookedFor(const QModelIndex &contact) const
+{
+    if (m_words.isEmpty())
+        return true;
+    QString all = contact.data(ContactList::WordsRole).toString();
+    for (const int column :
+         {ContactList::Nickname, ContactList::Workstation, ContactList::IpAddress, ContactList::StateText})
+        all += QLatin1Char('\n') + contact.siblingAtColumn(column).data().toString();
+    return std::ranges::all_of(m_words,
+                               [&all](const QString &word) { return all.contains(word, Qt::CaseInsensitive); });
+}
+
+void ContactView::search()
+{
+    m_words = m_filter->words();
+    if (!model())
+        return;
+    hideRows(0, model()->rowCount() - 1);
+    scrollToTop();
+}
+
+QModelIndex ContactView::firstFound() const
+{
+    for (int row = 0; row < model()->rowCount(); ++row) {
+        if (!isRowHidden(row, {}))
+            return model()->index(row, 0);
+    }
+    return {};
+}
+
+void ContactView::goToFirstFound()
+{
+    const QModelIndex found = m_words.isEmpty() && currentIndex().isValid() ? currentIndex() : firstFound();
+    if (!found.isValid())
+        return;
+    setCurrentIndex(found);
+    setFocus();
+}
+
+/// As long as nothing is typed nobody is meant.
+void ContactView::openFirstFound()
+{
+    const QModelIndex found = m_words.isEmpty() ? QModelIndex() : firstFound();
+    if (!found.isValid())
+        return;
+    setCurrentIndex(found);
+    open(found.data(ContactList::TagRole).toString());
+}
+
+/// Whoever has found somebody wants to see the others again later.
+void ContactView::open(const QString &ip)
+{
+    endSearch();
+    Q_EMIT contactOpened(ip);
+}
+
+bool ContactView::isTyped(const QKeyEvent &event) const
+{
+    const bool searching = !m_filter->isHidden();
+    if (event.key() == Qt::Key_Backspace)
+        return searching;
+    const Qt::KeyboardModifiers held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    // Together they are the third level of a keyboard on some systems.
+    const bool isCommand = held && held != (Qt::ControlModifier | Qt::AltModifier);
+    const QString text = event.text();
+    if (isCommand || text.isEmpty() || !text.front().isPrint())
+        return false;
+    return searching || !text.front().isSpace(); // a blank selects the row that is marked
+}
+
+void ContactView::type(QKeyEvent &event)
+{
+    showFilter();
+    m_filter->setFocus();
+    m_filter->end(false);
+    QCoreApplication::sendEvent(m_filter, &event);
+}
+
+void ContactView::placeNobody()
+{
+    const bool isNobody = !m_words.isEmpty() && m_hidden > 0 && shownCount() == 0;
+    const QString sentence
+        = isNobody ? tr("Nobody here is called \"%1\"").arg(paintedName(m_words.join(QLatin1Char(' ')))) : QString();
+    m_nobody->setGeometry(0, 0, viewport()->width(), ContactDelegate::rowHeight);
+    m_nobody->setText(sentence);
+    m_nobody->setVisible(isNobody);
+    m_filter->setAccessibleDescription(sentence);
 }
 
 void ContactView::placeInvitation()
@@ -394,6 +497,14 @@ void ContactView::resizeEvent(QResizeEvent *event)
 {
     QTreeView::resizeEvent(event);
     placeInvitation();
+    placeNobody();
+    placeFilter();
+}
+
+void ContactView::moveEvent(QMoveEvent *event)
+{
+    QTreeView::moveEvent(event);
+    placeFilter();
 }
 
 } // namespace nimb

@@ -26,6 +26,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QToolButton>
@@ -116,8 +117,8 @@ void frmMain::orderControls()
 {
     QWidget *previous = ImageCombo1;
     for (QWidget *const next : std::initializer_list<QWidget *>{
-             m_personalizedState, TabStrip1, ListView1, m_autoReply, RescanBtn, buzzmute, ListDetails, ItemDetailstxt,
-             AutoReplyOn, Autoreplybtn, &m_outtextWidget, clearbtn}) {
+             m_personalizedState, TabStrip1, &ListView1->filterBox(), ListView1, m_autoReply, RescanBtn, buzzmute,
+             ListDetails, ItemDetailstxt, AutoReplyOn, Autoreplybtn, &m_outtextWidget, clearbtn}) {
         setTabOrder(previous, next);
         previous = next;
     }
@@ -227,7 +228,7 @@ void frmMain::connectMenus()
     on("mnuFileExit", [this] { unload(UnloadMode::code); });
     on("mnuPrivateChat", [this] { m_engine->commands.mnuPrivateChat(selectedContact()); });
     on("mnuBuzzUser", [this] { m_engine->commands.mnuBuzzUser(selectedContact()); });
-    on("mnuRemoveUser", [this] { m_engine->commands.removeUsers(ListView1->selectedAddresses()); });
+    on("mnuRemoveUser", [this] { removeSelected(); });
     on("mnuNetworkscan", [this] { m_engine->windows.mnuNetworkscan(); });
     on("mnuAddUser", [this] { m_engine->windows.mnuAddUser(); });
     on("mnuImportContacts", [this] { m_engine->windows.mnuImportContacts(); });
@@ -250,8 +251,12 @@ void frmMain::connectMenus()
 void frmMain::connectContacts()
 {
     setModelOfKeyedRows(*ListView1, m_engine->contacts);
+    ListView1->setAvatars(m_engine->avatars);
     connect(ListView1, &ContactView::contactClicked, this, &frmMain::ListView1_Click);
     connect(ListView1, &ContactView::contactOpened, this, &frmMain::ListView1_DblClick);
+    connect(ListView1, &ContactView::removalWanted, this, &frmMain::removeSelected);
+    const auto *const find = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_K), this);
+    connect(find, &QShortcut::activated, this, &frmMain::findContact);
     connect(ListView1, &ContactView::everybodyWanted, this, [this] { m_engine->windows.mnuFindEverybody(); });
     connect(ListView1, &ContactView::pointedAt, this, &frmMain::ListView1_MouseMove);
     connect(ListView1, &ContactView::menuWanted, this, &frmMain::mnuPopUp_Show);
@@ -331,6 +336,7 @@ void frmMain::showContact(const QString &ip)
     const int row = contact ? m_engine->contacts.rowOf(contact->shownBy.value_or(contact->ip)) : -1;
     if (row < 0)
         return;
+    ListView1->endSearch();
     ListView1->setCurrentIndex(ListView1->model()->index(row, 0));
     ListView1->setFocus();
 }
@@ -500,6 +506,18 @@ void frmMain::ListView1_Click(const QString &ip)
 void frmMain::ListView1_DblClick(const QString &ip)
 {
     m_engine->commands.mnuPrivateChat(ip);
+}
+
+void frmMain::removeSelected()
+{
+    m_engine->commands.removeUsers(ListView1->selectedAddresses());
+}
+
+/// A panel that lies over the list would lie over the box as well.
+void frmMain::findContact()
+{
+    if (!m_personalizedState->isVisible())
+        ListView1->find();
 }
 
 void frmMain::ListView1_MouseMove(const QString &ip)

@@ -26,6 +26,7 @@ namespace nimb
 
 class Announcement;
 class AutoreplyFrame;
+class AvatarStore;
 class ContactCommands;
 class ContactList;
 class ContactView;
@@ -38,6 +39,7 @@ class PersonalizedStateFrame;
 struct MainWindowEngine {
     MainWindow &window;
     ContactList &contacts;
+    const AvatarStore &avatars;
     ContactCommands &commands;
     OwnState &ownState;
     Announcement &announcement;
@@ -124,6 +126,8 @@ private:
     QString selectedContact() const;
     void ListView1_Click(const QString &ip);
     void ListView1_DblClick(const QString &ip);
+    void removeSelected();
+    void findContact();
     void ListView1_MouseMove(const QString &ip);
     void mnuPopUp_Show(const QPoint &position);
     void ListDetails_Click();

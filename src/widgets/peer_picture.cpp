@@ -37,9 +37,10 @@ bool isDark(const QColor &ground)
     return ground.lightness() < 128;
 }
 
-void paintInitials(QPainter &painter, const QRectF &disc, const QString &name, const QColor &ground)
+/// base: what the colours go with, also where a selected row has a ground of its own.
+void paintInitials(QPainter &painter, const QRectF &disc, const QString &name, const QColor &base)
 {
-    const QColor fill = QColor::fromHsl(hueOf(name), 60, isDark(ground) ? 70 : 205);
+    const QColor fill = QColor::fromHsl(hueOf(name), 60, isDark(base) ? 70 : 205);
     painter.setPen(Qt::NoPen);
     painter.setBrush(fill);
     painter.drawEllipse(disc);
@@ -47,7 +48,7 @@ void paintInitials(QPainter &painter, const QRectF &disc, const QString &name, c
     font.setBold(true);
     font.setPixelSize(qMax(8, qRound(disc.height() * 0.4)));
     painter.setFont(font);
-    painter.setPen(readableOn(QColor::fromHsl(hueOf(name), 90, isDark(ground) ? 220 : 60), fill));
+    painter.setPen(readableOn(QColor::fromHsl(hueOf(name), 90, isDark(base) ? 220 : 60), fill));
     painter.drawText(disc, Qt::AlignCenter, initialsOf(name));
 }
 
@@ -79,13 +80,15 @@ void paintPeerPicture(QPainter &painter, const QRect &place, const PeerPicture &
     const QColor ground = palette.color(picture.ground);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.setOpacity(picture.strength);
     if (picture.avatar.isNull())
-        paintInitials(painter, place, picture.name, ground);
+        paintInitials(painter, place, picture.name, palette.color(QPalette::Base));
     else
         paintAvatar(painter, place, picture.avatar);
+    painter.setOpacity(1);
     if (picture.presence) {
-        // A ring of the ground keeps the two apart.
-        const int side = qMax(10, place.height() * 2 / 5), ring = 2;
+        // A ring of the ground keeps the two apart. Smaller ones could not be told by their shape.
+        const int side = qMax(12, place.height() * 2 / 5), ring = presenceOverhang / 2;
         const QRect badge(place.right() + 1 - side + ring, place.bottom() + 1 - side + ring, side, side);
         painter.setPen(Qt::NoPen);
         painter.setBrush(ground);

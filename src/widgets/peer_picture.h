@@ -24,7 +24,11 @@ struct PeerPicture {
     QImage avatar{};                             ///< null: the initials on a ground of their own colour
     std::optional<Presence> presence{};          ///< nothing: not shown
     QPalette::ColorRole ground = QPalette::Base; ///< on which it stands
+    double strength = 1;                         ///< of the disc, not of the presence: less for whoever is not there
 };
+
+/// How far the presence reaches beyond the picture, to the right and below: pixels.
+inline constexpr int presenceOverhang = 4;
 
 /// place: a square.
 void paintPeerPicture(QPainter &painter, const QRect &place, const PeerPicture &picture, const QPalette &palette);

@@ -15,8 +15,8 @@ struct Point {
 
 // Main window, by its fixed layout: the chooser, the rows and the log below the menu bar, which is 20 to 30 high.
 constexpr Point stateChooser = {150, 47};
-constexpr Point firstRow = {150, 104};
-constexpr int rowHeight = 24;
+constexpr Point firstRow = {150, 108};
+constexpr int rowHeight = 32;
 constexpr Point findEverybody = {150, 220};
 constexpr Point fourthMenuEntry = {40, 77}; // from where the menu was opened
 constexpr Point muteAboveBottom = {130, 79};

@@ -66,6 +66,25 @@ const std::vector<std::pair<const char *, const char *>> everybody = {
     {"192.168.1.107", "Ελένη"},
 };
 
+/// A landscape of 50 by 50 pixels.
+std::string landscape()
+{
+    std::string body;
+    for (int y = 0; y < 50; ++y) {
+        for (int x = 0; x < 50; ++x) {
+            const bool sun = (x - 36) * (x - 36) + (y - 12) * (y - 12) < 40;
+            const bool hill = y > 32 + 6 * ((x / 13) % 2) - x % 13 / 3;
+            const QColor colour = sun ? QColor(255, 220, 60)
+                : hill                ? QColor(40, 130 - y, 60)
+                                      : QColor(120, 170, 255 - y);
+            body += static_cast<char>(colour.blue());
+            body += static_cast<char>(colour.green());
+            body += static_cast<char>(colour.red());
+        }
+    }
+    return body;
+}
+
 void fill(RealWindows &windows)
 {
     windows.settleStart({"192.168.1.12", "192.168.1.20", "192.168.1.31", "192.168.1.44", "192.168.1.45"});
@@ -83,7 +102,14 @@ void takeMain(Gallery &gallery)
 {
     RealWindows windows(everybody);
     fill(windows);
+    windows.arrive("192.168.1.12", "!AVATARBODY " + landscape());
+    windows.arrive("192.168.1.31", "-Are you coming?");
+    windows.arrive("192.168.1.31", "-We have begun");
+    windows.main().activateWindow();
     gallery.take(windows.main(), "main");
+    windows.list().scrollToBottom();
+    gallery.take(windows.main(), "main_who_is_offline");
+    windows.list().scrollToTop();
     windows.control<QTabBar>("TabStrip1").setCurrentIndex(1);
     gallery.take(windows.main(), "main_full_details");
     windows.control<QTabBar>("TabStrip1").setCurrentIndex(0);
@@ -158,6 +184,25 @@ void takeMainInTrouble(Gallery &gallery)
     gallery.take(windows.main(), "main_port_taken");
 }
 
+void takeMainWhileFinding(Gallery &gallery)
+{
+    RealWindows windows(everybody);
+    fill(windows);
+    auto &box = windows.control<QLineEdit>("contactFilter");
+    windows.main().activateWindow();
+    if (!QTest::qWaitForWindowActive(&windows.main(), 30000))
+        qFatal("keys go elsewhere");
+    QTest::keyClick(&windows.main(), Qt::Key_K, Qt::ControlModifier);
+    gallery.take(windows.main(), "main_find");
+    box.setText(QStringLiteral("en"));
+    gallery.take(windows.main(), "main_found");
+    windows.control<QTabBar>("TabStrip1").setCurrentIndex(1);
+    gallery.take(windows.main(), "main_found_full_details");
+    windows.control<QTabBar>("TabStrip1").setCurrentIndex(0);
+    box.setText(QStringLiteral("Zoe"));
+    gallery.take(windows.main(), "main_nobody_found");
+}
+
 void takeMainWithThousand(Gallery &gallery)
 {
     std::vector<std::string> names;
@@ -207,25 +252,6 @@ void takePrivate(Gallery &gallery)
     menu.close();
     RealWindows::logOf(form).zoom(8);
     gallery.take(form, "private_zoomed");
-}
-
-/// A landscape of 50 by 50 pixels.
-std::string landscape()
-{
-    std::string body;
-    for (int y = 0; y < 50; ++y) {
-        for (int x = 0; x < 50; ++x) {
-            const bool sun = (x - 36) * (x - 36) + (y - 12) * (y - 12) < 40;
-            const bool hill = y > 32 + 6 * ((x / 13) % 2) - x % 13 / 3;
-            const QColor colour = sun ? QColor(255, 220, 60)
-                : hill                ? QColor(40, 130 - y, 60)
-                                      : QColor(120, 170, 255 - y);
-            body += static_cast<char>(colour.blue());
-            body += static_cast<char>(colour.green());
-            body += static_cast<char>(colour.red());
-        }
-    }
-    return body;
 }
 
 void takePrivatePanels(Gallery &gallery)
@@ -441,6 +467,7 @@ int main(int argc, char *argv[])
     nimb::test::takeMain(gallery);
     nimb::test::takeMainAfterASearch(gallery);
     nimb::test::takeMainInTrouble(gallery);
+    nimb::test::takeMainWhileFinding(gallery);
     nimb::test::takeMainWithThousand(gallery);
     nimb::test::takePrivate(gallery);
     nimb::test::takePrivatePanels(gallery);
