@@ -163,8 +163,9 @@ void DialogOpener::mnusendcontacts(const QString &ip)
     if (!contact)
         return;
     delete m_sendContact;
-    m_sendContact = new frmSendContact(std::make_unique<ContactTransfer>(m_services.socket, m_engine.contacts(), ip),
-                                       contact->nickname, &m_main);
+    m_sendContact = new frmSendContact(
+        std::make_unique<ContactTransfer>(m_services.socket, m_engine.contacts(), m_engine.log(), ip),
+        contact->nickname, &m_main);
     m_sendContact->show();
 }
 

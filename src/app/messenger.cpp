@@ -25,7 +25,7 @@ Messenger::Messenger(Common &common, const Surroundings &around)
       m_ownAvatar(common, around.socket, m_log, around.timers, around.clock, around.drops),
       m_peerFeatures({common, m_contacts, around.socket, m_privateWindows, m_avatars, m_ownAvatar, m_activity,
                       around.sound, around.drops}),
-      m_sharedContacts(m_admission, around.drops), m_conferences({{common, around.socket, around.clock},
+      m_sharedContacts(m_admission, m_contacts, m_log, around.drops), m_conferences({{common, around.socket, around.clock},
                                                                   m_contacts,
                                                                   m_avatars,
                                                                   m_ownAvatar,

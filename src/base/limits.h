@@ -87,8 +87,8 @@ constexpr std::size_t questionsOfSearch = 10;
 constexpr qint64 contactFileBytes = qint64{1024} * 1024;
 /// Of a range that is asked address by address: 254 of them.
 constexpr int smallestScannedPrefix = 24;
-/// Names of those who answered a search, in its line in the log.
-constexpr qsizetype namesOfAnswer = 20;
+/// Names in one line of the log: of those who answered a search, of contacts that were sent.
+constexpr qsizetype namesInLine = 20;
 /// Two contacts of the same names that are heard within this time may be one machine with two addresses.
 constexpr std::chrono::milliseconds sameMachineTime{1000};
 /// Contacts of one name among which such a machine is looked for: whoever has more addresses forges them.

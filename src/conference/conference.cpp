@@ -138,7 +138,9 @@ void Conference::kickuserbtn_Click(const ContactAddress &ip)
     if (!participant || participant->own || !isHostedHere())
         return;
     sendDatagram(socket(), ip.ipv4(), wire::ConferenceClose{m_identity.ConfNum});
+    const QString name = participant->name;
     m_participants.remove(ip);
+    ReceiveCommand(tr("--- You removed %1 from the conference.").arg(name), colours::banner);
 }
 
 void Conference::refreshlistbtn_Click()

@@ -1,5 +1,7 @@
 #include "contacts/contact_transfer.h"
 
+#include "base/limits.h"
+#include "base/remote_text.h"
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
 
@@ -98,8 +100,8 @@ QVariant TransferList::headerData(int section, Qt::Orientation orientation, int 
 
 // --- the rules
 
-ContactTransfer::ContactTransfer(Winsock &socket, const ContactList &contacts, ContactAddress destination)
-    : m_socket(socket), m_contacts(contacts), m_destination(std::move(destination))
+ContactTransfer::ContactTransfer(Winsock &socket, const ContactList &contacts, MainLog &log, ContactAddress destination)
+    : m_socket(socket), m_contacts(contacts), m_log(log), m_destination(std::move(destination))
 {
 }
 
@@ -136,10 +138,26 @@ void ContactTransfer::btnremoveall_Click()
 
 void ContactTransfer::sendbtn_Click()
 {
+    QStringList names;
     for (const TransferRow &row : m_chosen.rows()) {
-        if (const Contact *const contact = m_contacts.find(row.address))
-            sendDatagram(m_socket, m_destination.ipv4(), sharedContact(*contact));
+        const Contact *const contact = m_contacts.find(row.address);
+        if (!contact)
+            continue;
+        sendDatagram(m_socket, m_destination.ipv4(), sharedContact(*contact));
+        names.append(paintedName(contact->nickname));
     }
+    tellSent(names);
+}
+
+void ContactTransfer::tellSent(const QStringList &names) const
+{
+    const Contact *const receiver = m_contacts.find(m_destination);
+    if (names.isEmpty() || !receiver)
+        return;
+    QStringList shown = names.mid(0, limits::namesInLine);
+    if (const qsizetype more = names.size() - shown.size(); more > 0)
+        shown.append(tr("%n more", nullptr, static_cast<int>(more)));
+    m_log.note(tr("contacts sent to %1: %2").arg(paintedName(receiver->nickname), shown.join(QStringLiteral(", "))));
 }
 
 } // namespace nimb

@@ -1,10 +1,12 @@
 // Which contacts are sent to another contact, and their sending.
 #pragma once
 
+#include "base/main_log.h"
 #include "contacts/contact_list.h"
 #include "protocol/winsock.h"
 
 #include <QAbstractListModel>
+#include <QCoreApplication>
 
 namespace nimb
 {
@@ -42,9 +44,11 @@ private:
 /// The engine half of frmSendContact.
 class ContactTransfer
 {
+    Q_DECLARE_TR_FUNCTIONS(ContactTransfer)
+
 public:
     /// destination: address of the contact to whom the others are sent.
-    ContactTransfer(Winsock &socket, const ContactList &contacts, ContactAddress destination);
+    ContactTransfer(Winsock &socket, const ContactList &contacts, MainLog &log, ContactAddress destination);
 
     /// Offers every contact but the destination, in the order of the contact list.
     void Form_Load();
@@ -57,12 +61,16 @@ public:
     void btnRemoveOne_Click(std::vector<int> selected);
     void btnremoveall_Click();
 
-    /// Sends every chosen contact as the contact list has it now. One that was removed meanwhile is left out.
+    /// Sends every chosen contact as the contact list has it now, and says so in the log. One that was removed
+    /// meanwhile is left out.
     void sendbtn_Click();
 
 private:
+    void tellSent(const QStringList &names) const;
+
     Winsock &m_socket;
     const ContactList &m_contacts;
+    MainLog &m_log;
     const ContactAddress m_destination;
     TransferList m_offered;
     TransferList m_chosen;

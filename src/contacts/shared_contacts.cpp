@@ -3,7 +3,7 @@
 namespace nimb
 {
 
-void SharedContacts::sharedContact(Ipv4Address, const PeerIdentity &shared)
+void SharedContacts::sharedContact(Ipv4Address ip, const PeerIdentity &shared)
 {
     const std::optional<Ipv4Address> address = readAddress(shared.ip);
     const std::optional<Refusal> refusal = m_admission.refusal(address);
@@ -18,7 +18,10 @@ void SharedContacts::sharedContact(Ipv4Address, const PeerIdentity &shared)
     contact.nickname = nameOrUnknown(shared.nick);
     contact.workstation = nameOrUnknown(shared.host);
     contact.setUnheard();
+    const QString name = contact.nickname;
     m_admission.admit(std::move(contact));
+    if (const Contact *const sender = m_contacts.find(ip))
+        m_log.sentContact(sender->nickname, name, addressText(*address));
 }
 
 } // namespace nimb

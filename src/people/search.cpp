@@ -204,7 +204,7 @@ QString Search::names(const Run &run) const
 {
     QStringList names;
     for (const Ipv4Address ip : run.answers) {
-        if (const Contact *const contact = m_parts.contacts.find(ip); contact && names.size() < limits::namesOfAnswer)
+        if (const Contact *const contact = m_parts.contacts.find(ip); contact && names.size() < limits::namesInLine)
             names.append(paintedName(contact->nickname));
     }
     if (const qsizetype more = static_cast<qsizetype>(run.answers.size()) - names.size(); more > 0)

@@ -49,8 +49,8 @@ protected:
     /// For Ben, who is at 10.0.0.3.
     void open(const QString &nickname = QStringLiteral("Ben"))
     {
-        dialog = new frmSendContact(std::make_unique<ContactTransfer>(socket, contacts, QStringLiteral("10.0.0.3")),
-                                    nickname, nullptr);
+        dialog = new frmSendContact(
+            std::make_unique<ContactTransfer>(socket, contacts, log, QStringLiteral("10.0.0.3")), nickname, nullptr);
         dialog->show();
         QCoreApplication::processEvents();
     }
@@ -82,6 +82,9 @@ protected:
 
     ContactList contacts;
     SimulatedWinsock socket{QStringLiteral("10.0.0.1"), QStringLiteral("HERE"), nullptr};
+    VirtualTime time;
+    RecorderLog written;
+    MainLog log{written, time};
     QPointer<frmSendContact> dialog;
 };
 

@@ -318,7 +318,7 @@ private:
     {
         if (!m_copy->engine.contacts().find(ip))
             return;
-        ContactTransfer transfer(m_copy->socket, m_copy->engine.contacts(), ip);
+        ContactTransfer transfer(m_copy->socket, m_copy->engine.contacts(), m_copy->engine.log(), ip);
         transfer.Form_Load();
         transfer.btnsendone_Click({0, 2, 7});
         transfer.btnsendall_Click();

@@ -688,6 +688,7 @@ TEST_F(ConferenceTest, AKickedOneIsToldAndRemoved)
     conference.kickuserbtn_Click(QStringLiteral("10.0.0.2"));
     EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "!CONF CLOSE #1"))) << "no list at that moment";
     EXPECT_THAT(rows(conference), ElementsAre("Me (you) green", "Ben green"));
+    EXPECT_EQ(lines().back(), "--- You removed Ann from the conference.");
     conference.kickuserbtn_Click(QStringLiteral("10.0.0.1"));
     conference.kickuserbtn_Click(QString());
     EXPECT_THAT(copy.sent(), IsEmpty());

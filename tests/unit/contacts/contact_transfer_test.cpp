@@ -1,6 +1,8 @@
 #include "contacts/contact_transfer.h"
 
+#include "recorders.h"
 #include "simulated_network.h"
+#include "virtual_time.h"
 
 #include <gmock/gmock.h>
 
@@ -44,7 +46,7 @@ protected:
     /// The dialog for Ben.
     ContactTransfer &load()
     {
-        transfer.emplace(socket, contacts, QStringLiteral("10.0.0.3"));
+        transfer.emplace(socket, contacts, log, QStringLiteral("10.0.0.3"));
         transfer->Form_Load();
         return *transfer;
     }
@@ -61,8 +63,35 @@ protected:
 
     ContactList contacts;
     SimulatedWinsock socket{QStringLiteral("10.0.0.1"), QStringLiteral("HERE"), nullptr};
+    VirtualTime time;
+    RecorderLog written;
+    MainLog log{written, time};
     std::optional<ContactTransfer> transfer;
 };
+
+TEST_F(ContactTransferTest, TheLogSaysWhatWasSentToWhom)
+{
+    load().btnsendall_Click();
+    transfer->sendbtn_Click();
+    EXPECT_THAT(written.lines(), ElementsAre("--- contacts sent to Ben: Ann, Cleo, Dora, Emil ---"));
+}
+
+TEST_F(ContactTransferTest, OfManyTwentyAreNamed)
+{
+    for (int i = 10; i < 40; ++i)
+        add(qPrintable(QStringLiteral("10.0.1.%1").arg(i)), qPrintable(QStringLiteral("N%1").arg(i)), Presence::online);
+    load().btnsendall_Click();
+    transfer->sendbtn_Click();
+    EXPECT_EQ(written.text().count(QStringLiteral(", ")), 20);
+    EXPECT_THAT(written.text().toStdString(), testing::HasSubstr(", 14 more ---"));
+}
+
+TEST_F(ContactTransferTest, WhereNothingIsSentTheLogSaysNothing)
+{
+    load();
+    transfer->sendbtn_Click();
+    EXPECT_THAT(written.lines(), IsEmpty());
+}
 
 TEST_F(ContactTransferTest, RowsAreKnownByTheirAddressesAndThoseThatAreNone)
 {
@@ -104,7 +133,7 @@ TEST_F(ContactTransferTest, ARowHasTheKeyAndTheTextOfItsContact)
 
 TEST_F(ContactTransferTest, ADestinationThatIsNoContactLeavesNobodyOut)
 {
-    transfer.emplace(socket, contacts, QStringLiteral("10.9.9.9"));
+    transfer.emplace(socket, contacts, log, QStringLiteral("10.9.9.9"));
     transfer->Form_Load();
     EXPECT_THAT(offered(), ElementsAre("Ann", "Ben", "Cleo", "Dora", "Emil"));
 }
@@ -165,7 +194,7 @@ TEST_F(ContactTransferTest, ThousandsMoveWithEverySecondSelected)
         contact.setPresence(Presence::online);
         many.add(std::move(contact));
     }
-    ContactTransfer large(socket, many, {});
+    ContactTransfer large(socket, many, log, {});
     large.Form_Load();
     std::vector<int> odd;
     for (int row = 1; row < 10000; row += 2)

@@ -33,6 +33,15 @@ TEST_F(SharedContactsTest, BecomesARowThatIsNotYetKnown)
     EXPECT_THAT(copy.names(), ElementsAre("Ann", "Cleo the Great"));
 }
 
+TEST_F(SharedContactsTest, TheLogSaysWhoSentIt)
+{
+    copy.arrive("10.0.0.2", "!USER 10.0.0.7 PC-CLEO Cleo the Great");
+    copy.arrive("10.0.0.2", "!USER 10.0.0.7 PC-CLEO Cleo the Great");
+    EXPECT_THAT(copy.view.log.lines(),
+                ElementsAre("--- 21/11/2026 @ 14:05 - Ann sent you the contact 'Cleo the Great' (10.0.0.7) ---"));
+    EXPECT_EQ(copy.view.log.colourOfLastPiece(), 0x808080u);
+}
+
 TEST_F(SharedContactsTest, ARowThatIsThereStaysAsItIs)
 {
     copy.arrive("10.0.0.2", "!USER 10.0.0.2 PC-OTHER Somebody else");

@@ -1,6 +1,8 @@
 #include "contacts/contact_transfer.h"
 
+#include "recorders.h"
 #include "simulated_network.h"
+#include "virtual_time.h"
 
 #include <gtest/gtest.h>
 
@@ -33,7 +35,10 @@ TEST(TransferListModel, KeepsItsPromisesThroughAThousandRandomMoves)
         contacts.add(std::move(contact));
     }
     SimulatedWinsock socket{QStringLiteral("10.0.0.99"), QStringLiteral("HERE"), nullptr};
-    ContactTransfer transfer(socket, contacts, QStringLiteral("10.0.0.7"));
+    VirtualTime time;
+    RecorderLog written;
+    MainLog log(written, time);
+    ContactTransfer transfer(socket, contacts, log, QStringLiteral("10.0.0.7"));
     const auto fatal = QAbstractItemModelTester::FailureReportingMode::Fatal;
     const QAbstractItemModelTester offeredTester(&transfer.offered(), fatal);
     const QAbstractItemModelTester chosenTester(&transfer.chosen(), fatal);
