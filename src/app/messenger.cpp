@@ -35,7 +35,7 @@ Messenger::Messenger(Common &common, const Surroundings &around)
       m_invitations({common, around.socket, m_contacts, around.timers, around.clock, around.store, m_conferences}),
       m_conferenceCommands({common, m_admission, around.socket, m_contacts, m_avatars, m_sender, m_conferences,
                             m_invitations, around.timers, around.drops}),
-      m_contactCommands({common, around.socket, around.sound, around.prompts}, m_contacts, m_privateWindows),
+      m_contactCommands({common, around.socket, around.sound, around.prompts, m_log}, m_contacts, m_privateWindows),
       m_dispatcher(m_contacts,
                    {.presence = &m_presence,
                     .unknown = &m_unknown,

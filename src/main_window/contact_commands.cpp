@@ -47,8 +47,23 @@ void ContactCommands::openWaiting(const QString &ip)
 void ContactCommands::mnuPrivateChat(const QString &ip)
 {
     const Contact *contact = m_contacts.find(ip);
-    if (contact && contact->presence != Presence::unknown)
-        m_chats.openPrivate(ip);
+    if (!contact)
+        return;
+    const QString name = paintedName(contact->nickname);
+    if (contact->presence == Presence::unknown)
+        return m_services.log.note(whyUnknown(name));
+    if (contact->presence == Presence::offline)
+        m_services.log.note(tr("%1 is offline: what you write does not arrive").arg(name));
+    m_chats.openPrivate(ip);
+}
+
+QString ContactCommands::whyUnknown(const QString &name) const
+{
+    if (m_services.common.announcing)
+        return tr("whether %1 is there is being asked: no window opens before that is known").arg(name);
+    if (m_services.common.isInvisible())
+        return tr("whether %1 is there is not known: \"Rescan\" asks, and shows you to your contacts").arg(name);
+    return tr("whether %1 is there is not known: \"Rescan\" asks").arg(name);
 }
 
 void ContactCommands::mnuBuzzUser(const QString &ip)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Common.h"
+#include "base/main_log.h"
 #include "base/prompts.h"
 #include "base/sound.h"
 #include "base/window_openers.h"
@@ -29,6 +30,7 @@ public:
         Winsock &socket;
         Sound &sound;
         Prompts &prompts;
+        MainLog &log;
     };
 
     ContactCommands(const Services &services, ContactList &contacts, PrivateChats &chats)
@@ -45,6 +47,7 @@ public:
 
     /// The row was clicked: what waits there to be read is opened.
     void openWaiting(const QString &ip);
+    /// Where that leads nowhere, or to somebody who hears nothing, the log says why.
     void mnuPrivateChat(const QString &ip);
     void mnuBuzzUser(const QString &ip);
     void mnuRemoveUser(const QString &ip) { removeUsers({ip}); }
@@ -52,6 +55,7 @@ public:
     void removeUsers(const QStringList &ips);
 
 private:
+    QString whyUnknown(const QString &name) const;
     QString removalQuestion(const std::vector<const Contact *> &contacts) const;
 
     Services m_services;

@@ -110,6 +110,41 @@ TEST(PrivateChatCommand, DoesNothingForAContactNotYetKnown)
     EXPECT_THAT(copy.window(1).shows, ElementsAre(ShowMode::active));
 }
 
+TEST(PrivateChatCommand, SaysInTheLogWhyNothingHappens)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.engine.contactCommands().mnuPrivateChat(ip("10.0.0.2"));
+    EXPECT_EQ(copy.view.log.lastLine(),
+              "--- whether Ann is there is being asked: no window opens before that is known ---");
+    copy.settleStart({"10.0.0.2"});
+    copy.arrive("10.0.0.2", "!USER 10.0.0.7 PC Cleo");
+    copy.engine.contactCommands().mnuPrivateChat(ip("10.0.0.7"));
+    EXPECT_EQ(copy.view.log.lastLine(), "--- whether Cleo is there is not known: \"Rescan\" asks ---");
+    copy.engine.ownState().choose(4);
+    ASSERT_TRUE(copy.common.isInvisible());
+    copy.engine.contactCommands().mnuPrivateChat(ip("10.0.0.7"));
+    EXPECT_EQ(copy.view.log.lastLine(),
+              "--- whether Cleo is there is not known: \"Rescan\" asks, and shows you to your contacts ---");
+    EXPECT_THAT(copy.privateForms.views, IsEmpty());
+}
+
+TEST(PrivateChatCommand, SaysInTheLogThatAnOfflineContactHearsNothing)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.settleStart();
+    copy.engine.contactCommands().mnuPrivateChat(ip("10.0.0.2"));
+    EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- Ann is offline: what you write does not arrive ---"));
+    EXPECT_EQ(copy.privateForms.views.size(), 1u);
+}
+
+TEST(PrivateChatCommand, OfWhoIsThereTheLogSaysNothing)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.settleStart({"10.0.0.2"});
+    copy.engine.contactCommands().mnuPrivateChat(ip("10.0.0.2"));
+    EXPECT_THAT(copy.view.log.lines(), IsEmpty());
+}
+
 TEST(PrivateChatCommand, DoesNothingWithoutASelectedRow)
 {
     Copy copy;
