@@ -9,7 +9,7 @@ Messenger::Messenger(Common &common, const Surroundings &around)
       m_log(around.mainView.outtext(), around.clock), m_unknown(m_log, around.timers), m_sender(common, around.socket),
       m_announcement(common, m_contacts, m_sender, around.timers, around.clock, around.mainView),
       m_ownState(common, m_contacts, m_sender, m_announcement, m_log, around.mainView,
-                 [this] { m_recovery.settingsChanged(); }),
+                 [this] { ownStateChanged(); }),
       m_recovery({common, around.store, m_contacts, m_ownState, around.timers, m_log, around.mainView}),
       m_port(around.socket, common, around.timers, m_log, around.mainView,
              [this] { m_announcement.runUnlessInvisible(); }),
@@ -57,6 +57,12 @@ Messenger::Messenger(Common &common, const Surroundings &around)
 Messenger::~Messenger()
 {
     m_socket.DataArrival = nullptr;
+}
+
+void Messenger::ownStateChanged()
+{
+    m_recovery.settingsChanged();
+    m_mainWindow.showInTray();
 }
 
 void Messenger::unloadOtherWindows()

@@ -71,6 +71,7 @@ public:
     ReceiveDispatcher &dispatcher() { return m_dispatcher; }
 
 private:
+    void ownStateChanged();
     /// Those that end with the main window, before it says farewell and saves.
     void unloadOtherWindows();
 

@@ -15,6 +15,8 @@ constexpr qsizetype messageLength = 2000;
 constexpr qsizetype nameLength = 255;
 /// Characters of a name that menus, lists and the pop-up paint before an ellipsis.
 constexpr qsizetype paintedNameLength = 64;
+/// Characters of the own name in the tip of the tray icon, of which some systems show 63 in all.
+constexpr qsizetype trayNameLength = 20;
 /// Characters of a received text that are shown: laying out one line of 64,000 takes seconds.
 constexpr qsizetype shownTextLength = 8000;
 /// Lines of a received text that are shown: more push everything else out of sight.

@@ -148,11 +148,9 @@ QString shownText(const QString &text)
     return shown + QCoreApplication::translate("RemoteText", "... (%1 more characters)").arg(text.size() - kept.size());
 }
 
-QString paintedName(const QString &name)
+QString paintedName(const QString &name, qsizetype length)
 {
-    if (name.size() <= limits::paintedNameLength)
-        return name;
-    return cutText(name, limits::paintedNameLength) + QChar(0x2026);
+    return name.size() <= length ? name : cutText(name, length) + QChar(0x2026);
 }
 
 QString menuName(const QString &name)

@@ -1,6 +1,8 @@
 // Text that came from a peer, made fit to be shown.
 #pragma once
 
+#include "base/limits.h"
+
 #include <QString>
 
 namespace nimb
@@ -25,8 +27,8 @@ QString remoteBody(const QString &text);
 /// that says how many more there are. Direction overrides are closed at the end of their line.
 QString shownText(const QString &text);
 
-/// A name for a menu or a pop-up: at most limits::paintedNameLength characters, then an ellipsis.
-QString paintedName(const QString &name);
+/// A name for a menu or a pop-up: at most so many characters, then an ellipsis.
+QString paintedName(const QString &name, qsizetype length = limits::paintedNameLength);
 
 /// A name as part of a menu caption: painted, and with "&" doubled, for a single one marks an access key.
 QString menuName(const QString &name);

@@ -84,6 +84,8 @@ class TrayIcon
 public:
     virtual ~TrayIcon() = default;
     virtual void AddIcon(const QString &ToolTip) = 0;
+    /// With another tip, and a badge while anything is unread.
+    virtual void setUnread(int unread, const QString &ToolTip) = 0;
     virtual void removeIcon() = 0;
     /// True while the desktop shows the icon, so that a hidden window can be brought back by it.
     virtual bool isShown() const = 0;

@@ -177,7 +177,15 @@ bool ContactList::add(Contact contact)
     joinLookAlikes(row);
     noteWhetherItMakesRoom(row);
     tellWhetherAcquainted(row, row.contact.isAcquaintance());
+    addUnread(row.contact.unread());
     return true;
+}
+
+void ContactList::addUnread(int difference)
+{
+    m_unread += difference;
+    if (difference != 0)
+        Q_EMIT unreadChanged();
 }
 
 bool ContactList::change(const ContactAddress &ip, const std::function<void(Contact &)> &edit)
@@ -192,6 +200,7 @@ bool ContactList::change(const ContactAddress &ip, const std::function<void(Cont
     if (edited.contact.sortKey != row->contact.sortKey)
         moveRow(from, edited);
     const bool renamed = edited.contact.nickname != row->contact.nickname;
+    const int unread = row->contact.unread();
     row->contact = std::move(edited.contact);
     noteWhetherItMakesRoom(*row);
     tellWhetherAcquainted(*row, row->contact.isAcquaintance());
@@ -200,6 +209,7 @@ bool ContactList::change(const ContactAddress &ip, const std::function<void(Cont
         joinLookAlikes(*row);
     }
     rowChanged(*row);
+    addUnread(row->contact.unread() - unread);
     return true;
 }
 
@@ -273,6 +283,7 @@ bool ContactList::remove(const ContactAddress &ip)
     if (gone->placeToGo)
         m_makeRoom.erase(*gone->placeToGo);
     tellWhetherAcquainted(*gone, false);
+    addUnread(-gone->contact.unread());
     return true;
 }
 

@@ -127,7 +127,11 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+    /// Messages of all contacts that nobody has seen.
+    int unread() const { return m_unread; }
+
 Q_SIGNALS:
+    void unreadChanged();
     /// Somebody whom the user knows is in the list now, or no longer.
     void acquaintanceChanged(nimb::Ipv4Address ip, bool acquainted);
 
@@ -154,7 +158,9 @@ private:
     static std::optional<PlaceToGo> placeToGo(const Row &row);
     void noteWhetherItMakesRoom(Row &row);
     void tellWhetherAcquainted(Row &row, bool acquainted);
+    void addUnread(int difference);
 
+    int m_unread = 0;
     std::vector<std::unique_ptr<Row>> m_rows;
     QHash<ContactAddress, Row *> m_byAddress;
     QHash<QString, QSet<Row *>> m_lookAlikes; ///< by look

@@ -75,6 +75,7 @@ void OwnState::choose(int position)
         goInvisible();
     showAutoReply();
     showRescanHint();
+    m_changed();
 }
 
 void OwnState::cancelPersonalized()
@@ -142,7 +143,6 @@ bool OwnState::addPersonalized(BaseState base, const QString &text)
                          .arg(QString::number(limits::storedPersonalizedStates), m_entries.back().text));
     m_view.selectOwnState(position);
     choose(position);
-    m_changed();
     return true;
 }
 

@@ -22,7 +22,7 @@ public:
     /// The four plain states and the entry that adds a personalised one stand first.
     static constexpr int plainEntries = 5;
 
-    /// changed: called when something has changed that is stored.
+    /// changed: called when the own state has changed, or something that is stored.
     OwnState(Common &common, ContactList &contacts, PresenceSender &sender, Announcement &announcement, MainLog &log,
              OwnStateView &view, std::function<void()> changed);
 

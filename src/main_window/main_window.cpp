@@ -1,5 +1,6 @@
 #include "main_window/main_window.h"
 
+#include "base/limits.h"
 #include "base/remote_text.h"
 #include "base/settings.h"
 #include "main_window/offer_good_copy.h"
@@ -10,6 +11,25 @@ namespace nimb
 QString mainCaption(const QString &nickname)
 {
     return QLatin1String("NIMB-Chat 1.2 - ") + nickname;
+}
+
+MainWindow::MainWindow(Parts parts) : m_parts(std::move(parts))
+{
+    const ContactList &contacts = m_parts.contacts;
+    QObject::connect(&contacts, &ContactList::unreadChanged, &contacts, [this] { showInTray(); });
+}
+
+void MainWindow::showInTray()
+{
+    if (!m_isInTray)
+        return;
+    const int unread = m_parts.contacts.unread();
+    QString tip = tr("NIMB-Chat: %1, %2")
+                      .arg(paintedName(m_parts.common.ownNickname, limits::trayNameLength),
+                           baseName(m_parts.common.ownPresence.base));
+    if (unread > 0)
+        tip = tr("%1, %2 unread").arg(tip, QString::number(unread));
+    m_parts.tray.setUnread(unread, tip);
 }
 
 void MainWindow::Form_Load()
@@ -31,6 +51,8 @@ void MainWindow::Form_Load()
     m_parts.recovery.takeOver();
     m_parts.announcement.run();
     m_parts.tray.AddIcon(QStringLiteral("NIMB-Chat"));
+    m_isInTray = true;
+    showInTray();
     m_parts.recovery.begin(settings.personalizedStates);
 }
 
@@ -82,6 +104,7 @@ void MainWindow::endWithoutWindows()
 void MainWindow::answerNobody()
 {
     m_ended = true;
+    m_isInTray = false;
     m_parts.socket.DataArrival = nullptr;
     m_parts.recovery.end();
     m_parts.networks.end();

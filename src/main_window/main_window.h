@@ -53,13 +53,15 @@ public:
         MainWindowView &view;
     };
 
-    explicit MainWindow(Parts parts) : m_parts(std::move(parts)) { }
+    explicit MainWindow(Parts parts);
 
     void Form_Load();
     /// Whether the window is to be unloaded, or what else happens to it.
     CloseDecision Form_QueryUnload(UnloadMode mode);
     /// The user moved the window or gave it another height.
     void placeChanged() { m_parts.recovery.settingsChanged(); }
+    /// Something may have changed that the tray icon says: nickname, state, how many messages are unread.
+    void showInTray();
     /// Ends everything that the window owns: windows are unloaded, contacts told, contacts and settings saved.
     void Form_Unload();
     /// The same for a program whose screen is gone, as far as it can be: no window is touched.
@@ -73,6 +75,7 @@ private:
     void renewGoodCopy();
 
     Parts m_parts;
+    bool m_isInTray = false;
     bool m_saidWhyMinimised = false;
     bool m_ended = false;
 };

@@ -1,4 +1,5 @@
 // The program's pictures, in a process that finds no plugin but the one that draws windows.
+#include "main_window/Tray.h"
 #include "widgets/picture_label.h"
 #include "widgets/pictures.h"
 
@@ -211,6 +212,19 @@ TEST(PictureLabel, TakesTheNewTextColourWhenItChanges)
     label.show();
     const Palette dark(Qt::white, Qt::black);
     EXPECT_TRUE(QTest::qWaitFor([&] { return hasOnlyColour(label.pixmap().toImage(), Qt::white); }));
+}
+
+TEST(TrayIcon, BearsABadgeAtEverySizeAndTheNumberWhereItCanBeRead)
+{
+    const QIcon one = badgedIcon(programIcon(), 1), many = badgedIcon(programIcon(), 12);
+    for (const int side : {16, 22, 24, 32, 48, 64}) {
+        const QSize size(side, side);
+        const QImage plain = programIcon().pixmap(size, 1.0).toImage(), badged = one.pixmap(size, 1.0).toImage();
+        EXPECT_TRUE(showsColour(badged, QColor(0xC6, 0x28, 0x28))) << side;
+        EXPECT_FALSE(showsColour(plain, QColor(0xC6, 0x28, 0x28))) << side;
+        EXPECT_EQ(badged.pixelColor(1, 1), plain.pixelColor(1, 1)) << side;
+        EXPECT_EQ(badged != many.pixmap(size, 1.0).toImage(), side > 16) << side;
+    }
 }
 
 } // namespace

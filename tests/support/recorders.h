@@ -412,6 +412,11 @@ public:
         shown = available;
         steps.push_back("AddIcon " + ToolTip.toStdString());
     }
+    void setUnread(int number, const QString &ToolTip) override
+    {
+        unread = number;
+        tip = ToolTip.toStdString();
+    }
     void removeIcon() override
     {
         shown = false;
@@ -422,6 +427,8 @@ public:
     Steps &steps;
     bool available = true;
     bool shown = false;
+    int unread = 0;
+    std::string tip;
 };
 
 class RecorderWindows : public SecondaryWindows

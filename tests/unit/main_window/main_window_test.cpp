@@ -27,6 +27,35 @@ TEST(MainWindowLoad, SetsCaptionPlaceBannerPortsContactsAndIcon)
     EXPECT_THAT(copy.steps, ElementsAre("AddIcon NIMB-Chat"));
 }
 
+TEST(TrayTip, SaysNicknameStateAndHowManyAreUnread)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}}});
+    copy.settleStart({"10.0.0.2", "10.0.0.3"});
+    EXPECT_EQ(copy.tray.tip, "NIMB-Chat: Me, Online");
+    EXPECT_EQ(copy.tray.unread, 0);
+    copy.arrive("10.0.0.2", "-one");
+    copy.arrive("10.0.0.3", "-two");
+    EXPECT_EQ(copy.tray.tip, "NIMB-Chat: Me, Online, 2 unread");
+    EXPECT_EQ(copy.tray.unread, 2);
+    copy.engine.ownState().choose(3);
+    EXPECT_EQ(copy.tray.tip, "NIMB-Chat: Me, Away, 2 unread");
+    copy.window(1).inBackground = false;
+    copy.window(1).chat.endSeen();
+    EXPECT_EQ(copy.tray.tip, "NIMB-Chat: Me, Away, 1 unread");
+    copy.engine.contacts().remove(QStringLiteral("10.0.0.3"));
+    EXPECT_EQ(copy.tray.tip, "NIMB-Chat: Me, Away");
+    EXPECT_EQ(copy.tray.unread, 0);
+}
+
+TEST(TrayTip, OfALongNicknameTheCountIsStillSeen)
+{
+    Copy copy({.nickname = QString(200, u'x'), .contacts = {{"10.0.0.2", "Ann"}}});
+    copy.engine.ownState().choose(4);
+    copy.engine.contacts().change(QStringLiteral("10.0.0.2"), [](Contact &contact) { contact.waitingMessages = 999; });
+    EXPECT_EQ(copy.tray.tip, "NIMB-Chat: " + std::string(20, 'x') + "\u2026, Invisible, 999 unread");
+    EXPECT_LE(QString::fromStdString(copy.tray.tip).size(), 63);
+}
+
 TEST(MainWindowLoad, WithNoSettingStoredThePortIs5549)
 {
     EXPECT_EQ(Copy().socket.localPort, 5549);
