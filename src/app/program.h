@@ -38,6 +38,18 @@ namespace nimb
 /// All arguments joined by single blanks.
 QString commandLineOf(int argc, char *argv[]);
 
+/// Two sounds that do not wait for each other.
+class ProgramSounds : public Sound
+{
+public:
+    void playAlarm() override { m_alarm.play(); }
+    void playNotice() override { m_notice.play(); }
+
+private:
+    SoundPlayer m_alarm{findProgramFile(QStringLiteral("alarm.wav"))};
+    SoundPlayer m_notice{findProgramFile(QStringLiteral("notice.wav"))};
+};
+
 class Program : public StartUpSteps
 {
     Q_DECLARE_TR_FUNCTIONS(Program)
@@ -86,7 +98,7 @@ private:
     SystemChance m_chance;
     MessageBoxes m_prompts;
     PlainToolTips m_toolTips;
-    SoundPlayer m_sound;
+    ProgramSounds m_sound;
     DesktopLinkOpener m_links;
     SystemPictureSources m_pictures;
     HostNameResolver m_names;

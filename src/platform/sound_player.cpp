@@ -56,7 +56,7 @@ Wave waveIn(const QString &path)
     if (!decoder.open(QIODevice::ReadOnly) || !decoder.audioFormat().isValid())
         return {};
     const QAudioFormat format = decoder.audioFormat();
-    QByteArray samples = decoder.read(SoundPlayer::longestAlarm);
+    QByteArray samples = decoder.read(SoundPlayer::longestSound);
     samples.chop(samples.size() % format.bytesPerFrame());
     const char silence = format.sampleFormat() == QAudioFormat::UInt8 ? '\x80' : '\0';
     samples.append(format.bytesForDuration(silenceAtEnd), silence);
@@ -65,7 +65,7 @@ Wave waveIn(const QString &path)
 
 } // namespace
 
-SoundPlayer::SoundPlayer(std::optional<QString> alarmFile) : m_alarmFile(std::move(alarmFile))
+SoundPlayer::SoundPlayer(std::optional<QString> file) : m_file(std::move(file))
 {
     m_next.setSingleShot(true);
     m_next.callOnTimeout([this] { start(); });
@@ -73,7 +73,7 @@ SoundPlayer::SoundPlayer(std::optional<QString> alarmFile) : m_alarmFile(std::mo
 
 SoundPlayer::~SoundPlayer() = default;
 
-void SoundPlayer::playAlarm()
+void SoundPlayer::play()
 {
     if (m_next.isActive())
         return;
@@ -93,16 +93,16 @@ void SoundPlayer::start()
             m_samples.seek(0);
         return;
     }
-    if (!m_alarmFile || !QFile::exists(*m_alarmFile))
+    if (!m_file || !QFile::exists(*m_file))
         return;
     const QAudioDevice device = defaultDevice();
     if (!device.isNull())
-        play(device);
+        playOn(device);
 }
 
-void SoundPlayer::play(const QAudioDevice &device)
+void SoundPlayer::playOn(const QAudioDevice &device)
 {
-    const Wave wave = waveIn(*m_alarmFile);
+    const Wave wave = waveIn(*m_file);
     if (!wave.format.isValid())
         return;
     // A new one each time: it takes the device that is there now, and no connection that broke meanwhile.

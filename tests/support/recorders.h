@@ -366,8 +366,10 @@ class RecorderSound : public Sound
 {
 public:
     void playAlarm() override { ++alarms; }
+    void playNotice() override { ++notices; }
 
     int alarms = 0;
+    int notices = 0;
 };
 
 class RecorderLinks : public LinkOpener

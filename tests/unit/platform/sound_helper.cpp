@@ -1,4 +1,4 @@
-// Plays the alarm when told to. A process of its own, for Qt looks for a sound server only once in a process.
+// Plays a sound when told to. A process of its own, for Qt looks for a sound server only once in a process.
 //   sound_helper [FILE]       FILE in place of the alarm that ships
 // Commands on standard input, each answered with a line "done" when the call has returned:
 //   play TIMES
@@ -17,7 +17,7 @@ namespace
 {
 
 /// False at the end of the input.
-bool obey(nimb::Sound &sound)
+bool obey(nimb::SoundPlayer &sound)
 {
     std::string word;
     int number = 0;
@@ -29,13 +29,13 @@ bool obey(nimb::Sound &sound)
         std::cin >> word;
     }
     for (int i = 0; i < number && word == "play"; ++i)
-        sound.playAlarm();
+        sound.play();
     std::puts("done");
     std::fflush(stdout);
     return true;
 }
 
-int run(nimb::Sound &sound)
+int run(nimb::SoundPlayer &sound)
 {
     QSocketNotifier input(fileno(stdin), QSocketNotifier::Read);
     QObject::connect(&input, &QSocketNotifier::activated, &input, [&sound] {
