@@ -4,6 +4,7 @@
 #include "log/rich_text_log.h"
 #include "main_window/frmMain.h"
 #include "notify/frmNotify.h"
+#include "protocol/address_text.h"
 #include "welcome/frmLogin.h"
 #include "widgets/pictures.h"
 
@@ -20,8 +21,8 @@ FormOpener::~FormOpener() = default;
 void FormOpener::loadNotify(bool placed)
 {
     m_notify = std::make_unique<frmNotify>(m_slide);
-    QObject::connect(m_notify.get(), &frmNotify::contactWanted, m_notify.get(),
-                     [this](const QString &ip) { showContact(ip); });
+    QObject::connect(m_notify.get(), &frmNotify::opened, m_notify.get(),
+                     [this](const NoticePlace &place) { openNotice(place); });
     if (placed)
         m_slide.Form_Load(*m_notify);
 }
@@ -55,6 +56,7 @@ frmMain &FormOpener::makeMain()
 
 void FormOpener::connectMain(Messenger &engine, std::function<QString()> statusNotes, std::function<void()> ended)
 {
+    m_engine = &engine;
     m_dialogs.emplace(m_services, engine, *m_main);
     m_invitations = std::make_unique<frmConfInvitations>(engine.invitations());
     m_main->connectControls({engine.mainWindow(), engine.contacts(), engine.avatars(), engine.contactCommands(),
@@ -74,10 +76,14 @@ void FormOpener::destroyMain()
     m_main.reset();
 }
 
-void FormOpener::showContact(const QString &ip)
+void FormOpener::openNotice(const NoticePlace &place)
 {
-    if (m_main)
-        m_main->showContact(ip);
+    if (!m_main || !m_engine)
+        return;
+    if (place.window == NoticeWindow::main)
+        m_main->showContact(addressText(place.ip));
+    else
+        m_engine->openNotice(place);
 }
 
 QIcon FormOpener::trayIcon() const

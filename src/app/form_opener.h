@@ -40,8 +40,9 @@ public:
     /// window has been unloaded.
     void connectMain(Messenger &engine, std::function<QString()> statusNotes, std::function<void()> ended);
     void destroyMain();
-    /// Brings the main window back with this contact selected.
-    void showContact(const QString &ip);
+    /// Opens what a notice, or a row of the pop-up, was about: the main window with that contact selected, or the
+    /// window in which something has arrived.
+    void openNotice(const NoticePlace &place);
     QIcon trayIcon() const;
 
     void showTipOfTheDay() { m_dialogs->mnuTOTD(); }
@@ -66,6 +67,7 @@ private:
     std::unique_ptr<frmConfInvitations> m_invitations;
     frmLogin *m_login = nullptr;           ///< while it is shown
     std::optional<DialogOpener> m_dialogs; ///< from connectMain() on
+    Messenger *m_engine = nullptr;         ///< likewise
 };
 
 } // namespace nimb

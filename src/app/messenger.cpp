@@ -6,33 +6,36 @@ namespace nimb
 Messenger::Messenger(Common &common, const Surroundings &around)
     : m_socket(around.socket), m_ownAddresses(around.ownAddresses), m_nextStart(around.nextStart),
       m_windows(around.windows), m_admission(common, m_contacts, around.ownAddresses, around.drops),
-      m_log(around.mainView.outtext(), around.clock), m_unknown(m_log, around.timers), m_sender(common, around.socket),
+      m_log(around.mainView.outtext(), around.clock),
+      m_notices({common, m_contacts, around.notifications, around.sound, around.timers}),
+      m_unknown(m_log, around.timers), m_sender(common, around.socket),
       m_announcement(common, m_contacts, m_sender, around.timers, around.clock, around.mainView),
-      m_ownState(common, m_contacts, m_sender, m_announcement, m_log, around.mainView,
-                 [this] { ownStateChanged(); }),
+      m_ownState(common, m_contacts, m_sender, m_announcement, m_log, around.mainView, [this] { ownStateChanged(); }),
       m_recovery({common, around.store, m_contacts, m_ownState, around.timers, m_log, around.mainView}),
       m_port(around.socket, common, around.timers, m_log, around.mainView,
              [this] { m_announcement.runUnlessInvisible(); }),
       m_networks({common, around.socket, around.ownAddresses, around.networkWatch, m_port, m_announcement, m_log,
                   around.mainView, around.timers, around.chance, [this] { m_conferences.ownAddressChanged(); }}),
       m_privateWindows({{common, around.socket, around.clock}, around.sound, around.timers, around.privateForms},
-                       m_contacts, around.drops),
+                       m_contacts, m_notices, around.drops),
       m_search({common, m_sender, m_contacts, around.ownAddresses, m_log, around.mainView, around.timers}),
-      m_sameMachine(m_contacts, m_log),
-      m_presence(common, m_admission, m_contacts, m_sender, m_log, m_privateWindows, around.notifications, around.clock,
-                 {&m_search, &m_sameMachine}, around.drops),
+      m_sameMachine(m_contacts, m_log), m_presence(common, m_admission, m_contacts, m_sender, m_log, m_privateWindows,
+                                                   m_notices, around.clock, {&m_search, &m_sameMachine}, around.drops),
       m_activity(around.timers, around.mainView), m_avatars(m_contacts),
       m_ownAvatar(common, around.socket, m_log, around.timers, around.clock, around.drops),
-      m_peerFeatures({common, m_contacts, around.socket, m_privateWindows, m_avatars, m_ownAvatar, m_activity,
-                      around.sound, around.drops}),
-      m_sharedContacts(m_admission, m_contacts, m_log, around.drops), m_conferences({{common, around.socket, around.clock},
-                                                                  m_contacts,
-                                                                  m_avatars,
-                                                                  m_ownAvatar,
-                                                                  around.prompts,
-                                                                  around.conferenceForms},
-                                                                 around.mainView),
-      m_invitations({common, around.socket, m_contacts, around.timers, around.clock, around.store, m_conferences}),
+      m_peerFeatures({common, m_contacts, around.socket, m_privateWindows, m_avatars, m_ownAvatar, m_activity, m_log,
+                      m_notices, around.sound, around.drops}),
+      m_sharedContacts(m_admission, m_contacts, m_log, around.drops),
+      m_conferences({{common, around.socket, around.clock},
+                     m_contacts,
+                     m_avatars,
+                     m_ownAvatar,
+                     around.prompts,
+                     m_notices,
+                     around.conferenceForms},
+                    around.mainView),
+      m_invitations(
+          {common, around.socket, m_contacts, around.timers, around.clock, around.store, m_conferences, m_notices}),
       m_conferenceCommands({common, m_admission, around.socket, m_contacts, m_avatars, m_sender, m_conferences,
                             m_invitations, around.timers, around.drops}),
       m_contactCommands({common, around.socket, around.sound, around.prompts, m_log}, m_contacts, m_privateWindows),
@@ -63,6 +66,31 @@ void Messenger::ownStateChanged()
 {
     m_recovery.settingsChanged();
     m_mainWindow.showInTray();
+}
+
+void Messenger::openNotice(const NoticePlace &place)
+{
+    switch (place.window) {
+    case NoticeWindow::main:
+        return;
+    case NoticeWindow::privateChat:
+        return m_privateWindows.openPrivate(place.ip);
+    case NoticeWindow::conference:
+        if (Conference *const conference = m_conferences.at(place.conference))
+            conference->view().showWindow();
+        return;
+    case NoticeWindow::invitations:
+        return m_invitations.mnushowinvitations();
+    }
+}
+
+void Messenger::answerNotice(const NoticePlace &place, const QString &text)
+{
+    Conference *const conference = m_conferences.at(place.conference);
+    if (place.window == NoticeWindow::privateChat)
+        m_privateWindows.answer(place.ip, text);
+    else if (place.window == NoticeWindow::conference && conference)
+        conference->answer(text);
 }
 
 void Messenger::unloadOtherWindows()

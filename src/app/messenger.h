@@ -11,6 +11,7 @@
 #include "main_window/contact_commands.h"
 #include "main_window/main_window.h"
 #include "main_window/recovery.h"
+#include "notify/notices.h"
 #include "people/search.h"
 #include "private_chat/peer_features.h"
 #include "private_chat/private_windows.h"
@@ -68,6 +69,11 @@ public:
     const AvatarStore &avatars() const { return m_avatars; }
     ConferenceTable &conferences() { return m_conferences; }
     Invitations &invitations() { return m_invitations; }
+    Notices &notices() { return m_notices; }
+    /// The user turns to what a notice was about; there is nothing to open for the main window.
+    void openNotice(const NoticePlace &place);
+    /// The user has written a text back to it.
+    void answerNotice(const NoticePlace &place, const QString &text);
     ReceiveDispatcher &dispatcher() { return m_dispatcher; }
 
 private:
@@ -82,6 +88,7 @@ private:
     ContactList m_contacts;
     Admission m_admission;
     MainLog m_log;
+    Notices m_notices;
     UnknownDatagrams m_unknown;
     PresenceSender m_sender;
     Announcement m_announcement;

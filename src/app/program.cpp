@@ -109,11 +109,15 @@ void Program::loadNotify()
     m_login.emplace(m_common, m_store, m_socket);
     const bool placed = !DesktopNotifications::areNeeded();
     m_forms.loadNotify(placed);
-    if (placed)
-        return;
-    m_desktopNotifications.emplace(m_common, QDBusConnection::sessionBus());
-    QObject::connect(&*m_desktopNotifications, &DesktopNotifications::contactWanted, &*m_desktopNotifications,
-                     [this](const QString &ip) { m_forms.showContact(ip); });
+    m_notifications.emplace(m_common, m_forms.notifications(), placed,
+                            NotificationRouter::Reactions{
+                                .open = [this](const NoticePlace &place) { m_forms.openNotice(place); },
+                                .answer =
+                                    [this](const NoticePlace &place, const QString &text) {
+                                        if (m_engine)
+                                            m_engine->answerNotice(place, text);
+                                    },
+                            });
 }
 
 bool Program::offerGoodCopy()
@@ -138,11 +142,9 @@ void Program::loadMain()
     frmMain &window = m_forms.makeMain();
     m_prompts.setParentWindow(&window);
     m_tray.emplace(m_forms.trayIcon(), [&window] { window.restore(); });
-    Notifications &notifications
-        = m_desktopNotifications ? static_cast<Notifications &>(*m_desktopNotifications) : m_forms.notifications();
     m_engine.emplace(m_common,
                      Surroundings{m_socket, m_store, m_store, m_nextStart, m_timers, m_clock, m_ownAddresses,
-                                  m_networkWatch, m_chance, m_prompts, notifications, m_sound, *m_tray, m_forms,
+                                  m_networkWatch, m_chance, m_prompts, *m_notifications, m_sound, *m_tray, m_forms,
                                   m_forms.conversations(), m_forms.conversations(), window, m_drops});
     m_forms.connectMain(
         *m_engine, [this] { return statusNotes(); }, [] { QCoreApplication::exit(0); });

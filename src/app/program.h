@@ -3,9 +3,9 @@
 
 #include "app/form_opener.h"
 #include "app/messenger.h"
+#include "app/notification_router.h"
 #include "base/window_openers.h"
 #include "main_window/Tray.h"
-#include "platform/desktop_notifications.h"
 #include "platform/environment.h"
 #include "platform/link_opener.h"
 #include "platform/name_resolver.h"
@@ -106,7 +106,7 @@ private:
     SystemInfo m_systemInfo;
     SystemNetworkDiagnosis m_diagnosis;
     FormOpener m_forms;
-    std::optional<DesktopNotifications> m_desktopNotifications;
+    std::optional<NotificationRouter> m_notifications;
     std::optional<Login> m_login;
     std::optional<Tray> m_tray;
     std::optional<Messenger> m_engine;

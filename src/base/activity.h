@@ -1,8 +1,10 @@
-// The "activity" panel of the main window's status bar: what a peer has just done.
+// What a peer has just done, as the main window shows it for a moment: the "activity" panel of its status bar, and a
+// row of the contact list that flashes.
 #pragma once
 
 #include "base/main_window_view.h"
 #include "base/timers.h"
+#include "protocol/address_text.h"
 
 namespace nimb
 {
@@ -21,6 +23,9 @@ public:
         m_view.setActivityPanel(text);
         m_timer2->start();
     }
+
+    /// Turns the eye to the contact with this address.
+    void flash(Ipv4Address ip) { m_view.flashContact(addressText(ip)); }
 
 private:
     static constexpr std::chrono::milliseconds timeShown{2500};

@@ -68,6 +68,12 @@ constexpr int invitationsOfHost = 50;
 constexpr std::size_t participants = 1000;
 /// Rows that wait in the notification window.
 constexpr qsizetype notifications = 100;
+/// Characters of a message that its notice shows.
+constexpr qsizetype noticeLength = 200;
+/// Senders of whom one is told together: more of them are no news but a nuisance, and the list counts what they sent.
+constexpr std::size_t noticesAtOnce = 10;
+/// Time between two of these, and between two sounds.
+constexpr std::chrono::milliseconds noticePause{1000};
 /// Peers of whom is remembered which own address leads to them: more than there are contacts, and no scan of many
 /// networks fills the memory.
 constexpr std::size_t waysRemembered = 20000;

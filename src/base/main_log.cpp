@@ -51,6 +51,11 @@ void MainLog::changedState(const QString &name, const QString &state)
     line(opening() + tr("%1 changed his state to '%2'  ---").arg(name, state), colours::stateChange);
 }
 
+void MainLog::buzzed(const QString &name)
+{
+    line(opening() + tr("%1 buzzes you ---").arg(name), colours::presence);
+}
+
 void MainLog::sentContact(const QString &sender, const QString &name, const QString &address)
 {
     line(opening() + tr("%1 sent you the contact '%2' (%3) ---").arg(sender, name, address), colours::presence);

@@ -35,6 +35,8 @@ public:
     void wentOffline(const QString &name);
     /// state: the state word alone.
     void changedState(const QString &name, const QString &state);
+    /// A buzz that no window shows.
+    void buzzed(const QString &name);
     /// sender: who sent the contact of that name.
     void sentContact(const QString &sender, const QString &name, const QString &address);
     /// data: the whole datagram.

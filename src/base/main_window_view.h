@@ -55,6 +55,8 @@ class ActivityView
 public:
     virtual ~ActivityView() = default;
     virtual void setActivityPanel(const QString &text) = 0;
+    /// The row of this contact flashes; one that is not shown does not.
+    virtual void flashContact(const QString &ip) = 0;
 };
 
 /// How far a search through many addresses has come.

@@ -40,10 +40,15 @@ struct Options {
     Switch notifyWindow = true;
     Switch liveType = true;
     Switch closeBoxHides = false;
+    Switch notifyMessages = true;
+    Switch showMessageText = true;
+    Switch soundForMessage = false;
+    Switch soundForOnline = false;
+    Switch soundForInvitation = false;
 };
 
 /// The groups of the options dialog.
-enum class OptionGroup { sounds, privateWindows, mainWindow };
+enum class OptionGroup { sounds, privateWindows, mainWindow, notices };
 
 /// A check box or option button of the options dialog: its fixed object name, and its caption, which the dialog
 /// translates.
@@ -109,14 +114,15 @@ inline constexpr std::array optionRows = {
                       .caption = QT_TRANSLATE_NOOP("nimb::frmOptions",
                                                    "Closing a private window only hides it and &keeps its messages")},
               .inverted = true},
-    OptionRow{
-        .key = "NotifyWin",
-        .member = &Options::notifyWindow,
-        .meaning = "the pop-up tells who comes and goes",
-        .group = OptionGroup::sounds,
-        .box = {.name = "DisableNotify", .caption = QT_TRANSLATE_NOOP("nimb::frmOptions", "Disable &notify window")},
-        .inverted = true,
-        .toolTip = QT_TRANSLATE_NOOP("nimb::frmOptions", "Ticked: nothing slides in when a contact comes or goes")},
+    OptionRow{.key = "NotifyWin",
+              .member = &Options::notifyWindow,
+              .meaning = "the pop-up slides in and tells what happens",
+              .group = OptionGroup::sounds,
+              .box
+              = {.name = "DisableNotify", .caption = QT_TRANSLATE_NOOP("nimb::frmOptions", "Disable &notify window")},
+              .inverted = true,
+              .toolTip = QT_TRANSLATE_NOOP("nimb::frmOptions",
+                                           "Ticked: nothing slides in, neither who comes and goes nor what arrives")},
     OptionRow{.key = "LiveType",
               .member = &Options::liveType,
               .meaning = "live typing is on in new private windows",
@@ -131,6 +137,39 @@ inline constexpr std::array optionRows = {
               .box = {.name = "XtoMinimizeCheck",
                       .caption = QT_TRANSLATE_NOOP(
                           "nimb::frmOptions", "The &close box hides the main window (the tray icon brings it back)")}},
+    OptionRow{.key = "NotifyMessages",
+              .member = &Options::notifyMessages,
+              .meaning = "what arrives while its window is not active is told",
+              .group = OptionGroup::notices,
+              .box = {.name = "notifyMessagesBox",
+                      .caption = QT_TRANSLATE_NOOP("nimb::frmOptions", "Tell of messages and in&vitations")},
+              .toolTip = QT_TRANSLATE_NOOP("nimb::frmOptions",
+                                           "While their window is not active, and you are not busy; a contact that is "
+                                           "muted is never told of")},
+    OptionRow{.key = "NotifyMessageText",
+              .member = &Options::showMessageText,
+              .meaning = "with what it says",
+              .group = OptionGroup::notices,
+              .box = {.name = "showMessageTextBox",
+                      .caption = QT_TRANSLATE_NOOP("nimb::frmOptions", "S&how what a message says")}},
+    OptionRow{.key = "SoundMessage",
+              .member = &Options::soundForMessage,
+              .meaning = "a message that is told of sounds",
+              .group = OptionGroup::notices,
+              .box
+              = {.name = "soundMessageBox", .caption = QT_TRANSLATE_NOOP("nimb::frmOptions", "Sound &with a message")}},
+    OptionRow{.key = "SoundOnline",
+              .member = &Options::soundForOnline,
+              .meaning = "a contact that comes online sounds",
+              .group = OptionGroup::notices,
+              .box = {.name = "soundOnlineBox",
+                      .caption = QT_TRANSLATE_NOOP("nimb::frmOptions", "Sound when some&body comes online")}},
+    OptionRow{.key = "SoundInvitation",
+              .member = &Options::soundForInvitation,
+              .meaning = "an invitation that is told of sounds",
+              .group = OptionGroup::notices,
+              .box = {.name = "soundInvitationBox",
+                      .caption = QT_TRANSLATE_NOOP("nimb::frmOptions", "Sound with ever&y invitation")}},
 };
 
 } // namespace nimb

@@ -102,10 +102,20 @@ Conference::Writer Conference::writerOf(Ipv4Address ip) const
 void Conference::ReceiveMessage(Ipv4Address IP, const QString &msg)
 {
     const QString text = trimmedMessage(msg);
-    appendReceived(writerOf(IP), remoteBody(text));
+    const Writer writer = writerOf(IP);
+    const QString body = remoteBody(text);
+    appendReceived(writer, body);
+    if (conversationView().isMinimisedOrInactive())
+        m_services.notices.conferenceMessage(IP, m_identity.fConfN, writer.name, body);
     if (isHostedHere())
         relay(text, IP);
     showAvatarOf(IP);
+}
+
+void Conference::answer(const QString &text)
+{
+    // Without a text there is nothing to send, and nobody to tell.
+    [[maybe_unused]] const bool isSent = send(remoteBody(text));
 }
 
 void Conference::ownAddressChanged()

@@ -8,6 +8,7 @@
 #include "contacts/contact_list.h"
 #include "contacts/own_avatar.h"
 #include "conversation/conversation.h"
+#include "notify/notices.h"
 #include "protocol/datagram.h"
 
 namespace nimb
@@ -26,6 +27,7 @@ public:
         const AvatarStore &avatars;
         OwnAvatar &ownAvatar;
         Prompts &prompts;
+        Notices &notices;
         ConferenceForms &forms;
     };
     /// Which conference it is.
@@ -66,12 +68,15 @@ public:
     CloseDecision Form_QueryUnload(UnloadMode mode) override;
     /// Tells the others. sayGoodbye: whether a guest still has to leave.
     void Form_Unload(bool sayGoodbye);
+    /// Sends a text that was written elsewhere than in the window, which shows it.
+    void answer(const QString &text);
 
 private:
     ConversationView &conversationView() const override { return m_view->conversation(); }
     QString openingLine(const QString &date, const QString &time) const override;
     QString textToSend(const QString &typed) const override;
     void deliver(const QString &text) override;
+    void allRead() override { m_services.notices.conferenceSeen(m_identity.fConfN); }
 
     QString caption() const;
     Writer writerOf(Ipv4Address ip) const;

@@ -114,6 +114,7 @@ void ConferenceTable::unload(int slot)
     if (!conference)
         return;
     takeLeave(*conference);
+    m_services.notices.conferenceSeen(slot);
     m_menu.setInvite2ConfVisible(slot, false);
 }
 

@@ -144,6 +144,13 @@ void frmConfInvitations::showWindow()
     activateWindow();
 }
 
+void frmConfInvitations::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActive())
+        m_invitations.Form_Activate();
+}
+
 void frmConfInvitations::closeEvent(QCloseEvent *event)
 {
     event->ignore();

@@ -24,10 +24,12 @@ public:
     void showWithoutFocus() override;
     void showWindow() override;
     void hideWindow() override { hide(); }
+    bool isActive() const override { return isActiveWindow() && !isMinimized(); }
     void setAutoRefusal(bool on, int minutes) override;
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void buildControls();

@@ -184,7 +184,20 @@ bool Invitations::arrived(Ipv4Address host, std::int16_t number)
         m_timer1->start();
     if (m_view)
         m_view->showWithoutFocus();
+    tell(host, contact->nickname);
     return true;
+}
+
+void Invitations::tell(Ipv4Address host, const QString &name)
+{
+    if (!m_view || !m_view->isActive())
+        m_services.notices.invitation(host, name);
+}
+
+void Invitations::Form_Activate()
+{
+    for (int row = 0; row < m_list.rowCount(); ++row)
+        m_services.notices.seen({NoticeWindow::invitations, m_list.at(row).host});
 }
 
 void Invitations::closed(Ipv4Address host, std::int16_t number)

@@ -64,6 +64,7 @@ public:
     virtual void showWithoutFocus() = 0;
     virtual void showWindow() = 0;
     virtual void hideWindow() = 0;
+    virtual bool isActive() const = 0;
     virtual void setAutoRefusal(bool on, int minutes) = 0;
 };
 
@@ -81,6 +82,7 @@ public:
         const WallClock &clock;
         SettingsStore &store;
         ConferenceTable &conferences;
+        Notices &notices;
     };
 
     explicit Invitations(const Services &services);
@@ -96,6 +98,8 @@ public:
     void closed(Ipv4Address host, std::int16_t number);
 
     void mnushowinvitations();
+    /// The window has become the active one.
+    void Form_Activate();
     /// A row that is not there, or not to be answered any more, is left alone.
     void ConfAgreebtn_Click(int row);
     void ConfDenybtn_Click(int row);
@@ -115,6 +119,7 @@ private:
     bool isToBeAutorefused(const Invitation &invitation) const;
     void Timer1_Timer();
     void deny(int row);
+    void tell(Ipv4Address host, const QString &name);
     void RefreshVisibility();
 
     Services m_services;

@@ -47,10 +47,12 @@ void emptyRest(SettingsStore &store, int end)
 {
     emptyValue(store, QLatin1String("Nn"), end);
     emptyValue(store, QLatin1String("Ws"), end);
+    emptyValue(store, QLatin1String("Mt"), end);
     for (int n = end + 1;; ++n) {
         const bool ip = emptyValue(store, QLatin1String("IP"), n);
         const bool nickname = emptyValue(store, QLatin1String("Nn"), n);
         const bool workstation = emptyValue(store, QLatin1String("Ws"), n);
+        emptyValue(store, QLatin1String("Mt"), n);
         if (!ip && !nickname && !workstation)
             return;
     }
@@ -332,6 +334,7 @@ void ContactList::load(const SettingsStore &store)
         contact.ip = ip;
         contact.nickname = nameOrUnknown(store.read(usersSection, QLatin1String("Nn") + number, {}));
         contact.workstation = nameOrUnknown(store.read(usersSection, QLatin1String("Ws") + number, {}));
+        contact.muted = store.read(usersSection, QLatin1String("Mt") + number, {}) == storedMute;
         contact.setUnheard();
         stored.push_back(std::move(contact));
     }
@@ -348,6 +351,11 @@ void ContactList::saveContact(SettingsStore &store, int number, const Contact &c
     store.write(usersSection, QLatin1String("IP") + n, contact.ip.text());
     store.write(usersSection, QLatin1String("Nn") + n, contact.nickname);
     store.write(usersSection, QLatin1String("Ws") + n, contact.workstation);
+    const QString muteKey = QLatin1String("Mt") + n;
+    if (contact.muted)
+        store.write(usersSection, muteKey, storedMute);
+    else if (!store.read(usersSection, muteKey, {}).isEmpty())
+        store.write(usersSection, muteKey, {});
 }
 
 void ContactList::saveEnd(SettingsStore &store, int count)

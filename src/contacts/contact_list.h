@@ -24,6 +24,8 @@ namespace nimb
 inline const QString unknownName = QStringLiteral("[unknown]");
 /// What a participant of a conference is called before it has told its name.
 inline const QString unheardName = QStringLiteral("(unknown)");
+/// What is stored for a contact that is muted, and nothing for the others.
+inline const QString storedMute = QStringLiteral("1");
 /// Address that ends the stored list.
 inline const QString endOfStoredContacts = QStringLiteral("255.255.255.255");
 
@@ -40,6 +42,7 @@ struct Contact {
     bool broughtByPeer = false; ///< in this run, and not by the user; or in a stored list that was full
     bool spokenTo = false;      ///< it has written or been written to, or was buzzed
     bool hasAnswered = false;   ///< a question of this run: more than whoever forges addresses hears of
+    bool muted = false;         ///< the user wants to be told of nothing that it sends
     bool soughtByUser = false;  ///< in this run: its window was opened by the user or typed in, or it was buzzed
     int waitingMessages = 0;    ///< that wait to be read, for it has no window
     int unreadInWindow = 0;     ///< messages in its window that nobody has seen; limits::unreadCounted at most

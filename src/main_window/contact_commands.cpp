@@ -13,10 +13,12 @@ ContactMenuCaptions ContactCommands::captions(const QString &ip, qsizetype selec
         return {tr("&Private Chat"), tr("&Buzz User"), tr("Re&move User"), tr("Send &Contacts"), tr("I&nvite user")};
     const QString name = menuName(contact->nickname);
     return {
-        tr("Private chat with '%1'").arg(name), tr("Buzz '%1'").arg(name),
+        tr("Private chat with '%1'").arg(name),
+        tr("Buzz '%1'").arg(name),
         selected > 1 ? tr("Remove %1 users from the list").arg(selected) : tr("Remove '%1' from the list").arg(name),
         tr("Send &contacts to '%1'").arg(name),
-        (contact->presence == Presence::offline ? tr("&Net send message to '%1'") : tr("I&nvite user '%1'")).arg(name)};
+        (contact->presence == Presence::offline ? tr("&Net send message to '%1'") : tr("I&nvite user '%1'")).arg(name),
+        contact->muted};
 }
 
 QString ContactCommands::toolTip(const QString &ip) const
@@ -64,6 +66,11 @@ QString ContactCommands::whyUnknown(const QString &name) const
     if (m_services.common.isInvisible())
         return tr("whether %1 is there is not known: \"Rescan\" asks, and shows you to your contacts").arg(name);
     return tr("whether %1 is there is not known: \"Rescan\" asks").arg(name);
+}
+
+void ContactCommands::mnuMuteContact(const QString &ip, bool muted)
+{
+    m_contacts.change(ip, [muted](Contact &contact) { contact.muted = muted; });
 }
 
 void ContactCommands::mnuBuzzUser(const QString &ip)

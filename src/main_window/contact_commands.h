@@ -17,6 +17,7 @@ namespace nimb
 /// Captions of the context menu; "&" marks access keys and is doubled in names.
 struct ContactMenuCaptions {
     QString mnuPrivateChat, mnuBuzzUser, mnuRemoveUser, mnusendcontacts, mnuinviteuser;
+    bool isMuted = false;
 };
 
 /// Every command does nothing when there is no contact with the address, an empty one included.
@@ -50,6 +51,8 @@ public:
     /// Where that leads nowhere, or to somebody who hears nothing, the log says why.
     void mnuPrivateChat(const QString &ip);
     void mnuBuzzUser(const QString &ip);
+    /// Whether the user is told of what the contact sends.
+    void mnuMuteContact(const QString &ip, bool muted);
     void mnuRemoveUser(const QString &ip) { removeUsers({ip}); }
     /// Removes these contacts after one question.
     void removeUsers(const QStringList &ips);

@@ -6,6 +6,7 @@
 #include "main_window/main_layout.h"
 #include "main_window/main_window.h"
 #include "main_window/personalized_state_frame.h"
+#include "main_window/row_flash.h"
 #include "main_window/state_chooser.h"
 #include "widgets/bring_back.h"
 #include "widgets/elided_label.h"
@@ -229,6 +230,7 @@ void frmMain::connectMenus()
     on("mnuPrivateChat", [this] { m_engine->commands.mnuPrivateChat(selectedContact()); });
     on("mnuBuzzUser", [this] { m_engine->commands.mnuBuzzUser(selectedContact()); });
     on("mnuRemoveUser", [this] { removeSelected(); });
+    on("mnuMuteContact", [this](bool muted) { m_engine->commands.mnuMuteContact(selectedContact(), muted); });
     on("mnuNetworkscan", [this] { m_engine->windows.mnuNetworkscan(); });
     on("mnuAddUser", [this] { m_engine->windows.mnuAddUser(); });
     on("mnuImportContacts", [this] { m_engine->windows.mnuImportContacts(); });
@@ -661,6 +663,14 @@ void frmMain::setInvite2ConfVisible(int slot, bool visible)
 void frmMain::setActivityPanel(const QString &text)
 {
     m_activity->setText(text);
+}
+
+void frmMain::flashContact(const QString &ip)
+{
+    const Contact *const contact = m_engine ? m_engine->contacts.find(ip) : nullptr;
+    const int row = contact ? m_engine->contacts.rowOf(contact->shownBy.value_or(contact->ip)) : -1;
+    if (row >= 0)
+        flashRow(*ListView1, ListView1->model()->index(row, 0));
 }
 
 void frmMain::setSearchProgress(const std::optional<SearchProgress> &progress)

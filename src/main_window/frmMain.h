@@ -92,6 +92,7 @@ public:
     WindowPlace place() const override;
     void setInvite2ConfVisible(int slot, bool visible) override;
     void setActivityPanel(const QString &text) override;
+    void flashContact(const QString &ip) override;
     void setSearchProgress(const std::optional<SearchProgress> &progress) override;
     void setTroublePanel(const QString &text) override;
     void setNetworkPanel(const QString &text) override;

@@ -97,6 +97,7 @@ inline constexpr std::array contactMenu = {
     MenuEntry{"mnusendcontacts", QT_TRANSLATE_NOOP("MainMenu", "Send &Contacts")},
     MenuEntry{"mnuRemoveUser", QT_TRANSLATE_NOOP("MainMenu", "Re&move User"), "remove-user"},
     MenuEntry{"mnuinviteuser", QT_TRANSLATE_NOOP("MainMenu", "I&nvite user")},
+    MenuEntry{"mnuMuteContact", QT_TRANSLATE_NOOP("MainMenu", "M&ute")},
 };
 
 } // namespace nimb

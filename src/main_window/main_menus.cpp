@@ -51,6 +51,7 @@ void MainMenus::buildContactMenu()
     for (const MenuEntry &item : contactMenu)
         add(*mnuPopUp, item);
     mnuPopUp->setDefaultAction(mnuPopUp->actions().first());
+    entry("mnuMuteContact")->setCheckable(true);
     // Visible while their slot holds a conference.
     for (int slot = 1; slot <= conferenceSlots; ++slot)
         invitation(slot)->setVisible(false);
@@ -77,6 +78,7 @@ void MainMenus::setContact(const ContactMenuCaptions &captions, bool selected)
     entry("mnuRemoveUser")->setText(captions.mnuRemoveUser);
     entry("mnusendcontacts")->setText(captions.mnusendcontacts);
     entry("mnuinviteuser")->setText(captions.mnuinviteuser);
+    entry("mnuMuteContact")->setChecked(captions.isMuted);
 }
 
 void MainMenus::popUp(const QPoint &position)

@@ -10,7 +10,8 @@ namespace
 
 const QString usersSection = QStringLiteral("Users");
 const QString nicknamePrefix = QStringLiteral("Nn:");
-const QString workstationPrefix = QStringLiteral("Ws:");
+const QString workstationPrefix = QStringLiteral("Ws:"); // of the same length
+const QString mutePrefix = QStringLiteral("Mt:");
 
 /// Takes what would be saved.
 class Collector : public SettingsSink
@@ -60,7 +61,8 @@ void Recovery::takeOver(const KeptChange &change)
         return;
     }
     const bool isNickname = change.key.startsWith(nicknamePrefix);
-    if (!isNickname && !change.key.startsWith(workstationPrefix))
+    const bool isMute = change.key.startsWith(mutePrefix);
+    if (!isNickname && !isMute && !change.key.startsWith(workstationPrefix))
         return;
     if (!m_parts.contacts.find(ip)) {
         Contact contact;
@@ -69,7 +71,11 @@ void Recovery::takeOver(const KeptChange &change)
         contact.workstation = unknownName;
         m_parts.contacts.add(std::move(contact));
     }
-    m_parts.contacts.change(ip, [&change, isNickname](Contact &contact) {
+    m_parts.contacts.change(ip, [&change, isNickname, isMute](Contact &contact) {
+        if (isMute) {
+            contact.muted = *change.value == storedMute;
+            return;
+        }
         (isNickname ? contact.nickname : contact.workstation) = nameOrUnknown(*change.value);
         contact.setUnheard();
     });
@@ -81,7 +87,7 @@ void Recovery::begin(const QStringList &storedStates)
         return; // which has been said; trying again and again would help nobody
     m_keptSettings = settings(storedStates);
     for (const ContactAddress &ip : m_parts.contacts.addresses())
-        m_keptContacts.insert(ip, *namesOf(ip));
+        m_keptContacts.insert(ip, *toKeepOf(ip));
     watchContacts();
     m_begun = true;
 }
@@ -111,7 +117,7 @@ void Recovery::watchContacts()
 void Recovery::contactChanged(const Contact &contact)
 {
     const auto kept = m_keptContacts.constFind(contact.ip);
-    if (kept != m_keptContacts.cend() && *kept == Names{contact.nickname, contact.workstation})
+    if (kept != m_keptContacts.cend() && *kept == Kept{contact.nickname, contact.workstation, contact.muted})
         return;
     m_changedContacts.insert(contact.ip);
     wait();
@@ -173,10 +179,10 @@ Recovery::Values Recovery::settings(const QStringList &states) const
     return std::move(collector.values);
 }
 
-std::optional<Recovery::Names> Recovery::namesOf(const ContactAddress &ip) const
+std::optional<Recovery::Kept> Recovery::toKeepOf(const ContactAddress &ip) const
 {
     const Contact *const contact = m_parts.contacts.find(ip);
-    return contact ? std::optional(Names{contact->nickname, contact->workstation}) : std::nullopt;
+    return contact ? std::optional(Kept{contact->nickname, contact->workstation, contact->muted}) : std::nullopt;
 }
 
 Recovery::Changes Recovery::changesOf(const Values &now) const
@@ -199,15 +205,23 @@ void Recovery::addContact(const ContactAddress &ip, Changes &changes) const
         return; // The stored list ends at this address, so it is not stored either.
     const QString nicknameKey = nicknamePrefix + address;
     const QString workstationKey = workstationPrefix + address;
-    if (const std::optional<Names> names = namesOf(ip)) {
-        changes.kept.push_back({usersSection, nicknameKey, names->nickname});
-        changes.kept.push_back({usersSection, workstationKey, names->workstation});
+    const QString muteKey = mutePrefix + address;
+    const bool wasMuted = m_keptContacts.value(ip).muted;
+    if (const std::optional<Kept> now = toKeepOf(ip)) {
+        changes.kept.push_back({usersSection, nicknameKey, now->nickname});
+        changes.kept.push_back({usersSection, workstationKey, now->workstation});
+        if (now->muted || wasMuted)
+            changes.kept.push_back({usersSection, muteKey, now->muted ? storedMute : QString()});
     } else if (m_storedContacts.contains(ip)) {
         changes.kept.push_back({usersSection, nicknameKey, std::nullopt});
         changes.kept.push_back({usersSection, workstationKey, std::nullopt});
+        if (wasMuted)
+            changes.undone.push_back({usersSection, muteKey});
     } else {
         changes.undone.push_back({usersSection, nicknameKey});
         changes.undone.push_back({usersSection, workstationKey});
+        if (wasMuted)
+            changes.undone.push_back({usersSection, muteKey});
     }
 }
 
@@ -215,8 +229,8 @@ void Recovery::keptAre(Values now)
 {
     m_keptSettings = std::move(now);
     for (const ContactAddress &ip : std::exchange(m_changedContacts, {})) {
-        if (std::optional<Names> names = namesOf(ip))
-            m_keptContacts.insert(ip, *std::move(names));
+        if (std::optional<Kept> kept = toKeepOf(ip))
+            m_keptContacts.insert(ip, *std::move(kept));
         else
             m_keptContacts.remove(ip);
     }

@@ -19,8 +19,8 @@ namespace nimb
 
 /// All that is saved when the main window ends, kept beside the stored values soon after it has changed. Settings are
 /// kept as they are stored. A contact is kept by its address, for its number changes with every row that moves: under
-/// "Nn:" and "Ws:" followed by the address, without a value once a stored one is removed. Nothing is kept of others who
-/// are gone: strangers come and go without end.
+/// "Nn:" and "Ws:" followed by the address, and "Mt:" where it is or was muted, without a value once a stored one is
+/// removed. Nothing is kept of others who are gone: strangers come and go without end.
 class Recovery
 {
     Q_DECLARE_TR_FUNCTIONS(Recovery)
@@ -50,10 +50,11 @@ public:
 
 private:
     using Values = std::map<std::pair<QString, QString>, QString>; ///< by section and key
-    struct Names {
+    struct Kept {
         QString nickname;
         QString workstation;
-        bool operator==(const Names &) const = default;
+        bool muted = false;
+        bool operator==(const Kept &) const = default;
     };
 
     void takeOver(const KeptChange &change);
@@ -63,7 +64,7 @@ private:
     void wait();
     void keep();
     Values settings(const QStringList &states) const;
-    std::optional<Names> namesOf(const ContactAddress &ip) const;
+    std::optional<Kept> toKeepOf(const ContactAddress &ip) const;
     struct Changes {
         std::vector<KeptChange> kept;
         std::vector<SettingName> undone;
@@ -79,7 +80,7 @@ private:
     bool m_begun = false;
     bool m_failing = false; ///< and that has been said
     Values m_keptSettings;
-    QHash<ContactAddress, Names> m_keptContacts;
+    QHash<ContactAddress, Kept> m_keptContacts;
     QSet<ContactAddress> m_storedContacts;
     QSet<ContactAddress> m_changedContacts;
 };

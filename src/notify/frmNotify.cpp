@@ -22,12 +22,26 @@ namespace
 using form_layout::margin;
 using form_layout::spacing;
 
-constexpr QSize windowSize(250, 150); // pixels
+constexpr QSize windowSize(320, 150); // pixels
 
 std::int32_t inTwips(int pixels)
 {
     return pixels * twipsPerPixel;
 }
+
+/// Who comes or goes does so behind his name; of what somebody has sent the beginning says most.
+class NotifyDelegate : public PictureDelegate
+{
+public:
+    using PictureDelegate::PictureDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        PictureDelegate::initStyleOption(option, index);
+        option->textElideMode = index.data(NotifyRows::IsNoticeRole).toBool() ? Qt::ElideRight : Qt::ElideMiddle;
+    }
+};
 
 bool anotherScreenShows(const QRect &place)
 {
@@ -77,10 +91,8 @@ void frmNotify::buildControls()
     ListViewNotify = named(new QTreeView(this), "ListViewNotify");
     ListViewNotify->setAccessibleName(tr("What happened"));
     ListViewNotify->setModel(&m_slide.list());
-    ListViewNotify->setItemDelegate(new PictureDelegate(ListViewNotify));
+    ListViewNotify->setItemDelegate(new NotifyDelegate(ListViewNotify));
     ListViewNotify->setHeaderHidden(true);
-    // What happened stands behind the name.
-    ListViewNotify->setTextElideMode(Qt::ElideMiddle);
     ListViewNotify->setRootIsDecorated(false);
     ListViewNotify->setUniformRowHeights(true);
     ListViewNotify->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -100,7 +112,8 @@ void frmNotify::connectControls()
 {
     connect(closebtn, &QPushButton::clicked, this, [this] { m_slide.closebtn_Click(); });
     connect(ListViewNotify, &QTreeView::clicked, this,
-            [this](const QModelIndex &row) { Q_EMIT contactWanted(row.data(NotifyRows::TagRole).toString()); });
+            // A copy, for the row goes as soon as its window is looked at.
+            [this](const QModelIndex &row) { Q_EMIT opened(NoticePlace(m_slide.list().placeOf(row.row()))); });
     connect(&m_slide.list(), &NotifyRows::rowsInserted, ListViewNotify, &QTreeView::scrollToBottom);
     connect(qApp, &QGuiApplication::primaryScreenChanged, this, [this] { m_slide.screenChanged(); });
     connect(qApp, &QGuiApplication::screenAdded, this, &frmNotify::follow);

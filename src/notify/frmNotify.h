@@ -1,4 +1,4 @@
-// The notification pop-up: a list of what contacts did.
+// The notification pop-up: a list of what contacts did and sent.
 #pragma once
 
 #include "notify/notify_slide.h"
@@ -26,8 +26,8 @@ public:
     void SetWindowPos(int left, int top) override;
 
 Q_SIGNALS:
-    /// The row of a contact was clicked.
-    void contactWanted(const QString &ip);
+    /// A row was clicked, which leads there.
+    void opened(const nimb::NoticePlace &place);
 
 private:
     void buildControls();

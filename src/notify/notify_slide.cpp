@@ -4,6 +4,8 @@
 #include "protocol/address_text.h"
 #include "widgets/twips.h"
 
+#include <algorithm>
+
 namespace nimb
 {
 namespace
@@ -20,14 +22,36 @@ constexpr std::int32_t step = 20;
 
 void NotifyRows::add(const Notification &notification)
 {
-    if (rowCount() >= limits::notifications) {
-        beginRemoveRows({}, 0, 0);
-        m_rows.erase(m_rows.begin());
-        endRemoveRows();
-    }
+    append({notification.text, pictureKey(pictureOf(notification.presence)), {.ip = notification.ip}});
+}
+
+void NotifyRows::show(const Notice &notice)
+{
+    withdraw(notice.place);
+    append({notice.line, notice.picture, notice.place});
+}
+
+void NotifyRows::withdraw(const NoticePlace &place)
+{
+    const auto found = std::ranges::find_if(m_rows, [&place](const Row &row) { return row.place == place; });
+    if (place.window != NoticeWindow::main && found != m_rows.end())
+        remove(static_cast<int>(found - m_rows.begin()));
+}
+
+void NotifyRows::append(const Row &row)
+{
+    if (rowCount() >= limits::notifications)
+        remove(0);
     beginInsertRows({}, rowCount(), rowCount());
-    m_rows.push_back(notification);
+    m_rows.push_back(row);
     endInsertRows();
+}
+
+void NotifyRows::remove(int row)
+{
+    beginRemoveRows({}, row, row);
+    m_rows.erase(m_rows.begin() + row);
+    endRemoveRows();
 }
 
 void NotifyRows::clear()
@@ -46,14 +70,16 @@ QVariant NotifyRows::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const Notification &row = m_rows[static_cast<std::size_t>(index.row())];
+    const Row &row = m_rows[static_cast<std::size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole:
         return row.text;
     case TagRole:
-        return addressText(row.ip);
+        return addressText(row.place.ip);
     case PictureRole:
-        return pictureKey(pictureOf(row.presence));
+        return row.picture;
+    case IsNoticeRole:
+        return row.place.window != NoticeWindow::main;
     default:
         return {};
     }
@@ -88,6 +114,20 @@ void NotifySlide::startTimer()
     // A timer that is started anew with every event would never fire in a flood of them.
     if (m_view && !m_timerShow->isActive())
         m_timerShow->start();
+}
+
+void NotifySlide::show(const Notice &notice)
+{
+    m_list.show(notice);
+    startTimer();
+}
+
+void NotifySlide::withdraw(const NoticePlace &place)
+{
+    const bool wasEmpty = m_list.rowCount() == 0;
+    m_list.withdraw(place);
+    if (m_view && !wasEmpty && m_list.rowCount() == 0)
+        dismiss();
 }
 
 void NotifySlide::TimerShow_Timer()

@@ -13,25 +13,39 @@
 namespace nimb
 {
 
-/// What happened, the oldest first. The newest limits::notifications rows are kept.
+/// What happened, the oldest first. The newest limits::notifications rows are kept, and of the notices of one place the
+/// newest.
 class NotifyRows : public QAbstractListModel
 {
     Q_OBJECT
 
 public:
-    /// The contact's address, and the name of the picture.
-    enum Role { TagRole = Qt::UserRole + 1, PictureRole };
+    /// The contact's address, and the name of the picture. IsNoticeRole: somebody has sent something.
+    enum Role { TagRole = Qt::UserRole + 1, PictureRole, IsNoticeRole };
 
     using QAbstractListModel::QAbstractListModel;
 
     void add(const Notification &notification);
+    void show(const Notice &notice);
+    void withdraw(const NoticePlace &place);
     void clear();
+    /// Where a click on the row leads.
+    const NoticePlace &placeOf(int row) const { return m_rows.at(static_cast<std::size_t>(row)).place; }
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
 
 private:
-    std::vector<Notification> m_rows;
+    struct Row {
+        QString text;
+        QString picture;
+        NoticePlace place;
+    };
+
+    void append(const Row &row);
+    void remove(int row);
+
+    std::vector<Row> m_rows;
 };
 
 class NotifyView
@@ -63,6 +77,9 @@ public:
     void add(const Notification &notification) override;
     /// Starts TimerShow. A window that is shown already stays for another five seconds.
     void startTimer() override;
+    void show(const Notice &notice) override;
+    /// A window with nothing left in it goes.
+    void withdraw(const NoticePlace &place) override;
     void closebtn_Click();
     /// The screen has got another size: a parked window must not come into view, a shown one not leave it.
     void screenChanged();

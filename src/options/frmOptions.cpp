@@ -85,6 +85,7 @@ void frmOptions::buildControls()
     left->addStretch(1);
     auto *const right = new QVBoxLayout;
     right->setSpacing(groupDistance);
+    right->addWidget(makeNotices());
     right->addWidget(makeFont());
     right->addWidget(makeAvatar());
     right->addStretch(1);
@@ -107,6 +108,13 @@ QGroupBox *frmOptions::makeSounds()
 {
     auto *const group = new QGroupBox(tr("Sounds and notices"), this);
     addOptions(OptionGroup::sounds, *columnOf(group));
+    return group;
+}
+
+QGroupBox *frmOptions::makeNotices()
+{
+    auto *const group = new QGroupBox(tr("What arrives while you look elsewhere"), this);
+    addOptions(OptionGroup::notices, *columnOf(group));
     return group;
 }
 

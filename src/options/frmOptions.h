@@ -42,6 +42,7 @@ private:
     QGroupBox *makeSounds();
     QGroupBox *makePrivateWindows();
     QGroupBox *makeProgram();
+    QGroupBox *makeNotices();
     QGroupBox *makeFont();
     QGroupBox *makeAvatar();
     /// Adds the options of that group, the choices between two buttons first.

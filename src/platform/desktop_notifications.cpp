@@ -1,7 +1,6 @@
 #include "platform/desktop_notifications.h"
 
 #include "base/limits.h"
-#include "protocol/address_text.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingReply>
@@ -129,7 +128,7 @@ QString DesktopNotifications::body() const
 void DesktopNotifications::actionInvoked(uint id, const QString &action)
 {
     if (id == m_id && m_id != 0 && action == defaultAction && !m_rows.empty())
-        Q_EMIT contactWanted(addressText(m_rows.back().ip));
+        Q_EMIT contactWanted(m_rows.back().ip);
 }
 
 void DesktopNotifications::notificationClosed(uint id, uint)

@@ -1,4 +1,4 @@
-// Notifications that the desktop shows, where the program cannot place windows of its own.
+// Who comes and goes, shown by the desktop where the program cannot place windows of its own.
 #pragma once
 
 #include "base/Common.h"
@@ -16,7 +16,7 @@ namespace nimb
 /// Speaks to org.freedesktop.Notifications on the session bus. One notification at a time: while it stands, what is
 /// new is added to it. Never waits. What the service was asked to show and could not is dropped; what came meanwhile
 /// it is asked for anew.
-class DesktopNotifications : public QObject, public Notifications
+class DesktopNotifications : public QObject
 {
     Q_OBJECT
 
@@ -25,12 +25,14 @@ public:
     /// True where windows stand where the desktop puts them. Needs the application object.
     static bool areNeeded();
 
-    void add(const Notification &notification) override;
-    void startTimer() override;
+    /// The list keeps limits::notifications rows.
+    void add(const Notification &notification);
+    /// Shows them.
+    void startTimer();
 
 Q_SIGNALS:
     /// The notification was clicked; ip: the contact that the newest row is about.
-    void contactWanted(const QString &ip);
+    void contactWanted(nimb::Ipv4Address ip);
 
 private:
     Q_SLOT void actionInvoked(uint id, const QString &action);

@@ -18,8 +18,21 @@ void PeerFeatures::buzz(Ipv4Address ip)
         m_parts.sound.playAlarm();
     const QString text = tr("%1 is buzzing you...").arg(paintedName(m_parts.contacts.find(ip)->nickname));
     m_parts.activity.show(text);
-    if (PrivateChat *const window = windowOf(ip))
+    PrivateChat *const window = windowOf(ip);
+    if (window)
         window->buzzed(text);
+    tellBuzz(ip, window);
+}
+
+void PeerFeatures::tellBuzz(Ipv4Address ip, PrivateChat *window) const
+{
+    const QString name = m_parts.contacts.find(ip)->nickname;
+    if (!window || window->view().isHidden()) {
+        m_parts.log.buzzed(name);
+        m_parts.activity.flash(ip);
+    }
+    if (!window || window->view().conversation().isMinimisedOrInactive())
+        m_parts.notices.buzz(ip, name);
 }
 
 void PeerFeatures::typing(Ipv4Address ip)

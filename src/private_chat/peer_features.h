@@ -3,6 +3,7 @@
 
 #include "base/Common.h"
 #include "base/activity.h"
+#include "base/main_log.h"
 #include "base/sound.h"
 #include "contacts/avatar_store.h"
 #include "contacts/contact_list.h"
@@ -29,13 +30,16 @@ public:
         AvatarStore &avatars;
         OwnAvatar &ownAvatar;
         Activity &activity;
+        MainLog &log;
+        Notices &notices;
         Sound &sound;
         DropCounts &drops;
     };
 
     explicit PeerFeatures(const Parts &parts) : m_parts(parts) { }
 
-    /// Heard unless switched off or muted, and always seen.
+    /// Heard unless switched off or muted, and always seen: in the peer's private window or, while that is not there or
+    /// hidden, in the main log and at the row of the contact.
     void buzz(Ipv4Address ip) override;
     /// Seen in the peer's private window, or in the main window when there is none.
     void typing(Ipv4Address ip) override;
@@ -54,6 +58,7 @@ private:
     /// The peer's private window, or null.
     PrivateChat *windowOf(Ipv4Address ip);
     void avatarChanged(Ipv4Address ip);
+    void tellBuzz(Ipv4Address ip, PrivateChat *window) const;
 
     Parts m_parts;
 };

@@ -8,8 +8,9 @@
 namespace nimb
 {
 
-PrivateWindows::PrivateWindows(const PrivateChat::Services &services, ContactList &contacts, DropCounts &drops)
-    : m_services(services), m_contacts(contacts), m_drops(drops),
+PrivateWindows::PrivateWindows(const PrivateChat::Services &services, ContactList &contacts, Notices &notices,
+                               DropCounts &drops)
+    : m_services(services), m_contacts(contacts), m_notices(notices), m_drops(drops),
       m_oneMore(services.timers.repeating(limits::windowPause, [this] { openNextInTurn(); }))
 {
     QObject::connect(&contacts, &ContactList::dataChanged, &contacts,
@@ -38,9 +39,16 @@ void PrivateWindows::privateMessage(Ipv4Address ip, const QString &text)
     const Contact &contact = *m_contacts.find(ip);
     const QString body = remoteBody(text);
     if (!hasOpenWindow(contact) && !opensNow(contact, body))
-        wait(contact, body);
-    else
-        receive(contact, body);
+        return wait(contact, body);
+    receive(contact, body);
+    tell(contact, body);
+}
+
+void PrivateWindows::tell(const Contact &contact, const QString &body)
+{
+    PrivateChat *const chat = at(contact.privateWindow);
+    if (contact.ip.ipv4() && (!chat || chat->view().conversation().isMinimisedOrInactive()))
+        m_notices.message(*contact.ip.ipv4(), contact.nickname, body);
 }
 
 void PrivateWindows::receive(const Contact &contact, QString body)
@@ -73,6 +81,8 @@ void PrivateWindows::read(int window)
     const Contact *const contact = at(window) ? m_contacts.find(at(window)->rIP()) : nullptr;
     if (contact && contact->unreadInWindow > 0)
         m_contacts.change(contact->ip, [](Contact &row) { row.unreadInWindow = 0; });
+    if (contact && contact->ip.ipv4())
+        m_notices.seen({NoticeWindow::privateChat, *contact->ip.ipv4()});
 }
 
 bool PrivateWindows::hasOpenWindow(const Contact &contact)
@@ -139,6 +149,7 @@ void PrivateWindows::wait(const Contact &contact, const QString &body)
         row.lastMessage = now;
         row.spokenTo = true;
     });
+    tell(contact, body);
 }
 
 void PrivateWindows::showWaiting(const Contact &contact, PrivateChat &chat)
@@ -173,6 +184,18 @@ void PrivateWindows::openPrivate(const ContactAddress &ip)
     chat.attend();
     showWaiting(*contact, chat);
     chat.view().showWindow(ShowMode::active);
+}
+
+void PrivateWindows::answer(const ContactAddress &ip, const QString &text)
+{
+    const Contact *const contact = m_contacts.find(ip);
+    if (!contact)
+        return;
+    PrivateChat &chat = windowOf(*contact, OpenedBy::user);
+    chat.attend();
+    showWaiting(*contact, chat);
+    // Without a text there is nothing to send, and nobody to tell.
+    [[maybe_unused]] const bool isSent = chat.send(remoteBody(text));
 }
 
 PrivateChat &PrivateWindows::windowOf(const Contact &contact, OpenedBy opener)
@@ -262,6 +285,8 @@ qsizetype PrivateWindows::waitingMessages() const
 void PrivateWindows::contactRemoved(const ContactAddress &ip)
 {
     forgetWaiting(ip);
+    if (ip.ipv4())
+        m_notices.seen({NoticeWindow::privateChat, *ip.ipv4()});
     const int number = numberOf(ip);
     if (number <= 0)
         return;

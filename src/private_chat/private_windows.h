@@ -6,6 +6,7 @@
 #include "base/window_openers.h"
 #include "contacts/contact_list.h"
 #include "contacts/presence_receiver.h"
+#include "notify/notices.h"
 #include "private_chat/private_chat.h"
 #include "protocol/drop_counts.h"
 #include "protocol/handlers.h"
@@ -27,7 +28,7 @@ class PrivateWindows : public PrivateMessageHandler, public PrivateLogs, public 
     Q_DECLARE_TR_FUNCTIONS(PrivateWindows)
 
 public:
-    PrivateWindows(const PrivateChat::Services &services, ContactList &contacts, DropCounts &drops);
+    PrivateWindows(const PrivateChat::Services &services, ContactList &contacts, Notices &notices, DropCounts &drops);
 
     /// A message always reaches the user: a missing window is made, a hidden one shown, neither takes the focus. When
     /// several contacts without one write at the same moment, limits::windowsAtOnce open at once and the others in
@@ -35,6 +36,8 @@ public:
     /// has not turned to, they wait there until the user opens that.
     void privateMessage(Ipv4Address ip, const QString &text) override;
     void openPrivate(const ContactAddress &ip) override;
+    /// Sends a text that was written elsewhere than in the window of this contact, which shows it.
+    void answer(const ContactAddress &ip, const QString &text);
     /// A hidden window of a removed contact could never be seen again and is unloaded.
     void contactRemoved(const ContactAddress &ip) override;
     void appendPresence(int window, const QString &line) override;
@@ -70,10 +73,13 @@ private:
     /// A message of the contact has been put into its window, or waits.
     void noteMessage(const Contact &contact, bool isUnreadInWindow);
     void showPeer(const Contact &contact);
+    /// Tells of a message that has just come, unless it is looked at.
+    void tell(const Contact &contact, const QString &body);
     void unload(int window);
 
     PrivateChat::Services m_services;
     ContactList &m_contacts;
+    Notices &m_notices;
     DropCounts &m_drops;
     QHash<ContactAddress, QStringList> m_waiting;
     qsizetype m_waitingCharacters = 0;

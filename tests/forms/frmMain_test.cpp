@@ -82,6 +82,7 @@ TEST_F(FrmMain, BearsItsFixedNames)
                              "mnusendcontacts",
                              "mnuRemoveUser",
                              "mnuinviteuser",
+                             "mnuMuteContact",
                              "mnuNetworkscan",
                              "mnuAddUser",
                              "mnuFindEverybody",
@@ -125,6 +126,20 @@ TEST_F(FrmMain, WidthFollowsTheLogPanelAndCannotBeChanged)
     windows.entry("mnuLogWindow").trigger();
     EXPECT_EQ(windows.main().width(), 621);
     EXPECT_TRUE(windows.control("outtext").isVisible());
+}
+
+TEST_F(FrmMain, TheRowOfWhoBuzzesFlashesForAMomentAndLetsTheMouseThrough)
+{
+    windows.arrive("10.0.0.2", "!BUZZ");
+    windows.arrive("10.0.0.2", "!BUZZ");
+    const QList<QWidget *> flashes = windows.list().viewport()->findChildren<QWidget *>(QStringLiteral("rowFlash"));
+    ASSERT_EQ(flashes.size(), 1);
+    EXPECT_TRUE(flashes.front()->isVisible());
+    const int row = windows.engine.contacts().rowOf(QStringLiteral("10.0.0.2"));
+    EXPECT_EQ(flashes.front()->geometry().center().y(), windows.placeOf(row).y());
+    EXPECT_NE(windows.list().viewport()->childAt(flashes.front()->geometry().center()), flashes.front());
+    const QPointer<QWidget> flash(flashes.front());
+    EXPECT_TRUE(QTest::qWaitFor([&flash] { return flash.isNull(); }, 30000)) << "it never ends";
 }
 
 TEST_F(FrmMain, AHeightOf3000IsSetBackTo4500)

@@ -23,6 +23,11 @@ protected:
         }
     }
     QAbstractItemModel &rows() { return *RealWindows::control<QTreeView>(*notify, "ListViewNotify").model(); }
+    void lookAtMain()
+    {
+        windows.main().activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&windows.main()));
+    }
     /// Long enough to rise, whatever the screen.
     void rise() { windows.time.advance(2000ms); }
 
@@ -87,6 +92,39 @@ TEST_F(FrmNotifyTest, AClickOnARowShowsTheContact)
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(rows().index(0, 0)).center());
     EXPECT_FALSE(windows.main().isMinimized());
     EXPECT_EQ(windows.list().currentIndex().data().toString(), QStringLiteral("Ben"));
+}
+
+TEST_F(FrmNotifyTest, AClickOnAMessageOpensItsConversation)
+{
+    windows.arrive("10.0.0.2", "-hello");
+    rise();
+    ASSERT_EQ(rows().rowCount(), 1);
+    EXPECT_EQ(rows().index(0, 0).data().toString(), QStringLiteral("Ann: hello"));
+    EXPECT_TRUE(windows.privateWindow().isMinimized());
+    lookAtMain();
+    auto &list = RealWindows::control<QTreeView>(*notify, "ListViewNotify");
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(rows().index(0, 0)).center());
+    EXPECT_FALSE(windows.privateWindow().isMinimized());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return rows().rowCount() == 0; })) << "what is looked at is still told of";
+    EXPECT_EQ(notify->y(), screen.height() + 8);
+}
+
+TEST_F(FrmNotifyTest, AClickOnAnInvitationOpensTheInvitations)
+{
+    windows.arrive("10.0.0.2", "?CONF INVITE #1"); // the window comes up, and is active where focus means nothing
+    lookAtMain();
+    windows.arrive("10.0.0.2", "?CONF INVITE #2");
+    rise();
+    ASSERT_EQ(rows().rowCount(), 1);
+    EXPECT_EQ(rows().index(0, 0).data().toString(), QStringLiteral("Ann invites you to a conference"));
+    auto &list = RealWindows::control<QTreeView>(*notify, "ListViewNotify");
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(rows().index(0, 0)).center());
+    const QWidgetList all = QApplication::topLevelWidgets();
+    const auto invitations = std::find_if(all.begin(), all.end(), [](const QWidget *window) {
+        return window->objectName() == QLatin1String("frmConfInvitations");
+    });
+    ASSERT_NE(invitations, all.end());
+    EXPECT_TRUE(QTest::qWaitForWindowActive(*invitations));
 }
 
 TEST_F(FrmNotifyTest, AClickOnAContactThatIsGoneShowsTheMainWindowAlone)

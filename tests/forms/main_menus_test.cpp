@@ -138,10 +138,24 @@ TEST_F(MainMenusTest, TheContextMenuHasEveryEntryWithTheNameInIt)
                 ElementsAre("mnuPrivateChat: Private chat with 'Ben && Co'", "mnuBuzzUser: Buzz 'Ben && Co'",
                             "mnusendcontacts: Send &contacts to 'Ben && Co'",
                             "mnuRemoveUser: Remove 'Ben && Co' from the list",
-                            "mnuinviteuser: I&nvite user 'Ben && Co'"));
+                            "mnuinviteuser: I&nvite user 'Ben && Co'", "mnuMuteContact: M&ute"));
     for (const QAction *const action : menu("mnuPopUp").actions())
         EXPECT_EQ(action->isEnabled(), action->isVisible()) << action->objectName().toStdString();
     menu("mnuPopUp").close();
+}
+
+TEST_F(MainMenusTest, MuteIsTickedForWhoIsMuted)
+{
+    windows.click(0);
+    windows.entry("mnuMuteContact").trigger();
+    EXPECT_TRUE(windows.engine.contacts().find(QStringLiteral("10.0.0.2"))->muted);
+    EXPECT_TRUE(windows.entry("mnuMuteContact").isChecked());
+    windows.click(1);
+    EXPECT_FALSE(windows.entry("mnuMuteContact").isChecked());
+    windows.click(0);
+    EXPECT_TRUE(windows.entry("mnuMuteContact").isChecked());
+    windows.entry("mnuMuteContact").trigger();
+    EXPECT_FALSE(windows.engine.contacts().find(QStringLiteral("10.0.0.2"))->muted);
 }
 
 TEST_F(MainMenusTest, WithoutASelectionTheContextMenuHasNothingToActOn)
@@ -150,7 +164,7 @@ TEST_F(MainMenusTest, WithoutASelectionTheContextMenuHasNothingToActOn)
     EXPECT_THAT(entriesOf(menu("mnuPopUp")),
                 ElementsAre("mnuPrivateChat: &Private Chat", "mnuBuzzUser: &Buzz User",
                             "mnusendcontacts: Send &Contacts", "mnuRemoveUser: Re&move User",
-                            "mnuinviteuser: I&nvite user"));
+                            "mnuinviteuser: I&nvite user", "mnuMuteContact: M&ute"));
     for (const QAction *const action : menu("mnuPopUp").actions())
         EXPECT_FALSE(action->isEnabled()) << action->objectName().toStdString();
 }

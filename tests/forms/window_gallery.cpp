@@ -1,11 +1,15 @@
 // Takes a picture of every window with realistic content: window_gallery FOLDER light|dark
+#include "main_window/Tray.h"
 #include "real_windows.h"
 #include "welcome/frmLogin.h"
 #include "widgets/message_boxes.h"
+#include "widgets/pictures.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
@@ -295,6 +299,31 @@ void takeNotify(Gallery &gallery)
     windows.arrive("192.168.1.20", "!OFFLINE");
     windows.time.advance(std::chrono::milliseconds(2000));
     gallery.take(topLevel("frmNotify"), "notify");
+    windows.arrive("192.168.1.12", "-Did you see the new plan? It is in the usual place, as always");
+    windows.arrive("192.168.1.45", "-Lunch?");
+    windows.arrive("192.168.1.45", "-In ten minutes");
+    windows.arrive("192.168.1.107", "?CONF INVITE #1");
+    windows.arrive("192.168.1.44", "!BUZZ");
+    windows.time.advance(std::chrono::milliseconds(2000));
+    gallery.take(topLevel("frmNotify"), "notify_messages");
+    gallery.take(windows.main(), "main_buzzed");
+}
+
+/// As the tray shows it at the sizes that desktops use.
+void takeTrayIcon(Gallery &gallery)
+{
+    QWidget tray;
+    auto *const row = new QHBoxLayout(&tray);
+    for (const int unread : {0, 1, 7, 12}) {
+        for (const int side : {16, 22, 24, 32, 48}) {
+            auto *const picture = new QLabel(&tray);
+            const QIcon icon = unread > 0 ? badgedIcon(programIcon(), unread) : programIcon();
+            picture->setPixmap(icon.pixmap(QSize(side, side), 1.0));
+            row->addWidget(picture);
+        }
+    }
+    tray.show();
+    gallery.take(tray, "tray_icon");
 }
 
 void takeOptions(Gallery &gallery)
@@ -473,6 +502,7 @@ int main(int argc, char *argv[])
     nimb::test::takePrivatePanels(gallery);
     nimb::test::takeConference(gallery);
     nimb::test::takeNotify(gallery);
+    nimb::test::takeTrayIcon(gallery);
     nimb::test::takeOptions(gallery);
     nimb::test::takeDialogs(gallery);
     nimb::test::takeDoctor(gallery);

@@ -132,6 +132,7 @@ public:
     void setInvite2ConfVisible(int slot, bool visible) override { invitable[slot] = visible; }
     void setNetworkPanel(const QString &text) override { networkPanel = text; }
     void setActivityPanel(const QString &text) override { activityPanel = text; }
+    void flashContact(const QString &ip) override { flashed.push_back(ip.toStdString()); }
     void setSearchProgress(const std::optional<SearchProgress> &progress) override { searchProgress = progress; }
 
     RecorderLog log;
@@ -149,6 +150,7 @@ public:
     QString trouble;
     QString networkPanel;
     QString activityPanel;
+    std::vector<std::string> flashed;
     std::map<int, bool> invitable; ///< by slot
 };
 
@@ -301,6 +303,7 @@ public:
     void showWithoutFocus() override { shows.push_back("without focus"); }
     void showWindow() override { shows.push_back("window"); }
     void hideWindow() override { shows.push_back("hidden"); }
+    bool isActive() const override { return active; }
     void setAutoRefusal(bool on, int minutes) override
     {
         autorefuse = on;
@@ -308,6 +311,7 @@ public:
     }
 
     std::vector<std::string> shows;
+    bool active = false;
     bool autorefuse = false;
     int autorefuseMins = 0;
 };
@@ -321,8 +325,21 @@ public:
         lastIp = row.ip.toText();
     }
     void startTimer() override { ++starts; }
+    void show(const Notice &notice) override
+    {
+        lines.push_back(notice.line.toStdString());
+        shown[notice.place] = notice;
+    }
+    void withdraw(const NoticePlace &place) override
+    {
+        shown.erase(place);
+        withdrawn.push_back(place);
+    }
 
     std::vector<std::string> rows;
+    std::vector<std::string> lines;      ///< of every notice that was shown
+    std::map<NoticePlace, Notice> shown; ///< those that stand now
+    std::vector<NoticePlace> withdrawn;
     std::string lastIp;
     int starts = 0;
 };

@@ -43,9 +43,12 @@ class SilentNotifications : public Notifications
 public:
     void add(const Notification &) override { ++rows; }
     void startTimer() override { ++starts; }
+    void show(const Notice &) override { ++notices; }
+    void withdraw(const NoticePlace &) override { }
 
     std::size_t rows = 0;
     std::size_t starts = 0;
+    std::size_t notices = 0;
 };
 
 struct SilentViews {

@@ -27,6 +27,11 @@ TEST(Settings, AnEmptyStoreGivesTheDefaults)
     EXPECT_TRUE(common.options.notifyWindow);
     EXPECT_TRUE(common.options.liveType);
     EXPECT_FALSE(common.options.closeBoxHides);
+    EXPECT_TRUE(common.options.notifyMessages);
+    EXPECT_TRUE(common.options.showMessageText);
+    EXPECT_FALSE(common.options.soundForMessage);
+    EXPECT_FALSE(common.options.soundForOnline);
+    EXPECT_FALSE(common.options.soundForInvitation);
     EXPECT_EQ(common.autoReply.busyText, QStringLiteral("I'm busy, please do not disturb"));
     EXPECT_EQ(common.autoReply.awayText, QStringLiteral("At the moment I'm not at my PC"));
     EXPECT_FALSE(common.autoReply.onBusy);
@@ -69,8 +74,9 @@ TEST(Settings, EveryKeyIsThereOnceInItsSection)
     }
     EXPECT_THAT(options,
                 ElementsAre("ShowStatusOnPrivate", "BuzzLocal", "BuzzRemote", "PrivateBehaviour", "DontDestroyWindow",
-                            "NotifyWin", "LiveType", "CloseButtonDoesMinimize", "TipOTDay", "TipOTDayNum"));
-    EXPECT_EQ(keys.size(), 28u);
+                            "NotifyWin", "LiveType", "CloseButtonDoesMinimize", "NotifyMessages", "NotifyMessageText",
+                            "SoundMessage", "SoundOnline", "SoundInvitation", "TipOTDay", "TipOTDayNum"));
+    EXPECT_EQ(keys.size(), 33u);
 }
 
 TEST(Settings, SavingKeepsItsOrder)
@@ -81,8 +87,10 @@ TEST(Settings, SavingKeepsItsOrder)
                 ElementsAre("Settings/UDPPort", "Options/ShowStatusOnPrivate", "Options/BuzzLocal",
                             "Options/BuzzRemote", "Options/PrivateBehaviour", "Options/DontDestroyWindow",
                             "Options/NotifyWin", "Options/LiveType", "Options/CloseButtonDoesMinimize",
-                            "Settings/MainLeft", "Settings/MainTop", "Settings/MainHeight", "Settings/AvatarHead",
-                            "Settings/AvatarBody", "Settings/AutoReplyonBusyActive", "Settings/AutoReplyonAwayActive",
+                            "Options/NotifyMessages", "Options/NotifyMessageText", "Options/SoundMessage",
+                            "Options/SoundOnline", "Options/SoundInvitation", "Settings/MainLeft", "Settings/MainTop",
+                            "Settings/MainHeight", "Settings/AvatarHead", "Settings/AvatarBody",
+                            "Settings/AutoReplyonBusyActive", "Settings/AutoReplyonAwayActive",
                             "Settings/AutoReplyonBusyText", "Settings/AutoReplyonawayText", "Settings/StandardFontSize",
                             "Settings/StandardFontFace", "Settings/StandardFontStyle", "Settings/OwnNetworkCard",
                             "Settings/PersonalizedState1", "Settings/PersonalizedState2", "Settings/PersonalizedState3",
@@ -126,7 +134,12 @@ TEST(Settings, EverythingComesBackAsItWasSaved)
                       .closedWindowsGo = true,
                       .notifyWindow = false,
                       .liveType = false,
-                      .closeBoxHides = true};
+                      .closeBoxHides = true,
+                      .notifyMessages = false,
+                      .showMessageText = false,
+                      .soundForMessage = true,
+                      .soundForOnline = true,
+                      .soundForInvitation = true};
     common.avatarHead = QStringLiteral("2026-11-21");
     for (int i = 0; i < 7500; ++i)
         common.avatarBody.append(static_cast<char>(i));
@@ -148,6 +161,11 @@ TEST(Settings, EverythingComesBackAsItWasSaved)
     EXPECT_FALSE(next.options.notifyWindow);
     EXPECT_FALSE(next.options.liveType);
     EXPECT_TRUE(next.options.closeBoxHides);
+    EXPECT_FALSE(next.options.notifyMessages);
+    EXPECT_FALSE(next.options.showMessageText);
+    EXPECT_TRUE(next.options.soundForMessage);
+    EXPECT_TRUE(next.options.soundForOnline);
+    EXPECT_TRUE(next.options.soundForInvitation);
     EXPECT_EQ(next.avatarBody, common.avatarBody);
     EXPECT_EQ(next.autoReply.busyText, QStringLiteral("a\r\nb"));
     EXPECT_EQ(next.autoReply.awayText, QStringLiteral("ü"));

@@ -145,6 +145,43 @@ TEST(PrivateChatCommand, OfWhoIsThereTheLogSaysNothing)
     EXPECT_THAT(copy.view.log.lines(), IsEmpty());
 }
 
+TEST(MuteContact, IsShownInTheMenuAndSurvivesARestart)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}}});
+    copy.engine.contactCommands().mnuMuteContact(ip("10.0.0.3"), true);
+    EXPECT_TRUE(copy.engine.contactCommands().captions(ip("10.0.0.3")).isMuted);
+    EXPECT_FALSE(copy.engine.contactCommands().captions(ip("10.0.0.2")).isMuted);
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_EQ(copy.settings.value("Users", "IP2"), "10.0.0.3");
+    EXPECT_EQ(copy.settings.value("Users", "Mt2"), "1");
+    EXPECT_EQ(copy.settings.value("Users", "Mt1"), "(missing)") << "who is not muted has no such key";
+
+    Copy next({.loaded = false});
+    next.settings.saved = copy.settings.saved;
+    next.engine.mainWindow().Form_Load();
+    EXPECT_TRUE(next.contact("10.0.0.3").muted);
+    EXPECT_FALSE(next.contact("10.0.0.2").muted);
+    next.engine.contactCommands().mnuMuteContact(ip("10.0.0.3"), false);
+    next.engine.mainWindow().Form_Unload();
+    EXPECT_EQ(next.settings.value("Users", "Mt2"), "");
+}
+
+TEST(MuteContact, FollowsItsContactToAnotherNumberAndGoesWithIt)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}}});
+    copy.engine.contactCommands().mnuMuteContact(ip("10.0.0.3"), true);
+    copy.engine.mainWindow().Form_Unload();
+
+    Copy next({.loaded = false});
+    next.settings.saved = copy.settings.saved;
+    next.engine.mainWindow().Form_Load();
+    next.engine.contacts().remove(ip("10.0.0.2"));
+    next.engine.mainWindow().Form_Unload();
+    EXPECT_EQ(next.settings.value("Users", "IP1"), "10.0.0.3");
+    EXPECT_EQ(next.settings.value("Users", "Mt1"), "1");
+    EXPECT_EQ(next.settings.value("Users", "Mt2"), "");
+}
+
 TEST(PrivateChatCommand, DoesNothingWithoutASelectedRow)
 {
     Copy copy;

@@ -77,6 +77,36 @@ TEST(Recovery, NothingWakesUpWhenNothingChanges)
     EXPECT_EQ(copy.settings.keeps, 1);
 }
 
+TEST(Recovery, KeepsWhoIsMutedAndWhoIsNoLonger)
+{
+    Copy killed({.contacts = {{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}}, .settings = {{"Users/Mt2", "1"}}});
+    killed.settleStart();
+    ASSERT_TRUE(killed.contact("10.0.0.3").muted);
+    killed.engine.contactCommands().mnuMuteContact(QStringLiteral("10.0.0.2"), true);
+    killed.engine.contactCommands().mnuMuteContact(QStringLiteral("10.0.0.3"), false);
+    killed.advance(2000ms);
+    EXPECT_THAT(kept(killed), testing::IsSupersetOf({Pair("Users/Mt:10.0.0.2", "1"), Pair("Users/Mt:10.0.0.3", "")}));
+    const auto next = runAfterKill(killed);
+    EXPECT_TRUE(next->contact("10.0.0.2").muted);
+    EXPECT_FALSE(next->contact("10.0.0.3").muted);
+    EXPECT_EQ(next->contact("10.0.0.3").nickname, QStringLiteral("Ben"));
+}
+
+TEST(Recovery, AMutedContactThatIsRemovedStaysRemoved)
+{
+    Copy killed({.contacts = {{"10.0.0.2", "Ann"}}});
+    killed.settleStart();
+    killed.arrive("10.0.0.3", "?ONLINE 10.0.0.3 PC-BEN Ben");
+    for (const char *const ip : {"10.0.0.2", "10.0.0.3"})
+        killed.engine.contactCommands().mnuMuteContact(QLatin1String(ip), true);
+    killed.advance(2000ms);
+    for (const char *const ip : {"10.0.0.2", "10.0.0.3"})
+        killed.engine.contacts().remove(QString::fromLatin1(ip));
+    killed.advance(2000ms);
+    EXPECT_THAT(kept(killed), ElementsAre(Pair("Users/Nn:10.0.0.2", "(gone)"), Pair("Users/Ws:10.0.0.2", "(gone)")));
+    EXPECT_THAT(runAfterKill(killed)->names(), IsEmpty());
+}
+
 TEST(Recovery, KeepsARemovedContactAsGone)
 {
     Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});

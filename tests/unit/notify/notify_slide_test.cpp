@@ -202,6 +202,67 @@ TEST_F(NotifySlideTest, KeepsTheNewestHundredRows)
     EXPECT_EQ(slide.list().index(99).data(Qt::UserRole + 2).toString(), QStringLiteral("green"));
 }
 
+class NotifySlideNotices : public NotifySlideTest
+{
+protected:
+    static NoticePlace from(std::uint8_t last) { return {NoticeWindow::privateChat, Ipv4Address(10, 0, 0, last)}; }
+    void show(std::uint8_t sender, const char *line)
+    {
+        slide.show({.place = from(sender), .line = QString::fromUtf8(line), .picture = QStringLiteral("message")});
+    }
+};
+
+TEST_F(NotifySlideNotices, ANoticeRisesWithItsLineAndPicture)
+{
+    show(2, "Ann: hello");
+    time.advance(rising);
+    EXPECT_EQ(place(), risen);
+    EXPECT_THAT(rows(), ElementsAre("Ann: hello"));
+    EXPECT_EQ(slide.list().index(0).data(Qt::UserRole + 2).toString(), QStringLiteral("message"));
+    EXPECT_EQ(slide.list().placeOf(0), from(2));
+}
+
+TEST_F(NotifySlideNotices, ANewerNoticeOfTheSamePlaceTakesTheEndOfTheList)
+{
+    show(2, "Ann: hello");
+    happen("Ann is offline");
+    show(3, "Ben: hi");
+    show(2, "Ann (2): are you there?");
+    EXPECT_THAT(rows(), ElementsAre("Ann is offline", "Ben: hi", "Ann (2): are you there?"));
+}
+
+TEST_F(NotifySlideNotices, AWindowWithoutAnythingLeftGoesAtOnce)
+{
+    show(2, "Ann: hello");
+    show(3, "Ben: hi");
+    time.advance(rising);
+    slide.withdraw(from(2));
+    EXPECT_EQ(place(), risen);
+    EXPECT_THAT(rows(), ElementsAre("Ben: hi"));
+    slide.withdraw(from(3));
+    EXPECT_EQ(place(), parked);
+    EXPECT_FALSE(time.nextDue()) << "a timer still runs";
+}
+
+TEST_F(NotifySlideNotices, WhatIsNotThereIsNotWithdrawn)
+{
+    happen("Ann is online");
+    time.advance(rising);
+    slide.withdraw(from(2));
+    slide.withdraw({NoticeWindow::main, Ipv4Address(10, 0, 0, 2)});
+    EXPECT_EQ(place(), risen);
+    EXPECT_THAT(rows(), ElementsAre("Ann is online"));
+}
+
+TEST_F(NotifySlideNotices, AfterItsWindowIsGoneANoticeMovesNothing)
+{
+    slide.Form_Unload();
+    show(2, "Ann: hello");
+    slide.withdraw(from(2));
+    time.advance(10000ms);
+    EXPECT_THAT(view.places, ElementsAre(parked));
+}
+
 TEST_F(NotifySlideTest, AnotherResolutionBetweenTwoEventsIsPickedUp)
 {
     view.now.screenWidth = 19200; // 1280 pixels

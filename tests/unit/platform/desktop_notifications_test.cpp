@@ -1,7 +1,8 @@
+#include "platform/desktop_notices.h"
 #include "platform/desktop_notifications.h"
 
-#include "child_process.h"
 #include "protocol/address_text.h"
+#include "session_bus.h"
 
 #include <gmock/gmock.h>
 
@@ -9,9 +10,6 @@
 #include <QDBusContext>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
 
 namespace nimb::test
@@ -38,9 +36,11 @@ public:
     };
 
     std::vector<Shown> shown;
+    std::vector<uint> closed; ///< by the program
     QStringList capabilities{QStringLiteral("body"), QStringLiteral("actions")};
     uint next = 7;
-    int refusals = 0; ///< so many questions for its capabilities end in an error
+    int refusals = 0;    ///< so many questions for its capabilities end in an error
+    bool breaks = false; ///< it shows nothing any more
 
 public Q_SLOTS:
     // NOLINTBEGIN: the names are the service's
@@ -54,52 +54,33 @@ public Q_SLOTS:
                 const QStringList &actions, const QVariantMap &, int timeout)
     {
         shown.push_back({replaces, summary.toStdString(), body.toStdString(), actions, timeout});
+        if (breaks)
+            sendErrorReply(QDBusError::Failed, QStringLiteral("broken"));
         return replaces != 0 ? replaces : next++;
     }
+    void CloseNotification(uint id) { closed.push_back(id); }
     // NOLINTEND
 
 Q_SIGNALS:
     void ActionInvoked(uint id, const QString &action);
     void NotificationClosed(uint id, uint reason);
+    void NotificationReplied(uint id, const QString &text);
 };
 
 /// A session bus of its own, with the service on it.
 class DesktopNotificationsTest : public testing::Test
 {
 protected:
-    DesktopNotificationsTest()
-    {
-        endWithParent(m_bus);
-        // Without the services that are installed here, which a bus of the usual kind would start.
-        QFile rules(m_folder.filePath(QStringLiteral("bus.conf")));
-        EXPECT_TRUE(rules.open(QFile::WriteOnly));
-        rules.write(R"(<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
- "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
-<busconfig>
-  <type>session</type>
-  <listen>unix:tmpdir=/tmp</listen>
-  <policy context="default">
-    <allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/><allow own="*"/>
-  </policy>
-</busconfig>)");
-        rules.close();
-        m_bus.start(QStringLiteral("dbus-daemon"),
-                    {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
-                     QStringLiteral("--config-file=") + rules.fileName()});
-        EXPECT_TRUE(QTest::qWaitFor([this] { return m_bus.canReadLine(); }, 30000)) << "no session bus";
-        address = QString::fromLocal8Bit(m_bus.readLine().trimmed());
-        here.emplace(QDBusConnection::connectToBus(address, QStringLiteral("here")));
-    }
+    DesktopNotificationsTest() { here.emplace(QDBusConnection::connectToBus(m_bus.address(), QStringLiteral("here"))); }
     ~DesktopNotificationsTest() override
     {
         QDBusConnection::disconnectFromBus(QStringLiteral("here"));
         QDBusConnection::disconnectFromBus(QStringLiteral("desktop"));
-        endProcess(m_bus);
     }
 
     void startService()
     {
-        QDBusConnection desktop = QDBusConnection::connectToBus(address, QStringLiteral("desktop"));
+        QDBusConnection desktop = QDBusConnection::connectToBus(m_bus.address(), QStringLiteral("desktop"));
         ASSERT_TRUE(desktop.registerObject(QStringLiteral("/org/freedesktop/Notifications"), &service,
                                            QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals));
         ASSERT_TRUE(desktop.registerService(QStringLiteral("org.freedesktop.Notifications")));
@@ -108,7 +89,7 @@ protected:
     {
         notifications.emplace(common, *here);
         QObject::connect(&*notifications, &DesktopNotifications::contactWanted, &*notifications,
-                         [this](const QString &ip) { wanted.push_back(ip.toStdString()); });
+                         [this](Ipv4Address ip) { wanted.push_back(ip.toText()); });
     }
     void happen(const char *text, const char *ip = "10.0.0.2")
     {
@@ -132,9 +113,7 @@ protected:
         QCoreApplication::processEvents();
     }
 
-    QTemporaryDir m_folder;
-    QProcess m_bus;
-    QString address;
+    SessionBus m_bus;
     std::optional<QDBusConnection> here;
     NotificationService service;
     Common common;
@@ -293,6 +272,217 @@ TEST_F(DesktopNotificationsTest, WithoutABusNothingHappens)
     happen("Ann is online");
     QCoreApplication::processEvents();
     EXPECT_THAT(service.shown, IsEmpty());
+}
+
+// --- what somebody has sent
+
+const NoticePlace fromAnn{NoticeWindow::privateChat, Ipv4Address(10, 0, 0, 2)};
+const NoticePlace fromBen{NoticeWindow::privateChat, Ipv4Address(10, 0, 0, 3)};
+
+class DesktopNoticesTest : public DesktopNotificationsTest
+{
+protected:
+    void make()
+    {
+        notices.emplace(*here);
+        QObject::connect(&*notices, &DesktopNotices::opened, &*notices,
+                         [this](const NoticePlace &place) { opened.push_back(place); });
+        QObject::connect(&*notices, &DesktopNotices::answered, &*notices,
+                         [this](const NoticePlace &place, const QString &text) {
+                             answered.emplace_back(place, text.toStdString());
+                         });
+        QObject::connect(&*notices, &DesktopNotices::refused, &*notices,
+                         [this](const Notice &notice) { refused.push_back(notice.text.toStdString()); });
+    }
+    void makeWithService()
+    {
+        startService();
+        make();
+    }
+    void show(const NoticePlace &place, const char *text, bool mayBeAnswered = true)
+    {
+        notices->show({.place = place,
+                       .title = QStringLiteral("Somebody"),
+                       .text = QString::fromUtf8(text),
+                       .mayBeAnswered = mayBeAnswered});
+    }
+
+    std::optional<DesktopNotices> notices;
+    std::vector<NoticePlace> opened;
+    std::vector<std::pair<NoticePlace, std::string>> answered;
+    std::vector<std::string> refused;
+};
+
+TEST_F(DesktopNoticesTest, EachSenderHasANotificationOfItsOwn)
+{
+    makeWithService();
+    show(fromAnn, "hello");
+    show(fromBen, "hi");
+    ASSERT_TRUE(waitForShown(2));
+    settle();
+    show(fromAnn, "are you there?");
+    ASSERT_TRUE(waitForShown(3));
+    EXPECT_EQ(service.shown[0].summary, "Somebody");
+    EXPECT_EQ(service.shown[0].body, "hello");
+    EXPECT_EQ(service.shown[0].replaces, 0u);
+    EXPECT_EQ(service.shown[1].replaces, 0u);
+    EXPECT_EQ(service.shown[2].body, "are you there?");
+    EXPECT_EQ(service.shown[2].replaces, 7u) << "it stands beside the first one";
+    EXPECT_THAT(refused, IsEmpty());
+}
+
+TEST_F(DesktopNoticesTest, WhatComesBeforeTheServiceHasAnsweredReplacesToo)
+{
+    makeWithService();
+    show(fromAnn, "one");
+    ASSERT_TRUE(waitForShown(1));
+    show(fromAnn, "two");
+    show(fromAnn, "three");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return service.shown.back().body == "three"; }, 30000));
+    for (std::size_t later = 1; later < service.shown.size(); ++later)
+        EXPECT_EQ(service.shown[later].replaces, 7u);
+}
+
+TEST_F(DesktopNoticesTest, OffersReplyWhereTheServiceCanAndOpenWhereNot)
+{
+    makeWithService();
+    show(fromAnn, "hello");
+    ASSERT_TRUE(waitForShown(1));
+    EXPECT_EQ(service.shown[0].actions, QStringList({"default", "Open", "open", "Open"}));
+    service.capabilities.append(QStringLiteral("inline-reply"));
+    make();
+    show(fromAnn, "hello");
+    ASSERT_TRUE(waitForShown(2));
+    EXPECT_EQ(service.shown[1].actions, QStringList({"default", "Open", "inline-reply", "Reply"}));
+    show(fromBen, "Ben invites you to a conference", false);
+    ASSERT_TRUE(waitForShown(3));
+    EXPECT_EQ(service.shown[2].actions, QStringList({"default", "Open", "open", "Open"}));
+}
+
+TEST_F(DesktopNoticesTest, AClickOpensWhatItIsAbout)
+{
+    makeWithService();
+    show(fromAnn, "hello");
+    show(fromBen, "hi");
+    ASSERT_TRUE(waitForShown(2));
+    settle();
+    Q_EMIT service.ActionInvoked(99, QStringLiteral("default"));
+    Q_EMIT service.ActionInvoked(7, QStringLiteral("something else"));
+    Q_EMIT service.ActionInvoked(8, QStringLiteral("default"));
+    Q_EMIT service.ActionInvoked(7, QStringLiteral("open"));
+    settle();
+    EXPECT_THAT(opened, ElementsAre(fromBen, fromAnn));
+}
+
+TEST_F(DesktopNoticesTest, AReplyIsHandedOver)
+{
+    makeWithService();
+    show(fromAnn, "hello");
+    ASSERT_TRUE(waitForShown(1));
+    settle();
+    Q_EMIT service.NotificationReplied(99, QStringLiteral("not ours"));
+    Q_EMIT service.NotificationReplied(7, QStringLiteral("hello yourself"));
+    settle();
+    EXPECT_THAT(answered, ElementsAre(testing::Pair(fromAnn, "hello yourself")));
+}
+
+TEST_F(DesktopNoticesTest, WhatHasBeenSeenGoes)
+{
+    makeWithService();
+    show(fromAnn, "hello");
+    ASSERT_TRUE(waitForShown(1));
+    settle();
+    notices->withdraw(fromBen);
+    notices->withdraw(fromAnn);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !service.closed.empty(); }, 30000));
+    EXPECT_THAT(service.closed, ElementsAre(7u));
+}
+
+TEST_F(DesktopNoticesTest, WhatHasBeenSeenBeforeItStandsGoesAsSoonAsItDoes)
+{
+    makeWithService();
+    show(fromAnn, "hello");
+    ASSERT_TRUE(waitForShown(1));
+    notices->withdraw(fromAnn);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !service.closed.empty(); }, 30000));
+    EXPECT_THAT(service.closed, ElementsAre(7u));
+    show(fromAnn, "again");
+    ASSERT_TRUE(waitForShown(2));
+    EXPECT_EQ(service.shown[1].replaces, 0u);
+}
+
+TEST_F(DesktopNoticesTest, WhatHasBeenSeenBeforeTheServiceIsKnownIsNeverShown)
+{
+    makeWithService();
+    show(fromAnn, "hello");
+    show(fromBen, "hi");
+    notices->withdraw(fromAnn);
+    ASSERT_TRUE(waitForShown(1));
+    settle();
+    ASSERT_THAT(service.shown, SizeIs(1));
+    EXPECT_EQ(service.shown[0].body, "hi");
+}
+
+TEST_F(DesktopNoticesTest, AfterItIsGoneTheNextOneBeginsAnew)
+{
+    makeWithService();
+    show(fromAnn, "hello");
+    ASSERT_TRUE(waitForShown(1));
+    settle();
+    Q_EMIT service.NotificationClosed(7, 1);
+    settle();
+    show(fromAnn, "again");
+    ASSERT_TRUE(waitForShown(2));
+    EXPECT_EQ(service.shown[1].replaces, 0u);
+}
+
+TEST_F(DesktopNoticesTest, MarkupIsShownWhetherTheDesktopKnowsMarkupOrNot)
+{
+    makeWithService();
+    show(fromAnn, "<b>1</b> & 2");
+    ASSERT_TRUE(waitForShown(1));
+    EXPECT_EQ(service.shown[0].body, "<b>1</b> & 2");
+    service.capabilities.append(QStringLiteral("body-markup"));
+    make();
+    show(fromAnn, "<b>1</b> & 2");
+    ASSERT_TRUE(waitForShown(2));
+    EXPECT_EQ(service.shown[1].body, "&lt;b&gt;1&lt;/b&gt; &amp; 2");
+}
+
+TEST_F(DesktopNoticesTest, WithoutTheServiceEverythingIsGivenBackUntilItIsThere)
+{
+    make();
+    show(fromAnn, "hello");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !refused.empty(); }, 30000));
+    EXPECT_THAT(refused, ElementsAre("hello"));
+    startService();
+    show(fromAnn, "again");
+    ASSERT_TRUE(waitForShown(1));
+    EXPECT_EQ(service.shown[0].body, "again");
+    EXPECT_THAT(refused, SizeIs(1));
+}
+
+TEST_F(DesktopNoticesTest, WhatABrokenServiceDoesNotShowIsGivenBack)
+{
+    makeWithService();
+    service.breaks = true;
+    show(fromAnn, "one");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !refused.empty(); }, 30000));
+    EXPECT_THAT(refused, ElementsAre("one"));
+    service.breaks = false;
+    show(fromAnn, "two");
+    ASSERT_TRUE(waitForShown(2));
+    EXPECT_EQ(service.shown[1].body, "two");
+    EXPECT_EQ(service.shown[1].replaces, 0u);
+}
+
+TEST_F(DesktopNoticesTest, WithoutABusEverythingIsGivenBack)
+{
+    here.emplace(QDBusConnection(QStringLiteral("nowhere")));
+    make();
+    show(fromAnn, "hello");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !refused.empty(); }, 30000));
+    EXPECT_THAT(refused, ElementsAre("hello"));
 }
 
 } // namespace

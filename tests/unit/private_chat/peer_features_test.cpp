@@ -31,6 +31,43 @@ TEST_F(PeerFeaturesTest, ABuzzSoundsAndShowsInTheMainWindow)
     EXPECT_THAT(copy.sent(), IsEmpty());
 }
 
+TEST_F(PeerFeaturesTest, ABuzzWithoutAWindowLeavesALineFlashesAndIsTold)
+{
+    copy.arrive("10.0.0.2", "!BUZZ");
+    EXPECT_THAT(copy.view.log.lines(), ElementsAre("--- 21/11/2026 @ 14:05 - Ann buzzes you ---"));
+    EXPECT_EQ(copy.view.log.colourOfLastPiece(), 0x808080u);
+    EXPECT_THAT(copy.view.flashed, ElementsAre("10.0.0.2"));
+    EXPECT_THAT(copy.notifications.lines, ElementsAre("Ann buzzes you"));
+}
+
+TEST_F(PeerFeaturesTest, ABuzzInAWindowThatIsSeenLeavesNoOtherTrace)
+{
+    openWindow();
+    copy.window(1).inBackground = false;
+    copy.arrive("10.0.0.2", "!BUZZ");
+    EXPECT_THAT(copy.view.log.lines(), IsEmpty());
+    EXPECT_THAT(copy.view.flashed, IsEmpty());
+    EXPECT_THAT(copy.notifications.lines, IsEmpty());
+}
+
+TEST_F(PeerFeaturesTest, ABuzzInAWindowBehindOthersIsTold)
+{
+    openWindow();
+    copy.arrive("10.0.0.2", "!BUZZ");
+    EXPECT_THAT(copy.view.log.lines(), IsEmpty());
+    EXPECT_THAT(copy.notifications.lines, ElementsAre("Ann buzzes you"));
+}
+
+TEST_F(PeerFeaturesTest, AHiddenWindowIsAsGoodAsNone)
+{
+    openWindow();
+    copy.window(1).hideWindow();
+    copy.arrive("10.0.0.2", "!BUZZ");
+    EXPECT_EQ(copy.window(1).log.lastLine(), "BUZZ!");
+    EXPECT_EQ(copy.view.log.lastLine(), "--- 21/11/2026 @ 14:05 - Ann buzzes you ---");
+    EXPECT_THAT(copy.view.flashed, ElementsAre("10.0.0.2"));
+}
+
 TEST_F(PeerFeaturesTest, AMutedBuzzIsSilentButSeen)
 {
     copy.common.buzzmute = true;

@@ -1,0 +1,173 @@
+#include "platform/desktop_notices.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingReply>
+#include <QGuiApplication>
+
+#include <algorithm>
+#include <utility>
+
+namespace nimb
+{
+namespace
+{
+
+const QString service = QStringLiteral("org.freedesktop.Notifications");
+const QString objectPath = QStringLiteral("/org/freedesktop/Notifications");
+constexpr int patience = 3000; // ms; a service that takes longer has something else to do
+constexpr int asLongAsTheDesktopLikes = -1;
+
+QDBusMessage call(const char *method, const QVariantList &arguments = {})
+{
+    QDBusMessage message = QDBusMessage::createMethodCall(service, objectPath, service, QLatin1String(method));
+    message.setArguments(arguments);
+    return message;
+}
+
+} // namespace
+
+DesktopNotices::DesktopNotices(QDBusConnection bus) : m_bus(std::move(bus))
+{
+    const auto on = [this](const char *signal, const char *slot) {
+        m_bus.connect(service, objectPath, service, QLatin1String(signal), this, slot);
+    };
+    on("ActionInvoked", SLOT(actionInvoked(uint, QString)));
+    on("NotificationReplied", SLOT(notificationReplied(uint, QString)));
+    on("NotificationClosed", SLOT(notificationClosed(uint, uint)));
+}
+
+void DesktopNotices::show(const Notice &notice)
+{
+    if (!m_bus.isConnected())
+        return Q_EMIT refused(notice); // a question would never be answered
+    if (!m_capabilities) {
+        m_early.insert_or_assign(notice.place, notice);
+        return askForCapabilities();
+    }
+    Standing &standing = m_standing[notice.place];
+    standing.isOver = false;
+    if (standing.isAsked)
+        standing.next = notice;
+    else
+        notify(notice);
+}
+
+void DesktopNotices::askForCapabilities()
+{
+    if (std::exchange(m_asksForCapabilities, true))
+        return;
+    auto *const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call("GetCapabilities"), patience), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        watcher->deleteLater();
+        m_asksForCapabilities = false;
+        const QDBusPendingReply<QStringList> reply = *watcher;
+        if (!reply.isError())
+            m_capabilities = reply.value();
+        for (const auto &[place, notice] : std::exchange(m_early, {})) {
+            if (m_capabilities)
+                show(notice);
+            else
+                Q_EMIT refused(notice);
+        }
+    });
+}
+
+void DesktopNotices::notify(const Notice &notice)
+{
+    Standing &standing = m_standing[notice.place];
+    standing.isAsked = true;
+    const QVariantMap hints{{QStringLiteral("category"), QStringLiteral("im.received")},
+                            {QStringLiteral("desktop-entry"), QGuiApplication::desktopFileName()}};
+    const bool isMarkup = m_capabilities->contains(QLatin1String("body-markup"));
+    const QDBusMessage message = call("Notify",
+                                      {QStringLiteral("NIMB-Chat"), standing.id, QGuiApplication::desktopFileName(),
+                                       notice.title, isMarkup ? notice.text.toHtmlEscaped() : notice.text,
+                                       actionsOf(notice), hints, asLongAsTheDesktopLikes});
+    auto *const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message, patience), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, notice] {
+        watcher->deleteLater();
+        const QDBusPendingReply<uint> reply = *watcher;
+        shown(notice, reply.isError() ? std::nullopt : std::optional(reply.value()));
+    });
+}
+
+/// The action "default" is a click on the notification itself, which not every desktop offers.
+QStringList DesktopNotices::actionsOf(const Notice &notice) const
+{
+    QStringList actions{QStringLiteral("default"), tr("Open")};
+    if (notice.mayBeAnswered && m_capabilities->contains(QLatin1String("inline-reply")))
+        actions << QStringLiteral("inline-reply") << tr("Reply");
+    else
+        actions << QStringLiteral("open") << tr("Open");
+    return actions;
+}
+
+void DesktopNotices::shown(const Notice &notice, std::optional<uint> id)
+{
+    Standing now = std::exchange(m_standing[notice.place], {});
+    if (!id)
+        m_capabilities.reset(); // whoever takes the service's place may have others
+    if (now.isOver || !id)
+        m_standing.erase(notice.place);
+    else
+        m_standing[notice.place].id = *id;
+    if (now.isOver && id)
+        close(*id);
+    if (!now.isOver && !id)
+        Q_EMIT refused(now.next.value_or(notice));
+    else if (!now.isOver && now.next)
+        notify(*now.next);
+}
+
+void DesktopNotices::withdraw(const NoticePlace &place)
+{
+    m_early.erase(place);
+    const auto found = m_standing.find(place);
+    if (found == m_standing.end())
+        return;
+    Standing &standing = found->second;
+    standing.next.reset();
+    standing.isOver = true;
+    if (standing.isAsked)
+        return;
+    close(standing.id);
+    m_standing.erase(found);
+}
+
+void DesktopNotices::close(uint id)
+{
+    m_bus.send(call("CloseNotification", {id}));
+}
+
+std::map<NoticePlace, DesktopNotices::Standing>::iterator DesktopNotices::standing(uint id)
+{
+    return std::ranges::find_if(m_standing, [id](const auto &one) { return id != 0 && one.second.id == id; });
+}
+
+void DesktopNotices::actionInvoked(uint id, const QString &action)
+{
+    const auto found = standing(id);
+    const bool isOurs = action == QLatin1String("default") || action == QLatin1String("open");
+    if (found != m_standing.end() && isOurs)
+        Q_EMIT opened(NoticePlace(found->first));
+}
+
+void DesktopNotices::notificationReplied(uint id, const QString &text)
+{
+    if (const auto found = standing(id); found != m_standing.end())
+        Q_EMIT answered(NoticePlace(found->first), text);
+}
+
+void DesktopNotices::notificationClosed(uint id, uint)
+{
+    const auto found = standing(id);
+    if (found == m_standing.end())
+        return;
+    // What has come meanwhile is shown anew.
+    if (found->second.isAsked)
+        found->second.id = 0;
+    else
+        m_standing.erase(found);
+}
+
+} // namespace nimb
