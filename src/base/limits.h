@@ -11,6 +11,8 @@ namespace nimb::limits
 
 /// Characters of one message: even as three-byte UTF-8 it fits a datagram that most networks carry.
 constexpr qsizetype messageLength = 2000;
+/// From which on a counter says how many characters a message has.
+constexpr qsizetype messageLengthShown = 1800;
 /// Characters of a nickname or workstation name that are kept; more is no name but an attack on the layout.
 constexpr qsizetype nameLength = 255;
 /// Characters of a name that menus, lists and the pop-up paint before an ellipsis.

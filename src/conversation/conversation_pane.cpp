@@ -1,5 +1,7 @@
 #include "conversation/conversation_pane.h"
 
+#include "base/limits.h"
+#include "base/line_break.h"
 #include "conversation/conversation.h"
 #include "conversation/emoticon_picker.h"
 #include "conversation/message_input.h"
@@ -12,9 +14,11 @@
 #include "widgets/window_attention.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -67,6 +71,7 @@ void ConversationPane::buildControls()
     column->addLayout(m_logRow, 1);
     column->addWidget(ListViewEmot);
     column->addLayout(makeToolRow());
+    column->addWidget(makeCutBand());
     column->addLayout(makeInput());
 }
 
@@ -81,7 +86,26 @@ QHBoxLayout *ConversationPane::makeToolRow()
     for (QToolButton *const tool : {Emoticbtn, datetimebtn, clearbtn})
         m_toolRow->addWidget(tool);
     m_toolRow->addStretch(1);
+    messageCounter = named(new QLabel(this), "messageCounter");
+    messageCounter->setAccessibleName(tr("Length of the message"));
+    messageCounter->hide();
+    m_toolRow->addWidget(messageCounter);
     return m_toolRow;
+}
+
+/// Says what of a paste did not fit, and offers it.
+QWidget *ConversationPane::makeCutBand()
+{
+    cutBand = named(new QLabel(this), "cutBand");
+    cutBand->setTextFormat(Qt::RichText); // our own text alone, for its link
+    cutBand->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    cutBand->setWordWrap(true);
+    cutBand->setMargin(spacing);
+    cutBand->setAutoFillBackground(true);
+    cutBand->setBackgroundRole(QPalette::ToolTipBase);
+    cutBand->setForegroundRole(QPalette::ToolTipText);
+    cutBand->hide();
+    return cutBand;
 }
 
 QHBoxLayout *ConversationPane::makeInput()
@@ -104,6 +128,13 @@ void ConversationPane::connectControls()
     connect(sendbtn, &QPushButton::clicked, this, &ConversationPane::sendbtn_Click);
     connect(intext, &MessageInput::entered, sendbtn, &QPushButton::click);
     connect(intext, &MessageInput::recallWanted, this, [this] { setTypedText(*intext, m_lastSent); });
+    connect(intext, &QPlainTextEdit::textChanged, this, &ConversationPane::showRoomLeft);
+    connect(intext, &MessageInput::pasteCut, this, &ConversationPane::offerRest);
+    connect(cutBand, &QLabel::linkActivated, this, [this] {
+        QGuiApplication::clipboard()->setText(m_rest);
+        cutBand->setText(tr("The rest is on the clipboard."));
+        focusInput();
+    });
     auto *const close = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_W), this);
     connect(close, &QShortcut::activated, this, [this] { window()->close(); });
     connect(clearbtn, &QToolButton::clicked, this, &ConversationPane::Clearbtn_Click);
@@ -180,9 +211,29 @@ void ConversationPane::sendbtn_Click()
     if (m_conversation->send(typed)) {
         m_lastSent = typed;
         intext->clear();
+        cutBand->hide();
         m_outtext->showEnd();
     }
     intext->setFocus();
+}
+
+void ConversationPane::showRoomLeft()
+{
+    const qsizetype length = nimb::typedText(*intext).size();
+    messageCounter->setVisible(length >= limits::messageLengthShown);
+    if (length >= limits::messageLengthShown)
+        messageCounter->setText(tr("%1 of %2").arg(length).arg(limits::messageLength));
+}
+
+void ConversationPane::offerRest(const QString &rest)
+{
+    m_rest = rest;
+    m_rest.replace(lineBreak, QLatin1String("\n"));
+    cutBand->setText(tr("A message holds %1 characters; the last %2 of what you pasted did not fit. "
+                        "<a href=\"rest\">Copy the rest</a>")
+                         .arg(limits::messageLength)
+                         .arg(m_rest.size()));
+    cutBand->show();
 }
 
 void ConversationPane::keyPressEvent(QKeyEvent *event)

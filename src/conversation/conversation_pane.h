@@ -9,6 +9,7 @@
 
 class QCloseEvent;
 class QHBoxLayout;
+class QLabel;
 class QPushButton;
 class QToolButton;
 
@@ -71,6 +72,7 @@ Q_SIGNALS:
 private:
     void buildControls();
     QHBoxLayout *makeToolRow();
+    QWidget *makeCutBand();
     QHBoxLayout *makeInput();
     void connectControls();
 
@@ -81,16 +83,21 @@ private:
     void ListViewEmot_ItemClick(const QString &emoticon);
     void outtext_Change();
     void noteWhatIsSeen();
+    void showRoomLeft();
+    void offerRest(const QString &rest);
     void Form_Unload();
 
     Conversation *m_conversation; ///< null once the window was let go
     QString m_lastSent;
+    QString m_rest; ///< of what was pasted
     RTFSubClass &m_links;
 
     RichTextLogEdit *m_outtext = nullptr;
     EmoticonPicker *ListViewEmot = nullptr;
     MessageInput *intext = nullptr;
     QPushButton *sendbtn = nullptr;
+    QLabel *messageCounter = nullptr;
+    QLabel *cutBand = nullptr;
     QToolButton *clearbtn = nullptr;
     QToolButton *datetimebtn = nullptr;
     QToolButton *Emoticbtn = nullptr;

@@ -1,6 +1,7 @@
 #include "conversation/message_input.h"
 
 #include "base/limits.h"
+#include "base/line_break.h"
 #include "base/remote_text.h"
 #include "widgets/form_text.h"
 
@@ -40,8 +41,12 @@ void MessageInput::cut()
 {
     const QString typed = typedText(*this);
     const QString kept = cutText(typed, limits::messageLength);
-    if (kept.size() < typed.size())
-        setTypedText(*this, kept);
+    if (kept.size() == typed.size())
+        return;
+    setTypedText(*this, kept);
+    // A key adds one character, or the two of a line break.
+    if (const QString rest = typed.mid(kept.size()); rest.size() > lineBreak.size())
+        Q_EMIT pasteCut(rest);
 }
 
 } // namespace nimb

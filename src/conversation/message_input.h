@@ -20,6 +20,8 @@ Q_SIGNALS:
     void entered();
     /// The Up key was pressed in an empty box.
     void recallWanted();
+    /// More was pasted than the box holds; rest: what has been cut.
+    void pasteCut(const QString &rest);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

@@ -140,6 +140,41 @@ TEST_F(FrmPrivate, TheUpKeyInAnEmptyInputBringsTheLastMessageBack)
     EXPECT_EQ(intext().toPlainText(), QStringLiteral("first!")) << "there the key moves the caret";
 }
 
+TEST_F(FrmPrivate, ACounterAppearsWhenAMessageBecomesLong)
+{
+    auto &counter = control<QLabel>("messageCounter");
+    intext().setPlainText(QString(1799, u'x'));
+    EXPECT_FALSE(counter.isVisible());
+    type(QStringLiteral("y"));
+    EXPECT_TRUE(counter.isVisible());
+    EXPECT_EQ(counter.text(), QStringLiteral("1800 of 2000"));
+    QTest::keyClick(&intext(), Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(counter.text(), QStringLiteral("1802 of 2000"));
+    QTest::keyClick(&intext(), Qt::Key_Return);
+    EXPECT_FALSE(counter.isVisible());
+}
+
+TEST_F(FrmPrivate, APasteThatIsTooLongIsSaidAndItsRestOffered)
+{
+    auto &band = control<QLabel>("cutBand");
+    QGuiApplication::clipboard()->setText(QString(1990, u'x') + QStringLiteral("0123456789and\nmore"));
+    intext().paste();
+    EXPECT_EQ(intext().toPlainText(), QString(1990, u'x') + QStringLiteral("0123456789"));
+    EXPECT_TRUE(band.isVisible());
+    EXPECT_THAT(band.text().toStdString(), testing::HasSubstr("the last 8 of what you pasted did not fit"));
+    Q_EMIT band.linkActivated(QStringLiteral("rest"));
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("and\nmore"));
+    QTest::keyClick(&intext(), Qt::Key_Return);
+    EXPECT_FALSE(band.isVisible());
+}
+
+TEST_F(FrmPrivate, AKeyThatFindsNoRoomIsNoPaste)
+{
+    intext().setPlainText(QString(2000, u'x'));
+    type(QStringLiteral("y"));
+    EXPECT_FALSE(control<QLabel>("cutBand").isVisible());
+}
+
 TEST_F(FrmPrivate, SendingShowsTheEndOfTheLog)
 {
     for (int i = 0; i < 100; ++i)
