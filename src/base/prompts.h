@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace nimb
 {
 
@@ -17,6 +19,8 @@ public:
     [[nodiscard]] virtual bool confirm(const QString &text, const QString &title) = 0;
     /// A Yes/No box; true for Yes.
     [[nodiscard]] virtual bool ask(const QString &text, const QString &title) = 0;
+    /// The same; nothing when nobody was there to answer, as at the end of a session.
+    [[nodiscard]] virtual std::optional<bool> decide(const QString &text, const QString &title) = 0;
     /// A box with OK alone. False when nobody was there to read it, as at the end of a session.
     virtual bool tell(const QString &text, const QString &title) = 0;
 };

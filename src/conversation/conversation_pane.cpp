@@ -97,6 +97,7 @@ QHBoxLayout *ConversationPane::makeToolRow()
 QWidget *ConversationPane::makeCutBand()
 {
     cutBand = named(new QLabel(this), "cutBand");
+    cutBand->setAccessibleName(tr("What did not fit"));
     cutBand->setTextFormat(Qt::RichText); // our own text alone, for its link
     cutBand->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     cutBand->setWordWrap(true);
@@ -133,6 +134,7 @@ void ConversationPane::connectControls()
     connect(cutBand, &QLabel::linkActivated, this, [this] {
         QGuiApplication::clipboard()->setText(m_rest);
         cutBand->setText(tr("The rest is on the clipboard."));
+        cutBand->setAccessibleName(cutBand->text());
         focusInput();
     });
     auto *const close = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_W), this);
@@ -229,10 +231,11 @@ void ConversationPane::offerRest(const QString &rest)
 {
     m_rest = rest;
     m_rest.replace(lineBreak, QLatin1String("\n"));
-    cutBand->setText(tr("A message holds %1 characters; the last %2 of what you pasted did not fit. "
-                        "<a href=\"rest\">Copy the rest</a>")
-                         .arg(limits::messageLength)
-                         .arg(m_rest.size()));
+    const QString sentence = tr("A message holds %1 characters; the last %2 of what you pasted did not fit.")
+                                 .arg(limits::messageLength)
+                                 .arg(m_rest.size());
+    cutBand->setText(sentence + tr(" <a href=\"rest\">Copy the rest</a>"));
+    cutBand->setAccessibleName(sentence);
     cutBand->show();
 }
 

@@ -28,7 +28,10 @@ void offerGoodCopy(GoodCopy &copy, const SettingsStore &store, Prompts &prompts)
                                        "There is a copy of the settings, saved on %1 at %2. Is NIMB-Chat to "
                                        "go on with that copy? What is not used is kept under another name."))
               .arg(shortDate(*made), shortTime(*made));
-    if (!prompts.ask(trouble + QLatin1String("\n\n") + question, programTitle))
+    const std::optional<bool> wanted = prompts.decide(trouble + QLatin1String("\n\n") + question, programTitle);
+    if (!wanted)
+        return; // the next start asks again
+    if (!*wanted)
         return copy.declineCopy();
     if (const std::optional<QString> problem = copy.takeCopy())
         prompts.tell(*problem, programTitle);

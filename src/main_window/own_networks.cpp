@@ -115,7 +115,7 @@ void OwnNetworks::tellChange(const Networks &before, NetworkChange change)
         m_parts.log.fault(cardIsGone());
     const QString address = addressText(m_now.own);
     if (!before.any)
-        show(tr("There is a network again: your address is %1").arg(address));
+        show(tr("There is a network now: your address is %1").arg(address));
     else if (m_now.own != before.own)
         show(tr("Your address is now %1").arg(address));
     else if (change == NetworkChange::wokeUp)

@@ -117,10 +117,13 @@ std::vector<SearchedNetwork> Search::networks() const
     constexpr Ipv4Address everybodyHere(127, 255, 255, 255);
     if (const Ipv4Address own = m_parts.common.ownIP; own.isLoopback())
         return {{tr("this computer"), own, everybodyHere}};
+    // Where the own address is chosen all that we send bears it: whoever hears another one first knows somebody else.
+    const std::vector<NetworkCard> cards = m_parts.ownAddresses.cards();
+    const bool isChosen = m_parts.ownAddresses.isFixed() || addressOfCard(m_parts.ownAddresses, m_parts.common.ownCard);
     std::vector<SearchedNetwork> networks;
-    for (const NetworkCard &card : m_parts.ownAddresses.cards()) {
+    for (const NetworkCard &card : cards) {
         const bool isOwn = card.address == m_parts.common.ownIP;
-        if (!card.broadcast || (m_parts.ownAddresses.isFixed() && !isOwn))
+        if (!card.broadcast || (isChosen && !isOwn))
             continue;
         // Who is asked from two addresses on one network knows two of us, and one of them never answers.
         const auto same = std::ranges::find(networks, *card.broadcast, &SearchedNetwork::everybody);
@@ -215,6 +218,8 @@ QString Search::names(const Run &run) const
 void Search::finish(Run &run)
 {
     run.timer->stop();
+    if (run.answers.empty() && m_parts.common.ownIP.isLoopback() && !m_parts.ownAddresses.isFixed())
+        return m_parts.log.note(tr("nobody answered: no network is connected, so only this computer was asked"));
     if (run.answers.empty())
         return m_parts.log.note(tr("nobody answered: nobody may be there, a firewall may be in the way, or the network "
                                    "may keep its machines apart; %1 looks which"),

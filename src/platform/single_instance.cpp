@@ -84,6 +84,16 @@ QByteArray messageFor(const QString &caption)
     return text.left(end) + endMark;
 }
 
+/// A copy listens there. Whoever connects and says nothing is dropped by it.
+bool isAnswered(const QString &socketPath)
+{
+    if (!belongsToUs(socketPath))
+        return false;
+    QLocalSocket socket;
+    socket.connectToServer(socketPath);
+    return socket.waitForConnected(millisecondsLeft(QDeadlineTimer(patience)));
+}
+
 } // namespace
 
 SingleInstance::SingleInstance(const QString &profileFolder, QObject *parent)
@@ -106,8 +116,10 @@ bool SingleInstance::acquire()
     switch (outcome) {
     case InstanceLock::Outcome::heldElsewhere:
         return false;
-    case InstanceLock::Outcome::impossible:
-        return true;
+    case InstanceLock::Outcome::impossible: // as in a folder that is read only; then the socket decides
+        if (isAnswered(m_socketPath))
+            return false;
+        break;
     case InstanceLock::Outcome::held:
         break;
     }

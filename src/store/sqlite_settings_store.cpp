@@ -288,8 +288,8 @@ SqliteSettingsStore::SqliteSettingsStore(const QString &folder, Access access)
     m_copyOffered = m_access == Access::readAndWrite && (m_isLost || QFile::exists(offerMark()))
         && QFileInfo(goodCopy()).size() > 0;
     // What is stored next hides the loss from the next start, and with it that nobody has decided yet.
-    if (m_copyOffered)
-        QFile(offerMark()).open(QFile::WriteOnly);
+    if (m_copyOffered && QFile(offerMark()).open(QFile::WriteOnly))
+        takeFileFromOthers(offerMark());
 }
 
 SqliteSettingsStore::~SqliteSettingsStore() = default;

@@ -45,6 +45,13 @@ bool MessageBoxes::ask(const QString &text, const QString &title)
     return show(QMessageBox::Question, QMessageBox::Yes | QMessageBox::No, text, title) == QMessageBox::Yes;
 }
 
+std::optional<bool> MessageBoxes::decide(const QString &text, const QString &title)
+{
+    const bool yes = ask(text, title);
+    // A box that was taken away has not been answered.
+    return m_unattended ? std::nullopt : std::optional(yes);
+}
+
 bool MessageBoxes::tell(const QString &text, const QString &title)
 {
     if (!m_unattended)

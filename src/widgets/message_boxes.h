@@ -24,6 +24,7 @@ public:
 
     bool confirm(const QString &text, const QString &title) override;
     bool ask(const QString &text, const QString &title) override;
+    std::optional<bool> decide(const QString &text, const QString &title) override;
     bool tell(const QString &text, const QString &title) override;
     /// Whether something was told to nobody.
     bool wereMissed() const { return m_missed; }

@@ -363,7 +363,7 @@ TEST_F(FrmMain, AChangeOfTheNetworksIsShownInTheStatusBar)
     EXPECT_EQ(panel.text(), QStringLiteral("No network"));
     windows.ownAddresses.running = {{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1), Ipv4Address(10, 0, 0, 255)}};
     windows.networkWatch.tell();
-    EXPECT_EQ(panel.text(), QStringLiteral("There is a network again: your address is 10.0.0.1"));
+    EXPECT_EQ(panel.text(), QStringLiteral("There is a network now: your address is 10.0.0.1"));
     windows.time.advance(std::chrono::seconds(10));
     EXPECT_FALSE(panel.isVisible());
 }

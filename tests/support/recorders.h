@@ -407,6 +407,11 @@ public:
         return answer;
     }
     bool ask(const QString &text, const QString &title) override { return confirm(text, title); }
+    std::optional<bool> decide(const QString &text, const QString &title) override
+    {
+        const bool yes = confirm(text, title);
+        return attended ? std::optional(yes) : std::nullopt;
+    }
     bool tell(const QString &text, const QString &title) override
     {
         told.push_back((title + QLatin1String(": ") + text).toStdString());

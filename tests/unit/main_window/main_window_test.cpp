@@ -327,6 +327,18 @@ TEST(OfferGoodCopy, SaysWhatIsWrongAndDoesWhatTheUserSays)
     }
 }
 
+TEST(OfferGoodCopy, AQuestionThatNobodyAnswersDecidesNothing)
+{
+    RecorderGoodCopy copy;
+    MemoryStore store;
+    RecorderPrompts prompts;
+    prompts.attended = false;
+    copy.offered = QDateTime(QDate(2026, 11, 20), QTime(9, 30));
+    offerGoodCopy(copy, store, prompts);
+    EXPECT_EQ(prompts.asked.size(), 1u);
+    EXPECT_THAT(copy.done, IsEmpty());
+}
+
 TEST(OfferGoodCopy, SaysThatTheSettingsAreEmpty)
 {
     RecorderGoodCopy copy;

@@ -180,7 +180,7 @@ TEST(OwnNetworks, WithoutANetworkNothingIsSentUntilThereIsOneAgain)
     EXPECT_THAT(machine.sent(), IsEmpty());
     EXPECT_EQ(machine.view.networkPanel, QStringLiteral("No network"));
     machine.becomes({office}, office.address);
-    EXPECT_EQ(machine.view.networkPanel, QStringLiteral("There is a network again: your address is 10.0.0.1"));
+    EXPECT_EQ(machine.view.networkPanel, QStringLiteral("There is a network now: your address is 10.0.0.1"));
     machine.advance(3s);
     EXPECT_THAT(machine.sent(), testing::SizeIs(2));
 }

@@ -260,6 +260,18 @@ TEST_F(SearchTest, NobodyIsAskedWhereNobodyElseWouldHearOrTheFixedAddressDoesNot
     EXPECT_EQ(lastLine(), "--- asking everybody on 10.0.0.255 (eth0) who is there ---");
 }
 
+TEST_F(SearchTest, WhereTheOwnAddressIsChosenItsNetworkAloneIsAsked)
+{
+    me.ownAddresses.running = {{QStringLiteral("wlan0"), Ipv4Address(172, 16, 3, 9), Ipv4Address(172, 16, 255, 255)},
+                               {QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1), Ipv4Address(10, 0, 0, 255)}};
+    me.common.ownCard = QStringLiteral("eth0");
+    search().findEverybody();
+    EXPECT_EQ(lastLine(), "--- asking everybody on 10.0.0.255 (eth0) who is there ---");
+    me.common.ownCard = QStringLiteral("eth9");
+    search().findEverybody();
+    EXPECT_EQ(lastLine(), "--- asking everybody on 172.16.255.255 (wlan0), 10.0.0.255 (eth0) who is there ---");
+}
+
 TEST_F(SearchTest, WhoIsBusyIsFoundBusy)
 {
     me.common.ownPresence.base = BaseState::busy;
@@ -324,6 +336,16 @@ TEST_F(SearchTest, ACopyOfTheLoopbackNetworkAsksThatOne)
     here.engine.search().findEverybody();
     EXPECT_EQ(here.view.log.lines().back(), "--- asking everybody on 127.255.255.255 (this computer) who is there ---");
     EXPECT_THAT(here.sent(), ElementsAre(To{"127.255.255.255", "?ONLINE 127.0.3.1 HERE Me"}));
+}
+
+TEST_F(SearchTest, WhereNoNetworkIsConnectedThatIsWhyNobodyAnswers)
+{
+    Copy here{{.ip = QStringLiteral("127.0.0.1"), .host = QStringLiteral("HERE")}};
+    here.engine.search().findEverybody();
+    for (int tick = 0; tick < 40; ++tick)
+        here.advance(100ms);
+    EXPECT_EQ(here.view.log.lines().back(),
+              "--- nobody answered: no network is connected, so only this computer was asked ---");
 }
 
 TEST_F(SearchTest, ANetworkToWhichNoWayLeadsIsSaidAtOnce)

@@ -413,5 +413,23 @@ TEST_F(SingleInstanceTest, StartsWithoutALockWhereNoneCanBeHad)
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
+TEST_F(SingleInstanceTest, InAFolderWithoutALockTheSocketKeepsASecondCopyOut)
+{
+    QDir().mkpath(folder);
+    constexpr auto forAll = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
+    QFile::setPermissions(m_base.path(), forAll);
+    QFile::setPermissions(folder, forAll);
+    QFile::setPermissions(m_base.filePath("run"), forAll | QFile::WriteOwner | QFile::WriteOther);
+    {
+        const OrdinaryUser user;
+        SingleInstance first(folder);
+        SingleInstance second(folder);
+        EXPECT_TRUE(first.acquire());
+        EXPECT_FALSE(second.acquire());
+    }
+    QFile::setPermissions(m_base.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
 } // namespace
 } // namespace nimb::test
