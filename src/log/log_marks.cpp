@@ -23,9 +23,9 @@ enum Property {
     beginsNew,
 };
 
-constexpr double lineHeight = 135;             // percent
+constexpr double heightOfLine = 135;           // percent
 constexpr int gapOfWriter = 2, gapOfOther = 6; // pixels
-constexpr int edge = 12, gap = 8;              // pixels, beside what is painted
+constexpr int markEdge = 12, besideMark = 8;   // pixels, beside what is painted
 
 QFont smaller(QFont font)
 {
@@ -44,7 +44,7 @@ QTextBlockFormat line()
 {
     QTextBlockFormat format;
     format.setIndent(1); // at the side from which the line is read
-    format.setLineHeight(lineHeight, QTextBlockFormat::ProportionalHeight);
+    format.setLineHeight(heightOfLine, QTextBlockFormat::ProportionalHeight);
     format.setTopMargin(gapOfWriter);
     return format;
 }
@@ -59,8 +59,8 @@ void paintDivider(QPainter &painter, const QRect &place, const QString &word, co
     faint.setAlphaF(0.5F);
     painter.setPen(faint);
     const int middle = place.center().y(), centre = place.center().x();
-    painter.drawLine(place.left() + edge, middle, centre - wordWidth / 2 - gap, middle);
-    painter.drawLine(centre + wordWidth / 2 + gap, middle, place.right() - edge, middle);
+    painter.drawLine(place.left() + markEdge, middle, centre - wordWidth / 2 - besideMark, middle);
+    painter.drawLine(centre + wordWidth / 2 + besideMark, middle, place.right() - markEdge, middle);
 }
 
 /// A ring with an exclamation mark, which needs no font.
@@ -149,7 +149,7 @@ QTextBlockFormat LogMarks::withRoom(QTextBlockFormat line, const QFont &font)
 
 int LogMarks::marginRight(const QFont &font)
 {
-    return QFontMetrics(smaller(font)).horizontalAdvance(QStringLiteral("00:00")) + edge + 2 * gap;
+    return QFontMetrics(smaller(font)).horizontalAdvance(QStringLiteral("00:00")) + markEdge + 2 * besideMark;
 }
 
 void LogMarks::paintGround(QPainter &painter, const Seen &line, const QPalette &palette)
@@ -158,7 +158,7 @@ void LogMarks::paintGround(QPainter &painter, const Seen &line, const QPalette &
     if (!format.hasProperty(ownMessage))
         return;
     // The height of a line is below its text; the ground stands around it, and without a gap between two of one writer.
-    const double below = QFontMetrics(line.block.charFormat().font()).height() * (lineHeight - 100) / 200;
+    const double below = QFontMetrics(line.block.charFormat().font()).height() * (heightOfLine - 100) / 200;
     const double above = format.topMargin() <= gapOfWriter ? format.topMargin() : 0;
     const QRectF place = line.place.adjusted(0, -below - above, 0, -below);
     painter.fillRect(QRectF(0, place.top(), painter.viewport().width(), place.height()).toAlignedRect(),
@@ -184,12 +184,12 @@ void LogMarks::paintMarks(QPainter &painter, const Seen &line, const QPalette &p
         paintDivider(painter, above, QLocale().toString(day, QStringLiteral("dddd, d MMMM")), muted);
     }
     const int ascent = painter.fontMetrics().height();
-    QRect time(0, qRound(line.place.top()), width - edge, QFontMetrics(font).height());
+    QRect time(0, qRound(line.place.top()), width - markEdge, QFontMetrics(font).height());
     if (format.hasProperty(undelivered)) {
         const double side = ascent * 0.8;
         paintUndelivered(painter, {time.right() - side, time.center().y() - side / 2, side, side},
                          readableOn(QColor(0x7A, 0x41, 0x00), ground));
-        time.setRight(time.right() - qRound(side) - gap / 2);
+        time.setRight(time.right() - qRound(side) - besideMark / 2);
     }
     if (format.hasProperty(timeShown)) {
         painter.setPen(muted);

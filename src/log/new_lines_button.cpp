@@ -10,7 +10,7 @@ namespace nimb
 {
 namespace
 {
-constexpr int margin = 10, pictureSide = 16, gap = 4; // pixels
+constexpr int around = 10, arrowSide = 16, besideText = 4; // pixels
 } // namespace
 
 NewLinesButton::NewLinesButton(RichTextLogEdit &log) : QToolButton(&log), m_log(log)
@@ -37,10 +37,10 @@ void NewLinesButton::showLines(int lines)
 
 void NewLinesButton::place()
 {
-    const int height = fontMetrics().height() + margin;
-    const int width = qMax(height, pictureSide + gap + fontMetrics().horizontalAdvance(text()) + 2 * margin);
+    const int height = fontMetrics().height() + around;
+    const int width = qMax(height, arrowSide + besideText + fontMetrics().horizontalAdvance(text()) + 2 * around);
     const QRect shown = m_log.viewport()->geometry();
-    setGeometry(shown.right() - width - margin, shown.bottom() - height - margin, width, height);
+    setGeometry(shown.right() - width - around, shown.bottom() - height - around, width, height);
 }
 
 bool NewLinesButton::eventFilter(QObject *watched, QEvent *event)
@@ -59,10 +59,10 @@ void NewLinesButton::paintEvent(QPaintEvent *)
     painter.setPen(palette().color(QPalette::Highlight));
     painter.setBrush(palette().color(lit ? QPalette::Highlight : QPalette::Window));
     painter.drawRoundedRect(shape, shape.height() / 2, shape.height() / 2);
-    const QRect picture(margin, (height() - pictureSide) / 2, pictureSide, pictureSide);
+    const QRect picture(around, (height() - arrowSide) / 2, arrowSide, arrowSide);
     icon().paint(&painter, picture, Qt::AlignCenter, lit ? QIcon::Selected : QIcon::Normal);
     painter.setPen(palette().color(lit ? QPalette::HighlightedText : QPalette::WindowText));
-    painter.drawText(rect().adjusted(picture.right() + gap, 0, -margin, 0), Qt::AlignCenter, text());
+    painter.drawText(rect().adjusted(picture.right() + besideText, 0, -around, 0), Qt::AlignCenter, text());
 }
 
 } // namespace nimb

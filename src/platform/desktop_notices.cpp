@@ -1,6 +1,7 @@
 #include "platform/desktop_notices.h"
 
-#include <QDBusMessage>
+#include "platform/notification_service.h"
+
 #include <QDBusPendingReply>
 #include <QGuiApplication>
 
@@ -12,24 +13,16 @@ namespace nimb
 namespace
 {
 
-const QString service = QStringLiteral("org.freedesktop.Notifications");
-const QString objectPath = QStringLiteral("/org/freedesktop/Notifications");
-constexpr int patience = 3000; // ms; a service that takes longer has something else to do
+constexpr int answerTime = 3000; // ms; a service that takes longer has something else to do
 constexpr int asLongAsTheDesktopLikes = -1;
-
-QDBusMessage call(const char *method, const QVariantList &arguments = {})
-{
-    QDBusMessage message = QDBusMessage::createMethodCall(service, objectPath, service, QLatin1String(method));
-    message.setArguments(arguments);
-    return message;
-}
 
 } // namespace
 
 DesktopNotices::DesktopNotices(QDBusConnection bus) : m_bus(std::move(bus))
 {
     const auto on = [this](const char *signal, const char *slot) {
-        m_bus.connect(service, objectPath, service, QLatin1String(signal), this, slot);
+        m_bus.connect(notification_service::name, notification_service::path, notification_service::name,
+                      QLatin1String(signal), this, slot);
     };
     on("ActionInvoked", SLOT(actionInvoked(uint, QString)));
     on("NotificationReplied", SLOT(notificationReplied(uint, QString)));
@@ -56,7 +49,8 @@ void DesktopNotices::askForCapabilities()
 {
     if (std::exchange(m_asksForCapabilities, true))
         return;
-    auto *const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call("GetCapabilities"), patience), this);
+    auto *const watcher
+        = new QDBusPendingCallWatcher(m_bus.asyncCall(notification_service::call("GetCapabilities"), answerTime), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         watcher->deleteLater();
         m_asksForCapabilities = false;
@@ -79,11 +73,11 @@ void DesktopNotices::notify(const Notice &notice)
     const QVariantMap hints{{QStringLiteral("category"), QStringLiteral("im.received")},
                             {QStringLiteral("desktop-entry"), QGuiApplication::desktopFileName()}};
     const bool isMarkup = m_capabilities->contains(QLatin1String("body-markup"));
-    const QDBusMessage message = call("Notify",
-                                      {QStringLiteral("NIMB-Chat"), standing.id, QGuiApplication::desktopFileName(),
-                                       notice.title, isMarkup ? notice.text.toHtmlEscaped() : notice.text,
-                                       actionsOf(notice), hints, asLongAsTheDesktopLikes});
-    auto *const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message, patience), this);
+    const QDBusMessage message = notification_service::call(
+        "Notify",
+        {QStringLiteral("NIMB-Chat"), standing.id, QGuiApplication::desktopFileName(), notice.title,
+         isMarkup ? notice.text.toHtmlEscaped() : notice.text, actionsOf(notice), hints, asLongAsTheDesktopLikes});
+    auto *const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message, answerTime), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, notice] {
         watcher->deleteLater();
         const QDBusPendingReply<uint> reply = *watcher;
@@ -136,7 +130,7 @@ void DesktopNotices::withdraw(const NoticePlace &place)
 
 void DesktopNotices::close(uint id)
 {
-    m_bus.send(call("CloseNotification", {id}));
+    m_bus.send(notification_service::call("CloseNotification", {id}));
 }
 
 std::map<NoticePlace, DesktopNotices::Standing>::iterator DesktopNotices::standing(uint id)

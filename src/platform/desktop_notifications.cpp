@@ -1,8 +1,8 @@
 #include "platform/desktop_notifications.h"
 
 #include "base/limits.h"
+#include "platform/notification_service.h"
 
-#include <QDBusMessage>
 #include <QDBusPendingReply>
 #include <QGuiApplication>
 
@@ -13,27 +13,20 @@ namespace nimb
 namespace
 {
 
-const QString service = QStringLiteral("org.freedesktop.Notifications");
-const QString objectPath = QStringLiteral("/org/freedesktop/Notifications");
 const QString defaultAction = QStringLiteral("default");
 constexpr int displayTime = 5000; // ms
 /// Desktops show a few lines and cut the rest.
 constexpr std::size_t shownRows = 5;
-
-QDBusMessage call(const char *method)
-{
-    return QDBusMessage::createMethodCall(service, objectPath, service, QLatin1String(method));
-}
 
 } // namespace
 
 DesktopNotifications::DesktopNotifications(const Common &common, QDBusConnection bus)
     : m_common(common), m_bus(std::move(bus))
 {
-    m_bus.connect(service, objectPath, service, QStringLiteral("ActionInvoked"), this,
-                  SLOT(actionInvoked(uint, QString)));
-    m_bus.connect(service, objectPath, service, QStringLiteral("NotificationClosed"), this,
-                  SLOT(notificationClosed(uint, uint)));
+    m_bus.connect(notification_service::name, notification_service::path, notification_service::name,
+                  QStringLiteral("ActionInvoked"), this, SLOT(actionInvoked(uint, QString)));
+    m_bus.connect(notification_service::name, notification_service::path, notification_service::name,
+                  QStringLiteral("NotificationClosed"), this, SLOT(notificationClosed(uint, uint)));
 }
 
 bool DesktopNotifications::areNeeded()
@@ -72,7 +65,8 @@ void DesktopNotifications::startTimer()
 
 void DesktopNotifications::askForCapabilities()
 {
-    auto *const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call("GetCapabilities")), this);
+    auto *const watcher
+        = new QDBusPendingCallWatcher(m_bus.asyncCall(notification_service::call("GetCapabilities")), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         watcher->deleteLater();
         const QDBusPendingReply<QStringList> reply = *watcher;
@@ -87,7 +81,7 @@ void DesktopNotifications::askForCapabilities()
 void DesktopNotifications::show()
 {
     m_askedRows = m_rows.size();
-    QDBusMessage notify = call("Notify");
+    QDBusMessage notify = notification_service::call("Notify");
     notify.setArguments({QStringLiteral("NIMB-Chat"), m_id, QGuiApplication::desktopFileName(), tr("NIMBChat Notify!"),
                          body(), QStringList{defaultAction, tr("Show")}, QVariantMap(), displayTime});
     auto *const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(notify), this);

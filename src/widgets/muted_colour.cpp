@@ -21,11 +21,6 @@ double luminance(const QColor &colour)
     return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
 }
 
-bool isDark(const QColor &ground)
-{
-    return luminance(ground) < 0.18;
-}
-
 QColor mixed(const QColor &colour, const QColor &with, double share)
 {
     const auto mix = [share](float a, float b) { return static_cast<float>(a + (b - a) * share); };
@@ -49,6 +44,11 @@ double contrast(const QColor &one, const QColor &other)
     const double a = luminance(one);
     const double b = luminance(other);
     return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+bool isDark(const QColor &ground)
+{
+    return luminance(ground) < 0.18;
 }
 
 QColor mutedTextColour(const QPalette &palette)

@@ -10,6 +10,8 @@ namespace nimb
 /// Contrast of two colours, 1 (none) to 21 (black on white), as web accessibility measures it.
 double contrast(const QColor &one, const QColor &other);
 
+bool isDark(const QColor &ground);
+
 /// For what matters less, still readable: contrast 4.5 on the list's ground.
 QColor mutedTextColour(const QPalette &palette);
 

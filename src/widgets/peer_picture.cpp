@@ -32,11 +32,6 @@ int hueOf(const QString &name)
     return static_cast<int>(sum % 360);
 }
 
-bool isDark(const QColor &ground)
-{
-    return ground.lightness() < 128;
-}
-
 /// base: what the colours go with, also where a selected row has a ground of its own.
 void paintInitials(QPainter &painter, const QRectF &disc, const QString &name, const QColor &base)
 {

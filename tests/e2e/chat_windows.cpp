@@ -179,9 +179,12 @@ void PrivateWindow::say(const std::string &utf8) const
 void PrivateWindow::clickIntoLog(int linesBelow, int clicks) const
 {
     activate();
-    const std::vector<SeenLine> lines = linesSeen();
     const auto line = static_cast<std::size_t>(linesBelow) + 1; // the first may be cut off
-    ASSERT_LT(line, lines.size());
+    std::vector<SeenLine> lines;
+    ASSERT_TRUE(waitUntil([&] {
+        lines = linesSeen();
+        return line < lines.size();
+    })) << "no such line is to be seen";
     click(beginningOfLine, lines[line].middle, clicks);
 }
 
