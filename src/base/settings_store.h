@@ -60,7 +60,7 @@ public:
         = 0;
     /// What an earlier run kept and nobody saved since. Nothing after an orderly end.
     virtual RecoveredChanges recovered() const = 0;
-    /// Notes for the next save() that it saves whatever was kept.
+    /// The next save() saves whatever was kept, and read() does not see it any more.
     virtual void dropKept() = 0;
 };
 

@@ -1,7 +1,6 @@
 #include "contacts/contact_transfer.h"
 
-#include "base/limits.h"
-#include "base/remote_text.h"
+#include "base/name_list.h"
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
 
@@ -144,7 +143,7 @@ void ContactTransfer::sendbtn_Click()
         if (!contact)
             continue;
         sendDatagram(m_socket, m_destination.ipv4(), sharedContact(*contact));
-        names.append(paintedName(contact->nickname));
+        names.append(contact->nickname);
     }
     tellSent(names);
 }
@@ -154,10 +153,7 @@ void ContactTransfer::tellSent(const QStringList &names) const
     const Contact *const receiver = m_contacts.find(m_destination);
     if (names.isEmpty() || !receiver)
         return;
-    QStringList shown = names.mid(0, limits::namesInLine);
-    if (const qsizetype more = names.size() - shown.size(); more > 0)
-        shown.append(tr("%n more", nullptr, static_cast<int>(more)));
-    m_log.note(tr("contacts sent to %1: %2").arg(paintedName(receiver->nickname), shown.join(QStringLiteral(", "))));
+    m_log.note(tr("contacts sent to %1: %2").arg(paintedName(receiver->nickname), nameList(names, names.size())));
 }
 
 } // namespace nimb

@@ -8,6 +8,7 @@
 #include "log/RTFSubClass.h"
 #include "log/log_font.h"
 #include "log/rich_text_log.h"
+#include "widgets/band.h"
 #include "widgets/form_layout.h"
 #include "widgets/form_text.h"
 #include "widgets/tool_button.h"
@@ -96,16 +97,10 @@ QHBoxLayout *ConversationPane::makeToolRow()
 /// Says what of a paste did not fit, and offers it.
 QWidget *ConversationPane::makeCutBand()
 {
-    cutBand = named(new QLabel(this), "cutBand");
+    cutBand = named(makeBand(this), "cutBand");
     cutBand->setAccessibleName(tr("What did not fit"));
     cutBand->setTextFormat(Qt::RichText); // our own text alone, for its link
     cutBand->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    cutBand->setWordWrap(true);
-    cutBand->setMargin(spacing);
-    cutBand->setAutoFillBackground(true);
-    cutBand->setBackgroundRole(QPalette::ToolTipBase);
-    cutBand->setForegroundRole(QPalette::ToolTipText);
-    cutBand->hide();
     return cutBand;
 }
 

@@ -112,6 +112,7 @@ void MainWindow::answerNobody()
 
 void MainWindow::sayFarewellAndSaveContacts()
 {
+    m_parts.store.dropKept(); // what is emptied behind the last contact is what is stored there
     int saved = 0;
     for (int row = 0; row < m_parts.contacts.rowCount(); ++row) {
         const Contact &contact = m_parts.contacts.at(row);
@@ -137,7 +138,6 @@ void MainWindow::save()
 {
     m_parts.common.mainPlace = m_parts.view.place();
     saveSettings(m_parts.store, m_parts.common, m_parts.ownState.storedValues());
-    m_parts.store.dropKept();
     const std::optional<QString> problem = m_parts.store.save();
     if (problem && !m_parts.prompts.tell(*problem, programTitle))
         m_parts.nextStart.tell(*problem);

@@ -1,7 +1,7 @@
 #include "people/search.h"
 
 #include "base/limits.h"
-#include "base/remote_text.h"
+#include "base/name_list.h"
 #include "protocol/address_text.h"
 
 #include <QStringList>
@@ -207,12 +207,10 @@ QString Search::names(const Run &run) const
 {
     QStringList names;
     for (const Ipv4Address ip : run.answers) {
-        if (const Contact *const contact = m_parts.contacts.find(ip); contact && names.size() < limits::namesInLine)
-            names.append(paintedName(contact->nickname));
+        if (const Contact *const contact = m_parts.contacts.find(ip))
+            names.append(contact->nickname);
     }
-    if (const qsizetype more = static_cast<qsizetype>(run.answers.size()) - names.size(); more > 0)
-        names.append(tr("%n more", nullptr, static_cast<int>(more)));
-    return names.join(QStringLiteral(", "));
+    return nameList(names, static_cast<qsizetype>(run.answers.size()));
 }
 
 void Search::finish(Run &run)

@@ -1,8 +1,8 @@
 #include "private_chat/peer_header.h"
 
-#include "base/limits.h"
 #include "base/remote_text.h"
 #include "widgets/avatar_image.h"
+#include "widgets/band.h"
 #include "widgets/elided_label.h"
 #include "widgets/form_layout.h"
 #include "widgets/muted_colour.h"
@@ -60,7 +60,7 @@ QString presenceText(Presence presence)
 QString detailsOf(const PeerShown &peer)
 {
     QStringList details{peer.state.isEmpty() ? presenceText(peer.presence) : peer.state};
-    if (!peer.isContact)
+    if (peer.delivery == Delivery::toNoContact)
         details = {PeerHeader::tr("No contact any more")};
     if (!peer.workstation.isEmpty())
         details.append(paintedName(peer.workstation));
@@ -68,14 +68,21 @@ QString detailsOf(const PeerShown &peer)
     return details.join(QStringLiteral(" · "));
 }
 
+/// Empty while all arrives.
 QString warningOf(const PeerShown &peer)
 {
     const QString name = paintedName(peer.name);
-    if (!peer.isContact)
-        return PeerHeader::tr("%1 is no contact any more: what comes from there is not shown").arg(name);
-    if (peer.presence == Presence::offline)
+    switch (peer.delivery) {
+    case Delivery::arrives:
+        return {};
+    case Delivery::doubtful:
+        return PeerHeader::tr("%1 is not known to be there: what you write may not arrive").arg(name);
+    case Delivery::lost:
         return PeerHeader::tr("%1 is offline: what you write does not arrive").arg(name);
-    return PeerHeader::tr("%1 is not known to be there: what you write may not arrive").arg(name);
+    case Delivery::toNoContact:
+        return PeerHeader::tr("%1 is no contact any more: what comes from there is not shown").arg(name);
+    }
+    return {};
 }
 
 } // namespace
@@ -87,10 +94,9 @@ PeerHeader::PeerHeader(QWidget *parent) : QWidget(parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(makeHead());
-    column->addWidget(makeBand());
-    m_uncertain.setSingleShot(true);
-    m_uncertain.setInterval(limits::announcementTime + std::chrono::milliseconds(500));
-    connect(&m_uncertain, &QTimer::timeout, this, &PeerHeader::showBand);
+    peerBand = named(makeBand(this), "peerBand");
+    peerBand->setTextFormat(Qt::PlainText);
+    column->addWidget(peerBand);
 }
 
 QWidget *PeerHeader::makeHead()
@@ -119,41 +125,17 @@ QWidget *PeerHeader::makeHead()
     return head;
 }
 
-QWidget *PeerHeader::makeBand()
-{
-    peerBand = new QLabel(this);
-    peerBand->setObjectName(QStringLiteral("peerBand"));
-    peerBand->setTextFormat(Qt::PlainText);
-    peerBand->setWordWrap(true);
-    peerBand->setMargin(margin);
-    peerBand->setAutoFillBackground(true);
-    peerBand->setBackgroundRole(QPalette::ToolTipBase);
-    peerBand->setForegroundRole(QPalette::ToolTipText);
-    peerBand->hide();
-    return peerBand;
-}
-
 void PeerHeader::setPeer(const PeerShown &peer)
 {
-    m_peer = peer;
     m_picture.name = peer.name;
-    m_picture.presence = peer.isContact ? std::optional(peer.presence) : std::nullopt;
+    m_picture.presence = peer.delivery == Delivery::toNoContact ? std::nullopt : std::optional(peer.presence);
     m_face->update();
     peerName->setText(paintedName(peer.name));
     peerDetails->setText(detailsOf(peer));
     setAccessibleName(peerName->text() + QStringLiteral(", ") + peerDetails->text());
-    m_uncertain.stop();
-    const bool isUncertain = peer.isContact && peer.presence == Presence::unknown;
-    if (isUncertain && peerBand->isHidden())
-        m_uncertain.start();
-    else
-        showBand();
-}
-
-void PeerHeader::showBand()
-{
-    peerBand->setText(warningOf(m_peer));
-    peerBand->setVisible(!m_peer.isContact || !isPresent(m_peer.presence));
+    const QString warning = warningOf(peer);
+    peerBand->setText(warning);
+    peerBand->setVisible(!warning.isEmpty());
 }
 
 void PeerHeader::setAvatar(const std::optional<QByteArray> &picture)

@@ -4,7 +4,6 @@
 #include "private_chat/private_chat_view.h"
 #include "widgets/peer_picture.h"
 
-#include <QTimer>
 #include <QWidget>
 
 class QLabel;
@@ -28,16 +27,11 @@ public:
 
 private:
     QWidget *makeHead();
-    QWidget *makeBand();
-    void showBand();
-
-    PeerShown m_peer;
     PeerPicture m_picture{.name = {}, .ground = QPalette::Window};
     QWidget *m_face = nullptr;
     ElidedLabel *peerName = nullptr;
     ElidedLabel *peerDetails = nullptr;
     QLabel *peerBand = nullptr;
-    QTimer m_uncertain; ///< every announcement makes a peer unknown until it has answered
 };
 
 } // namespace nimb

@@ -15,6 +15,8 @@ namespace
 {
 constexpr std::chrono::milliseconds peerActivityShown{2500};
 constexpr std::chrono::milliseconds pollingInterval{1100};
+/// Every announcement makes a peer unknown until it has answered.
+constexpr std::chrono::milliseconds unknownWithoutDoubt = limits::announcementTime + std::chrono::milliseconds(500);
 } // namespace
 
 PrivateChat::PrivateChat(const Services &services, std::function<void()> unloaded, std::function<void()> sought,
@@ -24,6 +26,7 @@ PrivateChat::PrivateChat(const Services &services, std::function<void()> unloade
       m_timer(services.timers.oneShot(peerActivityShown, [this] { m_view->setPeerActivity({}); })),
       m_timerLiveType(services.timers.oneShot(liveTypeInterval, [this] { TimerLiveType_Timer(); })),
       m_liveTypeAge(services.timers.oneShot(liveTypeAge, [this] { m_view->setLiveType({}); })),
+      m_doubt(services.timers.oneShot(unknownWithoutDoubt, [this] { doubtDelivery(); })),
       m_webCamTimer(services.timers.repeating(pollingInterval, [this] { askForAvatarUnlessInvisible(); })),
       m_sought(std::move(sought)), m_read(std::move(read)), m_view(services.forms.makePrivateForm(*this))
 {
@@ -37,11 +40,34 @@ void PrivateChat::setPeer(const ContactAddress &ip)
     m_view->setPeerAddress(ip.text());
 }
 
-void PrivateChat::showPeer(const PeerShown &peer)
+void PrivateChat::showPeer(PeerShown peer)
 {
+    peer.delivery = deliveryTo(peer);
     if (m_peer == peer)
         return;
-    m_peer = peer;
+    m_peer = std::move(peer);
+    m_view->setPeer(m_peer);
+}
+
+Delivery PrivateChat::deliveryTo(const PeerShown &peer)
+{
+    const bool isUnknown = m_isContact && peer.presence == Presence::unknown;
+    if (!isUnknown)
+        m_doubt->stop();
+    if (!m_isContact)
+        return Delivery::toNoContact;
+    if (!isUnknown)
+        return isPresent(peer.presence) ? Delivery::arrives : Delivery::lost;
+    if (m_peer.delivery != Delivery::arrives)
+        return Delivery::doubtful;
+    if (!m_doubt->isActive())
+        m_doubt->start();
+    return Delivery::arrives;
+}
+
+void PrivateChat::doubtDelivery()
+{
+    m_peer.delivery = Delivery::doubtful;
     m_view->setPeer(m_peer);
 }
 
@@ -185,9 +211,7 @@ void PrivateChat::setContact(bool isContact)
     if (isContact)
         return;
     AvatarCh_Change({});
-    PeerShown stranger = m_peer;
-    stranger.isContact = false;
-    showPeer(stranger);
+    showPeer(m_peer);
 }
 
 void PrivateChat::mymoodpct_MouseDown(float value)

@@ -35,8 +35,8 @@ public:
 
     /// Tells the window its peer.
     void setPeer(const ContactAddress &ip);
-    /// What is known of the peer, now and whenever it changes.
-    void showPeer(const PeerShown &peer);
+    /// What is known of the peer, now and whenever it changes; what becomes of what is written to it follows from that.
+    void showPeer(PeerShown peer);
     const ContactAddress &rIP() const { return m_rIP; }
     PrivateChatView &view() { return *m_view; }
 
@@ -93,7 +93,9 @@ private:
     QString textToSend(const QString &typed) const override;
     void deliver(const QString &text) override;
     void allRead() override { m_read(); }
-    bool arrives() const override { return m_peer.isContact && isPresent(m_peer.presence); }
+    bool arrives() const override { return m_peer.delivery == Delivery::arrives; }
+    Delivery deliveryTo(const PeerShown &peer);
+    void doubtDelivery();
 
     void TimerLiveType_Timer();
     void appendBuzz();
@@ -106,6 +108,7 @@ private:
     std::unique_ptr<Timer> m_timer; ///< clears the panel of the peer's activity
     std::unique_ptr<Timer> m_timerLiveType;
     std::unique_ptr<Timer> m_liveTypeAge; ///< clears what the peer has begun and left
+    std::unique_ptr<Timer> m_doubt;
     std::unique_ptr<Timer> m_webCamTimer;
     std::function<void()> m_sought, m_read;
     TypingNotice m_typingNotice;

@@ -23,6 +23,14 @@ enum class ShowMode {
     onTop,     ///< as it last was, above the others, without taking the focus
 };
 
+/// What becomes of what is written to a peer.
+enum class Delivery {
+    arrives,
+    doubtful,    ///< nobody knows whether he is there
+    lost,        ///< he is offline
+    toNoContact, ///< he has been removed: what comes back is not shown
+};
+
 /// Who is talked to, as the head of the window shows him.
 struct PeerShown {
     QString name;
@@ -30,7 +38,7 @@ struct PeerShown {
     QString state{}; ///< as he has told it last
     QString workstation{};
     QString address{};
-    bool isContact = true; ///< false: he has been removed meanwhile
+    Delivery delivery = Delivery::arrives;
     bool operator==(const PeerShown &) const = default;
 };
 

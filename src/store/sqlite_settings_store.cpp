@@ -296,7 +296,8 @@ SqliteSettingsStore::~SqliteSettingsStore() = default;
 
 QString SqliteSettingsStore::read(const QString &section, const QString &key, const QString &defaultValue) const
 {
-    if (const auto change = m_recovered.constFind({section, key}); change != m_recovered.cend() && change->has_value())
+    const auto change = m_droppingKept ? m_recovered.cend() : m_recovered.constFind({section, key});
+    if (change != m_recovered.cend() && change->has_value())
         return **change;
     return m_values.value({section, key}, defaultValue);
 }

@@ -98,10 +98,23 @@ TEST_F(FrmPrivate, AnAnnouncementThatIsAnsweredShowsNoBand)
     auto &band = control<QLabel>("peerBand");
     windows.engine.announcement().run();
     EXPECT_FALSE(band.isVisible());
-    EXPECT_TRUE(QTest::qWaitFor([&band] { return band.isVisible(); }, 5000)) << "nobody answers";
-    EXPECT_EQ(band.text(), QStringLiteral("Ann is not known to be there: what you write may not arrive"));
-    windows.time.advance(std::chrono::seconds(1));
+    windows.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
+    windows.time.advance(std::chrono::seconds(2));
+    EXPECT_FALSE(band.isVisible());
+    windows.engine.announcement().run();
+    windows.time.advance(std::chrono::seconds(1)); // nobody answers
     EXPECT_EQ(band.text(), QStringLiteral("Ann is offline: what you write does not arrive"));
+}
+
+TEST_F(FrmPrivate, ABandSaysThatNobodyKnowsWhetherThePeerIsThere)
+{
+    auto &band = control<QLabel>("peerBand");
+    windows.engine.contacts().change(QStringLiteral("10.0.0.2"), [](Contact &contact) { contact.setUnheard(); });
+    windows.time.advance(std::chrono::milliseconds(1400));
+    EXPECT_FALSE(band.isVisible());
+    windows.time.advance(std::chrono::milliseconds(200));
+    EXPECT_TRUE(band.isVisible());
+    EXPECT_EQ(band.text(), QStringLiteral("Ann is not known to be there: what you write may not arrive"));
 }
 
 TEST_F(FrmPrivate, WhoIsNoContactAnyMoreIsSaidToBeNone)

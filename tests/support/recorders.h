@@ -472,7 +472,7 @@ class MemoryStore : public SettingsStore
 public:
     QString read(const QString &section, const QString &key, const QString &defaultValue) const override
     {
-        if (const auto change = kept.find({section, key}); change != kept.end() && change->second)
+        if (const auto change = kept.find({section, key}); !dropping && change != kept.end() && change->second)
             return *change->second;
         const auto found = saved.find({section, key});
         return found == saved.end() ? defaultValue : found->second;

@@ -50,6 +50,24 @@ TEST_F(PrivateChatTest, SendsWhatWasTypedAndLogsIt)
     EXPECT_EQ(window().log.pieces[2].colour, 0x123456u);
 }
 
+TEST_F(PrivateChatTest, WhatIsWrittenToWhomNobodyKnowsToBeThereIsMarkedOnceThatHasLasted)
+{
+    copy.engine.contacts().change(QStringLiteral("10.0.0.2"), [](Contact &ann) { ann.setUnheard(); });
+    EXPECT_TRUE(chat().send(QStringLiteral("while an announcement is under way")));
+    copy.advance(1500ms);
+    EXPECT_EQ(window().shownPeer.delivery, Delivery::doubtful);
+    EXPECT_TRUE(chat().send(QStringLiteral("later")));
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC-ANN Ann");
+    EXPECT_TRUE(chat().send(QStringLiteral("she is there")));
+    copy.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC-ANN Ann");
+    EXPECT_EQ(window().shownPeer.delivery, Delivery::lost);
+    EXPECT_TRUE(chat().send(QStringLiteral("she is gone")));
+    std::vector<bool> arrives;
+    for (const LogMessage &message : window().log.messages)
+        arrives.push_back(message.arrives);
+    EXPECT_THAT(arrives, ElementsAre(true, false, true, false));
+}
+
 TEST_F(PrivateChatTest, EmptyInputSendsNothing)
 {
     EXPECT_FALSE(chat().send({}));

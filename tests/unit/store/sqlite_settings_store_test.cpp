@@ -387,6 +387,20 @@ TEST_F(SqliteSettingsStoreTest, HoldsThousandsOfContacts)
     EXPECT_EQ(next.read("Users", "Nn1", ""), "Nick 1");
 }
 
+TEST_F(SqliteSettingsStoreTest, WhatIsDroppedHidesNothingThatIsStored)
+{
+    {
+        SqliteSettingsStore store(folder);
+        store.write("Users", "Nn2", "Somebody");
+        ASSERT_EQ(store.save(), std::nullopt);
+        ASSERT_EQ(store.keep({{"Users", "Nn2", ""}}, {}), std::nullopt);
+    }
+    SqliteSettingsStore next(folder);
+    EXPECT_EQ(next.read("Users", "Nn2", "missing"), "");
+    next.dropKept();
+    EXPECT_EQ(next.read("Users", "Nn2", "missing"), "Somebody");
+}
+
 TEST_F(SqliteSettingsStoreTest, NothingOfAnEmptiedValueStaysInTheFile)
 {
     SqliteSettingsStore store(folder);

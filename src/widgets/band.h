@@ -1,0 +1,24 @@
+// A strip that says what the user should know before he goes on.
+#pragma once
+
+#include "widgets/form_layout.h"
+
+#include <QLabel>
+
+namespace nimb
+{
+
+/// Hidden at first. The desktop's colours for what explains something.
+inline QLabel *makeBand(QWidget *parent)
+{
+    auto *const band = new QLabel(parent);
+    band->setWordWrap(true);
+    band->setMargin(form_layout::margin);
+    band->setAutoFillBackground(true);
+    band->setBackgroundRole(QPalette::ToolTipBase);
+    band->setForegroundRole(QPalette::ToolTipText);
+    band->hide();
+    return band;
+}
+
+} // namespace nimb
