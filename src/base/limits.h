@@ -99,6 +99,8 @@ constexpr qint64 contactFileBytes = qint64{1024} * 1024;
 constexpr int smallestScannedPrefix = 24;
 /// Names in one line of the log: of those who answered a search, of contacts that were sent.
 constexpr qsizetype namesInLine = 20;
+/// Faults of an imported file that are told; a box with more would leave the screen.
+constexpr std::size_t faultsTold = 10;
 /// Two contacts of the same names that are heard within this time may be one machine with two addresses.
 constexpr std::chrono::milliseconds sameMachineTime{1000};
 /// Contacts of one name among which such a machine is looked for: whoever has more addresses forges them.

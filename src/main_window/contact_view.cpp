@@ -487,8 +487,10 @@ void ContactView::placeInvitation()
 {
     const bool isEmpty = model() && model()->rowCount() == 0;
     // Hiding a control that has the focus would pass it on to whatever comes next.
-    if (!isEmpty && m_invitation->isAncestorOf(focusWidget()))
+    if (!isEmpty && m_invitation->isAncestorOf(focusWidget())) {
         setFocus();
+        selectionModel()->clear(); // nobody has been chosen yet
+    }
     m_invitation->setGeometry(viewport()->rect());
     m_invitation->setVisible(isEmpty);
 }

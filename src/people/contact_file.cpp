@@ -146,36 +146,53 @@ QByteArray ContactFile::write(const std::vector<Entry> &entries)
     return text.toUtf8();
 }
 
-std::variant<std::vector<ContactFile::Entry>, ContactFile::Fault> ContactFile::read(const QByteArray &bytes)
+std::optional<ContactFile::Fault> ContactFile::faultOf(const Entry &entry, QSet<QString> &addresses)
 {
+    const std::optional<Ipv4Address> address = readAddress(entry.address);
+    if (!address || !address->isUnicast())
+        return Fault{entry.line, tr("\"%1\" is not the address of one computer").arg(remoteName(entry.address))};
+    if (entry.nickname.isEmpty() || entry.workstation.isEmpty())
+        return Fault{entry.line, tr("a name is empty")};
+    if (addresses.contains(entry.address))
+        return Fault{entry.line, tr("%1 was there before").arg(entry.address)};
+    addresses.insert(entry.address);
+    return std::nullopt;
+}
+
+std::variant<std::vector<ContactFile::Entry>, std::vector<ContactFile::Fault>>
+ContactFile::read(const QByteArray &bytes)
+{
+    using Faults = std::vector<Fault>;
     QStringDecoder decoder(QStringDecoder::Utf8); // leaves a byte order mark out
     const QString text = decoder(bytes);
     if (decoder.hasError())
-        return Fault{0, tr("it is not written in UTF-8")};
+        return Faults{{0, tr("it is not written in UTF-8")}};
     Records records(text);
     const std::optional<Records::Record> header = records.next();
     const std::optional<Order> order = header ? orderOf(*header) : std::nullopt;
     if (!order)
-        return Fault{header ? header->line : 1, tr("it must be: %1").arg(QLatin1String(columns))};
+        return Faults{{header ? header->line : 1, tr("it must be: %1").arg(QLatin1String(columns))}};
     std::vector<Entry> entries;
+    Faults faults;
     QSet<QString> addresses;
     while (const auto record = records.next()) {
-        if (!record->isWhole)
-            return Fault{record->line, tr("its quotation marks do not fit")};
-        if (record->fields.size() != columnCount)
-            return Fault{record->line, tr("it has not three fields")};
+        if (!record->isWhole) {
+            faults.push_back({record->line, tr("its quotation marks do not fit")});
+            break;
+        }
+        if (record->fields.size() != columnCount) {
+            faults.push_back({record->line, tr("it has not three fields")});
+            continue;
+        }
         Entry entry{record->fields.at(order->at(0)).trimmed(), remoteName(record->fields.at(order->at(1))),
                     remoteName(record->fields.at(order->at(2))), record->line};
-        const std::optional<Ipv4Address> address = readAddress(entry.address);
-        if (!address || !address->isUnicast())
-            return Fault{record->line, tr("\"%1\" is not the address of one computer").arg(remoteName(entry.address))};
-        if (entry.nickname.isEmpty() || entry.workstation.isEmpty())
-            return Fault{record->line, tr("a name is empty")};
-        if (addresses.contains(entry.address))
-            return Fault{record->line, tr("%1 was there before").arg(entry.address)};
-        addresses.insert(entry.address);
-        entries.push_back(std::move(entry));
+        if (std::optional<Fault> fault = faultOf(entry, addresses))
+            faults.push_back(*std::move(fault));
+        else
+            entries.push_back(std::move(entry));
     }
+    if (!faults.empty())
+        return faults;
     return entries;
 }
 

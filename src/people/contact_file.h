@@ -5,7 +5,9 @@
 
 #include <QByteArray>
 #include <QCoreApplication>
+#include <QSet>
 
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -34,9 +36,14 @@ public:
     /// and 127.0.0.1, which means whoever says it.
     [[nodiscard]] static std::vector<Entry> entriesOf(const ContactList &contacts);
     [[nodiscard]] static QByteArray write(const std::vector<Entry> &entries);
-    /// All entries or the first fault. An address must be dotted and that of one host, and no two may be the same;
+    /// All entries, or every fault in the order of the lines; what stands behind quotation marks that do not fit cannot
+    /// be read. An address must be dotted and that of one host, and no two may be the same;
     /// names must not be empty.
-    [[nodiscard]] static std::variant<std::vector<Entry>, Fault> read(const QByteArray &bytes);
+    [[nodiscard]] static std::variant<std::vector<Entry>, std::vector<Fault>> read(const QByteArray &bytes);
+
+private:
+    /// addresses: those of the entries before; gets this one's.
+    static std::optional<Fault> faultOf(const Entry &entry, QSet<QString> &addresses);
 };
 
 } // namespace nimb

@@ -1,7 +1,10 @@
 #include "people/contact_import.h"
 
+#include "base/limits.h"
 #include "base/remote_text.h"
 #include "protocol/address_text.h"
+
+#include <algorithm>
 
 namespace nimb
 {
@@ -22,22 +25,32 @@ QString ContactImport::objection(const ContactFile::Entry &entry) const
     return {};
 }
 
-void ContactImport::tell(const QString &name, const ContactFile::Fault &fault)
+void ContactImport::tell(const QString &name, const std::vector<ContactFile::Fault> &faults)
 {
-    const QString where = fault.line > 0 ? tr("Line %1 of %2").arg(QString::number(fault.line), name) : name;
-    m_prompts.tell(tr("%1: %2. No contact was taken from this file.").arg(where, fault.reason), programTitle);
+    const ContactFile::Fault &first = faults.front();
+    const QString where = first.line > 0 ? tr("Line %1 of %2").arg(QString::number(first.line), name) : name;
+    QString text = tr("%1: %2").arg(where, first.reason);
+    const std::size_t told = std::min(faults.size(), limits::faultsTold);
+    for (std::size_t i = 1; i < told; ++i)
+        text += tr("; line %1: %2").arg(QString::number(faults[i].line), faults[i].reason);
+    if (const std::size_t more = faults.size() - told; more > 0)
+        text += tr("; %n more", nullptr, static_cast<int>(more));
+    m_prompts.tell(tr("%1. No contact was taken from this file.").arg(text), programTitle);
 }
 
 void ContactImport::take(const QByteArray &file, const QString &name)
 {
     const auto read = ContactFile::read(file);
-    if (const auto *const fault = std::get_if<ContactFile::Fault>(&read))
-        return tell(name, *fault);
+    if (const auto *const faults = std::get_if<std::vector<ContactFile::Fault>>(&read))
+        return tell(name, *faults);
     const auto &entries = std::get<std::vector<ContactFile::Entry>>(read);
+    std::vector<ContactFile::Fault> objections;
     for (const ContactFile::Entry &entry : entries) {
-        if (const QString reason = objection(entry); !reason.isEmpty())
-            return tell(name, {entry.line, reason});
+        if (QString reason = objection(entry); !reason.isEmpty())
+            objections.push_back({entry.line, std::move(reason)});
     }
+    if (!objections.empty())
+        return tell(name, objections);
     std::vector<SearchTarget> taken;
     for (const ContactFile::Entry &entry : entries) {
         const std::optional<Ipv4Address> address = readAddress(entry.address);

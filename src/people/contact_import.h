@@ -9,7 +9,7 @@
 namespace nimb
 {
 
-/// All contacts of a file or none of them: a fault anywhere in it is told, with its line, and nothing changes.
+/// All contacts of a file or none of them: faults anywhere in it are told, with their lines, and nothing changes.
 class ContactImport
 {
     Q_DECLARE_TR_FUNCTIONS(ContactImport)
@@ -27,7 +27,7 @@ public:
 private:
     /// Empty when nothing speaks against it.
     QString objection(const ContactFile::Entry &entry) const;
-    void tell(const QString &name, const ContactFile::Fault &fault);
+    void tell(const QString &name, const std::vector<ContactFile::Fault> &faults);
 
     const Admission &m_admission;
     ContactList &m_contacts;

@@ -348,6 +348,7 @@ TEST(EmptyContactList, SaysWhatToDoAndAsksEverybodyOnAClick)
     windows.arrive("10.0.0.9", "!ONLINE 10.0.0.9 PC-NEW New");
     EXPECT_FALSE(button.isVisible());
     EXPECT_TRUE(windows.list().hasFocus());
+    EXPECT_FALSE(windows.list().selectionModel()->hasSelection());
     windows.click(0);
     windows.entry("mnuRemoveUser").trigger();
     EXPECT_TRUE(button.isVisible()) << "the list is empty again";

@@ -11,10 +11,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     using nimb::ContactFile;
     const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     auto read = ContactFile::read(bytes);
-    if (const auto *const fault = std::get_if<ContactFile::Fault>(&read)) {
-        require(fault->line >= 0 && fault->line <= bytes.count('\n') + bytes.count('\r') + 1,
-                "the line is one of the file");
-        require(!fault->reason.isEmpty(), "the fault has a reason");
+    if (const auto *const faults = std::get_if<std::vector<ContactFile::Fault>>(&read)) {
+        require(!faults->empty(), "what is refused has a fault");
+        for (const ContactFile::Fault &fault : *faults) {
+            require(fault.line >= 0 && fault.line <= bytes.count('\n') + bytes.count('\r') + 1,
+                    "the line is one of the file");
+            require(!fault.reason.isEmpty(), "the fault has a reason");
+        }
         return 0;
     }
     auto entries = std::get<std::vector<ContactFile::Entry>>(read);

@@ -22,15 +22,26 @@ QString text(const char *utf8)
 std::vector<Entry> entriesOf(const QByteArray &bytes)
 {
     const auto result = ContactFile::read(bytes);
-    if (const auto *const fault = std::get_if<Fault>(&result))
-        ADD_FAILURE() << fault->line << ": " << fault->reason.toStdString();
-    return std::holds_alternative<Fault>(result) ? std::vector<Entry>() : std::get<std::vector<Entry>>(result);
+    if (const auto *const faults = std::get_if<std::vector<Fault>>(&result)) {
+        for (const Fault &fault : *faults)
+            ADD_FAILURE() << "line " << fault.line << ": " << fault.reason.toStdString();
+    }
+    return std::holds_alternative<std::vector<Fault>>(result) ? std::vector<Entry>()
+                                                              : std::get<std::vector<Entry>>(result);
 }
 
-Fault faultOf(const QByteArray &bytes)
+std::vector<Fault> faultsOf(const QByteArray &bytes)
 {
     const auto result = ContactFile::read(bytes);
-    return std::holds_alternative<Fault>(result) ? std::get<Fault>(result) : Fault{-1, {}};
+    return std::holds_alternative<std::vector<Fault>>(result) ? std::get<std::vector<Fault>>(result)
+                                                              : std::vector<Fault>();
+}
+
+/// The only one.
+Fault faultOf(const QByteArray &bytes)
+{
+    const std::vector<Fault> faults = faultsOf(bytes);
+    return faults.size() == 1 ? faults.front() : Fault{-1, {}};
 }
 
 ContactList &add(ContactList &contacts, const char *ip, const char *nickname, const char *workstation)
@@ -140,6 +151,16 @@ TEST(ContactFile, WhatIsMalformedIsNamedByItsLine)
 TEST(ContactFile, WhatIsNotUtf8IsRefusedAsAWhole)
 {
     EXPECT_EQ(faultOf(header + "10.0.0.2,Zo\xEB,A\r\n"), (Fault{0, text("it is not written in UTF-8")}));
+}
+
+TEST(ContactFileTest, EveryFaultIsFoundUpToQuotationMarksThatDoNotFit)
+{
+    const QByteArray lines
+        = "10.0.0.2,,A\r\n10.0.0.3,Ben,B\r\npc,Cid,C\r\n10.0.0.4,Dan\r\n10.0.0.5,D\"an,D\r\n10.0.0.6,,F\r\n";
+    EXPECT_THAT(faultsOf(header + lines),
+                testing::ElementsAre(
+                    Fault{2, text("a name is empty")}, Fault{4, text("\"pc\" is not the address of one computer")},
+                    Fault{5, text("it has not three fields")}, Fault{6, text("its quotation marks do not fit")}));
 }
 
 } // namespace

@@ -88,6 +88,21 @@ TEST_F(ContactImportTest, AFaultAnywhereTakesNothing)
     EXPECT_THAT(shown.lines(), IsEmpty());
 }
 
+TEST_F(ContactImportTest, EveryFaultIsToldWithItsLineAndOfManyTheFirstTen)
+{
+    take("10.0.0.2,Ann\r\n10.0.0.3,Ben,B\r\n10.0.0.4,,C\r\n");
+    EXPECT_THAT(prompts.told,
+                ElementsAre("NIMB-Chat: Line 2 of office.csv: it has not three fields; line 4: a name is "
+                            "empty. No contact was taken from this file."));
+    EXPECT_THAT(names(), IsEmpty());
+    QByteArray many;
+    for (int i = 0; i < 12; ++i)
+        many += "x\r\n";
+    take(many);
+    EXPECT_THAT(prompts.told.back(),
+                testing::EndsWith("line 11: it has not three fields; 2 more. No contact was taken from this file."));
+}
+
 TEST_F(ContactImportTest, AnAddressOfEverybodyIsAFault)
 {
     ownAddresses.broadcast = {Ipv4Address(10, 0, 0, 255)};
