@@ -42,16 +42,10 @@ FindBar::FindBar(RichTextLogEdit &log) : QWidget(&log), m_log(log)
 {
     setObjectName(QStringLiteral("findBar"));
     setAutoFillBackground(true);
-    buildControls();
     hide();
     log.viewport()->installEventFilter(this);
     auto *const find = new QShortcut(QKeySequence(QKeySequence::Find), &log);
     connect(find, &QShortcut::activated, this, &FindBar::open);
-    connect(findText, &QLineEdit::textChanged, this, &FindBar::search);
-    connect(findCase, &QToolButton::toggled, this, &FindBar::search);
-    connect(findPrevious, &QToolButton::clicked, this, [this] { step(-1); });
-    connect(findNext, &QToolButton::clicked, this, [this] { step(1); });
-    connect(findClose, &QToolButton::clicked, this, &FindBar::shut);
     // A flood of lines is searched now and then, not with each of them.
     m_later.setSingleShot(true);
     m_later.setInterval(std::chrono::milliseconds(100));
@@ -87,10 +81,17 @@ void FindBar::buildControls()
     row->addWidget(findCount);
     for (QToolButton *const button : {findCase, findPrevious, findNext, findClose})
         row->addWidget(button);
+    connect(findText, &QLineEdit::textChanged, this, &FindBar::search);
+    connect(findCase, &QToolButton::toggled, this, &FindBar::search);
+    connect(findPrevious, &QToolButton::clicked, this, [this] { step(-1); });
+    connect(findNext, &QToolButton::clicked, this, [this] { step(1); });
+    connect(findClose, &QToolButton::clicked, this, &FindBar::shut);
 }
 
 void FindBar::open()
 {
+    if (!findText)
+        buildControls(); // most of fifty windows never need them
     if (!isAncestorOf(window()->focusWidget()))
         m_before = window()->focusWidget();
     const QString selected = m_log.textCursor().selectedText();
