@@ -6,6 +6,9 @@
 
 #include <QFile>
 
+#include <filesystem>
+#include <string>
+
 namespace nimb
 {
 namespace
@@ -46,8 +49,14 @@ ConsoleDoctor::ConsoleDoctor(const Environment &environment, std::function<void(
 
 void ConsoleDoctor::readProfile(const QString &folder)
 {
-    if (!QFile::exists(folder + QLatin1String("/settings.sqlite3")))
+    const std::string file = QFile::encodeName(folder + QLatin1String("/settings.sqlite3")).toStdString();
+    std::error_code trouble;
+    if (!std::filesystem::exists(file, trouble)) {
+        if (trouble)
+            m_profileTrouble = tr("The settings in %1 cannot be read, so those of a fresh copy are taken: %2")
+                                   .arg(folder, QString::fromLocal8Bit(trouble.message().c_str()));
         return;
+    }
     const SqliteSettingsStore store = SqliteSettingsStore::forReading(folder);
     m_profileTrouble = store.problem();
     loadSettings(store, m_common);

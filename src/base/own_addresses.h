@@ -34,8 +34,9 @@ public:
     [[nodiscard]] virtual bool isBroadcast(Ipv4Address address) const = 0;
     /// Whoever started the program has fixed the own one, and nothing leaves from another.
     [[nodiscard]] virtual bool isFixed() const = 0;
-    /// Whether the system knows where to send what is meant for that address.
-    [[nodiscard]] virtual bool hasWayTo(Ipv4Address address) const = 0;
+    /// The one from which the system would send what is meant for that peer; nothing where it knows no way there.
+    [[nodiscard]] virtual std::optional<Ipv4Address> sourceTowards(Ipv4Address peer) const = 0;
+    [[nodiscard]] bool hasWayTo(Ipv4Address peer) const { return sourceTowards(peer).has_value(); }
     /// Those that run, without loopback. One with several addresses is there with each of them.
     [[nodiscard]] virtual std::vector<NetworkCard> cards() const = 0;
     /// The networks have changed: what is remembered of them is out of date.

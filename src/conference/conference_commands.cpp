@@ -51,8 +51,10 @@ Conference *ConferenceCommands::attended(const Seat &seat) const
 
 void ConferenceCommands::operator()(const wire::ConferenceInvitation &invitation)
 {
-    if (!isHostsNumber(invitation.id) || !m_parts.invitations.arrived(m_ip, invitation.id))
-        drop();
+    if (!isHostsNumber(invitation.id))
+        return drop();
+    if (!m_parts.invitations.arrived(m_ip, invitation.id))
+        m_parts.drops.count(Drop::tooManyInvitations);
 }
 
 void ConferenceCommands::operator()(const wire::ConferenceAnswer &answer)

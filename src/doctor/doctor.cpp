@@ -1,7 +1,6 @@
 #include "doctor/doctor.h"
 
 #include "base/remote_text.h"
-#include "doctor/findings.h"
 #include "protocol/address_text.h"
 #include "protocol/datagram.h"
 
@@ -70,14 +69,17 @@ QString Doctor::report(bool withTexts) const
     return reportText(m_findings, drops(), datagrams(withTexts));
 }
 
+findings::OwnAddress Doctor::ownAddress() const
+{
+    return {.address = m_parts.common.ownIP, .isFixed = m_parts.ownAddresses.isFixed(), .card = m_parts.common.ownCard};
+}
+
 void Doctor::examine()
 {
     const int round = ++m_round;
     m_underWay = 2;
-    const Common &common = m_parts.common;
     const std::vector<NetworkCard> cards = m_parts.ownAddresses.cards();
-    const findings::OwnAddress own{
-        .address = common.ownIP, .isFixed = m_parts.ownAddresses.isFixed(), .card = common.ownCard};
+    const findings::OwnAddress own = ownAddress();
 
     found(findings::network(cards, own));
     found(findings::ownAddress(cards, own));
@@ -97,7 +99,7 @@ void Doctor::examine()
     found({Check::firewall, Verdict::underWay, tr("Looking for a firewall.")});
     found(findings::severalWays(cards, tunnels, own));
 
-    m_parts.diagnosis.readFirewall(common.udpPort,
+    m_parts.diagnosis.readFirewall(m_parts.common.udpPort,
                                    [this, round, life = std::weak_ptr(m_life)](const Firewall &firewall) {
                                        if (life.expired() || round != m_round)
                                            return;
@@ -188,7 +190,17 @@ void Doctor::endContact(bool answered)
         // Somebody may have set the clock meanwhile.
         return found(findings::contactAnswered(question.nickname, std::clamp(passed, {}, {answerTime})));
     }
-    found(findings::contactSilent(question.nickname, question.address, m_parts.diagnosis.neighbour(question.address)));
+    found(silent(question));
+}
+
+Finding Doctor::silent(const Question &question) const
+{
+    const findings::OwnAddress own = ownAddress();
+    const std::optional<Ipv4Address> source = m_parts.ownAddresses.sourceTowards(question.address);
+    const bool isChosen = !own.isFixed && addressOfCard(m_parts.ownAddresses, own.card) == own.address;
+    if (isChosen && source && *source != own.address)
+        return findings::contactOnOtherCard(question.nickname, question.address, own, *source);
+    return findings::contactSilent(question.nickname, question.address, m_parts.diagnosis.neighbour(question.address));
 }
 
 } // namespace nimb

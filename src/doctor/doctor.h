@@ -6,7 +6,7 @@
 #include "base/timers.h"
 #include "contacts/announcement.h"
 #include "contacts/contact_list.h"
-#include "doctor/finding.h"
+#include "doctor/findings.h"
 #include "doctor/report.h"
 #include "protocol/datagram_trace.h"
 #include "protocol/drop_counts.h"
@@ -78,6 +78,12 @@ public:
     QString report(bool withTexts) const;
 
 private:
+    struct Question {
+        Ipv4Address address;
+        QString nickname;
+        QDateTime time;
+    };
+
     void found(const Finding &finding);
     /// Another check has ended.
     void endOne();
@@ -86,7 +92,8 @@ private:
     void endOwnDatagram(bool cameBack);
     void arrived(Ipv4Address from, std::string_view bytes);
     void endContact(bool answered);
-    Finding silentContact() const;
+    Finding silent(const Question &question) const;
+    findings::OwnAddress ownAddress() const;
 
     Parts m_parts;
     DoctorView &m_view;
@@ -94,11 +101,6 @@ private:
     int m_underWay = 0;
     bool m_isHeldByPatient = false; ///< the port, by a copy in another process
     std::unique_ptr<Timer> m_ownDatagramLate;
-    struct Question {
-        Ipv4Address address;
-        QString nickname;
-        QDateTime time;
-    };
     std::optional<Question> m_question; ///< while an answer is waited for
     std::unique_ptr<Timer> m_answerLate;
     std::shared_ptr<int> m_life = std::make_shared<int>(0); ///< whose end keeps late findings away

@@ -304,6 +304,15 @@ Finding contactSilent(const QString &nickname, Ipv4Address address, Neighbour ne
            "there: a firewall, a copy that does not run, a user who is invisible.")};
 }
 
+Finding contactOnOtherCard(const QString &nickname, Ipv4Address contact, const OwnAddress &own, Ipv4Address source)
+{
+    return {Check::contact, Verdict::wrong,
+            tr("%1 did not answer. The way to %2 is that of your address %3, but the options name the card %4, whose "
+               "address %5 may not be reached from there.")
+                .arg(nickname, addressText(contact), addressText(source), own.card, addressText(own.address)),
+            tr("Choose \"automatic\" or the card of that network as your own address in Tools, Options.")};
+}
+
 Finding contactNotAsked(const QString &reason, const QString &advice)
 {
     return {Check::contact, Verdict::doubtful, reason, advice};

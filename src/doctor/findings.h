@@ -43,6 +43,8 @@ Finding severalWays(const std::vector<NetworkCard> &cards, const std::vector<QSt
 
 Finding contactAnswered(const QString &nickname, std::chrono::milliseconds after);
 Finding contactSilent(const QString &nickname, Ipv4Address address, Neighbour neighbour);
+/// The chosen own address is that of a card that does not lead to the contact; what is sent there leaves from another.
+Finding contactOnOtherCard(const QString &nickname, Ipv4Address contact, const OwnAddress &own, Ipv4Address source);
 Finding contactNotAsked(const QString &reason, const QString &advice);
 
 } // namespace nimb::findings

@@ -52,10 +52,13 @@ void ContactImport::take(const QByteArray &file, const QString &name)
     if (!objections.empty())
         return tell(name, objections);
     std::vector<SearchTarget> taken;
+    std::size_t ownLines = 0;
     for (const ContactFile::Entry &entry : entries) {
         const std::optional<Ipv4Address> address = readAddress(entry.address);
-        if (m_admission.refusal(address) == Refusal::ownAddress)
+        if (m_admission.refusal(address) == Refusal::ownAddress) {
+            ++ownLines;
             continue;
+        }
         Contact contact;
         contact.ip = entry.address;
         contact.nickname = entry.nickname;
@@ -64,9 +67,12 @@ void ContactImport::take(const QByteArray &file, const QString &name)
         if (m_contacts.add(std::move(contact)))
             taken.push_back({*address});
     }
-    const auto others = static_cast<qsizetype>(entries.size() - taken.size());
-    m_log.note(tr("contacts taken from %1: %2; there already: %3")
-                   .arg(remoteName(name), QString::number(taken.size()), QString::number(others)));
+    QString note = tr("contacts taken from %1: %2; there already: %3")
+                       .arg(remoteName(name), QString::number(taken.size()),
+                            QString::number(entries.size() - taken.size() - ownLines));
+    if (ownLines > 0)
+        note += tr("; left out: your own address");
+    m_log.note(note);
     m_search.askUnlessInvisible(std::move(taken), tr("the new contacts"));
 }
 

@@ -99,9 +99,9 @@ bool MachineAddresses::isBroadcast(Ipv4Address address) const
     return std::ranges::find(m_broadcast, address) != m_broadcast.end();
 }
 
-bool MachineAddresses::hasWayTo(Ipv4Address address) const
+std::optional<Ipv4Address> MachineAddresses::sourceTowards(Ipv4Address peer) const
 {
-    return sourceAddressTowards({address, farAway.port}, m_fixed.value_or(Ipv4Address())).has_value();
+    return sourceAddressTowards({peer, farAway.port}, m_fixed.value_or(Ipv4Address()));
 }
 
 std::vector<NetworkCard> MachineAddresses::cards() const

@@ -34,7 +34,7 @@ public:
     bool isOwn(Ipv4Address address) const override;
     bool isBroadcast(Ipv4Address address) const override;
     bool isFixed() const override { return m_fixed.has_value(); }
-    bool hasWayTo(Ipv4Address address) const override;
+    std::optional<Ipv4Address> sourceTowards(Ipv4Address peer) const override;
     std::vector<NetworkCard> cards() const override;
     void readAnew() override { m_sinceRead.invalidate(); }
 

@@ -13,9 +13,9 @@ namespace
 
 /// In the order of the summary.
 constexpr std::array reasons
-    = {Drop::stranger,   Drop::incomplete,      Drop::noFeature,      Drop::noWindow,       Drop::noConference,
-       Drop::badAddress, Drop::tooManyContacts, Drop::tooManyWaiting, Drop::tooManyAvatars, Drop::madeRoom,
-       Drop::tooOften,   Drop::notSent,         Drop::notReceived,    Drop::tooLoud};
+    = {Drop::stranger,   Drop::incomplete,      Drop::noFeature,      Drop::noWindow,           Drop::noConference,
+       Drop::badAddress, Drop::tooManyContacts, Drop::tooManyWaiting, Drop::tooManyInvitations, Drop::tooManyAvatars,
+       Drop::madeRoom,   Drop::tooOften,        Drop::notSent,        Drop::notReceived,        Drop::tooLoud};
 
 QString label(Drop reason)
 {
@@ -36,6 +36,8 @@ QString label(Drop reason)
         return QCoreApplication::translate("DropCounts", "New contacts while the list was full: %1");
     case Drop::tooManyWaiting:
         return QCoreApplication::translate("DropCounts", "Messages while too many waited to be read: %1");
+    case Drop::tooManyInvitations:
+        return QCoreApplication::translate("DropCounts", "Invitations while too many waited: %1");
     case Drop::tooManyAvatars:
         return QCoreApplication::translate("DropCounts", "Avatars while those of too many strangers were kept: %1");
     case Drop::madeRoom:

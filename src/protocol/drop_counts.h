@@ -13,20 +13,21 @@ namespace nimb
 {
 
 enum class Drop {
-    stranger,        ///< a datagram from an address that is no contact
-    incomplete,      ///< a known command that lacks what it must carry
-    noFeature,       ///< a known command that nothing here takes
-    noWindow,        ///< for a private window where there is none
-    noConference,    ///< a conference datagram that fits no conference, or that its sender may not send
-    badAddress,      ///< an address that cannot become a contact
-    tooManyContacts, ///< strangers have filled the contact list
-    tooManyWaiting,  ///< a message while too many waited already for their windows
-    tooManyAvatars,  ///< the picture of a stranger while those of too many were kept
-    madeRoom,        ///< a contact that strangers had caused left a full list for a newer one
-    tooOften,        ///< asked for, or sent, more often than it is answered or taken
-    notSent,         ///< the system refused to send, or the socket is not bound
-    notReceived,     ///< arrived at the machine and was lost before the program could read it
-    tooLoud,         ///< more than could wait; the senders with the most lose first
+    stranger,           ///< a datagram from an address that is no contact
+    incomplete,         ///< a known command that lacks what it must carry
+    noFeature,          ///< a known command that nothing here takes
+    noWindow,           ///< for a private window where there is none
+    noConference,       ///< a conference datagram that fits no conference, or that its sender may not send
+    badAddress,         ///< an address that cannot become a contact
+    tooManyContacts,    ///< strangers have filled the contact list
+    tooManyWaiting,     ///< a message while too many waited already for their windows
+    tooManyInvitations, ///< an invitation while too many waited, of its host or of all
+    tooManyAvatars,     ///< the picture of a stranger while those of too many were kept
+    madeRoom,           ///< a contact that strangers had caused left a full list for a newer one
+    tooOften,           ///< asked for, or sent, more often than it is answered or taken
+    notSent,            ///< the system refused to send, or the socket is not bound
+    notReceived,        ///< arrived at the machine and was lost before the program could read it
+    tooLoud,            ///< more than could wait; the senders with the most lose first
 };
 
 /// Counts since the start of the program.

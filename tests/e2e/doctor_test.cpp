@@ -33,6 +33,7 @@ public:
     struct Answer {
         int status = -1;
         QByteArray printed;
+        QByteArray warned; ///< printed where errors go
 
         /// "verdict: sentence (advice)"
         std::string of(const char *check) const
@@ -62,7 +63,7 @@ public:
         endWithParent(process);
         process.start(QStringLiteral(NIMB_CHATCTL), words);
         EXPECT_TRUE(process.waitForFinished(static_cast<int>(patience().count())));
-        return {process.exitCode(), process.readAllStandardOutput()};
+        return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
     }
     Answer doctor() const { return run({QStringLiteral("doctor"), QStringLiteral("--json")}); }
 
@@ -123,6 +124,17 @@ TEST_F(ConsoleDoctor, TakesACopyWithAnotherProfileForAnotherProgram)
                 StartsWith("wrong: Port " + std::to_string(port) + " is used by the program nimb-chat (process "
                            + std::to_string(bob.processId()) + ")."));
     EXPECT_EQ(bob.end(), 0);
+}
+
+TEST_F(ConsoleDoctor, SaysThatItCannotGetAtTheSettings)
+{
+    const QTemporaryDir folder;
+    const QString loop = folder.filePath(QStringLiteral("loop"));
+    ASSERT_TRUE(QFile::link(loop, loop)); // nobody may follow it, not even the administrator
+    const Console::Answer answer = Console(loop, "127.0.36.1").doctor();
+    EXPECT_THAT(answer.warned.toStdString(),
+                StartsWith("nimb-chatctl: The settings in " + loop.toStdString() + " cannot be read, so those of a"));
+    EXPECT_THAT(console.doctor().warned.toStdString(), testing::IsEmpty());
 }
 
 TEST_F(ConsoleDoctor, PrintsForPeopleUnlessItIsToldOtherwise)

@@ -560,11 +560,15 @@ public:
     bool isBroadcast(Ipv4Address address) const override { return broadcast.contains(address); }
 
     bool isFixed() const override { return fixed; }
-    bool hasWayTo(Ipv4Address address) const override { return !unreachable.contains(address); }
+    std::optional<Ipv4Address> sourceTowards(Ipv4Address peer) const override
+    {
+        return unreachable.contains(peer) ? std::nullopt : std::optional(source);
+    }
     std::vector<NetworkCard> cards() const override { return running; }
     void readAnew() override { ++readings; }
 
     std::set<Ipv4Address> own, broadcast, unreachable;
+    Ipv4Address source{10, 0, 0, 1}; ///< towards everybody
     bool fixed = false;
     std::vector<NetworkCard> running{{QStringLiteral("eth0"), Ipv4Address(10, 0, 0, 1), Ipv4Address(10, 0, 0, 255)}};
     int readings = 0; ///< since the networks changed

@@ -255,7 +255,8 @@ TEST_F(InvitationsTest, AFloodOfOneHostHasItsLimitAndKeepsNobodyElseOut)
     for (int number = 1; number <= 1000; ++number)
         invite("10.0.0.2", number);
     EXPECT_EQ(invitations().list().rowCount(), limits::invitationsOfHost);
-    EXPECT_EQ(copy.drops.of(Drop::noConference), 1000u - limits::invitationsOfHost);
+    EXPECT_EQ(copy.drops.of(Drop::tooManyInvitations), 1000u - limits::invitationsOfHost);
+    EXPECT_EQ(copy.drops.of(Drop::noConference), 0u);
     invite("10.0.0.3", 1);
     EXPECT_EQ(rows().back(), "IP10.0.0.3:1 green 0 minute(s)");
     invite("10.0.0.2", 7);

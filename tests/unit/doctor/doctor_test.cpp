@@ -278,6 +278,28 @@ TEST_F(DoctorTest, AsksTheTableOfNeighboursAboutASilentContact)
     EXPECT_EQ(doctor().verdict(), Verdict::wrong);
 }
 
+TEST_F(DoctorTest, TellsThatTheChosenCardIsNotTheWayToASilentContact)
+{
+    const QString wifi = QStringLiteral("wlan0");
+    const Ipv4Address ann(192, 168, 1, 9);
+    ownAddresses.running.push_back({wifi, common.ownIP, std::nullopt});
+    ownAddresses.source = Ipv4Address(10, 0, 0, 1);
+    diagnosis.neighbours[ann] = Neighbour::known;
+    ask("192.168.1.9");
+    time.advance(2s);
+    EXPECT_THAT(of(Check::contact), HasSubstr("the computer at 192.168.1.9 is there")) << "nothing was chosen";
+    common.ownCard = wifi;
+    ask("192.168.1.9");
+    time.advance(2s);
+    EXPECT_EQ(of(Check::contact),
+              "wrong: Ann did not answer. The way to 192.168.1.9 is that of your address 10.0.0.1, but the options "
+              "name the card wlan0, whose address 192.168.1.5 may not be reached from there.");
+    ownAddresses.source = common.ownIP;
+    ask("192.168.1.9");
+    time.advance(2s);
+    EXPECT_THAT(of(Check::contact), HasSubstr("the computer at 192.168.1.9 is there"));
+}
+
 TEST_F(DoctorTest, AskingAnotherContactForgetsTheFirst)
 {
     Contact ben;

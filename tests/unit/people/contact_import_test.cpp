@@ -56,7 +56,8 @@ TEST_F(ContactImportTest, WhoIsThereAlreadyStaysAndOneselfIsLeftOut)
     shown.clear();
     take("10.0.0.2,Other,PC\r\n192.168.1.5,Me,HERE\r\n10.0.0.3,Ben,PC-BEN\r\n");
     EXPECT_THAT(names(), ElementsAre("Ann", "Ben"));
-    EXPECT_EQ(shown.lines().front(), "--- contacts taken from office.csv: 1; there already: 2 ---");
+    EXPECT_EQ(shown.lines().front(),
+              "--- contacts taken from office.csv: 1; there already: 1; left out: your own address ---");
 }
 
 TEST_F(ContactImportTest, WhoIsInvisibleTakesThemAndAsksNobody)

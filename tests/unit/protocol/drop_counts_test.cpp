@@ -44,18 +44,34 @@ TEST(DropCounts, SummaryKnowsEveryReason)
     counts.count(Drop::stranger, 1);
     counts.count(Drop::incomplete, 2);
     counts.count(Drop::noFeature, 3);
-    counts.count(Drop::badAddress, 4);
-    counts.count(Drop::tooManyContacts, 5);
-    counts.count(Drop::notSent, 6);
-    counts.count(Drop::notReceived, 7);
+    counts.count(Drop::noWindow, 4);
+    counts.count(Drop::noConference, 5);
+    counts.count(Drop::badAddress, 6);
+    counts.count(Drop::tooManyContacts, 7);
+    counts.count(Drop::tooManyWaiting, 8);
+    counts.count(Drop::tooManyInvitations, 9);
+    counts.count(Drop::tooManyAvatars, 10);
+    counts.count(Drop::madeRoom, 11);
+    counts.count(Drop::tooOften, 12);
+    counts.count(Drop::notSent, 13);
+    counts.count(Drop::notReceived, 14);
+    counts.count(Drop::tooLoud, 15);
     EXPECT_EQ(counts.summary(),
               "From addresses that are no contacts: 1\n"
               "Incomplete commands: 2\n"
               "Commands that nothing here takes: 3\n"
-              "Addresses that cannot become contacts: 4\n"
-              "New contacts while the list was full: 5\n"
-              "Datagrams that could not be sent: 6\n"
-              "Datagrams lost before they could be read: 7");
+              "For private windows that are not open: 4\n"
+              "For conferences that are not there, or not to be had so: 5\n"
+              "Addresses that cannot become contacts: 6\n"
+              "New contacts while the list was full: 7\n"
+              "Messages while too many waited to be read: 8\n"
+              "Invitations while too many waited: 9\n"
+              "Avatars while those of too many strangers were kept: 10\n"
+              "Contacts that made room in a full list: 11\n"
+              "Avatars and lists asked for or sent too often: 12\n"
+              "Datagrams that could not be sent: 13\n"
+              "Datagrams lost before they could be read: 14\n"
+              "More than could wait, of the loudest senders: 15");
 }
 
 TEST(DropCounts, SummaryNamesTheSenderWhoLostMost)
