@@ -10,6 +10,7 @@
 #include "people/frmNetworkscan.h"
 #include "people/frmSendContact.h"
 #include "welcome/frmAbout.h"
+#include "welcome/frmShortcuts.h"
 #include "welcome/frmTipOfTheDay.h"
 #include "widgets/bring_back.h"
 #include "widgets/file_dialogs.h"
@@ -121,6 +122,11 @@ void DialogOpener::mnuHelpAbout()
                       &m_main));
 }
 
+void DialogOpener::mnuShortcuts()
+{
+    open(new frmShortcuts(&m_main));
+}
+
 void DialogOpener::mnuinviteuser(const QString &ip)
 {
     const Invite invite(m_services.common, m_engine.contacts(), m_services.netSend, m_services.prompts);
@@ -171,8 +177,15 @@ void DialogOpener::mnusendcontacts(const QString &ip)
 
 void DialogOpener::mnuToolsOptions()
 {
-    const OptionValues values(m_services.common, m_engine.ownAvatar(), m_services.pictures, m_services.clock,
-                              m_engine.ownAddresses(), [this] { m_engine.recovery().settingsChanged(); });
+    const OptionValues values(
+        {.common = m_services.common,
+         .ownAvatar = m_engine.ownAvatar(),
+         .ownState = m_engine.ownState(),
+         .sources = m_services.pictures,
+         .clock = m_services.clock,
+         .ownAddresses = m_engine.ownAddresses(),
+         .changeNickname = [this](const QString &name) { m_engine.mainWindow().changeNickname(name); },
+         .taken = [this] { m_engine.recovery().settingsChanged(); }});
     open(new frmOptions(values, m_services.prompts, &m_main));
 }
 

@@ -61,6 +61,7 @@ public:
     void mnuHelpAbout() override;
     void mnuTOTD() override;
     void mnuNetworkDoctor() override;
+    void mnuShortcuts() override;
     void mnusendcontacts(const QString &ip) override;
     void mnuinviteuser(const QString &ip) override;
     void mnuCreateNewConf() override;

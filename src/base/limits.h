@@ -25,6 +25,8 @@ constexpr qsizetype shownTextLength = 8000;
 constexpr int shownLines = 200;
 /// Emoticons of one message that are drawn: fixed, other copies show the rest as text too.
 constexpr int messagePictures = 10;
+/// How long what was cleared can be brought back.
+constexpr std::chrono::milliseconds clearedKept{10000};
 /// Lines a log holds; beyond it re-layout and memory grow without use to anybody.
 constexpr int logLines = 50000;
 /// Lines dropped at a time from a full log: dropping one by one lays the document out anew for each line.

@@ -10,9 +10,9 @@ class LinkOpener
 {
 public:
     virtual ~LinkOpener() = default;
-    /// Hands the address to the system's handler and returns at once; a failure stays unnoticed. The caller has made
-    /// sure that this kind of address may be opened.
-    virtual void open(const QUrl &address) = 0;
+    /// Hands the address to the system's handler and returns at once. False when the system has none; whether it does
+    /// its work nobody hears. The caller has made sure that this kind of address may be opened.
+    [[nodiscard]] virtual bool open(const QUrl &address) = 0;
 };
 
 } // namespace nimb

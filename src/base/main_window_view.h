@@ -40,7 +40,8 @@ class OwnStateView
 public:
     virtual ~OwnStateView() = default;
     virtual void addOwnState(const OwnStateEntry &entry) = 0;
-    /// position: counted from 1.
+    /// The entries behind it move up. position: counted from 1, here and below.
+    virtual void removeOwnState(int position) = 0;
     virtual void selectOwnState(int position) = 0;
     virtual void setStatusPanel(const QString &text) = 0;
     virtual void setRescanEnabled(bool enabled) = 0;

@@ -47,6 +47,7 @@ public:
     virtual void mnuHelpAbout() = 0;
     virtual void mnuTOTD() = 0;
     virtual void mnuNetworkDoctor() = 0;
+    virtual void mnuShortcuts() = 0;
     /// An address that is no contact's is ignored.
     virtual void mnusendcontacts(const QString &ip) = 0;
     /// Empty: no contact is selected.

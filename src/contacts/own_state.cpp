@@ -2,6 +2,8 @@
 
 #include "base/limits.h"
 
+#include <algorithm>
+
 namespace nimb
 {
 
@@ -20,8 +22,13 @@ void OwnState::append(OwnStateEntry entry)
 
 void OwnState::appendPersonalized(OwnStateEntry entry)
 {
-    entry.key = QStringLiteral("Personalized%1").arg(m_entries.size() - plainEntries + 1);
+    entry.key = personalizedKey(m_entries.size() - plainEntries + 1);
     append(std::move(entry));
+}
+
+QString OwnState::personalizedKey(std::size_t number)
+{
+    return QStringLiteral("Personalized%1").arg(number);
 }
 
 QStringList OwnState::load(const QStringList &storedValues)
@@ -144,6 +151,26 @@ bool OwnState::addPersonalized(BaseState base, const QString &text)
     m_view.selectOwnState(position);
     choose(position);
     return true;
+}
+
+void OwnState::removePersonalized(int position)
+{
+    if (position <= plainEntries || position > static_cast<int>(m_entries.size()))
+        return;
+    const auto removed = m_entries.begin() + position - 1;
+    const BaseState base = *removed->base;
+    const auto behind = m_entries.erase(removed);
+    for (auto entry = behind; entry != m_entries.end(); ++entry)
+        entry->key = personalizedKey(static_cast<std::size_t>(entry - m_entries.begin()) - plainEntries + 1);
+    m_view.removeOwnState(position);
+    if (position == m_chosen) {
+        const auto plain = std::ranges::find(m_entries, std::optional(base), &OwnStateEntry::base);
+        choose(static_cast<int>(plain - m_entries.begin()) + 1);
+    } else if (position < m_chosen) {
+        --m_chosen;
+    }
+    m_view.selectOwnState(m_chosen);
+    m_changed();
 }
 
 void OwnState::setAutoReply(bool on)

@@ -40,6 +40,10 @@ public:
     /// nothing. True when it was added.
     [[nodiscard]] bool addPersonalized(BaseState base, const QString &text);
 
+    /// Whoever is in this state is in its base state from now on, which the contacts are told. A position that is none
+    /// of a personalised state does nothing.
+    void removePersonalized(int position);
+
     /// The check box beside the chooser: automatic reply in the present state.
     void setAutoReply(bool on);
     /// The text box lost the focus.
@@ -49,6 +53,7 @@ public:
 
 private:
     void append(OwnStateEntry entry);
+    static QString personalizedKey(std::size_t number);
     /// Numbers the entry among the personalised states.
     void appendPersonalized(OwnStateEntry entry);
     void become(const OwnPresence &chosen);

@@ -8,10 +8,12 @@
 #include "log/RTFSubClass.h"
 #include "log/log_font.h"
 #include "log/rich_text_log.h"
+#include "widgets/accessible_window.h"
 #include "widgets/band.h"
 #include "widgets/form_layout.h"
 #include "widgets/form_text.h"
 #include "widgets/tool_button.h"
+#include "widgets/tool_row.h"
 #include "widgets/window_attention.h"
 
 #include <QApplication>
@@ -22,6 +24,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace nimb
@@ -51,6 +54,7 @@ ConversationPane::ConversationPane(Conversation &conversation, RTFSubClass &link
     buildControls();
     connectControls();
     m_links.HookRichText(*m_outtext, *this);
+    QAccessible::installFactory(makeAccessibleWindow); // again and again, which Qt ignores
     intext->setFocus();
 }
 
@@ -70,38 +74,48 @@ void ConversationPane::buildControls()
     m_logRow->setSpacing(spacing);
     m_logRow->addWidget(m_outtext, 1);
     column->addLayout(m_logRow, 1);
+    column->addWidget(makeClearedBand());
     column->addWidget(ListViewEmot);
-    column->addLayout(makeToolRow());
+    column->addWidget(makeToolRow());
     column->addWidget(makeCutBand());
     column->addLayout(makeInput());
 }
 
-QHBoxLayout *ConversationPane::makeToolRow()
+QWidget *ConversationPane::makeToolRow()
 {
     Emoticbtn = toolButton(this, "Emoticbtn", tr("Emoticons"), "emoticons");
     Emoticbtn->setCheckable(true);
     datetimebtn = toolButton(this, "datetimebtn", tr("Date&&Time"), "datetime");
     clearbtn = toolButton(this, "clearbtn", tr("Clear"), "clear");
-    m_toolRow = new QHBoxLayout;
-    m_toolRow->setSpacing(2);
+    m_toolRow = new ToolRow(this);
     for (QToolButton *const tool : {Emoticbtn, datetimebtn, clearbtn})
-        m_toolRow->addWidget(tool);
-    m_toolRow->addStretch(1);
+        m_toolRow->add(tool);
     messageCounter = named(new QLabel(this), "messageCounter");
     messageCounter->setAccessibleName(tr("Length of the message"));
     messageCounter->hide();
-    m_toolRow->addWidget(messageCounter);
+    m_toolRow->addAtEnd(messageCounter);
     return m_toolRow;
 }
 
 /// Says what of a paste did not fit, and offers it.
 QWidget *ConversationPane::makeCutBand()
 {
-    cutBand = named(makeBand(this), "cutBand");
+    cutBand = named(makeBandWithLink(this), "cutBand");
     cutBand->setAccessibleName(tr("What did not fit"));
-    cutBand->setTextFormat(Qt::RichText); // our own text alone, for its link
-    cutBand->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     return cutBand;
+}
+
+/// Offers what was cleared as long as it is kept.
+QWidget *ConversationPane::makeClearedBand()
+{
+    clearedBand = named(makeBandWithLink(this), "clearedBand");
+    const QString sentence = tr("The conversation was cleared.");
+    clearedBand->setText(sentence + tr(" <a href=\"undo\">Bring it back</a>"));
+    clearedBand->setAccessibleName(sentence);
+    m_clearedForGood = named(new QTimer(this), "clearedForGood");
+    m_clearedForGood->setSingleShot(true);
+    m_clearedForGood->setInterval(limits::clearedKept);
+    return clearedBand;
 }
 
 QHBoxLayout *ConversationPane::makeInput()
@@ -134,6 +148,8 @@ void ConversationPane::connectControls()
     });
     auto *const close = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_W), this);
     connect(close, &QShortcut::activated, this, [this] { window()->close(); });
+    connect(clearedBand, &QLabel::linkActivated, this, &ConversationPane::undoClear);
+    connect(m_clearedForGood, &QTimer::timeout, this, &ConversationPane::endUndo);
     connect(clearbtn, &QToolButton::clicked, this, &ConversationPane::Clearbtn_Click);
     connect(datetimebtn, &QToolButton::clicked, this, &ConversationPane::datetimebtn_Click);
     connect(Emoticbtn, &QToolButton::toggled, this, &ConversationPane::Emoticbtn_Click);
@@ -153,7 +169,7 @@ void ConversationPane::insertTools(Tool behind, std::initializer_list<QWidget *>
 {
     QWidget *before = behind == Tool::emoticons ? Emoticbtn : datetimebtn;
     for (QWidget *const tool : tools) {
-        m_toolRow->insertWidget(m_toolRow->indexOf(before) + 1, tool);
+        m_toolRow->insertBehind(before, tool);
         setTabOrder(before, tool);
         before = tool;
     }
@@ -248,9 +264,28 @@ void ConversationPane::keyPressEvent(QKeyEvent *event)
 
 void ConversationPane::Clearbtn_Click()
 {
+    m_cleared = m_outtext->kept();
     m_conversation->Clearbtn_Click();
+    m_writtenInstead = m_outtext->textLength();
+    clearedBand->show();
+    m_clearedForGood->start();
     if (intext->isEnabled())
         intext->setFocus();
+}
+
+void ConversationPane::undoClear()
+{
+    if (m_cleared)
+        m_outtext->bringBack(*m_cleared, m_writtenInstead);
+    endUndo();
+    focusInput();
+}
+
+void ConversationPane::endUndo()
+{
+    m_clearedForGood->stop();
+    m_cleared.reset();
+    clearedBand->hide();
 }
 
 void ConversationPane::datetimebtn_Click()
@@ -302,6 +337,13 @@ void ConversationPane::setLogFont(const LogFont &font)
 QString ConversationPane::typedText() const
 {
     return nimb::typedText(*intext);
+}
+
+void ConversationPane::setDraft(const QString &text)
+{
+    const QSignalBlocker nobodyTypes(intext);
+    setTypedText(*intext, text);
+    showRoomLeft();
 }
 
 void ConversationPane::setInputEnabled(bool enabled)

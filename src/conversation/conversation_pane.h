@@ -2,15 +2,18 @@
 #pragma once
 
 #include "conversation/conversation_view.h"
+#include "log/rich_text_log.h"
 
 #include <QWidget>
 
 #include <initializer_list>
+#include <optional>
 
 class QCloseEvent;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
+class QTimer;
 class QToolButton;
 
 namespace nimb
@@ -20,7 +23,7 @@ class Conversation;
 class EmoticonPicker;
 class MessageInput;
 class RTFSubClass;
-class RichTextLogEdit;
+class ToolRow;
 
 /// What a window has beside it, it makes itself and puts between the parts of the pane or around it.
 class ConversationPane : public QWidget, public ConversationView
@@ -53,6 +56,7 @@ public:
     void setLogFont(const LogFont &font) override;
     void setLastMessage(const QString &text) override { Q_EMIT lastMessageChanged(text); }
     QString typedText() const override;
+    void setDraft(const QString &text) override;
     void setInputEnabled(bool enabled) override;
     void focusInput() override;
     Colour windowTextColour() const override;
@@ -71,13 +75,16 @@ Q_SIGNALS:
 
 private:
     void buildControls();
-    QHBoxLayout *makeToolRow();
+    QWidget *makeToolRow();
     QWidget *makeCutBand();
+    QWidget *makeClearedBand();
     QHBoxLayout *makeInput();
     void connectControls();
 
     void sendbtn_Click();
     void Clearbtn_Click();
+    void undoClear();
+    void endUndo();
     void datetimebtn_Click();
     void Emoticbtn_Click(bool shown);
     void ListViewEmot_ItemClick(const QString &emoticon);
@@ -90,6 +97,8 @@ private:
     Conversation *m_conversation; ///< null once the window was let go
     QString m_lastSent;
     QString m_rest; ///< of what was pasted
+    std::optional<RichTextLogEdit::Kept> m_cleared;
+    qsizetype m_writtenInstead = 0; ///< characters that clearing has written
     RTFSubClass &m_links;
 
     RichTextLogEdit *m_outtext = nullptr;
@@ -98,11 +107,13 @@ private:
     QPushButton *sendbtn = nullptr;
     QLabel *messageCounter = nullptr;
     QLabel *cutBand = nullptr;
+    QLabel *clearedBand = nullptr;
+    QTimer *m_clearedForGood = nullptr;
     QToolButton *clearbtn = nullptr;
     QToolButton *datetimebtn = nullptr;
     QToolButton *Emoticbtn = nullptr;
     QHBoxLayout *m_logRow = nullptr;
-    QHBoxLayout *m_toolRow = nullptr;
+    ToolRow *m_toolRow = nullptr;
 };
 
 } // namespace nimb

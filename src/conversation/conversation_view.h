@@ -21,6 +21,8 @@ public:
     virtual void setLastMessage(const QString &text) = 0;
     /// The input box as it is now, line breaks as CR LF.
     virtual QString typedText() const = 0;
+    /// In its place another text, which nobody has typed just now.
+    virtual void setDraft(const QString &text) = 0;
     /// The input box and the send button; off once the conversation is over.
     virtual void setInputEnabled(bool enabled) = 0;
     /// The caret goes to the end.

@@ -1,8 +1,7 @@
 #include "conversation/emoticon_picker.h"
 
+#include "log/emoticon_face.h"
 #include "log/emoticon_tables.h"
-#include "log/log_pictures.h"
-#include "log/metafile.h"
 
 #include <QPainter>
 #include <QPixmap>
@@ -32,23 +31,26 @@ constexpr std::array<PickerEntry, 9> pickerEntries = {{
     {QLatin1String(":(("), QLatin1String("i8")},
 }};
 
-constexpr int enlargement = 2;
-constexpr int pictureSide = 12 * enlargement;
+constexpr int faceSide = 24; // pixels
 /// Narrow enough for all of them in a conference at its smallest.
 constexpr QSize cell(40, 46);
 
-/// The picture that the logs show for this text, larger.
-QIcon iconOf(QLatin1String emoticon)
+/// The one that the logs show for this text.
+std::size_t faceFor(QLatin1String emoticon)
 {
     const auto &texts = emoticonTables.texts;
-    const auto entry = static_cast<std::size_t>(std::ranges::find(texts, emoticon) - texts.begin());
-    const std::optional<IndexedBitmap> bitmap = decodePictureFragment(emoticonFragment(entry / 2 + 1));
-    if (!bitmap)
-        return {};
+    return static_cast<std::size_t>(std::ranges::find(texts, emoticon) - texts.begin()) / 2 + 1;
+}
+
+QIcon iconOf(std::size_t face)
+{
     QIcon icon;
-    // Whole factors for every screen, so that no pixel is smoothed.
     for (const int ratio : {1, 2, 3, 4}) {
-        QPixmap pixmap = QPixmap::fromImage(enlarged(imageOf(*bitmap), enlargement * ratio));
+        QPixmap pixmap(QSize(faceSide, faceSide) * ratio);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paintFace(painter, QRectF(pixmap.rect()), face);
+        painter.end();
         pixmap.setDevicePixelRatio(ratio);
         icon.addPixmap(pixmap);
     }
@@ -66,12 +68,15 @@ EmoticonPicker::EmoticonPicker(QWidget *parent) : QListWidget(parent)
     setWrapping(false);
     setFlow(QListView::LeftToRight);
     setUniformItemSizes(true);
-    setIconSize(QSize(pictureSide, pictureSide));
+    setIconSize(QSize(faceSide, faceSide));
     setGridSize(cell);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     for (const PickerEntry &entry : pickerEntries) {
-        auto *const item = new QListWidgetItem(iconOf(entry.emoticon), entry.emoticon, this);
+        const std::size_t face = faceFor(entry.emoticon);
+        auto *const item = new QListWidgetItem(iconOf(face), entry.emoticon, this);
+        item->setData(Qt::AccessibleTextRole, faceName(face));
+        item->setToolTip(faceName(face));
         item->setData(Qt::UserRole, QString(entry.image));
     }
     connect(this, &QListWidget::itemClicked, this, [this](QListWidgetItem *item) { Q_EMIT picked(item->text()); });

@@ -1,6 +1,10 @@
 #include "log/RTFSubClass.h"
 
+#include "log/link_finder.h"
 #include "log/rich_text_log.h"
+#include "widgets/warning_box.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -11,7 +15,7 @@ void RTFSubClass::HookRichText(RichTextLogEdit &control, QWidget &parent)
 {
     control.setLinkDetection(true);
     m_hooks.push_back({QObject::connect(&control, &RichTextLogEdit::linkPressed, &parent,
-                                        [this](const QUrl &target) { RichTextHookProc(target); }),
+                                        [this, &parent](const QUrl &target) { RichTextHookProc(target, parent); }),
                        &control, &parent});
 }
 
@@ -31,9 +35,12 @@ bool RTFSubClass::isHooked(const RichTextLogEdit &control) const
 }
 
 /// The target is whole and cut already: the log holds what its search for links allows and nothing else.
-void RTFSubClass::RichTextHookProc(const QUrl &target)
+void RTFSubClass::RichTextHookProc(const QUrl &target, QWidget &parent)
 {
-    m_opener.open(target);
+    if (!m_opener.open(target))
+        warn(*parent.window(),
+             QCoreApplication::translate("RTFSubClass", "Nothing on this computer opens %1.")
+                 .arg(readableAddress(target)));
 }
 
 } // namespace nimb

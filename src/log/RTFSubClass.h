@@ -38,7 +38,7 @@ private:
         QWidget *parent = nullptr;
     };
 
-    void RichTextHookProc(const QUrl &target);
+    void RichTextHookProc(const QUrl &target, QWidget &parent);
 
     LinkOpener &m_opener;
     std::vector<Hook> m_hooks; ///< only grows

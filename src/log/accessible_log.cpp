@@ -39,7 +39,7 @@ void *AccessibleLog::interface_cast(QAccessible::InterfaceType type)
 
 QString AccessibleLog::text(int startOffset, int endOffset) const
 {
-    return textWithAlternatives(*m_log.document(), startOffset, endOffset);
+    return spokenText(*m_log.document(), startOffset, endOffset);
 }
 
 QTextCursor AccessibleLog::cursorAt(int offset) const

@@ -26,13 +26,14 @@ public:
     /// A child of the log.
     explicit FindBar(RichTextLogEdit &log);
 
+    void open();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void buildControls();
-    void open();
     void shut();
     void search();
     /// By one to the newer or the older, around the ends.

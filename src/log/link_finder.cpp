@@ -25,18 +25,26 @@ constexpr qsizetype longestLocalPart = 64;
 constexpr qsizetype longestPort = 5;
 constexpr qsizetype longestBracketedHost = 47;
 
-enum class Kind { web, www, mail };
+enum class Kind { web, www, mail, bareMail };
 
 struct Beginning {
     std::string_view text; ///< in lower case
     Kind kind;
 };
 
+bool isMail(Kind kind)
+{
+    return kind == Kind::mail || kind == Kind::bareMail;
+}
+
 constexpr std::array<Beginning, 5> beginnings{{{"http://", Kind::web},
                                                {"https://", Kind::web},
                                                {"ftp://", Kind::web},
                                                {"mailto:", Kind::mail},
                                                {"www.", Kind::www}}};
+
+/// A mail address that stands for itself.
+constexpr Beginning bareMail{"", Kind::bareMail};
 
 struct BracketPair {
     char32_t opening, closing;
@@ -332,9 +340,9 @@ public:
         while (m_passed < m_line.size()) {
             const qsizetype start = m_passed++;
             const Beginning *beginning = beginningAt(start);
-            if (!beginning)
+            if (!beginning && !mayBeginMailBox(start))
                 continue;
-            if (std::optional<FoundLink> link = linkAt(start, *beginning))
+            if (std::optional<FoundLink> link = linkAt(start, beginning ? *beginning : bareMail))
                 return link;
         }
         return std::nullopt;
@@ -375,13 +383,22 @@ private:
         return !isInHost && !isOneOf(U"@/\\", c);
     }
 
+    /// Where a word does. Behind other characters it may be the end of something that leads elsewhere.
+    bool mayBeginMailBox(qsizetype start) const
+    {
+        if (!isLocalPartCharacter(m_line[start].unicode()))
+            return false;
+        const char32_t before = start == 0 ? U' ' : characterAt(m_line, start - 1);
+        return isOneOf(U" \t<>\",;", before) || isBracket(before) || QChar::category(before) == QChar::Separator_Space;
+    }
+
     std::optional<FoundLink> linkAt(qsizetype start, const Beginning &beginning)
     {
         FoundLink link;
         link.kind = beginning.kind;
         link.start = start;
         link.hostStart = link.kind == Kind::www ? start : start + static_cast<qsizetype>(beginning.text.size());
-        if (link.kind == Kind::mail && !readLocalPart(link))
+        if (isMail(link.kind) && !readLocalPart(link))
             return std::nullopt;
         if (namesUser(link))
             return std::nullopt;
@@ -418,7 +435,13 @@ private:
     bool readHostOf(FoundLink &link)
     {
         const std::optional<Host> host = standsAt("[", link.hostStart) ? bracketedHostOf(link) : namedHostOf(link);
-        if (!host || (link.kind == Kind::mail && !host->isName) || (link.kind == Kind::www && host->labels < 2))
+        if (!host || (isMail(link.kind) && !host->isName))
+            return false;
+        // What has nothing in front that says what it is.
+        const bool isBare = link.kind == Kind::www || link.kind == Kind::bareMail;
+        if (isBare && host->labels < 2)
+            return false;
+        if (link.kind == Kind::bareMail && host->name.startsWith("www."))
             return false;
         link.host = host->name;
         link.authorityEnd = link.hostEnd;
@@ -446,7 +469,7 @@ private:
     {
         const qsizetype digits = link.hostEnd + 1;
         qsizetype end = digits;
-        if (link.kind == Kind::mail || !standsAt(":", link.hostEnd))
+        if (isMail(link.kind) || !standsAt(":", link.hostEnd))
             return true;
         while (end < m_line.size() && end - digits <= longestPort && isAsciiDigit(m_line[end].unicode()))
             ++end;
@@ -462,7 +485,7 @@ private:
         const qsizetype reach = m_reach.from(link.authorityEnd);
         const char32_t next = link.authorityEnd < reach ? characterAt(m_line, link.authorityEnd) : U' ';
         link.end = link.authorityEnd;
-        if (link.kind == Kind::mail)
+        if (isMail(link.kind))
             return next == U'?' || mayEndAt(link.end, reach);
         if (!beginsTail(next))
             return mayEndAt(link.end, reach);
@@ -539,8 +562,10 @@ QByteArray encodedTail(QStringView tail)
 QUrl targetOf(QStringView line, const FoundLink &link)
 {
     const QByteArray beginning = line.sliced(link.start, link.hostStart - link.start).toLatin1();
-    if (link.kind == Kind::mail)
-        return QUrl::fromEncoded("mailto:" + beginning.mid(7) + link.host, QUrl::StrictMode);
+    if (isMail(link.kind)) {
+        const QByteArray box = link.kind == Kind::mail ? beginning.mid(7) : beginning;
+        return QUrl::fromEncoded("mailto:" + box + link.host, QUrl::StrictMode);
+    }
     const QString text = cutText(line.sliced(link.start, link.end - link.start).toString(), longestOpenedText);
     const QByteArray scheme = link.kind == Kind::www ? QByteArray("http://") : beginning.toLower();
     const QByteArray port = line.sliced(link.hostEnd, link.authorityEnd - link.hostEnd).toLatin1();

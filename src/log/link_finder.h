@@ -20,8 +20,9 @@ struct Link {
 };
 
 /// The links of one complete line of plain text, from left to right: http, https, ftp and mailto addresses, and what
-/// begins with "www.". An address that names a user ("http://user@host") is none, nor is any part of it. The time
-/// taken grows with the length of the line and not faster, whatever the line holds.
+/// begins with "www."; bare mail addresses, too, of a host whose name has a dot. An address that names a user
+/// ("http://user@host") is none, nor is any part of it. The time taken grows with the length of the line and not
+/// faster, whatever the line holds.
 std::vector<Link> findLinks(QStringView line);
 
 /// The full address to read before clicking. All of it is encoded but the host, which is in its punycode form only

@@ -129,6 +129,24 @@ bool LogMarks::isNew(const QTextBlockFormat &line)
     return line.hasProperty(beginsNew);
 }
 
+bool LogMarks::isOwnMessage(const QTextBlockFormat &line)
+{
+    return line.hasProperty(ownMessage);
+}
+
+QString LogMarks::timeOf(const QTextBlockFormat &line)
+{
+    return line.stringProperty(timeShown);
+}
+
+QString LogMarks::dayOf(const QTextBlockFormat &line)
+{
+    if (!line.hasProperty(dayShown))
+        return {};
+    return QLocale().toString(QDate::fromJulianDay(line.property(dayShown).toLongLong()),
+                              QStringLiteral("dddd, d MMMM"));
+}
+
 bool LogMarks::isUndelivered(const QTextBlockFormat &line)
 {
     return line.hasProperty(undelivered);
@@ -179,10 +197,8 @@ void LogMarks::paintMarks(QPainter &painter, const Seen &line, const QPalette &p
                      readableOn(QColor(0xD1, 0x24, 0x2F), ground));
         above.translate(0, -room);
     }
-    if (format.hasProperty(dayShown)) {
-        const QDate day = QDate::fromJulianDay(format.property(dayShown).toLongLong());
-        paintDivider(painter, above, QLocale().toString(day, QStringLiteral("dddd, d MMMM")), muted);
-    }
+    if (format.hasProperty(dayShown))
+        paintDivider(painter, above, dayOf(format), muted);
     const int ascent = painter.fontMetrics().height();
     QRect time(0, qRound(line.place.top()), width - markEdge, QFontMetrics(font).height());
     if (format.hasProperty(undelivered)) {
@@ -193,7 +209,7 @@ void LogMarks::paintMarks(QPainter &painter, const Seen &line, const QPalette &p
     }
     if (format.hasProperty(timeShown)) {
         painter.setPen(muted);
-        painter.drawText(time, Qt::AlignRight | Qt::AlignVCenter, format.stringProperty(timeShown));
+        painter.drawText(time, Qt::AlignRight | Qt::AlignVCenter, timeOf(format));
     }
 }
 

@@ -42,6 +42,11 @@ public:
     /// Room at the right side in which times are painted, in pixels.
     static int marginRight(const QFont &font);
     static bool hasRoomAbove(const QTextBlockFormat &line);
+    static bool isOwnMessage(const QTextBlockFormat &line);
+    /// What is painted beside the line; empty where nothing is.
+    static QString timeOf(const QTextBlockFormat &line);
+    /// What is painted above it; empty unless a day begins with it.
+    static QString dayOf(const QTextBlockFormat &line);
     /// Message of one's own that has not arrived, as far as is known.
     static bool isUndelivered(const QTextBlockFormat &line);
 

@@ -5,6 +5,7 @@
 #include "log/accessible_log.h"
 #include "log/find_bar.h"
 #include "log/link_finder.h"
+#include "log/log_file_dialogs.h"
 #include "log/log_font.h"
 #include "log/log_pictures.h"
 #include "log/new_lines_button.h"
@@ -107,7 +108,7 @@ bool overridesDirection(const QString &line)
 bool mayHoldLink(const QString &line)
 {
     return line.contains(QLatin1String("://")) || line.contains(QLatin1String("www."), Qt::CaseInsensitive)
-        || line.contains(QLatin1String("mailto"), Qt::CaseInsensitive);
+        || line.contains(u'@') || line.contains(QLatin1String("mailto"), Qt::CaseInsensitive);
 }
 
 } // namespace
@@ -134,8 +135,7 @@ RichTextLogEdit::RichTextLogEdit(QWidget *parent)
     addScrollBarWidget(m_below, Qt::AlignBottom);
     setInsets(0, 0);
 
-    m_pictures = new LogPictures([this] { return devicePixelRatioF() * zoomFactor(); },
-                                 [this] { return devicePixelRatioF(); }, this);
+    m_pictures = new LogPictures([this] { return pictureScale(); }, this);
     document()->documentLayout()->registerHandler(QTextFormat::ImageObject, m_pictures);
     prepareLines();
     m_frame.setSingleShot(true);
@@ -149,8 +149,8 @@ RichTextLogEdit::RichTextLogEdit(QWidget *parent)
         Q_EMIT endReached();
     });
     connect(&m_frame, &QTimer::timeout, this, &RichTextLogEdit::writeGathered);
+    m_findBar = new FindBar(*this);
     buildCommands();
-    new FindBar(*this);
     new NewLinesButton(*this);
     QAccessible::installFactory(AccessibleLog::make); // again and again, which Qt ignores
 }
@@ -175,6 +175,10 @@ void RichTextLogEdit::buildCommands()
     m_zoomOut
         = add("logZoomOut", tr("Zoom &Out"), {QKeySequence(Qt::CTRL | Qt::Key_Minus)}, [this] { zoom(m_zoom - 1); });
     m_resetZoom = add("logResetZoom", tr("&Normal Size"), {QKeySequence(Qt::CTRL | Qt::Key_0)}, [this] { zoom(0); });
+    // The bar has this key.
+    m_find = add("logFind", tr("&Find...\tCtrl+F"), {}, [this] { m_findBar->open(); });
+    m_save = add("logSave", tr("&Save Conversation As..."), {}, [this] { askWhereToSave(*this); });
+    m_print = add("logPrint", tr("&Print..."), {}, [this] { askHowToPrint(*this); });
     addActions({m_zoomIn, m_zoomOut, m_resetZoom});
 }
 
@@ -295,8 +299,10 @@ void RichTextLogEdit::writeGathered()
     if (m_gathered.empty())
         return;
     const int firstLine = m_caret.block().position(), lines = document()->blockCount();
+    const int begin = m_caret.position();
     m_caret.beginEditBlock();
     insertGathered();
+    tellReaders(begin);
     if (m_detectsLinks)
         markLinks(document()->findBlock(firstLine));
     m_caret.endEditBlock();
@@ -306,6 +312,17 @@ void RichTextLogEdit::writeGathered()
     if (!m_follows)
         noteLinesBelow(m_linesBelow + more);
     m_sinceWritten.start();
+}
+
+/// Once for all that has come, whatever changes in its form later.
+void RichTextLogEdit::tellReaders(int begin)
+{
+    if (!m_screenReaders.areThere())
+        return;
+    const QString text = spokenText(*document(), begin, m_caret.position());
+    QAccessibleTextInsertEvent told(this, begin, text);
+    QAccessible::updateAccessibility(&told);
+    Q_EMIT toldReaders(text);
 }
 
 void RichTextLogEdit::insertGathered()
@@ -464,6 +481,43 @@ void RichTextLogEdit::clear()
     prepareLines();
 }
 
+RichTextLogEdit::Kept RichTextLogEdit::kept()
+{
+    writeGathered();
+    return {.text = QTextDocumentFragment(document()),
+            .firstLine = document()->begin().blockFormat(),
+            .marks = m_marks,
+            .ground = palette().color(QPalette::Base),
+            .pictures = m_pictureCount,
+            .hasMargin = m_hasMargin};
+}
+
+void RichTextLogEdit::bringBack(const Kept &kept, qsizetype replaced)
+{
+    writeGathered();
+    const bool hasMore = textLength() > replaced;
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    cursor.setPosition(static_cast<int>(qMin(replaced, textLength())), QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    // Where two lines become one, the text takes the form of either.
+    const QTextBlockFormat next = cursor.blockFormat();
+    cursor.insertFragment(kept.text);
+    cursor.setBlockFormat(next);
+    cursor.setPosition(0);
+    cursor.setBlockFormat(kept.firstLine);
+    cursor.endEditBlock();
+    m_pictureCount += kept.pictures;
+    if (!hasMore)
+        m_marks = kept.marks;
+    m_hasMargin = m_hasMargin || kept.hasMargin;
+    makeRoom();
+    if (kept.ground != palette().color(QPalette::Base))
+        adaptColours();
+    dropOldLines();
+    showEnd();
+}
+
 bool RichTextLogEdit::isAtEnd() const
 {
     return verticalScrollBar()->value() >= verticalScrollBar()->maximum();
@@ -514,6 +568,11 @@ qreal RichTextLogEdit::zoomFactor() const
 {
     const qreal shown = font().pointSizeF();
     return shown / (shown - m_zoom);
+}
+
+LogPictures::Scale RichTextLogEdit::pictureScale() const
+{
+    return {.deviceRatio = devicePixelRatioF(), .zoom = zoomFactor(), .letterHeight = QFontMetricsF(font()).height()};
 }
 
 QColor RichTextLogEdit::linkColour() const
@@ -754,6 +813,9 @@ void RichTextLogEdit::contextMenuEvent(QContextMenuEvent *event)
         menu->addAction(tr("Copy &Link Address"), this,
                         [target] { QGuiApplication::clipboard()->setText(QString::fromLatin1(target.toEncoded())); });
     menu->addAction(m_selectAll);
+    menu->addAction(m_find);
+    menu->addSeparator();
+    menu->addActions({m_save, m_print});
     menu->addSeparator();
     menu->addActions({m_zoomIn, m_zoomOut, m_resetZoom});
     menu->popup(event->globalPos());

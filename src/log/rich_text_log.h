@@ -3,11 +3,14 @@
 
 #include "base/rich_text.h"
 #include "log/log_marks.h"
+#include "log/log_pictures.h"
+#include "log/screen_readers.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QElapsedTimer>
 #include <QHash>
 #include <QTextBlock>
+#include <QTextDocumentFragment>
 #include <QTextEdit>
 #include <QTimer>
 #include <QUrl>
@@ -18,7 +21,7 @@
 namespace nimb
 {
 
-class LogPictures;
+class FindBar;
 
 /// Bounded: beyond limits::logLines, logCharacters and logPictures the oldest lines go. Lines that are broken because
 /// the window is narrow, and those that continue another, are indented. What is written is gathered and goes in at most
@@ -49,6 +52,18 @@ public:
     /// Room above and below the text, in pixels, for what would lie over it.
     void setRoomAbove(int room);
     void setRoomBelow(int room);
+    /// All that stands in the log, so that it can be brought back after it was cleared.
+    struct Kept {
+        QTextDocumentFragment text;
+        QTextBlockFormat firstLine;
+        LogMarks marks;
+        QColor ground; ///< to which its colours are adapted
+        qsizetype pictures = 0;
+        bool hasMargin = false;
+    };
+    Kept kept();
+    /// In front of what is there now, whose first characters it replaces.
+    void bringBack(const Kept &kept, qsizetype replaced);
     /// Marks these places of the text, each of this many characters, in the order of the text.
     void setFound(std::vector<int> places, int length);
 
@@ -74,6 +89,8 @@ Q_SIGNALS:
     void commandPressed(const QString &name);
     /// The reader has come to the end of the text.
     void endReached();
+    /// What screen readers have been told of new text.
+    void toldReaders(const QString &text);
     /// So many lines have come since the reader has left the end.
     void linesBelow(int lines);
 
@@ -102,6 +119,7 @@ private:
     bool isAtEnd() const;
     void followEnd();
     void insertGathered();
+    void tellReaders(int begin);
     void applyColour(Colour colour);
     void insert(const Piece &piece);
     /// Of the first line of an empty log, and of those behind it.
@@ -120,6 +138,7 @@ private:
     void adaptColours();
     void applyFont();
     qreal zoomFactor() const;
+    LogPictures::Scale pictureScale() const;
     QColor linkColour() const;
     QTextCharFormat commandFormat() const;
     QUrl linkAt(const QPoint &place) const;
@@ -150,11 +169,16 @@ private:
     int m_foundLength = 0;
     QHash<QRgb, QColor> m_adapted; ///< colours of the document as they are shown on this ground
     int m_insetAbove = 0, m_insetBelow = 0, m_roomAbove = 0, m_roomBelow = 0;
+    ScreenReaders m_screenReaders;
     LogPictures *m_pictures;
+    FindBar *m_findBar = nullptr;
     QWidget *m_above;
     QWidget *m_below;
     QAction *m_copy = nullptr;
     QAction *m_selectAll = nullptr;
+    QAction *m_find = nullptr;
+    QAction *m_save = nullptr;
+    QAction *m_print = nullptr;
     QAction *m_zoomIn = nullptr;
     QAction *m_zoomOut = nullptr;
     QAction *m_resetZoom = nullptr;

@@ -239,6 +239,7 @@ void frmMain::connectMenus()
     on("mnuToolsOptions", [this] { m_engine->windows.mnuToolsOptions(); });
     on("mnuHelpAbout", [this] { m_engine->windows.mnuHelpAbout(); });
     on("mnuTOTD", [this] { m_engine->windows.mnuTOTD(); });
+    on("mnuShortcuts", [this] { m_engine->windows.mnuShortcuts(); });
     on("mnuNetworkDoctor", [this] { m_engine->windows.mnuNetworkDoctor(); });
     on("mnusendcontacts", [this] { m_engine->windows.mnusendcontacts(selectedContact()); });
     on("mnuinviteuser", [this] { m_engine->windows.mnuinviteuser(selectedContact()); });
@@ -594,6 +595,13 @@ void frmMain::clearbtn_Click()
 void frmMain::addOwnState(const OwnStateEntry &entry)
 {
     ImageCombo1->addItem(entry.picture ? statePicture(*entry.picture) : QIcon(), entry.text, entry.key);
+}
+
+void frmMain::removeOwnState(int position)
+{
+    ImageCombo1->removeItem(position - 1);
+    for (int i = position - 1; i < ImageCombo1->count(); ++i)
+        ImageCombo1->setItemData(i, m_engine->ownState.entries()[static_cast<std::size_t>(i)].key);
 }
 
 void frmMain::selectOwnState(int position)

@@ -81,6 +81,7 @@ public:
     void setRescanEnabled(bool enabled) override;
     void refreshContextMenu() override;
     void addOwnState(const OwnStateEntry &entry) override;
+    void removeOwnState(int position) override;
     void selectOwnState(int position) override;
     void setStatusPanel(const QString &text) override;
     void setRescanToolTip(const QString &text) override;

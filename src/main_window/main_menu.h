@@ -71,6 +71,7 @@ inline constexpr std::array help = {
     MenuEntry{"mnuHelpSearchForHelpOn", QT_TRANSLATE_NOOP("MainMenu", "&Search For Help On...")},
     MenuEntry{"mnuTOTD", QT_TRANSLATE_NOOP("MainMenu", "&Tip of the day..."), "tip"},
     MenuEntry{"mnuNetworkDoctor", QT_TRANSLATE_NOOP("MainMenu", "&Network doctor...")},
+    MenuEntry{"mnuShortcuts", QT_TRANSLATE_NOOP("MainMenu", "&Keyboard shortcuts...")},
     MenuEntry{"mnuHelpAbout", QT_TRANSLATE_NOOP("MainMenu", "&About")},
 };
 
@@ -83,6 +84,12 @@ inline constexpr std::array mainMenus = {
     Menu{"mnuTools", QT_TRANSLATE_NOOP("MainMenu", "&Tools"), main_menu::tools},
     Menu{"mnuHelp", QT_TRANSLATE_NOOP("MainMenu", "&Help"), main_menu::help},
 };
+
+/// These stand in the menus and have nothing to do so far.
+inline constexpr std::array entriesWithoutAction
+    = {"mnuFileNew",        "mnuFileClose",        "mnuFileSave",     "mnuFileSaveAs",         "mnuFileSaveAll",
+       "mnuFileProperties", "mnuFilePrintPreview", "mnuFilePrint",    "mnuFileSend",           "mnuFileMRU1",
+       "mnuFileMRU2",       "mnuFileMRU3",         "mnuHelpContents", "mnuHelpSearchForHelpOn"};
 
 /// The context menu of the contact list; its first entry is the default one. The five of the conferences stand for
 /// their slots 1 to 5.

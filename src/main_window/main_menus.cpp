@@ -37,6 +37,8 @@ void MainMenus::buildMenuBar()
     }
     for (const char *const recent : {"mnuFileMRU1", "mnuFileMRU2", "mnuFileMRU3"})
         entry(recent)->setVisible(false); // as long as there is no recent file
+    for (const char *const idle : entriesWithoutAction)
+        entry(idle)->setEnabled(false);
     entry("mnuFileExit")->setShortcut(QKeySequence::Quit);
     entry("mnuFileExit")->setMenuRole(QAction::QuitRole);
     entry("mnuHelpAbout")->setMenuRole(QAction::AboutRole);

@@ -32,6 +32,21 @@ void MainWindow::showInTray()
     m_parts.tray.setUnread(unread, tip);
 }
 
+void MainWindow::changeNickname(const QString &nickname)
+{
+    Common &common = m_parts.common;
+    const QString name = nickname.isEmpty() ? common.ownHostName : nickname;
+    if (name == common.ownNickname)
+        return;
+    common.ownNickname = name;
+    m_parts.view.setCaption(mainCaption(name));
+    showInTray();
+    m_parts.announcement.runUnlessInvisible();
+    writeSetting(m_parts.store, QLatin1String("MyNickName"), name);
+    if (const std::optional<QString> problem = m_parts.store.save())
+        m_parts.log.fault(*problem);
+}
+
 void MainWindow::Form_Load()
 {
     const LoadedSettings settings = loadSettings();

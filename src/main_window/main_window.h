@@ -60,6 +60,9 @@ public:
     CloseDecision Form_QueryUnload(UnloadMode mode);
     /// The user moved the window or gave it another height.
     void placeChanged() { m_parts.recovery.settingsChanged(); }
+    /// Takes another nickname, or the host name for an empty one, keeps it and tells the contacts as after a login,
+    /// but for whoever is invisible. The main log says it when it could not be kept.
+    void changeNickname(const QString &nickname);
     /// Something may have changed that the tray icon says: nickname, state, how many messages are unread.
     void showInTray();
     /// Ends everything that the window owns: windows are unloaded, contacts told, contacts and settings saved.

@@ -1,5 +1,6 @@
 #include "options/frmOptions.h"
 
+#include "base/remote_text.h"
 #include "log/log_font.h"
 #include "options/font_dialog.h"
 #include "widgets/avatar_image.h"
@@ -24,6 +25,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <algorithm>
 #include <utility>
 
 namespace nimb
@@ -85,6 +87,7 @@ void frmOptions::buildControls()
     left->addStretch(1);
     auto *const right = new QVBoxLayout;
     right->setSpacing(groupDistance);
+    right->addWidget(makeYou());
     right->addWidget(makeNotices());
     right->addWidget(makeFont());
     right->addWidget(makeAvatar());
@@ -102,6 +105,31 @@ void frmOptions::buildControls()
     grid->addLayout(right, 0, 1);
     grid->addWidget(buttons, 1, 0, 1, 2);
     grid->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+QGroupBox *frmOptions::makeYou()
+{
+    auto *const group = new QGroupBox(tr("You"), this);
+    nicknameText = nameBox(group, "nicknameText");
+    auto *const nickname = new QLabel(tr("Nickname:"), group);
+    nickname->setBuddy(nicknameText);
+    statesCombo = named(new QComboBox(group), "statesCombo");
+    statesCombo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    statesCombo->setMinimumContentsLength(12);
+    nameCombo(*statesCombo, tr("Your own states"));
+    auto *const states = new QLabel(tr("Own states:"), group);
+    states->setBuddy(statesCombo);
+    removeStateBtn = named(new QPushButton(tr("Remove"), group), "removeStateBtn");
+    auto *const grid = new QGridLayout;
+    grid->setSpacing(spacing);
+    grid->addWidget(nickname, 0, 0);
+    grid->addWidget(nicknameText, 0, 1, 1, 2);
+    grid->addWidget(states, 1, 0);
+    grid->addWidget(statesCombo, 1, 1);
+    grid->addWidget(removeStateBtn, 1, 2);
+    grid->setColumnStretch(1, 1);
+    columnOf(group)->addLayout(grid);
+    return group;
 }
 
 QGroupBox *frmOptions::makeSounds()
@@ -245,6 +273,7 @@ void frmOptions::connectControls()
 {
     connect(CmdOK, &QPushButton::clicked, this, &frmOptions::CmdOK_Click);
     connect(Command1, &QPushButton::clicked, this, &frmOptions::reject);
+    connect(removeStateBtn, &QPushButton::clicked, this, &frmOptions::removeStateBtn_Click);
     connect(font_btn, &QPushButton::clicked, this, &frmOptions::font_btn_Click);
     connect(LoadAvatarbtn, &QPushButton::clicked, this, &frmOptions::LoadAvatarbtn_Click);
     connect(Folderbtn, &QPushButton::clicked, this, &frmOptions::Folderbtn_Click);
@@ -256,6 +285,10 @@ void frmOptions::Form_Load()
     const OptionControls now = m_values.Form_Load();
     for (const ShownOption &shown : m_options)
         shown.box->setChecked(shown.row->isTicked(now.options));
+    nicknameText->setText(now.nickname);
+    for (const QString &state : m_values.states())
+        statesCombo->addItem(paintedName(state), statesCombo->count());
+    showStates();
     UDPPorttxt->setText(now.UDPPorttxt);
     for (const OptionValues::Card &card : m_values.cards())
         ownAddressCombo->addItem(card.caption, card.name);
@@ -292,6 +325,9 @@ OptionControls frmOptions::controls() const
     OptionControls now;
     for (const ShownOption &shown : m_options)
         shown.row->setTicked(now.options, shown.box->isChecked());
+    now.nickname = nicknameText->text();
+    now.removedStates = m_removedStates;
+    std::ranges::sort(now.removedStates);
     now.UDPPorttxt = UDPPorttxt->text();
     now.ownCard = ownAddressCombo->currentData().toString();
     now.font = m_font;
@@ -312,6 +348,21 @@ void frmOptions::CmdOK_Click()
         return;
     }
     accept();
+}
+
+void frmOptions::removeStateBtn_Click()
+{
+    m_removedStates.push_back(statesCombo->currentData().toInt());
+    statesCombo->removeItem(statesCombo->currentIndex());
+    showStates();
+}
+
+void frmOptions::showStates()
+{
+    const bool hasSome = statesCombo->count() > 0;
+    statesCombo->setEnabled(hasSome);
+    statesCombo->setPlaceholderText(hasSome ? QString() : tr("none"));
+    removeStateBtn->setEnabled(hasSome);
 }
 
 void frmOptions::font_btn_Click()

@@ -39,6 +39,7 @@ protected:
 
 private:
     void buildControls();
+    QGroupBox *makeYou();
     QGroupBox *makeSounds();
     QGroupBox *makePrivateWindows();
     QGroupBox *makeProgram();
@@ -52,6 +53,8 @@ private:
     void Form_Load();
 
     void CmdOK_Click();
+    void removeStateBtn_Click();
+    void showStates();
     void font_btn_Click();
     void LoadAvatarbtn_Click();
     void PolledPicturebox_Click();
@@ -73,6 +76,7 @@ private:
     OptionValues m_values;
     Prompts &m_prompts;
     LogFont m_font;
+    std::vector<int> m_removedStates;
     QByteArray m_loadedPicture; ///< avatarBytes bytes, or none
     QString m_folder;           ///< of the polled pictures
 
@@ -80,6 +84,9 @@ private:
     QLineEdit *UDPPorttxt = nullptr;
     QComboBox *ownAddressCombo = nullptr;
     QLabel *m_fontSample = nullptr;
+    QLineEdit *nicknameText = nullptr;
+    QComboBox *statesCombo = nullptr;
+    QPushButton *removeStateBtn = nullptr;
     QPushButton *font_btn = nullptr;
     QRadioButton *Option1 = nullptr;
     QRadioButton *Option2 = nullptr;

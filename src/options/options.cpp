@@ -5,6 +5,7 @@
 #include "protocol/address_text.h"
 
 #include <algorithm>
+#include <span>
 
 namespace nimb
 {
@@ -24,16 +25,25 @@ std::optional<std::uint16_t> portOf(const QString &text)
 OptionControls OptionValues::Form_Load() const
 {
     OptionControls controls;
-    controls.options = m_common.options;
-    controls.UDPPorttxt = QString::number(m_common.udpPort);
-    controls.ownCard = m_common.ownCard;
-    controls.font = m_common.logFont;
-    controls.avatar = m_common.avatarHead.isEmpty() ? AvatarChoice::none : AvatarChoice::still;
-    if (const std::optional<PolledPicture> polled = m_ownAvatar.source()) {
+    controls.nickname = m_parts.common.ownNickname;
+    controls.options = m_parts.common.options;
+    controls.UDPPorttxt = QString::number(m_parts.common.udpPort);
+    controls.ownCard = m_parts.common.ownCard;
+    controls.font = m_parts.common.logFont;
+    controls.avatar = m_parts.common.avatarHead.isEmpty() ? AvatarChoice::none : AvatarChoice::still;
+    if (const std::optional<PolledPicture> polled = m_parts.ownAvatar.source()) {
         controls.avatar = AvatarChoice::polled;
         controls.polled = *polled;
     }
     return controls;
+}
+
+QStringList OptionValues::states() const
+{
+    QStringList states;
+    for (const OwnStateEntry &entry : std::span(m_parts.ownState.entries()).subspan(OwnState::plainEntries))
+        states.append(entry.text);
+    return states;
 }
 
 std::vector<OptionValues::Card> OptionValues::cards() const
@@ -42,12 +52,13 @@ std::vector<OptionValues::Card> OptionValues::cards() const
     const auto isListed = [&cards](const QString &name) {
         return std::ranges::any_of(cards, [&name](const Card &card) { return card.name == name; });
     };
-    for (const NetworkCard &card : m_ownAddresses.cards()) {
+    for (const NetworkCard &card : m_parts.ownAddresses.cards()) {
         if (!isListed(card.name))
             cards.push_back({card.name, tr("%1 (%2)").arg(card.name, addressText(card.address))});
     }
-    if (!isListed(m_common.ownCard))
-        cards.push_back({m_common.ownCard, tr("%1 (not connected)").arg(paintedName(remoteName(m_common.ownCard)))});
+    if (!isListed(m_parts.common.ownCard))
+        cards.push_back(
+            {m_parts.common.ownCard, tr("%1 (not connected)").arg(paintedName(remoteName(m_parts.common.ownCard)))});
     return cards;
 }
 
@@ -56,20 +67,24 @@ std::optional<QString> OptionValues::CmdOK_Click(const OptionControls &controls)
     const std::optional<std::uint16_t> port = portOf(controls.UDPPorttxt);
     if (!port)
         return tr("The port must be a number from 1 to 65535.");
-    if (controls.avatar == AvatarChoice::polled && m_ownAvatar.source() != controls.polled) {
-        std::unique_ptr<PictureSource> source = m_sources.open(controls.polled);
+    if (controls.avatar == AvatarChoice::polled && m_parts.ownAvatar.source() != controls.polled) {
+        std::unique_ptr<PictureSource> source = m_parts.sources.open(controls.polled);
         // Some know only by trying that they cannot work.
         source->frame();
         if (std::optional<QString> problem = source->problem())
             return problem;
-        m_ownAvatar.setSource(std::move(source));
+        m_parts.ownAvatar.setSource(std::move(source));
     }
-    m_common.options = controls.options;
-    m_common.udpPort = *port;
-    m_common.ownCard = controls.ownCard;
-    m_common.logFont = controls.font;
+    m_parts.common.options = controls.options;
+    m_parts.common.udpPort = *port;
+    m_parts.common.ownCard = controls.ownCard;
+    m_parts.common.logFont = controls.font;
     takeAvatar(controls);
-    m_taken();
+    // From the last one on, for those behind a removed one move up.
+    for (auto state = controls.removedStates.rbegin(); state != controls.removedStates.rend(); ++state)
+        m_parts.ownState.removePersonalized(OwnState::plainEntries + *state + 1);
+    m_parts.changeNickname(controls.nickname);
+    m_parts.taken();
     return std::nullopt;
 }
 
@@ -77,16 +92,16 @@ void OptionValues::takeAvatar(const OptionControls &controls)
 {
     if (controls.avatar == AvatarChoice::polled)
         return; // the still avatar waits behind it
-    m_ownAvatar.setSource(nullptr);
+    m_parts.ownAvatar.setSource(nullptr);
     if (controls.avatar == AvatarChoice::none) {
-        m_common.avatarHead.clear();
-        m_common.avatarBody.clear();
+        m_parts.common.avatarHead.clear();
+        m_parts.common.avatarBody.clear();
         return;
     }
     if (controls.loaded.size() != avatarBytes)
         return; // the one that is there stays, with its time
-    m_common.avatarHead = m_clock.now().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
-    m_common.avatarBody = controls.loaded;
+    m_parts.common.avatarHead = m_parts.clock.now().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    m_parts.common.avatarBody = controls.loaded;
 }
 
 } // namespace nimb

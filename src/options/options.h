@@ -6,6 +6,7 @@
 #include "base/picture_source.h"
 #include "base/timers.h"
 #include "contacts/own_avatar.h"
+#include "contacts/own_state.h"
 
 #include <QCoreApplication>
 
@@ -21,6 +22,8 @@ enum class AvatarChoice { none, still, polled };
 
 /// What the dialog's controls stand for.
 struct OptionControls {
+    QString nickname;
+    std::vector<int> removedStates; ///< places among the personalised states, the first is 0, in rising order
     Options options;
     QString UDPPorttxt;
     QString ownCard; ///< empty: automatic
@@ -36,26 +39,33 @@ class OptionValues
     Q_DECLARE_TR_FUNCTIONS(OptionValues)
 
 public:
-    /// taken: called when the options have been taken.
-    OptionValues(Common &common, OwnAvatar &ownAvatar, PictureSources &sources, const WallClock &clock,
-                 const OwnAddresses &ownAddresses, std::function<void()> taken)
-        : m_common(common), m_ownAvatar(ownAvatar), m_sources(sources), m_clock(clock), m_ownAddresses(ownAddresses),
-          m_taken(std::move(taken))
-    {
-    }
+    struct Parts {
+        Common &common;
+        OwnAvatar &ownAvatar;
+        OwnState &ownState;
+        PictureSources &sources;
+        const WallClock &clock;
+        const OwnAddresses &ownAddresses;
+        std::function<void(const QString &)> changeNickname;
+        std::function<void()> taken; ///< called when the options have been taken
+    };
+
+    explicit OptionValues(Parts parts) : m_parts(std::move(parts)) { }
 
     OptionControls Form_Load() const;
     struct Card {
         QString name;
         QString caption;
     };
+    /// The personalised states as they are chosen.
+    QStringList states() const;
     /// What may be chosen as the own card: first the automatic choice, without a name, and the chosen one even where it
     /// does not run.
     std::vector<Card> cards() const;
     /// Not where the own address is fixed.
-    bool mayChooseCard() const { return !m_ownAddresses.isFixed(); }
+    bool mayChooseCard() const { return !m_parts.ownAddresses.isFixed(); }
     /// The still avatar, for the dialog to show; avatarBytes bytes, or none.
-    const QByteArray &avatar() const { return m_common.avatarBody; }
+    const QByteArray &avatar() const { return m_parts.common.avatarBody; }
     /// Takes everything, or nothing: then the sentence says what the user is to correct. The port and the card are
     /// those of the next start.
     [[nodiscard]] std::optional<QString> CmdOK_Click(const OptionControls &controls);
@@ -63,12 +73,7 @@ public:
 private:
     void takeAvatar(const OptionControls &controls);
 
-    Common &m_common;
-    OwnAvatar &m_ownAvatar;
-    PictureSources &m_sources;
-    const WallClock &m_clock;
-    const OwnAddresses &m_ownAddresses;
-    std::function<void()> m_taken;
+    Parts m_parts;
 };
 
 } // namespace nimb

@@ -20,11 +20,10 @@ bool mayBeOpened(const QUrl &address)
 
 } // namespace
 
-void DesktopLinkOpener::open(const QUrl &address)
+bool DesktopLinkOpener::open(const QUrl &address)
 {
     // The address goes to the handler percent-encoded, as one argument and without a shell.
-    if (mayBeOpened(address))
-        QDesktopServices::openUrl(address);
+    return mayBeOpened(address) && QDesktopServices::openUrl(address);
 }
 
 } // namespace nimb

@@ -11,7 +11,7 @@ namespace nimb
 class DesktopLinkOpener : public LinkOpener
 {
 public:
-    void open(const QUrl &address) override;
+    bool open(const QUrl &address) override;
 };
 
 } // namespace nimb

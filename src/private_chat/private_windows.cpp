@@ -233,6 +233,8 @@ PrivateChat &PrivateWindows::make(const Contact &contact, OpenedBy opener)
     else
         chat.askForAvatarUnlessInvisible();
     chat.preparewindow();
+    if (const QString draft = m_drafts.take(contact.ip); !draft.isEmpty())
+        chat.view().conversation().setDraft(draft);
     return chat;
 }
 
@@ -258,11 +260,14 @@ void PrivateWindows::unload(int window)
 {
     const std::unique_ptr<PrivateChat> gone = std::move(m_table[static_cast<std::size_t>(window - 1)]);
     const Contact *contact = m_contacts.find(gone->rIP());
-    if (contact && contact->privateWindow == window)
-        m_contacts.change(gone->rIP(), [](Contact &row) {
-            row.privateWindow = 0;
-            row.unreadInWindow = 0;
-        });
+    if (!contact || contact->privateWindow != window)
+        return;
+    if (const QString draft = gone->view().conversation().typedText(); !draft.isEmpty())
+        m_drafts.insert(gone->rIP(), draft);
+    m_contacts.change(gone->rIP(), [](Contact &row) {
+        row.privateWindow = 0;
+        row.unreadInWindow = 0;
+    });
 }
 
 void PrivateWindows::unloadAll()
@@ -287,13 +292,13 @@ void PrivateWindows::contactRemoved(const ContactAddress &ip)
     forgetWaiting(ip);
     if (ip.ipv4())
         m_notices.seen({NoticeWindow::privateChat, *ip.ipv4()});
-    const int number = numberOf(ip);
-    if (number <= 0)
-        return;
-    if (at(number)->view().isHidden())
-        unload(number);
-    else
-        at(number)->setContact(false);
+    if (const int number = numberOf(ip); number > 0) {
+        if (at(number)->view().isHidden())
+            unload(number);
+        else
+            at(number)->setContact(false);
+    }
+    m_drafts.remove(ip);
 }
 
 void PrivateWindows::appendPresence(int window, const QString &line)

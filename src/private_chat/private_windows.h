@@ -83,8 +83,9 @@ private:
     DropCounts &m_drops;
     QHash<ContactAddress, QStringList> m_waiting;
     qsizetype m_waitingCharacters = 0;
-    int m_atOnce = limits::windowsAtOnce; ///< windows that may still open at once
-    std::deque<ContactAddress> m_inTurn;  ///< whose windows are to open next
+    QHash<ContactAddress, QString> m_drafts; ///< what was in the input of a window that is gone
+    int m_atOnce = limits::windowsAtOnce;    ///< windows that may still open at once
+    std::deque<ContactAddress> m_inTurn;     ///< whose windows are to open next
     std::unique_ptr<Timer> m_oneMore;
     std::vector<std::unique_ptr<PrivateChat>> m_table;
 };

@@ -21,4 +21,13 @@ inline QLabel *makeBand(QWidget *parent)
     return band;
 }
 
+/// The same for a text that holds a link and nothing that is not the program's own.
+inline QLabel *makeBandWithLink(QWidget *parent)
+{
+    QLabel *const band = makeBand(parent);
+    band->setTextFormat(Qt::RichText);
+    band->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    return band;
+}
+
 } // namespace nimb

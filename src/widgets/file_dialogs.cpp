@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPageSetupDialog>
+#include <QRegularExpression>
 
 namespace nimb
 {
@@ -41,6 +42,10 @@ void askForNewFile(QWidget &parent, const QString &name, const QString &filter,
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setDefaultSuffix(QFileInfo(name).suffix());
     dialog->selectFile(name);
+    QObject::connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString &kind) {
+        static const QRegularExpression suffix(QStringLiteral("\\(\\*\\.(\\w+)"));
+        dialog->setDefaultSuffix(suffix.match(kind).captured(1));
+    });
     open(dialog, std::move(chosen));
 }
 

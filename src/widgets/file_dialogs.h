@@ -14,7 +14,8 @@ namespace nimb
 /// Asks for one file that exists. filter: what is shown, a blank, and the patterns in brackets. chosen is called when
 /// the user takes one.
 void askForFile(QWidget &parent, const QString &filter, std::function<void(const QString &path)> chosen);
-/// Asks where a file is to be written, which is offered this name; who chooses one that exists is asked again.
+/// Asks where a file is to be written, which is offered this name; who chooses one that exists is asked again. Several
+/// filters are parted by two semicolons, and a name without a suffix gets that of the one which is chosen.
 void askForNewFile(QWidget &parent, const QString &name, const QString &filter,
                    std::function<void(const QString &path)> chosen);
 /// Asks for a folder, beginning with this one.

@@ -94,7 +94,8 @@ TEST_F(FrmMain, BearsItsFixedNames)
                              "mnuHelpSearchForHelpOn",
                              "mnuHelpAbout",
                              "mnuTOTD",
-                             "mnuNetworkDoctor"})
+                             "mnuNetworkDoctor",
+                             "mnuShortcuts"})
         EXPECT_TRUE(windows.main().findChild<QObject *>(QLatin1String(name))) << name;
     EXPECT_EQ(windows.main().windowTitle(), QStringLiteral("NIMB-Chat 1.2 - Me"));
 }

@@ -55,6 +55,11 @@ protected:
     bool hasPicture() { return control<AvatarPicture>("Picture2").hasPicture(); }
     Options &options() { return windows.common.options; }
 
+    void addState(const char *text)
+    {
+        EXPECT_TRUE(windows.engine.ownState().addPersonalized(BaseState::busy, QString::fromLatin1(text)));
+    }
+
     static QImage plain(int width, int height, const QColor &colour)
     {
         QImage image(width, height, QImage::Format_RGB32);
@@ -113,6 +118,40 @@ protected:
     QTemporaryDir folder;
     RealWindows windows{{{"10.0.0.2", "Ann"}}};
 };
+
+TEST_F(FrmOptions, TheNicknameCanBeChanged)
+{
+    EXPECT_EQ(control<QLineEdit>("nicknameText").text(), windows.common.ownNickname);
+    control<QLineEdit>("nicknameText").setText(QStringLiteral("Robert"));
+    click("CmdOK");
+    EXPECT_FALSE(isOpen());
+    EXPECT_EQ(windows.main().windowTitle(), QStringLiteral("NIMB-Chat 1.2 - Robert"));
+}
+
+TEST_F(FrmOptions, StatesOfOnesOwnCanBeRemoved)
+{
+    EXPECT_FALSE(control<QPushButton>("removeStateBtn").isEnabled());
+    click("Command1");
+    addState("Lunch");
+    addState("Meeting");
+    addState("Home");
+    auto &chooser = RealWindows::control<QComboBox>(windows.main(), "ImageCombo1");
+    ASSERT_EQ(chooser.count(), 8);
+    control<QComboBox>("statesCombo").setCurrentIndex(1);
+    click("removeStateBtn");
+    click("removeStateBtn");
+    EXPECT_EQ(control<QComboBox>("statesCombo").count(), 1);
+    click("Command1");
+    EXPECT_EQ(chooser.count(), 8) << "cancelled";
+    control<QComboBox>("statesCombo").setCurrentIndex(1);
+    click("removeStateBtn");
+    click("CmdOK");
+    ASSERT_EQ(chooser.count(), 7);
+    EXPECT_EQ(chooser.itemText(5), QStringLiteral("Busy - Lunch"));
+    EXPECT_EQ(chooser.itemText(6), QStringLiteral("Busy - Home"));
+    EXPECT_EQ(chooser.itemData(6), QVariant(QStringLiteral("Personalized2")));
+    EXPECT_EQ(chooser.currentIndex(), 6);
+}
 
 TEST_F(FrmOptions, ShowsTheOptionsAsTheyAre)
 {

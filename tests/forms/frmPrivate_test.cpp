@@ -5,6 +5,7 @@
 #include "private_chat/mood_gauge.h"
 #include "widgets/avatar_picture.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QLabel>
@@ -14,6 +15,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTimer>
 #include <QToolButton>
 
 #include <random>
@@ -153,6 +155,46 @@ TEST_F(FrmPrivate, TheUpKeyInAnEmptyInputBringsTheLastMessageBack)
     EXPECT_EQ(intext().toPlainText(), QStringLiteral("first!")) << "there the key moves the caret";
 }
 
+TEST_F(FrmPrivate, IsAWindowForScreenReaders)
+{
+    QAccessibleInterface *const reader = QAccessible::queryAccessibleInterface(&form());
+    ASSERT_TRUE(reader);
+    EXPECT_EQ(reader->role(), QAccessible::Window);
+    EXPECT_EQ(reader->text(QAccessible::Name), QStringLiteral("Ann - NIMB-Chat - Private Chat Window"));
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&control<QWidget>("StatusBar"))->role(), QAccessible::Client);
+}
+
+TEST_F(FrmPrivate, ANarrowWindowShowsItsToolsAsPictures)
+{
+    auto &clear = control<QToolButton>("clearbtn");
+    EXPECT_EQ(clear.toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
+    form().resize(360, 400);
+    QTRY_COMPARE(form().width(), 360);
+    EXPECT_EQ(clear.toolButtonStyle(), Qt::ToolButtonIconOnly);
+    EXPECT_EQ(clear.toolTip(), QStringLiteral("Clear"));
+    EXPECT_EQ(control<QToolButton>("datetimebtn").toolTip(), QStringLiteral("Date&Time"));
+    EXPECT_EQ(control<QToolButton>("BuzzBtn").toolTip(), QStringLiteral("(CTRL+G)"));
+    for (const QToolButton *const tool : form().findChildren<QToolButton *>()) {
+        if (tool->isVisible()) {
+            EXPECT_LE(tool->mapTo(&form(), tool->rect().bottomRight()).x(), 360) << tool->objectName().toStdString();
+        }
+    }
+    form().resize(700, 400);
+    QTRY_COMPARE(clear.toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
+}
+
+TEST_F(FrmPrivate, ADraftComesBackWithoutATypingNotice)
+{
+    windows.common.options.closedWindowsGo = true;
+    type(QStringLiteral("See you at"));
+    windows.sent();
+    form().close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    windows.doubleClick(0);
+    EXPECT_EQ(intext().toPlainText(), QStringLiteral("See you at"));
+    EXPECT_THAT(windows.sent(), ElementsAre(To{"10.0.0.2", "?AVATARHEAD"}));
+}
+
 TEST_F(FrmPrivate, ACounterAppearsWhenAMessageBecomesLong)
 {
     auto &counter = control<QLabel>("messageCounter");
@@ -186,6 +228,50 @@ TEST_F(FrmPrivate, AKeyThatFindsNoRoomIsNoPaste)
     intext().setPlainText(QString(2000, u'x'));
     type(QStringLiteral("y"));
     EXPECT_FALSE(control<QLabel>("cutBand").isVisible());
+}
+
+TEST_F(FrmPrivate, WhatWasClearedCanBeBroughtBackForTenSeconds)
+{
+    windows.arrive("10.0.0.2", "-I am :) at http://example.org");
+    type(QStringLiteral("mine"));
+    QTest::keyClick(&intext(), Qt::Key_Return);
+    outtext().writeGathered();
+    const QString before = outtext().toHtml();
+    auto &band = control<QLabel>("clearedBand");
+    EXPECT_FALSE(band.isVisible());
+    control<QToolButton>("clearbtn").click();
+    outtext().writeGathered();
+    EXPECT_FALSE(outtext().toPlainText().contains(QStringLiteral("mine")));
+    EXPECT_TRUE(band.isVisible());
+    EXPECT_EQ(form().findChild<QTimer *>(QStringLiteral("clearedForGood"))->interval(), 10000);
+    Q_EMIT band.linkActivated(QStringLiteral("undo"));
+    EXPECT_EQ(outtext().toHtml(), before);
+    EXPECT_FALSE(band.isVisible());
+    EXPECT_TRUE(outtext().isAtItsEnd());
+}
+
+TEST_F(FrmPrivate, WhatCameAfterClearingStandsBehindWhatIsBroughtBack)
+{
+    windows.arrive("10.0.0.2", "-old");
+    outtext().writeGathered();
+    const QString before = outtext().toPlainText();
+    control<QToolButton>("clearbtn").click();
+    windows.arrive("10.0.0.2", "-young");
+    Q_EMIT control<QLabel>("clearedBand").linkActivated(QStringLiteral("undo"));
+    EXPECT_EQ(outtext().toPlainText(), before + QStringLiteral("Ann> young\n"));
+}
+
+TEST_F(FrmPrivate, AfterTenSecondsWhatWasClearedIsGone)
+{
+    windows.arrive("10.0.0.2", "-old");
+    control<QToolButton>("clearbtn").click();
+    auto *const end = form().findChild<QTimer *>(QStringLiteral("clearedForGood"));
+    EXPECT_TRUE(end->isActive());
+    end->start(0);
+    QTRY_VERIFY(!control<QLabel>("clearedBand").isVisible());
+    const QString now = outtext().toPlainText();
+    Q_EMIT control<QLabel>("clearedBand").linkActivated(QStringLiteral("undo"));
+    EXPECT_EQ(outtext().toPlainText(), now);
 }
 
 TEST_F(FrmPrivate, SendingShowsTheEndOfTheLog)

@@ -59,7 +59,7 @@ private:
         constexpr std::pair<const char *, const char *> entries[] = {
             {"frmNetworkscan", "mnuNetworkscan"},  {"frmAddUser", "mnuAddUser"},      {"frmOptions", "mnuToolsOptions"},
             {"frmAbout", "mnuHelpAbout"},          {"frmInvite", "mnuinviteuser"},    {"frmTipOfTheDay", "mnuTOTD"},
-            {"frmSendContact", "mnusendcontacts"}, {"frmDoctor", "mnuNetworkDoctor"},
+            {"frmSendContact", "mnusendcontacts"}, {"frmDoctor", "mnuNetworkDoctor"}, {"frmShortcuts", "mnuShortcuts"},
         };
         for (const auto &[name, entry] : entries) {
             if (window == QLatin1String(name))
@@ -134,7 +134,7 @@ TEST_P(Keyboard, EveryControlHasANameForThoseWhoDoNotSeeIt)
 INSTANTIATE_TEST_SUITE_P(Windows, Keyboard,
                          testing::Values("frmMain", "frmLogin", "frmPrivate", "frmConference", "frmConfInvitations",
                                          "frmOptions", "font_dialog", "frmNetworkscan", "frmAddUser", "frmInvite",
-                                         "frmAbout", "frmTipOfTheDay", "frmSendContact"),
+                                         "frmAbout", "frmTipOfTheDay", "frmSendContact", "frmShortcuts"),
                          [](const auto &window) { return std::string(window.param); });
 
 TEST(KeyboardOfMenus, NoTwoEntriesOfAMenuShareAnAccessKey)

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 
+#include <set>
+
 namespace nimb::test
 {
 namespace
@@ -71,11 +73,26 @@ TEST_F(MainMenusTest, TheMenuBarHasEveryEntryInItsPlace)
     EXPECT_THAT(entriesOf(menu("mnuHelp")),
                 ElementsAre("mnuHelpContents: &Contents", "mnuHelpSearchForHelpOn: &Search For Help On...",
                             "mnuTOTD: &Tip of the day...", "mnuNetworkDoctor: &Network doctor...",
-                            "mnuHelpAbout: &About"));
+                            "mnuShortcuts: &Keyboard shortcuts...", "mnuHelpAbout: &About"));
     for (const char *name : {"mnuFile", "mnuUsers", "mnuConference", "mnuTools", "mnuHelp"}) {
         for (const QAction *const action : menu(name).actions())
-            EXPECT_EQ(action->isEnabled(), action->isVisible()) << action->objectName().toStdString();
+            EXPECT_TRUE(action->isVisible() || !action->isEnabled()) << action->objectName().toStdString();
     }
+}
+
+TEST_F(MainMenusTest, EntriesWithoutActionAreGrey)
+{
+    std::set<std::string> grey;
+    for (const char *name : {"mnuFile", "mnuUsers", "mnuConference", "mnuTools", "mnuHelp"}) {
+        for (const QAction *const action : menu(name).actions()) {
+            if (!action->isSeparator() && action->isVisible() && !action->isEnabled())
+                grey.insert(action->objectName().toStdString());
+        }
+    }
+    EXPECT_THAT(grey,
+                testing::UnorderedElementsAre(
+                    "mnuFileNew", "mnuFileClose", "mnuFileSave", "mnuFileSaveAs", "mnuFileSaveAll", "mnuFileProperties",
+                    "mnuFilePrintPreview", "mnuFilePrint", "mnuFileSend", "mnuHelpContents", "mnuHelpSearchForHelpOn"));
 }
 
 TEST_F(MainMenusTest, RecentFilesAreThereWithoutAnyToShow)
@@ -234,9 +251,9 @@ QDialog *shown(const char *name)
 TEST_F(MainMenusTest, EveryDialogOpensFromItsEntryAndTheProgramGoesOn)
 {
     constexpr std::pair<const char *, const char *> dialogs[]
-        = {{"mnuNetworkscan", "frmNetworkscan"},  {"mnuAddUser", "frmAddUser"},     {"mnuToolsOptions", "frmOptions"},
-           {"mnuHelpAbout", "frmAbout"},          {"mnuTOTD", "frmTipOfTheDay"},    {"mnuinviteuser", "frmInvite"},
-           {"mnusendcontacts", "frmSendContact"}, {"mnuNetworkDoctor", "frmDoctor"}};
+        = {{"mnuNetworkscan", "frmNetworkscan"},  {"mnuAddUser", "frmAddUser"},      {"mnuToolsOptions", "frmOptions"},
+           {"mnuHelpAbout", "frmAbout"},          {"mnuTOTD", "frmTipOfTheDay"},     {"mnuinviteuser", "frmInvite"},
+           {"mnusendcontacts", "frmSendContact"}, {"mnuNetworkDoctor", "frmDoctor"}, {"mnuShortcuts", "frmShortcuts"}};
     windows.click(0);
     for (const auto &[entry, name] : dialogs) {
         EXPECT_FALSE(shown(name)) << name;

@@ -2,6 +2,7 @@
 
 #include "base/limits.h"
 #include "log/RTFSubClass.h"
+#include "log/emoticon_face.h"
 #include "log/emoticons.h"
 #include "log/log_pictures.h"
 #include "log/metafile.h"
@@ -16,12 +17,15 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMenu>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBlock>
+
+#include <set>
 
 namespace nimb
 {
@@ -330,60 +334,103 @@ TEST_F(RichTextLogTest, PartOfALineIsCopiedAsItIs)
     EXPECT_EQ(clipboard(), QStringLiteral("e :) t"));
 }
 
-TEST_F(RichTextLogTest, AScreenReaderReadsTheTextsOfThePictures)
+TEST_F(RichTextLogTest, AScreenReaderReadsTheNamesOfThePictures)
 {
     message("one :) two");
     message("three");
     QAccessibleInterface *const reader = QAccessible::queryAccessibleInterface(&log);
     ASSERT_TRUE(reader && reader->textInterface());
-    EXPECT_EQ(reader->text(QAccessible::Value), QStringLiteral("Ann> one :) two\nAnn> three\n"));
+    EXPECT_EQ(reader->text(QAccessible::Value), QStringLiteral("Ann> one smiling face two\nAnn> three\n"));
     EXPECT_TRUE(reader->state().readOnly);
     QAccessibleTextInterface &text = *reader->textInterface();
     EXPECT_EQ(text.characterCount(), 26);
     int start = 0, end = 0;
-    EXPECT_EQ(text.textAtOffset(3, QAccessible::ParagraphBoundary, &start, &end), QStringLiteral("Ann> one :) two"));
-    EXPECT_EQ(text.textAtOffset(9, QAccessible::CharBoundary, &start, &end), QStringLiteral(":)"));
+    EXPECT_EQ(text.textAtOffset(3, QAccessible::ParagraphBoundary, &start, &end),
+              QStringLiteral("Ann> one smiling face two"));
+    EXPECT_EQ(text.textAtOffset(9, QAccessible::CharBoundary, &start, &end), QStringLiteral("smiling face"));
     EXPECT_EQ(text.textAfterOffset(9, QAccessible::LineBoundary, &start, &end).trimmed(), QStringLiteral("Ann> three"));
     EXPECT_EQ(text.textBeforeOffset(20, QAccessible::LineBoundary, &start, &end).trimmed(),
-              QStringLiteral("Ann> one :) two"));
+              QStringLiteral("Ann> one smiling face two"));
     text.setSelection(0, 5, 10);
     EXPECT_EQ(text.selectionCount(), 1);
     log.copy();
     EXPECT_EQ(clipboard(), QStringLiteral("one :)"));
     const QRect picture = text.characterRect(9);
-    EXPECT_EQ(picture.width(), 12);
+    EXPECT_EQ(picture.width(), log.fontMetrics().height());
     EXPECT_EQ(text.offsetAtPoint(picture.center() - QPoint(2, 0)), 9);
 }
 
-TEST_F(RichTextLogTest, PicturesAreSharpAtEveryScale)
+TEST_F(RichTextLogTest, AScreenReaderHearsANewMessageOnce)
 {
-    const QImage face = imageOf(*decodePictureFragment(emoticonFragment(3)));
-    EXPECT_EQ(face.size(), QSize(12, 12));
-    EXPECT_EQ(qAlpha(face.pixel(0, 0)), 0) << "the ground shows through";
-    struct Scale {
-        qreal ratio, zoom;
-        int devicePixels;
-    };
-    for (const Scale &scale : {Scale{1, 1, 12}, Scale{1.5, 1, 24}, Scale{2, 1, 24}, Scale{1, 2, 24}, Scale{3, 1, 36}}) {
-        LogPictures pictures([&] { return scale.ratio * scale.zoom; }, [&] { return scale.ratio; }, nullptr);
+    log.setLinkDetection(true);
+    message("before");
+    log.writeGathered();
+    const QSignalSpy told(&log, &RichTextLogEdit::toldReaders);
+    message("nobody listens");
+    log.writeGathered();
+    EXPECT_EQ(told.count(), 0);
+    QAccessible::setActive(true);
+    log.markNew();
+    log.setSelMessage(LogMessage{.writer = QStringLiteral("Ann"), .time = QDateTime({2026, 11, 21}, {9, 5})});
+    message("look :) at http://example.org");
+    log.setSelMessage({});
+    log.writeGathered();
+    QCoreApplication::processEvents();
+    log.unmarkNew();
+    log.resize(500, 300);
+    QAccessible::setActive(false);
+    ASSERT_EQ(told.count(), 1);
+    EXPECT_EQ(told[0][0].toString(), QStringLiteral("Ann> look smiling face at http://example.org\n"));
+}
+
+TEST_F(RichTextLogTest, FacesAreDrawnForEveryScaleAtTheHeightOfTheLetters)
+{
+    for (const LogPictures::Scale &scale : {LogPictures::Scale{1, 1, 15}, LogPictures::Scale{1.5, 1, 15},
+                                            LogPictures::Scale{2, 1.5, 22}, LogPictures::Scale{1, 1, 40}}) {
+        LogPictures pictures([&] { return scale; }, nullptr);
         const std::optional<QTextImageFormat> format = pictures.format(emoticonFragment(3), QStringLiteral(":)"));
         ASSERT_TRUE(format);
+        EXPECT_EQ(faceOf(*format), 3U);
         const QSizeF size = pictures.intrinsicSize(nullptr, 0, *format);
-        EXPECT_EQ(size * scale.ratio, QSizeF(scale.devicePixels, scale.devicePixels));
-        QImage screen(60, 60, QImage::Format_ARGB32);
+        const int side = qRound(scale.letterHeight * scale.deviceRatio);
+        EXPECT_EQ(size * scale.deviceRatio, QSizeF(side, side));
+        QImage screen(100, 100, QImage::Format_ARGB32_Premultiplied);
         screen.fill(Qt::transparent);
-        screen.setDevicePixelRatio(scale.ratio);
-        QPainter painter(&screen);
-        pictures.drawObject(&painter, QRectF(QPointF(6.3, 3.4), size), nullptr, 0, *format);
-        painter.end();
-        const QPoint corner(qRound(6.3 * scale.ratio), qRound(3.4 * scale.ratio));
-        const int factor = scale.devicePixels / 12;
-        for (int y = 0; y < scale.devicePixels; ++y) {
-            for (int x = 0; x < scale.devicePixels; ++x)
-                ASSERT_EQ(screen.pixel(corner + QPoint(x, y)), face.pixel(x / factor, y / factor))
-                    << "ratio " << scale.ratio << " at " << x << ',' << y;
-        }
+        QImage wanted = screen;
+        screen.setDevicePixelRatio(scale.deviceRatio);
+        QPainter onScreen(&screen);
+        pictures.drawObject(&onScreen, QRectF(QPointF(6, 4), size), nullptr, 0, *format);
+        onScreen.end();
+        screen.setDevicePixelRatio(1);
+        QImage face(side, side, QImage::Format_ARGB32_Premultiplied);
+        face.fill(Qt::transparent);
+        QPainter onFace(&face);
+        paintFace(onFace, QRectF(face.rect()), 3);
+        onFace.end();
+        QPainter(&wanted).drawImage(QPointF(6, 4) * scale.deviceRatio, face);
+        EXPECT_EQ(screen, wanted) << "drawn for this size, not enlarged: " << side;
+        EXPECT_NE(qAlpha(screen.pixel(qRound(6 * scale.deviceRatio) + side / 2, qRound(4 * scale.deviceRatio) + 2)), 0);
+        EXPECT_EQ(qAlpha(screen.pixel(qRound(6 * scale.deviceRatio), qRound(4 * scale.deviceRatio))), 0)
+            << "the ground shows through";
     }
+}
+
+TEST_F(RichTextLogTest, NineFacesDifferAndHaveNames)
+{
+    std::vector<QImage> drawn;
+    std::set<QString> names;
+    for (std::size_t face = 1; face <= 9; ++face) {
+        QImage image(24, 24, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        paintFace(painter, QRectF(image.rect()), face);
+        painter.end();
+        EXPECT_EQ(std::ranges::count(drawn, image), 0) << face;
+        drawn.push_back(image);
+        names.insert(faceName(face));
+    }
+    EXPECT_EQ(names.size(), 9U);
+    EXPECT_EQ(names.count(QString()), 0U);
 }
 
 TEST_F(RichTextLogTest, AFloodOfPicturesIsDrawnFromNineImages)
@@ -590,7 +637,9 @@ TEST_F(RichTextLogTest, TheMenuCopiesSelectsAndZooms)
         if (!action->isSeparator())
             captions.push_back(action->text().section(u'\t', 0, 0).remove(u'&').toStdString());
     }
-    EXPECT_THAT(captions, ElementsAre("Copy", "Copy Link Address", "Select All", "Zoom In", "Zoom Out", "Normal Size"));
+    EXPECT_THAT(captions,
+                ElementsAre("Copy", "Copy Link Address", "Select All", "Find...", "Save Conversation As...", "Print...",
+                            "Zoom In", "Zoom Out", "Normal Size"));
     EXPECT_FALSE(menu->actions().at(0)->isEnabled()) << "nothing is selected";
     menu->actions().at(1)->trigger();
     EXPECT_EQ(clipboard(), QStringLiteral("http://example.org/x"));
@@ -642,9 +691,10 @@ TEST_F(RichTextLogTest, PicturesGrowWithTheLetters)
         cursor.movePosition(QTextCursor::NextCharacter);
         return log.cursorRect(cursor).left() - left;
     };
-    EXPECT_EQ(pictureWidth(), 12);
+    EXPECT_EQ(pictureWidth(), log.fontMetrics().height());
     log.zoom(10);
-    EXPECT_EQ(pictureWidth(), 24);
+    EXPECT_EQ(log.font().pointSizeF(), 20);
+    EXPECT_EQ(pictureWidth(), log.fontMetrics().height());
 }
 
 TEST_F(RichTextLogTest, FollowsABurstThatBringsTheScrollBar)
@@ -725,6 +775,19 @@ TEST_F(LinkHooks, AHookedLogOpensWhatIsPressed)
     window.fill();
     window.press();
     EXPECT_THAT(links.opened, ElementsAre("http://example.org"));
+}
+
+TEST_F(LinkHooks, ALinkThatNothingOpensSaysSo)
+{
+    Window window;
+    hooks.HookRichText(window.log, window.parent);
+    window.fill();
+    links.hasHandler = false;
+    window.press();
+    const auto *const box = window.parent.findChild<QMessageBox *>();
+    ASSERT_TRUE(box);
+    EXPECT_EQ(box->text(), QStringLiteral("Nothing on this computer opens http://example.org."));
+    EXPECT_TRUE(box->isVisible());
 }
 
 TEST_F(LinkHooks, ClosingOneWindowDoesNotDisturbTheOthers)

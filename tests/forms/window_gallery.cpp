@@ -353,6 +353,7 @@ void takeDialogs(Gallery &gallery)
         {"mnuNetworkscan", "frmNetworkscan", "network_scan"},
         {"mnuAddUser", "frmAddUser", "add_user"},
         {"mnuHelpAbout", "frmAbout", "about"},
+        {"mnuShortcuts", "frmShortcuts", "shortcuts"},
         {"mnuTOTD", "frmTipOfTheDay", "tip_of_the_day"},
         {"mnuinviteuser", "frmInvite", "invite"},
         {"mnusendcontacts", "frmSendContact", "send_contacts"},

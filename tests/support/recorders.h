@@ -119,6 +119,7 @@ public:
     void setRescanEnabled(bool enabled) override { rescanEnabled = enabled; }
     void refreshContextMenu() override { ++menuRefreshes; }
     void addOwnState(const OwnStateEntry &entry) override { ownStates.push_back(entry); }
+    void removeOwnState(int position) override { ownStates.erase(ownStates.begin() + position - 1); }
     void selectOwnState(int position) override { selectedState = position; }
     void setStatusPanel(const QString &text) override { statusPanel = text; }
     void setRescanToolTip(const QString &text) override { rescanToolTip = text; }
@@ -162,6 +163,7 @@ public:
     void setLogFont(const LogFont &logFont) override { font = logFont; }
     void setLastMessage(const QString &text) override { lastMessage = text; }
     QString typedText() const override { return typed; }
+    void setDraft(const QString &text) override { typed = text; }
     void setInputEnabled(bool enabled) override { inputEnabled = enabled; }
     void focusInput() override { ++inputFocused; }
     Colour windowTextColour() const override { return 0x123456; }
@@ -392,9 +394,14 @@ public:
 class RecorderLinks : public LinkOpener
 {
 public:
-    void open(const QUrl &address) override { opened.push_back(address.toEncoded().toStdString()); }
+    bool open(const QUrl &address) override
+    {
+        opened.push_back(address.toEncoded().toStdString());
+        return hasHandler;
+    }
 
     std::vector<std::string> opened;
+    bool hasHandler = true;
 };
 
 /// Answers questions as told and keeps what was said.

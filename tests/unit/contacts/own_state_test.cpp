@@ -42,6 +42,37 @@ TEST_F(OwnStateTest, BusyIsToldToPresentContactsOnly)
     EXPECT_EQ(copy.view.statusPanel, QStringLiteral("Status: BUSY"));
 }
 
+TEST_F(OwnStateTest, APersonalizedStateCanBeRemoved)
+{
+    OwnState &state = copy.engine.ownState();
+    for (const char *text : {"Lunch", "Meeting", "Home"})
+        EXPECT_TRUE(state.addPersonalized(BaseState::away, QString::fromLatin1(text)));
+    choose(firstPersonalized + 1);
+    copy.sent();
+    state.removePersonalized(firstPersonalized);
+    EXPECT_EQ(state.storedValues(), QStringList({"5Meeting", "5Home"}));
+    EXPECT_EQ(state.entries()[firstPersonalized - 1].key, QStringLiteral("Personalized1"));
+    EXPECT_EQ(state.entries()[firstPersonalized].key, QStringLiteral("Personalized2"));
+    EXPECT_EQ(copy.view.ownStates.size(), 7U);
+    EXPECT_EQ(copy.view.selectedState, firstPersonalized) << "the state stays what it was";
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    state.removePersonalized(online);
+    state.removePersonalized(addPersonalized);
+    state.removePersonalized(99);
+    EXPECT_EQ(copy.view.ownStates.size(), 7U);
+}
+
+TEST_F(OwnStateTest, WhoIsInARemovedStateIsInItsBaseState)
+{
+    OwnState &state = copy.engine.ownState();
+    EXPECT_TRUE(state.addPersonalized(BaseState::away, QStringLiteral("Lunch")));
+    copy.sent();
+    state.removePersonalized(firstPersonalized);
+    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "!STATUS AWAY"}, To{"10.0.0.3", "!STATUS AWAY"}));
+    EXPECT_EQ(copy.view.selectedState, away);
+    EXPECT_TRUE(copy.view.autoReply);
+}
+
 TEST_F(OwnStateTest, ContactsNotYetKnownAreNotTold)
 {
     copy.announce();

@@ -396,6 +396,22 @@ TEST(LinkFinder, AMailLinkIsOnePlainAddress)
     EXPECT_THAT(findLinks(QStringLiteral("mailto:") + repeated("a", 65) + QStringLiteral("@x.org")), IsEmpty());
 }
 
+TEST(LinkFinder, ABareMailAddressIsALinkWhereAWordBegins)
+{
+    EXPECT_THAT(opened(u"ann@x.org (Ben.K+lan@mail.x.org), <cleo_d@m\u00FCnchen.de>; dora@x.org!"),
+                ElementsAre("mailto:ann@x.org", "mailto:Ben.K+lan@mail.x.org", "mailto:cleo_d@xn--mnchen-3ya.de",
+                            "mailto:dora@x.org"));
+    EXPECT_THAT(texts(u"Write to ann@x.org. Or not?"), ElementsAre("ann@x.org"));
+}
+
+TEST(LinkFinder, WhatOnlyLooksLikeABareMailAddressIsNoLink)
+{
+    EXPECT_THAT(texts(u"@ann ann@ ann@pc @x.org .a@x.org a.@x.org a..b@x.org ann@1.2.3.4 ann@[::1]"), IsEmpty());
+    EXPECT_THAT(texts(u"\u00E4nn@x.org a:b@x.org a/b@x.org 'a'@x.org a%40b@x.org =a@x.org a@b.c@d.e"), IsEmpty());
+    EXPECT_THAT(texts(u"a@x_y.org a@x.org:25 a@x.org/b"), IsEmpty());
+    EXPECT_THAT(findLinks(repeated("a", 65) + QStringLiteral("@x.org")), IsEmpty());
+}
+
 TEST(LinkFinder, MailToSeveralIsNoLink)
 {
     EXPECT_THAT(texts(u"mailto:a@b.org,c@d.org mailto:a@b.org;c@d.org mailto:a@b@c mailto:a@b.org,mailto:c@d.org"),
@@ -569,7 +585,7 @@ TEST(LinkFinder, ManyBeginningsInVainTakeNoQuadraticTime)
 {
     for (const char *text :
          {"http://", "www.", "www..", "www...", "--www.", "mailto:", "mailto:a@", "mailto:a.mailto:b@", "http://a",
-          "http://[::", "@http://", "\xCC\x81http://", "http://x...", "ftp://www.a:"}) {
+          "http://[::", "@http://", "\xCC\x81http://", "http://x...", "ftp://www.a:", "a@", "a ", ",a@b", "a@b.c,"}) {
         for (const Link &link : findLinks(repeated(text, veryLong)))
             EXPECT_TRUE(link.target.isValid()) << text;
     }

@@ -26,8 +26,15 @@ protected:
 
     Copy copy{{.contacts = {{QStringLiteral("10.0.0.2"), QStringLiteral("Ann")}}}};
     RecorderPictureSources sources;
-    OptionValues values{copy.common, copy.engine.ownAvatar(), sources,
-                        *copy.time,  copy.ownAddresses,       [this] { copy.engine.recovery().settingsChanged(); }};
+    OptionValues values{
+        {.common = copy.common,
+         .ownAvatar = copy.engine.ownAvatar(),
+         .ownState = copy.engine.ownState(),
+         .sources = sources,
+         .clock = *copy.time,
+         .ownAddresses = copy.ownAddresses,
+         .changeNickname = [this](const QString &name) { copy.engine.mainWindow().changeNickname(name); },
+         .taken = [this] { copy.engine.recovery().settingsChanged(); }}};
 };
 
 TEST_F(OptionValuesTest, AtFirstTheControlsShowTheDefaults)
@@ -61,6 +68,47 @@ TEST_F(OptionValuesTest, WhatIsTakenIsKeptWithinTwoSecondsAndWhatIsRefusedIsNot)
     EXPECT_EQ(copy.settings.read("Options", "NotifyWin", {}), QStringLiteral("0"));
     EXPECT_EQ(copy.settings.read("Settings", "UDPPort", {}), QStringLiteral("6000"));
     EXPECT_EQ(copy.settings.saves, 0);
+}
+
+TEST_F(OptionValuesTest, AnotherNicknameIsKeptAndToldAsAfterALogin)
+{
+    OptionControls controls = values.Form_Load();
+    EXPECT_EQ(controls.nickname, copy.common.ownNickname);
+    copy.sent();
+    EXPECT_EQ(values.CmdOK_Click(controls), std::nullopt);
+    EXPECT_THAT(copy.sent(), testing::IsEmpty()) << "it is the same";
+    controls.nickname = QStringLiteral("Robert");
+    EXPECT_EQ(values.CmdOK_Click(controls), std::nullopt);
+    EXPECT_EQ(copy.view.shownCaption, QStringLiteral("NIMB-Chat 1.2 - Robert"));
+    EXPECT_EQ(readSetting(copy.settings, QLatin1String("MyNickName")), QStringLiteral("Robert"));
+    copy.advance(std::chrono::seconds(2));
+    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "?ONLINE 192.168.1.5 HERE Robert"}));
+    controls.nickname.clear();
+    EXPECT_EQ(values.CmdOK_Click(controls), std::nullopt);
+    EXPECT_EQ(copy.common.ownNickname, copy.common.ownHostName);
+}
+
+TEST_F(OptionValuesTest, WhoIsInvisibleChangesTheNicknameInSilence)
+{
+    copy.engine.ownState().choose(4);
+    copy.sent();
+    OptionControls controls = values.Form_Load();
+    controls.nickname = QStringLiteral("Robert");
+    EXPECT_EQ(values.CmdOK_Click(controls), std::nullopt);
+    copy.advance(std::chrono::seconds(2));
+    EXPECT_THAT(copy.sent(), testing::IsEmpty());
+}
+
+TEST_F(OptionValuesTest, RemovedStatesAreGone)
+{
+    OwnState &state = copy.engine.ownState();
+    for (const char *text : {"Lunch", "Meeting", "Home"})
+        EXPECT_TRUE(state.addPersonalized(BaseState::away, QString::fromLatin1(text)));
+    EXPECT_EQ(values.states(), QStringList({"Away - Lunch", "Away - Meeting", "Away - Home"}));
+    OptionControls controls = values.Form_Load();
+    controls.removedStates = {0, 2};
+    EXPECT_EQ(values.CmdOK_Click(controls), std::nullopt);
+    EXPECT_EQ(values.states(), QStringList("Away - Meeting"));
 }
 
 TEST_F(OptionValuesTest, EveryOptionIsShownAsItIsAndTakenAsItWasChosen)

@@ -51,7 +51,7 @@ TEST(DesktopLinkOpener, HandsWebFileTransferAndMailAddressesToTheDesktop)
     DesktopLinkOpener opener;
     for (const char *const address : {"http://127.0.0.1/x_y", "https://example.org:8443/a?b=c&d#e", "ftp://example.org",
                                       "mailto:ann@example.org", "HTTP://EXAMPLE.ORG/Path"})
-        opener.open(QUrl(QLatin1String(address)));
+        EXPECT_TRUE(opener.open(QUrl(QLatin1String(address))));
     EXPECT_THAT(desktop.taken,
                 ElementsAre("http://127.0.0.1/x_y", "https://example.org:8443/a?b=c&d#e", "ftp://example.org",
                             "mailto:ann@example.org", "http://example.org/Path"));
@@ -65,7 +65,7 @@ TEST_P(RefusedAddress, ReachesNoProgram)
 {
     Desktop desktop;
     DesktopLinkOpener opener;
-    opener.open(QUrl(QString::fromUtf8(GetParam())));
+    EXPECT_FALSE(opener.open(QUrl(QString::fromUtf8(GetParam()))));
     EXPECT_THAT(desktop.taken, IsEmpty());
 }
 

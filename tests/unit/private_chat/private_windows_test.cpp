@@ -43,6 +43,34 @@ TEST_F(PrivateWindowsTest, AMessageMakesAWindowForItsSender)
     EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.3", "?AVATARHEAD"}));
 }
 
+TEST_F(PrivateWindowsTest, ADraftSurvivesItsWindow)
+{
+    copy.common.options.closedWindowsGo = true;
+    open("10.0.0.2");
+    copy.window(1).typed = QStringLiteral("See you at");
+    close(1);
+    open("10.0.0.3");
+    EXPECT_EQ(copy.window(2).typed, QString());
+    open("10.0.0.2");
+    EXPECT_EQ(copy.window(3).typed, QStringLiteral("See you at"));
+    copy.window(3).typed.clear();
+    close(3);
+    open("10.0.0.2");
+    EXPECT_EQ(copy.window(4).typed, QString());
+}
+
+TEST_F(PrivateWindowsTest, ADraftToARemovedContactIsForgotten)
+{
+    copy.common.options.closedWindowsGo = true;
+    open("10.0.0.2");
+    copy.window(1).typed = QStringLiteral("See you at");
+    close(1);
+    copy.engine.contactCommands().mnuRemoveUser(QStringLiteral("10.0.0.2"));
+    copy.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC Ann");
+    open("10.0.0.2");
+    EXPECT_EQ(copy.window(2).typed, QString());
+}
+
 TEST_F(PrivateWindowsTest, WhoIsInvisibleAsksForAnAvatarOnlyWhenTheUserOpensTheWindow)
 {
     copy.engine.ownState().choose(4);
