@@ -7,6 +7,7 @@
 #include "platform/own_identity.h"
 #include "platform/program_files.h"
 #include "protocol/address_text.h"
+#include "widgets/appearance_palette.h"
 
 #include <QApplication>
 #include <QImageReader>
@@ -40,6 +41,7 @@ Program::Program(const Environment &environment)
 int Program::run(const QString &commandLine)
 {
     listenToTheSystem();
+    followDesktop();
     if (SubMain(commandLine, m_common, m_store, *this) != Started::running)
         return 0;
     m_exit.emplace([this] { endWithoutScreen(); });
@@ -59,6 +61,15 @@ void Program::listenToTheSystem()
     // A restored session would start the program with words that it takes for a nickname.
     QObject::connect(qApp, &QGuiApplication::saveStateRequest, &m_instance,
                      [](QSessionManager &session) { session.setRestartHint(QSessionManager::RestartNever); });
+}
+
+void Program::followDesktop()
+{
+    m_appearance.emplace(QDBusConnection::sessionBus());
+    QObject::connect(&*m_appearance, &DesktopAppearance::changed, qApp,
+                     [desktops = QApplication::palette()](const Appearance &appearance) {
+                         QApplication::setPalette(paletteFor(appearance, desktops).value_or(QPalette()));
+                     });
 }
 
 void Program::endSession(QSessionManager &session)

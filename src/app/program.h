@@ -6,6 +6,7 @@
 #include "app/notification_router.h"
 #include "base/window_openers.h"
 #include "main_window/Tray.h"
+#include "platform/desktop_appearance.h"
 #include "platform/environment.h"
 #include "platform/link_opener.h"
 #include "platform/name_resolver.h"
@@ -73,6 +74,7 @@ public:
 
 private:
     void listenToTheSystem();
+    void followDesktop();
     void endSession(QSessionManager &session);
     /// Ends the program without anybody there to answer questions.
     void end(UnloadMode mode);
@@ -106,6 +108,7 @@ private:
     SystemInfo m_systemInfo;
     SystemNetworkDiagnosis m_diagnosis;
     FormOpener m_forms;
+    std::optional<DesktopAppearance> m_appearance;
     std::optional<NotificationRouter> m_notifications;
     std::optional<Login> m_login;
     std::optional<Tray> m_tray;

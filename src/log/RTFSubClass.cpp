@@ -2,7 +2,7 @@
 
 #include "log/link_finder.h"
 #include "log/rich_text_log.h"
-#include "widgets/warning_box.h"
+#include "widgets/message_box.h"
 
 #include <QCoreApplication>
 

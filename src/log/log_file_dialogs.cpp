@@ -3,7 +3,7 @@
 #include "log/rich_text_log.h"
 #include "log/saved_log.h"
 #include "widgets/file_dialogs.h"
-#include "widgets/warning_box.h"
+#include "widgets/message_box.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -84,12 +84,12 @@ void frmOptions::buildControls()
     left->addWidget(makeSounds());
     left->addWidget(makePrivateWindows());
     left->addWidget(makeProgram());
+    left->addWidget(makeFont());
     left->addStretch(1);
     auto *const right = new QVBoxLayout;
     right->setSpacing(groupDistance);
     right->addWidget(makeYou());
     right->addWidget(makeNotices());
-    right->addWidget(makeFont());
     right->addWidget(makeAvatar());
     right->addStretch(1);
     auto *const buttons = new QDialogButtonBox(this);

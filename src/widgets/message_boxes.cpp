@@ -1,5 +1,7 @@
 #include "widgets/message_boxes.h"
 
+#include "widgets/message_box.h"
+
 #include <QApplication>
 
 #include <cstdio>
@@ -7,13 +9,14 @@
 namespace nimb
 {
 
-int MessageBoxes::show(QMessageBox::Icon icon, QMessageBox::StandardButtons buttons, const QString &text,
+int MessageBoxes::show(const QString &picture, QMessageBox::StandardButtons buttons, const QString &text,
                        const QString &title)
 {
     QWidget *const active = QApplication::activeWindow();
     // The window may end while its box is open, and takes the box with it.
-    const QPointer<QMessageBox> box = new QMessageBox(icon, title, {}, buttons, active ? active : m_window.data());
-    box->setTextFormat(Qt::PlainText);
+    const QPointer<QMessageBox> box
+        = new QMessageBox(QMessageBox::NoIcon, title, {}, buttons, active ? active : m_window.data());
+    dress(*box, picture);
     box->setText(text);
     m_open.push_back(box);
     const int answer = box->exec();
@@ -35,14 +38,14 @@ bool MessageBoxes::confirm(const QString &text, const QString &title)
 {
     if (m_unattended)
         return false;
-    return show(QMessageBox::Question, QMessageBox::Ok | QMessageBox::Cancel, text, title) == QMessageBox::Ok;
+    return show(questionPicture, QMessageBox::Ok | QMessageBox::Cancel, text, title) == QMessageBox::Ok;
 }
 
 bool MessageBoxes::ask(const QString &text, const QString &title)
 {
     if (m_unattended)
         return false;
-    return show(QMessageBox::Question, QMessageBox::Yes | QMessageBox::No, text, title) == QMessageBox::Yes;
+    return show(questionPicture, QMessageBox::Yes | QMessageBox::No, text, title) == QMessageBox::Yes;
 }
 
 std::optional<bool> MessageBoxes::decide(const QString &text, const QString &title)
@@ -55,7 +58,7 @@ std::optional<bool> MessageBoxes::decide(const QString &text, const QString &tit
 bool MessageBoxes::tell(const QString &text, const QString &title)
 {
     if (!m_unattended)
-        show(QMessageBox::Warning, QMessageBox::Ok, text, title);
+        show(warningPicture, QMessageBox::Ok, text, title);
     if (!m_unattended)
         return true;
     // Nobody, or whoever is there had its box taken away.

@@ -31,7 +31,7 @@ public:
 
 private:
     /// The box stands over the window in which the user is.
-    int show(QMessageBox::Icon icon, QMessageBox::StandardButtons buttons, const QString &text, const QString &title);
+    int show(const QString &picture, QMessageBox::StandardButtons buttons, const QString &text, const QString &title);
 
     QPointer<QWidget> m_window;
     std::vector<QPointer<QMessageBox>> m_open; ///< the innermost last

@@ -1,0 +1,79 @@
+#include "widgets/appearance_palette.h"
+
+#include "widgets/muted_colour.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QPushButton>
+
+namespace nimb::test
+{
+namespace
+{
+
+using Scheme = Appearance::Scheme;
+
+const QPalette lightDesktop(QColor(0xEF, 0xEF, 0xEF));
+
+QPalette darkDesktop()
+{
+    QPalette palette(QColor(0x35, 0x35, 0x35));
+    palette.setColor(QPalette::Base, QColor(0x23, 0x23, 0x23));
+    return palette;
+}
+
+TEST(AppearancePalette, LeavesTheDesktopsColoursWhereTheyAreWhatItAsksFor)
+{
+    EXPECT_FALSE(paletteFor({}, lightDesktop));
+    EXPECT_FALSE(paletteFor({}, darkDesktop()));
+    EXPECT_FALSE(paletteFor({Scheme::light, false}, lightDesktop));
+    EXPECT_FALSE(paletteFor({Scheme::dark, false}, darkDesktop()));
+}
+
+TEST(AppearancePalette, BringsWhatTheDesktopAsksForAndItsStyleDoesNot)
+{
+    const auto dark = paletteFor({Scheme::dark, false}, lightDesktop);
+    ASSERT_TRUE(dark);
+    EXPECT_TRUE(isDark(dark->color(QPalette::Base)));
+    EXPECT_TRUE(isDark(dark->color(QPalette::Window)));
+    const auto light = paletteFor({Scheme::light, false}, darkDesktop());
+    ASSERT_TRUE(light);
+    EXPECT_FALSE(isDark(light->color(QPalette::Base)));
+}
+
+TEST(AppearancePalette, HighContrastIsBlackAndWhiteOnEitherGround)
+{
+    for (const Scheme scheme : {Scheme::dark, Scheme::light}) {
+        const auto palette = paletteFor({scheme, true}, lightDesktop);
+        ASSERT_TRUE(palette);
+        EXPECT_EQ(contrast(palette->color(QPalette::Text), palette->color(QPalette::Base)), 21);
+        EXPECT_EQ(isDark(palette->color(QPalette::Base)), scheme == Scheme::dark);
+    }
+    EXPECT_TRUE(isDark(paletteFor({Scheme::unsaid, true}, darkDesktop())->color(QPalette::Base)));
+}
+
+TEST(AppearancePalette, EverythingThatIsReadStandsOutFromItsGround)
+{
+    for (const Appearance &appearance : {Appearance{Scheme::dark, false}, Appearance{Scheme::light, false},
+                                         Appearance{Scheme::dark, true}, Appearance{Scheme::light, true}}) {
+        const QPalette desktop = appearance.scheme == Scheme::dark ? lightDesktop : darkDesktop();
+        const QPalette palette = *paletteFor(appearance, desktop);
+        const auto stands = [&palette](QPalette::ColorRole text, QPalette::ColorRole ground, double least) {
+            EXPECT_GE(contrast(palette.color(text), palette.color(ground)), least) << text << " on " << ground;
+        };
+        constexpr double readable = 4.5, visible = 3;
+        stands(QPalette::WindowText, QPalette::Window, readable);
+        stands(QPalette::Text, QPalette::Base, readable);
+        stands(QPalette::Text, QPalette::AlternateBase, readable);
+        stands(QPalette::ButtonText, QPalette::Button, readable);
+        stands(QPalette::ToolTipText, QPalette::ToolTipBase, readable);
+        stands(QPalette::Link, QPalette::Base, readable);
+        stands(QPalette::HighlightedText, QPalette::Highlight, visible);
+        stands(QPalette::PlaceholderText, QPalette::Base, visible);
+        EXPECT_GE(contrast(mutedTextColour(palette), palette.color(QPalette::Base)), readable);
+    }
+}
+
+} // namespace
+} // namespace nimb::test
