@@ -12,11 +12,14 @@ class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QToolButton;
+class QVBoxLayout;
 
 namespace nimb
 {
 
 class Conversation;
+class EmojiPicker;
+class EmojiStock;
 class EmoticonPicker;
 class MessageInput;
 class RTFSubClass;
@@ -31,8 +34,8 @@ public:
     /// The tools behind which a window may have its own.
     enum class Tool { emoticons, dateAndTime };
 
-    /// links: opens what is pressed in the log; outlives the pane.
-    ConversationPane(Conversation &conversation, RTFSubClass &links, QWidget *parent);
+    /// links: opens what is pressed in the log; emoji: those to choose from. Both outlive the pane.
+    ConversationPane(Conversation &conversation, RTFSubClass &links, EmojiStock &emoji, QWidget *parent);
 
     RichTextLogEdit &log() const { return *m_outtext; }
     MessageInput &input() const { return *intext; }
@@ -81,6 +84,10 @@ private:
     void datetimebtn_Click();
     void Emoticbtn_Click(bool shown);
     void ListViewEmot_ItemClick(const QString &emoticon);
+    void showEmoji(bool shown);
+    void makeEmojiPicker();
+    void findEmoji();
+    void insertEmoji(const QString &emoji);
     void outtext_Change();
     void noteWhatIsSeen();
     void showRoomLeft();
@@ -91,9 +98,11 @@ private:
     QString m_lastSent;
     QString m_rest; ///< of what was pasted
     RTFSubClass &m_links;
+    EmojiStock &m_emoji;
 
     RichTextLogEdit *m_outtext = nullptr;
     EmoticonPicker *ListViewEmot = nullptr;
+    EmojiPicker *m_emojiPicker = nullptr; ///< once somebody has opened it
     MessageInput *intext = nullptr;
     QPushButton *sendbtn = nullptr;
     QLabel *messageCounter = nullptr;
@@ -101,6 +110,7 @@ private:
     QToolButton *clearbtn = nullptr;
     QToolButton *datetimebtn = nullptr;
     QToolButton *Emoticbtn = nullptr;
+    QVBoxLayout *m_column = nullptr;
     QHBoxLayout *m_logRow = nullptr;
     QHBoxLayout *m_toolRow = nullptr;
 };
