@@ -1,4 +1,5 @@
 // The emoji beside the emoticons. What is chosen here is what every font of the tests has.
+#include "conversation/emoji_model.h"
 #include "real_windows.h"
 
 #include <QAbstractItemModel>
@@ -144,11 +145,36 @@ TEST_F(EmojiPickerTest, WhatWasUsedLatelyComesFirstInEveryWindow)
     search().clear();
     EXPECT_THAT(rows(4), ElementsAre("Recently used", joy.toStdString(), grinning.toStdString(), "Smileys"));
     EXPECT_EQ(windows.common.recentEmoji, QStringList({joy, grinning}));
+    windows.time.advance(std::chrono::seconds(2));
+    const std::optional<QString> kept
+        = windows.settings.kept[{QStringLiteral("Options"), QStringLiteral("RecentEmoji")}];
+    EXPECT_EQ(kept, std::optional(QStringLiteral("\U0001F602 \U0001F600"))) << "a program that is killed has them too";
 
     QWidget &other = openOther();
     RealWindows::control<QToolButton>(other, "Emoticbtn").click();
     const QAbstractItemModel &model = *RealWindows::control<QListView>(other, "emojiList").model();
     EXPECT_EQ(model.index(1, 0).data().toString(), joy);
+}
+
+TEST_F(EmojiPickerTest, WhatIsStoredAndNoEmojiIsNotOffered)
+{
+    windows.common.recentEmoji = {QStringLiteral("<b>x</b>"), joy};
+    pressButton();
+    EXPECT_THAT(rows(3), ElementsAre("Recently used", joy.toStdString(), "Smileys"));
+}
+
+TEST(EmojiModel, OffersNothingThatCannotBeShown)
+{
+    const EmojiTable table({QStringLiteral("en")});
+    std::vector<bool> offered(table.all().size());
+    offered[table.find(joy).value()] = true;
+    EmojiModel model(table, offered, nullptr);
+    model.showAll({grinning});
+    ASSERT_EQ(model.rowCount(), 2) << "a heading and an emoji, no empty group";
+    EXPECT_EQ(model.index(0).data().toString(), QStringLiteral("Smileys"));
+    EXPECT_EQ(model.index(1).data().toString(), joy);
+    model.showFound(QStringLiteral("face"));
+    EXPECT_EQ(model.rowCount(), 1);
 }
 
 TEST_F(EmojiPickerTest, NothingMovesWhileSomebodyChoosesWithTheMouse)
