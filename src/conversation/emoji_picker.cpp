@@ -209,7 +209,7 @@ QSize EmojiPicker::sizeHint() const
 
 QSize EmojiPicker::minimumSizeHint() const
 {
-    return {m_search->minimumSizeHint().width(), sizeHint().height() - (rowsShown - rowsAtLeast) * emojiCell};
+    return {layout()->minimumSize().width(), sizeHint().height() - (rowsShown - rowsAtLeast) * emojiCell};
 }
 
 // --- what is shown
