@@ -2,6 +2,7 @@
 #pragma once
 
 #include "conference/conference_view.h"
+#include "conversation/emoji_stock.h"
 #include "log/RTFSubClass.h"
 #include "private_chat/private_chat_view.h"
 
@@ -12,13 +13,18 @@ namespace nimb
 class ConversationForms : public PrivateForms, public ConferenceForms
 {
 public:
-    explicit ConversationForms(LinkOpener &links) : m_links(links) { }
+    /// emojiUsed: called when what of common was used lately has changed.
+    ConversationForms(LinkOpener &links, Common &common, std::function<void()> emojiUsed)
+        : m_links(links), m_emoji(common, std::move(emojiUsed))
+    {
+    }
 
     ViewPtr<PrivateChatView> makePrivateForm(PrivateChat &chat) override;
     ViewPtr<ConferenceView> makeConferenceForm(Conference &conference) override;
 
 private:
     RTFSubClass m_links;
+    EmojiStock m_emoji;
 };
 
 } // namespace nimb

@@ -12,7 +12,8 @@ namespace nimb
 {
 
 FormOpener::FormOpener(const FormServices &services)
-    : m_services(services), m_conversations(services.links), m_slide(services.common, services.timers)
+    : m_services(services), m_conversations(services.links, services.common, [this] { emojiUsed(); }),
+      m_slide(services.common, services.timers)
 {
 }
 
@@ -63,6 +64,12 @@ void FormOpener::connectMain(Messenger &engine, std::function<QString()> statusN
                              engine.ownState(), engine.announcement(), engine.log(), m_services.common, *m_dialogs,
                              std::move(statusNotes)},
                             std::move(ended));
+}
+
+void FormOpener::emojiUsed()
+{
+    if (m_engine)
+        m_engine->recovery().settingsChanged();
 }
 
 void FormOpener::runCommand(const QString &name)

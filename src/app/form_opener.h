@@ -58,6 +58,7 @@ public:
 private:
     /// Of the main window's log; one that is not known is ignored.
     void runCommand(const QString &name);
+    void emojiUsed();
 
     FormServices m_services;
     ConversationForms m_conversations;

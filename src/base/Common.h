@@ -6,7 +6,7 @@
 #include "protocol/ipv4_address.h"
 
 #include <QByteArray>
-#include <QString>
+#include <QStringList>
 
 #include <cstdint>
 
@@ -58,6 +58,7 @@ struct Common {
     std::uint16_t udpPort = 5549;
     QString ownCard; ///< the network card whose address is the own one; empty: as the system chooses
     WindowPlace mainPlace;
+    QStringList recentEmoji; ///< used lately, the latest first
 
     bool windowFlashingAvailable = false;
     bool buzzmute = false;

@@ -35,6 +35,10 @@ constexpr int logLinesDropped = 1000;
 constexpr int logCharacters = 4'000'000;
 /// Pictures a log holds: each takes as much memory as a hundred lines of text.
 constexpr int logPictures = 5000;
+/// Emoji that are offered as used lately: two rows of them, and nobody remembers more.
+constexpr qsizetype recentEmoji = 24;
+/// Characters of one stored emoji; the longest of Unicode have 15.
+constexpr qsizetype emojiLength = 40;
 /// Contact rows up to which strangers are added: a subnet of 65,000 forged addresses must not fill the list.
 constexpr int contactsFromStrangers = 10000;
 /// Private windows that peers have opened and that the user has not turned to: two thousand strangers with a message

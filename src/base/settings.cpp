@@ -77,6 +77,14 @@ QString numberText(double value)
     return QString::number(value, 'f', QLocale::FloatingPointShortest);
 }
 
+/// As many as are offered; what is too long is none.
+QStringList emojiOf(const QString &stored)
+{
+    QStringList emoji = stored.split(u' ', Qt::SkipEmptyParts);
+    emoji.removeIf([](const QString &one) { return one.size() > limits::emojiLength; });
+    return emoji.mid(0, limits::recentEmoji);
+}
+
 QString flagText(bool value)
 {
     return value ? QStringLiteral("-1") : QStringLiteral("0");
@@ -130,6 +138,7 @@ LoadedSettings loadSettings(const SettingsStore &store, Common &common)
     common.logFont.face = read.text("StandardFontFace");
     common.logFont.style = read.text("StandardFontStyle");
     common.ownCard = read.text("OwnNetworkCard");
+    common.recentEmoji = emojiOf(read.text("RecentEmoji"));
     for (int n = 1; n <= limits::storedPersonalizedStates; ++n)
         loaded.personalizedStates.append(store.read(
             QLatin1String(settingKey(QLatin1String("PersonalizedState")).section), personalizedStateKey(n), {}));
@@ -156,6 +165,7 @@ void saveSettings(SettingsSink &store, const Common &common, const QStringList &
     write("StandardFontFace", common.logFont.face);
     write("StandardFontStyle", common.logFont.style);
     write("OwnNetworkCard", common.ownCard);
+    write("RecentEmoji", common.recentEmoji.join(u' '));
     // Unused numbers are emptied, or entries of an earlier, longer list would come back.
     for (int n = 1; n <= limits::storedPersonalizedStates; ++n)
         store.write(QLatin1String(settingKey(QLatin1String("PersonalizedState")).section), personalizedStateKey(n),

@@ -3,6 +3,8 @@
 #include "base/limits.h"
 #include "base/line_break.h"
 #include "conversation/conversation.h"
+#include "conversation/emoji_picker.h"
+#include "conversation/emoji_stock.h"
 #include "conversation/emoticon_picker.h"
 #include "conversation/message_input.h"
 #include "log/RTFSubClass.h"
@@ -22,6 +24,8 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 #include <QShortcut>
 #include <QTimer>
@@ -48,8 +52,8 @@ bool isMeantForMessage(const QKeyEvent &event)
 
 } // namespace
 
-ConversationPane::ConversationPane(Conversation &conversation, RTFSubClass &links, QWidget *parent)
-    : QWidget(parent), m_conversation(&conversation), m_links(links)
+ConversationPane::ConversationPane(Conversation &conversation, RTFSubClass &links, EmojiStock &emoji, QWidget *parent)
+    : QWidget(parent), m_conversation(&conversation), m_links(links), m_emoji(emoji)
 {
     buildControls();
     connectControls();
@@ -67,24 +71,26 @@ void ConversationPane::buildControls()
     ListViewEmot->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     ListViewEmot->hide();
 
-    auto *const column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(spacing);
+    m_column = new QVBoxLayout(this);
+    m_column->setContentsMargins(0, 0, 0, 0);
+    m_column->setSpacing(spacing);
     m_logRow = new QHBoxLayout;
     m_logRow->setSpacing(spacing);
     m_logRow->addWidget(m_outtext, 1);
-    column->addLayout(m_logRow, 1);
-    column->addWidget(makeClearedBand());
-    column->addWidget(ListViewEmot);
-    column->addWidget(makeToolRow());
-    column->addWidget(makeCutBand());
-    column->addLayout(makeInput());
+    m_column->addLayout(m_logRow, 1);
+    m_column->addWidget(makeClearedBand());
+    m_column->addWidget(ListViewEmot);
+    m_column->addWidget(makeToolRow());
+    m_column->addWidget(makeCutBand());
+    m_column->addLayout(makeInput());
 }
 
 QWidget *ConversationPane::makeToolRow()
 {
     Emoticbtn = toolButton(this, "Emoticbtn", tr("Emoticons"), "emoticons");
     Emoticbtn->setCheckable(true);
+    if (EmojiTable::isThere())
+        Emoticbtn->setToolTip(tr("Emoticons and emoji (Ctrl+.)"));
     datetimebtn = toolButton(this, "datetimebtn", tr("Date&&Time"), "datetime");
     clearbtn = toolButton(this, "clearbtn", tr("Clear"), "clear");
     m_toolRow = new ToolRow(this);
@@ -150,6 +156,10 @@ void ConversationPane::connectControls()
     connect(close, &QShortcut::activated, this, [this] { window()->close(); });
     connect(clearedBand, &QLabel::linkActivated, this, &ConversationPane::undoClear);
     connect(m_clearedForGood, &QTimer::timeout, this, &ConversationPane::endUndo);
+    if (EmojiTable::isThere()) {
+        auto *const find = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Period), this);
+        connect(find, &QShortcut::activated, this, &ConversationPane::findEmoji);
+    }
     connect(clearbtn, &QToolButton::clicked, this, &ConversationPane::Clearbtn_Click);
     connect(datetimebtn, &QToolButton::clicked, this, &ConversationPane::datetimebtn_Click);
     connect(Emoticbtn, &QToolButton::toggled, this, &ConversationPane::Emoticbtn_Click);
@@ -299,7 +309,53 @@ void ConversationPane::datetimebtn_Click()
 void ConversationPane::Emoticbtn_Click(bool shown)
 {
     ListViewEmot->setVisible(shown);
+    if (EmojiTable::isThere())
+        showEmoji(shown);
     Q_EMIT emoticonsToggled();
+}
+
+void ConversationPane::showEmoji(bool shown)
+{
+    if (!m_emojiPicker && shown)
+        makeEmojiPicker();
+    if (!m_emojiPicker)
+        return;
+    const bool hadFocus = m_emojiPicker->isAncestorOf(window()->focusWidget());
+    m_emojiPicker->setVisible(shown);
+    if (shown && intext->isEnabled())
+        m_emojiPicker->search().setFocus(Qt::OtherFocusReason);
+    else if (hadFocus)
+        focusInput();
+}
+
+void ConversationPane::makeEmojiPicker()
+{
+    m_emojiPicker = new EmojiPicker(m_emoji, this);
+    m_emojiPicker->hide();
+    m_column->insertWidget(m_column->indexOf(ListViewEmot) + 1, m_emojiPicker);
+    setTabOrder(ListViewEmot, &m_emojiPicker->search());
+    setTabOrder(&m_emojiPicker->search(), &m_emojiPicker->list());
+    connect(m_emojiPicker, &EmojiPicker::picked, this, &ConversationPane::insertEmoji);
+    connect(m_emojiPicker, &EmojiPicker::inputWanted, intext, qOverload<>(&QWidget::setFocus));
+}
+
+void ConversationPane::findEmoji()
+{
+    Emoticbtn->setChecked(true);
+    m_emojiPicker->search().setFocus(Qt::ShortcutFocusReason);
+    m_emojiPicker->search().selectAll();
+}
+
+/// At the caret, whole or not at all: half of one is another one, or none.
+void ConversationPane::insertEmoji(const QString &emoji)
+{
+    const QString selected = intext->textCursor().selectedText();
+    const qsizetype breaks = selected.count(QChar::ParagraphSeparator); // two characters each in a message
+    const qsizetype length = typedText().size() - selected.size() - breaks + emoji.size();
+    if (!intext->isEnabled() || length > limits::messageLength)
+        return;
+    intext->insertPlainText(emoji);
+    m_emoji.use(emoji);
 }
 
 void ConversationPane::ListViewEmot_ItemClick(const QString &emoticon)

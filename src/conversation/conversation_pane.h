@@ -15,11 +15,14 @@ class QLabel;
 class QPushButton;
 class QTimer;
 class QToolButton;
+class QVBoxLayout;
 
 namespace nimb
 {
 
 class Conversation;
+class EmojiPicker;
+class EmojiStock;
 class EmoticonPicker;
 class MessageInput;
 class RTFSubClass;
@@ -34,8 +37,8 @@ public:
     /// The tools behind which a window may have its own.
     enum class Tool { emoticons, dateAndTime };
 
-    /// links: opens what is pressed in the log; outlives the pane.
-    ConversationPane(Conversation &conversation, RTFSubClass &links, QWidget *parent);
+    /// links: opens what is pressed in the log; emoji: those to choose from. Both outlive the pane.
+    ConversationPane(Conversation &conversation, RTFSubClass &links, EmojiStock &emoji, QWidget *parent);
 
     RichTextLogEdit &log() const { return *m_outtext; }
     MessageInput &input() const { return *intext; }
@@ -88,6 +91,10 @@ private:
     void datetimebtn_Click();
     void Emoticbtn_Click(bool shown);
     void ListViewEmot_ItemClick(const QString &emoticon);
+    void showEmoji(bool shown);
+    void makeEmojiPicker();
+    void findEmoji();
+    void insertEmoji(const QString &emoji);
     void outtext_Change();
     void noteWhatIsSeen();
     void showRoomLeft();
@@ -100,9 +107,11 @@ private:
     std::optional<RichTextLogEdit::Kept> m_cleared;
     qsizetype m_writtenInstead = 0; ///< characters that clearing has written
     RTFSubClass &m_links;
+    EmojiStock &m_emoji;
 
     RichTextLogEdit *m_outtext = nullptr;
     EmoticonPicker *ListViewEmot = nullptr;
+    EmojiPicker *m_emojiPicker = nullptr; ///< once somebody has opened it
     MessageInput *intext = nullptr;
     QPushButton *sendbtn = nullptr;
     QLabel *messageCounter = nullptr;
@@ -112,6 +121,7 @@ private:
     QToolButton *clearbtn = nullptr;
     QToolButton *datetimebtn = nullptr;
     QToolButton *Emoticbtn = nullptr;
+    QVBoxLayout *m_column = nullptr;
     QHBoxLayout *m_logRow = nullptr;
     ToolRow *m_toolRow = nullptr;
 };

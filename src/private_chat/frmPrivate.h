@@ -17,6 +17,7 @@ namespace nimb
 
 class AvatarPicture;
 class ConversationPane;
+class EmojiStock;
 class MoodGauge;
 class PeerHeader;
 class RTFSubClass;
@@ -27,7 +28,7 @@ class frmPrivate : public QWidget, public PrivateChatView
 
 public:
     /// links: opens what is pressed in the log; outlives the window.
-    frmPrivate(PrivateChat &chat, RTFSubClass &links);
+    frmPrivate(PrivateChat &chat, RTFSubClass &links, EmojiStock &emoji);
 
     ConversationView &conversation() override;
     void setPeerAddress(const QString &ip) override;

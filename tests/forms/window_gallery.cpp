@@ -258,6 +258,28 @@ void takePrivate(Gallery &gallery)
     gallery.take(form, "private_zoomed");
 }
 
+void takeEmoji(Gallery &gallery)
+{
+    RealWindows windows(everybody);
+    fill(windows);
+    windows.common.recentEmoji = {QStringLiteral("\U0001F389"), QStringLiteral("\u2764\uFE0F"),
+                                  QStringLiteral("\U0001F44D"), QStringLiteral("\U0001F602")};
+    windows.doubleClick(0);
+    QWidget &form = windows.privateWindow();
+    windows.arrive("192.168.1.12", "-Hello! Did you see the new plan?");
+    EXPECT_TRUE(windows.engine.privateWindows().at(1)->send(QStringLiteral("It is great \U0001F389\U0001F44D")));
+    windows.arrive("192.168.1.12", "-I knew it \xF0\x9F\x98\x82 :)");
+    RealWindows::control<QPlainTextEdit>(form, "intext").setPlainText(QStringLiteral("See you at \u2764\uFE0F"));
+    RealWindows::control<QToolButton>(form, "Emoticbtn").click();
+    gallery.take(form, "private_emoji");
+    if (auto *const search = form.findChild<QLineEdit *>(QStringLiteral("emojiSearch"))) {
+        search->setText(QStringLiteral("party"));
+        gallery.take(form, "private_emoji_found");
+        search->setText(QStringLiteral("xyzzy"));
+        gallery.take(form, "private_emoji_not_found");
+    }
+}
+
 void takePrivatePanels(Gallery &gallery)
 {
     RealWindows windows(everybody);
@@ -500,6 +522,7 @@ int main(int argc, char *argv[])
     nimb::test::takeMainWhileFinding(gallery);
     nimb::test::takeMainWithThousand(gallery);
     nimb::test::takePrivate(gallery);
+    nimb::test::takeEmoji(gallery);
     nimb::test::takePrivatePanels(gallery);
     nimb::test::takeConference(gallery);
     nimb::test::takeNotify(gallery);

@@ -111,6 +111,7 @@ void checkLoaded(Copy &copy)
     require(std::isfinite(common.mainPlace.left) && std::isfinite(common.mainPlace.top)
                 && std::isfinite(common.mainPlace.height),
             "a place is somewhere");
+    require(common.recentEmoji.size() <= limits::recentEmoji, "no more emoji are remembered than are offered");
     require(common.avatarBody.isEmpty() || common.avatarBody.size() == avatarBytes, "a picture is whole or none");
     require(copy.invitationsView.autorefuseMins >= -32768 && copy.invitationsView.autorefuseMins <= 32767,
             "minutes fit 16 bits");

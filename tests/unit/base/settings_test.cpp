@@ -75,27 +75,45 @@ TEST(Settings, EveryKeyIsThereOnceInItsSection)
     EXPECT_THAT(options,
                 ElementsAre("ShowStatusOnPrivate", "BuzzLocal", "BuzzRemote", "PrivateBehaviour", "DontDestroyWindow",
                             "NotifyWin", "LiveType", "CloseButtonDoesMinimize", "NotifyMessages", "NotifyMessageText",
-                            "SoundMessage", "SoundOnline", "SoundInvitation", "TipOTDay", "TipOTDayNum"));
-    EXPECT_EQ(keys.size(), 33u);
+                            "SoundMessage", "SoundOnline", "SoundInvitation", "RecentEmoji", "TipOTDay",
+                            "TipOTDayNum"));
+    EXPECT_EQ(keys.size(), 34u);
 }
 
 TEST(Settings, SavingKeepsItsOrder)
 {
     MemoryStore store;
     saveSettings(store, Common(), {});
-    EXPECT_THAT(store.order,
-                ElementsAre("Settings/UDPPort", "Options/ShowStatusOnPrivate", "Options/BuzzLocal",
-                            "Options/BuzzRemote", "Options/PrivateBehaviour", "Options/DontDestroyWindow",
-                            "Options/NotifyWin", "Options/LiveType", "Options/CloseButtonDoesMinimize",
-                            "Options/NotifyMessages", "Options/NotifyMessageText", "Options/SoundMessage",
-                            "Options/SoundOnline", "Options/SoundInvitation", "Settings/MainLeft", "Settings/MainTop",
-                            "Settings/MainHeight", "Settings/AvatarHead", "Settings/AvatarBody",
-                            "Settings/AutoReplyonBusyActive", "Settings/AutoReplyonAwayActive",
-                            "Settings/AutoReplyonBusyText", "Settings/AutoReplyonawayText", "Settings/StandardFontSize",
-                            "Settings/StandardFontFace", "Settings/StandardFontStyle", "Settings/OwnNetworkCard",
-                            "Settings/PersonalizedState1", "Settings/PersonalizedState2", "Settings/PersonalizedState3",
-                            "Settings/PersonalizedState4", "Settings/PersonalizedState5", "Settings/PersonalizedState6",
-                            "Settings/PersonalizedState7", "Settings/PersonalizedState8"));
+    EXPECT_THAT(
+        store.order,
+        ElementsAre("Settings/UDPPort", "Options/ShowStatusOnPrivate", "Options/BuzzLocal", "Options/BuzzRemote",
+                    "Options/PrivateBehaviour", "Options/DontDestroyWindow", "Options/NotifyWin", "Options/LiveType",
+                    "Options/CloseButtonDoesMinimize", "Options/NotifyMessages", "Options/NotifyMessageText",
+                    "Options/SoundMessage", "Options/SoundOnline", "Options/SoundInvitation", "Settings/MainLeft",
+                    "Settings/MainTop", "Settings/MainHeight", "Settings/AvatarHead", "Settings/AvatarBody",
+                    "Settings/AutoReplyonBusyActive", "Settings/AutoReplyonAwayActive", "Settings/AutoReplyonBusyText",
+                    "Settings/AutoReplyonawayText", "Settings/StandardFontSize", "Settings/StandardFontFace",
+                    "Settings/StandardFontStyle", "Settings/OwnNetworkCard", "Options/RecentEmoji",
+                    "Settings/PersonalizedState1", "Settings/PersonalizedState2", "Settings/PersonalizedState3",
+                    "Settings/PersonalizedState4", "Settings/PersonalizedState5", "Settings/PersonalizedState6",
+                    "Settings/PersonalizedState7", "Settings/PersonalizedState8"));
+}
+
+TEST(Settings, RecentEmojiAreStoredWithBlanksBetweenAndReadNoLongerThanTheyAre)
+{
+    Common common;
+    common.recentEmoji = {QStringLiteral("😀"), QStringLiteral("❤️")};
+    MemoryStore store;
+    saveSettings(store, common, {});
+    store.save();
+    EXPECT_EQ(store.value("Options", "RecentEmoji"), "😀 ❤️");
+    Common next;
+    loadSettings(store, next);
+    EXPECT_EQ(next.recentEmoji, common.recentEmoji);
+    store.put("Options", "RecentEmoji", QString(41, u'x') + QStringLiteral("  😀 ") + QStringLiteral("👍 ").repeated(30));
+    loadSettings(store, next);
+    EXPECT_EQ(next.recentEmoji.size(), 24);
+    EXPECT_EQ(next.recentEmoji.front(), QStringLiteral("😀"));
 }
 
 TEST(Settings, ATrueFlagIsStoredAsMinusOneAndReadAsActive)
