@@ -8,12 +8,12 @@ namespace nimb
 
 ViewPtr<PrivateChatView> ConversationForms::makePrivateForm(PrivateChat &chat)
 {
-    return ViewPtr<PrivateChatView>(new frmPrivate(chat, m_links));
+    return ViewPtr<PrivateChatView>(new frmPrivate(chat, m_links, m_spelling));
 }
 
 ViewPtr<ConferenceView> ConversationForms::makeConferenceForm(Conference &conference)
 {
-    return ViewPtr<ConferenceView>(new frmConference(conference, m_links));
+    return ViewPtr<ConferenceView>(new frmConference(conference, m_links, m_spelling));
 }
 
 } // namespace nimb

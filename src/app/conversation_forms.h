@@ -2,6 +2,7 @@
 #pragma once
 
 #include "conference/conference_view.h"
+#include "conversation/spelling.h"
 #include "log/RTFSubClass.h"
 #include "private_chat/private_chat_view.h"
 
@@ -12,13 +13,14 @@ namespace nimb
 class ConversationForms : public PrivateForms, public ConferenceForms
 {
 public:
-    explicit ConversationForms(LinkOpener &links) : m_links(links) { }
+    ConversationForms(LinkOpener &links, Spelling &spelling) : m_links(links), m_spelling(spelling) { }
 
     ViewPtr<PrivateChatView> makePrivateForm(PrivateChat &chat) override;
     ViewPtr<ConferenceView> makeConferenceForm(Conference &conference) override;
 
 private:
     RTFSubClass m_links;
+    Spelling &m_spelling;
 };
 
 } // namespace nimb

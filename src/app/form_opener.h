@@ -60,6 +60,7 @@ private:
     void runCommand(const QString &name);
 
     FormServices m_services;
+    Spelling m_spelling;
     ConversationForms m_conversations;
     NotifySlide m_slide;
     std::unique_ptr<frmNotify> m_notify;

@@ -7,6 +7,7 @@
 #include "base/window_openers.h"
 #include "main_window/Tray.h"
 #include "platform/environment.h"
+#include "platform/hunspell_spelling.h"
 #include "platform/link_opener.h"
 #include "platform/name_resolver.h"
 #include "platform/net_send_runner.h"
@@ -105,6 +106,7 @@ private:
     NetSendRunner m_netSend;
     SystemInfo m_systemInfo;
     SystemNetworkDiagnosis m_diagnosis;
+    HunspellSpelling m_spellChecker;
     FormOpener m_forms;
     std::optional<NotificationRouter> m_notifications;
     std::optional<Login> m_login;

@@ -49,8 +49,8 @@ QToolButton *flipButton(QWidget *parent, const char *name, const QString &captio
 
 } // namespace
 
-frmConference::frmConference(Conference &conference, RTFSubClass &links)
-    : m_conference(&conference), m_pane(new ConversationPane(conference, links, this))
+frmConference::frmConference(Conference &conference, RTFSubClass &links, Spelling &spelling)
+    : m_conference(&conference), m_pane(new ConversationPane(conference, links, spelling, this))
 {
     setObjectName(QStringLiteral("frmConference"));
     setWindowIcon(programIcon());

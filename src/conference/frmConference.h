@@ -18,6 +18,7 @@ namespace nimb
 class AvatarPicture;
 class ConversationPane;
 class RTFSubClass;
+class Spelling;
 
 class frmConference : public QWidget, public ConferenceView
 {
@@ -25,7 +26,7 @@ class frmConference : public QWidget, public ConferenceView
 
 public:
     /// links: opens what is pressed in the log; outlives the window.
-    frmConference(Conference &conference, RTFSubClass &links);
+    frmConference(Conference &conference, RTFSubClass &links, Spelling &spelling);
 
     ConversationView &conversation() override;
     void showAvatar(const QString &name, const std::optional<QByteArray> &picture) override;

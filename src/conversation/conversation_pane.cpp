@@ -45,12 +45,13 @@ bool isMeantForMessage(const QKeyEvent &event)
 
 } // namespace
 
-ConversationPane::ConversationPane(Conversation &conversation, RTFSubClass &links, QWidget *parent)
+ConversationPane::ConversationPane(Conversation &conversation, RTFSubClass &links, Spelling &spelling, QWidget *parent)
     : QWidget(parent), m_conversation(&conversation), m_links(links)
 {
     buildControls();
     connectControls();
     m_links.HookRichText(*m_outtext, *this);
+    intext->setSpelling(spelling);
     intext->setFocus();
 }
 

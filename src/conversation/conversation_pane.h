@@ -21,6 +21,7 @@ class EmoticonPicker;
 class MessageInput;
 class RTFSubClass;
 class RichTextLogEdit;
+class Spelling;
 
 /// What a window has beside it, it makes itself and puts between the parts of the pane or around it.
 class ConversationPane : public QWidget, public ConversationView
@@ -31,8 +32,8 @@ public:
     /// The tools behind which a window may have its own.
     enum class Tool { emoticons, dateAndTime };
 
-    /// links: opens what is pressed in the log; outlives the pane.
-    ConversationPane(Conversation &conversation, RTFSubClass &links, QWidget *parent);
+    /// links: opens what is pressed in the log; spelling: checks what is typed. Both outlive the pane.
+    ConversationPane(Conversation &conversation, RTFSubClass &links, Spelling &spelling, QWidget *parent);
 
     RichTextLogEdit &log() const { return *m_outtext; }
     MessageInput &input() const { return *intext; }

@@ -33,8 +33,8 @@ using form_layout::spacing;
 constexpr quint64 longestRepeatGap = 1; // milliseconds
 } // namespace
 
-frmPrivate::frmPrivate(PrivateChat &chat, RTFSubClass &links)
-    : m_chat(&chat), m_pane(new ConversationPane(chat, links, this))
+frmPrivate::frmPrivate(PrivateChat &chat, RTFSubClass &links, Spelling &spelling)
+    : m_chat(&chat), m_pane(new ConversationPane(chat, links, spelling, this))
 {
     setObjectName(QStringLiteral("frmPrivate"));
     setWindowTitle(tr("NIMB-Chat - Private Chat"));

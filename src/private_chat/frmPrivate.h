@@ -20,6 +20,7 @@ class ConversationPane;
 class MoodGauge;
 class PeerHeader;
 class RTFSubClass;
+class Spelling;
 
 class frmPrivate : public QWidget, public PrivateChatView
 {
@@ -27,7 +28,7 @@ class frmPrivate : public QWidget, public PrivateChatView
 
 public:
     /// links: opens what is pressed in the log; outlives the window.
-    frmPrivate(PrivateChat &chat, RTFSubClass &links);
+    frmPrivate(PrivateChat &chat, RTFSubClass &links, Spelling &spelling);
 
     ConversationView &conversation() override;
     void setPeerAddress(const QString &ip) override;

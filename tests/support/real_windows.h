@@ -125,9 +125,10 @@ public:
     RecorderNetSend netSend;
     RecorderSystemInformation systemInformation;
     ToldDiagnosis diagnosis;
+    RecorderSpellChecker spellChecker;
     std::optional<QByteArray> tips = QByteArray("The first tip||in two lines\nThe second tip, with a comma\n");
     FormOpener forms{{common, time, time, traced, settings, prompts, links, pictures, names, netSend, systemInformation,
-                      diagnosis, trace, drops, [this] { return tips; }}};
+                      diagnosis, trace, drops, spellChecker, [this] { return tips; }}};
     bool ended = false;
 
 private:
