@@ -43,6 +43,7 @@ class RecorderSpellChecker : public SpellChecker
 public:
     void findLanguages(LanguagesFound found) override
     {
+        ++searches;
         later([this, found] { found(languages); });
     }
     void check(const QString &language, const QStringList &words, Checked checked) override
@@ -75,6 +76,7 @@ public:
     bool damaged = false;
     bool waits = false; ///< until answer()
     std::vector<std::string> asked;
+    int searches = 0; ///< for languages
     int rests = 0;
 
 private:
