@@ -9,6 +9,7 @@
 #include <QActionGroup>
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QScrollBar>
 
 #include <algorithm>
 #include <utility>
@@ -45,12 +46,13 @@ SpellingMarks::SpellingMarks(PlainTextBox &box, Spelling &spelling) : QObject(&b
     connect(&spelling, &Spelling::changed, this, lookSoon);
     connect(&spelling, &Spelling::changed, this, &SpellingMarks::openMenuIfReady);
     connect(&spelling, &Spelling::suggested, this, &SpellingMarks::openMenuIfReady);
+    connect(box.verticalScrollBar(), &QScrollBar::valueChanged, this, lookSoon);
     box.installEventFilter(this);
 }
 
 bool SpellingMarks::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::FocusOut || event->type() == QEvent::PaletteChange)
+    if (event->type() == QEvent::FocusOut || event->type() == QEvent::PaletteChange || event->type() == QEvent::Resize)
         m_look.start(0);
     return QObject::eventFilter(watched, event);
 }
@@ -84,8 +86,24 @@ std::optional<qsizetype> SpellingMarks::typedWord(const QString &text)
     return touched->start;
 }
 
-void SpellingMarks::mark(const std::vector<WordPlace> &misspelt)
+/// From the first to the last character, whichever way each line goes.
+WordPlace SpellingMarks::partInSight() const
 {
+    const QRect sight = m_box.viewport()->rect();
+    const auto at = [this](QPoint corner) { return m_box.cursorForPosition(corner).position(); };
+    const int first = std::min(at(sight.topLeft()), at(sight.topRight()));
+    const int last = std::max(at(sight.bottomLeft()), at(sight.bottomRight()));
+    return {first, last - first};
+}
+
+/// Words out of sight have none: each mark takes time whenever anything of the box is painted.
+void SpellingMarks::mark(std::vector<WordPlace> misspelt)
+{
+    if (!misspelt.empty()) {
+        std::erase_if(misspelt, [sight = partInSight()](const WordPlace &place) {
+            return place.end() < sight.start || place.start > sight.end();
+        });
+    }
     const QList<QTextEdit::ExtraSelection> before = m_box.extraSelections();
     if (misspelt.empty() && before.isEmpty())
         return;

@@ -36,7 +36,8 @@ public:
 private:
     void look();
     std::optional<qsizetype> typedWord(const QString &text);
-    void mark(const std::vector<WordPlace> &misspelt);
+    void mark(std::vector<WordPlace> misspelt);
+    WordPlace partInSight() const;
     bool isOver(const WordPlace &place, QPoint position) const;
     QTextCursor cursorAt(const WordPlace &place) const;
 

@@ -159,6 +159,17 @@ TEST_F(SpellingInInput, AWordIsLeftWhenTheFocusGoes)
     expectMarked({"Qqqq", "Helo"});
 }
 
+TEST_F(SpellingInInput, WhatComesIntoSightIsMarked)
+{
+    intext().setPlainText(QStringLiteral("the Aaaa\nthe\nthe\nthe\nthe\nthe\nthe\nQqqq world"));
+    expectMarked({"Aaaa"});
+    QTest::keyClick(&intext(), Qt::Key_End, Qt::ControlModifier);
+    expectMarked({"Qqqq"});
+    form().resize(form().width(), form().height() + 1);
+    intext().setFixedHeight(400);
+    expectMarked({"Aaaa", "Qqqq"});
+}
+
 TEST_F(SpellingInInput, ASuggestionReplacesTheWordInOneStep)
 {
     type(QStringLiteral("meet Helo world "));
