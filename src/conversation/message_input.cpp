@@ -33,6 +33,13 @@ void MessageInput::setSpelling(Spelling &spelling)
     m_spelling = new SpellingMarks(*this, spelling);
 }
 
+void MessageInput::paintEvent(QPaintEvent *event)
+{
+    PlainTextBox::paintEvent(event);
+    if (m_spelling)
+        m_spelling->paint(*event);
+}
+
 void MessageInput::contextMenuEvent(QContextMenuEvent *event)
 {
     if (!m_spelling)

@@ -9,6 +9,8 @@
 #include <QActionGroup>
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -20,6 +22,18 @@ namespace
 {
 
 constexpr QColor misspeltColour(214, 32, 32);
+constexpr double waveWidth = 1.3; ///< of its line, pixels
+constexpr int waveHeight = 2;
+constexpr int halfWave = 2;
+
+QPolygonF waveBelow(const QLine &baseline)
+{
+    QPolygonF wave;
+    bool low = false;
+    for (int x = baseline.x1(); x <= baseline.x2(); x += halfWave, low = !low)
+        wave.append(QPointF(x, baseline.y1() + 1.5 + (low ? waveHeight : 0)));
+    return wave;
+}
 
 } // namespace
 
@@ -52,7 +66,7 @@ SpellingMarks::SpellingMarks(PlainTextBox &box, Spelling &spelling) : QObject(&b
 
 bool SpellingMarks::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::FocusOut || event->type() == QEvent::PaletteChange || event->type() == QEvent::Resize)
+    if (event->type() == QEvent::FocusOut || event->type() == QEvent::Resize)
         m_look.start(0);
     return QObject::eventFilter(watched, event);
 }
@@ -104,22 +118,69 @@ void SpellingMarks::mark(std::vector<WordPlace> misspelt)
             return place.end() < sight.start || place.start > sight.end();
         });
     }
-    const QList<QTextEdit::ExtraSelection> before = m_box.extraSelections();
-    if (misspelt.empty() && before.isEmpty())
-        return;
-    QTextCharFormat format;
-    format.setUnderlineStyle(QTextCharFormat::SpellCheckUnderline);
-    format.setUnderlineColor(contrastingOn(misspeltColour, m_box.palette().color(QPalette::Base)));
-    const auto isMarked = [&format](const QTextEdit::ExtraSelection &mark, const WordPlace &place) {
-        return mark.cursor.selectionStart() == place.start && mark.cursor.selectionEnd() == place.end()
-            && mark.format == format;
+    const auto isMarked = [](const QTextCursor &mark, const WordPlace &place) {
+        return mark.selectionStart() == place.start && mark.selectionEnd() == place.end();
     };
-    if (std::ranges::equal(before, misspelt, isMarked))
+    if (std::ranges::equal(m_marks, misspelt, isMarked))
         return;
-    QList<QTextEdit::ExtraSelection> marks;
+    m_marks.clear();
     for (const WordPlace &place : misspelt)
-        marks.append({cursorAt(place), format});
-    m_box.setExtraSelections(marks);
+        m_marks.push_back(cursorAt(place));
+    m_box.viewport()->update();
+}
+
+QColor SpellingMarks::colour() const
+{
+    return contrastingOn(misspeltColour, m_box.palette().color(QPalette::Base));
+}
+
+/// Qt's own waves are a dashed line, and pale, where letters are as small as here.
+void SpellingMarks::paint(const QPaintEvent &event) const
+{
+    if (m_marks.empty())
+        return;
+    QPainter painter(m_box.viewport());
+    painter.setClipRegion(event.region());
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour(), waveWidth));
+    for (const QTextCursor &word : m_marks) {
+        for (const QLine &baseline : baselinesOf(word))
+            painter.drawPolyline(waveBelow(baseline));
+    }
+}
+
+/// One, or one for each line that a long word takes.
+std::vector<QLine> SpellingMarks::baselinesOf(const QTextCursor &word) const
+{
+    std::vector<QLine> lines;
+    const auto add = [&lines, descent = m_box.fontMetrics().descent()](const QRect &from, const QRect &to) {
+        const int y = from.bottom() + 1 - descent;
+        lines.emplace_back(std::min(from.left(), to.left()), y, std::max(from.left(), to.left()), y);
+    };
+    const int end = word.selectionEnd();
+    QRect first = rectAt(word.selectionStart());
+    if (const QRect last = rectAt(end); last.top() == first.top()) {
+        add(first, last);
+        return lines;
+    }
+    QRect before = first;
+    for (int position = word.selectionStart() + 1; position <= end; ++position) {
+        const QRect here = rectAt(position);
+        if (here.top() != first.top()) {
+            add(first, before);
+            first = here;
+        }
+        before = here;
+    }
+    add(first, before);
+    return lines;
+}
+
+QRect SpellingMarks::rectAt(int position) const
+{
+    QTextCursor cursor(m_box.document());
+    cursor.setPosition(position);
+    return m_box.cursorRect(cursor);
 }
 
 QTextCursor SpellingMarks::cursorAt(const WordPlace &place) const
@@ -157,12 +218,8 @@ std::optional<QTextCursor> SpellingMarks::wordOf(const MenuRequest &request,
 /// Beside the end of a line the nearest position is that of its last word.
 bool SpellingMarks::isOver(const WordPlace &place, QPoint position) const
 {
-    QTextCursor end(m_box.document());
-    end.setPosition(static_cast<int>(place.end()));
-    QTextCursor start(end);
-    start.setPosition(static_cast<int>(place.start));
-    const QRect first = m_box.cursorRect(start);
-    const QRect last = m_box.cursorRect(end);
+    const QRect first = rectAt(static_cast<int>(place.start));
+    const QRect last = rectAt(static_cast<int>(place.end()));
     return first.top() != last.top() || first.united(last).contains(position);
 }
 

@@ -3,13 +3,17 @@
 
 #include "conversation/spelling.h"
 
+#include <QColor>
+#include <QLine>
 #include <QObject>
 #include <QPoint>
+#include <QRect>
 #include <QTextCursor>
 #include <QTimer>
 
 class QContextMenuEvent;
 class QMenu;
+class QPaintEvent;
 
 namespace nimb
 {
@@ -31,6 +35,14 @@ public:
     /// after limits::suggestionTime in any case. The event loop goes on meanwhile.
     void openMenu(const QContextMenuEvent &event);
 
+    /// Over the text, when that has been painted.
+    void paint(const QPaintEvent &event) const;
+
+    /// The marked words, selected.
+    const std::vector<QTextCursor> &marks() const { return m_marks; }
+    /// Readable on the box's ground.
+    QColor colour() const;
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -38,6 +50,8 @@ private:
     std::optional<qsizetype> typedWord(const QString &text);
     void mark(std::vector<WordPlace> misspelt);
     WordPlace partInSight() const;
+    std::vector<QLine> baselinesOf(const QTextCursor &word) const;
+    QRect rectAt(int position) const;
     bool isOver(const WordPlace &place, QPoint position) const;
     QTextCursor cursorAt(const WordPlace &place) const;
 
@@ -56,6 +70,7 @@ private:
 
     PlainTextBox &m_box;
     Spelling &m_spelling;
+    std::vector<QTextCursor> m_marks; ///< which follow changes of the text
     QTimer m_look;
     QTimer m_menuBound;
     bool m_edited = false;              ///< since the last look

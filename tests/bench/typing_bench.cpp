@@ -4,7 +4,7 @@
 // painting included. Prints one JSON object, in microseconds. Needs a screen or QT_QPA_PLATFORM=offscreen.
 #include "base/Common.h"
 #include "conversation/message_input.h"
-#include "conversation/spelling.h"
+#include "conversation/spelling_marks.h"
 #include "platform/hunspell_spelling.h"
 
 #include <QApplication>
@@ -93,6 +93,11 @@ Times press(MessageInput &box, int presses)
     return times;
 }
 
+int marksOf(const MessageInput &box)
+{
+    return int(box.findChild<SpellingMarks *>()->marks().size());
+}
+
 QJsonObject summary(std::vector<double> times)
 {
     std::ranges::sort(times);
@@ -133,7 +138,7 @@ QJsonObject measure(const QString &folder, const QString &text, bool checked, in
     }
     return {{QStringLiteral("characters"), text.size()},
             {QStringLiteral("find_us"), checked ? summary(looks) : QJsonValue()},
-            {QStringLiteral("marks"), box.extraSelections().size()},
+            {QStringLiteral("marks"), checked ? marksOf(box) : 0},
             {QStringLiteral("key_us"), summary(times.key)},
             {QStringLiteral("turn_us"), summary(times.turn)}};
 }
@@ -151,7 +156,7 @@ QJsonObject measureFirst(const QString &folder, const QString &text)
     box.setPlainText(text);
     const auto begin = Clock::now();
     Times times;
-    while (box.extraSelections().isEmpty() && Clock::now() - begin < std::chrono::milliseconds(patience)) {
+    while (marksOf(box) == 0 && Clock::now() - begin < std::chrono::milliseconds(patience)) {
         const Times more = press(box, keysOfTurn);
         times.turn.insert(times.turn.end(), more.turn.begin(), more.turn.end());
     }

@@ -1,8 +1,10 @@
+#include "conversation/spelling_marks.h"
 #include "platform/hunspell_spelling.h"
 #include "real_windows.h"
 #include "widgets/muted_colour.h"
 
 #include <QContextMenuEvent>
+#include <QImage>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -52,13 +54,12 @@ protected:
         for (const QChar c : text)
             QTest::sendKeyEvent(QTest::Click, &intext(), Qt::Key_unknown, QString(c), Qt::NoModifier);
     }
+    const SpellingMarks &marks() { return *intext().findChild<SpellingMarks *>(); }
     std::vector<std::string> marked()
     {
         std::vector<std::string> words;
-        for (const QTextEdit::ExtraSelection &mark : intext().extraSelections()) {
-            EXPECT_EQ(mark.format.underlineStyle(), QTextCharFormat::SpellCheckUnderline);
-            words.push_back(mark.cursor.selectedText().toStdString());
-        }
+        for (const QTextCursor &mark : marks().marks())
+            words.push_back(mark.selectedText().toStdString());
         return words;
     }
     void expectMarked(const std::vector<std::string> &words)
@@ -261,30 +262,51 @@ TEST_F(SpellingInInput, NeitherTheTextNorWhatIsSentIsTouched)
     expectMarked({});
 }
 
+/// Pixels of the box that are of this hue and stand out.
+int pixelsLike(QWidget &box, const QColor &colour, const QColor &ground)
+{
+    const QImage picture = box.grab().toImage();
+    int pixels = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QColor pixel = picture.pixelColor(x, y);
+            const bool isOfHue = pixel.hsvSaturation() > 60 && std::abs(pixel.hsvHue() - colour.hsvHue()) < 15;
+            pixels += isOfHue && contrast(pixel, ground) >= 3;
+        }
+    }
+    return pixels;
+}
+
 TEST_F(SpellingInInput, MarksAreSeenOnLightAndDarkGround)
 {
+    type(QStringLiteral("Hello "));
     for (const QColor ground : {QColor(Qt::white), QColor(35, 35, 35), QColor(Qt::black)}) {
         QPalette palette = intext().palette();
         palette.setColor(QPalette::Base, ground);
+        palette.setColor(QPalette::Text, isDark(ground) ? Qt::white : Qt::black);
         intext().setPalette(palette);
-        intext().clear();
+        EXPECT_GE(contrast(marks().colour(), ground), 4.5) << ground.name().toStdString();
+        EXPECT_EQ(pixelsLike(*intext().viewport(), marks().colour(), ground), 0);
         type(QStringLiteral("Helo "));
         expectMarked({"Helo"});
-        EXPECT_GE(contrast(intext().extraSelections().front().format.underlineColor(), ground), 4.5)
-            << ground.name().toStdString();
+        EXPECT_GT(pixelsLike(*intext().viewport(), marks().colour(), ground), 20) << ground.name().toStdString();
+        intext().setPlainText(QStringLiteral("Hello "));
+        expectMarked({});
     }
 }
 
-TEST_F(SpellingInInput, MarksFollowTheColoursOfTheDesktop)
+TEST_F(SpellingInInput, AWordOfSeveralLinesIsMarkedInEachOfThem)
 {
-    type(QStringLiteral("Helo "));
-    expectMarked({"Helo"});
-    QPalette palette = intext().palette();
-    palette.setColor(QPalette::Base, Qt::black);
-    intext().setPalette(palette);
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return contrast(intext().extraSelections().front().format.underlineColor(), Qt::black) >= 4.5; },
-        patience));
+    intext().setFixedSize(120, 200);
+    type(QString(60, u'm') + u' ');
+    expectMarked({std::string(60, 'm')});
+    const QImage picture = intext().viewport()->grab().toImage();
+    QSet<int> lines;
+    for (int y = 0; y < picture.height(); ++y) {
+        if (picture.pixelColor(12, y).hsvSaturation() > 60)
+            lines.insert(y / intext().fontMetrics().lineSpacing());
+    }
+    EXPECT_GE(lines.size(), 3);
 }
 
 TEST_F(SpellingInInput, EveryConversationHasIt)
@@ -297,7 +319,7 @@ TEST_F(SpellingInInput, EveryConversationHasIt)
     }
     ASSERT_TRUE(box);
     QTest::keyClicks(box, QStringLiteral("Helo "));
-    EXPECT_TRUE(QTest::qWaitFor([box] { return box->extraSelections().size() == 1; }, patience));
+    EXPECT_TRUE(QTest::qWaitFor([box] { return box->findChild<SpellingMarks *>()->marks().size() == 1; }, patience));
 }
 
 class SpellingOverRecorder : public SpellingForms

@@ -1,4 +1,5 @@
 // Takes a picture of every window with realistic content: window_gallery FOLDER light|dark
+#include "conversation/spelling_marks.h"
 #include "main_window/Tray.h"
 #include "real_windows.h"
 #include "welcome/frmLogin.h"
@@ -293,7 +294,7 @@ void takeSpelling(Gallery &gallery)
     QWidget &form = windows.privateWindow();
     auto &box = RealWindows::control<QPlainTextEdit>(form, "intext");
     box.setPlainText(QStringLiteral("Shall we meet Benedikt in the basmnt tomorow at half past two?\nOr latr"));
-    if (!QTest::qWaitFor([&box] { return box.extraSelections().size() == 3; }, 30000))
+    if (!QTest::qWaitFor([&box] { return box.findChild<SpellingMarks *>()->marks().size() == 3; }, 30000))
         qFatal("nothing is marked");
     gallery.take(form, "private_spelling");
     QTextCursor word = box.document()->find(QStringLiteral("basmnt"));
