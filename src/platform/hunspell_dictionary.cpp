@@ -60,7 +60,7 @@ std::vector<DictionaryFiles> dictionariesIn(const QString &folder)
 /// Links come behind what they lead to, which gives the language its name.
 void sortLinksBehind(std::vector<DictionaryFiles> &dictionaries)
 {
-    std::ranges::stable_partition(dictionaries, [](const DictionaryFiles &one) {
+    std::stable_partition(dictionaries.begin(), dictionaries.end(), [](const DictionaryFiles &one) {
         return QFileInfo(one.words).completeBaseName() == one.language.name;
     });
 }

@@ -221,8 +221,8 @@ private:
     std::unique_ptr<HunspellDictionary> m_dictionary;
 };
 
-HunspellSpelling::HunspellSpelling(const QStringList &folders)
-    : m_folders(folders), m_bell(std::make_unique<Bell>(*this)), m_desk(std::make_shared<Desk>(*m_bell))
+HunspellSpelling::HunspellSpelling(QStringList folders)
+    : m_folders(std::move(folders)), m_bell(std::make_unique<Bell>(*this)), m_desk(std::make_shared<Desk>(*m_bell))
 {
 }
 
@@ -260,17 +260,18 @@ void HunspellSpelling::rest()
         ask({Question::Kind::rest}, [](const Answer &) {});
 }
 
-void HunspellSpelling::ask(Question question, Taken taken)
+void HunspellSpelling::ask(Question question, const Taken &taken)
 {
     question.number = ++m_questions;
-    m_waiting.insert(question.number, std::move(taken));
-    m_desk->put(question);
+    m_waiting.insert(question.number, taken);
+    const quint64 number = question.number;
+    m_desk->put(std::move(question));
     if (m_thread.joinable())
         return;
     try {
         m_thread = std::thread([desk = m_desk, folders = m_folders] { Worker(*desk, folders).run(); });
     } catch (const std::system_error &) { // nobody is there to answer: no languages, and nothing can be checked
-        m_desk->answer({question.number});
+        m_desk->answer({number});
     }
 }
 

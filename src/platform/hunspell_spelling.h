@@ -18,7 +18,7 @@ namespace nimb
 class HunspellSpelling : public SpellChecker
 {
 public:
-    explicit HunspellSpelling(const QStringList &folders = dictionaryFolders());
+    explicit HunspellSpelling(QStringList folders = dictionaryFolders());
     ~HunspellSpelling() override;
     HunspellSpelling(const HunspellSpelling &) = delete;
     HunspellSpelling &operator=(const HunspellSpelling &) = delete;
@@ -36,7 +36,7 @@ private:
     struct Answer;
     using Taken = std::function<void(const Answer &)>;
 
-    void ask(Question question, Taken taken);
+    void ask(Question question, const Taken &taken);
     void deliver();
 
     QStringList m_folders;

@@ -120,6 +120,18 @@ TEST_F(HunspellSpellingTest, TheFirstFolderCounts)
     EXPECT_THAT(misspelt(QStringLiteral("en_GB"), QStringLiteral("Goodbye Hello")), ElementsAre("Hello"));
 }
 
+TEST_F(HunspellSpellingTest, LooksWhereTheSystemAndTheUserKeepDictionaries)
+{
+    const QByteArray before = qgetenv("XDG_DATA_DIRS");
+    qputenv("XDG_DATA_DIRS", "/one:/two");
+    const QStringList folders = dictionaryFolders();
+    qputenv("XDG_DATA_DIRS", before);
+    for (const char *const expected :
+         {"/one/hunspell", "/two/hunspell", "/two/myspell/dicts", "/usr/share/hunspell", "/usr/share/myspell/dicts"})
+        EXPECT_TRUE(folders.contains(QLatin1String(expected))) << expected;
+    EXPECT_LT(folders.indexOf(QStringLiteral("/one/hunspell")), folders.indexOf(QStringLiteral("/usr/share/hunspell")));
+}
+
 TEST_F(HunspellSpellingTest, KnowsItsWords)
 {
     EXPECT_THAT(misspelt(QStringLiteral("en_GB"), QStringLiteral("Hello Helo plans café cafe don't")),
