@@ -14,7 +14,9 @@
 
 #ifdef NIMB_HUNSPELL
 #include <hunspell.hxx>
+constexpr bool isBuiltWithHunspell = true;
 #else
+constexpr bool isBuiltWithHunspell = false;
 /// Stands where the library is missing; no dictionary is ever found then.
 class Hunspell
 {
@@ -121,7 +123,8 @@ QStringList dictionaryFolders()
 std::vector<DictionaryFiles> installedDictionaries(const QStringList &folders)
 {
     std::vector<DictionaryFiles> all;
-#ifdef NIMB_HUNSPELL
+    if (!isBuiltWithHunspell)
+        return all;
     for (const QString &folder : folders) {
         std::vector<DictionaryFiles> found = dictionariesIn(folder);
         sortLinksBehind(found);
@@ -136,9 +139,6 @@ std::vector<DictionaryFiles> installedDictionaries(const QStringList &folders)
                 same->language.otherNames.append(one.language.name);
         }
     }
-#else
-    Q_UNUSED(folders);
-#endif
     return all;
 }
 
