@@ -3,6 +3,7 @@
 
 #include "conference/conference_view.h"
 #include "conversation/emoji_stock.h"
+#include "conversation/spelling.h"
 #include "log/RTFSubClass.h"
 #include "private_chat/private_chat_view.h"
 
@@ -14,8 +15,8 @@ class ConversationForms : public PrivateForms, public ConferenceForms
 {
 public:
     /// emojiUsed: called when what of common was used lately has changed.
-    ConversationForms(LinkOpener &links, Common &common, std::function<void()> emojiUsed)
-        : m_links(links), m_emoji(common, std::move(emojiUsed))
+    ConversationForms(LinkOpener &links, Common &common, std::function<void()> emojiUsed, Spelling &spelling)
+        : m_links(links), m_emoji(common, std::move(emojiUsed)), m_spelling(spelling)
     {
     }
 
@@ -25,6 +26,7 @@ public:
 private:
     RTFSubClass m_links;
     EmojiStock m_emoji;
+    Spelling &m_spelling;
 };
 
 } // namespace nimb

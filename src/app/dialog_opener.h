@@ -7,6 +7,7 @@
 #include "base/net_send.h"
 #include "base/network_diagnosis.h"
 #include "base/picture_source.h"
+#include "base/spell_checker.h"
 #include "base/system_information.h"
 #include "base/window_openers.h"
 #include "protocol/datagram_trace.h"
@@ -39,6 +40,7 @@ struct FormServices {
     NetworkDiagnosis &diagnosis;
     DatagramTrace &trace; ///< of the socket
     const DropCounts &drops;
+    SpellChecker &spellChecker;
     TipOfTheDay::OpenFile openTips;
 };
 

@@ -8,11 +8,15 @@
 #include "welcome/frmLogin.h"
 #include "widgets/pictures.h"
 
+#include <QLocale>
+
 namespace nimb
 {
 
 FormOpener::FormOpener(const FormServices &services)
-    : m_services(services), m_conversations(services.links, services.common, [this] { emojiUsed(); }),
+    : m_services(services), m_spelling(services.spellChecker, services.common, QLocale().name()),
+      m_conversations(
+          services.links, services.common, [this] { emojiUsed(); }, m_spelling),
       m_slide(services.common, services.timers)
 {
 }
@@ -58,6 +62,8 @@ frmMain &FormOpener::makeMain()
 void FormOpener::connectMain(Messenger &engine, std::function<QString()> statusNotes, std::function<void()> ended)
 {
     m_engine = &engine;
+    m_spelling.setContacts(engine.contacts());
+    QObject::connect(&m_spelling, &Spelling::chosen, m_main.get(), [&engine] { engine.recovery().settingsChanged(); });
     m_dialogs.emplace(m_services, engine, *m_main);
     m_invitations = std::make_unique<frmConfInvitations>(engine.invitations());
     m_main->connectControls({engine.mainWindow(), engine.contacts(), engine.avatars(), engine.contactCommands(),

@@ -61,6 +61,7 @@ private:
     void emojiUsed();
 
     FormServices m_services;
+    Spelling m_spelling;
     ConversationForms m_conversations;
     NotifySlide m_slide;
     std::unique_ptr<frmNotify> m_notify;

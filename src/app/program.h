@@ -8,6 +8,7 @@
 #include "main_window/Tray.h"
 #include "platform/desktop_appearance.h"
 #include "platform/environment.h"
+#include "platform/hunspell_spelling.h"
 #include "platform/link_opener.h"
 #include "platform/name_resolver.h"
 #include "platform/net_send_runner.h"
@@ -107,6 +108,7 @@ private:
     NetSendRunner m_netSend;
     SystemInfo m_systemInfo;
     SystemNetworkDiagnosis m_diagnosis;
+    HunspellSpelling m_spellChecker;
     FormOpener m_forms;
     std::optional<DesktopAppearance> m_appearance;
     std::optional<NotificationRouter> m_notifications;

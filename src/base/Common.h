@@ -6,6 +6,7 @@
 #include "protocol/ipv4_address.h"
 
 #include <QByteArray>
+#include <QString>
 #include <QStringList>
 
 #include <cstdint>
@@ -38,6 +39,12 @@ struct AutoReply {
     QString awayText = QStringLiteral("At the moment I'm not at my PC");
 };
 
+/// How the input boxes check what is written.
+struct SpellingChoice {
+    QString language;  ///< empty: that of the desktop; "off": none
+    QStringList words; ///< that the user has added to every dictionary, the newest last
+};
+
 struct Common {
     Common() = default;
     Common(const Common &) = delete;
@@ -59,6 +66,7 @@ struct Common {
     QString ownCard; ///< the network card whose address is the own one; empty: as the system chooses
     WindowPlace mainPlace;
     QStringList recentEmoji; ///< used lately, the latest first
+    SpellingChoice spelling;
 
     bool windowFlashingAvailable = false;
     bool buzzmute = false;

@@ -134,6 +134,23 @@ constexpr std::chrono::milliseconds networkChangeShown{10000};
 constexpr std::chrono::milliseconds keepDelay{1000};
 /// Time between two attempts to keep what could not be kept.
 constexpr std::chrono::milliseconds keepRetry{30000};
+/// Characters of a word whose spelling is checked: longer ones are no words, and looking for what else they may be
+/// takes seconds.
+constexpr qsizetype spelledWordLength = 64;
+/// Words whose spelling is remembered: those of several full input boxes.
+constexpr int spelledWordsKept = 4000;
+/// Words that one question to a dictionary holds, so that another question does not wait long.
+constexpr qsizetype spelledWordsAtOnce = 50;
+/// Words that the user has added to the dictionaries: they are stored as one value.
+constexpr qsizetype ownSpellingWords = 2000;
+/// Words of names that count as known: a crowd of strangers must not fill the memory.
+constexpr qsizetype namesKnownToSpelling = 20000;
+/// Corrections that are offered.
+constexpr qsizetype spellingSuggestions = 5;
+/// How long a context menu waits for them.
+constexpr std::chrono::milliseconds suggestionTime{100};
+/// Bytes of each file of a dictionary: several times the largest that there is.
+constexpr qint64 dictionaryFileBytes = qint64{32} * 1024 * 1024;
 /// Personalised states that the store keeps.
 constexpr int storedPersonalizedStates = 8;
 

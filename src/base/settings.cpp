@@ -72,6 +72,15 @@ private:
     QStringList &m_notices;
 };
 
+/// The newest of them, each once and of a length that is checked.
+QStringList ownWords(const QString &stored)
+{
+    QStringList words = stored.simplified().split(u' ', Qt::SkipEmptyParts);
+    words.removeIf([](const QString &word) { return word.size() > limits::spelledWordLength; });
+    words.removeDuplicates();
+    return words.mid(qMax(qsizetype{0}, words.size() - limits::ownSpellingWords));
+}
+
 QString numberText(double value)
 {
     return QString::number(value, 'f', QLocale::FloatingPointShortest);
@@ -139,6 +148,8 @@ LoadedSettings loadSettings(const SettingsStore &store, Common &common)
     common.logFont.style = read.text("StandardFontStyle");
     common.ownCard = read.text("OwnNetworkCard");
     common.recentEmoji = emojiOf(read.text("RecentEmoji"));
+    common.spelling.language = read.text("SpellingLanguage");
+    common.spelling.words = ownWords(read.text("SpellingWords"));
     for (int n = 1; n <= limits::storedPersonalizedStates; ++n)
         loaded.personalizedStates.append(store.read(
             QLatin1String(settingKey(QLatin1String("PersonalizedState")).section), personalizedStateKey(n), {}));
@@ -166,6 +177,8 @@ void saveSettings(SettingsSink &store, const Common &common, const QStringList &
     write("StandardFontStyle", common.logFont.style);
     write("OwnNetworkCard", common.ownCard);
     write("RecentEmoji", common.recentEmoji.join(u' '));
+    write("SpellingLanguage", common.spelling.language);
+    write("SpellingWords", common.spelling.words.join(u' '));
     // Unused numbers are emptied, or entries of an earlier, longer list would come back.
     for (int n = 1; n <= limits::storedPersonalizedStates; ++n)
         store.write(QLatin1String(settingKey(QLatin1String("PersonalizedState")).section), personalizedStateKey(n),

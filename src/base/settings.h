@@ -58,6 +58,9 @@ inline constexpr std::array settingKeys = {
                "emoji used lately, the latest first, with blanks between"},
     SettingKey{"Options", "TipOTDay", SettingType::text, "1", "exactly 1: a tip at every start"},
     SettingKey{"Options", "TipOTDayNum", SettingType::integer16, "0", "number of the next tip"},
+    SettingKey{"Options", "SpellingLanguage", SettingType::text, "",
+               "name of the dictionary for what is written, empty: of the desktop's language, off: none"},
+    SettingKey{"Options", "SpellingWords", SettingType::text, "", "words added to every dictionary, between blanks"},
 };
 
 /// The row of the table; the key must be in it.

@@ -49,8 +49,8 @@ QToolButton *flipButton(QWidget *parent, const char *name, const QString &captio
 
 } // namespace
 
-frmConference::frmConference(Conference &conference, RTFSubClass &links, EmojiStock &emoji)
-    : m_conference(&conference), m_pane(new ConversationPane(conference, links, emoji, this))
+frmConference::frmConference(Conference &conference, const ConversationTools &tools)
+    : m_conference(&conference), m_pane(new ConversationPane(conference, tools, this))
 {
     setObjectName(QStringLiteral("frmConference"));
     setWindowIcon(programIcon());

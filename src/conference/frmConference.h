@@ -17,16 +17,14 @@ namespace nimb
 
 class AvatarPicture;
 class ConversationPane;
-class EmojiStock;
-class RTFSubClass;
+struct ConversationTools;
 
 class frmConference : public QWidget, public ConferenceView
 {
     Q_OBJECT
 
 public:
-    /// links: opens what is pressed in the log; outlives the window.
-    frmConference(Conference &conference, RTFSubClass &links, EmojiStock &emoji);
+    frmConference(Conference &conference, const ConversationTools &tools);
 
     ConversationView &conversation() override;
     void showAvatar(const QString &name, const std::optional<QByteArray> &picture) override;

@@ -52,12 +52,13 @@ bool isMeantForMessage(const QKeyEvent &event)
 
 } // namespace
 
-ConversationPane::ConversationPane(Conversation &conversation, RTFSubClass &links, EmojiStock &emoji, QWidget *parent)
-    : QWidget(parent), m_conversation(&conversation), m_links(links), m_emoji(emoji)
+ConversationPane::ConversationPane(Conversation &conversation, const ConversationTools &tools, QWidget *parent)
+    : QWidget(parent), m_conversation(&conversation), m_links(tools.links), m_emoji(tools.emoji)
 {
     buildControls();
     connectControls();
     m_links.HookRichText(*m_outtext, *this);
+    intext->setSpelling(tools.spelling);
     QAccessible::installFactory(makeAccessibleWindow); // again and again, which Qt ignores
     intext->setFocus();
 }

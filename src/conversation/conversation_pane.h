@@ -26,7 +26,15 @@ class EmojiStock;
 class EmoticonPicker;
 class MessageInput;
 class RTFSubClass;
+class Spelling;
 class ToolRow;
+
+/// What all conversations share; outlives each of their windows.
+struct ConversationTools {
+    RTFSubClass &links; ///< opens what is pressed in a log
+    EmojiStock &emoji;  ///< those to choose from
+    Spelling &spelling; ///< checks what is typed
+};
 
 /// What a window has beside it, it makes itself and puts between the parts of the pane or around it.
 class ConversationPane : public QWidget, public ConversationView
@@ -37,8 +45,7 @@ public:
     /// The tools behind which a window may have its own.
     enum class Tool { emoticons, dateAndTime };
 
-    /// links: opens what is pressed in the log; emoji: those to choose from. Both outlive the pane.
-    ConversationPane(Conversation &conversation, RTFSubClass &links, EmojiStock &emoji, QWidget *parent);
+    ConversationPane(Conversation &conversation, const ConversationTools &tools, QWidget *parent);
 
     RichTextLogEdit &log() const { return *m_outtext; }
     MessageInput &input() const { return *intext; }

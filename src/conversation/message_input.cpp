@@ -3,8 +3,10 @@
 #include "base/limits.h"
 #include "base/line_break.h"
 #include "base/remote_text.h"
+#include "conversation/spelling_marks.h"
 #include "widgets/form_text.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 
 namespace nimb
@@ -24,6 +26,25 @@ QSize MessageInput::sizeHint() const
 {
     const int frame = 2 * frameWidth() + static_cast<int>(2 * document()->documentMargin());
     return {PlainTextBox::sizeHint().width(), visibleLines * fontMetrics().lineSpacing() + frame};
+}
+
+void MessageInput::setSpelling(Spelling &spelling)
+{
+    m_spelling = new SpellingMarks(*this, spelling);
+}
+
+void MessageInput::paintEvent(QPaintEvent *event)
+{
+    PlainTextBox::paintEvent(event);
+    if (m_spelling)
+        m_spelling->paint(*event);
+}
+
+void MessageInput::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (!m_spelling)
+        return PlainTextBox::contextMenuEvent(event);
+    m_spelling->openMenu(*event);
 }
 
 void MessageInput::keyPressEvent(QKeyEvent *event)

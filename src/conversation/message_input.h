@@ -6,6 +6,9 @@
 namespace nimb
 {
 
+class Spelling;
+class SpellingMarks;
+
 /// Enter sends, Shift+Enter breaks the line, Tab leaves the box. Never holds more than limits::messageLength
 /// characters, a line break counted as two: what is beyond is cut and the caret goes to the end.
 class MessageInput : public PlainTextBox
@@ -16,6 +19,9 @@ public:
     explicit MessageInput(QWidget *parent = nullptr);
     QSize sizeHint() const override;
 
+    /// Misspelt words are marked from now on. Called once; spelling outlives the box.
+    void setSpelling(Spelling &spelling);
+
 Q_SIGNALS:
     void entered();
     /// The Up key was pressed in an empty box.
@@ -25,9 +31,13 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void cut();
+
+    SpellingMarks *m_spelling = nullptr;
 };
 
 } // namespace nimb

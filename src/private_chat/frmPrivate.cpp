@@ -33,8 +33,8 @@ using form_layout::spacing;
 constexpr quint64 longestRepeatGap = 1; // milliseconds
 } // namespace
 
-frmPrivate::frmPrivate(PrivateChat &chat, RTFSubClass &links, EmojiStock &emoji)
-    : m_chat(&chat), m_pane(new ConversationPane(chat, links, emoji, this))
+frmPrivate::frmPrivate(PrivateChat &chat, const ConversationTools &tools)
+    : m_chat(&chat), m_pane(new ConversationPane(chat, tools, this))
 {
     setObjectName(QStringLiteral("frmPrivate"));
     setWindowTitle(tr("NIMB-Chat - Private Chat"));

@@ -17,18 +17,16 @@ namespace nimb
 
 class AvatarPicture;
 class ConversationPane;
-class EmojiStock;
+struct ConversationTools;
 class MoodGauge;
 class PeerHeader;
-class RTFSubClass;
 
 class frmPrivate : public QWidget, public PrivateChatView
 {
     Q_OBJECT
 
 public:
-    /// links: opens what is pressed in the log; outlives the window.
-    frmPrivate(PrivateChat &chat, RTFSubClass &links, EmojiStock &emoji);
+    frmPrivate(PrivateChat &chat, const ConversationTools &tools);
 
     ConversationView &conversation() override;
     void setPeerAddress(const QString &ip) override;

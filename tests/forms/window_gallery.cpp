@@ -1,4 +1,5 @@
 // Takes a picture of every window with realistic content: window_gallery FOLDER light|dark
+#include "conversation/spelling_marks.h"
 #include "main_window/Tray.h"
 #include "real_windows.h"
 #include "welcome/frmLogin.h"
@@ -303,6 +304,37 @@ void takePrivatePanels(Gallery &gallery)
     gallery.take(form, "private_panels");
 }
 
+void takeSpelling(Gallery &gallery)
+{
+    RealWindows windows(everybody);
+    fill(windows);
+    windows.spellChecker.languages = {{QStringLiteral("en_GB")}, {QStringLiteral("de_DE")}, {QStringLiteral("fr_FR")}};
+    windows.spellChecker.known = QStringLiteral("Shall we meet in the at half past two Or").split(u' ');
+    windows.spellChecker.suggestions[QStringLiteral("basmnt")]
+        = {QStringLiteral("basement"), QStringLiteral("casement"), QStringLiteral("basements")};
+    windows.doubleClick(0);
+    QWidget &form = windows.privateWindow();
+    auto &box = RealWindows::control<QPlainTextEdit>(form, "intext");
+    box.setPlainText(QStringLiteral("Shall we meet Benedikt in the basmnt tomorow at half past two?\nOr latr"));
+    if (!QTest::qWaitFor([&box] { return box.findChild<SpellingMarks *>()->marks().size() == 3; }, 30000))
+        qFatal("nothing is marked");
+    gallery.take(form, "private_spelling");
+    QTextCursor word = box.document()->find(QStringLiteral("basmnt"));
+    word.setPosition(word.selectionStart() + 2);
+    const QPoint place = box.cursorRect(word).center();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, box.viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(box.viewport(), &event);
+    if (!QTest::qWaitFor([] { return QApplication::activePopupWidget(); }, 30000))
+        qFatal("no menu");
+    QWidget &menu = *QApplication::activePopupWidget();
+    gallery.take(menu, "private_spelling_menu");
+    auto &languages = RealWindows::control<QMenu>(menu, "mnuSpelling");
+    languages.popup(menu.geometry().topRight());
+    gallery.take(languages, "private_spelling_languages");
+    languages.close();
+    menu.close();
+}
+
 QWidget &topLevel(const char *name)
 {
     for (QWidget *const window : QApplication::topLevelWidgets()) {
@@ -524,6 +556,7 @@ int main(int argc, char *argv[])
     nimb::test::takePrivate(gallery);
     nimb::test::takeEmoji(gallery);
     nimb::test::takePrivatePanels(gallery);
+    nimb::test::takeSpelling(gallery);
     nimb::test::takeConference(gallery);
     nimb::test::takeNotify(gallery);
     nimb::test::takeTrayIcon(gallery);

@@ -3,11 +3,15 @@
 
 #include "base/name_resolver.h"
 #include "base/net_send.h"
+#include "base/spell_checker.h"
 #include "base/system_information.h"
 #include "people/network_scan.h"
 #include "recorders.h"
 #include "simulated_network.h"
 #include "virtual_time.h"
+
+#include <QMap>
+#include <QObject>
 
 #include <functional>
 #include <string>
@@ -31,6 +35,61 @@ public:
 
 private:
     std::vector<Found> m_found;
+};
+
+/// Knows the words that a test gives it. Answers as soon as the event loop comes to it, or when the test lets it.
+class RecorderSpellChecker : public SpellChecker
+{
+public:
+    void findLanguages(LanguagesFound found) override
+    {
+        ++searches;
+        later([this, found] { found(languages); });
+    }
+    void check(const QString &language, const QStringList &words, Checked checked) override
+    {
+        asked.push_back((language + u':' + words.join(u' ')).toStdString());
+        later([this, words, checked] {
+            QStringList misspelt = words;
+            misspelt.removeIf([this](const QString &word) { return known.contains(word); });
+            checked(damaged ? std::nullopt : std::optional(misspelt));
+        });
+    }
+    void suggest(const QString &, const QString &word, Suggested suggested) override
+    {
+        later([this, word, suggested] { suggested(suggestions.value(word)); });
+    }
+    void rest() override { ++rests; }
+
+    /// What has been asked meanwhile, and what the answers make somebody ask.
+    void answer()
+    {
+        while (!m_waiting.empty()) {
+            for (const std::function<void()> &one : std::exchange(m_waiting, {}))
+                one();
+        }
+    }
+
+    std::vector<SpellingLanguage> languages;
+    QStringList known;
+    QMap<QString, QStringList> suggestions;
+    bool damaged = false;
+    bool waits = false; ///< until answer()
+    std::vector<std::string> asked;
+    int searches = 0; ///< for languages
+    int rests = 0;
+
+private:
+    void later(const std::function<void()> &answer)
+    {
+        if (waits)
+            m_waiting.push_back(answer);
+        else
+            QMetaObject::invokeMethod(&m_context, answer, Qt::QueuedConnection);
+    }
+
+    std::vector<std::function<void()>> m_waiting;
+    QObject m_context;
 };
 
 class RecorderNetSend : public NetSend

@@ -27,7 +27,8 @@ class RealWindows : public Recorders
 {
 public:
     explicit RealWindows(const std::vector<std::pair<const char *, const char *>> &contacts = {},
-                         const std::map<std::string, QString> &stored = {})
+                         const std::map<std::string, QString> &stored = {}, SpellChecker *realSpelling = nullptr)
+        : m_spelling(realSpelling ? *realSpelling : spellChecker)
     {
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
         common.ownIP = Ipv4Address(10, 0, 0, 1);
@@ -125,9 +126,15 @@ public:
     RecorderNetSend netSend;
     RecorderSystemInformation systemInformation;
     ToldDiagnosis diagnosis;
+    RecorderSpellChecker spellChecker; ///< without a dictionary; unless the test has a real one
+
+private:
+    SpellChecker &m_spelling;
+
+public:
     std::optional<QByteArray> tips = QByteArray("The first tip||in two lines\nThe second tip, with a comma\n");
     FormOpener forms{{common, time, time, traced, settings, prompts, links, pictures, names, netSend, systemInformation,
-                      diagnosis, trace, drops, [this] { return tips; }}};
+                      diagnosis, trace, drops, m_spelling, [this] { return tips; }}};
     bool ended = false;
 
 private:

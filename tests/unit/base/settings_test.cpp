@@ -75,28 +75,29 @@ TEST(Settings, EveryKeyIsThereOnceInItsSection)
     EXPECT_THAT(options,
                 ElementsAre("ShowStatusOnPrivate", "BuzzLocal", "BuzzRemote", "PrivateBehaviour", "DontDestroyWindow",
                             "NotifyWin", "LiveType", "CloseButtonDoesMinimize", "NotifyMessages", "NotifyMessageText",
-                            "SoundMessage", "SoundOnline", "SoundInvitation", "RecentEmoji", "TipOTDay",
-                            "TipOTDayNum"));
-    EXPECT_EQ(keys.size(), 34u);
+                            "SoundMessage", "SoundOnline", "SoundInvitation", "RecentEmoji", "TipOTDay", "TipOTDayNum",
+                            "SpellingLanguage", "SpellingWords"));
+    EXPECT_EQ(keys.size(), 36u);
 }
 
 TEST(Settings, SavingKeepsItsOrder)
 {
     MemoryStore store;
     saveSettings(store, Common(), {});
-    EXPECT_THAT(
-        store.order,
-        ElementsAre("Settings/UDPPort", "Options/ShowStatusOnPrivate", "Options/BuzzLocal", "Options/BuzzRemote",
-                    "Options/PrivateBehaviour", "Options/DontDestroyWindow", "Options/NotifyWin", "Options/LiveType",
-                    "Options/CloseButtonDoesMinimize", "Options/NotifyMessages", "Options/NotifyMessageText",
-                    "Options/SoundMessage", "Options/SoundOnline", "Options/SoundInvitation", "Settings/MainLeft",
-                    "Settings/MainTop", "Settings/MainHeight", "Settings/AvatarHead", "Settings/AvatarBody",
-                    "Settings/AutoReplyonBusyActive", "Settings/AutoReplyonAwayActive", "Settings/AutoReplyonBusyText",
-                    "Settings/AutoReplyonawayText", "Settings/StandardFontSize", "Settings/StandardFontFace",
-                    "Settings/StandardFontStyle", "Settings/OwnNetworkCard", "Options/RecentEmoji",
-                    "Settings/PersonalizedState1", "Settings/PersonalizedState2", "Settings/PersonalizedState3",
-                    "Settings/PersonalizedState4", "Settings/PersonalizedState5", "Settings/PersonalizedState6",
-                    "Settings/PersonalizedState7", "Settings/PersonalizedState8"));
+    EXPECT_THAT(store.order,
+                ElementsAre("Settings/UDPPort", "Options/ShowStatusOnPrivate", "Options/BuzzLocal",
+                            "Options/BuzzRemote", "Options/PrivateBehaviour", "Options/DontDestroyWindow",
+                            "Options/NotifyWin", "Options/LiveType", "Options/CloseButtonDoesMinimize",
+                            "Options/NotifyMessages", "Options/NotifyMessageText", "Options/SoundMessage",
+                            "Options/SoundOnline", "Options/SoundInvitation", "Settings/MainLeft", "Settings/MainTop",
+                            "Settings/MainHeight", "Settings/AvatarHead", "Settings/AvatarBody",
+                            "Settings/AutoReplyonBusyActive", "Settings/AutoReplyonAwayActive",
+                            "Settings/AutoReplyonBusyText", "Settings/AutoReplyonawayText", "Settings/StandardFontSize",
+                            "Settings/StandardFontFace", "Settings/StandardFontStyle", "Settings/OwnNetworkCard",
+                            "Options/RecentEmoji", "Options/SpellingLanguage", "Options/SpellingWords",
+                            "Settings/PersonalizedState1", "Settings/PersonalizedState2", "Settings/PersonalizedState3",
+                            "Settings/PersonalizedState4", "Settings/PersonalizedState5", "Settings/PersonalizedState6",
+                            "Settings/PersonalizedState7", "Settings/PersonalizedState8"));
 }
 
 TEST(Settings, RecentEmojiAreStoredWithBlanksBetweenAndReadNoLongerThanTheyAre)
@@ -114,6 +115,29 @@ TEST(Settings, RecentEmojiAreStoredWithBlanksBetweenAndReadNoLongerThanTheyAre)
     loadSettings(store, next);
     EXPECT_EQ(next.recentEmoji.size(), 24);
     EXPECT_EQ(next.recentEmoji.front(), QStringLiteral("😀"));
+}
+
+TEST(Settings, WordsThatWereAddedAreReadAsTheyWereSaved)
+{
+    Common common;
+    common.spelling = {QStringLiteral("off"), {QStringLiteral("helo"), QStringLiteral("Grüezi")}};
+    MemoryStore store;
+    saveSettings(store, common, {});
+    store.save();
+    EXPECT_EQ(store.value("Options", "SpellingWords"), "helo Grüezi");
+    Common next;
+    loadSettings(store, next);
+    EXPECT_EQ(next.spelling.language, QStringLiteral("off"));
+    EXPECT_EQ(next.spelling.words, common.spelling.words);
+}
+
+TEST(Settings, OfStoredWordsOnlyThoseCountThatCanBeChecked)
+{
+    MemoryStore store;
+    store.put("Options", "SpellingWords", QStringLiteral(" one\ntwo  one ") + QString(65, u'x'));
+    Common common;
+    loadSettings(store, common);
+    EXPECT_EQ(common.spelling.words, (QStringList{QStringLiteral("one"), QStringLiteral("two")}));
 }
 
 TEST(Settings, ATrueFlagIsStoredAsMinusOneAndReadAsActive)

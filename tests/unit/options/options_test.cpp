@@ -82,7 +82,8 @@ TEST_F(OptionValuesTest, AnotherNicknameIsKeptAndToldAsAfterALogin)
     EXPECT_EQ(copy.view.shownCaption, QStringLiteral("NIMB-Chat 1.2 - Robert"));
     EXPECT_EQ(readSetting(copy.settings, QLatin1String("MyNickName")), QStringLiteral("Robert"));
     copy.advance(std::chrono::seconds(2));
-    EXPECT_THAT(copy.sent(), ElementsAre(To{"10.0.0.2", "?ONLINE 192.168.1.5 HERE Robert"}));
+    EXPECT_THAT(copy.sent(),
+                ElementsAre(To{"10.0.0.2", "?ONLINE 10.0.0.1 HERE Robert"}, To{"10.0.0.2", "!STATUS Online"}));
     controls.nickname.clear();
     EXPECT_EQ(values.CmdOK_Click(controls), std::nullopt);
     EXPECT_EQ(copy.common.ownNickname, copy.common.ownHostName);
