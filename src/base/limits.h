@@ -87,6 +87,8 @@ constexpr std::chrono::milliseconds noticePause{1000};
 constexpr std::size_t waysRemembered = 20000;
 /// Bytes of datagrams that wait for the engine: a burst of 100,000 messages, while memory stays what people expect.
 constexpr std::size_t waitingArrivals = std::size_t{32} * 1024 * 1024;
+/// How long the one who handles what has arrived leaves the processor to the one who reads it.
+constexpr std::chrono::milliseconds readersLead{150};
 /// Lines a second that one sender's datagrams nobody understands may write: they tell that something is wrong there,
 /// and more of them tell nothing more. What is beyond is counted in one line.
 constexpr int unknownLinesPerSecond = 20;

@@ -40,9 +40,10 @@ public:
     public:
         Buffers();
 
+        static constexpr std::size_t count = 64; ///< read at once
+
     private:
         friend class DatagramSocket;
-        static constexpr std::size_t count = 64;
         static constexpr std::size_t size = 65536; ///< the largest datagram that IPv4 can carry fits in
 
         char *buffer(std::size_t index) const { return m_bytes.get() + index * size; }

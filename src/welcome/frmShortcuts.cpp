@@ -35,9 +35,10 @@ constexpr std::array conversationShortcuts{
     Shortcut{"Enter", QT_TRANSLATE_NOOP("frmShortcuts", "Send the message")},
     Shortcut{"Shift+Enter", QT_TRANSLATE_NOOP("frmShortcuts", "Begin another line")},
     Shortcut{"Up", QT_TRANSLATE_NOOP("frmShortcuts", "In an empty box: bring back the last message")},
+    Shortcut{"Ctrl+.", QT_TRANSLATE_NOOP("frmShortcuts", "Choose an emoji")},
     Shortcut{"Ctrl+G", QT_TRANSLATE_NOOP("frmShortcuts", "Buzz (private windows)")},
     Shortcut{"Ctrl+W", QT_TRANSLATE_NOOP("frmShortcuts", "Close the window")},
-    Shortcut{"Esc", QT_TRANSLATE_NOOP("frmShortcuts", "Leave the search or the emoticons")},
+    Shortcut{"Esc", QT_TRANSLATE_NOOP("frmShortcuts", "Leave the search, the emoticons or the emoji")},
 };
 constexpr std::array logShortcuts{
     Shortcut{"Ctrl+F", QT_TRANSLATE_NOOP("frmShortcuts", "Search in the log")},

@@ -80,13 +80,14 @@ QString asHeld(QString text)
     return text.replace(QChar(0xFDD0), QChar(0xFFFD)).replace(QChar(0xFDD1), QChar(0xFFFD));
 }
 
+/// Never destroyed: after main() it would find lists of Qt's that are gone already.
 QApplication &application()
 {
     static int count = 1;
     static char name[] = "log_fuzz";
     static char *arguments[] = {name, nullptr};
-    static QApplication instance(count, arguments);
-    return instance;
+    static auto *const instance = new QApplication(count, arguments);
+    return *instance;
 }
 
 } // namespace
