@@ -31,7 +31,7 @@ constexpr std::array<PickerEntry, 9> pickerEntries = {{
     {QLatin1String(":(("), QLatin1String("i8")},
 }};
 
-constexpr int faceSide = 24; // pixels
+constexpr int pickedFaceSide = 24; // pixels
 /// Narrow enough for all of them in a conference at its smallest.
 constexpr QSize cell(40, 46);
 
@@ -46,7 +46,7 @@ QIcon iconOf(std::size_t face)
 {
     QIcon icon;
     for (const int ratio : {1, 2, 3, 4}) {
-        QPixmap pixmap(QSize(faceSide, faceSide) * ratio);
+        QPixmap pixmap(QSize(pickedFaceSide, pickedFaceSide) * ratio);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
         paintFace(painter, QRectF(pixmap.rect()), face);
@@ -68,7 +68,7 @@ EmoticonPicker::EmoticonPicker(QWidget *parent) : QListWidget(parent)
     setWrapping(false);
     setFlow(QListView::LeftToRight);
     setUniformItemSizes(true);
-    setIconSize(QSize(faceSide, faceSide));
+    setIconSize(QSize(pickedFaceSide, pickedFaceSide));
     setGridSize(cell);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
