@@ -275,6 +275,8 @@ void ConversationPane::keyPressEvent(QKeyEvent *event)
 
 void ConversationPane::Clearbtn_Click()
 {
+    if (m_cleared)
+        m_outtext->bringBack(*m_cleared, m_writtenInstead); // or clearing twice would lose it
     m_cleared = m_outtext->kept();
     m_conversation->Clearbtn_Click();
     m_writtenInstead = m_outtext->textLength();

@@ -263,6 +263,18 @@ TEST_F(FrmPrivate, WhatCameAfterClearingStandsBehindWhatIsBroughtBack)
     EXPECT_EQ(outtext().toPlainText(), before + QStringLiteral("Ann> young\n"));
 }
 
+TEST_F(FrmPrivate, ClearingTwiceLosesNothing)
+{
+    windows.arrive("10.0.0.2", "-old");
+    outtext().writeGathered();
+    const QString before = outtext().toPlainText();
+    control<QToolButton>("clearbtn").click();
+    windows.arrive("10.0.0.2", "-young");
+    control<QToolButton>("clearbtn").click();
+    Q_EMIT control<QLabel>("clearedBand").linkActivated(QStringLiteral("undo"));
+    EXPECT_EQ(outtext().toPlainText(), before + QStringLiteral("Ann> young\n"));
+}
+
 TEST_F(FrmPrivate, AfterTenSecondsWhatWasClearedIsGone)
 {
     windows.arrive("10.0.0.2", "-old");
