@@ -1,7 +1,6 @@
 #include "platform/datagram_reader.h"
 
-#include "base/limits.h"
-
+#include <algorithm>
 #include <cerrno>
 #include <system_error>
 #include <utility>
@@ -10,6 +9,13 @@
 
 namespace nimb
 {
+namespace
+{
+
+/// Taken at a time during a rush: a small receive buffer is full before a whole batch has been handled.
+constexpr std::size_t fewInARush = 16;
+
+} // namespace
 
 DatagramReader::DatagramReader(std::vector<DatagramSocket *> sockets, std::size_t capacity,
                                std::set<Ipv4Address> acquaintances)
@@ -35,23 +41,22 @@ void DatagramReader::setAcquainted(Ipv4Address sender, bool acquainted)
 DatagramReader::Batch DatagramReader::take(std::size_t most)
 {
     std::unique_lock lock(m_mutex);
-    letCatchUp(lock);
+    letReadFirst(lock);
     Batch batch = std::exchange(m_counts, {});
-    batch.arrivals = m_queue.take(most);
+    batch.arrivals = m_queue.take(m_rushes ? std::min(most, fewInARush) : most);
     batch.losses = m_queue.takeLosses();
     if (m_queue.isEmpty())
         m_somethingWaits.calm();
     return batch;
 }
 
-void DatagramReader::letCatchUp(std::unique_lock<std::mutex> &lock)
+void DatagramReader::letReadFirst(std::unique_lock<std::mutex> &lock)
 {
-    const auto now = std::chrono::steady_clock::now();
-    if (!m_isBehind || now < m_nextLead)
+    if (!m_rushes)
         return;
-    const auto end = now + limits::readersLead;
-    if (!m_hasCaughtUp.wait_until(lock, end, [this] { return !m_isBehind; }))
-        m_nextLead = end + limits::readersLead;
+    const auto allowed = m_lead.allowed(std::chrono::steady_clock::now());
+    m_rushIsOver.wait_for(lock, allowed, [this] { return !m_rushes; });
+    m_lead.spent(std::chrono::steady_clock::now());
 }
 
 void DatagramReader::run()
@@ -60,29 +65,30 @@ void DatagramReader::run()
     std::vector<pollfd> watched = {{.fd = m_end.readable(), .events = POLLIN, .revents = 0}};
     for (const DatagramSocket *const socket : m_sockets)
         watched.push_back({.fd = socket->descriptor(), .events = POLLIN, .revents = 0});
-    bool isBehind = false;
+    ArrivalRush rush;
     for (;;) {
-        const int ready = ::poll(watched.data(), watched.size(), isBehind ? 0 : -1);
+        const int ready = ::poll(watched.data(), watched.size(), rush.isOn() ? ArrivalRush::window.count() : -1);
         if (ready < 0)
             continue; // a signal came in between
         if (watched.front().revents != 0)
             return;
-        isBehind = false;
+        std::size_t received = 0;
         for (std::size_t i = 0; ready > 0 && i < m_sockets.size(); ++i)
-            isBehind = (watched[i + 1].revents != 0 && read(*m_sockets[i], buffers)) || isBehind;
-        setBehind(isBehind);
+            received += watched[i + 1].revents != 0 ? read(*m_sockets[i], buffers) : 0;
+        rush.note(received, std::chrono::steady_clock::now());
+        tellOfRush(rush.isOn());
     }
 }
 
-void DatagramReader::setBehind(bool isBehind)
+void DatagramReader::tellOfRush(bool isOn)
 {
     const std::lock_guard lock(m_mutex);
-    m_isBehind = isBehind;
-    if (!isBehind)
-        m_hasCaughtUp.notify_one();
+    if (m_rushes && !isOn)
+        m_rushIsOver.notify_one();
+    m_rushes = isOn;
 }
 
-bool DatagramReader::read(DatagramSocket &socket, DatagramSocket::Buffers &buffers)
+std::size_t DatagramReader::read(DatagramSocket &socket, DatagramSocket::Buffers &buffers)
 {
     const DatagramSocket::Reception reception = socket.receive(buffers);
     const std::lock_guard lock(m_mutex);
@@ -93,7 +99,7 @@ bool DatagramReader::read(DatagramSocket &socket, DatagramSocket::Buffers &buffe
     m_counts.errors += reception.failed ? 1 : 0;
     if (!told && (!m_queue.isEmpty() || m_counts.errors > 0))
         m_somethingWaits.wake();
-    return reception.datagrams.size() == DatagramSocket::Buffers::count;
+    return reception.datagrams.size();
 }
 
 } // namespace nimb

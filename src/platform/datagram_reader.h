@@ -1,11 +1,12 @@
 // The thread that empties the sockets as fast as the system fills them, whatever the rest of the program is doing.
 #pragma once
 
+#include "base/limits.h"
 #include "platform/datagram_socket.h"
 #include "platform/wake_pipe.h"
 #include "protocol/arrival_queue.h"
+#include "protocol/arrival_rush.h"
 
-#include <chrono>
 #include <condition_variable>
 #include <cstdint>
 #include <mutex>
@@ -38,27 +39,27 @@ public:
     int readable() const { return m_somethingWaits.readable(); }
     /// As ArrivalQueue::setAcquainted().
     void setAcquainted(Ipv4Address sender, bool acquainted);
-    /// At most so many datagrams, and all counts since the last call. Waits while the system has more than the reader
-    /// has read, but no longer than limits::readersLead, and not again within that time: with fewer processors than
-    /// busy threads whoever handles a burst takes the time from whoever keeps it from being lost.
+    /// At most so many datagrams, and all counts since the last call. While datagrams rush in it waits, within
+    /// limits::readersLead and limits::readersLeadInAll: with fewer processors than busy threads whoever handles a
+    /// burst takes the time from whoever keeps it from being lost.
     Batch take(std::size_t most);
 
 private:
     void run();
-    /// Whether there may be more.
-    bool read(DatagramSocket &socket, DatagramSocket::Buffers &buffers);
-    void setBehind(bool isBehind);
-    void letCatchUp(std::unique_lock<std::mutex> &lock);
+    /// How many.
+    std::size_t read(DatagramSocket &socket, DatagramSocket::Buffers &buffers);
+    void tellOfRush(bool isOn);
+    void letReadFirst(std::unique_lock<std::mutex> &lock);
 
     std::vector<DatagramSocket *> m_sockets;
     WakePipe m_somethingWaits;
     WakePipe m_end;
     std::mutex m_mutex; ///< guards all that follows but the thread
     ArrivalQueue m_queue;
-    Batch m_counts;          ///< without arrivals
-    bool m_isBehind = false; ///< the last reading was full, so more may be there
-    std::condition_variable m_hasCaughtUp;
-    std::chrono::steady_clock::time_point m_nextLead; ///< not before then
+    Batch m_counts; ///< without arrivals
+    bool m_rushes = false;
+    std::condition_variable m_rushIsOver;
+    ReadersLead m_lead{limits::readersLead, limits::readersLeadInAll};
     std::thread m_thread;
 };
 
