@@ -53,7 +53,7 @@ frmMain &FormOpener::makeMain()
     auto *const log = new RichTextLogEdit(nullptr);
     log->setFrameShape(QFrame::NoFrame);
     log->setInsets(frmMain::logInsetAbove, frmMain::logInsetBelow);
-    m_main = std::make_unique<frmMain>(frmMain::Log{*log, *log});
+    m_main = std::make_unique<frmMain>(*log);
     QObject::connect(log, &RichTextLogEdit::commandPressed, m_main.get(),
                      [this](const QString &command) { runCommand(command); });
     return *m_main;

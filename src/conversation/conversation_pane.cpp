@@ -8,6 +8,7 @@
 #include "conversation/emoticon_picker.h"
 #include "conversation/message_input.h"
 #include "log/RTFSubClass.h"
+#include "log/cleared_band.h"
 #include "log/log_font.h"
 #include "log/rich_text_log.h"
 #include "widgets/accessible_window.h"
@@ -79,7 +80,8 @@ void ConversationPane::buildControls()
     m_logRow->setSpacing(spacing);
     m_logRow->addWidget(m_outtext, 1);
     m_column->addLayout(m_logRow, 1);
-    m_column->addWidget(makeClearedBand());
+    m_cleared = new ClearedBand(*m_outtext, tr("The conversation was cleared."), this);
+    m_column->addWidget(m_cleared->strip());
     m_column->addWidget(ListViewEmot);
     m_column->addWidget(makeToolRow());
     m_column->addWidget(makeCutBand());
@@ -112,19 +114,6 @@ QWidget *ConversationPane::makeCutBand()
     return cutBand;
 }
 
-/// Offers what was cleared as long as it is kept.
-QWidget *ConversationPane::makeClearedBand()
-{
-    clearedBand = named(makeBandWithLink(this), "clearedBand");
-    const QString sentence = tr("The conversation was cleared.");
-    clearedBand->setText(sentence + tr(" <a href=\"undo\">Bring it back</a>"));
-    clearedBand->setAccessibleName(sentence);
-    m_clearedForGood = named(new QTimer(this), "clearedForGood");
-    m_clearedForGood->setSingleShot(true);
-    m_clearedForGood->setInterval(limits::clearedKept);
-    return clearedBand;
-}
-
 QHBoxLayout *ConversationPane::makeInput()
 {
     intext = named(new MessageInput(this), "intext");
@@ -155,8 +144,7 @@ void ConversationPane::connectControls()
     });
     auto *const close = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_W), this);
     connect(close, &QShortcut::activated, this, [this] { window()->close(); });
-    connect(clearedBand, &QLabel::linkActivated, this, &ConversationPane::undoClear);
-    connect(m_clearedForGood, &QTimer::timeout, this, &ConversationPane::endUndo);
+    connect(m_cleared, &ClearedBand::broughtBack, this, &ConversationPane::focusInput);
     if (EmojiTable::isThere()) {
         auto *const find = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Period), this);
         connect(find, &QShortcut::activated, this, &ConversationPane::findEmoji);
@@ -275,30 +263,9 @@ void ConversationPane::keyPressEvent(QKeyEvent *event)
 
 void ConversationPane::Clearbtn_Click()
 {
-    if (m_cleared)
-        m_outtext->bringBack(*m_cleared, m_writtenInstead); // or clearing twice would lose it
-    m_cleared = m_outtext->kept();
-    m_conversation->Clearbtn_Click();
-    m_writtenInstead = m_outtext->textLength();
-    clearedBand->show();
-    m_clearedForGood->start();
+    m_cleared->clear([this] { m_conversation->Clearbtn_Click(); });
     if (intext->isEnabled())
         intext->setFocus();
-}
-
-void ConversationPane::undoClear()
-{
-    if (m_cleared)
-        m_outtext->bringBack(*m_cleared, m_writtenInstead);
-    endUndo();
-    focusInput();
-}
-
-void ConversationPane::endUndo()
-{
-    m_clearedForGood->stop();
-    m_cleared.reset();
-    clearedBand->hide();
 }
 
 void ConversationPane::datetimebtn_Click()

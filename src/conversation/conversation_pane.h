@@ -13,13 +13,13 @@ class QCloseEvent;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
-class QTimer;
 class QToolButton;
 class QVBoxLayout;
 
 namespace nimb
 {
 
+class ClearedBand;
 class Conversation;
 class EmojiPicker;
 class EmojiStock;
@@ -87,14 +87,11 @@ private:
     void buildControls();
     QWidget *makeToolRow();
     QWidget *makeCutBand();
-    QWidget *makeClearedBand();
     QHBoxLayout *makeInput();
     void connectControls();
 
     void sendbtn_Click();
     void Clearbtn_Click();
-    void undoClear();
-    void endUndo();
     void datetimebtn_Click();
     void Emoticbtn_Click(bool shown);
     void ListViewEmot_ItemClick(const QString &emoticon);
@@ -111,8 +108,6 @@ private:
     Conversation *m_conversation; ///< null once the window was let go
     QString m_lastSent;
     QString m_rest; ///< of what was pasted
-    std::optional<RichTextLogEdit::Kept> m_cleared;
-    qsizetype m_writtenInstead = 0; ///< characters that clearing has written
     RTFSubClass &m_links;
     EmojiStock &m_emoji;
 
@@ -123,8 +118,7 @@ private:
     QPushButton *sendbtn = nullptr;
     QLabel *messageCounter = nullptr;
     QLabel *cutBand = nullptr;
-    QLabel *clearedBand = nullptr;
-    QTimer *m_clearedForGood = nullptr;
+    ClearedBand *m_cleared = nullptr;
     QToolButton *clearbtn = nullptr;
     QToolButton *datetimebtn = nullptr;
     QToolButton *Emoticbtn = nullptr;

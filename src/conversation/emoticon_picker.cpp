@@ -3,6 +3,7 @@
 #include "log/emoticon_face.h"
 #include "log/emoticon_tables.h"
 
+#include <QIconEngine>
 #include <QPainter>
 #include <QPixmap>
 
@@ -42,19 +43,37 @@ std::size_t faceFor(QLatin1String emoticon)
     return static_cast<std::size_t>(std::ranges::find(texts, emoticon) - texts.begin()) / 2 + 1;
 }
 
+/// Drawn when it is shown: pictures of nine faces at every scale would take more memory than the rest of a window.
+class FaceEngine : public QIconEngine
+{
+public:
+    explicit FaceEngine(std::size_t face) : m_face(face) { }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode, QIcon::State) override
+    {
+        paintFace(*painter, QRectF(rect), m_face);
+    }
+
+    /// size: device pixels.
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap result(size);
+        result.fill(Qt::transparent);
+        QPainter painter(&result);
+        paint(&painter, result.rect(), mode, state);
+        return result;
+    }
+
+    QString key() const override { return QStringLiteral("FaceEngine"); }
+    QIconEngine *clone() const override { return new FaceEngine(*this); }
+
+private:
+    std::size_t m_face;
+};
+
 QIcon iconOf(std::size_t face)
 {
-    QIcon icon;
-    for (const int ratio : {1, 2, 3, 4}) {
-        QPixmap pixmap(QSize(pickedFaceSide, pickedFaceSide) * ratio);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paintFace(painter, QRectF(pixmap.rect()), face);
-        painter.end();
-        pixmap.setDevicePixelRatio(ratio);
-        icon.addPixmap(pixmap);
-    }
-    return icon;
+    return QIcon(new FaceEngine(face));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "main_window/frmMain.h"
 
+#include "log/cleared_band.h"
 #include "main_window/auto_reply_frame.h"
 #include "main_window/contact_commands.h"
 #include "main_window/contact_view.h"
@@ -52,7 +53,7 @@ QLabel *panel(QWidget *bar, const char *name)
 
 } // namespace
 
-frmMain::frmMain(const Log &log) : m_menus(*this), m_outtextWidget(log.widget), m_outtext(log.text)
+frmMain::frmMain(RichTextLogEdit &log) : m_menus(*this), m_outtext(log)
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("NIMB-Chat 1.2"));
@@ -71,9 +72,11 @@ void frmMain::buildControls()
     buildContacts(area);
     buildOwnState(area);
 
-    m_outtextWidget.setParent(area);
-    m_outtextWidget.setObjectName(QStringLiteral("outtext"));
-    m_outtextWidget.setAccessibleName(tr("Log"));
+    m_outtext.setParent(area);
+    m_outtext.setObjectName(QStringLiteral("outtext"));
+    m_outtext.setAccessibleName(tr("Log"));
+    m_cleared = new ClearedBand(m_outtext, tr("The log was cleared."), area);
+    m_cleared->strip()->setWordWrap(false);
     clearbtn = named(new QPushButton(namedPicture(QStringLiteral("clear")), tr("Clear"), area), "clearbtn");
     buildStatusBar();
     orderControls();
@@ -119,7 +122,7 @@ void frmMain::orderControls()
     QWidget *previous = ImageCombo1;
     for (QWidget *const next : std::initializer_list<QWidget *>{
              m_personalizedState, TabStrip1, &ListView1->filterBox(), ListView1, m_autoReply, RescanBtn, buzzmute,
-             ListDetails, ItemDetailstxt, AutoReplyOn, Autoreplybtn, &m_outtextWidget, clearbtn}) {
+             ListDetails, ItemDetailstxt, AutoReplyOn, Autoreplybtn, &m_outtext, clearbtn}) {
         setTabOrder(previous, next);
         previous = next;
     }
@@ -438,11 +441,20 @@ void frmMain::Form_Resize()
 
     const int logLeft = pixels(main_layout::widthWithoutLog);
     const int logWidth = pixels(main_layout::widthWithLog) - logLeft - margin;
-    m_outtextWidget.setGeometry(logLeft, 0, logWidth, pixels(main_layout::logHeight(windowHeight)));
+    m_outtext.setGeometry(logLeft, 0, logWidth, pixels(main_layout::logHeight(windowHeight)));
     const QSize button = clearbtn->sizeHint();
     clearbtn->setGeometry(logLeft + logWidth - button.width(), RescanBtn->y(), button.width(), bottomRowHeight());
-    m_outtextWidget.setVisible(logShown);
+    m_outtext.setVisible(logShown);
     clearbtn->setVisible(logShown);
+    placeClearedStrip();
+}
+
+/// Beside the button that clears, for the log's height is fixed.
+void frmMain::placeClearedStrip()
+{
+    QLabel &strip = *m_cleared->strip();
+    const int left = m_outtext.x() + margin;
+    strip.setGeometry(left, clearbtn->y(), clearbtn->x() - spacing - left, clearbtn->height());
 }
 
 /// Two rows share what the fixed place of the first one leaves above the status bar.
@@ -585,9 +597,14 @@ void frmMain::setRescanToolTip(const QString &text)
     RescanBtn->setToolTip(text);
 }
 
+RichTextLog &frmMain::outtext()
+{
+    return m_outtext;
+}
+
 void frmMain::clearbtn_Click()
 {
-    m_engine->log.clear();
+    m_cleared->clear([this] { m_engine->log.clear(); });
 }
 
 // --- the own state

@@ -27,6 +27,7 @@ namespace nimb
 class Announcement;
 class AutoreplyFrame;
 class AvatarStore;
+class ClearedBand;
 class ContactCommands;
 class ContactList;
 class ContactView;
@@ -34,6 +35,7 @@ class MainLog;
 class MainWindow;
 class OwnState;
 class PersonalizedStateFrame;
+class RichTextLogEdit;
 
 /// The engine behind the main window; outlives it.
 struct MainWindowEngine {
@@ -56,16 +58,12 @@ class frmMain : public QMainWindow, public MainWindowView
     Q_OBJECT
 
 public:
-    /// A log and the widget that shows it; the window becomes the widget's parent.
-    struct Log {
-        QWidget &widget;
-        RichTextLog &text;
-    };
     /// Empty strips above and below the text of the log, for its fixed height reaches beyond the list's.
     static constexpr int logInsetAbove = 9;
     static constexpr int logInsetBelow = 11;
 
-    explicit frmMain(const Log &log);
+    /// Becomes the parent of the log.
+    explicit frmMain(RichTextLogEdit &log);
 
     /// ended: called once, when the window has been unloaded.
     void connectControls(const MainWindowEngine &engine, std::function<void()> ended);
@@ -77,7 +75,7 @@ public:
     /// The same, with this contact selected where there is one.
     void showContact(const QString &ip);
 
-    RichTextLog &outtext() override { return m_outtext; }
+    RichTextLog &outtext() override;
     void setRescanEnabled(bool enabled) override;
     void refreshContextMenu() override;
     void addOwnState(const OwnStateEntry &entry) override;
@@ -120,6 +118,7 @@ private:
     void Form_Resize();
     int bottomRowHeight() const;
     void placeBottomRows();
+    void placeClearedStrip();
     void placePanels();
     void noteGeometry();
     void moveOntoScreen();
@@ -148,8 +147,8 @@ private:
     WindowPlace m_place;
 
     MainMenus m_menus;
-    QWidget &m_outtextWidget;
-    RichTextLog &m_outtext;
+    RichTextLogEdit &m_outtext;
+    ClearedBand *m_cleared = nullptr;
     QComboBox *ImageCombo1 = nullptr;
     QTabBar *TabStrip1 = nullptr;
     ContactView *ListView1 = nullptr;

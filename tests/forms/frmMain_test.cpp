@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
@@ -14,6 +15,8 @@
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTabBar>
+#include <QTextEdit>
+#include <QTimer>
 #include <QToolButton>
 #include <QWheelEvent>
 
@@ -237,6 +240,32 @@ TEST_F(FrmMain, TheLogBeginsWithItsBannerAndIsClearedDownToIt)
     windows.arrive("10.0.0.2", "nonsense");
     windows.control<QPushButton>("clearbtn").click();
     EXPECT_EQ(windows.logText(), QStringLiteral("« NIMB-Chat [today:21/11/2026 - now:14:05:10] Ready »\n"));
+}
+
+TEST_F(FrmMain, WhatWasClearedFromTheLogCanBeBroughtBackForTenSeconds)
+{
+    windows.arrive("10.0.0.2", "nonsense");
+    const QString before = windows.logText();
+    auto &strip = windows.control<QLabel>("clearedBand");
+    EXPECT_FALSE(strip.isVisible());
+    windows.control<QPushButton>("clearbtn").click();
+    EXPECT_TRUE(strip.isVisible());
+    EXPECT_FALSE(windows.logText().contains(QStringLiteral("nonsense")));
+    EXPECT_EQ(windows.main().findChild<QTimer *>(QStringLiteral("clearedForGood"))->interval(), 10000);
+    EXPECT_LE(strip.sizeHint().width(), strip.width());
+    Q_EMIT strip.linkActivated(QStringLiteral("undo"));
+    EXPECT_EQ(windows.logText(), before);
+    EXPECT_FALSE(strip.isVisible());
+}
+
+TEST_F(FrmMain, TheStripThatBringsTheLogBackLiesOnNothing)
+{
+    windows.control<QPushButton>("clearbtn").click();
+    const auto &strip = windows.control<QLabel>("clearedBand");
+    const auto &button = windows.control<QPushButton>("clearbtn");
+    EXPECT_TRUE(strip.parentWidget()->rect().contains(strip.geometry()));
+    EXPECT_FALSE(strip.geometry().intersects(button.geometry()));
+    EXPECT_FALSE(strip.geometry().intersects(windows.control<QTextEdit>("outtext").geometry()));
 }
 
 TEST_F(FrmMain, ADoubleClickOpensAPrivateWindow)
