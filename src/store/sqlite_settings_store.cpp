@@ -1,14 +1,12 @@
 #include "store/sqlite_settings_store.h"
 
 #include "platform/profile_folder.h"
+#include "store/sqlite.h"
 
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStringDecoder>
-
-#include <sqlite3.h>
 
 #include <array>
 
@@ -16,6 +14,12 @@ namespace nimb
 {
 namespace
 {
+
+using sqlite::check;
+using sqlite::execute;
+using sqlite::Failure;
+using sqlite::reasonFor;
+using sqlite::Statement;
 
 constexpr int busyTimeoutMs = 2000;
 /// Of what is kept while the user works: it can wait for the next time better than the user can.
@@ -51,142 +55,6 @@ constexpr std::array createSumTriggers
        "CREATE TRIGGER IF NOT EXISTS sum_delete AFTER DELETE ON settings BEGIN DELETE FROM sums "
        "WHERE section = OLD.section; END"};
 constexpr auto putSum = "INSERT OR REPLACE INTO sums(section, sum) VALUES(?1, ?2)";
-
-/// Thrown and caught within this file only.
-struct Failure {
-    QString reason;
-    bool damaged = false; ///< the file holds something that it should not
-};
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("SqliteSettingsStore", text);
-}
-
-/// Why the system refused, as far as anybody remembers: what failed while a transaction was committed is known to the
-/// file alone.
-int systemErrorOf(sqlite3 *database)
-{
-    int error = sqlite3_system_errno(database);
-    if (error == 0)
-        sqlite3_file_control(database, "main", SQLITE_FCNTL_LAST_ERRNO, &error);
-    return error;
-}
-
-/// Why the last call on the database failed, to be put in brackets. The code is an extended one.
-QString reasonFor(int code, sqlite3 *database)
-{
-    const int systemError = database != nullptr ? systemErrorOf(database) : 0;
-    switch (code & 0xff) {
-    case SQLITE_FULL:
-        return translated(QT_TRANSLATE_NOOP("SqliteSettingsStore", "the disk is full"));
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-        return translated(QT_TRANSLATE_NOOP("SqliteSettingsStore", "another program is using the file"));
-    case SQLITE_CORRUPT:
-    case SQLITE_NOTADB:
-        return translated(QT_TRANSLATE_NOOP("SqliteSettingsStore", "the file is damaged or holds something else"));
-    case SQLITE_NOMEM:
-        return translated(QT_TRANSLATE_NOOP("SqliteSettingsStore", "memory has run out"));
-    case SQLITE_READONLY:
-        if (code == SQLITE_READONLY_DBMOVED)
-            return translated(QT_TRANSLATE_NOOP("SqliteSettingsStore", "the file has been moved or replaced"));
-        return translated(QT_TRANSLATE_NOOP("SqliteSettingsStore", "the file or its folder is read-only"));
-    case SQLITE_IOERR:
-    case SQLITE_CANTOPEN:
-        if (systemError != 0)
-            return qt_error_string(systemError);
-        break;
-    default:
-        break;
-    }
-    return QString::fromUtf8(database != nullptr ? sqlite3_errmsg(database) : sqlite3_errstr(code));
-}
-
-void check(int code, sqlite3 *database)
-{
-    const int kind = code & 0xff;
-    if (code != SQLITE_OK)
-        throw Failure{reasonFor(code, database), kind == SQLITE_CORRUPT || kind == SQLITE_NOTADB};
-}
-
-/// One prepared statement. Texts go in and out with their lengths, so that they may hold U+0000.
-class Statement
-{
-public:
-    Statement(sqlite3 *database, const char *sql) : m_database(database)
-    {
-        check(sqlite3_prepare_v2(database, sql, -1, &m_statement, nullptr), database);
-    }
-    // What finalising returns is the failure of the last step, which was looked at when it happened.
-    ~Statement() { sqlite3_finalize(m_statement); }
-    Q_DISABLE_COPY_MOVE(Statement)
-
-    /// Runs to the next row; false when there is none left.
-    bool next()
-    {
-        const int code = sqlite3_step(m_statement);
-        if (code != SQLITE_ROW && code != SQLITE_DONE)
-            check(code, m_database);
-        return code == SQLITE_ROW;
-    }
-
-    bool isNull(int column) const { return sqlite3_column_type(m_statement, column) == SQLITE_NULL; }
-
-    QString text(int column) const
-    {
-        const unsigned char *bytes = sqlite3_column_text(m_statement, column);
-        if (bytes == nullptr)
-            throw Failure{reasonFor(SQLITE_NOMEM, m_database)}; // a NULL is sorted out by isNull()
-        const int size = sqlite3_column_bytes(m_statement, column);
-        // A first character U+FEFF is a character like any other.
-        QStringDecoder decoder(QStringDecoder::Utf8,
-                               QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
-        return decoder(QByteArrayView(bytes, size));
-    }
-
-    /// Of the text as UTF-8; a NULL has none.
-    QByteArray bytes(int column) const
-    {
-        if (isNull(column))
-            return {};
-        const unsigned char *bytes = sqlite3_column_text(m_statement, column);
-        if (bytes == nullptr)
-            throw Failure{reasonFor(SQLITE_NOMEM, m_database)};
-        return QByteArray(reinterpret_cast<const char *>(bytes), sqlite3_column_bytes(m_statement, column));
-    }
-
-    /// The bytes must live until the statement has run.
-    void bind(int parameter, const QByteArray &utf8)
-    {
-        const auto size = static_cast<sqlite3_uint64>(utf8.size());
-        check(sqlite3_bind_text64(m_statement, parameter, utf8.constData(), size, SQLITE_STATIC, SQLITE_UTF8),
-              m_database);
-    }
-
-    void bindNull(int parameter) { check(sqlite3_bind_null(m_statement, parameter), m_database); }
-
-    /// Makes it ready to run once more.
-    void reset() { check(sqlite3_reset(m_statement), m_database); }
-
-private:
-    sqlite3 *m_database;
-    sqlite3_stmt *m_statement = nullptr;
-};
-
-void execute(sqlite3 *database, const char *sql)
-{
-    check(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), database);
-}
-
-QByteArray nameForSqlite(const QString &path)
-{
-#ifdef Q_OS_WIN
-    return path.toUtf8();
-#else
-    return QFile::encodeName(path);
-#endif
-}
 
 Failure damaged()
 {
@@ -272,11 +140,6 @@ QByteArray sumOf(const QByteArray &section, const QByteArray &key, const std::op
 }
 
 } // namespace
-
-void SqliteSettingsStore::CloseDatabase::operator()(sqlite3 *database) const
-{
-    sqlite3_close_v2(database);
-}
 
 SqliteSettingsStore::SqliteSettingsStore(const QString &folder, Access access)
     : m_folder(QDir(folder).absolutePath()), m_file(m_folder + QStringLiteral("/settings.sqlite3")), m_access(access)
@@ -456,7 +319,7 @@ SqliteSettingsStore::Database SqliteSettingsStore::openDatabase(const QString &f
 {
     sqlite3 *opened = nullptr;
     const int flags = access == Access::readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
-    const int code = sqlite3_open_v2(nameForSqlite(file).constData(), &opened, flags, nullptr);
+    const int code = sqlite3_open_v2(sqlite::fileName(file).constData(), &opened, flags, nullptr);
     Database database(opened); // to be closed even when it could not be opened
     check(code, opened);
     check(sqlite3_extended_result_codes(opened, 1), opened);

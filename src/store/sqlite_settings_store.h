@@ -3,16 +3,14 @@
 
 #include "base/good_copy.h"
 #include "base/settings_store.h"
+#include "store/sqlite.h"
 
 #include <QCoreApplication>
 #include <QMap>
 #include <QStringList>
 
 #include <functional>
-#include <memory>
 #include <utility>
-
-struct sqlite3;
 
 namespace nimb
 {
@@ -60,10 +58,7 @@ private:
     using Values = QMap<Name, QString>;
     using Changes = QMap<Name, std::optional<QString>>;
 
-    struct CloseDatabase {
-        void operator()(sqlite3 *database) const;
-    };
-    using Database = std::unique_ptr<sqlite3, CloseDatabase>;
+    using Database = sqlite::Database;
     /// What stands in a file.
     struct Contents {
         Values values;

@@ -1,0 +1,515 @@
+#include "history/history_file.h"
+
+#include "platform/profile_folder.h"
+
+#include <QDir>
+#include <QHash>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace nimb
+{
+namespace
+{
+
+using sqlite::check;
+using sqlite::Database;
+using sqlite::execute;
+using sqlite::Failure;
+using sqlite::Statement;
+
+constexpr int waitForOthersMs = 2000;
+/// What `PRAGMA user_version` says. Whoever changes a table adds a step to it, and a test with a file of before.
+constexpr int formatNumber = 1;
+
+/// Two indices, for no one finds all: the first by words from their beginnings, without regard to accents, the second
+/// by any three characters that follow each other, as it takes to find a part of a word or something in a script
+/// without blanks. Both hold no texts of their own.
+constexpr std::array tables = {
+    "CREATE TABLE conversations(id INTEGER PRIMARY KEY, kind INTEGER NOT NULL, address TEXT NOT NULL, "
+    "begun INTEGER NOT NULL, name TEXT NOT NULL, UNIQUE(kind, address, begun))",
+    "CREATE TABLE messages(id INTEGER PRIMARY KEY AUTOINCREMENT, conversation INTEGER NOT NULL, time INTEGER NOT NULL, "
+    "own INTEGER NOT NULL, address TEXT NOT NULL, writer TEXT NOT NULL, workstation TEXT NOT NULL, text TEXT NOT NULL)",
+    "CREATE INDEX messages_of ON messages(conversation, id)",
+    "CREATE INDEX messages_at ON messages(time)",
+    "CREATE VIRTUAL TABLE words USING fts5(text, content = 'messages', content_rowid = 'id', "
+    "tokenize = 'unicode61 remove_diacritics 2', prefix = '2 3')",
+    "CREATE VIRTUAL TABLE parts USING fts5(text, content = 'messages', content_rowid = 'id', tokenize = 'trigram')",
+    "CREATE TRIGGER message_in AFTER INSERT ON messages BEGIN "
+    "INSERT INTO words(rowid, text) VALUES(NEW.id, NEW.text); "
+    "INSERT INTO parts(rowid, text) VALUES(NEW.id, NEW.text); END",
+    "CREATE TRIGGER message_out AFTER DELETE ON messages BEGIN "
+    "INSERT INTO words(words, rowid, text) VALUES('delete', OLD.id, OLD.text); "
+    "INSERT INTO parts(parts, rowid, text) VALUES('delete', OLD.id, OLD.text); END",
+};
+
+constexpr auto putMessage = "INSERT INTO messages(conversation, time, own, address, writer, workstation, text) "
+                            "VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7)";
+constexpr auto columns = "SELECT m.id, m.conversation, m.time, m.own, m.address, m.writer, m.workstation, m.text ";
+
+std::int64_t milliseconds(const QDateTime &time)
+{
+    return time.isValid() ? time.toMSecsSinceEpoch() : 0;
+}
+
+QDateTime timeOf(std::int64_t milliseconds)
+{
+    return QDateTime::fromMSecsSinceEpoch(milliseconds);
+}
+
+void bindOptional(Statement &statement, int parameter, const std::optional<std::int64_t> &number)
+{
+    if (number)
+        statement.bind(parameter, *number);
+    else
+        statement.bindNull(parameter);
+}
+
+void bindTime(Statement &statement, int parameter, const QDateTime &time)
+{
+    bindOptional(statement, parameter, time.isValid() ? std::optional(milliseconds(time)) : std::nullopt);
+}
+
+/// Only what restricts stands in it, for a condition that may hold nothing keeps indices from being used. number: what
+/// gives the number of a message.
+QByteArray conditions(const HistoryQuestion &question, const QByteArray &number)
+{
+    QByteArray all = " WHERE 1";
+    if (question.conversation)
+        all += " AND m.conversation = ?1";
+    if (question.from.isValid())
+        all += " AND m.time >= ?2";
+    if (question.until.isValid())
+        all += " AND m.time < ?3";
+    if (question.before)
+        all += " AND " + number + " < ?4";
+    if (question.after)
+        all += " AND " + number + " > ?5";
+    return all;
+}
+
+/// In the order in which it is limited.
+QByteArray ordered(const HistoryQuestion &question, const QByteArray &number)
+{
+    return " ORDER BY " + number + (question.after ? " ASC" : " DESC") + " LIMIT ?6";
+}
+
+void bindRange(Statement &statement, const HistoryQuestion &question)
+{
+    bindOptional(statement, 1, question.conversation);
+    bindTime(statement, 2, question.from);
+    bindTime(statement, 3, question.until);
+    bindOptional(statement, 4, question.before);
+    bindOptional(statement, 5, question.after);
+    statement.bind(6, std::int64_t{question.most});
+}
+
+StoredMessage messageIn(const Statement &row)
+{
+    return {.number = row.number(0),
+            .conversation = row.number(1),
+            .message = {.time = timeOf(row.number(2)),
+                        .isOwn = row.number(3) != 0,
+                        .address = row.text(4),
+                        .writer = row.text(5),
+                        .workstation = row.text(6),
+                        .text = row.text(7)}};
+}
+
+void putTexts(Statement &put, const KeptMessage &message, std::int64_t conversation)
+{
+    const QByteArray address = message.address.toUtf8(), writer = message.writer.toUtf8();
+    const QByteArray workstation = message.workstation.toUtf8(), text = message.text.toUtf8();
+    put.bind(1, conversation);
+    put.bind(2, milliseconds(message.time));
+    put.bind(3, std::int64_t{message.isOwn});
+    put.bind(4, address);
+    put.bind(5, writer);
+    put.bind(6, workstation);
+    put.bind(7, text);
+    put.next();
+    put.reset();
+}
+
+QStringList wordsOf(const QString &text)
+{
+    static const QRegularExpression blanks(QStringLiteral("\\s+"));
+    return text.split(blanks, Qt::SkipEmptyParts);
+}
+
+/// A word as a full-text index takes it literally.
+QString quoted(QString word)
+{
+    word.replace(u'\0', u' ');
+    return u'"' + word.replace(u'"', QLatin1String("\"\"")) + u'"';
+}
+
+/// The index of words takes everything else for a gap between two.
+bool isPlain(const QString &word)
+{
+    return std::ranges::all_of(word, [](QChar c) { return c.isLetterOrNumber() || c.isMark() || c.isSurrogate(); });
+}
+
+/// For LIKE with the escape character '\\'.
+QString pattern(QString word)
+{
+    for (const QChar special : {u'\\', u'%', u'_'})
+        word.replace(special, QString(u'\\') + special);
+    return u'%' + word + u'%';
+}
+
+constexpr int shortestPart = 3; ///< characters that the index of parts can find
+
+/// How the words of a question are looked for: in an index where it can find them, or text by text.
+struct Search {
+    QString beginnings;   ///< for the index of words; empty: it finds nothing
+    QString parts;        ///< for the index of parts; empty: it cannot find all
+    QStringList patterns; ///< what every text is compared with where neither index can
+};
+
+Search searchFor(const QString &text)
+{
+    Search search;
+    QStringList beginnings, parts;
+    bool partsFindAll = true, wordsFindAll = true;
+    for (const QString &word : wordsOf(text)) {
+        wordsFindAll = wordsFindAll && isPlain(word);
+        partsFindAll = partsFindAll && word.toUcs4().size() >= shortestPart;
+        beginnings += quoted(word) + u'*';
+        parts += quoted(word);
+        search.patterns += pattern(word);
+    }
+    const QString all = QStringLiteral(" AND ");
+    if (wordsFindAll)
+        search.beginnings = beginnings.join(all);
+    if (partsFindAll)
+        search.parts = parts.join(all);
+    return search;
+}
+
+/// The script of a short word has no blanks between words, so that the index of words would miss it.
+bool needsComparing(const Search &search, const QString &text)
+{
+    if (!search.parts.isEmpty())
+        return false;
+    return search.beginnings.isEmpty() || std::ranges::any_of(text, [](QChar c) {
+               return c.script() == QChar::Script_Han || c.script() == QChar::Script_Hiragana
+                   || c.script() == QChar::Script_Katakana || c.script() == QChar::Script_Thai;
+           });
+}
+
+/// As far as it can be read.
+QHash<std::int64_t, KeptConversation> readableConversations(sqlite3 *database)
+{
+    QHash<std::int64_t, KeptConversation> found;
+    try {
+        Statement rows(database, "SELECT id, kind, address, begun, name FROM conversations");
+        while (rows.next()) {
+            const bool isConference = rows.number(1) != 0;
+            found.insert(rows.number(0),
+                         {.kind = isConference ? KeptConversation::Kind::conference : KeptConversation::Kind::contact,
+                          .address = rows.text(2),
+                          .begun = isConference ? timeOf(rows.number(3)) : QDateTime(),
+                          .name = rows.text(4)});
+        }
+    } catch (const Failure &) {
+        // The messages may be readable all the same.
+    }
+    return found;
+}
+
+/// Of the messages between these numbers the first ones in this order that can be read.
+std::vector<StoredMessage> readablePiece(sqlite3 *database, std::int64_t first, std::int64_t last,
+                                         const QByteArray &order)
+{
+    constexpr int pieceSize = 500;
+    std::vector<StoredMessage> piece;
+    try {
+        const QByteArray sql = columns + QByteArray("FROM messages m WHERE m.id > ?1 AND m.id < ?2 ORDER BY m.id ")
+            + order + " LIMIT " + QByteArray::number(pieceSize);
+        Statement rows(database, sql.constData());
+        rows.bind(1, first);
+        rows.bind(2, last);
+        while (rows.next())
+            piece.push_back(messageIn(rows));
+    } catch (const Failure &) {
+        // What came before it is there.
+    }
+    return piece;
+}
+
+void sortAndCut(std::vector<StoredMessage> &messages, const HistoryQuestion &question)
+{
+    std::ranges::sort(messages, {}, &StoredMessage::number);
+    const auto twice = std::ranges::unique(messages, {}, &StoredMessage::number);
+    messages.erase(twice.begin(), twice.end());
+    const auto most = static_cast<std::size_t>(question.most);
+    if (messages.size() <= most)
+        return;
+    if (question.after)
+        messages.resize(most);
+    else
+        messages.erase(messages.begin(), messages.end() - question.most);
+}
+
+} // namespace
+
+HistoryFile::HistoryFile(const QString &folder)
+    : m_folder(QDir(folder).absolutePath()), m_file(m_folder + QStringLiteral("/history.sqlite3"))
+{
+    if (const auto reason = makePrivateFolder(m_folder))
+        throw Failure{*reason};
+    if (const auto reason = makePrivateFile(m_file))
+        throw Failure{*reason};
+    takeFileFromOthers(m_file);
+    try {
+        open();
+    } catch (const Failure &failure) {
+        if (!failure.damaged)
+            throw;
+        setAside();
+    }
+}
+
+void HistoryFile::setAside()
+{
+    m_database.reset();
+    const QString stamp = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss-zzz"));
+    const QString aside = QStringLiteral("%1/history.damaged-%2.sqlite3").arg(m_folder, stamp);
+    for (const char *const suffix : {"", "-wal"}) {
+        const QString end = QLatin1String(suffix);
+        if (!QFile::exists(m_file + end))
+            continue;
+        if (const auto reason = renameForGood(m_file + end, aside + end))
+            throw Failure{*reason};
+    }
+    if (const auto reason = makePrivateFile(m_file))
+        throw Failure{*reason};
+    open();
+    const int saved = salvage(aside);
+    m_takenOver = tr("The history was damaged, so a new one has been begun; %1 messages that could still be read went "
+                     "into it. The old file is %2.")
+                      .arg(saved)
+                      .arg(QDir::toNativeSeparators(aside));
+}
+
+void HistoryFile::open()
+{
+    sqlite3 *opened = nullptr;
+    const int code = sqlite3_open_v2(sqlite::fileName(m_file).constData(), &opened,
+                                     SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+    m_database.reset(opened);
+    check(code, opened);
+    check(sqlite3_extended_result_codes(opened, 1), opened);
+    check(sqlite3_busy_timeout(opened, waitForOthersMs), opened);
+    execute(opened, "PRAGMA locking_mode = EXCLUSIVE"); // a profile belongs to one copy, which needs no shared memory
+    execute(opened, "PRAGMA journal_mode = WAL");
+    execute(opened, "PRAGMA synchronous = FULL");
+    execute(opened, "PRAGMA secure_delete = ON"); // what the user erases is to be gone
+    makeTables();
+}
+
+void HistoryFile::makeTables()
+{
+    int format = 0;
+    {
+        Statement version(m_database.get(), "PRAGMA user_version");
+        version.next();
+        format = static_cast<int>(version.number(0));
+    }
+    if (format > formatNumber)
+        throw Failure{tr("a newer version of NIMB-Chat has written it")};
+    if (format == formatNumber) {
+        Statement look(m_database.get(),
+                       (QByteArray(columns) + "FROM messages m").constData()); // fails where it is not ours
+        return;
+    }
+    inTransaction([this] {
+        for (const char *const table : tables)
+            execute(m_database.get(), table);
+        execute(m_database.get(), QByteArray("PRAGMA user_version = " + QByteArray::number(formatNumber)).constData());
+    });
+}
+
+/// How many messages were taken over. What lies behind the damage is read from the other end.
+int HistoryFile::salvage(const QString &wreck)
+{
+    sqlite3 *opened = nullptr;
+    const int code = sqlite3_open_v2(sqlite::fileName(wreck).constData(), &opened, SQLITE_OPEN_READWRITE, nullptr);
+    const Database old(opened);
+    if (code != SQLITE_OK)
+        return 0;
+    const QHash<std::int64_t, KeptConversation> conversations = readableConversations(opened);
+    int saved = 0;
+    std::int64_t first = 0, last = std::numeric_limits<std::int64_t>::max();
+    for (const char *const order : {"ASC", "DESC"}) {
+        for (;;) {
+            const std::vector<StoredMessage> piece = readablePiece(opened, first, last, order);
+            if (piece.empty())
+                break;
+            std::vector<Entry> entries;
+            for (const StoredMessage &found : piece)
+                entries.push_back({conversations.value(found.conversation), found.message});
+            write(entries);
+            saved += static_cast<int>(piece.size());
+            (QByteArrayView(order) == "ASC" ? first : last) = piece.back().number;
+        }
+    }
+    return saved;
+}
+
+void HistoryFile::inTransaction(const std::function<void()> &work)
+{
+    execute(m_database.get(), "BEGIN IMMEDIATE");
+    try {
+        work();
+        execute(m_database.get(), "COMMIT");
+    } catch (const Failure &) {
+        sqlite3_exec(m_database.get(), "ROLLBACK", nullptr, nullptr, nullptr);
+        throw;
+    }
+}
+
+void HistoryFile::write(std::span<const Entry> entries)
+{
+    inTransaction([&] {
+        Statement put(m_database.get(), putMessage);
+        for (const Entry &entry : entries)
+            putTexts(put, entry.message, conversationFor(entry.conversation));
+    });
+}
+
+std::int64_t HistoryFile::conversationFor(const KeptConversation &conversation)
+{
+    const QByteArray address = conversation.address.toUtf8(), name = conversation.name.toUtf8();
+    Statement put(m_database.get(),
+                  "INSERT INTO conversations(kind, address, begun, name) VALUES(?1, ?2, ?3, ?4) "
+                  "ON CONFLICT(kind, address, begun) DO UPDATE SET name = excluded.name RETURNING id");
+    put.bind(1, static_cast<std::int64_t>(conversation.kind));
+    put.bind(2, address);
+    put.bind(3, milliseconds(conversation.begun));
+    put.bind(4, name);
+    put.next();
+    const std::int64_t number = put.number(0);
+    put.next();
+    return number;
+}
+
+std::optional<std::int64_t> HistoryFile::numberOf(const KeptConversation &conversation)
+{
+    const QByteArray address = conversation.address.toUtf8();
+    Statement get(m_database.get(), "SELECT id FROM conversations WHERE kind = ?1 AND address = ?2 AND begun = ?3");
+    get.bind(1, static_cast<std::int64_t>(conversation.kind));
+    get.bind(2, address);
+    get.bind(3, milliseconds(conversation.begun));
+    return get.next() ? std::optional(get.number(0)) : std::nullopt;
+}
+
+std::vector<StoredMessage> HistoryFile::find(const HistoryQuestion &question)
+{
+    std::vector<StoredMessage> found;
+    if (wordsOf(question.words).isEmpty())
+        compare(question, {}, found);
+    else
+        search(question, found);
+    sortAndCut(found, question);
+    return found;
+}
+
+void HistoryFile::search(const HistoryQuestion &question, std::vector<StoredMessage> &found)
+{
+    const Search search = searchFor(question.words);
+    if (!search.beginnings.isEmpty())
+        look("words", search.beginnings, question, found);
+    if (!search.parts.isEmpty())
+        look("parts", search.parts, question, found);
+    if (needsComparing(search, question.words))
+        compare(question, search.patterns, found);
+}
+
+/// An index gives its rows in the order of their numbers, so that it is read no further than the limit.
+void HistoryFile::look(const QByteArray &index, const QString &expression, const HistoryQuestion &question,
+                       std::vector<StoredMessage> &found)
+{
+    const QByteArray number = "f.rowid";
+    const QByteArray sql = columns + ("FROM " + index + " f CROSS JOIN messages m ON m.id = f.rowid")
+        + conditions(question, number) + " AND " + index + " MATCH ?7" + ordered(question, number);
+    Statement get(m_database.get(), sql.constData());
+    bindRange(get, question);
+    const QByteArray bytes = expression.toUtf8();
+    get.bind(7, bytes);
+    while (get.next())
+        found.push_back(messageIn(get));
+}
+
+/// Text by text with all patterns; without any, all texts fit.
+void HistoryFile::compare(const HistoryQuestion &question, const QStringList &patterns,
+                          std::vector<StoredMessage> &found)
+{
+    constexpr int firstPattern = 7;
+    const QByteArray number = "m.id";
+    QList<QByteArray> bytes;
+    QByteArray sql = columns + ("FROM messages m" + conditions(question, number));
+    for (const QString &each : patterns) {
+        sql += " AND m.text LIKE ?" + QByteArray::number(firstPattern + bytes.size()) + " ESCAPE '\\'";
+        bytes += each.toUtf8();
+    }
+    Statement get(m_database.get(), (sql + ordered(question, number)).constData());
+    bindRange(get, question);
+    for (qsizetype i = 0; i < bytes.size(); ++i)
+        get.bind(static_cast<int>(firstPattern + i), bytes[i]);
+    while (get.next())
+        found.push_back(messageIn(get));
+}
+
+std::vector<StoredConversation> HistoryFile::list()
+{
+    Statement get(m_database.get(),
+                  "SELECT c.id, c.kind, c.address, c.begun, c.name, count(m.id), max(m.time) FROM conversations c "
+                  "JOIN messages m ON m.conversation = c.id GROUP BY c.id ORDER BY max(m.id) DESC");
+    std::vector<StoredConversation> all;
+    while (get.next()) {
+        const bool isConference = get.number(1) != 0;
+        all.push_back({.number = get.number(0),
+                       .conversation
+                       = {.kind = isConference ? KeptConversation::Kind::conference : KeptConversation::Kind::contact,
+                          .address = get.text(2),
+                          .begun = isConference ? timeOf(get.number(3)) : QDateTime(),
+                          .name = get.text(4)},
+                       .last = timeOf(get.number(6)),
+                       .messages = static_cast<int>(get.number(5))});
+    }
+    return all;
+}
+
+void HistoryFile::erase(const HistorySelection &selection)
+{
+    inTransaction([&] {
+        HistoryQuestion range{.conversation = selection.conversation, .from = selection.from, .until = selection.until};
+        QByteArray sql = "DELETE FROM messages AS m" + conditions(range, "m.id") + " AND (?6 IS NULL OR m.id = ?6)";
+        Statement remove(m_database.get(), sql.constData());
+        bindRange(remove, range);
+        bindOptional(remove, 6, selection.message);
+        remove.next();
+        execute(m_database.get(),
+                "DELETE FROM conversations WHERE id NOT IN (SELECT DISTINCT conversation FROM messages)");
+        // Until its pieces are joined an index keeps what was erased and only knows that it is.
+        execute(m_database.get(), "INSERT INTO words(words) VALUES('optimize')");
+        execute(m_database.get(), "INSERT INTO parts(parts) VALUES('optimize')");
+    });
+    execute(m_database.get(), "PRAGMA wal_checkpoint(TRUNCATE)");
+    removeOldFiles();
+}
+
+/// What was set aside holds what the user does not want any more.
+void HistoryFile::removeOldFiles() const
+{
+    QDir folder(m_folder);
+    for (const QString &name : folder.entryList({QStringLiteral("history.damaged-*")}, QDir::Files))
+        folder.remove(name);
+}
+
+} // namespace nimb

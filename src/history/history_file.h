@@ -1,0 +1,63 @@
+// The file in which messages are kept.
+#pragma once
+
+#include "base/history.h"
+#include "store/sqlite.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <functional>
+#include <span>
+#include <utility>
+
+namespace nimb
+{
+
+/// `history.sqlite3` of one folder. Belongs to one thread at a time. Everything throws sqlite::Failure; what was
+/// written before stays as it was. What is written is on the disk when write() returns.
+class HistoryFile
+{
+    Q_DECLARE_TR_FUNCTIONS(HistoryFile)
+
+public:
+    struct Entry {
+        KeptConversation conversation;
+        KeptMessage message;
+    };
+
+    /// Makes the folder and the file, for the user alone, where they are missing. A damaged file is set aside as
+    /// `history.damaged-TIME.sqlite3`, and what can still be read goes into a new one; see takenOver().
+    explicit HistoryFile(const QString &folder);
+
+    /// Where a call fails because the file is damaged: as the constructor does it.
+    void setAside();
+    /// A sentence about a file that had to be set aside by this object, or nothing.
+    const std::optional<QString> &takenOver() const { return m_takenOver; }
+
+    void write(std::span<const Entry> entries);
+    std::vector<StoredMessage> find(const HistoryQuestion &question);
+    /// The number of a conversation of which something is kept.
+    std::optional<std::int64_t> numberOf(const KeptConversation &conversation);
+    std::vector<StoredConversation> list();
+    void erase(const HistorySelection &selection);
+
+private:
+    void open();
+    void makeTables();
+    int salvage(const QString &wreck);
+    std::int64_t conversationFor(const KeptConversation &conversation);
+    void inTransaction(const std::function<void()> &work);
+    void search(const HistoryQuestion &question, std::vector<StoredMessage> &found);
+    void look(const QByteArray &index, const QString &expression, const HistoryQuestion &question,
+              std::vector<StoredMessage> &found);
+    void compare(const HistoryQuestion &question, const QStringList &patterns, std::vector<StoredMessage> &found);
+    void removeOldFiles() const;
+
+    QString m_folder;
+    QString m_file;
+    sqlite::Database m_database;
+    std::optional<QString> m_takenOver;
+};
+
+} // namespace nimb

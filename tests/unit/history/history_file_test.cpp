@@ -1,0 +1,422 @@
+#include "history/history_file.h"
+
+#include "faulty_files.h"
+#include "print_qt.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+#include <sys/stat.h>
+
+namespace nimb::test
+{
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const KeptConversation ann{
+    .kind = KeptConversation::Kind::contact, .address = QStringLiteral("10.0.0.2"), .name = QStringLiteral("Ann")};
+const KeptConversation ben{
+    .kind = KeptConversation::Kind::contact, .address = QStringLiteral("10.0.0.3"), .name = QStringLiteral("Ben")};
+
+QDateTime day(int number)
+{
+    return QDateTime(QDate(2026, 11, number), QTime(14, 5, 9, 250));
+}
+
+KeptMessage message(const QString &text, const QDateTime &time = day(21))
+{
+    return {.time = time,
+            .isOwn = false,
+            .address = QStringLiteral("10.0.0.2"),
+            .writer = QStringLiteral("Ann"),
+            .workstation = QStringLiteral("PC"),
+            .text = text};
+}
+
+class HistoryFileTest : public testing::Test
+{
+protected:
+    void write(HistoryFile &history, const KeptConversation &with, const KeptMessage &message) const
+    {
+        const HistoryFile::Entry entry{with, message};
+        history.write({&entry, 1});
+    }
+    void write(HistoryFile &history, const QStringList &texts) const
+    {
+        std::vector<HistoryFile::Entry> entries;
+        for (const QString &text : texts)
+            entries.push_back({ann, message(text)});
+        history.write(entries);
+    }
+    /// Overwrites the page of the file on which these bytes stand.
+    void damagePageWith(const QByteArray &bytes) const
+    {
+        constexpr qint64 pageSize = 4096;
+        QFile broken(file);
+        if (!broken.open(QFile::ReadWrite))
+            qFatal("cannot damage the file");
+        const qint64 place = broken.readAll().indexOf(bytes);
+        if (place < pageSize)
+            qFatal("the bytes to damage are not there");
+        broken.seek(place / pageSize * pageSize);
+        broken.write(QByteArray(pageSize, '\x5a'));
+    }
+    static QStringList texts(const std::vector<StoredMessage> &messages)
+    {
+        QStringList all;
+        for (const StoredMessage &found : messages)
+            all += found.message.text;
+        return all;
+    }
+    static QStringList found(HistoryFile &history, const QString &words)
+    {
+        return texts(history.find({.words = words}));
+    }
+    /// Whether these bytes stand in a file of the folder.
+    bool isOnTheDisk(const QByteArray &bytes) const
+    {
+        for (const QString &name : QDir(folder).entryList(QDir::Files | QDir::Hidden)) {
+            QFile one(folder + u'/' + name);
+            if (!one.open(QFile::ReadOnly))
+                qFatal("cannot read %s", qPrintable(name));
+            if (one.readAll().contains(bytes))
+                return true;
+        }
+        return false;
+    }
+
+    const QTemporaryDir m_base;
+    const QString folder = m_base.filePath(QStringLiteral("profile"));
+    const QString file = folder + QStringLiteral("/history.sqlite3");
+};
+
+TEST_F(HistoryFileTest, WhatWasWrittenIsThereAtTheNextStart)
+{
+    const KeptMessage first = message(QString::fromUtf8("Grüße,\r\nJürgen \U0001F642"));
+    KeptMessage second = message(QStringLiteral("mine"), day(22));
+    second.isOwn = true;
+    second.address = QStringLiteral("10.0.0.1");
+    {
+        HistoryFile history(folder);
+        write(history, ann, first);
+        write(history, ann, second);
+    }
+    HistoryFile history(folder);
+    const std::vector<StoredMessage> found = history.find({});
+    ASSERT_EQ(found.size(), 2u);
+    EXPECT_EQ(found[0].message, first);
+    EXPECT_EQ(found[1].message, second);
+    EXPECT_LT(found[0].number, found[1].number);
+    EXPECT_EQ(history.takenOver(), std::nullopt);
+}
+
+TEST_F(HistoryFileTest, IsForTheUserAlone)
+{
+    HistoryFile history(folder);
+    write(history, {QStringLiteral("secret")});
+    for (const QString &name : QDir(folder).entryList(QDir::Files)) {
+        struct stat information = {};
+        ASSERT_EQ(stat((folder + u'/' + name).toUtf8().constData(), &information), 0);
+        EXPECT_EQ(information.st_mode & 0777, 0600u) << name.toStdString();
+    }
+    struct stat information = {};
+    ASSERT_EQ(stat(folder.toUtf8().constData(), &information), 0);
+    EXPECT_EQ(information.st_mode & 0777, 0700u);
+}
+
+TEST_F(HistoryFileTest, GivesTheNewestOnesPageByPage)
+{
+    HistoryFile history(folder);
+    for (int i = 1; i <= 7; ++i)
+        write(history, {QString::number(i)});
+    const std::vector<StoredMessage> last = history.find({.most = 3});
+    EXPECT_EQ(texts(last), (QStringList{"5", "6", "7"}));
+    const std::vector<StoredMessage> before = history.find({.before = last.front().number, .most = 3});
+    EXPECT_EQ(texts(before), (QStringList{"2", "3", "4"}));
+    EXPECT_EQ(texts(history.find({.before = before.front().number, .most = 3})), QStringList{"1"});
+    EXPECT_EQ(texts(history.find({.after = before.front().number, .most = 2})), (QStringList{"3", "4"}));
+}
+
+TEST_F(HistoryFileTest, KeepsConversationsApart)
+{
+    HistoryFile history(folder);
+    write(history, ann, message(QStringLiteral("to Ann")));
+    write(history, ben, message(QStringLiteral("to Ben")));
+    const std::optional<std::int64_t> number = history.numberOf(ben);
+    ASSERT_TRUE(number);
+    EXPECT_EQ(texts(history.find({.conversation = number})), QStringList{"to Ben"});
+    EXPECT_EQ(texts(history.find({.words = QStringLiteral("to"), .conversation = number})), QStringList{"to Ben"});
+    EXPECT_EQ(history.numberOf({.kind = KeptConversation::Kind::conference, .address = ann.address}), std::nullopt);
+}
+
+TEST_F(HistoryFileTest, AConferenceIsFoundByItsHostAndItsBeginning)
+{
+    HistoryFile history(folder);
+    KeptConversation first{.kind = KeptConversation::Kind::conference,
+                           .address = ann.address,
+                           .begun = day(1),
+                           .name = QStringLiteral("Conference 0")};
+    KeptConversation second = first;
+    second.begun = day(2);
+    write(history, first, message(QStringLiteral("one")));
+    write(history, second, message(QStringLiteral("two")));
+    EXPECT_EQ(texts(history.find({.conversation = history.numberOf(first)})), QStringList{"one"});
+    EXPECT_EQ(texts(history.find({.conversation = history.numberOf(second)})), QStringList{"two"});
+}
+
+TEST_F(HistoryFileTest, ListsConversationsByTheirNewestMessageUnderTheirLastName)
+{
+    HistoryFile history(folder);
+    write(history, ann, message(QStringLiteral("1"), day(1)));
+    write(history, ben, message(QStringLiteral("2"), day(2)));
+    KeptConversation renamed = ann;
+    renamed.name = QStringLiteral("Anna");
+    write(history, renamed, message(QStringLiteral("3"), day(3)));
+    const std::vector<StoredConversation> all = history.list();
+    ASSERT_EQ(all.size(), 2u);
+    EXPECT_EQ(all[0].conversation, ann);
+    EXPECT_EQ(all[0].conversation.name, QStringLiteral("Anna"));
+    EXPECT_EQ(all[0].messages, 2);
+    EXPECT_EQ(all[0].last, day(3));
+    EXPECT_EQ(all[1].conversation, ben);
+}
+
+TEST_F(HistoryFileTest, FindsAllWordsInAnyOrderByTheirBeginningsOrParts)
+{
+    HistoryFile history(folder);
+    write(history, {QStringLiteral("The plan of the basement"), QStringLiteral("a planet"), QStringLiteral("nothing")});
+    EXPECT_EQ(found(history, "plan"), (QStringList{"The plan of the basement", "a planet"}));
+    EXPECT_EQ(found(history, "BASE plan"), QStringList{"The plan of the basement"});
+    EXPECT_EQ(found(history, "asemen"), QStringList{"The plan of the basement"});
+    EXPECT_EQ(found(history, "lanet"), QStringList{"a planet"});
+    EXPECT_THAT(found(history, "plan elsewhere"), IsEmpty());
+}
+
+TEST_F(HistoryFileTest, FindsWithoutRegardToAccents)
+{
+    HistoryFile history(folder);
+    write(history, {QString::fromUtf8("im Café"), QString::fromUtf8("Übung")});
+    EXPECT_EQ(found(history, "cafe"), QStringList{QString::fromUtf8("im Café")});
+    EXPECT_EQ(found(history, "ubung"), QStringList{QString::fromUtf8("Übung")});
+}
+
+TEST_F(HistoryFileTest, FindsInScriptsWithoutBlanks)
+{
+    HistoryFile history(folder);
+    write(history, {QString::fromUtf8("明天的会议改到三点"), QString::fromUtf8("来週の会議です")});
+    EXPECT_EQ(found(history, QString::fromUtf8("会议")), QStringList{QString::fromUtf8("明天的会议改到三点")});
+    EXPECT_EQ(found(history, QString::fromUtf8("改到三点")), QStringList{QString::fromUtf8("明天的会议改到三点")});
+    EXPECT_EQ(found(history, QString::fromUtf8("会")).size(), 2);
+}
+
+TEST_F(HistoryFileTest, WhatIsLookedForIsNoLanguageOfItsOwn)
+{
+    HistoryFile history(folder);
+    write(history,
+          {QStringLiteral("a \"quoted\" word"), QStringLiteral("100% of a_b"), QStringLiteral("AND OR NOT"),
+           QStringLiteral(":-)"), QStringLiteral("back\\slash")});
+    EXPECT_EQ(found(history, "\"quoted\""), QStringList{"a \"quoted\" word"});
+    EXPECT_EQ(found(history, "0%"), QStringList{"100% of a_b"});
+    EXPECT_EQ(found(history, "a_b"), QStringList{"100% of a_b"});
+    EXPECT_THAT(found(history, "a%b"), IsEmpty());
+    EXPECT_EQ(found(history, "NOT"), QStringList{"AND OR NOT"});
+    EXPECT_EQ(found(history, ":-)"), QStringList{":-)"});
+    EXPECT_EQ(found(history, "k\\s"), QStringList{"back\\slash"});
+    for (const char *const odd : {"\"", "*", "^", "(", "text:", "NEAR(", "-", "'", "--", "a\"b", "\u200d", ";"})
+        EXPECT_NO_THROW(found(history, QString::fromUtf8(odd))) << odd;
+    EXPECT_NO_THROW(found(history, QString(QChar(0))));
+    EXPECT_NO_THROW(found(history, QString(QChar(0xD800))));
+    EXPECT_NO_THROW(found(history, QString(100000, u'x')));
+    EXPECT_NO_THROW(found(history, QStringLiteral("x ").repeated(20000)));
+}
+
+TEST_F(HistoryFileTest, FindsWithinDaysAndNoMoreThanAsked)
+{
+    HistoryFile history(folder);
+    for (int i = 1; i <= 9; ++i)
+        write(history, ann, message(QStringLiteral("plan %1").arg(i), day(i)));
+    const QDateTime third(QDate(2026, 11, 3), QTime(0, 0)), sixth(QDate(2026, 11, 6), QTime(0, 0));
+    EXPECT_EQ(texts(history.find({.words = QStringLiteral("plan"), .from = third, .until = sixth})),
+              (QStringList{"plan 3", "plan 4", "plan 5"}));
+    EXPECT_EQ(texts(history.find({.from = third, .until = sixth})), (QStringList{"plan 3", "plan 4", "plan 5"}));
+    const auto last = history.find({.words = QStringLiteral("plan"), .most = 2});
+    EXPECT_EQ(texts(last), (QStringList{"plan 8", "plan 9"}));
+    EXPECT_EQ(texts(history.find({.words = QStringLiteral("plan"), .before = last.front().number, .most = 2})),
+              (QStringList{"plan 6", "plan 7"}));
+}
+
+TEST_F(HistoryFileTest, WhatIsErasedIsInNoFileOfTheProfile)
+{
+    HistoryFile history(folder);
+    for (int i = 0; i < 500; ++i)
+        write(history, {QStringLiteral("ordinary talk number %1").arg(i)});
+    write(history, {QStringLiteral("the zwetschgenknoedel password")});
+    for (int i = 0; i < 500; ++i)
+        write(history, {QStringLiteral("more talk number %1").arg(i)});
+    EXPECT_TRUE(isOnTheDisk("zwetschgenknoedel"));
+    const std::int64_t number = history.find({.words = QStringLiteral("zwetsch")}).front().number;
+
+    history.erase({.message = number});
+
+    EXPECT_FALSE(isOnTheDisk("zwetschgenknoedel"));
+    EXPECT_FALSE(isOnTheDisk("password"));
+    EXPECT_THAT(found(history, "password"), IsEmpty());
+    EXPECT_THAT(found(history, "asswor"), IsEmpty());
+    EXPECT_EQ(history.list().front().messages, 1000);
+    EXPECT_EQ(found(history, "more").size(), 50);
+}
+
+TEST_F(HistoryFileTest, ErasesAConversationWithItsName)
+{
+    HistoryFile history(folder);
+    KeptConversation with = ben;
+    with.name = QStringLiteral("Benedictus");
+    write(history, with, message(QStringLiteral("to Ben")));
+    write(history, ann, message(QStringLiteral("to Ann")));
+    history.erase({.conversation = history.numberOf(ben)});
+    EXPECT_EQ(texts(history.find({})), QStringList{"to Ann"});
+    EXPECT_EQ(history.numberOf(ben), std::nullopt);
+    EXPECT_FALSE(isOnTheDisk("Benedictus"));
+    EXPECT_FALSE(isOnTheDisk("to Ben"));
+}
+
+TEST_F(HistoryFileTest, ErasesDays)
+{
+    HistoryFile history(folder);
+    for (int i = 1; i <= 4; ++i)
+        write(history, ann, message(QString::number(i), day(i)));
+    history.erase(
+        {.from = QDateTime(QDate(2026, 11, 2), QTime(0, 0)), .until = QDateTime(QDate(2026, 11, 4), QTime(0, 0))});
+    EXPECT_EQ(texts(history.find({})), (QStringList{"1", "4"}));
+}
+
+TEST_F(HistoryFileTest, ErasesAllAndGoesOn)
+{
+    HistoryFile history(folder);
+    write(history, {QStringLiteral("gone")});
+    const std::int64_t number = history.find({}).front().number;
+    history.erase({});
+    EXPECT_THAT(history.list(), IsEmpty());
+    EXPECT_FALSE(isOnTheDisk("gone"));
+    write(history, {QStringLiteral("new")});
+    EXPECT_GT(history.find({}).front().number, number);
+}
+
+TEST_F(HistoryFileTest, WhatIsNoHistoryIsSetAsideAndTold)
+{
+    QDir().mkpath(folder);
+    QFile other(file);
+    ASSERT_TRUE(other.open(QFile::WriteOnly));
+    other.write("this is no database, but somebody wrote it");
+    other.close();
+    HistoryFile history(folder);
+    ASSERT_TRUE(history.takenOver());
+    EXPECT_THAT(history.takenOver()->toStdString(), testing::HasSubstr("0 messages"));
+    EXPECT_TRUE(isOnTheDisk("this is no database"));
+    write(history, {QStringLiteral("goes on")});
+    EXPECT_EQ(found(history, "goes").size(), 1);
+}
+
+TEST_F(HistoryFileTest, WhatCanBeReadOnBothSidesOfADamagedPageIsTakenOver)
+{
+    {
+        HistoryFile history(folder);
+        QStringList all;
+        for (int i = 1000; i < 1900; ++i)
+            all += QStringLiteral("message number %1").arg(i);
+        write(history, all);
+    }
+    damagePageWith("message number 1450");
+
+    HistoryFile history(folder);
+    EXPECT_EQ(history.takenOver(), std::nullopt);
+    EXPECT_THROW(history.find({.most = 1000}), sqlite::Failure);
+    history.setAside();
+    ASSERT_TRUE(history.takenOver());
+    const std::vector<StoredMessage> left = history.find({.most = 1000});
+    EXPECT_GT(left.size(), 800u);
+    EXPECT_LT(left.size(), 900u);
+    EXPECT_THAT(texts(left), testing::Contains(QStringLiteral("message number 1000")));
+    EXPECT_THAT(texts(left), testing::Contains(QStringLiteral("message number 1899")));
+    EXPECT_THAT(texts(left), testing::Not(testing::Contains(QStringLiteral("message number 1450"))));
+    EXPECT_EQ(history.list().front().conversation, ann);
+    EXPECT_EQ(history.list().front().messages, static_cast<int>(left.size()));
+}
+
+TEST_F(HistoryFileTest, ErasingLeavesNothingOfWhatWasSetAside)
+{
+    {
+        HistoryFile history(folder);
+        write(history, {QStringLiteral("secret")});
+        history.setAside();
+        EXPECT_EQ(found(history, "secret").size(), 1);
+        EXPECT_EQ(QDir(folder).entryList({"history.damaged-*.sqlite3"}, QDir::Files).size(), 1);
+        history.erase({});
+    }
+    EXPECT_THAT(QDir(folder).entryList({"history.damaged-*"}, QDir::Files), IsEmpty());
+    EXPECT_FALSE(isOnTheDisk("secret"));
+}
+
+TEST_F(HistoryFileTest, ANewerFormIsLeftAlone)
+{
+    {
+        HistoryFile history(folder);
+        write(history, {QStringLiteral("kept")});
+    }
+    sqlite3 *opened = nullptr;
+    ASSERT_EQ(sqlite3_open(file.toUtf8().constData(), &opened), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(opened, "PRAGMA user_version = 99", nullptr, nullptr, nullptr), SQLITE_OK);
+    sqlite3_close(opened);
+    EXPECT_THROW(HistoryFile{folder}, sqlite::Failure);
+    EXPECT_TRUE(isOnTheDisk("kept"));
+    EXPECT_THAT(QDir(folder).entryList({"history.damaged-*"}, QDir::Files), IsEmpty());
+}
+
+class EveryFaultOfHistory : public HistoryFileTest, public testing::WithParamInterface<FaultyFiles::Lasting>
+{
+};
+
+TEST_P(EveryFaultOfHistory, LeavesWhatWasKeptAndIsTold)
+{
+    FaultyFiles files;
+    {
+        HistoryFile history(folder);
+        write(history, {QStringLiteral("before")});
+    }
+    int failures = 0;
+    bool happened = true;
+    for (int n = 1; happened; ++n) {
+        files.failAt(n, GetParam(), SQLITE_IOERR_WRITE);
+        bool failed = false;
+        try {
+            HistoryFile history(folder);
+            write(history, {QStringLiteral("number %1").arg(n)});
+        } catch (const sqlite::Failure &) {
+            failed = true;
+        }
+        happened = files.happened();
+        files.heal();
+        failures += failed ? 1 : 0;
+
+        HistoryFile history(folder);
+        EXPECT_EQ(history.takenOver(), std::nullopt) << "call " << n;
+        EXPECT_EQ(found(history, "before").size(), 1) << "call " << n;
+        EXPECT_LE(found(history, QString::number(n)).size(), 1) << "call " << n;
+        if (!failed) {
+            EXPECT_EQ(found(history, QString::number(n)).size(), 1) << "call " << n;
+        }
+    }
+    EXPECT_GT(failures, 5);
+}
+
+INSTANTIATE_TEST_SUITE_P(OnceAndForGood, EveryFaultOfHistory,
+                         testing::Values(FaultyFiles::Lasting::once, FaultyFiles::Lasting::forGood));
+
+} // namespace
+} // namespace nimb::test
