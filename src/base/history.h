@@ -30,9 +30,9 @@ struct KeptConversation {
 struct KeptMessage {
     QDateTime time; ///< to the millisecond
     bool isOwn = false;
-    QString address; ///< of who wrote it
-    QString writer;  ///< the nickname at that time
-    QString workstation;
+    QString address{}; ///< of who wrote it
+    QString writer{};  ///< the nickname at that time
+    QString workstation{};
     QString text; ///< line breaks are CR LF
 
     bool operator==(const KeptMessage &) const = default;
@@ -72,13 +72,13 @@ struct HistorySelection {
 };
 
 /// Nothing here waits: answers come with the event loop, in the order of the questions, and not at all once this has
-/// ended.
+/// ended. Where the history cannot be used they are empty, and `trouble` says so.
 class History
 {
 public:
     using Found = std::function<void(const std::vector<StoredMessage> &messages)>;
     using Listed = std::function<void(const std::vector<StoredConversation> &conversations)>;
-    using Done = std::function<void()>;
+    using Done = std::function<void(bool done)>;
 
     virtual ~History() = default;
 
@@ -88,7 +88,7 @@ public:
     virtual void find(const HistoryQuestion &question, Found found) = 0;
     /// The same for what is looked for where only its name is known, question.conversation not being set; nothing where
     /// nothing of it is kept.
-    virtual void findIn(const KeptConversation &conversation, HistoryQuestion question, Found found) = 0;
+    virtual void findIn(const KeptConversation &conversation, const HistoryQuestion &question, Found found) = 0;
     /// The one with the newest message first.
     virtual void list(Listed listed) = 0;
     /// For good: afterwards the texts are in no file of the profile.

@@ -25,6 +25,14 @@ constexpr qsizetype shownTextLength = 8000;
 constexpr int shownLines = 200;
 /// Emoticons of one message that are drawn: fixed, other copies show the rest as text too.
 constexpr int messagePictures = 10;
+/// How long messages are gathered before they are written to the history: what was shown 200 ms before a power cut is
+/// there afterwards, and a burst costs one writing.
+constexpr std::chrono::milliseconds historyGathered{100};
+/// Messages that wait for a history that cannot be written; the oldest go first.
+constexpr std::size_t historyWaiting = 100'000;
+/// Kept messages with which a conversation opens, and how many more come when its reader scrolls up.
+constexpr int historyShown = 50;
+constexpr int historyPage = 200;
 /// How long what was cleared can be brought back.
 constexpr std::chrono::milliseconds clearedKept{10000};
 /// Lines a log holds; beyond it re-layout and memory grow without use to anybody.

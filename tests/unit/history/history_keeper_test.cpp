@@ -1,0 +1,163 @@
+#include "history/history_keeper.h"
+
+#include "base/limits.h"
+#include "history/history_file.h"
+#include "print_qt.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+namespace nimb::test
+{
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+constexpr int patience = 60000; ///< milliseconds
+
+class HistoryKeeperTest : public testing::Test
+{
+protected:
+    HistoryKeeperTest()
+    {
+        keeper->trouble = [this](const QString &sentence) { troubles += sentence; };
+    }
+
+    static KeptConversation with(const char *address)
+    {
+        return {
+            .kind = KeptConversation::Kind::contact, .address = QLatin1String(address), .name = QStringLiteral("Ann")};
+    }
+    void keep(const QString &text, const char *address = "10.0.0.2")
+    {
+        keeper->keep(with(address), {.time = QDateTime(QDate(2026, 11, 21), QTime(14, 5)), .text = text});
+    }
+    static bool waitUntil(const std::function<bool()> &condition)
+    {
+        QElapsedTimer time;
+        time.start();
+        while (!condition() && time.elapsed() < patience)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        return condition();
+    }
+    QStringList find(const HistoryQuestion &question)
+    {
+        std::optional<QStringList> texts;
+        keeper->find(question, [&](const std::vector<StoredMessage> &messages) {
+            texts.emplace();
+            for (const StoredMessage &found : messages)
+                *texts += found.message.text;
+        });
+        EXPECT_TRUE(waitUntil([&] { return texts.has_value(); }));
+        return texts.value_or(QStringList());
+    }
+
+    const QTemporaryDir m_base;
+    const QString folder = m_base.filePath(QStringLiteral("profile"));
+    std::optional<HistoryKeeper> keeper{folder};
+    QStringList troubles;
+};
+
+TEST_F(HistoryKeeperTest, TouchesNothingUntilSomethingIsKept)
+{
+    EXPECT_FALSE(QDir(folder).exists());
+    keep(QStringLiteral("hello"));
+    EXPECT_EQ(find({}), QStringList{"hello"});
+    EXPECT_TRUE(QFile::exists(folder + QStringLiteral("/history.sqlite3")));
+}
+
+TEST_F(HistoryKeeperTest, WhatWasKeptBeforeAQuestionIsInItsAnswer)
+{
+    for (int i = 0; i < 5; ++i) {
+        keep(QString::number(i));
+        EXPECT_EQ(find({}).size(), i + 1);
+    }
+}
+
+TEST_F(HistoryKeeperTest, TheEndWaitsUntilAllIsWritten)
+{
+    for (int i = 0; i < 1000; ++i)
+        keep(QStringLiteral("number %1").arg(i));
+    keeper.reset();
+    EXPECT_EQ(HistoryFile(folder).list().front().messages, 1000);
+}
+
+TEST_F(HistoryKeeperTest, IsOnTheDiskSoonWithoutAnybodyAsking)
+{
+    keep(QStringLiteral("unmistakable"));
+    EXPECT_TRUE(waitUntil([&] {
+        QFile log(folder + QStringLiteral("/history.sqlite3-wal"));
+        return log.open(QFile::ReadOnly) && log.readAll().contains("unmistakable");
+    }));
+    EXPECT_LT(limits::historyGathered.count(), 200);
+}
+
+TEST_F(HistoryKeeperTest, FindsInAConversationByItsName)
+{
+    keep(QStringLiteral("to Ann"));
+    keep(QStringLiteral("to Ben"), "10.0.0.3");
+    std::vector<std::size_t> counts;
+    const auto count = [&](const std::vector<StoredMessage> &messages) { counts.push_back(messages.size()); };
+    keeper->findIn(with("10.0.0.3"), {}, count);
+    keeper->findIn(with("10.0.0.4"), {}, count);
+    EXPECT_TRUE(waitUntil([&] { return counts.size() == 2; }));
+    EXPECT_THAT(counts, ElementsAre(1, 0));
+}
+
+TEST_F(HistoryKeeperTest, ErasesWhatWasKeptJustBefore)
+{
+    keep(QStringLiteral("gone"));
+    bool done = false;
+    keeper->erase({}, [&](bool erased) { done = erased; });
+    EXPECT_TRUE(waitUntil([&] { return done; }));
+    EXPECT_EQ(find({}), QStringList());
+}
+
+TEST_F(HistoryKeeperTest, NoAnswerComesAfterItsEnd)
+{
+    bool answered = false;
+    keep(QStringLiteral("hello"));
+    keeper->find({}, [&](const std::vector<StoredMessage> &) { answered = true; });
+    keeper.reset();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(answered);
+}
+
+TEST_F(HistoryKeeperTest, ADiskThatTakesNothingIsToldOnceAndNothingIsLostMeanwhile)
+{
+    const QString file = folder + QStringLiteral("/history.sqlite3");
+    QDir().mkpath(file); // a folder where the file should be
+    keep(QStringLiteral("first"));
+    EXPECT_EQ(find({}), QStringList());
+    keep(QStringLiteral("second"));
+    EXPECT_EQ(find({}), QStringList());
+    EXPECT_THAT(troubles, SizeIs(1));
+    EXPECT_THAT(troubles.value(0).toStdString(), testing::HasSubstr("history.sqlite3"));
+    QDir().rmdir(file);
+    EXPECT_EQ(find({}), (QStringList{"first", "second"}));
+    EXPECT_THAT(troubles, SizeIs(1));
+}
+
+TEST_F(HistoryKeeperTest, ADamagedFileIsToldAndTheConversationGoesOn)
+{
+    QDir().mkpath(folder);
+    QFile other(folder + QStringLiteral("/history.sqlite3"));
+    ASSERT_TRUE(other.open(QFile::WriteOnly));
+    other.write("this is no database, but somebody wrote it");
+    other.close();
+    keep(QStringLiteral("goes on"));
+    EXPECT_EQ(find({}), QStringList{"goes on"});
+    EXPECT_TRUE(waitUntil([&] { return troubles.size() == 1; }));
+    EXPECT_THAT(troubles.value(0).toStdString(), testing::HasSubstr("The old file is"));
+}
+
+} // namespace
+} // namespace nimb::test
