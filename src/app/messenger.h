@@ -8,6 +8,7 @@
 #include "conference/conference_commands.h"
 #include "contacts/same_machine.h"
 #include "contacts/shared_contacts.h"
+#include "conversation/history_choice.h"
 #include "main_window/contact_commands.h"
 #include "main_window/main_window.h"
 #include "main_window/recovery.h"
@@ -40,6 +41,7 @@ struct Surroundings {
     SecondaryWindows &windows;
     PrivateForms &privateForms;
     ConferenceForms &conferenceForms;
+    History &history;
     MainWindowView &mainView;
     DropCounts &drops;
 };
@@ -70,6 +72,7 @@ public:
     ConferenceTable &conferences() { return m_conferences; }
     Invitations &invitations() { return m_invitations; }
     Notices &notices() { return m_notices; }
+    HistoryChoice &history() { return m_history; }
     /// The user turns to what a notice was about; there is nothing to open for the main window.
     void openNotice(const NoticePlace &place);
     /// The user has written a text back to it.
@@ -89,6 +92,7 @@ private:
     Admission m_admission;
     MainLog m_log;
     Notices m_notices;
+    HistoryChoice m_history;
     UnknownDatagrams m_unknown;
     PresenceSender m_sender;
     Announcement m_announcement;

@@ -29,9 +29,10 @@ Program::Program(const Environment &environment)
       m_instance(environment.profileFolder),
       m_udp(m_drops, environment.address ? readAddress(*environment.address) : std::nullopt, environment.hostName),
       m_socket(m_udp, m_trace), m_ownAddresses(environment.address ? readAddress(*environment.address) : std::nullopt),
-      m_diagnosis(m_udp), m_forms({m_common, m_timers, m_clock, m_socket, m_store, m_prompts, m_links, m_pictures,
-                                   m_names, m_netSend, m_systemInfo, m_diagnosis, m_trace, m_drops, m_spellChecker,
-                                   [] { return readProgramFile(QStringLiteral("TOTD.txt")); }})
+      m_diagnosis(m_udp), m_history(environment.profileFolder),
+      m_forms({m_common, m_timers, m_clock, m_socket, m_store, m_prompts, m_links, m_pictures, m_names, m_netSend,
+               m_systemInfo, m_diagnosis, m_trace, m_drops, m_spellChecker,
+               [] { return readProgramFile(QStringLiteral("TOTD.txt")); }})
 {
     qApp->installEventFilter(&m_toolTips);
     // For pictures that are pasted as well as for those of files.
@@ -156,10 +157,11 @@ void Program::loadMain()
     m_engine.emplace(m_common,
                      Surroundings{m_socket, m_store, m_store, m_nextStart, m_timers, m_clock, m_ownAddresses,
                                   m_networkWatch, m_chance, m_prompts, *m_notifications, m_sound, *m_tray, m_forms,
-                                  m_forms.conversations(), m_forms.conversations(), window, m_drops});
+                                  m_forms.conversations(), m_forms.conversations(), m_history, window, m_drops});
     m_forms.connectMain(
         *m_engine, [this] { return statusNotes(); }, [] { QCoreApplication::exit(0); });
     window.Form_Load();
+    m_engine->history().removeOld();
     if (m_wantedAddress && !readAddress(*m_wantedAddress))
         m_engine->log().fault(
             tr("NIMBCHAT_ADDRESS is \"%1\", which is no IPv4 address; NIMB-Chat listens on every interface instead.")

@@ -5,6 +5,7 @@
 #include "app/messenger.h"
 #include "app/notification_router.h"
 #include "base/window_openers.h"
+#include "history/history_keeper.h"
 #include "main_window/Tray.h"
 #include "platform/desktop_appearance.h"
 #include "platform/environment.h"
@@ -109,6 +110,7 @@ private:
     SystemInfo m_systemInfo;
     SystemNetworkDiagnosis m_diagnosis;
     HunspellSpelling m_spellChecker;
+    HistoryKeeper m_history;
     FormOpener m_forms;
     std::optional<DesktopAppearance> m_appearance;
     std::optional<NotificationRouter> m_notifications;

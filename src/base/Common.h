@@ -45,6 +45,20 @@ struct SpellingChoice {
     QStringList words; ///< that the user has added to every dictionary, the newest last
 };
 
+/// Whether conversations are kept, and how long.
+enum class KeepHistory { notAsked, no, year, ever };
+
+/// What of conversations is kept.
+struct HistoryRules {
+    KeepHistory keep = KeepHistory::notAsked;
+    QStringList leftOut; ///< addresses of contacts with whom nothing is kept
+
+    bool isKept(const QString &address) const
+    {
+        return (keep == KeepHistory::year || keep == KeepHistory::ever) && !leftOut.contains(address);
+    }
+};
+
 struct Common {
     Common() = default;
     Common(const Common &) = delete;
@@ -67,6 +81,7 @@ struct Common {
     WindowPlace mainPlace;
     QStringList recentEmoji; ///< used lately, the latest first
     SpellingChoice spelling;
+    HistoryRules history;
 
     bool windowFlashingAvailable = false;
     bool buzzmute = false;

@@ -93,6 +93,8 @@ public:
     virtual void list(Listed listed) = 0;
     /// For good: afterwards the texts are in no file of the profile.
     virtual void erase(const HistorySelection &selection, Done done) = 0;
+    /// The same with all that is older, which nobody waits for.
+    virtual void eraseBefore(const QDateTime &time) = 0;
 
     /// Called with a sentence when something cannot be kept or read, once until it can be again.
     std::function<void(const QString &sentence)> trouble;

@@ -30,6 +30,10 @@ constexpr int messagePictures = 10;
 constexpr std::chrono::milliseconds historyGathered{100};
 /// Messages that wait for a history that cannot be written; the oldest go first.
 constexpr std::size_t historyWaiting = 100'000;
+/// Contacts that are left out of the history: as many as anybody picks by hand.
+constexpr qsizetype historyLeftOut = 1000;
+/// Messages that are kept once the user has said whether: those of the conversation in which he is asked.
+constexpr std::size_t historyUndecided = 1000;
 /// Kept messages with which a conversation opens, and how many more come when its reader scrolls up.
 constexpr int historyShown = 50;
 constexpr int historyPage = 200;

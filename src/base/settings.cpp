@@ -9,8 +9,10 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace nimb
 {
@@ -94,6 +96,40 @@ QStringList emojiOf(const QString &stored)
     return emoji.mid(0, limits::recentEmoji);
 }
 
+constexpr std::array keepHistoryTexts = {
+    std::pair(KeepHistory::notAsked, QLatin1String("")),
+    std::pair(KeepHistory::no, QLatin1String("no")),
+    std::pair(KeepHistory::year, QLatin1String("year")),
+    std::pair(KeepHistory::ever, QLatin1String("ever")),
+};
+
+/// Of a text that says nothing: the user is asked.
+KeepHistory keepHistoryOf(const QString &stored)
+{
+    for (const auto &[keep, text] : keepHistoryTexts) {
+        if (stored == text)
+            return keep;
+    }
+    return KeepHistory::notAsked;
+}
+
+QString textOf(KeepHistory wanted)
+{
+    for (const auto &[keep, text] : keepHistoryTexts) {
+        if (keep == wanted)
+            return text;
+    }
+    return {};
+}
+
+/// The newest of them.
+QStringList leftOutOf(const QString &stored)
+{
+    QStringList addresses = stored.simplified().split(u' ', Qt::SkipEmptyParts);
+    addresses.removeDuplicates();
+    return addresses.mid(qMax(qsizetype{0}, addresses.size() - limits::historyLeftOut));
+}
+
 QString flagText(bool value)
 {
     return value ? QStringLiteral("-1") : QStringLiteral("0");
@@ -150,6 +186,8 @@ LoadedSettings loadSettings(const SettingsStore &store, Common &common)
     common.recentEmoji = emojiOf(read.text("RecentEmoji"));
     common.spelling.language = read.text("SpellingLanguage");
     common.spelling.words = ownWords(read.text("SpellingWords"));
+    common.history.keep = keepHistoryOf(read.text("KeepHistory"));
+    common.history.leftOut = leftOutOf(read.text("HistoryLeftOut"));
     for (int n = 1; n <= limits::storedPersonalizedStates; ++n)
         loaded.personalizedStates.append(store.read(
             QLatin1String(settingKey(QLatin1String("PersonalizedState")).section), personalizedStateKey(n), {}));
@@ -179,6 +217,8 @@ void saveSettings(SettingsSink &store, const Common &common, const QStringList &
     write("RecentEmoji", common.recentEmoji.join(u' '));
     write("SpellingLanguage", common.spelling.language);
     write("SpellingWords", common.spelling.words.join(u' '));
+    write("KeepHistory", textOf(common.history.keep));
+    write("HistoryLeftOut", common.history.leftOut.join(u' '));
     // Unused numbers are emptied, or entries of an earlier, longer list would come back.
     for (int n = 1; n <= limits::storedPersonalizedStates; ++n)
         store.write(QLatin1String(settingKey(QLatin1String("PersonalizedState")).section), personalizedStateKey(n),

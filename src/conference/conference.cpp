@@ -26,7 +26,8 @@ QString withoutOuterBlanks(const QString &text)
 } // namespace
 
 Conference::Conference(const Services &services, Identity identity, std::function<void()> unloaded)
-    : Conversation(services.conversation, std::move(unloaded)), m_services(services), m_identity(identity)
+    : Conversation(services.conversation, std::move(unloaded)), m_services(services), m_identity(identity),
+      m_begun(services.conversation.clock.now())
 {
     m_participants.add(
         {.ip = common().ownIP, .name = tr("%1 (you)").arg(common().ownNickname), .present = true, .own = true});
@@ -93,10 +94,24 @@ Ipv4Address Conference::ownAddress(std::optional<Ipv4Address> peer) const
 Conference::Writer Conference::writerOf(Ipv4Address ip) const
 {
     const Participant *const row = m_participants.find(ip);
-    if (row)
-        return {row->name, row->colour.value_or(colours::presence)};
     const Contact *const contact = m_services.contacts.find(ip);
-    return {contact ? contact->nickname : addressText(ip), colours::presence};
+    const QString workstation = contact ? contact->workstation : QString();
+    if (row)
+        return {row->name, row->colour.value_or(colours::presence), addressText(ip), workstation};
+    return {contact ? contact->nickname : addressText(ip), colours::presence, addressText(ip), workstation};
+}
+
+KeptConversation Conference::keptAs() const
+{
+    const Contact *const host = m_services.contacts.find(m_identity.ConfServerIP);
+    const QString title = isHostedHere() ? tr("Conference #%1").arg(m_identity.fConfN)
+                                         : tr("Conference #%1 of %2")
+                                               .arg(m_identity.fConfN)
+                                               .arg(host ? host->nickname : addressText(m_identity.ConfServerIP));
+    return {.kind = KeptConversation::Kind::conference,
+            .address = addressText(m_identity.ConfServerIP),
+            .begun = m_begun,
+            .name = title};
 }
 
 void Conference::ReceiveMessage(Ipv4Address IP, const QString &msg)

@@ -76,6 +76,7 @@ private:
     QString openingLine(const QString &date, const QString &time) const override;
     QString textToSend(const QString &typed) const override;
     void deliver(const QString &text) override;
+    KeptConversation keptAs() const override;
     void allRead() override { m_services.notices.conferenceSeen(m_identity.fConfN); }
 
     QString caption() const;
@@ -91,6 +92,7 @@ private:
 
     Services m_services;
     Identity m_identity;
+    QDateTime m_begun;
     Participants m_participants;
     QString m_avatarLabel; ///< whose avatar is shown
     ViewPtr<ConferenceView> m_view;

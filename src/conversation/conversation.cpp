@@ -4,13 +4,15 @@
 #include "base/limits.h"
 #include "base/line_break.h"
 #include "base/remote_text.h"
+#include "conversation/history_choice.h"
 #include "log/emoticons.h"
+#include "protocol/address_text.h"
 
 namespace nimb
 {
 
 Conversation::Conversation(const Services &services, std::function<void()> unloaded)
-    : m_services(services), m_unloaded(std::move(unloaded))
+    : m_services(services), m_unloaded(std::move(unloaded)), m_self(std::make_shared<Conversation *>(this))
 {
 }
 
@@ -33,7 +35,8 @@ bool Conversation::send(const QString &typed)
     const QString text = textToSend(cutText(typed, limits::messageLength));
     deliver(text);
     conversationView().outtext().unmarkNew();
-    const Writer self{common().ownNickname, conversationView().windowTextColour()};
+    const Writer self{common().ownNickname, conversationView().windowTextColour(), addressText(common().ownIP),
+                      common().ownHostName};
     appendMessage(self, text,
                   {.writer = self.name, .time = m_services.clock.now(), .isOwn = true, .arrives = arrives()});
     return true;
@@ -60,6 +63,33 @@ void Conversation::appendMessage(const Writer &writer, const QString &text, cons
     AddTextWithEmoticons(log, text, writer.colour);
     appendText(log, lineBreak, writer.colour);
     log.setSelMessage({});
+    history().said(keptAs(),
+                   {.time = message.time,
+                    .isOwn = message.isOwn,
+                    .address = writer.address,
+                    .writer = writer.name,
+                    .workstation = writer.workstation,
+                    .text = text});
+}
+
+void Conversation::showEarlier()
+{
+    if (m_waitsForEarlier || !history().isKept(keptAs().address))
+        return;
+    m_waitsForEarlier = true;
+    const auto show = [self = std::weak_ptr(m_self)](const std::vector<StoredMessage> &messages) {
+        const auto there = self.lock();
+        if (!there)
+            return;
+        Conversation &conversation = **there;
+        conversation.m_waitsForEarlier = false;
+        if (messages.empty())
+            return;
+        conversation.m_earliest = messages.front().number;
+        conversation.conversationView().addEarlier(messages);
+    };
+    history().history().findIn(
+        keptAs(), {.before = m_earliest, .most = m_earliest ? limits::historyPage : limits::historyShown}, show);
 }
 
 void Conversation::appendLine(const QString &line, Colour colour)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Common.h"
+#include "base/history.h"
 #include "base/timers.h"
 #include "base/unload_mode.h"
 #include "conversation/conversation_view.h"
@@ -10,9 +11,12 @@
 #include <QCoreApplication>
 
 #include <functional>
+#include <memory>
 
 namespace nimb
 {
+
+class HistoryChoice;
 
 /// The engine half of a ConversationPane. What only one kind of conversation has is the business of its class.
 class Conversation
@@ -25,6 +29,7 @@ public:
         const Common &common;
         Winsock &socket;
         const WallClock &clock;
+        HistoryChoice &history;
     };
 
     virtual ~Conversation() = default;
@@ -42,6 +47,10 @@ public:
     /// The window has become the active one, or its reader has come to the end of the log: all has been seen.
     void endSeen();
 
+    HistoryChoice &history() const { return m_services.history; }
+    /// What was kept of it before is shown above the log, at first the newest.
+    void showEarlier();
+
     /// Nobody can be written to any more; the log stays to be read.
     bool isOver() const { return m_over; }
     /// What becomes of the window; the user may be asked.
@@ -53,6 +62,8 @@ protected:
     struct Writer {
         QString name;
         Colour colour;
+        QString address{};
+        QString workstation{};
     };
 
     /// unloaded: called last of all when the user closes the window for good; it may destroy this conversation.
@@ -72,6 +83,8 @@ private:
     virtual QString textToSend(const QString &typed) const = 0;
     /// Sends to whoever else takes part.
     virtual void deliver(const QString &text) = 0;
+    /// What it is kept as.
+    virtual KeptConversation keptAs() const = 0;
     /// Nothing is unread any more.
     virtual void allRead() { }
     /// Somebody is known to be there who gets what is sent.
@@ -83,6 +96,9 @@ private:
     std::function<void()> m_unloaded;
     bool m_over = false;
     bool m_hasUnread = false;
+    std::optional<std::int64_t> m_earliest; ///< number of the first kept message that is shown
+    bool m_waitsForEarlier = false;
+    std::shared_ptr<Conversation *> m_self; ///< for answers that may come when this is gone
 };
 
 } // namespace nimb

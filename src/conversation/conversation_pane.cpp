@@ -6,6 +6,7 @@
 #include "conversation/emoji_picker.h"
 #include "conversation/emoji_stock.h"
 #include "conversation/emoticon_picker.h"
+#include "conversation/history_choice.h"
 #include "conversation/message_input.h"
 #include "log/RTFSubClass.h"
 #include "log/cleared_band.h"
@@ -79,6 +80,7 @@ void ConversationPane::buildControls()
     m_logRow = new QHBoxLayout;
     m_logRow->setSpacing(spacing);
     m_logRow->addWidget(m_outtext, 1);
+    m_column->addWidget(makeHistoryBand());
     m_column->addLayout(m_logRow, 1);
     m_cleared = new ClearedBand(*m_outtext, tr("The conversation was cleared."), this);
     m_column->addWidget(m_cleared->strip());
@@ -114,6 +116,18 @@ QWidget *ConversationPane::makeCutBand()
     return cutBand;
 }
 
+/// Asks once, in the first conversation, whether what is said is kept.
+QWidget *ConversationPane::makeHistoryBand()
+{
+    historyBand = named(makeBandWithLink(this), "historyBand");
+    const QString sentence = tr("Conversations are not kept.");
+    historyBand->setText(sentence
+                         + tr(" Keep them: <a href=\"year\">for a year</a> / <a href=\"ever\">for ever</a> / "
+                              "<a href=\"no\">no</a>"));
+    historyBand->setAccessibleName(sentence);
+    return historyBand;
+}
+
 QHBoxLayout *ConversationPane::makeInput()
 {
     intext = named(new MessageInput(this), "intext");
@@ -144,6 +158,13 @@ void ConversationPane::connectControls()
     });
     auto *const close = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_W), this);
     connect(close, &QShortcut::activated, this, [this] { window()->close(); });
+    connect(historyBand, &QLabel::linkActivated, this, &ConversationPane::historyBand_Click);
+    connect(&m_conversation->history(), &HistoryChoice::chosen, this, &ConversationPane::showHistoryBand);
+    connect(m_outtext, &RichTextLogEdit::earlierWanted, this, [this] {
+        if (m_conversation)
+            m_conversation->showEarlier();
+    });
+    showHistoryBand();
     connect(m_cleared, &ClearedBand::broughtBack, this, &ConversationPane::focusInput);
     if (EmojiTable::isThere()) {
         auto *const find = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Period), this);
@@ -247,6 +268,22 @@ void ConversationPane::offerRest(const QString &rest)
     cutBand->setText(sentence + tr(" <a href=\"rest\">Copy the rest</a>"));
     cutBand->setAccessibleName(sentence);
     cutBand->show();
+}
+
+void ConversationPane::showHistoryBand()
+{
+    historyBand->setVisible(m_conversation && m_conversation->history().isToBeAsked());
+}
+
+void ConversationPane::historyBand_Click(const QString &answer)
+{
+    if (!m_conversation)
+        return;
+    const auto keep = answer == QLatin1String("year") ? KeepHistory::year
+        : answer == QLatin1String("ever")             ? KeepHistory::ever
+                                                      : KeepHistory::no;
+    m_conversation->history().choose(keep);
+    focusInput();
 }
 
 void ConversationPane::keyPressEvent(QKeyEvent *event)

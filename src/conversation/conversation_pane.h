@@ -64,6 +64,7 @@ public:
     RichTextLog &outtext() override;
     void setCaption(const QString &caption) override;
     void setLogFont(const LogFont &font) override;
+    void addEarlier(const std::vector<StoredMessage> &messages) override { m_outtext->addEarlier(messages); }
     void setLastMessage(const QString &text) override { Q_EMIT lastMessageChanged(text); }
     QString typedText() const override;
     void setDraft(const QString &text) override;
@@ -87,6 +88,7 @@ private:
     void buildControls();
     QWidget *makeToolRow();
     QWidget *makeCutBand();
+    QWidget *makeHistoryBand();
     QHBoxLayout *makeInput();
     void connectControls();
 
@@ -102,6 +104,8 @@ private:
     void outtext_Change();
     void noteWhatIsSeen();
     void showRoomLeft();
+    void showHistoryBand();
+    void historyBand_Click(const QString &answer);
     void offerRest(const QString &rest);
     void Form_Unload();
 
@@ -118,6 +122,7 @@ private:
     QPushButton *sendbtn = nullptr;
     QLabel *messageCounter = nullptr;
     QLabel *cutBand = nullptr;
+    QLabel *historyBand = nullptr;
     ClearedBand *m_cleared = nullptr;
     QToolButton *clearbtn = nullptr;
     QToolButton *datetimebtn = nullptr;

@@ -1,6 +1,7 @@
 // What the engine shows in the window of every conversation, named after what is seen.
 #pragma once
 
+#include "base/history.h"
 #include "base/rich_text.h"
 
 #include <QString>
@@ -17,6 +18,9 @@ public:
     virtual void setCaption(const QString &caption) = 0;
     /// Font of the input box and of the log.
     virtual void setLogFont(const LogFont &font) = 0;
+    /// What was said before the window was opened, or before what is shown of that already: above the log, and no part
+    /// of its text.
+    virtual void addEarlier(const std::vector<StoredMessage> &messages) = 0;
     /// The first panel of the status bar.
     virtual void setLastMessage(const QString &text) = 0;
     /// The input box as it is now, line breaks as CR LF.

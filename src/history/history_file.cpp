@@ -3,6 +3,8 @@
 #include "platform/profile_folder.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QRegularExpression>
 
@@ -257,8 +259,7 @@ void sortAndCut(std::vector<StoredMessage> &messages, const HistoryQuestion &que
 
 } // namespace
 
-HistoryFile::HistoryFile(const QString &folder)
-    : m_folder(QDir(folder).absolutePath()), m_file(m_folder + QStringLiteral("/history.sqlite3"))
+HistoryFile::HistoryFile(const QString &folder) : m_folder(QDir(folder).absolutePath()), m_file(pathIn(m_folder))
 {
     if (const auto reason = makePrivateFolder(m_folder))
         throw Failure{*reason};
@@ -487,29 +488,47 @@ std::vector<StoredConversation> HistoryFile::list()
 
 void HistoryFile::erase(const HistorySelection &selection)
 {
+    eraseMessages(selection);
+    removeSetAside({}); // it may hold what the user does not want any more
+}
+
+void HistoryFile::eraseBefore(const QDateTime &time)
+{
+    eraseMessages({.until = time});
+    removeSetAside(time);
+}
+
+void HistoryFile::eraseMessages(const HistorySelection &selection)
+{
+    bool any = false;
     inTransaction([&] {
-        HistoryQuestion range{.conversation = selection.conversation, .from = selection.from, .until = selection.until};
-        QByteArray sql = "DELETE FROM messages AS m" + conditions(range, "m.id") + " AND (?6 IS NULL OR m.id = ?6)";
+        const HistoryQuestion range{
+            .conversation = selection.conversation, .from = selection.from, .until = selection.until};
+        const QByteArray sql
+            = "DELETE FROM messages AS m" + conditions(range, "m.id") + " AND (?6 IS NULL OR m.id = ?6)";
         Statement remove(m_database.get(), sql.constData());
         bindRange(remove, range);
         bindOptional(remove, 6, selection.message);
         remove.next();
+        any = sqlite3_changes(m_database.get()) > 0;
+        if (!any)
+            return;
         execute(m_database.get(),
                 "DELETE FROM conversations WHERE id NOT IN (SELECT DISTINCT conversation FROM messages)");
         // Until its pieces are joined an index keeps what was erased and only knows that it is.
         execute(m_database.get(), "INSERT INTO words(words) VALUES('optimize')");
         execute(m_database.get(), "INSERT INTO parts(parts) VALUES('optimize')");
     });
-    execute(m_database.get(), "PRAGMA wal_checkpoint(TRUNCATE)");
-    removeOldFiles();
+    if (any)
+        execute(m_database.get(), "PRAGMA wal_checkpoint(TRUNCATE)");
 }
 
-/// What was set aside holds what the user does not want any more.
-void HistoryFile::removeOldFiles() const
+void HistoryFile::removeSetAside(const QDateTime &before) const
 {
-    QDir folder(m_folder);
-    for (const QString &name : folder.entryList({QStringLiteral("history.damaged-*")}, QDir::Files))
-        folder.remove(name);
+    for (const QFileInfo &file : QDir(m_folder).entryInfoList({QStringLiteral("history.damaged-*")}, QDir::Files)) {
+        if (!before.isValid() || file.lastModified() < before)
+            QFile::remove(file.filePath());
+    }
 }
 
 } // namespace nimb

@@ -41,6 +41,10 @@ public:
     std::optional<std::int64_t> numberOf(const KeptConversation &conversation);
     std::vector<StoredConversation> list();
     void erase(const HistorySelection &selection);
+    /// What was set aside goes when it is as old.
+    void eraseBefore(const QDateTime &time);
+
+    static QString pathIn(const QString &folder) { return folder + QStringLiteral("/history.sqlite3"); }
 
 private:
     void open();
@@ -52,7 +56,8 @@ private:
     void look(const QByteArray &index, const QString &expression, const HistoryQuestion &question,
               std::vector<StoredMessage> &found);
     void compare(const HistoryQuestion &question, const QStringList &patterns, std::vector<StoredMessage> &found);
-    void removeOldFiles() const;
+    void eraseMessages(const HistorySelection &selection);
+    void removeSetAside(const QDateTime &before) const;
 
     QString m_folder;
     QString m_file;

@@ -4,6 +4,7 @@
 #include "history/history_file.h"
 
 #include <QDir>
+#include <QFile>
 #include <QObject>
 
 #include <condition_variable>
@@ -180,7 +181,7 @@ private:
             = translated(QT_TRANSLATE_NOOP("HistoryKeeper",
                                            "The history in %1 cannot be used now (%2); what was kept "
                                            "before is unchanged."))
-                  .arg(QDir::toNativeSeparators(m_folder + QStringLiteral("/history.sqlite3")), failure.reason);
+                  .arg(QDir::toNativeSeparators(HistoryFile::pathIn(m_folder)), failure.reason);
         if (sentence != m_told)
             tell(m_told = sentence);
     }
@@ -264,6 +265,18 @@ void HistoryKeeper::erase(const HistorySelection &selection, Done done)
             return true;
         },
         std::move(done));
+}
+
+void HistoryKeeper::eraseBefore(const QDateTime &time)
+{
+    if (!QFile::exists(HistoryFile::pathIn(m_folder)))
+        return;
+    put(
+        [time](HistoryFile &file) {
+            file.eraseBefore(time);
+            return true;
+        },
+        [](bool) {});
 }
 
 } // namespace nimb

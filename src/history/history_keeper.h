@@ -26,6 +26,7 @@ public:
     void findIn(const KeptConversation &conversation, const HistoryQuestion &question, Found found) override;
     void list(Listed listed) override;
     void erase(const HistorySelection &selection, Done done) override;
+    void eraseBefore(const QDateTime &time) override;
 
 private:
     class Desk;

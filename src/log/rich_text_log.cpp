@@ -142,7 +142,9 @@ RichTextLogEdit::RichTextLogEdit(QWidget *parent)
     m_frame.setTimerType(Qt::PreciseTimer);
     // Layout goes on after a change has been made, so the end may move at any time; only the reader leaves it.
     connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &RichTextLogEdit::followEnd);
-    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
+        if (!m_earlier.isEmpty() && value < viewport()->height() / 2)
+            Q_EMIT earlierWanted();
         if (std::exchange(m_follows, isAtEnd()) || !m_follows)
             return;
         noteLinesBelow(0);
@@ -201,6 +203,34 @@ void RichTextLogEdit::setRoomBelow(int room)
 {
     if (std::exchange(m_roomBelow, room) != room)
         setInsets(m_insetAbove, m_insetBelow);
+}
+
+void RichTextLogEdit::addEarlier(const std::vector<StoredMessage> &messages)
+{
+    writeGathered();
+    m_earlier.add(messages);
+    placeEarlier();
+}
+
+void RichTextLogEdit::placeEarlier()
+{
+    if (m_earlier.isEmpty())
+        return;
+    QScrollBar &bar = *verticalScrollBar();
+    const bool follows = m_follows;
+    const int value = bar.value();
+    const int before = m_earlierHeight;
+    m_earlierHeight = m_earlier.layOut(viewport()->width(), font());
+    {
+        const QSignalBlocker quiet(this); // nothing was said
+        QTextFrameFormat room = document()->rootFrame()->frameFormat();
+        room.setTopMargin(document()->documentMargin() + m_earlierHeight);
+        document()->rootFrame()->setFrameFormat(room);
+    }
+    m_follows = follows;
+    if (m_follows)
+        return followEnd();
+    bar.setValue(value + m_earlierHeight - before);
 }
 
 // --- writing
@@ -476,6 +506,8 @@ void RichTextLogEdit::clear()
     m_firstLine.reset();
     m_marks.forget();
     m_hasMargin = false;
+    m_earlier.clear();
+    m_earlierHeight = 0;
     m_command.clear();
     noteLinesBelow(0);
     prepareLines();
@@ -616,6 +648,13 @@ void RichTextLogEdit::paintEvent(QPaintEvent *event)
     for (const LogMarks::Seen &line : lines)
         LogMarks::paintGround(painter, line, palette());
     paintText(painter, event->rect(), lines);
+    if (!m_earlier.isEmpty()) {
+        const int scrolled = verticalScrollBar()->value();
+        painter.save();
+        painter.translate(0, -scrolled);
+        m_earlier.paint(painter, event->rect().translated(0, scrolled), palette());
+        painter.restore();
+    }
     for (const LogMarks::Seen &line : lines)
         LogMarks::paintMarks(painter, line, palette(), font());
 }
@@ -719,6 +758,7 @@ void RichTextLogEdit::resizeEvent(QResizeEvent *event)
     const int top = cursorRect(topLine).top();
     const bool follows = m_follows;
     QTextEdit::resizeEvent(event);
+    placeEarlier();
     m_follows = follows; // the end may have come by on its way
     if (m_follows)
         return followEnd();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/rich_text.h"
+#include "log/earlier_messages.h"
 #include "log/log_marks.h"
 #include "log/log_pictures.h"
 #include "log/screen_readers.h"
@@ -52,6 +53,8 @@ public:
     /// Room above and below the text, in pixels, for what would lie over it.
     void setRoomAbove(int room);
     void setRoomBelow(int room);
+    /// Shows them above the log, in front of those that are there, until it is cleared. They are no part of its text.
+    void addEarlier(const std::vector<StoredMessage> &messages);
     /// All that stands in the log, so that it can be brought back after it was cleared.
     struct Kept {
         QTextDocumentFragment text;
@@ -91,6 +94,8 @@ Q_SIGNALS:
     void endReached();
     /// What screen readers have been told of new text.
     void toldReaders(const QString &text);
+    /// The reader has come near the first of the earlier messages.
+    void earlierWanted();
     /// So many lines have come since the reader has left the end.
     void linesBelow(int lines);
 
@@ -125,6 +130,8 @@ private:
     /// Of the first line of an empty log, and of those behind it.
     void prepareLines();
     void setNewLine(bool isNew);
+    /// The earlier messages in the width and the font as they are now.
+    void placeEarlier();
     /// Room for the marks as the font is now.
     void makeRoom();
     std::vector<LogMarks::Seen> linesIn(const QRect &place) const;
@@ -169,6 +176,8 @@ private:
     int m_foundLength = 0;
     QHash<QRgb, QColor> m_adapted; ///< colours of the document as they are shown on this ground
     int m_insetAbove = 0, m_insetBelow = 0, m_roomAbove = 0, m_roomBelow = 0;
+    EarlierMessages m_earlier;
+    int m_earlierHeight = 0;
     ScreenReaders m_screenReaders;
     LogPictures *m_pictures;
     FindBar *m_findBar = nullptr;

@@ -40,6 +40,12 @@ void PrivateChat::setPeer(const ContactAddress &ip)
     m_view->setPeerAddress(ip.text());
 }
 
+void PrivateChat::preparewindow()
+{
+    Clearbtn_Click();
+    showEarlier();
+}
+
 void PrivateChat::showPeer(PeerShown peer)
 {
     peer.delivery = deliveryTo(peer);
@@ -105,16 +111,26 @@ void PrivateChat::deliver(const QString &text)
     sendDatagram(socket(), m_rIP.ipv4(), wire::PrivateMessage{toWire(text)});
 }
 
+KeptConversation PrivateChat::keptAs() const
+{
+    return {.kind = KeptConversation::Kind::contact, .address = m_rIP.text(), .name = m_peer.name};
+}
+
+Conversation::Writer PrivateChat::peer(const QString &nik) const
+{
+    return {nik, colours::receivedMessage, m_rIP.text(), m_peer.workstation};
+}
+
 void PrivateChat::waitingMessage(const QString &nik, const QString &msg)
 {
-    appendReceived({nik, colours::receivedMessage}, trimmedMessage(msg));
+    appendReceived(peer(nik), trimmedMessage(msg));
 }
 
 void PrivateChat::MessageReceived(const QString &nik, QString &msg)
 {
     const bool mayBeAnswered = !isAutoReply(msg);
     msg = trimmedMessage(msg);
-    appendReceived({nik, colours::receivedMessage}, msg);
+    appendReceived(peer(nik), msg);
     m_view->setLiveType({});
     if (!mayBeAnswered)
         return;

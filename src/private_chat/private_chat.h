@@ -40,8 +40,8 @@ public:
     const ContactAddress &rIP() const { return m_rIP; }
     PrivateChatView &view() { return *m_view; }
 
-    /// Sets fonts, empties the log and writes its opening line.
-    void preparewindow() { Clearbtn_Click(); }
+    /// Sets fonts, empties the log, writes its opening line, and shows what was kept above it.
+    void preparewindow();
     /// Appends a message that came when there was no window for it yet.
     void waitingMessage(const QString &nik, const QString &msg);
     /// Appends a received message and answers it automatically where that is switched on, unless it is an automatic
@@ -92,6 +92,8 @@ private:
     QString openingLine(const QString &date, const QString &time) const override;
     QString textToSend(const QString &typed) const override;
     void deliver(const QString &text) override;
+    KeptConversation keptAs() const override;
+    Writer peer(const QString &nik) const;
     void allRead() override { m_read(); }
     bool arrives() const override { return m_peer.delivery == Delivery::arrives; }
     Delivery deliveryTo(const PeerShown &peer);

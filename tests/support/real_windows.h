@@ -143,8 +143,8 @@ private:
 public:
     Messenger engine{common,
                      {traced, settings, goodCopy, nextStart, time, time, ownAddresses, networkWatch, chance, prompts,
-                      forms.notifications(), sound, tray, forms, forms.conversations(), forms.conversations(), m_main,
-                      drops}};
+                      forms.notifications(), sound, tray, forms, forms.conversations(), forms.conversations(), history,
+                      m_main, drops}};
 };
 
 } // namespace nimb::test

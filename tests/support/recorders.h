@@ -3,6 +3,7 @@
 
 #include "base/chance.h"
 #include "base/good_copy.h"
+#include "base/history.h"
 #include "base/link_opener.h"
 #include "base/main_window_view.h"
 #include "base/network_diagnosis.h"
@@ -161,6 +162,10 @@ public:
     RichTextLog &outtext() override { return log; }
     void setCaption(const QString &text) override { caption = text; }
     void setLogFont(const LogFont &logFont) override { font = logFont; }
+    void addEarlier(const std::vector<StoredMessage> &messages) override
+    {
+        earlier.insert(earlier.begin(), messages.begin(), messages.end());
+    }
     void setLastMessage(const QString &text) override { lastMessage = text; }
     QString typedText() const override { return typed; }
     void setDraft(const QString &text) override { typed = text; }
@@ -174,6 +179,7 @@ public:
     RecorderLog log;
     QString caption;
     LogFont font;
+    std::vector<StoredMessage> earlier;
     QString lastMessage;
     QString typed;
     bool inputEnabled = true;
@@ -667,6 +673,44 @@ public:
 };
 
 /// Around an engine everything but its socket, its time and its windows.
+/// Keeps in memory and answers at once.
+class RecorderHistory : public History
+{
+public:
+    void keep(const KeptConversation &conversation, const KeptMessage &message) override
+    {
+        kept.push_back({conversation, message});
+    }
+    void find(const HistoryQuestion &, Found found) override { found({}); }
+    void findIn(const KeptConversation &conversation, const HistoryQuestion &question, Found found) override
+    {
+        std::vector<StoredMessage> all;
+        for (std::size_t i = 0; i < kept.size(); ++i) {
+            const auto number = static_cast<std::int64_t>(i + 1);
+            if (kept[i].first == conversation && (!question.before || number < *question.before))
+                all.push_back({.number = number, .conversation = 1, .message = kept[i].second});
+        }
+        const auto most = static_cast<std::size_t>(question.most);
+        if (all.size() > most)
+            all.erase(all.begin(), all.end() - question.most);
+        found(all);
+    }
+    void list(Listed listed) override { listed({}); }
+    void erase(const HistorySelection &, Done done) override { done(true); }
+    void eraseBefore(const QDateTime &time) override { erasedBefore.push_back(time); }
+
+    QStringList texts() const
+    {
+        QStringList all;
+        for (const auto &[conversation, message] : kept)
+            all += message.text;
+        return all;
+    }
+
+    std::vector<std::pair<KeptConversation, KeptMessage>> kept;
+    std::vector<QDateTime> erasedBefore;
+};
+
 struct Recorders {
     MemoryStore settings;
     RecorderGoodCopy goodCopy;
@@ -678,6 +722,7 @@ struct Recorders {
     RecorderSound sound;
     Steps steps;
     RecorderTray tray{steps};
+    RecorderHistory history;
     DropCounts drops;
 };
 

@@ -49,7 +49,7 @@ public:
     Socket socket;
     Messenger engine{common,
                      {socket, settings, goodCopy, nextStart, *time, *time, ownAddresses, networkWatch, chance, prompts,
-                      Views::notifications, sound, tray, windows, Views::privateForms, Views::conferenceForms,
+                      Views::notifications, sound, tray, windows, Views::privateForms, Views::conferenceForms, history,
                       Views::view, drops}};
 };
 

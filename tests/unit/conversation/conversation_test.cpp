@@ -35,6 +35,7 @@ private:
         return QStringLiteral("Since %1, %2").arg(date, time);
     }
     QString textToSend(const QString &typed) const override { return QStringLiteral("[%1]").arg(typed); }
+    KeptConversation keptAs() const override { return {.address = QStringLiteral("10.0.0.9")}; }
     void deliver(const QString &text) override { delivered.push_back(text.toStdString()); }
 
     ConversationView &m_view;
@@ -45,7 +46,7 @@ class ConversationTest : public testing::Test
 protected:
     Copy copy;
     RecorderConversationView view;
-    Echo conversation{{copy.common, copy.socket, *copy.time}, view};
+    Echo conversation{{copy.common, copy.socket, *copy.time, copy.engine.history()}, view};
 };
 
 TEST_F(ConversationTest, ItsLogBeginsWithItsOwnOpeningLineInGrey)
