@@ -2,6 +2,7 @@
 
 #include "base/limits.h"
 #include "doctor/frmDoctor.h"
+#include "history/frmHistory.h"
 #include "main_window/frmMain.h"
 #include "options/frmOptions.h"
 #include "people/contact_import.h"
@@ -127,6 +128,22 @@ void DialogOpener::mnuShortcuts()
     open(new frmShortcuts(&m_main));
 }
 
+void DialogOpener::mnuHistory(const QString &ip)
+{
+    if (!m_history || !m_history->isVisible())
+        m_history = new frmHistory(m_engine.history().history(), m_services.prompts, &m_main);
+    if (!ip.isEmpty())
+        m_history->choose(ip);
+    bringBack(*m_history);
+    m_history->activateWindow();
+}
+
+void DialogOpener::mnuLeaveOut(const QString &ip, bool leftOut)
+{
+    if (m_engine.contacts().find(ip))
+        m_engine.history().leaveOut(ip, leftOut);
+}
+
 void DialogOpener::mnuinviteuser(const QString &ip)
 {
     const Invite invite(m_services.common, m_engine.contacts(), m_services.netSend, m_services.prompts);
@@ -185,6 +202,7 @@ void DialogOpener::mnuToolsOptions()
          .clock = m_services.clock,
          .ownAddresses = m_engine.ownAddresses(),
          .changeNickname = [this](const QString &name) { m_engine.mainWindow().changeNickname(name); },
+         .keepHistory = [this](KeepHistory keep) { m_engine.history().choose(keep); },
          .taken = [this] { m_engine.recovery().settingsChanged(); }});
     open(new frmOptions(values, m_services.prompts, &m_main));
 }

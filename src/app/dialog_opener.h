@@ -20,6 +20,7 @@ namespace nimb
 {
 
 class frmDoctor;
+class frmHistory;
 class frmMain;
 class frmSendContact;
 class frmTipOfTheDay;
@@ -64,6 +65,8 @@ public:
     void mnuTOTD() override;
     void mnuNetworkDoctor() override;
     void mnuShortcuts() override;
+    void mnuHistory(const QString &ip) override;
+    void mnuLeaveOut(const QString &ip, bool leftOut) override;
     void mnusendcontacts(const QString &ip) override;
     void mnuinviteuser(const QString &ip) override;
     void mnuCreateNewConf() override;
@@ -83,6 +86,7 @@ private:
     QPointer<frmTipOfTheDay> m_tip;
     QPointer<frmSendContact> m_sendContact;
     QPointer<frmDoctor> m_doctor;
+    QPointer<frmHistory> m_history;
 };
 
 } // namespace nimb

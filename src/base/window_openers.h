@@ -48,6 +48,10 @@ public:
     virtual void mnuTOTD() = 0;
     virtual void mnuNetworkDoctor() = 0;
     virtual void mnuShortcuts() = 0;
+    /// What was kept of the conversation with a contact; of none: of all.
+    virtual void mnuHistory(const QString &ip) = 0;
+    /// Nothing of the contact is kept from now on, or again.
+    virtual void mnuLeaveOut(const QString &ip, bool leftOut) = 0;
     /// An address that is no contact's is ignored.
     virtual void mnusendcontacts(const QString &ip) = 0;
     /// Empty: no contact is selected.

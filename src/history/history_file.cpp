@@ -167,32 +167,33 @@ constexpr int shortestPart = 3; ///< characters that the index of parts can find
 
 /// How the words of a question are looked for: in an index where it can find them, or text by text.
 struct Search {
-    QString beginnings;   ///< for the index of words; empty: it finds nothing
-    QString parts;        ///< for the index of parts; empty: it cannot find all
-    QStringList patterns; ///< what every text is compared with where neither index can
+    QString beginnings;        ///< of all of them, for the index of words; empty: it cannot find them
+    QString parts;             ///< of those that are long enough, for the index of parts; empty: there are none
+    QStringList shortPatterns; ///< what the texts are compared with for the others
 };
 
 Search searchFor(const QString &text)
 {
     Search search;
     QStringList beginnings, parts;
-    bool partsFindAll = true, wordsFindAll = true;
+    bool arePlain = true;
     for (const QString &word : wordsOf(text)) {
-        wordsFindAll = wordsFindAll && isPlain(word);
-        partsFindAll = partsFindAll && word.toUcs4().size() >= shortestPart;
+        arePlain = arePlain && isPlain(word);
         beginnings += quoted(word) + u'*';
-        parts += quoted(word);
-        search.patterns += pattern(word);
+        if (word.toUcs4().size() >= shortestPart)
+            parts += quoted(word);
+        else
+            search.shortPatterns += pattern(word);
     }
     const QString all = QStringLiteral(" AND ");
-    if (wordsFindAll)
+    if (arePlain)
         search.beginnings = beginnings.join(all);
-    if (partsFindAll)
-        search.parts = parts.join(all);
+    search.parts = parts.join(all);
     return search;
 }
 
-/// The script of a short word has no blanks between words, so that the index of words would miss it.
+/// Short words alone are looked for text by text where the index of words would miss them: in scripts without blanks,
+/// and where they are no words.
 bool needsComparing(const Search &search, const QString &text)
 {
     if (!search.parts.isEmpty())
@@ -413,7 +414,7 @@ std::vector<StoredMessage> HistoryFile::find(const HistoryQuestion &question)
 {
     std::vector<StoredMessage> found;
     if (wordsOf(question.words).isEmpty())
-        compare(question, {}, found);
+        look({}, {}, question, found);
     else
         search(question, found);
     sortAndCut(found, question);
@@ -424,42 +425,37 @@ void HistoryFile::search(const HistoryQuestion &question, std::vector<StoredMess
 {
     const Search search = searchFor(question.words);
     if (!search.beginnings.isEmpty())
-        look("words", search.beginnings, question, found);
+        look({.name = "words", .expression = search.beginnings}, {}, question, found);
     if (!search.parts.isEmpty())
-        look("parts", search.parts, question, found);
+        look({.name = "parts", .expression = search.parts}, search.shortPatterns, question, found);
     if (needsComparing(search, question.words))
-        compare(question, search.patterns, found);
+        look({}, search.shortPatterns, question, found);
 }
 
-/// An index gives its rows in the order of their numbers, so that it is read no further than the limit.
-void HistoryFile::look(const QByteArray &index, const QString &expression, const HistoryQuestion &question,
+/// What an index gives, which all patterns fit; without an index, of all messages. Both give their rows in the order of
+/// the numbers, so that nothing is read beyond the limit.
+void HistoryFile::look(const Index &index, const QStringList &patterns, const HistoryQuestion &question,
                        std::vector<StoredMessage> &found)
 {
-    const QByteArray number = "f.rowid";
-    const QByteArray sql = columns + ("FROM " + index + " f CROSS JOIN messages m ON m.id = f.rowid")
-        + conditions(question, number) + " AND " + index + " MATCH ?7" + ordered(question, number);
-    Statement get(m_database.get(), sql.constData());
-    bindRange(get, question);
-    const QByteArray bytes = expression.toUtf8();
-    get.bind(7, bytes);
-    while (get.next())
-        found.push_back(messageIn(get));
-}
-
-/// Text by text with all patterns; without any, all texts fit.
-void HistoryFile::compare(const HistoryQuestion &question, const QStringList &patterns,
-                          std::vector<StoredMessage> &found)
-{
-    constexpr int firstPattern = 7;
-    const QByteArray number = "m.id";
+    constexpr int expression = 7, firstPattern = 8;
+    const bool hasIndex = !index.name.isEmpty();
+    const QByteArray number = hasIndex ? "f.rowid" : "m.id";
+    QByteArray sql = columns;
+    sql += hasIndex ? "FROM " + index.name + " f CROSS JOIN messages m ON m.id = f.rowid"
+                    : QByteArray("FROM messages m");
+    sql += conditions(question, number);
+    if (hasIndex)
+        sql += " AND " + index.name + " MATCH ?7";
     QList<QByteArray> bytes;
-    QByteArray sql = columns + ("FROM messages m" + conditions(question, number));
     for (const QString &each : patterns) {
         sql += " AND m.text LIKE ?" + QByteArray::number(firstPattern + bytes.size()) + " ESCAPE '\\'";
         bytes += each.toUtf8();
     }
     Statement get(m_database.get(), (sql + ordered(question, number)).constData());
     bindRange(get, question);
+    const QByteArray words = index.expression.toUtf8();
+    if (hasIndex)
+        get.bind(expression, words);
     for (qsizetype i = 0; i < bytes.size(); ++i)
         get.bind(static_cast<int>(firstPattern + i), bytes[i]);
     while (get.next())

@@ -47,15 +47,20 @@ public:
     static QString pathIn(const QString &folder) { return folder + QStringLiteral("/history.sqlite3"); }
 
 private:
+    /// A full-text index and what is looked for in it; without a name none.
+    struct Index {
+        QByteArray name;
+        QString expression;
+    };
+
     void open();
     void makeTables();
     int salvage(const QString &wreck);
     std::int64_t conversationFor(const KeptConversation &conversation);
     void inTransaction(const std::function<void()> &work);
     void search(const HistoryQuestion &question, std::vector<StoredMessage> &found);
-    void look(const QByteArray &index, const QString &expression, const HistoryQuestion &question,
+    void look(const Index &index, const QStringList &patterns, const HistoryQuestion &question,
               std::vector<StoredMessage> &found);
-    void compare(const HistoryQuestion &question, const QStringList &patterns, std::vector<StoredMessage> &found);
     void eraseMessages(const HistorySelection &selection);
     void removeSetAside(const QDateTime &before) const;
 

@@ -18,7 +18,8 @@ ContactMenuCaptions ContactCommands::captions(const QString &ip, qsizetype selec
         selected > 1 ? tr("Remove %1 users from the list").arg(selected) : tr("Remove '%1' from the list").arg(name),
         tr("Send &contacts to '%1'").arg(name),
         (contact->presence == Presence::offline ? tr("&Net send message to '%1'") : tr("I&nvite user '%1'")).arg(name),
-        contact->muted};
+        contact->muted,
+        m_services.common.history.leftOut.contains(ip)};
 }
 
 QString ContactCommands::toolTip(const QString &ip) const

@@ -18,6 +18,7 @@ namespace nimb
 struct ContactMenuCaptions {
     QString mnuPrivateChat, mnuBuzzUser, mnuRemoveUser, mnusendcontacts, mnuinviteuser;
     bool isMuted = false;
+    bool isLeftOut = false; ///< of the history
 };
 
 /// Every command does nothing when there is no contact with the address, an empty one included.

@@ -234,6 +234,9 @@ void frmMain::connectMenus()
     on("mnuBuzzUser", [this] { m_engine->commands.mnuBuzzUser(selectedContact()); });
     on("mnuRemoveUser", [this] { removeSelected(); });
     on("mnuMuteContact", [this](bool muted) { m_engine->commands.mnuMuteContact(selectedContact(), muted); });
+    on("mnuHistory", [this] { m_engine->windows.mnuHistory({}); });
+    on("mnuContactHistory", [this] { m_engine->windows.mnuHistory(selectedContact()); });
+    on("mnuLeaveOut", [this](bool leftOut) { m_engine->windows.mnuLeaveOut(selectedContact(), leftOut); });
     on("mnuNetworkscan", [this] { m_engine->windows.mnuNetworkscan(); });
     on("mnuAddUser", [this] { m_engine->windows.mnuAddUser(); });
     on("mnuImportContacts", [this] { m_engine->windows.mnuImportContacts(); });

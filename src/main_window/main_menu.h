@@ -55,6 +55,8 @@ inline constexpr std::array users = {
     MenuEntry{"mnuAddUser", QT_TRANSLATE_NOOP("MainMenu", "&Add offline user..."), "add-user"},
     MenuEntry{"mnuFindEverybody", QT_TRANSLATE_NOOP("MainMenu", "&Find everybody here"), "search"},
     separator,
+    MenuEntry{"mnuHistory", QT_TRANSLATE_NOOP("MainMenu", "&History...")},
+    separator,
     MenuEntry{"mnuImportContacts", QT_TRANSLATE_NOOP("MainMenu", "&Import contacts...")},
     MenuEntry{"mnuExportContacts", QT_TRANSLATE_NOOP("MainMenu", "&Export contacts...")},
 };
@@ -105,6 +107,8 @@ inline constexpr std::array contactMenu = {
     MenuEntry{"mnuRemoveUser", QT_TRANSLATE_NOOP("MainMenu", "Re&move User"), "remove-user"},
     MenuEntry{"mnuinviteuser", QT_TRANSLATE_NOOP("MainMenu", "I&nvite user")},
     MenuEntry{"mnuMuteContact", QT_TRANSLATE_NOOP("MainMenu", "M&ute")},
+    MenuEntry{"mnuContactHistory", QT_TRANSLATE_NOOP("MainMenu", "&History...")},
+    MenuEntry{"mnuLeaveOut", QT_TRANSLATE_NOOP("MainMenu", "&Keep no history")},
 };
 
 } // namespace nimb

@@ -40,6 +40,7 @@ void MainMenus::buildMenuBar()
     for (const char *const idle : entriesWithoutAction)
         entry(idle)->setEnabled(false);
     entry("mnuFileExit")->setShortcut(QKeySequence::Quit);
+    entry("mnuHistory")->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_H));
     entry("mnuFileExit")->setMenuRole(QAction::QuitRole);
     entry("mnuHelpAbout")->setMenuRole(QAction::AboutRole);
     entry("mnuToolsOptions")->setMenuRole(QAction::PreferencesRole);
@@ -54,6 +55,7 @@ void MainMenus::buildContactMenu()
         add(*mnuPopUp, item);
     mnuPopUp->setDefaultAction(mnuPopUp->actions().first());
     entry("mnuMuteContact")->setCheckable(true);
+    entry("mnuLeaveOut")->setCheckable(true);
     // Visible while their slot holds a conference.
     for (int slot = 1; slot <= conferenceSlots; ++slot)
         invitation(slot)->setVisible(false);
@@ -81,6 +83,7 @@ void MainMenus::setContact(const ContactMenuCaptions &captions, bool selected)
     entry("mnusendcontacts")->setText(captions.mnusendcontacts);
     entry("mnuinviteuser")->setText(captions.mnuinviteuser);
     entry("mnuMuteContact")->setChecked(captions.isMuted);
+    entry("mnuLeaveOut")->setChecked(captions.isLeftOut);
 }
 
 void MainMenus::popUp(const QPoint &position)

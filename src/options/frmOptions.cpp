@@ -90,6 +90,7 @@ void frmOptions::buildControls()
     right->setSpacing(groupDistance);
     right->addWidget(makeYou());
     right->addWidget(makeNotices());
+    right->addWidget(makeHistory());
     right->addWidget(makeAvatar());
     right->addStretch(1);
     auto *const buttons = new QDialogButtonBox(this);
@@ -143,6 +144,24 @@ QGroupBox *frmOptions::makeNotices()
 {
     auto *const group = new QGroupBox(tr("What arrives while you look elsewhere"), this);
     addOptions(OptionGroup::notices, *columnOf(group));
+    return group;
+}
+
+QGroupBox *frmOptions::makeHistory()
+{
+    auto *const group = new QGroupBox(tr("History"), this);
+    keepHistoryCombo = named(new QComboBox(group), "keepHistoryCombo");
+    nameCombo(*keepHistoryCombo, tr("Keep conversations"));
+    keepHistoryCombo->addItem(tr("no"), static_cast<int>(KeepHistory::no));
+    keepHistoryCombo->addItem(tr("for a year"), static_cast<int>(KeepHistory::year));
+    keepHistoryCombo->addItem(tr("for ever"), static_cast<int>(KeepHistory::ever));
+    auto *const caption = new QLabel(tr("Keep conversations:"), group);
+    caption->setBuddy(keepHistoryCombo);
+    auto *const row = new QHBoxLayout;
+    row->setSpacing(spacing);
+    row->addWidget(caption);
+    row->addWidget(keepHistoryCombo, 1);
+    columnOf(group)->addLayout(row);
     return group;
 }
 
@@ -289,6 +308,9 @@ void frmOptions::Form_Load()
     for (const QString &state : m_values.states())
         statesCombo->addItem(paintedName(state), statesCombo->count());
     showStates();
+    if (now.keepHistory == KeepHistory::notAsked)
+        keepHistoryCombo->insertItem(0, tr("ask me"), static_cast<int>(KeepHistory::notAsked));
+    keepHistoryCombo->setCurrentIndex(keepHistoryCombo->findData(static_cast<int>(now.keepHistory)));
     UDPPorttxt->setText(now.UDPPorttxt);
     for (const OptionValues::Card &card : m_values.cards())
         ownAddressCombo->addItem(card.caption, card.name);
@@ -326,6 +348,7 @@ OptionControls frmOptions::controls() const
     for (const ShownOption &shown : m_options)
         shown.row->setTicked(now.options, shown.box->isChecked());
     now.nickname = nicknameText->text();
+    now.keepHistory = static_cast<KeepHistory>(keepHistoryCombo->currentData().toInt());
     now.removedStates = m_removedStates;
     std::ranges::sort(now.removedStates);
     now.UDPPorttxt = UDPPorttxt->text();

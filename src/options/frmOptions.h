@@ -44,6 +44,7 @@ private:
     QGroupBox *makePrivateWindows();
     QGroupBox *makeProgram();
     QGroupBox *makeNotices();
+    QGroupBox *makeHistory();
     QGroupBox *makeFont();
     QGroupBox *makeAvatar();
     /// Adds the options of that group, the choices between two buttons first.
@@ -86,6 +87,7 @@ private:
     QLabel *m_fontSample = nullptr;
     QLineEdit *nicknameText = nullptr;
     QComboBox *statesCombo = nullptr;
+    QComboBox *keepHistoryCombo = nullptr;
     QPushButton *removeStateBtn = nullptr;
     QPushButton *font_btn = nullptr;
     QRadioButton *Option1 = nullptr;

@@ -27,6 +27,7 @@ OptionControls OptionValues::Form_Load() const
     OptionControls controls;
     controls.nickname = m_parts.common.ownNickname;
     controls.options = m_parts.common.options;
+    controls.keepHistory = m_parts.common.history.keep;
     controls.UDPPorttxt = QString::number(m_parts.common.udpPort);
     controls.ownCard = m_parts.common.ownCard;
     controls.font = m_parts.common.logFont;
@@ -84,6 +85,7 @@ std::optional<QString> OptionValues::CmdOK_Click(const OptionControls &controls)
     for (auto state = controls.removedStates.rbegin(); state != controls.removedStates.rend(); ++state)
         m_parts.ownState.removePersonalized(OwnState::plainEntries + *state + 1);
     m_parts.changeNickname(controls.nickname);
+    m_parts.keepHistory(controls.keepHistory);
     m_parts.taken();
     return std::nullopt;
 }

@@ -25,6 +25,7 @@ struct OptionControls {
     QString nickname;
     std::vector<int> removedStates; ///< places among the personalised states, the first is 0, in rising order
     Options options;
+    KeepHistory keepHistory = KeepHistory::notAsked;
     QString UDPPorttxt;
     QString ownCard; ///< empty: automatic
     LogFont font;
@@ -47,6 +48,7 @@ public:
         const WallClock &clock;
         const OwnAddresses &ownAddresses;
         std::function<void(const QString &)> changeNickname;
+        std::function<void(KeepHistory)> keepHistory;
         std::function<void()> taken; ///< called when the options have been taken
     };
 

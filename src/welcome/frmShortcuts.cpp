@@ -27,6 +27,7 @@ struct ShortcutGroup {
 
 constexpr std::array mainShortcuts{
     Shortcut{"Ctrl+K", QT_TRANSLATE_NOOP("frmShortcuts", "Find a contact; typing in the list does the same")},
+    Shortcut{"Ctrl+H", QT_TRANSLATE_NOOP("frmShortcuts", "What was kept of conversations")},
     Shortcut{"Enter", QT_TRANSLATE_NOOP("frmShortcuts", "Open the private window of the selected contact")},
     Shortcut{"Del", QT_TRANSLATE_NOOP("frmShortcuts", "Remove the selected contacts, after a question")},
     Shortcut{"Esc", QT_TRANSLATE_NOOP("frmShortcuts", "Leave the search for a contact")},

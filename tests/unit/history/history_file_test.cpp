@@ -195,6 +195,8 @@ TEST_F(HistoryFileTest, FindsAllWordsInAnyOrderByTheirBeginningsOrParts)
     EXPECT_EQ(found(history, "BASE plan"), QStringList{"The plan of the basement"});
     EXPECT_EQ(found(history, "asemen"), QStringList{"The plan of the basement"});
     EXPECT_EQ(found(history, "lanet"), QStringList{"a planet"});
+    EXPECT_EQ(found(history, "asemen of"), QStringList{"The plan of the basement"});
+    EXPECT_EQ(found(history, "lan a"), (QStringList{"The plan of the basement", "a planet"}));
     EXPECT_THAT(found(history, "plan elsewhere"), IsEmpty());
 }
 

@@ -34,6 +34,7 @@ protected:
          .clock = *copy.time,
          .ownAddresses = copy.ownAddresses,
          .changeNickname = [this](const QString &name) { copy.engine.mainWindow().changeNickname(name); },
+         .keepHistory = [this](KeepHistory keep) { copy.engine.history().choose(keep); },
          .taken = [this] { copy.engine.recovery().settingsChanged(); }}};
 };
 
