@@ -93,6 +93,7 @@ TEST_F(FrmMain, BearsItsFixedNames)
                              "mnuHelpContents",
                              "mnuHelpSearchForHelpOn",
                              "mnuHelpAbout",
+                             "mnuManual",
                              "mnuTOTD",
                              "mnuNetworkDoctor",
                              "mnuShortcuts"})
