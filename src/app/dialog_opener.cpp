@@ -1,5 +1,6 @@
 #include "app/dialog_opener.h"
 
+#include "app/manual_opener.h"
 #include "base/limits.h"
 #include "doctor/frmDoctor.h"
 #include "main_window/frmMain.h"
@@ -125,6 +126,16 @@ void DialogOpener::mnuHelpAbout()
 void DialogOpener::mnuShortcuts()
 {
     open(new frmShortcuts(&m_main));
+}
+
+bool DialogOpener::hasManual() const
+{
+    return m_services.manual.hasManual();
+}
+
+void DialogOpener::mnuManual()
+{
+    m_services.manual.openFor(m_main);
 }
 
 void DialogOpener::mnuinviteuser(const QString &ip)

@@ -19,6 +19,7 @@
 namespace nimb
 {
 
+class ManualOpener;
 class frmDoctor;
 class frmMain;
 class frmSendContact;
@@ -33,6 +34,7 @@ struct FormServices {
     SettingsStore &store;
     Prompts &prompts;
     LinkOpener &links;
+    ManualOpener &manual;
     PictureSources &pictures;
     NameResolver &names;
     NetSend &netSend;
@@ -64,6 +66,8 @@ public:
     void mnuTOTD() override;
     void mnuNetworkDoctor() override;
     void mnuShortcuts() override;
+    bool hasManual() const override;
+    void mnuManual() override;
     void mnusendcontacts(const QString &ip) override;
     void mnuinviteuser(const QString &ip) override;
     void mnuCreateNewConf() override;

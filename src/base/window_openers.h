@@ -48,6 +48,9 @@ public:
     virtual void mnuTOTD() = 0;
     virtual void mnuNetworkDoctor() = 0;
     virtual void mnuShortcuts() = 0;
+    /// False where the program was built without a manual.
+    virtual bool hasManual() const = 0;
+    virtual void mnuManual() = 0;
     /// An address that is no contact's is ignored.
     virtual void mnusendcontacts(const QString &ip) = 0;
     /// Empty: no contact is selected.

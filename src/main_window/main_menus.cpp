@@ -41,6 +41,8 @@ void MainMenus::buildMenuBar()
         entry(idle)->setEnabled(false);
     entry("mnuFileExit")->setShortcut(QKeySequence::Quit);
     entry("mnuFileExit")->setMenuRole(QAction::QuitRole);
+    entry("mnuManual")->setShortcut(Qt::Key_F1);
+    entry("mnuManual")->setAutoRepeat(false); // a key that is held down opens the page once
     entry("mnuHelpAbout")->setMenuRole(QAction::AboutRole);
     entry("mnuToolsOptions")->setMenuRole(QAction::PreferencesRole);
     QAction *const log = entry("mnuLogWindow");
