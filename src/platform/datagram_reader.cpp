@@ -45,6 +45,7 @@ DatagramReader::Batch DatagramReader::take(std::size_t most)
     Batch batch = std::exchange(m_counts, {});
     batch.arrivals = m_queue.take(m_rushes ? std::min(most, fewInARush) : most);
     batch.losses = m_queue.takeLosses();
+    batch.rushes = m_rushes;
     if (m_queue.isEmpty())
         m_somethingWaits.calm();
     return batch;
