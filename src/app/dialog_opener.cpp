@@ -1,5 +1,6 @@
 #include "app/dialog_opener.h"
 
+#include "app/manual_opener.h"
 #include "base/limits.h"
 #include "doctor/frmDoctor.h"
 #include "history/frmHistory.h"
@@ -142,6 +143,16 @@ void DialogOpener::mnuLeaveOut(const QString &ip, bool leftOut)
 {
     if (m_engine.contacts().find(ip))
         m_engine.history().leaveOut(ip, leftOut);
+}
+
+bool DialogOpener::hasManual() const
+{
+    return m_services.manual.hasManual();
+}
+
+void DialogOpener::mnuManual()
+{
+    m_services.manual.openFor(m_main);
 }
 
 void DialogOpener::mnuinviteuser(const QString &ip)

@@ -19,6 +19,7 @@
 namespace nimb
 {
 
+class ManualOpener;
 class frmDoctor;
 class frmHistory;
 class frmMain;
@@ -34,6 +35,7 @@ struct FormServices {
     SettingsStore &store;
     Prompts &prompts;
     LinkOpener &links;
+    ManualOpener &manual;
     PictureSources &pictures;
     NameResolver &names;
     NetSend &netSend;
@@ -67,6 +69,8 @@ public:
     void mnuShortcuts() override;
     void mnuHistory(const QString &ip) override;
     void mnuLeaveOut(const QString &ip, bool leftOut) override;
+    bool hasManual() const override;
+    void mnuManual() override;
     void mnusendcontacts(const QString &ip) override;
     void mnuinviteuser(const QString &ip) override;
     void mnuCreateNewConf() override;

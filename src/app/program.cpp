@@ -30,8 +30,8 @@ Program::Program(const Environment &environment)
       m_udp(m_drops, environment.address ? readAddress(*environment.address) : std::nullopt, environment.hostName),
       m_socket(m_udp, m_trace), m_ownAddresses(environment.address ? readAddress(*environment.address) : std::nullopt),
       m_diagnosis(m_udp), m_history(environment.profileFolder),
-      m_forms({m_common, m_timers, m_clock, m_socket, m_store, m_prompts, m_links, m_pictures, m_names, m_netSend,
-               m_systemInfo, m_diagnosis, m_trace, m_drops, m_spellChecker,
+      m_forms({m_common, m_timers, m_clock, m_socket, m_store, m_prompts, m_links, m_manual, m_pictures, m_names,
+               m_netSend, m_systemInfo, m_diagnosis, m_trace, m_drops, m_spellChecker,
                [] { return readProgramFile(QStringLiteral("TOTD.txt")); }})
 {
     qApp->installEventFilter(&m_toolTips);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/form_opener.h"
+#include "app/manual_opener.h"
 #include "app/messenger.h"
 #include "app/notification_router.h"
 #include "base/window_openers.h"
@@ -104,6 +105,8 @@ private:
     PlainToolTips m_toolTips;
     ProgramSounds m_sound;
     DesktopLinkOpener m_links;
+    DesktopPageOpener m_pages;
+    ManualOpener m_manual{findManual(), m_pages};
     SystemPictureSources m_pictures;
     HostNameResolver m_names;
     NetSendRunner m_netSend;

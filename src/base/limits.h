@@ -99,6 +99,8 @@ constexpr std::chrono::milliseconds noticePause{1000};
 constexpr std::size_t waysRemembered = 20000;
 /// Bytes of datagrams that wait for the engine: a burst of 100,000 messages, while memory stays what people expect.
 constexpr std::size_t waitingArrivals = std::size_t{32} * 1024 * 1024;
+/// After so long the windows and timers have their turn before the next datagrams: some take ten milliseconds each.
+constexpr std::chrono::milliseconds turnOfArrivals{8};
 /// How long at a time the one who handles what has arrived leaves the processor to the one who reads it: what takes no
 /// longer is felt to happen at once.
 constexpr std::chrono::milliseconds readersLead{100};
@@ -149,8 +151,9 @@ constexpr std::chrono::milliseconds announcementSpread{3000};
 constexpr std::chrono::milliseconds networkChangeShown{10000};
 /// How long a change of contacts or settings may wait for others before it is kept: a run that is killed loses no more.
 constexpr std::chrono::milliseconds keepDelay{1000};
-/// Time between two attempts to keep what could not be kept.
-constexpr std::chrono::milliseconds keepRetry{30000};
+/// Time until what could not be kept is tried again; each further pause is twice as long, up to so many times that.
+constexpr std::chrono::milliseconds keepRetry{1000};
+constexpr int longestKeepRetry = 32;
 /// Characters of a word whose spelling is checked: longer ones are no words, and looking for what else they may be
 /// takes seconds.
 constexpr qsizetype spelledWordLength = 64;

@@ -52,6 +52,9 @@ public:
     virtual void mnuHistory(const QString &ip) = 0;
     /// Nothing of the contact is kept from now on, or again.
     virtual void mnuLeaveOut(const QString &ip, bool leftOut) = 0;
+    /// False where the program was built without a manual.
+    virtual bool hasManual() const = 0;
+    virtual void mnuManual() = 0;
     /// An address that is no contact's is ignored.
     virtual void mnusendcontacts(const QString &ip) = 0;
     /// Empty: no contact is selected.

@@ -246,6 +246,8 @@ void frmMain::connectMenus()
     on("mnuHelpAbout", [this] { m_engine->windows.mnuHelpAbout(); });
     on("mnuTOTD", [this] { m_engine->windows.mnuTOTD(); });
     on("mnuShortcuts", [this] { m_engine->windows.mnuShortcuts(); });
+    on("mnuManual", [this] { m_engine->windows.mnuManual(); });
+    m_menus.entry("mnuManual")->setEnabled(m_engine->windows.hasManual());
     on("mnuNetworkDoctor", [this] { m_engine->windows.mnuNetworkDoctor(); });
     on("mnusendcontacts", [this] { m_engine->windows.mnusendcontacts(selectedContact()); });
     on("mnuinviteuser", [this] { m_engine->windows.mnuinviteuser(selectedContact()); });

@@ -71,6 +71,7 @@ inline constexpr std::array tools = {
 inline constexpr std::array help = {
     MenuEntry{"mnuHelpContents", QT_TRANSLATE_NOOP("MainMenu", "&Contents"), "help"},
     MenuEntry{"mnuHelpSearchForHelpOn", QT_TRANSLATE_NOOP("MainMenu", "&Search For Help On...")},
+    MenuEntry{"mnuManual", QT_TRANSLATE_NOOP("MainMenu", "&Manual")},
     MenuEntry{"mnuTOTD", QT_TRANSLATE_NOOP("MainMenu", "&Tip of the day..."), "tip"},
     MenuEntry{"mnuNetworkDoctor", QT_TRANSLATE_NOOP("MainMenu", "&Network doctor...")},
     MenuEntry{"mnuShortcuts", QT_TRANSLATE_NOOP("MainMenu", "&Keyboard shortcuts...")},

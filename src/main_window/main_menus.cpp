@@ -42,6 +42,8 @@ void MainMenus::buildMenuBar()
     entry("mnuFileExit")->setShortcut(QKeySequence::Quit);
     entry("mnuHistory")->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_H));
     entry("mnuFileExit")->setMenuRole(QAction::QuitRole);
+    entry("mnuManual")->setShortcut(Qt::Key_F1);
+    entry("mnuManual")->setAutoRepeat(false); // a key that is held down opens the page once
     entry("mnuHelpAbout")->setMenuRole(QAction::AboutRole);
     entry("mnuToolsOptions")->setMenuRole(QAction::PreferencesRole);
     QAction *const log = entry("mnuLogWindow");

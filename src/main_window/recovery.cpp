@@ -3,6 +3,8 @@
 #include "base/limits.h"
 #include "base/settings.h"
 
+#include <algorithm>
+
 namespace nimb
 {
 namespace
@@ -29,7 +31,7 @@ public:
 
 Recovery::Recovery(const Parts &parts)
     : m_parts(parts), m_delay(parts.timers.oneShot(limits::keepDelay, [this] { keep(); })),
-      m_retry(parts.timers.oneShot(limits::keepRetry, [this] { keep(); }))
+      m_retry(parts.timers.oneShot(limits::keepRetry, [this] { retry(); }))
 {
 }
 
@@ -165,10 +167,25 @@ void Recovery::keep()
         if (problem && !std::exchange(m_failing, true))
             m_parts.log.fault(*problem);
         if (problem)
-            return m_retry->start();
+            return keepLater();
     }
     m_failing = false;
+    m_pause = 0;
     keptAre(std::move(now));
+}
+
+void Recovery::keepLater()
+{
+    m_pause = std::clamp(m_pause * 2, 1, limits::longestKeepRetry);
+    m_pauseLeft = m_pause;
+    m_retry->start();
+}
+
+void Recovery::retry()
+{
+    if (--m_pauseLeft > 0)
+        return m_retry->start();
+    keep();
 }
 
 Recovery::Values Recovery::settings(const QStringList &states) const

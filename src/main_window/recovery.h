@@ -63,6 +63,8 @@ private:
     void contactGoes(const ContactAddress &ip);
     void wait();
     void keep();
+    void keepLater();
+    void retry();
     Values settings(const QStringList &states) const;
     std::optional<Kept> toKeepOf(const ContactAddress &ip) const;
     struct Changes {
@@ -77,6 +79,8 @@ private:
     QObject m_connections; ///< to the contacts, as long as it lives
     std::unique_ptr<Timer> m_delay;
     std::unique_ptr<Timer> m_retry;
+    int m_pause = 0;     ///< before the next attempt, in limits::keepRetry
+    int m_pauseLeft = 0; ///< of it
     bool m_begun = false;
     bool m_failing = false; ///< and that has been said
     Values m_keptSettings;

@@ -45,6 +45,7 @@ DatagramReader::Batch DatagramReader::take(std::size_t most)
     Batch batch = std::exchange(m_counts, {});
     batch.arrivals = m_queue.take(m_rushes ? std::min(most, fewInARush) : most);
     batch.losses = m_queue.takeLosses();
+    batch.rushes = m_rushes;
     if (m_queue.isEmpty())
         m_somethingWaits.calm();
     return batch;
@@ -67,7 +68,7 @@ void DatagramReader::run()
         watched.push_back({.fd = socket->descriptor(), .events = POLLIN, .revents = 0});
     ArrivalRush rush;
     for (;;) {
-        const int ready = ::poll(watched.data(), watched.size(), rush.isOn() ? ArrivalRush::window.count() : -1);
+        const int ready = ::poll(watched.data(), watched.size(), rush.isOn() ? ArrivalRush::silence.count() : -1);
         if (ready < 0)
             continue; // a signal came in between
         if (watched.front().revents != 0)
@@ -75,7 +76,10 @@ void DatagramReader::run()
         std::size_t received = 0;
         for (std::size_t i = 0; ready > 0 && i < m_sockets.size(); ++i)
             received += watched[i + 1].revents != 0 ? read(*m_sockets[i], buffers) : 0;
-        rush.note(received, std::chrono::steady_clock::now());
+        if (ready == 0)
+            rush.pause();
+        else
+            rush.note(received, std::chrono::steady_clock::now());
         tellOfRush(rush.isOn());
     }
 }

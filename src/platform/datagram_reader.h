@@ -27,6 +27,7 @@ public:
         ArrivalQueue::Losses losses = {}; ///< had no room here
         std::uint64_t lostBySystem = 0;   ///< had no room in the system
         std::uint64_t errors = 0;         ///< of the sockets
+        bool rushes = false;              ///< more is coming in at this moment
     };
 
     /// The sockets stay their owner's, who may send with them meanwhile, and outlive the reader. Throws

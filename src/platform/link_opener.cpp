@@ -26,4 +26,11 @@ bool DesktopLinkOpener::open(const QUrl &address)
     return mayBeOpened(address) && QDesktopServices::openUrl(address);
 }
 
+bool DesktopPageOpener::open(const QUrl &address)
+{
+    const bool isPage
+        = address.isLocalFile() && address.host().isEmpty() && address.path().endsWith(QLatin1String(".html"));
+    return isPage && QDesktopServices::openUrl(address);
+}
+
 } // namespace nimb

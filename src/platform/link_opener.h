@@ -14,4 +14,12 @@ public:
     bool open(const QUrl &address) override;
 };
 
+/// Opens the pages that ship with the program with what shows web pages, and nothing else: no text that a peer sends
+/// comes here. Needs the application object.
+class DesktopPageOpener : public LinkOpener
+{
+public:
+    bool open(const QUrl &address) override;
+};
+
 } // namespace nimb

@@ -18,6 +18,17 @@ std::optional<QString> findProgramFile(const QString &name, const QString &progr
     return std::nullopt;
 }
 
+std::optional<QString> findManual(const QString &programFolder)
+{
+    const QString installed = programFolder + QLatin1String("/" NIMB_DOCUMENTS_FROM_PROGRAM);
+    for (const QString &folder : {programFolder, installed}) {
+        const QFileInfo start(QDir(folder), QStringLiteral("manual/index.html"));
+        if (start.isFile() && start.isReadable())
+            return QDir::cleanPath(start.absolutePath());
+    }
+    return std::nullopt;
+}
+
 std::optional<QByteArray> readProgramFile(const QString &name, const QString &programFolder)
 {
     constexpr qint64 largest = qint64(1024) * 1024;

@@ -16,8 +16,12 @@ namespace nimb
 std::optional<QString> findProgramFile(const QString &name,
                                        const QString &programFolder = QCoreApplication::applicationDirPath());
 
-/// All that is in it; nothing when it is not there, cannot be read, or has more than a mebibyte, for then somebody has
-/// put something else in its place.
+/// Full path of the folder with the pages of the manual: beside the program, else among the documents of the
+/// installation. Empty when it was built without them, or the system leaves documents out.
+std::optional<QString> findManual(const QString &programFolder = QCoreApplication::applicationDirPath());
+
+/// All that is in a file; nothing when it is not there, cannot be read, or has more than a mebibyte, for then somebody
+/// has put something else in its place.
 std::optional<QByteArray> readProgramFile(const QString &name,
                                           const QString &programFolder = QCoreApplication::applicationDirPath());
 

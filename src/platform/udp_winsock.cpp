@@ -3,11 +3,11 @@
 #include "base/limits.h"
 #include "platform/own_identity.h"
 
+#include <QElapsedTimer>
 #include <QScopeGuard>
 
 #include <algorithm>
 #include <system_error>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -193,13 +193,14 @@ void UdpWinsock::handOver()
         if (m_notifier)
             m_notifier->setEnabled(true);
     });
-    DatagramReader::Batch batch = m_reader->take(batchSize);
-    count(batch);
-    for (Arrival &arrival : batch.arrivals) {
-        // Where the reader waits for this processor it has it now: a small receive buffer is full after three
-        // milliseconds of a flood, and a whole batch takes as long.
-        std::this_thread::yield();
-        deliver(std::move(arrival));
+    QElapsedTimer time;
+    time.start();
+    for (int handed = 0; m_reader && handed < batchSize && time.elapsed() < limits::turnOfArrivals.count();) {
+        DatagramReader::Batch batch = m_reader->take(portion);
+        count(batch);
+        for (Arrival &arrival : batch.arrivals)
+            deliver(std::move(arrival));
+        handed += batch.rushes || batch.arrivals.empty() ? batchSize : portion;
     }
 }
 

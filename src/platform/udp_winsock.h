@@ -27,6 +27,8 @@ class UdpWinsock : public QObject, public Winsock
 
 public:
     static constexpr int batchSize = 64;
+    /// Taken at a time, so that what takes long leaves the rest in its order by sender.
+    static constexpr int portion = 8;
     static constexpr int receiveBufferAsked = 4 * 1024 * 1024; ///< bytes
 
     /// address: the one to bind to and to report as the own one; without it, the socket is bound to every interface.

@@ -1,5 +1,6 @@
 #include "protocol/arrival_queue.h"
 
+#include <iterator>
 #include <utility>
 
 namespace nimb
@@ -19,8 +20,21 @@ void ArrivalQueue::push(Ipv4Address source, std::string_view bytes)
     nowHas(sender, sender->bytes + cost(sender->waiting.back()));
     while (m_bytes > m_capacity) {
         rank();
-        dropNewestOf(m_loud->empty() ? sender : m_byAddress.at(m_loud->rbegin()->second));
+        dropNewestOf(whoLoses(sender));
     }
+}
+
+ArrivalQueue::Turns::iterator ArrivalQueue::whoLoses(Turns::iterator arriving)
+{
+    const auto loudest = [this](const auto &loud) { return m_byAddress.at(loud.rbegin()->second); };
+    const bool spareAcquaintances = m_acquaintancesBytes <= m_capacity / 2;
+    if (!m_loud->acquaintances.empty() && !spareAcquaintances)
+        return loudest(m_loud->acquaintances);
+    if (!m_loud->others.empty())
+        return loudest(m_loud->others);
+    if (!arriving->isAcquainted || m_othersTurns.empty())
+        return m_othersTurns.empty() && !m_loud->acquaintances.empty() ? loudest(m_loud->acquaintances) : arriving;
+    return std::prev(m_othersTurns.end());
 }
 
 void ArrivalQueue::setAcquainted(Ipv4Address sender, bool acquainted)
@@ -32,6 +46,9 @@ void ArrivalQueue::setAcquainted(Ipv4Address sender, bool acquainted)
     const auto waiting = m_byAddress.find(sender);
     if (waiting == m_byAddress.end() || waiting->second->isAcquainted == acquainted)
         return;
+    // It is ranked anew among the others when the next datagram has no room.
+    m_loud.reset();
+    m_acquaintancesBytes += acquainted ? waiting->second->bytes : -waiting->second->bytes;
     Turns &former = turnsOf(*waiting->second);
     waiting->second->isAcquainted = acquainted;
     Turns &turns = turnsOf(*waiting->second);
@@ -70,6 +87,7 @@ ArrivalQueue::Turns::iterator ArrivalQueue::turnOf(Ipv4Address source)
     const auto sender = turns.insert(turns.end(), std::move(made));
     m_byAddress.emplace(source, sender);
     m_bytes += overhead;
+    m_acquaintancesBytes += sender->isAcquainted ? overhead : 0;
     return sender;
 }
 
@@ -91,7 +109,7 @@ void ArrivalQueue::rank()
     m_loud.emplace();
     for (const auto &[address, sender] : m_byAddress) {
         if (sender->waiting.size() > 1)
-            m_loud->emplace(sender->bytes, address);
+            loudAmong(*sender).emplace(sender->bytes, address);
     }
 }
 
@@ -108,18 +126,21 @@ void ArrivalQueue::dropNewestOf(Turns::iterator sender)
 void ArrivalQueue::nowHas(Turns::iterator sender, std::size_t bytes)
 {
     if (m_loud)
-        m_loud->erase({sender->bytes, sender->address});
+        loudAmong(*sender).erase({sender->bytes, sender->address});
     m_bytes = m_bytes - sender->bytes + bytes;
+    if (sender->isAcquainted)
+        m_acquaintancesBytes = m_acquaintancesBytes - sender->bytes + bytes;
     sender->bytes = bytes;
     if (sender->waiting.empty())
         forget(sender);
     else if (m_loud && sender->waiting.size() > 1)
-        m_loud->emplace(bytes, sender->address);
+        loudAmong(*sender).emplace(bytes, sender->address);
 }
 
 void ArrivalQueue::forget(Turns::iterator sender)
 {
     m_bytes -= overhead;
+    m_acquaintancesBytes -= sender->isAcquainted ? overhead : 0;
     m_byAddress.erase(sender->address);
     turnsOf(*sender).erase(sender);
 }

@@ -16,10 +16,19 @@ public:
 
     /// After so long with fewer than `fewest` datagrams it is over.
     static constexpr std::chrono::milliseconds window{2};
+    /// After so long with none it is over as well.
+    static constexpr std::chrono::milliseconds silence{1};
     /// Within a window, 16,000 a second.
     static constexpr std::size_t fewest = 32;
 
-    /// So many were read, also none.
+    /// Nothing came for so long as `silence` says.
+    void pause()
+    {
+        m_isOn = false;
+        m_count = 0;
+    }
+
+    /// So many were read.
     void note(std::size_t datagrams, Time now)
     {
         if (now - m_start >= window) {

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #ifdef Q_OS_UNIX
 #include <unistd.h>
@@ -39,7 +40,8 @@ QStringList NextStartFile::take()
 QString NextStartFile::read() const
 {
     QFile file(m_file);
-    if (!file.open(QIODevice::ReadOnly))
+    // What is no file may never end, or never begin.
+    if (!QFileInfo(m_file).isFile() || !file.open(QIODevice::ReadOnly))
         return {};
     QString text = QString::fromUtf8(file.read(fileSize)).trimmed();
     return text.isEmpty() ? text : text + QLatin1Char('\n');
@@ -52,6 +54,8 @@ bool NextStartFile::write(const QString &text) const
         return false;
     takeFileFromOthers(m_file);
     QFile file(m_file);
+    if (!QFileInfo(m_file).isFile())
+        return false;
     // Over what is there: nothing new has to be found on the disk.
     if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) || file.write(bytes) != fileSize)
         return false;

@@ -25,6 +25,9 @@ struct ShortcutGroup {
     std::span<const Shortcut> shortcuts;
 };
 
+constexpr std::array everywhereShortcuts{
+    Shortcut{"F1", QT_TRANSLATE_NOOP("frmShortcuts", "Open the manual at the page of the window")},
+};
 constexpr std::array mainShortcuts{
     Shortcut{"Ctrl+K", QT_TRANSLATE_NOOP("frmShortcuts", "Find a contact; typing in the list does the same")},
     Shortcut{"Ctrl+H", QT_TRANSLATE_NOOP("frmShortcuts", "What was kept of conversations")},
@@ -50,6 +53,7 @@ constexpr std::array logShortcuts{
 };
 
 const std::array shortcutGroups{
+    ShortcutGroup{QT_TRANSLATE_NOOP("frmShortcuts", "Every window"), everywhereShortcuts},
     ShortcutGroup{QT_TRANSLATE_NOOP("frmShortcuts", "Main window"), mainShortcuts},
     ShortcutGroup{QT_TRANSLATE_NOOP("frmShortcuts", "Conversations"), conversationShortcuts},
     ShortcutGroup{QT_TRANSLATE_NOOP("frmShortcuts", "Logs"), logShortcuts},

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QUrl>
 
 #include <gmock/gmock.h>
 
@@ -112,6 +113,25 @@ TEST_F(Links, AreOpenedByAClickWithTheAddressAsTheOneArgument)
     EXPECT_TRUE(desktop.isCalled(1));
     EXPECT_EQ(bob.end(), 0);
     EXPECT_THAT(desktop.calls(), ElementsAre("1\nhttp://127.0.0.1/x_y\n"));
+}
+
+TEST_F(Links, OfTheManualLeadToThePageOfTheWindowInWhichTheUserIs)
+{
+    const QDir manual(QFileInfo(RunningCopy::builtProgram()).dir().filePath(QStringLiteral("manual")));
+    if (!manual.exists(QStringLiteral("index.html")))
+        GTEST_SKIP() << "this program was built without a manual";
+    const MainWindow main = MainWindow::of("Bob");
+    main.activate();
+    press("F1");
+    ASSERT_TRUE(desktop.isCalled(1));
+    ann.send(bob.address(), "-hello");
+    PrivateWindow::with("Ann").activate();
+    press("F1");
+    ASSERT_TRUE(desktop.isCalled(2));
+    const std::string folder = QUrl::fromLocalFile(manual.path()).toEncoded().toStdString();
+    EXPECT_THAT(desktop.calls(),
+                ElementsAre("1\n" + folder + "/main-window.html\n", //
+                            "1\n" + folder + "/private-chat.html\n"));
 }
 
 TEST_F(Links, InheritNothingFromTheProgram)

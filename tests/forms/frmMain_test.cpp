@@ -96,6 +96,7 @@ TEST_F(FrmMain, BearsItsFixedNames)
                              "mnuHelpContents",
                              "mnuHelpSearchForHelpOn",
                              "mnuHelpAbout",
+                             "mnuManual",
                              "mnuTOTD",
                              "mnuNetworkDoctor",
                              "mnuShortcuts"})

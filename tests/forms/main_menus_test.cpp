@@ -72,7 +72,7 @@ TEST_F(MainMenusTest, TheMenuBarHasEveryEntryInItsPlace)
                 ElementsAre("mnuLogWindow: Show &Log Window", "mnuToolsOptions: &Options..."));
     EXPECT_THAT(entriesOf(menu("mnuHelp")),
                 ElementsAre("mnuHelpContents: &Contents", "mnuHelpSearchForHelpOn: &Search For Help On...",
-                            "mnuTOTD: &Tip of the day...", "mnuNetworkDoctor: &Network doctor...",
+                            "mnuManual: &Manual", "mnuTOTD: &Tip of the day...", "mnuNetworkDoctor: &Network doctor...",
                             "mnuShortcuts: &Keyboard shortcuts...", "mnuHelpAbout: &About"));
     for (const char *name : {"mnuFile", "mnuUsers", "mnuConference", "mnuTools", "mnuHelp"}) {
         for (const QAction *const action : menu(name).actions())

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/form_opener.h"
+#include "app/manual_opener.h"
 #include "controls.h"
 #include "dialog_recorders.h"
 #include "log/rich_text_log.h"
@@ -27,8 +28,9 @@ class RealWindows : public Recorders
 {
 public:
     explicit RealWindows(const std::vector<std::pair<const char *, const char *>> &contacts = {},
-                         const std::map<std::string, QString> &stored = {}, SpellChecker *realSpelling = nullptr)
-        : m_spelling(realSpelling ? *realSpelling : spellChecker)
+                         const std::map<std::string, QString> &stored = {}, SpellChecker *realSpelling = nullptr,
+                         const std::optional<QString> &manualFolder = QStringLiteral("/manual"))
+        : m_spelling(realSpelling ? *realSpelling : spellChecker), manual(manualFolder, manualPages)
     {
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
         common.ownIP = Ipv4Address(10, 0, 0, 1);
@@ -132,9 +134,11 @@ private:
     SpellChecker &m_spelling;
 
 public:
+    RecorderLinks manualPages;
+    ManualOpener manual;
     std::optional<QByteArray> tips = QByteArray("The first tip||in two lines\nThe second tip, with a comma\n");
-    FormOpener forms{{common, time, time, traced, settings, prompts, links, pictures, names, netSend, systemInformation,
-                      diagnosis, trace, drops, m_spelling, [this] { return tips; }}};
+    FormOpener forms{{common, time, time, traced, settings, prompts, links, manual, pictures, names, netSend,
+                      systemInformation, diagnosis, trace, drops, m_spelling, [this] { return tips; }}};
     bool ended = false;
 
 private:

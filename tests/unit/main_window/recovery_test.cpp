@@ -159,6 +159,19 @@ TEST(Recovery, AStoredContactThatReturnsAndGoesAgainStaysGone)
     EXPECT_THAT(runAfterKill(copy)->names(), IsEmpty());
 }
 
+TEST(Recovery, WhatCouldNotBeKeptForAMomentIsKeptASecondLater)
+{
+    Copy copy;
+    copy.settleStart();
+    copy.settings.failure = QStringLiteral("Another program is using the file.");
+    copy.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC-ANN Ann");
+    copy.advance(limits::keepDelay);
+    EXPECT_THAT(kept(copy), IsEmpty());
+    copy.settings.failure = std::nullopt;
+    copy.advance(limits::keepRetry);
+    EXPECT_EQ(kept(copy).size(), 2u);
+}
+
 TEST(Recovery, StrangersWithoutEndLeaveNothingWhileNothingCanBeKept)
 {
     Copy copy;
@@ -172,7 +185,7 @@ TEST(Recovery, StrangersWithoutEndLeaveNothingWhileNothingCanBeKept)
     }
     copy.settings.failure = std::nullopt;
     const int keeps = copy.settings.keeps;
-    copy.advance(limits::keepRetry);
+    copy.advance(limits::keepRetry * limits::longestKeepRetry);
     EXPECT_THAT(kept(copy), IsEmpty());
     EXPECT_EQ(copy.settings.keeps, keeps) << "there was nothing left to keep";
 }
@@ -334,11 +347,11 @@ TEST(Recovery, AFailureIsSaidOnceAndTriedAgainUntilItSucceeds)
     copy.advance(120s);
     EXPECT_THAT(copy.view.log.lines(), ElementsAre("The disk is full."));
     EXPECT_EQ(copy.view.log.colourOfLastPiece(), 0x0000FFu);
-    EXPECT_GE(copy.settings.keeps, 3);
-    EXPECT_LE(copy.settings.keeps, 5);
+    EXPECT_GE(copy.settings.keeps, 6);
+    EXPECT_LE(copy.settings.keeps, 8);
 
     copy.settings.failure = std::nullopt;
-    copy.advance(limits::keepRetry);
+    copy.advance(limits::keepRetry * limits::longestKeepRetry);
     EXPECT_EQ(kept(copy).size(), 2u);
     EXPECT_EQ(copy.time->nextDue(), std::nullopt);
 

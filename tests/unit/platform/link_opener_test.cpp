@@ -77,6 +77,24 @@ INSTANTIATE_TEST_SUITE_P(DesktopLinkOpener, RefusedAddress,
                                          "www.example.org", "//example.org/x", "http:", "http:///path", "https://",
                                          "ftp:x", "mailto:", "http://[broken/", "http://example.org:99999/"));
 
+TEST(DesktopPageOpener, HandsPagesOfThisComputerToTheDesktop)
+{
+    Desktop desktop;
+    DesktopPageOpener opener;
+    EXPECT_TRUE(opener.open(QUrl::fromLocalFile(QStringLiteral("/a folder/manual/index.html"))));
+    EXPECT_THAT(desktop.taken, ElementsAre("file:///a%20folder/manual/index.html"));
+}
+
+TEST(DesktopPageOpener, OpensNothingElse)
+{
+    Desktop desktop;
+    DesktopPageOpener opener;
+    for (const char *const address : {"", "http://127.0.0.1/index.html", "file:///usr/bin/program", "file:///",
+                                      "file://server/index.html", "index.html", "javascript:index.html"})
+        EXPECT_FALSE(opener.open(QUrl(QLatin1String(address)))) << address;
+    EXPECT_THAT(desktop.taken, IsEmpty());
+}
+
 } // namespace
 } // namespace nimb::test
 

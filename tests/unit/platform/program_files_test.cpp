@@ -31,6 +31,7 @@ protected:
     {
         return findProgramFile(QLatin1String(name), m_folder.filePath("moved/bin"));
     }
+    std::optional<QString> foundManual() const { return findManual(m_folder.filePath("moved/bin")); }
 
     const QTemporaryDir m_folder;
 };
@@ -65,6 +66,26 @@ TEST_F(ProgramFiles, AreFilesAndNoFolders)
     QDir().mkpath(m_folder.filePath("moved/bin/alarm.wav"));
     const QString path = put("moved/share/nimb-chat/alarm.wav");
     EXPECT_EQ(found("alarm.wav"), path);
+}
+
+TEST_F(ProgramFiles, OfTheManualAreNowhereAtFirst)
+{
+    EXPECT_EQ(foundManual(), std::nullopt);
+    put("moved/bin/manual/options.html");
+    EXPECT_EQ(foundManual(), std::nullopt) << "without its first page it is no manual";
+}
+
+TEST_F(ProgramFiles, OfTheManualAreFoundAmongTheDocumentsOfAnInstallation)
+{
+    const QString page = put("moved/share/doc/nimb-chat/manual/index.html");
+    EXPECT_EQ(foundManual(), QFileInfo(page).path());
+}
+
+TEST_F(ProgramFiles, OfTheManualBesideTheProgramComeFirst)
+{
+    put("moved/share/doc/nimb-chat/manual/index.html");
+    const QString page = put("moved/bin/manual/index.html");
+    EXPECT_EQ(foundManual(), QFileInfo(page).path());
 }
 
 TEST_F(ProgramFiles, OfTheBuiltProgramStandBesideIt)

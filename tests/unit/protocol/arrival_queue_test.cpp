@@ -11,10 +11,12 @@ namespace
 {
 
 using testing::AllOf;
+using testing::Contains;
 using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Ne;
+using testing::Not;
 using testing::Pair;
 
 constexpr Ipv4Address ann(10, 0, 0, 1), ben(10, 0, 0, 2), cleo(10, 0, 0, 3);
@@ -216,6 +218,62 @@ TEST(ArrivalQueueTest, OfThoseWithTwoOrMoreWaitingTheOneWithTheMostBytesLoses)
     queue.push(fay, "");
     EXPECT_THAT(queue.takeLosses(), ElementsAre(Pair(fay, 1U)));
     EXPECT_EQ(queue.take(9).size(), 5U);
+}
+
+TEST(ArrivalQueueTest, StrangersWhoFillItMakeRoomForAnAcquaintance)
+{
+    constexpr std::uint8_t fitting = 50;
+    ArrivalQueue queue(fitting * (2 * ArrivalQueue::overhead + 10), {ann});
+    for (std::uint8_t i = 1; i <= 2 * fitting; ++i)
+        queue.push(Ipv4Address(10, 0, 1, i), std::string(10, 'x'));
+    queue.takeLosses();
+
+    queue.push(ann, std::string(10, 'a'));
+
+    EXPECT_THAT(queue.takeLosses(), ElementsAre(Pair(Ipv4Address(10, 0, 1, fitting), 1U)));
+    EXPECT_THAT(texts(queue.take(1)), ElementsAre("10.0.0.1 aaaaaaaaaa"));
+    EXPECT_EQ(queue.take(1000).size(), fitting - 1U);
+}
+
+TEST(ArrivalQueueTest, AnAcquaintanceWithSeveralLosesNothingToStrangersWithOneEach)
+{
+    constexpr std::uint8_t fitting = 50;
+    ArrivalQueue queue(fitting * (2 * ArrivalQueue::overhead + 10), {ann});
+    for (int i = 0; i < 8; ++i)
+        queue.push(ann, std::string(10, 'a'));
+    for (std::uint8_t i = 1; i <= 2 * fitting; ++i)
+        queue.push(Ipv4Address(10, 0, 1, i), std::string(10, 'x'));
+
+    EXPECT_THAT(queue.takeLosses(), Not(Contains(Pair(ann, testing::_))));
+    EXPECT_THAT(texts(queue.take(7)), Each("10.0.0.1 aaaaaaaaaa"));
+}
+
+TEST(ArrivalQueueTest, AcquaintancesWhoFillHalfOfItLoseBeforeStrangers)
+{
+    ArrivalQueue queue(10 * ArrivalQueue::overhead, {ann});
+    for (int i = 0; i < 9; ++i)
+        queue.push(ann, "");
+    EXPECT_THAT(queue.takeLosses(), IsEmpty());
+    queue.push(ben, "");
+    EXPECT_THAT(queue.takeLosses(), ElementsAre(Pair(ann, 2U)));
+    EXPECT_EQ(queue.take(20).size(), 8U);
+}
+
+TEST(ArrivalQueueTest, WhoBecomesAnAcquaintanceInAFullOneIsSparedFromThenOn)
+{
+    constexpr std::uint8_t fitting = 50;
+    ArrivalQueue queue(fitting * (2 * ArrivalQueue::overhead + 10));
+    queue.push(ann, std::string(10, 'a'));
+    for (int i = 0; i < 3; ++i)
+        queue.push(ben, std::string(10, 'b'));
+    for (std::uint8_t i = 1; i <= 2 * fitting; ++i)
+        queue.push(Ipv4Address(10, 0, 1, i), std::string(10, 'x'));
+    queue.takeLosses();
+    queue.setAcquainted(ann, true);
+    queue.push(ann, std::string(10, 'a'));
+    queue.push(ann, std::string(10, 'a'));
+    EXPECT_THAT(queue.takeLosses(), Not(Contains(Pair(ann, testing::_))));
+    EXPECT_THAT(texts(queue.take(3)), Each("10.0.0.1 aaaaaaaaaa"));
 }
 
 // The next two take an hour where every datagram makes the queue search all senders.

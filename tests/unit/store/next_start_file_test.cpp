@@ -43,6 +43,15 @@ TEST_F(NextStartFileTest, IsForTheUserAlone)
     EXPECT_EQ(information.st_mode & 0777, 0600u);
 }
 
+TEST_F(NextStartFileTest, WhatIsNoFileIsNeitherWaitedForNorWrittenTo)
+{
+    ASSERT_EQ(mkfifo(file.toUtf8().constData(), 0600), 0);
+    NextStartFile notes(m_base.path());
+    EXPECT_EQ(notes.take(), QStringList());
+    notes.tell("The disk is full.");
+    EXPECT_EQ(notes.take(), QStringList());
+}
+
 TEST_F(NextStartFileTest, NeedsNoRoomOnTheDiskOnceItIsThere)
 {
     NextStartFile notes(m_base.path());

@@ -1,0 +1,15 @@
+# Makes one page of the manual: cmake -DCMARK=... -DPAGE=<.md> -DTEMPLATE=... -DOUTPUT=<.html> -P ManualPage.cmake
+execute_process(COMMAND ${CMARK} ${PAGE} OUTPUT_VARIABLE body RESULT_VARIABLE status)
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "${CMARK} ${PAGE} failed: ${status}")
+endif()
+if(NOT body MATCHES "^<h1>([^\n]*)</h1>")
+  message(FATAL_ERROR "${PAGE} does not begin with its title")
+endif()
+set(title "${CMAKE_MATCH_1}")
+# In the sources a link names the Markdown, so that it leads somewhere on a forge as well.
+string(REGEX REPLACE "href=\"([a-z0-9-]+)\\.md\"" "href=\"\\1.html\"" body "${body}")
+file(READ ${TEMPLATE} html)
+string(REPLACE "@TITLE@" "${title}" html "${html}")
+string(REPLACE "@BODY@" "${body}" html "${html}")
+file(WRITE ${OUTPUT} "${html}")
