@@ -31,6 +31,7 @@ inline constexpr std::array manualPages = {
     ManualPage{"frmAddUser", "add-user.html"},
     ManualPage{"frmSendContact", "send-contacts.html"},
     ManualPage{"frmInvite", "invite-user.html"},
+    ManualPage{"frmHistory", "history.html"},
     ManualPage{"frmOptions", "options.html"},
     ManualPage{"frmLogin", "first-start.html"},
     ManualPage{"frmTipOfTheDay", "tip-of-the-day.html"},

@@ -80,7 +80,6 @@ void ConversationPane::buildControls()
     m_logRow = new QHBoxLayout;
     m_logRow->setSpacing(spacing);
     m_logRow->addWidget(m_outtext, 1);
-    m_column->addWidget(makeHistoryBand());
     m_column->addLayout(m_logRow, 1);
     m_cleared = new ClearedBand(*m_outtext, tr("The conversation was cleared."), this);
     m_column->addWidget(m_cleared->strip());
@@ -88,6 +87,7 @@ void ConversationPane::buildControls()
     m_column->addWidget(makeToolRow());
     m_column->addWidget(makeCutBand());
     m_column->addLayout(makeInput());
+    m_column->insertWidget(0, makeHistoryBand()); // made last, so that the Tab key comes to it last
 }
 
 QWidget *ConversationPane::makeToolRow()

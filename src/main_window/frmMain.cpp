@@ -75,7 +75,7 @@ void frmMain::buildControls()
     m_outtext.setParent(area);
     m_outtext.setObjectName(QStringLiteral("outtext"));
     m_outtext.setAccessibleName(tr("Log"));
-    m_cleared = new ClearedBand(m_outtext, tr("The log was cleared."), area);
+    m_cleared = new ClearedBand(m_outtext, tr("Cleared."), area);
     m_cleared->strip()->setWordWrap(false);
     clearbtn = named(new QPushButton(namedPicture(QStringLiteral("clear")), tr("Clear"), area), "clearbtn");
     buildStatusBar();

@@ -266,7 +266,9 @@ TEST_F(FrmMain, TheStripThatBringsTheLogBackLiesOnNothing)
     const auto &button = windows.control<QPushButton>("clearbtn");
     EXPECT_TRUE(strip.parentWidget()->rect().contains(strip.geometry()));
     EXPECT_FALSE(strip.geometry().intersects(button.geometry()));
-    EXPECT_FALSE(strip.geometry().intersects(windows.control<QTextEdit>("outtext").geometry()));
+    const QWidget &text = *windows.control<QTextEdit>("outtext").viewport();
+    const QRect textPlace(text.mapTo(&windows.main(), QPoint(0, 0)), text.size());
+    EXPECT_FALSE(QRect(strip.mapTo(&windows.main(), QPoint(0, 0)), strip.size()).intersects(textPlace));
 }
 
 TEST_F(FrmMain, ADoubleClickOpensAPrivateWindow)

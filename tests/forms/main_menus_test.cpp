@@ -64,8 +64,8 @@ TEST_F(MainMenusTest, TheMenuBarHasEveryEntryInItsPlace)
                             "mnuFilePrint: Print", "-", "mnuFileSend: Send", "-", "-", "mnuFileExit: E&xit"));
     EXPECT_THAT(entriesOf(menu("mnuUsers")),
                 ElementsAre("mnuNetworkscan: &Network scan...", "mnuAddUser: &Add offline user...",
-                            "mnuFindEverybody: &Find everybody here", "-", "mnuImportContacts: &Import contacts...",
-                            "mnuExportContacts: &Export contacts..."));
+                            "mnuFindEverybody: &Find everybody here", "-", "mnuHistory: &History...", "-",
+                            "mnuImportContacts: &Import contacts...", "mnuExportContacts: &Export contacts..."));
     EXPECT_THAT(entriesOf(menu("mnuConference")),
                 ElementsAre("mnuCreateNewConf: Create &new...", "mnushowinvitations: View &invitations..."));
     EXPECT_THAT(entriesOf(menu("mnuTools")),
@@ -155,7 +155,8 @@ TEST_F(MainMenusTest, TheContextMenuHasEveryEntryWithTheNameInIt)
                 ElementsAre("mnuPrivateChat: Private chat with 'Ben && Co'", "mnuBuzzUser: Buzz 'Ben && Co'",
                             "mnusendcontacts: Send &contacts to 'Ben && Co'",
                             "mnuRemoveUser: Remove 'Ben && Co' from the list",
-                            "mnuinviteuser: I&nvite user 'Ben && Co'", "mnuMuteContact: M&ute"));
+                            "mnuinviteuser: I&nvite user 'Ben && Co'", "mnuMuteContact: M&ute",
+                            "mnuContactHistory: &History...", "mnuLeaveOut: &Keep no history"));
     for (const QAction *const action : menu("mnuPopUp").actions())
         EXPECT_EQ(action->isEnabled(), action->isVisible()) << action->objectName().toStdString();
     menu("mnuPopUp").close();
@@ -181,7 +182,8 @@ TEST_F(MainMenusTest, WithoutASelectionTheContextMenuHasNothingToActOn)
     EXPECT_THAT(entriesOf(menu("mnuPopUp")),
                 ElementsAre("mnuPrivateChat: &Private Chat", "mnuBuzzUser: &Buzz User",
                             "mnusendcontacts: Send &Contacts", "mnuRemoveUser: Re&move User",
-                            "mnuinviteuser: I&nvite user", "mnuMuteContact: M&ute"));
+                            "mnuinviteuser: I&nvite user", "mnuMuteContact: M&ute", "mnuContactHistory: &History...",
+                            "mnuLeaveOut: &Keep no history"));
     for (const QAction *const action : menu("mnuPopUp").actions())
         EXPECT_FALSE(action->isEnabled()) << action->objectName().toStdString();
 }

@@ -76,28 +76,28 @@ TEST(Settings, EveryKeyIsThereOnceInItsSection)
                 ElementsAre("ShowStatusOnPrivate", "BuzzLocal", "BuzzRemote", "PrivateBehaviour", "DontDestroyWindow",
                             "NotifyWin", "LiveType", "CloseButtonDoesMinimize", "NotifyMessages", "NotifyMessageText",
                             "SoundMessage", "SoundOnline", "SoundInvitation", "RecentEmoji", "TipOTDay", "TipOTDayNum",
-                            "SpellingLanguage", "SpellingWords"));
-    EXPECT_EQ(keys.size(), 36u);
+                            "KeepHistory", "HistoryLeftOut", "SpellingLanguage", "SpellingWords"));
+    EXPECT_EQ(keys.size(), 38u);
 }
 
 TEST(Settings, SavingKeepsItsOrder)
 {
     MemoryStore store;
     saveSettings(store, Common(), {});
-    EXPECT_THAT(store.order,
-                ElementsAre("Settings/UDPPort", "Options/ShowStatusOnPrivate", "Options/BuzzLocal",
-                            "Options/BuzzRemote", "Options/PrivateBehaviour", "Options/DontDestroyWindow",
-                            "Options/NotifyWin", "Options/LiveType", "Options/CloseButtonDoesMinimize",
-                            "Options/NotifyMessages", "Options/NotifyMessageText", "Options/SoundMessage",
-                            "Options/SoundOnline", "Options/SoundInvitation", "Settings/MainLeft", "Settings/MainTop",
-                            "Settings/MainHeight", "Settings/AvatarHead", "Settings/AvatarBody",
-                            "Settings/AutoReplyonBusyActive", "Settings/AutoReplyonAwayActive",
-                            "Settings/AutoReplyonBusyText", "Settings/AutoReplyonawayText", "Settings/StandardFontSize",
-                            "Settings/StandardFontFace", "Settings/StandardFontStyle", "Settings/OwnNetworkCard",
-                            "Options/RecentEmoji", "Options/SpellingLanguage", "Options/SpellingWords",
-                            "Settings/PersonalizedState1", "Settings/PersonalizedState2", "Settings/PersonalizedState3",
-                            "Settings/PersonalizedState4", "Settings/PersonalizedState5", "Settings/PersonalizedState6",
-                            "Settings/PersonalizedState7", "Settings/PersonalizedState8"));
+    EXPECT_THAT(
+        store.order,
+        ElementsAre("Settings/UDPPort", "Options/ShowStatusOnPrivate", "Options/BuzzLocal", "Options/BuzzRemote",
+                    "Options/PrivateBehaviour", "Options/DontDestroyWindow", "Options/NotifyWin", "Options/LiveType",
+                    "Options/CloseButtonDoesMinimize", "Options/NotifyMessages", "Options/NotifyMessageText",
+                    "Options/SoundMessage", "Options/SoundOnline", "Options/SoundInvitation", "Settings/MainLeft",
+                    "Settings/MainTop", "Settings/MainHeight", "Settings/AvatarHead", "Settings/AvatarBody",
+                    "Settings/AutoReplyonBusyActive", "Settings/AutoReplyonAwayActive", "Settings/AutoReplyonBusyText",
+                    "Settings/AutoReplyonawayText", "Settings/StandardFontSize", "Settings/StandardFontFace",
+                    "Settings/StandardFontStyle", "Settings/OwnNetworkCard", "Options/RecentEmoji",
+                    "Options/SpellingLanguage", "Options/SpellingWords", "Options/KeepHistory",
+                    "Options/HistoryLeftOut", "Settings/PersonalizedState1", "Settings/PersonalizedState2",
+                    "Settings/PersonalizedState3", "Settings/PersonalizedState4", "Settings/PersonalizedState5",
+                    "Settings/PersonalizedState6", "Settings/PersonalizedState7", "Settings/PersonalizedState8"));
 }
 
 TEST(Settings, RecentEmojiAreStoredWithBlanksBetweenAndReadNoLongerThanTheyAre)
@@ -115,6 +115,29 @@ TEST(Settings, RecentEmojiAreStoredWithBlanksBetweenAndReadNoLongerThanTheyAre)
     loadSettings(store, next);
     EXPECT_EQ(next.recentEmoji.size(), 24);
     EXPECT_EQ(next.recentEmoji.front(), QStringLiteral("😀"));
+}
+
+TEST(Settings, WhatIsSaidOfTheHistoryIsReadAsItWasSaved)
+{
+    for (const auto &[keep, text] : {std::pair(KeepHistory::notAsked, ""), std::pair(KeepHistory::no, "no"),
+                                     std::pair(KeepHistory::year, "year"), std::pair(KeepHistory::ever, "ever")}) {
+        Common common;
+        common.history = {keep, {QStringLiteral("10.0.0.2"), QStringLiteral("10.0.0.3")}};
+        MemoryStore store;
+        saveSettings(store, common, {});
+        store.save();
+        EXPECT_EQ(store.value("Options", "KeepHistory"), text);
+        EXPECT_EQ(store.value("Options", "HistoryLeftOut"), "10.0.0.2 10.0.0.3");
+        Common next;
+        loadSettings(store, next);
+        EXPECT_EQ(next.history.keep, keep);
+        EXPECT_EQ(next.history.leftOut, common.history.leftOut);
+    }
+    MemoryStore odd;
+    odd.put("Options", "KeepHistory", QStringLiteral("perhaps"));
+    Common next;
+    loadSettings(odd, next);
+    EXPECT_EQ(next.history.keep, KeepHistory::notAsked);
 }
 
 TEST(Settings, WordsThatWereAddedAreReadAsTheyWereSaved)

@@ -1,0 +1,109 @@
+// What was said is there again after any end of the program.
+#include "chat_windows.h"
+#include "running_copy.h"
+#include "wire_peer.h"
+
+#include <QFile>
+
+#include <gmock/gmock.h>
+
+#include <sqlite3.h>
+
+namespace nimb::test
+{
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class HistoryOfACopy : public testing::Test
+{
+protected:
+    MainWindow start() { return MainWindow::startBob(bob, ann); }
+    QString file() const { return QFileInfo(bob.storeFile()).path() + QStringLiteral("/history.sqlite3"); }
+    /// Of a copy of the files, so that the program has them to itself.
+    std::vector<std::string> kept() const
+    {
+        const QTemporaryDir folder;
+        const QString copy = folder.filePath(QStringLiteral("history.sqlite3"));
+        for (const char *const suffix : {"", "-wal"})
+            QFile::copy(file() + QLatin1String(suffix), copy + QLatin1String(suffix));
+        std::vector<std::string> texts;
+        sqlite3 *database = nullptr;
+        if (QFile::exists(copy) && sqlite3_open(copy.toUtf8().constData(), &database) == SQLITE_OK) {
+            sqlite3_exec(
+                database, "SELECT text FROM messages ORDER BY id",
+                [](void *all, int, char **values, char **) {
+                    static_cast<std::vector<std::string> *>(all)->push_back(values[0]);
+                    return 0;
+                },
+                &texts, nullptr);
+        }
+        sqlite3_close(database);
+        return texts;
+    }
+
+    const std::uint16_t port = freePort();
+    WirePeer ann{"127.0.52.12", port};
+    RunningCopy bob{{"127.0.52.11", "BOB-PC"},
+                    profile(port, {{"127.0.52.12", "Ann", "ANN-PC"}}, {{{"Options", "KeepHistory"}, "ever"}})};
+};
+
+TEST_F(HistoryOfACopy, IsThereAfterAKillInTheMiddleOfAConversation)
+{
+    start();
+    std::vector<std::string> said;
+    for (int round = 0; round < 5; ++round) {
+        for (int i = 0; i < 20; ++i) {
+            said.push_back("number " + std::to_string(said.size()));
+            ann.send(bob.address(), "-" + said.back());
+        }
+        EXPECT_TRUE(waitUntil([&] { return kept() == said; })) << kept().size();
+        ann.send(bob.address(), "-on its way");
+        bob.kill();
+        std::vector<std::string> left = kept();
+        if (left.size() > said.size()) {
+            EXPECT_EQ(left.back(), "on its way");
+            said.push_back("on its way");
+        }
+        EXPECT_EQ(left, said);
+        start();
+    }
+    EXPECT_EQ(bob.end(), 0);
+    EXPECT_EQ(kept(), said);
+}
+
+TEST_F(HistoryOfACopy, IsWrittenWholeWhenTheProgramEnds)
+{
+    start();
+    ann.send(bob.address(), "!ONLINE 127.0.52.12 ANN-PC Ann");
+    ann.send(bob.address(), "-the last word");
+    EXPECT_TRUE(waitUntil([&] { return kept() == std::vector<std::string>{"the last word"}; }));
+    EXPECT_EQ(bob.end(), 0);
+    EXPECT_THAT(kept(), ElementsAre("the last word"));
+    EXPECT_FALSE(QFile::exists(file() + QStringLiteral("-wal")));
+}
+
+class NobodyAsked : public testing::Test
+{
+protected:
+    const std::uint16_t port = freePort();
+    WirePeer ann{"127.0.52.12", port};
+    RunningCopy bob{{"127.0.52.11", "BOB-PC"}, profile(port, {{"127.0.52.12", "Ann", "ANN-PC"}})};
+};
+
+TEST_F(NobodyAsked, NoFileIsMadeOfWhatIsSaid)
+{
+    MainWindow::startBob(bob, ann);
+    ann.send(bob.address(), "!ONLINE 127.0.52.12 ANN-PC Ann");
+    ann.send(bob.address(), "-hello");
+    ann.send(bob.address(), "?ONLINE 127.0.52.12 ANN-PC Ann");
+    ann.hearUntil("!ONLINE 127.0.52.11 BOB-PC Bob");
+    EXPECT_EQ(bob.end(), 0);
+    EXPECT_FALSE(QFile::exists(QFileInfo(bob.storeFile()).path() + QStringLiteral("/history.sqlite3")));
+    EXPECT_EQ(bob.stored("Options", "KeepHistory"), "");
+}
+
+} // namespace
+} // namespace nimb::test
