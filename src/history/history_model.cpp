@@ -40,8 +40,8 @@ QString HistoryModel::headOf(const StoredMessage &stored) const
     const QString time = QLocale().toString(stored.message.time, QLocale::ShortFormat);
     const QString writer = paintedName(stored.message.writer);
     const QString where = m_names.value(stored.conversation);
-    return m_namesShown && !where.isEmpty() ? tr("%1, %2, in \"%3\"").arg(writer, time, where)
-                                            : tr("%1, %2").arg(writer, time);
+    return m_namesShown && !where.isEmpty() && where != writer ? tr("%1, %2, in \"%3\"").arg(writer, time, where)
+                                                               : tr("%1, %2").arg(writer, time);
 }
 
 void HistoryModel::setMessages(std::vector<StoredMessage> messages)

@@ -18,6 +18,7 @@ namespace
 constexpr int gapBelow = 10; // pixels
 constexpr int dayDistance = 6;
 constexpr int continuedIndent = 12;
+constexpr double lineHeight = 120; // percent
 
 QTextBlockFormat dayLine()
 {
@@ -33,6 +34,7 @@ QTextBlockFormat messageLine()
     QTextBlockFormat line;
     line.setLeftMargin(continuedIndent);
     line.setTextIndent(-continuedIndent);
+    line.setLineHeight(lineHeight, QTextBlockFormat::ProportionalHeight);
     return line;
 }
 
@@ -50,7 +52,7 @@ void write(QTextCursor &cursor, const KeptMessage &message)
     QString text = message.text;
     text.replace(QLatin1String("\r\n"), QString(QChar::LineSeparator));
     cursor.setBlockFormat(messageLine());
-    cursor.insertText(QLocale().toString(message.time.time(), QLocale::ShortFormat) + QLatin1String("  "), plain);
+    cursor.insertText(QLocale().toString(message.time.time(), QStringLiteral("HH:mm")) + QLatin1String("  "), plain);
     cursor.insertText(message.writer + QLatin1String("> "), bold);
     cursor.insertText(text, plain);
 }

@@ -106,7 +106,16 @@ TEST_F(FrmHistory, ShowsAllConversationsAndTheirMessagesInTheirOrder)
     EXPECT_EQ(shown().first(), QStringLiteral("the plan of day 1"));
     EXPECT_EQ(shown().last(), QStringLiteral("no news on 4"));
     EXPECT_EQ(messages().model()->index(0, 0).data(HistoryModel::HeadRole).toString(),
-              QStringLiteral("Ann, 01/11/2026 14:05, in \"Ann\""));
+              QStringLiteral("Ann, 01/11/2026 14:05"));
+    keeper.keep({.address = QStringLiteral("10.0.0.2"), .name = QStringLiteral("Ann")},
+                {.time = QDateTime(QDate(2026, 11, 5), QTime(14, 5)),
+                 .isOwn = true,
+                 .writer = QStringLiteral("Me"),
+                 .text = QStringLiteral("mine")});
+    control<QDateEdit>("fromDate").setDate(QDate(2026, 11, 5));
+    EXPECT_TRUE(becomes({"mine"}));
+    EXPECT_EQ(messages().model()->index(0, 0).data(HistoryModel::HeadRole).toString(),
+              QStringLiteral("Me, 05/11/2026 14:05, in \"Ann\""));
 }
 
 TEST_F(FrmHistory, AChosenConversationIsShownAlone)
