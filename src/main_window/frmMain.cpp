@@ -22,6 +22,7 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -96,10 +97,11 @@ void frmMain::fitFonts()
     };
     QFont font = this->font();
     for (;;) {
-        for (QWidget *const control :
-             std::initializer_list<QWidget *>{ImageCombo1, TabStrip1, RescanBtn, buzzmute, ListDetails, ItemDetailstxt,
-                                              AutoReplyOn, Autoreplybtn, clearbtn, menuBar(), statusBar(), m_status,
-                                              m_activity, searchProgress, stopSearchBtn, m_network, m_trouble})
+        for (QWidget *const control : std::initializer_list<QWidget *>{
+                 ImageCombo1,    TabStrip1,   RescanBtn,           buzzmute,       ListDetails,
+                 ItemDetailstxt, AutoReplyOn, Autoreplybtn,        clearbtn,       menuBar(),
+                 statusBar(),    m_status,    m_activity,          searchProgress, stopSearchBtn,
+                 m_network,      m_trouble,   m_personalizedState, m_autoReply,    ListView1->header()})
             control->setFont(font);
         if (fits() || font.pointSizeF() <= smallestFont)
             return;
@@ -407,7 +409,9 @@ void frmMain::moveOntoScreen()
         if (seen.width() >= reachableTitle.width() && seen.height() >= reachableTitle.height())
             home = screen;
     }
-    const QRect available = (home ? home : QGuiApplication::primaryScreen())->availableGeometry();
+    const QRect available = (home ? home : QGuiApplication::primaryScreen())
+                                ->availableGeometry()
+                                .adjusted(0, 0, 0, -reachableTitle.height());
     if (height() > available.height()) {
         resize(width(), available.height());
         m_place.height = twips(height());
