@@ -18,6 +18,7 @@ EmptyHint::EmptyHint(QAbstractItemView &list, const char *name, const QString &s
     m_sentence->setTextFormat(Qt::PlainText);
     m_sentence->setWordWrap(true);
     m_sentence->setAlignment(Qt::AlignCenter);
+    m_sentence->setForegroundRole(QPalette::WindowText); // on the ground of a list it would be that of its rows
     auto *const column = new QVBoxLayout(this);
     column->setSpacing(form_layout::spacing);
     column->addStretch(1);
