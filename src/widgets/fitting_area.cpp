@@ -1,5 +1,6 @@
 #include "widgets/fitting_area.h"
 
+#include "widgets/form_layout.h"
 #include "widgets/screen_room.h"
 
 #include <QScrollBar>
@@ -15,13 +16,23 @@ FittingArea::FittingArea(QWidget *parent) : QScrollArea(parent)
     setFocusPolicy(Qt::NoFocus); // it follows the focus of what is in it
 }
 
+void FittingArea::setHeightBeside(int height)
+{
+    m_roomHeight = roomOnScreen(*window()).height() - height;
+    setViewportMargins(0, 0, isTooHigh() ? form_layout::spacing : 0, 0);
+}
+
+bool FittingArea::isTooHigh() const
+{
+    return widget() && widget()->sizeHint().height() > m_roomHeight;
+}
+
 QSize FittingArea::sizeHint() const
 {
-    QSize size = widget() ? widget()->sizeHint() : QScrollArea::sizeHint();
-    const int room = roomOnScreen(*window()).height() - m_heightBeside;
-    if (size.height() > room)
-        size = {size.width() + verticalScrollBar()->sizeHint().width(), room};
-    return size;
+    const QSize whole = widget() ? widget()->sizeHint() : QScrollArea::sizeHint();
+    if (!isTooHigh())
+        return whole;
+    return {whole.width() + form_layout::spacing + verticalScrollBar()->sizeHint().width(), m_roomHeight};
 }
 
 } // namespace nimb

@@ -14,14 +14,16 @@ class FittingArea : public QScrollArea
 public:
     explicit FittingArea(QWidget *parent);
 
-    /// What the window needs above and below, in pixels.
-    void setHeightBeside(int height) { m_heightBeside = height; }
+    /// height: what the window needs above and below, in pixels. The widget is there already.
+    void setHeightBeside(int height);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 private:
-    int m_heightBeside = 0;
+    bool isTooHigh() const;
+
+    int m_roomHeight = QWIDGETSIZE_MAX;
 };
 
 } // namespace nimb

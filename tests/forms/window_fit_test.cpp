@@ -1,6 +1,7 @@
 // Whatever the font and the scale: nothing is cut, nothing covers its neighbour, and every window has room on a small
 // screen. The scale is that of QT_SCALE_FACTOR.
 #include "every_window.h"
+#include "real_windows.h"
 #include "widgets/elided_label.h"
 
 #include <gmock/gmock.h>
@@ -16,7 +17,10 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPageSetupDialog>
+#include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStyleOptionGroupBox>
 #include <QTabBar>
 #include <QToolButton>
@@ -237,6 +241,32 @@ TEST_P(WindowFit, NothingIsCutOrCoveredAndEveryWindowHasRoomOnASmallScreen)
     });
     QApplication::setFont(usual);
     EXPECT_GT(seen, 50);
+}
+
+TEST(WindowFitScreen, WhatHasToBeScrolledFollowsTheTabKey)
+{
+    const QFont usual = QApplication::font();
+    QFont font = usual;
+    font.setPointSize(16);
+    QApplication::setFont(font);
+    {
+        RealWindows windows;
+        windows.entry("mnuToolsOptions").trigger();
+        auto &area = windows.control<QScrollArea>("optionsArea");
+        QWidget &dialog = *area.window();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        ASSERT_GT(area.verticalScrollBar()->maximum(), 0);
+        auto &last = RealWindows::control<QPushButton>(dialog, "LoadAvatarbtn");
+        const auto isSeen = [&area, &last] {
+            return area.viewport()->rect().contains(QRect(last.mapTo(area.viewport(), QPoint()), last.size()));
+        };
+        EXPECT_FALSE(isSeen());
+        for (int i = 0; i < 60 && !last.hasFocus(); ++i)
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+        EXPECT_TRUE(last.hasFocus());
+        EXPECT_TRUE(isSeen());
+    }
+    QApplication::setFont(usual);
 }
 
 TEST(WindowFitScreen, IsSmallAtTheScaleThatIsAsked)
