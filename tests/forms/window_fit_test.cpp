@@ -92,6 +92,8 @@ private:
             checkField(widget);
         if (const QLayout *const layout = widget.layout())
             checkLayout(*layout);
+        else
+            checkPlaced(widget);
     }
 
     /// One that elides does so in its width alone.
@@ -185,6 +187,27 @@ private:
             for (std::size_t j = i + 1; j < shown.size(); ++j) {
                 if (shown[i]->geometry().intersects(shown[j]->geometry()))
                     m_found.push_back(nameOf(*shown[i]) + " and " + nameOf(*shown[j]) + " overlap");
+            }
+        }
+    }
+
+    /// Controls that are placed by hand, as those of the main window are. Panels may lie over them.
+    void checkPlaced(const QWidget &parent)
+    {
+        std::vector<const QWidget *> controls;
+        for (const QWidget *const child : parent.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+            const bool isControl = qobject_cast<const QAbstractButton *>(child)
+                || qobject_cast<const QLineEdit *>(child) || qobject_cast<const QComboBox *>(child)
+                || qobject_cast<const QTabBar *>(child);
+            if (isControl && child->isVisibleTo(&parent))
+                controls.push_back(child);
+        }
+        for (std::size_t i = 0; i < controls.size(); ++i) {
+            if (!parent.rect().contains(controls[i]->geometry()))
+                m_found.push_back(nameOf(*controls[i]) + " reaches beyond its parent");
+            for (std::size_t j = i + 1; j < controls.size(); ++j) {
+                if (controls[i]->geometry().intersects(controls[j]->geometry()))
+                    m_found.push_back(nameOf(*controls[i]) + " and " + nameOf(*controls[j]) + " overlap");
             }
         }
     }
