@@ -1,6 +1,7 @@
 // Whatever the font and the scale: nothing is cut, nothing covers its neighbour, and every window has room on a small
 // screen. The scale is that of QT_SCALE_FACTOR.
 #include "every_window.h"
+#include "private_chat/mood_gauge.h"
 #include "real_windows.h"
 #include "widgets/elided_label.h"
 
@@ -290,6 +291,17 @@ TEST(WindowFitScreen, WhatHasToBeScrolledFollowsTheTabKey)
         EXPECT_TRUE(isSeen());
     }
     QApplication::setFont(usual);
+}
+
+TEST(WindowFitScreen, TheFrameOfAGaugeReachesItsEdge)
+{
+    MoodGauge gauge(nullptr);
+    const QImage drawn = gauge.grab().toImage();
+    const int middle = drawn.height() / 2;
+    const QColor left = drawn.pixelColor(0, middle);
+    EXPECT_NE(drawn.pixelColor(drawn.width() / 2, middle), left);
+    EXPECT_EQ(drawn.pixelColor(drawn.width() - 1, middle), left);
+    EXPECT_EQ(drawn.pixelColor(drawn.width() / 2, drawn.height() - 1), left);
 }
 
 TEST(WindowFitScreen, IsSmallAtTheScaleThatIsAsked)
