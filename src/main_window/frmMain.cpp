@@ -78,6 +78,7 @@ void frmMain::buildControls()
     m_outtext.setAccessibleName(tr("Log"));
     m_cleared = new ClearedBand(m_outtext, tr("The log was cleared."), area);
     m_cleared->strip()->setWordWrap(false);
+    m_cleared->strip()->setMargin(2);
     clearbtn = named(new QPushButton(namedPicture(QStringLiteral("clear")), tr("Clear"), area), "clearbtn");
     buildStatusBar();
     orderControls();
@@ -460,7 +461,15 @@ void frmMain::placeClearedStrip()
 {
     QLabel &strip = *m_cleared->strip();
     const int left = m_outtext.x() + margin;
-    strip.setGeometry(left, clearbtn->y(), clearbtn->x() - spacing - left, clearbtn->height());
+    const int top = qMax(clearbtn->y(), m_outtext.geometry().bottom() + 1);
+    const QRect place(QPoint(left, top), QPoint(clearbtn->x() - spacing - 1, clearbtn->geometry().bottom()));
+    QFont font = clearbtn->font();
+    strip.setFont(font);
+    while (strip.sizeHint().boundedTo(place.size()) != strip.sizeHint() && font.pointSizeF() > smallestFont) {
+        font.setPointSizeF(font.pointSizeF() - 0.5);
+        strip.setFont(font);
+    }
+    strip.setGeometry(place);
 }
 
 /// Two rows share what the fixed place of the first one leaves above the status bar.

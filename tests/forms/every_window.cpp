@@ -126,6 +126,8 @@ void takeMain(Gallery &gallery)
     windows.entry("mnuFilePageSetup").trigger();
     gallery.take(*QApplication::activeModalWidget(), "page_setup");
     QApplication::activeModalWidget()->close();
+    windows.control<QPushButton>("clearbtn").click();
+    gallery.take(windows.main(), "main_log_cleared");
     auto &menu = windows.control<QMenu>("mnuPopUp");
     windows.click(1, Qt::RightButton);
     gallery.take(menu, "main_context_menu");
