@@ -54,7 +54,9 @@ DialogOpener::~DialogOpener()
 void DialogOpener::mnuNetworkscan()
 {
     const NetworkScan scan(m_services.common, m_engine.search(), m_services.names, m_engine.log());
-    open(new frmNetworkscan(scan, &m_main));
+    auto *const dialog = new frmNetworkscan(scan, &m_main);
+    QObject::connect(dialog, &frmNetworkscan::doctorWanted, &m_main, [this] { mnuNetworkDoctor(); });
+    open(dialog);
 }
 
 void DialogOpener::mnuAddUser()

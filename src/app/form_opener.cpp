@@ -66,6 +66,8 @@ void FormOpener::connectMain(Messenger &engine, std::function<QString()> statusN
     QObject::connect(&m_spelling, &Spelling::chosen, m_main.get(), [&engine] { engine.recovery().settingsChanged(); });
     m_dialogs.emplace(m_services, engine, *m_main);
     m_invitations = std::make_unique<frmConfInvitations>(engine.invitations());
+    QObject::connect(m_invitations.get(), &frmConfInvitations::conferenceWanted, m_main.get(),
+                     [this] { m_dialogs->mnuCreateNewConf(); });
     m_main->connectControls({engine.mainWindow(), engine.contacts(), engine.avatars(), engine.contactCommands(),
                              engine.ownState(), engine.announcement(), engine.log(), m_services.common, *m_dialogs,
                              std::move(statusNotes)},

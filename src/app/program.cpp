@@ -8,6 +8,7 @@
 #include "platform/program_files.h"
 #include "protocol/address_text.h"
 #include "widgets/appearance_palette.h"
+#include "widgets/clear_outlines.h"
 
 #include <QApplication>
 #include <QImageReader>
@@ -35,6 +36,7 @@ Program::Program(const Environment &environment)
                [] { return readProgramFile(QStringLiteral("TOTD.txt")); }})
 {
     qApp->installEventFilter(&m_toolTips);
+    makeOutlinesClear();
     // For pictures that are pasted as well as for those of files.
     QImageReader::setAllocationLimit(limits::pictureFileMemory);
 }

@@ -1,10 +1,12 @@
 #include "conference/frmConfInvitations.h"
 
 #include "widgets/bring_back.h"
+#include "widgets/empty_hint.h"
 #include "widgets/form_layout.h"
 #include "widgets/keyed_selection.h"
 #include "widgets/picture_delegate.h"
 #include "widgets/pictures.h"
+#include "widgets/screen_room.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -34,7 +36,8 @@ frmConfInvitations::frmConfInvitations(Invitations &invitations) : m_invitations
     setWindowIcon(programIcon());
     buildControls();
     connectControls();
-    resize(720, 280);
+    constexpr int lettersSeen = 90;
+    resize(QSize(qMax(720, lettersSeen * fontMetrics().averageCharWidth()), 280).boundedTo(roomOnScreen(*this)));
     m_invitations.Form_Load(*this);
 }
 
@@ -52,6 +55,12 @@ void frmConfInvitations::buildControls()
     ListView1->header()->setResizeContentsPrecision(0);
     for (const int column : {InvitationList::Arrived, InvitationList::Age, InvitationList::Number})
         ListView1->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+
+    auto *const hint = new EmptyHint(*ListView1, "noInvitations",
+                                     tr("Nobody has invited you to a conference. Begin one yourself, and invite your "
+                                        "contacts to it from their menu."));
+    connect(hint->addButton("newConferenceBtn", tr("Begin a conference")), &QPushButton::clicked, this,
+            &frmConfInvitations::conferenceWanted);
 
     ConfAgreebtn = named(new QPushButton(tr("&Accept"), this), "ConfAgreebtn");
     ConfDenybtn = named(new QPushButton(tr("&Deny"), this), "ConfDenybtn");

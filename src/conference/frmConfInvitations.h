@@ -27,6 +27,10 @@ public:
     bool isActive() const override { return isActiveWindow() && !isMinimized(); }
     void setAutoRefusal(bool on, int minutes) override;
 
+Q_SIGNALS:
+    /// One of the user's own, in place of an invitation.
+    void conferenceWanted();
+
 protected:
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;

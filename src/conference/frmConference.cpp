@@ -42,7 +42,7 @@ QToolButton *flipButton(QWidget *parent, const char *name, const QString &captio
     button->setToolTip(hint);
     button->setAccessibleName(hint);
     button->setAutoRaise(true);
-    button->setFixedWidth(16);
+    button->setFixedWidth(qMax(16, button->fontMetrics().horizontalAdvance(caption) + 4));
     button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     return button;
 }
@@ -118,7 +118,8 @@ void frmConference::buildAvatars()
 {
     constexpr int frameMargin = 4;
     AvatarsFrame = named(new QGroupBox(tr("Avatars"), this), "AvatarsFrame");
-    AvatarsFrame->setFixedWidth(pixels(avatarsWidth));
+    const int titleWidth = AvatarsFrame->fontMetrics().horizontalAdvance(AvatarsFrame->title()) + 2 * margin;
+    AvatarsFrame->setFixedWidth(qMax(pixels(avatarsWidth), titleWidth));
     m_avatarPicture = named(new AvatarPicture(AvatarsFrame, 1), "AvatarPicture");
     m_avatarPicture->hide();
     NoAvatarImg = named(new PictureLabel(namedPicture(QStringLiteral("avatar")), 32, AvatarsFrame), "NoAvatarImg");

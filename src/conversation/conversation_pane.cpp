@@ -393,7 +393,7 @@ void ConversationPane::setCaption(const QString &caption)
 
 void ConversationPane::setLogFont(const LogFont &font)
 {
-    intext->setFont(fontOf(font));
+    intext->setFont(font == LogFont() ? QFont() : fontOf(font)); // the desktop's own may change
     m_outtext->setSelFont(font);
 }
 

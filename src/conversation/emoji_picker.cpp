@@ -3,6 +3,7 @@
 #include "conversation/emoji_model.h"
 #include "conversation/emoji_stock.h"
 #include "widgets/elided_label.h"
+#include "widgets/empty_hint.h"
 #include "widgets/form_layout.h"
 #include "widgets/muted_colour.h"
 #include "widgets/pictures.h"
@@ -175,6 +176,7 @@ void EmojiPicker::buildList()
     const EmojiTable &table = m_emoji.table();
     m_rows = new EmojiModel(table, offeredBy(table, emojiFont(m_list->font(), emojiPixels)), this);
     m_list->setModel(m_rows);
+    new EmptyHint(*m_list, "noEmoji", tr("No emoji has such a name. Try another word."));
 }
 
 /// Each shows the first emoji of its group.

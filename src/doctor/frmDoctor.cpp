@@ -3,9 +3,11 @@
 #include "base/remote_text.h"
 #include "doctor/report.h"
 #include "widgets/dialog_parts.h"
+#include "widgets/empty_hint.h"
 #include "widgets/form_text.h"
 #include "widgets/muted_colour.h"
 #include "widgets/pictures.h"
+#include "widgets/screen_room.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>
@@ -88,7 +90,8 @@ frmDoctor::frmDoctor(const Doctor::Parts &parts, QWidget *parent) : QDialog(pare
     buildControls();
     connectControls();
     fillContacts();
-    resize(660, 690);
+    constexpr int linesSeen = 40;
+    resize(QSize(660, qMax(690, linesSeen * fontMetrics().height())).boundedTo(roomOnScreen(*this)));
     examineBtn_Click();
 }
 
@@ -163,6 +166,7 @@ QWidget *frmDoctor::contactPart()
     auto *const caption = named(new QLabel(tr("&Does this contact answer?"), part), "contactLabel");
     contactCombo = named(new QComboBox(part), "contactCombo");
     nameCombo(*contactCombo, tr("Contact to be asked"));
+    contactCombo->setPlaceholderText(tr("Nobody is in your list yet"));
     contactCombo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     caption->setBuddy(contactCombo);
     askContactBtn = named(new QPushButton(tr("As&k"), part), "askContactBtn");
@@ -181,6 +185,7 @@ QWidget *frmDoctor::datagramsPart()
     datagramList->setRootIsDecorated(false);
     datagramList->setUniformRowHeights(true);
     datagramList->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    new EmptyHint(*datagramList, "noDatagrams", tr("Nothing has been sent or received yet."));
     showTextsBox = named(new QCheckBox(tr("Show what &people wrote"), part), "showTextsBox");
     dropsLabel = textLabel(part, "dropsLabel");
     dropsLabel->setWordWrap(false); // its lines are short, and it gets the room that it needs

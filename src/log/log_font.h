@@ -5,6 +5,7 @@
 
 #include <QFont>
 #include <QFontDatabase>
+#include <QGuiApplication>
 
 namespace nimb
 {
@@ -19,7 +20,7 @@ constexpr int smallest = 6, largest = 24;
 /// nobody has chosen one.
 inline QFont fontOf(const LogFont &stored)
 {
-    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    QFont font = QGuiApplication::font();
     if (stored == LogFont())
         return font;
     if (QFontDatabase::hasFamily(stored.face))

@@ -175,10 +175,11 @@ void LogMarks::paintGround(QPainter &painter, const Seen &line, const QPalette &
     const QTextBlockFormat format = line.block.blockFormat();
     if (!format.hasProperty(ownMessage))
         return;
-    // The height of a line is below its text; the ground stands around it, and without a gap between two of one writer.
-    const double below = QFontMetrics(line.block.charFormat().font()).height() * (heightOfLine - 100) / 200;
+    // What a line is higher than its letters is below them, and no part of the place; the ground has half of it on
+    // either side, and no gap between two of one writer.
+    const double half = QFontMetrics(line.block.charFormat().font()).height() * (heightOfLine - 100) / 200;
     const double above = format.topMargin() <= gapOfWriter ? format.topMargin() : 0;
-    const QRectF place = line.place.adjusted(0, -below - above, 0, -below);
+    const QRectF place = line.place.adjusted(0, -half - above, 0, half);
     painter.fillRect(QRectF(0, place.top(), painter.viewport().width(), place.height()).toAlignedRect(),
                      tintedGround(palette));
 }

@@ -44,13 +44,14 @@ QColor textColour(const QStyleOptionViewItem &cell, bool muted)
 /// be of no use.
 void shrinkToFit(QStyleOptionViewItem &option)
 {
-    constexpr double smallest = 0.75;
+    constexpr double smallestFont = 7; // points
     constexpr int margins = 8;
     const double room = option.rect.width() - margins;
     const double share = room / qMax(1, QFontMetrics(option.font).horizontalAdvance(option.text));
     if (share >= 1 || room <= 0)
         return;
-    option.font.setPointSizeF(option.font.pointSizeF() * qMax(smallest, share));
+    const double usual = option.font.pointSizeF();
+    option.font.setPointSizeF(qMax(qMin(smallestFont, usual), usual * share));
     option.fontMetrics = QFontMetrics(option.font);
 }
 

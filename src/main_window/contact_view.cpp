@@ -5,7 +5,6 @@
 #include "main_window/accessible_contacts.h"
 #include "main_window/contact_delegate.h"
 #include "main_window/contact_filter.h"
-#include "widgets/elided_label.h"
 #include "widgets/form_layout.h"
 #include "widgets/pictures.h"
 
@@ -80,7 +79,8 @@ void RoomyHeader::paintEvent(QPaintEvent *)
 ContactView::ContactView(QWidget *parent)
     : QTreeView(parent), m_delegate(new ContactDelegate(*this)), m_header(new RoomyHeader(this)),
       m_scrollBarRoom(new QWidget(this)), m_invitation(new QWidget(viewport())),
-      m_filter(new ContactFilter(parent ? parent : this)), m_nobody(new ElidedLabel(viewport()))
+      m_filter(new ContactFilter(parent ? parent : this)), m_nobodyPart(new QWidget(viewport())),
+      m_nobody(new QLabel(m_nobodyPart))
 {
     QAccessible::installFactory(AccessibleContacts::make); // again and again, which Qt ignores
     buildInvitation();
@@ -322,7 +322,7 @@ int ContactView::numberOf(const QModelIndex &contact) const
 
 QList<QWidget *> ContactView::partsOverRows() const
 {
-    return {m_nobody, m_invitation};
+    return {m_nobodyPart, m_invitation};
 }
 
 // --- finding contacts
@@ -336,9 +336,18 @@ void ContactView::buildFilter()
     connect(m_filter, &ContactFilter::listWanted, this, &ContactView::goToFirstFound);
     connect(m_filter, &ContactFilter::entered, this, &ContactView::openFirstFound);
     m_nobody->setObjectName(QStringLiteral("nobodyFound"));
+    m_nobody->setTextFormat(Qt::PlainText);
+    m_nobody->setWordWrap(true);
     m_nobody->setAlignment(Qt::AlignCenter);
     m_nobody->setForegroundRole(QPalette::Text);
-    m_nobody->hide();
+    auto *const everybody = new QPushButton(tr("Show everybody"), m_nobodyPart);
+    everybody->setObjectName(QStringLiteral("showEverybodyBtn"));
+    everybody->setFocusPolicy(Qt::NoFocus); // the keyboard has Escape
+    connect(everybody, &QPushButton::clicked, this, &ContactView::endSearch);
+    auto *const column = new QVBoxLayout(m_nobodyPart);
+    column->addWidget(m_nobody);
+    column->addWidget(everybody, 0, Qt::AlignHCenter);
+    m_nobodyPart->hide();
 }
 
 QWidget &ContactView::filterBox() const
@@ -475,12 +484,17 @@ void ContactView::type(QKeyEvent &event)
 void ContactView::placeNobody()
 {
     const bool isNobody = !m_words.isEmpty() && m_hidden > 0 && shownCount() == 0;
-    const QString sentence
-        = isNobody ? tr("Nobody here is called \"%1\"").arg(paintedName(m_words.join(QLatin1Char(' ')))) : QString();
-    m_nobody->setGeometry(0, 0, viewport()->width(), ContactDelegate::rowHeight);
-    m_nobody->setText(sentence);
-    m_nobody->setVisible(isNobody);
-    m_filter->setAccessibleDescription(sentence);
+    const QString words = paintedName(m_words.join(QLatin1Char(' ')));
+    const auto sentence = [isNobody](const QString &looked) {
+        return isNobody ? tr("Nobody here is called \"%1\"").arg(looked) : QString();
+    };
+    const int width = viewport()->width();
+    // A word alone can be longer than a line.
+    m_nobody->setText(sentence(m_nobody->fontMetrics().elidedText(words, Qt::ElideRight, width * 2 / 3)));
+    m_nobodyPart->setGeometry(0, 0, width, m_nobodyPart->heightForWidth(width));
+    m_nobodyPart->setAccessibleName(sentence(words));
+    m_nobodyPart->setVisible(isNobody);
+    m_filter->setAccessibleDescription(sentence(words));
 }
 
 void ContactView::placeInvitation()

@@ -4,13 +4,14 @@
 #include <QHeaderView>
 #include <QTreeView>
 
+class QLabel;
+
 namespace nimb
 {
 
 class AvatarStore;
 class ContactDelegate;
 class ContactFilter;
-class ElidedLabel;
 
 /// A header that keeps room above its captions for controls that lie over it. Without captions it is only that room.
 class RoomyHeader : public QHeaderView
@@ -127,7 +128,8 @@ private:
     QWidget *m_scrollBarRoom;
     QWidget *m_invitation;
     ContactFilter *m_filter; ///< beside the view: inside it the scroll bar would cover it
-    ElidedLabel *m_nobody;
+    QWidget *m_nobodyPart;
+    QLabel *m_nobody;
     int m_room = 0;                 ///< for what lies above the rows, in pixels
     int m_hidden = 0;               ///< rows
     QStringList m_words;            ///< that are looked for

@@ -22,6 +22,7 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -77,6 +78,7 @@ void frmMain::buildControls()
     m_outtext.setAccessibleName(tr("Log"));
     m_cleared = new ClearedBand(m_outtext, tr("Cleared."), area);
     m_cleared->strip()->setWordWrap(false);
+    m_cleared->strip()->setMargin(2);
     clearbtn = named(new QPushButton(namedPicture(QStringLiteral("clear")), tr("Clear"), area), "clearbtn");
     buildStatusBar();
     orderControls();
@@ -96,10 +98,11 @@ void frmMain::fitFonts()
     };
     QFont font = this->font();
     for (;;) {
-        for (QWidget *const control :
-             std::initializer_list<QWidget *>{ImageCombo1, TabStrip1, RescanBtn, buzzmute, ListDetails, ItemDetailstxt,
-                                              AutoReplyOn, Autoreplybtn, clearbtn, menuBar(), statusBar(), m_status,
-                                              m_activity, searchProgress, stopSearchBtn, m_network, m_trouble})
+        for (QWidget *const control : std::initializer_list<QWidget *>{
+                 ImageCombo1,    TabStrip1,   RescanBtn,           buzzmute,       ListDetails,
+                 ItemDetailstxt, AutoReplyOn, Autoreplybtn,        clearbtn,       menuBar(),
+                 statusBar(),    m_status,    m_activity,          searchProgress, stopSearchBtn,
+                 m_network,      m_trouble,   m_personalizedState, m_autoReply,    ListView1->header()})
             control->setFont(font);
         if (fits() || font.pointSizeF() <= smallestFont)
             return;
@@ -410,7 +413,9 @@ void frmMain::moveOntoScreen()
         if (seen.width() >= reachableTitle.width() && seen.height() >= reachableTitle.height())
             home = screen;
     }
-    const QRect available = (home ? home : QGuiApplication::primaryScreen())->availableGeometry();
+    const QRect available = (home ? home : QGuiApplication::primaryScreen())
+                                ->availableGeometry()
+                                .adjusted(0, 0, 0, -reachableTitle.height());
     if (height() > available.height()) {
         resize(width(), available.height());
         m_place.height = twips(height());
@@ -459,7 +464,15 @@ void frmMain::placeClearedStrip()
 {
     QLabel &strip = *m_cleared->strip();
     const int left = m_outtext.x() + margin;
-    strip.setGeometry(left, clearbtn->y(), clearbtn->x() - spacing - left, clearbtn->height());
+    const int top = qMax(clearbtn->y(), m_outtext.geometry().bottom() + 1);
+    const QRect place(QPoint(left, top), QPoint(clearbtn->x() - spacing - 1, clearbtn->geometry().bottom()));
+    QFont font = clearbtn->font();
+    strip.setFont(font);
+    while (strip.sizeHint().boundedTo(place.size()) != strip.sizeHint() && font.pointSizeF() > smallestFont) {
+        font.setPointSizeF(font.pointSizeF() - 0.5);
+        strip.setFont(font);
+    }
+    strip.setGeometry(place);
 }
 
 /// Two rows share what the fixed place of the first one leaves above the status bar.

@@ -19,6 +19,7 @@ using form_layout::spacing;
 
 /// A row's family; its text may say more.
 constexpr int familyRole = Qt::UserRole;
+constexpr int lettersOfFamily = 30; ///< of most names
 
 QLabel *caption(const QString &text, QWidget *of)
 {
@@ -46,7 +47,8 @@ LogFontDialog::LogFontDialog(const LogFont &font, QWidget *parent) : QDialog(par
 void LogFontDialog::buildControls()
 {
     m_family = named(new QListWidget(this), "font_family");
-    m_family->setMinimumSize(240, 200);
+    m_family->setMinimumSize(qMax(240, lettersOfFamily * m_family->fontMetrics().averageCharWidth()), 200);
+    m_family->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // what is longer ends in an ellipsis
     m_family->setAccessibleName(tr("Family"));
     m_size = named(new QSpinBox(this), "font_size");
     m_size->setRange(log_font_size::smallest, log_font_size::largest);

@@ -6,9 +6,12 @@
 #include "widgets/avatar_image.h"
 #include "widgets/avatar_picture.h"
 #include "widgets/dialog_parts.h"
+#include "widgets/elided_label.h"
 #include "widgets/file_dialogs.h"
+#include "widgets/fitting_area.h"
 #include "widgets/form_text.h"
 #include "widgets/pictures.h"
+#include "widgets/screen_room.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -93,19 +96,35 @@ void frmOptions::buildControls()
     right->addWidget(makeHistory());
     right->addWidget(makeAvatar());
     right->addStretch(1);
+    FittingArea *const area = makeArea(left, right);
     auto *const buttons = new QDialogButtonBox(this);
     CmdOK = addButton(*buttons, "CmdOK", tr("OK"), QDialogButtonBox::AcceptRole);
     CmdOK->setDefault(true);
     Command1 = addButton(*buttons, "Command1", tr("Cancel"), QDialogButtonBox::RejectRole);
 
-    auto *const grid = new QGridLayout(this);
-    grid->setContentsMargins(margin, margin, margin, margin);
-    grid->setHorizontalSpacing(groupDistance);
-    grid->setVerticalSpacing(groupDistance);
-    grid->addLayout(left, 0, 0);
-    grid->addLayout(right, 0, 1);
-    grid->addWidget(buttons, 1, 0, 1, 2);
-    grid->setSizeConstraint(QLayout::SetFixedSize);
+    auto *const whole = new QVBoxLayout(this);
+    whole->setContentsMargins(margin, margin, margin, margin);
+    whole->setSpacing(groupDistance);
+    whole->addWidget(area);
+    whole->addWidget(buttons);
+    whole->setSizeConstraint(QLayout::SetFixedSize);
+    area->setHeightBeside(2 * margin + groupDistance + buttons->sizeHint().height());
+}
+
+/// Both columns side by side, or below each other where the font is too large for the screen.
+FittingArea *frmOptions::makeArea(QVBoxLayout *left, QVBoxLayout *right)
+{
+    auto *const area = named(new FittingArea(this), "optionsArea");
+    auto *const page = new QWidget(area);
+    auto *const columns = new QBoxLayout(QBoxLayout::LeftToRight, page);
+    columns->setContentsMargins(0, 0, 0, 0);
+    columns->setSpacing(groupDistance);
+    columns->addLayout(left);
+    columns->addLayout(right);
+    if (columns->sizeHint().width() > roomOnScreen(*this).width())
+        columns->setDirection(QBoxLayout::TopToBottom);
+    area->setWidget(page);
+    return area;
 }
 
 QGroupBox *frmOptions::makeYou()
@@ -233,8 +252,7 @@ void frmOptions::addOption(const OptionRow &row, QVBoxLayout &column)
 QGroupBox *frmOptions::makeFont()
 {
     auto *const group = new QGroupBox(tr("Font of the logs"), this);
-    m_fontSample = new QLabel(group);
-    m_fontSample->setTextFormat(Qt::PlainText);
+    m_fontSample = new ElidedLabel(group);
     // The largest font must not make the dialog jump.
     m_fontSample->setFixedHeight(44);
     m_fontSample->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);

@@ -23,6 +23,7 @@ namespace nimb
 {
 
 class AvatarPicture;
+class FittingArea;
 
 class frmOptions : public QDialog
 {
@@ -39,6 +40,7 @@ protected:
 
 private:
     void buildControls();
+    FittingArea *makeArea(QVBoxLayout *left, QVBoxLayout *right);
     QGroupBox *makeYou();
     QGroupBox *makeSounds();
     QGroupBox *makePrivateWindows();

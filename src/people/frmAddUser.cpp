@@ -42,7 +42,7 @@ void frmAddUser::buildControls()
     nicktxt = nameBox(frame, "nicktxt");
     hostname = nameBox(frame, "hostname");
     ipaddress = nameBox(frame, "ipaddress");
-    ipaddress->setMinimumWidth(200);
+    ipaddress->setMinimumWidth(qMax(200, 26 * ipaddress->fontMetrics().averageCharWidth()));
     Resolvebtn = named(new QPushButton(tr("Resolve"), frame), "Resolvebtn");
     Resolvebtn->setAutoDefault(false);
     auto *const grid = new QGridLayout(frame);
@@ -64,8 +64,8 @@ void frmAddUser::buildControls()
     addressRemark->setTextFormat(Qt::PlainText);
     addressRemark->setWordWrap(true);
     addressRemark->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    // The room is kept, or the dialog would jump while somebody types.
-    addressRemark->setFixedHeight(2 * addressRemark->fontMetrics().lineSpacing());
+    // The room is kept, or the dialog would jump while somebody types: three lines, whose heights are rounded up.
+    addressRemark->setFixedHeight(3 * (addressRemark->fontMetrics().lineSpacing() + 1));
     QPalette colours = addressRemark->palette();
     colours.setColor(QPalette::WindowText, readableOn(Qt::red, colours.color(QPalette::Window)));
     addressRemark->setPalette(colours);

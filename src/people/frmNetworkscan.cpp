@@ -51,18 +51,39 @@ void frmNetworkscan::buildControls()
                          "192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is "
                          "192.168.1.255)"),
                       explanationWidth);
+    m_noNetwork = makeNoNetwork(frame);
     auto *const inFrame = new QVBoxLayout(frame);
     inFrame->setContentsMargins(margin, margin, margin, margin);
     inFrame->setSpacing(spacing);
     inFrame->addWidget(caption);
     inFrame->addLayout(row);
     inFrame->addWidget(note);
+    inFrame->addWidget(m_noNetwork);
 
     auto *const buttons = new QDialogButtonBox(this);
     Command1 = addButton(*buttons, "Command1", tr("Scan"), QDialogButtonBox::AcceptRole);
     Command2 = addButton(*buttons, "Command2", tr("Cancel"), QDialogButtonBox::RejectRole);
     Command1->setDefault(true);
     stack(*this, {frame, buttons});
+}
+
+/// Where there is nothing to choose from, it says so and where to go on.
+QWidget *frmNetworkscan::makeNoNetwork(QWidget *parent)
+{
+    auto *const part = named(new QWidget(parent), "noNetwork");
+    auto *const sentence = named(new QLabel(tr("This computer is in no network now."), part), "noNetworkLabel");
+    auto *const doctor = named(new QPushButton(tr("Network &doctor..."), part), "doctorBtn");
+    doctor->setAutoDefault(false);
+    connect(doctor, &QPushButton::clicked, this, [this] {
+        reject();
+        Q_EMIT doctorWanted();
+    });
+    auto *const row = new QHBoxLayout(part);
+    row->setContentsMargins(0, spacing, 0, 0);
+    row->setSpacing(spacing);
+    row->addWidget(sentence, 1);
+    row->addWidget(doctor);
+    return part;
 }
 
 void frmNetworkscan::connectControls()
@@ -80,6 +101,7 @@ void frmNetworkscan::Form_Load()
     }
     networksCombo->setCurrentIndex(-1);
     networksCombo->setVisible(networksCombo->count() > 0);
+    m_noNetwork->setVisible(networksCombo->count() == 0);
     Text1->setText(m_scan.Form_Load());
     Text1->selectAll();
     Text1->setFocus();

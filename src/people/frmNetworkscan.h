@@ -20,8 +20,13 @@ class frmNetworkscan : public QDialog
 public:
     frmNetworkscan(const NetworkScan &scan, QWidget *parent);
 
+Q_SIGNALS:
+    /// There is no network to scan, and the user wants to know why; the dialog has been closed.
+    void doctorWanted();
+
 private:
     void buildControls();
+    QWidget *makeNoNetwork(QWidget *parent);
     void connectControls();
     void Form_Load();
     void Command1_Click();
@@ -30,6 +35,7 @@ private:
     NetworkScan m_scan;
     QLineEdit *Text1 = nullptr;
     QComboBox *networksCombo = nullptr; ///< hidden where there is no network
+    QWidget *m_noNetwork = nullptr;     ///< stands there instead
     QPushButton *Command1 = nullptr;
     QPushButton *Command2 = nullptr;
 };

@@ -2,15 +2,14 @@
 
 #include "base/remote_text.h"
 #include "widgets/dialog_parts.h"
+#include "widgets/empty_hint.h"
 #include "widgets/form_text.h"
-#include "widgets/muted_colour.h"
 #include "widgets/picture_delegate.h"
 #include "widgets/pictures.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -38,12 +37,11 @@ protected:
     }
 };
 
-/// A list of contacts of which several can be selected. An empty one says what it is for.
+/// A list of contacts of which several can be selected.
 class NameView : public QTreeView
 {
 public:
-    NameView(TransferList &rows, QString emptyHint, QWidget *parent)
-        : QTreeView(parent), m_emptyHint(std::move(emptyHint))
+    NameView(TransferList &rows, QWidget *parent) : QTreeView(parent)
     {
         setModel(&rows);
         setItemDelegate(new NameDelegate(this));
@@ -55,21 +53,6 @@ public:
         setTabKeyNavigation(false);
         header()->setSectionsClickable(false);
     }
-
-protected:
-    void paintEvent(QPaintEvent *event) override
-    {
-        QTreeView::paintEvent(event);
-        if (model()->rowCount() > 0)
-            return;
-        QPainter painter(viewport());
-        painter.setPen(mutedTextColour(palette()));
-        painter.drawText(viewport()->rect().adjusted(groupDistance, 0, -groupDistance, 0),
-                         Qt::AlignCenter | Qt::TextWordWrap, m_emptyHint);
-    }
-
-private:
-    QString m_emptyHint;
 };
 
 std::vector<int> selectedRows(const QTreeView &view)
@@ -128,11 +111,13 @@ void frmSendContact::buildControls()
 {
     // Made in the order in which the Tab key visits them.
     auto *const request = named(new QLabel(tr("Select the contacts you want to send"), this), "Label1");
-    ListView1 = named(new NameView(m_transfer->offered(), tr("No more contacts to send"), this), "ListView1");
+    ListView1 = named(new NameView(m_transfer->offered(), this), "ListView1");
     ListView1->setAccessibleName(tr("Contacts that can be sent"));
+    new EmptyHint(*ListView1, "noneOffered", tr("No more contacts to send"));
     QLayout *const moves = moveButtons();
-    ListView2 = named(new NameView(m_transfer->chosen(), tr("Contacts moved here will be sent"), this), "ListView2");
+    ListView2 = named(new NameView(m_transfer->chosen(), this), "ListView2");
     ListView2->setAccessibleName(tr("Contacts chosen for sending"));
+    new EmptyHint(*ListView2, "noneChosen", tr("Contacts moved here will be sent"));
     auto *const buttons = new QDialogButtonBox(this);
     sendbtn = addButton(*buttons, "sendbtn", tr("&Send"), QDialogButtonBox::AcceptRole);
     cancelbtn = addButton(*buttons, "cancelbtn", tr("&Cancel"), QDialogButtonBox::RejectRole);

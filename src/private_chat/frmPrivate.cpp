@@ -144,7 +144,8 @@ QWidget *frmPrivate::makeStatusBar()
     rIP->setFrame(false);
     rIP->setFocusPolicy(Qt::ClickFocus);
     rIP->setAlignment(Qt::AlignRight);
-    rIP->setFixedWidth(120);
+    const int longest = rIP->fontMetrics().horizontalAdvance(QStringLiteral("255.255.255.255"));
+    rIP->setFixedWidth(qMax(120, longest + margin));
     QPalette ground = rIP->palette();
     ground.setColor(QPalette::Base, Qt::transparent);
     rIP->setPalette(ground);

@@ -1,5 +1,7 @@
 #include "private_chat/mood_gauge.h"
 
+#include "widgets/muted_colour.h"
+
 #include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
@@ -46,9 +48,9 @@ void MoodGauge::paintEvent(QPaintEvent *)
     QPainter painter(this);
     QLinearGradient scale(0, 0, 0, height());
     scale.setStops(scaleColours());
-    painter.fillRect(rect(), scale);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    // A frame that is filled rather than drawn: at a scale of 2 a line would leave a strip beside it.
+    painter.fillRect(rect(), outlineColour(palette()));
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), scale);
     if (!m_mood)
         return;
     painter.setRenderHint(QPainter::Antialiasing);

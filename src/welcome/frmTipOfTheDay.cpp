@@ -24,6 +24,8 @@ using form_layout::margin;
 using form_layout::spacing;
 
 constexpr int bulbSize = 48;
+constexpr int usualWidth = 460;
+constexpr int linesSeen = 4; ///< of a tip, at least
 
 } // namespace
 
@@ -35,7 +37,7 @@ frmTipOfTheDay::frmTipOfTheDay(TipOfTheDay tips, Prompts &prompts, QWidget *pare
     setWindowIcon(programIcon());
     buildControls();
     connectControls();
-    resize(460, 240);
+    resize(usualWidth, qMax(240, layout()->totalMinimumHeightForWidth(usualWidth)));
     Checkbx->setChecked(m_tips.showsAtStart());
     showTip(m_tips.Form_Load());
 }
@@ -61,6 +63,7 @@ QFrame *frmTipOfTheDay::tipFrame()
     Text1 = named(new QPlainTextEdit(frame), "Text1");
     Text1->setAccessibleName(tr("Tip"));
     Text1->setReadOnly(true);
+    Text1->setMinimumHeight(linesSeen * Text1->fontMetrics().lineSpacing());
     Text1->setTabChangesFocus(true);
     Text1->setFrameShape(QFrame::NoFrame);
     Text1->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);

@@ -29,14 +29,18 @@ inline QLineEdit *nameBox(QWidget *parent, const char *name)
     return box;
 }
 
-/// Several lines of running text, that many pixels wide.
+/// Several lines of running text, that many pixels wide, or wider where the window is.
 inline QLabel *runningText(QWidget *parent, const char *name, const QString &text, int width)
 {
     auto *const label = named(new QLabel(parent), name);
     label->setTextFormat(Qt::PlainText);
     label->setText(text);
     label->setWordWrap(true);
-    label->setFixedWidth(width);
+    // The height follows from the width that it gets, which a group's title may widen.
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    label->setSizePolicy(policy);
+    label->setMinimumWidth(width);
     return label;
 }
 

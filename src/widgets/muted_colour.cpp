@@ -10,6 +10,9 @@ namespace
 constexpr double readableContrast = 4.5;
 /// Below this a colour vanishes on its ground, whatever somebody meant by it.
 constexpr double visibleContrast = 2.0;
+/// An edge needs 3; some are drawn a little fainter than they are meant, and corners are blurred.
+constexpr double edgeContrast = 3.7, strongEdgeContrast = 7;
+constexpr double blackAndWhite = 20;
 
 double linear(double channel)
 {
@@ -65,6 +68,26 @@ QColor readableOn(const QColor &colour, const QColor &ground)
 QColor contrastingOn(const QColor &colour, const QColor &ground)
 {
     return moved(colour, isDark(ground) ? Qt::white : Qt::black, ground);
+}
+
+bool isOfHighContrast(const QPalette &palette)
+{
+    const auto contrastOf = [&palette](QPalette::ColorRole text, QPalette::ColorRole ground) {
+        return contrast(palette.color(QPalette::Active, text), palette.color(QPalette::Active, ground));
+    };
+    return contrastOf(QPalette::Text, QPalette::Base) >= blackAndWhite
+        && contrastOf(QPalette::WindowText, QPalette::Window) >= blackAndWhite;
+}
+
+QColor outlineColour(const QPalette &palette)
+{
+    const QColor window = palette.color(QPalette::Window), field = palette.color(QPalette::Base);
+    const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
+    const double least = isOfHighContrast(palette) ? strongEdgeContrast : edgeContrast;
+    QColor edge = window;
+    for (int step = 1; step <= 20 && (contrast(edge, window) < least || contrast(edge, field) < least); ++step)
+        edge = mixed(window, text, step / 20.0);
+    return edge;
 }
 
 QColor tintedGround(const QPalette &palette)

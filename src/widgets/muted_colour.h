@@ -21,6 +21,13 @@ QColor readableOn(const QColor &colour, const QColor &ground);
 /// The colour where its contrast with the ground is 4.5, else its nearest sister of the same hue that has it.
 QColor contrastingOn(const QColor &colour, const QColor &ground);
 
+/// Black and white, or nearly so.
+bool isOfHighContrast(const QPalette &palette);
+
+/// For the edges of controls: stands out from the ground of windows and from that of fields, without being as loud as a
+/// text where the palette is not of high contrast.
+QColor outlineColour(const QPalette &palette);
+
 /// The ground of lists and logs with a breath of the accent.
 QColor tintedGround(const QPalette &palette);
 

@@ -40,7 +40,14 @@ QList<QToolButton *> ToolRow::buttons() const
 
 QSize ToolRow::minimumSizeHint() const
 {
-    return {m_foldedWidth > 0 ? m_foldedWidth : m_row->minimumSize().width(), m_row->minimumSize().height()};
+    const QSize now = m_row->minimumSize();
+    return {m_foldedWidth > 0 ? m_foldedWidth : now.width(), qMax(m_height, now.height())};
+}
+
+QSize ToolRow::sizeHint() const
+{
+    const QSize now = m_row->sizeHint();
+    return {now.width(), qMax(m_height, now.height())};
 }
 
 void ToolRow::setFolded(bool folded)
@@ -62,6 +69,7 @@ void ToolRow::measure()
     setFolded(false);
     m_row->invalidate();
     m_wholeWidth = m_row->minimumSize().width();
+    m_height = m_row->minimumSize().height();
     setFolded(wasFolded);
     fold();
     updateGeometry();
@@ -69,8 +77,10 @@ void ToolRow::measure()
 
 void ToolRow::fold()
 {
-    if (m_wholeWidth > 0 && m_isFolded != (width() < m_wholeWidth))
-        setFolded(!m_isFolded);
+    if (m_wholeWidth == 0 || m_isFolded == (width() < m_wholeWidth))
+        return;
+    setFolded(!m_isFolded);
+    m_row->activate(); // at once, or the captions would come a frame later than their room
 }
 
 bool ToolRow::event(QEvent *event)

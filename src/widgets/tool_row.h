@@ -24,6 +24,7 @@ public:
     /// To the other side, for what comes and goes without moving the tools.
     void addAtEnd(QWidget *widget);
 
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 protected:
@@ -33,12 +34,13 @@ protected:
 private:
     QList<QToolButton *> buttons() const;
     void setFolded(bool folded);
-    /// How wide the row is either way, which fonts and styles decide.
+    /// How large the row is either way, which fonts and styles decide. The height stays, or what stands above would
+    /// move.
     void measure();
     void fold();
 
     QHBoxLayout *m_row;
-    int m_wholeWidth = 0, m_foldedWidth = 0;
+    int m_wholeWidth = 0, m_foldedWidth = 0, m_height = 0;
     bool m_isFolded = false;
 };
 

@@ -301,6 +301,16 @@ TEST_F(ContactFilterTest, WantsEveryWordInAnyOrder)
     EXPECT_THAT(shown(), IsEmpty());
 }
 
+TEST_F(ContactFilterTest, AButtonShowsEverybodyAgainWhereNobodyIsFound)
+{
+    find("zoe");
+    QTest::mouseClick(&windows.control<QPushButton>("showEverybodyBtn"), Qt::LeftButton);
+    EXPECT_FALSE(isSearching());
+    EXPECT_FALSE(nobody().isVisible());
+    EXPECT_EQ(shown().size(), 4U);
+    EXPECT_TRUE(windows.list().hasFocus());
+}
+
 TEST_F(ContactFilterTest, SaysInOneLineThatNobodyIsFound)
 {
     find("zoe");

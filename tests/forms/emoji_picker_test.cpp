@@ -243,6 +243,7 @@ TEST_F(EmojiPickerTest, TypingInTheListGoesOnSearching)
     QTest::keyClicks(&search(), QStringLiteral("oyy"));
     EXPECT_THAT(rows(1), ElementsAre());
     EXPECT_EQ(control<QLabel>("emojiName").text(), QStringLiteral("Not found"));
+    EXPECT_TRUE(control<QLabel>("noEmoji").isVisible());
     QTest::keyClick(&search(), Qt::Key_Return);
     EXPECT_EQ(intext().toPlainText(), QString());
     QTest::keyClick(&search(), Qt::Key_Backspace);

@@ -284,6 +284,17 @@ TEST_F(FrmConference, TheInvitationsHideInsteadOfClosing)
     EXPECT_EQ(RealWindows::control<QTreeView>(invitations(), "ListView1").model()->rowCount(), 2);
 }
 
+TEST_F(FrmConference, WithoutInvitationsTheirWindowLeadsToAConferenceOfOnesOwn)
+{
+    windows.entry("mnushowinvitations").trigger();
+    auto &hint = RealWindows::control<QLabel>(invitations(), "noInvitations");
+    EXPECT_TRUE(hint.isVisible());
+    QTest::mouseClick(&RealWindows::control<QPushButton>(invitations(), "newConferenceBtn"), Qt::LeftButton);
+    EXPECT_EQ(open().size(), 1U);
+    windows.arrive("10.0.0.2", "?CONF INVITE #3");
+    EXPECT_FALSE(hint.isVisible());
+}
+
 TEST_F(FrmConference, OnlyPendingInvitationsAreAnswered)
 {
     windows.arrive("10.0.0.2", "?CONF INVITE #3");

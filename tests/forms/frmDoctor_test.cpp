@@ -75,6 +75,14 @@ TEST_F(FrmDoctor, ExaminesAsSoonAsItIsOpened)
     EXPECT_THAT(badLabels(*shownDoctor()), IsEmpty());
 }
 
+TEST_F(FrmDoctor, TheListOfDatagramsSaysThatItIsEmptyOnlyWhileItIs)
+{
+    EXPECT_FALSE(column(0).empty());
+    EXPECT_FALSE(control<QLabel>("noDatagrams").isVisible());
+    control<QTreeWidget>("datagramList").clear();
+    EXPECT_TRUE(control<QLabel>("noDatagrams").isVisible());
+}
+
 TEST_F(FrmDoctor, SaysBelowWhatToDoWhereSomethingIsWrong)
 {
     windows.diagnosis.firewallRead(

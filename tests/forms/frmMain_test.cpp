@@ -701,7 +701,7 @@ TEST(FrmMainPlace, APlaceOffEveryScreenIsMovedIn)
 {
     RealWindows windows({}, {{"Settings/MainLeft", "-900000"}, {"Settings/MainTop", "900000"}});
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    EXPECT_TRUE(screen.contains(windows.main().pos()));
+    EXPECT_TRUE(screen.contains(windows.main().frameGeometry())) << "moved in whole";
 }
 
 TEST(FrmMainPlace, ATitleOutOfReachIsMovedIn)
@@ -709,7 +709,7 @@ TEST(FrmMainPlace, ATitleOutOfReachIsMovedIn)
     RealWindows windows({}, {{"Settings/MainTop", "-3000"}, {"Settings/MainHeight", "1000000"}});
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     EXPECT_GE(windows.main().y(), screen.top());
-    EXPECT_LE(windows.main().height(), screen.height());
+    EXPECT_LE(windows.main().frameGeometry().bottom(), screen.bottom());
 }
 
 TEST(FrmMainPlace, AMaximisedWindowIsSavedAsItWasBefore)

@@ -137,6 +137,22 @@ TEST_F(FrmNetworkscan, OffersTheBroadcastAddressesOfThisComputer)
     EXPECT_TRUE(isGone());
 }
 
+TEST_F(FrmNetworkscan, WithoutANetworkItSaysSoAndLeadsToTheDoctor)
+{
+    auto &sentence = *dialog->findChild<QLabel *>(QStringLiteral("noNetworkLabel"));
+    EXPECT_TRUE(sentence.isVisible());
+    EXPECT_FALSE(dialog->findChild<QComboBox *>(QStringLiteral("networksCombo"))->isVisible());
+    int wanted = 0;
+    QObject::connect(dialog, &frmNetworkscan::doctorWanted, &parent, [&wanted] { ++wanted; });
+    QTest::mouseClick(&button("doctorBtn"), Qt::LeftButton);
+    EXPECT_EQ(wanted, 1);
+    EXPECT_TRUE(isGone());
+    EXPECT_THAT(socket.sent, IsEmpty());
+    ownAddresses.running = {{QStringLiteral("eth0"), Ipv4Address(192, 168, 1, 5), Ipv4Address(192, 168, 1, 255)}};
+    open();
+    EXPECT_FALSE(dialog->findChild<QLabel *>(QStringLiteral("noNetworkLabel"))->isVisible());
+}
+
 TEST_F(FrmNetworkscan, TakesAtMost255Characters)
 {
     text().clear();
@@ -146,8 +162,8 @@ TEST_F(FrmNetworkscan, TakesAtMost255Characters)
 
 TEST_F(FrmNetworkscan, TheKeyboardReachesEverything)
 {
-    EXPECT_THAT(accessKeys(*dialog), UnorderedElementsAre("Alt+W"));
-    EXPECT_THAT(tabStops(*dialog), ElementsAre("Text1", "Command1", "Command2"));
+    EXPECT_THAT(accessKeys(*dialog), UnorderedElementsAre("Alt+W", "Alt+D"));
+    EXPECT_THAT(tabStops(*dialog), ElementsAre("Text1", "doctorBtn", "Command1", "Command2"));
     EXPECT_TRUE(button("Command1").isDefault());
     button("Command2").setFocus();
     press(Qt::Key_W, Qt::AltModifier);

@@ -782,6 +782,19 @@ TEST_F(FrmPrivate, TheFontIsTheStoredOne)
     EXPECT_EQ(windows.common.logFont.face, QStringLiteral("no such face"));
 }
 
+TEST_F(FrmPrivate, WithoutAStoredFontTheInputFollowsTheDesktopsWhenThatChanges)
+{
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSize(16);
+    QApplication::setFont(large);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(intext().font().pointSize(), 16);
+    QApplication::setFont(usual);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(intext().font().pointSize(), usual.pointSize());
+}
+
 TEST(FrmPrivateFromAPeer, IsMinimisedByDefaultAndNormalOnTopByOption)
 {
     RealWindows windows{{{"10.0.0.2", "Ann"}, {"10.0.0.3", "Ben"}}};

@@ -141,6 +141,17 @@ TEST_F(FrmSendContact, ARangeIsTakenBack)
     EXPECT_THAT(names(chosen()), IsEmpty());
 }
 
+TEST_F(FrmSendContact, AnEmptyListSaysWhatItIsFor)
+{
+    open();
+    EXPECT_FALSE(control<QLabel>("noneOffered").isVisible());
+    EXPECT_TRUE(control<QLabel>("noneChosen").isVisible());
+    click("btnsendall");
+    EXPECT_TRUE(control<QLabel>("noneOffered").isVisible());
+    EXPECT_FALSE(control<QLabel>("noneChosen").isVisible());
+    EXPECT_THAT(badLabels(*dialog), IsEmpty());
+}
+
 TEST_F(FrmSendContact, WithoutASelectionNothingMoves)
 {
     open();

@@ -134,12 +134,17 @@ TEST_F(LogMarksTest, OwnMessagesHaveAGroundOfTheirOwn)
 {
     ann(QStringLiteral("Hello"));
     me(QStringLiteral("Hi\r\nand more"));
-    const auto groundOf = [this](int line) {
-        return picture().pixelColor(2, qRound(placeOf(line).top()) + log.fontMetrics().height() / 2).rgb();
-    };
+    const auto groundAt
+        = [this](int line, int y) { return picture().pixelColor(2, qRound(placeOf(line).top()) + y).rgb(); };
+    const int height = log.fontMetrics().height();
+    const auto groundOf = [&](int line) { return groundAt(line, height / 2); };
     EXPECT_EQ(groundOf(0), log.palette().color(QPalette::Base).rgb());
     EXPECT_EQ(groundOf(1), tintedGround(log.palette()).rgb());
     EXPECT_EQ(groundOf(2), tintedGround(log.palette()).rgb());
+    for (const int y : {-1, height}) {
+        EXPECT_EQ(groundAt(1, y), tintedGround(log.palette()).rgb()) << "around the letters as well";
+        EXPECT_EQ(groundAt(2, y), tintedGround(log.palette()).rgb());
+    }
 }
 
 TEST_F(LogMarksTest, WhatHasNotArrivedBearsAMark)

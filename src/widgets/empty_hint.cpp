@@ -1,0 +1,79 @@
+#include "widgets/empty_hint.h"
+
+#include "widgets/form_layout.h"
+#include "widgets/muted_colour.h"
+
+#include <QAbstractItemView>
+#include <QEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace nimb
+{
+
+EmptyHint::EmptyHint(QAbstractItemView &list, const char *name, const QString &sentence)
+    : QWidget(list.viewport()), m_list(list), m_sentence(named(new QLabel(sentence, this), name))
+{
+    m_sentence->setTextFormat(Qt::PlainText);
+    m_sentence->setWordWrap(true);
+    m_sentence->setAlignment(Qt::AlignCenter);
+    m_sentence->setForegroundRole(QPalette::WindowText); // on the ground of a list it would be that of its rows
+    auto *const column = new QVBoxLayout(this);
+    column->setSpacing(form_layout::spacing);
+    column->addStretch(1);
+    column->addWidget(m_sentence);
+    column->addStretch(1);
+    takeColour();
+    list.viewport()->installEventFilter(this);
+    const QAbstractItemModel &rows = *list.model();
+    connect(&rows, &QAbstractItemModel::rowsInserted, this, &EmptyHint::followRows);
+    connect(&rows, &QAbstractItemModel::rowsRemoved, this, &EmptyHint::followRows);
+    connect(&rows, &QAbstractItemModel::modelReset, this, &EmptyHint::followRows);
+    followRows();
+}
+
+QPushButton *EmptyHint::addButton(const char *name, const QString &caption)
+{
+    auto *const button = named(new QPushButton(caption, this), name);
+    auto *const column = qobject_cast<QVBoxLayout *>(layout());
+    column->insertWidget(column->indexOf(m_sentence) + 1, button, 0, Qt::AlignHCenter);
+    return button;
+}
+
+void EmptyHint::followRows()
+{
+    const bool isEmpty = m_list.model() && m_list.model()->rowCount() == 0;
+    // Hiding a control that has the focus would pass it on to whatever comes next.
+    if (!isEmpty && isAncestorOf(window()->focusWidget()))
+        m_list.setFocus();
+    setGeometry(m_list.viewport()->rect());
+    setVisible(isEmpty);
+}
+
+/// Quieter than rows would be, on the ground on which they would stand.
+void EmptyHint::takeColour()
+{
+    QPalette colours = m_sentence->palette();
+    const QColor muted = mutedTextColour(m_list.palette());
+    if (colours.color(QPalette::WindowText) == muted)
+        return;
+    colours.setColor(QPalette::WindowText, muted);
+    m_sentence->setPalette(colours);
+}
+
+void EmptyHint::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        takeColour();
+}
+
+bool EmptyHint::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == parent() && event->type() == QEvent::Resize)
+        setGeometry(m_list.viewport()->rect());
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace nimb

@@ -1,0 +1,39 @@
+// What a list says while nothing is in it.
+#pragma once
+
+#include <QWidget>
+
+class QAbstractItemView;
+class QLabel;
+class QPushButton;
+
+namespace nimb
+{
+
+/// Lies over a list for as long as it has no rows and says what is to come, or what to do. The list has its model
+/// already, and becomes the parent.
+class EmptyHint : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// name: of the sentence.
+    EmptyHint(QAbstractItemView &list, const char *name, const QString &sentence);
+
+    /// For what the sentence speaks of; below it.
+    QPushButton *addButton(const char *name, const QString &caption);
+
+protected:
+    void changeEvent(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void buildSentence(const char *name, const QString &sentence);
+    void followRows();
+    void takeColour();
+
+    QAbstractItemView &m_list;
+    QLabel *m_sentence;
+};
+
+} // namespace nimb
