@@ -87,7 +87,8 @@ void ConversationPane::buildControls()
     m_column->addWidget(makeToolRow());
     m_column->addWidget(makeCutBand());
     m_column->addLayout(makeInput());
-    m_column->insertWidget(0, makeHistoryBand()); // made last, so that the Tab key comes to it last
+    m_column->insertWidget(m_column->indexOf(m_cleared->strip()),
+                           makeHistoryBand()); // made last, so that the Tab key comes to it last
 }
 
 QWidget *ConversationPane::makeToolRow()

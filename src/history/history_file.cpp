@@ -464,9 +464,13 @@ void HistoryFile::look(const Index &index, const QStringList &patterns, const Hi
 
 std::vector<StoredConversation> HistoryFile::list()
 {
+    // Both come from the index over conversations, which is a twentieth of the messages themselves.
     Statement get(m_database.get(),
-                  "SELECT c.id, c.kind, c.address, c.begun, c.name, count(m.id), max(m.time) FROM conversations c "
-                  "JOIN messages m ON m.conversation = c.id GROUP BY c.id ORDER BY max(m.id) DESC");
+                  "SELECT c.id, c.kind, c.address, c.begun, c.name, "
+                  "(SELECT count(*) FROM messages m WHERE m.conversation = c.id), l.time "
+                  "FROM conversations c "
+                  "JOIN messages l ON l.id = (SELECT max(m.id) FROM messages m WHERE m.conversation = c.id) "
+                  "ORDER BY l.id DESC");
     std::vector<StoredConversation> all;
     while (get.next()) {
         const bool isConference = get.number(1) != 0;

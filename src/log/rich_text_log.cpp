@@ -33,7 +33,8 @@ namespace
 
 /// The colour that was asked for, kept so that it can be adapted to another ground.
 constexpr int askedColour = QTextFormat::UserProperty + 1;
-constexpr std::chrono::milliseconds frame{16};
+/// A frame of the screen, less what it takes to lay out and paint what has come.
+constexpr std::chrono::milliseconds frame{14};
 /// Pieces that go in at once; more in one frame would be felt as a stall.
 constexpr std::size_t piecesAtOnce = 1000;
 constexpr qreal smallestLetters = 5, largestLetters = 48; ///< points
