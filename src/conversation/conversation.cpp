@@ -22,6 +22,7 @@ void Conversation::Clearbtn_Click()
     conversationView().setLogFont(font);
     RichTextLog &log = conversationView().outtext();
     log.clear();
+    history().cleared(keptAs());
     m_hasUnread = false;
     log.setSelFont(font);
     const QDateTime now = m_services.clock.now();

@@ -254,9 +254,13 @@ void ConversationPane::sendbtn_Click()
 void ConversationPane::showRoomLeft()
 {
     const qsizetype length = nimb::typedText(*intext).size();
-    messageCounter->setVisible(length >= limits::messageLengthShown);
-    if (length >= limits::messageLengthShown)
+    const bool isShown = length >= limits::messageLengthShown;
+    const bool changes = isShown != messageCounter->isVisibleTo(this);
+    messageCounter->setVisible(isShown);
+    if (isShown)
         messageCounter->setText(tr("%1 of %2").arg(length).arg(limits::messageLength));
+    if (changes)
+        m_toolRow->refit();
 }
 
 void ConversationPane::offerRest(const QString &rest)
@@ -273,7 +277,13 @@ void ConversationPane::offerRest(const QString &rest)
 
 void ConversationPane::showHistoryBand()
 {
-    historyBand->setVisible(m_conversation && m_conversation->history().isToBeAsked());
+    historyBand->setVisible(!m_needsRoom && m_conversation && m_conversation->history().isToBeAsked());
+}
+
+void ConversationPane::setNeedsRoom(bool needsRoom)
+{
+    m_needsRoom = needsRoom;
+    showHistoryBand();
 }
 
 void ConversationPane::historyBand_Click(const QString &answer)

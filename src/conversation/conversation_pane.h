@@ -52,6 +52,8 @@ public:
     QPushButton &sendButton() const { return *sendbtn; }
 
     void putBesideLog(QWidget *panel);
+    /// A panel beside the log needs its height: questions wait until it is gone.
+    void setNeedsRoom(bool needsRoom);
     void insertTools(Tool behind, std::initializer_list<QWidget *> tools);
     /// The Tab key goes from the log to these controls before it goes on to the tools.
     void setTabStopsBehindLog(std::initializer_list<QWidget *> controls);
@@ -110,6 +112,7 @@ private:
     void Form_Unload();
 
     Conversation *m_conversation; ///< null once the window was let go
+    bool m_needsRoom = false;
     QString m_lastSent;
     QString m_rest; ///< of what was pasted
     RTFSubClass &m_links;

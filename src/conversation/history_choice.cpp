@@ -21,6 +21,11 @@ void HistoryChoice::said(const KeptConversation &conversation, const KeptMessage
         m_undecided.pop_front();
 }
 
+void HistoryChoice::cleared(const KeptConversation &conversation)
+{
+    std::erase_if(m_undecided, [&](const auto &said) { return said.first == conversation; });
+}
+
 void HistoryChoice::choose(KeepHistory keep)
 {
     if (keep == m_common.history.keep)

@@ -29,6 +29,8 @@ public:
 
     /// A message was shown in a conversation.
     void said(const KeptConversation &conversation, const KeptMessage &message);
+    /// The user has cleared a conversation: nothing of it waits for his answer any more.
+    void cleared(const KeptConversation &conversation);
     /// The user's answer, now or later: what was kept before stays but for what is older than he wants.
     void choose(KeepHistory keep);
     /// From now on nothing of a contact is kept, or all is as with the others. What was kept stays.

@@ -198,7 +198,7 @@ void frmHistory::listed(const std::vector<StoredConversation> &conversations)
     const QSignalBlocker quiet(conversationList);
     conversationList->clear();
     m_names.clear();
-    conversationList->addItem(tr("All conversations"));
+    conversationList->addItem(new QListWidgetItem(namedPicture(QStringLiteral("search")), tr("All conversations")));
     int current = 0;
     for (const StoredConversation &stored : conversations) {
         const QString name

@@ -118,7 +118,7 @@ void EarlierMessages::paint(QPainter &painter, const QRect &place, const QPalett
     context.palette.setColor(QPalette::Text, mutedTextColour(palette));
     context.clip = place;
     m_text.documentLayout()->draw(&painter, context);
-    painter.setPen(palette.color(QPalette::Mid));
+    painter.setPen(context.palette.color(QPalette::Text));
     const int line = bottom + gapBelow / 2;
     painter.drawLine(0, line, static_cast<int>(m_text.textWidth()), line);
 }

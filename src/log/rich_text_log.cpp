@@ -468,9 +468,11 @@ void RichTextLogEdit::unmarkNew()
 
 void RichTextLogEdit::setNewLine(bool isNew)
 {
-    QTextBlockFormat format = m_new.blockFormat();
+    // Its own cursor: what is inserted behind the mark comes into the selection of one that keeps its position.
+    QTextCursor line(m_new.block());
+    QTextBlockFormat format = line.blockFormat();
     LogMarks::setNew(format, isNew);
-    m_new.setBlockFormat(LogMarks::withRoom(format, font()));
+    line.setBlockFormat(LogMarks::withRoom(format, font()));
 }
 
 /// Beside the text and above those lines that something is painted above.

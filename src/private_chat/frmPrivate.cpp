@@ -191,6 +191,7 @@ void frmPrivate::futuretype_Change()
 void frmPrivate::moodbtn_Click(bool shown)
 {
     m_moodPanel->setVisible(shown);
+    m_pane->setNeedsRoom(shown || AvatarBtn->isChecked());
     m_sidePanels->setVisible(shown || AvatarBtn->isChecked());
     m_pane->focusInput();
 }
@@ -200,6 +201,7 @@ void frmPrivate::AvatarBtn_Click(bool shown)
     if (shown)
         m_chat->avatarWanted();
     Avatarframe->setVisible(shown);
+    m_pane->setNeedsRoom(shown || moodbtn->isChecked());
     m_sidePanels->setVisible(shown || moodbtn->isChecked());
 }
 

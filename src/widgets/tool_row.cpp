@@ -60,7 +60,7 @@ void ToolRow::setFolded(bool folded)
     }
 }
 
-void ToolRow::measure()
+void ToolRow::refit()
 {
     const bool wasFolded = m_isFolded;
     setFolded(true);
@@ -87,7 +87,7 @@ bool ToolRow::event(QEvent *event)
 {
     const bool taken = QWidget::event(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange || event->type() == QEvent::Polish)
-        measure();
+        refit();
     return taken;
 }
 

@@ -24,6 +24,10 @@ public:
     /// To the other side, for what comes and goes without moving the tools.
     void addAtEnd(QWidget *widget);
 
+    /// Finds out how large the row is either way, as fonts, styles and what is shown at its end decide. The height
+    /// stays, or what stands above would move.
+    void refit();
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -34,9 +38,6 @@ protected:
 private:
     QList<QToolButton *> buttons() const;
     void setFolded(bool folded);
-    /// How large the row is either way, which fonts and styles decide. The height stays, or what stands above would
-    /// move.
-    void measure();
     void fold();
 
     QHBoxLayout *m_row;

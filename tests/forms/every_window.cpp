@@ -377,6 +377,45 @@ void takeOptions(Gallery &gallery)
     gallery.take(topLevel("font_dialog"), "options_font");
 }
 
+void keepSaid(RealWindows &windows)
+{
+    const QDateTime begin(QDate(2026, 11, 19), QTime(16, 58));
+    const std::pair<const char *, const char *> said[] = {
+        {"Ann", "Did you see the new plan? The part about the basement is the one that matters for us."},
+        {"Me", "Not yet. Is it at http://fileserver/plans/2026 ?"},
+        {"Ann", "Yes, the last one of the three"},
+        {"Me", "Then I will read it tomorrow\r\nand bring my notes to the meeting"},
+    };
+    for (int i = 0; i < 12; ++i) {
+        const auto &[writer, text] = said[i % 4];
+        windows.history.keep({.address = QStringLiteral("192.168.1.12"), .name = QStringLiteral("Ann")},
+                             {.time = begin.addSecs(i * 7000),
+                              .isOwn = i % 2 == 1,
+                              .writer = QLatin1String(writer),
+                              .text = QLatin1String(text)});
+    }
+}
+
+void takeHistory(Gallery &gallery)
+{
+    RealWindows windows(everybody, {{"Options/KeepHistory", QStringLiteral("ever")}});
+    fill(windows);
+    windows.entry("mnuHistory").trigger();
+    gallery.take(topLevel("frmHistory"), "history_empty");
+    topLevel("frmHistory").close();
+    keepSaid(windows);
+    windows.entry("mnuHistory").trigger();
+    QWidget &history = topLevel("frmHistory");
+    gallery.take(history, "history");
+    auto &words = RealWindows::control<QLineEdit>(history, "searchText");
+    words.setText(QStringLiteral("plan"));
+    QTest::keyClick(&words, Qt::Key_Return);
+    gallery.take(history, "history_search");
+    windows.arrive("192.168.1.12", "-Good morning, have you read it?");
+    windows.privateWindow().showNormal();
+    gallery.take(windows.privateWindow(), "private_with_history");
+}
+
 void takeDialogs(Gallery &gallery)
 {
     RealWindows windows(everybody);
@@ -552,6 +591,7 @@ void visitEveryWindow(const WindowVisitor &visitor)
     takeTrayIcon(gallery);
     takeOptions(gallery);
     takeDialogs(gallery);
+    takeHistory(gallery);
     takeDoctor(gallery);
     takeEmpty(gallery);
     takeMessageBox(gallery);

@@ -177,6 +177,27 @@ TEST_F(LogMarksTest, TheMarkOfWhatIsNewStaysWithItsLine)
     EXPECT_EQ(roomAbove(1), 2);
 }
 
+TEST_F(LogMarksTest, WhatStoodBehindTheMarkIsAsItWasWhenTheMarkHasGone)
+{
+    ann(QStringLiteral("Hello"));
+    log.markNew();
+    ann(QStringLiteral("first\r\nits second line"), saturday.addSecs(60));
+    ann(QStringLiteral("second"), saturday.addSecs(120));
+    ann(QStringLiteral("third"), saturday.addSecs(180));
+    log.writeGathered();
+    std::vector<QTextBlockFormat> before;
+    for (QTextBlock line = log.document()->begin().next().next(); line.isValid(); line = line.next())
+        before.push_back(line.blockFormat());
+    ASSERT_GE(before.size(), 3u);
+
+    log.unmarkNew();
+
+    std::vector<QTextBlockFormat> after;
+    for (QTextBlock line = log.document()->begin().next().next(); line.isValid(); line = line.next())
+        after.push_back(line.blockFormat());
+    EXPECT_TRUE(before == after);
+}
+
 TEST_F(LogMarksTest, LargerLettersGetMoreRoomForTheirMarks)
 {
     ann(QStringLiteral("Hello"));

@@ -22,6 +22,7 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <vector>
@@ -681,23 +682,53 @@ public:
     {
         kept.push_back({conversation, message});
     }
-    void find(const HistoryQuestion &, Found found) override { found({}); }
-    void findIn(const KeptConversation &conversation, const HistoryQuestion &question, Found found) override
+    /// The words are looked for as they stand, and no day restricts anything.
+    void find(const HistoryQuestion &question, Found found) override
     {
         std::vector<StoredMessage> all;
         for (std::size_t i = 0; i < kept.size(); ++i) {
-            const auto number = static_cast<std::int64_t>(i + 1);
-            if (kept[i].first == conversation && (!question.before || number < *question.before))
-                all.push_back({.number = number, .conversation = 1, .message = kept[i].second});
+            const StoredMessage one{.number = static_cast<std::int64_t>(i + 1),
+                                    .conversation = numberOf(kept[i].first),
+                                    .message = kept[i].second};
+            if (one.number < question.before.value_or(one.number + 1) && one.number > question.after.value_or(0)
+                && one.conversation == question.conversation.value_or(one.conversation)
+                && one.message.text.contains(question.words))
+                all.push_back(one);
         }
         const auto most = static_cast<std::size_t>(question.most);
         if (all.size() > most)
             all.erase(all.begin(), all.end() - question.most);
         found(all);
     }
-    void list(Listed listed) override { listed({}); }
+    void findIn(const KeptConversation &conversation, const HistoryQuestion &question, Found found) override
+    {
+        HistoryQuestion there = question;
+        there.conversation = numberOf(conversation);
+        find(there, std::move(found));
+    }
+    void list(Listed listed) override
+    {
+        std::vector<StoredConversation> all;
+        for (const auto &[conversation, message] : kept) {
+            const std::int64_t number = numberOf(conversation);
+            const auto same = std::ranges::find(all, number, &StoredConversation::number);
+            StoredConversation &one = same == all.end() ? all.emplace_back() : *same;
+            one = {number, conversation, message.time, one.messages + 1};
+        }
+        listed(all);
+    }
     void erase(const HistorySelection &, Done done) override { done(true); }
     void eraseBefore(const QDateTime &time) override { erasedBefore.push_back(time); }
+
+    /// 0: nothing of it is kept.
+    std::int64_t numberOf(const KeptConversation &conversation) const
+    {
+        for (std::size_t i = 0; i < kept.size(); ++i) {
+            if (kept[i].first == conversation)
+                return static_cast<std::int64_t>(i + 1);
+        }
+        return 0;
+    }
 
     QStringList texts() const
     {

@@ -79,6 +79,15 @@ TEST_F(HistoryChoiceTest, WhatWaitedForHisAnswerIsForgottenWhenHeSaysNo)
     EXPECT_THAT(kept(), ElementsAre("last"));
 }
 
+TEST_F(HistoryChoiceTest, WhatWasClearedBeforeHisAnswerIsNotKept)
+{
+    say(QStringLiteral("not for ever"));
+    copy.window(1).chat.Clearbtn_Click();
+    say(QStringLiteral("this"));
+    choice().choose(KeepHistory::ever);
+    EXPECT_THAT(kept(), ElementsAre("this"));
+}
+
 TEST_F(HistoryChoiceTest, NoMoreThanALimitWaits)
 {
     for (std::size_t i = 0; i < limits::historyUndecided + 10; ++i)
