@@ -23,6 +23,7 @@ void Conversation::Clearbtn_Click()
     RichTextLog &log = conversationView().outtext();
     log.clear();
     history().cleared(keptAs());
+    m_earliest.reset();
     m_hasUnread = false;
     log.setSelFont(font);
     const QDateTime now = m_services.clock.now();

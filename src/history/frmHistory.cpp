@@ -210,7 +210,7 @@ void frmHistory::listed(const std::vector<StoredConversation> &conversations)
         m_names.insert(stored.number, shown);
         auto *const item
             = new QListWidgetItem(namedPicture(isConference ? QStringLiteral("conference") : QStringLiteral("avatar")),
-                                  tr("%1 (%2)").arg(shown).arg(stored.messages), conversationList);
+                                  tr("%1 (%2)").arg(shown, QString::number(stored.messages)), conversationList);
         item->setData(Qt::UserRole, QVariant::fromValue(stored.number));
         item->setToolTip(stored.conversation.address);
         const bool isWanted

@@ -136,10 +136,13 @@ void putTexts(Statement &put, const KeptMessage &message, std::int64_t conversat
     put.reset();
 }
 
+/// Nobody looks for more at once, and SQLite has bounds of its own.
+constexpr qsizetype mostWords = 40;
+
 QStringList wordsOf(const QString &text)
 {
     static const QRegularExpression blanks(QStringLiteral("\\s+"));
-    return text.split(blanks, Qt::SkipEmptyParts);
+    return text.split(blanks, Qt::SkipEmptyParts).mid(0, mostWords);
 }
 
 /// A word as a full-text index takes it literally.
@@ -152,7 +155,8 @@ QString quoted(QString word)
 /// The index of words takes everything else for a gap between two.
 bool isPlain(const QString &word)
 {
-    return std::ranges::all_of(word, [](QChar c) { return c.isLetterOrNumber() || c.isMark() || c.isSurrogate(); });
+    return std::ranges::all_of(word.toUcs4(),
+                               [](char32_t c) { return QChar::isLetterOrNumber(c) || QChar::isMark(c); });
 }
 
 /// For LIKE with the escape character '\\'.
@@ -268,7 +272,7 @@ HistoryFile::HistoryFile(const QString &folder) : m_folder(QDir(folder).absolute
         throw Failure{*reason};
     takeFileFromOthers(m_file);
     try {
-        open();
+        open(m_file);
     } catch (const Failure &failure) {
         if (!failure.damaged)
             throw;
@@ -276,32 +280,48 @@ HistoryFile::HistoryFile(const QString &folder) : m_folder(QDir(folder).absolute
     }
 }
 
+/// The new file gets its name when all is in it: a rescue that is cut short begins anew with the next start.
 void HistoryFile::setAside()
 {
     m_database.reset();
+    const QString rescued = m_folder + QStringLiteral("/history.rescued.sqlite3");
+    for (const char *const suffix : {"", "-wal"})
+        QFile::remove(rescued + QLatin1String(suffix));
+    if (const auto reason = makePrivateFile(rescued))
+        throw Failure{*reason};
+    open(rescued);
+    execute(m_database.get(), "PRAGMA synchronous = OFF"); // until it is whole
+    const int saved = salvage(m_file);
+    execute(m_database.get(), "PRAGMA synchronous = FULL");
+    execute(m_database.get(), "PRAGMA wal_checkpoint(TRUNCATE)");
+    m_database.reset();
+
     const QString stamp = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss-zzz"));
     const QString aside = QStringLiteral("%1/history.damaged-%2.sqlite3").arg(m_folder, stamp);
-    for (const char *const suffix : {"", "-wal"}) {
-        const QString end = QLatin1String(suffix);
-        if (!QFile::exists(m_file + end))
-            continue;
-        if (const auto reason = renameForGood(m_file + end, aside + end))
-            throw Failure{*reason};
-    }
-    if (const auto reason = makePrivateFile(m_file))
-        throw Failure{*reason};
-    open();
-    const int saved = salvage(aside);
+    rename(m_file, aside);
+    rename(rescued, m_file);
+    open(m_file);
     m_takenOver = tr("The history was damaged, so a new one has been begun; %1 messages that could still be read went "
                      "into it. The old file is %2.")
                       .arg(saved)
                       .arg(QDir::toNativeSeparators(aside));
 }
 
-void HistoryFile::open()
+void HistoryFile::rename(const QString &from, const QString &to)
+{
+    for (const char *const suffix : {"-wal", ""}) {
+        const QString end = QLatin1String(suffix);
+        if (!QFile::exists(from + end))
+            continue;
+        if (const auto reason = renameForGood(from + end, to + end))
+            throw Failure{*reason};
+    }
+}
+
+void HistoryFile::open(const QString &path)
 {
     sqlite3 *opened = nullptr;
-    const int code = sqlite3_open_v2(sqlite::fileName(m_file).constData(), &opened,
+    const int code = sqlite3_open_v2(sqlite::fileName(path).constData(), &opened,
                                      SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     m_database.reset(opened);
     check(code, opened);
@@ -310,7 +330,8 @@ void HistoryFile::open()
     execute(opened, "PRAGMA locking_mode = EXCLUSIVE"); // a profile belongs to one copy, which needs no shared memory
     execute(opened, "PRAGMA journal_mode = WAL");
     execute(opened, "PRAGMA synchronous = FULL");
-    execute(opened, "PRAGMA secure_delete = ON"); // what the user erases is to be gone
+    execute(opened, "PRAGMA secure_delete = ON");  // what the user erases is to be gone
+    execute(opened, "PRAGMA temp_store = MEMORY"); // and in no file of the system either
     makeTables();
 }
 
@@ -346,20 +367,32 @@ int HistoryFile::salvage(const QString &wreck)
         return 0;
     const QHash<std::int64_t, KeptConversation> conversations = readableConversations(opened);
     int saved = 0;
+    const auto take = [&](const std::vector<StoredMessage> &piece) {
+        std::vector<Entry> entries;
+        for (const StoredMessage &found : piece)
+            entries.push_back({conversations.value(found.conversation), found.message});
+        write(entries);
+        saved += static_cast<int>(piece.size());
+    };
     std::int64_t first = 0, last = std::numeric_limits<std::int64_t>::max();
-    for (const char *const order : {"ASC", "DESC"}) {
-        for (;;) {
-            const std::vector<StoredMessage> piece = readablePiece(opened, first, last, order);
-            if (piece.empty())
-                break;
-            std::vector<Entry> entries;
-            for (const StoredMessage &found : piece)
-                entries.push_back({conversations.value(found.conversation), found.message});
-            write(entries);
-            saved += static_cast<int>(piece.size());
-            (QByteArrayView(order) == "ASC" ? first : last) = piece.back().number;
-        }
+    for (;;) {
+        const std::vector<StoredMessage> piece = readablePiece(opened, first, last, "ASC");
+        if (piece.empty())
+            break;
+        take(piece);
+        first = piece.back().number;
     }
+    std::vector<std::vector<StoredMessage>> behind; // the newest first
+    for (;;) {
+        std::vector<StoredMessage> piece = readablePiece(opened, first, last, "DESC");
+        if (piece.empty())
+            break;
+        last = piece.back().number;
+        std::ranges::reverse(piece);
+        behind.push_back(std::move(piece));
+    }
+    for (auto piece = behind.rbegin(); piece != behind.rend(); ++piece)
+        take(*piece);
     return saved;
 }
 
@@ -489,6 +522,9 @@ std::vector<StoredConversation> HistoryFile::list()
 void HistoryFile::erase(const HistorySelection &selection)
 {
     eraseMessages(selection);
+    // Pages that were put in order anew keep pieces of what stood in them.
+    execute(m_database.get(), "VACUUM");
+    execute(m_database.get(), "PRAGMA wal_checkpoint(TRUNCATE)");
     removeSetAside({}); // it may hold what the user does not want any more
 }
 

@@ -34,6 +34,8 @@ public:
     void setAside();
     /// A sentence about a file that had to be set aside by this object, or nothing.
     const std::optional<QString> &takenOver() const { return m_takenOver; }
+    /// The same once.
+    std::optional<QString> takeTakenOver() { return std::exchange(m_takenOver, std::nullopt); }
 
     void write(std::span<const Entry> entries);
     std::vector<StoredMessage> find(const HistoryQuestion &question);
@@ -53,7 +55,8 @@ private:
         QString expression;
     };
 
-    void open();
+    void open(const QString &path);
+    static void rename(const QString &from, const QString &to);
     void makeTables();
     int salvage(const QString &wreck);
     std::int64_t conversationFor(const KeptConversation &conversation);

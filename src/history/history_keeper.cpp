@@ -122,8 +122,8 @@ private:
     {
         if (!m_file)
             m_file.emplace(m_folder);
-        if (const auto &sentence = m_file->takenOver(); sentence && *sentence != m_told)
-            tell(m_told = *sentence);
+        if (const std::optional<QString> sentence = m_file->takeTakenOver())
+            tell(*sentence);
     }
 
     void write()

@@ -1,5 +1,6 @@
 #include "log/earlier_messages.h"
 
+#include "base/remote_text.h"
 #include "widgets/muted_colour.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -18,6 +19,8 @@ namespace
 constexpr int gapBelow = 10; // pixels
 constexpr int dayDistance = 6;
 constexpr int continuedIndent = 12;
+/// Characters of one message: all of them are in the history, and fifty of the longest would stop the window.
+constexpr qsizetype longestEarlier = 500;
 constexpr double lineHeight = 120; // percent
 
 QTextBlockFormat dayLine()
@@ -49,7 +52,9 @@ void write(QTextCursor &cursor, const KeptMessage &message)
 {
     QTextCharFormat plain, bold;
     bold.setFontWeight(QFont::Bold);
-    QString text = message.text;
+    QString text = shownText(message.text);
+    if (text.size() > longestEarlier)
+        text = text.left(longestEarlier) + QChar(0x2026);
     text.replace(QLatin1String("\r\n"), QString(QChar::LineSeparator));
     cursor.setBlockFormat(messageLine());
     cursor.insertText(QLocale().toString(message.time.time(), QStringLiteral("HH:mm")) + QLatin1String("  "), plain);

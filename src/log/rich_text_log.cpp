@@ -488,6 +488,7 @@ void RichTextLogEdit::makeRoom()
         cursor.setBlockFormat(LogMarks::withRoom(block.blockFormat(), font()));
     }
     cursor.endEditBlock();
+    placeEarlier();
     if (!m_hasMargin)
         return;
     QTextFrameFormat margins = document()->rootFrame()->frameFormat();

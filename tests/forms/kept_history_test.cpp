@@ -104,6 +104,16 @@ TEST_F(KeptForEver, WhatWasSaidBeforeIsPaintedAboveTheLogAndStandsInNoText)
     EXPECT_TRUE(log().isAtItsEnd());
 }
 
+TEST_F(KeptForEver, OneLongMessageOfBeforeTakesNoMoreThanAPiece)
+{
+    windows.history.keep({.address = QStringLiteral("10.0.0.2")},
+                         {.time = QDateTime(QDate(2026, 11, 20), QTime(9, 0)),
+                          .writer = QStringLiteral("Ann"),
+                          .text = QStringLiteral("a long line of words\r\n").repeated(2000)});
+    windows.arrive("10.0.0.2", "-new");
+    EXPECT_LT(log().document()->rootFrame()->frameFormat().topMargin(), 60 * log().fontMetrics().height());
+}
+
 TEST_F(KeptForEver, ScrollingUpPaintsMore)
 {
     keepSaid(120);

@@ -9,6 +9,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 #include <sys/stat.h>
 
 namespace nimb::test
@@ -347,6 +349,7 @@ TEST_F(HistoryFileTest, WhatCanBeReadOnBothSidesOfADamagedPageIsTakenOver)
     EXPECT_THAT(texts(left), testing::Contains(QStringLiteral("message number 1000")));
     EXPECT_THAT(texts(left), testing::Contains(QStringLiteral("message number 1899")));
     EXPECT_THAT(texts(left), testing::Not(testing::Contains(QStringLiteral("message number 1450"))));
+    EXPECT_TRUE(std::ranges::is_sorted(texts(left))) << "in the order in which they were said";
     EXPECT_EQ(history.list().front().conversation, ann);
     EXPECT_EQ(history.list().front().messages, static_cast<int>(left.size()));
 }
@@ -363,6 +366,30 @@ TEST_F(HistoryFileTest, ErasingLeavesNothingOfWhatWasSetAside)
     }
     EXPECT_THAT(QDir(folder).entryList({"history.damaged-*"}, QDir::Files), IsEmpty());
     EXPECT_FALSE(isOnTheDisk("secret"));
+}
+
+TEST_F(HistoryFileTest, ARescueThatWasCutShortBeginsAnew)
+{
+    {
+        HistoryFile history(folder);
+        write(history, {QStringLiteral("whole")});
+    }
+    QFile half(folder + QStringLiteral("/history.rescued.sqlite3"));
+    ASSERT_TRUE(half.open(QFile::WriteOnly));
+    half.write("half of it");
+    half.close();
+    HistoryFile history(folder);
+    history.setAside();
+    EXPECT_EQ(found(history, "whole").size(), 1);
+    EXPECT_FALSE(QFile::exists(half.fileName()));
+}
+
+TEST_F(HistoryFileTest, FindsASingleEmoji)
+{
+    HistoryFile history(folder);
+    write(history, {QString::fromUtf8("well done \U0001F600"), QStringLiteral("well")});
+    EXPECT_EQ(found(history, QString::fromUtf8("\U0001F600")).size(), 1);
+    EXPECT_EQ(found(history, QString::fromUtf8("well \U0001F600")).size(), 1);
 }
 
 TEST_F(HistoryFileTest, ANewerFormIsLeftAlone)
