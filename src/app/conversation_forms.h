@@ -15,8 +15,11 @@ class ConversationForms : public PrivateForms, public ConferenceForms
 {
 public:
     /// emojiUsed: called when what of common was used lately has changed.
-    ConversationForms(LinkOpener &links, Common &common, std::function<void()> emojiUsed, Spelling &spelling)
-        : m_links(links), m_emoji(common, std::move(emojiUsed)), m_spelling(spelling)
+    /// openHistory: see ConversationTools.
+    ConversationForms(LinkOpener &links, Common &common, std::function<void()> emojiUsed, Spelling &spelling,
+                      std::function<void(const QString &)> openHistory)
+        : m_links(links), m_emoji(common, std::move(emojiUsed)), m_spelling(spelling),
+          m_openHistory(std::move(openHistory))
     {
     }
 
@@ -27,6 +30,7 @@ private:
     RTFSubClass m_links;
     EmojiStock m_emoji;
     Spelling &m_spelling;
+    std::function<void(const QString &)> m_openHistory;
 };
 
 } // namespace nimb

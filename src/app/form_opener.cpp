@@ -16,7 +16,11 @@ namespace nimb
 FormOpener::FormOpener(const FormServices &services)
     : m_services(services), m_spelling(services.spellChecker, services.common, QLocale().name()),
       m_conversations(
-          services.links, services.common, [this] { emojiUsed(); }, m_spelling),
+          services.links, services.common, [this] { emojiUsed(); }, m_spelling,
+          [this](const QString &address) {
+              if (m_dialogs)
+                  m_dialogs->mnuHistory(address);
+          }),
       m_slide(services.common, services.timers)
 {
 }

@@ -65,6 +65,7 @@ public:
     /// The host has closed it, or has removed this copy from it.
     void terminate();
 
+    KeptConversation keptAs() const override;
     CloseDecision Form_QueryUnload(UnloadMode mode) override;
     /// Tells the others. sayGoodbye: whether a guest still has to leave.
     void Form_Unload(bool sayGoodbye);
@@ -76,7 +77,6 @@ private:
     QString openingLine(const QString &date, const QString &time) const override;
     QString textToSend(const QString &typed) const override;
     void deliver(const QString &text) override;
-    KeptConversation keptAs() const override;
     void allRead() override { m_services.notices.conferenceSeen(m_identity.fConfN); }
 
     QString caption() const;

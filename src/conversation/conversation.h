@@ -48,6 +48,8 @@ public:
     void endSeen();
 
     HistoryChoice &history() const { return m_services.history; }
+    /// What it is kept as.
+    virtual KeptConversation keptAs() const = 0;
     /// What was kept of it before is shown above the log, at first the newest.
     void showEarlier();
 
@@ -83,8 +85,6 @@ private:
     virtual QString textToSend(const QString &typed) const = 0;
     /// Sends to whoever else takes part.
     virtual void deliver(const QString &text) = 0;
-    /// What it is kept as.
-    virtual KeptConversation keptAs() const = 0;
     /// Nothing is unread any more.
     virtual void allRead() { }
     /// Somebody is known to be there who gets what is sent.

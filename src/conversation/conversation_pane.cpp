@@ -55,7 +55,8 @@ bool isMeantForMessage(const QKeyEvent &event)
 } // namespace
 
 ConversationPane::ConversationPane(Conversation &conversation, const ConversationTools &tools, QWidget *parent)
-    : QWidget(parent), m_conversation(&conversation), m_links(tools.links), m_emoji(tools.emoji)
+    : QWidget(parent), m_conversation(&conversation), m_links(tools.links), m_openHistory(tools.openHistory),
+      m_emoji(tools.emoji)
 {
     buildControls();
     connectControls();
@@ -166,6 +167,8 @@ void ConversationPane::connectControls()
             m_conversation->showEarlier();
     });
     showHistoryBand();
+    auto *const history = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_H), this);
+    connect(history, &QShortcut::activated, this, &ConversationPane::openHistory);
     connect(m_cleared, &ClearedBand::broughtBack, this, &ConversationPane::focusInput);
     if (EmojiTable::isThere()) {
         auto *const find = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Period), this);
@@ -278,6 +281,15 @@ void ConversationPane::offerRest(const QString &rest)
 void ConversationPane::showHistoryBand()
 {
     historyBand->setVisible(!m_needsRoom && m_conversation && m_conversation->history().isToBeAsked());
+}
+
+/// A conference has no address of its own to be found by.
+void ConversationPane::openHistory() const
+{
+    if (!m_conversation)
+        return;
+    const KeptConversation kept = m_conversation->keptAs();
+    m_openHistory(kept.kind == KeptConversation::Kind::contact ? kept.address : QString());
 }
 
 void ConversationPane::setNeedsRoom(bool needsRoom)

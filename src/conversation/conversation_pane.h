@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <initializer_list>
 #include <optional>
 
@@ -34,6 +35,8 @@ struct ConversationTools {
     RTFSubClass &links; ///< opens what is pressed in a log
     EmojiStock &emoji;  ///< those to choose from
     Spelling &spelling; ///< checks what is typed
+    /// Opens what was kept of the conversation with a contact; of none: of all.
+    std::function<void(const QString &address)> openHistory;
 };
 
 /// What a window has beside it, it makes itself and puts between the parts of the pane or around it.
@@ -107,6 +110,7 @@ private:
     void noteWhatIsSeen();
     void showRoomLeft();
     void showHistoryBand();
+    void openHistory() const;
     void historyBand_Click(const QString &answer);
     void offerRest(const QString &rest);
     void Form_Unload();
@@ -116,6 +120,7 @@ private:
     QString m_lastSent;
     QString m_rest; ///< of what was pasted
     RTFSubClass &m_links;
+    std::function<void(const QString &address)> m_openHistory;
     EmojiStock &m_emoji;
 
     RichTextLogEdit *m_outtext = nullptr;

@@ -85,6 +85,7 @@ public:
     /// A peer opens it anew.
     void leaveUnattended() { m_attended = false; }
 
+    KeptConversation keptAs() const override;
     CloseDecision Form_QueryUnload(UnloadMode mode) override;
 
 private:
@@ -92,7 +93,6 @@ private:
     QString openingLine(const QString &date, const QString &time) const override;
     QString textToSend(const QString &typed) const override;
     void deliver(const QString &text) override;
-    KeptConversation keptAs() const override;
     Writer peer(const QString &nik) const;
     void allRead() override { m_read(); }
     bool arrives() const override { return m_peer.delivery == Delivery::arrives; }

@@ -82,11 +82,13 @@ void paintPeerPicture(QPainter &painter, const QRect &place, const PeerPicture &
         paintAvatar(painter, place, picture.avatar);
     painter.setOpacity(1);
     if (picture.presence) {
-        // A ring of the ground keeps the two apart. Smaller ones could not be told by their shape.
+        // A ring of the ground keeps the two apart. Smaller ones could not be told by their shape. On the colour of
+        // what is selected the blue of who is away would be lost.
+        const bool isSelected = picture.ground == QPalette::Highlight;
         const int side = qMax(12, place.height() * 2 / 5), ring = presenceOverhang / 2;
         const QRect badge(place.right() + 1 - side + ring, place.bottom() + 1 - side + ring, side, side);
         painter.setPen(Qt::NoPen);
-        painter.setBrush(ground);
+        painter.setBrush(isSelected ? palette.color(QPalette::Base) : ground);
         painter.drawEllipse(badge.adjusted(-ring, -ring, ring, ring));
         statePicture(pictureOf(*picture.presence)).paint(&painter, badge);
     }

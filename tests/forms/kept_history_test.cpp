@@ -2,6 +2,7 @@
 #include "real_windows.h"
 
 #include <QComboBox>
+#include <QListView>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTextFrame>
@@ -152,6 +153,21 @@ TEST_F(KeptForEver, AContactCanBeLeftOutByItsMenu)
     EXPECT_FALSE(entry.isChecked());
     windows.click(0, Qt::RightButton);
     EXPECT_TRUE(entry.isChecked());
+}
+
+TEST_F(KeptForEver, AKeyOpensTheHistoryOfAConversation)
+{
+    keepSaid(3);
+    windows.history.keep({.address = QStringLiteral("10.0.0.3"), .name = QStringLiteral("Ben")},
+                         {.time = {}, .text = QStringLiteral("other")});
+    windows.arrive("10.0.0.2", "-new");
+    windows.privateWindow().showNormal();
+    windows.privateWindow().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&windows.privateWindow(), 60000));
+    QTest::keyClick(windows.privateWindow().focusWidget(), Qt::Key_H, Qt::ControlModifier);
+    auto *const history = windows.main().findChild<QDialog *>(QStringLiteral("frmHistory"));
+    ASSERT_TRUE(history);
+    EXPECT_EQ(windows.control<QListView>(*history, "messages").model()->rowCount(), 4);
 }
 
 TEST_F(KeptForEver, TheMenusOpenTheHistory)

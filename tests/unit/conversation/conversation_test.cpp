@@ -24,6 +24,7 @@ public:
     using Conversation::end;
 
     CloseDecision Form_QueryUnload(UnloadMode) override { return CloseDecision::unload; }
+    KeptConversation keptAs() const override { return {.address = QStringLiteral("10.0.0.9")}; }
 
     std::vector<std::string> delivered;
     int unloads = 0;
@@ -35,7 +36,6 @@ private:
         return QStringLiteral("Since %1, %2").arg(date, time);
     }
     QString textToSend(const QString &typed) const override { return QStringLiteral("[%1]").arg(typed); }
-    KeptConversation keptAs() const override { return {.address = QStringLiteral("10.0.0.9")}; }
     void deliver(const QString &text) override { delivered.push_back(text.toStdString()); }
 
     ConversationView &m_view;
