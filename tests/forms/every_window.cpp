@@ -37,7 +37,12 @@ public:
             log->writeGathered();
         if (!QTest::qWaitForWindowExposed(&window, 30000))
             qFatal("%s does not appear", name);
-        QCoreApplication::processEvents();
+        // A layout that has changed tells the one around it in a further round.
+        constexpr int nestedLayouts = 5;
+        for (int round = 0; round < nestedLayouts; ++round) {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+            QCoreApplication::processEvents();
+        }
         m_visitor(window, name);
     }
 
