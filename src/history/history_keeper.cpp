@@ -4,6 +4,7 @@
 #include "history/history_file.h"
 
 #include <QDir>
+#include <QEvent>
 #include <QFile>
 #include <QObject>
 
@@ -24,11 +25,21 @@ QString translated(const char *text)
 
 } // namespace
 
-/// Lives on the thread of the event loop; what is posted to it is dropped when it ends.
+/// Calls answers on the thread of the event loop, in their order; those that are left when it ends are dropped.
 class HistoryKeeper::Caller : public QObject
 {
 public:
+    using Answer = std::function<void()>;
+
     explicit Caller(HistoryKeeper &owner) : m_owner(owner) { }
+
+    /// From any thread.
+    void call(Answer answer)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_answers.push_back(std::move(answer));
+        QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+    }
 
     void tell(const QString &sentence) const
     {
@@ -36,8 +47,25 @@ public:
             m_owner.trouble(sentence);
     }
 
+    bool event(QEvent *event) override
+    {
+        if (event->type() != QEvent::User)
+            return QObject::event(event);
+        for (const Answer &answer : takeAnswers())
+            answer();
+        return true;
+    }
+
 private:
+    std::vector<Answer> takeAnswers()
+    {
+        const std::lock_guard lock(m_mutex);
+        return std::exchange(m_answers, {});
+    }
+
     HistoryKeeper &m_owner;
+    std::mutex m_mutex;
+    std::vector<Answer> m_answers;
 };
 
 /// What both threads share: what is to be written, and what is to be done with the file, in the order in which it came.
@@ -188,8 +216,7 @@ private:
 
     void tell(const QString &sentence)
     {
-        QMetaObject::invokeMethod(
-            &m_caller, [caller = &m_caller, sentence] { caller->tell(sentence); }, Qt::QueuedConnection);
+        m_caller.call([caller = &m_caller, sentence] { caller->tell(sentence); });
     }
 
     QString m_folder;
@@ -231,8 +258,7 @@ template <class Ask, class Answered> void HistoryKeeper::put(Ask ask, Answered a
     begin();
     m_desk->put([ask = std::move(ask), answered = std::move(answered), caller = m_caller.get()](HistoryFile *file) {
         auto answer = file ? ask(*file) : decltype(ask(*file)){};
-        QMetaObject::invokeMethod(
-            caller, [answered, answer = std::move(answer)] { answered(answer); }, Qt::QueuedConnection);
+        caller->call([answered, answer = std::move(answer)] { answered(answer); });
     });
 }
 
