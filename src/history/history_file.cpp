@@ -268,6 +268,9 @@ HistoryFile::HistoryFile(const QString &folder) : m_folder(QDir(folder).absolute
 {
     if (const auto reason = makePrivateFolder(m_folder))
         throw Failure{*reason};
+    // A rescue was killed when all was done but this: until then the damaged file is there.
+    if (!QFile::exists(m_file) && QFile::exists(rescuedFile()))
+        rename(rescuedFile(), m_file);
     if (const auto reason = makePrivateFile(m_file))
         throw Failure{*reason};
     takeFileFromOthers(m_file);
@@ -284,7 +287,7 @@ HistoryFile::HistoryFile(const QString &folder) : m_folder(QDir(folder).absolute
 void HistoryFile::setAside()
 {
     m_database.reset();
-    const QString rescued = m_folder + QStringLiteral("/history.rescued.sqlite3");
+    const QString rescued = rescuedFile();
     for (const char *const suffix : {"", "-wal"})
         QFile::remove(rescued + QLatin1String(suffix));
     if (const auto reason = makePrivateFile(rescued))

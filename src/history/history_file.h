@@ -55,6 +55,7 @@ private:
         QString expression;
     };
 
+    QString rescuedFile() const { return m_folder + QStringLiteral("/history.rescued.sqlite3"); }
     void open(const QString &path);
     static void rename(const QString &from, const QString &to);
     void makeTables();

@@ -79,7 +79,8 @@ TEST_F(HistoryOfACopy, IsWrittenWholeWhenTheProgramEnds)
     start();
     ann.send(bob.address(), "!ONLINE 127.0.52.12 ANN-PC Ann");
     ann.send(bob.address(), "-the last word");
-    EXPECT_TRUE(waitUntil([&] { return kept() == std::vector<std::string>{"the last word"}; }));
+    ann.send(bob.address(), "?ONLINE 127.0.52.12 ANN-PC Ann");
+    ann.hearUntil("!ONLINE 127.0.52.11 BOB-PC Bob"); // it has been shown, and is not written yet
     EXPECT_EQ(bob.end(), 0);
     EXPECT_THAT(kept(), ElementsAre("the last word"));
     EXPECT_FALSE(QFile::exists(file() + QStringLiteral("-wal")));

@@ -136,7 +136,8 @@ TEST_F(KeptForAYear, AMessageIsKeptWithAllThatIsKnownOfIt)
 
 TEST_F(KeptForAYear, NeitherLiveTextNorPresenceNorBuzzesAreKept)
 {
-    for (const char *const datagram : {"?TYPE", "!LIVETYPE I am", "?ONLINE", "!STATUS AWAY", "*BUZZ*", "garbage"})
+    for (const char *const datagram :
+         {"!TYPING", "!LIVETYPE I am", "?ONLINE 10.0.0.2 PC Ann", "!STATUS AWAY", "!BUZZ", "garbage"})
         copy.arrive("10.0.0.2", datagram);
     EXPECT_THAT(copy.history.kept, IsEmpty());
 }

@@ -384,6 +384,17 @@ TEST_F(HistoryFileTest, ARescueThatWasCutShortBeginsAnew)
     EXPECT_FALSE(QFile::exists(half.fileName()));
 }
 
+TEST_F(HistoryFileTest, ARescueThatWasKilledBeforeItsLastStepIsTakenUp)
+{
+    {
+        HistoryFile history(folder);
+        write(history, {QStringLiteral("rescued")});
+    }
+    ASSERT_TRUE(QFile::rename(file, folder + QStringLiteral("/history.rescued.sqlite3")));
+    HistoryFile history(folder);
+    EXPECT_EQ(found(history, "rescued").size(), 1);
+}
+
 TEST_F(HistoryFileTest, FindsASingleEmoji)
 {
     HistoryFile history(folder);
