@@ -5,6 +5,7 @@
 #include "conversation/emoji_stock.h"
 #include "conversation/spelling.h"
 #include "log/RTFSubClass.h"
+#include "log/log_room.h"
 #include "private_chat/private_chat_view.h"
 
 namespace nimb
@@ -30,6 +31,7 @@ private:
     RTFSubClass m_links;
     EmojiStock m_emoji;
     Spelling &m_spelling;
+    LogRoom m_logRoom;
     std::function<void(const QString &)> m_openHistory;
 };
 

@@ -47,6 +47,9 @@ constexpr int logLinesDropped = 1000;
 constexpr int logCharacters = 4'000'000;
 /// Pictures a log holds: each takes as much memory as a hundred lines of text.
 constexpr int logPictures = 5000;
+/// How many times that the logs of all conversations hold together: windows that strangers open would take gigabytes,
+/// and nobody reads so much. The fullest one loses its oldest lines.
+constexpr double fullLogs = 6;
 /// Emoji that are offered as used lately: two rows of them, and nobody remembers more.
 constexpr qsizetype recentEmoji = 24;
 /// Characters of one stored emoji; the longest of Unicode have 15.

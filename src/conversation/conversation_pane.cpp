@@ -11,6 +11,7 @@
 #include "log/RTFSubClass.h"
 #include "log/cleared_band.h"
 #include "log/log_font.h"
+#include "log/log_room.h"
 #include "log/rich_text_log.h"
 #include "widgets/accessible_window.h"
 #include "widgets/band.h"
@@ -61,6 +62,7 @@ ConversationPane::ConversationPane(Conversation &conversation, const Conversatio
     buildControls();
     connectControls();
     m_links.HookRichText(*m_outtext, *this);
+    tools.logRoom.join(*m_outtext);
     intext->setSpelling(tools.spelling);
     QAccessible::installFactory(makeAccessibleWindow); // again and again, which Qt ignores
     intext->setFocus();

@@ -25,6 +25,7 @@ class Conversation;
 class EmojiPicker;
 class EmojiStock;
 class EmoticonPicker;
+class LogRoom;
 class MessageInput;
 class RTFSubClass;
 class Spelling;
@@ -35,6 +36,7 @@ struct ConversationTools {
     RTFSubClass &links; ///< opens what is pressed in a log
     EmojiStock &emoji;  ///< those to choose from
     Spelling &spelling; ///< checks what is typed
+    LogRoom &logRoom;   ///< what the logs may hold
     /// Opens what was kept of the conversation with a contact; of none: of all.
     std::function<void(const QString &address)> openHistory;
 };

@@ -251,8 +251,9 @@ std::vector<StoredMessage> readablePiece(sqlite3 *database, std::int64_t first, 
 void sortAndCut(std::vector<StoredMessage> &messages, const HistoryQuestion &question)
 {
     std::ranges::sort(messages, {}, &StoredMessage::number);
-    const auto twice = std::ranges::unique(messages, {}, &StoredMessage::number);
-    messages.erase(twice.begin(), twice.end());
+    const auto sameNumber
+        = [](const StoredMessage &one, const StoredMessage &next) { return one.number == next.number; };
+    messages.erase(std::unique(messages.begin(), messages.end(), sameNumber), messages.end());
     const auto most = static_cast<std::size_t>(question.most);
     if (messages.size() <= most)
         return;

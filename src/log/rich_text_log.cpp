@@ -343,6 +343,7 @@ void RichTextLogEdit::writeGathered()
     if (!m_follows)
         noteLinesBelow(m_linesBelow + more);
     m_sinceWritten.start();
+    Q_EMIT written();
 }
 
 /// Once for all that has come, whatever changes in its form later.
@@ -422,29 +423,56 @@ void RichTextLogEdit::markLinks(QTextBlock line)
     }
 }
 
-/// Apart from the insertion: one change from the first to the last line would lay all of them out anew.
+RichTextLogEdit::Amount RichTextLogEdit::amount() const
+{
+    return {document()->blockCount(), document()->characterCount(), m_pictureCount};
+}
+
+double RichTextLogEdit::fullness() const
+{
+    const Amount held = amount();
+    const auto part = [](qsizetype number, qsizetype limit) { return double(number) / double(limit); };
+    return std::max({part(held.lines, limits::logLines), part(held.characters, limits::logCharacters),
+                     part(held.pictures, limits::logPictures)});
+}
+
+bool RichTextLogEdit::dropOldestTenth()
+{
+    const double part = fullness() * 9 / 10;
+    const auto of = [part](qsizetype limit) { return static_cast<qsizetype>(part * double(limit)); };
+    return dropLinesBeyond({of(limits::logLines), of(limits::logCharacters), of(limits::logPictures)});
+}
+
 void RichTextLogEdit::dropOldLines()
 {
-    qsizetype lines = document()->blockCount(), characters = document()->characterCount();
+    const Amount held = amount();
     const auto bound = [](qsizetype number, qsizetype limit, qsizetype less) { return number > limit ? less : limit; };
-    const qsizetype mostLines = bound(lines, limits::logLines, limits::logLines - limits::logLinesDropped);
-    const qsizetype mostCharacters = bound(characters, limits::logCharacters, withRoom(limits::logCharacters));
-    const qsizetype mostPictures = bound(m_pictureCount, limits::logPictures, withRoom(limits::logPictures));
+    dropLinesBeyond({bound(held.lines, limits::logLines, limits::logLines - limits::logLinesDropped),
+                     bound(held.characters, limits::logCharacters, withRoom(limits::logCharacters)),
+                     bound(held.pictures, limits::logPictures, withRoom(limits::logPictures))});
+}
+
+/// Apart from the insertion: one change from the first to the last line would lay all of them out anew.
+bool RichTextLogEdit::dropLinesBeyond(const Amount &most)
+{
+    Amount held = amount();
     QTextBlock first = document()->begin();
-    for (; first.next().isValid(); first = first.next(), --lines) {
-        if (lines <= mostLines && characters <= mostCharacters && m_pictureCount <= mostPictures)
+    for (; first.next().isValid(); first = first.next(), --held.lines) {
+        if (held.lines <= most.lines && held.characters <= most.characters && held.pictures <= most.pictures)
             break;
-        characters -= first.length();
-        m_pictureCount -= picturesIn(first.text());
+        held.characters -= first.length();
+        held.pictures -= picturesIn(first.text());
     }
     if (first.position() == 0)
-        return;
+        return false;
+    m_pictureCount = held.pictures;
     QTextCursor oldest(document());
     oldest.setPosition(first.position(), QTextCursor::KeepAnchor);
     const QTextBlockFormat format = first.blockFormat();
     oldest.removeSelectedText();
     if (oldest.blockFormat() != format) // it may have that of the line that has gone
         oldest.setBlockFormat(format);
+    return true;
 }
 
 /// The line that comes next is empty so far, and gets the room above it in which the mark is painted.

@@ -50,6 +50,10 @@ public:
     void showEnd();
     /// What is added comes into sight.
     bool isAtItsEnd() const { return m_follows; }
+    /// How much of what it may hold it holds, 0 to 1: of lines, characters or pictures, whichever is most.
+    double fullness() const;
+    /// False when there is no line to drop.
+    bool dropOldestTenth();
     /// Room above and below the text, in pixels, for what would lie over it.
     void setRoomAbove(int room);
     void setRoomBelow(int room);
@@ -86,6 +90,8 @@ public:
     void clear() override;
 
 Q_SIGNALS:
+    /// Something has been put in.
+    void written();
     /// The left button was pressed on a link.
     void linkPressed(const QUrl &target);
     /// The same on a command; see setSelCommand().
@@ -141,7 +147,14 @@ private:
                    const std::vector<LogMarks::Seen> &lines) const;
     void noteLinesBelow(int lines);
     void markLinks(QTextBlock line);
+    /// What a log holds.
+    struct Amount {
+        qsizetype lines, characters, pictures;
+    };
+    Amount amount() const;
     void dropOldLines();
+    /// The oldest ones, until no more than this is left. False when none had to go.
+    bool dropLinesBeyond(const Amount &most);
     void adaptColours();
     void applyFont();
     qreal zoomFactor() const;
