@@ -4,6 +4,9 @@
 #include "base/remote_text.h"
 #include "base/settings.h"
 #include "main_window/offer_good_copy.h"
+#include "protocol/datagram.h"
+
+#include <variant>
 
 namespace nimb
 {
@@ -102,6 +105,7 @@ void MainWindow::Form_Unload()
     answerNobody();
     m_parts.unloadOtherWindows();
     sayFarewellAndSaveContacts();
+    tellOfUnshown();
     save();
     m_parts.tray.removeIcon();
 }
@@ -112,6 +116,7 @@ void MainWindow::endWithoutWindows()
         return;
     answerNobody();
     sayFarewellAndSaveContacts();
+    tellOfUnshown();
     save();
 }
 
@@ -120,9 +125,27 @@ void MainWindow::answerNobody()
 {
     m_ended = true;
     m_isInTray = false;
-    m_parts.socket.DataArrival = nullptr;
+    m_parts.socket.DataArrival = [this](std::size_t byteCount) { countUnshown(byteCount); };
     m_parts.recovery.end();
     m_parts.networks.end();
+}
+
+/// Whatever else arrives is of no use to a program that ends.
+void MainWindow::countUnshown(std::size_t byteCount)
+{
+    const wire::Datagram datagram = wire::parse(m_parts.socket.GetData(byteCount));
+    const bool isMessage = std::holds_alternative<wire::PrivateMessage>(datagram)
+        || std::holds_alternative<wire::ConferenceMessage>(datagram);
+    if (isMessage && m_parts.contacts.isContact(m_parts.socket.RemoteHostIP()))
+        ++m_unshown;
+}
+
+void MainWindow::tellOfUnshown()
+{
+    m_parts.socket.announceWaiting();
+    m_parts.socket.DataArrival = nullptr;
+    if (m_unshown > 0)
+        m_parts.nextStart.tell(tr("Messages that arrived while the program ended are lost: %1.").arg(m_unshown));
 }
 
 void MainWindow::sayFarewellAndSaveContacts()

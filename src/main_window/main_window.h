@@ -73,6 +73,8 @@ public:
 private:
     LoadedSettings loadSettings();
     void answerNobody();
+    void countUnshown(std::size_t byteCount);
+    void tellOfUnshown();
     void sayFarewellAndSaveContacts();
     void save();
     void renewGoodCopy();
@@ -81,6 +83,7 @@ private:
     bool m_isInTray = false;
     bool m_saidWhyMinimised = false;
     bool m_ended = false;
+    int m_unshown = 0; ///< messages of contacts that have come since
 };
 
 } // namespace nimb

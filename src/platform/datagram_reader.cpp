@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <limits>
 #include <system_error>
 #include <utility>
 
@@ -42,8 +43,19 @@ DatagramReader::Batch DatagramReader::take(std::size_t most)
 {
     std::unique_lock lock(m_mutex);
     letReadFirst(lock);
+    return takeUpTo(m_rushes ? std::min(most, fewInARush) : most);
+}
+
+DatagramReader::Batch DatagramReader::takeAll()
+{
+    const std::lock_guard lock(m_mutex);
+    return takeUpTo(std::numeric_limits<std::size_t>::max());
+}
+
+DatagramReader::Batch DatagramReader::takeUpTo(std::size_t most)
+{
     Batch batch = std::exchange(m_counts, {});
-    batch.arrivals = m_queue.take(m_rushes ? std::min(most, fewInARush) : most);
+    batch.arrivals = m_queue.take(most);
     batch.losses = m_queue.takeLosses();
     batch.rushes = m_rushes;
     if (m_queue.isEmpty())

@@ -44,12 +44,15 @@ public:
     /// limits::readersLead and limits::readersLeadInAll: with fewer processors than busy threads whoever handles a
     /// burst takes the time from whoever keeps it from being lost.
     Batch take(std::size_t most);
+    /// Whatever is here, at once.
+    Batch takeAll();
 
 private:
     void run();
     /// How many.
     std::size_t read(DatagramSocket &socket, DatagramSocket::Buffers &buffers);
     void tellOfRush(bool isOn);
+    Batch takeUpTo(std::size_t most);
     void letReadFirst(std::unique_lock<std::mutex> &lock);
 
     std::vector<DatagramSocket *> m_sockets;

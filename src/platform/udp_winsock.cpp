@@ -197,11 +197,22 @@ void UdpWinsock::handOver()
     time.start();
     for (int handed = 0; m_reader && handed < batchSize && time.elapsed() < limits::turnOfArrivals.count();) {
         DatagramReader::Batch batch = m_reader->take(portion);
-        count(batch);
-        for (Arrival &arrival : batch.arrivals)
-            deliver(std::move(arrival));
         handed += batch.rushes || batch.arrivals.empty() ? batchSize : portion;
+        deliverAll(std::move(batch));
     }
+}
+
+void UdpWinsock::deliverAll(DatagramReader::Batch batch)
+{
+    count(batch);
+    for (Arrival &arrival : batch.arrivals)
+        deliver(std::move(arrival));
+}
+
+void UdpWinsock::announceWaiting()
+{
+    if (m_reader)
+        deliverAll(m_reader->takeAll());
 }
 
 void UdpWinsock::count(const DatagramReader::Batch &batch)

@@ -52,6 +52,7 @@ public:
     void SendData(const std::string &bytes) override;
     std::string GetData(std::size_t byteCount) override;
     Ipv4Address RemoteHostIP() const override { return m_lastSource; }
+    void announceWaiting() override;
 
     void setAcquainted(Ipv4Address sender, bool acquainted) override;
 
@@ -69,6 +70,7 @@ private:
     bool hasAddressStill() const;
     void close();
     void handOver();
+    void deliverAll(DatagramReader::Batch batch);
     void count(const DatagramReader::Batch &batch);
     void deliver(Arrival arrival);
     void reportError() const;

@@ -32,6 +32,7 @@ public:
     void SendData(const std::string &bytes) override;
     std::string GetData(std::size_t byteCount) override;
     Ipv4Address RemoteHostIP() const override { return m_other.RemoteHostIP(); }
+    void announceWaiting() override { m_other.announceWaiting(); }
 
     void setAcquainted(Ipv4Address sender, bool acquainted) override { m_other.setAcquainted(sender, acquainted); }
 

@@ -64,6 +64,8 @@ public:
     virtual std::string GetData(std::size_t byteCount) = 0;
     /// Source address of the datagram taken last; unspecified before the first.
     virtual Ipv4Address RemoteHostIP() const = 0;
+    /// Announces at once what has arrived so far and would be announced later.
+    virtual void announceWaiting() = 0;
 
     /// Whether what this sender sends goes before what others send, while more waits than can be handled at once.
     /// Nobody's does at first.

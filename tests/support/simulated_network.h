@@ -108,6 +108,11 @@ public:
     }
     std::string GetData(std::size_t byteCount) override { return m_arrived.substr(0, byteCount); }
     Ipv4Address RemoteHostIP() const override { return m_source; }
+    void announceWaiting() override
+    {
+        for (const auto &[from, bytes] : std::exchange(waiting, {}))
+            arrive(from, bytes);
+    }
     void setAcquainted(Ipv4Address sender, bool acquainted) override
     {
         if (acquainted)
@@ -129,8 +134,9 @@ public:
     /// Every simulated network has a mask of 24 bits.
     static bool isBroadcast(Ipv4Address address) { return address.number() % 256 == 255; }
 
-    bool broadcast = false;                          ///< datagrams to everybody leave the machine
-    std::vector<std::optional<Ipv4Address>> sources; ///< of all that was ever sent
+    std::vector<std::pair<QString, std::string>> waiting; ///< has arrived and is announced when asked for
+    bool broadcast = false;                               ///< datagrams to everybody leave the machine
+    std::vector<std::optional<Ipv4Address>> sources;      ///< of all that was ever sent
     std::optional<Ipv4Address> ownAddress;   ///< that the system would choose now; at first the one of its making
     std::map<Ipv4Address, Ipv4Address> ways; ///< from which address, to peers where that is not the usual one
     bool addressGone = false;                ///< the one to listen on

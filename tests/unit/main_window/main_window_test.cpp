@@ -218,6 +218,25 @@ TEST(MainWindowUnload, WhoIsLeavingAnswersNobody)
     EXPECT_THAT(copy.privateForms.views, IsEmpty());
 }
 
+TEST(MainWindowUnload, MessagesThatArriveMeanwhileAreToldAtTheNextStart)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.socket.waiting = {{"10.0.0.2", "-one"},
+                           {"10.0.0.2", "!TYPING"},
+                           {"10.0.0.2", "+10.0.0.2 #1 two"},
+                           {"10.0.0.9", "-of a stranger"}};
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_EQ(copy.nextStart.sentences, QStringList("Messages that arrived while the program ended are lost: 2."));
+}
+
+TEST(MainWindowUnload, WithNothingArrivingSaysNothingAtTheNextStart)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
+    copy.socket.waiting = {{"10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann"}};
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_TRUE(copy.nextStart.sentences.isEmpty());
+}
+
 TEST(MainWindowUnload, AFailedSaveIsToldToTheUser)
 {
     Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});

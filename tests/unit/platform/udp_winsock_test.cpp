@@ -778,6 +778,24 @@ TEST_F(UdpWinsockOfAMachine, TheWayToAPeerDecidesWhichAddressItSees)
     EXPECT_EQ(Copy(QStringLiteral("10.2.0.1")).socket.addressTowards(second), std::nullopt) << "it is fixed";
 }
 
+TEST(UdpWinsock, AnnouncesAtOnceWhatWaitsWhenItIsAskedTo)
+{
+    const RawPeer peer("127.0.1.2", testPort());
+    Copy copy("127.0.1.1");
+    ASSERT_TRUE(copy.socket.bind());
+    constexpr std::size_t sent = 3 * UdpWinsock::batchSize;
+    for (std::size_t i = 0; i < sent; ++i)
+        ASSERT_TRUE(peer.send("127.0.1.1", testPort(), "-" + std::to_string(i)));
+    // No event loop runs: only the reader works, and it may take a while to be done.
+    QDeadlineTimer patience(20000);
+    while (copy.heard.size() < sent && !patience.hasExpired()) {
+        copy.socket.announceWaiting();
+        std::this_thread::yield();
+    }
+    ASSERT_EQ(copy.heard.size(), sent);
+    EXPECT_EQ(copy.heard.back().bytes, "-" + std::to_string(sent - 1));
+}
+
 TEST_F(UdpWinsockOfAMachine, MayStopListeningWhileADatagramIsHandled)
 {
     Copy me(QStringLiteral("10.1.0.1"));
