@@ -16,12 +16,18 @@ Messenger::Messenger(Common &common, const Surroundings &around)
              [this] { m_announcement.runUnlessInvisible(); }),
       m_networks({common, around.socket, around.ownAddresses, around.networkWatch, m_port, m_announcement, m_log,
                   around.mainView, around.timers, around.chance, [this] { m_conferences.ownAddressChanged(); }}),
-      m_privateWindows(
-          {{common, around.socket, around.clock, m_history}, around.sound, around.timers, around.privateForms},
+      m_outbox({common, around.store, m_contacts, around.timers, around.clock, around.prompts, m_log,
+                [this](const WaitingMessage &message) { m_privateWindows.sendWaiting(message); },
+                [this](const WaitingMessage &message) { m_privateWindows.willNotBeSent(message); }}),
+      m_privateWindows({{common, around.socket, around.clock, m_history},
+                        around.sound,
+                        around.timers,
+                        around.privateForms,
+                        m_outbox},
           m_contacts, m_notices, around.drops),
       m_search({common, m_sender, m_contacts, around.ownAddresses, m_log, around.mainView, around.timers}),
       m_sameMachine(m_contacts, m_log), m_presence(common, m_admission, m_contacts, m_sender, m_log, m_privateWindows,
-                                                   m_notices, around.clock, {&m_search, &m_sameMachine}, around.drops),
+                                                   m_notices, around.clock, {&m_search, &m_sameMachine, &m_outbox}, around.drops),
       m_activity(around.timers, around.mainView), m_avatars(m_contacts),
       m_ownAvatar(common, around.socket, m_log, around.timers, around.clock, around.drops),
       m_peerFeatures({common, m_contacts, around.socket, m_privateWindows, m_avatars, m_ownAvatar, m_activity, m_log,
@@ -51,7 +57,7 @@ Messenger::Messenger(Common &common, const Surroundings &around)
                    around.drops),
       m_mainWindow({common, around.store, around.goodCopy, around.nextStart, around.socket, m_networks, m_contacts,
                     m_ownState, m_sender, m_announcement, m_port, m_recovery, m_log, around.prompts,
-                    [this] { unloadOtherWindows(); }, around.tray, around.mainView})
+                    [this] { m_outbox.load(); }, [this] { unloadOtherWindows(); }, around.tray, around.mainView})
 {
     m_dispatcher.listenTo(m_socket);
     around.history.trouble = [this](const QString &sentence) { m_log.fault(sentence); };
@@ -100,6 +106,7 @@ void Messenger::answerNotice(const NoticePlace &place, const QString &text)
 void Messenger::unloadOtherWindows()
 {
     m_search.end();
+    m_outbox.end();
     m_conferences.unloadAll();
     if (const qsizetype waiting = m_privateWindows.waitingMessages(); waiting > 0)
         m_nextStart.tell(tr("Messages that waited to be read when the program ended are lost: %1.").arg(waiting));

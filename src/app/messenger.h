@@ -14,6 +14,7 @@
 #include "main_window/recovery.h"
 #include "notify/notices.h"
 #include "people/search.h"
+#include "private_chat/outbox.h"
 #include "private_chat/peer_features.h"
 #include "private_chat/private_windows.h"
 #include "protocol/receive_dispatcher.h"
@@ -73,6 +74,7 @@ public:
     Invitations &invitations() { return m_invitations; }
     Notices &notices() { return m_notices; }
     HistoryChoice &history() { return m_history; }
+    Outbox &outbox() { return m_outbox; }
     /// The user turns to what a notice was about; there is nothing to open for the main window.
     void openNotice(const NoticePlace &place);
     /// The user has written a text back to it.
@@ -100,6 +102,7 @@ private:
     Recovery m_recovery;
     PortWatch m_port;
     OwnNetworks m_networks;
+    Outbox m_outbox;
     PrivateWindows m_privateWindows;
     Search m_search;
     SameMachine m_sameMachine;

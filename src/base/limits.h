@@ -37,6 +37,15 @@ constexpr std::size_t historyUndecided = 1000;
 /// Kept messages with which a conversation opens, and how many more come when its reader scrolls up.
 constexpr int historyShown = 50;
 constexpr int historyPage = 200;
+/// Messages that wait until their receivers are there: they are stored as one value, and who writes more than that to
+/// people who are away sends mail.
+constexpr std::size_t outboxMessages = 200;
+/// After which they are not sent any more.
+constexpr int outboxDays = 7;
+/// From when a receiver is back until the first is sent, and between two of them: it may still be starting, and nobody
+/// reads faster.
+constexpr std::chrono::milliseconds outboxPause{1000};
+constexpr std::chrono::milliseconds outboxPace{500};
 /// How long what was cleared can be brought back.
 constexpr std::chrono::milliseconds clearedKept{10000};
 /// Lines a log holds; beyond it re-layout and memory grow without use to anybody.

@@ -12,12 +12,20 @@
 namespace nimb
 {
 
+/// What becomes of a message of one's own, as far as is known.
+enum class MessageFate {
+    sent,
+    lost,  ///< nobody was there
+    waits, ///< until somebody is
+};
+
 /// A message, as far as a log shows it beside its text and above it.
 struct LogMessage {
     QString writer;
     QDateTime time;
     bool isOwn = false;
-    bool arrives = true; ///< as far as is known when it is written
+    MessageFate fate = MessageFate::sent;
+    int number = 0; ///< by which it is found again, where it is not sent; 0: none
 };
 
 /// A log to which text is only ever appended. Text is plain text always: nothing in it is taken for markup.
@@ -45,6 +53,8 @@ public:
     /// Replaces the selection by a fragment of rich text, which may be a picture; see log/metafile.h for its form.
     /// alternative: the text it stands for, for whoever copies or cannot see it, and for a fragment that is none.
     virtual void setSelRtf(const QString &fragment, const QString &alternative) = 0;
+    /// The message of this number has another fate now; one that has gone is ignored.
+    virtual void setFate(int message, MessageFate fate) = 0;
     /// What is inserted from now on is new to the reader, which is shown above it and stands in no text.
     virtual void markNew() = 0;
     /// Nothing is shown as new any more.

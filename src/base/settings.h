@@ -54,6 +54,8 @@ inline constexpr std::array settingKeys = {
     SettingKey{"Settings", "PersonalizedState", SettingType::text, "", "picture digit and text of an own state"},
     SettingKey{"Settings", "AutorefuseConf", SettingType::integer16, "0", "1: invitations are refused by age"},
     SettingKey{"Settings", "AutorefuseConfMins", SettingType::text, "5", "that age, minutes"},
+    SettingKey{"Outbox", "WaitingMessages", SettingType::text, "",
+               "messages that wait until their receivers are there, as JSON"},
     SettingKey{"Options", "RecentEmoji", SettingType::text, "",
                "emoji used lately, the latest first, with blanks between"},
     SettingKey{"Options", "TipOTDay", SettingType::text, "1", "exactly 1: a tip at every start"},

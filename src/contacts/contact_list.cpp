@@ -78,7 +78,12 @@ QString presenceWord(Presence presence)
 /// Whoever is offline does nothing else, whatever was heard last.
 QString wordsOf(const Contact &contact)
 {
-    return contact.presence == Presence::offline ? presenceWord(contact.presence) : ownWordsOf(contact.state);
+    const QString words
+        = contact.presence == Presence::offline ? presenceWord(contact.presence) : ownWordsOf(contact.state);
+    if (contact.toBeSent == 0)
+        return words;
+    const QString waiting = ContactList::tr("%1 to be sent").arg(contact.toBeSent);
+    return words.isEmpty() ? waiting : ContactList::tr("%1, %2", "two things said of a contact").arg(words, waiting);
 }
 
 } // namespace
@@ -382,6 +387,8 @@ QString ContactList::readOut(const Row &row) const
     QStringList parts{name, presenceWord(contact.presence)};
     if (const QString words = wordsOf(contact); !words.isEmpty() && contact.presence != Presence::offline)
         parts.append(words);
+    if (contact.toBeSent > 0 && contact.presence == Presence::offline)
+        parts.append(tr("%1 to be sent").arg(contact.toBeSent));
     if (contact.unread() > 0)
         parts.append(tr("%1 unread").arg(contact.unread()));
     return parts.join(QLatin1String(", "));

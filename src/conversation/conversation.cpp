@@ -34,14 +34,21 @@ bool Conversation::send(const QString &typed)
 {
     if (typed.isEmpty() || m_over)
         return false;
-    const QString text = textToSend(cutText(typed, limits::messageLength));
+    sendText(textToSend(cutText(typed, limits::messageLength)));
+    return true;
+}
+
+void Conversation::sendText(const QString &text)
+{
     deliver(text);
     conversationView().outtext().unmarkNew();
     const Writer self{common().ownNickname, conversationView().windowTextColour(), addressText(common().ownIP),
                       common().ownHostName};
-    appendMessage(self, text,
-                  {.writer = self.name, .time = m_services.clock.now(), .isOwn = true, .arrives = arrives()});
-    return true;
+    LogMessage message{.writer = self.name, .time = m_services.clock.now(), .isOwn = true, .fate = fate()};
+    if (message.fate != MessageFate::sent)
+        message.number = ++m_lastNumber;
+    appendMessage(self, text, message);
+    wasSent(text, message);
 }
 
 void Conversation::appendReceived(const Writer &writer, const QString &text)

@@ -76,6 +76,8 @@ protected:
 
     void appendReceived(const Writer &writer, const QString &text);
     void appendLine(const QString &line, Colour colour);
+    /// A message of one's own goes out and is shown.
+    void sendText(const QString &text);
     void end();
 
 private:
@@ -87,8 +89,10 @@ private:
     virtual void deliver(const QString &text) = 0;
     /// Nothing is unread any more.
     virtual void allRead() { }
-    /// Somebody is known to be there who gets what is sent.
-    virtual bool arrives() const { return true; }
+    /// Of what is sent now.
+    virtual MessageFate fate() const { return MessageFate::sent; }
+    /// It stands in the log.
+    virtual void wasSent(const QString &, const LogMessage &) { }
 
     void appendMessage(const Writer &writer, const QString &text, const LogMessage &message);
 
@@ -96,6 +100,7 @@ private:
     std::function<void()> m_unloaded;
     bool m_over = false;
     bool m_hasUnread = false;
+    int m_lastNumber = 0; ///< of a message that was not just sent
     std::optional<std::int64_t> m_earliest; ///< number of the first kept message that is shown
     bool m_waitsForEarlier = false;
     std::shared_ptr<Conversation *> m_self; ///< for answers that may come when this is gone

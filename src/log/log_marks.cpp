@@ -16,7 +16,8 @@ namespace
 /// Properties of a line. Whole minutes and days, so that few formats serve many lines.
 enum Property {
     ownMessage = QTextFormat::UserProperty + 16,
-    undelivered,
+    fateShown,     ///< a MessageFate, where it is not `sent`
+    messageNumber, ///< where the fate may change
     gapAbove,  ///< pixels
     timeShown, ///< text
     dayShown,  ///< Julian day
@@ -79,6 +80,21 @@ void paintUndelivered(QPainter &painter, const QRectF &place, const QColor &colo
     painter.restore();
 }
 
+/// A clock, for the same reason.
+void paintWaiting(QPainter &painter, const QRectF &place, const QColor &colour)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour, 1.2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(place);
+    const QPointF middle = place.center();
+    painter.setPen(QPen(colour, 1.4, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(middle, QPointF(middle.x(), place.top() + place.height() * 0.25));
+    painter.drawLine(middle, QPointF(place.left() + place.width() * 0.7, middle.y()));
+    painter.restore();
+}
+
 } // namespace
 
 QTextBlockFormat LogMarks::ownLine()
@@ -104,8 +120,9 @@ QTextBlockFormat LogMarks::firstLine(const LogMessage &message)
     m_writer = message.writer;
     if (message.isOwn)
         format.setProperty(ownMessage, true);
-    if (!message.arrives)
-        format.setProperty(undelivered, true);
+    setFate(format, message.fate);
+    if (message.number != 0)
+        format.setProperty(messageNumber, message.number);
     const QDateTime minute(message.time.date(), QTime(message.time.time().hour(), message.time.time().minute()));
     if (minute != m_minute)
         format.setProperty(timeShown, shortTime(minute));
@@ -147,9 +164,22 @@ QString LogMarks::dayOf(const QTextBlockFormat &line)
                               QStringLiteral("dddd, d MMMM"));
 }
 
-bool LogMarks::isUndelivered(const QTextBlockFormat &line)
+MessageFate LogMarks::fateOf(const QTextBlockFormat &line)
 {
-    return line.hasProperty(undelivered);
+    return line.hasProperty(fateShown) ? static_cast<MessageFate>(line.intProperty(fateShown)) : MessageFate::sent;
+}
+
+void LogMarks::setFate(QTextBlockFormat &line, MessageFate fate)
+{
+    if (fate == MessageFate::sent)
+        line.clearProperty(fateShown);
+    else
+        line.setProperty(fateShown, static_cast<int>(fate));
+}
+
+int LogMarks::numberOf(const QTextBlockFormat &line)
+{
+    return line.intProperty(messageNumber);
 }
 
 bool LogMarks::hasRoomAbove(const QTextBlockFormat &line)
@@ -202,10 +232,13 @@ void LogMarks::paintMarks(QPainter &painter, const Seen &line, const QPalette &p
         paintDivider(painter, above, dayOf(format), muted);
     const int ascent = painter.fontMetrics().height();
     QRect time(0, qRound(line.place.top()), width - markEdge, QFontMetrics(font).height());
-    if (format.hasProperty(undelivered)) {
+    if (const MessageFate fate = fateOf(format); fate != MessageFate::sent) {
         const double side = ascent * 0.8;
-        paintUndelivered(painter, {time.right() - side, time.center().y() - side / 2, side, side},
-                         readableOn(QColor(0x7A, 0x41, 0x00), ground));
+        const QRectF place(time.right() - side, time.center().y() - side / 2, side, side);
+        if (fate == MessageFate::lost)
+            paintUndelivered(painter, place, readableOn(QColor(0x7A, 0x41, 0x00), ground));
+        else
+            paintWaiting(painter, place, muted);
         time.setRight(time.right() - qRound(side) - besideMark / 2);
     }
     if (format.hasProperty(timeShown)) {

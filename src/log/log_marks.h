@@ -47,8 +47,11 @@ public:
     static QString timeOf(const QTextBlockFormat &line);
     /// What is painted above it; empty unless a day begins with it.
     static QString dayOf(const QTextBlockFormat &line);
-    /// Message of one's own that has not arrived, as far as is known.
-    static bool isUndelivered(const QTextBlockFormat &line);
+    /// Of a message of one's own; `sent` for any other line.
+    static MessageFate fateOf(const QTextBlockFormat &line);
+    static void setFate(QTextBlockFormat &line, MessageFate fate);
+    /// See LogMessage; 0 where it has none.
+    static int numberOf(const QTextBlockFormat &line);
 
     /// One line of the log as it is seen: where it lies, without the room above it.
     struct Seen {

@@ -475,6 +475,20 @@ bool RichTextLogEdit::dropLinesBeyond(const Amount &most)
     return true;
 }
 
+/// The newest lines are looked at first, for those who are away have mostly been so for a short while.
+void RichTextLogEdit::setFate(int message, MessageFate fate)
+{
+    writeGathered();
+    for (QTextBlock line = document()->lastBlock(); line.isValid(); line = line.previous()) {
+        QTextBlockFormat format = line.blockFormat();
+        if (message == 0 || LogMarks::numberOf(format) != message)
+            continue;
+        LogMarks::setFate(format, fate);
+        QTextCursor(line).setBlockFormat(format);
+        return;
+    }
+}
+
 /// The line that comes next is empty so far, and gets the room above it in which the mark is painted.
 void RichTextLogEdit::markNew()
 {

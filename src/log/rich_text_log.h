@@ -83,6 +83,7 @@ public:
     void setSelCommand(const QString &name) override { m_command = name; }
     void setSelMessage(const std::optional<LogMessage> &message) override;
     void setSelBold(bool bold) override;
+    void setFate(int message, MessageFate fate) override;
     void markNew() override;
     void unmarkNew() override;
     void setSelText(const QString &text) override;

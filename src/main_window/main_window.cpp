@@ -67,6 +67,7 @@ void MainWindow::Form_Load()
     m_parts.port.report();
     m_parts.contacts.load(m_parts.store);
     m_parts.recovery.takeOver();
+    m_parts.contactsLoaded();
     m_parts.announcement.run();
     m_parts.tray.AddIcon(QStringLiteral("NIMB-Chat"));
     m_isInTray = true;

@@ -48,6 +48,7 @@ public:
         Recovery &recovery;
         MainLog &log;
         Prompts &prompts;
+        std::function<void()> contactsLoaded; ///< what belongs to contacts can be read now
         std::function<void()> unloadOtherWindows;
         TrayIcon &tray;
         MainWindowView &view;

@@ -155,6 +155,10 @@ QWidget *frmPrivate::makeStatusBar()
 
 void frmPrivate::connectControls()
 {
+    connect(m_header, &PeerHeader::sendLaterPressed, this, [this] {
+        if (m_chat)
+            m_chat->sendLaterBtn_Click();
+    });
     connect(m_pane, &ConversationPane::lastMessageChanged, m_panels[0], &QLabel::setText);
     m_pane->input().installEventFilter(this);
     m_pane->log().installEventFilter(this);

@@ -9,6 +9,7 @@
 
 #include <QLabel>
 #include <QPainter>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace nimb
@@ -19,6 +20,7 @@ namespace
 using form_layout::margin;
 
 constexpr int faceSide = 36;
+constexpr qsizetype longestNameOnButton = 20; ///< characters
 
 /// Painted anew for every size and scale.
 class Face : public QWidget
@@ -68,6 +70,13 @@ QString detailsOf(const PeerShown &peer)
     return details.join(QStringLiteral(" · "));
 }
 
+QString withWaiting(const QString &sentence, int waiting)
+{
+    if (waiting == 0)
+        return sentence;
+    return PeerHeader::tr("%1. To be sent when there is somebody again: %2").arg(sentence, QString::number(waiting));
+}
+
 /// Empty while all arrives.
 QString warningOf(const PeerShown &peer)
 {
@@ -76,9 +85,10 @@ QString warningOf(const PeerShown &peer)
     case Delivery::arrives:
         return {};
     case Delivery::doubtful:
-        return PeerHeader::tr("%1 is not known to be there: what you write may not arrive").arg(name);
+        return withWaiting(PeerHeader::tr("%1 is not known to be there: what you write may not arrive").arg(name),
+                           peer.waiting);
     case Delivery::lost:
-        return PeerHeader::tr("%1 is offline: what you write does not arrive").arg(name);
+        return withWaiting(PeerHeader::tr("%1 is offline: what you write does not arrive").arg(name), peer.waiting);
     case Delivery::toNoContact:
         return PeerHeader::tr("%1 is no contact any more: what comes from there is not shown").arg(name);
     }
@@ -94,9 +104,25 @@ PeerHeader::PeerHeader(QWidget *parent) : QWidget(parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(makeHead());
-    peerBand = named(makeBand(this), "peerBand");
+    column->addWidget(makeBandRow());
+}
+
+QWidget *PeerHeader::makeBandRow()
+{
+    m_bandRow = new QWidget(this);
+    m_bandRow->setAutoFillBackground(true);
+    m_bandRow->setBackgroundRole(QPalette::ToolTipBase);
+    m_bandRow->hide();
+    peerBand = named(makeBand(m_bandRow), "peerBand");
     peerBand->setTextFormat(Qt::PlainText);
-    column->addWidget(peerBand);
+    sendLaterBtn = named(new QPushButton(m_bandRow), "sendLaterBtn");
+    sendLaterBtn->setToolTip(tr("What you have written and did not arrive is kept, and sent again then"));
+    connect(sendLaterBtn, &QPushButton::clicked, this, &PeerHeader::sendLaterPressed);
+    auto *const row = new QHBoxLayout(m_bandRow);
+    row->setContentsMargins(0, 0, margin, 0);
+    row->addWidget(peerBand, 1);
+    row->addWidget(sendLaterBtn);
+    return m_bandRow;
 }
 
 QWidget *PeerHeader::makeHead()
@@ -136,6 +162,11 @@ void PeerHeader::setPeer(const PeerShown &peer)
     const QString warning = warningOf(peer);
     peerBand->setText(warning);
     peerBand->setVisible(!warning.isEmpty());
+    // An ampersand would underline what follows it.
+    const QString name = paintedName(peer.name, longestNameOnButton).replace(u'&', QLatin1String("&&"));
+    sendLaterBtn->setText(tr("Send when %1 is back").arg(name));
+    sendLaterBtn->setVisible(peer.canWait);
+    m_bandRow->setVisible(!warning.isEmpty());
 }
 
 void PeerHeader::setAvatar(const std::optional<QByteArray> &picture)

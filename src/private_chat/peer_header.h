@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class QLabel;
+class QPushButton;
 
 namespace nimb
 {
@@ -25,13 +26,20 @@ public:
     void setAvatar(const std::optional<QByteArray> &picture);
     const PeerPicture &picture() const { return m_picture; }
 
+Q_SIGNALS:
+    /// What was written is to wait until the peer is back.
+    void sendLaterPressed();
+
 private:
     QWidget *makeHead();
+    QWidget *makeBandRow();
     PeerPicture m_picture{.name = {}, .ground = QPalette::Window};
     QWidget *m_face = nullptr;
     ElidedLabel *peerName = nullptr;
     ElidedLabel *peerDetails = nullptr;
     QLabel *peerBand = nullptr;
+    QPushButton *sendLaterBtn = nullptr;
+    QWidget *m_bandRow = nullptr;
 };
 
 } // namespace nimb

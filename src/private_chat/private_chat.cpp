@@ -49,6 +49,9 @@ void PrivateChat::preparewindow()
 void PrivateChat::showPeer(PeerShown peer)
 {
     peer.delivery = deliveryTo(peer);
+    if (peer.delivery == Delivery::arrives)
+        m_lost.clear();
+    peer.canWait = !m_lost.empty();
     if (m_peer == peer)
         return;
     m_peer = std::move(peer);
@@ -109,6 +112,52 @@ QString PrivateChat::textToSend(const QString &typed) const
 void PrivateChat::deliver(const QString &text)
 {
     sendDatagram(socket(), m_rIP.ipv4(), wire::PrivateMessage{toWire(text)});
+}
+
+MessageFate PrivateChat::fate() const
+{
+    return m_peer.delivery == Delivery::arrives ? MessageFate::sent : MessageFate::lost;
+}
+
+void PrivateChat::wasSent(const QString &text, const LogMessage &message)
+{
+    if (message.fate != MessageFate::lost || !m_isContact)
+        return;
+    m_lost.push_back({text, message.time, message.number});
+    showWhetherMessagesCanWait();
+}
+
+void PrivateChat::showWhetherMessagesCanWait()
+{
+    if (std::exchange(m_peer.canWait, !m_lost.empty()) == m_lost.empty())
+        m_view->setPeer(m_peer);
+}
+
+void PrivateChat::sendLaterBtn_Click()
+{
+    std::vector<Lost> lost = std::exchange(m_lost, {});
+    auto next = lost.begin();
+    for (; next != lost.end(); ++next) {
+        const std::optional<std::int64_t> number = m_services.outbox.put(m_rIP, next->text, next->written);
+        if (!number)
+            break;
+        m_waiting.insert(*number, next->number);
+        conversationView().outtext().setFate(next->number, MessageFate::waits);
+    }
+    m_lost.assign(next, lost.end());
+    showWhetherMessagesCanWait();
+    conversationView().focusInput();
+}
+
+void PrivateChat::sendWaiting(const WaitingMessage &message)
+{
+    conversationView().outtext().setFate(m_waiting.take(message.number), MessageFate::sent);
+    sendText(message.text + writtenAt(message.written));
+}
+
+void PrivateChat::willNotBeSent(std::int64_t waiting)
+{
+    conversationView().outtext().setFate(m_waiting.take(waiting), MessageFate::lost);
 }
 
 KeptConversation PrivateChat::keptAs() const

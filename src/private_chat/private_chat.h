@@ -5,11 +5,15 @@
 #include "base/contact_address.h"
 #include "base/sound.h"
 #include "conversation/conversation.h"
+#include "private_chat/outbox.h"
 #include "private_chat/private_chat_view.h"
 #include "private_chat/typing_notice.h"
 
+#include <QHash>
+
 #include <memory>
 #include <utility>
+#include <vector>
 
 namespace nimb
 {
@@ -26,6 +30,7 @@ public:
         Sound &sound;
         Timers &timers;
         PrivateForms &forms;
+        Outbox &outbox;
     };
 
     /// unloaded: called last of all when the user closes the window for good; it may destroy this chat. sought: called
@@ -74,6 +79,12 @@ public:
     void askForAvatarUnlessInvisible();
     /// Whether the head that has come is the one that avatarWanted() asked for; true once for each such question.
     [[nodiscard]] bool takeAvatarWanted() { return std::exchange(m_avatarWanted, false); }
+    /// What was written while the peer was not there is to be sent when he is back.
+    void sendLaterBtn_Click();
+    /// He is, and this is sent now, with the time at which it was written.
+    void sendWaiting(const WaitingMessage &message);
+    /// This will not be sent.
+    void willNotBeSent(std::int64_t waiting);
     /// The own gauge was clicked at this height, in units of the scale.
     void mymoodpct_MouseDown(float value);
 
@@ -95,7 +106,9 @@ private:
     void deliver(const QString &text) override;
     Writer peer(const QString &nik) const;
     void allRead() override { m_read(); }
-    bool arrives() const override { return m_peer.delivery == Delivery::arrives; }
+    MessageFate fate() const override;
+    void wasSent(const QString &text, const LogMessage &message) override;
+    void showWhetherMessagesCanWait();
     Delivery deliveryTo(const PeerShown &peer);
     void doubtDelivery();
 
@@ -103,7 +116,16 @@ private:
     void appendBuzz();
     void replyAutomatically(BaseState state, bool on, const QString &text);
 
+    /// A message that was written while the peer was not there.
+    struct Lost {
+        QString text;
+        QDateTime written;
+        int number; ///< in the log
+    };
+
     Services m_services;
+    std::vector<Lost> m_lost;                ///< in this absence, and that wait for nothing
+    QHash<std::int64_t, int> m_waiting;      ///< numbers in the log, by those in the outbox
     ContactAddress m_rIP;
     PeerShown m_peer;
     std::unique_ptr<Timer> m_autoReplyTimer;

@@ -24,7 +24,8 @@ void PrivateWindows::showPeer(const Contact &contact)
                         .presence = contact.presence,
                         .state = contact.state,
                         .workstation = contact.workstation,
-                        .address = contact.ip.text()});
+                        .address = contact.ip.text(),
+                        .waiting = contact.toBeSent});
 }
 
 PrivateChat *PrivateWindows::at(int window)
@@ -198,6 +199,22 @@ void PrivateWindows::answer(const ContactAddress &ip, const QString &text)
     [[maybe_unused]] const bool isSent = chat.send(remoteBody(text));
 }
 
+void PrivateWindows::sendWaiting(const WaitingMessage &message)
+{
+    const Contact *const contact = m_contacts.find(message.ip);
+    if (!contact)
+        return;
+    PrivateChat &chat = windowOf(*contact, OpenedBy::user);
+    showWaiting(*contact, chat);
+    chat.sendWaiting(message);
+}
+
+void PrivateWindows::willNotBeSent(const WaitingMessage &message)
+{
+    if (PrivateChat *const chat = at(numberOf(message.ip)))
+        chat->willNotBeSent(message.number);
+}
+
 PrivateChat &PrivateWindows::windowOf(const Contact &contact, OpenedBy opener)
 {
     if (PrivateChat *open = at(contact.privateWindow))
@@ -289,6 +306,7 @@ qsizetype PrivateWindows::waitingMessages() const
 
 void PrivateWindows::contactRemoved(const ContactAddress &ip)
 {
+    m_services.outbox.contactRemoved(ip);
     forgetWaiting(ip);
     if (ip.ipv4())
         m_notices.seen({NoticeWindow::privateChat, *ip.ipv4()});

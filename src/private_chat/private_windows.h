@@ -38,6 +38,10 @@ public:
     void openPrivate(const ContactAddress &ip) override;
     /// Sends a text that was written elsewhere than in the window of this contact, which shows it.
     void answer(const ContactAddress &ip, const QString &text);
+    /// Sends what has waited for its contact, whose window shows it.
+    void sendWaiting(const WaitingMessage &message);
+    /// This will not be sent; a window that shows it says so.
+    void willNotBeSent(const WaitingMessage &message);
     /// A hidden window of a removed contact could never be seen again and is unloaded.
     void contactRemoved(const ContactAddress &ip) override;
     void appendPresence(int window, const QString &line) override;

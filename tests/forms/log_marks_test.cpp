@@ -44,9 +44,9 @@ protected:
         QCoreApplication::processEvents();
     }
     void ann(const QString &text, const QDateTime &time = saturday) { write({.writer = ann_, .time = time}, text); }
-    void me(const QString &text, bool arrives = true)
+    void me(const QString &text, MessageFate fate = MessageFate::sent, int number = 0)
     {
-        write({.writer = QStringLiteral("Me"), .time = saturday, .isOwn = true, .arrives = arrives}, text);
+        write({.writer = QStringLiteral("Me"), .time = saturday, .isOwn = true, .fate = fate, .number = number}, text);
     }
     void lines(int count)
     {
@@ -86,7 +86,7 @@ protected:
 TEST_F(LogMarksTest, NothingThatIsPaintedStandsInTheText)
 {
     ann(QStringLiteral("Hello"));
-    me(QStringLiteral("Hi"), false);
+    me(QStringLiteral("Hi"), MessageFate::lost);
     log.markNew();
     ann(QStringLiteral("Plan"), saturday.addDays(1));
     EXPECT_EQ(log.toPlainText(), QStringLiteral("Ann> Hello\nMe> Hi\nAnn> Plan\n"));
@@ -151,7 +151,7 @@ TEST_F(LogMarksTest, WhatHasNotArrivedBearsAMark)
 {
     me(QStringLiteral("first"));
     me(QStringLiteral("arrives"));
-    me(QStringLiteral("does not"), false);
+    me(QStringLiteral("does not"), MessageFate::lost);
     EXPECT_TRUE(isBlank(marginOf(1)));
     EXPECT_FALSE(isBlank(marginOf(2)));
 }

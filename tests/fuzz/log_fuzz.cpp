@@ -30,6 +30,7 @@ public:
     void setSelBold(bool) override { }
     void markNew() override { }
     void unmarkNew() override { }
+    void setFate(int, MessageFate) override { }
     void setSelText(const QString &piece) override { note(piece, false); }
     void setSelRtf(const QString &, const QString &alternative) override { note(alternative, true); }
     void clear() override { }

@@ -55,6 +55,12 @@ public:
             messages.push_back(*message);
     }
     void setSelBold(bool bold) override { m_bold = bold; }
+    void setFate(int message, MessageFate fate) override
+    {
+        const auto found = std::ranges::find(messages, message, &LogMessage::number);
+        if (message != 0 && found != messages.end())
+            found->fate = fate;
+    }
     void markNew() override { newFrom = text().size(); }
     void unmarkNew() override { newFrom.reset(); }
     void setSelText(const QString &text) override

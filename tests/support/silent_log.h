@@ -20,6 +20,7 @@ public:
     void setSelBold(bool) override { }
     void markNew() override { }
     void unmarkNew() override { }
+    void setFate(int, MessageFate) override { }
     void setSelText(const QString &) override { ++pieces; }
     void setSelRtf(const QString &, const QString &) override { ++pieces; }
     void clear() override { }
