@@ -134,7 +134,7 @@ void DialogOpener::mnuShortcuts()
 void DialogOpener::mnuHistory(const QString &ip)
 {
     if (!m_history || !m_history->isVisible())
-        m_history = new frmHistory(m_engine.history().history(), m_services.prompts, &m_main);
+        m_history = new frmHistory(m_engine.history().history(), m_engine.outbox(), m_services.prompts, &m_main);
     if (!ip.isEmpty())
         m_history->choose(ip);
     bringBack(*m_history);

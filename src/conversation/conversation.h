@@ -100,7 +100,7 @@ private:
     std::function<void()> m_unloaded;
     bool m_over = false;
     bool m_hasUnread = false;
-    int m_lastNumber = 0; ///< of a message that was not just sent
+    int m_lastNumber = 0;                   ///< of a message that was not just sent
     std::optional<std::int64_t> m_earliest; ///< number of the first kept message that is shown
     bool m_waitsForEarlier = false;
     std::shared_ptr<Conversation *> m_self; ///< for answers that may come when this is gone

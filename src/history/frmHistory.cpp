@@ -21,6 +21,8 @@
 #include <QSplitter>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace nimb
 {
 namespace
@@ -29,7 +31,8 @@ namespace
 constexpr std::chrono::milliseconds typingPause{150};
 constexpr int aroundHit = 100; ///< messages on each side of one
 constexpr int exportPiece = 1000;
-const QDate noDay(1900, 1, 1); ///< what a date box holds that restricts nothing
+constexpr int waitingRole = Qt::UserRole + 1; ///< of the row of what waits
+const QDate noDay(1900, 1, 1);                ///< what a date box holds that restricts nothing
 
 QDateEdit *dateBox(QWidget *parent, const char *name, const QString &open, const QString &accessible)
 {
@@ -59,8 +62,8 @@ struct frmHistory::Export {
     int written = 0;
 };
 
-frmHistory::frmHistory(History &history, Prompts &prompts, QWidget *parent)
-    : QDialog(parent), m_history(history), m_prompts(prompts), m_model(new HistoryModel(this)),
+frmHistory::frmHistory(History &history, WaitingMessages &waiting, Prompts &prompts, QWidget *parent)
+    : QDialog(parent), m_history(history), m_waiting(waiting), m_prompts(prompts), m_model(new HistoryModel(this)),
       m_delegate(new HistoryDelegate(this))
 {
     setObjectName(QStringLiteral("frmHistory"));
@@ -171,6 +174,7 @@ void frmHistory::connectControls()
     connect(cancelExportBtn, &QPushButton::clicked, this, [this] { endExport(tr("The export was stopped.")); });
     connect(eraseBtn, &QPushButton::clicked, this, &frmHistory::showEraseMenu);
     connect(closeBtn, &QPushButton::clicked, this, &frmHistory::close);
+    connect(&m_waiting, &WaitingMessages::changed, this, &frmHistory::list);
     auto *const search = new QShortcut(QKeySequence::Find, this);
     connect(search, &QShortcut::activated, searchText, qOverload<>(&QLineEdit::setFocus));
 }
@@ -195,11 +199,13 @@ void frmHistory::choose(const QString &address)
 void frmHistory::listed(const std::vector<StoredConversation> &conversations)
 {
     const std::optional<std::int64_t> chosen = chosenConversation();
+    const bool wasWaitingChosen = isWaitingChosen();
     const QSignalBlocker quiet(conversationList);
     conversationList->clear();
     m_names.clear();
     conversationList->addItem(new QListWidgetItem(namedPicture(QStringLiteral("search")), tr("All conversations")));
-    int current = 0;
+    addWaiting();
+    int current = wasWaitingChosen && m_wantedAddress.isEmpty() ? conversationList->count() - 1 : 0;
     for (const StoredConversation &stored : conversations) {
         const QString name
             = paintedName(stored.conversation.name.isEmpty() ? stored.conversation.address : stored.conversation.name);
@@ -221,6 +227,24 @@ void frmHistory::listed(const std::vector<StoredConversation> &conversations)
     m_wantedAddress.clear();
     conversationList->setCurrentRow(current);
     find();
+}
+
+/// In front of the conversations, for it is not over.
+void frmHistory::addWaiting()
+{
+    if (m_waiting.messages().empty())
+        return;
+    auto *const item = new QListWidgetItem(namedPicture(QStringLiteral("datetime")),
+                                           tr("To be sent (%1)").arg(static_cast<int>(m_waiting.messages().size())),
+                                           conversationList);
+    item->setData(waitingRole, true);
+    item->setToolTip(tr("What you have written to contacts who were away"));
+}
+
+bool frmHistory::isWaitingChosen() const
+{
+    const QListWidgetItem *const item = conversationList->currentItem();
+    return item && item->data(waitingRole).toBool();
 }
 
 std::optional<std::int64_t> frmHistory::chosenConversation() const
@@ -254,6 +278,8 @@ void frmHistory::find()
     m_asksOlder = false;
     m_isAll = false;
     m_delegate->setWords(wordsIn(searchText->text()));
+    if (isWaitingChosen())
+        return showWaiting();
     m_history.find(question(),
                    [self = QPointer(this), asked = ++m_question](const std::vector<StoredMessage> &messages) {
                        if (self && self->m_question == asked)
@@ -269,6 +295,27 @@ void frmHistory::found(const std::vector<StoredMessage> &messages)
     messagesView->scrollToBottom();
 }
 
+void frmHistory::showWaiting()
+{
+    ++m_question; // what was asked before is of no use any more
+    m_isAll = true;
+    const QStringList words = wordsIn(searchText->text());
+    std::vector<StoredMessage> shown;
+    for (const WaitingMessage &waiting : m_waiting.messages()) {
+        const auto isIn = [&waiting](const QString &word) { return waiting.text.contains(word, Qt::CaseInsensitive); };
+        if (!std::ranges::all_of(words, isIn))
+            continue;
+        const QString name = paintedName(waiting.nickname);
+        shown.push_back({.number = waiting.number,
+                         .message = {.time = waiting.written,
+                                     .isOwn = true,
+                                     .writer = waiting.isGivenUp ? tr("Not sent to %1").arg(name)
+                                                                 : tr("To be sent to %1").arg(name),
+                                     .text = waiting.text}});
+    }
+    found(shown);
+}
+
 void frmHistory::showEmptiness()
 {
     const bool isEmpty = m_model->rowCount() == 0;
@@ -276,7 +323,7 @@ void frmHistory::showEmptiness()
     m_nothing->setText(isNothingKept ? tr("Nothing is kept yet. In the options you choose whether conversations are.")
                                      : tr("Nothing fits what you look for."));
     m_nothing->setVisible(isEmpty);
-    exportBtn->setEnabled(!isEmpty && !m_export);
+    exportBtn->setEnabled(!isEmpty && !m_export && !isWaitingChosen());
     eraseBtn->setEnabled(!isNothingKept);
 }
 
@@ -413,6 +460,13 @@ void frmHistory::showEraseMenu()
     };
     const QModelIndex message = messagesView->currentIndex();
     const auto number = message.data(HistoryModel::NumberRole).value<std::int64_t>();
+    if (isWaitingChosen()) {
+        QAction *const forget = named(menu->addAction(tr("The chosen &message")), "mnuForgetWaiting");
+        forget->setEnabled(message.isValid());
+        connect(forget, &QAction::triggered, this, [this, number] { forgetWaiting(number); });
+        menu->popup(eraseBtn->mapToGlobal(QPoint(0, eraseBtn->height())));
+        return;
+    }
     add("mnuEraseMessage", tr("The chosen &message"), message.isValid(), {.message = number},
         tr("Erase the chosen message for good?"));
     const std::optional<std::int64_t> conversation = chosenConversation();
@@ -428,13 +482,22 @@ void frmHistory::showEraseMenu()
     menu->popup(eraseBtn->mapToGlobal(QPoint(0, eraseBtn->height())));
 }
 
+void frmHistory::forgetWaiting(std::int64_t number)
+{
+    if (m_prompts.confirm(tr("Erase the chosen message? It will not be sent."), windowTitle()))
+        m_waiting.forget(number);
+}
+
 void frmHistory::erase(const HistorySelection &selection, const QString &sentence)
 {
     if (!m_prompts.confirm(sentence, windowTitle()))
         return;
-    m_history.erase(selection, [self = QPointer(this)](bool) {
-        if (self)
-            self->list();
+    m_history.erase(selection, [self = QPointer(this)](bool done) {
+        if (!self)
+            return;
+        if (!done)
+            self->m_progress->setText(tr("Nothing was erased: the history cannot be written."));
+        self->list();
     });
 }
 

@@ -3,6 +3,7 @@
 
 #include "base/history.h"
 #include "base/prompts.h"
+#include "base/waiting_messages.h"
 #include "history/history_export.h"
 
 #include <QDialog>
@@ -27,13 +28,14 @@ class HistoryDelegate;
 class HistoryModel;
 
 /// Modeless, destroyed when it is closed. Conversations left, messages of the chosen one right; what is looked for is
-/// looked for in it, or in all. A double click on a hit shows where it stands.
+/// looked for in it, or in all. A double click on a hit shows where it stands. What waits to be sent has a row of its
+/// own as long as something does.
 class frmHistory : public QDialog
 {
     Q_OBJECT
 
 public:
-    frmHistory(History &history, Prompts &prompts, QWidget *parent);
+    frmHistory(History &history, WaitingMessages &waiting, Prompts &prompts, QWidget *parent);
     ~frmHistory() override;
 
     /// Chooses the conversation with this contact, if anything of it is kept.
@@ -50,6 +52,10 @@ private:
     void list();
     void listed(const std::vector<StoredConversation> &conversations);
     std::optional<std::int64_t> chosenConversation() const;
+    /// What waits to be sent is chosen instead of a conversation.
+    bool isWaitingChosen() const;
+    void addWaiting();
+    void showWaiting();
     bool isSearch() const;
     HistoryQuestion question() const;
     /// Asks for the newest messages that the controls say.
@@ -66,8 +72,10 @@ private:
     void endExport(const QString &sentence);
     void erase(const HistorySelection &selection, const QString &sentence);
     void showEraseMenu();
+    void forgetWaiting(std::int64_t number);
 
     History &m_history;
+    WaitingMessages &m_waiting;
     Prompts &m_prompts;
     QListWidget *conversationList = nullptr;
     QLineEdit *searchText = nullptr;

@@ -18,9 +18,9 @@ enum Property {
     ownMessage = QTextFormat::UserProperty + 16,
     fateShown,     ///< a MessageFate, where it is not `sent`
     messageNumber, ///< where the fate may change
-    gapAbove,  ///< pixels
-    timeShown, ///< text
-    dayShown,  ///< Julian day
+    gapAbove,      ///< pixels
+    timeShown,     ///< text
+    dayShown,      ///< Julian day
     beginsNew,
 };
 

@@ -21,7 +21,8 @@ namespace nimb
 
 /// Kept in the profile at every change. A message belongs to an address, a workstation and a nickname: when somebody
 /// else turns up at that address, which may have been given to another machine, the user is asked. Nothing leaves while
-/// this copy is invisible: once it is not, all contacts are asked whether they are there. Nothing on the wire tells whether it arrived.
+/// this copy is invisible: once it is not, all contacts are asked whether they are there. Nothing on the wire tells
+/// whether it arrived.
 class Outbox : public WaitingMessages, public PresenceWitness
 {
     Q_OBJECT

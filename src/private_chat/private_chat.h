@@ -124,8 +124,8 @@ private:
     };
 
     Services m_services;
-    std::vector<Lost> m_lost;                ///< in this absence, and that wait for nothing
-    QHash<std::int64_t, int> m_waiting;      ///< numbers in the log, by those in the outbox
+    std::vector<Lost> m_lost;           ///< in this absence, and that wait for nothing
+    QHash<std::int64_t, int> m_waiting; ///< numbers in the log, by those in the outbox
     ContactAddress m_rIP;
     PeerShown m_peer;
     std::unique_ptr<Timer> m_autoReplyTimer;

@@ -74,7 +74,10 @@ void checkIntegrity(sqlite3 *database, const QString &path)
 
 bool hasTable(sqlite3 *database, const char *name)
 {
-    Statement table(database, "SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ?1");
+    // As the database itself has understood its schema, in which a letter that has become a large one changes nothing.
+    Statement table(database,
+                    "SELECT 1 FROM pragma_table_list WHERE schema = 'main' AND type = 'table' "
+                    "AND name = ?1 COLLATE NOCASE");
     const QByteArray bytes(name);
     table.bind(1, bytes);
     return table.next();

@@ -31,6 +31,27 @@ namespace
 constexpr int patience = 60000; ///< milliseconds
 
 /// The window over a real file, with whom something was said on four days.
+class FewWaiting : public WaitingMessages
+{
+public:
+    const std::vector<WaitingMessage> &messages() const override { return list; }
+    void forget(std::int64_t number) override
+    {
+        std::erase_if(list, [number](const WaitingMessage &message) { return message.number == number; });
+        Q_EMIT changed();
+    }
+    void put(const QString &name, const QString &text)
+    {
+        list.push_back({.number = static_cast<std::int64_t>(list.size()) + 1,
+                        .ip = QStringLiteral("10.0.0.9"),
+                        .nickname = name,
+                        .text = text,
+                        .written = QDateTime(QDate(2026, 11, 24), QTime(14, 5))});
+    }
+
+    std::vector<WaitingMessage> list;
+};
+
 class FrmHistory : public testing::Test
 {
 protected:
@@ -49,7 +70,7 @@ protected:
     }
     void open()
     {
-        form = new frmHistory(keeper, prompts, nullptr);
+        form = new frmHistory(keeper, waiting, prompts, nullptr);
         form->show();
         ASSERT_TRUE(QTest::qWaitFor([this] { return list().count() > 0; }, patience));
     }
@@ -77,6 +98,7 @@ protected:
         ASSERT_TRUE(action);
         ASSERT_TRUE(action->isEnabled());
         action->trigger();
+        delete form->findChild<QMenu *>(QStringLiteral("eraseMenu")); // which a click would have closed
     }
     void exportTo(const QString &path)
     {
@@ -93,8 +115,50 @@ protected:
     const QTemporaryDir m_base;
     HistoryKeeper keeper{m_base.filePath(QStringLiteral("profile"))};
     RecorderPrompts prompts;
+    FewWaiting waiting;
     QPointer<frmHistory> form;
 };
+
+TEST_F(FrmHistory, WhatWaitsToBeSentHasARowOfItsOwnAsLongAsSomethingDoes)
+{
+    open();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return list().count() == 3; }, patience));
+    waiting.put(QStringLiteral("Dora"), QStringLiteral("the plan is ready"));
+    waiting.put(QStringLiteral("Ben"), QStringLiteral("call me"));
+    waiting.list.back().isGivenUp = true;
+    Q_EMIT waiting.changed();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return list().count() == 4; }, patience));
+    EXPECT_EQ(list().item(1)->text(), QStringLiteral("To be sent (2)"));
+    list().setCurrentRow(1);
+    EXPECT_EQ(shown(), QStringList({"the plan is ready", "call me"}));
+    EXPECT_EQ(messages().model()->index(0, 0).data(HistoryModel::HeadRole).toString(),
+              QStringLiteral("To be sent to Dora, 24/11/2026 14:05"));
+    EXPECT_EQ(messages().model()->index(1, 0).data(HistoryModel::HeadRole).toString(),
+              QStringLiteral("Not sent to Ben, 24/11/2026 14:05"));
+    EXPECT_FALSE(control<QPushButton>("exportBtn").isEnabled());
+    search().setText(QStringLiteral("PLAN"));
+    EXPECT_TRUE(becomes({"the plan is ready"}));
+}
+
+TEST_F(FrmHistory, WhatWaitsIsErasedAfterAQuestion)
+{
+    waiting.put(QStringLiteral("Dora"), QStringLiteral("one"));
+    waiting.put(QStringLiteral("Dora"), QStringLiteral("two"));
+    open();
+    list().setCurrentRow(1);
+    messages().setCurrentIndex(messages().model()->index(0, 0));
+    prompts.answer = false;
+    chooseErase("mnuForgetWaiting");
+    EXPECT_EQ(shown().size(), 2);
+    prompts.answer = true;
+    messages().setCurrentIndex(messages().model()->index(0, 0));
+    chooseErase("mnuForgetWaiting");
+    EXPECT_TRUE(becomes({"two"})) << "and the row stays chosen";
+    messages().setCurrentIndex(messages().model()->index(0, 0));
+    chooseErase("mnuForgetWaiting");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return list().item(1)->text() == QStringLiteral("Ben (4)"); }, patience));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return shown().size() == 8; }, patience)) << "all conversations again";
+}
 
 TEST_F(FrmHistory, ShowsAllConversationsAndTheirMessagesInTheirOrder)
 {

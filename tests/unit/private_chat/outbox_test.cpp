@@ -67,8 +67,8 @@ protected:
     {
         std::map<std::string, QString> stored;
         stored["Outbox/WaitingMessages"] = QString::fromStdString(copy.settings.value("Outbox", "WaitingMessages"));
-        auto later = std::make_unique<Copy>(
-            CopySetup{.contacts = {{"10.0.0.2", "Ann"}}, .settings = stored}, nullptr, copy.time);
+        auto later = std::make_unique<Copy>(CopySetup{.contacts = {{"10.0.0.2", "Ann"}}, .settings = stored}, nullptr,
+                                            copy.time);
         later->settleStart();
         return later;
     }
@@ -113,8 +113,9 @@ TEST_F(OutboxTest, SendsWhatWaitsAfterASecondInOrderTwoASecondWithTheTime)
     EXPECT_THAT(sent(), IsEmpty());
     EXPECT_EQ(toBeSent(), 0);
     EXPECT_EQ(copy.settings.value("Outbox", "WaitingMessages"), "");
-    EXPECT_THAT(fates(), ElementsAre(MessageFate::sent, MessageFate::sent, MessageFate::sent, MessageFate::sent,
-                                     MessageFate::sent, MessageFate::sent));
+    EXPECT_THAT(fates(),
+                ElementsAre(MessageFate::sent, MessageFate::sent, MessageFate::sent, MessageFate::sent,
+                            MessageFate::sent, MessageFate::sent));
 }
 
 TEST_F(OutboxTest, TheTimeIsADayAndAClockInEnglish)
@@ -271,10 +272,10 @@ TEST_F(OutboxTest, AFullMessageIsSentWholeWithItsTime)
 TEST_F(OutboxTest, WhatCannotBeReadIsToldAndTheRestIsKept)
 {
     std::map<std::string, QString> stored;
-    stored["Outbox/WaitingMessages"] = QStringLiteral(
-        R"([{"number":1,"address":"10.0.0.2","text":"kept","written":%1},{"number":"x"},7,)"
-        R"({"number":2,"address":"10.0.0.99","text":"to nobody","written":%1}])")
-                                           .arg(copy.time->now().toMSecsSinceEpoch());
+    stored["Outbox/WaitingMessages"]
+        = QStringLiteral(R"([{"number":1,"address":"10.0.0.2","text":"kept","written":%1},{"number":"x"},7,)"
+                         R"({"number":2,"address":"10.0.0.99","text":"to nobody","written":%1}])")
+              .arg(copy.time->now().toMSecsSinceEpoch());
     const Copy later(CopySetup{.contacts = {{"10.0.0.2", "Ann"}}, .settings = stored});
     ASSERT_THAT(const_cast<Copy &>(later).engine.outbox().messages(), SizeIs(1));
     EXPECT_THAT(later.view.log.text().toStdString(), HasSubstr("some could not be read"));

@@ -253,6 +253,20 @@ TEST_F(SqliteSettingsStoreTest, AnEmptyFileIsAnEmptyStore)
     EXPECT_EQ(SqliteSettingsStore(folder).read("Options", "LiveType", "1"), "0");
 }
 
+/// A flipped bit, of which the database's own check of its structure says nothing.
+TEST_F(SqliteSettingsStoreTest, ReadsATableThatIsNamedInLargeLetters)
+{
+    {
+        SqliteSettingsStore store(folder);
+        store.write("Options", "LiveType", "0");
+        ASSERT_EQ(store.save(), std::nullopt);
+        Database database(file);
+        database.run("PRAGMA writable_schema = ON");
+        database.run("UPDATE sqlite_master SET type = 'tAble', name = 'Settings' WHERE name = 'settings'");
+    }
+    EXPECT_EQ(SqliteSettingsStore(folder).read("Options", "LiveType", "1"), "0");
+}
+
 TEST_F(SqliteSettingsStoreTest, KeepsTheFixedLayout)
 {
     SqliteSettingsStore store(folder);
