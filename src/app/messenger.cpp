@@ -58,6 +58,9 @@ Messenger::Messenger(Common &common, const Surroundings &around)
                    around.drops),
       m_mainWindow({common, around.store, around.goodCopy, around.nextStart, around.socket, m_networks, m_contacts,
                     m_ownState, m_sender, m_announcement, m_port, m_recovery, m_log, around.prompts,
+                    [this](Ipv4Address ip, int number) {
+                        return m_conferences.joined(ip, number) || m_conferences.hosted(number);
+                    },
                     [this] { m_outbox.load(); }, [this] { unloadOtherWindows(); }, around.tray, around.mainView})
 {
     m_dispatcher.listenTo(m_socket);
@@ -104,13 +107,28 @@ void Messenger::answerNotice(const NoticePlace &place, const QString &text)
         conference->answer(text);
 }
 
+void Messenger::endWithoutWindows()
+{
+    m_search.end();
+    m_outbox.end();
+    m_conferences.takeLeave();
+    tellOfWaiting();
+    m_invitations.Form_Unload();
+    m_mainWindow.endWithoutWindows();
+}
+
+void Messenger::tellOfWaiting()
+{
+    if (const qsizetype waiting = m_privateWindows.waitingMessages(); waiting > 0)
+        m_nextStart.tell(tr("Messages that waited to be read when the program ended are lost: %1.").arg(waiting));
+}
+
 void Messenger::unloadOtherWindows()
 {
     m_search.end();
     m_outbox.end();
     m_conferences.unloadAll();
-    if (const qsizetype waiting = m_privateWindows.waitingMessages(); waiting > 0)
-        m_nextStart.tell(tr("Messages that waited to be read when the program ended are lost: %1.").arg(waiting));
+    tellOfWaiting();
     m_privateWindows.unloadAll();
     m_windows.unloadNotify();
     m_invitations.Form_Unload();

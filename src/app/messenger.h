@@ -80,9 +80,12 @@ public:
     /// The user has written a text back to it.
     void answerNotice(const NoticePlace &place, const QString &text);
     ReceiveDispatcher &dispatcher() { return m_dispatcher; }
+    /// The end of a program whose screen is gone: all of it but for the windows.
+    void endWithoutWindows();
 
 private:
     void ownStateChanged();
+    void tellOfWaiting();
     /// Those that end with the main window, before it says farewell and saves.
     void unloadOtherWindows();
 

@@ -94,9 +94,7 @@ void Program::end(UnloadMode mode)
 void Program::endWithoutScreen()
 {
     m_prompts.setNobodyThere();
-    m_engine->conferences().takeLeave();
-    m_engine->invitations().Form_Unload();
-    m_engine->mainWindow().endWithoutWindows();
+    m_engine->endWithoutWindows();
 }
 
 bool Program::anotherCopyRuns()

@@ -65,6 +65,8 @@ constexpr qsizetype recentEmoji = 24;
 constexpr qsizetype emojiLength = 40;
 /// Contact rows up to which strangers are added: a subnet of 65,000 forged addresses must not fill the list.
 constexpr int contactsFromStrangers = 10000;
+/// A stored list that is as long as this was filled by strangers: nobody gathers so many himself.
+constexpr std::size_t contactsOfCrowd = 9000;
 /// Private windows that peers have opened and that the user has not turned to: two thousand strangers with a message
 /// each must not open two thousand windows. Further messages wait at their contacts' rows.
 constexpr int windowsOpenedUnasked = 50;

@@ -343,9 +343,9 @@ void ContactList::load(const SettingsStore &store)
         contact.setUnheard();
         stored.push_back(std::move(contact));
     }
-    const bool isFull = stored.size() >= limits::contactsFromStrangers;
+    const bool isCrowd = stored.size() >= limits::contactsOfCrowd;
     for (Contact &contact : stored) {
-        contact.broughtByPeer = isFull;
+        contact.broughtByPeer = isCrowd;
         add(std::move(contact));
     }
 }

@@ -118,8 +118,8 @@ public:
     /// address. Of several the one that came first. Empty when there is none.
     std::optional<ContactAddress> firstToMakeRoom() const;
 
-    /// Reads the stored list; every contact starts as not yet known. The list must be empty. A list that is full when
-    /// it is read was filled by strangers in earlier runs, and they make room as those of this run do.
+    /// Reads the stored list; every contact starts as not yet known. The list must be empty. A list of
+    /// limits::contactsOfCrowd was filled by strangers in earlier runs, and they make room as those of this run do.
     void load(const SettingsStore &store);
     /// Notes contact number n, counted from 1, for saving.
     static void saveContact(SettingsStore &store, int number, const Contact &contact);

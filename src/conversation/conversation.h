@@ -53,6 +53,8 @@ public:
     /// What was kept of it before is shown above the log, at first the newest.
     void showEarlier();
 
+    /// Its log keeps its lines as long as there is anything else to drop: it is somebody's whom the user knows.
+    virtual bool isSpared() const { return true; }
     /// Nobody can be written to any more; the log stays to be read.
     bool isOver() const { return m_over; }
     /// What becomes of the window; the user may be asked.

@@ -62,7 +62,7 @@ ConversationPane::ConversationPane(Conversation &conversation, const Conversatio
     buildControls();
     connectControls();
     m_links.HookRichText(*m_outtext, *this);
-    tools.logRoom.join(*m_outtext);
+    tools.logRoom.join(*m_outtext, [this] { return m_conversation && m_conversation->isSpared(); });
     intext->setSpelling(tools.spelling);
     QAccessible::installFactory(makeAccessibleWindow); // again and again, which Qt ignores
     intext->setFocus();

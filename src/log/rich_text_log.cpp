@@ -466,12 +466,19 @@ bool RichTextLogEdit::dropLinesBeyond(const Amount &most)
     if (first.position() == 0)
         return false;
     m_pictureCount = held.pictures;
+    const QTextCursor topLine = cursorForPosition(QPoint(0, fontMetrics().height() / 2));
+    const int top = cursorRect(topLine).top();
+    const bool follows = m_follows;
     QTextCursor oldest(document());
     oldest.setPosition(first.position(), QTextCursor::KeepAnchor);
     const QTextBlockFormat format = first.blockFormat();
     oldest.removeSelectedText();
     if (oldest.blockFormat() != format) // it may have that of the line that has gone
         oldest.setBlockFormat(format);
+    m_follows = follows; // the end may have come by on its way
+    if (!m_follows)      // what was read at the top stays there
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(topLine).top() - top);
+    m_follows = follows;
     return true;
 }
 

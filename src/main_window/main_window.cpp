@@ -106,8 +106,8 @@ void MainWindow::Form_Unload()
     answerNobody();
     m_parts.unloadOtherWindows();
     sayFarewellAndSaveContacts();
-    tellOfUnshown();
     save();
+    tellOfUnshown();
     m_parts.tray.removeIcon();
 }
 
@@ -117,8 +117,8 @@ void MainWindow::endWithoutWindows()
         return;
     answerNobody();
     sayFarewellAndSaveContacts();
-    tellOfUnshown();
     save();
+    tellOfUnshown();
 }
 
 /// Who is leaving answers nobody, however long the end takes.
@@ -127,6 +127,7 @@ void MainWindow::answerNobody()
     m_ended = true;
     m_isInTray = false;
     m_parts.socket.DataArrival = [this](std::size_t byteCount) { countUnshown(byteCount); };
+    m_parts.socket.announceWaiting(); // as long as there are conferences
     m_parts.recovery.end();
     m_parts.networks.end();
 }
@@ -135,9 +136,11 @@ void MainWindow::answerNobody()
 void MainWindow::countUnshown(std::size_t byteCount)
 {
     const wire::Datagram datagram = wire::parse(m_parts.socket.GetData(byteCount));
-    const bool isMessage = std::holds_alternative<wire::PrivateMessage>(datagram)
-        || std::holds_alternative<wire::ConferenceMessage>(datagram);
-    if (isMessage && m_parts.contacts.isContact(m_parts.socket.RemoteHostIP()))
+    const Ipv4Address sender = m_parts.socket.RemoteHostIP();
+    const auto *const said = std::get_if<wire::ConferenceMessage>(&datagram);
+    const bool isMessage
+        = said ? m_parts.takesPartIn(sender, said->id) : std::holds_alternative<wire::PrivateMessage>(datagram);
+    if (isMessage && m_parts.contacts.isContact(sender))
         ++m_unshown;
 }
 

@@ -48,6 +48,8 @@ public:
         Recovery &recovery;
         MainLog &log;
         Prompts &prompts;
+        /// Whether such a conference is open here, hosted by this copy or by this address.
+        std::function<bool(Ipv4Address, int)> takesPartIn;
         std::function<void()> contactsLoaded; ///< what belongs to contacts can be read now
         std::function<void()> unloadOtherWindows;
         TrayIcon &tray;

@@ -23,10 +23,10 @@ namespace
 
 constexpr QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
 
-/// The lock, or the settings with whatever stands beside them.
+/// The lock, or the settings or the history with whatever stands beside them.
 bool isOwnFile(const QString &name)
 {
-    return name == u"lock" || name.startsWith(u"settings.");
+    return name == u"lock" || name.startsWith(u"settings.") || name.startsWith(u"history.");
 }
 
 } // namespace

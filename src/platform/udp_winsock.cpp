@@ -131,6 +131,10 @@ void UdpWinsock::close()
     // Whoever is told of a datagram may have run an event loop, and this in it: the notifier is in use then.
     m_notifier->setEnabled(false);
     m_notifier.release()->deleteLater();
+    // None may be handed over while another one is handled.
+    const DatagramReader::Batch unheard = m_reader->takeAll();
+    count(unheard);
+    m_drops.count(Drop::notReceived, unheard.arrivals.size());
     m_reader.reset();
     m_broadcasts.reset();
     m_own.reset();

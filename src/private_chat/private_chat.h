@@ -43,6 +43,9 @@ public:
     /// What is known of the peer, now and whenever it changes; what becomes of what is written to it follows from that.
     void showPeer(PeerShown peer);
     const ContactAddress &rIP() const { return m_rIP; }
+    /// The peer is, or is not, somebody whom the user knows.
+    void setAcquainted(bool acquainted) { m_acquainted = acquainted; }
+    bool isSpared() const override { return m_acquainted; }
     PrivateChatView &view() { return *m_view; }
 
     /// Sets fonts, empties the log, writes its opening line, and shows what was kept above it.
@@ -138,6 +141,7 @@ private:
     TypingNotice m_typingNotice;
     bool m_liveTypePending = false;
     bool m_isContact = true;
+    bool m_acquainted = false;
     bool m_attended = false;
     bool m_avatarWanted = false; ///< by the user, and no head has come yet
     ViewPtr<PrivateChatView> m_view;

@@ -19,13 +19,16 @@ PrivateWindows::PrivateWindows(const PrivateChat::Services &services, ContactLis
 
 void PrivateWindows::showPeer(const Contact &contact)
 {
-    if (PrivateChat *const chat = at(contact.privateWindow))
-        chat->showPeer({.name = contact.nickname,
-                        .presence = contact.presence,
-                        .state = contact.state,
-                        .workstation = contact.workstation,
-                        .address = contact.ip.text(),
-                        .waiting = contact.toBeSent});
+    PrivateChat *const chat = at(contact.privateWindow);
+    if (!chat)
+        return;
+    chat->setAcquainted(contact.isAcquaintance());
+    chat->showPeer({.name = contact.nickname,
+                    .presence = contact.presence,
+                    .state = contact.state,
+                    .workstation = contact.workstation,
+                    .address = contact.ip.text(),
+                    .waiting = contact.toBeSent});
 }
 
 PrivateChat *PrivateWindows::at(int window)

@@ -18,10 +18,10 @@ namespace
 class LogRoomTest : public ::testing::Test
 {
 protected:
-    RichTextLogEdit &makeLog()
+    RichTextLogEdit &makeLog(bool isSpared = false)
     {
         logs.push_back(std::make_unique<RichTextLogEdit>());
-        room.join(*logs.back());
+        room.join(*logs.back(), [isSpared] { return isSpared; });
         return *logs.back();
     }
     /// With nine tenths of what it may hold.
@@ -61,6 +61,21 @@ TEST_F(LogRoomTest, TheFullestLogLosesItsOldestLinesAndTheOthersKeepTheirs)
     EXPECT_GT(fullness(), limits::fullLogs * 0.9) << "no more goes than has to";
     EXPECT_EQ(small.toPlainText(), QStringLiteral("what Ann said\n"));
     EXPECT_TRUE(logs.back()->toPlainText().contains(QStringLiteral("%1 ").arg(m_line - 1))) << "the newest line stays";
+}
+
+TEST_F(LogRoomTest, ASparedLogLosesNothingAsLongAsOthersHaveLines)
+{
+    RichTextLogEdit &friends = makeLog(true);
+    fill(friends);
+    const int lines = friends.document()->blockCount();
+    for (int window = 0; window < 8; ++window)
+        fill(makeLog());
+    EXPECT_LE(fullness(), limits::fullLogs);
+    EXPECT_EQ(friends.document()->blockCount(), lines);
+    for (int window = 0; window < 7; ++window)
+        fill(makeLog(true));
+    EXPECT_LE(fullness(), limits::fullLogs);
+    EXPECT_LT(friends.document()->blockCount(), lines) << "when nothing else is left it has a bound as well";
 }
 
 TEST_F(LogRoomTest, ALogThatHasGoneCountsNoLonger)

@@ -131,6 +131,22 @@ TEST_F(RichTextLogTest, AFullLogDropsAThousandOfItsOldestLines)
     EXPECT_EQ(log.document()->lastBlock().previous().text(), QStringLiteral("last"));
 }
 
+TEST_F(RichTextLogTest, AFullLogKeepsTheReadersPlace)
+{
+    lines(limits::logLines - 1);
+    QScrollBar &bar = *log.verticalScrollBar();
+    bar.setValue(bar.maximum() / 2);
+    const QString read = log.cursorForPosition(QPoint(2, 2)).block().text();
+    lines(1);
+    ASSERT_EQ(log.document()->blockCount(), limits::logLines - limits::logLinesDropped);
+    EXPECT_EQ(log.cursorForPosition(QPoint(2, 2)).block().text(), read);
+    EXPECT_FALSE(log.isAtItsEnd());
+    bar.setValue(2);
+    log.dropOldestTenth();
+    EXPECT_EQ(log.cursorForPosition(QPoint(2, 2)).blockNumber(), 0) << "what was read has gone";
+    EXPECT_FALSE(log.isAtItsEnd());
+}
+
 TEST_F(RichTextLogTest, AFullLogOfLongLinesDropsTheOldest)
 {
     const QString line = QString(7990, u'x') + QStringLiteral("\r\n");

@@ -373,8 +373,20 @@ TEST_F(PresenceReceiverTest, AStoredListThatStrangersHaveFilledTakesNewcomers)
     setup.contacts.pop_back();
     Copy almost(setup);
     almost.settleStart();
-    almost.arrive("10.0.0.9", "!ONLINE 10.0.0.9 PC-ZOE Zoe");
-    EXPECT_TRUE(almost.knows("10.0.0.9") && almost.knows("20.0.0.1")) << "nobody whom the user may have added goes";
+    for (int i = 1; i <= 5; ++i) {
+        const std::string ip = "10.0.0." + std::to_string(i + 10);
+        almost.arrive(ip.c_str(), "!ONLINE " + ip + " PC N");
+    }
+    EXPECT_TRUE(almost.knows("10.0.0.11") && almost.knows("10.0.0.15")) << "newcomers do not push each other out";
+}
+
+TEST_F(PresenceReceiverTest, AStoredListThatTheUserMayHaveFilledStays)
+{
+    CopySetup setup;
+    for (int i = 0; i < 8999; ++i)
+        setup.contacts.push_back({QStringLiteral("20.0.%1.%2").arg(i / 250).arg(i % 250 + 1), QStringLiteral("N")});
+    Copy own(setup);
+    EXPECT_FALSE(own.engine.contacts().firstToMakeRoom());
 }
 
 TEST_F(PresenceReceiverTest, StrangersCannotFillTheListWithoutEnd)

@@ -198,6 +198,16 @@ TEST_F(SqliteSettingsStoreTest, AnExistingFileIsTakenFromOthers)
     }
 }
 
+TEST_F(SqliteSettingsStoreTest, AHistoryBesideTheSettingsIsNothingElse)
+{
+    QDir().mkpath(folder);
+    for (const char *name : {"/history.sqlite3", "/history.sqlite3-wal"})
+        QFile(folder + QLatin1String(name)).open(QFile::WriteOnly);
+    QFile::setPermissions(folder, everybodyMayEnter);
+    const SqliteSettingsStore store(folder);
+    EXPECT_EQ(modeOf(folder), 0700);
+}
+
 TEST_F(SqliteSettingsStoreTest, AFolderThatServesForMoreKeepsItsMode)
 {
     QDir().mkpath(folder + "/other things");
@@ -1137,6 +1147,7 @@ INSTANTIATE_TEST_SUITE_P(SqliteSettingsStore, EveryFault,
                                          Fault{"DiskFullForGood", FaultyFiles::Lasting::forGood, SQLITE_FULL},
                                          Fault{"DiskErrorOnce", FaultyFiles::Lasting::once, SQLITE_IOERR_WRITE},
                                          Fault{"DiskErrorForGood", FaultyFiles::Lasting::forGood, SQLITE_IOERR_WRITE},
+                                         Fault{"QuotaOnce", FaultyFiles::Lasting::once, SQLITE_IOERR_WRITE, EDQUOT},
                                          Fault{"QuotaForGood", FaultyFiles::Lasting::forGood, SQLITE_IOERR_WRITE,
                                                EDQUOT}),
                          [](const auto &tested) { return std::string(tested.param.name); });
