@@ -74,7 +74,7 @@ QString withWaiting(const QString &sentence, int waiting)
 {
     if (waiting == 0)
         return sentence;
-    return PeerHeader::tr("%1. To be sent when there is somebody again: %2").arg(sentence, QString::number(waiting));
+    return PeerHeader::tr("%1 (waiting to be sent: %2)").arg(sentence, QString::number(waiting));
 }
 
 /// Empty while all arrives.

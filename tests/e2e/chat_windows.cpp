@@ -199,6 +199,13 @@ void PrivateWindow::focusInput() const
     click(inputAboveBottom.x, place().height - inputAboveBottom.y);
 }
 
+void PrivateWindow::clickSendLater() const
+{
+    constexpr int fromRight = 80, fromTop = 70; // pixels
+    activate();
+    click(place().width - fromRight, fromTop);
+}
+
 void PrivateWindow::sayClipboard() const
 {
     focusInput();

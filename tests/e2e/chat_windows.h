@@ -75,6 +75,8 @@ public:
     std::vector<SeenLine> linesSeen() const;
     /// Puts the caret into the input box.
     void focusInput() const;
+    /// Presses the button in the band of a peer who is away.
+    void clickSendLater() const;
     /// Sends what is in the clipboard as a message.
     void sayClipboard() const;
 

@@ -12,6 +12,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -421,6 +422,28 @@ void takeHistory(Gallery &gallery)
     gallery.take(windows.privateWindow(), "private_with_history");
 }
 
+void takePrivateWhileAway(Gallery &gallery)
+{
+    RealWindows windows(everybody);
+    fill(windows);
+    windows.doubleClick(0);
+    PrivateChat &chat = *windows.engine.privateWindows().at(1);
+    windows.arrive("192.168.1.12", "-Back in an hour.");
+    windows.arrive("192.168.1.12", "!OFFLINE 192.168.1.12 LAPTOP Ann");
+    EXPECT_TRUE(chat.send(QStringLiteral("The meeting is at three.")));
+    chat.sendLaterBtn_Click();
+    EXPECT_TRUE(chat.send(QStringLiteral("Bring the plans, please.")));
+    gallery.take(windows.privateWindow(), "private_waiting");
+    gallery.take(windows.main(), "main_waiting");
+    windows.entry("mnuHistory").trigger();
+    QWidget &history = topLevel("frmHistory");
+    auto &list = RealWindows::control<QListWidget>(history, "conversations");
+    if (!QTest::qWaitFor([&list] { return list.count() > 1; }, 30000))
+        qFatal("what waits is not listed");
+    list.setCurrentRow(1);
+    gallery.take(history, "history_waiting");
+}
+
 void takeDialogs(Gallery &gallery)
 {
     RealWindows windows(everybody);
@@ -588,6 +611,7 @@ void visitEveryWindow(const WindowVisitor &visitor)
     takeMainWhileFinding(gallery);
     takeMainWithThousand(gallery);
     takePrivate(gallery);
+    takePrivateWhileAway(gallery);
     takeEmoji(gallery);
     takePrivatePanels(gallery);
     takeSpelling(gallery);

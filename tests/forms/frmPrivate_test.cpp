@@ -2,6 +2,7 @@
 #include "real_windows.h"
 
 #include "conversation/emoji_table.h"
+#include "log/log_marks.h"
 #include "log/rich_text_log.h"
 #include "private_chat/mood_gauge.h"
 #include "widgets/avatar_picture.h"
@@ -95,6 +96,36 @@ TEST_F(FrmPrivate, ABandSaysWhatDoesNotArrive)
     EXPECT_EQ(band.text(), QStringLiteral("Ann is offline: what you write does not arrive"));
     windows.arrive("10.0.0.2", "?ONLINE 10.0.0.2 PC Ann");
     EXPECT_FALSE(band.isVisible());
+}
+
+TEST_F(FrmPrivate, TheBandOffersToSendLaterWhatWasWrittenMeanwhile)
+{
+    auto &band = control<QLabel>("peerBand");
+    auto &button = control<QPushButton>("sendLaterBtn");
+    windows.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann & Co");
+    windows.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann & Co");
+    EXPECT_FALSE(button.isVisible()) << "nothing was written";
+    intext().setPlainText(QStringLiteral("call me"));
+    control<QPushButton>("sendbtn").click();
+    ASSERT_TRUE(button.isVisible());
+    EXPECT_EQ(button.text(), QStringLiteral("Send when Ann && Co is back"));
+    button.click();
+    EXPECT_FALSE(button.isVisible());
+    EXPECT_EQ(band.text(),
+              QStringLiteral("Ann & Co is offline: what you write does not arrive "
+                             "(waiting to be sent: 1)"));
+    ASSERT_EQ(windows.engine.outbox().messages().size(), 1u);
+    outtext().writeGathered();
+    const QTextBlock line = outtext().document()->lastBlock().previous();
+    EXPECT_EQ(LogMarks::fateOf(line.blockFormat()), MessageFate::waits);
+    windows.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann & Co");
+    EXPECT_FALSE(band.isVisible());
+    windows.time.advance(std::chrono::seconds(1));
+    outtext().writeGathered();
+    EXPECT_EQ(LogMarks::fateOf(line.blockFormat()), MessageFate::sent);
+    EXPECT_THAT(outtext().document()->lastBlock().previous().text().toStdString(),
+                testing::MatchesRegex("Me> call me \\(written ... ..:..\\)"));
+    EXPECT_TRUE(windows.engine.outbox().messages().empty());
 }
 
 TEST_F(FrmPrivate, AnAnnouncementThatIsAnsweredShowsNoBand)
