@@ -492,11 +492,11 @@ void frmHistory::erase(const HistorySelection &selection, const QString &sentenc
 {
     if (!m_prompts.confirm(sentence, windowTitle()))
         return;
+    m_progress->setText(tr("Erasing..."));
     m_history.erase(selection, [self = QPointer(this)](bool done) {
         if (!self)
             return;
-        if (!done)
-            self->m_progress->setText(tr("Nothing was erased: the history cannot be written."));
+        self->m_progress->setText(done ? QString() : tr("Nothing was erased: the history cannot be written."));
         self->list();
     });
 }

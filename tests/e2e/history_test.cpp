@@ -9,6 +9,8 @@
 
 #include <sqlite3.h>
 
+#include <random>
+
 namespace nimb::test
 {
 namespace
@@ -72,6 +74,31 @@ TEST_F(HistoryOfACopy, IsThereAfterAKillInTheMiddleOfAConversation)
     }
     EXPECT_EQ(bob.end(), 0);
     EXPECT_EQ(kept(), said);
+}
+
+/// NIMB_KILLS: how often; each time at another moment.
+TEST_F(HistoryOfACopy, LosesNothingButTheLastMomentWhereverItIsKilledWhileMessagesPourIn)
+{
+    const int rounds = qEnvironmentVariableIsSet("NIMB_KILLS") ? qEnvironmentVariableIntValue("NIMB_KILLS") : 4;
+    std::mt19937 chance(1); // NOLINT(cert-msc51-cpp): the same kills every time, as far as the machine goes along
+    std::vector<std::string> said;
+    for (int round = 0; round < rounds; ++round) {
+        start();
+        const std::size_t before = said.size(), more = std::uniform_int_distribution<std::size_t>(1, 300)(chance);
+        const std::size_t seen = before + std::uniform_int_distribution<std::size_t>(0, more - 1)(chance);
+        while (said.size() < before + more) {
+            said.push_back("number " + std::to_string(said.size()));
+            ann.send(bob.address(), "-" + said.back());
+            const bool isThere = said.size() != seen + 1 || waitUntil([&] { return kept().size() > seen; });
+            ASSERT_TRUE(isThere) << "round " << round;
+        }
+        bob.kill();
+        const std::vector<std::string> left = kept();
+        ASSERT_GT(left.size(), seen) << "round " << round;
+        ASSERT_LE(left.size(), said.size());
+        said.resize(left.size());
+        ASSERT_EQ(left, said) << "in their order and without a gap, round " << round;
+    }
 }
 
 TEST_F(HistoryOfACopy, IsWrittenWholeWhenTheProgramEnds)
