@@ -96,6 +96,8 @@ public:
     /// The same with all that is older, which nobody waits for.
     virtual void eraseBefore(const QDateTime &time) = 0;
 
+    /// Why nothing can be kept or read now; nothing while all goes well.
+    virtual std::optional<QString> troubleNow() const = 0;
     /// Called with a sentence when something cannot be kept or read, once until it can be again.
     std::function<void(const QString &sentence)> trouble;
 };

@@ -320,8 +320,10 @@ void frmHistory::showEmptiness()
 {
     const bool isEmpty = m_model->rowCount() == 0;
     const bool isNothingKept = conversationList->count() <= 1;
-    m_nothing->setText(isNothingKept ? tr("Nothing is kept yet. In the options you choose whether conversations are.")
-                                     : tr("Nothing fits what you look for."));
+    const QString empty = isNothingKept
+        ? tr("Nothing is kept yet. In the options you choose whether conversations are.")
+        : tr("Nothing fits what you look for.");
+    m_nothing->setText(m_history.troubleNow().value_or(empty));
     m_nothing->setVisible(isEmpty);
     exportBtn->setEnabled(!isEmpty && !m_export && !isWaitingChosen());
     eraseBtn->setEnabled(!isNothingKept);

@@ -41,6 +41,9 @@ public:
         QCoreApplication::postEvent(this, new QEvent(QEvent::User));
     }
 
+    void setTrouble(const std::optional<QString> &sentence) { m_trouble = sentence; }
+    const std::optional<QString> &troubleNow() const { return m_trouble; }
+
     void tell(const QString &sentence) const
     {
         if (m_owner.trouble)
@@ -64,6 +67,7 @@ private:
     }
 
     HistoryKeeper &m_owner;
+    std::optional<QString> m_trouble; ///< of the event loop's thread alone
     std::mutex m_mutex;
     std::vector<Answer> m_answers;
 };
@@ -163,6 +167,13 @@ private:
         m_told.clear();
     }
 
+    /// Before the answer that says so by what it holds.
+    void goesWell()
+    {
+        if (std::exchange(m_isInTrouble, false))
+            m_caller.call([caller = &m_caller] { caller->setTrouble({}); });
+    }
+
     /// What cannot be written waits for the next time, within bounds.
     void dropOldest()
     {
@@ -178,6 +189,7 @@ private:
             try {
                 open();
                 write();
+                goesWell();
                 if (task)
                     task(&*m_file);
                 return true;
@@ -210,6 +222,8 @@ private:
                                            "The history in %1 cannot be used now (%2); what was kept "
                                            "before is unchanged."))
                   .arg(QDir::toNativeSeparators(HistoryFile::pathIn(m_folder)), failure.reason);
+        m_isInTrouble = true;
+        m_caller.call([caller = &m_caller, sentence] { caller->setTrouble(sentence); });
         if (sentence != m_told)
             tell(m_told = sentence);
     }
@@ -225,6 +239,7 @@ private:
     std::optional<HistoryFile> m_file;
     std::vector<HistoryFile::Entry> m_unwritten;
     QString m_told;
+    bool m_isInTrouble = false;
 };
 
 HistoryKeeper::HistoryKeeper(QString folder)
@@ -291,6 +306,11 @@ void HistoryKeeper::erase(const HistorySelection &selection, Done done)
             return true;
         },
         std::move(done));
+}
+
+std::optional<QString> HistoryKeeper::troubleNow() const
+{
+    return m_caller->troubleNow();
 }
 
 void HistoryKeeper::eraseBefore(const QDateTime &time)

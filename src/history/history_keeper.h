@@ -27,6 +27,7 @@ public:
     void list(Listed listed) override;
     void erase(const HistorySelection &selection, Done done) override;
     void eraseBefore(const QDateTime &time) override;
+    std::optional<QString> troubleNow() const override;
 
 private:
     class Desk;

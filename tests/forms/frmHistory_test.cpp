@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 
 #include <QDateEdit>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QLabel>
@@ -180,6 +181,21 @@ TEST_F(FrmHistory, ShowsAllConversationsAndTheirMessagesInTheirOrder)
     EXPECT_TRUE(becomes({"mine"}));
     EXPECT_EQ(messages().model()->index(0, 0).data(HistoryModel::HeadRole).toString(),
               QStringLiteral("Me, 05/11/2026 14:05, in \"Ann\""));
+}
+
+TEST(FrmHistoryInTrouble, SaysThatTheHistoryCannotBeUsedAndNotThatThereIsNone)
+{
+    const QTemporaryDir base;
+    QDir().mkpath(base.filePath(QStringLiteral("profile/history.sqlite3"))); // a folder where the file should be
+    HistoryKeeper keeper(base.filePath(QStringLiteral("profile")));
+    RecorderPrompts prompts;
+    FewWaiting waiting;
+    frmHistory form(keeper, waiting, prompts, nullptr);
+    form.setAttribute(Qt::WA_DeleteOnClose, false);
+    form.show();
+    const auto &nothing = controlOf<QLabel>(form, "nothingKept");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return nothing.isVisible(); }, 60000));
+    EXPECT_TRUE(nothing.text().startsWith(QStringLiteral("The history in "))) << nothing.text().toStdString();
 }
 
 TEST_F(FrmHistory, AChosenConversationIsShownAlone)

@@ -724,6 +724,7 @@ public:
         listed(all);
     }
     void erase(const HistorySelection &, Done done) override { done(true); }
+    std::optional<QString> troubleNow() const override { return std::nullopt; }
     void eraseBefore(const QDateTime &time) override { erasedBefore.push_back(time); }
 
     /// 0: nothing of it is kept.

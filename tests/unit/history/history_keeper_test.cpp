@@ -141,9 +141,11 @@ TEST_F(HistoryKeeperTest, ADiskThatTakesNothingIsToldOnceAndNothingIsLostMeanwhi
     EXPECT_EQ(find({}), QStringList());
     EXPECT_THAT(troubles, SizeIs(1));
     EXPECT_THAT(troubles.value(0).toStdString(), testing::HasSubstr("history.sqlite3"));
+    EXPECT_EQ(keeper->troubleNow(), troubles.value(0));
     QDir().rmdir(file);
     EXPECT_EQ(find({}), (QStringList{"first", "second"}));
     EXPECT_THAT(troubles, SizeIs(1));
+    EXPECT_EQ(keeper->troubleNow(), std::nullopt);
 }
 
 TEST_F(HistoryKeeperTest, ADamagedFileIsToldAndTheConversationGoesOn)
