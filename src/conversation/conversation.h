@@ -98,6 +98,8 @@ private:
     bool m_hasUnread = false;
     std::optional<std::int64_t> m_earliest; ///< number of the first kept message that is shown
     bool m_waitsForEarlier = false;
+    bool m_hasAllEarlier = false;
+    int m_cleared = 0;                      ///< how often
     std::shared_ptr<Conversation *> m_self; ///< for answers that may come when this is gone
 };
 

@@ -21,6 +21,7 @@ enum Property {
     timeShown, ///< text
     dayShown,  ///< Julian day
     beginsNew,
+    yearShown,
 };
 
 constexpr double heightOfLine = 135;           // percent
@@ -144,7 +145,19 @@ QString LogMarks::dayOf(const QTextBlockFormat &line)
     if (!line.hasProperty(dayShown))
         return {};
     return QLocale().toString(QDate::fromJulianDay(line.property(dayShown).toLongLong()),
-                              QStringLiteral("dddd, d MMMM"));
+                              line.hasProperty(yearShown) ? QStringLiteral("dddd, d MMMM yyyy")
+                                                          : QStringLiteral("dddd, d MMMM"));
+}
+
+void LogMarks::setYearShown(QTextBlockFormat &line)
+{
+    line.setProperty(yearShown, true);
+}
+
+void LogMarks::setFoundLook(QTextCharFormat &text)
+{
+    text.setBackground(QColor(0xFF, 0xD5, 0x4F));
+    text.setForeground(QColor(0x1B, 0x1F, 0x24));
 }
 
 bool LogMarks::isUndelivered(const QTextBlockFormat &line)

@@ -12,6 +12,7 @@ class QFontMetrics;
 class QPainter;
 class QPalette;
 class QRect;
+class QTextCharFormat;
 class QTextDocument;
 
 namespace nimb
@@ -47,8 +48,13 @@ public:
     static QString timeOf(const QTextBlockFormat &line);
     /// What is painted above it; empty unless a day begins with it.
     static QString dayOf(const QTextBlockFormat &line);
+    /// The day that is painted above it is of another year than this, which it says.
+    static void setYearShown(QTextBlockFormat &line);
     /// Message of one's own that has not arrived, as far as is known.
     static bool isUndelivered(const QTextBlockFormat &line);
+
+    /// Of what a search has found.
+    static void setFoundLook(QTextCharFormat &text);
 
     /// One line of the log as it is seen: where it lies, without the room above it.
     struct Seen {
