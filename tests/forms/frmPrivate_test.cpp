@@ -124,6 +124,28 @@ TEST_F(FrmPrivate, ABandSaysThatNobodyKnowsWhetherThePeerIsThere)
 TEST_F(FrmPrivate, WhoIsNoContactAnyMoreIsSaidToBeNone)
 {
     windows.engine.contactCommands().mnuRemoveUser(QStringLiteral("10.0.0.2"));
+TEST_F(FrmPrivate, WhoWroteIsNotTypingAnyMore)
+{
+    auto &panel = control<QLabel>("StatusBar_2");
+    windows.arrive("10.0.0.2", "!TYPING");
+    EXPECT_EQ(panel.text(), QStringLiteral("Ann is typing a message..."));
+    windows.arrive("10.0.0.2", "-here it is");
+    EXPECT_EQ(panel.text(), QString());
+    windows.arrive("10.0.0.2", "!TYPING");
+    windows.time.advance(std::chrono::milliseconds(2499));
+    EXPECT_EQ(panel.text(), QStringLiteral("Ann is typing a message..."));
+    windows.time.advance(std::chrono::milliseconds(1));
+    EXPECT_EQ(panel.text(), QString());
+}
+
+TEST_F(FrmPrivate, AMessageDoesNotHideThatThePeerBuzzes)
+{
+    windows.arrive("10.0.0.2", "!TYPING");
+    windows.arrive("10.0.0.2", "!BUZZ");
+    windows.arrive("10.0.0.2", "-hello");
+    EXPECT_EQ(control<QLabel>("StatusBar_2").text(), QStringLiteral("Ann is buzzing you..."));
+}
+
     EXPECT_EQ(control<QLabel>("peerDetails").text(), QStringLiteral("No contact any more · PC · 10.0.0.2"));
     EXPECT_EQ(control<QLabel>("peerBand").text(),
               QStringLiteral("Ann is no contact any more: what comes from there is not shown"));
