@@ -78,7 +78,11 @@ QString presenceWord(Presence presence)
 /// Whoever is offline does nothing else, whatever was heard last.
 QString wordsOf(const Contact &contact)
 {
-    return contact.presence == Presence::offline ? presenceWord(contact.presence) : ownWordsOf(contact.state);
+    if (contact.presence == Presence::offline)
+        return presenceWord(contact.presence);
+    const QString words = ownWordsOf(contact.state);
+    const bool isToBeSaid = contact.presence == Presence::busy || contact.presence == Presence::away;
+    return words.isEmpty() && isToBeSaid ? presenceWord(contact.presence) : words;
 }
 
 } // namespace
@@ -380,7 +384,7 @@ QString ContactList::readOut(const Row &row) const
     const QString name
         = sharesName(row) ? QStringLiteral("%1 (%2)").arg(contact.nickname, contact.ip.text()) : contact.nickname;
     QStringList parts{name, presenceWord(contact.presence)};
-    if (const QString words = wordsOf(contact); !words.isEmpty() && contact.presence != Presence::offline)
+    if (const QString words = wordsOf(contact); !words.isEmpty() && words != parts.back())
         parts.append(words);
     if (contact.unread() > 0)
         parts.append(tr("%1 unread").arg(contact.unread()));

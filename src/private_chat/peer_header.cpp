@@ -1,5 +1,6 @@
 #include "private_chat/peer_header.h"
 
+#include "base/own_presence.h"
 #include "base/remote_text.h"
 #include "widgets/avatar_image.h"
 #include "widgets/band.h"
@@ -57,9 +58,18 @@ QString presenceText(Presence presence)
     return PeerHeader::tr("Not known to be there");
 }
 
+/// "Busy - In a meeting": as in a sentence, whatever the letters in which the peer has sent it.
+QString stateText(const PeerShown &peer)
+{
+    const QString words = ownWordsOf(peer.state);
+    if (words.isEmpty() || !isPresent(peer.presence))
+        return presenceText(peer.presence);
+    return words == peer.state ? words : withOwnWords(presenceText(peer.presence), words);
+}
+
 QString detailsOf(const PeerShown &peer)
 {
-    QStringList details{peer.state.isEmpty() ? presenceText(peer.presence) : peer.state};
+    QStringList details{stateText(peer)};
     if (peer.delivery == Delivery::toNoContact)
         details = {PeerHeader::tr("No contact any more")};
     if (!peer.workstation.isEmpty())

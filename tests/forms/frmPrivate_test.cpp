@@ -79,8 +79,11 @@ TEST_F(FrmPrivate, ItsHeadSaysWhoIsTalkedTo)
     EXPECT_EQ(control<QLabel>("peerDetails").text(), QStringLiteral("Online · PC · 10.0.0.2"));
     EXPECT_FALSE(control<QLabel>("peerBand").isVisible());
     windows.arrive("10.0.0.2", "!STATUS BUSY Back at five");
-    EXPECT_EQ(control<QLabel>("peerDetails").text().section(u'·', 0, 0).trimmed().right(12),
-              QStringLiteral("Back at five"));
+    EXPECT_EQ(control<QLabel>("peerDetails").text(), QStringLiteral("Busy - Back at five · PC · 10.0.0.2"));
+    windows.arrive("10.0.0.2", "!STATUS AWAY");
+    EXPECT_EQ(control<QLabel>("peerDetails").text(), QStringLiteral("Away · PC · 10.0.0.2"));
+    windows.arrive("10.0.0.2", "!STATUS Phoning");
+    EXPECT_EQ(control<QLabel>("peerDetails").text(), QStringLiteral("Phoning · PC · 10.0.0.2"));
     windows.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC-2 <b>Anna</b>");
     EXPECT_EQ(control<QLabel>("peerName").text(), QStringLiteral("<b>Anna</b>"));
     EXPECT_EQ(control<QLabel>("peerDetails").text(), QStringLiteral("Online · PC-2 · 10.0.0.2"));
