@@ -280,7 +280,8 @@ void ConversationPane::offerRest(const QString &rest)
 
 void ConversationPane::showHistoryBand()
 {
-    historyBand->setVisible(!m_needsRoom && m_conversation && m_conversation->history().isToBeAsked());
+    historyBand->setVisible(!m_needsRoom && m_conversation && !m_conversation->isOver()
+                            && m_conversation->history().isToBeAsked());
 }
 
 /// A conference has no address of its own to be found by.
@@ -439,6 +440,8 @@ void ConversationPane::setInputEnabled(bool enabled)
 }
 
 void ConversationPane::focusInput()
+    showHistoryBand();
+    Q_EMIT inputEnabled(enabled);
 {
     if (!intext->isEnabled())
         return;

@@ -89,6 +89,8 @@ Q_SIGNALS:
     void lastMessageChanged(const QString &text);
     void emoticonsToggled();
 
+    /// Not any more once the conversation is over.
+    void inputEnabled(bool enabled);
 private:
     void buildControls();
     QWidget *makeToolRow();
