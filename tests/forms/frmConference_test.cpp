@@ -271,7 +271,6 @@ TEST_F(FrmConference, LinksInItOpen)
     EXPECT_THAT(windows.links.opened, ElementsAre("http://fileserver/x"));
 }
 
-TEST_F(FrmConference, TheInvitationsHideInsteadOfClosing)
 TEST_F(FrmConference, AnEmptyOneSaysHowToInviteAndDoesIt)
 {
     windows.arrive("10.0.0.3", "!OFFLINE 10.0.0.3 PC Ben");
@@ -318,6 +317,17 @@ TEST_F(FrmConference, OnceItIsOverNobodyIsThereAndNothingIsAsked)
     EXPECT_FALSE(band.isVisible());
 }
 
+TEST_F(FrmConference, ASingleInvitationIsSelected)
+{
+    windows.arrive("10.0.0.2", "?CONF INVITE #3");
+    auto &list = RealWindows::control<QTreeView>(invitations(), "ListView1");
+    EXPECT_EQ(list.selectionModel()->selectedRows().size(), 1);
+    EXPECT_TRUE(RealWindows::control<QPushButton>(invitations(), "ConfAgreebtn").isEnabled());
+    windows.arrive("10.0.0.3", "?CONF INVITE #4");
+    EXPECT_EQ(list.selectionModel()->selectedRows().front().row(), 0) << "the other one changes nothing";
+}
+
+TEST_F(FrmConference, TheInvitationsHideInsteadOfClosing)
 {
     EXPECT_FALSE(invitations().isVisible());
     windows.entry("mnushowinvitations").trigger();
@@ -348,6 +358,7 @@ TEST_F(FrmConference, OnlyPendingInvitationsAreAnswered)
     auto &list = RealWindows::control<QTreeView>(invitations(), "ListView1");
     auto &agree = RealWindows::control<QPushButton>(invitations(), "ConfAgreebtn");
     auto &deny = RealWindows::control<QPushButton>(invitations(), "ConfDenybtn");
+    list.selectionModel()->clear();
     EXPECT_FALSE(agree.isEnabled());
     list.setCurrentIndex(list.model()->index(0, 0));
     EXPECT_TRUE(agree.isEnabled());
