@@ -16,6 +16,7 @@
 #include "widgets/band.h"
 #include "widgets/form_layout.h"
 #include "widgets/form_text.h"
+#include "widgets/former_size.h"
 #include "widgets/tool_button.h"
 #include "widgets/tool_row.h"
 #include "widgets/window_attention.h"
@@ -63,6 +64,8 @@ ConversationPane::ConversationPane(Conversation &conversation, const Conversatio
     m_links.HookRichText(*m_outtext, *this);
     intext->setSpelling(tools.spelling);
     QAccessible::installFactory(makeAccessibleWindow); // again and again, which Qt ignores
+    parent->installEventFilter(this);
+    new FormerSize(*parent); // which owns it
     intext->setFocus();
 }
 

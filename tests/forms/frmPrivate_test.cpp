@@ -146,6 +146,27 @@ TEST_F(FrmPrivate, AMessageDoesNotHideThatThePeerBuzzes)
     windows.arrive("10.0.0.2", "!TYPING");
     windows.arrive("10.0.0.2", "!BUZZ");
     windows.arrive("10.0.0.2", "-hello");
+TEST_F(FrmPrivate, PanelsAndStripsGiveTheWindowItsSizeBack)
+{
+    form().resize(380, 330);
+    QTRY_COMPARE(form().size(), QSize(380, 330));
+    for (const char *const panel : {"moodbtn", "AvatarBtn", "Emoticbtn"}) {
+        control<QToolButton>(panel).click();
+        QTRY_VERIFY_WITH_TIMEOUT(form().size() != QSize(380, 330) || form().minimumHeight() <= 330, 5000);
+        control<QToolButton>(panel).click();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return form().size() == QSize(380, 330); })) << panel;
+    }
+    control<QToolButton>("moodbtn").click();
+    control<QToolButton>("AvatarBtn").click();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return form().size() != QSize(380, 330); })) << "the panels need more";
+    form().resize(700, 700);
+    QCoreApplication::processEvents();
+    control<QToolButton>("moodbtn").click();
+    control<QToolButton>("AvatarBtn").click();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(form().size(), QSize(700, 700)) << "who gave it another size meanwhile keeps that";
+}
+
     EXPECT_EQ(control<QLabel>("StatusBar_2").text(), QStringLiteral("Ann is buzzing you..."));
 }
 
