@@ -440,11 +440,11 @@ void ConversationPane::setInputEnabled(bool enabled)
 {
     intext->setEnabled(enabled);
     sendbtn->setEnabled(enabled);
+    showHistoryBand();
+    Q_EMIT inputEnabled(enabled);
 }
 
 void ConversationPane::focusInput()
-    showHistoryBand();
-    Q_EMIT inputEnabled(enabled);
 {
     if (!intext->isEnabled())
         return;
@@ -472,8 +472,25 @@ bool ConversationPane::event(QEvent *event)
 {
     const bool taken = QWidget::event(event);
     if (event->type() == QEvent::WindowActivate)
-        noteWhatIsSeen();
+        comeIntoSight();
     return taken;
+}
+
+/// A window that was minimised while it was the active one is so already when it comes back.
+bool ConversationPane::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == window() && event->type() == QEvent::WindowStateChange)
+        QMetaObject::invokeMethod(this, &ConversationPane::comeIntoSight,
+                                  Qt::QueuedConnection); // it gets its size first
+    return QWidget::eventFilter(watched, event);
+}
+
+void ConversationPane::comeIntoSight()
+{
+    if (isMinimisedOrInactive())
+        return;
+    m_outtext->showNew();
+    noteWhatIsSeen();
 }
 
 void ConversationPane::noteWhatIsSeen()

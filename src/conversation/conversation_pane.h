@@ -82,15 +82,16 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 Q_SIGNALS:
     /// When the last message came, for the window's status bar.
     void lastMessageChanged(const QString &text);
     void emoticonsToggled();
-
     /// Not any more once the conversation is over.
     void inputEnabled(bool enabled);
+
 private:
     void buildControls();
     QWidget *makeToolRow();
@@ -109,6 +110,7 @@ private:
     void findEmoji();
     void insertEmoji(const QString &emoji);
     void outtext_Change();
+    void comeIntoSight();
     void noteWhatIsSeen();
     void showRoomLeft();
     void showHistoryBand();

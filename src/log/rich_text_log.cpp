@@ -399,6 +399,30 @@ void RichTextLogEdit::markNew()
     m_new.movePosition(QTextCursor::End);
     m_new.setKeepPositionOnInsert(true);
     setNewLine(true);
+    // Where it can be seen it is not moved: its reader may be about to click on something.
+    m_newIsUnseen = !isVisible() || window()->isMinimized();
+}
+
+void RichTextLogEdit::showNew()
+{
+    if (!std::exchange(m_newIsUnseen, false) || m_new.isNull() || !m_follows)
+        return;
+    writeGathered();
+    QAbstractTextDocumentLayout &layout = *document()->documentLayout();
+    const int height = qRound(layout.documentSize().height()); // lays out all of it
+    const QTextBlock first = m_new.block();
+    const int top = qRound(layout.blockBoundingRect(first).top() - first.blockFormat().topMargin());
+    const int bottom = top + viewport()->height();
+    if (height <= bottom)
+        return;
+    verticalScrollBar()->setValue(top);
+    int below = 0;
+    for (QTextBlock line = document()->lastBlock(); line.isValid(); line = line.previous()) {
+        if (layout.blockBoundingRect(line).bottom() <= bottom)
+            break;
+        below += line.length() > 1 ? 1 : 0;
+    }
+    noteLinesBelow(below);
 }
 
 void RichTextLogEdit::unmarkNew()
@@ -407,6 +431,7 @@ void RichTextLogEdit::unmarkNew()
         return;
     setNewLine(false);
     m_new = QTextCursor();
+    m_newIsUnseen = false;
 }
 
 void RichTextLogEdit::setNewLine(bool isNew)

@@ -52,6 +52,9 @@ public:
     void showEnd();
     /// What is added comes into sight.
     bool isAtItsEnd() const { return m_follows; }
+    /// Where the log was out of sight when new text came, and has grown by more than can be seen at once: goes to where
+    /// the new text begins.
+    void showNew();
     /// Room above and below the text, in pixels, for what would lie over it.
     void setRoomAbove(int room);
     void setRoomBelow(int room);
@@ -169,6 +172,7 @@ private:
 
     QTextCursor m_caret;
     QTextCursor m_new; ///< at the beginning of what is new; null while nothing is
+    bool m_newIsUnseen = false;
     QTextCharFormat m_format;
     bool m_continues = false;
     bool m_isOwn = false;

@@ -124,9 +124,6 @@ TEST_F(FrmPrivate, ABandSaysThatNobodyKnowsWhetherThePeerIsThere)
     EXPECT_EQ(band.text(), QStringLiteral("Ann is not known to be there: what you write may not arrive"));
 }
 
-TEST_F(FrmPrivate, WhoIsNoContactAnyMoreIsSaidToBeNone)
-{
-    windows.engine.contactCommands().mnuRemoveUser(QStringLiteral("10.0.0.2"));
 TEST_F(FrmPrivate, WhoWroteIsNotTypingAnyMore)
 {
     auto &panel = control<QLabel>("StatusBar_2");
@@ -146,6 +143,58 @@ TEST_F(FrmPrivate, AMessageDoesNotHideThatThePeerBuzzes)
     windows.arrive("10.0.0.2", "!TYPING");
     windows.arrive("10.0.0.2", "!BUZZ");
     windows.arrive("10.0.0.2", "-hello");
+    EXPECT_EQ(control<QLabel>("StatusBar_2").text(), QStringLiteral("Ann is buzzing you..."));
+}
+
+TEST_F(FrmPrivate, AWindowWithMoreThanCanBeSeenOpensWhereTheNewBegins)
+{
+    auto &button = control<QToolButton>("newLinesBtn");
+    type(QStringLiteral("before"));
+    QTest::keyClick(&intext(), Qt::Key_Return);
+    form().close();
+    for (int i = 0; i < 60; ++i)
+        windows.arrive("10.0.0.2", "-message " + std::to_string(i));
+    ASSERT_TRUE(form().isMinimized());
+    windows.doubleClick(0);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form(), 60000));
+    QCoreApplication::processEvents();
+    QTextCursor first(outtext().document()->findBlockByNumber(2));
+    EXPECT_EQ(first.block().text(), QStringLiteral("Ann> message 0"));
+    const int top = outtext().cursorRect(first).top();
+    EXPECT_GE(top, outtext().fontMetrics().height()) << "the mark above it is seen";
+    EXPECT_LE(top, 3 * outtext().fontMetrics().lineSpacing());
+    EXPECT_TRUE(button.isVisible());
+    int below = 0;
+    for (int i = 0; i < 60; ++i) {
+        const QTextCursor line(outtext().document()->findBlockByNumber(2 + i));
+        below += outtext().cursorRect(line).bottom() > outtext().viewport()->height() ? 1 : 0;
+    }
+    EXPECT_EQ(button.text(), QString::number(below));
+    EXPECT_EQ(windows.engine.contacts().find(QStringLiteral("10.0.0.2"))->unread(), 60) << "not read yet";
+
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_TRUE(outtext().isAtItsEnd());
+    EXPECT_EQ(windows.engine.contacts().find(QStringLiteral("10.0.0.2"))->unread(), 0);
+    form().showMinimized();
+    form().showNormal();
+    form().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form(), 60000));
+    EXPECT_TRUE(outtext().isAtItsEnd()) << "what was read is not gone back to";
+}
+
+TEST_F(FrmPrivate, AWindowInWhichAllThatIsNewCanBeSeenOpensAtTheEnd)
+{
+    form().close();
+    windows.arrive("10.0.0.2", "-one");
+    windows.arrive("10.0.0.2", "-two");
+    windows.doubleClick(0);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form(), 60000));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(outtext().isAtItsEnd());
+    EXPECT_FALSE(control<QToolButton>("newLinesBtn").isVisible());
+    EXPECT_EQ(windows.engine.contacts().find(QStringLiteral("10.0.0.2"))->unread(), 0);
+}
+
 TEST_F(FrmPrivate, PanelsAndStripsGiveTheWindowItsSizeBack)
 {
     form().resize(380, 330);
@@ -167,9 +216,9 @@ TEST_F(FrmPrivate, PanelsAndStripsGiveTheWindowItsSizeBack)
     EXPECT_EQ(form().size(), QSize(700, 700)) << "who gave it another size meanwhile keeps that";
 }
 
-    EXPECT_EQ(control<QLabel>("StatusBar_2").text(), QStringLiteral("Ann is buzzing you..."));
-}
-
+TEST_F(FrmPrivate, WhoIsNoContactAnyMoreIsSaidToBeNone)
+{
+    windows.engine.contactCommands().mnuRemoveUser(QStringLiteral("10.0.0.2"));
     EXPECT_EQ(control<QLabel>("peerDetails").text(), QStringLiteral("No contact any more · PC · 10.0.0.2"));
     EXPECT_EQ(control<QLabel>("peerBand").text(),
               QStringLiteral("Ann is no contact any more: what comes from there is not shown"));
