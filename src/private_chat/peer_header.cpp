@@ -18,6 +18,7 @@ namespace
 {
 
 using form_layout::margin;
+using form_layout::spacing;
 
 constexpr int faceSide = 36;
 
@@ -104,6 +105,8 @@ PeerHeader::PeerHeader(QWidget *parent) : QWidget(parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(makeHead());
+    m_gap = new QSpacerItem(0, 0);
+    column->addItem(m_gap); // takes it over
     peerBand = named(makeBand(this), "peerBand");
     peerBand->setTextFormat(Qt::PlainText);
     column->addWidget(peerBand);
@@ -146,6 +149,9 @@ void PeerHeader::setPeer(const PeerShown &peer)
     const QString warning = warningOf(peer);
     peerBand->setText(warning);
     peerBand->setVisible(!warning.isEmpty());
+    // Without a band it is the log that keeps its distance.
+    m_gap->changeSize(0, warning.isEmpty() ? 0 : spacing);
+    layout()->invalidate();
 }
 
 void PeerHeader::setAvatar(const std::optional<QByteArray> &picture)

@@ -8,6 +8,8 @@
 
 class QLabel;
 
+class QSpacerItem;
+
 namespace nimb
 {
 
@@ -32,6 +34,7 @@ private:
     ElidedLabel *peerName = nullptr;
     ElidedLabel *peerDetails = nullptr;
     QLabel *peerBand = nullptr;
+    QSpacerItem *m_gap = nullptr; ///< above the band
 };
 
 } // namespace nimb

@@ -630,6 +630,15 @@ TEST_F(FrmPrivate, ThePreviewCoversNoLineOfTheLog)
 TEST_F(FrmPrivate, APreviewThatNobodyGoesOnWithGoesAfterHalfAMinute)
 {
     auto &preview = control<QPlainTextEdit>("futuretype");
+TEST_F(FrmPrivate, TheBandKeepsItsDistanceFromTheHead)
+{
+    windows.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");
+    QCoreApplication::processEvents();
+    const auto &details = control<QLabel>("peerDetails"), &band = control<QLabel>("peerBand");
+    const int end = details.mapTo(&form(), QPoint(0, details.height())).y();
+    EXPECT_GE(band.mapTo(&form(), QPoint()).y() - end, 6);
+}
+
     windows.arrive("10.0.0.2", "!LIVETYPE begun");
     windows.time.advance(std::chrono::milliseconds(29'900));
     EXPECT_TRUE(preview.isVisible());
