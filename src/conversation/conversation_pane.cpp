@@ -65,7 +65,7 @@ ConversationPane::ConversationPane(Conversation &conversation, const Conversatio
     intext->setSpelling(tools.spelling);
     QAccessible::installFactory(makeAccessibleWindow); // again and again, which Qt ignores
     parent->installEventFilter(this);
-    new FormerSize(*parent); // which owns it
+    m_formerSize = new FormerSize(*parent); // which owns it
     intext->setFocus();
 }
 
@@ -345,6 +345,12 @@ void ConversationPane::Emoticbtn_Click(bool shown)
     ListViewEmot->setVisible(shown);
     if (EmojiTable::isThere())
         showEmoji(shown);
+    // Who chooses an emoji still sees what he answers: where there is no room for both, the window grows meanwhile.
+    constexpr int linesBeside = 6; // one of them the empty one at the end
+    const int frame = 2 * (m_outtext->frameWidth() + qRound(m_outtext->document()->documentMargin()));
+    m_outtext->setMinimumHeight(shown ? linesBeside * m_outtext->heightOfLine() + frame : 0);
+    if (shown)
+        m_formerSize->growOnce();
     Q_EMIT emoticonsToggled();
 }
 

@@ -25,6 +25,7 @@ class Conversation;
 class EmojiPicker;
 class EmojiStock;
 class EmoticonPicker;
+class FormerSize;
 class MessageInput;
 class RTFSubClass;
 class Spelling;
@@ -142,6 +143,7 @@ private:
     QVBoxLayout *m_column = nullptr;
     QHBoxLayout *m_logRow = nullptr;
     ToolRow *m_toolRow = nullptr;
+    FormerSize *m_formerSize = nullptr;
 };
 
 } // namespace nimb

@@ -42,6 +42,8 @@ public:
     static QTextBlockFormat withRoom(QTextBlockFormat line, const QFont &font);
     /// Room at the right side in which times are painted, in pixels.
     static int marginRight(const QFont &font);
+    /// Of a line with the gap to the one before, in pixels.
+    static int heightOfLine(const QFont &font);
     static bool hasRoomAbove(const QTextBlockFormat &line);
     static bool isOwnMessage(const QTextBlockFormat &line);
     /// What is painted beside the line; empty where nothing is.

@@ -403,6 +403,11 @@ void RichTextLogEdit::markNew()
     m_newIsUnseen = !isVisible() || window()->isMinimized();
 }
 
+int RichTextLogEdit::heightOfLine() const
+{
+    return LogMarks::heightOfLine(font());
+}
+
 void RichTextLogEdit::showNew()
 {
     if (!std::exchange(m_newIsUnseen, false) || m_new.isNull() || !m_follows)

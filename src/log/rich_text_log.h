@@ -55,6 +55,8 @@ public:
     /// Where the log was out of sight when new text came, and has grown by more than can be seen at once: goes to where
     /// the new text begins.
     void showNew();
+    /// Pixels that a line takes, without what is painted above it.
+    int heightOfLine() const;
     /// Room above and below the text, in pixels, for what would lie over it.
     void setRoomAbove(int room);
     void setRoomBelow(int room);

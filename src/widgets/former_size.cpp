@@ -1,8 +1,11 @@
 #include "widgets/former_size.h"
 
+#include <QLayout>
 #include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QWidget>
+
+#include <utility>
 
 namespace nimb
 {
@@ -14,15 +17,16 @@ FormerSize::FormerSize(QWidget &window) : QObject(&window), m_window(window)
 
 bool FormerSize::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::LayoutRequest)
-        goBack(); // the layout has been there already
+    if (event->type() == QEvent::LayoutRequest) { // the layout has been there already
+        goBack();
+        grow();
+    }
     if (event->type() != QEvent::Resize || m_goesBack)
         return QObject::eventFilter(watched, event);
     const auto &resized = *static_cast<QResizeEvent *>(event);
-    const QSize least = m_window.minimumSize();
-    const bool hadToGrow = m_window.isVisible() && resized.oldSize().isValid()
-        && resized.oldSize() != resized.oldSize().expandedTo(least)
-        && resized.size() == resized.oldSize().expandedTo(least);
+    const QSize needed = resized.oldSize().expandedTo(least());
+    const bool hadToGrow = m_window.isVisible() && resized.oldSize().isValid() && resized.oldSize() != needed
+        && resized.size() == needed;
     if (hadToGrow && !m_former.isValid())
         m_former = resized.oldSize();
     if (hadToGrow)
@@ -32,11 +36,25 @@ bool FormerSize::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
+QSize FormerSize::least() const
+{
+    const QLayout *const layout = m_window.layout();
+    return layout ? m_window.minimumSize().expandedTo(layout->totalMinimumSize()) : m_window.minimumSize();
+}
+
+void FormerSize::grow()
+{
+    if (!std::exchange(m_grows, false) || m_window.isMaximized())
+        return;
+    if (const QSize needed = m_window.size().expandedTo(least()); needed != m_window.size())
+        m_window.resize(needed);
+}
+
 void FormerSize::goBack()
 {
     if (!m_former.isValid() || m_window.size() != m_grown)
         return;
-    const QSize size = m_former.expandedTo(m_window.minimumSize());
+    const QSize size = m_former.expandedTo(least());
     const QScopedValueRollback<bool> ownDoing(m_goesBack, true);
     m_grown = size;
     if (size == m_former)

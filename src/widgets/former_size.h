@@ -17,15 +17,21 @@ public:
     /// Owned by the window.
     explicit FormerSize(QWidget &window);
 
+    /// With the next layout it grows as far as what it holds needs, though it may be made smaller than that.
+    void growOnce() { m_grows = true; }
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    QSize least() const;
+    void grow();
     void goBack();
 
     QWidget &m_window;
     QSize m_former; ///< invalid while it has not grown
     QSize m_grown;
+    bool m_grows = false;
     bool m_goesBack = false;
 };
 

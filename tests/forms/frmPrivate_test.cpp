@@ -658,6 +658,28 @@ TEST_F(FrmPrivate, ThePreviewShowsMarkupAsText)
 TEST_F(FrmPrivate, TheAvatarPanelAsksAndShows)
 {
     auto &panel = control<QWidget>("Avatarframe");
+TEST_F(FrmPrivate, TheEmojiLeaveFiveLinesOfTheLog)
+{
+    if (!EmojiTable::isThere())
+        GTEST_SKIP() << "built without emoji";
+    form().resize(380, 330);
+    QTRY_COMPARE(form().size(), QSize(380, 330));
+    for (int i = 0; i < 20; ++i)
+        windows.arrive("10.0.0.2", "-hello");
+    control<QToolButton>("Emoticbtn").click();
+    const auto linesSeen = [this] {
+        int lines = 0;
+        for (QTextBlock line = outtext().document()->begin(); line.isValid(); line = line.next()) {
+            const QRect place = outtext().cursorRect(QTextCursor(line));
+            lines += line.length() > 1 && place.top() >= 0 && place.bottom() < outtext().viewport()->height() ? 1 : 0;
+        }
+        return lines;
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&linesSeen] { return linesSeen() >= 5; })) << linesSeen();
+    control<QToolButton>("Emoticbtn").click();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return form().size() == QSize(380, 330); }));
+}
+
     EXPECT_FALSE(panel.isVisible());
     QTest::mouseClick(&control<QToolButton>("AvatarBtn"), Qt::LeftButton);
     EXPECT_TRUE(panel.isVisible());
