@@ -622,14 +622,33 @@ TEST_F(FrmPrivate, ThePreviewCoversNoLineOfTheLog)
     auto &log = control<QTextEdit>("outtext");
     const int room = log.viewport()->height();
     windows.arrive("10.0.0.2", "!LIVETYPE what is being typed");
-    EXPECT_LE(log.viewport()->mapTo(&form(), QPoint(0, log.viewport()->height())).y(), preview.geometry().top());
+    const auto seen = [&preview] { return preview.mask().boundingRect().translated(preview.pos()); };
+    EXPECT_LE(log.viewport()->mapTo(&form(), QPoint(0, log.viewport()->height())).y(), seen().top());
+    windows.arrive("10.0.0.2", "!LIVETYPE " + std::string(190, 'x'));
+    EXPECT_LE(log.viewport()->mapTo(&form(), QPoint(0, log.viewport()->height())).y(), seen().top());
     windows.arrive("10.0.0.2", "-done");
     EXPECT_EQ(log.viewport()->height(), room);
 }
 
-TEST_F(FrmPrivate, APreviewThatNobodyGoesOnWithGoesAfterHalfAMinute)
+TEST_F(FrmPrivate, ThePreviewIsSeenAsHighAsItsTextAndTakesNoMoreOfTheLog)
 {
     auto &preview = control<QPlainTextEdit>("futuretype");
+    const int room = outtext().viewport()->height();
+    const int line = preview.fontMetrics().lineSpacing();
+    const auto seen = [&preview] { return preview.mask().boundingRect().height(); };
+    windows.arrive("10.0.0.2", "!LIVETYPE what is being typed");
+    EXPECT_GE(seen(), line);
+    EXPECT_LT(seen(), 2 * line);
+    EXPECT_EQ(preview.viewport()->height(), seen());
+    EXPECT_LT(room - outtext().viewport()->height(), 2 * line + 35);
+    const int one = seen();
+    windows.arrive("10.0.0.2", "!LIVETYPE " + std::string(120, 'w'));
+    EXPECT_GT(seen(), one);
+    EXPECT_LE(seen(), preview.height());
+    windows.arrive("10.0.0.2", "!LIVETYPE short again");
+    EXPECT_EQ(seen(), one);
+}
+
 TEST_F(FrmPrivate, TheBandKeepsItsDistanceFromTheHead)
 {
     windows.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");
@@ -639,25 +658,6 @@ TEST_F(FrmPrivate, TheBandKeepsItsDistanceFromTheHead)
     EXPECT_GE(band.mapTo(&form(), QPoint()).y() - end, 6);
 }
 
-    windows.arrive("10.0.0.2", "!LIVETYPE begun");
-    windows.time.advance(std::chrono::milliseconds(29'900));
-    EXPECT_TRUE(preview.isVisible());
-    windows.arrive("10.0.0.2", "!LIVETYPE begun anew");
-    windows.time.advance(std::chrono::milliseconds(29'900));
-    EXPECT_TRUE(preview.isVisible());
-    windows.time.advance(std::chrono::milliseconds(200));
-    EXPECT_FALSE(preview.isVisible());
-}
-
-TEST_F(FrmPrivate, ThePreviewShowsMarkupAsText)
-{
-    windows.arrive("10.0.0.2", "!LIVETYPE <b>x</b>");
-    EXPECT_EQ(control<QPlainTextEdit>("futuretype").toPlainText(), QStringLiteral("<b>x</b>"));
-}
-
-TEST_F(FrmPrivate, TheAvatarPanelAsksAndShows)
-{
-    auto &panel = control<QWidget>("Avatarframe");
 TEST_F(FrmPrivate, TheEmojiLeaveFiveLinesOfTheLog)
 {
     if (!EmojiTable::isThere())
@@ -680,6 +680,28 @@ TEST_F(FrmPrivate, TheEmojiLeaveFiveLinesOfTheLog)
     EXPECT_TRUE(QTest::qWaitFor([this] { return form().size() == QSize(380, 330); }));
 }
 
+TEST_F(FrmPrivate, APreviewThatNobodyGoesOnWithGoesAfterHalfAMinute)
+{
+    auto &preview = control<QPlainTextEdit>("futuretype");
+    windows.arrive("10.0.0.2", "!LIVETYPE begun");
+    windows.time.advance(std::chrono::milliseconds(29'900));
+    EXPECT_TRUE(preview.isVisible());
+    windows.arrive("10.0.0.2", "!LIVETYPE begun anew");
+    windows.time.advance(std::chrono::milliseconds(29'900));
+    EXPECT_TRUE(preview.isVisible());
+    windows.time.advance(std::chrono::milliseconds(200));
+    EXPECT_FALSE(preview.isVisible());
+}
+
+TEST_F(FrmPrivate, ThePreviewShowsMarkupAsText)
+{
+    windows.arrive("10.0.0.2", "!LIVETYPE <b>x</b>");
+    EXPECT_EQ(control<QPlainTextEdit>("futuretype").toPlainText(), QStringLiteral("<b>x</b>"));
+}
+
+TEST_F(FrmPrivate, TheAvatarPanelAsksAndShows)
+{
+    auto &panel = control<QWidget>("Avatarframe");
     EXPECT_FALSE(panel.isVisible());
     QTest::mouseClick(&control<QToolButton>("AvatarBtn"), Qt::LeftButton);
     EXPECT_TRUE(panel.isVisible());
