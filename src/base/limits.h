@@ -37,6 +37,8 @@ constexpr std::size_t historyUndecided = 1000;
 /// Kept messages with which a conversation opens, and how many more come when its reader scrolls up.
 constexpr int historyShown = 50;
 constexpr int historyPage = 200;
+/// How long the program that opens an address can say that it has failed: later it has shown something.
+constexpr std::chrono::milliseconds handlerWatched{20000};
 /// How long what was cleared can be brought back.
 constexpr std::chrono::milliseconds clearedKept{10000};
 /// Lines a log holds; beyond it re-layout and memory grow without use to anybody.

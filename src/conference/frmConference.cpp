@@ -127,19 +127,19 @@ void frmConference::buildParticipants()
 /// Says how others come in, and lets them be chosen.
 QWidget *frmConference::makeInviteHint()
 {
-    inviteHint = named(new QLabel(m_listSide), "inviteHint");
-    inviteHint->setTextFormat(Qt::RichText);
-    inviteHint->setWordWrap(true);
-    inviteHint->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    QPalette muted = inviteHint->palette();
+    m_inviteHint = named(new QLabel(m_listSide), "inviteHint");
+    m_inviteHint->setTextFormat(Qt::RichText);
+    m_inviteHint->setWordWrap(true);
+    m_inviteHint->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    QPalette muted = m_inviteHint->palette();
     muted.setColor(QPalette::WindowText, mutedTextColour(muted));
-    inviteHint->setPalette(muted);
+    m_inviteHint->setPalette(muted);
     const Participants &rows = m_conference->partecipanti();
     connect(&rows, &Participants::rowsInserted, this, &frmConference::showInviteHint);
     connect(&rows, &Participants::rowsRemoved, this, &frmConference::showInviteHint);
-    connect(inviteHint, &QLabel::linkActivated, this, &frmConference::openInviteMenu);
+    connect(m_inviteHint, &QLabel::linkActivated, this, &frmConference::openInviteMenu);
     showInviteHint();
-    return inviteHint;
+    return m_inviteHint;
 }
 
 void frmConference::showInviteHint()
@@ -148,8 +148,8 @@ void frmConference::showInviteHint()
     const bool isAlone = m_conference && m_conference->partecipanti().rowCount() < 2;
     const QString link = isAlone ? tr("Invite somebody...") : tr("Invite somebody else...");
     const QString shown = QStringLiteral("<a href=\"invite\">%1</a>").arg(link);
-    inviteHint->setText(isAlone ? sentence + QLatin1Char(' ') + shown : shown);
-    inviteHint->setAccessibleName(isAlone ? sentence : link);
+    m_inviteHint->setText(isAlone ? sentence + QLatin1Char(' ') + shown : shown);
+    m_inviteHint->setAccessibleName(isAlone ? sentence : link);
 }
 
 /// Those who can come: who is there, and is not in it already.
@@ -168,7 +168,7 @@ void frmConference::openInviteMenu()
     }
     if (menu->isEmpty())
         menu->addAction(tr("No other contact is online"))->setEnabled(false);
-    menu->popup(inviteHint->mapToGlobal(inviteHint->rect().bottomLeft()));
+    menu->popup(m_inviteHint->mapToGlobal(m_inviteHint->rect().bottomLeft()));
 }
 
 void frmConference::buildAvatars()

@@ -65,7 +65,7 @@ private:
     AvatarPicture *m_avatarPicture = nullptr;
     QLabel *AvatarLabel = nullptr;
     QLabel *NoAvatarImg = nullptr;
-    QLabel *inviteHint = nullptr; ///< only where the conference is hosted here
+    QLabel *m_inviteHint = nullptr; ///< only where the conference is hosted here
     QLabel *m_panel = nullptr;
     QWidget *m_listSide = nullptr;
 };
