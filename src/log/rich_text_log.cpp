@@ -147,8 +147,11 @@ void RichTextLogEdit::setRoomAbove(int room)
 
 void RichTextLogEdit::setRoomBelow(int room)
 {
-    if (std::exchange(m_roomBelow, room) != room)
-        setInsets(m_insetAbove, m_insetBelow);
+    if (std::exchange(m_roomBelow, room) == room)
+        return;
+    setBackgroundRole(QPalette::Base); // of what is around the text: it goes on below it
+    setAutoFillBackground(room > 0);
+    setInsets(m_insetAbove, m_insetBelow);
 }
 
 void RichTextLogEdit::addEarlier(const std::vector<StoredMessage> &messages)
