@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QPointer>
 #include <QUrl>
 
 #include <algorithm>
@@ -52,8 +53,12 @@ void ManualOpener::openFor(QWidget &control)
     if (!m_folder)
         return;
     const QString page = QDir(*m_folder).filePath(pageOf(control));
-    if (!m_opener.open(QUrl::fromLocalFile(page)))
-        warn(*control.window(), tr("Nothing on this computer opens %1.").arg(QDir::toNativeSeparators(page)));
+    const auto complain = [window = QPointer<QWidget>(control.window()), page] {
+        if (window)
+            warn(*window, tr("Nothing on this computer opens %1.").arg(QDir::toNativeSeparators(page)));
+    };
+    if (!m_opener.open(QUrl::fromLocalFile(page), complain))
+        complain();
 }
 
 /// The main window does not come here for its key: the entry of its menu has it. A window sees the key before its

@@ -104,8 +104,8 @@ private:
     MessageBoxes m_prompts;
     PlainToolTips m_toolTips;
     ProgramSounds m_sound;
-    DesktopLinkOpener m_links;
-    DesktopPageOpener m_pages;
+    DesktopLinkOpener m_links{desktopHandler};
+    DesktopPageOpener m_pages{desktopHandler};
     ManualOpener m_manual{findManual(), m_pages};
     SystemPictureSources m_pictures;
     HostNameResolver m_names;

@@ -46,6 +46,8 @@ constexpr int outboxDays = 7;
 /// reads faster.
 constexpr std::chrono::milliseconds outboxPause{1000};
 constexpr std::chrono::milliseconds outboxPace{500};
+/// How long the program that opens an address can say that it has failed: later it has shown something.
+constexpr std::chrono::milliseconds handlerWatched{20000};
 /// How long what was cleared can be brought back.
 constexpr std::chrono::milliseconds clearedKept{10000};
 /// Lines a log holds; beyond it re-layout and memory grow without use to anybody.

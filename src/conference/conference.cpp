@@ -157,6 +157,23 @@ void Conference::invite(const ContactAddress &ip)
     sendDatagram(socket(), ip.ipv4(), wire::ConferenceInvitation{m_identity.ConfNum});
 }
 
+std::vector<ContactAddress> Conference::invitable() const
+{
+    std::vector<ContactAddress> all;
+    for (int row = 0; row < m_services.contacts.rowCount(); ++row) {
+        const Contact &contact = m_services.contacts.at(row);
+        if (isPresent(contact.presence) && !m_participants.find(contact.ip))
+            all.push_back(contact.ip);
+    }
+    return all;
+}
+
+QString Conference::nameOf(const ContactAddress &ip) const
+{
+    const Contact *const contact = m_services.contacts.find(ip);
+    return contact ? contact->nickname : ip.text();
+}
+
 void Conference::kickuserbtn_Click(const ContactAddress &ip)
 {
     const Participant *const participant = m_participants.find(ip);

@@ -53,6 +53,10 @@ public:
 
     /// A contact is invited; one who is present stays so.
     void invite(const ContactAddress &ip);
+    /// Who is there and not in the list of participants, in the order of the contacts.
+    std::vector<ContactAddress> invitable() const;
+    /// Of a contact.
+    QString nameOf(const ContactAddress &ip) const;
 
     /// The host sends the list of those present to dest or, without it, to everybody in the list.
     void Broadcastlist(std::optional<Ipv4Address> dest);

@@ -107,6 +107,17 @@ void frmConfInvitations::connectControls()
     connect(ListView1->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &frmConfInvitations::ListView1_ItemClick);
     connect(&m_invitations.list(), &InvitationList::dataChanged, this, &frmConfInvitations::ListView1_ItemClick);
+    // Who is looking chooses himself: a click must not meet an invitation that has come this moment.
+    connect(ListView1->model(), &QAbstractItemModel::rowsInserted, this, [this] {
+        if (!isActiveWindow())
+            selectTheOnlyOne();
+    });
+}
+
+void frmConfInvitations::selectTheOnlyOne()
+{
+    if (ListView1->model()->rowCount() == 1 && selectedRow() < 0)
+        ListView1->setCurrentIndex(ListView1->model()->index(0, 0));
 }
 
 int frmConfInvitations::selectedRow() const
@@ -149,6 +160,7 @@ void frmConfInvitations::showWithoutFocus()
 void frmConfInvitations::showWindow()
 {
     setAttribute(Qt::WA_ShowWithoutActivating, false);
+    selectTheOnlyOne();
     bringBack(*this);
     activateWindow();
 }

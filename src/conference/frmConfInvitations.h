@@ -38,6 +38,7 @@ protected:
 private:
     void buildControls();
     void connectControls();
+    void selectTheOnlyOne();
     int selectedRow() const; ///< -1 when none is selected
     void ListView1_ItemClick();
     void autorefusemins_Change();

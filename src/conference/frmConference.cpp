@@ -1,5 +1,6 @@
 #include "conference/frmConference.h"
 
+#include "base/remote_text.h"
 #include "conference/conference.h"
 #include "conference/participants_view.h"
 #include "conversation/conversation_pane.h"
@@ -9,6 +10,7 @@
 #include "widgets/elided_label.h"
 #include "widgets/form_layout.h"
 #include "widgets/keyed_selection.h"
+#include "widgets/muted_colour.h"
 #include "widgets/picture_delegate.h"
 #include "widgets/picture_label.h"
 #include "widgets/pictures.h"
@@ -17,6 +19,8 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QToolButton>
 #include <QTreeView>
@@ -93,6 +97,10 @@ void frmConference::buildParticipants()
     partecipanti->setUniformRowHeights(true);
     partecipanti->setItemDelegate(new PictureDelegate(partecipanti));
     auto *const model = new ParticipantsProxy(partecipanti);
+    connect(m_pane, &ConversationPane::inputEnabled, model, [this, model](bool enabled) {
+        if (!enabled)
+            model->setOver(partecipanti->palette());
+    });
     model->setSourceModel(&m_conference->partecipanti());
     model->setGround(palette().color(QPalette::Base));
     setModelOfKeyedRows(*partecipanti, *model);
@@ -109,9 +117,58 @@ void frmConference::buildParticipants()
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(spacing);
     column->addWidget(partecipanti, 1);
+    if (hosted)
+        column->addWidget(makeInviteHint());
     column->addWidget(refreshlistbtn);
     column->addWidget(kickuserbtn);
     showlist = flipButton(this, "showlist", pointsLeft, tr("Show/Hide partecipants"));
+}
+
+/// Says how others come in, and lets them be chosen.
+QWidget *frmConference::makeInviteHint()
+{
+    m_inviteHint = named(new QLabel(m_listSide), "inviteHint");
+    m_inviteHint->setTextFormat(Qt::RichText);
+    m_inviteHint->setWordWrap(true);
+    m_inviteHint->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    QPalette muted = m_inviteHint->palette();
+    muted.setColor(QPalette::WindowText, mutedTextColour(muted));
+    m_inviteHint->setPalette(muted);
+    const Participants &rows = m_conference->partecipanti();
+    connect(&rows, &Participants::rowsInserted, this, &frmConference::showInviteHint);
+    connect(&rows, &Participants::rowsRemoved, this, &frmConference::showInviteHint);
+    connect(m_inviteHint, &QLabel::linkActivated, this, &frmConference::openInviteMenu);
+    showInviteHint();
+    return m_inviteHint;
+}
+
+void frmConference::showInviteHint()
+{
+    const QString sentence = tr("Nobody else is here yet.");
+    const bool isAlone = m_conference && m_conference->partecipanti().rowCount() < 2;
+    const QString link = isAlone ? tr("Invite somebody...") : tr("Invite somebody else...");
+    const QString shown = QStringLiteral("<a href=\"invite\">%1</a>").arg(link);
+    m_inviteHint->setText(isAlone ? sentence + QLatin1Char(' ') + shown : shown);
+    m_inviteHint->setAccessibleName(isAlone ? sentence : link);
+}
+
+/// Those who can come: who is there, and is not in it already.
+void frmConference::openInviteMenu()
+{
+    if (!m_conference)
+        return;
+    auto *const menu = named(new QMenu(this), "inviteMenu");
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const ContactAddress &ip : m_conference->invitable()) {
+        QAction *const one = menu->addAction(menuName(m_conference->nameOf(ip)));
+        connect(one, &QAction::triggered, this, [this, ip] {
+            if (m_conference)
+                m_conference->invite(ip);
+        });
+    }
+    if (menu->isEmpty())
+        menu->addAction(tr("No other contact is online"))->setEnabled(false);
+    menu->popup(m_inviteHint->mapToGlobal(m_inviteHint->rect().bottomLeft()));
 }
 
 void frmConference::buildAvatars()

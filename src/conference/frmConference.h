@@ -39,12 +39,15 @@ private:
     void buildControls();
     void buildParticipants();
     void buildAvatars();
+    QWidget *makeInviteHint();
     QWidget *makeStatusBar();
     void connectControls();
 
     void Form_Resize();
     void kickuserbtn_Click();
     void refreshlistbtn_Click();
+    void showInviteHint();
+    void openInviteMenu();
     void showlist_Click();
     void showavatars_Click();
     void partecipanti_ItemClick();
@@ -62,6 +65,7 @@ private:
     AvatarPicture *m_avatarPicture = nullptr;
     QLabel *AvatarLabel = nullptr;
     QLabel *NoAvatarImg = nullptr;
+    QLabel *m_inviteHint = nullptr; ///< only where the conference is hosted here
     QLabel *m_panel = nullptr;
     QWidget *m_listSide = nullptr;
 };

@@ -17,10 +17,21 @@ void ParticipantsProxy::setGround(const QColor &ground)
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1), {Qt::ForegroundRole});
 }
 
+void ParticipantsProxy::setOver(const QPalette &palette)
+{
+    m_over = mutedTextColour(palette);
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+}
+
 QVariant ParticipantsProxy::data(const QModelIndex &index, int role) const
 {
     switch (role) {
+    case Participants::PictureRole:
+        return m_over.isValid() ? QVariant(QString()) : QIdentityProxyModel::data(index, role);
     case Qt::ForegroundRole: {
+        if (m_over.isValid())
+            return QBrush(m_over);
         const QVariant colour = QIdentityProxyModel::data(index, Participants::ColourRole);
         return colour.isValid() ? QVariant(QBrush(readableOn(screenColour(colour.toUInt()), m_ground))) : QVariant();
     }

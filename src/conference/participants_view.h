@@ -16,10 +16,13 @@ public:
 
     /// The ground on which the colours must be readable.
     void setGround(const QColor &ground);
+    /// Nobody is there any more: no picture of presence, and the names are muted.
+    void setOver(const QPalette &palette);
     QVariant data(const QModelIndex &index, int role) const override;
 
 private:
     QColor m_ground = Qt::white;
+    QColor m_over; ///< of the names; invalid before the end
 };
 
 } // namespace nimb

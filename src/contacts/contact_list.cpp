@@ -76,10 +76,18 @@ QString presenceWord(Presence presence)
 }
 
 /// Whoever is offline does nothing else, whatever was heard last.
+QString ownWordsOrPresenceOf(const Contact &contact)
+{
+    if (contact.presence == Presence::offline)
+        return presenceWord(contact.presence);
+    const QString words = ownWordsOf(contact.state);
+    const bool isToBeSaid = contact.presence == Presence::busy || contact.presence == Presence::away;
+    return words.isEmpty() && isToBeSaid ? presenceWord(contact.presence) : words;
+}
+
 QString wordsOf(const Contact &contact)
 {
-    const QString words
-        = contact.presence == Presence::offline ? presenceWord(contact.presence) : ownWordsOf(contact.state);
+    const QString words = ownWordsOrPresenceOf(contact);
     if (contact.toBeSent == 0)
         return words;
     const QString waiting = ContactList::tr("%1 to be sent").arg(contact.toBeSent);
@@ -385,9 +393,9 @@ QString ContactList::readOut(const Row &row) const
     const QString name
         = sharesName(row) ? QStringLiteral("%1 (%2)").arg(contact.nickname, contact.ip.text()) : contact.nickname;
     QStringList parts{name, presenceWord(contact.presence)};
-    if (const QString words = wordsOf(contact); !words.isEmpty() && contact.presence != Presence::offline)
+    if (const QString words = ownWordsOrPresenceOf(contact); !words.isEmpty() && words != parts.back())
         parts.append(words);
-    if (contact.toBeSent > 0 && contact.presence == Presence::offline)
+    if (contact.toBeSent > 0)
         parts.append(tr("%1 to be sent").arg(contact.toBeSent));
     if (contact.unread() > 0)
         parts.append(tr("%1 unread").arg(contact.unread()));

@@ -77,7 +77,8 @@ public:
     enum Column { Nickname, Workstation, IpAddress, State, PrivateWin, AvatarNum, StateText, ColumnCount };
     /// UnreadRole: how many messages nobody has seen. SharesNameRole: another contact has a name that looks like this
     /// one's. LastMessageRole: when the last message came. HiddenRole: another row stands for this one. PresenceRole: a
-    /// Presence, as int. WordsRole: what is said about the contact beside its presence, or "offline".
+    /// Presence, as int. WordsRole: what is said about the contact beside its presence; where nothing
+    /// is, "away" and "busy"; always "offline".
     enum Role {
         KeyRole = Qt::UserRole,
         TagRole,

@@ -23,7 +23,8 @@ void Conversation::Clearbtn_Click()
     RichTextLog &log = conversationView().outtext();
     log.clear();
     history().cleared(keptAs());
-    m_earliest.reset();
+    ++m_cleared;
+    m_waitsForEarlier = false;
     m_hasUnread = false;
     log.setSelFont(font);
     const QDateTime now = m_services.clock.now();
@@ -83,15 +84,18 @@ void Conversation::appendMessage(const Writer &writer, const QString &text, cons
 
 void Conversation::showEarlier()
 {
-    if (m_waitsForEarlier || !history().isKept(keptAs().address))
+    if (m_waitsForEarlier || m_hasAllEarlier || !history().isKept(keptAs().address))
         return;
     m_waitsForEarlier = true;
-    const auto show = [self = std::weak_ptr(m_self)](const std::vector<StoredMessage> &messages) {
+    const auto show = [self = std::weak_ptr(m_self), cleared = m_cleared](const std::vector<StoredMessage> &messages) {
         const auto there = self.lock();
         if (!there)
             return;
         Conversation &conversation = **there;
+        if (conversation.m_cleared != cleared)
+            return; // they are asked for again when what was cleared is brought back
         conversation.m_waitsForEarlier = false;
+        conversation.m_hasAllEarlier = messages.empty();
         if (messages.empty())
             return;
         conversation.m_earliest = messages.front().number;

@@ -105,6 +105,8 @@ private:
     int m_lastNumber = 0;                   ///< of a message that was not just sent
     std::optional<std::int64_t> m_earliest; ///< number of the first kept message that is shown
     bool m_waitsForEarlier = false;
+    bool m_hasAllEarlier = false;
+    int m_cleared = 0;                      ///< how often
     std::shared_ptr<Conversation *> m_self; ///< for answers that may come when this is gone
 };
 

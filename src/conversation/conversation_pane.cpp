@@ -17,6 +17,7 @@
 #include "widgets/band.h"
 #include "widgets/form_layout.h"
 #include "widgets/form_text.h"
+#include "widgets/former_size.h"
 #include "widgets/tool_button.h"
 #include "widgets/tool_row.h"
 #include "widgets/window_attention.h"
@@ -65,6 +66,8 @@ ConversationPane::ConversationPane(Conversation &conversation, const Conversatio
     tools.logRoom.join(*m_outtext, [this] { return m_conversation && m_conversation->isSpared(); });
     intext->setSpelling(tools.spelling);
     QAccessible::installFactory(makeAccessibleWindow); // again and again, which Qt ignores
+    parent->installEventFilter(this);
+    m_formerSize = new FormerSize(*parent); // which owns it
     intext->setFocus();
 }
 
@@ -282,7 +285,8 @@ void ConversationPane::offerRest(const QString &rest)
 
 void ConversationPane::showHistoryBand()
 {
-    historyBand->setVisible(!m_needsRoom && m_conversation && m_conversation->history().isToBeAsked());
+    historyBand->setVisible(!m_needsRoom && m_conversation && !m_conversation->isOver()
+                            && m_conversation->history().isToBeAsked());
 }
 
 /// A conference has no address of its own to be found by.
@@ -343,6 +347,12 @@ void ConversationPane::Emoticbtn_Click(bool shown)
     ListViewEmot->setVisible(shown);
     if (EmojiTable::isThere())
         showEmoji(shown);
+    // Who chooses an emoji still sees what he answers: where there is no room for both, the window grows meanwhile.
+    constexpr int linesBeside = 6; // one of them the empty one at the end
+    const int frame = 2 * (m_outtext->frameWidth() + qRound(m_outtext->document()->documentMargin()));
+    m_outtext->setMinimumHeight(shown ? linesBeside * m_outtext->heightOfLine() + frame : 0);
+    if (shown)
+        m_formerSize->growOnce();
     Q_EMIT emoticonsToggled();
 }
 
@@ -438,6 +448,8 @@ void ConversationPane::setInputEnabled(bool enabled)
 {
     intext->setEnabled(enabled);
     sendbtn->setEnabled(enabled);
+    showHistoryBand();
+    Q_EMIT inputEnabled(enabled);
 }
 
 void ConversationPane::focusInput()
@@ -468,8 +480,25 @@ bool ConversationPane::event(QEvent *event)
 {
     const bool taken = QWidget::event(event);
     if (event->type() == QEvent::WindowActivate)
-        noteWhatIsSeen();
+        comeIntoSight();
     return taken;
+}
+
+/// A window that was minimised while it was the active one is so already when it comes back.
+bool ConversationPane::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == window() && event->type() == QEvent::WindowStateChange)
+        QMetaObject::invokeMethod(this, &ConversationPane::comeIntoSight,
+                                  Qt::QueuedConnection); // it gets its size first
+    return QWidget::eventFilter(watched, event);
+}
+
+void ConversationPane::comeIntoSight()
+{
+    if (isMinimisedOrInactive())
+        return;
+    m_outtext->showNew();
+    noteWhatIsSeen();
 }
 
 void ConversationPane::noteWhatIsSeen()

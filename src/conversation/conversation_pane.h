@@ -25,6 +25,7 @@ class Conversation;
 class EmojiPicker;
 class EmojiStock;
 class EmoticonPicker;
+class FormerSize;
 class LogRoom;
 class MessageInput;
 class RTFSubClass;
@@ -84,12 +85,15 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 Q_SIGNALS:
     /// When the last message came, for the window's status bar.
     void lastMessageChanged(const QString &text);
     void emoticonsToggled();
+    /// Not any more once the conversation is over.
+    void inputEnabled(bool enabled);
 
 private:
     void buildControls();
@@ -109,6 +113,7 @@ private:
     void findEmoji();
     void insertEmoji(const QString &emoji);
     void outtext_Change();
+    void comeIntoSight();
     void noteWhatIsSeen();
     void showRoomLeft();
     void showHistoryBand();
@@ -140,6 +145,7 @@ private:
     QVBoxLayout *m_column = nullptr;
     QHBoxLayout *m_logRow = nullptr;
     ToolRow *m_toolRow = nullptr;
+    FormerSize *m_formerSize = nullptr;
 };
 
 } // namespace nimb

@@ -5,6 +5,7 @@
 #include "widgets/message_box.h"
 
 #include <QCoreApplication>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -37,10 +38,14 @@ bool RTFSubClass::isHooked(const RichTextLogEdit &control) const
 /// The target is whole and cut already: the log holds what its search for links allows and nothing else.
 void RTFSubClass::RichTextHookProc(const QUrl &target, QWidget &parent)
 {
-    if (!m_opener.open(target))
-        warn(*parent.window(),
-             QCoreApplication::translate("RTFSubClass", "Nothing on this computer opens %1.")
-                 .arg(readableAddress(target)));
+    const auto complain = [window = QPointer<QWidget>(parent.window()), target] {
+        if (window)
+            warn(*window,
+                 QCoreApplication::translate("RTFSubClass", "Nothing on this computer opens %1.")
+                     .arg(readableAddress(target)));
+    };
+    if (!m_opener.open(target, complain))
+        complain();
 }
 
 } // namespace nimb

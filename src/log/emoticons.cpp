@@ -42,34 +42,36 @@ qsizetype firstTrigger(QStringView rest)
     return found == rest.end() ? -1 : found - rest.begin();
 }
 
-void appendBody(RichTextLog &log, QStringView rest, Colour colour)
+} // namespace
+
+void splitAtEmoticons(QStringView rest, const std::function<void(QStringView text, std::size_t picture)> &take)
 {
     int pictures = 0;
     for (;;) {
         const qsizetype trigger = firstTrigger(rest);
         if (trigger < 0)
-            return appendText(log, rest.toString(), colour);
-        appendText(log, rest.left(trigger).toString(), colour);
+            return take(rest, 0);
+        take(rest.left(trigger), 0);
         rest = rest.mid(trigger);
 
         const std::optional<Match> match = emoticonAt(rest);
         const qsizetype length = match ? match->length : 1;
-        if (match && pictures < limits::messagePictures) {
-            appendPicture(log, emoticonFragment(match->picture), rest.left(length).toString());
-            ++pictures;
-        } else {
-            appendText(log, rest.left(length).toString(), colour);
-        }
+        const bool isPicture = match && pictures < limits::messagePictures;
+        take(rest.left(length), isPicture ? match->picture : 0);
+        pictures += isPicture ? 1 : 0;
         rest = rest.mid(length);
     }
 }
 
-} // namespace
-
 void AddTextWithEmoticons(RichTextLog &log, const QString &text, Colour colour)
 {
     log.setSelContinues(true);
-    appendBody(log, shownText(text), colour);
+    splitAtEmoticons(shownText(text), [&log, colour](QStringView piece, std::size_t picture) {
+        if (picture > 0)
+            appendPicture(log, emoticonFragment(picture), piece.toString());
+        else
+            appendText(log, piece.toString(), colour);
+    });
     log.setSelContinues(false);
 }
 

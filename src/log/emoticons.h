@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace nimb
 {
 
@@ -12,5 +14,8 @@ namespace nimb
 /// behind it. The body is shown as far as limits::shownTextLength and limits::shownLines go; its lines behind the first
 /// continue the one that the caller has begun.
 void AddTextWithEmoticons(RichTextLog &log, const QString &text, Colour colour);
+
+/// Hands over the body piece by piece: text, for which the picture is 0, or what stands for that emoticon's picture.
+void splitAtEmoticons(QStringView body, const std::function<void(QStringView text, std::size_t picture)> &take);
 
 } // namespace nimb

@@ -16,12 +16,12 @@ namespace nimb
 namespace
 {
 
-std::vector<int> placesOf(const QString &word, const QTextDocument &document, Qt::CaseSensitivity sensitivity)
+/// text: has a character for each place.
+std::vector<int> placesOf(const QString &word, const QString &text, Qt::CaseSensitivity sensitivity)
 {
     std::vector<int> places;
     if (word.isEmpty())
         return places;
-    const QString text = document.toRawText(); // a character for each place
     for (qsizetype at = text.indexOf(word, 0, sensitivity); at >= 0;
          at = text.indexOf(word, at + word.size(), sensitivity))
         places.push_back(static_cast<int>(at));
@@ -50,10 +50,12 @@ FindBar::FindBar(RichTextLogEdit &log) : QWidget(&log), m_log(log)
     m_later.setSingleShot(true);
     m_later.setInterval(std::chrono::milliseconds(100));
     connect(&m_later, &QTimer::timeout, this, &FindBar::lookAgain);
-    connect(&log, &QTextEdit::textChanged, this, [this] {
+    const auto later = [this] {
         if (!isHidden() && !m_later.isActive())
             m_later.start();
-    });
+    };
+    connect(&log, &QTextEdit::textChanged, this, later);
+    connect(&log, &RichTextLogEdit::earlierChanged, this, later);
 }
 
 void FindBar::buildControls()
@@ -62,6 +64,7 @@ void FindBar::buildControls()
     findText->setObjectName(QStringLiteral("findText"));
     findText->setPlaceholderText(tr("Find"));
     findText->setAccessibleName(findText->placeholderText());
+    findText->setToolTip(tr("Searches what is shown here; Ctrl+H searches everything that was kept"));
     findText->setClearButtonEnabled(true);
     findText->addAction(namedPicture(QStringLiteral("search")), QLineEdit::LeadingPosition);
     findCount = new QLabel(this);
@@ -111,6 +114,7 @@ void FindBar::shut()
     hide();
     m_log.setRoomAbove(0);
     m_log.setFound({}, 0);
+    m_log.setFoundEarlier({}, 0, -1);
     if (m_before)
         m_before->setFocus();
 }
@@ -120,7 +124,7 @@ void FindBar::search()
     if (isHidden())
         return;
     findPlaces();
-    m_current = static_cast<qsizetype>(m_places.size()) - 1;
+    m_current = allPlaces() - 1;
     showCount();
     selectPlace();
 }
@@ -130,8 +134,11 @@ void FindBar::findPlaces()
     m_later.stop();
     m_log.writeGathered();
     const QString word = findText->text();
-    m_places = placesOf(word, *m_log.document(), findCase->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive);
+    const auto sensitivity = findCase->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive;
+    m_earlier = placesOf(word, m_log.earlierText(), sensitivity);
+    m_places = placesOf(word, m_log.document()->toRawText(), sensitivity);
     m_log.setFound(m_places, static_cast<int>(word.size()));
+    m_log.setFoundEarlier(m_earlier, static_cast<int>(word.size()), -1);
     m_later.stop();
 }
 
@@ -140,10 +147,15 @@ void FindBar::lookAgain()
 {
     if (isHidden())
         return;
+    const bool wasInEarlier = isInEarlier();
+    const auto fromLog = static_cast<qsizetype>(m_earlier.size()) - m_current; // others come in front of them only
     findPlaces();
+    const auto earlier = static_cast<qsizetype>(m_earlier.size());
     const auto selected = std::ranges::lower_bound(m_places, m_log.textCursor().selectionStart());
-    const auto last = static_cast<qsizetype>(m_places.size()) - 1;
-    m_current = qMin(static_cast<qsizetype>(selected - m_places.begin()), last);
+    m_current = wasInEarlier ? qMax<qsizetype>(earlier - fromLog, 0) : earlier + (selected - m_places.begin());
+    m_current = qMin(m_current, allPlaces() - 1);
+    if (isInEarlier())
+        m_log.setFoundEarlier(m_earlier, static_cast<int>(findText->text().size()), m_current);
     showCount();
 }
 
@@ -151,7 +163,7 @@ void FindBar::step(int by)
 {
     if (m_later.isActive())
         lookAgain();
-    const auto count = static_cast<qsizetype>(m_places.size());
+    const qsizetype count = allPlaces();
     if (count == 0)
         return search();
     m_current = (m_current + by + count) % count;
@@ -167,7 +179,7 @@ void FindBar::showCount()
     if (findText->text().isEmpty())
         findCount->clear();
     else if (isFound)
-        findCount->setText(tr("%1 of %2").arg(m_current + 1).arg(m_places.size()));
+        findCount->setText(tr("%1 of %2").arg(m_current + 1).arg(allPlaces()));
     else
         findCount->setText(tr("Not found"));
 }
@@ -176,9 +188,13 @@ void FindBar::selectPlace()
 {
     if (m_current < 0)
         return;
+    const int length = static_cast<int>(findText->text().size());
+    m_log.setFoundEarlier(m_earlier, length, isInEarlier() ? m_current : -1);
+    if (isInEarlier())
+        return m_log.seeEarlier(m_earlier[static_cast<std::size_t>(m_current)]);
     QTextCursor found(m_log.document());
-    found.setPosition(m_places[static_cast<std::size_t>(m_current)]);
-    found.setPosition(found.position() + static_cast<int>(findText->text().size()), QTextCursor::KeepAnchor);
+    found.setPosition(m_places[static_cast<std::size_t>(m_current) - m_earlier.size()]);
+    found.setPosition(found.position() + length, QTextCursor::KeepAnchor);
     m_log.setTextCursor(found);
     m_log.ensureCursorVisible();
 }

@@ -17,7 +17,8 @@ namespace nimb
 class RichTextLogEdit;
 
 /// Lies over the top of its log, whose text makes room for it. Ctrl+F in the log's window shows it, Esc hides it. All
-/// places are marked, one of them is selected; the search begins with the newest, for that is what one has just read.
+/// places are marked, one of them is selected; the search begins with the newest, for that is what one has just read,
+/// and goes up into the earlier messages that are painted above the log.
 class FindBar : public QWidget
 {
     Q_OBJECT
@@ -39,6 +40,8 @@ private:
     /// By one to the newer or the older, around the ends.
     void step(int by);
     void findPlaces();
+    qsizetype allPlaces() const { return static_cast<qsizetype>(m_earlier.size() + m_places.size()); }
+    bool isInEarlier() const { return m_current >= 0 && m_current < static_cast<qsizetype>(m_earlier.size()); }
     void lookAgain();
     void showCount();
     void selectPlace();
@@ -51,8 +54,9 @@ private:
     QToolButton *findPrevious = nullptr;
     QToolButton *findNext = nullptr;
     QToolButton *findClose = nullptr;
-    std::vector<int> m_places; ///< in the text, the oldest first
-    qsizetype m_current = -1;  ///< of them
+    std::vector<int> m_earlier; ///< in the text of the earlier messages, the oldest first
+    std::vector<int> m_places;  ///< in that of the log
+    qsizetype m_current = -1;   ///< of both, those of the earlier messages first
     QTimer m_later;
     QPointer<QWidget> m_before; ///< had the focus before the bar was opened
 };

@@ -22,9 +22,10 @@ enum Property {
     timeShown,     ///< text
     dayShown,      ///< Julian day
     beginsNew,
+    yearShown,
 };
 
-constexpr double heightOfLine = 135;           // percent
+constexpr double lineHeight = 135;             // percent
 constexpr int gapOfWriter = 2, gapOfOther = 6; // pixels
 constexpr int markEdge = 12, besideMark = 8;   // pixels, beside what is painted
 
@@ -45,7 +46,7 @@ QTextBlockFormat line()
 {
     QTextBlockFormat format;
     format.setIndent(1); // at the side from which the line is read
-    format.setLineHeight(heightOfLine, QTextBlockFormat::ProportionalHeight);
+    format.setLineHeight(lineHeight, QTextBlockFormat::ProportionalHeight);
     format.setTopMargin(gapOfWriter);
     return format;
 }
@@ -161,7 +162,19 @@ QString LogMarks::dayOf(const QTextBlockFormat &line)
     if (!line.hasProperty(dayShown))
         return {};
     return QLocale().toString(QDate::fromJulianDay(line.property(dayShown).toLongLong()),
-                              QStringLiteral("dddd, d MMMM"));
+                              line.hasProperty(yearShown) ? QStringLiteral("dddd, d MMMM yyyy")
+                                                          : QStringLiteral("dddd, d MMMM"));
+}
+
+void LogMarks::setYearShown(QTextBlockFormat &line)
+{
+    line.setProperty(yearShown, true);
+}
+
+void LogMarks::setFoundLook(QTextCharFormat &text)
+{
+    text.setBackground(QColor(0xFF, 0xD5, 0x4F));
+    text.setForeground(QColor(0x1B, 0x1F, 0x24));
 }
 
 MessageFate LogMarks::fateOf(const QTextBlockFormat &line)
@@ -195,6 +208,11 @@ QTextBlockFormat LogMarks::withRoom(QTextBlockFormat line, const QFont &font)
     return line;
 }
 
+int LogMarks::heightOfLine(const QFont &font)
+{
+    return qRound(QFontMetrics(font).height() * lineHeight / 100) + gapOfWriter;
+}
+
 int LogMarks::marginRight(const QFont &font)
 {
     return QFontMetrics(smaller(font)).horizontalAdvance(QStringLiteral("00:00")) + markEdge + 2 * besideMark;
@@ -207,7 +225,7 @@ void LogMarks::paintGround(QPainter &painter, const Seen &line, const QPalette &
         return;
     // What a line is higher than its letters is below them, and no part of the place; the ground has half of it on
     // either side, and no gap between two of one writer.
-    const double half = QFontMetrics(line.block.charFormat().font()).height() * (heightOfLine - 100) / 200;
+    const double half = QFontMetrics(line.block.charFormat().font()).height() * (lineHeight - 100) / 200;
     const double above = format.topMargin() <= gapOfWriter ? format.topMargin() : 0;
     const QRectF place = line.place.adjusted(0, -half - above, 0, half);
     painter.fillRect(QRectF(0, place.top(), painter.viewport().width(), place.height()).toAlignedRect(),

@@ -12,6 +12,7 @@ class QFontMetrics;
 class QPainter;
 class QPalette;
 class QRect;
+class QTextCharFormat;
 class QTextDocument;
 
 namespace nimb
@@ -41,6 +42,8 @@ public:
     static QTextBlockFormat withRoom(QTextBlockFormat line, const QFont &font);
     /// Room at the right side in which times are painted, in pixels.
     static int marginRight(const QFont &font);
+    /// Of a line with the gap to the one before, in pixels.
+    static int heightOfLine(const QFont &font);
     static bool hasRoomAbove(const QTextBlockFormat &line);
     static bool isOwnMessage(const QTextBlockFormat &line);
     /// What is painted beside the line; empty where nothing is.
@@ -52,6 +55,11 @@ public:
     static void setFate(QTextBlockFormat &line, MessageFate fate);
     /// See LogMessage; 0 where it has none.
     static int numberOf(const QTextBlockFormat &line);
+    /// The day that is painted above it is of another year than this, which it says.
+    static void setYearShown(QTextBlockFormat &line);
+
+    /// Of what a search has found.
+    static void setFoundLook(QTextCharFormat &text);
 
     /// One line of the log as it is seen: where it lies, without the room above it.
     struct Seen {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "base/rich_text.h"
-#include "log/earlier_messages.h"
 #include "log/log_marks.h"
 #include "log/log_pictures.h"
 #include "log/screen_readers.h"
@@ -16,13 +15,16 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
 namespace nimb
 {
 
+class EarlierMessages;
 class FindBar;
+struct StoredMessage;
 
 /// Bounded: beyond limits::logLines, logCharacters and logPictures the oldest lines go. Lines that are broken because
 /// the window is narrow, and those that continue another, are indented. What is written is gathered and goes in at most
@@ -54,6 +56,11 @@ public:
     double fullness() const;
     /// False when there is no line to drop.
     bool dropOldestTenth();
+    /// Where the log was out of sight when new text came, and has grown by more than can be seen at once: goes to where
+    /// the new text begins.
+    void showNew();
+    /// Pixels that a line takes, without what is painted above it.
+    int heightOfLine() const;
     /// Room above and below the text, in pixels, for what would lie over it.
     void setRoomAbove(int room);
     void setRoomBelow(int room);
@@ -67,12 +74,19 @@ public:
         QColor ground; ///< to which its colours are adapted
         qsizetype pictures = 0;
         bool hasMargin = false;
+        std::shared_ptr<EarlierMessages> earlier{}; ///< null where there are none
     };
     Kept kept();
     /// In front of what is there now, whose first characters it replaces.
     void bringBack(const Kept &kept, qsizetype replaced);
     /// Marks these places of the text, each of this many characters, in the order of the text.
     void setFound(std::vector<int> places, int length);
+    /// The text of the earlier messages, a character for each place.
+    QString earlierText() const;
+    /// The same there, where one of the places, by its number, can be the one that the reader has come to.
+    void setFoundEarlier(std::vector<int> places, int length, qsizetype current);
+    /// Brings this place there into sight; nothing of the log is selected any more.
+    void seeEarlier(int position);
 
     qsizetype textLength() const override;
     void setSelStart(qsizetype position) override;
@@ -101,8 +115,10 @@ Q_SIGNALS:
     void endReached();
     /// What screen readers have been told of new text.
     void toldReaders(const QString &text);
-    /// The reader has come near the first of the earlier messages.
+    /// The reader has come near the first of the earlier messages, or sees it anyway.
     void earlierWanted();
+    /// There are others, or none any more.
+    void earlierChanged();
     /// So many lines have come since the reader has left the end.
     void linesBelow(int lines);
 
@@ -139,6 +155,8 @@ private:
     void setNewLine(bool isNew);
     /// The earlier messages in the width and the font as they are now.
     void placeEarlier();
+    /// While there is room for more of them in sight, or nearly so.
+    void askForEarlier();
     /// Room for the marks as the font is now.
     void makeRoom();
     std::vector<LogMarks::Seen> linesIn(const QRect &place) const;
@@ -162,12 +180,15 @@ private:
     LogPictures::Scale pictureScale() const;
     QColor linkColour() const;
     QTextCharFormat commandFormat() const;
+    /// What the link at this place leads to, be it in the log or above it.
+    QString targetAt(const QPoint &place) const;
     QUrl linkAt(const QPoint &place) const;
     /// Empty where there is none.
     QString commandAt(const QPoint &place) const;
 
     QTextCursor m_caret;
     QTextCursor m_new; ///< at the beginning of what is new; null while nothing is
+    bool m_newIsUnseen = false;
     QTextCharFormat m_format;
     bool m_continues = false;
     bool m_isOwn = false;
@@ -190,8 +211,9 @@ private:
     int m_foundLength = 0;
     QHash<QRgb, QColor> m_adapted; ///< colours of the document as they are shown on this ground
     int m_insetAbove = 0, m_insetBelow = 0, m_roomAbove = 0, m_roomBelow = 0;
-    EarlierMessages m_earlier;
+    std::shared_ptr<EarlierMessages> m_earlier; ///< once there are some
     int m_earlierHeight = 0;
+    QTimer m_roomForEarlier; ///< asks for more of them
     ScreenReaders m_screenReaders;
     LogPictures *m_pictures;
     FindBar *m_findBar = nullptr;

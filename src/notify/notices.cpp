@@ -15,6 +15,11 @@ QString counted(const QString &text, int count)
     return count > 1 ? QStringLiteral("%1 (%2)").arg(text, QString::number(count)) : text;
 }
 
+QString messagesAsWell(int count)
+{
+    return count > 1 ? Notices::tr("%1 new messages").arg(count) : Notices::tr("1 new message");
+}
+
 } // namespace
 
 Notices::Notices(const Parts &parts)
@@ -63,22 +68,27 @@ bool Notices::isQuietAbout(Ipv4Address ip) const
     return m_parts.common.ownPresence.base == BaseState::busy || (contact && contact->muted);
 }
 
-Notice Notices::noticeOf(const News &news, int count) const
+Notice Notices::noticeOf(const News &news, const Unseen &unseen) const
 {
     const QString name = paintedName(news.name);
     Notice notice{.place = news.place, .title = name, .picture = QStringLiteral("message"), .mayBeAnswered = true};
-    if (news.isBuzz || news.place.window == NoticeWindow::invitations) {
-        const QString sentence = news.isBuzz ? tr("%1 buzzes you") : tr("%1 invites you to a conference");
-        notice.text = notice.line = counted(sentence.arg(name), count);
-        notice.mayBeAnswered = news.isBuzz;
-        if (news.isBuzz)
-            notice.picture = QStringLiteral("buzz");
+    if (news.place.window == NoticeWindow::invitations) {
+        notice.text = notice.line = counted(tr("%1 invites you to a conference").arg(name), unseen.messages);
+        notice.mayBeAnswered = false;
+        return notice;
+    }
+    const QString buzz = counted(tr("%1 buzzes you").arg(name), unseen.buzzes);
+    if (news.isBuzz) {
+        notice.picture = QStringLiteral("buzz");
+        notice.text = unseen.messages > 0 ? tr("%1 · %2").arg(buzz, messagesAsWell(unseen.messages)) : buzz;
+        notice.line = notice.text;
         return notice;
     }
     if (news.place.window == NoticeWindow::conference)
         notice.title = tr("%1 in conference #%2").arg(name, QString::number(news.place.conference));
-    notice.title = counted(notice.title, count);
-    notice.text = shownMessage(news.text, count);
+    notice.title = counted(notice.title, unseen.messages);
+    const QString message = shownMessage(news.text, unseen.messages);
+    notice.text = unseen.buzzes > 0 ? tr("%1 · %2").arg(message, buzz) : message;
     notice.line = tr("%1: %2").arg(notice.title, notice.text);
     return notice;
 }
@@ -93,7 +103,8 @@ QString Notices::shownMessage(const QString &text, int count) const
 
 void Notices::tell(const News &news, bool wantsSound)
 {
-    int &count = m_unseen[news.place].count;
+    Unseen &unseen = m_unseen[news.place];
+    int &count = news.isBuzz ? unseen.buzzes : unseen.messages;
     count = std::min(count + 1, limits::unreadCounted);
     if (isQuietAbout(news.place.ip))
         return;
@@ -117,7 +128,7 @@ void Notices::showWaiting()
     for (const News &news : std::exchange(m_waiting, {})) {
         Unseen &unseen = m_unseen[news.place];
         unseen.isShown = true;
-        show(noticeOf(news, unseen.count));
+        show(noticeOf(news, unseen));
     }
 }
 

@@ -59,7 +59,8 @@ private:
         bool isBuzz = false;
     };
     struct Unseen {
-        int count = 0;
+        int messages = 0; ///< or invitations
+        int buzzes = 0;
         bool isShown = false;
     };
 
@@ -67,7 +68,7 @@ private:
     void tell(const News &news, bool wantsSound);
     void showWaiting();
     void playSound();
-    Notice noticeOf(const News &news, int count) const;
+    Notice noticeOf(const News &news, const Unseen &unseen) const;
     /// What a message says, as far as the user wants that to be seen.
     QString shownMessage(const QString &text, int count) const;
 

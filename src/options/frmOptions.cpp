@@ -252,7 +252,7 @@ void frmOptions::addOption(const OptionRow &row, QVBoxLayout &column)
 QGroupBox *frmOptions::makeFont()
 {
     auto *const group = new QGroupBox(tr("Font of the logs"), this);
-    m_fontSample = new ElidedLabel(group);
+    m_fontSample = named(new ElidedLabel(group), "fontSample");
     // The largest font must not make the dialog jump.
     m_fontSample->setFixedHeight(44);
     m_fontSample->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -419,8 +419,11 @@ void frmOptions::font_btn_Click()
 
 void frmOptions::showFont()
 {
+    const QFont shown = fontOf(m_font);
     QString text = tr("%1, %2 points").arg(m_font.face).arg(m_font.size);
-    m_fontSample->setFont(fontOf(m_font));
+    if (m_font == LogFont()) // what is stored before anybody has chosen
+        text = tr("the desktop's font: %1, %2 points").arg(shown.family()).arg(shown.pointSizeF());
+    m_fontSample->setFont(shown);
     m_fontSample->setText(text);
     m_fontSample->setToolTip(text);
 }

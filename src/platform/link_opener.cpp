@@ -1,6 +1,9 @@
 #include "platform/link_opener.h"
 
+#include "platform/watched_start.h"
+
 #include <QDesktopServices>
+#include <QStandardPaths>
 #include <QStringList>
 
 namespace nimb
@@ -18,19 +21,34 @@ bool mayBeOpened(const QUrl &address)
     return schemes.contains(address.scheme()) && !address.host().isEmpty();
 }
 
-} // namespace
-
-bool DesktopLinkOpener::open(const QUrl &address)
+/// The address goes to the handler percent-encoded, as one argument and without a shell.
+bool openWith(const DesktopHandler &handler, const QUrl &address, std::function<void()> failed)
 {
-    // The address goes to the handler percent-encoded, as one argument and without a shell.
-    return mayBeOpened(address) && QDesktopServices::openUrl(address);
+    const QString program = handler ? handler() : QString();
+    if (program.isEmpty())
+        return QDesktopServices::openUrl(address);
+    return startWatched(program, QString::fromLatin1(address.toEncoded()), std::move(failed));
 }
 
-bool DesktopPageOpener::open(const QUrl &address)
+} // namespace
+
+QString desktopHandler()
+{
+    const bool isSandboxed = qEnvironmentVariableIsSet("SNAP")
+        || !QStandardPaths::locate(QStandardPaths::RuntimeLocation, QStringLiteral("flatpak-info")).isEmpty();
+    return isSandboxed ? QString() : QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+}
+
+bool DesktopLinkOpener::open(const QUrl &address, std::function<void()> failed)
+{
+    return mayBeOpened(address) && openWith(m_handler, address, std::move(failed));
+}
+
+bool DesktopPageOpener::open(const QUrl &address, std::function<void()> failed)
 {
     const bool isPage
         = address.isLocalFile() && address.host().isEmpty() && address.path().endsWith(QLatin1String(".html"));
-    return isPage && QDesktopServices::openUrl(address);
+    return isPage && openWith(m_handler, address, std::move(failed));
 }
 
 } // namespace nimb

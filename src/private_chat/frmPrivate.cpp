@@ -4,6 +4,7 @@
 #include "conversation/message_input.h"
 #include "log/rich_text_log.h"
 #include "private_chat/live_type.h"
+#include "private_chat/live_type_box.h"
 #include "private_chat/mood_gauge.h"
 #include "private_chat/peer_header.h"
 #include "private_chat/private_chat.h"
@@ -46,12 +47,8 @@ frmPrivate::frmPrivate(PrivateChat &chat, const ConversationTools &tools)
 
 void frmPrivate::buildControls()
 {
-    futuretype = named(new QPlainTextEdit(this), "futuretype");
-    futuretype->setReadOnly(true);
-    futuretype->setFocusPolicy(Qt::NoFocus);
+    futuretype = named(new LiveTypeBox(this), "futuretype");
     futuretype->setAccessibleName(tr("What the peer is typing"));
-    futuretype->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    futuretype->viewport()->setBackgroundRole(QPalette::AlternateBase); // lies over the log, whose ground is Base
     futuretype->hide();
     makeTools();
     m_pane->putBesideLog(makeSidePanels());
@@ -177,7 +174,7 @@ void frmPrivate::intext_Change()
         m_chat->intext_Change(m_pane->typedText());
 }
 
-/// The preview grows upwards over the lower part of the log, whose lines make room for it.
+/// The preview grows upwards over the lower part of the log, whose lines make room for what is seen of it.
 void frmPrivate::futuretype_Change()
 {
     constexpr double aboveLogsEnd = 340; // twips
@@ -189,7 +186,8 @@ void frmPrivate::futuretype_Change()
     futuretype->setGeometry(log.left() + inset, log.bottom() + 1 - boxHeight - pixels(aboveLogsEnd),
                             log.width() - 2 * inset - outtext.verticalScrollBar()->sizeHint().width(), boxHeight);
     futuretype->raise();
-    m_pane->log().setRoomBelow(futuretype->isHidden() ? 0 : boxHeight + pixels(aboveLogsEnd) + inset);
+    const int seen = futuretype->fit();
+    m_pane->log().setRoomBelow(futuretype->isHidden() ? 0 : seen + pixels(aboveLogsEnd) + inset);
 }
 
 void frmPrivate::moodbtn_Click(bool shown)

@@ -9,7 +9,6 @@ class QCheckBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
-class QPlainTextEdit;
 class QToolButton;
 
 namespace nimb
@@ -18,6 +17,7 @@ namespace nimb
 class AvatarPicture;
 class ConversationPane;
 struct ConversationTools;
+class LiveTypeBox;
 class MoodGauge;
 class PeerHeader;
 
@@ -69,7 +69,7 @@ private:
     ConversationPane *m_pane;
     PeerHeader *m_header = nullptr;
     QLineEdit *rIP = nullptr;
-    QPlainTextEdit *futuretype = nullptr;
+    LiveTypeBox *futuretype = nullptr;
     QToolButton *BuzzBtn = nullptr;
     QToolButton *moodbtn = nullptr;
     QToolButton *AvatarBtn = nullptr;

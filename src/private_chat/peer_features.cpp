@@ -39,7 +39,7 @@ void PeerFeatures::typing(Ipv4Address ip)
 {
     const QString text = tr("%1 is typing a message...").arg(paintedName(m_parts.contacts.find(ip)->nickname));
     if (PrivateChat *const window = windowOf(ip))
-        window->showPeerActivity(text);
+        window->typing(text);
     else
         m_parts.activity.show(text);
 }

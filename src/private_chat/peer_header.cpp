@@ -1,5 +1,6 @@
 #include "private_chat/peer_header.h"
 
+#include "base/own_presence.h"
 #include "base/remote_text.h"
 #include "widgets/avatar_image.h"
 #include "widgets/band.h"
@@ -18,6 +19,7 @@ namespace
 {
 
 using form_layout::margin;
+using form_layout::spacing;
 
 constexpr int faceSide = 36;
 constexpr qsizetype longestNameOnButton = 20; ///< characters
@@ -59,9 +61,18 @@ QString presenceText(Presence presence)
     return PeerHeader::tr("Not known to be there");
 }
 
+/// "Busy - In a meeting": as in a sentence, whatever the letters in which the peer has sent it.
+QString stateText(const PeerShown &peer)
+{
+    const QString words = ownWordsOf(peer.state);
+    if (words.isEmpty() || !isPresent(peer.presence))
+        return presenceText(peer.presence);
+    return words == peer.state ? words : withOwnWords(presenceText(peer.presence), words);
+}
+
 QString detailsOf(const PeerShown &peer)
 {
-    QStringList details{peer.state.isEmpty() ? presenceText(peer.presence) : peer.state};
+    QStringList details{stateText(peer)};
     if (peer.delivery == Delivery::toNoContact)
         details = {PeerHeader::tr("No contact any more")};
     if (!peer.workstation.isEmpty())
@@ -104,6 +115,8 @@ PeerHeader::PeerHeader(QWidget *parent) : QWidget(parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(makeHead());
+    m_gap = new QSpacerItem(0, 0);
+    column->addItem(m_gap); // takes it over
     column->addWidget(makeBandRow());
 }
 
@@ -167,6 +180,9 @@ void PeerHeader::setPeer(const PeerShown &peer)
     sendLaterBtn->setText(tr("Send when %1 is back").arg(name));
     sendLaterBtn->setVisible(peer.canWait);
     m_bandRow->setVisible(!warning.isEmpty());
+    // Without a band it is the log that keeps its distance.
+    m_gap->changeSize(0, warning.isEmpty() ? 0 : spacing);
+    layout()->invalidate();
 }
 
 void PeerHeader::setAvatar(const std::optional<QByteArray> &picture)

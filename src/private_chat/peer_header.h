@@ -9,6 +9,8 @@
 class QLabel;
 class QPushButton;
 
+class QSpacerItem;
+
 namespace nimb
 {
 
@@ -40,6 +42,7 @@ private:
     QLabel *peerBand = nullptr;
     QPushButton *sendLaterBtn = nullptr;
     QWidget *m_bandRow = nullptr;
+    QSpacerItem *m_gap = nullptr; ///< above the band
 };
 
 } // namespace nimb

@@ -23,7 +23,7 @@ PrivateChat::PrivateChat(const Services &services, std::function<void()> unloade
                          std::function<void()> read)
     : Conversation(services.conversation, std::move(unloaded)), m_services(services),
       m_autoReplyTimer(services.timers.oneShot(limits::autoReplyPause, [] {})),
-      m_timer(services.timers.oneShot(peerActivityShown, [this] { m_view->setPeerActivity({}); })),
+      m_timer(services.timers.oneShot(peerActivityShown, [this] { endPeerActivity(); })),
       m_timerLiveType(services.timers.oneShot(liveTypeInterval, [this] { TimerLiveType_Timer(); })),
       m_liveTypeAge(services.timers.oneShot(liveTypeAge, [this] { m_view->setLiveType({}); })),
       m_doubt(services.timers.oneShot(unknownWithoutDoubt, [this] { doubtDelivery(); })),
@@ -181,6 +181,8 @@ void PrivateChat::MessageReceived(const QString &nik, QString &msg)
     msg = trimmedMessage(msg);
     appendReceived(peer(nik), msg);
     m_view->setLiveType({});
+    if (m_isTyping) // no more: this is what was typed
+        endPeerActivity();
     if (!mayBeAnswered)
         return;
     const AutoReply &reply = common().autoReply;
@@ -198,8 +200,22 @@ void PrivateChat::replyAutomatically(BaseState state, bool on, const QString &te
 
 void PrivateChat::showPeerActivity(const QString &text)
 {
+    m_isTyping = false;
     m_view->setPeerActivity(text);
     m_timer->start();
+}
+
+void PrivateChat::endPeerActivity()
+{
+    m_isTyping = false;
+    m_timer->stop();
+    m_view->setPeerActivity({});
+}
+
+void PrivateChat::typing(const QString &text)
+{
+    showPeerActivity(text);
+    m_isTyping = true;
 }
 
 void PrivateChat::buzzed(const QString &text)

@@ -57,6 +57,8 @@ public:
     void MessageReceived(const QString &nik, QString &msg);
     /// Shows for a moment what the peer is doing.
     void showPeerActivity(const QString &text);
+    /// The same while a message is typed, which is over when one arrives.
+    void typing(const QString &text);
     /// The same for a buzz, which the log keeps.
     void buzzed(const QString &text);
     /// Shows what the peer is typing; empty: nothing.
@@ -117,6 +119,7 @@ private:
 
     void TimerLiveType_Timer();
     void appendBuzz();
+    void endPeerActivity();
     void replyAutomatically(BaseState state, bool on, const QString &text);
 
     /// A message that was written while the peer was not there.
@@ -140,6 +143,7 @@ private:
     std::function<void()> m_sought, m_read;
     TypingNotice m_typingNotice;
     bool m_liveTypePending = false;
+    bool m_isTyping = false; ///< the peer, as far as is shown
     bool m_isContact = true;
     bool m_acquainted = false;
     bool m_attended = false;

@@ -10,5 +10,5 @@ int main(int argumentCount, char **arguments)
     const QGuiApplication application(programNameAlone, arguments);
     nimb::DesktopLinkOpener opener;
     for (int i = 1; i < argumentCount; ++i)
-        static_cast<void>(opener.open(QUrl(QString::fromLocal8Bit(arguments[i])))); // what is opened the tests see
+        static_cast<void>(opener.open(QUrl(QString::fromLocal8Bit(arguments[i])), {})); // what is opened the tests see
 }

@@ -75,10 +75,15 @@ TEST_F(ContactRows, Are32PixelsHigh)
     EXPECT_EQ(placeOf("10.0.0.3").top() - placeOf("10.0.0.2").top(), 32);
 }
 
-TEST_F(ContactRows, SayTheStateAtTheRightSideWithoutTheWordThatThePictureShows)
+TEST_F(ContactRows, SayTheStateAtTheRightSideAndAwayOrBusyWhereThereIsNone)
 {
-    windows.arrive("10.0.0.2", "!STATUS AWAY");
     EXPECT_TRUE(isBlank(rightSide("10.0.0.2")));
+    windows.arrive("10.0.0.2", "!STATUS AWAY");
+    const QImage away = rightSide("10.0.0.2");
+    EXPECT_FALSE(isBlank(away));
+    windows.arrive("10.0.0.2", "!STATUS BUSY");
+    EXPECT_FALSE(isBlank(rightSide("10.0.0.2")));
+    EXPECT_NE(rightSide("10.0.0.2"), away);
     windows.arrive("10.0.0.2", "!STATUS AWAY Lunch");
     const QImage lunch = rightSide("10.0.0.2");
     EXPECT_FALSE(isBlank(lunch));

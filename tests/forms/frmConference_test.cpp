@@ -7,6 +7,7 @@
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QToolButton>
@@ -270,6 +271,62 @@ TEST_F(FrmConference, LinksInItOpen)
     EXPECT_THAT(windows.links.opened, ElementsAre("http://fileserver/x"));
 }
 
+TEST_F(FrmConference, AnEmptyOneSaysHowToInviteAndDoesIt)
+{
+    windows.arrive("10.0.0.3", "!OFFLINE 10.0.0.3 PC Ben");
+    windows.entry("mnuCreateNewConf").trigger();
+    windows.sent();
+    auto &hint = control<QLabel>("inviteHint");
+    EXPECT_TRUE(hint.isVisible());
+    EXPECT_TRUE(hint.text().startsWith(QLatin1String("Nobody else is here yet. <a href=")));
+    Q_EMIT hint.linkActivated(QStringLiteral("invite"));
+    auto *menu = form().findChild<QMenu *>(QStringLiteral("inviteMenu"));
+    ASSERT_TRUE(menu);
+    ASSERT_EQ(menu->actions().size(), 1) << "Ben is offline";
+    EXPECT_EQ(menu->actions().front()->text(), QStringLiteral("Ann"));
+    menu->actions().front()->trigger();
+    menu->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_THAT(windows.sent(), ElementsAre(To("10.0.0.2", "?CONF INVITE #1")));
+    EXPECT_FALSE(hint.text().contains(QLatin1String("Nobody")));
+    Q_EMIT hint.linkActivated(QStringLiteral("invite"));
+    menu = form().findChild<QMenu *>(QStringLiteral("inviteMenu"));
+    ASSERT_TRUE(menu);
+    EXPECT_FALSE(menu->actions().front()->isEnabled()) << "nobody is left to be invited";
+    menu->close();
+}
+
+TEST_F(FrmConference, AJoinedOneOffersNoInvitation)
+{
+    join();
+    EXPECT_FALSE(form().findChild<QLabel *>(QStringLiteral("inviteHint")));
+}
+
+TEST_F(FrmConference, OnceItIsOverNobodyIsThereAndNothingIsAsked)
+{
+    join();
+    const QAbstractItemModel &rows = *control<QTreeView>("partecipanti").model();
+    const auto picture = [&rows](int row) { return rows.index(row, 0).data(Qt::UserRole + 2).toString(); };
+    EXPECT_EQ(picture(1), QStringLiteral("green"));
+    auto &band = control<QLabel>("historyBand");
+    EXPECT_TRUE(band.isVisible());
+    windows.arrive("10.0.0.2", "!CONF CLOSE #3");
+    EXPECT_EQ(rows.rowCount(), 3);
+    for (int row = 0; row < rows.rowCount(); ++row)
+        EXPECT_EQ(picture(row), QString()) << row;
+    EXPECT_FALSE(band.isVisible());
+}
+
+TEST_F(FrmConference, ASingleInvitationIsSelected)
+{
+    windows.arrive("10.0.0.2", "?CONF INVITE #3");
+    auto &list = RealWindows::control<QTreeView>(invitations(), "ListView1");
+    EXPECT_EQ(list.selectionModel()->selectedRows().size(), 1);
+    EXPECT_TRUE(RealWindows::control<QPushButton>(invitations(), "ConfAgreebtn").isEnabled());
+    windows.arrive("10.0.0.3", "?CONF INVITE #4");
+    EXPECT_EQ(list.selectionModel()->selectedRows().front().row(), 0) << "the other one changes nothing";
+}
+
 TEST_F(FrmConference, TheInvitationsHideInsteadOfClosing)
 {
     EXPECT_FALSE(invitations().isVisible());
@@ -301,6 +358,7 @@ TEST_F(FrmConference, OnlyPendingInvitationsAreAnswered)
     auto &list = RealWindows::control<QTreeView>(invitations(), "ListView1");
     auto &agree = RealWindows::control<QPushButton>(invitations(), "ConfAgreebtn");
     auto &deny = RealWindows::control<QPushButton>(invitations(), "ConfDenybtn");
+    list.selectionModel()->clear();
     EXPECT_FALSE(agree.isEnabled());
     list.setCurrentIndex(list.model()->index(0, 0));
     EXPECT_TRUE(agree.isEnabled());

@@ -299,6 +299,18 @@ TEST_F(FrmOptions, ChangesAreSavedAtTheEnd)
     EXPECT_EQ(windows.settings.value("Options", "NotifyWin"), "0");
 }
 
+TEST_F(FrmOptions, NamesTheDesktopsFontAsLongAsNoneIsChosen)
+{
+    openFonts();
+    const auto &sample = RealWindows::control<QLabel>(dialog(), "fontSample");
+    const QFont desktop = QGuiApplication::font();
+    EXPECT_EQ(sample.toolTip(),
+              QStringLiteral("the desktop's font: %1, %2 points").arg(desktop.family()).arg(desktop.pointSizeF()));
+    QTest::mouseClick(fontControl<QListWidget>("font_family").viewport(), Qt::LeftButton, {}, placeOf("DejaVu Serif"));
+    clickFont("font_ok");
+    EXPECT_TRUE(sample.toolTip().startsWith(QLatin1String("DejaVu Serif, "))) << sample.toolTip().toStdString();
+}
+
 TEST_F(FrmOptions, AFontIsTakenWithOk)
 {
     windows.common.logFont = {QStringLiteral("DejaVu Sans"), 9, QString()};

@@ -80,8 +80,11 @@ TEST_F(FrmPrivate, ItsHeadSaysWhoIsTalkedTo)
     EXPECT_EQ(control<QLabel>("peerDetails").text(), QStringLiteral("Online · PC · 10.0.0.2"));
     EXPECT_FALSE(control<QLabel>("peerBand").isVisible());
     windows.arrive("10.0.0.2", "!STATUS BUSY Back at five");
-    EXPECT_EQ(control<QLabel>("peerDetails").text().section(u'·', 0, 0).trimmed().right(12),
-              QStringLiteral("Back at five"));
+    EXPECT_EQ(control<QLabel>("peerDetails").text(), QStringLiteral("Busy - Back at five · PC · 10.0.0.2"));
+    windows.arrive("10.0.0.2", "!STATUS AWAY");
+    EXPECT_EQ(control<QLabel>("peerDetails").text(), QStringLiteral("Away · PC · 10.0.0.2"));
+    windows.arrive("10.0.0.2", "!STATUS Phoning");
+    EXPECT_EQ(control<QLabel>("peerDetails").text(), QStringLiteral("Phoning · PC · 10.0.0.2"));
     windows.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC-2 <b>Anna</b>");
     EXPECT_EQ(control<QLabel>("peerName").text(), QStringLiteral("<b>Anna</b>"));
     EXPECT_EQ(control<QLabel>("peerDetails").text(), QStringLiteral("Online · PC-2 · 10.0.0.2"));
@@ -150,6 +153,98 @@ TEST_F(FrmPrivate, ABandSaysThatNobodyKnowsWhetherThePeerIsThere)
     windows.time.advance(std::chrono::milliseconds(200));
     EXPECT_TRUE(band.isVisible());
     EXPECT_EQ(band.text(), QStringLiteral("Ann is not known to be there: what you write may not arrive"));
+}
+
+TEST_F(FrmPrivate, WhoWroteIsNotTypingAnyMore)
+{
+    auto &panel = control<QLabel>("StatusBar_2");
+    windows.arrive("10.0.0.2", "!TYPING");
+    EXPECT_EQ(panel.text(), QStringLiteral("Ann is typing a message..."));
+    windows.arrive("10.0.0.2", "-here it is");
+    EXPECT_EQ(panel.text(), QString());
+    windows.arrive("10.0.0.2", "!TYPING");
+    windows.time.advance(std::chrono::milliseconds(2499));
+    EXPECT_EQ(panel.text(), QStringLiteral("Ann is typing a message..."));
+    windows.time.advance(std::chrono::milliseconds(1));
+    EXPECT_EQ(panel.text(), QString());
+}
+
+TEST_F(FrmPrivate, AMessageDoesNotHideThatThePeerBuzzes)
+{
+    windows.arrive("10.0.0.2", "!TYPING");
+    windows.arrive("10.0.0.2", "!BUZZ");
+    windows.arrive("10.0.0.2", "-hello");
+    EXPECT_EQ(control<QLabel>("StatusBar_2").text(), QStringLiteral("Ann is buzzing you..."));
+}
+
+TEST_F(FrmPrivate, AWindowWithMoreThanCanBeSeenOpensWhereTheNewBegins)
+{
+    auto &button = control<QToolButton>("newLinesBtn");
+    type(QStringLiteral("before"));
+    QTest::keyClick(&intext(), Qt::Key_Return);
+    form().close();
+    for (int i = 0; i < 60; ++i)
+        windows.arrive("10.0.0.2", "-message " + std::to_string(i));
+    ASSERT_TRUE(form().isMinimized());
+    windows.doubleClick(0);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form(), 60000));
+    QCoreApplication::processEvents();
+    QTextCursor first(outtext().document()->findBlockByNumber(2));
+    EXPECT_EQ(first.block().text(), QStringLiteral("Ann> message 0"));
+    const int top = outtext().cursorRect(first).top();
+    EXPECT_GE(top, outtext().fontMetrics().height()) << "the mark above it is seen";
+    EXPECT_LE(top, 3 * outtext().fontMetrics().lineSpacing());
+    EXPECT_TRUE(button.isVisible());
+    int below = 0;
+    for (int i = 0; i < 60; ++i) {
+        const QTextCursor line(outtext().document()->findBlockByNumber(2 + i));
+        below += outtext().cursorRect(line).bottom() > outtext().viewport()->height() ? 1 : 0;
+    }
+    EXPECT_EQ(button.text(), QString::number(below));
+    EXPECT_EQ(windows.engine.contacts().find(QStringLiteral("10.0.0.2"))->unread(), 60) << "not read yet";
+
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_TRUE(outtext().isAtItsEnd());
+    EXPECT_EQ(windows.engine.contacts().find(QStringLiteral("10.0.0.2"))->unread(), 0);
+    form().showMinimized();
+    form().showNormal();
+    form().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form(), 60000));
+    EXPECT_TRUE(outtext().isAtItsEnd()) << "what was read is not gone back to";
+}
+
+TEST_F(FrmPrivate, AWindowInWhichAllThatIsNewCanBeSeenOpensAtTheEnd)
+{
+    form().close();
+    windows.arrive("10.0.0.2", "-one");
+    windows.arrive("10.0.0.2", "-two");
+    windows.doubleClick(0);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form(), 60000));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(outtext().isAtItsEnd());
+    EXPECT_FALSE(control<QToolButton>("newLinesBtn").isVisible());
+    EXPECT_EQ(windows.engine.contacts().find(QStringLiteral("10.0.0.2"))->unread(), 0);
+}
+
+TEST_F(FrmPrivate, PanelsAndStripsGiveTheWindowItsSizeBack)
+{
+    form().resize(380, 330);
+    QTRY_COMPARE(form().size(), QSize(380, 330));
+    for (const char *const panel : {"moodbtn", "AvatarBtn", "Emoticbtn"}) {
+        control<QToolButton>(panel).click();
+        QTRY_VERIFY_WITH_TIMEOUT(form().size() != QSize(380, 330) || form().minimumHeight() <= 330, 5000);
+        control<QToolButton>(panel).click();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return form().size() == QSize(380, 330); })) << panel;
+    }
+    control<QToolButton>("moodbtn").click();
+    control<QToolButton>("AvatarBtn").click();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return form().size() != QSize(380, 330); })) << "the panels need more";
+    form().resize(700, 700);
+    QCoreApplication::processEvents();
+    control<QToolButton>("moodbtn").click();
+    control<QToolButton>("AvatarBtn").click();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(form().size(), QSize(700, 700)) << "who gave it another size meanwhile keeps that";
 }
 
 TEST_F(FrmPrivate, WhoIsNoContactAnyMoreIsSaidToBeNone)
@@ -558,9 +653,62 @@ TEST_F(FrmPrivate, ThePreviewCoversNoLineOfTheLog)
     auto &log = control<QTextEdit>("outtext");
     const int room = log.viewport()->height();
     windows.arrive("10.0.0.2", "!LIVETYPE what is being typed");
-    EXPECT_LE(log.viewport()->mapTo(&form(), QPoint(0, log.viewport()->height())).y(), preview.geometry().top());
+    const auto seen = [&preview] { return preview.mask().boundingRect().translated(preview.pos()); };
+    EXPECT_LE(log.viewport()->mapTo(&form(), QPoint(0, log.viewport()->height())).y(), seen().top());
+    windows.arrive("10.0.0.2", "!LIVETYPE " + std::string(190, 'x'));
+    EXPECT_LE(log.viewport()->mapTo(&form(), QPoint(0, log.viewport()->height())).y(), seen().top());
     windows.arrive("10.0.0.2", "-done");
     EXPECT_EQ(log.viewport()->height(), room);
+}
+
+TEST_F(FrmPrivate, ThePreviewIsSeenAsHighAsItsTextAndTakesNoMoreOfTheLog)
+{
+    auto &preview = control<QPlainTextEdit>("futuretype");
+    const int room = outtext().viewport()->height();
+    const int line = preview.fontMetrics().lineSpacing();
+    const auto seen = [&preview] { return preview.mask().boundingRect().height(); };
+    windows.arrive("10.0.0.2", "!LIVETYPE what is being typed");
+    EXPECT_GE(seen(), line);
+    EXPECT_LT(seen(), 2 * line);
+    EXPECT_EQ(preview.viewport()->height(), seen());
+    EXPECT_LT(room - outtext().viewport()->height(), 2 * line + 35);
+    const int one = seen();
+    windows.arrive("10.0.0.2", "!LIVETYPE " + std::string(120, 'w'));
+    EXPECT_GT(seen(), one);
+    EXPECT_LE(seen(), preview.height());
+    windows.arrive("10.0.0.2", "!LIVETYPE short again");
+    EXPECT_EQ(seen(), one);
+}
+
+TEST_F(FrmPrivate, TheBandKeepsItsDistanceFromTheHead)
+{
+    windows.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");
+    QCoreApplication::processEvents();
+    const auto &details = control<QLabel>("peerDetails"), &band = control<QLabel>("peerBand");
+    const int end = details.mapTo(&form(), QPoint(0, details.height())).y();
+    EXPECT_GE(band.mapTo(&form(), QPoint()).y() - end, 6);
+}
+
+TEST_F(FrmPrivate, TheEmojiLeaveFiveLinesOfTheLog)
+{
+    if (!EmojiTable::isThere())
+        GTEST_SKIP() << "built without emoji";
+    form().resize(380, 330);
+    QTRY_COMPARE(form().size(), QSize(380, 330));
+    for (int i = 0; i < 20; ++i)
+        windows.arrive("10.0.0.2", "-hello");
+    control<QToolButton>("Emoticbtn").click();
+    const auto linesSeen = [this] {
+        int lines = 0;
+        for (QTextBlock line = outtext().document()->begin(); line.isValid(); line = line.next()) {
+            const QRect place = outtext().cursorRect(QTextCursor(line));
+            lines += line.length() > 1 && place.top() >= 0 && place.bottom() < outtext().viewport()->height() ? 1 : 0;
+        }
+        return lines;
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&linesSeen] { return linesSeen() >= 5; })) << linesSeen();
+    control<QToolButton>("Emoticbtn").click();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return form().size() == QSize(380, 330); }));
 }
 
 TEST_F(FrmPrivate, APreviewThatNobodyGoesOnWithGoesAfterHalfAMinute)

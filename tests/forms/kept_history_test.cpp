@@ -2,6 +2,7 @@
 #include "real_windows.h"
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QScrollBar>
@@ -138,6 +139,164 @@ TEST_F(KeptForEver, ClearingTakesAwayWhatWasSaidBefore)
     windows.control<QToolButton>(windows.privateWindow(), "clearbtn").click();
     log().writeGathered();
     EXPECT_LT(log().document()->rootFrame()->frameFormat().topMargin(), 20);
+}
+
+TEST_F(KeptForEver, BringingBackWhatWasClearedBringsBackWhatWasSaidBefore)
+{
+    keepSaid(120);
+    windows.arrive("10.0.0.2", "-new");
+    windows.privateWindow().showNormal();
+    windows.privateWindow().resize(500, 400);
+    QCoreApplication::processEvents();
+    const double before = log().document()->rootFrame()->frameFormat().topMargin();
+    windows.control<QToolButton>(windows.privateWindow(), "clearbtn").click();
+    Q_EMIT windows.control<QLabel>(windows.privateWindow(), "clearedBand").linkActivated(QStringLiteral("undo"));
+    EXPECT_EQ(log().document()->rootFrame()->frameFormat().topMargin(), before);
+    const QString text = log().earlierText();
+    EXPECT_EQ(text.count(QStringLiteral("said before")), 50);
+    log().verticalScrollBar()->setValue(0);
+    EXPECT_EQ(log().earlierText().count(QStringLiteral("said before")), 120);
+    EXPECT_TRUE(log().earlierText().endsWith(text)) << "none of them twice";
+}
+
+TEST_F(KeptForEver, AViewWithRoomForMoreAsksForMore)
+{
+    keepSaid(120);
+    windows.arrive("10.0.0.2", "-new");
+    windows.privateWindow().showNormal();
+    windows.privateWindow().resize(500, 400);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(log().earlierText().count(QStringLiteral("said before")), 50);
+    windows.privateWindow().resize(500, 2500);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return log().earlierText().count(QStringLiteral("said before")) == 120; }));
+}
+
+TEST_F(KeptForEver, WhatWasSaidBeforeLooksLikeTheLog)
+{
+    windows.history.keep({.address = QStringLiteral("10.0.0.2")},
+                         {.time = QDateTime(QDate(2026, 11, 20), QTime(9, 0)),
+                          .writer = QStringLiteral("Ann"),
+                          .text = QStringLiteral("see http://example.org/plan :-)\r\nand more")});
+    windows.arrive("10.0.0.2", "-see http://example.org/plan :-)\r\nand more");
+    windows.privateWindow().showNormal();
+    windows.privateWindow().resize(600, 600);
+    QCoreApplication::processEvents();
+    RichTextLogEdit &outtext = log();
+    outtext.verticalScrollBar()->setValue(0);
+    EXPECT_EQ(outtext.earlierText(),
+              QStringLiteral("Ann> see http://example.org/plan %1%2and more")
+                  .arg(QChar(QChar::ObjectReplacementCharacter))
+                  .arg(QChar(QChar::ParagraphSeparator)));
+    // The same message in the log shows where things stand.
+    QTextCursor line(outtext.document()->findBlockByNumber(1));
+    line.movePosition(QTextCursor::Right, QTextCursor::MoveAnchor, 14);
+    const int x = outtext.cursorRect(line).center().x();
+    QList<QUrl> targets;
+    QObject::connect(&outtext, &RichTextLogEdit::linkPressed, &outtext,
+                     [&targets](const QUrl &target) { targets.append(target); });
+    for (int y = 0; y < outtext.cursorRect(line).top() - outtext.fontMetrics().height() && targets.isEmpty(); ++y)
+        QTest::mouseClick(outtext.viewport(), Qt::LeftButton, {}, QPoint(x, y));
+    EXPECT_EQ(targets, QList<QUrl>{QUrl(QStringLiteral("http://example.org/plan"))});
+    const QImage seen = outtext.viewport()->grab().toImage();
+    const auto face = [&seen](int from, int to) {
+        int count = 0;
+        for (int y = from; y < to; ++y) {
+            for (int i = 0; i < seen.width(); ++i) {
+                const QColor colour = seen.pixelColor(i, y);
+                count += colour.red() > 200 && colour.green() > 150 && colour.blue() < 120 ? 1 : 0;
+            }
+        }
+        return count;
+    };
+    const int top = outtext.cursorRect(line).top();
+    EXPECT_GT(face(top, top + 30), 20) << "the yellow of the face in the log";
+    EXPECT_GT(face(0, top - 30), 20) << "and above it";
+}
+
+/// Ctrl+F in a conversation, with what was said before.
+class FindInEarlier : public KeptForEver
+{
+protected:
+    FindInEarlier()
+    {
+        keepSaid(30);
+        windows.arrive("10.0.0.2", "-said now");
+        windows.privateWindow().showNormal();
+        windows.privateWindow().resize(500, 400);
+        windows.privateWindow().activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&windows.privateWindow(), 60000));
+        log().setFocus();
+        QTest::keyClick(&log(), Qt::Key_F, Qt::ControlModifier);
+    }
+    template <class T = QWidget> T &child(const char *name) { return *log().findChild<T *>(QLatin1String(name)); }
+    void search(const char *word) { child<QLineEdit>("findText").setText(QLatin1String(word)); }
+    QString count() { return child<QLabel>("findCount").text(); }
+    void older() { QTest::keyClick(&child<QLineEdit>("findText"), Qt::Key_Return); }
+    void newer() { QTest::keyClick(&child<QLineEdit>("findText"), Qt::Key_Return, Qt::ShiftModifier); }
+};
+
+TEST_F(FindInEarlier, CountsAndWalksUpIntoWhatWasSaidBefore)
+{
+    search("said");
+    EXPECT_EQ(count(), QStringLiteral("31 of 31"));
+    EXPECT_EQ(log().textCursor().selectedText(), QStringLiteral("said"));
+    older();
+    EXPECT_EQ(count(), QStringLiteral("30 of 31"));
+    EXPECT_FALSE(log().textCursor().hasSelection());
+    newer();
+    EXPECT_EQ(count(), QStringLiteral("31 of 31"));
+    EXPECT_TRUE(log().textCursor().hasSelection());
+}
+
+TEST_F(FindInEarlier, BringsTheHitIntoSightAndMarksIt)
+{
+    const int end = log().verticalScrollBar()->value();
+    const QImage before = log().viewport()->grab().toImage();
+    search("before 3");
+    EXPECT_EQ(count(), QStringLiteral("1 of 1"));
+    EXPECT_LT(log().verticalScrollBar()->value(), end);
+    const QColor mark = log().palette().color(QPalette::Highlight);
+    const QImage seen = log().viewport()->grab().toImage();
+    int marked = 0;
+    for (int y = 0; y < seen.height(); ++y) {
+        for (int x = 0; x < seen.width(); ++x)
+            marked += seen.pixelColor(x, y) == mark ? 1 : 0;
+    }
+    EXPECT_GT(marked, 100);
+}
+
+TEST_F(FindInEarlier, GoesAroundTheEndsAndSaysWhereMoreIsSearched)
+{
+    search("before 3");
+    older();
+    EXPECT_EQ(count(), QStringLiteral("1 of 1"));
+    search("before 12");
+    EXPECT_EQ(count(), QStringLiteral("1 of 1"));
+    EXPECT_TRUE(child<QLineEdit>("findText").toolTip().contains(QStringLiteral("Ctrl+H")));
+}
+
+TEST_F(KeptForEver, MoreThatIsPaintedWhileOneSearchesIsSearchedToo)
+{
+    keepSaid(120);
+    windows.arrive("10.0.0.2", "-new");
+    windows.privateWindow().showNormal();
+    windows.privateWindow().resize(500, 400);
+    windows.privateWindow().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&windows.privateWindow(), 60000));
+    log().setFocus();
+    QTest::keyClick(&log(), Qt::Key_F, Qt::ControlModifier);
+    auto &text = *log().findChild<QLineEdit *>(QStringLiteral("findText"));
+    auto &count = *log().findChild<QLabel *>(QStringLiteral("findCount"));
+    text.setText(QStringLiteral("said before 9"));
+    EXPECT_EQ(count.text(), QStringLiteral("10 of 10")) << "90 to 99 are among the 50 that are painted";
+    for (int i = 0; i < 5; ++i)
+        QTest::keyClick(&text, Qt::Key_Return);
+    EXPECT_EQ(count.text(), QStringLiteral("5 of 10"));
+    log().verticalScrollBar()->setValue(0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return count.text() == QStringLiteral("6 of 11"); }))
+        << count.text().toStdString();
+    QTest::keyClick(&text, Qt::Key_Return);
+    EXPECT_EQ(count.text(), QStringLiteral("5 of 11"));
 }
 
 TEST_F(KeptForEver, AContactCanBeLeftOutByItsMenu)

@@ -216,6 +216,17 @@ TEST_F(Manual, ThatNothingOpensIsSaid)
     EXPECT_EQ(box->text(), QStringLiteral("Nothing on this computer opens /manual/add-user.html."));
 }
 
+TEST_F(Manual, ThatTurnsOutNotToOpenIsSaidToo)
+{
+    QWidget &dialog = opened("mnuAddUser", "frmAddUser");
+    EXPECT_THAT(pressF1(dialog), ElementsAre("file:///manual/add-user.html"));
+    EXPECT_FALSE(dialog.findChild<QMessageBox *>());
+    windows.manualPages.failsLater();
+    const auto *const box = dialog.findChild<QMessageBox *>();
+    ASSERT_TRUE(box);
+    EXPECT_EQ(box->text(), QStringLiteral("Nothing on this computer opens /manual/add-user.html."));
+}
+
 TEST_F(Manual, OpensNoLinkOfAPeer)
 {
     pressF1(windows.main());

@@ -806,6 +806,30 @@ TEST_F(LinkHooks, ALinkThatNothingOpensSaysSo)
     EXPECT_TRUE(box->isVisible());
 }
 
+TEST_F(LinkHooks, ALinkWhoseHandlerFailsLaterSaysSo)
+{
+    Window window;
+    hooks.HookRichText(window.log, window.parent);
+    window.fill();
+    window.press();
+    EXPECT_FALSE(window.parent.findChild<QMessageBox *>());
+    links.failsLater();
+    const auto *const box = window.parent.findChild<QMessageBox *>();
+    ASSERT_TRUE(box);
+    EXPECT_EQ(box->text(), QStringLiteral("Nothing on this computer opens http://example.org."));
+}
+
+TEST_F(LinkHooks, AFailureThatComesWhenTheWindowHasGoneHurtsNobody)
+{
+    auto window = std::make_unique<Window>();
+    hooks.HookRichText(window->log, window->parent);
+    window->fill();
+    window->press();
+    hooks.UnhookRichText(window->log);
+    window.reset();
+    links.failsLater();
+}
+
 TEST_F(LinkHooks, ClosingOneWindowDoesNotDisturbTheOthers)
 {
     Window first, second, third;

@@ -407,13 +407,15 @@ public:
 class RecorderLinks : public LinkOpener
 {
 public:
-    bool open(const QUrl &address) override
+    bool open(const QUrl &address, std::function<void()> failed) override
     {
         opened.push_back(address.toEncoded().toStdString());
+        failsLater = std::move(failed);
         return hasHandler;
     }
 
     std::vector<std::string> opened;
+    std::function<void()> failsLater; ///< of the last one
     bool hasHandler = true;
 };
 

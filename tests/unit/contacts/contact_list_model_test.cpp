@@ -145,6 +145,11 @@ TEST_F(RowInTheList, SaysBesideTheNameWhatThePictureDoesNot)
     EXPECT_EQ(list.index(0, ContactList::StateText).data().toString(), QStringLiteral("AWAY - Back at five"));
     set(Presence::online, "ONLINE");
     EXPECT_EQ(words(), QString());
+    set(Presence::away, "AWAY");
+    EXPECT_EQ(words(), QStringLiteral("away"));
+    EXPECT_EQ(readOut(), QStringLiteral("Ann, away"));
+    set(Presence::busy, "");
+    EXPECT_EQ(words(), QStringLiteral("busy"));
     set(Presence::offline, "BUSY - In a meeting");
     EXPECT_EQ(words(), QStringLiteral("offline"));
     EXPECT_EQ(list.index(0, ContactList::StateText).data().toString(), QStringLiteral("BUSY - In a meeting"));

@@ -99,6 +99,30 @@ TEST_F(NoticesTest, TheTextIsShownOnlyWhereTheUserWantsThat)
     EXPECT_THAT(lines(), ElementsAre("Ann: new message", "Ann (2): new messages"));
 }
 
+TEST_F(NoticesTest, ABuzzIsNoMessage)
+{
+    copy.arrive("10.0.0.2", "!BUZZ");
+    copy.advance(1000ms);
+    copy.arrive("10.0.0.2", "-hello");
+    copy.advance(1000ms);
+    copy.arrive("10.0.0.2", "!BUZZ");
+    copy.advance(1000ms);
+    copy.arrive("10.0.0.2", "-there");
+    EXPECT_THAT(lines(),
+                ElementsAre("Ann buzzes you", "Ann: hello · Ann buzzes you", "Ann buzzes you (2) · 1 new message",
+                            "Ann (2): there · Ann buzzes you (2)"));
+    EXPECT_EQ(copy.notifications.shown.at(fromAnn).title, QStringLiteral("Ann (2)"));
+}
+
+TEST_F(NoticesTest, ABuzzIsToldBesideTheMessagesOfTheSameMoment)
+{
+    copy.arrive("10.0.0.2", "-one");
+    copy.arrive("10.0.0.2", "!BUZZ");
+    copy.arrive("10.0.0.2", "-two");
+    copy.advance(1000ms);
+    EXPECT_EQ(lines().back(), "Ann (2): two · Ann buzzes you");
+}
+
 TEST_F(NoticesTest, ALongTextIsCut)
 {
     copy.arrive("10.0.0.2", "-" + std::string(1000, 'x'));
