@@ -18,6 +18,7 @@
 #include "widgets/form_layout.h"
 #include "widgets/form_text.h"
 #include "widgets/former_size.h"
+#include "widgets/screen_room.h"
 #include "widgets/tool_button.h"
 #include "widgets/tool_row.h"
 #include "widgets/window_attention.h"
@@ -350,7 +351,9 @@ void ConversationPane::Emoticbtn_Click(bool shown)
     // Who chooses an emoji still sees what he answers: where there is no room for both, the window grows meanwhile.
     constexpr int linesBeside = 6; // one of them the empty one at the end
     const int frame = 2 * (m_outtext->frameWidth() + qRound(m_outtext->document()->documentMargin()));
-    m_outtext->setMinimumHeight(shown ? linesBeside * m_outtext->heightOfLine() + frame : 0);
+    // Of large letters on a small screen as many as there is room for.
+    const int most = roomOnScreen(*window()).height() / 4;
+    m_outtext->setMinimumHeight(shown ? qMin(linesBeside * m_outtext->heightOfLine() + frame, most) : 0);
     if (shown)
         m_formerSize->growOnce();
     Q_EMIT emoticonsToggled();
