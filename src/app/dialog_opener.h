@@ -35,6 +35,7 @@ struct FormServices {
     SettingsStore &store;
     Prompts &prompts;
     LinkOpener &links;
+    LinkOpener &folders; ///< opens folders of this machine
     ManualOpener &manual;
     PictureSources &pictures;
     NameResolver &names;

@@ -8,7 +8,9 @@ Messenger::Messenger(Common &common, const Surroundings &around)
       m_windows(around.windows), m_admission(common, m_contacts, around.ownAddresses, around.drops),
       m_log(around.mainView.outtext(), around.clock),
       m_notices({common, m_contacts, around.notifications, around.sound, around.timers}),
-      m_history(around.history, common, around.clock), m_unknown(m_log, around.timers), m_sender(common, around.socket),
+      m_history(around.history, common, around.clock),
+      m_transfers({around.fileServer, common, around.prompts, around.timers, around.clock, m_log}, around.fileFetcher),
+      m_unknown(m_log, around.timers), m_sender(common, around.socket),
       m_announcement(common, m_contacts, m_sender, around.timers, around.clock, around.mainView),
       m_ownState(common, m_contacts, m_sender, m_announcement, m_log, around.mainView, [this] { ownStateChanged(); }),
       m_recovery({common, around.store, m_contacts, m_ownState, around.timers, m_log, around.mainView}),
@@ -16,9 +18,11 @@ Messenger::Messenger(Common &common, const Surroundings &around)
              [this] { m_announcement.runUnlessInvisible(); }),
       m_networks({common, around.socket, around.ownAddresses, around.networkWatch, m_port, m_announcement, m_log,
                   around.mainView, around.timers, around.chance, [this] { m_conferences.ownAddressChanged(); }}),
-      m_privateWindows(
-          {{common, around.socket, around.clock, m_history}, around.sound, around.timers, around.privateForms},
-          m_contacts, m_notices, around.drops),
+      m_privateWindows({{common, around.socket, around.clock, m_history, m_transfers},
+                        around.sound,
+                        around.timers,
+                        around.privateForms},
+                       m_contacts, m_notices, around.drops),
       m_search({common, m_sender, m_contacts, around.ownAddresses, m_log, around.mainView, around.timers}),
       m_sameMachine(m_contacts, m_log), m_presence(common, m_admission, m_contacts, m_sender, m_log, m_privateWindows,
                                                    m_notices, around.clock, {&m_search, &m_sameMachine}, around.drops),
@@ -27,7 +31,7 @@ Messenger::Messenger(Common &common, const Surroundings &around)
       m_peerFeatures({common, m_contacts, around.socket, m_privateWindows, m_avatars, m_ownAvatar, m_activity, m_log,
                       m_notices, around.sound, around.drops}),
       m_sharedContacts(m_admission, m_contacts, m_log, around.drops),
-      m_conferences({{common, around.socket, around.clock, m_history},
+      m_conferences({{common, around.socket, around.clock, m_history, m_transfers},
                      m_contacts,
                      m_avatars,
                      m_ownAvatar,
@@ -51,11 +55,13 @@ Messenger::Messenger(Common &common, const Surroundings &around)
                    around.drops),
       m_mainWindow({common, around.store, around.goodCopy, around.nextStart, around.socket, m_networks, m_contacts,
                     m_ownState, m_sender, m_announcement, m_port, m_recovery, m_log, around.prompts,
-                    [this] { unloadOtherWindows(); }, around.tray, around.mainView})
+                    [this] { unloadOtherWindows(); }, [this] { return m_transfers.underWay(); }, around.tray,
+                    around.mainView})
 {
     m_dispatcher.listenTo(m_socket);
     around.history.trouble = [this](const QString &sentence) { m_log.fault(sentence); };
     QObject::connect(&m_history, &HistoryChoice::chosen, [this] { m_recovery.settingsChanged(); });
+    QObject::connect(&m_transfers.offers, &FileOffers::explained, [this] { m_recovery.settingsChanged(); });
     QObject::connect(&m_contacts, &ContactList::acquaintanceChanged,
                      [this](Ipv4Address ip, bool acquainted) { m_socket.setAcquainted(ip, acquainted); });
 }

@@ -13,7 +13,7 @@ namespace nimb
 
 struct ServedFile {
     QString token;               ///< whoever knows it, and is one of those below, gets the file
-    QString name;                ///< in its address
+    QString name;                ///< in its address; empty: its own, cleaned, and of a folder with the suffix ".zip"
     QString path;                ///< of a file, or of a folder, which is served as one archive
     std::vector<Ipv4Address> to; ///< nobody else
     Ipv4Address at;              ///< the own address that is listened on
@@ -37,6 +37,7 @@ public:
     struct Readied {
         quint64 size = 0;
         std::uint16_t port = 0;
+        QString name{};    ///< in the address
         QString trouble{}; ///< a sentence; empty: served from now on
     };
 

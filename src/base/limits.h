@@ -175,7 +175,9 @@ constexpr qint64 dictionaryFileBytes = qint64{32} * 1024 * 1024;
 constexpr qsizetype fileNameLength = 200;
 /// Of the same name in its link, encoded: with all that stands before it a link opens 1023 characters at most.
 constexpr qsizetype fileNameEncoded = 800;
-/// Files that are offered at once: each is a row that somebody has to oversee.
+/// Files that one drop or choice sends: each is a message.
+constexpr int filesAtOnce = 20;
+/// Files that are offered at a time: each is a row that somebody has to oversee.
 constexpr int filesOffered = 200;
 /// Rows of files that others offer, as many as anybody reads; the oldest go first.
 constexpr int filesReceived = 500;
@@ -184,6 +186,8 @@ constexpr std::size_t filesInFolder = 200'000;
 /// Files that are sent at once, and how many of them to one peer: more share the same line and none of them comes.
 constexpr int filesSentAtOnce = 8;
 constexpr int filesSentToPeer = 4;
+/// Rows of a conversation's panel of files; the others are under Tools > Transfers...
+constexpr int filesInPanel = 3;
 /// Files that are received at once; others wait.
 constexpr int filesReceivedAtOnce = 4;
 /// Connections to the server of files: a peer may look while it loads. Each has a thread with a small stack.

@@ -25,8 +25,12 @@ class Conversation;
 class EmojiPicker;
 class EmojiStock;
 class EmoticonPicker;
+class FileDrops;
+class FilePanel;
+class LinkOpener;
 class MessageInput;
 class RTFSubClass;
+class ScratchFolder;
 class Spelling;
 class ToolRow;
 
@@ -37,6 +41,8 @@ struct ConversationTools {
     Spelling &spelling; ///< checks what is typed
     /// Opens what was kept of the conversation with a contact; of none: of all.
     std::function<void(const QString &address)> openHistory;
+    LinkOpener &folders;    ///< opens a folder of this machine
+    ScratchFolder &scratch; ///< for pictures that are shown or sent and not kept
 };
 
 /// What a window has beside it, it makes itself and puts between the parts of the pane or around it.
@@ -70,6 +76,8 @@ public:
     void setCaption(const QString &caption) override;
     void setLogFont(const LogFont &font) override;
     void addEarlier(const std::vector<StoredMessage> &messages) override { m_outtext->addEarlier(messages); }
+    void addReceivedFile(int number) override;
+    void showFileTrouble(const QString &sentence) override;
     void setLastMessage(const QString &text) override { Q_EMIT lastMessageChanged(text); }
     QString typedText() const override;
     void setDraft(const QString &text) override;
@@ -96,6 +104,7 @@ private:
     QWidget *makeHistoryBand();
     QHBoxLayout *makeInput();
     void connectControls();
+    void connectFiles();
 
     void sendbtn_Click();
     void Clearbtn_Click();
@@ -113,6 +122,10 @@ private:
     void openHistory() const;
     void historyBand_Click(const QString &answer);
     void offerRest(const QString &rest);
+    void sendFiles(const QStringList &paths);
+    void askForSentFiles();
+    void offerPicture(const QImage &picture);
+    void fileBand_Click(const QString &answer);
     void Form_Unload();
 
     Conversation *m_conversation; ///< null once the window was let go
@@ -122,6 +135,10 @@ private:
     RTFSubClass &m_links;
     std::function<void(const QString &address)> m_openHistory;
     EmojiStock &m_emoji;
+    LinkOpener &m_folders;
+    ScratchFolder &m_scratch;
+    QString m_pastedPicture; ///< path of what may be sent
+    int m_pastedPictures = 0;
 
     RichTextLogEdit *m_outtext = nullptr;
     EmoticonPicker *ListViewEmot = nullptr;
@@ -131,6 +148,10 @@ private:
     QLabel *messageCounter = nullptr;
     QLabel *cutBand = nullptr;
     QLabel *historyBand = nullptr;
+    QLabel *fileBand = nullptr;
+    FilePanel *m_files = nullptr; ///< once the other side has offered one
+    FileDrops *m_drops = nullptr;
+    QToolButton *sendFileBtn = nullptr;
     ClearedBand *m_cleared = nullptr;
     QToolButton *clearbtn = nullptr;
     QToolButton *datetimebtn = nullptr;

@@ -1,6 +1,7 @@
 #include "files/file_source.h"
 
 #include "base/limits.h"
+#include "files/file_name.h"
 #include "files/zip_layout.h"
 
 #include <QCoreApplication>
@@ -275,7 +276,8 @@ FoundSource findFolder(const QFileInfo &folder, const std::atomic<bool> &isStopp
         entries.push_back(std::move(entry));
         seenFiles.push_back(std::move(file));
     }
-    return std::make_shared<const FolderArchive>(std::move(entries), std::move(seenFiles));
+    return NamedSource{std::make_shared<const FolderArchive>(std::move(entries), std::move(seenFiles)),
+                       cleanFileName(folder.fileName() + QLatin1String(".zip"))};
 }
 
 } // namespace
@@ -286,7 +288,7 @@ FoundSource findSource(const QString &path, const std::atomic<bool> &isStopped)
     if (info.isDir() && info.isReadable())
         return findFolder(info, isStopped);
     if (info.isFile() && info.isReadable())
-        return std::make_shared<const PlainFile>(seen(info));
+        return NamedSource{std::make_shared<const PlainFile>(seen(info)), cleanFileName(info.fileName())};
     return sentenceOf(QT_TRANSLATE_NOOP("FileSource", "%1 cannot be sent: it is no file or folder that can be read."),
                       info.fileName());
 }

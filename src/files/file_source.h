@@ -33,7 +33,11 @@ public:
     virtual std::unique_ptr<SourceReader> open(const std::atomic<bool> &isStopped) const = 0;
 };
 
-using FoundSource = std::variant<std::shared_ptr<const FileSource>, QString>;
+struct NamedSource {
+    std::shared_ptr<const FileSource> source;
+    QString name; ///< for the peer: clean, and of a folder that of an archive
+};
+using FoundSource = std::variant<NamedSource, QString>;
 
 /// Looks at a file, or at all names and sizes of a folder, without reading what is in them. Links within a folder are
 /// left out, for they lead elsewhere. Without a source: the reason, a sentence.

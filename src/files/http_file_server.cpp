@@ -84,12 +84,14 @@ public:
         m_served.push_back(served);
     }
 
-    /// From now on it is found; false where it has been taken meanwhile.
-    bool setSource(const std::shared_ptr<Served> &served, std::shared_ptr<const FileSource> source)
+    /// From now on it is found.
+    void setSource(Served &served, const NamedSource &found)
     {
         const std::lock_guard lock(m_mutex);
-        served->source = std::move(source);
-        return !served->isStopped;
+        served.source = found.source;
+        if (served.file.name.isEmpty())
+            served.file.name = found.name;
+        served.name = served.file.name.toUtf8();
     }
 
     /// Its address, where nothing else is served there.
@@ -321,7 +323,6 @@ void HttpFileServer::serve(const ServedFile &file, std::function<void(const Read
     const auto served = std::make_shared<Served>();
     served->file = file;
     served->token = file.token.toStdString();
-    served->name = file.name.toUtf8();
     served->tag = tagOf(file.token);
     m_desk->put(served); // so that it can be withdrawn while it is looked at
     if (!m_looking)
@@ -343,15 +344,15 @@ void HttpFileServer::lookedAt(const std::shared_ptr<Served> &served, const Found
     };
     if (const auto *const sentence = std::get_if<QString>(&source))
         return refuse(*sentence);
+    const auto &found = std::get<NamedSource>(source);
     const std::uint16_t port = listenAt(served->file.at);
     if (port == 0)
         return refuse(
             QCoreApplication::translate("HttpFileServer", "%1 cannot be sent: no port of this computer is free for it.")
-                .arg(served->file.name));
-    const auto &found = std::get<std::shared_ptr<const FileSource>>(source);
-    m_desk->setSource(served, found);
+                .arg(found.name));
+    m_desk->setSource(*served, found);
     beginSum(served);
-    ready({.size = found->size(), .port = port});
+    ready({.size = found.source->size(), .port = port, .name = served->file.name});
 }
 
 std::uint16_t HttpFileServer::listenAt(Ipv4Address address)

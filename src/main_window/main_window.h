@@ -49,6 +49,7 @@ public:
         MainLog &log;
         Prompts &prompts;
         std::function<void()> unloadOtherWindows;
+        std::function<int()> transfersUnderWay; ///< files that are sent or fetched
         TrayIcon &tray;
         MainWindowView &view;
     };
@@ -72,6 +73,7 @@ public:
 
 private:
     LoadedSettings loadSettings();
+    bool mayEndTransfers(UnloadMode mode);
     void answerNobody();
     void sayFarewellAndSaveContacts();
     void save();

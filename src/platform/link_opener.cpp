@@ -1,6 +1,7 @@
 #include "platform/link_opener.h"
 
 #include <QDesktopServices>
+#include <QFileInfo>
 #include <QStringList>
 
 namespace nimb
@@ -31,6 +32,12 @@ bool DesktopPageOpener::open(const QUrl &address)
     const bool isPage
         = address.isLocalFile() && address.host().isEmpty() && address.path().endsWith(QLatin1String(".html"));
     return isPage && QDesktopServices::openUrl(address);
+}
+
+bool DesktopFolderOpener::open(const QUrl &address)
+{
+    const bool isFolder = address.isLocalFile() && address.host().isEmpty() && QFileInfo(address.toLocalFile()).isDir();
+    return isFolder && QDesktopServices::openUrl(address);
 }
 
 } // namespace nimb

@@ -22,4 +22,12 @@ public:
     bool open(const QUrl &address) override;
 };
 
+/// Opens folders of this machine with what shows folders, and nothing else: never a file in one. Needs the application
+/// object.
+class DesktopFolderOpener : public LinkOpener
+{
+public:
+    bool open(const QUrl &address) override;
+};
+
 } // namespace nimb

@@ -2,6 +2,7 @@
 
 #include "base/buzz.h"
 #include "base/limits.h"
+#include "base/own_address.h"
 #include "base/remote_text.h"
 #include "conversation/message_text.h"
 #include "private_chat/auto_reply.h"
@@ -109,6 +110,14 @@ QString PrivateChat::textToSend(const QString &typed) const
 void PrivateChat::deliver(const QString &text)
 {
     sendDatagram(socket(), m_rIP.ipv4(), wire::PrivateMessage{toWire(text)});
+}
+
+FileOffers::Recipients PrivateChat::fileRecipients() const
+{
+    const std::optional<Ipv4Address> ip = m_rIP.ipv4();
+    if (!ip)
+        return {};
+    return {.to = {*ip}, .at = ownAddressTowards(common(), socket(), ip), .whom = m_peer.name};
 }
 
 KeptConversation PrivateChat::keptAs() const

@@ -84,6 +84,7 @@ protected:
         EXPECT_TRUE(waitUntil([&] { return readied.has_value(); }));
         size = readied ? readied->size : 0;
         port = readied ? readied->port : 0;
+        servedName = readied ? readied->name : QString();
         return readied ? readied->trouble : QString();
     }
     QString address(const QString &name = QStringLiteral("Plan.pdf"), const QString &of = token) const
@@ -144,6 +145,7 @@ protected:
     QStringList failures;
     quint64 size = 0;
     std::uint16_t port = 0;
+    QString servedName;
 };
 
 TEST_F(FileServerTest, GivesTheFileToThePeer)
@@ -323,17 +325,27 @@ TEST_F(FileServerTest, TakesTheNextPortWhereOneIsTaken)
     EXPECT_EQ(curl(peer, {address()}).out, "abc");
 }
 
+TEST_F(FileServerTest, NamesAFileAsItIsCalledAndAFolderAsAnArchive)
+{
+    serve(write(QStringLiteral("a?b.txt"), "abc"), {});
+    EXPECT_EQ(servedName, QStringLiteral("a_b.txt"));
+    EXPECT_EQ(curl(peer, {address(QStringLiteral("a_b.txt"))}).out, "abc");
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("Photos.2026")));
+    serve(pathOf(QStringLiteral("Photos.2026/")), {}, QStringLiteral("fedcba9876543210fedcba9876543210"));
+    EXPECT_EQ(servedName, QStringLiteral("Photos.2026.zip"));
+}
+
 TEST_F(FileServerTest, SaysWhereItCannotListen)
 {
     std::optional<FileServer::Readied> readied;
     server->serve({.token = token,
-                   .name = QStringLiteral("a"),
-                   .path = write(QStringLiteral("a"), "abc"),
+                   .name = {},
+                   .path = write(QStringLiteral("Plan.pdf"), "abc"),
                    .to = {peer},
                    .at = Ipv4Address(192, 0, 2, 1)},
                   [&](const FileServer::Readied &now) { readied = now; });
     ASSERT_TRUE(waitUntil([&] { return readied.has_value(); }));
-    EXPECT_EQ(readied->trouble, QStringLiteral("a cannot be sent: no port of this computer is free for it."));
+    EXPECT_EQ(readied->trouble, QStringLiteral("Plan.pdf cannot be sent: no port of this computer is free for it."));
 }
 
 TEST_F(FileServerTest, SendsFourFilesToAPeerAtATime)
@@ -503,7 +515,7 @@ TEST_F(FolderServerTest, GivesTheSameBytesHoweverTheyAreAskedFor)
     const std::atomic<bool> isStopped = false;
     const auto whole = [&] {
         const FoundSource fresh = findSource(pathOf(QStringLiteral("F")), isStopped);
-        return std::get<std::shared_ptr<const FileSource>>(fresh);
+        return std::get<NamedSource>(fresh).source;
     };
     const auto source = whole();
     QByteArray all(static_cast<qsizetype>(source->size()), '\0');
