@@ -444,14 +444,14 @@ void takeFiles(Gallery &gallery)
     windows.privateWindow().resize(600, 560);
     gallery.take(windows.privateWindow(), "private_with_files");
     using What = FetchedBytes::What;
-    received.save(first, QStringLiteral("/home/me/Downloads"));
+    received.save(first, QStringLiteral("/media/me/Downloads"));
     windows.fileFetcher.told({.number = first,
                               .what = What::done,
                               .place = 2'300'000,
                               .size = 2'300'000,
-                              .path = QStringLiteral("/home/me/Downloads/Plan of the basement.pdf"),
+                              .path = QStringLiteral("/media/me/Downloads/Plan of the basement.pdf"),
                               .isChecked = true});
-    received.save(first + 1, QStringLiteral("/home/me/Downloads"));
+    received.save(first + 1, QStringLiteral("/media/me/Downloads"));
     windows.fileFetcher.told({.number = first + 1,
                               .what = What::running,
                               .place = 540'000'000,
@@ -468,7 +468,7 @@ void takeFiles(Gallery &gallery)
                               .isChecked = true});
     gallery.take(windows.privateWindow(), "private_with_transfers");
     windows.engine.privateWindows().at(1)->sendFiles(
-        {QStringLiteral("/home/me/Minutes of the meeting.odt"), QStringLiteral("/home/me/Plan.pdf")});
+        {QStringLiteral("/media/me/Minutes of the meeting.odt"), QStringLiteral("/media/me/Plan.pdf")});
     windows.fileServer.sent({.token = windows.fileServer.served.front().token,
                              .transfer = 1,
                              .to = Ipv4Address(192, 168, 1, 12),

@@ -58,9 +58,9 @@ protected:
 
 TEST_F(TransfersTest, AFileIsOneOrdinaryMessage)
 {
-    chat().sendFiles({QStringLiteral("/home/me/Plan.pdf")});
+    chat().sendFiles({QStringLiteral("/media/me/Plan.pdf")});
     ASSERT_THAT(copy.fileServer.served, SizeIs(1));
-    EXPECT_EQ(served().path, QStringLiteral("/home/me/Plan.pdf"));
+    EXPECT_EQ(served().path, QStringLiteral("/media/me/Plan.pdf"));
     EXPECT_THAT(served().to, ElementsAre(Ipv4Address(10, 0, 0, 2)));
     EXPECT_EQ(served().at, Ipv4Address(10, 0, 0, 1));
     const std::string token = served().token.toStdString();
