@@ -100,6 +100,7 @@ Q_SIGNALS:
 private:
     void buildControls();
     QWidget *makeToolRow();
+    QWidget *makeFileTool();
     QWidget *makeCutBand();
     QWidget *makeHistoryBand();
     QHBoxLayout *makeInput();

@@ -29,7 +29,7 @@ namespace
 
 using State = ReceivedFile::State;
 
-constexpr QSize largestShownPicture(320, 160);
+constexpr QSize largestShownPicture(240, 90);
 
 /// Empty where it cannot be read, or is larger than anybody photographs.
 QPixmap smallPicture(const QString &path, qreal scale)
@@ -121,7 +121,8 @@ FileRow::FileRow(ReceivedFiles &files, int number, LinkOpener &folders, ScratchF
     column->setContentsMargins(form_layout::margin, form_layout::spacing, form_layout::spacing, form_layout::spacing);
     column->setSpacing(2);
     column->addWidget(makeFirstLine());
-    column->addWidget(makeSecondLine());
+    m_stateLine = makeSecondLine();
+    column->addWidget(m_stateLine);
     m_picture = named(new QLabel(this), "shownPicture");
     m_picture->hide();
     column->addWidget(m_picture);
@@ -195,10 +196,11 @@ void FileRow::refresh()
     if (!file)
         return;
     const QString name = tr("%1 (%2)").arg(file->link.name, file->link.sizeText);
-    m_name->setText(name);
-    m_name->setToolTip(file->link.name);
     const bool isOffered = file->state == State::offered;
-    m_state->setText(isOffered ? tr("from %1").arg(file->sender) : ReceivedFiles::progressOf(*file));
+    m_name->setText(isOffered ? tr("%1 from %2").arg(name, file->sender) : name);
+    m_name->setToolTip(file->link.name);
+    m_stateLine->setVisible(!isOffered);
+    m_state->setText(ReceivedFiles::progressOf(*file));
     m_bar->setVisible(file->state == State::running || file->state == State::paused);
     m_bar->setValue(file->percent());
     m_look->setVisible(isOffered && file->isPicture() && file->picture.isEmpty());

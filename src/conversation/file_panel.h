@@ -68,6 +68,7 @@ private:
     LinkOpener &m_folders;
     ScratchFolder &m_scratch;
     ElidedLabel *m_name = nullptr;
+    QWidget *m_stateLine = nullptr; ///< while there is more to say than that it is offered
     ElidedLabel *m_state = nullptr;
     QProgressBar *m_bar = nullptr;
     QLabel *m_picture = nullptr;

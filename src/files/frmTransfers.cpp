@@ -31,7 +31,7 @@ QTreeView *transferList(QWidget *parent, const char *name, const QString &access
     list->setModel(&model);
     list->header()->setStretchLastSection(true);
     const int letter = list->fontMetrics().averageCharWidth();
-    constexpr int widths[] = {34, 16, 34};
+    constexpr int widths[] = {40, 16, 36};
     for (int column = 0; column < static_cast<int>(std::size(widths)); ++column)
         list->header()->resizeSection(column, widths[column] * letter);
     return list;
@@ -66,7 +66,7 @@ frmTransfers::frmTransfers(FileTransfers &transfers, LinkOpener &folders, QWidge
     buildControls();
     connectControls();
     showWhatCanBeDone();
-    resize(QSize(760, 520).boundedTo(roomOnScreen(*this)));
+    resize(QSize(840, 520).boundedTo(roomOnScreen(*this)));
 }
 
 void frmTransfers::buildControls()
@@ -88,7 +88,7 @@ QGroupBox *frmTransfers::offeredPart()
     auto *const part = new QGroupBox(tr("What you offer, as long as NIMB-Chat runs"), this);
     offerList = transferList(part, "offerList", tr("What you offer"), m_transfers.offers);
     new EmptyHint(*offerList, "offerHint",
-                  tr("Nothing is offered. Drop files or folders on a conversation, or press \"File\" there."));
+                  tr("Nothing is offered. Drop files or folders on a conversation, or press the paper clip there."));
     lifeBox = named(new QComboBox(part), "lifeBox");
     lifeBox->setAccessibleName(tr("Until when it is offered"));
     lifeBox->addItems({tr("For 24 hours"), tr("Until it has been fetched once"), tr("Until it is stopped")});

@@ -221,10 +221,9 @@ TEST_F(FilesInWindows, WhatIsOfferedStandsInARow)
     ASSERT_THAT(rows(), SizeIs(1));
     FileRow &row = *rows().front();
     EXPECT_TRUE(row.isVisibleTo(&form()));
-    EXPECT_EQ(controlOf<QLabel>(row, "fileName").text(), QStringLiteral("Plan.pdf (2.3 MB)"));
-    EXPECT_EQ(controlOf<QLabel>(row, "fileState").text(), QStringLiteral("from Ann"));
+    EXPECT_EQ(controlOf<QLabel>(row, "fileName").text(), QStringLiteral("Plan.pdf (2.3 MB) from Ann"));
     EXPECT_TRUE(isShown(row, "saveBtn"));
-    for (const char *const other : {"lookBtn", "pauseBtn", "resumeBtn", "openFolderBtn", "fileProgress"})
+    for (const char *const other : {"lookBtn", "pauseBtn", "resumeBtn", "openFolderBtn", "fileProgress", "fileState"})
         EXPECT_FALSE(isShown(row, other)) << other;
     EXPECT_THAT(RealWindows::logOf(form()).toPlainText().toStdString(), HasSubstr("Ann> Plan.pdf (2.3 MB) http://"));
 }
@@ -277,14 +276,14 @@ TEST_F(FilesInWindows, APictureIsShownAfterAClick)
     EXPECT_THAT(windows.fileFetcher.fetched, IsEmpty());
     controlOf<QPushButton>(row, "lookBtn").click();
     ASSERT_THAT(windows.fileFetcher.fetched, SizeIs(1));
-    QImage picture(1000, 800, QImage::Format_RGB32);
+    QImage picture(1000, 500, QImage::Format_RGB32);
     picture.fill(Qt::blue);
     const QString path = folder.filePath(QStringLiteral("a.png"));
     ASSERT_TRUE(picture.save(path));
     tell({.number = row.number(), .what = What::done, .path = path, .isChecked = true});
     auto &shown = controlOf<QLabel>(row, "shownPicture");
     EXPECT_TRUE(shown.isVisibleTo(&row));
-    EXPECT_EQ(shown.pixmap().deviceIndependentSize(), QSizeF(200, 160));
+    EXPECT_EQ(shown.pixmap().deviceIndependentSize(), QSizeF(180, 90));
     EXPECT_TRUE(isShown(row, "saveBtn"));
     EXPECT_FALSE(isShown(row, "lookBtn"));
 }
