@@ -7,15 +7,19 @@
 namespace nimb
 {
 
+ConversationTools ConversationForms::tools()
+{
+    return {m_links, m_emoji, m_spelling, m_logRoom, m_openHistory, m_folders, m_scratch};
+}
+
 ViewPtr<PrivateChatView> ConversationForms::makePrivateForm(PrivateChat &chat)
 {
-    return ViewPtr<PrivateChatView>(new frmPrivate(chat, {m_links, m_emoji, m_spelling, m_logRoom, m_openHistory}));
+    return ViewPtr<PrivateChatView>(new frmPrivate(chat, tools()));
 }
 
 ViewPtr<ConferenceView> ConversationForms::makeConferenceForm(Conference &conference)
 {
-    return ViewPtr<ConferenceView>(
-        new frmConference(conference, {m_links, m_emoji, m_spelling, m_logRoom, m_openHistory}));
+    return ViewPtr<ConferenceView>(new frmConference(conference, tools()));
 }
 
 } // namespace nimb

@@ -7,9 +7,12 @@
 #include "log/RTFSubClass.h"
 #include "log/log_room.h"
 #include "private_chat/private_chat_view.h"
+#include "widgets/scratch_folder.h"
 
 namespace nimb
 {
+
+struct ConversationTools;
 
 /// Each window is owned by its engine half, which lets it go.
 class ConversationForms : public PrivateForms, public ConferenceForms
@@ -17,10 +20,11 @@ class ConversationForms : public PrivateForms, public ConferenceForms
 public:
     /// emojiUsed: called when what of common was used lately has changed.
     /// openHistory: see ConversationTools.
+    /// folders: likewise.
     ConversationForms(LinkOpener &links, Common &common, std::function<void()> emojiUsed, Spelling &spelling,
-                      std::function<void(const QString &)> openHistory)
+                      std::function<void(const QString &)> openHistory, LinkOpener &folders)
         : m_links(links), m_emoji(common, std::move(emojiUsed)), m_spelling(spelling),
-          m_openHistory(std::move(openHistory))
+          m_openHistory(std::move(openHistory)), m_folders(folders)
     {
     }
 
@@ -28,11 +32,15 @@ public:
     ViewPtr<ConferenceView> makeConferenceForm(Conference &conference) override;
 
 private:
+    ConversationTools tools();
+
     RTFSubClass m_links;
     EmojiStock m_emoji;
     Spelling &m_spelling;
     LogRoom m_logRoom;
     std::function<void(const QString &)> m_openHistory;
+    LinkOpener &m_folders;
+    ScratchFolder m_scratch;
 };
 
 } // namespace nimb

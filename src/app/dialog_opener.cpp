@@ -3,6 +3,7 @@
 #include "app/manual_opener.h"
 #include "base/limits.h"
 #include "doctor/frmDoctor.h"
+#include "files/frmTransfers.h"
 #include "history/frmHistory.h"
 #include "main_window/frmMain.h"
 #include "options/frmOptions.h"
@@ -129,6 +130,14 @@ void DialogOpener::mnuHelpAbout()
 void DialogOpener::mnuShortcuts()
 {
     open(new frmShortcuts(&m_main));
+}
+
+void DialogOpener::mnuTransfers()
+{
+    if (!m_transfers || !m_transfers->isVisible())
+        m_transfers = new frmTransfers(m_engine.transfers(), m_services.folders, &m_main);
+    bringBack(*m_transfers);
+    m_transfers->activateWindow();
 }
 
 void DialogOpener::mnuHistory(const QString &ip)

@@ -25,6 +25,7 @@ class frmHistory;
 class frmMain;
 class frmSendContact;
 class frmTipOfTheDay;
+class frmTransfers;
 
 /// What the windows need beside the engine; all of it outlives them.
 struct FormServices {
@@ -35,6 +36,7 @@ struct FormServices {
     SettingsStore &store;
     Prompts &prompts;
     LinkOpener &links;
+    LinkOpener &folders; ///< opens folders of this machine
     ManualOpener &manual;
     PictureSources &pictures;
     NameResolver &names;
@@ -67,6 +69,7 @@ public:
     void mnuTOTD() override;
     void mnuNetworkDoctor() override;
     void mnuShortcuts() override;
+    void mnuTransfers() override;
     void mnuHistory(const QString &ip) override;
     void mnuLeaveOut(const QString &ip, bool leftOut) override;
     bool hasManual() const override;
@@ -91,6 +94,7 @@ private:
     QPointer<frmSendContact> m_sendContact;
     QPointer<frmDoctor> m_doctor;
     QPointer<frmHistory> m_history;
+    QPointer<frmTransfers> m_transfers;
 };
 
 } // namespace nimb

@@ -20,7 +20,8 @@ FormOpener::FormOpener(const FormServices &services)
           [this](const QString &address) {
               if (m_dialogs)
                   m_dialogs->mnuHistory(address);
-          }),
+          },
+          services.folders),
       m_slide(services.common, services.timers)
 {
 }

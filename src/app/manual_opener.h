@@ -37,6 +37,7 @@ inline constexpr std::array manualPages = {
     ManualPage{"frmTipOfTheDay", "tip-of-the-day.html"},
     ManualPage{"frmDoctor", "network-doctor.html"},
     ManualPage{"frmShortcuts", "shortcuts.html"},
+    ManualPage{"frmTransfers", "files.html"},
     ManualPage{"frmAbout", "about.html"},
     ManualPage{"frmNotify", "notices.html"},
 };

@@ -8,7 +8,9 @@ Messenger::Messenger(Common &common, const Surroundings &around)
       m_windows(around.windows), m_admission(common, m_contacts, around.ownAddresses, around.drops),
       m_log(around.mainView.outtext(), around.clock),
       m_notices({common, m_contacts, around.notifications, around.sound, around.timers}),
-      m_history(around.history, common, around.clock), m_unknown(m_log, around.timers), m_sender(common, around.socket),
+      m_history(around.history, common, around.clock),
+      m_transfers({around.fileServer, common, around.prompts, around.timers, around.clock, m_log}, around.fileFetcher),
+      m_unknown(m_log, around.timers), m_sender(common, around.socket),
       m_announcement(common, m_contacts, m_sender, around.timers, around.clock, around.mainView),
       m_ownState(common, m_contacts, m_sender, m_announcement, m_log, around.mainView, [this] { ownStateChanged(); }),
       m_recovery({common, around.store, m_contacts, m_ownState, around.timers, m_log, around.mainView}),
@@ -19,7 +21,7 @@ Messenger::Messenger(Common &common, const Surroundings &around)
       m_outbox({common, around.store, m_contacts, around.timers, around.clock, around.prompts, m_log,
                 [this](const WaitingMessage &message) { m_privateWindows.sendWaiting(message); },
                 [this](const WaitingMessage &message) { m_privateWindows.willNotBeSent(message); }}),
-      m_privateWindows({{common, around.socket, around.clock, m_history},
+      m_privateWindows({{common, around.socket, around.clock, m_history, m_transfers},
                         around.sound,
                         around.timers,
                         around.privateForms,
@@ -34,7 +36,7 @@ Messenger::Messenger(Common &common, const Surroundings &around)
       m_peerFeatures({common, m_contacts, around.socket, m_privateWindows, m_avatars, m_ownAvatar, m_activity, m_log,
                       m_notices, around.sound, around.drops}),
       m_sharedContacts(m_admission, m_contacts, m_log, around.drops),
-      m_conferences({{common, around.socket, around.clock, m_history},
+      m_conferences({{common, around.socket, around.clock, m_history, m_transfers},
                      m_contacts,
                      m_avatars,
                      m_ownAvatar,
@@ -56,16 +58,33 @@ Messenger::Messenger(Common &common, const Surroundings &around)
                     .sharedContacts = &m_sharedContacts,
                     .conferences = &m_conferenceCommands},
                    around.drops),
-      m_mainWindow({common, around.store, around.goodCopy, around.nextStart, around.socket, m_networks, m_contacts,
-                    m_ownState, m_sender, m_announcement, m_port, m_recovery, m_log, around.prompts,
+      m_mainWindow({common,
+                    around.store,
+                    around.goodCopy,
+                    around.nextStart,
+                    around.socket,
+                    m_networks,
+                    m_contacts,
+                    m_ownState,
+                    m_sender,
+                    m_announcement,
+                    m_port,
+                    m_recovery,
+                    m_log,
+                    around.prompts,
                     [this](Ipv4Address ip, int number) {
                         return m_conferences.joined(ip, number) || m_conferences.hosted(number);
                     },
-                    [this] { m_outbox.load(); }, [this] { unloadOtherWindows(); }, around.tray, around.mainView})
+                    [this] { m_outbox.load(); },
+                    [this] { unloadOtherWindows(); },
+                    [this] { return m_transfers.underWay(); },
+                    around.tray,
+                    around.mainView})
 {
     m_dispatcher.listenTo(m_socket);
     around.history.trouble = [this](const QString &sentence) { m_log.fault(sentence); };
     QObject::connect(&m_history, &HistoryChoice::chosen, [this] { m_recovery.settingsChanged(); });
+    QObject::connect(&m_transfers.offers, &FileOffers::explained, [this] { m_recovery.settingsChanged(); });
     QObject::connect(&m_contacts, &ContactList::acquaintanceChanged,
                      [this](Ipv4Address ip, bool acquainted) { m_socket.setAcquainted(ip, acquainted); });
 }

@@ -9,6 +9,7 @@
 #include "contacts/same_machine.h"
 #include "contacts/shared_contacts.h"
 #include "conversation/history_choice.h"
+#include "files/file_transfers.h"
 #include "main_window/contact_commands.h"
 #include "main_window/main_window.h"
 #include "main_window/recovery.h"
@@ -45,6 +46,8 @@ struct Surroundings {
     History &history;
     MainWindowView &mainView;
     DropCounts &drops;
+    FileServer &fileServer;
+    FileFetcher &fileFetcher;
 };
 
 /// The engine of one copy from the loading of the main window to its end. A process may hold any number of them.
@@ -75,6 +78,7 @@ public:
     Notices &notices() { return m_notices; }
     HistoryChoice &history() { return m_history; }
     Outbox &outbox() { return m_outbox; }
+    FileTransfers &transfers() { return m_transfers; }
     /// The user turns to what a notice was about; there is nothing to open for the main window.
     void openNotice(const NoticePlace &place);
     /// The user has written a text back to it.
@@ -98,6 +102,7 @@ private:
     MainLog m_log;
     Notices m_notices;
     HistoryChoice m_history;
+    FileTransfers m_transfers;
     UnknownDatagrams m_unknown;
     PresenceSender m_sender;
     Announcement m_announcement;

@@ -31,8 +31,8 @@ Program::Program(const Environment &environment)
       m_udp(m_drops, environment.address ? readAddress(*environment.address) : std::nullopt, environment.hostName),
       m_socket(m_udp, m_trace), m_ownAddresses(environment.address ? readAddress(*environment.address) : std::nullopt),
       m_diagnosis(m_udp), m_history(environment.profileFolder),
-      m_forms({m_common, m_timers, m_clock, m_socket, m_store, m_prompts, m_links, m_manual, m_pictures, m_names,
-               m_netSend, m_systemInfo, m_diagnosis, m_trace, m_drops, m_spellChecker,
+      m_forms({m_common, m_timers, m_clock, m_socket, m_store, m_prompts, m_links, m_folders, m_manual, m_pictures,
+               m_names, m_netSend, m_systemInfo, m_diagnosis, m_trace, m_drops, m_spellChecker,
                [] { return readProgramFile(QStringLiteral("TOTD.txt")); }})
 {
     qApp->installEventFilter(&m_toolTips);
@@ -155,9 +155,27 @@ void Program::loadMain()
     m_prompts.setParentWindow(&window);
     m_tray.emplace(m_forms.trayIcon(), [&window] { window.restore(); });
     m_engine.emplace(m_common,
-                     Surroundings{m_socket, m_store, m_store, m_nextStart, m_timers, m_clock, m_ownAddresses,
-                                  m_networkWatch, m_chance, m_prompts, *m_notifications, m_sound, *m_tray, m_forms,
-                                  m_forms.conversations(), m_forms.conversations(), m_history, window, m_drops});
+                     Surroundings{m_socket,
+                                  m_store,
+                                  m_store,
+                                  m_nextStart,
+                                  m_timers,
+                                  m_clock,
+                                  m_ownAddresses,
+                                  m_networkWatch,
+                                  m_chance,
+                                  m_prompts,
+                                  *m_notifications,
+                                  m_sound,
+                                  *m_tray,
+                                  m_forms,
+                                  m_forms.conversations(),
+                                  m_forms.conversations(),
+                                  m_history,
+                                  window,
+                                  m_drops,
+                                  m_fileServer,
+                                  m_fileFetcher});
     m_forms.connectMain(
         *m_engine, [this] { return statusNotes(); }, [] { QCoreApplication::exit(0); });
     window.Form_Load();

@@ -6,6 +6,8 @@
 #include "app/messenger.h"
 #include "app/notification_router.h"
 #include "base/window_openers.h"
+#include "files/http_file_fetcher.h"
+#include "files/http_file_server.h"
 #include "history/history_keeper.h"
 #include "main_window/Tray.h"
 #include "platform/desktop_appearance.h"
@@ -106,6 +108,7 @@ private:
     ProgramSounds m_sound;
     DesktopLinkOpener m_links{desktopHandler};
     DesktopPageOpener m_pages{desktopHandler};
+    DesktopFolderOpener m_folders{desktopHandler};
     ManualOpener m_manual{findManual(), m_pages};
     SystemPictureSources m_pictures;
     HostNameResolver m_names;
@@ -114,6 +117,8 @@ private:
     SystemNetworkDiagnosis m_diagnosis;
     HunspellSpelling m_spellChecker;
     HistoryKeeper m_history;
+    HttpFileServer m_fileServer;
+    HttpFileFetcher m_fileFetcher;
     FormOpener m_forms;
     std::optional<DesktopAppearance> m_appearance;
     std::optional<NotificationRouter> m_notifications;

@@ -82,6 +82,7 @@ struct Common {
     QStringList recentEmoji; ///< used lately, the latest first
     SpellingChoice spelling;
     HistoryRules history;
+    bool filesExplained = false; ///< the user has been told once that files are not encrypted
 
     bool windowFlashingAvailable = false;
     bool buzzmute = false;

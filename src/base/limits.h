@@ -187,6 +187,44 @@ constexpr qsizetype spellingSuggestions = 5;
 constexpr std::chrono::milliseconds suggestionTime{100};
 /// Bytes of each file of a dictionary: several times the largest that there is.
 constexpr qint64 dictionaryFileBytes = qint64{32} * 1024 * 1024;
+/// Characters of the name of a file that goes to another computer: systems allow 255 bytes, and a number may follow.
+constexpr qsizetype fileNameLength = 200;
+/// Of the same name in its link, encoded: with all that stands before it a link opens 1023 characters at most.
+constexpr qsizetype fileNameEncoded = 800;
+/// Files that one drop or choice sends: each is a message.
+constexpr int filesAtOnce = 20;
+/// Files that are offered at a time: each is a row that somebody has to oversee.
+constexpr int filesOffered = 200;
+/// Rows of files that others offer, as many as anybody reads; the oldest go first.
+constexpr int filesReceived = 500;
+/// Files and folders in one that is offered: reading their names and sizes takes seconds.
+constexpr std::size_t filesInFolder = 200'000;
+/// Files that are sent at once, and how many of them to one peer: more share the same line and none of them comes.
+constexpr int filesSentAtOnce = 8;
+constexpr int filesSentToPeer = 4;
+/// Rows of a conversation's panel of files; the others are under Tools > Transfers...
+constexpr int filesInPanel = 3;
+/// Files that are received at once; others wait.
+constexpr int filesReceivedAtOnce = 4;
+/// Connections to the server of files: a peer may look while it loads. Each has a thread with a small stack.
+constexpr int fileConnections = 64;
+constexpr int fileConnectionsOfPeer = 12;
+/// Of all to whom nothing is offered: they are told so and must not keep the others out.
+constexpr int fileConnectionsOfStrangers = 16;
+/// Bytes of the head of a request, and of an answer: some hundred are needed.
+constexpr int fileRequestBytes = 16 * 1024;
+/// Time without progress after which a transfer ends.
+constexpr std::chrono::seconds fileTransferStalls{30};
+/// What is read of a file and held in memory at a time, for each transfer.
+constexpr std::size_t filePiece = std::size_t{256} * 1024;
+/// How often the progress of a transfer is told.
+constexpr std::chrono::milliseconds fileProgressTold{250};
+/// The ports that are tried behind the first where others hold it.
+constexpr int filePortsTried = 50;
+/// How long a file is offered unless the user says otherwise.
+constexpr std::chrono::hours fileOffered{24};
+/// Bytes of a picture that is shown before it is saved: what a click brings into memory.
+constexpr qint64 shownPictureBytes = qint64{5} * 1000 * 1000;
 /// Personalised states that the store keeps.
 constexpr int storedPersonalizedStates = 8;
 

@@ -188,6 +188,7 @@ LoadedSettings loadSettings(const SettingsStore &store, Common &common)
     common.spelling.words = ownWords(read.text("SpellingWords"));
     common.history.keep = keepHistoryOf(read.text("KeepHistory"));
     common.history.leftOut = leftOutOf(read.text("HistoryLeftOut"));
+    common.filesExplained = read.flag("FilesExplained");
     for (int n = 1; n <= limits::storedPersonalizedStates; ++n)
         loaded.personalizedStates.append(store.read(
             QLatin1String(settingKey(QLatin1String("PersonalizedState")).section), personalizedStateKey(n), {}));
@@ -219,6 +220,7 @@ void saveSettings(SettingsSink &store, const Common &common, const QStringList &
     write("SpellingWords", common.spelling.words.join(u' '));
     write("KeepHistory", textOf(common.history.keep));
     write("HistoryLeftOut", common.history.leftOut.join(u' '));
+    write("FilesExplained", flagText(common.filesExplained));
     // Unused numbers are emptied, or entries of an earlier, longer list would come back.
     for (int n = 1; n <= limits::storedPersonalizedStates; ++n)
         store.write(QLatin1String(settingKey(QLatin1String("PersonalizedState")).section), personalizedStateKey(n),

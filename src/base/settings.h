@@ -64,6 +64,8 @@ inline constexpr std::array settingKeys = {
                "how long conversations are kept: year, ever, or no; empty: the user has not been asked"},
     SettingKey{"Options", "HistoryLeftOut", SettingType::text, "",
                "addresses of contacts with whom nothing is kept, between blanks"},
+    SettingKey{"Options", "FilesExplained", SettingType::flag, "0",
+               "the user has been told that files are not encrypted"},
     SettingKey{"Options", "SpellingLanguage", SettingType::text, "",
                "name of the dictionary for what is written, empty: of the desktop's language, off: none"},
     SettingKey{"Options", "SpellingWords", SettingType::text, "", "words added to every dictionary, between blanks"},

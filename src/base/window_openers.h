@@ -48,6 +48,8 @@ public:
     virtual void mnuTOTD() = 0;
     virtual void mnuNetworkDoctor() = 0;
     virtual void mnuShortcuts() = 0;
+    /// What is offered, and what others offer.
+    virtual void mnuTransfers() = 0;
     /// What was kept of the conversation with a contact; of none: of all.
     virtual void mnuHistory(const QString &ip) = 0;
     /// Nothing of the contact is kept from now on, or again.

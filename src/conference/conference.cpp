@@ -89,6 +89,22 @@ Ipv4Address Conference::ownAddress(std::optional<Ipv4Address> peer) const
     return ownAddressTowards(common(), socket(), peer);
 }
 
+/// All who read the link, under the address that the host knows or, at the host, the first guest.
+FileOffers::Recipients Conference::fileRecipients() const
+{
+    FileOffers::Recipients recipients{.to = {}, .at = {}, .whom = keptAs().name};
+    if (!isHostedHere())
+        recipients.to.push_back(m_identity.ConfServerIP);
+    for (const Participant &participant : m_participants.rows()) {
+        const std::optional<Ipv4Address> ip = participant.ip.ipv4();
+        if (ip && participant.isPresentPeer() && *ip != m_identity.ConfServerIP)
+            recipients.to.push_back(*ip);
+    }
+    if (!recipients.to.empty())
+        recipients.at = ownAddress(recipients.to.front());
+    return recipients;
+}
+
 // --- receiving
 
 Conference::Writer Conference::writerOf(Ipv4Address ip) const

@@ -81,6 +81,7 @@ private:
     QString openingLine(const QString &date, const QString &time) const override;
     QString textToSend(const QString &typed) const override;
     void deliver(const QString &text) override;
+    FileOffers::Recipients fileRecipients() const override;
     void allRead() override { m_services.notices.conferenceSeen(m_identity.fConfN); }
 
     QString caption() const;

@@ -3,8 +3,10 @@
 #include "base/clock_text.h"
 #include "base/limits.h"
 #include "base/line_break.h"
+#include "base/own_address.h"
 #include "base/remote_text.h"
 #include "conversation/history_choice.h"
+#include "files/file_transfers.h"
 #include "log/emoticons.h"
 #include "protocol/address_text.h"
 
@@ -60,6 +62,7 @@ void Conversation::appendReceived(const Writer &writer, const QString &text)
     }
     const QDateTime now = m_services.clock.now();
     appendMessage(writer, text, {.writer = writer.name, .time = now});
+    offerReceived(writer, text);
     conversationView().setLastMessage(tr("Last message: %1 @ %2").arg(shortDate(now), longTime(now)));
 }
 
@@ -80,6 +83,34 @@ void Conversation::appendMessage(const Writer &writer, const QString &text, cons
                     .writer = writer.name,
                     .workstation = writer.workstation,
                     .text = text});
+}
+
+/// Each answer may come when this is gone.
+void Conversation::sendFiles(const QStringList &paths)
+{
+    if (m_over)
+        return;
+    const FileOffers::Answers answers{.written =
+                                          [self = std::weak_ptr(m_self)](const QString &message) {
+                                              const auto there = self.lock();
+                                              return there && (*there)->send(message);
+                                          },
+                                      .refused =
+                                          [self = std::weak_ptr(m_self)](const QString &sentence) {
+                                              if (const auto there = self.lock())
+                                                  (*there)->conversationView().showFileTrouble(sentence);
+                                          }};
+    transfers().offers.offer(paths, fileRecipients(), answers);
+}
+
+void Conversation::offerReceived(const Writer &writer, const QString &text)
+{
+    const std::optional<Ipv4Address> address = readAddress(writer.address);
+    if (!address)
+        return;
+    const Ipv4Address own = ownAddressTowards(common(), socket(), *address);
+    if (const std::optional<int> number = transfers().received.add(text, *address, writer.name, own))
+        conversationView().addReceivedFile(*number);
 }
 
 void Conversation::showEarlier()

@@ -6,6 +6,7 @@
 #include "base/timers.h"
 #include "base/unload_mode.h"
 #include "conversation/conversation_view.h"
+#include "files/file_offers.h"
 #include "protocol/winsock.h"
 
 #include <QCoreApplication>
@@ -17,6 +18,7 @@ namespace nimb
 {
 
 class HistoryChoice;
+struct FileTransfers;
 
 /// The engine half of a ConversationPane. What only one kind of conversation has is the business of its class.
 class Conversation
@@ -30,6 +32,7 @@ public:
         Winsock &socket;
         const WallClock &clock;
         HistoryChoice &history;
+        FileTransfers &transfers;
     };
 
     virtual ~Conversation() = default;
@@ -46,6 +49,10 @@ public:
     void outtext_Change();
     /// The window has become the active one, or its reader has come to the end of the log: all has been seen.
     void endSeen();
+
+    /// Offers files and folders to whoever takes part; each has a message of its own.
+    void sendFiles(const QStringList &paths);
+    FileTransfers &transfers() const { return m_services.transfers; }
 
     HistoryChoice &history() const { return m_services.history; }
     /// What it is kept as.
@@ -89,6 +96,8 @@ private:
     virtual QString textToSend(const QString &typed) const = 0;
     /// Sends to whoever else takes part.
     virtual void deliver(const QString &text) = 0;
+    /// To whom files go that are sent here.
+    virtual FileOffers::Recipients fileRecipients() const = 0;
     /// Nothing is unread any more.
     virtual void allRead() { }
     /// Of what is sent now.
@@ -96,6 +105,7 @@ private:
     /// It stands in the log.
     virtual void wasSent(const QString &, const LogMessage &) { }
 
+    void offerReceived(const Writer &writer, const QString &text);
     void appendMessage(const Writer &writer, const QString &text, const LogMessage &message);
 
     Services m_services;

@@ -6,8 +6,11 @@
 #include "conversation/emoji_picker.h"
 #include "conversation/emoji_stock.h"
 #include "conversation/emoticon_picker.h"
+#include "conversation/file_drops.h"
+#include "conversation/file_panel.h"
 #include "conversation/history_choice.h"
 #include "conversation/message_input.h"
+#include "files/file_transfers.h"
 #include "log/RTFSubClass.h"
 #include "log/cleared_band.h"
 #include "log/log_font.h"
@@ -15,18 +18,23 @@
 #include "log/rich_text_log.h"
 #include "widgets/accessible_window.h"
 #include "widgets/band.h"
+#include "widgets/file_dialogs.h"
 #include "widgets/form_layout.h"
 #include "widgets/form_text.h"
 #include "widgets/former_size.h"
+#include "widgets/scratch_folder.h"
 #include "widgets/screen_room.h"
 #include "widgets/tool_button.h"
 #include "widgets/tool_row.h"
 #include "widgets/window_attention.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
+#include <QDir>
 #include <QHBoxLayout>
+#include <QImage>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -59,10 +67,11 @@ bool isMeantForMessage(const QKeyEvent &event)
 
 ConversationPane::ConversationPane(Conversation &conversation, const ConversationTools &tools, QWidget *parent)
     : QWidget(parent), m_conversation(&conversation), m_links(tools.links), m_openHistory(tools.openHistory),
-      m_emoji(tools.emoji)
+      m_emoji(tools.emoji), m_folders(tools.folders), m_scratch(tools.scratch)
 {
     buildControls();
     connectControls();
+    connectFiles();
     m_links.HookRichText(*m_outtext, *this);
     tools.logRoom.join(*m_outtext, [this] { return m_conversation && m_conversation->isSpared(); });
     intext->setSpelling(tools.spelling);
@@ -96,6 +105,8 @@ void ConversationPane::buildControls()
     m_column->addLayout(makeInput());
     m_column->insertWidget(m_column->indexOf(m_cleared->strip()),
                            makeHistoryBand()); // made last, so that the Tab key comes to it last
+    fileBand = named(makeBandWithLink(this), "fileBand");
+    m_column->insertWidget(m_column->indexOf(m_cleared->strip()), fileBand);
 }
 
 QWidget *ConversationPane::makeToolRow()
@@ -105,15 +116,31 @@ QWidget *ConversationPane::makeToolRow()
     if (EmojiTable::isThere())
         Emoticbtn->setToolTip(tr("Emoticons and emoji (Ctrl+.)"));
     datetimebtn = toolButton(this, "datetimebtn", tr("Date&&Time"), "datetime");
+    QWidget *const files = makeFileTool();
     clearbtn = toolButton(this, "clearbtn", tr("Clear"), "clear");
     m_toolRow = new ToolRow(this);
-    for (QToolButton *const tool : {Emoticbtn, datetimebtn, clearbtn})
+    for (QWidget *const tool : std::initializer_list<QWidget *>{Emoticbtn, datetimebtn, files, clearbtn})
         m_toolRow->add(tool);
     messageCounter = named(new QLabel(this), "messageCounter");
     messageCounter->setAccessibleName(tr("Length of the message"));
     messageCounter->hide();
     m_toolRow->addAtEnd(messageCounter);
     return m_toolRow;
+}
+
+/// A picture at every width, for the captions of the others need the room: hence in a frame, where the row does not see
+/// that it is a button.
+QWidget *ConversationPane::makeFileTool()
+{
+    auto *const frame = new QWidget(this);
+    sendFileBtn = toolButton(frame, "sendFileBtn", tr("Send files"), "file");
+    sendFileBtn->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    sendFileBtn->setToolTip(tr("Send files"));
+    auto *const line = new QHBoxLayout(frame);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->addWidget(sendFileBtn);
+    frame->setVisible(m_conversation->transfers().offers.isAvailable());
+    return frame;
 }
 
 /// Says what of a paste did not fit, and offers it.
@@ -186,6 +213,79 @@ void ConversationPane::connectControls()
     connect(ListViewEmot, &EmoticonPicker::picked, this, &ConversationPane::ListViewEmot_ItemClick);
     connect(m_outtext, &QTextEdit::textChanged, this, &ConversationPane::outtext_Change);
     connect(m_outtext, &RichTextLogEdit::endReached, this, &ConversationPane::noteWhatIsSeen);
+}
+
+/// Where nothing can be sent, nothing is offered to.
+void ConversationPane::connectFiles()
+{
+    if (!m_conversation->transfers().offers.isAvailable())
+        return;
+    m_drops = new FileDrops(this);
+    for (QWidget *const place : {parentWidget(), intext->viewport(), m_outtext->viewport()})
+        m_drops->watch(*place);
+    // A question may come first, which must not stand there while the other program waits for the end of the drop.
+    connect(m_drops, &FileDrops::dropped, this, &ConversationPane::sendFiles, Qt::QueuedConnection);
+    connect(sendFileBtn, &QToolButton::clicked, this, &ConversationPane::askForSentFiles);
+    connect(fileBand, &QLabel::linkActivated, this, &ConversationPane::fileBand_Click);
+    intext->setTakesPictures(true);
+    connect(intext, &MessageInput::picturePasted, this, &ConversationPane::offerPicture);
+    auto *const sendFile = named(new QAction(tr("Send &Files..."), this), "logSendFile");
+    connect(sendFile, &QAction::triggered, this, &ConversationPane::askForSentFiles);
+    auto *const sendFolder = named(new QAction(tr("Send a F&older..."), this), "logSendFolder");
+    connect(sendFolder, &QAction::triggered, this,
+            [this] { askForSentFolder(*window(), [this](const QString &path) { sendFiles({path}); }); });
+    m_outtext->setFurtherCommands({sendFile, sendFolder});
+}
+
+// --- files
+
+void ConversationPane::askForSentFiles()
+{
+    askForFiles(*window(), [this](const QStringList &paths) { sendFiles(paths); });
+}
+
+void ConversationPane::sendFiles(const QStringList &paths)
+{
+    if (m_conversation && intext->isEnabled())
+        m_conversation->sendFiles(paths);
+}
+
+/// Not at once: who pastes may have meant a text.
+void ConversationPane::offerPicture(const QImage &picture)
+{
+    const QString name = tr("Picture %1.png").arg(++m_pastedPictures);
+    const QString path = QDir(m_scratch.path()).filePath(QStringLiteral("%1-%2").arg(quintptr(this)).arg(name));
+    if (m_scratch.path().isEmpty() || !picture.save(path, "PNG"))
+        return showFileTrouble(tr("The picture cannot be sent, for there is no room for it."));
+    m_pastedPicture = path;
+    const QString sentence = tr("A picture was pasted (%1 × %2).").arg(picture.width()).arg(picture.height());
+    fileBand->setText(sentence + tr(" <a href=\"send\">Send it</a> / <a href=\"no\">leave it</a>"));
+    fileBand->setAccessibleName(sentence);
+    fileBand->show();
+}
+
+void ConversationPane::fileBand_Click(const QString &answer)
+{
+    fileBand->hide();
+    if (answer == QLatin1String("send"))
+        sendFiles({std::exchange(m_pastedPicture, {})});
+    focusInput();
+}
+
+void ConversationPane::showFileTrouble(const QString &sentence)
+{
+    fileBand->setText(sentence.toHtmlEscaped() + tr(" <a href=\"close\">Close</a>"));
+    fileBand->setAccessibleName(sentence);
+    fileBand->show();
+}
+
+void ConversationPane::addReceivedFile(int number)
+{
+    if (!m_files) {
+        m_files = new FilePanel(m_conversation->transfers().received, m_folders, m_scratch, this);
+        m_column->insertWidget(m_column->indexOf(m_cleared->strip()), m_files);
+    }
+    m_files->add(number);
 }
 
 // --- what the window adds

@@ -25,10 +25,14 @@ class Conversation;
 class EmojiPicker;
 class EmojiStock;
 class EmoticonPicker;
+class FileDrops;
+class FilePanel;
 class FormerSize;
+class LinkOpener;
 class LogRoom;
 class MessageInput;
 class RTFSubClass;
+class ScratchFolder;
 class Spelling;
 class ToolRow;
 
@@ -40,6 +44,8 @@ struct ConversationTools {
     LogRoom &logRoom;   ///< what the logs may hold
     /// Opens what was kept of the conversation with a contact; of none: of all.
     std::function<void(const QString &address)> openHistory;
+    LinkOpener &folders;    ///< opens a folder of this machine
+    ScratchFolder &scratch; ///< for pictures that are shown or sent and not kept
 };
 
 /// What a window has beside it, it makes itself and puts between the parts of the pane or around it.
@@ -73,6 +79,8 @@ public:
     void setCaption(const QString &caption) override;
     void setLogFont(const LogFont &font) override;
     void addEarlier(const std::vector<StoredMessage> &messages) override { m_outtext->addEarlier(messages); }
+    void addReceivedFile(int number) override;
+    void showFileTrouble(const QString &sentence) override;
     void setLastMessage(const QString &text) override { Q_EMIT lastMessageChanged(text); }
     QString typedText() const override;
     void setDraft(const QString &text) override;
@@ -98,10 +106,12 @@ Q_SIGNALS:
 private:
     void buildControls();
     QWidget *makeToolRow();
+    QWidget *makeFileTool();
     QWidget *makeCutBand();
     QWidget *makeHistoryBand();
     QHBoxLayout *makeInput();
     void connectControls();
+    void connectFiles();
 
     void sendbtn_Click();
     void Clearbtn_Click();
@@ -120,6 +130,10 @@ private:
     void openHistory() const;
     void historyBand_Click(const QString &answer);
     void offerRest(const QString &rest);
+    void sendFiles(const QStringList &paths);
+    void askForSentFiles();
+    void offerPicture(const QImage &picture);
+    void fileBand_Click(const QString &answer);
     void Form_Unload();
 
     Conversation *m_conversation; ///< null once the window was let go
@@ -129,6 +143,10 @@ private:
     RTFSubClass &m_links;
     std::function<void(const QString &address)> m_openHistory;
     EmojiStock &m_emoji;
+    LinkOpener &m_folders;
+    ScratchFolder &m_scratch;
+    QString m_pastedPicture; ///< path of what may be sent
+    int m_pastedPictures = 0;
 
     RichTextLogEdit *m_outtext = nullptr;
     EmoticonPicker *ListViewEmot = nullptr;
@@ -138,6 +156,10 @@ private:
     QLabel *messageCounter = nullptr;
     QLabel *cutBand = nullptr;
     QLabel *historyBand = nullptr;
+    QLabel *fileBand = nullptr;
+    FilePanel *m_files = nullptr; ///< once the other side has offered one
+    FileDrops *m_drops = nullptr;
+    QToolButton *sendFileBtn = nullptr;
     ClearedBand *m_cleared = nullptr;
     QToolButton *clearbtn = nullptr;
     QToolButton *datetimebtn = nullptr;

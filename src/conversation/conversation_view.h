@@ -21,6 +21,10 @@ public:
     /// What was said before the window was opened, or before what is shown of that already: above the log, and no part
     /// of its text.
     virtual void addEarlier(const std::vector<StoredMessage> &messages) = 0;
+    /// A file that the writer of the last message offers; see ReceivedFiles.
+    virtual void addReceivedFile(int number) = 0;
+    /// Why a file was not sent.
+    virtual void showFileTrouble(const QString &sentence) = 0;
     /// The first panel of the status bar.
     virtual void setLastMessage(const QString &text) = 0;
     /// The input box as it is now, line breaks as CR LF.

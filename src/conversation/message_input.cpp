@@ -7,7 +7,9 @@
 #include "widgets/form_text.h"
 
 #include <QContextMenuEvent>
+#include <QImage>
 #include <QKeyEvent>
+#include <QMimeData>
 
 namespace nimb
 {
@@ -56,6 +58,20 @@ void MessageInput::keyPressEvent(QKeyEvent *event)
         Q_EMIT recallWanted();
     else
         PlainTextBox::keyPressEvent(event);
+}
+
+bool MessageInput::canInsertFromMimeData(const QMimeData *source) const
+{
+    return PlainTextBox::canInsertFromMimeData(source) || (m_takesPictures && source && source->hasImage());
+}
+
+void MessageInput::insertFromMimeData(const QMimeData *source)
+{
+    const bool isPicture = m_takesPictures && source && source->hasImage() && !source->hasText();
+    if (!isPicture)
+        return PlainTextBox::insertFromMimeData(source);
+    if (const auto picture = source->imageData().value<QImage>(); !picture.isNull())
+        Q_EMIT picturePasted(picture);
 }
 
 void MessageInput::cut()

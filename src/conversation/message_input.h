@@ -22,20 +22,28 @@ public:
     /// Misspelt words are marked from now on. Called once; spelling outlives the box.
     void setSpelling(Spelling &spelling);
 
+    /// A picture that is pasted is told of; otherwise it is nothing, as in every box for text.
+    void setTakesPictures(bool takes) { m_takesPictures = takes; }
+
 Q_SIGNALS:
     void entered();
     /// The Up key was pressed in an empty box.
     void recallWanted();
     /// More was pasted than the box holds; rest: what has been cut.
     void pasteCut(const QString &rest);
+    /// A picture was pasted, and no text with it.
+    void picturePasted(const QImage &picture);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    bool canInsertFromMimeData(const QMimeData *source) const override;
+    void insertFromMimeData(const QMimeData *source) override;
 
 private:
     void cut();
+    bool m_takesPictures = false;
 
     SpellingMarks *m_spelling = nullptr;
 };

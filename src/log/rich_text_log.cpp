@@ -923,6 +923,8 @@ void RichTextLogEdit::contextMenuEvent(QContextMenuEvent *event)
     menu->addActions({m_save, m_print});
     menu->addSeparator();
     menu->addActions({m_zoomIn, m_zoomOut, m_resetZoom});
+    menu->addSeparator();
+    menu->addActions(m_furtherCommands);
     menu->popup(event->globalPos());
 }
 

@@ -44,6 +44,8 @@ public:
     void setInsets(int above, int below);
     /// Turns web addresses in lines that are completed from now on into links.
     void setLinkDetection(bool on) { m_detectsLinks = on; }
+    /// Entries of the context menu behind the log's own, in that order.
+    void setFurtherCommands(const QList<QAction *> &commands) { m_furtherCommands = commands; }
     /// Larger or smaller letters by this many points; 0 goes back to the font's own size.
     void zoom(int points);
     /// Puts in what has been gathered.
@@ -227,6 +229,7 @@ private:
     QAction *m_zoomIn = nullptr;
     QAction *m_zoomOut = nullptr;
     QAction *m_resetZoom = nullptr;
+    QList<QAction *> m_furtherCommands;
 };
 
 /// A colour of the logs as the screen takes it, and back.

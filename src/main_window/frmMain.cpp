@@ -245,6 +245,7 @@ void frmMain::connectMenus()
     on("mnuImportContacts", [this] { m_engine->windows.mnuImportContacts(); });
     on("mnuExportContacts", [this] { m_engine->windows.mnuExportContacts(); });
     on("mnuFindEverybody", [this] { m_engine->windows.mnuFindEverybody(); });
+    on("mnuTransfers", [this] { m_engine->windows.mnuTransfers(); });
     on("mnuToolsOptions", [this] { m_engine->windows.mnuToolsOptions(); });
     on("mnuHelpAbout", [this] { m_engine->windows.mnuHelpAbout(); });
     on("mnuTOTD", [this] { m_engine->windows.mnuTOTD(); });

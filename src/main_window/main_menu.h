@@ -66,6 +66,7 @@ inline constexpr std::array conference = {
 };
 inline constexpr std::array tools = {
     MenuEntry{"mnuLogWindow", QT_TRANSLATE_NOOP("MainMenu", "Show &Log Window")},
+    MenuEntry{"mnuTransfers", QT_TRANSLATE_NOOP("MainMenu", "&Transfers..."), "file"},
     MenuEntry{"mnuToolsOptions", QT_TRANSLATE_NOOP("MainMenu", "&Options..."), "options"},
 };
 inline constexpr std::array help = {

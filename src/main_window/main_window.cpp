@@ -93,12 +93,25 @@ LoadedSettings MainWindow::loadSettings()
 CloseDecision MainWindow::Form_QueryUnload(UnloadMode mode)
 {
     if (mode != UnloadMode::closeBox || !m_parts.common.options.closeBoxHides)
-        return CloseDecision::unload;
+        return mayEndTransfers(mode) ? CloseDecision::unload : CloseDecision::stay;
     if (m_parts.tray.isShown())
         return CloseDecision::hide;
     if (!std::exchange(m_saidWhyMinimised, true))
         m_parts.log.remark(tr("--- this desktop shows no tray icon: NIMB-Chat is minimised instead of hidden ---"));
     return CloseDecision::minimise;
+}
+
+/// Whoever does not answer, as at the end of a session, does not hold the end up.
+bool MainWindow::mayEndTransfers(UnloadMode mode)
+{
+    const int underWay = mode == UnloadMode::sessionEnd ? 0 : m_parts.transfersUnderWay();
+    if (underWay == 0)
+        return true;
+    return m_parts.prompts
+        .decide(
+            tr("Files that are still on their way would be broken off: %1. End NIMB-Chat all the same?").arg(underWay),
+            programTitle)
+        .value_or(true);
 }
 
 void MainWindow::Form_Unload()

@@ -52,6 +52,7 @@ public:
         std::function<bool(Ipv4Address, int)> takesPartIn;
         std::function<void()> contactsLoaded; ///< what belongs to contacts can be read now
         std::function<void()> unloadOtherWindows;
+        std::function<int()> transfersUnderWay; ///< files that are sent or fetched
         TrayIcon &tray;
         MainWindowView &view;
     };
@@ -75,6 +76,7 @@ public:
 
 private:
     LoadedSettings loadSettings();
+    bool mayEndTransfers(UnloadMode mode);
     void answerNobody();
     void countUnshown(std::size_t byteCount);
     void tellOfUnshown();

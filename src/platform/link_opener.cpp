@@ -3,6 +3,7 @@
 #include "platform/watched_start.h"
 
 #include <QDesktopServices>
+#include <QFileInfo>
 #include <QStandardPaths>
 #include <QStringList>
 
@@ -49,6 +50,12 @@ bool DesktopPageOpener::open(const QUrl &address, std::function<void()> failed)
     const bool isPage
         = address.isLocalFile() && address.host().isEmpty() && address.path().endsWith(QLatin1String(".html"));
     return isPage && openWith(m_handler, address, std::move(failed));
+}
+
+bool DesktopFolderOpener::open(const QUrl &address, std::function<void()> failed)
+{
+    const bool isFolder = address.isLocalFile() && address.host().isEmpty() && QFileInfo(address.toLocalFile()).isDir();
+    return isFolder && openWith(m_handler, address, std::move(failed));
 }
 
 } // namespace nimb

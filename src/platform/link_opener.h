@@ -43,4 +43,16 @@ private:
     DesktopHandler m_handler;
 };
 
+/// Opens folders of this machine with what shows folders, and nothing else: never a file in one. Needs the application
+/// object.
+class DesktopFolderOpener : public LinkOpener
+{
+public:
+    explicit DesktopFolderOpener(DesktopHandler handler = {}) : m_handler(std::move(handler)) { }
+    bool open(const QUrl &address, std::function<void()> failed) override;
+
+private:
+    DesktopHandler m_handler;
+};
+
 } // namespace nimb

@@ -2,6 +2,7 @@
 
 #include "base/buzz.h"
 #include "base/limits.h"
+#include "base/own_address.h"
 #include "base/remote_text.h"
 #include "conversation/message_text.h"
 #include "private_chat/auto_reply.h"
@@ -158,6 +159,14 @@ void PrivateChat::sendWaiting(const WaitingMessage &message)
 void PrivateChat::willNotBeSent(std::int64_t waiting)
 {
     conversationView().outtext().setFate(m_waiting.take(waiting), MessageFate::lost);
+}
+
+FileOffers::Recipients PrivateChat::fileRecipients() const
+{
+    const std::optional<Ipv4Address> ip = m_rIP.ipv4();
+    if (!ip)
+        return {};
+    return {.to = {*ip}, .at = ownAddressTowards(common(), socket(), ip), .whom = m_peer.name};
 }
 
 KeptConversation PrivateChat::keptAs() const

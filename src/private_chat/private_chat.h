@@ -109,6 +109,7 @@ private:
     QString openingLine(const QString &date, const QString &time) const override;
     QString textToSend(const QString &typed) const override;
     void deliver(const QString &text) override;
+    FileOffers::Recipients fileRecipients() const override;
     Writer peer(const QString &nik) const;
     void allRead() override { m_read(); }
     MessageFate fate() const override;

@@ -20,6 +20,15 @@ void open(QFileDialog *dialog, std::function<void(const QString &path)> chosen)
     dialog->QDialog::open();
 }
 
+void openForFolder(QWidget &parent, const QString &title, const QString &folder,
+                   std::function<void(const QString &path)> chosen)
+{
+    auto *const dialog = new QFileDialog(&parent, title, folder);
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    open(dialog, std::move(chosen));
+}
+
 } // namespace
 
 void askForFile(QWidget &parent, const QString &filter, std::function<void(const QString &path)> chosen)
@@ -51,11 +60,29 @@ void askForNewFile(QWidget &parent, const QString &name, const QString &filter,
 
 void askForFolder(QWidget &parent, const QString &folder, std::function<void(const QString &path)> chosen)
 {
-    auto *const dialog
-        = new QFileDialog(&parent, QCoreApplication::translate("FileDialogs", "Choose a folder with pictures"), folder);
-    dialog->setFileMode(QFileDialog::Directory);
-    dialog->setOption(QFileDialog::ShowDirsOnly);
-    open(dialog, std::move(chosen));
+    openForFolder(parent, QCoreApplication::translate("FileDialogs", "Choose a folder with pictures"), folder,
+                  std::move(chosen));
+}
+
+void askForSentFolder(QWidget &parent, std::function<void(const QString &path)> chosen)
+{
+    openForFolder(parent, QCoreApplication::translate("FileDialogs", "Choose a folder to send"), {}, std::move(chosen));
+}
+
+void askForSaveFolder(QWidget &parent, const QString &folder, std::function<void(const QString &path)> chosen)
+{
+    openForFolder(parent, QCoreApplication::translate("FileDialogs", "Choose a folder to save in"), folder,
+                  std::move(chosen));
+}
+
+void askForFiles(QWidget &parent, std::function<void(const QStringList &paths)> chosen)
+{
+    auto *const dialog = new QFileDialog(&parent, QCoreApplication::translate("FileDialogs", "Choose files to send"));
+    dialog->setFileMode(QFileDialog::ExistingFiles);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(dialog, &QFileDialog::filesSelected, dialog,
+                     [chosen = std::move(chosen)](const QStringList &paths) { chosen(paths); });
+    dialog->QDialog::open();
 }
 
 void showPageSetup(QWidget &parent)

@@ -18,6 +18,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabBar>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QToolButton>
 
@@ -444,6 +445,65 @@ void takePrivateWhileAway(Gallery &gallery)
     gallery.take(history, "history_waiting");
 }
 
+const std::string plan = "-Plan of the basement.pdf (2.3 MB) "
+                         "http://192.168.1.12:5549/0123456789abcdef0123456789abcdef/Plan%20of%20the%20basement.pdf";
+const std::string photos = "-Photos.zip (1.2 GB) http://192.168.1.12:5549/0123456789abcdef0123456789abcde0/Photos.zip";
+const std::string cat = "-Cat.png (32.5 kB) http://192.168.1.12:5549/0123456789abcdef0123456789abcde1/Cat.png";
+
+/// Files that are offered, come in, are paused, and a picture that is shown.
+void takeFiles(Gallery &gallery)
+{
+    RealWindows windows(
+        everybody, {{"Options/KeepHistory", QStringLiteral("no")}, {"Options/FilesExplained", QStringLiteral("-1")}});
+    fill(windows);
+    windows.entry("mnuTransfers").trigger();
+    gallery.take(topLevel("frmTransfers"), "transfers_empty");
+    windows.arrive("192.168.1.12", "-Here is what you asked for");
+    for (const std::string &message : {plan, photos, cat})
+        windows.arrive("192.168.1.12", message);
+    ReceivedFiles &received = windows.engine.transfers().received;
+    const int first = received.at(0).number;
+    windows.privateWindow().showNormal();
+    windows.privateWindow().resize(600, 560);
+    gallery.take(windows.privateWindow(), "private_with_files");
+    using What = FetchedBytes::What;
+    received.save(first, QStringLiteral("/media/me/Downloads"));
+    windows.fileFetcher.told({.number = first,
+                              .what = What::done,
+                              .place = 2'300'000,
+                              .size = 2'300'000,
+                              .path = QStringLiteral("/media/me/Downloads/Plan of the basement.pdf"),
+                              .isChecked = true});
+    received.save(first + 1, QStringLiteral("/media/me/Downloads"));
+    windows.fileFetcher.told({.number = first + 1,
+                              .what = What::running,
+                              .place = 540'000'000,
+                              .size = 1'200'000'000,
+                              .perSecond = 98'700'000});
+    QTemporaryDir folder;
+    QImage picture(900, 600, QImage::Format_RGB32);
+    picture.fill(QColor(90, 140, 190));
+    picture.save(folder.filePath(QStringLiteral("Cat.png")));
+    received.look(first + 2, folder.path());
+    windows.fileFetcher.told({.number = first + 2,
+                              .what = What::done,
+                              .path = folder.filePath(QStringLiteral("Cat.png")),
+                              .isChecked = true});
+    gallery.take(windows.privateWindow(), "private_with_transfers");
+    windows.engine.privateWindows().at(1)->sendFiles(
+        {QStringLiteral("/media/me/Minutes of the meeting.odt"), QStringLiteral("/media/me/Plan.pdf")});
+    windows.fileServer.sent({.token = windows.fileServer.served.front().token,
+                             .transfer = 1,
+                             .to = Ipv4Address(192, 168, 1, 12),
+                             .place = 1'200'000,
+                             .size = 2'300'000});
+    QWidget &transfers = topLevel("frmTransfers");
+    RealWindows::control<QTreeView>(transfers, "offerList")
+        .setCurrentIndex(windows.engine.transfers().offers.index(0, 0));
+    RealWindows::control<QTreeView>(transfers, "receivedList").setCurrentIndex(received.index(1, 0));
+    gallery.take(transfers, "transfers");
+}
+
 void takeDialogs(Gallery &gallery)
 {
     RealWindows windows(everybody);
@@ -621,6 +681,7 @@ void visitEveryWindow(const WindowVisitor &visitor)
     takeOptions(gallery);
     takeDialogs(gallery);
     takeHistory(gallery);
+    takeFiles(gallery);
     takeDoctor(gallery);
     takeEmpty(gallery);
     takeMessageBox(gallery);

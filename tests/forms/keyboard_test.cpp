@@ -60,6 +60,7 @@ private:
             {"frmNetworkscan", "mnuNetworkscan"},  {"frmAddUser", "mnuAddUser"},      {"frmOptions", "mnuToolsOptions"},
             {"frmAbout", "mnuHelpAbout"},          {"frmInvite", "mnuinviteuser"},    {"frmTipOfTheDay", "mnuTOTD"},
             {"frmSendContact", "mnusendcontacts"}, {"frmDoctor", "mnuNetworkDoctor"}, {"frmShortcuts", "mnuShortcuts"},
+            {"frmTransfers", "mnuTransfers"},
         };
         for (const auto &[name, entry] : entries) {
             if (window == QLatin1String(name))
@@ -134,7 +135,8 @@ TEST_P(Keyboard, EveryControlHasANameForThoseWhoDoNotSeeIt)
 INSTANTIATE_TEST_SUITE_P(Windows, Keyboard,
                          testing::Values("frmMain", "frmLogin", "frmPrivate", "frmConference", "frmConfInvitations",
                                          "frmOptions", "font_dialog", "frmNetworkscan", "frmAddUser", "frmInvite",
-                                         "frmAbout", "frmTipOfTheDay", "frmSendContact", "frmShortcuts"),
+                                         "frmAbout", "frmTipOfTheDay", "frmSendContact", "frmShortcuts",
+                                         "frmTransfers"),
                          [](const auto &window) { return std::string(window.param); });
 
 TEST(KeyboardOfMenus, NoTwoEntriesOfAMenuShareAnAccessKey)

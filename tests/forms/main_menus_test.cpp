@@ -68,8 +68,9 @@ TEST_F(MainMenusTest, TheMenuBarHasEveryEntryInItsPlace)
                             "mnuImportContacts: &Import contacts...", "mnuExportContacts: &Export contacts..."));
     EXPECT_THAT(entriesOf(menu("mnuConference")),
                 ElementsAre("mnuCreateNewConf: Create &new...", "mnushowinvitations: View &invitations..."));
-    EXPECT_THAT(entriesOf(menu("mnuTools")),
-                ElementsAre("mnuLogWindow: Show &Log Window", "mnuToolsOptions: &Options..."));
+    EXPECT_THAT(
+        entriesOf(menu("mnuTools")),
+        ElementsAre("mnuLogWindow: Show &Log Window", "mnuTransfers: &Transfers...", "mnuToolsOptions: &Options..."));
     EXPECT_THAT(entriesOf(menu("mnuHelp")),
                 ElementsAre("mnuHelpContents: &Contents", "mnuHelpSearchForHelpOn: &Search For Help On...",
                             "mnuManual: &Manual", "mnuTOTD: &Tip of the day...", "mnuNetworkDoctor: &Network doctor...",
@@ -255,7 +256,8 @@ TEST_F(MainMenusTest, EveryDialogOpensFromItsEntryAndTheProgramGoesOn)
     constexpr std::pair<const char *, const char *> dialogs[]
         = {{"mnuNetworkscan", "frmNetworkscan"},  {"mnuAddUser", "frmAddUser"},      {"mnuToolsOptions", "frmOptions"},
            {"mnuHelpAbout", "frmAbout"},          {"mnuTOTD", "frmTipOfTheDay"},     {"mnuinviteuser", "frmInvite"},
-           {"mnusendcontacts", "frmSendContact"}, {"mnuNetworkDoctor", "frmDoctor"}, {"mnuShortcuts", "frmShortcuts"}};
+           {"mnusendcontacts", "frmSendContact"}, {"mnuNetworkDoctor", "frmDoctor"}, {"mnuShortcuts", "frmShortcuts"},
+           {"mnuTransfers", "frmTransfers"}};
     windows.click(0);
     for (const auto &[entry, name] : dialogs) {
         EXPECT_FALSE(shown(name)) << name;

@@ -75,6 +75,7 @@ constexpr MenuDialog menuDialogs[] = {
     {"mnuTOTD", "frmTipOfTheDay", "tip-of-the-day.html"},
     {"mnuNetworkDoctor", "frmDoctor", "network-doctor.html"},
     {"mnuShortcuts", "frmShortcuts", "shortcuts.html"},
+    {"mnuTransfers", "frmTransfers", "files.html"},
     {"mnuHelpAbout", "frmAbout", "about.html"},
 };
 

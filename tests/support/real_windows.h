@@ -123,6 +123,7 @@ public:
     DatagramTrace trace;
     TracedWinsock traced{socket, trace};
     RecorderLinks links;
+    RecorderLinks folders;
     RecorderPictureSources pictures;
     RecorderResolver names;
     RecorderNetSend netSend;
@@ -137,7 +138,7 @@ public:
     RecorderLinks manualPages;
     ManualOpener manual;
     std::optional<QByteArray> tips = QByteArray("The first tip||in two lines\nThe second tip, with a comma\n");
-    FormOpener forms{{common, time, time, traced, settings, prompts, links, manual, pictures, names, netSend,
+    FormOpener forms{{common, time, time, traced, settings, prompts, links, folders, manual, pictures, names, netSend,
                       systemInformation, diagnosis, trace, drops, m_spelling, [this] { return tips; }}};
     bool ended = false;
 
@@ -146,9 +147,27 @@ private:
 
 public:
     Messenger engine{common,
-                     {traced, settings, goodCopy, nextStart, time, time, ownAddresses, networkWatch, chance, prompts,
-                      forms.notifications(), sound, tray, forms, forms.conversations(), forms.conversations(), history,
-                      m_main, drops}};
+                     {traced,
+                      settings,
+                      goodCopy,
+                      nextStart,
+                      time,
+                      time,
+                      ownAddresses,
+                      networkWatch,
+                      chance,
+                      prompts,
+                      forms.notifications(),
+                      sound,
+                      tray,
+                      forms,
+                      forms.conversations(),
+                      forms.conversations(),
+                      history,
+                      m_main,
+                      drops,
+                      fileServer,
+                      fileFetcher}};
 };
 
 } // namespace nimb::test

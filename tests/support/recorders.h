@@ -2,6 +2,8 @@
 #pragma once
 
 #include "base/chance.h"
+#include "base/file_fetcher.h"
+#include "base/file_server.h"
 #include "base/good_copy.h"
 #include "base/history.h"
 #include "base/link_opener.h"
@@ -173,6 +175,8 @@ public:
     {
         earlier.insert(earlier.begin(), messages.begin(), messages.end());
     }
+    void addReceivedFile(int number) override { receivedFiles.push_back(number); }
+    void showFileTrouble(const QString &sentence) override { fileTroubles.append(sentence); }
     void setLastMessage(const QString &text) override { lastMessage = text; }
     QString typedText() const override { return typed; }
     void setDraft(const QString &text) override { typed = text; }
@@ -187,6 +191,8 @@ public:
     QString caption;
     LogFont font;
     std::vector<StoredMessage> earlier;
+    std::vector<int> receivedFiles;
+    QStringList fileTroubles;
     QString lastMessage;
     QString typed;
     bool inputEnabled = true;
@@ -751,6 +757,42 @@ public:
     std::vector<QDateTime> erasedBefore;
 };
 
+/// Serves nothing and notes what it is to serve; a test tells what becomes of it.
+class RecorderFileServer : public FileServer
+{
+public:
+    bool isAvailable() const override { return available; }
+    void serve(const ServedFile &file, std::function<void(const Readied &)> ready) override
+    {
+        served.push_back(file);
+        readies.push_back(std::move(ready));
+        if (answersAtOnce)
+            readies.back()({.size = 2'300'000, .port = 5549, .name = file.path.section(u'/', -1)});
+    }
+    void withdraw(const QString &token) override { withdrawn.append(token); }
+
+    bool available = true;
+    bool answersAtOnce = true;
+    std::vector<ServedFile> served;
+    std::vector<std::function<void(const Readied &)>> readies;
+    QStringList withdrawn;
+};
+
+class RecorderFileFetcher : public FileFetcher
+{
+public:
+    void fetch(const WantedFile &file) override { fetched.push_back(file); }
+    void stop(int number) override
+    {
+        stopped.push_back(number);
+        if (told)
+            told({.number = number, .what = FetchedBytes::What::stopped});
+    }
+
+    std::vector<WantedFile> fetched;
+    std::vector<int> stopped;
+};
+
 struct Recorders {
     MemoryStore settings;
     RecorderGoodCopy goodCopy;
@@ -763,6 +805,8 @@ struct Recorders {
     Steps steps;
     RecorderTray tray{steps};
     RecorderHistory history;
+    RecorderFileServer fileServer;
+    RecorderFileFetcher fileFetcher;
     DropCounts drops;
 };
 

@@ -48,9 +48,27 @@ public:
     RecorderWindows windows{steps};
     Socket socket;
     Messenger engine{common,
-                     {socket, settings, goodCopy, nextStart, *time, *time, ownAddresses, networkWatch, chance, prompts,
-                      Views::notifications, sound, tray, windows, Views::privateForms, Views::conferenceForms, history,
-                      Views::view, drops}};
+                     {socket,
+                      settings,
+                      goodCopy,
+                      nextStart,
+                      *time,
+                      *time,
+                      ownAddresses,
+                      networkWatch,
+                      chance,
+                      prompts,
+                      Views::notifications,
+                      sound,
+                      tray,
+                      windows,
+                      Views::privateForms,
+                      Views::conferenceForms,
+                      history,
+                      Views::view,
+                      drops,
+                      fileServer,
+                      fileFetcher}};
 };
 
 } // namespace nimb::test

@@ -36,6 +36,7 @@ private:
         return QStringLiteral("Since %1, %2").arg(date, time);
     }
     QString textToSend(const QString &typed) const override { return QStringLiteral("[%1]").arg(typed); }
+    FileOffers::Recipients fileRecipients() const override { return {}; }
     void deliver(const QString &text) override { delivered.push_back(text.toStdString()); }
 
     ConversationView &m_view;
@@ -46,7 +47,7 @@ class ConversationTest : public testing::Test
 protected:
     Copy copy;
     RecorderConversationView view;
-    Echo conversation{{copy.common, copy.socket, *copy.time, copy.engine.history()}, view};
+    Echo conversation{{copy.common, copy.socket, *copy.time, copy.engine.history(), copy.engine.transfers()}, view};
 };
 
 TEST_F(ConversationTest, ItsLogBeginsWithItsOwnOpeningLineInGrey)

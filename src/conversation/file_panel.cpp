@@ -1,0 +1,254 @@
+#include "conversation/file_panel.h"
+
+#include "base/limits.h"
+#include "base/link_opener.h"
+#include "files/received_files.h"
+#include "widgets/elided_label.h"
+#include "widgets/file_dialogs.h"
+#include "widgets/form_layout.h"
+#include "widgets/muted_colour.h"
+#include "widgets/pictures.h"
+#include "widgets/scratch_folder.h"
+
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QImageReader>
+#include <QLabel>
+#include <QPointer>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QToolButton>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace nimb
+{
+namespace
+{
+
+using State = ReceivedFile::State;
+
+constexpr QSize largestShownPicture(240, 90);
+
+/// Empty where it cannot be read, or is larger than anybody photographs.
+QPixmap smallPicture(const QString &path, qreal scale)
+{
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (!size.isValid() || qint64(size.width()) * size.height() > limits::pictureFilePixels)
+        return {};
+    const QSize room = largestShownPicture * scale;
+    if (size.width() > room.width() || size.height() > room.height())
+        reader.setScaledSize(size.scaled(room, Qt::KeepAspectRatio));
+    QPixmap picture = QPixmap::fromImage(reader.read());
+    picture.setDevicePixelRatio(scale);
+    return picture;
+}
+
+QPushButton *rowButton(QWidget *parent, const char *name, const QString &caption)
+{
+    auto *const button = named(new QPushButton(caption, parent), name);
+    button->setAutoDefault(false);
+    return button;
+}
+
+} // namespace
+
+// --- the panel
+
+FilePanel::FilePanel(ReceivedFiles &files, LinkOpener &folders, ScratchFolder &scratch, QWidget *parent)
+    : QWidget(parent), m_files(files), m_folders(folders), m_scratch(scratch)
+{
+    auto *const column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(form_layout::spacing);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    hide();
+    connect(&files, &ReceivedFiles::changed, this, [this](int number) {
+        for (FileRow *const row : m_rows) {
+            if (row->number() == number)
+                row->refresh();
+        }
+    });
+}
+
+void FilePanel::add(int number)
+{
+    makeRoom();
+    auto *const row = new FileRow(m_files, number, m_folders, m_scratch, this);
+    connect(row, &FileRow::closed, this, &FilePanel::remove);
+    layout()->addWidget(row);
+    m_rows.push_back(row);
+    show();
+}
+
+/// What is under way stays longer than what nobody has wanted.
+void FilePanel::makeRoom()
+{
+    if (std::ssize(m_rows) < limits::filesInPanel)
+        return;
+    const auto isIdle = [this](const FileRow *row) {
+        const ReceivedFile *const file = m_files.find(row->number());
+        return !file || !file->isUnderWay();
+    };
+    const auto idle = std::ranges::find_if(m_rows, isIdle);
+    remove(idle == m_rows.end() ? m_rows.front()->number() : (*idle)->number());
+}
+
+void FilePanel::remove(int number)
+{
+    const auto which = std::ranges::find(m_rows, number, &FileRow::number);
+    if (which == m_rows.end())
+        return;
+    (*which)->hide();
+    (*which)->deleteLater();
+    m_rows.erase(which);
+    setVisible(!m_rows.empty());
+}
+
+// --- a row
+
+FileRow::FileRow(ReceivedFiles &files, int number, LinkOpener &folders, ScratchFolder &scratch, QWidget *parent)
+    : QWidget(parent), m_files(files), m_number(number), m_folders(folders), m_scratch(scratch)
+{
+    setObjectName(QStringLiteral("fileRow"));
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::AlternateBase);
+    auto *const column = new QVBoxLayout(this);
+    column->setContentsMargins(form_layout::margin, form_layout::spacing, form_layout::spacing, form_layout::spacing);
+    column->setSpacing(2);
+    column->addWidget(makeFirstLine());
+    m_stateLine = makeSecondLine();
+    column->addWidget(m_stateLine);
+    m_picture = named(new QLabel(this), "shownPicture");
+    m_picture->hide();
+    column->addWidget(m_picture);
+    connectControls();
+    refresh();
+}
+
+QWidget *FileRow::makeFirstLine()
+{
+    auto *const line = new QWidget(this);
+    auto *const symbol = new QLabel(line);
+    symbol->setPixmap(namedPicture(QStringLiteral("file")).pixmap(16, 16));
+    m_name = named(new ElidedLabel(line), "fileName");
+    m_look = rowButton(line, "lookBtn", tr("Show"));
+    m_look->setToolTip(tr("Fetches the picture and shows it here, without saving it"));
+    m_save = rowButton(line, "saveBtn", tr("Save..."));
+    m_pause = rowButton(line, "pauseBtn", tr("Pause"));
+    m_resume = rowButton(line, "resumeBtn", tr("Resume"));
+    m_open = rowButton(line, "openFolderBtn", tr("Open folder"));
+    m_close = named(new QToolButton(line), "closeRowBtn");
+    m_close->setIcon(namedPicture(QStringLiteral("close")));
+    m_close->setAutoRaise(true);
+    m_close->setFocusPolicy(Qt::TabFocus);
+    m_close->setToolTip(tr("Hide this row; Tools > Transfers... still has it"));
+    m_close->setAccessibleName(tr("Hide"));
+    auto *const row = new QHBoxLayout(line);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(form_layout::spacing);
+    row->addWidget(symbol);
+    row->addWidget(m_name, 1);
+    for (QWidget *const button : {m_look, m_save, m_pause, m_resume, m_open})
+        row->addWidget(button);
+    row->addWidget(m_close);
+    return line;
+}
+
+QWidget *FileRow::makeSecondLine()
+{
+    auto *const line = new QWidget(this);
+    m_bar = named(new QProgressBar(line), "fileProgress");
+    m_bar->setRange(0, 100);
+    m_bar->setTextVisible(false);
+    m_bar->setFixedWidth(120);
+    m_bar->setMaximumHeight(fontMetrics().height());
+    m_bar->setAccessibleName(tr("Progress"));
+    m_state = named(new ElidedLabel(line), "fileState");
+    auto *const row = new QHBoxLayout(line);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(form_layout::spacing);
+    row->addWidget(m_bar);
+    row->addWidget(m_state, 1);
+    return line;
+}
+
+void FileRow::connectControls()
+{
+    connect(m_look, &QPushButton::clicked, this, [this] {
+        if (const QString folder = m_scratch.path(); !folder.isEmpty())
+            m_files.look(m_number, folder);
+    });
+    connect(m_save, &QPushButton::clicked, this, &FileRow::save);
+    connect(m_pause, &QPushButton::clicked, this, [this] { m_files.pause(m_number); });
+    connect(m_resume, &QPushButton::clicked, this, [this] { m_files.resume(m_number); });
+    connect(m_open, &QPushButton::clicked, this, &FileRow::openFolder);
+    connect(m_close, &QToolButton::clicked, this, [this] { Q_EMIT closed(m_number); });
+}
+
+void FileRow::refresh()
+{
+    const ReceivedFile *const file = m_files.find(m_number);
+    if (!file)
+        return;
+    const QString name = tr("%1 (%2)").arg(file->link.name, file->link.sizeText);
+    const bool isOffered = file->state == State::offered;
+    m_name->setText(isOffered ? tr("%1 from %2").arg(name, file->sender) : name);
+    m_name->setToolTip(file->link.name);
+    m_stateLine->setVisible(!isOffered);
+    m_state->setText(ReceivedFiles::progressOf(*file));
+    m_bar->setVisible(file->state == State::running || file->state == State::paused);
+    m_bar->setValue(file->percent());
+    m_look->setVisible(isOffered && file->isPicture() && file->picture.isEmpty());
+    m_save->setVisible(isOffered);
+    m_pause->setVisible(file->isUnderWay());
+    m_resume->setVisible(file->state == State::paused || file->state == State::failed);
+    m_open->setVisible(file->state == State::done);
+    m_save->setAccessibleName(tr("Save %1").arg(name));
+    showPicture(file->picture);
+}
+
+/// Into the folder of the last time, or where the desktop keeps what comes from elsewhere.
+void FileRow::save()
+{
+    const QString folder = m_files.lastFolder().isEmpty()
+        ? QStandardPaths::writableLocation(QStandardPaths::DownloadLocation)
+        : m_files.lastFolder();
+    askForSaveFolder(*window(), folder,
+                     [&files = m_files, number = m_number](const QString &path) { files.save(number, path); });
+}
+
+void FileRow::openFolder()
+{
+    const ReceivedFile *const file = m_files.find(m_number);
+    if (!file)
+        return;
+    const QString folder = QFileInfo(file->path).absolutePath();
+    const auto failed = [row = QPointer(this), folder] {
+        if (row)
+            row->m_state->setText(tr("Nothing on this computer opens %1.").arg(folder));
+    };
+    if (!m_folders.open(QUrl::fromLocalFile(folder), failed))
+        failed();
+}
+
+void FileRow::showPicture(const QString &path)
+{
+    if (path == m_shownPicture)
+        return;
+    m_shownPicture = path;
+    const QPixmap picture = smallPicture(path, devicePixelRatioF());
+    if (picture.isNull())
+        m_picture->setText(tr("This is no picture that NIMB-Chat can read."));
+    else
+        m_picture->setPixmap(picture);
+    m_picture->setAccessibleName(tr("Picture %1").arg(m_name->text()));
+    m_picture->show();
+}
+
+} // namespace nimb

@@ -1,0 +1,84 @@
+// What the other side offers, between the log and the input box.
+#pragma once
+
+#include <QWidget>
+
+#include <list>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QToolButton;
+
+namespace nimb
+{
+
+class ElidedLabel;
+class FileRow;
+class LinkOpener;
+class ReceivedFiles;
+class ScratchFolder;
+
+/// The newest files, one row each; hidden while there are none. Nothing is fetched by itself.
+class FilePanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// folders: opens a folder of this machine.
+    FilePanel(ReceivedFiles &files, LinkOpener &folders, ScratchFolder &scratch, QWidget *parent);
+
+    void add(int number);
+
+private:
+    void remove(int number);
+    void makeRoom();
+
+    ReceivedFiles &m_files;
+    LinkOpener &m_folders;
+    ScratchFolder &m_scratch;
+    std::list<FileRow *> m_rows;
+};
+
+/// One file, and what can be done with it now.
+class FileRow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    FileRow(ReceivedFiles &files, int number, LinkOpener &folders, ScratchFolder &scratch, QWidget *parent);
+
+    int number() const { return m_number; }
+    /// As the file is now; one that has gone stays as it was.
+    void refresh();
+
+Q_SIGNALS:
+    void closed(int number);
+
+private:
+    QWidget *makeFirstLine();
+    QWidget *makeSecondLine();
+    void connectControls();
+    void save();
+    void openFolder();
+    void showPicture(const QString &path);
+
+    ReceivedFiles &m_files;
+    const int m_number;
+    LinkOpener &m_folders;
+    ScratchFolder &m_scratch;
+    ElidedLabel *m_name = nullptr;
+    QWidget *m_stateLine = nullptr; ///< while there is more to say than that it is offered
+    ElidedLabel *m_state = nullptr;
+    QProgressBar *m_bar = nullptr;
+    QLabel *m_picture = nullptr;
+    QString m_shownPicture;
+    QPushButton *m_look = nullptr;
+    QPushButton *m_save = nullptr;
+    QPushButton *m_pause = nullptr;
+    QPushButton *m_resume = nullptr;
+    QPushButton *m_open = nullptr;
+    QToolButton *m_close = nullptr;
+};
+
+} // namespace nimb

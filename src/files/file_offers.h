@@ -1,0 +1,95 @@
+// What the user offers to others: to whom, until when, and how far it has come.
+#pragma once
+
+#include "base/Common.h"
+#include "base/file_server.h"
+#include "base/main_log.h"
+#include "base/prompts.h"
+#include "base/timers.h"
+
+#include <QAbstractTableModel>
+#include <QHash>
+
+#include <memory>
+#include <vector>
+
+namespace nimb
+{
+
+/// How long something is offered.
+enum class OfferLife {
+    day,          ///< limits::fileOffered
+    once,         ///< until somebody has all of it
+    untilStopped, ///< and never longer than the program runs, like the others
+};
+
+/// One row for each file, the newest last. Rows of what is over stay to be read, as long as there is room.
+class FileOffers : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { File, For, Progress, Until, ColumnCount };
+
+    struct Parts {
+        FileServer &server;
+        Common &common;
+        Prompts &prompts;
+        Timers &timers;
+        const WallClock &clock;
+        MainLog &log;
+    };
+    struct Recipients {
+        std::vector<Ipv4Address> to;
+        Ipv4Address at{}; ///< the own address that they know
+        QString whom{};   ///< for people
+    };
+    /// What becomes of a wish. written: is called with the message for each file, and returns whether it could be sent.
+    struct Answers {
+        std::function<bool(const QString &message)> written;
+        std::function<void(const QString &sentence)> refused;
+    };
+
+    explicit FileOffers(Parts parts);
+    ~FileOffers() override;
+
+    bool isAvailable() const { return m_parts.server.isAvailable(); }
+    /// Files and folders. The first time the user is asked whether he knows that nothing is encrypted.
+    void offer(const QStringList &paths, const Recipients &recipients, const Answers &answers);
+    void stop(int row);
+    void setLife(int row, OfferLife life);
+    OfferLife lifeOf(int row) const;
+    bool isLive(int row) const;
+    /// How many are being sent now, and how many can be fetched.
+    int underWay() const;
+    int live() const;
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+Q_SIGNALS:
+    /// The user has been told what there is to know; the settings have changed.
+    void explained();
+
+private:
+    struct Offer;
+
+    const Offer &offerAt(int row) const;
+    bool mayBegin(qsizetype count, const Recipients &recipients, const Answers &answers);
+    void offerOne(const QString &path, const Recipients &recipients, const Answers &answers);
+    void readied(const QString &token, const FileServer::Readied &readied, const Answers &answers);
+    void sent(const SentBytes &sent);
+    void end(Offer &offer, const QString &why);
+    Offer *find(const QString &token);
+    void makeRoom(qsizetype count);
+    void rowChanged(const Offer &offer);
+    QString progressOf(const Offer &offer) const;
+    QString untilOf(const Offer &offer) const;
+
+    Parts m_parts;
+    std::vector<std::unique_ptr<Offer>> m_offers;
+};
+
+} // namespace nimb

@@ -1,0 +1,20 @@
+// All that goes from one computer to another: what is offered here, and what others offer.
+#pragma once
+
+#include "files/file_offers.h"
+#include "files/received_files.h"
+
+namespace nimb
+{
+
+/// One for all conversations.
+struct FileTransfers {
+    FileTransfers(const FileOffers::Parts &parts, FileFetcher &fetcher) : offers(parts), received(fetcher) { }
+
+    int underWay() const { return offers.underWay() + received.underWay(); }
+
+    FileOffers offers;
+    ReceivedFiles received;
+};
+
+} // namespace nimb

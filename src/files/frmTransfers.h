@@ -1,0 +1,52 @@
+// The window of all files that go out and come in.
+#pragma once
+
+#include "base/link_opener.h"
+#include "files/file_transfers.h"
+
+#include <QDialog>
+
+class QComboBox;
+class QGroupBox;
+class QPushButton;
+class QTreeView;
+
+namespace nimb
+{
+
+/// Modeless, destroyed when it is closed; what is under way goes on then.
+class frmTransfers : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// folders: opens a folder of this machine.
+    frmTransfers(FileTransfers &transfers, LinkOpener &folders, QWidget *parent);
+
+private:
+    void buildControls();
+    QGroupBox *offeredPart();
+    QGroupBox *receivedPart();
+    void connectControls();
+
+    int chosenOffer() const; ///< -1: none
+    const ReceivedFile *chosenFile() const;
+    void showWhatCanBeDone();
+    void lifeBox_Click(int life);
+    void saveReceivedBtn_Click();
+    void openReceivedBtn_Click();
+
+    FileTransfers &m_transfers;
+    LinkOpener &m_folders;
+    QTreeView *offerList = nullptr;
+    QTreeView *receivedList = nullptr;
+    QComboBox *lifeBox = nullptr;
+    QPushButton *stopOfferBtn = nullptr;
+    QPushButton *saveReceivedBtn = nullptr;
+    QPushButton *pauseReceivedBtn = nullptr;
+    QPushButton *resumeReceivedBtn = nullptr;
+    QPushButton *openReceivedBtn = nullptr;
+    QPushButton *closeBtn = nullptr;
+};
+
+} // namespace nimb

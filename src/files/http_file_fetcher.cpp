@@ -1,0 +1,412 @@
+#include "files/http_file_fetcher.h"
+
+#include "base/limits.h"
+#include "files/file_name.h"
+#include "files/http_head.h"
+#include "platform/origin_mark.h"
+#include "protocol/address_text.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFile>
+#include <QFileInfo>
+#include <QHostAddress>
+#include <QNetworkProxy>
+#include <QStorageInfo>
+#include <QTcpSocket>
+#include <QThread>
+#include <QTimer>
+
+#include <algorithm>
+#include <functional>
+#include <vector>
+
+namespace nimb
+{
+namespace
+{
+
+using What = FetchedBytes::What;
+using namespace std::chrono_literals;
+
+constexpr auto lookForStop = 100ms;
+constexpr auto connecting = 10s;
+constexpr auto rateOver = 1000ms;
+constexpr int namesTried = 1000;
+
+QString sentence(const char *text)
+{
+    return QCoreApplication::translate("HttpFileFetcher", text);
+}
+
+/// One connection. Every wait ends soon after the fetch is stopped.
+class FileConnection
+{
+public:
+    FileConnection(const WantedFile &file, const std::atomic<bool> &isStopped) : m_file(file), m_isStopped(isStopped)
+    {
+        m_socket.setProxy(QNetworkProxy::NoProxy);
+        m_socket.setReadBufferSize(2 * static_cast<qint64>(limits::filePiece));
+    }
+
+    bool open()
+    {
+        if (!m_file.from.isUnspecified())
+            m_socket.bind(QHostAddress(m_file.from.number()));
+        QEventLoop wait;
+        QTimer look;
+        const QDeadlineTimer deadline(connecting);
+        QObject::connect(&m_socket, &QTcpSocket::stateChanged, &wait, [&](QAbstractSocket::SocketState state) {
+            if (state == QAbstractSocket::ConnectedState || state == QAbstractSocket::UnconnectedState)
+                wait.quit();
+        });
+        QObject::connect(&look, &QTimer::timeout, &wait, [&] {
+            if (m_isStopped || deadline.hasExpired())
+                wait.quit();
+        });
+        look.start(lookForStop);
+        m_socket.connectToHost(QHostAddress(m_file.host.number()), m_file.port);
+        if (m_socket.state() != QAbstractSocket::ConnectedState
+            && m_socket.state() != QAbstractSocket::UnconnectedState)
+            wait.exec();
+        return m_socket.state() == QAbstractSocket::ConnectedState;
+    }
+
+    /// Asks, and reads the head of the answer; nothing where none came that can be used.
+    std::optional<HttpHead> ask(const QByteArray &method, const QByteArray &headers)
+    {
+        m_socket.write(method + ' ' + m_file.path + " HTTP/1.1\r\nHost: " + addressText(m_file.host).toLatin1() + ':'
+                       + QByteArray::number(m_file.port) + "\r\nConnection: close\r\nAccept-Encoding: identity\r\n"
+                       + headers + "\r\n");
+        QByteArray head;
+        while (!head.endsWith("\r\n\r\n")) {
+            if (head.size() > limits::fileRequestBytes || !waitForBytes())
+                return std::nullopt;
+            while (m_socket.bytesAvailable() > 0 && !head.endsWith("\r\n\r\n")
+                   && head.size() <= limits::fileRequestBytes)
+                head += m_socket.read(1);
+        }
+        head.chop(4);
+        return readHttpHead({head.constData(), static_cast<std::size_t>(head.size())});
+    }
+
+    /// Some bytes of what follows; none: the connection has ended, stands still, or is no longer wanted.
+    QByteArray read(quint64 most)
+    {
+        return waitForBytes() ? m_socket.read(static_cast<qint64>(std::min<quint64>(most, limits::filePiece)))
+                              : QByteArray();
+    }
+
+private:
+    bool waitForBytes()
+    {
+        const QDeadlineTimer deadline(2 * limits::fileTransferStalls);
+        while (m_socket.bytesAvailable() == 0 && !m_isStopped && !deadline.hasExpired()) {
+            const bool hasCome = m_socket.waitForReadyRead(static_cast<int>(lookForStop.count()));
+            if (!hasCome && m_socket.state() != QAbstractSocket::ConnectedState)
+                break;
+        }
+        return m_socket.bytesAvailable() > 0 && !m_isStopped;
+    }
+
+    const WantedFile &m_file;
+    const std::atomic<bool> &m_isStopped;
+    QTcpSocket m_socket;
+};
+
+} // namespace
+
+/// What one thread does.
+class HttpFileFetcher::Fetch
+{
+public:
+    using Tell = std::function<void(const FetchedBytes &)>;
+
+    Fetch(WantedFile file, Tell tell) : m_file(std::move(file)), m_tell(std::move(tell)) { }
+
+    void stop() { m_isStopped = true; }
+
+    void run()
+    {
+        m_state.number = m_file.number;
+        const std::optional<QString> trouble = m_file.most > 0 || QDir(m_file.folder).exists()
+            ? fetchAll()
+            : tr("The folder %1 is not there any more.").arg(QDir::toNativeSeparators(m_file.folder));
+        m_part.close();
+        m_state.perSecond = 0;
+        m_state.what = m_state.what == What::done ? What::done : m_isStopped ? What::stopped : What::failed;
+        m_state.sentence = m_state.what == What::failed ? trouble.value_or(QString()) : QString();
+        m_tell(m_state);
+    }
+
+private:
+    using Trouble = std::optional<QString>;
+
+    static QString tr(const char *text) { return sentence(text); }
+
+    Trouble fetchAll()
+    {
+        const QString token = QString::fromLatin1(m_file.path.mid(1, 8));
+        m_part.setFileName(
+            QDir(m_file.folder).filePath(QStringLiteral("%1.%2.part").arg(m_file.name, cleanFileName(token))));
+        if (!m_part.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+            return tr("%1 cannot be written: %2.")
+                .arg(QDir::toNativeSeparators(m_part.fileName()), m_part.errorString());
+        if (!sumWhatIsThere())
+            return std::nullopt;
+        while (!m_isWhole) {
+            const quint64 before = m_state.place;
+            if (Trouble trouble = attempt())
+                return trouble;
+            if (m_isStopped)
+                return std::nullopt;
+            // As long as each try brings something there is hope.
+            if (!m_isWhole && !m_waited && m_state.place == before)
+                return tr("The connection to the sender broke off.");
+        }
+        return check();
+    }
+
+    /// Of an earlier try; false when it was stopped meanwhile.
+    bool sumWhatIsThere()
+    {
+        m_state.place = 0;
+        m_sum.reset();
+        m_part.seek(0);
+        while (!m_isStopped) {
+            const QByteArray piece = m_part.read(static_cast<qint64>(limits::filePiece));
+            if (piece.isEmpty())
+                return true;
+            m_sum.addData(piece);
+            m_state.place += static_cast<quint64>(piece.size());
+        }
+        return false;
+    }
+
+    void beginAnew()
+    {
+        m_part.resize(0);
+        m_part.seek(0);
+        m_sum.reset();
+        m_state.place = 0;
+    }
+
+    /// One connection. Nothing: it brought what it could.
+    Trouble attempt()
+    {
+        m_waited = false;
+        FileConnection connection(m_file, m_isStopped);
+        if (!connection.open())
+            return tr("The sender cannot be reached.");
+        QByteArray headers;
+        if (m_state.place > 0)
+            headers = "Range: bytes=" + QByteArray::number(m_state.place) + "-\r\n"
+                + (m_tag.isEmpty() ? QByteArray() : "If-Range: " + m_tag + "\r\n");
+        const std::optional<HttpHead> head = connection.ask("GET", headers);
+        if (m_isStopped)
+            return std::nullopt;
+        if (!head)
+            return tr("The sender broke off, or gave an answer that cannot be used.");
+        return takeAnswer(connection, *head);
+    }
+
+    Trouble takeAnswer(FileConnection &connection, const HttpHead &head)
+    {
+        m_head = head;
+        switch (head.status) {
+        case 200:
+            beginAnew();
+            m_state.size = head.length.value_or(0);
+            break;
+        case 206:
+            if (head.first != m_state.place)
+                return tr("The sender gave an answer that cannot be used.");
+            m_state.size = *head.total;
+            break;
+        case 416:
+            if (m_state.place == 0)
+                return tr("The sender gave an answer that cannot be used.");
+            if (head.total == m_state.place)
+                m_isWhole = true;
+            else
+                beginAnew();
+            m_waited = true;
+            return std::nullopt;
+        case 503:
+            return waitForTurn();
+        case 404:
+            return tr("The sender offers it no longer.");
+        default:
+            return tr("The sender gave an answer that cannot be used.");
+        }
+        m_tag = head.tag;
+        if (!head.length)
+            return tr("The sender gave an answer that cannot be used.");
+        if (m_file.most > 0 && m_state.size > m_file.most)
+            return tr("It is too large to be shown.");
+        return takeBytes(connection);
+    }
+
+    Trouble waitForTurn()
+    {
+        m_waited = true;
+        m_state.what = What::waiting;
+        m_tell(m_state);
+        pause(std::chrono::seconds(std::clamp<quint64>(m_head.retryAfter.value_or(2), 1, 30)));
+        return std::nullopt;
+    }
+
+    void pause(std::chrono::milliseconds time)
+    {
+        const QDeadlineTimer deadline(time);
+        while (!m_isStopped && !deadline.hasExpired())
+            QThread::msleep(static_cast<unsigned long>(lookForStop.count()));
+    }
+
+    Trouble takeBytes(FileConnection &connection)
+    {
+        const qint64 room = QStorageInfo(m_file.folder).bytesAvailable();
+        if (room >= 0 && static_cast<quint64>(room) < m_state.size - m_state.place)
+            return tr("There is too little room in %1. What has come is kept.")
+                .arg(QDir::toNativeSeparators(m_file.folder));
+        m_state.what = What::running;
+        tellProgress();
+        while (m_state.place < m_state.size) {
+            const QByteArray bytes = connection.read(m_state.size - m_state.place);
+            if (bytes.isEmpty())
+                return std::nullopt;
+            if (m_part.write(bytes) != bytes.size())
+                return tr("%1 cannot be written on: %2. What has come is kept.")
+                    .arg(QDir::toNativeSeparators(m_part.fileName()), m_part.errorString());
+            m_sum.addData(bytes);
+            m_state.place += static_cast<quint64>(bytes.size());
+            tellProgress();
+        }
+        m_isWhole = true;
+        return std::nullopt;
+    }
+
+    void tellProgress()
+    {
+        if (m_sinceTold.isValid() && m_sinceTold.elapsed() < limits::fileProgressTold.count())
+            return;
+        m_sinceTold.start();
+        if (!m_sinceRated.isValid()) {
+            m_sinceRated.start();
+            m_rated = m_state.place;
+        } else if (m_sinceRated.elapsed() >= rateOver.count()) {
+            const auto elapsed = static_cast<quint64>(m_sinceRated.restart());
+            m_state.perSecond = (m_state.place - std::min(m_rated, m_state.place)) * 1000 / elapsed;
+            m_rated = m_state.place;
+        }
+        m_tell(m_state);
+    }
+
+    // --- all has come
+
+    Trouble check()
+    {
+        m_state.what = What::checking;
+        m_tell(m_state);
+        const QByteArray sum = m_sum.result();
+        while (m_head.sum.isEmpty() && m_head.isSumPending && !m_isStopped) {
+            pause(1s);
+            askForSum();
+        }
+        if (m_isStopped)
+            return std::nullopt;
+        m_state.isChecked = !m_head.sum.isEmpty();
+        if (m_state.isChecked && m_head.sum != sum) {
+            m_part.remove();
+            return tr("What has come is not what was sent. It has been removed.");
+        }
+        return putInPlace();
+    }
+
+    /// The sender may have worked it out by now; one that has gone never will.
+    void askForSum()
+    {
+        FileConnection connection(m_file, m_isStopped);
+        const std::optional<HttpHead> head = connection.open() ? connection.ask("HEAD", {}) : std::nullopt;
+        m_head = head && head->status == 200 ? *head : HttpHead{};
+    }
+
+    Trouble putInPlace()
+    {
+        m_part.close();
+        for (int number = 1; number <= namesTried; ++number) {
+            const QString path = QDir(m_file.folder).filePath(numberedFileName(m_file.name, number));
+            if (QFileInfo::exists(path) || !m_part.rename(path))
+                continue; // somebody else has taken it just now
+            markOrigin(path,
+                       QStringLiteral("http://%1:%2").arg(addressText(m_file.host)).arg(m_file.port)
+                           + QString::fromLatin1(m_file.path));
+            m_state.path = path;
+            m_state.what = What::done;
+            return std::nullopt;
+        }
+        return tr("%1 cannot be renamed: %2.").arg(QDir::toNativeSeparators(m_part.fileName()), m_part.errorString());
+    }
+
+    const WantedFile m_file;
+    const Tell m_tell;
+    std::atomic<bool> m_isStopped = false;
+    FetchedBytes m_state;
+    QFile m_part;
+    QCryptographicHash m_sum{QCryptographicHash::Sha256};
+    HttpHead m_head; ///< of the last answer
+    QByteArray m_tag;
+    bool m_isWhole = false;
+    bool m_waited = false; ///< the last try brought nothing, and was not meant to
+    QElapsedTimer m_sinceTold, m_sinceRated;
+    quint64 m_rated = 0;
+};
+
+HttpFileFetcher::HttpFileFetcher() : m_here(std::make_unique<QObject>()) { }
+
+/// Threads end before what they call.
+HttpFileFetcher::~HttpFileFetcher()
+{
+    for (const auto &[number, running] : m_running)
+        running.fetch->stop();
+    for (const auto &[number, running] : m_running)
+        running.thread->wait();
+}
+
+void HttpFileFetcher::fetch(const WantedFile &file)
+{
+    if (m_running.contains(file.number))
+        return;
+    const auto tellHere = [this, here = m_here.get()](const FetchedBytes &fetched) {
+        QMetaObject::invokeMethod(
+            here, [this, fetched] { tell(fetched); }, Qt::QueuedConnection);
+    };
+    Running &running = m_running[file.number];
+    running.fetch = std::make_shared<Fetch>(file, tellHere);
+    running.thread.reset(QThread::create([fetch = running.fetch] { fetch->run(); }));
+    running.thread->start();
+}
+
+void HttpFileFetcher::stop(int number)
+{
+    if (const auto running = m_running.find(number); running != m_running.end())
+        running->second.fetch->stop();
+}
+
+void HttpFileFetcher::tell(const FetchedBytes &fetched)
+{
+    if (fetched.what == What::done || fetched.what == What::stopped || fetched.what == What::failed) {
+        if (const auto running = m_running.find(fetched.number); running != m_running.end()) {
+            running->second.thread->wait();
+            m_running.erase(running);
+        }
+    }
+    if (told)
+        told(fetched);
+}
+
+} // namespace nimb

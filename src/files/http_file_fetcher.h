@@ -1,0 +1,44 @@
+// Fetches files from peers over HTTP.
+#pragma once
+
+#include "base/file_fetcher.h"
+
+#include <QObject>
+
+#include <atomic>
+#include <map>
+#include <memory>
+
+class QThread;
+
+namespace nimb
+{
+
+/// Each on a thread of its own: neither the network nor a slow disk is waited for. What has come lies beside its place
+/// as "NAME.TOKEN.part" until all is there and checked. Asks the given address alone: no proxy, and no answer leads
+/// elsewhere. Needs the application object.
+class HttpFileFetcher : public FileFetcher
+{
+public:
+    HttpFileFetcher();
+    ~HttpFileFetcher() override;
+    HttpFileFetcher(const HttpFileFetcher &) = delete;
+    HttpFileFetcher &operator=(const HttpFileFetcher &) = delete;
+
+    void fetch(const WantedFile &file) override;
+    void stop(int number) override;
+
+private:
+    class Fetch;
+    struct Running {
+        std::shared_ptr<Fetch> fetch;
+        std::unique_ptr<QThread> thread;
+    };
+
+    void tell(const FetchedBytes &fetched);
+
+    std::unique_ptr<QObject> m_here; ///< calls come back to its thread, and not at all once it has gone
+    std::map<int, Running> m_running;
+};
+
+} // namespace nimb

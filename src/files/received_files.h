@@ -1,0 +1,102 @@
+// The files that others offer, and those of them that are fetched.
+#pragma once
+
+#include "base/file_fetcher.h"
+#include "files/file_link.h"
+
+#include <QAbstractTableModel>
+
+#include <optional>
+#include <vector>
+
+namespace nimb
+{
+
+struct ReceivedFile {
+    enum class State {
+        offered, ///< nothing has been done with it
+        waiting, ///< for others to be fetched first, here or there
+        running,
+        paused,
+        checking,
+        done,
+        failed,
+    };
+
+    int number = 0; ///< by which it is known; never comes again
+    FileLink link;
+    QString sender; ///< nickname
+    Ipv4Address from{};
+    State state = State::offered;
+    quint64 place = 0, size = 0, perSecond = 0;
+    QString folder{}; ///< once the user has chosen one
+    QString path{};   ///< once it is there
+    bool isChecked = false;
+    bool isLookedAt = false; ///< it is fetched, or was, to be shown and not to be kept
+    QString picture{};       ///< path of what can be shown
+    QString sentence{};      ///< why it failed
+
+    /// 0 to 100.
+    int percent() const { return size > 0 ? static_cast<int>(place * 100 / size) : 0; }
+    /// It can be shown before it is saved.
+    bool isPicture() const;
+    bool isUnderWay() const { return state == State::waiting || state == State::running || state == State::checking; }
+};
+
+/// One row for each, the newest last. At most limits::filesReceivedAtOnce are fetched at a time, the others wait.
+class ReceivedFiles : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { File, From, Progress, Folder, ColumnCount };
+
+    explicit ReceivedFiles(FileFetcher &fetcher);
+    ~ReceivedFiles() override;
+
+    /// The number of what a message offers, where it offers a file and comes from where the file is. own: the address
+    /// under which the sender knows this copy.
+    std::optional<int> add(const QString &message, Ipv4Address writer, const QString &sender, Ipv4Address own);
+    /// Null once it has gone to make room.
+    const ReceivedFile *find(int number) const;
+    const ReceivedFile &at(int row) const { return m_files.at(static_cast<std::size_t>(row)); }
+
+    /// Fetches it into that folder, where nothing is overwritten.
+    void save(int number, const QString &folder);
+    /// Fetches it into a folder for what is thrown away, to be shown.
+    void look(int number, const QString &folder);
+    void pause(int number);
+    /// After a pause or a failure.
+    void resume(int number);
+
+    /// The folder of the last save(); empty before.
+    const QString &lastFolder() const { return m_lastFolder; }
+    int underWay() const;
+    /// For people: how far it is.
+    static QString progressOf(const ReceivedFile &file);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+Q_SIGNALS:
+    void changed(int number);
+
+private:
+    ReceivedFile *findRow(int number);
+    void told(const FetchedBytes &fetched);
+    void finish(ReceivedFile &file, const FetchedBytes &fetched);
+    void begin(ReceivedFile &file);
+    void beginNext();
+    void makeRoom();
+    void rowChanged(const ReceivedFile &file);
+
+    FileFetcher &m_fetcher;
+    std::vector<ReceivedFile> m_files;
+    std::vector<int> m_fetching; ///< numbers of those that the fetcher has
+    QString m_lastFolder;
+    int m_last = 0;
+};
+
+} // namespace nimb

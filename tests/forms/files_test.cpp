@@ -1,0 +1,383 @@
+// Files in the windows: sending them, what others offer, and the window of transfers.
+#include "controls.h"
+#include "conversation/file_panel.h"
+#include "private_chat/private_windows.h"
+#include "real_windows.h"
+
+#include <gmock/gmock.h>
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMenu>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QToolButton>
+
+namespace nimb::test
+{
+namespace
+{
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+using What = FetchedBytes::What;
+
+const std::string annsPlan = "-Plan.pdf (2.3 MB) http://10.0.0.2:5549/0123456789abcdef0123456789abcdef/Plan.pdf";
+const std::string annsPicture = "-a.png (2 bytes) http://10.0.0.2:5549/0123456789abcdef0123456789abcdef/a.png";
+
+class FilesInWindows : public testing::Test
+{
+protected:
+    FilesInWindows()
+    {
+        windows.settleStart({"10.0.0.2"});
+        windows.doubleClick(0);
+        windows.sent();
+        form().show();
+    }
+
+    QWidget &form() { return windows.privateWindow(); }
+    template <class Widget = QWidget> Widget &control(const char *name) { return controlOf<Widget>(form(), name); }
+    ReceivedFiles &received() { return windows.engine.transfers().received; }
+    QStringList paths() const
+    {
+        QStringList all;
+        for (const ServedFile &file : windows.fileServer.served)
+            all += file.path;
+        return all;
+    }
+    std::vector<FileRow *> rows()
+    {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        const QList<FileRow *> found = form().findChildren<FileRow *>();
+        return {found.begin(), found.end()};
+    }
+    static bool isShown(FileRow &row, const char *name) { return controlOf(row, name).isVisibleTo(&row); }
+    /// What is dropped there; true where it was taken.
+    static bool drop(QWidget &place, const QList<QUrl> &urls, const QString &text = {})
+    {
+        QMimeData data;
+        if (!urls.isEmpty())
+            data.setUrls(urls);
+        if (!text.isEmpty())
+            data.setText(text);
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&place, &enter);
+        QDropEvent event(QPointF(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+        event.setDropAction(Qt::MoveAction);
+        QCoreApplication::sendEvent(&place, &event);
+        QCoreApplication::processEvents();
+        return event.isAccepted() && event.dropAction() == Qt::CopyAction;
+    }
+    QFileDialog &dialog()
+    {
+        for (QWidget *const window : QApplication::topLevelWidgets()) {
+            if (auto *const found = qobject_cast<QFileDialog *>(window); found && found->isVisible())
+                return *found;
+        }
+        qFatal("no dialog");
+    }
+    QWidget &transfers()
+    {
+        windows.entry("mnuTransfers").trigger();
+        for (QWidget *const window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == QLatin1String("frmTransfers") && window->isVisible())
+                return *window;
+        }
+        qFatal("no window of transfers");
+    }
+    void tell(const FetchedBytes &fetched) { windows.fileFetcher.told(fetched); }
+
+    RealWindows windows{{{"10.0.0.2", "Ann"}}};
+    QTemporaryDir folder;
+};
+
+// --- sending
+
+TEST_F(FilesInWindows, AFileIsDroppedAnywhereOnTheWindow)
+{
+    const QList<QUrl> file{QUrl::fromLocalFile(QStringLiteral("/media/me/a b.txt"))};
+    EXPECT_TRUE(drop(form(), file));
+    EXPECT_TRUE(drop(*control<QPlainTextEdit>("intext").viewport(), file));
+    EXPECT_TRUE(drop(*control<QTextEdit>("outtext").viewport(), file));
+    EXPECT_EQ(paths(), QStringList(3, QStringLiteral("/media/me/a b.txt")));
+    EXPECT_EQ(control<QPlainTextEdit>("intext").toPlainText(), QString());
+    const std::vector<To> sent = windows.sent();
+    ASSERT_THAT(sent, SizeIs(3));
+    EXPECT_THAT(sent.front().bytes,
+                testing::MatchesRegex("-a b\\.txt \\(2\\.3 MB\\) http://10\\.0\\.0\\.1:5549/[0-9a-f]{32}/a%20b\\.txt"));
+    EXPECT_THAT(windows.prompts.asked, SizeIs(1)) << "once for all";
+}
+
+TEST_F(FilesInWindows, ATextThatIsDroppedStaysAText)
+{
+    drop(*control<QPlainTextEdit>("intext").viewport(), {}, QStringLiteral("hello"));
+    EXPECT_EQ(control<QPlainTextEdit>("intext").toPlainText(), QStringLiteral("hello"));
+    drop(*control<QPlainTextEdit>("intext").viewport(), {QUrl(QStringLiteral("http://10.0.0.9/"))});
+    EXPECT_THAT(paths(), IsEmpty());
+}
+
+TEST_F(FilesInWindows, TheToolAsksForFiles)
+{
+    QFile one(folder.filePath(QStringLiteral("one")));
+    ASSERT_TRUE(one.open(QIODevice::WriteOnly));
+    control<QToolButton>("sendFileBtn").click();
+    dialog().selectFile(one.fileName());
+    dialog().setDirectory(folder.path());
+    QMetaObject::invokeMethod(&dialog(), "filesSelected", Q_ARG(QStringList, {one.fileName()}));
+    EXPECT_EQ(paths(), QStringList{one.fileName()});
+}
+
+TEST_F(FilesInWindows, TheContextMenuOfTheLogSendsFilesAndFolders)
+{
+    auto &log = control<QTextEdit>("outtext");
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 5), log.mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(log.viewport(), &event);
+    auto *const menu = log.findChild<QMenu *>(QStringLiteral("logMenu"));
+    ASSERT_TRUE(menu);
+    QStringList entries;
+    for (const QAction *const action : menu->actions())
+        entries += action->text();
+    EXPECT_EQ(entries.mid(entries.size() - 2),
+              (QStringList{QStringLiteral("Send &Files..."), QStringLiteral("Send a F&older...")}));
+    menu->actions().last()->trigger();
+    QMetaObject::invokeMethod(&dialog(), "fileSelected", Q_ARG(QString, folder.path()));
+    EXPECT_EQ(paths(), QStringList{folder.path()});
+    menu->close();
+}
+
+TEST_F(FilesInWindows, APastedPictureIsOfferedAndSentAtAClick)
+{
+    QImage picture(80, 60, QImage::Format_RGB32);
+    picture.fill(Qt::green);
+    QGuiApplication::clipboard()->setImage(picture);
+    control<QPlainTextEdit>("intext").paste();
+    auto &band = control<QLabel>("fileBand");
+    EXPECT_TRUE(band.isVisibleTo(&form()));
+    EXPECT_THAT(band.text().toStdString(), HasSubstr("A picture was pasted (80 × 60)."));
+    EXPECT_THAT(paths(), IsEmpty()) << "not by itself";
+    Q_EMIT band.linkActivated(QStringLiteral("send"));
+    ASSERT_THAT(paths(), SizeIs(1));
+    EXPECT_EQ(QImage(paths().front()).convertToFormat(QImage::Format_RGB32), picture);
+    EXPECT_FALSE(band.isVisibleTo(&form()));
+}
+
+TEST_F(FilesInWindows, APastedPictureIsLeft)
+{
+    QGuiApplication::clipboard()->setImage(QImage(8, 6, QImage::Format_RGB32));
+    control<QPlainTextEdit>("intext").paste();
+    Q_EMIT control<QLabel>("fileBand").linkActivated(QStringLiteral("no"));
+    EXPECT_THAT(paths(), IsEmpty());
+    EXPECT_FALSE(control<QLabel>("fileBand").isVisibleTo(&form()));
+}
+
+TEST_F(FilesInWindows, ATextThatIsPastedWithItsPictureIsAText)
+{
+    auto *const data = new QMimeData;
+    data->setText(QStringLiteral("cells"));
+    data->setImageData(QImage(8, 6, QImage::Format_RGB32));
+    QGuiApplication::clipboard()->setMimeData(data);
+    control<QPlainTextEdit>("intext").paste();
+    EXPECT_EQ(control<QPlainTextEdit>("intext").toPlainText(), QStringLiteral("cells"));
+}
+
+TEST_F(FilesInWindows, WhatWasNotSentIsSaid)
+{
+    windows.fileServer.answersAtOnce = false;
+    drop(form(), {QUrl::fromLocalFile(QStringLiteral("/a"))});
+    windows.fileServer.readies.front()({.trouble = QStringLiteral("a <b> cannot be sent.")});
+    auto &band = control<QLabel>("fileBand");
+    EXPECT_TRUE(band.isVisibleTo(&form()));
+    EXPECT_THAT(band.text().toStdString(), testing::StartsWith("a &lt;b&gt; cannot be sent."));
+    Q_EMIT band.linkActivated(QStringLiteral("close"));
+    EXPECT_FALSE(band.isVisibleTo(&form()));
+}
+
+TEST(FilesWithoutAServer, AreNotOfferedToBeSent)
+{
+    RealWindows windows{{{"10.0.0.2", "Ann"}}};
+    windows.fileServer.available = false;
+    windows.settleStart({"10.0.0.2"});
+    windows.doubleClick(0);
+    QWidget &form = windows.privateWindow();
+    EXPECT_FALSE(controlOf(form, "sendFileBtn").isVisibleTo(&form));
+    windows.arrive("10.0.0.2", annsPlan);
+    EXPECT_THAT(form.findChildren<FileRow *>(), SizeIs(1)) << "others' are received";
+}
+
+// --- receiving
+
+TEST_F(FilesInWindows, WhatIsOfferedStandsInARow)
+{
+    windows.arrive("10.0.0.2", annsPlan);
+    ASSERT_THAT(rows(), SizeIs(1));
+    FileRow &row = *rows().front();
+    EXPECT_TRUE(row.isVisibleTo(&form()));
+    EXPECT_EQ(controlOf<QLabel>(row, "fileName").text(), QStringLiteral("Plan.pdf (2.3 MB) from Ann"));
+    EXPECT_TRUE(isShown(row, "saveBtn"));
+    for (const char *const other : {"lookBtn", "pauseBtn", "resumeBtn", "openFolderBtn", "fileProgress", "fileState"})
+        EXPECT_FALSE(isShown(row, other)) << other;
+    EXPECT_THAT(RealWindows::logOf(form()).toPlainText().toStdString(), HasSubstr("Ann> Plan.pdf (2.3 MB) http://"));
+}
+
+TEST_F(FilesInWindows, AnOrdinaryMessageHasNoRow)
+{
+    windows.arrive("10.0.0.2", "-See http://10.0.0.2:5549/0123456789abcdef0123456789abcdef/Plan.pdf");
+    EXPECT_THAT(rows(), IsEmpty());
+}
+
+TEST_F(FilesInWindows, AFileIsSavedWhereTheUserWants)
+{
+    windows.arrive("10.0.0.2", annsPlan);
+    FileRow &row = *rows().front();
+    controlOf<QPushButton>(row, "saveBtn").click();
+    EXPECT_EQ(dialog().fileMode(), QFileDialog::Directory);
+    QMetaObject::invokeMethod(&dialog(), "fileSelected", Q_ARG(QString, folder.path()));
+    ASSERT_THAT(windows.fileFetcher.fetched, SizeIs(1));
+    EXPECT_EQ(windows.fileFetcher.fetched.front().folder, folder.path());
+    const int number = row.number();
+    tell({.number = number, .what = What::running, .place = 45, .size = 100});
+    EXPECT_EQ(controlOf<QProgressBar>(row, "fileProgress").value(), 45);
+    EXPECT_TRUE(isShown(row, "pauseBtn"));
+    EXPECT_FALSE(isShown(row, "saveBtn"));
+    controlOf<QPushButton>(row, "pauseBtn").click();
+    EXPECT_TRUE(isShown(row, "resumeBtn"));
+    controlOf<QPushButton>(row, "resumeBtn").click();
+    tell(
+        {.number = number, .what = What::done, .path = folder.filePath(QStringLiteral("Plan.pdf")), .isChecked = true});
+    EXPECT_EQ(controlOf<QLabel>(row, "fileState").text(), QStringLiteral("saved and checked"));
+    controlOf<QPushButton>(row, "openFolderBtn").click();
+    EXPECT_THAT(windows.folders.opened, ElementsAre("file://" + folder.path().toStdString()));
+}
+
+TEST_F(FilesInWindows, WhatFailsSaysWhy)
+{
+    windows.arrive("10.0.0.2", annsPlan);
+    FileRow &row = *rows().front();
+    received().save(row.number(), folder.path());
+    tell({.number = row.number(), .what = What::failed, .sentence = QStringLiteral("There is too little room.")});
+    EXPECT_EQ(controlOf<QLabel>(row, "fileState").text(), QStringLiteral("There is too little room."));
+    EXPECT_TRUE(isShown(row, "resumeBtn"));
+}
+
+TEST_F(FilesInWindows, APictureIsShownAfterAClick)
+{
+    windows.arrive("10.0.0.2", annsPicture);
+    FileRow &row = *rows().front();
+    EXPECT_TRUE(isShown(row, "lookBtn"));
+    EXPECT_THAT(windows.fileFetcher.fetched, IsEmpty());
+    controlOf<QPushButton>(row, "lookBtn").click();
+    ASSERT_THAT(windows.fileFetcher.fetched, SizeIs(1));
+    QImage picture(1000, 500, QImage::Format_RGB32);
+    picture.fill(Qt::blue);
+    const QString path = folder.filePath(QStringLiteral("a.png"));
+    ASSERT_TRUE(picture.save(path));
+    tell({.number = row.number(), .what = What::done, .path = path, .isChecked = true});
+    auto &shown = controlOf<QLabel>(row, "shownPicture");
+    EXPECT_TRUE(shown.isVisibleTo(&row));
+    EXPECT_EQ(shown.pixmap().deviceIndependentSize(), QSizeF(180, 90));
+    EXPECT_TRUE(isShown(row, "saveBtn"));
+    EXPECT_FALSE(isShown(row, "lookBtn"));
+}
+
+TEST_F(FilesInWindows, WhatIsNoPictureIsSaidToBeNone)
+{
+    windows.arrive("10.0.0.2", annsPicture);
+    FileRow &row = *rows().front();
+    received().look(row.number(), folder.path());
+    QFile file(folder.filePath(QStringLiteral("a.png")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("no picture") > 0);
+    file.close();
+    tell({.number = row.number(), .what = What::done, .path = file.fileName(), .isChecked = true});
+    EXPECT_EQ(controlOf<QLabel>(row, "shownPicture").text(),
+              QStringLiteral("This is no picture that NIMB-Chat can read."));
+}
+
+TEST_F(FilesInWindows, ThreeRowsAreShownAndThoseUnderWayStay)
+{
+    windows.arrive("10.0.0.2", annsPlan);
+    const int first = rows().front()->number();
+    received().save(first, folder.path());
+    for (int i = 0; i < 5; ++i)
+        windows.arrive("10.0.0.2", annsPlan);
+    std::vector<int> numbers;
+    for (const FileRow *const row : rows())
+        numbers.push_back(row->number());
+    EXPECT_THAT(numbers, ElementsAre(first, first + 4, first + 5));
+    EXPECT_EQ(received().rowCount(), 6);
+}
+
+TEST_F(FilesInWindows, ARowIsHidden)
+{
+    windows.arrive("10.0.0.2", annsPlan);
+    controlOf<QToolButton>(*rows().front(), "closeRowBtn").click();
+    EXPECT_THAT(rows(), IsEmpty());
+    EXPECT_EQ(received().rowCount(), 1);
+}
+
+// --- the window of transfers
+
+TEST_F(FilesInWindows, TheWindowStopsOffersAndSaysHowLongTheyLast)
+{
+    drop(form(), {QUrl::fromLocalFile(QStringLiteral("/a"))});
+    QWidget &window = transfers();
+    auto &stop = controlOf<QPushButton>(window, "stopOfferBtn");
+    auto &life = controlOf<QComboBox>(window, "lifeBox");
+    EXPECT_FALSE(stop.isEnabled());
+    auto &list = controlOf<QTreeView>(window, "offerList");
+    list.setCurrentIndex(list.model()->index(0, 0));
+    EXPECT_TRUE(stop.isEnabled());
+    EXPECT_EQ(life.currentIndex(), 0);
+    life.setCurrentIndex(2);
+    Q_EMIT life.activated(2);
+    EXPECT_EQ(windows.engine.transfers().offers.lifeOf(0), OfferLife::untilStopped);
+    stop.click();
+    EXPECT_THAT(windows.fileServer.withdrawn, SizeIs(1));
+    EXPECT_FALSE(stop.isEnabled());
+    EXPECT_FALSE(life.isEnabled());
+}
+
+TEST_F(FilesInWindows, TheWindowSavesWhatIsOffered)
+{
+    windows.arrive("10.0.0.2", annsPlan);
+    QWidget &window = transfers();
+    auto &list = controlOf<QTreeView>(window, "receivedList");
+    auto &save = controlOf<QPushButton>(window, "saveReceivedBtn");
+    EXPECT_FALSE(save.isEnabled());
+    list.setCurrentIndex(list.model()->index(0, 0));
+    save.click();
+    QMetaObject::invokeMethod(&dialog(), "fileSelected", Q_ARG(QString, folder.path()));
+    ASSERT_THAT(windows.fileFetcher.fetched, SizeIs(1));
+    EXPECT_FALSE(save.isEnabled());
+    controlOf<QPushButton>(window, "pauseReceivedBtn").click();
+    controlOf<QPushButton>(window, "resumeReceivedBtn").click();
+    ASSERT_THAT(windows.fileFetcher.fetched, SizeIs(2));
+    tell({.number = received().at(0).number,
+          .what = What::done,
+          .path = folder.filePath(QStringLiteral("Plan.pdf")),
+          .isChecked = true});
+    controlOf<QPushButton>(window, "openReceivedBtn").click();
+    EXPECT_THAT(windows.folders.opened, ElementsAre("file://" + folder.path().toStdString()));
+}
+
+TEST_F(FilesInWindows, TheWindowMayBeClosedWhileATransferIsUnderWay)
+{
+    windows.arrive("10.0.0.2", annsPlan);
+    received().save(received().at(0).number, folder.path());
+    QPointer<QWidget> window = &transfers();
+    window->close();
+    EXPECT_TRUE(hasGone(window));
+    tell({.number = received().at(0).number, .what = What::running, .place = 1, .size = 2});
+    EXPECT_THAT(windows.fileFetcher.stopped, IsEmpty());
+}
+
+} // namespace
+} // namespace nimb::test

@@ -1,0 +1,358 @@
+// What is offered and what is fetched, in whole copies without a network.
+#include "base/limits.h"
+#include "copy.h"
+#include "print_qt.h"
+
+#include <gmock/gmock.h>
+
+namespace nimb::test
+{
+namespace
+{
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+using State = ReceivedFile::State;
+using What = FetchedBytes::What;
+
+const std::string annsMessage = "Plan.pdf (2.3 MB) http://10.0.0.2:5549/0123456789abcdef0123456789abcdef/Plan.pdf";
+
+class TransfersTest : public testing::Test
+{
+protected:
+    explicit TransfersTest(const CopySetup &setup = {.contacts = {{QStringLiteral("10.0.0.2"), QStringLiteral("Ann")},
+                                                                  {QStringLiteral("10.0.0.3"), QStringLiteral("Ben")}}})
+        : copy(setup)
+    {
+        copy.settleStart({"10.0.0.2", "10.0.0.3"});
+    }
+
+    PrivateChat &chat()
+    {
+        copy.engine.privateWindows().openPrivate(Ipv4Address(10, 0, 0, 2));
+        copy.sent();
+        return copy.privateForms.views.back()->chat;
+    }
+    RecorderPrivateView &view() { return *copy.privateForms.views.back(); }
+    FileOffers &offers() { return copy.engine.transfers().offers; }
+    ReceivedFiles &received() { return copy.engine.transfers().received; }
+    const ServedFile &served(std::size_t which = 0) { return copy.fileServer.served.at(which); }
+    QString shown(int row, FileOffers::Column column) { return offers().index(row, column).data().toString(); }
+    QString shown(int row, ReceivedFiles::Column column) { return received().index(row, column).data().toString(); }
+    void tell(const SentBytes &sent) { copy.fileServer.sent(sent); }
+    void tell(const FetchedBytes &fetched) { copy.fileFetcher.told(fetched); }
+    /// Ann offers a file.
+    int receive(const std::string &message = annsMessage)
+    {
+        copy.arrive("10.0.0.2", "-" + message);
+        return received().rowCount() > 0 ? received().at(received().rowCount() - 1).number : 0;
+    }
+
+    Copy copy;
+};
+
+// --- what is offered
+
+TEST_F(TransfersTest, AFileIsOneOrdinaryMessage)
+{
+    chat().sendFiles({QStringLiteral("/media/me/Plan.pdf")});
+    ASSERT_THAT(copy.fileServer.served, SizeIs(1));
+    EXPECT_EQ(served().path, QStringLiteral("/media/me/Plan.pdf"));
+    EXPECT_THAT(served().to, ElementsAre(Ipv4Address(10, 0, 0, 2)));
+    EXPECT_EQ(served().at, Ipv4Address(10, 0, 0, 1));
+    const std::string token = served().token.toStdString();
+    EXPECT_THAT(token, testing::MatchesRegex("[0-9a-f]{32}"));
+    const std::string message = "Plan.pdf (2.3 MB) http://10.0.0.1:5549/" + token + "/Plan.pdf";
+    EXPECT_THAT(copy.sent(), ElementsAre(To("10.0.0.2", "-" + message)));
+    EXPECT_THAT(view().log.text().toStdString(), HasSubstr("Me> " + message));
+}
+
+TEST_F(TransfersTest, NoTwoTokensAreAlike)
+{
+    chat().sendFiles({QStringLiteral("/a"), QStringLiteral("/a")});
+    ASSERT_THAT(copy.fileServer.served, SizeIs(2));
+    EXPECT_NE(served(0).token, served(1).token);
+}
+
+TEST_F(TransfersTest, TheFirstUseSaysThatNothingIsEncrypted)
+{
+    chat().sendFiles({QStringLiteral("/a")});
+    EXPECT_THAT(
+        copy.prompts.asked,
+        ElementsAre("NIMB-Chat: Files are not encrypted on their way: whoever can listen in on this network can "
+                    "read them."));
+    chat().sendFiles({QStringLiteral("/b")});
+    EXPECT_THAT(copy.prompts.asked, SizeIs(1));
+    copy.advance(std::chrono::seconds(2));
+    EXPECT_TRUE(copy.common.filesExplained);
+    copy.engine.mainWindow().Form_Unload();
+    EXPECT_EQ(copy.settings.value("Options", "FilesExplained"), "-1");
+}
+
+TEST_F(TransfersTest, NothingIsSentAgainstTheUsersWill)
+{
+    copy.prompts.answer = false;
+    chat().sendFiles({QStringLiteral("/a")});
+    EXPECT_THAT(copy.fileServer.served, IsEmpty());
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    chat().sendFiles({QStringLiteral("/a")});
+    EXPECT_THAT(copy.prompts.asked, SizeIs(2));
+}
+
+TEST_F(TransfersTest, WhatCannotBeServedIsSaidAndNotSent)
+{
+    copy.fileServer.answersAtOnce = false;
+    chat().sendFiles({QStringLiteral("/a")});
+    copy.fileServer.readies.front()({.trouble = QStringLiteral("a cannot be sent.")});
+    EXPECT_THAT(view().fileTroubles, ElementsAre(QStringLiteral("a cannot be sent.")));
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_FALSE(offers().isLive(0));
+}
+
+TEST_F(TransfersTest, WhatIsReadyWhenTheWindowHasGoneIsNotOffered)
+{
+    copy.fileServer.answersAtOnce = false;
+    PrivateChat &closed = chat();
+    closed.sendFiles({QStringLiteral("/a")});
+    closed.closed();
+    copy.fileServer.readies.front()({.size = 1, .port = 5549, .name = QStringLiteral("a")});
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_THAT(copy.fileServer.withdrawn, ElementsAre(served().token));
+}
+
+TEST_F(TransfersTest, TooManyAtOnceAreRefused)
+{
+    chat().sendFiles(QStringList(21, QStringLiteral("/a")));
+    EXPECT_THAT(copy.fileServer.served, IsEmpty());
+    EXPECT_THAT(view().fileTroubles,
+                ElementsAre(QStringLiteral(
+                    "At most 20 files are sent at once: put more of them into a folder and send that.")));
+}
+
+TEST_F(TransfersTest, OnlySoManyAreOfferedAtATime)
+{
+    for (int i = 0; i < 10; ++i)
+        chat().sendFiles(QStringList(20, QStringLiteral("/a")));
+    EXPECT_EQ(offers().live(), 200);
+    chat().sendFiles({QStringLiteral("/b")});
+    EXPECT_EQ(offers().live(), 200);
+    offers().stop(7);
+    chat().sendFiles({QStringLiteral("/b")});
+    EXPECT_EQ(offers().rowCount(), 200);
+    EXPECT_EQ(shown(199, FileOffers::File), QStringLiteral("b (2.3 MB)"));
+}
+
+TEST_F(TransfersTest, AConferenceIsOfferedToWhoeverTakesPart)
+{
+    copy.engine.conferences().mnuCreateNewConf();
+    copy.engine.conferences().mnuInvite2Conf(1, QStringLiteral("10.0.0.2"));
+    copy.engine.conferences().mnuInvite2Conf(1, QStringLiteral("10.0.0.3"));
+    Conference &conference = *copy.engine.conferences().at(1);
+    conference.partecipanti().setPresent(Ipv4Address(10, 0, 0, 3));
+    copy.sent();
+    conference.sendFiles({QStringLiteral("/a")});
+    ASSERT_THAT(copy.fileServer.served, SizeIs(1));
+    EXPECT_THAT(served().to, ElementsAre(Ipv4Address(10, 0, 0, 3)));
+    EXPECT_THAT(copy.sent(), SizeIs(1));
+}
+
+TEST_F(TransfersTest, AnOfferEndsAfterADay)
+{
+    chat().sendFiles({QStringLiteral("/a")});
+    EXPECT_EQ(shown(0, FileOffers::Until), QStringLiteral("22/11/2026 14:05:10"));
+    copy.advance(std::chrono::hours(24) - std::chrono::milliseconds(1));
+    EXPECT_THAT(copy.fileServer.withdrawn, IsEmpty());
+    copy.advance(std::chrono::milliseconds(1));
+    EXPECT_THAT(copy.fileServer.withdrawn, ElementsAre(served().token));
+    EXPECT_EQ(shown(0, FileOffers::Until), QStringLiteral("over: its time is over"));
+}
+
+TEST_F(TransfersTest, AnOfferMayLastUntilItIsStopped)
+{
+    chat().sendFiles({QStringLiteral("/a")});
+    offers().setLife(0, OfferLife::untilStopped);
+    copy.advance(std::chrono::hours(100));
+    EXPECT_THAT(copy.fileServer.withdrawn, IsEmpty());
+    EXPECT_EQ(shown(0, FileOffers::Until), QStringLiteral("it is stopped"));
+    offers().stop(0);
+    EXPECT_THAT(copy.fileServer.withdrawn, ElementsAre(served().token));
+}
+
+TEST_F(TransfersTest, AnOfferMayEndOnceSomebodyHasIt)
+{
+    chat().sendFiles({QStringLiteral("/a")});
+    offers().setLife(0, OfferLife::once);
+    SentBytes bytes{.token = served().token, .transfer = 1, .to = Ipv4Address(10, 0, 0, 2), .place = 50, .size = 100};
+    tell(bytes);
+    EXPECT_EQ(shown(0, FileOffers::Progress), QStringLiteral("50 % to 10.0.0.2"));
+    EXPECT_EQ(offers().underWay(), 1);
+    bytes.isOver = true;
+    tell(bytes);
+    EXPECT_TRUE(offers().isLive(0)) << "it was broken off";
+    bytes.isWhole = true;
+    tell(bytes);
+    EXPECT_FALSE(offers().isLive(0));
+    EXPECT_EQ(shown(0, FileOffers::Progress), QStringLiteral("fetched: 1"));
+}
+
+TEST_F(TransfersTest, AFileThatChangesEndsItsOfferWithASentence)
+{
+    chat().sendFiles({QStringLiteral("/a")});
+    copy.fileServer.failed(served().token, QStringLiteral("a has changed."));
+    copy.fileServer.failed(served().token, QStringLiteral("a has changed."));
+    EXPECT_FALSE(offers().isLive(0));
+    EXPECT_EQ(copy.view.log.text().count(QStringLiteral("a has changed.")), 1);
+}
+
+TEST_F(TransfersTest, TheEndOfTheProgramAsksWhileFilesAreOnTheirWay)
+{
+    EXPECT_EQ(copy.engine.mainWindow().Form_QueryUnload(UnloadMode::closeBox), CloseDecision::unload);
+    chat().sendFiles({QStringLiteral("/a")});
+    tell({.token = served().token, .transfer = 1, .to = Ipv4Address(10, 0, 0, 2), .place = 1, .size = 2});
+    copy.prompts.asked.clear();
+    copy.prompts.answer = false;
+    EXPECT_EQ(copy.engine.mainWindow().Form_QueryUnload(UnloadMode::closeBox), CloseDecision::stay);
+    EXPECT_EQ(copy.engine.mainWindow().Form_QueryUnload(UnloadMode::code), CloseDecision::stay);
+    EXPECT_THAT(copy.prompts.asked,
+                testing::Each("NIMB-Chat: Files that are still on their way would be broken off: 1. End NIMB-Chat all "
+                              "the same?"));
+    copy.prompts.answer = true;
+    EXPECT_EQ(copy.engine.mainWindow().Form_QueryUnload(UnloadMode::code), CloseDecision::unload);
+    copy.prompts.answer = false;
+    EXPECT_EQ(copy.engine.mainWindow().Form_QueryUnload(UnloadMode::sessionEnd), CloseDecision::unload);
+    copy.prompts.attended = false;
+    EXPECT_EQ(copy.engine.mainWindow().Form_QueryUnload(UnloadMode::code), CloseDecision::unload);
+}
+
+// --- what others offer
+
+TEST_F(TransfersTest, AnOfferedFileIsShownInItsConversation)
+{
+    chat();
+    const int number = receive();
+    EXPECT_THAT(view().receivedFiles, ElementsAre(number));
+    EXPECT_EQ(shown(0, ReceivedFiles::File), QStringLiteral("Plan.pdf (2.3 MB)"));
+    EXPECT_EQ(shown(0, ReceivedFiles::From), QStringLiteral("Ann"));
+    EXPECT_EQ(shown(0, ReceivedFiles::Progress), QStringLiteral("offered"));
+    EXPECT_THAT(copy.fileFetcher.fetched, IsEmpty()) << "nothing is fetched by itself";
+    EXPECT_THAT(view().log.text().toStdString(), HasSubstr("Ann> " + annsMessage)) << "the log stays what it is";
+}
+
+TEST_F(TransfersTest, AFileThatIsElsewhereThanItsSenderIsNone)
+{
+    chat();
+    receive("Plan.pdf (2.3 MB) http://10.0.0.3:5549/0123456789abcdef0123456789abcdef/Plan.pdf");
+    EXPECT_EQ(received().rowCount(), 0);
+    EXPECT_THAT(view().receivedFiles, IsEmpty());
+}
+
+TEST_F(TransfersTest, AFileIsFetchedFromItsSenderUnderACleanName)
+{
+    chat();
+    const int number = receive("..a: (1 bytes) http://10.0.0.2:5549/0123456789abcdef0123456789abcdef/..a%3A");
+    received().save(number, QStringLiteral("/in"));
+    ASSERT_THAT(copy.fileFetcher.fetched, SizeIs(1));
+    const WantedFile &wanted = copy.fileFetcher.fetched.front();
+    EXPECT_EQ(wanted.host, Ipv4Address(10, 0, 0, 2));
+    EXPECT_EQ(wanted.port, 5549);
+    EXPECT_EQ(wanted.path, "/0123456789abcdef0123456789abcdef/..a%3A");
+    EXPECT_EQ(wanted.from, Ipv4Address(10, 0, 0, 1));
+    EXPECT_EQ(wanted.folder, QStringLiteral("/in"));
+    EXPECT_EQ(wanted.name, QStringLiteral("a_"));
+    EXPECT_EQ(received().lastFolder(), QStringLiteral("/in"));
+}
+
+TEST_F(TransfersTest, ProgressIsShown)
+{
+    chat();
+    const int number = receive();
+    received().save(number, QStringLiteral("/in"));
+    tell({.number = number, .what = What::running, .place = 45, .size = 100, .perSecond = 12'300'000});
+    EXPECT_EQ(shown(0, ReceivedFiles::Progress), QStringLiteral("45 % of 100 bytes, 12.3 MB a second"));
+    EXPECT_EQ(copy.engine.transfers().underWay(), 1);
+    tell({.number = number, .what = What::checking, .place = 100, .size = 100});
+    EXPECT_EQ(shown(0, ReceivedFiles::Progress), QStringLiteral("is being checked"));
+    tell({.number = number,
+          .what = What::done,
+          .place = 100,
+          .size = 100,
+          .path = QStringLiteral("/in/Plan.pdf"),
+          .isChecked = true});
+    EXPECT_EQ(shown(0, ReceivedFiles::Progress), QStringLiteral("saved and checked"));
+    EXPECT_EQ(received().find(number)->path, QStringLiteral("/in/Plan.pdf"));
+    EXPECT_EQ(copy.engine.transfers().underWay(), 0);
+}
+
+TEST_F(TransfersTest, AFileIsPausedAndResumed)
+{
+    chat();
+    const int number = receive();
+    received().resume(number);
+    EXPECT_THAT(copy.fileFetcher.fetched, IsEmpty()) << "nobody has said where to";
+    received().save(number, QStringLiteral("/in"));
+    tell({.number = number, .what = What::running, .place = 45, .size = 100});
+    received().pause(number);
+    EXPECT_THAT(copy.fileFetcher.stopped, ElementsAre(number));
+    EXPECT_EQ(received().find(number)->state, State::paused);
+    received().resume(number);
+    EXPECT_THAT(copy.fileFetcher.fetched, SizeIs(2));
+    tell({.number = number, .what = What::failed, .sentence = QStringLiteral("Gone.")});
+    EXPECT_EQ(shown(0, ReceivedFiles::Progress), QStringLiteral("Gone."));
+    received().resume(number);
+    EXPECT_THAT(copy.fileFetcher.fetched, SizeIs(3));
+}
+
+TEST_F(TransfersTest, FourAreFetchedAtATime)
+{
+    chat();
+    std::vector<int> numbers;
+    for (int i = 0; i < 6; ++i) {
+        numbers.push_back(receive());
+        received().save(numbers.back(), QStringLiteral("/in"));
+    }
+    EXPECT_THAT(copy.fileFetcher.fetched, SizeIs(4));
+    EXPECT_EQ(shown(4, ReceivedFiles::Progress), QStringLiteral("waits for others"));
+    received().pause(numbers[4]);
+    EXPECT_THAT(copy.fileFetcher.stopped, IsEmpty());
+    tell({.number = numbers[0], .what = What::done});
+    ASSERT_THAT(copy.fileFetcher.fetched, SizeIs(5));
+    EXPECT_EQ(copy.fileFetcher.fetched.back().number, numbers[5]);
+}
+
+TEST_F(TransfersTest, APictureIsShownBeforeItIsSaved)
+{
+    chat();
+    const int number = receive("a.png (2.3 MB) http://10.0.0.2:5549/0123456789abcdef0123456789abcdef/a.png");
+    received().look(number, QStringLiteral("/tmp/look"));
+    ASSERT_THAT(copy.fileFetcher.fetched, SizeIs(1));
+    EXPECT_EQ(copy.fileFetcher.fetched.front().most, 5'000'000U);
+    tell({.number = number, .what = What::done, .path = QStringLiteral("/tmp/look/a.png"), .isChecked = true});
+    EXPECT_EQ(received().find(number)->picture, QStringLiteral("/tmp/look/a.png"));
+    EXPECT_EQ(received().find(number)->state, State::offered) << "it can still be saved";
+    received().save(number, QStringLiteral("/in"));
+    EXPECT_EQ(copy.fileFetcher.fetched.back().most, 0U);
+}
+
+TEST_F(TransfersTest, WhatIsNoPictureIsNotShown)
+{
+    chat();
+    received().look(receive(), QStringLiteral("/tmp/look"));
+    EXPECT_THAT(copy.fileFetcher.fetched, IsEmpty());
+}
+
+TEST_F(TransfersTest, TheOldestGoButForThoseThatAreFetched)
+{
+    chat();
+    const int first = receive();
+    received().save(first, QStringLiteral("/in"));
+    for (int i = 0; i < 600; ++i)
+        receive();
+    EXPECT_EQ(received().rowCount(), 500);
+    EXPECT_EQ(received().at(0).number, first);
+}
+
+} // namespace
+} // namespace nimb::test
