@@ -20,6 +20,9 @@ namespace
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+/// A window opens where the new begins: its day and its mark stand above the first line.
+constexpr int marksAbove = 2;
+
 /// Stands where a desktop has its program that opens addresses, and writes down how it was called.
 class FakeDesktop
 {
@@ -95,7 +98,7 @@ protected:
     /// Returns when the click has been dealt with: what the user does next comes after it.
     void clickAndSettle(const PrivateWindow &window, int linesBelow)
     {
-        window.clickIntoLog(linesBelow);
+        window.clickIntoLog(linesBelow + marksAbove);
         window.focusInput();
         window.say("so what");
         ann.hearWhere([](const std::string &bytes) { return bytes == "-so what"; });
@@ -109,7 +112,7 @@ protected:
 
 TEST_F(Links, AreOpenedByAClickWithTheAddressAsTheOneArgument)
 {
-    fillLogWith("http://127.0.0.1/x_y").clickIntoLog();
+    fillLogWith("http://127.0.0.1/x_y").clickIntoLog(marksAbove);
     EXPECT_TRUE(desktop.isCalled(1));
     EXPECT_EQ(bob.end(), 0);
     EXPECT_THAT(desktop.calls(), ElementsAre("1\nhttp://127.0.0.1/x_y\n"));
@@ -136,7 +139,7 @@ TEST_F(Links, OfTheManualLeadToThePageOfTheWindowInWhichTheUserIs)
 
 TEST_F(Links, InheritNothingFromTheProgram)
 {
-    fillLogWith("http://127.0.0.1/x_y").clickIntoLog();
+    fillLogWith("http://127.0.0.1/x_y").clickIntoLog(marksAbove);
     EXPECT_TRUE(desktop.isCalled(1));
     EXPECT_THAT(desktop.openFiles(), testing::Not(testing::HasSubstr("socket:")));
     EXPECT_THAT(desktop.openFiles(), testing::Not(testing::HasSubstr(bob.profileFolder().toStdString())));
@@ -144,7 +147,7 @@ TEST_F(Links, InheritNothingFromTheProgram)
 
 TEST_F(Links, ArriveWholeWhateverAShellWouldMakeOfThem)
 {
-    fillLogWith("http://127.0.0.1/a;b&c=$(d)'e").clickIntoLog();
+    fillLogWith("http://127.0.0.1/a;b&c=$(d)'e").clickIntoLog(marksAbove);
     EXPECT_TRUE(desktop.isCalled(1));
     EXPECT_EQ(bob.end(), 0);
     EXPECT_THAT(desktop.calls(), ElementsAre("1\nhttp://127.0.0.1/a;b&c=$(d)'e\n"));
@@ -157,7 +160,7 @@ TEST_F(Links, AreNeitherPlainTextNorAddressesOfOtherKinds)
          {"no address at all, nowhere in this line", "file:///etc/passwd", "javascript:alert(1)"})
         clickAndSettle(fillLogWith(text), line++);
     // What was started before this would be there before this.
-    fillLogWith("https://127.0.0.1/the/end").clickIntoLog(line);
+    fillLogWith("https://127.0.0.1/the/end").clickIntoLog(line + marksAbove);
     EXPECT_TRUE(desktop.isCalled(1));
     EXPECT_EQ(bob.end(), 0);
     EXPECT_THAT(desktop.calls(), ElementsAre("1\nhttps://127.0.0.1/the/end\n"));
