@@ -100,7 +100,6 @@ Q_SIGNALS:
 private:
     void buildControls();
     QWidget *makeToolRow();
-    QWidget *makeFileTool();
     QWidget *makeCutBand();
     QWidget *makeHistoryBand();
     QHBoxLayout *makeInput();
