@@ -106,6 +106,7 @@ void ConversationPane::buildControls()
     m_column->insertWidget(m_column->indexOf(m_cleared->strip()),
                            makeHistoryBand()); // made last, so that the Tab key comes to it last
     fileBand = named(makeBandWithLink(this), "fileBand");
+    fileBand->setAccessibleName(tr("Files"));
     m_column->insertWidget(m_column->indexOf(m_cleared->strip()), fileBand);
 }
 
@@ -116,31 +117,15 @@ QWidget *ConversationPane::makeToolRow()
     if (EmojiTable::isThere())
         Emoticbtn->setToolTip(tr("Emoticons and emoji (Ctrl+.)"));
     datetimebtn = toolButton(this, "datetimebtn", tr("Date&&Time"), "datetime");
-    QWidget *const files = makeFileTool();
     clearbtn = toolButton(this, "clearbtn", tr("Clear"), "clear");
     m_toolRow = new ToolRow(this);
-    for (QWidget *const tool : std::initializer_list<QWidget *>{Emoticbtn, datetimebtn, files, clearbtn})
+    for (QToolButton *const tool : {Emoticbtn, datetimebtn, clearbtn})
         m_toolRow->add(tool);
     messageCounter = named(new QLabel(this), "messageCounter");
     messageCounter->setAccessibleName(tr("Length of the message"));
     messageCounter->hide();
     m_toolRow->addAtEnd(messageCounter);
     return m_toolRow;
-}
-
-/// A picture at every width, for the captions of the others need the room: hence in a frame, where the row does not see
-/// that it is a button.
-QWidget *ConversationPane::makeFileTool()
-{
-    auto *const frame = new QWidget(this);
-    sendFileBtn = toolButton(frame, "sendFileBtn", tr("Send files"), "file");
-    sendFileBtn->setToolButtonStyle(Qt::ToolButtonIconOnly);
-    sendFileBtn->setToolTip(tr("Send files"));
-    auto *const line = new QHBoxLayout(frame);
-    line->setContentsMargins(0, 0, 0, 0);
-    line->addWidget(sendFileBtn);
-    frame->setVisible(m_conversation->transfers().offers.isAvailable());
-    return frame;
 }
 
 /// Says what of a paste did not fit, and offers it.
@@ -173,7 +158,13 @@ QHBoxLayout *ConversationPane::makeInput()
     sendbtn->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     auto *const row = new QHBoxLayout;
     row->setSpacing(spacing);
+    // Not among the tools, whose captions need the room.
+    sendFileBtn = toolButton(this, "sendFileBtn", tr("Send files"), "file");
+    sendFileBtn->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    sendFileBtn->setToolTip(tr("Send files"));
+    sendFileBtn->setVisible(m_conversation->transfers().offers.isAvailable());
     row->addWidget(intext);
+    row->addWidget(sendFileBtn);
     row->addWidget(sendbtn);
     return row;
 }

@@ -106,7 +106,6 @@ Q_SIGNALS:
 private:
     void buildControls();
     QWidget *makeToolRow();
-    QWidget *makeFileTool();
     QWidget *makeCutBand();
     QWidget *makeHistoryBand();
     QHBoxLayout *makeInput();

@@ -46,13 +46,12 @@ std::optional<std::pair<Ipv4Address, std::uint16_t>> readHostAndPort(QStringView
 
 } // namespace
 
+/// Piece by piece: a name may hold what looks like the place of another piece.
 QString fileMessage(const QString &name, quint64 size, Ipv4Address host, std::uint16_t port, const QString &token)
 {
-    return QStringLiteral("%1 (%2) http://%3:%4/%5/")
-               .arg(name, fileSizeText(size), addressText(host))
-               .arg(port)
-               .arg(token)
-        + QString::fromLatin1(encodedFileName(name));
+    const QString place = addressText(host) + QLatin1Char(':') + QString::number(port);
+    return name + QLatin1String(" (") + fileSizeText(size) + QLatin1String(") http://") + place + QLatin1Char('/')
+        + token + QLatin1Char('/') + QString::fromLatin1(encodedFileName(name));
 }
 
 std::optional<FileLink> fileLinkIn(const QString &message)

@@ -88,7 +88,7 @@ QString numberedFileName(const QString &name, int number)
     if (number <= 1)
         return name;
     const qsizetype suffix = suffixStart(name);
-    return QStringLiteral("%1 (%2)").arg(name.left(suffix)).arg(number) + name.mid(suffix);
+    return name.left(suffix) + QLatin1String(" (") + QString::number(number) + QLatin1Char(')') + name.mid(suffix);
 }
 
 QByteArray encodedFileName(const QString &name)

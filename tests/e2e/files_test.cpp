@@ -49,7 +49,7 @@ TEST_F(FilesOfACopy, AreFetchedByWhomTheyAreMeantFor)
     ann.send(bob.address(), "!ONLINE 127.0.53.12 ANN-PC Ann");
     const PrivateWindow window = main.openWhenOnline(0, "Ann");
     window.focusInput();
-    constexpr int stopsToTool = 8;
+    constexpr int stopsToTool = 9;
     for (int stop = 0; stop < stopsToTool; ++stop)
         press("Tab");
     press("space");

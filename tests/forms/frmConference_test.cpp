@@ -108,8 +108,8 @@ TEST_F(FrmConference, TheTabKeyGoesFromTheLogToTheParticipantsTheToolsAndTheInpu
     control<QToolButton>("Emoticbtn").click();
     control<QTreeView>("partecipanti").setCurrentIndex(control<QTreeView>("partecipanti").model()->index(1, 0));
     std::vector<std::string> stops
-        = {"outtext",     "ListViewEmot", "partecipanti", "kickuserbtn", "showlist", "showavatars", "Emoticbtn",
-           "datetimebtn", "sendFileBtn",  "clearbtn",     "intext",      "sendbtn",  "historyBand"};
+        = {"outtext",     "ListViewEmot", "partecipanti", "kickuserbtn", "showlist",    "showavatars", "Emoticbtn",
+           "datetimebtn", "clearbtn",     "intext",       "sendbtn",     "sendFileBtn", "historyBand"};
     if (EmojiTable::isThere())
         stops.insert(stops.begin() + 2, {"emojiSearch", "emojiList"});
     EXPECT_THAT(tabStops(form()), ElementsAreArray(stops));

@@ -460,8 +460,9 @@ TEST_F(FrmPrivate, TheTabKeyGoesFromTheLogToTheInputAndThenToTheTools)
 {
     for (const char *const tool : {"Emoticbtn", "moodbtn", "AvatarBtn"})
         control<QToolButton>(tool).click();
-    std::vector<std::string> stops = {"outtext",     "ListViewEmot", "intext",  "sendbtn",   "Emoticbtn",   "BuzzBtn",
-                                      "datetimebtn", "livetypebtn",  "moodbtn", "AvatarBtn", "sendFileBtn", "clearbtn"};
+    std::vector<std::string> stops
+        = {"outtext",     "ListViewEmot", "intext",  "sendbtn",   "Emoticbtn", "BuzzBtn",
+           "datetimebtn", "livetypebtn",  "moodbtn", "AvatarBtn", "clearbtn",  "sendFileBtn"};
     if (EmojiTable::isThere())
         stops.insert(stops.begin() + 2, {"emojiSearch", "emojiList"});
     EXPECT_THAT(tabStops(form()), ElementsAreArray(stops));

@@ -25,6 +25,13 @@ TEST(FileMessage, EncodesTheNameInTheAddress)
                              "http://10.0.0.1:5550/0123456789abcdef0123456789abcdef/%C3%9Cber%20uns%20%282%29.txt"));
 }
 
+TEST(FileMessage, TakesANameForWhatItIs)
+{
+    EXPECT_EQ(fileMessage(QStringLiteral("100%2 %1 %L3.txt"), 1, Ipv4Address(10, 0, 0, 1), 80, token),
+              QStringLiteral("100%2 %1 %L3.txt (1 bytes) "
+                             "http://10.0.0.1:80/0123456789abcdef0123456789abcdef/100%252%20%251%20%25L3.txt"));
+}
+
 TEST(FileMessage, IsOneLinkInEveryLog)
 {
     const QString message

@@ -64,6 +64,7 @@ TEST(NumberedFileName, CountsBeforeTheSuffix)
     EXPECT_EQ(numberedFileName(QStringLiteral("Plan.pdf"), 1), QStringLiteral("Plan.pdf"));
     EXPECT_EQ(numberedFileName(QStringLiteral("Plan.pdf"), 2), QStringLiteral("Plan (2).pdf"));
     EXPECT_EQ(numberedFileName(QStringLiteral("Plan"), 12), QStringLiteral("Plan (12)"));
+    EXPECT_EQ(numberedFileName(QStringLiteral("5 %2.pdf"), 2), QStringLiteral("5 %2 (2).pdf"));
     EXPECT_EQ(numberedFileName(QStringLiteral("See you. Bye for now then"), 2),
               QStringLiteral("See you. Bye for now then (2)"));
 }
