@@ -168,6 +168,7 @@ void frmConference::openInviteMenu()
     }
     if (menu->isEmpty())
         menu->addAction(tr("No other contact is online"))->setEnabled(false);
+    connect(menu, &QMenu::aboutToHide, this, [this] { m_pane->input().setFocus(); });
     menu->popup(m_inviteHint->mapToGlobal(m_inviteHint->rect().bottomLeft()));
 }
 

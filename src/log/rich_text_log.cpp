@@ -462,7 +462,7 @@ int RichTextLogEdit::heightOfLine() const
 
 void RichTextLogEdit::showNew()
 {
-    if (!std::exchange(m_newIsUnseen, false) || m_new.isNull() || !m_follows)
+    if (!std::exchange(m_newIsUnseen, false) || m_new.isNull())
         return;
     writeGathered();
     QAbstractTextDocumentLayout &layout = *document()->documentLayout();
@@ -471,7 +471,7 @@ void RichTextLogEdit::showNew()
     const int top = qRound(layout.blockBoundingRect(first).top() - first.blockFormat().topMargin());
     const int bottom = top + viewport()->height();
     if (height <= bottom)
-        return;
+        return showEnd();
     verticalScrollBar()->setValue(top);
     int below = 0;
     for (QTextBlock line = document()->lastBlock(); line.isValid(); line = line.previous()) {

@@ -408,9 +408,15 @@ void frmOptions::showStates()
 
 void frmOptions::font_btn_Click()
 {
-    auto *const dialog = new LogFontDialog(m_font, this);
+    const QFont seen = fontOf(m_font);
+    const bool isDesktops = m_font == LogFont();
+    const LogFont shown
+        = isDesktops ? LogFont{seen.family(), static_cast<std::int16_t>(qRound(seen.pointSizeF())), {}} : m_font;
+    auto *const dialog = new LogFontDialog(shown, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, [this, dialog] {
+    connect(dialog, &QDialog::accepted, this, [this, dialog, shown, isDesktops] {
+        if (isDesktops && dialog->chosenFont() == shown)
+            return; // it stays the desktop's
         m_font = dialog->chosenFont();
         showFont();
     });

@@ -336,6 +336,7 @@ void frmPrivate::showWindow(ShowMode mode)
     case ShowMode::active:
         bringBack(*this);
         activateWindow();
+        m_pane->input().setFocus();
         break;
     }
 }

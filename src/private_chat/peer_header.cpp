@@ -81,11 +81,13 @@ QString detailsOf(const PeerShown &peer)
     return details.join(QStringLiteral(" · "));
 }
 
-QString withWaiting(const QString &sentence, int waiting)
+/// Where all that was written meanwhile waits, it need not be said that it has not arrived.
+QString absenceOf(const PeerShown &peer, const QString &state, const QString &consequence)
 {
-    if (waiting == 0)
-        return sentence;
-    return PeerHeader::tr("%1 (waiting to be sent: %2)").arg(sentence, QString::number(waiting));
+    if (peer.waiting == 0)
+        return consequence;
+    const QString waiting = PeerHeader::tr("waiting to be sent: %1").arg(peer.waiting);
+    return PeerHeader::tr("%1; %2", "two parts of a sentence").arg(peer.canWait ? consequence : state, waiting);
 }
 
 /// Empty while all arrives.
@@ -96,10 +98,11 @@ QString warningOf(const PeerShown &peer)
     case Delivery::arrives:
         return {};
     case Delivery::doubtful:
-        return withWaiting(PeerHeader::tr("%1 is not known to be there: what you write may not arrive").arg(name),
-                           peer.waiting);
+        return absenceOf(peer, PeerHeader::tr("%1 is not known to be there").arg(name),
+                         PeerHeader::tr("%1 is not known to be there: what you write may not arrive").arg(name));
     case Delivery::lost:
-        return withWaiting(PeerHeader::tr("%1 is offline: what you write does not arrive").arg(name), peer.waiting);
+        return absenceOf(peer, PeerHeader::tr("%1 is offline").arg(name),
+                         PeerHeader::tr("%1 is offline: what you write does not arrive").arg(name));
     case Delivery::toNoContact:
         return PeerHeader::tr("%1 is no contact any more: what comes from there is not shown").arg(name);
     }

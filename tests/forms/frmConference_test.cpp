@@ -293,7 +293,9 @@ TEST_F(FrmConference, AnEmptyOneSaysHowToInviteAndDoesIt)
     menu = form().findChild<QMenu *>(QStringLiteral("inviteMenu"));
     ASSERT_TRUE(menu);
     EXPECT_FALSE(menu->actions().front()->isEnabled()) << "nobody is left to be invited";
+    hint.setFocus();
     menu->close();
+    EXPECT_EQ(form().focusWidget(), &control<QWidget>("intext")) << "what is typed next is a message";
 }
 
 TEST_F(FrmConference, AJoinedOneOffersNoInvitation)

@@ -1,4 +1,5 @@
 #include "base/settings.h"
+#include "log/log_font.h"
 #include "real_windows.h"
 #include "widgets/avatar_picture.h"
 
@@ -118,6 +119,16 @@ protected:
     QTemporaryDir folder;
     RealWindows windows{{{"10.0.0.2", "Ann"}}};
 };
+
+TEST_F(FrmOptions, TheFontDialogBeginsWithTheDesktopsFontWhereNobodyHasChosen)
+{
+    windows.common.logFont = LogFont();
+    openFonts();
+    EXPECT_EQ(fontControl<QListWidget>("font_family").currentItem()->text(), fontOf(LogFont()).family());
+    clickFont("font_ok");
+    click("CmdOK");
+    EXPECT_EQ(windows.common.logFont, LogFont()) << "nothing was chosen";
+}
 
 TEST_F(FrmOptions, TheNicknameCanBeChanged)
 {

@@ -114,9 +114,7 @@ TEST_F(FrmPrivate, TheBandOffersToSendLaterWhatWasWrittenMeanwhile)
     EXPECT_EQ(button.text(), QStringLiteral("Send when Ann && Co is back"));
     button.click();
     EXPECT_FALSE(button.isVisible());
-    EXPECT_EQ(band.text(),
-              QStringLiteral("Ann & Co is offline: what you write does not arrive "
-                             "(waiting to be sent: 1)"));
+    EXPECT_EQ(band.text(), QStringLiteral("Ann & Co is offline; waiting to be sent: 1"));
     ASSERT_EQ(windows.engine.outbox().messages().size(), 1u);
     outtext().writeGathered();
     const QTextBlock line = outtext().document()->lastBlock().previous();
@@ -253,6 +251,15 @@ TEST_F(FrmPrivate, WhoIsNoContactAnyMoreIsSaidToBeNone)
     EXPECT_EQ(control<QLabel>("peerDetails").text(), QStringLiteral("No contact any more · PC · 10.0.0.2"));
     EXPECT_EQ(control<QLabel>("peerBand").text(),
               QStringLiteral("Ann is no contact any more: what comes from there is not shown"));
+}
+
+TEST_F(FrmPrivate, OpenedAgainItsInputHasTheFocus)
+{
+    outtext().setFocus();
+    form().close();
+    windows.doubleClick(0);
+    ASSERT_TRUE(form().isVisible());
+    EXPECT_EQ(form().focusWidget(), &intext());
 }
 
 TEST_F(FrmPrivate, WhatIsTypedIntoTheLogGoesToTheInput)
