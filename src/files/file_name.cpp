@@ -80,7 +80,7 @@ QString cleanFileName(const QString &name)
     clean = withoutOuterDots(shortened(clean));
     if (clean.isEmpty())
         return QStringLiteral("file");
-    return isReservedOnWindows(clean) ? QLatin1Char('_') + clean : clean;
+    return isReservedOnWindows(clean) ? shortened(QLatin1Char('_') + clean) : clean;
 }
 
 QString numberedFileName(const QString &name, int number)

@@ -19,7 +19,7 @@ using namespace nimb;
 void checkName(const QString &name)
 {
     const QString clean = cleanFileName(name);
-    require(!clean.isEmpty() && clean.size() <= 201, "a clean name has 1 to 200 characters, and perhaps a mark");
+    require(!clean.isEmpty() && clean.size() <= 200, "a clean name has 1 to 200 characters");
     require(cleanFileName(clean) == clean, "what is clean stays so");
     require(clean.isValidUtf16(), "no surrogate pair is split");
     require(clean != QLatin1String(".") && clean != QLatin1String("..") && !clean.startsWith(u'.'),
@@ -27,7 +27,7 @@ void checkName(const QString &name)
     require(std::ranges::none_of(clean, [](QChar c) { return QStringView(u"/\\:*?\"<>|").contains(c) || c < u' '; }),
             "no name is a path, or forbidden anywhere");
     require(!clean.endsWith(u'.') && !clean.endsWith(u' '), "no name ends with what Windows takes away");
-    require(encodedFileName(clean).size() <= 801, "a clean name fits a link");
+    require(encodedFileName(clean).size() <= 800, "a clean name fits a link");
     const std::optional<QByteArray> back = decodedPart(encodedFileName(clean).toStdString());
     require(back && QString::fromUtf8(*back) == clean, "what is encoded is decoded again");
     const QString message = fileMessage(clean, 1, Ipv4Address(10, 0, 0, 1), 5549, QString(32, u'a'));

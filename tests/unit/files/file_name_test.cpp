@@ -44,6 +44,7 @@ TEST(CleanFileName, IsNoDeviceOfWindows)
     EXPECT_EQ(cleanFileName(QStringLiteral("COM1")), QStringLiteral("_COM1"));
     EXPECT_EQ(cleanFileName(QStringLiteral("lpt9.log")), QStringLiteral("_lpt9.log"));
     EXPECT_EQ(cleanFileName(QStringLiteral("COM\u00B9.log")), QStringLiteral("_COM\u00B9.log"));
+    EXPECT_EQ(cleanFileName(QStringLiteral("con.") + QString(196, u'a')), QStringLiteral("_con.") + QString(195, u'a'));
 }
 
 TEST(CleanFileName, KeepsTheSuffixOfALongName)
