@@ -3,6 +3,7 @@
 #include "base/limits.h"
 #include "files/file_name.h"
 #include "files/http_head.h"
+#include "platform/event_loop_calls.h"
 #include "platform/origin_mark.h"
 #include "protocol/address_text.h"
 
@@ -366,7 +367,7 @@ private:
     quint64 m_rated = 0;
 };
 
-HttpFileFetcher::HttpFileFetcher() : m_here(std::make_unique<QObject>()) { }
+HttpFileFetcher::HttpFileFetcher() : m_calls(std::make_unique<EventLoopCalls>()) { }
 
 /// Threads end before what they call.
 HttpFileFetcher::~HttpFileFetcher()
@@ -381,9 +382,8 @@ void HttpFileFetcher::fetch(const WantedFile &file)
 {
     if (m_running.contains(file.number))
         return;
-    const auto tellHere = [this, here = m_here.get()](const FetchedBytes &fetched) {
-        QMetaObject::invokeMethod(
-            here, [this, fetched] { tell(fetched); }, Qt::QueuedConnection);
+    const auto tellHere = [this, calls = m_calls.get()](const FetchedBytes &fetched) {
+        calls->put([this, fetched] { tell(fetched); });
     };
     Running &running = m_running[file.number];
     running.fetch = std::make_shared<Fetch>(file, tellHere);

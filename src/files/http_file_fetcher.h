@@ -3,8 +3,6 @@
 
 #include "base/file_fetcher.h"
 
-#include <QObject>
-
 #include <atomic>
 #include <map>
 #include <memory>
@@ -13,6 +11,8 @@ class QThread;
 
 namespace nimb
 {
+
+class EventLoopCalls;
 
 /// Each on a thread of its own: neither the network nor a slow disk is waited for. What has come lies beside its place
 /// as "NAME.TOKEN.part" until all is there and checked. Asks the given address alone: no proxy, and no answer leads
@@ -37,7 +37,7 @@ private:
 
     void tell(const FetchedBytes &fetched);
 
-    std::unique_ptr<QObject> m_here; ///< calls come back to its thread, and not at all once it has gone
+    std::unique_ptr<EventLoopCalls> m_calls; ///< outlives the threads
     std::map<int, Running> m_running;
 };
 

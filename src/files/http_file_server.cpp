@@ -5,10 +5,10 @@
 #include "files/file_link.h"
 #include "files/file_name.h"
 #include "files/file_source.h"
+#include "platform/event_loop_calls.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
-#include <QObject>
 
 #include <algorithm>
 #include <chrono>
@@ -302,11 +302,11 @@ std::string rangeText(const ByteRange &range, std::uint64_t size)
 
 } // namespace
 
-HttpFileServer::HttpFileServer(std::uint16_t firstPort) : m_firstPort(firstPort), m_here(std::make_unique<QObject>())
+HttpFileServer::HttpFileServer(std::uint16_t firstPort)
+    : m_firstPort(firstPort), m_calls(std::make_unique<EventLoopCalls>())
 {
-    m_desk = std::make_shared<Desk>([here = m_here.get()](std::function<void()> call) {
-        QMetaObject::invokeMethod(here, std::move(call), Qt::QueuedConnection);
-    });
+    m_desk
+        = std::make_shared<Desk>([calls = m_calls.get()](std::function<void()> call) { calls->put(std::move(call)); });
 }
 
 /// Threads end before what they call.

@@ -5,13 +5,13 @@
 #include "files/file_source.h"
 #include "platform/http_listener.h"
 
-#include <QObject>
-
 #include <map>
 #include <memory>
 
 namespace nimb
 {
+
+class EventLoopCalls;
 
 /// Listens at an address while something is served there, on the first free port from the given one on. Whoever is not
 /// meant, or asks for what is not there, gets the same answer: 404. Needs the application object.
@@ -47,7 +47,7 @@ private:
     std::uint16_t listenAt(Ipv4Address address);
 
     std::uint16_t m_firstPort;
-    std::unique_ptr<QObject> m_here; ///< calls come back to its thread, and not at all once it has gone
+    std::unique_ptr<EventLoopCalls> m_calls; ///< outlives the threads
     std::shared_ptr<Desk> m_desk;
     std::unique_ptr<Jobs> m_looking, m_summing;
     std::map<Ipv4Address, Listening> m_listening;

@@ -2,11 +2,10 @@
 
 #include "base/limits.h"
 #include "history/history_file.h"
+#include "platform/event_loop_calls.h"
 
 #include <QDir>
-#include <QEvent>
 #include <QFile>
-#include <QObject>
 
 #include <condition_variable>
 #include <deque>
@@ -25,21 +24,11 @@ QString translated(const char *text)
 
 } // namespace
 
-/// Calls answers on the thread of the event loop, in their order; those that are left when it ends are dropped.
-class HistoryKeeper::Caller : public QObject
+/// Where answers come back to.
+class HistoryKeeper::Caller : public EventLoopCalls
 {
 public:
-    using Answer = std::function<void()>;
-
     explicit Caller(HistoryKeeper &owner) : m_owner(owner) { }
-
-    /// From any thread.
-    void call(Answer answer)
-    {
-        const std::lock_guard lock(m_mutex);
-        m_answers.push_back(std::move(answer));
-        QCoreApplication::postEvent(this, new QEvent(QEvent::User));
-    }
 
     void setTrouble(const std::optional<QString> &sentence) { m_trouble = sentence; }
     const std::optional<QString> &troubleNow() const { return m_trouble; }
@@ -50,26 +39,9 @@ public:
             m_owner.trouble(sentence);
     }
 
-    bool event(QEvent *event) override
-    {
-        if (event->type() != QEvent::User)
-            return QObject::event(event);
-        for (const Answer &answer : takeAnswers())
-            answer();
-        return true;
-    }
-
 private:
-    std::vector<Answer> takeAnswers()
-    {
-        const std::lock_guard lock(m_mutex);
-        return std::exchange(m_answers, {});
-    }
-
     HistoryKeeper &m_owner;
     std::optional<QString> m_trouble; ///< of the event loop's thread alone
-    std::mutex m_mutex;
-    std::vector<Answer> m_answers;
 };
 
 /// What both threads share: what is to be written, and what is to be done with the file, in the order in which it came.
@@ -171,7 +143,7 @@ private:
     void goesWell()
     {
         if (std::exchange(m_isInTrouble, false))
-            m_caller.call([caller = &m_caller] { caller->setTrouble({}); });
+            m_caller.put([caller = &m_caller] { caller->setTrouble({}); });
     }
 
     /// What cannot be written waits for the next time, within bounds.
@@ -223,14 +195,14 @@ private:
                                            "before is unchanged."))
                   .arg(QDir::toNativeSeparators(HistoryFile::pathIn(m_folder)), failure.reason);
         m_isInTrouble = true;
-        m_caller.call([caller = &m_caller, sentence] { caller->setTrouble(sentence); });
+        m_caller.put([caller = &m_caller, sentence] { caller->setTrouble(sentence); });
         if (sentence != m_told)
             tell(m_told = sentence);
     }
 
     void tell(const QString &sentence)
     {
-        m_caller.call([caller = &m_caller, sentence] { caller->tell(sentence); });
+        m_caller.put([caller = &m_caller, sentence] { caller->tell(sentence); });
     }
 
     QString m_folder;
@@ -273,7 +245,7 @@ template <class Ask, class Answered> void HistoryKeeper::put(Ask ask, Answered a
     begin();
     m_desk->put([ask = std::move(ask), answered = std::move(answered), caller = m_caller.get()](HistoryFile *file) {
         auto answer = file ? ask(*file) : decltype(ask(*file)){};
-        caller->call([answered, answer = std::move(answer)] { answered(answer); });
+        caller->put([answered, answer = std::move(answer)] { answered(answer); });
     });
 }
 
