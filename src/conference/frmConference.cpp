@@ -130,7 +130,8 @@ QWidget *frmConference::makeInviteHint()
     m_inviteHint = named(new QLabel(m_listSide), "inviteHint");
     m_inviteHint->setTextFormat(Qt::RichText);
     m_inviteHint->setWordWrap(true);
-    m_inviteHint->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    // It takes no focus, so that what is typed goes to the input; the menu of a contact invites by keys.
+    m_inviteHint->setTextInteractionFlags(Qt::LinksAccessibleByMouse);
     QPalette muted = m_inviteHint->palette();
     muted.setColor(QPalette::WindowText, mutedTextColour(muted));
     m_inviteHint->setPalette(muted);

@@ -33,7 +33,7 @@ using form_layout::groupDistance;
 using form_layout::margin;
 using form_layout::spacing;
 
-constexpr int pictureSize = 16;
+constexpr int findingPictureSize = 16;
 constexpr std::chrono::seconds refreshTime{1};
 constexpr std::array checks
     = {Check::network,   Check::ownAddress, Check::port,        Check::receiveBuffer, Check::ownDatagram,
@@ -142,7 +142,7 @@ frmDoctor::Line frmDoctor::addLine(QGridLayout &grid, Check check)
               .sentence = textLabel(page, name + "Sentence"),
               .advice = textLabel(page, name + "Advice")};
     line.picture->setObjectName(QLatin1String(name + "Picture"));
-    line.picture->setFixedSize(pictureSize, pictureSize);
+    line.picture->setFixedSize(findingPictureSize, findingPictureSize);
     QPalette muted = line.advice->palette();
     muted.setColor(QPalette::WindowText, mutedTextColour(muted));
     line.advice->setPalette(muted);
@@ -236,7 +236,7 @@ void frmDoctor::showFinding(const Finding &finding)
 {
     const Line &line = m_lines.at(finding.check);
     const QIcon picture = pictureOf(finding.verdict);
-    line.picture->setPixmap(picture.pixmap(pictureSize));
+    line.picture->setPixmap(picture.pixmap(findingPictureSize));
     line.picture->setAccessibleName(wordOf(finding.verdict));
     line.sentence->setText(finding.sentence);
     line.sentence->setAccessibleDescription(wordOf(finding.verdict));
