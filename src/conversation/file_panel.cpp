@@ -205,7 +205,7 @@ void FileRow::refresh()
     m_bar->setVisible(file->state == State::running || file->state == State::paused);
     m_bar->setValue(file->percent());
     m_look->setVisible(isOffered && file->isPicture() && file->picture.isEmpty());
-    m_save->setVisible(isOffered);
+    m_save->setVisible(isOffered || (file->isLookedAt && !file->isUnderWay()) || file->state == State::failed);
     m_pause->setVisible(file->isUnderWay());
     m_resume->setVisible(file->state == State::paused || file->state == State::failed);
     m_open->setVisible(file->state == State::done);

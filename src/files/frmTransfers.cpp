@@ -159,7 +159,7 @@ void frmTransfers::showWhatCanBeDone()
     using State = ReceivedFile::State;
     const ReceivedFile *const file = chosenFile();
     const bool isIdle = file && !file->isUnderWay();
-    saveReceivedBtn->setEnabled(isIdle && (file->state == State::offered || file->state == State::done));
+    saveReceivedBtn->setEnabled(isIdle && file->state != State::paused);
     pauseReceivedBtn->setEnabled(file && file->isUnderWay());
     resumeReceivedBtn->setEnabled(isIdle && (file->state == State::paused || file->state == State::failed));
     openReceivedBtn->setEnabled(isIdle && file->state == State::done);

@@ -231,10 +231,12 @@ private:
         case 416:
             if (m_state.place == 0)
                 return tr("The sender gave an answer that cannot be used.");
-            if (head.total == m_state.place)
+            if (head.total == m_state.place) {
                 m_isWhole = true;
-            else
+                m_head.isSumPending = true; // this answer says nothing of it
+            } else {
                 beginAnew();
+            }
             m_waited = true;
             return std::nullopt;
         case 503:
@@ -315,8 +317,9 @@ private:
         m_tell(m_state);
         const QByteArray sum = m_sum.result();
         while (m_head.sum.isEmpty() && m_head.isSumPending && !m_isStopped) {
-            pause(1s);
             askForSum();
+            if (m_head.sum.isEmpty() && m_head.isSumPending)
+                pause(1s);
         }
         if (m_isStopped)
             return std::nullopt;

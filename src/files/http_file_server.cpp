@@ -41,10 +41,17 @@ struct HttpFileServer::Served {
         const std::lock_guard lock(m_mutex);
         m_sum = sum;
     }
+    /// Adds what this peer has got, and says how much that is in all.
+    std::uint64_t gotMore(Ipv4Address peer, std::uint64_t bytes)
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_got[peer] += bytes;
+    }
 
 private:
     mutable std::mutex m_mutex;
     std::optional<QByteArray> m_sum;
+    std::map<Ipv4Address, std::uint64_t> m_got;
 };
 
 namespace
@@ -241,8 +248,10 @@ public:
     void ended(bool isComplete) override
     {
         m_desk->endTransfer(m_peer);
-        const bool isWhole = isComplete && m_range.first + m_range.length == m_served->source->size();
-        tell(true, isWhole);
+        const std::uint64_t size = m_served->source->size();
+        // Whoever asks for the last byte alone has not got all of it.
+        const bool hasAll = m_served->gotMore(m_peer, m_sent) >= size;
+        tell(true, isComplete && hasAll && m_range.first + m_range.length == size);
     }
 
 private:
@@ -380,14 +389,20 @@ void HttpFileServer::beginSum(const std::shared_ptr<Served> &served)
 {
     if (!m_summing)
         m_summing = std::make_unique<Jobs>();
-    m_summing->put([served] {
+    m_summing->put([this, served] {
         const std::unique_ptr<SourceReader> reader = served->source->open(served->isStopped);
         QCryptographicHash hash(QCryptographicHash::Sha256);
         std::vector<char> room(limits::filePiece);
         for (std::uint64_t place = 0; place < served->source->size();) {
             const std::size_t read = served->isStopped ? 0 : reader->read(place, room);
-            if (read == 0)
-                return; // the transfer finds out as well, and says so
+            if (read == 0) {
+                if (!served->isStopped)
+                    m_desk->tell([this, token = served->file.token, sentence = reader->trouble()] {
+                        if (failed)
+                            failed(token, sentence);
+                    });
+                return;
+            }
             hash.addData(QByteArrayView(room.data(), static_cast<qsizetype>(read)));
             place += read;
         }

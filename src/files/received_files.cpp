@@ -36,6 +36,12 @@ std::optional<int> ReceivedFiles::add(const QString &message, Ipv4Address writer
     const std::optional<FileLink> link = fileLinkIn(message);
     if (!link || link->host != writer)
         return std::nullopt;
+    // Two rows would write into one unfinished file.
+    const auto isSame = [&link](const ReceivedFile &file) {
+        return file.link.host == link->host && file.link.port == link->port && file.link.path == link->path;
+    };
+    if (std::ranges::any_of(m_files, isSame))
+        return std::nullopt;
     makeRoom();
     const int row = rowCount();
     beginInsertRows({}, row, row);

@@ -54,7 +54,8 @@ public:
     explicit ReceivedFiles(FileFetcher &fetcher);
     ~ReceivedFiles() override;
 
-    /// The number of what a message offers, where it offers a file and comes from where the file is. own: the address
+    /// The number of what a message offers, where it offers a file that has no row yet and comes from where the file
+    /// is. own: the address
     /// under which the sender knows this copy.
     std::optional<int> add(const QString &message, Ipv4Address writer, const QString &sender, Ipv4Address own);
     /// Null once it has gone to make room.

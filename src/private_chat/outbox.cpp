@@ -197,12 +197,12 @@ void Outbox::askWhetherMeant(const WaitingMessage &message)
     const Contact &contact = *m_parts.contacts.find(message.ip);
     const NotMeant other{message.number, contact.workstation, contact.nickname};
     m_deliveries[address].isAsking = true;
-    const std::optional<bool> isMeant
-        = m_parts.prompts.decide(tr("What you wrote to %1 (%2) waits to be sent to %3. There is %4 (%5) now.\n\n"
-                                    "Send it to %4?")
-                                     .arg(paintedName(message.nickname), paintedName(message.workstation), address,
-                                          paintedName(contact.nickname), paintedName(contact.workstation)),
-                                 programTitle);
+    const std::optional<bool> isMeant = m_parts.prompts.decideUnasked(
+        tr("What you wrote to %1 (%2) waits to be sent to %3. There is %4 (%5) now.\n\n"
+           "Send it to %4?")
+            .arg(paintedName(message.nickname), paintedName(message.workstation), address,
+                 paintedName(contact.nickname), paintedName(contact.workstation)),
+        programTitle);
     const auto delivery = m_deliveries.find(address);
     if (delivery == m_deliveries.end())
         return; // the program ends

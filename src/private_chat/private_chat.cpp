@@ -5,6 +5,7 @@
 #include "base/own_address.h"
 #include "base/remote_text.h"
 #include "conversation/message_text.h"
+#include "files/file_link.h"
 #include "private_chat/auto_reply.h"
 #include "private_chat/live_type.h"
 #include "protocol/send_datagram.h"
@@ -122,7 +123,8 @@ MessageFate PrivateChat::fate() const
 
 void PrivateChat::wasSent(const QString &text, const LogMessage &message)
 {
-    if (message.fate != MessageFate::lost || !m_isContact)
+    // What leads to a file leads nowhere when the offer has ended.
+    if (message.fate != MessageFate::lost || !m_isContact || fileLinkIn(text))
         return;
     m_lost.push_back({text, message.time, message.number});
     showWhetherMessagesCanWait();

@@ -10,7 +10,7 @@ namespace nimb
 {
 
 int MessageBoxes::show(const QString &picture, QMessageBox::StandardButtons buttons, const QString &text,
-                       const QString &title)
+                       const QString &title, bool isUnasked)
 {
     QWidget *const active = QApplication::activeWindow();
     // The window may end while its box is open, and takes the box with it.
@@ -18,6 +18,10 @@ int MessageBoxes::show(const QString &picture, QMessageBox::StandardButtons butt
         = new QMessageBox(QMessageBox::NoIcon, title, {}, buttons, active ? active : m_window.data());
     dress(*box, picture);
     box->setText(text);
+    if (isUnasked) {
+        box->setAttribute(Qt::WA_ShowWithoutActivating);
+        box->setDefaultButton(QMessageBox::No);
+    }
     m_open.push_back(box);
     const int answer = box->exec();
     m_open.pop_back();
@@ -52,6 +56,14 @@ std::optional<bool> MessageBoxes::decide(const QString &text, const QString &tit
 {
     const bool yes = ask(text, title);
     // A box that was taken away has not been answered.
+    return m_unattended ? std::nullopt : std::optional(yes);
+}
+
+std::optional<bool> MessageBoxes::decideUnasked(const QString &text, const QString &title)
+{
+    if (m_unattended)
+        return std::nullopt;
+    const bool yes = show(questionPicture, QMessageBox::Yes | QMessageBox::No, text, title, true) == QMessageBox::Yes;
     return m_unattended ? std::nullopt : std::optional(yes);
 }
 

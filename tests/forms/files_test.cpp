@@ -306,8 +306,11 @@ TEST_F(FilesInWindows, ThreeRowsAreShownAndThoseUnderWayStay)
     windows.arrive("10.0.0.2", annsPlan);
     const int first = rows().front()->number();
     received().save(first, folder.path());
-    for (int i = 0; i < 5; ++i)
-        windows.arrive("10.0.0.2", annsPlan);
+    for (int i = 0; i < 5; ++i) {
+        std::string another = annsPlan;
+        another[another.rfind('/') - 1] = static_cast<char>('0' + i);
+        windows.arrive("10.0.0.2", another);
+    }
     std::vector<int> numbers;
     for (const FileRow *const row : rows())
         numbers.push_back(row->number());

@@ -440,6 +440,10 @@ public:
         const bool yes = confirm(text, title);
         return attended ? std::optional(yes) : std::nullopt;
     }
+    std::optional<bool> decideUnasked(const QString &text, const QString &title) override
+    {
+        return decide(text, title);
+    }
     bool tell(const QString &text, const QString &title) override
     {
         told.push_back((title + QLatin1String(": ") + text).toStdString());

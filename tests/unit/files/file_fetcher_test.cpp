@@ -218,6 +218,17 @@ TEST_F(OddServerTest, WaitsForASumThatIsBeingWorkedOut)
     EXPECT_TRUE(odd->requests.back().startsWith("HEAD "));
 }
 
+TEST_F(OddServerTest, ChecksWhatWasThereAlreadyWhenItIsResumed)
+{
+    write(QStringLiteral("in/Plan.pdf.%1.part").arg(token.left(8)), "abX");
+    const FetchedBytes state
+        = fetchFrom({"HTTP/1.1 416 Range Not Satisfiable\r\nContent-Length: 0\r\nContent-Range: bytes */3\r\n\r\n",
+                     "HTTP/1.1 200 OK\r\nContent-Length: 3\r\n"
+                     "Repr-Digest: sha-256=:ungWv48Bz+pBQUDeXa4iI7ADYaOWF3qctBD/YfIAFa0=:\r\n\r\n"});
+    EXPECT_EQ(state.what, What::failed);
+    EXPECT_EQ(state.sentence.toStdString(), "What has come is not what was sent. It has been removed.");
+}
+
 TEST_F(OddServerTest, FollowsNobodyElsewhere)
 {
     QTcpServer elsewhere;

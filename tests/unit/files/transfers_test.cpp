@@ -51,7 +51,18 @@ protected:
         return received().rowCount() > 0 ? received().at(received().rowCount() - 1).number : 0;
     }
 
+    /// The same file, offered anew.
+    int receiveAnother()
+    {
+        std::string message = annsMessage;
+        const std::string number = std::to_string(++m_others);
+        return receive(message.replace(message.find("abcdef/") - number.size(), number.size(), number));
+    }
+
     Copy copy;
+
+private:
+    int m_others = 1000;
 };
 
 // --- what is offered
@@ -241,6 +252,15 @@ TEST_F(TransfersTest, AnOfferedFileIsShownInItsConversation)
     EXPECT_THAT(view().log.text().toStdString(), HasSubstr("Ann> " + annsMessage)) << "the log stays what it is";
 }
 
+TEST_F(TransfersTest, AFileThatIsOfferedTwiceHasOneRow)
+{
+    for (int i = 0; i < 2; ++i)
+        copy.arrive("10.0.0.2",
+                    "-Plan.pdf (2.3 MB) "
+                    "http://10.0.0.2:5549/0123456789abcdef0123456789abcdef/Plan.pdf");
+    EXPECT_EQ(copy.engine.transfers().received.rowCount(), 1);
+}
+
 TEST_F(TransfersTest, AFileThatIsElsewhereThanItsSenderIsNone)
 {
     chat();
@@ -310,7 +330,7 @@ TEST_F(TransfersTest, FourAreFetchedAtATime)
     chat();
     std::vector<int> numbers;
     for (int i = 0; i < 6; ++i) {
-        numbers.push_back(receive());
+        numbers.push_back(receiveAnother());
         received().save(numbers.back(), QStringLiteral("/in"));
     }
     EXPECT_THAT(copy.fileFetcher.fetched, SizeIs(4));
@@ -349,7 +369,7 @@ TEST_F(TransfersTest, TheOldestGoButForThoseThatAreFetched)
     const int first = receive();
     received().save(first, QStringLiteral("/in"));
     for (int i = 0; i < 600; ++i)
-        receive();
+        receiveAnother();
     EXPECT_EQ(received().rowCount(), 500);
     EXPECT_EQ(received().at(0).number, first);
 }

@@ -146,6 +146,12 @@ TEST_F(OutboxTest, WhatWasNotChosenIsNotSentAgain)
     EXPECT_FALSE(window().shownPeer.canWait);
 }
 
+TEST_F(OutboxTest, WhatLeadsToAFileDoesNotWaitForItWouldLeadNowhere)
+{
+    write("Plan.pdf (2.3 MB) http://10.0.0.1:5549/0123456789abcdef0123456789abcdef/Plan.pdf");
+    EXPECT_FALSE(window().shownPeer.canWait);
+}
+
 TEST_F(OutboxTest, SurvivesARestartAndTheWindow)
 {
     writeForLater("hello");
