@@ -45,6 +45,7 @@ protected:
     QPlainTextEdit &intext() { return control<QPlainTextEdit>("intext"); }
     RichTextLogEdit &outtext() { return RealWindows::logOf(form()); }
     void type(const QString &text) { QTest::keyClicks(&intext(), text); }
+    static bool becomes(const std::function<bool()> &condition) { return QTest::qWaitFor(condition, 30000); }
     QString lastLogLine() { return outtext().toPlainText().trimmed().section(u'\n', -1); }
     QColor colourOfLine(int line)
     {
@@ -227,10 +228,10 @@ TEST_F(FrmPrivate, AWindowInWhichAllThatIsNewCanBeSeenOpensAtTheEnd)
 TEST_F(FrmPrivate, PanelsAndStripsGiveTheWindowItsSizeBack)
 {
     form().resize(380, 330);
-    QTRY_COMPARE(form().size(), QSize(380, 330));
+    EXPECT_TRUE(becomes([&] { return form().size() == QSize(380, 330); }));
     for (const char *const panel : {"moodbtn", "AvatarBtn", "Emoticbtn"}) {
         control<QToolButton>(panel).click();
-        QTRY_VERIFY_WITH_TIMEOUT(form().size() != QSize(380, 330) || form().minimumHeight() <= 330, 5000);
+        EXPECT_TRUE(becomes([&] { return form().size() != QSize(380, 330) || form().minimumHeight() <= 330; }));
         control<QToolButton>(panel).click();
         EXPECT_TRUE(QTest::qWaitFor([this] { return form().size() == QSize(380, 330); })) << panel;
     }
@@ -304,7 +305,7 @@ TEST_F(FrmPrivate, ANarrowWindowShowsItsToolsAsPictures)
     auto &clear = control<QToolButton>("clearbtn");
     EXPECT_EQ(clear.toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
     form().resize(360, 400);
-    QTRY_COMPARE(form().width(), 360);
+    EXPECT_TRUE(becomes([&] { return form().width() == 360; }));
     EXPECT_EQ(clear.toolButtonStyle(), Qt::ToolButtonIconOnly);
     EXPECT_EQ(clear.toolTip(), QStringLiteral("Clear"));
     EXPECT_EQ(control<QToolButton>("datetimebtn").toolTip(), QStringLiteral("Date&Time"));
@@ -315,7 +316,7 @@ TEST_F(FrmPrivate, ANarrowWindowShowsItsToolsAsPictures)
         }
     }
     form().resize(700, 400);
-    QTRY_COMPARE(clear.toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
+    EXPECT_TRUE(becomes([&] { return clear.toolButtonStyle() == Qt::ToolButtonTextBesideIcon; }));
 }
 
 TEST_F(FrmPrivate, ADraftComesBackWithoutATypingNotice)
@@ -431,7 +432,7 @@ TEST_F(FrmPrivate, AfterTenSecondsWhatWasClearedIsGone)
     auto *const end = form().findChild<QTimer *>(QStringLiteral("clearedForGood"));
     EXPECT_TRUE(end->isActive());
     end->start(0);
-    QTRY_VERIFY(!control<QLabel>("clearedBand").isVisible());
+    EXPECT_TRUE(becomes([&] { return !control<QLabel>("clearedBand").isVisible(); }));
     const QString now = outtext().toPlainText();
     Q_EMIT control<QLabel>("clearedBand").linkActivated(QStringLiteral("undo"));
     EXPECT_EQ(outtext().toPlainText(), now);
@@ -702,7 +703,7 @@ TEST_F(FrmPrivate, TheEmojiLeaveFiveLinesOfTheLog)
     if (!EmojiTable::isThere())
         GTEST_SKIP() << "built without emoji";
     form().resize(380, 330);
-    QTRY_COMPARE(form().size(), QSize(380, 330));
+    EXPECT_TRUE(becomes([&] { return form().size() == QSize(380, 330); }));
     for (int i = 0; i < 20; ++i)
         windows.arrive("10.0.0.2", "-hello");
     control<QToolButton>("Emoticbtn").click();
