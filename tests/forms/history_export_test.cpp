@@ -2,6 +2,8 @@
 
 #include "print_qt.h"
 
+#include <QTimeZone>
+
 #include <gtest/gtest.h>
 
 namespace nimb::test
@@ -11,7 +13,7 @@ namespace
 
 KeptMessage sample(const QString &text)
 {
-    return {.time = QDateTime(QDate(2026, 11, 21), QTime(14, 5, 9), Qt::UTC),
+    return {.time = QDateTime(QDate(2026, 11, 21), QTime(14, 5, 9), QTimeZone::utc()),
             .isOwn = false,
             .address = QStringLiteral("10.0.0.2"),
             .writer = QStringLiteral("Ann <b>"),
