@@ -5,10 +5,8 @@
 
 namespace nimb
 {
-namespace
-{
 
-std::string_view trimmed(std::string_view text)
+std::string_view withoutBlanks(std::string_view text)
 {
     const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
     while (!text.empty() && isBlank(text.front()))
@@ -17,6 +15,9 @@ std::string_view trimmed(std::string_view text)
         text.remove_suffix(1);
     return text;
 }
+
+namespace
+{
 
 /// Decimal digits alone; nothing where there are none, too many, or others.
 std::optional<quint64> readNumber(std::string_view digits)
@@ -41,14 +42,14 @@ bool beginsWithBytes(std::string_view range)
 WantedBytes wantedBytes(std::string_view range, std::optional<std::string_view> ifRange, std::string_view tag,
                         quint64 size)
 {
-    range = trimmed(range);
-    if (!beginsWithBytes(range) || (ifRange && trimmed(*ifRange) != tag))
+    range = withoutBlanks(range);
+    if (!beginsWithBytes(range) || (ifRange && withoutBlanks(*ifRange) != tag))
         return WholeFile{};
-    const std::string_view wish = trimmed(range.substr(6));
+    const std::string_view wish = withoutBlanks(range.substr(6));
     const std::size_t hyphen = wish.find('-');
     if (hyphen == std::string_view::npos || wish.find(',') != std::string_view::npos)
         return WholeFile{};
-    const std::string_view front = trimmed(wish.substr(0, hyphen)), back = trimmed(wish.substr(hyphen + 1));
+    const std::string_view front = withoutBlanks(wish.substr(0, hyphen)), back = withoutBlanks(wish.substr(hyphen + 1));
     const std::optional<quint64> first = readNumber(front), last = readNumber(back);
     if (front.empty()) { // so many from the end
         if (!last)

@@ -10,6 +10,9 @@
 namespace nimb
 {
 
+/// As HTTP has them around the value of a header: blanks and tabs at both ends.
+std::string_view withoutBlanks(std::string_view text);
+
 struct ByteRange {
     quint64 first = 0;
     quint64 length = 0;

@@ -1,5 +1,7 @@
 #include "files/http_head.h"
 
+#include "files/byte_range.h"
+
 #include <algorithm>
 #include <charconv>
 
@@ -9,16 +11,6 @@ namespace
 {
 
 constexpr std::size_t sumBytes = 32;
-
-std::string_view withoutBlanks(std::string_view text)
-{
-    const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
-    while (!text.empty() && isBlank(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && isBlank(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
 
 bool isSameName(std::string_view one, std::string_view other)
 {

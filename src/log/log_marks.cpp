@@ -65,14 +65,19 @@ void paintDivider(QPainter &painter, const QRect &place, const QString &word, co
     painter.drawLine(centre + wordWidth / 2 + besideMark, middle, place.right() - markEdge, middle);
 }
 
-/// A ring with an exclamation mark, which needs no font.
-void paintUndelivered(QPainter &painter, const QRectF &place, const QColor &colour)
+void paintRing(QPainter &painter, const QRectF &place, const QColor &colour)
 {
-    painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(colour, 1.2));
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(place);
+}
+
+/// A ring with an exclamation mark, which needs no font.
+void paintUndelivered(QPainter &painter, const QRectF &place, const QColor &colour)
+{
+    painter.save();
+    paintRing(painter, place, colour);
     const QPointF middle = place.center();
     painter.setPen(QPen(colour, 1.6, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(QPointF(middle.x(), place.top() + place.height() * 0.25),
@@ -85,10 +90,7 @@ void paintUndelivered(QPainter &painter, const QRectF &place, const QColor &colo
 void paintWaiting(QPainter &painter, const QRectF &place, const QColor &colour)
 {
     painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(colour, 1.2));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawEllipse(place);
+    paintRing(painter, place, colour);
     const QPointF middle = place.center();
     painter.setPen(QPen(colour, 1.4, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(middle, QPointF(middle.x(), place.top() + place.height() * 0.25));
