@@ -100,6 +100,19 @@ TEST(PlainMessageBox, ShowsMarkupAndAnswersWithItsButtons)
     EXPECT_EQ(shown, QStringLiteral("<i>y</i>"));
 }
 
+TEST(UnaskedMessageBox, TakesNoFocusAndReturnMeansNo)
+{
+    MessageBoxes boxes;
+    QTimer::singleShot(0, [] {
+        auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        EXPECT_TRUE(box->testAttribute(Qt::WA_ShowWithoutActivating));
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    EXPECT_EQ(boxes.decideUnasked(QStringLiteral("Send it?"), QStringLiteral("t")), std::optional(false));
+    boxes.setUnattended();
+    EXPECT_EQ(boxes.decideUnasked(QStringLiteral("Send it?"), QStringLiteral("t")), std::nullopt);
+}
+
 TEST(UnattendedMessageBox, ClosesWhatIsOpenAsIfCancelled)
 {
     MessageBoxes boxes;
