@@ -22,7 +22,7 @@ constexpr char englishNames[] = "en";
 constexpr std::array namedLanguages = {"de", englishNames, "es", "fr", "it", "pl"};
 
 /// How well a word fits, the best first.
-enum Fit { fitInName, fitInKeyword, fitWithin, fitNowhere, fitKinds };
+enum Fit { fitAtBeginning, fitInName, fitInKeyword, fitWithin, fitNowhere, fitKinds };
 
 QString readEmojiText(const QString &name)
 {
@@ -64,8 +64,10 @@ Fit fitOf(QStringView line, QStringView word)
     Fit best = fitNowhere;
     for (qsizetype at = line.indexOf(word); at >= 0; at = line.indexOf(word, at + 1)) {
         const bool begins = at == 0 || !line[at - 1].isLetterOrNumber();
+        if (at == 0)
+            return fitAtBeginning;
         if (begins)
-            return std::min(best, line.left(at).contains(u'\t') ? fitInKeyword : fitInName);
+            return line.left(at).contains(u'\t') ? fitInKeyword : fitInName;
         best = fitWithin;
     }
     return best;
@@ -121,7 +123,7 @@ std::vector<std::size_t> EmojiTable::search(const QString &typed) const
 {
     const QStringList words = comparable(typed).split(u' ', Qt::SkipEmptyParts);
     const auto fitOfAll = [this, &words](std::size_t emoji) {
-        Fit worst = fitInName;
+        Fit worst = fitAtBeginning;
         for (const QString &word : words) {
             Fit best = fitNowhere;
             for (const Searched &searched : m_searched)
@@ -133,8 +135,8 @@ std::vector<std::size_t> EmojiTable::search(const QString &typed) const
     std::array<std::vector<std::size_t>, fitKinds> found;
     for (std::size_t i = 0; i < m_all.size(); ++i)
         found[fitOfAll(i)].push_back(i);
-    std::vector<std::size_t> places = std::move(found[fitInName]);
-    for (const Fit fit : {fitInKeyword, fitWithin})
+    std::vector<std::size_t> places = std::move(found[fitAtBeginning]);
+    for (const Fit fit : {fitInName, fitInKeyword, fitWithin})
         places.insert(places.end(), found[fit].begin(), found[fit].end());
     return places;
 }

@@ -139,5 +139,13 @@ TEST(EmojiTable, WhatBeginsWithTheWordComesFirst)
     EXPECT_LT(std::ranges::find(high, "🥾"), std::ranges::find(high, "🐔")) << "a hiking boot before a chicken";
 }
 
+TEST(EmojiTable, ANameThatBeginsWithTheWordComesBeforeOneThatHoldsIt)
+{
+    const std::vector<std::string> thumbs = found(tableIn("en"), "thumb");
+    ASSERT_THAT(thumbs, IsSupersetOf({"👍", "🫰"}));
+    EXPECT_EQ(thumbs.front(), "👍") << "before a hand with index finger and thumb crossed";
+    EXPECT_EQ(found(tableIn("de"), "Daumen").front(), "👍");
+}
+
 } // namespace
 } // namespace nimb::test
