@@ -12,6 +12,7 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -69,6 +70,7 @@ void frmConfInvitations::buildControls()
     clearbtn->setToolTip(tr("Removes the invitations that are over"));
     ConfAgreebtn->setEnabled(false);
     ConfDenybtn->setEnabled(false);
+    ConfDenyAllbtn->setEnabled(false);
     auto *const answers = new QHBoxLayout;
     answers->setSpacing(spacing);
     for (QPushButton *const button : {ConfAgreebtn, ConfDenybtn, ConfDenyAllbtn, clearbtn})
@@ -106,7 +108,12 @@ void frmConfInvitations::connectControls()
     connect(autorefusemins, &QLineEdit::textChanged, this, &frmConfInvitations::autorefusemins_Change);
     connect(ListView1->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &frmConfInvitations::ListView1_ItemClick);
-    connect(&m_invitations.list(), &InvitationList::dataChanged, this, &frmConfInvitations::ListView1_ItemClick);
+    const InvitationList &list = m_invitations.list();
+    connect(&list, &InvitationList::dataChanged, this, &frmConfInvitations::ListView1_ItemClick);
+    const auto offerDenial = [this] { ConfDenyAllbtn->setEnabled(m_invitations.isAnyPending()); };
+    connect(&list, &InvitationList::dataChanged, this, offerDenial);
+    connect(&list, &InvitationList::rowsInserted, this, offerDenial);
+    connect(&list, &InvitationList::rowsRemoved, this, offerDenial);
     // Who is looking chooses himself: a click must not meet an invitation that has come this moment.
     connect(ListView1->model(), &QAbstractItemModel::rowsInserted, this, [this] {
         if (!isActiveWindow())
@@ -170,6 +177,14 @@ void frmConfInvitations::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActive())
         m_invitations.Form_Activate();
+}
+
+void frmConfInvitations::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void frmConfInvitations::closeEvent(QCloseEvent *event)

@@ -32,6 +32,7 @@ Q_SIGNALS:
     void conferenceWanted();
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
 

@@ -106,6 +106,7 @@ public:
     void ConfDenyAllbtn_Click();
     void clearbtn_Click();
     bool isPending(int row) const;
+    bool isAnyPending() const;
 
     void setAutorefuse(bool on) { m_autorefuse = on; }
     /// Takes the text's numeric value, within 16 bits, and returns what the box is to show.

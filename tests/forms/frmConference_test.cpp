@@ -344,6 +344,17 @@ TEST_F(FrmConference, TheInvitationsHideInsteadOfClosing)
     EXPECT_EQ(RealWindows::control<QTreeView>(invitations(), "ListView1").model()->rowCount(), 2);
 }
 
+TEST_F(FrmConference, EscapeHidesTheInvitations)
+{
+    windows.arrive("10.0.0.2", "?CONF INVITE #3");
+    ASSERT_TRUE(invitations().isVisible());
+    QTest::keyClick(&RealWindows::control<QTreeView>(invitations(), "ListView1"), Qt::Key_Escape);
+    EXPECT_FALSE(invitations().isVisible());
+    windows.entry("mnushowinvitations").trigger();
+    EXPECT_TRUE(invitations().isVisible());
+    EXPECT_EQ(RealWindows::control<QTreeView>(invitations(), "ListView1").model()->rowCount(), 1) << "nothing is lost";
+}
+
 TEST_F(FrmConference, WithoutInvitationsTheirWindowLeadsToAConferenceOfOnesOwn)
 {
     windows.entry("mnushowinvitations").trigger();
@@ -366,9 +377,11 @@ TEST_F(FrmConference, OnlyPendingInvitationsAreAnswered)
     list.setCurrentIndex(list.model()->index(0, 0));
     EXPECT_TRUE(agree.isEnabled());
     EXPECT_TRUE(deny.isEnabled());
-    QTest::mouseClick(&RealWindows::control<QPushButton>(invitations(), "ConfDenyAllbtn"), Qt::LeftButton);
+    auto &denyAll = RealWindows::control<QPushButton>(invitations(), "ConfDenyAllbtn");
+    QTest::mouseClick(&denyAll, Qt::LeftButton);
     EXPECT_FALSE(agree.isEnabled());
     EXPECT_FALSE(deny.isEnabled());
+    EXPECT_FALSE(denyAll.isEnabled()) << "nothing is left to deny";
     EXPECT_EQ(list.model()->index(0, 2).data().toString(), QStringLiteral("Refused"));
     QTest::mouseClick(&RealWindows::control<QPushButton>(invitations(), "clearbtn"), Qt::LeftButton);
     EXPECT_FALSE(invitations().isVisible());
