@@ -3,6 +3,7 @@
 #include "widgets/dialog_parts.h"
 #include "widgets/empty_hint.h"
 #include "widgets/file_dialogs.h"
+#include "widgets/form_text.h"
 #include "widgets/message_box.h"
 #include "widgets/pictures.h"
 #include "widgets/screen_room.h"
@@ -92,7 +93,7 @@ QGroupBox *frmTransfers::offeredPart()
     new EmptyHint(*offerList, "offerHint",
                   tr("Nothing is offered. Drop files or folders on a conversation, or press the paper clip there."));
     lifeBox = named(new QComboBox(part), "lifeBox");
-    lifeBox->setAccessibleName(tr("Until when it is offered"));
+    nameCombo(*lifeBox, tr("Until when it is offered"));
     lifeBox->addItems({tr("For 24 hours"), tr("Until it has been fetched once"), tr("Until it is stopped")});
     stopOfferBtn = transferButton(part, "stopOfferBtn", tr("&Stop"));
     auto *const column = new QVBoxLayout(part);
