@@ -10,7 +10,7 @@
 #include "widgets/elided_label.h"
 #include "widgets/form_layout.h"
 #include "widgets/keyed_selection.h"
-#include "widgets/muted_colour.h"
+#include "widgets/muted_text.h"
 #include "widgets/picture_delegate.h"
 #include "widgets/picture_label.h"
 #include "widgets/pictures.h"
@@ -132,9 +132,7 @@ QWidget *frmConference::makeInviteHint()
     m_inviteHint->setWordWrap(true);
     // It takes no focus, so that what is typed goes to the input; the menu of a contact invites by keys.
     m_inviteHint->setTextInteractionFlags(Qt::LinksAccessibleByMouse);
-    QPalette muted = m_inviteHint->palette();
-    muted.setColor(QPalette::WindowText, mutedTextColour(muted));
-    m_inviteHint->setPalette(muted);
+    keepMuted(*m_inviteHint);
     const Participants &rows = m_conference->partecipanti();
     connect(&rows, &Participants::rowsInserted, this, &frmConference::showInviteHint);
     connect(&rows, &Participants::rowsRemoved, this, &frmConference::showInviteHint);

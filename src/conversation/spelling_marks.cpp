@@ -131,7 +131,7 @@ void SpellingMarks::mark(std::vector<WordPlace> misspelt)
 
 QColor SpellingMarks::colour() const
 {
-    return contrastingOn(misspeltColour, m_box.palette().color(QPalette::Base));
+    return contrastingOn(misspeltColour, m_box.palette());
 }
 
 /// Qt's own waves are a dashed line, and pale, where letters are as small as here.

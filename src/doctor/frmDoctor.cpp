@@ -5,7 +5,7 @@
 #include "widgets/dialog_parts.h"
 #include "widgets/empty_hint.h"
 #include "widgets/form_text.h"
-#include "widgets/muted_colour.h"
+#include "widgets/muted_text.h"
 #include "widgets/pictures.h"
 #include "widgets/screen_room.h"
 
@@ -143,9 +143,7 @@ frmDoctor::Line frmDoctor::addLine(QGridLayout &grid, Check check)
               .advice = textLabel(page, name + "Advice")};
     line.picture->setObjectName(QLatin1String(name + "Picture"));
     line.picture->setFixedSize(findingPictureSize, findingPictureSize);
-    QPalette muted = line.advice->palette();
-    muted.setColor(QPalette::WindowText, mutedTextColour(muted));
-    line.advice->setPalette(muted);
+    keepMuted(*line.advice);
     const int row = grid.rowCount();
     grid.addWidget(line.picture, row, 0, Qt::AlignTop);
     grid.addWidget(line.sentence, row, 1);

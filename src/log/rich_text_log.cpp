@@ -718,7 +718,6 @@ void RichTextLogEdit::paintText(QPainter &painter, const QRect &place, const std
 QList<QAbstractTextDocumentLayout::Selection> RichTextLogEdit::adaptedColours(const std::vector<LogMarks::Seen> &lines)
 {
     QList<QAbstractTextDocumentLayout::Selection> selections;
-    const QColor ground = palette().color(QPalette::Base);
     for (const LogMarks::Seen &line : lines) {
         for (auto it = line.block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
@@ -728,7 +727,7 @@ QList<QAbstractTextDocumentLayout::Selection> RichTextLogEdit::adaptedColours(co
             const QColor asked = format.foreground().color();
             auto shown = m_adapted.constFind(asked.rgb());
             if (shown == m_adapted.constEnd())
-                shown = m_adapted.insert(asked.rgb(), contrastingOn(asked, ground));
+                shown = m_adapted.insert(asked.rgb(), contrastingOn(asked, palette()));
             if (*shown == asked)
                 continue;
             QAbstractTextDocumentLayout::Selection selection;

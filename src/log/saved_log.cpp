@@ -51,7 +51,7 @@ QString pieceAsHtml(const QTextFragment &fragment)
     const QString shown = isBold ? QStringLiteral("<b>%1</b>").arg(text) : text;
     if (!format.hasProperty(QTextFormat::ForegroundBrush))
         return shown;
-    const QColor colour = contrastingOn(format.foreground().color(), Qt::white);
+    const QColor colour = contrastingOn(format.foreground().color(), QColor(Qt::white));
     return QStringLiteral("<span style=\"color:%1\">%2</span>").arg(colour.name(), shown);
 }
 

@@ -6,7 +6,7 @@
 #include "widgets/band.h"
 #include "widgets/elided_label.h"
 #include "widgets/form_layout.h"
-#include "widgets/muted_colour.h"
+#include "widgets/muted_text.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -152,9 +152,7 @@ QWidget *PeerHeader::makeHead()
     peerName->setFont(bold);
     peerDetails = new ElidedLabel(head);
     peerDetails->setObjectName(QStringLiteral("peerDetails"));
-    QPalette muted = peerDetails->palette();
-    muted.setColor(QPalette::WindowText, mutedTextColour(muted));
-    peerDetails->setPalette(muted);
+    keepMuted(*peerDetails);
     auto *const lines = new QVBoxLayout;
     lines->setSpacing(0);
     lines->addWidget(peerName);

@@ -1,7 +1,7 @@
 #include "widgets/empty_hint.h"
 
 #include "widgets/form_layout.h"
-#include "widgets/muted_colour.h"
+#include "widgets/muted_text.h"
 
 #include <QAbstractItemView>
 #include <QEvent>
@@ -24,7 +24,7 @@ EmptyHint::EmptyHint(QAbstractItemView &list, const char *name, const QString &s
     column->addStretch(1);
     column->addWidget(m_sentence);
     column->addStretch(1);
-    takeColour();
+    keepMuted(*m_sentence); // quieter than rows would be
     list.viewport()->installEventFilter(this);
     const QAbstractItemModel &rows = *list.model();
     connect(&rows, &QAbstractItemModel::rowsInserted, this, &EmptyHint::followRows);
@@ -49,24 +49,6 @@ void EmptyHint::followRows()
         m_list.setFocus();
     setGeometry(m_list.viewport()->rect());
     setVisible(isEmpty);
-}
-
-/// Quieter than rows would be, on the ground on which they would stand.
-void EmptyHint::takeColour()
-{
-    QPalette colours = m_sentence->palette();
-    const QColor muted = mutedTextColour(m_list.palette());
-    if (colours.color(QPalette::WindowText) == muted)
-        return;
-    colours.setColor(QPalette::WindowText, muted);
-    m_sentence->setPalette(colours);
-}
-
-void EmptyHint::changeEvent(QEvent *event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
-        takeColour();
 }
 
 bool EmptyHint::eventFilter(QObject *watched, QEvent *event)

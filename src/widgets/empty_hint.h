@@ -24,13 +24,10 @@ public:
     QPushButton *addButton(const char *name, const QString &caption);
 
 protected:
-    void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void buildSentence(const char *name, const QString &sentence);
     void followRows();
-    void takeColour();
 
     QAbstractItemView &m_list;
     QLabel *m_sentence;

@@ -7,7 +7,7 @@ namespace nimb
 namespace
 {
 
-constexpr double readableContrast = 4.5;
+constexpr double readableContrast = 4.5, highContrast = 7;
 /// Below this a colour vanishes on its ground, whatever somebody meant by it.
 constexpr double visibleContrast = 2.0;
 /// An edge needs 3; some are drawn a little fainter than they are meant, and corners are blurred.
@@ -32,12 +32,22 @@ QColor mixed(const QColor &colour, const QColor &with, double share)
 }
 
 /// Moves the colour towards another until it stands out enough from the ground.
-QColor moved(const QColor &colour, const QColor &towards, const QColor &ground)
+QColor moved(const QColor &colour, const QColor &towards, const QColor &ground, double least)
 {
     QColor result = colour;
-    for (int step = 1; step <= 20 && contrast(result, ground) < readableContrast; ++step)
+    for (int step = 1; step <= 20 && contrast(result, ground) < least; ++step)
         result = mixed(colour, towards, step / 20.0);
     return result;
+}
+
+double leastContrast(const QPalette &palette)
+{
+    return isOfHighContrast(palette) ? highContrast : readableContrast;
+}
+
+QColor towardsText(const QColor &colour, const QColor &ground, double least)
+{
+    return moved(colour, isDark(ground) ? Qt::white : Qt::black, ground, least);
 }
 
 } // namespace
@@ -57,7 +67,8 @@ bool isDark(const QColor &ground)
 QColor mutedTextColour(const QPalette &palette)
 {
     const QColor text = palette.color(QPalette::Text);
-    return moved(mixed(text, palette.color(QPalette::Base), 0.4), text, palette.color(QPalette::Base));
+    const QColor ground = palette.color(QPalette::Base);
+    return moved(mixed(text, ground, 0.4), text, ground, leastContrast(palette));
 }
 
 QColor readableOn(const QColor &colour, const QColor &ground)
@@ -67,7 +78,12 @@ QColor readableOn(const QColor &colour, const QColor &ground)
 
 QColor contrastingOn(const QColor &colour, const QColor &ground)
 {
-    return moved(colour, isDark(ground) ? Qt::white : Qt::black, ground);
+    return towardsText(colour, ground, readableContrast);
+}
+
+QColor contrastingOn(const QColor &colour, const QPalette &palette)
+{
+    return towardsText(colour, palette.color(QPalette::Base), leastContrast(palette));
 }
 
 bool isOfHighContrast(const QPalette &palette)

@@ -12,7 +12,7 @@ double contrast(const QColor &one, const QColor &other);
 
 bool isDark(const QColor &ground);
 
-/// For what matters less, still readable: contrast 4.5 on the list's ground.
+/// For what matters less, still readable: contrast 4.5 on the list's ground, 7 where the palette is of high contrast.
 QColor mutedTextColour(const QPalette &palette);
 
 /// A log's colour as it is on a light ground, its lighter sister of the same hue on a dark one.
@@ -20,6 +20,9 @@ QColor readableOn(const QColor &colour, const QColor &ground);
 
 /// The colour where its contrast with the ground is 4.5, else its nearest sister of the same hue that has it.
 QColor contrastingOn(const QColor &colour, const QColor &ground);
+
+/// The same on the ground of lists and logs; the contrast is 7 where the palette is of high contrast.
+QColor contrastingOn(const QColor &colour, const QPalette &palette);
 
 /// Black and white, or nearly so.
 bool isOfHighContrast(const QPalette &palette);

@@ -1,10 +1,12 @@
 #include "widgets/appearance_palette.h"
 
 #include "widgets/muted_colour.h"
+#include "widgets/muted_text.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QLabel>
 #include <QPushButton>
 
 namespace nimb::test
@@ -72,6 +74,20 @@ TEST(AppearancePalette, EverythingThatIsReadStandsOutFromItsGround)
         stands(QPalette::HighlightedText, QPalette::Highlight, visible);
         stands(QPalette::PlaceholderText, QPalette::Base, visible);
         EXPECT_GE(contrast(mutedTextColour(palette), palette.color(QPalette::Base)), readable);
+    }
+}
+
+TEST(MutedText, StaysReadableWhenTheDesktopChangesItsColours)
+{
+    QWidget window;
+    auto *const label = new QLabel(QStringLiteral("away"), &window);
+    keepMuted(*label);
+    for (const Scheme scheme : {Scheme::dark, Scheme::light, Scheme::dark}) {
+        const QPalette palette = *paletteFor({scheme, false}, scheme == Scheme::dark ? lightDesktop : darkDesktop());
+        window.setPalette(palette);
+        const QColor shown = label->palette().color(QPalette::WindowText);
+        EXPECT_EQ(shown, mutedTextColour(palette));
+        EXPECT_GE(contrast(shown, palette.color(QPalette::Base)), 4.5);
     }
 }
 

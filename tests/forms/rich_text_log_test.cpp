@@ -915,6 +915,20 @@ TEST(MutedColour, IsReadableOnEveryGround)
     }
 }
 
+TEST(MutedColour, StandsOutMoreWhereThePaletteIsOfHighContrast)
+{
+    for (const auto &[text, ground] : {std::pair(Qt::black, Qt::white), std::pair(Qt::white, Qt::black)}) {
+        QPalette palette;
+        for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Window})
+            palette.setColor(role, ground);
+        for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText})
+            palette.setColor(role, text);
+        EXPECT_GE(contrast(mutedTextColour(palette), ground), 7);
+        EXPECT_GE(contrast(contrastingOn(QColor(160, 160, 160), palette), ground), 7);
+        EXPECT_GE(contrast(contrastingOn(QColor(0, 0, 192), palette), ground), 7);
+    }
+}
+
 TEST(ReadableOn, LeavesTheColoursOfLogsAloneOnWhite)
 {
     for (const QColor colour : {QColor(160, 160, 160), QColor(128, 128, 128), QColor(0, 0, 192), QColor(0, 128, 192)})
