@@ -113,15 +113,11 @@ bool SingleInstance::acquire()
         m_lock = std::make_unique<InstanceLock>(m_folder + QStringLiteral("/lock"));
     const InstanceLock::Outcome outcome = m_lock->tryToHold();
     takeFileFromOthers(m_folder + QStringLiteral("/lock"));
-    switch (outcome) {
-    case InstanceLock::Outcome::heldElsewhere:
+    // No lock can be had in a folder that is read only, and who removes the folder of a running copy, or the lock in
+    // it, leaves a new one to be held; then the socket decides.
+    if (outcome == InstanceLock::Outcome::heldElsewhere || isAnswered(m_socketPath)) {
+        m_lock.reset();
         return false;
-    case InstanceLock::Outcome::impossible: // as in a folder that is read only; then the socket decides
-        if (isAnswered(m_socketPath))
-            return false;
-        break;
-    case InstanceLock::Outcome::held:
-        break;
     }
     m_server = std::make_unique<QLocalServer>();
     m_server->setSocketOptions(QLocalServer::UserAccessOption);

@@ -431,5 +431,17 @@ TEST_F(SingleInstanceTest, InAFolderWithoutALockTheSocketKeepsASecondCopyOut)
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
+TEST_F(SingleInstanceTest, WhoRemovesTheFolderOfARunningCopyOpensTheWayForNoSecondOne)
+{
+    FirstCopy first(folder);
+    ASSERT_TRUE(first.instance.acquire());
+    ASSERT_TRUE(QFile::remove(folder + QStringLiteral("/lock")));
+    EXPECT_EQ(startAgain("without its lock", folder), handedOver);
+    ASSERT_TRUE(QDir(folder).removeRecursively());
+    EXPECT_EQ(startAgain("without its folder", folder), handedOver);
+    ASSERT_TRUE(first.hears(2));
+    EXPECT_THAT(first.captions, ElementsAre("without its lock", "without its folder"));
+}
+
 } // namespace
 } // namespace nimb::test
