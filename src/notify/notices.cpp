@@ -26,6 +26,15 @@ Notices::Notices(const Parts &parts)
     : m_parts(parts), m_pause(parts.timers.oneShot(limits::noticePause, [this] { showWaiting(); })),
       m_silence(parts.timers.oneShot(limits::noticePause, [] {}))
 {
+    const ContactList &contacts = parts.contacts;
+    // A list that is full lets strangers go for others; what they have sent must not be counted for ever.
+    QObject::connect(&contacts, &ContactList::rowsAboutToBeRemoved, &contacts,
+                     [this, &contacts](const QModelIndex &, int first, int last) {
+                         for (int row = first; row <= last; ++row) {
+                             if (const std::optional<Ipv4Address> ip = contacts.at(row).ip.ipv4())
+                                 contactRemoved(*ip);
+                         }
+                     });
 }
 
 void Notices::message(Ipv4Address ip, const QString &name, const QString &text)
@@ -150,6 +159,12 @@ void Notices::seen(const NoticePlace &place)
     std::erase_if(m_waiting, [&place](const News &waiting) { return waiting.place == place; });
     if (isShown)
         withdraw(place);
+}
+
+void Notices::contactRemoved(Ipv4Address ip)
+{
+    for (const NoticeWindow window : {NoticeWindow::privateChat, NoticeWindow::invitations})
+        seen({window, ip});
 }
 
 void Notices::conferenceSeen(int slot)

@@ -64,6 +64,7 @@ private:
         bool isShown = false;
     };
 
+    void contactRemoved(Ipv4Address ip);
     bool isQuietAbout(Ipv4Address ip) const;
     void tell(const News &news, bool wantsSound);
     void showWaiting();

@@ -311,8 +311,6 @@ void PrivateWindows::contactRemoved(const ContactAddress &ip)
 {
     m_services.outbox.contactRemoved(ip);
     forgetWaiting(ip);
-    if (ip.ipv4())
-        m_notices.seen({NoticeWindow::privateChat, *ip.ipv4()});
     if (const int number = numberOf(ip); number > 0) {
         if (at(number)->view().isHidden())
             unload(number);

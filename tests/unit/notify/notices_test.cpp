@@ -90,6 +90,25 @@ TEST_F(NoticesTest, ARemovedContactTakesItsNoticeAlong)
     EXPECT_THAT(copy.notifications.shown, IsEmpty());
 }
 
+TEST_F(NoticesTest, AStrangerWhoMakesRoomInAFullListTakesItsNoticesAlong)
+{
+    copy.arrive("10.0.0.4", "?ONLINE 10.0.0.4 PC Dora");
+    copy.arrive("10.0.0.4", "!BUZZ");
+    copy.arrive("10.0.0.4", "?CONF INVITE #3");
+    copy.advance(1000ms);
+    ASSERT_EQ(copy.notifications.shown.size(), 2u);
+    copy.arrive("10.0.0.4", "!OFFLINE");
+    ContactList &contacts = copy.engine.contacts();
+    for (auto i = std::uint32_t(contacts.rowCount()); i < limits::contactsFromStrangers; ++i) {
+        Contact filling;
+        filling.ip = Ipv4Address::of(Ipv4Address(10, 1, 0, 0).number() + i);
+        contacts.add(std::move(filling));
+    }
+    copy.arrive("10.0.0.5", "?ONLINE 10.0.0.5 PC Eve");
+    ASSERT_FALSE(copy.knows("10.0.0.4")) << "it has not made room";
+    EXPECT_THAT(copy.notifications.shown, IsEmpty());
+}
+
 TEST_F(NoticesTest, TheTextIsShownOnlyWhereTheUserWantsThat)
 {
     options().showMessageText = false;
