@@ -199,6 +199,20 @@ TEST(MainWindowUnload, SavesThePlaceOfTheNormalWindow)
     EXPECT_EQ(copy.settings.value("Settings", "MainHeight"), "6000");
 }
 
+TEST(MainWindowUnload, AnAutomaticReplyThatWasSwitchedOnIsOnAtTheNextStart)
+{
+    Copy copy;
+    constexpr int busy = 2; // the second entry
+    copy.engine.ownState().choose(busy);
+    copy.engine.ownState().setAutoReply(true);
+    copy.engine.mainWindow().Form_Unload();
+    const std::string stored = copy.settings.value("Settings", "AutoReplyonBusyActive");
+    EXPECT_EQ(stored, "-1");
+    const Copy next({.settings = {{"Settings/AutoReplyonBusyActive", QString::fromStdString(stored)}}});
+    EXPECT_TRUE(next.common.autoReply.onBusy);
+    EXPECT_FALSE(next.common.autoReply.onAway);
+}
+
 TEST(MainWindowUnload, ClosesThePrivateWindowsWithoutAsking)
 {
     Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});

@@ -99,6 +99,24 @@ TEST_F(PeerFeaturesTest, ABuzzStandsInThePrivateWindowToo)
     EXPECT_EQ(copy.window(1).log.lastLine(), "BUZZ!");
 }
 
+TEST_F(PeerFeaturesTest, ASilentBuzzStandsInAnOpenPrivateWindowAsALoudOneDoes)
+{
+    openWindow();
+    const auto isSeen = [this] {
+        copy.window(1).log.clear();
+        copy.arrive("10.0.0.2", "!BUZZ");
+        EXPECT_EQ(copy.sound.alarms, 0);
+        EXPECT_EQ(copy.window(1).peerActivity, QStringLiteral("Ann is buzzing you..."));
+        EXPECT_EQ(copy.window(1).log.lastLine(), "BUZZ!");
+        copy.advance(2500ms);
+    };
+    copy.common.buzzmute = true;
+    isSeen();
+    copy.common.buzzmute = false;
+    copy.common.options.playReceivedBuzz = Switch::ofNumber(0);
+    isSeen();
+}
+
 TEST_F(PeerFeaturesTest, ActivityShowsForTwoAndAHalfSecondsAfterTheLastOne)
 {
     copy.arrive("10.0.0.2", "!BUZZ");

@@ -197,6 +197,15 @@ TEST_F(PrivateWindowsTest, ClosingAWindowOfARemovedContactHarmsNobody)
     EXPECT_TRUE(copy.window(1).gone);
 }
 
+TEST(PrivateWindowsWithoutPort, WhatCannotBeSentStandsInTheOwnLogAllTheSame)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "Ann"}}, .portTaken = true});
+    copy.engine.privateWindows().openPrivate(QStringLiteral("10.0.0.2"));
+    EXPECT_TRUE(copy.window(1).chat.send(QStringLiteral("hello")));
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_EQ(copy.window(1).log.lastLine(), "Me> hello");
+}
+
 TEST_F(PrivateWindowsTest, TheSenderIsNamedAsItsRowIsAtThatMoment)
 {
     copy.arrive("10.0.0.3", "!ONLINE 10.0.0.3 PC Benjamin");
