@@ -96,13 +96,12 @@ void frmConference::buildParticipants()
     partecipanti->setRootIsDecorated(false);
     partecipanti->setUniformRowHeights(true);
     partecipanti->setItemDelegate(new PictureDelegate(partecipanti));
-    auto *const model = new ParticipantsProxy(partecipanti);
-    connect(m_pane, &ConversationPane::inputEnabled, model, [this, model](bool enabled) {
+    auto *const model = new ParticipantsProxy(*partecipanti);
+    connect(m_pane, &ConversationPane::inputEnabled, model, [model](bool enabled) {
         if (!enabled)
-            model->setOver(partecipanti->palette());
+            model->setOver();
     });
     model->setSourceModel(&m_conference->partecipanti());
-    model->setGround(palette().color(QPalette::Base));
     setModelOfKeyedRows(*partecipanti, *model);
     partecipanti->setColumnHidden(Participants::Mark, true);
     partecipanti->header()->setStretchLastSection(true);

@@ -6,20 +6,32 @@
 #include "widgets/muted_colour.h"
 
 #include <QBrush>
+#include <QEvent>
+#include <QWidget>
 
 namespace nimb
 {
 
-void ParticipantsProxy::setGround(const QColor &ground)
+ParticipantsProxy::ParticipantsProxy(QWidget &list) : QIdentityProxyModel(&list), m_list(list)
 {
-    m_ground = ground;
-    if (rowCount() > 0)
-        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1), {Qt::ForegroundRole});
+    list.installEventFilter(this);
 }
 
-void ParticipantsProxy::setOver(const QPalette &palette)
+void ParticipantsProxy::setOver()
 {
-    m_over = mutedTextColour(palette);
+    m_isOver = true;
+    looksChanged();
+}
+
+bool ParticipantsProxy::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        looksChanged();
+    return QIdentityProxyModel::eventFilter(watched, event);
+}
+
+void ParticipantsProxy::looksChanged()
+{
     if (rowCount() > 0)
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
@@ -28,12 +40,14 @@ QVariant ParticipantsProxy::data(const QModelIndex &index, int role) const
 {
     switch (role) {
     case Participants::PictureRole:
-        return m_over.isValid() ? QVariant(QString()) : QIdentityProxyModel::data(index, role);
+        return m_isOver ? QVariant(QString()) : QIdentityProxyModel::data(index, role);
     case Qt::ForegroundRole: {
-        if (m_over.isValid())
-            return QBrush(m_over);
+        if (m_isOver)
+            return QBrush(mutedTextColour(m_list.palette()));
         const QVariant colour = QIdentityProxyModel::data(index, Participants::ColourRole);
-        return colour.isValid() ? QVariant(QBrush(readableOn(screenColour(colour.toUInt()), m_ground))) : QVariant();
+        if (!colour.isValid())
+            return {};
+        return QBrush(contrastingOn(screenColour(colour.toUInt()), m_list.palette()));
     }
     case Qt::ToolTipRole:
         return QIdentityProxyModel::data(index.siblingAtColumn(0), Qt::DisplayRole);

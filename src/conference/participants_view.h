@@ -2,7 +2,8 @@
 #pragma once
 
 #include <QIdentityProxyModel>
-#include <QPalette>
+
+class QWidget;
 
 namespace nimb
 {
@@ -12,17 +13,21 @@ class ParticipantsProxy : public QIdentityProxyModel
     Q_OBJECT
 
 public:
-    using QIdentityProxyModel::QIdentityProxyModel;
+    /// The list becomes the parent; the colours are readable on its ground, whatever that becomes.
+    explicit ParticipantsProxy(QWidget &list);
 
-    /// The ground on which the colours must be readable.
-    void setGround(const QColor &ground);
     /// Nobody is there any more: no picture of presence, and the names are muted.
-    void setOver(const QPalette &palette);
+    void setOver();
     QVariant data(const QModelIndex &index, int role) const override;
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
-    QColor m_ground = Qt::white;
-    QColor m_over; ///< of the names; invalid before the end
+    void looksChanged();
+
+    QWidget &m_list;
+    bool m_isOver = false;
 };
 
 } // namespace nimb

@@ -238,14 +238,14 @@ void LogMarks::paintMarks(QPainter &painter, const Seen &line, const QPalette &p
 {
     const QTextBlockFormat format = line.block.blockFormat();
     const int width = painter.viewport().width();
-    const QColor ground = palette.color(QPalette::Base), muted = mutedTextColour(palette);
+    const QColor muted = mutedTextColour(palette);
     painter.setFont(smaller(font));
     const int room = roomOfLine(font);
     // From the line upwards.
     QRect above(0, qRound(line.place.top()) - format.intProperty(gapAbove) - room, width, room);
     if (format.hasProperty(beginsNew)) {
         paintDivider(painter, above, QCoreApplication::translate("LogMarks", "new"),
-                     readableOn(QColor(0xD1, 0x24, 0x2F), ground));
+                     contrastingOn(QColor(0xD1, 0x24, 0x2F), palette));
         above.translate(0, -room);
     }
     if (format.hasProperty(dayShown))
@@ -256,7 +256,7 @@ void LogMarks::paintMarks(QPainter &painter, const Seen &line, const QPalette &p
         const double side = ascent * 0.8;
         const QRectF place(time.right() - side, time.center().y() - side / 2, side, side);
         if (fate == MessageFate::lost)
-            paintUndelivered(painter, place, readableOn(QColor(0x7A, 0x41, 0x00), ground));
+            paintUndelivered(painter, place, contrastingOn(QColor(0x7A, 0x41, 0x00), palette));
         else
             paintWaiting(painter, place, muted);
         time.setRight(time.right() - qRound(side) - besideMark / 2);

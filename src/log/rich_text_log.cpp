@@ -735,6 +735,8 @@ QList<QAbstractTextDocumentLayout::Selection> RichTextLogEdit::adaptedColours(co
             selection.cursor.setPosition(fragment.position());
             selection.cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
             selection.format.setForeground(*shown);
+            // Of two that touch, Qt paints the second one only if it has a ground.
+            selection.format.setBackground(Qt::transparent);
             selections.append(selection);
         }
     }

@@ -3,6 +3,7 @@
 
 #include "conversation/emoji_table.h"
 #include "widgets/avatar_picture.h"
+#include "widgets/muted_colour.h"
 
 #include <QGroupBox>
 #include <QLineEdit>
@@ -342,6 +343,26 @@ TEST_F(FrmConference, TheInvitationsHideInsteadOfClosing)
     windows.arrive("10.0.0.3", "?CONF INVITE #1");
     EXPECT_TRUE(invitations().isVisible());
     EXPECT_EQ(RealWindows::control<QTreeView>(invitations(), "ListView1").model()->rowCount(), 2);
+}
+
+TEST_F(FrmConference, TheColoursOfParticipantsAreReadableOnWhateverGroundTheyStand)
+{
+    host();
+    auto &list = control<QTreeView>("partecipanti");
+    for (const QColor ground : {QColor(0x1E, 0x1F, 0x22), QColor(Qt::white)}) {
+        QPalette palette = list.palette();
+        palette.setColor(QPalette::Base, ground);
+        list.setPalette(palette);
+        int coloured = 0;
+        for (int row = 0; row < list.model()->rowCount(); ++row) {
+            const QVariant shown = list.model()->index(row, 0).data(Qt::ForegroundRole);
+            if (!shown.isValid())
+                continue;
+            ++coloured;
+            EXPECT_GE(contrast(shown.value<QBrush>().color(), ground), 4.5) << row;
+        }
+        EXPECT_GE(coloured, 1);
+    }
 }
 
 TEST_F(FrmConference, EscapeHidesTheInvitations)

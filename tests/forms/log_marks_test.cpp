@@ -11,6 +11,7 @@
 #include <QTest>
 #include <QToolButton>
 
+#include <map>
 #include <set>
 
 namespace nimb
@@ -246,6 +247,31 @@ TEST_F(LogMarksTest, EveryColourOfALogCanBeReadOnEveryGround)
         for (const Colour colour : all)
             EXPECT_GE(contrastSeen(log, colour), 4.5) << std::hex << colour << " on " << ground.name().toStdString();
     }
+}
+
+TEST_F(LogMarksTest, InHighContrastNameAndTextStandOutAlike)
+{
+    QPalette palette;
+    for (const QPalette::ColorRole ground : {QPalette::Base, QPalette::Window})
+        palette.setColor(ground, Qt::black);
+    for (const QPalette::ColorRole text : {QPalette::Text, QPalette::WindowText})
+        palette.setColor(text, Qt::white);
+    log.setPalette(palette);
+    constexpr Colour red = 0x0000FF;
+    log.setSelBold(true);
+    appendText(log, QString(3, QChar(0x2588)), red);
+    log.setSelBold(false);
+    appendText(log, QString(30, QChar(0x2588)), red);
+    log.writeGathered();
+    QCoreApplication::processEvents();
+    const QImage image = log.viewport()->grab().toImage();
+    std::map<QRgb, int> seen;
+    for (int y = 0; y < 20; ++y) {
+        for (int x = 0; x < 200; ++x)
+            ++seen[image.pixel(x, y)];
+    }
+    EXPECT_EQ(seen[qRgb(255, 0, 0)], 0);
+    EXPECT_GT(seen[contrastingOn(Qt::red, palette).rgb()], 500);
 }
 
 TEST_F(LogMarksTest, TheDocumentKeepsTheColoursThatWereAskedFor)
