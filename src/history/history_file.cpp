@@ -461,12 +461,32 @@ std::vector<StoredMessage> HistoryFile::find(const HistoryQuestion &question)
 void HistoryFile::search(const HistoryQuestion &question, std::vector<StoredMessage> &found)
 {
     const Search search = searchFor(question.words);
+    const QByteArray numbers = numbersOfTheTime(question);
     if (!search.beginnings.isEmpty())
-        look({.name = "words", .expression = search.beginnings}, {}, question, found);
+        look({.name = "words", .expression = search.beginnings, .numbers = numbers}, {}, question, found);
     if (!search.parts.isEmpty())
-        look({.name = "parts", .expression = search.parts}, search.shortPatterns, question, found);
+        look({.name = "parts", .expression = search.parts, .numbers = numbers}, search.shortPatterns, question, found);
     if (needsComparing(search, question.words))
-        look({}, search.shortPatterns, question, found);
+        look({.numbers = numbers}, search.shortPatterns, question, found);
+}
+
+/// A condition, empty where the question names no time. An index of words knows no time, and without this it would name
+/// every message since for the time to be looked up.
+QByteArray HistoryFile::numbersOfTheTime(const HistoryQuestion &question)
+{
+    const HistoryQuestion time{.from = question.from, .until = question.until};
+    if (!time.from.isValid() && !time.until.isValid())
+        return {};
+    const QByteArray sql = "SELECT min(m.id), max(m.id) FROM messages m" + conditions(time, "m.id");
+    Statement get(m_database.get(), sql.constData());
+    constexpr int from = 2, until = 3;
+    if (time.from.isValid())
+        get.bind(from, milliseconds(time.from));
+    if (time.until.isValid())
+        get.bind(until, milliseconds(time.until));
+    get.next();
+    return " BETWEEN " + QByteArray::number(qlonglong{get.number(0)}) + " AND "
+        + QByteArray::number(qlonglong{get.number(1)});
 }
 
 /// What an index gives, which all patterns fit; without an index, of all messages. Both give their rows in the order of
@@ -483,6 +503,8 @@ void HistoryFile::look(const Index &index, const QStringList &patterns, const Hi
     sql += conditions(question, number);
     if (hasIndex)
         sql += " AND " + index.name + " MATCH ?7";
+    if (!index.numbers.isEmpty())
+        sql += " AND " + number + index.numbers;
     QList<QByteArray> bytes;
     for (const QString &each : patterns) {
         sql += " AND m.text LIKE ?" + QByteArray::number(firstPattern + bytes.size()) + " ESCAPE '\\'";

@@ -49,10 +49,11 @@ public:
     static QString pathIn(const QString &folder) { return folder + QStringLiteral("/history.sqlite3"); }
 
 private:
-    /// A full-text index and what is looked for in it; without a name none.
+    /// A full-text index and what is looked for in it; without a name all messages.
     struct Index {
-        QByteArray name;
-        QString expression;
+        QByteArray name{};
+        QString expression{};
+        QByteArray numbers{}; ///< condition for those of the messages; empty: none
     };
 
     QString rescuedFile() const { return m_folder + QStringLiteral("/history.rescued.sqlite3"); }
@@ -62,6 +63,7 @@ private:
     int salvage(const QString &wreck);
     std::int64_t conversationFor(const KeptConversation &conversation);
     void inTransaction(const std::function<void()> &work);
+    QByteArray numbersOfTheTime(const HistoryQuestion &question);
     void search(const HistoryQuestion &question, std::vector<StoredMessage> &found);
     void look(const Index &index, const QStringList &patterns, const HistoryQuestion &question,
               std::vector<StoredMessage> &found);

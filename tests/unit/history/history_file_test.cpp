@@ -255,6 +255,22 @@ TEST_F(HistoryFileTest, FindsWithinDaysAndNoMoreThanAsked)
               (QStringList{"plan 6", "plan 7"}));
 }
 
+TEST_F(HistoryFileTest, FindsWithinDaysAlsoWhereTheClockWasSetBack)
+{
+    HistoryFile history(folder);
+    for (const int i : {1, 8, 3, 2, 9, 4, 7})
+        write(history, ann, message(QStringLiteral("plan %1").arg(i), day(i)));
+    const QDateTime third(QDate(2026, 11, 3), QTime(0, 0)), eighth(QDate(2026, 11, 8), QTime(0, 0));
+    const auto within = [&history](const char *words, const QDateTime &from, const QDateTime &until) {
+        return texts(history.find({.words = QString::fromUtf8(words), .from = from, .until = until}));
+    };
+    for (const char *const words : {"plan", "lan"}) // by words, by parts
+        EXPECT_EQ(within(words, third, eighth), (QStringList{"plan 3", "plan 4", "plan 7"})) << words;
+    EXPECT_EQ(within("plan", eighth, {}), (QStringList{"plan 8", "plan 9"}));
+    EXPECT_EQ(within("plan", {}, third), (QStringList{"plan 1", "plan 2"}));
+    EXPECT_THAT(within("plan", day(20), day(21)), IsEmpty());
+}
+
 TEST_F(HistoryFileTest, WhatIsErasedIsInNoFileOfTheProfile)
 {
     HistoryFile history(folder);
