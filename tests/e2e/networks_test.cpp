@@ -112,6 +112,44 @@ TEST_F(Networks, AMachineWithTwoCardsFindsBothSidesAndEachSeesTheAddressOfItsOwn
     EXPECT_EQ(ben->hearUntil("!OFFLINE 10.2.0.1 BOB-PC Bob").back(), "!OFFLINE 10.2.0.1 BOB-PC Bob");
 }
 
+TEST_F(Networks, NoAddressOfTheOwnCardsBecomesAContactWhoeverSendsIt)
+{
+    LanMachine bobs, anns;
+    bobs.plug(office, "eth0", "10.1.0.1/24");
+    anns.plug(office, "eth0", "10.1.0.2/24");
+    const auto ann = peerOn(anns, "10.1.0.2");
+    RunningCopy bob({anyAddress, "BOB-PC"}, profile(usualPort, {{"10.1.0.2", "Ann", "ANN-PC"}}));
+    start(bob, bobs, "Bob");
+    ann->hearUntil("!STATUS Online");
+    ann->send("10.1.0.1", "!ONLINE 10.1.0.2 ANN-PC Ann");
+    for (const char *const address : {"10.1.0.255", "10.1.0.1", "127.0.0.1", "255.255.255.255", "10.1.0.9"})
+        ann->send("10.1.0.1", std::string("!USER ") + address + " PC Somebody");
+    const Rows ninth{{{"Users", "Nn:10.1.0.9"}, "Somebody"}};
+    EXPECT_TRUE(waitUntil([&] { return !newcomers(bob).empty(); }));
+    EXPECT_EQ(newcomers(bob), ninth);
+}
+
+TEST_F(Networks, NothingGoesToEverybodyUntilEverybodyIsLookedFor)
+{
+    LanMachine bobs, anns;
+    bobs.plug(office, "eth0", "10.1.0.1/24");
+    anns.plug(office, "eth0", "10.1.0.2/24");
+    const auto ann = peerOn(anns, "0.0.0.0"); // hears what is sent to everybody as well
+    // As an older copy may have stored it.
+    RunningCopy bob({anyAddress, "BOB-PC"},
+                    profile(usualPort, {{"10.1.0.255", "Everybody", "PC"}, {"10.1.0.2", "Ann", "ANN-PC"}}));
+    const MainWindow main = start(bob, bobs, "Bob");
+    EXPECT_EQ(ann->next(), "?ONLINE 10.1.0.1 BOB-PC Bob");
+    EXPECT_EQ(ann->next(), "!STATUS Online");
+    ann->send("10.1.0.1", "?ONLINE 10.1.0.2 ANN-PC Ann");
+    EXPECT_EQ(ann->next(), "!ONLINE 10.1.0.1 BOB-PC Bob") << "something went to everybody";
+    ann->hearUntil("!STATUS Online");
+    main.activate();
+    press("alt+u");
+    press("f");
+    EXPECT_EQ(ann->next(), "?ONLINE 10.1.0.1 BOB-PC Bob");
+}
+
 TEST_F(Networks, WhereTheSwitchKeepsMachinesApartNobodyIsFound)
 {
     LanMachine bobs, anns, printers;
