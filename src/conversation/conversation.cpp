@@ -153,10 +153,11 @@ QString Conversation::dateAndTime() const
     return shortDate(now) + QLatin1Char(' ') + longTime(now);
 }
 
-void Conversation::endSeen()
+void Conversation::seen(int unread)
 {
-    m_hasUnread = false;
-    allRead();
+    if (unread == 0)
+        m_hasUnread = false;
+    wasRead(unread);
 }
 
 void Conversation::outtext_Change()

@@ -48,7 +48,11 @@ public:
     /// Something was added to the log.
     void outtext_Change();
     /// The window has become the active one, or its reader has come to the end of the log: all has been seen.
-    void endSeen();
+    void endSeen() { seen(0); }
+    /// The same where this many of the others' messages are still out of sight.
+    void seen(int unread);
+    /// Something was written that nobody has seen.
+    bool hasUnread() const { return m_hasUnread; }
 
     /// Offers files and folders to whoever takes part; each has a message of its own.
     void sendFiles(const QStringList &paths);
@@ -98,8 +102,8 @@ private:
     virtual void deliver(const QString &text) = 0;
     /// To whom files go that are sent here.
     virtual FileOffers::Recipients fileRecipients() const = 0;
-    /// Nothing is unread any more.
-    virtual void allRead() { }
+    /// No more than this many messages are unread now.
+    virtual void wasRead(int) { }
     /// Of what is sent now.
     virtual MessageFate fate() const { return MessageFate::sent; }
     /// It stands in the log.

@@ -40,6 +40,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -204,6 +205,10 @@ void ConversationPane::connectControls()
     connect(ListViewEmot, &EmoticonPicker::picked, this, &ConversationPane::ListViewEmot_ItemClick);
     connect(m_outtext, &QTextEdit::textChanged, this, &ConversationPane::outtext_Change);
     connect(m_outtext, &RichTextLogEdit::endReached, this, &ConversationPane::noteWhatIsSeen);
+    connect(m_outtext->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+        if (m_conversation && m_conversation->hasUnread() && !m_outtext->isAtItsEnd())
+            noteWhatIsSeen();
+    });
 }
 
 /// Where nothing can be sent, nothing is offered to.
@@ -597,8 +602,14 @@ void ConversationPane::comeIntoSight()
 
 void ConversationPane::noteWhatIsSeen()
 {
-    if (m_conversation && isEndSeen())
-        m_conversation->endSeen();
+    if (!m_conversation || isMinimisedOrInactive())
+        return;
+    const bool isAtEnd = m_outtext->isAtItsEnd();
+    if (!isAtEnd && !m_conversation->hasUnread())
+        return;
+    m_conversation->seen(isAtEnd ? 0 : m_outtext->messagesBelow());
+    if (!m_conversation->hasUnread())
+        m_outtext->newWasSeen();
 }
 
 void ConversationPane::flash()

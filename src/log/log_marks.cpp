@@ -154,6 +154,11 @@ bool LogMarks::isOwnMessage(const QTextBlockFormat &line)
     return line.hasProperty(ownMessage);
 }
 
+bool LogMarks::isReceived(const QTextBlockFormat &line)
+{
+    return line.hasProperty(gapAbove) && !line.hasProperty(ownMessage);
+}
+
 QString LogMarks::timeOf(const QTextBlockFormat &line)
 {
     return line.stringProperty(timeShown);

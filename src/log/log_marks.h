@@ -46,6 +46,8 @@ public:
     static int heightOfLine(const QFont &font);
     static bool hasRoomAbove(const QTextBlockFormat &line);
     static bool isOwnMessage(const QTextBlockFormat &line);
+    /// A message of somebody else begins with it.
+    static bool isReceived(const QTextBlockFormat &line);
     /// What is painted beside the line; empty where nothing is.
     static QString timeOf(const QTextBlockFormat &line);
     /// What is painted above it; empty unless a day begins with it.

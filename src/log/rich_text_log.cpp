@@ -292,6 +292,9 @@ void RichTextLogEdit::writeGathered()
         return;
     const int firstLine = m_caret.block().position(), lines = document()->blockCount();
     const int begin = m_caret.position();
+    const bool followed = m_follows;
+    if (m_newIsUnread && isOutOfSight())
+        m_newIsUnseen = true;
     m_caret.beginEditBlock();
     insertGathered();
     tellReaders(begin);
@@ -301,7 +304,7 @@ void RichTextLogEdit::writeGathered()
     const int more = document()->blockCount() - lines;
     dropOldLines();
     followEnd();
-    if (!m_follows)
+    if (!followed)
         noteLinesBelow(m_linesBelow + more);
     m_sinceWritten.start();
     Q_EMIT written();
@@ -452,7 +455,13 @@ void RichTextLogEdit::markNew()
     m_new.setKeepPositionOnInsert(true);
     setNewLine(true);
     // Where it can be seen it is not moved: its reader may be about to click on something.
-    m_newIsUnseen = !isVisible() || window()->isMinimized();
+    m_newIsUnseen = isOutOfSight();
+    m_newIsUnread = true;
+}
+
+bool RichTextLogEdit::isOutOfSight() const
+{
+    return !isVisible() || window()->isMinimized();
 }
 
 int RichTextLogEdit::heightOfLine() const
@@ -473,13 +482,32 @@ void RichTextLogEdit::showNew()
     if (height <= bottom)
         return showEnd();
     verticalScrollBar()->setValue(top);
+    noteLinesBelow(linesOutOfSight());
+}
+
+int RichTextLogEdit::countBelow(bool (*counts)(const QTextBlock &line)) const
+{
+    QAbstractTextDocumentLayout &layout = *document()->documentLayout();
+    const int bottom = verticalScrollBar()->value() + viewport()->height();
+    QTextBlock line = document()->findBlock(qMax(0, layout.hitTest(QPointF(0, bottom), Qt::FuzzyHit)));
+    if (line.previous().isValid())
+        line = line.previous();
+    while (line.isValid() && layout.blockBoundingRect(line).bottom() <= bottom)
+        line = line.next();
     int below = 0;
-    for (QTextBlock line = document()->lastBlock(); line.isValid(); line = line.previous()) {
-        if (layout.blockBoundingRect(line).bottom() <= bottom)
-            break;
-        below += line.length() > 1 ? 1 : 0;
-    }
-    noteLinesBelow(below);
+    for (; line.isValid(); line = line.next())
+        below += counts(line) ? 1 : 0;
+    return below;
+}
+
+int RichTextLogEdit::linesOutOfSight() const
+{
+    return countBelow([](const QTextBlock &line) { return line.length() > 1; });
+}
+
+int RichTextLogEdit::messagesBelow() const
+{
+    return countBelow([](const QTextBlock &line) { return LogMarks::isReceived(line.blockFormat()); });
 }
 
 void RichTextLogEdit::unmarkNew()
@@ -489,6 +517,7 @@ void RichTextLogEdit::unmarkNew()
     setNewLine(false);
     m_new = QTextCursor();
     m_newIsUnseen = false;
+    m_newIsUnread = false;
 }
 
 void RichTextLogEdit::setNewLine(bool isNew)
@@ -590,10 +619,11 @@ bool RichTextLogEdit::isAtEnd() const
 
 void RichTextLogEdit::showEnd()
 {
-    const bool followed = std::exchange(m_follows, true);
+    bool wasThere = m_follows;
     writeGathered();
-    followEnd();
-    if (followed)
+    wasThere = std::exchange(m_follows, true) && wasThere;
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+    if (wasThere)
         return;
     noteLinesBelow(0);
     Q_EMIT endReached();
@@ -601,8 +631,27 @@ void RichTextLogEdit::showEnd()
 
 void RichTextLogEdit::followEnd()
 {
-    if (m_follows)
-        verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+    if (!m_follows)
+        return;
+    QScrollBar &bar = *verticalScrollBar();
+    // Whoever has scrolled further himself is not brought back.
+    const int farthest = qMax(farthestUnread().value_or(bar.maximum()), bar.value());
+    if (farthest >= bar.maximum())
+        return bar.setValue(bar.maximum());
+    m_follows = false;
+    bar.setValue(farthest);
+    noteLinesBelow(linesOutOfSight());
+}
+
+std::optional<int> RichTextLogEdit::farthestUnread() const
+{
+    if (!m_newIsUnread || m_new.isNull() || isActiveWindow() || isOutOfSight())
+        return std::nullopt;
+    const QTextBlock first = m_new.block();
+    const QRectF place = document()->documentLayout()->blockBoundingRect(first);
+    if (place.isNull())
+        return std::nullopt; // not laid out yet
+    return qRound(place.top() - first.blockFormat().topMargin());
 }
 
 // --- how it looks

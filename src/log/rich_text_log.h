@@ -29,9 +29,10 @@ struct StoredMessage;
 /// Bounded: beyond limits::logLines, logCharacters and logPictures the oldest lines go. Lines that are broken because
 /// the window is narrow, and those that continue another, are indented. What is written is gathered and goes in at most
 /// once a frame, so that a burst costs one layout and one painting. Follows new text only while the reader is at the
-/// end. Colours are adapted to the ground, and again when it changes; on a light one the document keeps them as they
-/// were asked for, and they are adapted on the screen alone. Times, days and the like are painted beside the text and
-/// above it, see LogMarks, and stand in no text.
+/// end, and while nobody reads, in a window that is not the active one, no further than to where the new begins.
+/// Colours are adapted to the ground, and again when it changes; on a light one the document keeps them as they were
+/// asked for, and they are adapted on the screen alone. Times, days and the like are painted beside the text and above
+/// it, see LogMarks, and stand in no text.
 class RichTextLogEdit : public QTextEdit, public RichTextLog
 {
     Q_OBJECT
@@ -61,6 +62,10 @@ public:
     /// Where the log was out of sight when new text came, and has grown by more than can be seen at once: goes to where
     /// the new text begins.
     void showNew();
+    /// All that is marked as new has been read.
+    void newWasSeen() { m_newIsUnread = false; }
+    /// Messages of others that begin below what is in sight.
+    int messagesBelow() const;
     /// Pixels that a line takes, without what is painted above it.
     int heightOfLine() const;
     /// Room above and below the text, in pixels, for what would lie over it.
@@ -147,7 +152,13 @@ private:
     qsizetype caretPosition() const;
     void gather(const QString &text, const QTextCharFormat &format);
     bool isAtEnd() const;
+    bool isOutOfSight() const;
     void followEnd();
+    /// Where nobody reads, nothing new is to be scrolled past: the place beyond which the log does not follow its end.
+    std::optional<int> farthestUnread() const;
+    /// Of the lines that do not end in sight.
+    int countBelow(bool (*counts)(const QTextBlock &line)) const;
+    int linesOutOfSight() const;
     void insertGathered();
     void tellReaders(int begin);
     void applyColour(Colour colour);
@@ -191,6 +202,7 @@ private:
     QTextCursor m_caret;
     QTextCursor m_new; ///< at the beginning of what is new; null while nothing is
     bool m_newIsUnseen = false;
+    bool m_newIsUnread = false;
     QTextCharFormat m_format;
     bool m_continues = false;
     bool m_isOwn = false;

@@ -22,7 +22,7 @@ constexpr std::chrono::milliseconds unknownWithoutDoubt = limits::announcementTi
 } // namespace
 
 PrivateChat::PrivateChat(const Services &services, std::function<void()> unloaded, std::function<void()> sought,
-                         std::function<void()> read)
+                         std::function<void(int unread)> read)
     : Conversation(services.conversation, std::move(unloaded)), m_services(services),
       m_autoReplyTimer(services.timers.oneShot(limits::autoReplyPause, [] {})),
       m_timer(services.timers.oneShot(peerActivityShown, [this] { endPeerActivity(); })),

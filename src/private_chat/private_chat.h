@@ -34,9 +34,9 @@ public:
     };
 
     /// unloaded: called last of all when the user closes the window for good; it may destroy this chat. sought: called
-    /// when the user turns to the peer; read: when he has seen all that was written.
+    /// when the user turns to the peer; read: when he has seen all that was written, but for as many messages.
     PrivateChat(const Services &services, std::function<void()> unloaded, std::function<void()> sought,
-                std::function<void()> read);
+                std::function<void(int unread)> read);
 
     /// Tells the window its peer.
     void setPeer(const ContactAddress &ip);
@@ -111,7 +111,7 @@ private:
     void deliver(const QString &text) override;
     FileOffers::Recipients fileRecipients() const override;
     Writer peer(const QString &nik) const;
-    void allRead() override { m_read(); }
+    void wasRead(int unread) override { m_read(unread); }
     MessageFate fate() const override;
     void wasSent(const QString &text, const LogMessage &message) override;
     void showWhetherMessagesCanWait();
@@ -141,7 +141,8 @@ private:
     std::unique_ptr<Timer> m_liveTypeAge; ///< clears what the peer has begun and left
     std::unique_ptr<Timer> m_doubt;
     std::unique_ptr<Timer> m_webCamTimer;
-    std::function<void()> m_sought, m_read;
+    std::function<void()> m_sought;
+    std::function<void(int unread)> m_read;
     TypingNotice m_typingNotice;
     bool m_liveTypePending = false;
     bool m_isTyping = false; ///< the peer, as far as is shown

@@ -80,12 +80,12 @@ void PrivateWindows::noteMessage(const Contact &contact, bool isUnreadInWindow)
     });
 }
 
-void PrivateWindows::read(int window)
+void PrivateWindows::read(int window, int unread)
 {
     const Contact *const contact = at(window) ? m_contacts.find(at(window)->rIP()) : nullptr;
-    if (contact && contact->unreadInWindow > 0)
-        m_contacts.change(contact->ip, [](Contact &row) { row.unreadInWindow = 0; });
-    if (contact && contact->ip.ipv4())
+    if (contact && contact->unreadInWindow > unread)
+        m_contacts.change(contact->ip, [unread](Contact &row) { row.unreadInWindow = unread; });
+    if (contact && contact->ip.ipv4() && unread == 0)
         m_notices.seen({NoticeWindow::privateChat, *contact->ip.ipv4()});
 }
 
@@ -239,7 +239,7 @@ PrivateChat &PrivateWindows::make(const Contact &contact, OpenedBy opener)
     const int number = static_cast<int>(m_table.size()) + 1;
     m_table.push_back(std::make_unique<PrivateChat>(
         m_services, [this, number] { unload(number); }, [this, number] { sought(number); },
-        [this, number] { read(number); }));
+        [this, number](int unread) { read(number, unread); }));
     // The head of the window follows the row from now on.
     m_contacts.change(contact.ip, [number](Contact &row) {
         row.privateWindow = number;

@@ -73,7 +73,7 @@ private:
     /// Number of a window whose peer has this address, or 0.
     int numberOf(const ContactAddress &ip) const;
     void sought(int window);
-    void read(int window);
+    void read(int window, int unread);
     /// A message of the contact has been put into its window, or waits.
     void noteMessage(const Contact &contact, bool isUnreadInWindow);
     void showPeer(const Contact &contact);
