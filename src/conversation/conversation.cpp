@@ -113,10 +113,12 @@ void Conversation::offerReceived(const Writer &writer, const QString &text)
         conversationView().addReceivedFile(*number);
 }
 
-void Conversation::showEarlier()
+bool Conversation::showEarlier()
 {
-    if (m_waitsForEarlier || m_hasAllEarlier || !history().isKept(keptAs().address))
-        return;
+    if (m_hasAllEarlier || !history().isKept(keptAs().address))
+        return false;
+    if (m_waitsForEarlier)
+        return true;
     m_waitsForEarlier = true;
     const auto show = [self = std::weak_ptr(m_self), cleared = m_cleared](const std::vector<StoredMessage> &messages) {
         const auto there = self.lock();
@@ -127,13 +129,13 @@ void Conversation::showEarlier()
             return; // they are asked for again when what was cleared is brought back
         conversation.m_waitsForEarlier = false;
         conversation.m_hasAllEarlier = messages.empty();
-        if (messages.empty())
-            return;
-        conversation.m_earliest = messages.front().number;
+        if (!messages.empty())
+            conversation.m_earliest = messages.front().number;
         conversation.conversationView().addEarlier(messages);
     };
     history().history().findIn(
         keptAs(), {.before = m_earliest, .most = m_earliest ? limits::historyPage : limits::historyShown}, show);
+    return true;
 }
 
 void Conversation::appendLine(const QString &line, Colour colour)

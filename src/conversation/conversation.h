@@ -61,8 +61,9 @@ public:
     HistoryChoice &history() const { return m_services.history; }
     /// What it is kept as.
     virtual KeptConversation keptAs() const = 0;
-    /// What was kept of it before is shown above the log, at first the newest.
-    void showEarlier();
+    /// What was kept of it before is shown above the log, at first the newest. False when nothing of it is left, or
+    /// kept at all.
+    bool showEarlier();
 
     /// Its log keeps its lines as long as there is anything else to drop: it is somebody's whom the user knows.
     virtual bool isSpared() const { return true; }

@@ -187,13 +187,11 @@ void ConversationPane::connectControls()
     connect(close, &QShortcut::activated, this, [this] { window()->close(); });
     connect(historyBand, &QLabel::linkActivated, this, &ConversationPane::historyBand_Click);
     connect(&m_conversation->history(), &HistoryChoice::chosen, this, &ConversationPane::showHistoryBand);
-    connect(m_outtext, &RichTextLogEdit::earlierWanted, this, [this] {
-        if (m_conversation)
-            m_conversation->showEarlier();
-    });
+    m_outtext->setEarlierSource([this] { return m_conversation && m_conversation->showEarlier(); });
+    connect(m_outtext, &RichTextLogEdit::keptWanted, this, &ConversationPane::openHistory);
     showHistoryBand();
     auto *const history = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_H), this);
-    connect(history, &QShortcut::activated, this, &ConversationPane::openHistory);
+    connect(history, &QShortcut::activated, this, [this] { openHistory({}); });
     connect(m_cleared, &ClearedBand::broughtBack, this, &ConversationPane::focusInput);
     if (EmojiTable::isThere()) {
         auto *const find = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Period), this);
@@ -387,12 +385,12 @@ void ConversationPane::showHistoryBand()
 }
 
 /// A conference has no address of its own to be found by.
-void ConversationPane::openHistory() const
+void ConversationPane::openHistory(const QString &words) const
 {
     if (!m_conversation)
         return;
     const KeptConversation kept = m_conversation->keptAs();
-    m_openHistory(kept.kind == KeptConversation::Kind::contact ? kept.address : QString());
+    m_openHistory(kept.kind == KeptConversation::Kind::contact ? kept.address : QString(), words);
 }
 
 void ConversationPane::setNeedsRoom(bool needsRoom)

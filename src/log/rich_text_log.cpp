@@ -156,6 +156,8 @@ void RichTextLogEdit::setRoomBelow(int room)
 
 void RichTextLogEdit::addEarlier(const std::vector<StoredMessage> &messages)
 {
+    if (messages.empty())
+        return Q_EMIT earlierChanged();
     writeGathered();
     if (!m_earlier)
         m_earlier = std::make_shared<EarlierMessages>(*m_pictures);
@@ -191,8 +193,8 @@ void RichTextLogEdit::placeEarlier()
 
 void RichTextLogEdit::askForEarlier()
 {
-    if (m_earlier && isVisible() && verticalScrollBar()->value() < viewport()->height() / 2)
-        Q_EMIT earlierWanted();
+    if (isVisible() && verticalScrollBar()->value() < viewport()->height() / 2)
+        fetchEarlier();
 }
 
 // --- writing

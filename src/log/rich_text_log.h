@@ -15,6 +15,7 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -73,6 +74,11 @@ public:
     void setRoomBelow(int room);
     /// Shows them above the log, in front of those that are there, until it is cleared. They are no part of its text.
     void addEarlier(const std::vector<StoredMessage> &messages);
+    /// Asks for others in front of those that are there, which then come by addEarlier(); without any when none are
+    /// left. False when there is nobody to ask, or it is known already that none are.
+    void setEarlierSource(std::function<bool()> source) { m_earlierSource = std::move(source); }
+    bool fetchEarlier() { return hasEarlier() && m_earlierSource && m_earlierSource(); }
+    bool hasEarlier() const { return m_earlier != nullptr; }
     /// All that stands in the log, so that it can be brought back after it was cleared.
     struct Kept {
         QTextDocumentFragment text;
@@ -122,10 +128,10 @@ Q_SIGNALS:
     void endReached();
     /// What screen readers have been told of new text.
     void toldReaders(const QString &text);
-    /// The reader has come near the first of the earlier messages, or sees it anyway.
-    void earlierWanted();
-    /// There are others, or none any more.
+    /// There are others, or none any more, or no more have come.
     void earlierChanged();
+    /// What was kept is to be searched for these words.
+    void keptWanted(const QString &words);
     /// So many lines have come since the reader has left the end.
     void linesBelow(int lines);
 
@@ -226,6 +232,7 @@ private:
     QHash<QRgb, QColor> m_adapted; ///< colours of the document as they are shown on this ground
     int m_insetAbove = 0, m_insetBelow = 0, m_roomAbove = 0, m_roomBelow = 0;
     std::shared_ptr<EarlierMessages> m_earlier; ///< once there are some
+    std::function<bool()> m_earlierSource;
     int m_earlierHeight = 0;
     QTimer m_roomForEarlier; ///< asks for more of them
     ScreenReaders m_screenReaders;

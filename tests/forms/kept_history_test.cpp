@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListView>
+#include <QListWidget>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTextFrame>
@@ -297,6 +298,88 @@ TEST_F(KeptForEver, MoreThatIsPaintedWhileOneSearchesIsSearchedToo)
         << count.text().toStdString();
     QTest::keyClick(&text, Qt::Key_Return);
     EXPECT_EQ(count.text(), QStringLiteral("5 of 11"));
+}
+
+/// The same where much more is kept than what is painted at first.
+class FindInAllThatWasKept : public KeptForEver
+{
+protected:
+    void openBar(int kept)
+    {
+        keepSaid(kept);
+        windows.arrive("10.0.0.2", "-new");
+        windows.privateWindow().showNormal();
+        windows.privateWindow().resize(500, 400);
+        windows.privateWindow().activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&windows.privateWindow(), 60000));
+        log().setFocus();
+        QTest::keyClick(&log(), Qt::Key_F, Qt::ControlModifier);
+    }
+    QLineEdit &text() { return *log().findChild<QLineEdit *>(QStringLiteral("findText")); }
+    QToolButton &findKept() { return *log().findChild<QToolButton *>(QStringLiteral("findKept")); }
+    QString count() { return log().findChild<QLabel *>(QStringLiteral("findCount"))->text(); }
+    bool counts(const char *shown)
+    {
+        return QTest::qWaitFor([&] { return count() == QLatin1String(shown); }, 60000);
+    }
+    void older() { QTest::keyClick(&text(), Qt::Key_Return); }
+};
+
+TEST_F(FindInAllThatWasKept, BringsUpWhatWasNotPaintedYet)
+{
+    openBar(700);
+    ASSERT_EQ(log().earlierText().count(QStringLiteral("said before")), 50);
+    text().setText(QStringLiteral("before 101"));
+    EXPECT_NE(count(), QStringLiteral("Not found")) << "nobody knows yet";
+    EXPECT_TRUE(counts("1 of 1")) << count().toStdString();
+    EXPECT_EQ(log().earlierText().count(QStringLiteral("said before")), 650) << "no more than it takes";
+    EXPECT_FALSE(findKept().isVisible());
+    EXPECT_LT(log().verticalScrollBar()->value(), log().verticalScrollBar()->maximum());
+}
+
+TEST_F(FindInAllThatWasKept, GoesOnBehindTheOldestOfThosePainted)
+{
+    openBar(700);
+    text().setText(QStringLiteral("before 33"));
+    EXPECT_TRUE(counts("10 of 10")) << "330 to 339";
+    for (int i = 0; i < 9; ++i)
+        older();
+    EXPECT_EQ(count(), QStringLiteral("1 of 10"));
+    older();
+    EXPECT_TRUE(counts("1 of 11")) << count().toStdString();
+    older();
+    EXPECT_TRUE(counts("11 of 11")) << "nothing older is left: around the end";
+}
+
+TEST_F(FindInAllThatWasKept, OffersTheWindowThatSearchesEverythingWhereNothingIsFound)
+{
+    openBar(3000);
+    text().setText(QStringLiteral("before 5!"));
+    EXPECT_TRUE(counts("Not found")) << count().toStdString();
+    EXPECT_EQ(log().earlierText().count(QStringLiteral("said before")), 2050) << "bounded";
+    ASSERT_TRUE(findKept().isVisible());
+    auto &bar = *log().findChild<QWidget *>(QStringLiteral("findBar"));
+    EXPECT_GE(bar.height(), bar.sizeHint().height());
+    EXPECT_LE(bar.geometry().bottom(), log().viewport()->geometry().top()) << "covers no line";
+    EXPECT_EQ(findKept().text(), QStringLiteral("Search all that was kept"));
+    QTest::mouseClick(&findKept(), Qt::LeftButton);
+    auto *const history = windows.main().findChild<QDialog *>(QStringLiteral("frmHistory"));
+    ASSERT_TRUE(history);
+    EXPECT_EQ(windows.control<QLineEdit>(*history, "searchText").text(), QStringLiteral("before 5!"));
+    EXPECT_EQ(windows.control<QListWidget>(*history, "conversations").currentItem()->toolTip(),
+              QStringLiteral("10.0.0.2"));
+    text().setText(QStringLiteral("new"));
+    EXPECT_FALSE(findKept().isVisible());
+}
+
+TEST_F(FindInAllThatWasKept, WhatIsTypedOnEndsTheSearchForWhatWasTypedBefore)
+{
+    openBar(700);
+    text().setText(QStringLiteral("nothing like that"));
+    text().setText(QStringLiteral("new"));
+    EXPECT_EQ(count(), QStringLiteral("1 of 1"));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return count() == QStringLiteral("1 of 1"); }));
+    EXPECT_EQ(log().earlierText().count(QStringLiteral("said before")), 50);
 }
 
 TEST_F(KeptForEver, AContactCanBeLeftOutByItsMenu)
