@@ -9,8 +9,7 @@
 #include "private_chat/private_chat_view.h"
 #include "private_chat/typing_notice.h"
 
-#include <QHash>
-
+#include <map>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -84,7 +83,8 @@ public:
     void askForAvatarUnlessInvisible();
     /// Whether the head that has come is the one that avatarWanted() asked for; true once for each such question.
     [[nodiscard]] bool takeAvatarWanted() { return std::exchange(m_avatarWanted, false); }
-    /// What was written while the peer was not there is to be sent when he is back.
+    /// What was written while the peer was not there is to be sent when he is back, and so is what is written in the
+    /// rest of this absence; or, after that, none of it.
     void sendLaterBtn_Click();
     /// He is, and this is sent now, with the time at which it was written.
     void sendWaiting(const WaitingMessage &message);
@@ -115,6 +115,11 @@ private:
     MessageFate fate() const override;
     void wasSent(const QString &text, const LogMessage &message) override;
     void showWhetherMessagesCanWait();
+    /// Until the outbox has no more room.
+    void putIntoOutbox();
+    void takeOutOfOutbox();
+    /// The number in the log of what waits no more; 0 where it has none there.
+    int takeWaiting(std::int64_t waiting);
     Delivery deliveryTo(const PeerShown &peer);
     void doubtDelivery();
 
@@ -131,8 +136,9 @@ private:
     };
 
     Services m_services;
-    std::vector<Lost> m_lost;           ///< in this absence, and that wait for nothing
-    QHash<std::int64_t, int> m_waiting; ///< numbers in the log, by those in the outbox
+    std::vector<Lost> m_lost;              ///< in this absence, and that wait for nothing
+    std::map<std::int64_t, int> m_waiting; ///< numbers in the log, by those in the outbox
+    bool m_sendsLater = false;             ///< the user has chosen so in this absence
     ContactAddress m_rIP;
     PeerShown m_peer;
     std::unique_ptr<Timer> m_autoReplyTimer;

@@ -114,8 +114,15 @@ TEST_F(FrmPrivate, TheBandOffersToSendLaterWhatWasWrittenMeanwhile)
     ASSERT_TRUE(button.isVisible());
     EXPECT_EQ(button.text(), QStringLiteral("Send when Ann && Co is back"));
     button.click();
-    EXPECT_FALSE(button.isVisible());
-    EXPECT_EQ(band.text(), QStringLiteral("Ann & Co is offline; waiting to be sent: 1"));
+    EXPECT_EQ(
+        band.text(),
+        QStringLiteral("Ann & Co is offline: what you write is sent when Ann & Co is back; waiting to be sent: 1"));
+    EXPECT_TRUE(button.isVisible());
+    EXPECT_EQ(button.text(), QStringLiteral("Do not send later"));
+    button.click();
+    EXPECT_EQ(band.text(), QStringLiteral("Ann & Co is offline: what you write does not arrive"));
+    EXPECT_EQ(button.text(), QStringLiteral("Send when Ann && Co is back"));
+    button.click();
     ASSERT_EQ(windows.engine.outbox().messages().size(), 1u);
     outtext().writeGathered();
     const QTextBlock line = outtext().document()->lastBlock().previous();
