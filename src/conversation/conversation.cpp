@@ -48,8 +48,10 @@ void Conversation::sendText(const QString &text)
     const Writer self{common().ownNickname, conversationView().windowTextColour(), addressText(common().ownIP),
                       common().ownHostName};
     LogMessage message{.writer = self.name, .time = m_services.clock.now(), .isOwn = true, .fate = fate()};
-    if (message.fate != MessageFate::sent)
+    if (message.fate != MessageFate::sent) {
+        message.receiver = keptAs().name;
         message.number = ++m_lastNumber;
+    }
     appendMessage(self, text, message);
     wasSent(text, message);
 }

@@ -40,6 +40,7 @@ constexpr std::chrono::milliseconds frame{14};
 constexpr std::size_t piecesAtOnce = 1000;
 constexpr qreal smallestLetters = 5, largestLetters = 48; ///< points
 constexpr int wheelNotch = 120;
+constexpr int besidePointer = 4; // pixels by which one may miss a mark
 /// In front of the name of a command where links have an address. No address that is found in a text begins so.
 constexpr QLatin1Char commandMark('#');
 qsizetype picturesIn(const QString &text)
@@ -924,6 +925,16 @@ QString RichTextLogEdit::commandAt(const QPoint &place) const
     return target.startsWith(commandMark) ? target.mid(1) : QString();
 }
 
+QString RichTextLogEdit::meaningAt(const QPoint &place) const
+{
+    for (const LogMarks::Seen &line : linesIn({place, QSize(1, 1)})) {
+        const QRectF mark = LogMarks::placeOfFate(line, viewport()->width(), font());
+        if (mark.adjusted(-besidePointer, -besidePointer, besidePointer, besidePointer).contains(place))
+            return LogMarks::meaningOf(line.block.blockFormat());
+    }
+    return {};
+}
+
 void RichTextLogEdit::mousePressEvent(QMouseEvent *event)
 {
     const bool isLeft = event->button() == Qt::LeftButton;
@@ -941,7 +952,7 @@ void RichTextLogEdit::mouseMoveEvent(QMouseEvent *event)
     const QUrl target = linkAt(event->position().toPoint());
     const bool leadsSomewhere = !targetAt(event->position().toPoint()).isEmpty();
     viewport()->setCursor(leadsSomewhere ? Qt::PointingHandCursor : Qt::IBeamCursor);
-    viewport()->setToolTip(target.isEmpty() ? QString() : readableAddress(target));
+    viewport()->setToolTip(target.isEmpty() ? meaningAt(event->position().toPoint()) : readableAddress(target));
     QTextEdit::mouseMoveEvent(event);
 }
 

@@ -202,6 +202,8 @@ private:
     /// What the link at this place leads to, be it in the log or above it.
     QString targetAt(const QPoint &place) const;
     QUrl linkAt(const QPoint &place) const;
+    /// What the mark at this place means, likewise.
+    QString meaningAt(const QPoint &place) const;
     /// Empty where there is none.
     QString commandAt(const QPoint &place) const;
 

@@ -88,6 +88,7 @@ TEST_F(OutboxTest, OffersToSendLaterOnceSomethingWasWrittenThatDoesNotArrive)
     EXPECT_EQ(window().shownPeer.waiting, 1);
     EXPECT_EQ(toBeSent(), 1);
     EXPECT_THAT(fates(), ElementsAre(MessageFate::waits));
+    EXPECT_EQ(window().log.messages.front().receiver, QStringLiteral("Ann"));
     EXPECT_THAT(sent(), IsEmpty());
 }
 
