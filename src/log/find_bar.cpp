@@ -260,7 +260,7 @@ void FindBar::offerKept(bool isOffered)
 void FindBar::selectPlace()
 {
     if (m_current < 0)
-        return;
+        return unselect();
     const int length = static_cast<int>(findText->text().size());
     m_log.setFoundEarlier(m_earlier, length, isInEarlier() ? m_current : -1);
     if (isInEarlier())
@@ -269,7 +269,21 @@ void FindBar::selectPlace()
     found.setPosition(m_places[static_cast<std::size_t>(m_current) - m_earlier.size()]);
     found.setPosition(found.position() + length, QTextCursor::KeepAnchor);
     m_log.setTextCursor(found);
+    m_selected = found;
     m_log.ensureCursorVisible();
+}
+
+/// What the reader has selected himself stays so.
+void FindBar::unselect()
+{
+    QTextCursor shown = m_log.textCursor();
+    const bool isOurs = !m_selected.isNull() && shown.selectionStart() == m_selected.selectionStart()
+        && shown.selectionEnd() == m_selected.selectionEnd();
+    m_selected = QTextCursor();
+    if (!isOurs)
+        return;
+    shown.clearSelection();
+    m_log.setTextCursor(shown);
 }
 
 void FindBar::place()

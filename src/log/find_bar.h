@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPointer>
+#include <QTextCursor>
 #include <QTimer>
 #include <QWidget>
 
@@ -53,6 +54,7 @@ private:
     void showCount();
     void offerKept(bool isOffered);
     void selectPlace();
+    void unselect();
     void place();
 
     RichTextLogEdit &m_log;
@@ -66,6 +68,7 @@ private:
     std::vector<int> m_earlier; ///< in the text of the earlier messages, the oldest first
     std::vector<int> m_places;  ///< in that of the log
     qsizetype m_current = -1;   ///< of both, those of the earlier messages first
+    QTextCursor m_selected;     ///< the place of the log that was selected last
     QTimer m_later;
     QTimer m_seekOn;
     int m_pagesLeft = 0;           ///< to be brought up

@@ -88,8 +88,11 @@ RichTextLogEdit::RichTextLogEdit(QWidget *parent)
     connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &RichTextLogEdit::followEnd);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
         const bool followed = std::exchange(m_follows, isAtEnd());
-        if (!m_follows)
+        if (!m_follows) {
+            if (m_linesBelow > 0)
+                noteLinesBelow(qMin(m_linesBelow, linesOutOfSight()));
             return askForEarlier();
+        }
         if (followed)
             return;
         noteLinesBelow(0);

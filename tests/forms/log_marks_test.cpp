@@ -386,6 +386,44 @@ TEST_F(FindBarTest, SaysWhenThereIsNothing)
     EXPECT_FALSE(child<QToolButton>("findNext").isEnabled());
 }
 
+TEST_F(FindBarTest, WhereNothingIsFoundNothingIsSelected)
+{
+    QTest::keyClicks(&text(), QStringLiteral("key"));
+    ASSERT_TRUE(log.textCursor().hasSelection());
+    QTest::keyClicks(&text(), QStringLiteral("s"));
+    EXPECT_EQ(count(), QStringLiteral("Not found"));
+    EXPECT_FALSE(log.textCursor().hasSelection());
+    text().setText(QStringLiteral("desk"));
+    ASSERT_TRUE(log.textCursor().hasSelection());
+    text().clear();
+    EXPECT_FALSE(log.textCursor().hasSelection());
+}
+
+TEST_F(FindBarTest, WhatTheReaderHasSelectedHimselfStaysSo)
+{
+    text().setText(QStringLiteral("keys"));
+    log.selectAll();
+    QTest::keyClicks(&text(), QStringLiteral("!"));
+    EXPECT_EQ(count(), QStringLiteral("Not found"));
+    EXPECT_TRUE(log.textCursor().hasSelection());
+}
+
+TEST_F(FindBarTest, AHitAtTheEndLeavesNoLinesToGoDownTo)
+{
+    auto &button = child<QToolButton>("newLinesBtn");
+    lines(100);
+    log.verticalScrollBar()->setValue(20);
+    lines(17);
+    ASSERT_EQ(button.text(), QStringLiteral("17"));
+    QTest::keyClicks(&text(), QStringLiteral("line 16"));
+    ASSERT_EQ(count(), QStringLiteral("2 of 2"));
+    EXPECT_FALSE(button.isVisible()) << button.text().toStdString();
+    QTest::keyClick(&text(), Qt::Key_Return);
+    lines(1);
+    EXPECT_TRUE(button.isVisible());
+    EXPECT_EQ(button.text(), QStringLiteral("1")) << "only what is new";
+}
+
 TEST_F(FindBarTest, LooksAgainInATextThatHasGrown)
 {
     QTest::keyClicks(&text(), QStringLiteral("key"));
