@@ -50,6 +50,13 @@ void PrivateChat::preparewindow()
     showEarlier();
 }
 
+void PrivateChat::show(ShowMode mode)
+{
+    if (m_view->isHidden())
+        conversationView().setLogFont(common().logFont);
+    m_view->showWindow(mode);
+}
+
 void PrivateChat::showPeer(PeerShown peer)
 {
     peer.delivery = deliveryTo(peer);

@@ -49,6 +49,8 @@ public:
 
     /// Sets fonts, empties the log, writes its opening line, and shows what was kept above it.
     void preparewindow();
+    /// Brings the window into view; one that was closed opens in the font that is chosen now.
+    void show(ShowMode mode);
     /// Appends a message that came when there was no window for it yet.
     void waitingMessage(const QString &nik, const QString &msg);
     /// Appends a received message and answers it automatically where that is switched on, unless it is an automatic

@@ -60,8 +60,7 @@ void PrivateWindows::receive(const Contact &contact, QString body)
     PrivateChat &chat = windowOf(contact, OpenedBy::peer);
     if (chat.view().isHidden()) {
         chat.leaveUnattended();
-        chat.view().showWindow(m_services.conversation.common.options.privateWindowsOnTop ? ShowMode::onTop
-                                                                                          : ShowMode::minimised);
+        chat.show(m_services.conversation.common.options.privateWindowsOnTop ? ShowMode::onTop : ShowMode::minimised);
     }
     showWaiting(contact, chat);
     const bool isUnread = !chat.view().conversation().isEndSeen();
@@ -187,7 +186,7 @@ void PrivateWindows::openPrivate(const ContactAddress &ip)
     PrivateChat &chat = windowOf(*contact, OpenedBy::user);
     chat.attend();
     showWaiting(*contact, chat);
-    chat.view().showWindow(ShowMode::active);
+    chat.show(ShowMode::active);
 }
 
 void PrivateWindows::answer(const ContactAddress &ip, const QString &text)

@@ -1069,6 +1069,24 @@ TEST_F(FrmPrivate, TheFontIsTheStoredOne)
     EXPECT_EQ(windows.common.logFont.face, QStringLiteral("no such face"));
 }
 
+TEST_F(FrmPrivate, AClosedWindowOpensInTheFontThatWasChosenMeanwhile)
+{
+    const auto sizes = [this] { return std::pair(intext().font().pointSize(), outtext().font().pointSize()); };
+    const std::pair usual = sizes();
+    windows.common.logFont = {QStringLiteral("no such face"), 14, {}};
+    windows.doubleClick(0);
+    EXPECT_EQ(sizes(), usual) << "open ones keep theirs";
+    form().close();
+    ASSERT_TRUE(form().isHidden());
+    windows.doubleClick(0);
+    EXPECT_EQ(sizes(), std::pair(14, 14));
+    form().close();
+    windows.common.logFont = {QStringLiteral("no such face"), 11, {}};
+    windows.arrive("10.0.0.2", "-hello");
+    ASSERT_FALSE(form().isHidden());
+    EXPECT_EQ(sizes(), std::pair(11, 11)) << "also when a message opens it";
+}
+
 TEST_F(FrmPrivate, WithoutAStoredFontTheInputFollowsTheDesktopsWhenThatChanges)
 {
     const QFont usual = QApplication::font();
