@@ -27,7 +27,9 @@ void Conversation::Clearbtn_Click()
     history().cleared(keptAs());
     ++m_cleared;
     m_waitsForEarlier = false;
-    m_hasUnread = false;
+    m_keptNew.reset();
+    if (m_hasUnread)
+        seen(0);
     log.setSelFont(font);
     const QDateTime now = m_services.clock.now();
     appendLine(openingLine(shortDate(now), longTime(now)), colours::banner);
@@ -60,7 +62,9 @@ void Conversation::appendReceived(const Writer &writer, const QString &text)
 {
     if (!m_hasUnread && !conversationView().isEndSeen()) {
         m_hasUnread = true;
+        m_unread = m_unreadKept = 0;
         conversationView().outtext().markNew();
+        history().leftUnread(keptAs());
     }
     const QDateTime now = m_services.clock.now();
     appendMessage(writer, text, {.writer = writer.name, .time = now});
@@ -133,10 +137,15 @@ bool Conversation::showEarlier()
         conversation.m_hasAllEarlier = messages.empty();
         if (!messages.empty())
             conversation.m_earliest = messages.front().number;
-        conversation.conversationView().addEarlier(messages);
+        std::optional<std::int64_t> readTo;
+        if (const auto unread = std::exchange(conversation.m_keptNew, std::nullopt))
+            readTo = unread->readTo;
+        conversation.conversationView().addEarlier(messages, readTo);
     };
-    history().history().findIn(
-        keptAs(), {.before = m_earliest, .most = m_earliest ? limits::historyPage : limits::historyShown}, show);
+    int most = m_earliest ? limits::historyPage : limits::historyShown;
+    if (m_keptNew)
+        most += qMin(m_keptNew->messages, limits::historyPage);
+    history().history().findIn(keptAs(), {.before = m_earliest, .most = most}, show);
     return true;
 }
 
@@ -157,11 +166,34 @@ QString Conversation::dateAndTime() const
     return shortDate(now) + QLatin1Char(' ') + longTime(now);
 }
 
+void Conversation::leaveUnread(const UnreadConversation &unread)
+{
+    m_keptNew = unread;
+    m_hasUnread = true;
+    m_unread = m_unreadKept = 0;
+}
+
 void Conversation::seen(int unread)
 {
-    if (unread == 0)
-        m_hasUnread = false;
+    if (m_keptNew)
+        return; // it is not shown yet
+    m_unread = unread;
+    if (unread == 0 && std::exchange(m_hasUnread, false))
+        history().wasRead(keptAs(), 0);
     wasRead(unread);
+}
+
+void Conversation::turnedAway()
+{
+    if (m_hasUnread && std::exchange(m_unreadKept, m_unread) != m_unread)
+        history().wasRead(keptAs(), m_unread);
+}
+
+void Conversation::closed(UnloadMode mode)
+{
+    if (mode == UnloadMode::closeBox && std::exchange(m_hasUnread, false))
+        history().wasRead(keptAs(), 0);
+    m_unloaded();
 }
 
 void Conversation::outtext_Change()

@@ -203,6 +203,7 @@ void ConversationPane::connectControls()
     connect(ListViewEmot, &EmoticonPicker::picked, this, &ConversationPane::ListViewEmot_ItemClick);
     connect(m_outtext, &QTextEdit::textChanged, this, &ConversationPane::outtext_Change);
     connect(m_outtext, &RichTextLogEdit::endReached, this, &ConversationPane::noteWhatIsSeen);
+    connect(m_outtext, &RichTextLogEdit::keptNewShown, this, &ConversationPane::comeIntoSight);
     connect(m_outtext->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
         if (m_conversation && m_conversation->hasUnread() && !m_outtext->isAtItsEnd())
             noteWhatIsSeen();
@@ -324,7 +325,7 @@ void ConversationPane::Form_QueryUnload(QCloseEvent &event)
     if (decision != CloseDecision::unload)
         return event.ignore();
     event.accept();
-    m_conversation->closed();
+    m_conversation->closed(mode);
 }
 
 void ConversationPane::letGo()
@@ -578,6 +579,8 @@ bool ConversationPane::event(QEvent *event)
     const bool taken = QWidget::event(event);
     if (event->type() == QEvent::WindowActivate)
         comeIntoSight();
+    if (event->type() == QEvent::WindowDeactivate && m_conversation)
+        m_conversation->turnedAway();
     return taken;
 }
 

@@ -78,7 +78,10 @@ public:
     RichTextLog &outtext() override;
     void setCaption(const QString &caption) override;
     void setLogFont(const LogFont &font) override;
-    void addEarlier(const std::vector<StoredMessage> &messages) override { m_outtext->addEarlier(messages); }
+    void addEarlier(const std::vector<StoredMessage> &messages, std::optional<std::int64_t> readTo) override
+    {
+        m_outtext->addEarlier(messages, readTo);
+    }
     void addReceivedFile(int number) override;
     void showFileTrouble(const QString &sentence) override;
     void setLastMessage(const QString &text) override { Q_EMIT lastMessageChanged(text); }

@@ -158,17 +158,21 @@ void RichTextLogEdit::setRoomBelow(int room)
     setInsets(m_insetAbove, m_insetBelow);
 }
 
-void RichTextLogEdit::addEarlier(const std::vector<StoredMessage> &messages)
+void RichTextLogEdit::addEarlier(const std::vector<StoredMessage> &messages, std::optional<std::int64_t> readTo)
 {
-    if (messages.empty())
-        return Q_EMIT earlierChanged();
-    writeGathered();
-    if (!m_earlier)
-        m_earlier = std::make_shared<EarlierMessages>(*m_pictures);
-    m_earlier->setFound({}); // the places have moved
-    m_earlier->add(messages);
-    placeEarlier();
+    if (!messages.empty()) {
+        writeGathered();
+        if (!m_earlier)
+            m_earlier = std::make_shared<EarlierMessages>(*m_pictures);
+        m_earlier->setFound({}); // the places have moved
+        m_earlier->add(messages, readTo);
+        if (readTo && m_earlier->hasNew())
+            m_newIsUnread = m_newIsUnseen = true;
+        placeEarlier();
+    }
     Q_EMIT earlierChanged();
+    if (readTo)
+        Q_EMIT keptNewShown();
 }
 
 void RichTextLogEdit::placeEarlier()
@@ -477,18 +481,30 @@ int RichTextLogEdit::heightOfLine() const
 
 void RichTextLogEdit::showNew()
 {
-    if (!std::exchange(m_newIsUnseen, false) || m_new.isNull())
+    if (!std::exchange(m_newIsUnseen, false))
         return;
     writeGathered();
-    QAbstractTextDocumentLayout &layout = *document()->documentLayout();
-    const int height = qRound(layout.documentSize().height()); // lays out all of it
-    const QTextBlock first = m_new.block();
-    const int top = qRound(layout.blockBoundingRect(first).top() - first.blockFormat().topMargin());
-    const int bottom = top + viewport()->height();
-    if (height <= bottom)
+    const int height = qRound(document()->documentLayout()->documentSize().height()); // lays out all of it
+    const std::optional<int> top = topOfNew();
+    if (!top)
+        return;
+    if (height <= *top + viewport()->height())
         return showEnd();
-    verticalScrollBar()->setValue(top);
+    verticalScrollBar()->setValue(*top);
     noteLinesBelow(linesOutOfSight());
+}
+
+std::optional<int> RichTextLogEdit::topOfNew() const
+{
+    if (m_earlier && m_earlier->hasNew())
+        return m_earlier->topOfNew();
+    if (m_new.isNull())
+        return std::nullopt;
+    const QTextBlock first = m_new.block();
+    const QRectF place = document()->documentLayout()->blockBoundingRect(first);
+    if (place.isNull())
+        return std::nullopt; // not laid out yet
+    return qRound(place.top() - first.blockFormat().topMargin());
 }
 
 int RichTextLogEdit::countBelow(bool (*counts)(const QTextBlock &line)) const
@@ -500,7 +516,7 @@ int RichTextLogEdit::countBelow(bool (*counts)(const QTextBlock &line)) const
         line = line.previous();
     while (line.isValid() && layout.blockBoundingRect(line).bottom() <= bottom)
         line = line.next();
-    int below = 0;
+    int below = m_earlier ? m_earlier->countBelow(bottom, counts) : 0;
     for (; line.isValid(); line = line.next())
         below += counts(line) ? 1 : 0;
     return below;
@@ -518,12 +534,16 @@ int RichTextLogEdit::messagesBelow() const
 
 void RichTextLogEdit::unmarkNew()
 {
+    m_newIsUnseen = false;
+    m_newIsUnread = false;
+    if (m_earlier && m_earlier->hasNew()) {
+        m_earlier->unmarkNew();
+        placeEarlier();
+    }
     if (m_new.isNull())
         return;
     setNewLine(false);
     m_new = QTextCursor();
-    m_newIsUnseen = false;
-    m_newIsUnread = false;
 }
 
 void RichTextLogEdit::setNewLine(bool isNew)
@@ -651,13 +671,7 @@ void RichTextLogEdit::followEnd()
 
 std::optional<int> RichTextLogEdit::farthestUnread() const
 {
-    if (!m_newIsUnread || m_new.isNull() || isActiveWindow() || isOutOfSight())
-        return std::nullopt;
-    const QTextBlock first = m_new.block();
-    const QRectF place = document()->documentLayout()->blockBoundingRect(first);
-    if (place.isNull())
-        return std::nullopt; // not laid out yet
-    return qRound(place.top() - first.blockFormat().topMargin());
+    return m_newIsUnread && !isActiveWindow() && !isOutOfSight() ? topOfNew() : std::nullopt;
 }
 
 // --- how it looks

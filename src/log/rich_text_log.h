@@ -73,7 +73,8 @@ public:
     void setRoomAbove(int room);
     void setRoomBelow(int room);
     /// Shows them above the log, in front of those that are there, until it is cleared. They are no part of its text.
-    void addEarlier(const std::vector<StoredMessage> &messages);
+    /// readTo: those with a higher number are marked as new.
+    void addEarlier(const std::vector<StoredMessage> &messages, std::optional<std::int64_t> readTo = {});
     /// Asks for others in front of those that are there, which then come by addEarlier(); without any when none are
     /// left. False when there is nobody to ask, or it is known already that none are.
     void setEarlierSource(std::function<bool()> source) { m_earlierSource = std::move(source); }
@@ -130,6 +131,8 @@ Q_SIGNALS:
     void toldReaders(const QString &text);
     /// There are others, or none any more, or no more have come.
     void earlierChanged();
+    /// What an earlier run has left unread is among the earlier messages, or is not to be had.
+    void keptNewShown();
     /// What was kept is to be searched for these words.
     void keptWanted(const QString &words);
     /// So many lines have come since the reader has left the end.
@@ -160,6 +163,8 @@ private:
     bool isAtEnd() const;
     bool isOutOfSight() const;
     void followEnd();
+    /// What is marked as new begins here, in what stands above the log or in the log itself.
+    std::optional<int> topOfNew() const;
     /// Where nobody reads, nothing new is to be scrolled past: the place beyond which the log does not follow its end.
     std::optional<int> farthestUnread() const;
     /// Of the lines that do not end in sight.

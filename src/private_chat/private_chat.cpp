@@ -44,9 +44,11 @@ void PrivateChat::setPeer(const ContactAddress &ip)
     m_view->setPeerAddress(ip.text());
 }
 
-void PrivateChat::preparewindow()
+void PrivateChat::preparewindow(const std::optional<UnreadConversation> &unread)
 {
     Clearbtn_Click();
+    if (unread)
+        leaveUnread(*unread);
     showEarlier();
 }
 

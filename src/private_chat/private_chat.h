@@ -47,8 +47,9 @@ public:
     bool isSpared() const override { return m_acquainted; }
     PrivateChatView &view() { return *m_view; }
 
-    /// Sets fonts, empties the log, writes its opening line, and shows what was kept above it.
-    void preparewindow();
+    /// Sets fonts, empties the log, writes its opening line, and shows what was kept above it, of which something may
+    /// be unread from an earlier run.
+    void preparewindow(const std::optional<UnreadConversation> &unread = {});
     /// Brings the window into view; one that was closed opens in the font that is chosen now.
     void show(ShowMode mode);
     /// Appends a message that came when there was no window for it yet.

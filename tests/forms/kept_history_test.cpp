@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTextFrame>
@@ -380,6 +381,68 @@ TEST_F(FindInAllThatWasKept, WhatIsTypedOnEndsTheSearchForWhatWasTypedBefore)
     EXPECT_EQ(count(), QStringLiteral("1 of 1"));
     EXPECT_TRUE(QTest::qWaitFor([this] { return count() == QStringLiteral("1 of 1"); }));
     EXPECT_EQ(log().earlierText().count(QStringLiteral("said before")), 50);
+}
+
+TEST_F(KeptForEver, WhatAnEarlierRunLeftUnreadOpensWhereReadingStopped)
+{
+    const auto unread = [this] { return windows.engine.contacts().find(QStringLiteral("10.0.0.2"))->unread(); };
+    keepSaid(30);
+    windows.history.leaveUnread({.address = QStringLiteral("10.0.0.2")});
+    keepSaid(60);
+    windows.engine.privateWindows().loadUnread();
+    EXPECT_EQ(unread(), 60);
+    EXPECT_EQ(windows.list().model()->index(0, 0).data(ContactList::UnreadRole).toInt(), 60);
+    windows.doubleClick(0);
+    QWidget &form = windows.privateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form, 60000));
+    QCoreApplication::processEvents();
+    auto &button = windows.control<QToolButton>(form, "newLinesBtn");
+    QScrollBar &bar = *log().verticalScrollBar();
+    EXPECT_LT(bar.value(), bar.maximum());
+    EXPECT_TRUE(button.isVisible());
+    const int below = unread();
+    EXPECT_GT(below, 0) << "what cannot be seen is not read";
+    EXPECT_LT(below, 60);
+    EXPECT_GE(button.text().toInt(), below);
+    // The word above the first of them is painted in red; the messages are not.
+    const QImage seen = log().viewport()->grab().toImage();
+    const auto red = [&seen](int from, int to) {
+        int count = 0;
+        for (int y = from; y < to; ++y) {
+            for (int x = 0; x < seen.width(); ++x) {
+                const QColor colour = seen.pixelColor(x, y);
+                count += colour.red() > 150 && colour.green() < 120 && colour.blue() < 120 ? 1 : 0;
+            }
+        }
+        return count;
+    };
+    const int line = log().heightOfLine();
+    EXPECT_GT(red(0, line), 5) << "at the top";
+    EXPECT_EQ(red(2 * line, seen.height()), 0);
+
+    windows.main().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&windows.main(), 60000));
+    EXPECT_EQ(windows.history.readTo.at(QStringLiteral("10.0.0.2")), 90 - below);
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form, 60000));
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(bar.value(), bar.maximum());
+    EXPECT_EQ(unread(), 0);
+    EXPECT_TRUE(windows.history.readTo.empty());
+    windows.arrive("10.0.0.2", "-now");
+    QTest::keyClicks(&windows.control<QPlainTextEdit>(form, "intext"), QStringLiteral("answer"));
+    QTest::keyClick(&windows.control<QPlainTextEdit>(form, "intext"), Qt::Key_Return);
+    log().verticalScrollBar()->setValue(0);
+    const int top = log().verticalScrollBar()->value();
+    for (int place = top; place < bar.maximum(); place += log().viewport()->height() / 2) {
+        bar.setValue(place);
+        const QImage now = log().viewport()->grab().toImage();
+        for (int y = 0; y < now.height(); ++y) {
+            const QColor middle = now.pixelColor(now.width() / 4, y);
+            ASSERT_FALSE(middle.red() > 150 && middle.green() < 120 && middle.blue() < 120)
+                << "who answers has read: nothing is new any more";
+        }
+    }
 }
 
 TEST_F(KeptForEver, AContactCanBeLeftOutByItsMenu)
