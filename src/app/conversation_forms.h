@@ -22,7 +22,7 @@ public:
     /// openHistory: see ConversationTools.
     /// folders: likewise.
     ConversationForms(LinkOpener &links, Common &common, std::function<void()> emojiUsed, Spelling &spelling,
-                      std::function<void(const QString &)> openHistory, LinkOpener &folders)
+                      std::function<void(const QString &, const QString &)> openHistory, LinkOpener &folders)
         : m_links(links), m_emoji(common, std::move(emojiUsed)), m_spelling(spelling),
           m_openHistory(std::move(openHistory)), m_folders(folders)
     {
@@ -38,7 +38,7 @@ private:
     EmojiStock m_emoji;
     Spelling &m_spelling;
     LogRoom m_logRoom;
-    std::function<void(const QString &)> m_openHistory;
+    std::function<void(const QString &, const QString &)> m_openHistory;
     LinkOpener &m_folders;
     ScratchFolder m_scratch;
 };

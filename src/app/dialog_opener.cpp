@@ -142,10 +142,15 @@ void DialogOpener::mnuTransfers()
 
 void DialogOpener::mnuHistory(const QString &ip)
 {
+    openHistory(ip, {});
+}
+
+void DialogOpener::openHistory(const QString &ip, const QString &words)
+{
     if (!m_history || !m_history->isVisible())
         m_history = new frmHistory(m_engine.history().history(), m_engine.outbox(), m_services.prompts, &m_main);
-    if (!ip.isEmpty())
-        m_history->choose(ip);
+    if (!ip.isEmpty() || !words.isEmpty())
+        m_history->choose(ip, words);
     bringBack(*m_history);
     m_history->activateWindow();
 }

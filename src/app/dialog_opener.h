@@ -71,6 +71,8 @@ public:
     void mnuShortcuts() override;
     void mnuTransfers() override;
     void mnuHistory(const QString &ip) override;
+    /// The same, and looks for words.
+    void openHistory(const QString &ip, const QString &words);
     void mnuLeaveOut(const QString &ip, bool leftOut) override;
     bool hasManual() const override;
     void mnuManual() override;

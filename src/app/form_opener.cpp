@@ -17,9 +17,9 @@ FormOpener::FormOpener(const FormServices &services)
     : m_services(services), m_spelling(services.spellChecker, services.common, QLocale().name()),
       m_conversations(
           services.links, services.common, [this] { emojiUsed(); }, m_spelling,
-          [this](const QString &address) {
+          [this](const QString &address, const QString &words) {
               if (m_dialogs)
-                  m_dialogs->mnuHistory(address);
+                  m_dialogs->openHistory(address, words);
           },
           services.folders),
       m_slide(services.common, services.timers)

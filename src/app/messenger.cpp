@@ -75,7 +75,10 @@ Messenger::Messenger(Common &common, const Surroundings &around)
                     [this](Ipv4Address ip, int number) {
                         return m_conferences.joined(ip, number) || m_conferences.hosted(number);
                     },
-                    [this] { m_outbox.load(); },
+                    [this] {
+                        m_outbox.load();
+                        m_privateWindows.loadUnread();
+                    },
                     [this] { unloadOtherWindows(); },
                     [this] { return m_transfers.underWay(); },
                     around.tray,

@@ -52,6 +52,13 @@ struct StoredConversation {
     int messages = 0;
 };
 
+/// A conversation of which not all was read: what others have written behind that message.
+struct UnreadConversation {
+    KeptConversation conversation;
+    std::int64_t readTo = 0; ///< number of a message, or 0
+    int messages = 0;
+};
+
 /// Which messages are looked for; nothing restricts nothing.
 struct HistoryQuestion {
     QString words{}; ///< all of them, in any order, each the beginning or a part of a word
@@ -78,6 +85,7 @@ class History
 public:
     using Found = std::function<void(const std::vector<StoredMessage> &messages)>;
     using Listed = std::function<void(const std::vector<StoredConversation> &conversations)>;
+    using Unread = std::function<void(const std::vector<UnreadConversation> &conversations)>;
     using Done = std::function<void(bool done)>;
 
     virtual ~History() = default;
@@ -91,6 +99,11 @@ public:
     virtual void findIn(const KeptConversation &conversation, const HistoryQuestion &question, Found found) = 0;
     /// The one with the newest message first.
     virtual void list(Listed listed) = 0;
+    /// What is kept of it from now on is not read, unless something before it is not.
+    virtual void leaveUnread(const KeptConversation &conversation) = 0;
+    /// All of it was read but for this many messages of others.
+    virtual void setRead(const KeptConversation &conversation, int unread) = 0;
+    virtual void listUnread(Unread listed) = 0;
     /// For good: afterwards the texts are in no file of the profile.
     virtual void erase(const HistorySelection &selection, Done done) = 0;
     /// The same with all that is older, which nobody waits for.

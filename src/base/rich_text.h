@@ -25,7 +25,8 @@ struct LogMessage {
     QDateTime time;
     bool isOwn = false;
     MessageFate fate = MessageFate::sent;
-    int number = 0; ///< by which it is found again, where it is not sent; 0: none
+    QString receiver{}; ///< whom it has not reached
+    int number = 0;     ///< by which it is found again, where it is not sent; 0: none
 };
 
 /// A log to which text is only ever appended. Text is plain text always: nothing in it is taken for markup.

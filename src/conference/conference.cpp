@@ -58,6 +58,12 @@ QString Conference::textToSend(const QString &typed) const
     return TrimTrailingBreaks(withoutOuterBlanks(typed));
 }
 
+void Conference::wasRead(int unread)
+{
+    if (unread == 0)
+        m_services.notices.conferenceSeen(m_identity.fConfN);
+}
+
 void Conference::deliver(const QString &text)
 {
     const auto sayTo = [&](std::optional<Ipv4Address> peer) {

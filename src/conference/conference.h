@@ -82,7 +82,7 @@ private:
     QString textToSend(const QString &typed) const override;
     void deliver(const QString &text) override;
     FileOffers::Recipients fileRecipients() const override;
-    void allRead() override { m_services.notices.conferenceSeen(m_identity.fConfN); }
+    void wasRead(int unread) override;
 
     QString caption() const;
     Writer writerOf(Ipv4Address ip) const;

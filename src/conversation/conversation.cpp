@@ -27,7 +27,9 @@ void Conversation::Clearbtn_Click()
     history().cleared(keptAs());
     ++m_cleared;
     m_waitsForEarlier = false;
-    m_hasUnread = false;
+    m_keptNew.reset();
+    if (m_hasUnread)
+        seen(0);
     log.setSelFont(font);
     const QDateTime now = m_services.clock.now();
     appendLine(openingLine(shortDate(now), longTime(now)), colours::banner);
@@ -48,8 +50,10 @@ void Conversation::sendText(const QString &text)
     const Writer self{common().ownNickname, conversationView().windowTextColour(), addressText(common().ownIP),
                       common().ownHostName};
     LogMessage message{.writer = self.name, .time = m_services.clock.now(), .isOwn = true, .fate = fate()};
-    if (message.fate != MessageFate::sent)
+    if (message.fate != MessageFate::sent) {
+        message.receiver = keptAs().name;
         message.number = ++m_lastNumber;
+    }
     appendMessage(self, text, message);
     wasSent(text, message);
 }
@@ -58,7 +62,9 @@ void Conversation::appendReceived(const Writer &writer, const QString &text)
 {
     if (!m_hasUnread && !conversationView().isEndSeen()) {
         m_hasUnread = true;
+        m_unread = m_unreadKept = 0;
         conversationView().outtext().markNew();
+        history().leftUnread(keptAs());
     }
     const QDateTime now = m_services.clock.now();
     appendMessage(writer, text, {.writer = writer.name, .time = now});
@@ -113,10 +119,12 @@ void Conversation::offerReceived(const Writer &writer, const QString &text)
         conversationView().addReceivedFile(*number);
 }
 
-void Conversation::showEarlier()
+bool Conversation::showEarlier()
 {
-    if (m_waitsForEarlier || m_hasAllEarlier || !history().isKept(keptAs().address))
-        return;
+    if (m_hasAllEarlier || !history().isKept(keptAs().address))
+        return false;
+    if (m_waitsForEarlier)
+        return true;
     m_waitsForEarlier = true;
     const auto show = [self = std::weak_ptr(m_self), cleared = m_cleared](const std::vector<StoredMessage> &messages) {
         const auto there = self.lock();
@@ -127,13 +135,18 @@ void Conversation::showEarlier()
             return; // they are asked for again when what was cleared is brought back
         conversation.m_waitsForEarlier = false;
         conversation.m_hasAllEarlier = messages.empty();
-        if (messages.empty())
-            return;
-        conversation.m_earliest = messages.front().number;
-        conversation.conversationView().addEarlier(messages);
+        if (!messages.empty())
+            conversation.m_earliest = messages.front().number;
+        std::optional<std::int64_t> readTo;
+        if (const auto unread = std::exchange(conversation.m_keptNew, std::nullopt))
+            readTo = unread->readTo;
+        conversation.conversationView().addEarlier(messages, readTo);
     };
-    history().history().findIn(
-        keptAs(), {.before = m_earliest, .most = m_earliest ? limits::historyPage : limits::historyShown}, show);
+    int most = m_earliest ? limits::historyPage : limits::historyShown;
+    if (m_keptNew)
+        most += qMin(m_keptNew->messages, limits::historyPage);
+    history().history().findIn(keptAs(), {.before = m_earliest, .most = most}, show);
+    return true;
 }
 
 void Conversation::appendLine(const QString &line, Colour colour)
@@ -153,10 +166,34 @@ QString Conversation::dateAndTime() const
     return shortDate(now) + QLatin1Char(' ') + longTime(now);
 }
 
-void Conversation::endSeen()
+void Conversation::leaveUnread(const UnreadConversation &unread)
 {
-    m_hasUnread = false;
-    allRead();
+    m_keptNew = unread;
+    m_hasUnread = true;
+    m_unread = m_unreadKept = 0;
+}
+
+void Conversation::seen(int unread)
+{
+    if (m_keptNew)
+        return; // it is not shown yet
+    m_unread = unread;
+    if (unread == 0 && std::exchange(m_hasUnread, false))
+        history().wasRead(keptAs(), 0);
+    wasRead(unread);
+}
+
+void Conversation::turnedAway()
+{
+    if (m_hasUnread && std::exchange(m_unreadKept, m_unread) != m_unread)
+        history().wasRead(keptAs(), m_unread);
+}
+
+void Conversation::closed(UnloadMode mode)
+{
+    if (mode == UnloadMode::closeBox && std::exchange(m_hasUnread, false))
+        history().wasRead(keptAs(), 0);
+    m_unloaded();
 }
 
 void Conversation::outtext_Change()

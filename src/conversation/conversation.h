@@ -48,7 +48,13 @@ public:
     /// Something was added to the log.
     void outtext_Change();
     /// The window has become the active one, or its reader has come to the end of the log: all has been seen.
-    void endSeen();
+    void endSeen() { seen(0); }
+    /// The same where this many of the others' messages are still out of sight.
+    void seen(int unread);
+    /// The user has turned to something else: where he stopped reading is kept.
+    void turnedAway();
+    /// Something was written that nobody has seen.
+    bool hasUnread() const { return m_hasUnread; }
 
     /// Offers files and folders to whoever takes part; each has a message of its own.
     void sendFiles(const QStringList &paths);
@@ -57,8 +63,9 @@ public:
     HistoryChoice &history() const { return m_services.history; }
     /// What it is kept as.
     virtual KeptConversation keptAs() const = 0;
-    /// What was kept of it before is shown above the log, at first the newest.
-    void showEarlier();
+    /// What was kept of it before is shown above the log, at first the newest. False when nothing of it is left, or
+    /// kept at all.
+    bool showEarlier();
 
     /// Its log keeps its lines as long as there is anything else to drop: it is somebody's whom the user knows.
     virtual bool isSpared() const { return true; }
@@ -66,8 +73,8 @@ public:
     bool isOver() const { return m_over; }
     /// What becomes of the window; the user may be asked.
     [[nodiscard]] virtual CloseDecision Form_QueryUnload(UnloadMode mode) = 0;
-    /// The form has been closed for good.
-    void closed() { m_unloaded(); }
+    /// The form has been closed for good. What the user closes he has read.
+    void closed(UnloadMode mode = UnloadMode::closeBox);
 
 protected:
     struct Writer {
@@ -83,6 +90,8 @@ protected:
     const Common &common() const { return m_services.common; }
     Winsock &socket() const { return m_services.socket; }
 
+    /// Of what was kept, in an earlier run, this is unread; it is marked when it is shown.
+    void leaveUnread(const UnreadConversation &unread);
     void appendReceived(const Writer &writer, const QString &text);
     void appendLine(const QString &line, Colour colour);
     /// A message of one's own goes out and is shown.
@@ -98,8 +107,8 @@ private:
     virtual void deliver(const QString &text) = 0;
     /// To whom files go that are sent here.
     virtual FileOffers::Recipients fileRecipients() const = 0;
-    /// Nothing is unread any more.
-    virtual void allRead() { }
+    /// No more than this many messages are unread now.
+    virtual void wasRead(int) { }
     /// Of what is sent now.
     virtual MessageFate fate() const { return MessageFate::sent; }
     /// It stands in the log.
@@ -112,8 +121,11 @@ private:
     std::function<void()> m_unloaded;
     bool m_over = false;
     bool m_hasUnread = false;
-    int m_lastNumber = 0;                   ///< of a message that was not just sent
-    std::optional<std::int64_t> m_earliest; ///< number of the first kept message that is shown
+    int m_unread = 0;                            ///< when something of it was read last
+    int m_unreadKept = 0;                        ///< the same, as it is kept
+    std::optional<UnreadConversation> m_keptNew; ///< until it is shown
+    int m_lastNumber = 0;                        ///< of a message that was not just sent
+    std::optional<std::int64_t> m_earliest;      ///< number of the first kept message that is shown
     bool m_waitsForEarlier = false;
     bool m_hasAllEarlier = false;
     int m_cleared = 0;                      ///< how often

@@ -40,6 +40,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -186,13 +187,11 @@ void ConversationPane::connectControls()
     connect(close, &QShortcut::activated, this, [this] { window()->close(); });
     connect(historyBand, &QLabel::linkActivated, this, &ConversationPane::historyBand_Click);
     connect(&m_conversation->history(), &HistoryChoice::chosen, this, &ConversationPane::showHistoryBand);
-    connect(m_outtext, &RichTextLogEdit::earlierWanted, this, [this] {
-        if (m_conversation)
-            m_conversation->showEarlier();
-    });
+    m_outtext->setEarlierSource([this] { return m_conversation && m_conversation->showEarlier(); });
+    connect(m_outtext, &RichTextLogEdit::keptWanted, this, &ConversationPane::openHistory);
     showHistoryBand();
     auto *const history = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_H), this);
-    connect(history, &QShortcut::activated, this, &ConversationPane::openHistory);
+    connect(history, &QShortcut::activated, this, [this] { openHistory({}); });
     connect(m_cleared, &ClearedBand::broughtBack, this, &ConversationPane::focusInput);
     if (EmojiTable::isThere()) {
         auto *const find = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Period), this);
@@ -204,6 +203,11 @@ void ConversationPane::connectControls()
     connect(ListViewEmot, &EmoticonPicker::picked, this, &ConversationPane::ListViewEmot_ItemClick);
     connect(m_outtext, &QTextEdit::textChanged, this, &ConversationPane::outtext_Change);
     connect(m_outtext, &RichTextLogEdit::endReached, this, &ConversationPane::noteWhatIsSeen);
+    connect(m_outtext, &RichTextLogEdit::keptNewShown, this, &ConversationPane::comeIntoSight);
+    connect(m_outtext->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+        if (m_conversation && m_conversation->hasUnread() && !m_outtext->isAtItsEnd())
+            noteWhatIsSeen();
+    });
 }
 
 /// Where nothing can be sent, nothing is offered to.
@@ -321,7 +325,7 @@ void ConversationPane::Form_QueryUnload(QCloseEvent &event)
     if (decision != CloseDecision::unload)
         return event.ignore();
     event.accept();
-    m_conversation->closed();
+    m_conversation->closed(mode);
 }
 
 void ConversationPane::letGo()
@@ -382,12 +386,12 @@ void ConversationPane::showHistoryBand()
 }
 
 /// A conference has no address of its own to be found by.
-void ConversationPane::openHistory() const
+void ConversationPane::openHistory(const QString &words) const
 {
     if (!m_conversation)
         return;
     const KeptConversation kept = m_conversation->keptAs();
-    m_openHistory(kept.kind == KeptConversation::Kind::contact ? kept.address : QString());
+    m_openHistory(kept.kind == KeptConversation::Kind::contact ? kept.address : QString(), words);
 }
 
 void ConversationPane::setNeedsRoom(bool needsRoom)
@@ -575,6 +579,8 @@ bool ConversationPane::event(QEvent *event)
     const bool taken = QWidget::event(event);
     if (event->type() == QEvent::WindowActivate)
         comeIntoSight();
+    if (event->type() == QEvent::WindowDeactivate && m_conversation)
+        m_conversation->turnedAway();
     return taken;
 }
 
@@ -597,8 +603,14 @@ void ConversationPane::comeIntoSight()
 
 void ConversationPane::noteWhatIsSeen()
 {
-    if (m_conversation && isEndSeen())
-        m_conversation->endSeen();
+    if (!m_conversation || isMinimisedOrInactive())
+        return;
+    const bool isAtEnd = m_outtext->isAtItsEnd();
+    if (!isAtEnd && !m_conversation->hasUnread())
+        return;
+    m_conversation->seen(isAtEnd ? 0 : m_outtext->messagesBelow());
+    if (!m_conversation->hasUnread())
+        m_outtext->newWasSeen();
 }
 
 void ConversationPane::flash()

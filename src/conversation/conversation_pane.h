@@ -42,8 +42,8 @@ struct ConversationTools {
     EmojiStock &emoji;  ///< those to choose from
     Spelling &spelling; ///< checks what is typed
     LogRoom &logRoom;   ///< what the logs may hold
-    /// Opens what was kept of the conversation with a contact; of none: of all.
-    std::function<void(const QString &address)> openHistory;
+    /// Opens what was kept of the conversation with a contact; of none: of all. With words they are looked for.
+    std::function<void(const QString &address, const QString &words)> openHistory;
     LinkOpener &folders;    ///< opens a folder of this machine
     ScratchFolder &scratch; ///< for pictures that are shown or sent and not kept
 };
@@ -78,7 +78,10 @@ public:
     RichTextLog &outtext() override;
     void setCaption(const QString &caption) override;
     void setLogFont(const LogFont &font) override;
-    void addEarlier(const std::vector<StoredMessage> &messages) override { m_outtext->addEarlier(messages); }
+    void addEarlier(const std::vector<StoredMessage> &messages, std::optional<std::int64_t> readTo) override
+    {
+        m_outtext->addEarlier(messages, readTo);
+    }
     void addReceivedFile(int number) override;
     void showFileTrouble(const QString &sentence) override;
     void setLastMessage(const QString &text) override { Q_EMIT lastMessageChanged(text); }
@@ -126,7 +129,7 @@ private:
     void noteWhatIsSeen();
     void showRoomLeft();
     void showHistoryBand();
-    void openHistory() const;
+    void openHistory(const QString &words) const;
     void historyBand_Click(const QString &answer);
     void offerRest(const QString &rest);
     void sendFiles(const QStringList &paths);
@@ -140,7 +143,7 @@ private:
     QString m_lastSent;
     QString m_rest; ///< of what was pasted
     RTFSubClass &m_links;
-    std::function<void(const QString &address)> m_openHistory;
+    std::function<void(const QString &address, const QString &words)> m_openHistory;
     EmojiStock &m_emoji;
     LinkOpener &m_folders;
     ScratchFolder &m_scratch;

@@ -19,8 +19,8 @@ public:
     /// Font of the input box and of the log.
     virtual void setLogFont(const LogFont &font) = 0;
     /// What was said before the window was opened, or before what is shown of that already: above the log, and no part
-    /// of its text.
-    virtual void addEarlier(const std::vector<StoredMessage> &messages) = 0;
+    /// of its text. readTo: those with a higher number are new to the reader.
+    virtual void addEarlier(const std::vector<StoredMessage> &messages, std::optional<std::int64_t> readTo) = 0;
     /// A file that the writer of the last message offers; see ReceivedFiles.
     virtual void addReceivedFile(int number) = 0;
     /// Why a file was not sent.

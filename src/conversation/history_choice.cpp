@@ -21,6 +21,24 @@ void HistoryChoice::said(const KeptConversation &conversation, const KeptMessage
         m_undecided.pop_front();
 }
 
+void HistoryChoice::leftUnread(const KeptConversation &conversation)
+{
+    if (conversation.kind == KeptConversation::Kind::contact && isKept(conversation.address))
+        m_history.leaveUnread(conversation);
+}
+
+void HistoryChoice::wasRead(const KeptConversation &conversation, int unread)
+{
+    if (conversation.kind == KeptConversation::Kind::contact && isKept(conversation.address))
+        m_history.setRead(conversation, unread);
+}
+
+void HistoryChoice::listUnread(History::Unread listed)
+{
+    if (m_common.history.keep == KeepHistory::year || m_common.history.keep == KeepHistory::ever)
+        m_history.listUnread(std::move(listed));
+}
+
 void HistoryChoice::cleared(const KeptConversation &conversation)
 {
     std::erase_if(m_undecided, [&](const auto &said) { return said.first == conversation; });

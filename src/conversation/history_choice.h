@@ -29,6 +29,12 @@ public:
 
     /// A message was shown in a conversation.
     void said(const KeptConversation &conversation, const KeptMessage &message);
+    /// What is said from now on is unread. Only a conversation with a contact outlives the program.
+    void leftUnread(const KeptConversation &conversation);
+    /// All was read but for this many messages.
+    void wasRead(const KeptConversation &conversation, int unread);
+    /// What an earlier run has left unread, as far as the user wants conversations kept.
+    void listUnread(History::Unread listed);
     /// The user has cleared a conversation: nothing of it waits for his answer any more.
     void cleared(const KeptConversation &conversation);
     /// The user's answer, now or later: what was kept before stays but for what is older than he wants.

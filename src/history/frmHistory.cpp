@@ -189,9 +189,13 @@ void frmHistory::list()
     });
 }
 
-void frmHistory::choose(const QString &address)
+void frmHistory::choose(const QString &address, const QString &words)
 {
     m_wantedAddress = address;
+    if (!words.isEmpty()) {
+        const QSignalBlocker quiet(searchText); // it is looked for when the list has come
+        searchText->setText(words);
+    }
     list();
 }
 

@@ -38,8 +38,8 @@ public:
     frmHistory(History &history, WaitingMessages &waiting, Prompts &prompts, QWidget *parent);
     ~frmHistory() override;
 
-    /// Chooses the conversation with this contact, if anything of it is kept.
-    void choose(const QString &address);
+    /// Chooses the conversation with this contact, if anything of it is kept, and looks for these words.
+    void choose(const QString &address, const QString &words);
 
 private:
     struct Export;

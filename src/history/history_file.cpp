@@ -25,7 +25,7 @@ using sqlite::Statement;
 
 constexpr int waitForOthersMs = 2000;
 /// What `PRAGMA user_version` says. Whoever changes a table adds a step to it, and a test with a file of before.
-constexpr int formatNumber = 1;
+constexpr int formatNumber = 2;
 
 /// Two indices, for no one finds all: the first by words from their beginnings, without regard to accents, the second
 /// by any three characters that follow each other, as it takes to find a part of a word or something in a script
@@ -47,6 +47,11 @@ constexpr std::array tables = {
     "INSERT INTO words(words, rowid, text) VALUES('delete', OLD.id, OLD.text); "
     "INSERT INTO parts(parts, rowid, text) VALUES('delete', OLD.id, OLD.text); END",
 };
+
+/// The steps from each form to the next, from the first one on. read_to: the last message that was read, where others
+/// behind it were not.
+constexpr std::array steps = {"ALTER TABLE conversations ADD COLUMN read_to INTEGER"};
+static_assert(steps.size() == formatNumber - 1);
 
 constexpr auto putMessage = "INSERT INTO messages(conversation, time, own, address, writer, workstation, text) "
                             "VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7)";
@@ -354,9 +359,13 @@ void HistoryFile::makeTables()
                        (QByteArray(columns) + "FROM messages m").constData()); // fails where it is not ours
         return;
     }
-    inTransaction([this] {
-        for (const char *const table : tables)
-            execute(m_database.get(), table);
+    inTransaction([this, format] {
+        if (format == 0) {
+            for (const char *const table : tables)
+                execute(m_database.get(), table);
+        }
+        for (std::size_t step = static_cast<std::size_t>(qMax(format, 1)) - 1; step < steps.size(); ++step)
+            execute(m_database.get(), steps[step]);
         execute(m_database.get(), QByteArray("PRAGMA user_version = " + QByteArray::number(formatNumber)).constData());
     });
 }
@@ -540,6 +549,53 @@ std::vector<StoredConversation> HistoryFile::list()
                           .begun = isConference ? timeOf(get.number(3)) : QDateTime(),
                           .name = get.text(4)},
                        .last = timeOf(get.number(6)),
+                       .messages = static_cast<int>(get.number(5))});
+    }
+    return all;
+}
+
+void HistoryFile::leaveUnread(const KeptConversation &conversation)
+{
+    inTransaction([&] {
+        Statement put(m_database.get(),
+                      "UPDATE conversations SET read_to = (SELECT coalesce(max(id), 0) FROM messages "
+                      "WHERE conversation = ?1) WHERE id = ?1 AND read_to IS NULL");
+        put.bind(1, conversationFor(conversation));
+        put.next();
+    });
+}
+
+void HistoryFile::setRead(const KeptConversation &conversation, int unread)
+{
+    const std::optional<std::int64_t> number = numberOf(conversation);
+    if (!number)
+        return;
+    Statement put(
+        m_database.get(),
+        "UPDATE conversations SET read_to = CASE ?2 WHEN 0 THEN NULL ELSE max(read_to, coalesce("
+        "(SELECT id FROM messages WHERE conversation = ?1 AND own = 0 ORDER BY id DESC LIMIT 1 OFFSET ?2), 0)) "
+        "END WHERE id = ?1 AND read_to IS NOT NULL");
+    put.bind(1, *number);
+    put.bind(2, std::int64_t{unread});
+    put.next();
+}
+
+std::vector<UnreadConversation> HistoryFile::listUnread()
+{
+    Statement get(
+        m_database.get(),
+        "SELECT c.kind, c.address, c.begun, c.name, c.read_to, "
+        "(SELECT count(*) FROM messages m WHERE m.conversation = c.id AND m.id > c.read_to AND m.own = 0) AS n "
+        "FROM conversations c WHERE c.read_to IS NOT NULL AND n > 0 ORDER BY c.id");
+    std::vector<UnreadConversation> all;
+    while (get.next()) {
+        const bool isConference = get.number(0) != 0;
+        all.push_back({.conversation
+                       = {.kind = isConference ? KeptConversation::Kind::conference : KeptConversation::Kind::contact,
+                          .address = get.text(1),
+                          .begun = isConference ? timeOf(get.number(2)) : QDateTime(),
+                          .name = get.text(3)},
+                       .readTo = get.number(4),
                        .messages = static_cast<int>(get.number(5))});
     }
     return all;

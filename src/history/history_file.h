@@ -42,6 +42,10 @@ public:
     /// The number of a conversation of which something is kept.
     std::optional<std::int64_t> numberOf(const KeptConversation &conversation);
     std::vector<StoredConversation> list();
+    /// See History.
+    void leaveUnread(const KeptConversation &conversation);
+    void setRead(const KeptConversation &conversation, int unread);
+    std::vector<UnreadConversation> listUnread();
     void erase(const HistorySelection &selection);
     /// What was set aside goes when it is as old.
     void eraseBefore(const QDateTime &time);

@@ -270,6 +270,33 @@ void HistoryKeeper::list(Listed listed)
     put([](HistoryFile &file) { return file.list(); }, std::move(listed));
 }
 
+void HistoryKeeper::leaveUnread(const KeptConversation &conversation)
+{
+    put(
+        [conversation](HistoryFile &file) {
+            file.leaveUnread(conversation);
+            return true;
+        },
+        [](bool) {});
+}
+
+void HistoryKeeper::setRead(const KeptConversation &conversation, int unread)
+{
+    put(
+        [conversation, unread](HistoryFile &file) {
+            file.setRead(conversation, unread);
+            return true;
+        },
+        [](bool) {});
+}
+
+/// Where nothing was ever kept no file is made for it.
+void HistoryKeeper::listUnread(Unread listed)
+{
+    if (QFile::exists(HistoryFile::pathIn(m_folder)))
+        put([](HistoryFile &file) { return file.listUnread(); }, std::move(listed));
+}
+
 void HistoryKeeper::erase(const HistorySelection &selection, Done done)
 {
     put(

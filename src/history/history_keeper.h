@@ -25,6 +25,9 @@ public:
     void find(const HistoryQuestion &question, Found found) override;
     void findIn(const KeptConversation &conversation, const HistoryQuestion &question, Found found) override;
     void list(Listed listed) override;
+    void leaveUnread(const KeptConversation &conversation) override;
+    void setRead(const KeptConversation &conversation, int unread) override;
+    void listUnread(Unread listed) override;
     void erase(const HistorySelection &selection, Done done) override;
     void eraseBefore(const QDateTime &time) override;
     std::optional<QString> troubleNow() const override;

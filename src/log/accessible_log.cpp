@@ -16,7 +16,13 @@ QAccessibleInterface *AccessibleLog::make(const QString &, QObject *object)
 
 QString AccessibleLog::text(QAccessible::Text which) const
 {
-    return which == QAccessible::Value ? text(0, characterCount()) : QAccessibleWidget::text(which);
+    if (which == QAccessible::Value)
+        return text(0, characterCount());
+    if (which == QAccessible::Description) {
+        if (const QString meaning = LogMarks::meaningOf(m_log.textCursor().blockFormat()); !meaning.isEmpty())
+            return meaning;
+    }
+    return QAccessibleWidget::text(which);
 }
 
 QAccessible::State AccessibleLog::state() const

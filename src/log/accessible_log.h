@@ -8,8 +8,9 @@ namespace nimb
 
 class RichTextLogEdit;
 
-/// Reads the texts of the pictures in their places, where Qt would say that some object is there. Positions are those
-/// of the document, in which a picture is one character.
+/// Reads the texts of the pictures in their places, where Qt would say that some object is there, and describes itself
+/// by what the mark beside the line of the caret means. Positions are those of the document, in which a picture is one
+/// character.
 class AccessibleLog : public QAccessibleWidget, public QAccessibleTextInterface
 {
 public:

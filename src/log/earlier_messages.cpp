@@ -67,7 +67,7 @@ EarlierMessages::EarlierMessages(LogPictures &pictures) : m_pictures(pictures)
     m_text.documentLayout()->registerHandler(QTextFormat::ImageObject, &pictures);
 }
 
-void EarlierMessages::add(const std::vector<StoredMessage> &messages)
+void EarlierMessages::add(const std::vector<StoredMessage> &messages, std::optional<std::int64_t> readTo)
 {
     if (messages.empty())
         return;
@@ -81,14 +81,51 @@ void EarlierMessages::add(const std::vector<StoredMessage> &messages)
     for (const StoredMessage &stored : messages) {
         if (&stored != &messages.front())
             cursor.insertBlock();
-        write(cursor, stored.message, firstLineOf(asMarked(stored.message), marks));
+        QTextBlockFormat first = firstLineOf(asMarked(stored.message), marks);
+        const bool isFirstNew = readTo && stored.number > *readTo && !hasNew();
+        LogMarks::setNew(first, isFirstNew);
+        const int position = cursor.position();
+        write(cursor, stored.message, first);
+        if (isFirstNew) {
+            m_new = QTextCursor(&m_text);
+            m_new.setPosition(position);
+        }
     }
     if (!isEmpty()) { // what stands above it has changed
         cursor.movePosition(QTextCursor::NextBlock);
-        cursor.setBlockFormat(LogMarks::withRoom(firstLineOf(*m_first, marks), m_text.defaultFont()));
+        QTextBlockFormat first = firstLineOf(*m_first, marks);
+        LogMarks::setNew(first, LogMarks::isNew(cursor.blockFormat()));
+        cursor.setBlockFormat(LogMarks::withRoom(first, m_text.defaultFont()));
     }
     cursor.endEditBlock();
     m_first = asMarked(messages.front().message);
+}
+
+void EarlierMessages::unmarkNew()
+{
+    if (!hasNew())
+        return;
+    QTextBlockFormat line = m_new.blockFormat();
+    LogMarks::setNew(line, false);
+    m_new.setBlockFormat(LogMarks::withRoom(line, m_text.defaultFont()));
+    m_new = QTextCursor();
+}
+
+int EarlierMessages::topOfNew() const
+{
+    const QTextBlock first = m_new.block();
+    return qRound(m_text.documentLayout()->blockBoundingRect(first).top() - first.blockFormat().topMargin());
+}
+
+int EarlierMessages::countBelow(int place, bool (*counts)(const QTextBlock &line)) const
+{
+    int below = 0;
+    for (QTextBlock line = m_text.lastBlock(); line.isValid(); line = line.previous()) {
+        if (m_text.documentLayout()->blockBoundingRect(line).bottom() <= place)
+            break;
+        below += counts(line) ? 1 : 0;
+    }
+    return below;
 }
 
 /// At the beginning of an empty line.

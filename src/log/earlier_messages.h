@@ -7,6 +7,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QPalette>
+#include <QTextCursor>
 #include <QTextDocument>
 
 #include <optional>
@@ -14,7 +15,6 @@
 
 class QPainter;
 class QTextBlockFormat;
-class QTextCursor;
 
 namespace nimb
 {
@@ -30,8 +30,14 @@ public:
     explicit EarlierMessages(LogPictures &pictures);
 
     bool isEmpty() const { return !m_first; }
-    /// In front of those that are there.
-    void add(const std::vector<StoredMessage> &messages);
+    /// In front of those that are there. readTo: the first one with a higher number is marked as new.
+    void add(const std::vector<StoredMessage> &messages, std::optional<std::int64_t> readTo = {});
+    bool hasNew() const { return !m_new.isNull(); }
+    void unmarkNew();
+    /// In the layout as it is now, in pixels from above.
+    int topOfNew() const;
+    /// Of the lines that do not end above this place.
+    int countBelow(int place, bool (*counts)(const QTextBlock &line)) const;
     /// The height of all in pixels, in this width and font, with a gap below.
     int layOut(int width, const QFont &font);
     struct Look {
@@ -65,6 +71,7 @@ private:
     LogPictures &m_pictures;
     QTextDocument m_text;
     std::optional<LogMessage> m_first;
+    QTextCursor m_new; ///< in the first line of what is new; null where nothing is
     Found m_found;
 };
 

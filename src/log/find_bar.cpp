@@ -16,6 +16,11 @@ namespace nimb
 namespace
 {
 
+/// Of what was kept, for one search: some two thousand messages, which take as long as a blink.
+constexpr int pagesSought = 10;
+/// Nobody wants what begins with the first letters of a word.
+constexpr std::chrono::milliseconds pauseOfTyping{300};
+
 /// text: has a character for each place.
 std::vector<int> placesOf(const QString &word, const QString &text, Qt::CaseSensitivity sensitivity)
 {
@@ -56,6 +61,12 @@ FindBar::FindBar(RichTextLogEdit &log) : QWidget(&log), m_log(log)
     };
     connect(&log, &QTextEdit::textChanged, this, later);
     connect(&log, &RichTextLogEdit::earlierChanged, this, later);
+    m_seekOn.setSingleShot(true);
+    connect(&m_seekOn, &QTimer::timeout, this, &FindBar::seekOn);
+    connect(&log, &RichTextLogEdit::earlierChanged, this, [this] {
+        if (isSeeking())
+            m_seekOn.start(0);
+    });
 }
 
 void FindBar::buildControls()
@@ -64,7 +75,7 @@ void FindBar::buildControls()
     findText->setObjectName(QStringLiteral("findText"));
     findText->setPlaceholderText(tr("Find"));
     findText->setAccessibleName(findText->placeholderText());
-    findText->setToolTip(tr("Searches what is shown here; Ctrl+H searches everything that was kept"));
+    findText->setToolTip(tr("Searches this conversation; Ctrl+H searches everything that was kept"));
     findText->setClearButtonEnabled(true);
     findText->addAction(namedPicture(QStringLiteral("search")), QLineEdit::LeadingPosition);
     findCount = new QLabel(this);
@@ -77,9 +88,17 @@ void FindBar::buildControls()
     findPrevious = pictureButton(this, "findPrevious", tr("Previous (Enter)"), "up");
     findNext = pictureButton(this, "findNext", tr("Next (Shift+Enter)"), "down");
     findClose = pictureButton(this, "findClose", tr("Close (Esc)"), "close");
-    auto *const row = new QHBoxLayout(this);
-    row->setContentsMargins(6, 4, 6, 4);
+    findKept = toolButton(this, "findKept", tr("Search all that was kept"), "search");
+    findKept->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    findKept->setToolTip(tr("Opens the history's window"));
+    findKept->hide();
+    auto *const rows = new QVBoxLayout(this);
+    rows->setContentsMargins(6, 4, 6, 4);
+    rows->setSpacing(4);
+    auto *const row = new QHBoxLayout;
     row->setSpacing(4);
+    rows->addLayout(row);
+    rows->addWidget(findKept, 0, Qt::AlignRight); // beside the others it would leave no room for words
     row->addWidget(findText, 1);
     row->addWidget(findCount);
     for (QToolButton *const button : {findCase, findPrevious, findNext, findClose})
@@ -88,6 +107,7 @@ void FindBar::buildControls()
     connect(findCase, &QToolButton::toggled, this, &FindBar::search);
     connect(findPrevious, &QToolButton::clicked, this, [this] { step(-1); });
     connect(findNext, &QToolButton::clicked, this, [this] { step(1); });
+    connect(findKept, &QToolButton::clicked, this, [this] { Q_EMIT m_log.keptWanted(findText->text()); });
     connect(findClose, &QToolButton::clicked, this, &FindBar::shut);
 }
 
@@ -111,6 +131,7 @@ void FindBar::open()
 
 void FindBar::shut()
 {
+    endSeeking();
     hide();
     m_log.setRoomAbove(0);
     m_log.setFound({}, 0);
@@ -123,8 +144,11 @@ void FindBar::search()
 {
     if (isHidden())
         return;
+    endSeeking();
     findPlaces();
     m_current = allPlaces() - 1;
+    if (m_current < 0 && !findText->text().isEmpty())
+        beginSeeking(pauseOfTyping);
     showCount();
     selectPlace();
 }
@@ -159,13 +183,50 @@ void FindBar::lookAgain()
     showCount();
 }
 
+void FindBar::beginSeeking(std::chrono::milliseconds pause)
+{
+    if (!m_log.hasEarlier())
+        return;
+    m_pagesLeft = pagesSought + 1; // the last one is looked through as well
+    m_knownBefore = m_earlier.size();
+    m_seekOn.start(pause);
+}
+
+/// The newest of those that have come up now is the next one.
+void FindBar::seekOn()
+{
+    if (isHidden() || !isSeeking())
+        return;
+    lookAgain();
+    if (const std::size_t more = m_earlier.size() - m_knownBefore; more > 0) {
+        endSeeking();
+        m_current = static_cast<qsizetype>(more) - 1;
+    } else if (--m_pagesLeft > 0 && m_log.fetchEarlier()) {
+        return;
+    } else {
+        endSeeking();
+        m_current = allPlaces() - 1;
+    }
+    showCount();
+    selectPlace();
+}
+
+void FindBar::endSeeking()
+{
+    m_pagesLeft = 0;
+    m_seekOn.stop();
+}
+
 void FindBar::step(int by)
 {
+    endSeeking();
     if (m_later.isActive())
         lookAgain();
     const qsizetype count = allPlaces();
     if (count == 0)
         return search();
+    if (by < 0 && m_current == 0 && m_log.hasEarlier())
+        return beginSeeking(std::chrono::milliseconds(0));
     m_current = (m_current + by + count) % count;
     showCount();
     selectPlace();
@@ -176,18 +237,30 @@ void FindBar::showCount()
     const bool isFound = m_current >= 0;
     findPrevious->setEnabled(isFound);
     findNext->setEnabled(isFound);
+    const bool isMissed = !isFound && !isSeeking() && !findText->text().isEmpty();
+    offerKept(isMissed && m_log.hasEarlier());
     if (findText->text().isEmpty())
         findCount->clear();
     else if (isFound)
         findCount->setText(tr("%1 of %2").arg(m_current + 1).arg(allPlaces()));
     else
-        findCount->setText(tr("Not found"));
+        findCount->setText(isSeeking() ? tr("Searching...") : tr("Not found"));
+}
+
+void FindBar::offerKept(bool isOffered)
+{
+    if (findKept->isVisibleTo(this) == isOffered)
+        return;
+    findKept->setVisible(isOffered);
+    layout()->activate();
+    m_log.setRoomAbove(sizeHint().height());
+    place();
 }
 
 void FindBar::selectPlace()
 {
     if (m_current < 0)
-        return;
+        return unselect();
     const int length = static_cast<int>(findText->text().size());
     m_log.setFoundEarlier(m_earlier, length, isInEarlier() ? m_current : -1);
     if (isInEarlier())
@@ -196,7 +269,21 @@ void FindBar::selectPlace()
     found.setPosition(m_places[static_cast<std::size_t>(m_current) - m_earlier.size()]);
     found.setPosition(found.position() + length, QTextCursor::KeepAnchor);
     m_log.setTextCursor(found);
+    m_selected = found;
     m_log.ensureCursorVisible();
+}
+
+/// What the reader has selected himself stays so.
+void FindBar::unselect()
+{
+    QTextCursor shown = m_log.textCursor();
+    const bool isOurs = !m_selected.isNull() && shown.selectionStart() == m_selected.selectionStart()
+        && shown.selectionEnd() == m_selected.selectionEnd();
+    m_selected = QTextCursor();
+    if (!isOurs)
+        return;
+    shown.clearSelection();
+    m_log.setTextCursor(shown);
 }
 
 void FindBar::place()

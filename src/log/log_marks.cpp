@@ -1,6 +1,7 @@
 #include "log/log_marks.h"
 
 #include "base/clock_text.h"
+#include "base/remote_text.h"
 #include "widgets/muted_colour.h"
 
 #include <QCoreApplication>
@@ -23,6 +24,7 @@ enum Property {
     dayShown,      ///< Julian day
     beginsNew,
     yearShown,
+    receiverName, ///< of a message that bears a number
 };
 
 constexpr double lineHeight = 135;             // percent
@@ -98,6 +100,11 @@ void paintWaiting(QPainter &painter, const QRectF &place, const QColor &colour)
     painter.restore();
 }
 
+QRect placeOfTime(const LogMarks::Seen &line, int width, const QFont &font)
+{
+    return {0, qRound(line.place.top()), width - markEdge, QFontMetrics(font).height()};
+}
+
 } // namespace
 
 QTextBlockFormat LogMarks::ownLine()
@@ -124,8 +131,10 @@ QTextBlockFormat LogMarks::firstLine(const LogMessage &message)
     if (message.isOwn)
         format.setProperty(ownMessage, true);
     setFate(format, message.fate);
-    if (message.number != 0)
+    if (message.number != 0) {
         format.setProperty(messageNumber, message.number);
+        format.setProperty(receiverName, message.receiver);
+    }
     const QDateTime minute(message.time.date(), QTime(message.time.time().hour(), message.time.time().minute()));
     if (minute != m_minute)
         format.setProperty(timeShown, shortTime(minute));
@@ -152,6 +161,11 @@ bool LogMarks::isNew(const QTextBlockFormat &line)
 bool LogMarks::isOwnMessage(const QTextBlockFormat &line)
 {
     return line.hasProperty(ownMessage);
+}
+
+bool LogMarks::isReceived(const QTextBlockFormat &line)
+{
+    return line.hasProperty(gapAbove) && !line.hasProperty(ownMessage);
 }
 
 QString LogMarks::timeOf(const QTextBlockFormat &line)
@@ -190,6 +204,28 @@ void LogMarks::setFate(QTextBlockFormat &line, MessageFate fate)
         line.clearProperty(fateShown);
     else
         line.setProperty(fateShown, static_cast<int>(fate));
+}
+
+QString LogMarks::meaningOf(const QTextBlockFormat &line)
+{
+    const QString receiver = paintedName(line.stringProperty(receiverName));
+    switch (fateOf(line)) {
+    case MessageFate::sent:
+        break;
+    case MessageFate::lost:
+        return QCoreApplication::translate("LogMarks", "%1 was not online: this has probably not arrived")
+            .arg(receiver);
+    case MessageFate::waits:
+        return QCoreApplication::translate("LogMarks", "Waits until %1 is back").arg(receiver);
+    }
+    return {};
+}
+
+QRectF LogMarks::placeOfFate(const Seen &line, int width, const QFont &font)
+{
+    const double side = QFontMetrics(smaller(font)).height() * 0.8;
+    const QRect time = placeOfTime(line, width, font);
+    return {time.right() - side, time.center().y() - side / 2, side, side};
 }
 
 int LogMarks::numberOf(const QTextBlockFormat &line)
@@ -250,16 +286,14 @@ void LogMarks::paintMarks(QPainter &painter, const Seen &line, const QPalette &p
     }
     if (format.hasProperty(dayShown))
         paintDivider(painter, above, dayOf(format), muted);
-    const int ascent = painter.fontMetrics().height();
-    QRect time(0, qRound(line.place.top()), width - markEdge, QFontMetrics(font).height());
+    QRect time = placeOfTime(line, width, font);
     if (const MessageFate fate = fateOf(format); fate != MessageFate::sent) {
-        const double side = ascent * 0.8;
-        const QRectF place(time.right() - side, time.center().y() - side / 2, side, side);
+        const QRectF place = placeOfFate(line, width, font);
         if (fate == MessageFate::lost)
             paintUndelivered(painter, place, contrastingOn(QColor(0x7A, 0x41, 0x00), palette));
         else
             paintWaiting(painter, place, muted);
-        time.setRight(time.right() - qRound(side) - besideMark / 2);
+        time.setRight(time.right() - qRound(place.width()) - besideMark / 2);
     }
     if (format.hasProperty(timeShown)) {
         painter.setPen(muted);

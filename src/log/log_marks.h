@@ -46,6 +46,8 @@ public:
     static int heightOfLine(const QFont &font);
     static bool hasRoomAbove(const QTextBlockFormat &line);
     static bool isOwnMessage(const QTextBlockFormat &line);
+    /// A message of somebody else begins with it.
+    static bool isReceived(const QTextBlockFormat &line);
     /// What is painted beside the line; empty where nothing is.
     static QString timeOf(const QTextBlockFormat &line);
     /// What is painted above it; empty unless a day begins with it.
@@ -53,6 +55,8 @@ public:
     /// Of a message of one's own; `sent` for any other line.
     static MessageFate fateOf(const QTextBlockFormat &line);
     static void setFate(QTextBlockFormat &line, MessageFate fate);
+    /// What the mark of its fate means, as a sentence; empty where it has none.
+    static QString meaningOf(const QTextBlockFormat &line);
     /// See LogMessage; 0 where it has none.
     static int numberOf(const QTextBlockFormat &line);
     /// The day that is painted above it is of another year than this, which it says.
@@ -68,6 +72,8 @@ public:
     };
     /// Under the text; above: the line before, if there is one.
     static void paintGround(QPainter &painter, const Seen &line, const QPalette &palette);
+    /// Where the mark of its fate is painted, in a log of this width.
+    static QRectF placeOfFate(const Seen &line, int width, const QFont &font);
     /// Beside the text and above it.
     static void paintMarks(QPainter &painter, const Seen &line, const QPalette &palette, const QFont &font);
 

@@ -40,6 +40,7 @@ constexpr std::chrono::milliseconds frame{14};
 constexpr std::size_t piecesAtOnce = 1000;
 constexpr qreal smallestLetters = 5, largestLetters = 48; ///< points
 constexpr int wheelNotch = 120;
+constexpr int besidePointer = 4; // pixels by which one may miss a mark
 /// In front of the name of a command where links have an address. No address that is found in a text begins so.
 constexpr QLatin1Char commandMark('#');
 qsizetype picturesIn(const QString &text)
@@ -87,8 +88,11 @@ RichTextLogEdit::RichTextLogEdit(QWidget *parent)
     connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &RichTextLogEdit::followEnd);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
         const bool followed = std::exchange(m_follows, isAtEnd());
-        if (!m_follows)
+        if (!m_follows) {
+            if (m_linesBelow > 0)
+                noteLinesBelow(qMin(m_linesBelow, linesOutOfSight()));
             return askForEarlier();
+        }
         if (followed)
             return;
         noteLinesBelow(0);
@@ -154,15 +158,21 @@ void RichTextLogEdit::setRoomBelow(int room)
     setInsets(m_insetAbove, m_insetBelow);
 }
 
-void RichTextLogEdit::addEarlier(const std::vector<StoredMessage> &messages)
+void RichTextLogEdit::addEarlier(const std::vector<StoredMessage> &messages, std::optional<std::int64_t> readTo)
 {
-    writeGathered();
-    if (!m_earlier)
-        m_earlier = std::make_shared<EarlierMessages>(*m_pictures);
-    m_earlier->setFound({}); // the places have moved
-    m_earlier->add(messages);
-    placeEarlier();
+    if (!messages.empty()) {
+        writeGathered();
+        if (!m_earlier)
+            m_earlier = std::make_shared<EarlierMessages>(*m_pictures);
+        m_earlier->setFound({}); // the places have moved
+        m_earlier->add(messages, readTo);
+        if (readTo && m_earlier->hasNew())
+            m_newIsUnread = m_newIsUnseen = true;
+        placeEarlier();
+    }
     Q_EMIT earlierChanged();
+    if (readTo)
+        Q_EMIT keptNewShown();
 }
 
 void RichTextLogEdit::placeEarlier()
@@ -191,8 +201,8 @@ void RichTextLogEdit::placeEarlier()
 
 void RichTextLogEdit::askForEarlier()
 {
-    if (m_earlier && isVisible() && verticalScrollBar()->value() < viewport()->height() / 2)
-        Q_EMIT earlierWanted();
+    if (isVisible() && verticalScrollBar()->value() < viewport()->height() / 2)
+        fetchEarlier();
 }
 
 // --- writing
@@ -292,6 +302,9 @@ void RichTextLogEdit::writeGathered()
         return;
     const int firstLine = m_caret.block().position(), lines = document()->blockCount();
     const int begin = m_caret.position();
+    const bool followed = m_follows;
+    if (m_newIsUnread && isOutOfSight())
+        m_newIsUnseen = true;
     m_caret.beginEditBlock();
     insertGathered();
     tellReaders(begin);
@@ -301,7 +314,7 @@ void RichTextLogEdit::writeGathered()
     const int more = document()->blockCount() - lines;
     dropOldLines();
     followEnd();
-    if (!m_follows)
+    if (!followed)
         noteLinesBelow(m_linesBelow + more);
     m_sinceWritten.start();
     Q_EMIT written();
@@ -452,7 +465,13 @@ void RichTextLogEdit::markNew()
     m_new.setKeepPositionOnInsert(true);
     setNewLine(true);
     // Where it can be seen it is not moved: its reader may be about to click on something.
-    m_newIsUnseen = !isVisible() || window()->isMinimized();
+    m_newIsUnseen = isOutOfSight();
+    m_newIsUnread = true;
+}
+
+bool RichTextLogEdit::isOutOfSight() const
+{
+    return !isVisible() || window()->isMinimized();
 }
 
 int RichTextLogEdit::heightOfLine() const
@@ -462,33 +481,69 @@ int RichTextLogEdit::heightOfLine() const
 
 void RichTextLogEdit::showNew()
 {
-    if (!std::exchange(m_newIsUnseen, false) || m_new.isNull())
+    if (!std::exchange(m_newIsUnseen, false))
         return;
     writeGathered();
-    QAbstractTextDocumentLayout &layout = *document()->documentLayout();
-    const int height = qRound(layout.documentSize().height()); // lays out all of it
-    const QTextBlock first = m_new.block();
-    const int top = qRound(layout.blockBoundingRect(first).top() - first.blockFormat().topMargin());
-    const int bottom = top + viewport()->height();
-    if (height <= bottom)
+    const int height = qRound(document()->documentLayout()->documentSize().height()); // lays out all of it
+    const std::optional<int> top = topOfNew();
+    if (!top)
+        return;
+    if (height <= *top + viewport()->height())
         return showEnd();
-    verticalScrollBar()->setValue(top);
-    int below = 0;
-    for (QTextBlock line = document()->lastBlock(); line.isValid(); line = line.previous()) {
-        if (layout.blockBoundingRect(line).bottom() <= bottom)
-            break;
-        below += line.length() > 1 ? 1 : 0;
-    }
-    noteLinesBelow(below);
+    verticalScrollBar()->setValue(*top);
+    noteLinesBelow(linesOutOfSight());
+}
+
+std::optional<int> RichTextLogEdit::topOfNew() const
+{
+    if (m_earlier && m_earlier->hasNew())
+        return m_earlier->topOfNew();
+    if (m_new.isNull())
+        return std::nullopt;
+    const QTextBlock first = m_new.block();
+    const QRectF place = document()->documentLayout()->blockBoundingRect(first);
+    if (place.isNull())
+        return std::nullopt; // not laid out yet
+    return qRound(place.top() - first.blockFormat().topMargin());
+}
+
+int RichTextLogEdit::countBelow(bool (*counts)(const QTextBlock &line)) const
+{
+    QAbstractTextDocumentLayout &layout = *document()->documentLayout();
+    const int bottom = verticalScrollBar()->value() + viewport()->height();
+    QTextBlock line = document()->findBlock(qMax(0, layout.hitTest(QPointF(0, bottom), Qt::FuzzyHit)));
+    if (line.previous().isValid())
+        line = line.previous();
+    while (line.isValid() && layout.blockBoundingRect(line).bottom() <= bottom)
+        line = line.next();
+    int below = m_earlier ? m_earlier->countBelow(bottom, counts) : 0;
+    for (; line.isValid(); line = line.next())
+        below += counts(line) ? 1 : 0;
+    return below;
+}
+
+int RichTextLogEdit::linesOutOfSight() const
+{
+    return countBelow([](const QTextBlock &line) { return line.length() > 1; });
+}
+
+int RichTextLogEdit::messagesBelow() const
+{
+    return countBelow([](const QTextBlock &line) { return LogMarks::isReceived(line.blockFormat()); });
 }
 
 void RichTextLogEdit::unmarkNew()
 {
+    m_newIsUnseen = false;
+    m_newIsUnread = false;
+    if (m_earlier && m_earlier->hasNew()) {
+        m_earlier->unmarkNew();
+        placeEarlier();
+    }
     if (m_new.isNull())
         return;
     setNewLine(false);
     m_new = QTextCursor();
-    m_newIsUnseen = false;
 }
 
 void RichTextLogEdit::setNewLine(bool isNew)
@@ -590,10 +645,11 @@ bool RichTextLogEdit::isAtEnd() const
 
 void RichTextLogEdit::showEnd()
 {
-    const bool followed = std::exchange(m_follows, true);
+    bool wasThere = m_follows;
     writeGathered();
-    followEnd();
-    if (followed)
+    wasThere = std::exchange(m_follows, true) && wasThere;
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+    if (wasThere)
         return;
     noteLinesBelow(0);
     Q_EMIT endReached();
@@ -601,8 +657,21 @@ void RichTextLogEdit::showEnd()
 
 void RichTextLogEdit::followEnd()
 {
-    if (m_follows)
-        verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+    if (!m_follows)
+        return;
+    QScrollBar &bar = *verticalScrollBar();
+    // Whoever has scrolled further himself is not brought back.
+    const int farthest = qMax(farthestUnread().value_or(bar.maximum()), bar.value());
+    if (farthest >= bar.maximum())
+        return bar.setValue(bar.maximum());
+    m_follows = false;
+    bar.setValue(farthest);
+    noteLinesBelow(linesOutOfSight());
+}
+
+std::optional<int> RichTextLogEdit::farthestUnread() const
+{
+    return m_newIsUnread && !isActiveWindow() && !isOutOfSight() ? topOfNew() : std::nullopt;
 }
 
 // --- how it looks
@@ -874,6 +943,16 @@ QString RichTextLogEdit::commandAt(const QPoint &place) const
     return target.startsWith(commandMark) ? target.mid(1) : QString();
 }
 
+QString RichTextLogEdit::meaningAt(const QPoint &place) const
+{
+    for (const LogMarks::Seen &line : linesIn({place, QSize(1, 1)})) {
+        const QRectF mark = LogMarks::placeOfFate(line, viewport()->width(), font());
+        if (mark.adjusted(-besidePointer, -besidePointer, besidePointer, besidePointer).contains(place))
+            return LogMarks::meaningOf(line.block.blockFormat());
+    }
+    return {};
+}
+
 void RichTextLogEdit::mousePressEvent(QMouseEvent *event)
 {
     const bool isLeft = event->button() == Qt::LeftButton;
@@ -891,7 +970,7 @@ void RichTextLogEdit::mouseMoveEvent(QMouseEvent *event)
     const QUrl target = linkAt(event->position().toPoint());
     const bool leadsSomewhere = !targetAt(event->position().toPoint()).isEmpty();
     viewport()->setCursor(leadsSomewhere ? Qt::PointingHandCursor : Qt::IBeamCursor);
-    viewport()->setToolTip(target.isEmpty() ? QString() : readableAddress(target));
+    viewport()->setToolTip(target.isEmpty() ? meaningAt(event->position().toPoint()) : readableAddress(target));
     QTextEdit::mouseMoveEvent(event);
 }
 

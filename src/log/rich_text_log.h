@@ -15,6 +15,7 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -29,9 +30,10 @@ struct StoredMessage;
 /// Bounded: beyond limits::logLines, logCharacters and logPictures the oldest lines go. Lines that are broken because
 /// the window is narrow, and those that continue another, are indented. What is written is gathered and goes in at most
 /// once a frame, so that a burst costs one layout and one painting. Follows new text only while the reader is at the
-/// end. Colours are adapted to the ground, and again when it changes; on a light one the document keeps them as they
-/// were asked for, and they are adapted on the screen alone. Times, days and the like are painted beside the text and
-/// above it, see LogMarks, and stand in no text.
+/// end, and while nobody reads, in a window that is not the active one, no further than to where the new begins.
+/// Colours are adapted to the ground, and again when it changes; on a light one the document keeps them as they were
+/// asked for, and they are adapted on the screen alone. Times, days and the like are painted beside the text and above
+/// it, see LogMarks, and stand in no text.
 class RichTextLogEdit : public QTextEdit, public RichTextLog
 {
     Q_OBJECT
@@ -61,13 +63,23 @@ public:
     /// Where the log was out of sight when new text came, and has grown by more than can be seen at once: goes to where
     /// the new text begins.
     void showNew();
+    /// All that is marked as new has been read.
+    void newWasSeen() { m_newIsUnread = false; }
+    /// Messages of others that begin below what is in sight.
+    int messagesBelow() const;
     /// Pixels that a line takes, without what is painted above it.
     int heightOfLine() const;
     /// Room above and below the text, in pixels, for what would lie over it.
     void setRoomAbove(int room);
     void setRoomBelow(int room);
     /// Shows them above the log, in front of those that are there, until it is cleared. They are no part of its text.
-    void addEarlier(const std::vector<StoredMessage> &messages);
+    /// readTo: those with a higher number are marked as new.
+    void addEarlier(const std::vector<StoredMessage> &messages, std::optional<std::int64_t> readTo = {});
+    /// Asks for others in front of those that are there, which then come by addEarlier(); without any when none are
+    /// left. False when there is nobody to ask, or it is known already that none are.
+    void setEarlierSource(std::function<bool()> source) { m_earlierSource = std::move(source); }
+    bool fetchEarlier() { return hasEarlier() && m_earlierSource && m_earlierSource(); }
+    bool hasEarlier() const { return m_earlier != nullptr; }
     /// All that stands in the log, so that it can be brought back after it was cleared.
     struct Kept {
         QTextDocumentFragment text;
@@ -117,10 +129,12 @@ Q_SIGNALS:
     void endReached();
     /// What screen readers have been told of new text.
     void toldReaders(const QString &text);
-    /// The reader has come near the first of the earlier messages, or sees it anyway.
-    void earlierWanted();
-    /// There are others, or none any more.
+    /// There are others, or none any more, or no more have come.
     void earlierChanged();
+    /// What an earlier run has left unread is among the earlier messages, or is not to be had.
+    void keptNewShown();
+    /// What was kept is to be searched for these words.
+    void keptWanted(const QString &words);
     /// So many lines have come since the reader has left the end.
     void linesBelow(int lines);
 
@@ -147,7 +161,15 @@ private:
     qsizetype caretPosition() const;
     void gather(const QString &text, const QTextCharFormat &format);
     bool isAtEnd() const;
+    bool isOutOfSight() const;
     void followEnd();
+    /// What is marked as new begins here, in what stands above the log or in the log itself.
+    std::optional<int> topOfNew() const;
+    /// Where nobody reads, nothing new is to be scrolled past: the place beyond which the log does not follow its end.
+    std::optional<int> farthestUnread() const;
+    /// Of the lines that do not end in sight.
+    int countBelow(bool (*counts)(const QTextBlock &line)) const;
+    int linesOutOfSight() const;
     void insertGathered();
     void tellReaders(int begin);
     void applyColour(Colour colour);
@@ -185,12 +207,15 @@ private:
     /// What the link at this place leads to, be it in the log or above it.
     QString targetAt(const QPoint &place) const;
     QUrl linkAt(const QPoint &place) const;
+    /// What the mark at this place means, likewise.
+    QString meaningAt(const QPoint &place) const;
     /// Empty where there is none.
     QString commandAt(const QPoint &place) const;
 
     QTextCursor m_caret;
     QTextCursor m_new; ///< at the beginning of what is new; null while nothing is
     bool m_newIsUnseen = false;
+    bool m_newIsUnread = false;
     QTextCharFormat m_format;
     bool m_continues = false;
     bool m_isOwn = false;
@@ -214,6 +239,7 @@ private:
     QHash<QRgb, QColor> m_adapted; ///< colours of the document as they are shown on this ground
     int m_insetAbove = 0, m_insetBelow = 0, m_roomAbove = 0, m_roomBelow = 0;
     std::shared_ptr<EarlierMessages> m_earlier; ///< once there are some
+    std::function<bool()> m_earlierSource;
     int m_earlierHeight = 0;
     QTimer m_roomForEarlier; ///< asks for more of them
     ScreenReaders m_screenReaders;

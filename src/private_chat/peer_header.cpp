@@ -81,13 +81,18 @@ QString detailsOf(const PeerShown &peer)
     return details.join(QStringLiteral(" · "));
 }
 
+QString withWaiting(const PeerShown &peer, const QString &sentence)
+{
+    if (peer.waiting == 0)
+        return sentence;
+    const QString waiting = PeerHeader::tr("waiting to be sent: %1").arg(peer.waiting);
+    return PeerHeader::tr("%1; %2", "two parts of a sentence").arg(sentence, waiting);
+}
+
 /// Where all that was written meanwhile waits, it need not be said that it has not arrived.
 QString absenceOf(const PeerShown &peer, const QString &state, const QString &consequence)
 {
-    if (peer.waiting == 0)
-        return consequence;
-    const QString waiting = PeerHeader::tr("waiting to be sent: %1").arg(peer.waiting);
-    return PeerHeader::tr("%1; %2", "two parts of a sentence").arg(peer.canWait ? consequence : state, waiting);
+    return withWaiting(peer, peer.canWait || peer.waiting == 0 ? consequence : state);
 }
 
 /// Empty while all arrives.
@@ -98,9 +103,14 @@ QString warningOf(const PeerShown &peer)
     case Delivery::arrives:
         return {};
     case Delivery::doubtful:
+        if (peer.sendsLater)
+            return withWaiting(
+                peer, PeerHeader::tr("%1 is not known to be there: what you write is sent when %1 is back").arg(name));
         return absenceOf(peer, PeerHeader::tr("%1 is not known to be there").arg(name),
                          PeerHeader::tr("%1 is not known to be there: what you write may not arrive").arg(name));
     case Delivery::lost:
+        if (peer.sendsLater)
+            return withWaiting(peer, PeerHeader::tr("%1 is offline: what you write is sent when %1 is back").arg(name));
         return absenceOf(peer, PeerHeader::tr("%1 is offline").arg(name),
                          PeerHeader::tr("%1 is offline: what you write does not arrive").arg(name));
     case Delivery::toNoContact:
@@ -132,7 +142,6 @@ QWidget *PeerHeader::makeBandRow()
     peerBand = named(makeBand(m_bandRow), "peerBand");
     peerBand->setTextFormat(Qt::PlainText);
     sendLaterBtn = named(new QPushButton(m_bandRow), "sendLaterBtn");
-    sendLaterBtn->setToolTip(tr("What you have written and did not arrive is kept, and sent again then"));
     connect(sendLaterBtn, &QPushButton::clicked, this, &PeerHeader::sendLaterPressed);
     auto *const row = new QHBoxLayout(m_bandRow);
     row->setContentsMargins(0, 0, margin, 0);
@@ -178,8 +187,12 @@ void PeerHeader::setPeer(const PeerShown &peer)
     peerBand->setVisible(!warning.isEmpty());
     // An ampersand would underline what follows it.
     const QString name = paintedName(peer.name, longestNameOnButton).replace(u'&', QLatin1String("&&"));
-    sendLaterBtn->setText(tr("Send when %1 is back").arg(name));
-    sendLaterBtn->setVisible(peer.canWait);
+    sendLaterBtn->setText(peer.sendsLater ? tr("Do not send later") : tr("Send when %1 is back").arg(name));
+    sendLaterBtn->setToolTip(
+        peer.sendsLater
+            ? tr("What waits in this conversation is not sent, and what you write now does not wait")
+            : tr("What you have written and did not arrive is kept, and sent again then; so is what you write now"));
+    sendLaterBtn->setVisible(peer.canWait || peer.sendsLater);
     m_bandRow->setVisible(!warning.isEmpty());
     // Without a band it is the log that keeps its distance.
     m_gap->changeSize(0, warning.isEmpty() ? 0 : spacing);

@@ -11,6 +11,8 @@
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
 
+#include <algorithm>
+
 namespace nimb
 {
 namespace
@@ -22,7 +24,7 @@ constexpr std::chrono::milliseconds unknownWithoutDoubt = limits::announcementTi
 } // namespace
 
 PrivateChat::PrivateChat(const Services &services, std::function<void()> unloaded, std::function<void()> sought,
-                         std::function<void()> read)
+                         std::function<void(int unread)> read)
     : Conversation(services.conversation, std::move(unloaded)), m_services(services),
       m_autoReplyTimer(services.timers.oneShot(limits::autoReplyPause, [] {})),
       m_timer(services.timers.oneShot(peerActivityShown, [this] { endPeerActivity(); })),
@@ -42,10 +44,19 @@ void PrivateChat::setPeer(const ContactAddress &ip)
     m_view->setPeerAddress(ip.text());
 }
 
-void PrivateChat::preparewindow()
+void PrivateChat::preparewindow(const std::optional<UnreadConversation> &unread)
 {
     Clearbtn_Click();
+    if (unread)
+        leaveUnread(*unread);
     showEarlier();
+}
+
+void PrivateChat::show(ShowMode mode)
+{
+    if (m_view->isHidden())
+        conversationView().setLogFont(common().logFont);
+    m_view->showWindow(mode);
 }
 
 void PrivateChat::showPeer(PeerShown peer)
@@ -53,7 +64,10 @@ void PrivateChat::showPeer(PeerShown peer)
     peer.delivery = deliveryTo(peer);
     if (peer.delivery == Delivery::arrives)
         m_lost.clear();
+    if (peer.delivery == Delivery::arrives || peer.delivery == Delivery::toNoContact)
+        m_sendsLater = false;
     peer.canWait = !m_lost.empty();
+    peer.sendsLater = m_sendsLater;
     if (m_peer == peer)
         return;
     m_peer = std::move(peer);
@@ -127,16 +141,33 @@ void PrivateChat::wasSent(const QString &text, const LogMessage &message)
     if (message.fate != MessageFate::lost || !m_isContact || fileLinkIn(text))
         return;
     m_lost.push_back({text, message.time, message.number});
+    if (m_sendsLater)
+        putIntoOutbox();
     showWhetherMessagesCanWait();
 }
 
 void PrivateChat::showWhetherMessagesCanWait()
 {
-    if (std::exchange(m_peer.canWait, !m_lost.empty()) == m_lost.empty())
-        m_view->setPeer(m_peer);
+    PeerShown now = m_peer;
+    now.canWait = !m_lost.empty();
+    now.sendsLater = m_sendsLater;
+    if (now == m_peer)
+        return;
+    m_peer = std::move(now);
+    m_view->setPeer(m_peer);
 }
 
 void PrivateChat::sendLaterBtn_Click()
+{
+    if (m_sendsLater)
+        takeOutOfOutbox();
+    else
+        putIntoOutbox();
+    showWhetherMessagesCanWait();
+    conversationView().focusInput();
+}
+
+void PrivateChat::putIntoOutbox()
 {
     std::vector<Lost> lost = std::exchange(m_lost, {});
     auto next = lost.begin();
@@ -144,23 +175,44 @@ void PrivateChat::sendLaterBtn_Click()
         const std::optional<std::int64_t> number = m_services.outbox.put(m_rIP, next->text, next->written);
         if (!number)
             break;
-        m_waiting.insert(*number, next->number);
+        m_waiting.emplace(*number, next->number);
         conversationView().outtext().setFate(next->number, MessageFate::waits);
     }
     m_lost.assign(next, lost.end());
-    showWhetherMessagesCanWait();
-    conversationView().focusInput();
+    m_sendsLater = m_lost.empty();
+}
+
+/// As if it had not been chosen: what waits is among what did not arrive, and can wait again.
+void PrivateChat::takeOutOfOutbox()
+{
+    m_sendsLater = false;
+    std::vector<Lost> taken;
+    for (const auto &[waiting, number] : std::map(m_waiting)) {
+        const auto &all = m_services.outbox.messages();
+        const auto message = std::ranges::find(all, waiting, &WaitingMessage::number);
+        if (message == all.end())
+            continue;
+        taken.push_back({message->text, message->written, number});
+        m_services.outbox.forget(waiting); // says that it will not be sent
+    }
+    m_lost.insert(m_lost.begin(), taken.begin(), taken.end());
+}
+
+int PrivateChat::takeWaiting(std::int64_t waiting)
+{
+    const auto taken = m_waiting.extract(waiting);
+    return taken.empty() ? 0 : taken.mapped();
 }
 
 void PrivateChat::sendWaiting(const WaitingMessage &message)
 {
-    conversationView().outtext().setFate(m_waiting.take(message.number), MessageFate::sent);
+    conversationView().outtext().setFate(takeWaiting(message.number), MessageFate::sent);
     sendText(message.text + writtenAt(message.written));
 }
 
 void PrivateChat::willNotBeSent(std::int64_t waiting)
 {
-    conversationView().outtext().setFate(m_waiting.take(waiting), MessageFate::lost);
+    conversationView().outtext().setFate(takeWaiting(waiting), MessageFate::lost);
 }
 
 FileOffers::Recipients PrivateChat::fileRecipients() const

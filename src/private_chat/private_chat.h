@@ -9,8 +9,7 @@
 #include "private_chat/private_chat_view.h"
 #include "private_chat/typing_notice.h"
 
-#include <QHash>
-
+#include <map>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -34,9 +33,9 @@ public:
     };
 
     /// unloaded: called last of all when the user closes the window for good; it may destroy this chat. sought: called
-    /// when the user turns to the peer; read: when he has seen all that was written.
+    /// when the user turns to the peer; read: when he has seen all that was written, but for as many messages.
     PrivateChat(const Services &services, std::function<void()> unloaded, std::function<void()> sought,
-                std::function<void()> read);
+                std::function<void(int unread)> read);
 
     /// Tells the window its peer.
     void setPeer(const ContactAddress &ip);
@@ -48,8 +47,11 @@ public:
     bool isSpared() const override { return m_acquainted; }
     PrivateChatView &view() { return *m_view; }
 
-    /// Sets fonts, empties the log, writes its opening line, and shows what was kept above it.
-    void preparewindow();
+    /// Sets fonts, empties the log, writes its opening line, and shows what was kept above it, of which something may
+    /// be unread from an earlier run.
+    void preparewindow(const std::optional<UnreadConversation> &unread = {});
+    /// Brings the window into view; one that was closed opens in the font that is chosen now.
+    void show(ShowMode mode);
     /// Appends a message that came when there was no window for it yet.
     void waitingMessage(const QString &nik, const QString &msg);
     /// Appends a received message and answers it automatically where that is switched on, unless it is an automatic
@@ -84,7 +86,8 @@ public:
     void askForAvatarUnlessInvisible();
     /// Whether the head that has come is the one that avatarWanted() asked for; true once for each such question.
     [[nodiscard]] bool takeAvatarWanted() { return std::exchange(m_avatarWanted, false); }
-    /// What was written while the peer was not there is to be sent when he is back.
+    /// What was written while the peer was not there is to be sent when he is back, and so is what is written in the
+    /// rest of this absence; or, after that, none of it.
     void sendLaterBtn_Click();
     /// He is, and this is sent now, with the time at which it was written.
     void sendWaiting(const WaitingMessage &message);
@@ -111,10 +114,15 @@ private:
     void deliver(const QString &text) override;
     FileOffers::Recipients fileRecipients() const override;
     Writer peer(const QString &nik) const;
-    void allRead() override { m_read(); }
+    void wasRead(int unread) override { m_read(unread); }
     MessageFate fate() const override;
     void wasSent(const QString &text, const LogMessage &message) override;
     void showWhetherMessagesCanWait();
+    /// Until the outbox has no more room.
+    void putIntoOutbox();
+    void takeOutOfOutbox();
+    /// The number in the log of what waits no more; 0 where it has none there.
+    int takeWaiting(std::int64_t waiting);
     Delivery deliveryTo(const PeerShown &peer);
     void doubtDelivery();
 
@@ -131,8 +139,9 @@ private:
     };
 
     Services m_services;
-    std::vector<Lost> m_lost;           ///< in this absence, and that wait for nothing
-    QHash<std::int64_t, int> m_waiting; ///< numbers in the log, by those in the outbox
+    std::vector<Lost> m_lost;              ///< in this absence, and that wait for nothing
+    std::map<std::int64_t, int> m_waiting; ///< numbers in the log, by those in the outbox
+    bool m_sendsLater = false;             ///< the user has chosen so in this absence
     ContactAddress m_rIP;
     PeerShown m_peer;
     std::unique_ptr<Timer> m_autoReplyTimer;
@@ -141,7 +150,8 @@ private:
     std::unique_ptr<Timer> m_liveTypeAge; ///< clears what the peer has begun and left
     std::unique_ptr<Timer> m_doubt;
     std::unique_ptr<Timer> m_webCamTimer;
-    std::function<void()> m_sought, m_read;
+    std::function<void()> m_sought;
+    std::function<void(int unread)> m_read;
     TypingNotice m_typingNotice;
     bool m_liveTypePending = false;
     bool m_isTyping = false; ///< the peer, as far as is shown

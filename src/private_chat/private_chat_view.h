@@ -39,8 +39,9 @@ struct PeerShown {
     QString workstation{};
     QString address{};
     Delivery delivery = Delivery::arrives;
-    int waiting = 0;      ///< messages that will be sent when he is there
-    bool canWait = false; ///< there are others that could
+    int waiting = 0;         ///< messages that will be sent when he is there
+    bool canWait = false;    ///< there are others that could
+    bool sendsLater = false; ///< so does what is written from now on
     bool operator==(const PeerShown &) const = default;
 };
 

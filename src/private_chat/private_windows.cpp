@@ -2,6 +2,7 @@
 
 #include "base/limits.h"
 #include "base/remote_text.h"
+#include "conversation/history_choice.h"
 
 #include <algorithm>
 
@@ -11,7 +12,8 @@ namespace nimb
 PrivateWindows::PrivateWindows(const PrivateChat::Services &services, ContactList &contacts, Notices &notices,
                                DropCounts &drops)
     : m_services(services), m_contacts(contacts), m_notices(notices), m_drops(drops),
-      m_oneMore(services.timers.repeating(limits::windowPause, [this] { openNextInTurn(); }))
+      m_oneMore(services.timers.repeating(limits::windowPause, [this] { openNextInTurn(); })),
+      m_self(std::make_shared<PrivateWindows *>(this))
 {
     QObject::connect(&contacts, &ContactList::dataChanged, &contacts,
                      [this](const QModelIndex &first) { showPeer(m_contacts.at(first.row())); });
@@ -60,8 +62,7 @@ void PrivateWindows::receive(const Contact &contact, QString body)
     PrivateChat &chat = windowOf(contact, OpenedBy::peer);
     if (chat.view().isHidden()) {
         chat.leaveUnattended();
-        chat.view().showWindow(m_services.conversation.common.options.privateWindowsOnTop ? ShowMode::onTop
-                                                                                          : ShowMode::minimised);
+        chat.show(m_services.conversation.common.options.privateWindowsOnTop ? ShowMode::onTop : ShowMode::minimised);
     }
     showWaiting(contact, chat);
     const bool isUnread = !chat.view().conversation().isEndSeen();
@@ -80,13 +81,37 @@ void PrivateWindows::noteMessage(const Contact &contact, bool isUnreadInWindow)
     });
 }
 
-void PrivateWindows::read(int window)
+void PrivateWindows::read(int window, int unread)
 {
     const Contact *const contact = at(window) ? m_contacts.find(at(window)->rIP()) : nullptr;
-    if (contact && contact->unreadInWindow > 0)
-        m_contacts.change(contact->ip, [](Contact &row) { row.unreadInWindow = 0; });
-    if (contact && contact->ip.ipv4())
+    if (contact && contact->unreadInWindow > unread)
+        m_contacts.change(contact->ip, [unread](Contact &row) { row.unreadInWindow = unread; });
+    if (contact && contact->ip.ipv4() && unread == 0)
         m_notices.seen({NoticeWindow::privateChat, *contact->ip.ipv4()});
+}
+
+void PrivateWindows::loadUnread()
+{
+    m_services.conversation.history.listUnread(
+        [self = std::weak_ptr(m_self)](const std::vector<UnreadConversation> &conversations) {
+            if (const auto there = self.lock())
+                (*there)->takeUnread(conversations);
+        });
+}
+
+/// Who has a window already has written since the start, and is counted from there.
+void PrivateWindows::takeUnread(const std::vector<UnreadConversation> &conversations)
+{
+    for (const UnreadConversation &unread : conversations) {
+        const KeptConversation &kept = unread.conversation;
+        const ContactAddress ip(kept.address);
+        const bool isContact = kept.kind == KeptConversation::Kind::contact && m_contacts.find(ip);
+        if (!isContact || numberOf(ip) > 0 || !m_services.conversation.history.isKept(kept.address))
+            continue;
+        m_unreadBefore.insert_or_assign(kept.address, unread);
+        m_contacts.change(
+            ip, [&unread](Contact &row) { row.unreadInWindow = std::min(unread.messages, limits::unreadCounted); });
+    }
 }
 
 bool PrivateWindows::hasOpenWindow(const Contact &contact)
@@ -187,7 +212,7 @@ void PrivateWindows::openPrivate(const ContactAddress &ip)
     PrivateChat &chat = windowOf(*contact, OpenedBy::user);
     chat.attend();
     showWaiting(*contact, chat);
-    chat.view().showWindow(ShowMode::active);
+    chat.show(ShowMode::active);
 }
 
 void PrivateWindows::answer(const ContactAddress &ip, const QString &text)
@@ -239,7 +264,7 @@ PrivateChat &PrivateWindows::make(const Contact &contact, OpenedBy opener)
     const int number = static_cast<int>(m_table.size()) + 1;
     m_table.push_back(std::make_unique<PrivateChat>(
         m_services, [this, number] { unload(number); }, [this, number] { sought(number); },
-        [this, number] { read(number); }));
+        [this, number](int unread) { read(number, unread); }));
     // The head of the window follows the row from now on.
     m_contacts.change(contact.ip, [number](Contact &row) {
         row.privateWindow = number;
@@ -252,7 +277,10 @@ PrivateChat &PrivateWindows::make(const Contact &contact, OpenedBy opener)
         chat.avatarWanted();
     else
         chat.askForAvatarUnlessInvisible();
-    chat.preparewindow();
+    std::optional<UnreadConversation> unread;
+    if (const auto kept = m_unreadBefore.extract(contact.ip.text()); !kept.empty())
+        unread = kept.mapped();
+    chat.preparewindow(unread);
     if (const QString draft = m_drafts.take(contact.ip); !draft.isEmpty())
         chat.view().conversation().setDraft(draft);
     return chat;
@@ -279,6 +307,7 @@ void PrivateWindows::sought(int window)
 void PrivateWindows::unload(int window)
 {
     const std::unique_ptr<PrivateChat> gone = std::move(m_table[static_cast<std::size_t>(window - 1)]);
+    gone->turnedAway();
     const Contact *contact = m_contacts.find(gone->rIP());
     if (!contact || contact->privateWindow != window)
         return;
@@ -318,6 +347,7 @@ void PrivateWindows::contactRemoved(const ContactAddress &ip)
             at(number)->setContact(false);
     }
     m_drafts.remove(ip);
+    m_unreadBefore.erase(ip.text());
 }
 
 void PrivateWindows::appendPresence(int window, const QString &line)

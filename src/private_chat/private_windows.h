@@ -15,6 +15,7 @@
 #include <QStringList>
 
 #include <deque>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -46,6 +47,8 @@ public:
     void contactRemoved(const ContactAddress &ip) override;
     void appendPresence(int window, const QString &line) override;
 
+    /// Counts at the rows what earlier runs have left unread. The contacts must be there.
+    void loadUnread();
     void unloadAll();
     /// How many wait at the rows of their contacts.
     qsizetype waitingMessages() const;
@@ -73,9 +76,10 @@ private:
     /// Number of a window whose peer has this address, or 0.
     int numberOf(const ContactAddress &ip) const;
     void sought(int window);
-    void read(int window);
+    void read(int window, int unread);
     /// A message of the contact has been put into its window, or waits.
     void noteMessage(const Contact &contact, bool isUnreadInWindow);
+    void takeUnread(const std::vector<UnreadConversation> &conversations);
     void showPeer(const Contact &contact);
     /// Tells of a message that has just come, unless it is looked at.
     void tell(const Contact &contact, const QString &body);
@@ -87,10 +91,12 @@ private:
     DropCounts &m_drops;
     QHash<ContactAddress, QStringList> m_waiting;
     qsizetype m_waitingCharacters = 0;
-    QHash<ContactAddress, QString> m_drafts; ///< what was in the input of a window that is gone
-    int m_atOnce = limits::windowsAtOnce;    ///< windows that may still open at once
-    std::deque<ContactAddress> m_inTurn;     ///< whose windows are to open next
+    std::map<QString, UnreadConversation> m_unreadBefore; ///< in earlier runs, by address, until there is a window
+    QHash<ContactAddress, QString> m_drafts;              ///< what was in the input of a window that is gone
+    int m_atOnce = limits::windowsAtOnce;                 ///< windows that may still open at once
+    std::deque<ContactAddress> m_inTurn;                  ///< whose windows are to open next
     std::unique_ptr<Timer> m_oneMore;
+    std::shared_ptr<PrivateWindows *> m_self; ///< for an answer that may come when this is gone
     std::vector<std::unique_ptr<PrivateChat>> m_table;
 };
 

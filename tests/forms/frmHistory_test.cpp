@@ -210,7 +210,7 @@ TEST_F(FrmHistory, AChosenConversationIsShownAlone)
 TEST_F(FrmHistory, OpensWithTheContactForWhomItWasOpened)
 {
     open();
-    form->choose(QStringLiteral("10.0.0.2"));
+    form->choose(QStringLiteral("10.0.0.2"), {});
     EXPECT_TRUE(QTest::qWaitFor([this] { return list().currentRow() == 2; }, patience));
     EXPECT_TRUE(becomes({"the plan of day 1", "the plan of day 2", "the plan of day 3", "the plan of day 4"}));
 }

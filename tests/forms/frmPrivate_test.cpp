@@ -114,8 +114,15 @@ TEST_F(FrmPrivate, TheBandOffersToSendLaterWhatWasWrittenMeanwhile)
     ASSERT_TRUE(button.isVisible());
     EXPECT_EQ(button.text(), QStringLiteral("Send when Ann && Co is back"));
     button.click();
-    EXPECT_FALSE(button.isVisible());
-    EXPECT_EQ(band.text(), QStringLiteral("Ann & Co is offline; waiting to be sent: 1"));
+    EXPECT_EQ(
+        band.text(),
+        QStringLiteral("Ann & Co is offline: what you write is sent when Ann & Co is back; waiting to be sent: 1"));
+    EXPECT_TRUE(button.isVisible());
+    EXPECT_EQ(button.text(), QStringLiteral("Do not send later"));
+    button.click();
+    EXPECT_EQ(band.text(), QStringLiteral("Ann & Co is offline: what you write does not arrive"));
+    EXPECT_EQ(button.text(), QStringLiteral("Send when Ann && Co is back"));
+    button.click();
     ASSERT_EQ(windows.engine.outbox().messages().size(), 1u);
     outtext().writeGathered();
     const QTextBlock line = outtext().document()->lastBlock().previous();
@@ -200,7 +207,8 @@ TEST_F(FrmPrivate, AWindowWithMoreThanCanBeSeenOpensWhereTheNewBegins)
         below += outtext().cursorRect(line).bottom() > outtext().viewport()->height() ? 1 : 0;
     }
     EXPECT_EQ(button.text(), QString::number(below));
-    EXPECT_EQ(windows.engine.contacts().find(QStringLiteral("10.0.0.2"))->unread(), 60) << "not read yet";
+    EXPECT_EQ(windows.engine.contacts().find(QStringLiteral("10.0.0.2"))->unread(), below)
+        << "what was not seen is not read";
 
     QTest::mouseClick(&button, Qt::LeftButton);
     EXPECT_TRUE(outtext().isAtItsEnd());
@@ -210,6 +218,82 @@ TEST_F(FrmPrivate, AWindowWithMoreThanCanBeSeenOpensWhereTheNewBegins)
     form().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&form(), 60000));
     EXPECT_TRUE(outtext().isAtItsEnd()) << "what was read is not gone back to";
+}
+
+TEST_F(FrmPrivate, WhileItIsNotTheActiveWindowItStaysWhereTheNewBegins)
+{
+    auto &button = control<QToolButton>("newLinesBtn");
+    QScrollBar &bar = *outtext().verticalScrollBar();
+    const auto unread = [this] { return windows.engine.contacts().find(QStringLiteral("10.0.0.2"))->unread(); };
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form(), 60000));
+    for (int i = 0; i < 40; ++i)
+        windows.arrive("10.0.0.2", "-read " + std::to_string(i));
+    outtext();
+    ASSERT_TRUE(outtext().isAtItsEnd());
+    windows.main().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&windows.main(), 60000));
+    windows.arrive("10.0.0.2", "-new 0");
+    outtext();
+    EXPECT_EQ(bar.value(), bar.maximum()) << "there is room below the mark";
+    EXPECT_FALSE(button.isVisible());
+    for (int i = 1; i < 60; ++i) {
+        windows.arrive("10.0.0.2", "-new " + std::to_string(i));
+        outtext();
+    }
+    QTextCursor first(outtext().document()->findBlockByNumber(41));
+    ASSERT_EQ(first.block().text(), QStringLiteral("Ann> new 0"));
+    const int top = outtext().cursorRect(first).top();
+    const auto expectedBelow = [this] {
+        int below = 0;
+        for (int i = 41; i < 101; ++i) {
+            const QTextCursor line(outtext().document()->findBlockByNumber(i));
+            below += outtext().cursorRect(line).bottom() > outtext().viewport()->height() ? 1 : 0;
+        }
+        return below;
+    };
+    EXPECT_GE(top, outtext().fontMetrics().height()) << "the mark above it is seen";
+    EXPECT_LE(top, 3 * outtext().fontMetrics().lineSpacing());
+    EXPECT_TRUE(button.isVisible());
+    EXPECT_EQ(button.text(), QString::number(expectedBelow()));
+
+    const int place = bar.value();
+    form().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form(), 60000));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(bar.value(), place);
+    EXPECT_EQ(unread(), expectedBelow()) << "what cannot be seen is not read";
+    bar.setValue((place + bar.maximum()) / 2);
+    EXPECT_GT(expectedBelow(), 0);
+    EXPECT_EQ(unread(), expectedBelow()) << "read as it is scrolled to";
+    bar.setValue(place);
+    EXPECT_LT(unread(), expectedBelow()) << "what was read stays so";
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(bar.value(), bar.maximum());
+    EXPECT_EQ(unread(), 0);
+    windows.arrive("10.0.0.2", "-seen");
+    outtext();
+    EXPECT_EQ(bar.value(), bar.maximum());
+    EXPECT_EQ(unread(), 0);
+}
+
+TEST_F(FrmPrivate, WhoScrollsInAnInactiveWindowIsNotBroughtBackToTheMark)
+{
+    QScrollBar &bar = *outtext().verticalScrollBar();
+    windows.main().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&windows.main(), 60000));
+    for (int i = 0; i < 60; ++i)
+        windows.arrive("10.0.0.2", "-new " + std::to_string(i));
+    outtext();
+    ASSERT_LT(bar.value(), bar.maximum());
+    bar.setValue(bar.maximum());
+    const int place = bar.value();
+    for (int i = 0; i < 3; ++i) {
+        windows.arrive("10.0.0.2", "-another");
+        outtext();
+    }
+    EXPECT_EQ(bar.value(), place);
+    EXPECT_LT(bar.value(), bar.maximum()) << "nobody has read it";
+    EXPECT_EQ(control<QToolButton>("newLinesBtn").text(), QStringLiteral("2")) << "the first has just room at the end";
 }
 
 TEST_F(FrmPrivate, AWindowInWhichAllThatIsNewCanBeSeenOpensAtTheEnd)
@@ -983,6 +1067,24 @@ TEST_F(FrmPrivate, TheFontIsTheStoredOne)
     EXPECT_TRUE(intext().font().bold());
     EXPECT_TRUE(intext().font().italic());
     EXPECT_EQ(windows.common.logFont.face, QStringLiteral("no such face"));
+}
+
+TEST_F(FrmPrivate, AClosedWindowOpensInTheFontThatWasChosenMeanwhile)
+{
+    const auto sizes = [this] { return std::pair(intext().font().pointSize(), outtext().font().pointSize()); };
+    const std::pair usual = sizes();
+    windows.common.logFont = {QStringLiteral("no such face"), 14, {}};
+    windows.doubleClick(0);
+    EXPECT_EQ(sizes(), usual) << "open ones keep theirs";
+    form().close();
+    ASSERT_TRUE(form().isHidden());
+    windows.doubleClick(0);
+    EXPECT_EQ(sizes(), std::pair(14, 14));
+    form().close();
+    windows.common.logFont = {QStringLiteral("no such face"), 11, {}};
+    windows.arrive("10.0.0.2", "-hello");
+    ASSERT_FALSE(form().isHidden());
+    EXPECT_EQ(sizes(), std::pair(11, 11)) << "also when a message opens it";
 }
 
 TEST_F(FrmPrivate, WithoutAStoredFontTheInputFollowsTheDesktopsWhenThatChanges)

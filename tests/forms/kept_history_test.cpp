@@ -4,6 +4,8 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListView>
+#include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTextFrame>
@@ -297,6 +299,150 @@ TEST_F(KeptForEver, MoreThatIsPaintedWhileOneSearchesIsSearchedToo)
         << count.text().toStdString();
     QTest::keyClick(&text, Qt::Key_Return);
     EXPECT_EQ(count.text(), QStringLiteral("5 of 11"));
+}
+
+/// The same where much more is kept than what is painted at first.
+class FindInAllThatWasKept : public KeptForEver
+{
+protected:
+    void openBar(int kept)
+    {
+        keepSaid(kept);
+        windows.arrive("10.0.0.2", "-new");
+        windows.privateWindow().showNormal();
+        windows.privateWindow().resize(500, 400);
+        windows.privateWindow().activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&windows.privateWindow(), 60000));
+        log().setFocus();
+        QTest::keyClick(&log(), Qt::Key_F, Qt::ControlModifier);
+    }
+    QLineEdit &text() { return *log().findChild<QLineEdit *>(QStringLiteral("findText")); }
+    QToolButton &findKept() { return *log().findChild<QToolButton *>(QStringLiteral("findKept")); }
+    QString count() { return log().findChild<QLabel *>(QStringLiteral("findCount"))->text(); }
+    bool counts(const char *shown)
+    {
+        return QTest::qWaitFor([&] { return count() == QLatin1String(shown); }, 60000);
+    }
+    void older() { QTest::keyClick(&text(), Qt::Key_Return); }
+};
+
+TEST_F(FindInAllThatWasKept, BringsUpWhatWasNotPaintedYet)
+{
+    openBar(700);
+    ASSERT_EQ(log().earlierText().count(QStringLiteral("said before")), 50);
+    text().setText(QStringLiteral("before 101"));
+    EXPECT_NE(count(), QStringLiteral("Not found")) << "nobody knows yet";
+    EXPECT_TRUE(counts("1 of 1")) << count().toStdString();
+    EXPECT_EQ(log().earlierText().count(QStringLiteral("said before")), 650) << "no more than it takes";
+    EXPECT_FALSE(findKept().isVisible());
+    EXPECT_LT(log().verticalScrollBar()->value(), log().verticalScrollBar()->maximum());
+}
+
+TEST_F(FindInAllThatWasKept, GoesOnBehindTheOldestOfThosePainted)
+{
+    openBar(700);
+    text().setText(QStringLiteral("before 33"));
+    EXPECT_TRUE(counts("10 of 10")) << "330 to 339";
+    for (int i = 0; i < 9; ++i)
+        older();
+    EXPECT_EQ(count(), QStringLiteral("1 of 10"));
+    older();
+    EXPECT_TRUE(counts("1 of 11")) << count().toStdString();
+    older();
+    EXPECT_TRUE(counts("11 of 11")) << "nothing older is left: around the end";
+}
+
+TEST_F(FindInAllThatWasKept, OffersTheWindowThatSearchesEverythingWhereNothingIsFound)
+{
+    openBar(3000);
+    text().setText(QStringLiteral("before 5!"));
+    EXPECT_TRUE(counts("Not found")) << count().toStdString();
+    EXPECT_EQ(log().earlierText().count(QStringLiteral("said before")), 2050) << "bounded";
+    ASSERT_TRUE(findKept().isVisible());
+    auto &bar = *log().findChild<QWidget *>(QStringLiteral("findBar"));
+    EXPECT_GE(bar.height(), bar.sizeHint().height());
+    EXPECT_LE(bar.geometry().bottom(), log().viewport()->geometry().top()) << "covers no line";
+    EXPECT_EQ(findKept().text(), QStringLiteral("Search all that was kept"));
+    QTest::mouseClick(&findKept(), Qt::LeftButton);
+    auto *const history = windows.main().findChild<QDialog *>(QStringLiteral("frmHistory"));
+    ASSERT_TRUE(history);
+    EXPECT_EQ(windows.control<QLineEdit>(*history, "searchText").text(), QStringLiteral("before 5!"));
+    EXPECT_EQ(windows.control<QListWidget>(*history, "conversations").currentItem()->toolTip(),
+              QStringLiteral("10.0.0.2"));
+    text().setText(QStringLiteral("new"));
+    EXPECT_FALSE(findKept().isVisible());
+}
+
+TEST_F(FindInAllThatWasKept, WhatIsTypedOnEndsTheSearchForWhatWasTypedBefore)
+{
+    openBar(700);
+    text().setText(QStringLiteral("nothing like that"));
+    text().setText(QStringLiteral("new"));
+    EXPECT_EQ(count(), QStringLiteral("1 of 1"));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return count() == QStringLiteral("1 of 1"); }));
+    EXPECT_EQ(log().earlierText().count(QStringLiteral("said before")), 50);
+}
+
+TEST_F(KeptForEver, WhatAnEarlierRunLeftUnreadOpensWhereReadingStopped)
+{
+    const auto unread = [this] { return windows.engine.contacts().find(QStringLiteral("10.0.0.2"))->unread(); };
+    keepSaid(30);
+    windows.history.leaveUnread({.address = QStringLiteral("10.0.0.2")});
+    keepSaid(60);
+    windows.engine.privateWindows().loadUnread();
+    EXPECT_EQ(unread(), 60);
+    EXPECT_EQ(windows.list().model()->index(0, 0).data(ContactList::UnreadRole).toInt(), 60);
+    windows.doubleClick(0);
+    QWidget &form = windows.privateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form, 60000));
+    QCoreApplication::processEvents();
+    auto &button = windows.control<QToolButton>(form, "newLinesBtn");
+    QScrollBar &bar = *log().verticalScrollBar();
+    EXPECT_LT(bar.value(), bar.maximum());
+    EXPECT_TRUE(button.isVisible());
+    const int below = unread();
+    EXPECT_GT(below, 0) << "what cannot be seen is not read";
+    EXPECT_LT(below, 60);
+    EXPECT_GE(button.text().toInt(), below);
+    // The word above the first of them is painted in red; the messages are not.
+    const QImage seen = log().viewport()->grab().toImage();
+    const auto red = [&seen](int from, int to) {
+        int count = 0;
+        for (int y = from; y < to; ++y) {
+            for (int x = 0; x < seen.width(); ++x) {
+                const QColor colour = seen.pixelColor(x, y);
+                count += colour.red() > 150 && colour.green() < 120 && colour.blue() < 120 ? 1 : 0;
+            }
+        }
+        return count;
+    };
+    const int line = log().heightOfLine();
+    EXPECT_GT(red(0, line), 5) << "at the top";
+    EXPECT_EQ(red(2 * line, seen.height()), 0);
+
+    windows.main().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&windows.main(), 60000));
+    EXPECT_EQ(windows.history.readTo.at(QStringLiteral("10.0.0.2")), 90 - below);
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form, 60000));
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(bar.value(), bar.maximum());
+    EXPECT_EQ(unread(), 0);
+    EXPECT_TRUE(windows.history.readTo.empty());
+    windows.arrive("10.0.0.2", "-now");
+    QTest::keyClicks(&windows.control<QPlainTextEdit>(form, "intext"), QStringLiteral("answer"));
+    QTest::keyClick(&windows.control<QPlainTextEdit>(form, "intext"), Qt::Key_Return);
+    log().verticalScrollBar()->setValue(0);
+    const int top = log().verticalScrollBar()->value();
+    for (int place = top; place < bar.maximum(); place += log().viewport()->height() / 2) {
+        bar.setValue(place);
+        const QImage now = log().viewport()->grab().toImage();
+        for (int y = 0; y < now.height(); ++y) {
+            const QColor middle = now.pixelColor(now.width() / 4, y);
+            ASSERT_FALSE(middle.red() > 150 && middle.green() < 120 && middle.blue() < 120)
+                << "who answers has read: nothing is new any more";
+        }
+    }
 }
 
 TEST_F(KeptForEver, AContactCanBeLeftOutByItsMenu)

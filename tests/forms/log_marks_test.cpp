@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QAccessible>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
@@ -155,6 +156,38 @@ TEST_F(LogMarksTest, WhatHasNotArrivedBearsAMark)
     me(QStringLiteral("does not"), MessageFate::lost);
     EXPECT_TRUE(isBlank(marginOf(1)));
     EXPECT_FALSE(isBlank(marginOf(2)));
+}
+
+TEST_F(LogMarksTest, AMarkUnderThePointerSaysWhatItMeans)
+{
+    const LogMessage lost{.writer = QStringLiteral("Me"),
+                          .time = saturday,
+                          .isOwn = true,
+                          .fate = MessageFate::lost,
+                          .receiver = QStringLiteral("Ann"),
+                          .number = 1};
+    me(QStringLiteral("arrives"));
+    write(lost, QStringLiteral("does not"));
+    const auto tipAt = [this](int line, int fromRight) {
+        const QRectF place = placeOf(line);
+        const int y = qRound(place.top()) + log.fontMetrics().height() / 2;
+        QTest::mouseMove(log.viewport(), QPoint(log.viewport()->width() - fromRight, y));
+        return log.viewport()->toolTip();
+    };
+    EXPECT_EQ(tipAt(1, 17), QStringLiteral("Ann was not online: this has probably not arrived"));
+    EXPECT_EQ(tipAt(0, 17), QString()) << "no mark";
+    EXPECT_EQ(tipAt(1, 80), QString()) << "beside the mark";
+    log.setFate(1, MessageFate::waits);
+    EXPECT_EQ(tipAt(1, 17), QStringLiteral("Waits until Ann is back"));
+    QTextCursor there(log.document()->findBlockByNumber(1));
+    log.setTextCursor(there);
+    QAccessibleInterface &reader = *QAccessible::queryAccessibleInterface(&log);
+    EXPECT_EQ(reader.text(QAccessible::Description), QStringLiteral("Waits until Ann is back"));
+    EXPECT_EQ(log.toPlainText(), QStringLiteral("Me> arrives\nMe> does not\n")) << "it stands in no text";
+    log.setFate(1, MessageFate::sent);
+    tipAt(0, 17); // what has not moved is at no other place
+    EXPECT_EQ(tipAt(1, 17), QString());
+    EXPECT_EQ(reader.text(QAccessible::Description), QString());
 }
 
 TEST_F(LogMarksTest, TheNameOfTheWriterIsBold)
@@ -377,6 +410,44 @@ TEST_F(FindBarTest, SaysWhenThereIsNothing)
     QTest::keyClicks(&text(), QStringLiteral("keys"));
     EXPECT_EQ(count(), QStringLiteral("Not found"));
     EXPECT_FALSE(child<QToolButton>("findNext").isEnabled());
+}
+
+TEST_F(FindBarTest, WhereNothingIsFoundNothingIsSelected)
+{
+    QTest::keyClicks(&text(), QStringLiteral("key"));
+    ASSERT_TRUE(log.textCursor().hasSelection());
+    QTest::keyClicks(&text(), QStringLiteral("s"));
+    EXPECT_EQ(count(), QStringLiteral("Not found"));
+    EXPECT_FALSE(log.textCursor().hasSelection());
+    text().setText(QStringLiteral("desk"));
+    ASSERT_TRUE(log.textCursor().hasSelection());
+    text().clear();
+    EXPECT_FALSE(log.textCursor().hasSelection());
+}
+
+TEST_F(FindBarTest, WhatTheReaderHasSelectedHimselfStaysSo)
+{
+    text().setText(QStringLiteral("keys"));
+    log.selectAll();
+    QTest::keyClicks(&text(), QStringLiteral("!"));
+    EXPECT_EQ(count(), QStringLiteral("Not found"));
+    EXPECT_TRUE(log.textCursor().hasSelection());
+}
+
+TEST_F(FindBarTest, AHitAtTheEndLeavesNoLinesToGoDownTo)
+{
+    auto &button = child<QToolButton>("newLinesBtn");
+    lines(100);
+    log.verticalScrollBar()->setValue(20);
+    lines(17);
+    ASSERT_EQ(button.text(), QStringLiteral("17"));
+    QTest::keyClicks(&text(), QStringLiteral("line 16"));
+    ASSERT_EQ(count(), QStringLiteral("2 of 2"));
+    EXPECT_FALSE(button.isVisible()) << button.text().toStdString();
+    QTest::keyClick(&text(), Qt::Key_Return);
+    lines(1);
+    EXPECT_TRUE(button.isVisible());
+    EXPECT_EQ(button.text(), QStringLiteral("1")) << "only what is new";
 }
 
 TEST_F(FindBarTest, LooksAgainInATextThatHasGrown)

@@ -171,8 +171,9 @@ public:
     RichTextLog &outtext() override { return log; }
     void setCaption(const QString &text) override { caption = text; }
     void setLogFont(const LogFont &logFont) override { font = logFont; }
-    void addEarlier(const std::vector<StoredMessage> &messages) override
+    void addEarlier(const std::vector<StoredMessage> &messages, std::optional<std::int64_t> newBehind) override
     {
+        readTo = newBehind;
         earlier.insert(earlier.begin(), messages.begin(), messages.end());
     }
     void addReceivedFile(int number) override { receivedFiles.push_back(number); }
@@ -191,6 +192,7 @@ public:
     QString caption;
     LogFont font;
     std::vector<StoredMessage> earlier;
+    std::optional<std::int64_t> readTo;
     std::vector<int> receivedFiles;
     QStringList fileTroubles;
     QString lastMessage;
@@ -735,6 +737,42 @@ public:
         }
         listed(all);
     }
+    void leaveUnread(const KeptConversation &conversation) override
+    {
+        readTo.try_emplace(conversation.address, static_cast<std::int64_t>(kept.size()));
+    }
+    void setRead(const KeptConversation &conversation, int unread) override
+    {
+        if (unread == 0) {
+            readTo.erase(conversation.address);
+        } else if (const auto known = readTo.find(conversation.address); known != readTo.end()) {
+            const std::vector<std::int64_t> received = receivedOf(conversation);
+            known->second
+                = std::max(known->second, received.at(received.size() - static_cast<std::size_t>(unread) - 1));
+        }
+    }
+    void listUnread(Unread listed) override
+    {
+        std::vector<UnreadConversation> all;
+        for (const auto &[address, last] : readTo) {
+            const KeptConversation conversation{.address = address};
+            const std::vector<std::int64_t> received = receivedOf(conversation);
+            const auto unread = std::ranges::count_if(received, [last = last](auto number) { return number > last; });
+            if (unread > 0)
+                all.push_back({conversation, last, static_cast<int>(unread)});
+        }
+        listed(all);
+    }
+    /// The numbers of what others have written there.
+    std::vector<std::int64_t> receivedOf(const KeptConversation &conversation) const
+    {
+        std::vector<std::int64_t> numbers;
+        for (std::size_t i = 0; i < kept.size(); ++i) {
+            if (kept[i].first == conversation && !kept[i].second.isOwn)
+                numbers.push_back(static_cast<std::int64_t>(i + 1));
+        }
+        return numbers;
+    }
     void erase(const HistorySelection &, Done done) override { done(true); }
     std::optional<QString> troubleNow() const override { return std::nullopt; }
     void eraseBefore(const QDateTime &time) override { erasedBefore.push_back(time); }
@@ -758,6 +796,7 @@ public:
     }
 
     std::vector<std::pair<KeptConversation, KeptMessage>> kept;
+    std::map<QString, std::int64_t> readTo; ///< by address, where something is unread
     std::vector<QDateTime> erasedBefore;
 };
 

@@ -419,6 +419,73 @@ TEST_F(HistoryFileTest, FindsASingleEmoji)
     EXPECT_EQ(found(history, QString::fromUtf8("well \U0001F600")).size(), 1);
 }
 
+TEST_F(HistoryFileTest, RemembersWhereReadingStopped)
+{
+    {
+        HistoryFile history(folder);
+        write(history, {QStringLiteral("read")});
+        EXPECT_THAT(history.listUnread(), IsEmpty());
+        history.leaveUnread(ann);
+        EXPECT_THAT(history.listUnread(), IsEmpty()) << "nothing has come";
+        write(history, {QStringLiteral("one"), QStringLiteral("two")});
+        history.leaveUnread(ann); // where reading has stopped already
+        KeptMessage own = message(QStringLiteral("mine"));
+        own.isOwn = true;
+        write(history, ann, own);
+        write(history, {QStringLiteral("three")});
+        write(history, ben, message(QStringLiteral("of another")));
+    }
+    HistoryFile history(folder);
+    ASSERT_EQ(history.listUnread().size(), 1u);
+    EXPECT_EQ(history.listUnread()[0].conversation, ann);
+    EXPECT_EQ(history.listUnread()[0].readTo, 1);
+    EXPECT_EQ(history.listUnread()[0].messages, 3) << "own ones are none";
+    history.setRead(ann, 2);
+    EXPECT_EQ(history.listUnread()[0].readTo, 2);
+    EXPECT_EQ(history.listUnread()[0].messages, 2);
+    history.setRead(ann, 3);
+    EXPECT_EQ(history.listUnread()[0].messages, 2) << "what was read stays so";
+    history.setRead(ben, 1);
+    EXPECT_EQ(history.listUnread().size(), 1u) << "nothing of it was left unread";
+    history.setRead(ann, 0);
+    EXPECT_THAT(history.listUnread(), IsEmpty());
+    write(history, {QStringLiteral("read at once")});
+    EXPECT_THAT(history.listUnread(), IsEmpty());
+}
+
+TEST_F(HistoryFileTest, TheFirstMessageOfAllCanBeLeftUnread)
+{
+    HistoryFile history(folder);
+    history.leaveUnread(ann);
+    EXPECT_THAT(history.list(), IsEmpty());
+    write(history, {QStringLiteral("hello")});
+    ASSERT_EQ(history.listUnread().size(), 1u);
+    EXPECT_EQ(history.listUnread()[0].readTo, 0);
+    EXPECT_EQ(history.listUnread()[0].messages, 1);
+}
+
+/// As the first form was, without a place for where reading stopped.
+TEST_F(HistoryFileTest, AFileOfTheFirstFormIsTakenOver)
+{
+    {
+        HistoryFile history(folder);
+        write(history, {QStringLiteral("kept before")});
+    }
+    sqlite3 *opened = nullptr;
+    ASSERT_EQ(sqlite3_open(file.toUtf8().constData(), &opened), SQLITE_OK);
+    for (const char *const step : {"ALTER TABLE conversations DROP COLUMN read_to", "PRAGMA user_version = 1"})
+        ASSERT_EQ(sqlite3_exec(opened, step, nullptr, nullptr, nullptr), SQLITE_OK) << step;
+    sqlite3_close(opened);
+    for (int start = 0; start < 2; ++start) {
+        HistoryFile history(folder);
+        EXPECT_THAT(found(history, QStringLiteral("before")), ElementsAre(QStringLiteral("kept before")));
+        EXPECT_EQ(history.takenOver(), std::nullopt) << "nothing was damaged";
+        history.leaveUnread(ann);
+        write(history, {QStringLiteral("new")});
+        EXPECT_EQ(history.listUnread().at(0).readTo, 1);
+    }
+}
+
 TEST_F(HistoryFileTest, ANewerFormIsLeftAlone)
 {
     {

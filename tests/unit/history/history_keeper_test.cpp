@@ -112,6 +112,36 @@ TEST_F(HistoryKeeperTest, FindsInAConversationByItsName)
     EXPECT_THAT(counts, ElementsAre(1, 0));
 }
 
+TEST_F(HistoryKeeperTest, TellsTheNextRunWhereReadingStopped)
+{
+    const auto unread = [this] {
+        std::optional<std::vector<UnreadConversation>> answer;
+        keeper->listUnread([&](const std::vector<UnreadConversation> &all) { answer = all; });
+        EXPECT_TRUE(waitUntil([&] { return answer.has_value(); }));
+        return answer.value_or(std::vector<UnreadConversation>());
+    };
+    keep(QStringLiteral("read"));
+    keeper->leaveUnread(with("10.0.0.2"));
+    keep(QStringLiteral("one"));
+    keep(QStringLiteral("two"));
+    keeper.reset();
+    keeper.emplace(folder);
+    const std::vector<UnreadConversation> left = unread();
+    ASSERT_EQ(left.size(), 1u);
+    EXPECT_EQ(left[0].conversation, with("10.0.0.2"));
+    EXPECT_EQ(left[0].readTo, 1);
+    EXPECT_EQ(left[0].messages, 2);
+    keeper->setRead(with("10.0.0.2"), 0);
+    EXPECT_TRUE(unread().empty());
+}
+
+TEST_F(HistoryKeeperTest, MakesNoFileToFindThatNothingIsUnread)
+{
+    keeper->listUnread([](const auto &) { ADD_FAILURE() << "nobody could answer"; });
+    keeper.reset();
+    EXPECT_FALSE(QFile::exists(folder));
+}
+
 TEST_F(HistoryKeeperTest, ErasesWhatWasKeptJustBefore)
 {
     keep(QStringLiteral("gone"));

@@ -37,7 +37,8 @@ protected:
     void writeForLater(const char *text)
     {
         write(text);
-        chat().sendLaterBtn_Click();
+        if (window().shownPeer.canWait) // once in an absence
+            chat().sendLaterBtn_Click();
         sent();
     }
     void annComes(const char *host = "PC-ANN", const char *nickname = "Ann")
@@ -87,7 +88,65 @@ TEST_F(OutboxTest, OffersToSendLaterOnceSomethingWasWrittenThatDoesNotArrive)
     EXPECT_EQ(window().shownPeer.waiting, 1);
     EXPECT_EQ(toBeSent(), 1);
     EXPECT_THAT(fates(), ElementsAre(MessageFate::waits));
+    EXPECT_EQ(window().log.messages.front().receiver, QStringLiteral("Ann"));
     EXPECT_THAT(sent(), IsEmpty());
+}
+
+TEST_F(OutboxTest, OnceChosenWhatIsWrittenLaterInTheSameAbsenceWaitsToo)
+{
+    write("one");
+    EXPECT_FALSE(window().shownPeer.sendsLater);
+    chat().sendLaterBtn_Click();
+    EXPECT_TRUE(window().shownPeer.sendsLater);
+    write("two");
+    EXPECT_FALSE(window().shownPeer.canWait);
+    EXPECT_EQ(toBeSent(), 2);
+    EXPECT_THAT(fates(), ElementsAre(MessageFate::waits, MessageFate::waits));
+    sent();
+    annComes();
+    EXPECT_FALSE(window().shownPeer.sendsLater);
+    copy.advance(5s);
+    EXPECT_THAT(sent(), ElementsAre(testing::StartsWith("-one (written"), testing::StartsWith("-two (written")));
+    copy.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC-ANN Ann");
+    write("three");
+    EXPECT_FALSE(window().shownPeer.sendsLater) << "another absence";
+    EXPECT_TRUE(window().shownPeer.canWait);
+    EXPECT_EQ(toBeSent(), 0);
+}
+
+TEST_F(OutboxTest, WhatWaitsIsTakenBackByTheSameButtonAndMayWaitAgain)
+{
+    write("one");
+    chat().sendLaterBtn_Click();
+    write("two");
+    chat().sendLaterBtn_Click();
+    EXPECT_FALSE(window().shownPeer.sendsLater);
+    EXPECT_TRUE(window().shownPeer.canWait);
+    EXPECT_EQ(toBeSent(), 0);
+    EXPECT_THAT(fates(), ElementsAre(MessageFate::lost, MessageFate::lost));
+    write("three");
+    EXPECT_EQ(toBeSent(), 0);
+    chat().sendLaterBtn_Click();
+    EXPECT_EQ(toBeSent(), 3);
+    sent();
+    annComes();
+    copy.advance(5s);
+    EXPECT_THAT(sent(),
+                ElementsAre(testing::StartsWith("-one (written"), testing::StartsWith("-two (written"),
+                            testing::StartsWith("-three (written")));
+}
+
+TEST_F(OutboxTest, WhereNoMoreCanWaitItIsNotSaidToWait)
+{
+    write("one");
+    chat().sendLaterBtn_Click();
+    for (std::size_t i = 1; i < limits::outboxMessages; ++i)
+        write("more");
+    EXPECT_TRUE(window().shownPeer.sendsLater);
+    write("one too many");
+    EXPECT_FALSE(window().shownPeer.sendsLater);
+    EXPECT_TRUE(window().shownPeer.canWait);
+    EXPECT_EQ(fates().back(), MessageFate::lost);
 }
 
 TEST_F(OutboxTest, SendsWhatWaitsAfterASecondInOrderTwoASecondWithTheTime)

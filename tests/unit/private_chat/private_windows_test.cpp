@@ -503,4 +503,119 @@ TEST_F(ManyPrivateWindows, StrangersWhoWriteALotLeaveRoomForThoseWhomTheUserKnow
 }
 
 } // namespace
+/// Where conversations are kept.
+class UnreadAfterARestart : public testing::Test
+{
+protected:
+    const QString ann = QStringLiteral("10.0.0.2");
+
+    void keep(const char *text, bool isOwn = false)
+    {
+        copy.history.keep({.address = ann}, {.time = {}, .isOwn = isOwn, .text = QString::fromUtf8(text)});
+    }
+    void start()
+    {
+        copy.engine.mainWindow().Form_Load();
+        copy.settleStart({"10.0.0.2"});
+    }
+    int unread() { return copy.contact("10.0.0.2").unread(); }
+
+    Copy copy{{.contacts = {{ann, "Ann"}}, .settings = {{"Options/KeepHistory", "ever"}}, .loaded = false}};
+};
+
+TEST_F(UnreadAfterARestart, TheRowHasItsNumberAndTheWindowKnowsWhereReadingStopped)
+{
+    keep("read");
+    copy.history.leaveUnread({.address = ann});
+    keep("one");
+    keep("mine", true);
+    keep("two");
+    start();
+    EXPECT_EQ(unread(), 2);
+    copy.engine.privateWindows().openPrivate(ann);
+    RecorderPrivateView &window = copy.window(1);
+    EXPECT_EQ(window.earlier.size(), 4u);
+    EXPECT_EQ(window.readTo, 1);
+    EXPECT_EQ(unread(), 2) << "opened, and not seen yet";
+    copy.arrive("10.0.0.2", "-three");
+    EXPECT_EQ(unread(), 3);
+    EXPECT_EQ(window.log.newFrom, std::nullopt) << "the mark is further up";
+    window.inBackground = false;
+    window.chat.endSeen();
+    EXPECT_EQ(unread(), 0);
+    EXPECT_TRUE(copy.history.readTo.empty());
+    window.inBackground = true;
+    copy.arrive("10.0.0.2", "-four");
+    EXPECT_NE(window.log.newFrom, std::nullopt);
+    EXPECT_EQ(copy.history.readTo[ann], 5);
+}
+
+TEST_F(UnreadAfterARestart, AMessageThatOpensTheWindowIsCountedWithThem)
+{
+    copy.history.leaveUnread({.address = ann});
+    keep("one");
+    start();
+    copy.arrive("10.0.0.2", "-two");
+    EXPECT_EQ(unread(), 2);
+    EXPECT_EQ(copy.window(1).readTo, 0);
+    EXPECT_EQ(copy.history.readTo[ann], 0);
+}
+
+TEST_F(UnreadAfterARestart, AllThatIsUnreadIsShown)
+{
+    copy.history.leaveUnread({.address = ann});
+    for (int i = 0; i < 120; ++i)
+        keep("message");
+    start();
+    copy.engine.privateWindows().openPrivate(ann);
+    EXPECT_EQ(copy.window(1).earlier.size(), 120u);
+}
+
+TEST_F(UnreadAfterARestart, WhereReadingStoppedIsKeptWhenTheUserTurnsAway)
+{
+    start();
+    for (const char *const message : {"-one", "-two", "-three"})
+        copy.arrive("10.0.0.2", message);
+    EXPECT_EQ(copy.history.readTo[ann], 0);
+    PrivateChat &chat = copy.window(1).chat;
+    chat.seen(2);
+    EXPECT_EQ(unread(), 2);
+    EXPECT_EQ(copy.history.readTo[ann], 0) << "not with every line that he scrolls";
+    chat.turnedAway();
+    EXPECT_EQ(copy.history.readTo[ann], 1);
+    chat.seen(1);
+    copy.engine.privateWindows().unloadAll();
+    EXPECT_EQ(copy.history.readTo[ann], 2) << "the end of the program is no reading";
+}
+
+TEST_F(UnreadAfterARestart, WhatTheUserClosesOrClearsIsRead)
+{
+    start();
+    copy.arrive("10.0.0.2", "-one");
+    EXPECT_EQ(copy.history.readTo.count(ann), 1u);
+    copy.window(1).chat.Clearbtn_Click();
+    EXPECT_EQ(copy.history.readTo.count(ann), 0u);
+    EXPECT_EQ(unread(), 0);
+    copy.arrive("10.0.0.2", "-two");
+    EXPECT_EQ(copy.history.readTo.count(ann), 1u);
+    copy.window(1).chat.closed(UnloadMode::sessionEnd);
+    EXPECT_EQ(copy.history.readTo.count(ann), 1u);
+    copy.arrive("10.0.0.2", "-three");
+    copy.window(2).chat.closed(UnloadMode::closeBox);
+    EXPECT_EQ(copy.history.readTo.count(ann), 0u);
+}
+
+TEST_F(UnreadAfterARestart, WithoutAHistoryNothingIsKeptAndNothingComesBack)
+{
+    copy.settings.put({{"Options/KeepHistory", QStringLiteral("no")}});
+    copy.history.leaveUnread({.address = ann});
+    keep("one");
+    start();
+    EXPECT_EQ(unread(), 0);
+    copy.history.readTo.clear();
+    copy.arrive("10.0.0.2", "-two");
+    EXPECT_EQ(unread(), 1);
+    EXPECT_TRUE(copy.history.readTo.empty());
+}
+
 } // namespace nimb::test
