@@ -11,6 +11,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <utility>
 
 namespace nimb
 {
@@ -175,6 +176,8 @@ void Outbox::sendNextTo(const ContactAddress &ip)
     giveUpOld();
     const Contact *const contact = m_parts.contacts.find(ip);
     const auto next = firstTo(ip);
+    if (contact && next == m_messages.end())
+        tellWhatWasSent(*contact);
     if (!contact || !isPresent(contact->presence) || m_parts.common.isInvisible() || next == m_messages.end())
         return;
     const WaitingMessage message = *next;
@@ -186,8 +189,21 @@ void Outbox::sendNextTo(const ContactAddress &ip)
         sent != m_messages.end())
         remove(sent);
     save();
-    if (const auto delivery = m_deliveries.find(ip.text()); delivery != m_deliveries.end())
+    if (const auto delivery = m_deliveries.find(ip.text()); delivery != m_deliveries.end()) {
+        ++delivery->second.sent;
         delivery->second.next->start();
+    }
+}
+
+void Outbox::tellWhatWasSent(const Contact &contact)
+{
+    const auto delivery = m_deliveries.find(contact.ip.text());
+    const int sent = delivery == m_deliveries.end() ? 0 : std::exchange(delivery->second.sent, 0);
+    const QString name = paintedName(contact.nickname);
+    if (sent == 1)
+        m_parts.log.remark(tr("--- the message that waited for %1 was sent ---").arg(name));
+    else if (sent > 1)
+        m_parts.log.remark(tr("--- the %1 messages that waited for %2 were sent ---").arg(QString::number(sent), name));
 }
 
 /// The box runs an event loop, in which everything may change.

@@ -63,6 +63,7 @@ private:
     struct Delivery {
         std::unique_ptr<Timer> first, next;
         bool isAsking = false;
+        int sent = 0; ///< since the main log said so
     };
 
     /// Who turned up instead, and of whom the user has said so.
@@ -74,6 +75,8 @@ private:
 
     void deliverTo(const ContactAddress &ip);
     void sendNextTo(const ContactAddress &ip);
+    /// Once all have gone: who looks at no window of theirs sees that they have.
+    void tellWhatWasSent(const Contact &contact);
     /// Somebody else is there.
     void askWhetherMeant(const WaitingMessage &message);
     void giveUpOld();

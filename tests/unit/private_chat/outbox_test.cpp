@@ -177,6 +177,22 @@ TEST_F(OutboxTest, SendsWhatWaitsAfterASecondInOrderTwoASecondWithTheTime)
                             MessageFate::sent, MessageFate::sent));
 }
 
+TEST_F(OutboxTest, TheMainLogSaysOnceThatWhatWaitedHasGone)
+{
+    writeForLater("one");
+    writeForLater("two");
+    annComes();
+    copy.view.log.clear();
+    copy.advance(5s);
+    EXPECT_EQ(copy.view.log.lastLine(), "--- the 2 messages that waited for Ann were sent ---");
+    copy.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC-ANN Ann");
+    writeForLater("three");
+    annComes();
+    copy.view.log.clear();
+    copy.advance(5s);
+    EXPECT_EQ(copy.view.log.lastLine(), "--- the message that waited for Ann was sent ---");
+}
+
 TEST_F(OutboxTest, TheTimeIsADayAndAClockInEnglish)
 {
     EXPECT_EQ(writtenAt(QDateTime(QDate(2026, 11, 24), QTime(14, 5))), QStringLiteral(" (written Tue 14:05)"));
