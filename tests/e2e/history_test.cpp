@@ -25,7 +25,10 @@ protected:
     MainWindow start() { return MainWindow::startBob(bob, ann); }
     QString file() const { return QFileInfo(bob.storeFile()).path() + QStringLiteral("/history.sqlite3"); }
     /// Of a copy of the files, so that the program has them to itself.
-    std::vector<std::string> kept() const
+    std::vector<std::string> kept() const { return column("SELECT text FROM messages ORDER BY id"); }
+    /// Where reading of each conversation stopped; "all" where all was read.
+    std::vector<std::string> readTo() const { return column("SELECT coalesce(read_to, 'all') FROM conversations"); }
+    std::vector<std::string> column(const char *question) const
     {
         const QTemporaryDir folder;
         const QString copy = folder.filePath(QStringLiteral("history.sqlite3"));
@@ -35,7 +38,7 @@ protected:
         sqlite3 *database = nullptr;
         if (QFile::exists(copy) && sqlite3_open(copy.toUtf8().constData(), &database) == SQLITE_OK) {
             sqlite3_exec(
-                database, "SELECT text FROM messages ORDER BY id",
+                database, question,
                 [](void *all, int, char **values, char **) {
                     static_cast<std::vector<std::string> *>(all)->push_back(values[0]);
                     return 0;
@@ -111,6 +114,24 @@ TEST_F(HistoryOfACopy, IsWrittenWholeWhenTheProgramEnds)
     EXPECT_EQ(bob.end(), 0);
     EXPECT_THAT(kept(), ElementsAre("the last word"));
     EXPECT_FALSE(QFile::exists(file() + QStringLiteral("-wal")));
+}
+
+TEST_F(HistoryOfACopy, WhatWasNotReadIsUnreadAtTheNextStartUntilItIsSeen)
+{
+    start();
+    ann.send(bob.address(), "!ONLINE 127.0.52.12 ANN-PC Ann");
+    ann.send(bob.address(), "-one");
+    ann.send(bob.address(), "-two");
+    EXPECT_TRUE(waitUntil([&] { return kept().size() == 2; }));
+    EXPECT_EQ(bob.end(), 0);
+    EXPECT_THAT(readTo(), ElementsAre("0")) << "its window was minimised, and the end closes it unread";
+    const MainWindow again = start();
+    ann.send(bob.address(), "!ONLINE 127.0.52.12 ANN-PC Ann");
+    const PrivateWindow window = again.openWhenOnline(0, "Ann");
+    EXPECT_TRUE(waitUntil([&] { return readTo() == std::vector<std::string>{"all"}; }));
+    EXPECT_EQ(bob.end(), 0);
+    EXPECT_THAT(kept(), ElementsAre("one", "two"));
+    EXPECT_THAT(readTo(), ElementsAre("all"));
 }
 
 class NobodyAsked : public testing::Test
