@@ -215,6 +215,8 @@ constexpr int fileConnectionsOfStrangers = 16;
 constexpr int fileRequestBytes = 16 * 1024;
 /// Time without progress after which a transfer ends.
 constexpr std::chrono::seconds fileTransferStalls{30};
+/// Files up to here are summed within a second, and never after larger ones.
+constexpr std::uint64_t fileSummedSoon = std::uint64_t{128} * 1024 * 1024;
 /// What is read of a file and held in memory at a time, for each transfer.
 constexpr std::size_t filePiece = std::size_t{256} * 1024;
 /// How often the progress of a transfer is told.

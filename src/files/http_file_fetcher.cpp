@@ -316,7 +316,8 @@ private:
         m_state.what = What::checking;
         m_tell(m_state);
         const QByteArray sum = m_sum.result();
-        while (m_head.sum.isEmpty() && m_head.isSumPending && !m_isStopped) {
+        const bool isOnlyShown = m_file.most > 0; // and thrown away: nobody waits for its sum
+        while (m_head.sum.isEmpty() && m_head.isSumPending && !m_isStopped && !isOnlyShown) {
             askForSum();
             if (m_head.sum.isEmpty() && m_head.isSumPending)
                 pause(1s);

@@ -324,7 +324,8 @@ HttpFileServer::~HttpFileServer()
     m_desk->stopAll();
     m_listening.clear();
     m_looking.reset();
-    m_summing.reset();
+    m_summingSmall.reset();
+    m_summingLarge.reset();
 }
 
 void HttpFileServer::serve(const ServedFile &file, std::function<void(const Readied &)> ready)
@@ -384,12 +385,13 @@ std::uint16_t HttpFileServer::listenAt(Ipv4Address address)
     return 0;
 }
 
-/// Beside the transfers, and after one another: what is offered need not wait for it.
+/// Beside the transfers: what is offered need not wait for it. The small ones are apart, for a large one takes minutes.
 void HttpFileServer::beginSum(const std::shared_ptr<Served> &served)
 {
-    if (!m_summing)
-        m_summing = std::make_unique<Jobs>();
-    m_summing->put([this, served] {
+    std::unique_ptr<Jobs> &summing = served->source->size() <= limits::fileSummedSoon ? m_summingSmall : m_summingLarge;
+    if (!summing)
+        summing = std::make_unique<Jobs>();
+    summing->put([this, served] {
         const std::unique_ptr<SourceReader> reader = served->source->open(served->isStopped);
         QCryptographicHash hash(QCryptographicHash::Sha256);
         std::vector<char> room(limits::filePiece);

@@ -49,7 +49,7 @@ private:
     std::uint16_t m_firstPort;
     std::unique_ptr<EventLoopCalls> m_calls; ///< outlives the threads
     std::shared_ptr<Desk> m_desk;
-    std::unique_ptr<Jobs> m_looking, m_summing;
+    std::unique_ptr<Jobs> m_looking, m_summingSmall, m_summingLarge;
     std::map<Ipv4Address, Listening> m_listening;
 };
 

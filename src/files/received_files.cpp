@@ -128,10 +128,20 @@ void ReceivedFiles::resume(int number)
         begin(*file);
 }
 
+/// What waits for its sum alone leaves its place to others.
+bool ReceivedFiles::hasFreePlace() const
+{
+    const auto isChecking = [this](int number) {
+        const ReceivedFile *const file = find(number);
+        return file && file->state == State::checking;
+    };
+    return std::ssize(m_fetching) - std::ranges::count_if(m_fetching, isChecking) < limits::filesReceivedAtOnce;
+}
+
 void ReceivedFiles::beginNext()
 {
     for (ReceivedFile &file : m_files) {
-        if (std::ssize(m_fetching) >= limits::filesReceivedAtOnce)
+        if (!hasFreePlace())
             return;
         const bool isHere = std::ranges::find(m_fetching, file.number) != m_fetching.end();
         if (file.state != State::waiting || isHere)
@@ -162,7 +172,7 @@ void ReceivedFiles::told(const FetchedBytes &fetched)
         finish(*file, fetched);
         rowChanged(*file);
     }
-    if (isOver)
+    if (isOver || fetched.what == What::checking)
         beginNext();
 }
 

@@ -89,6 +89,7 @@ private:
     void told(const FetchedBytes &fetched);
     void finish(ReceivedFile &file, const FetchedBytes &fetched);
     void begin(ReceivedFile &file);
+    bool hasFreePlace() const;
     void beginNext();
     void makeRoom();
     void rowChanged(const ReceivedFile &file);

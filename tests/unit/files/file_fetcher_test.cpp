@@ -273,6 +273,18 @@ TEST_F(OddServerTest, ShowsNothingThatIsTooLarge)
     EXPECT_EQ(fetch(file).sentence, QStringLiteral("It is too large to be shown."));
 }
 
+TEST_F(OddServerTest, ShowsAPictureWithoutWaitingForItsSum)
+{
+    odd.emplace(
+        server,
+        std::vector<QByteArray>{"HTTP/1.1 200 OK\r\nContent-Length: 3\r\nNIMB-Repr-Digest: pending\r\n\r\nabc"});
+    port = odd->serverPort();
+    WantedFile file = wanted();
+    file.most = 10;
+    EXPECT_EQ(fetch(file).what, What::done);
+    EXPECT_THAT(odd->requests, testing::SizeIs(1));
+}
+
 TEST_F(OddServerTest, WaitsWhileTheSenderIsBusy)
 {
     const FetchedBytes state = fetchFrom({"HTTP/1.1 503 Busy\r\nRetry-After: 1\r\nContent-Length: 0\r\n\r\n",

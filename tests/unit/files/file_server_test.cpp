@@ -415,6 +415,20 @@ TEST_F(FileServerTest, ReachesBeyondFourGigabytes)
                 HasSubstr("Content-Length: 21474836480\r\n"));
 }
 
+/// The sum of the large one takes a minute.
+TEST_F(FileServerTest, ALargeFileHoldsUpNoSumOfSmallOnes)
+{
+    QFile file(pathOf(QStringLiteral("large")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(qint64{100} * 1024 * 1024 * 1024));
+    serve(file.fileName());
+    const QString small = QStringLiteral("fedcba9876543210fedcba9876543210");
+    serve(write(QStringLiteral("a"), "abc"), QStringLiteral("a"), small);
+    const auto headOf = [&](const QString &of) { return curl(peer, {QStringLiteral("--head"), of}).out; };
+    EXPECT_TRUE(waitUntil(
+        [&] { return headOf(address(QStringLiteral("a"), small)).contains("Repr-Digest: sha-256=:ungWv48"); }));
+    EXPECT_THAT(headOf(address()).toStdString(), HasSubstr("NIMB-Repr-Digest: pending"));
+}
+
 TEST_F(FileServerTest, LetsALargeFileBeResumed)
 {
     const bool isLong = qEnvironmentVariable("NIMB_FILES") == QLatin1String("long");

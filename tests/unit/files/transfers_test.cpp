@@ -325,6 +325,18 @@ TEST_F(TransfersTest, AFileIsPausedAndResumed)
     EXPECT_THAT(copy.fileFetcher.fetched, SizeIs(3));
 }
 
+TEST_F(TransfersTest, WhatWaitsForItsSumKeepsNobodyWaiting)
+{
+    chat();
+    std::vector<int> numbers;
+    for (int i = 0; i < 5; ++i)
+        received().save(numbers.emplace_back(receiveAnother()), QStringLiteral("/in"));
+    ASSERT_THAT(copy.fileFetcher.fetched, SizeIs(4));
+    tell({.number = numbers.front(), .what = What::checking, .place = 100, .size = 100});
+    ASSERT_THAT(copy.fileFetcher.fetched, SizeIs(5));
+    EXPECT_EQ(copy.fileFetcher.fetched.back().number, numbers.back());
+}
+
 TEST_F(TransfersTest, FourAreFetchedAtATime)
 {
     chat();
