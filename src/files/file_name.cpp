@@ -51,7 +51,8 @@ qsizetype suffixStart(const QString &name)
 
 bool isTooLong(const QString &name)
 {
-    return name.size() > limits::fileNameLength || encodedFileName(name).size() > limits::fileNameEncoded;
+    return name.size() > limits::fileNameLength || name.toUtf8().size() > limits::fileNameBytes
+        || encodedFileName(name).size() > limits::fileNameEncoded;
 }
 
 QString shortened(const QString &name)
