@@ -2,6 +2,7 @@
 #include "files/http_file_fetcher.h"
 
 #include "files/http_file_server.h"
+#include "full_disk.h"
 #include "print_qt.h"
 #include "protocol/address_text.h"
 
@@ -262,6 +263,39 @@ TEST_F(OddServerTest, SaysThatThereIsTooLittleRoom)
 {
     EXPECT_THAT(failureOf("HTTP/1.1 200 OK\r\nContent-Length: 9000000000000000000\r\n\r\nabc"),
                 testing::StartsWith("There is too little room in "));
+}
+
+TEST_F(OddServerTest, LeavesNothingBehindWhereNothingHasCome)
+{
+    failureOf("HTTP/1.1 200 OK\r\nContent-Length: 9000000000000000000\r\n\r\nabc");
+    EXPECT_THAT(found(), IsEmpty());
+    failureOf("HTTP/1.1 404 Not Found\r\n\r\n");
+    EXPECT_THAT(found(), IsEmpty());
+}
+
+TEST_F(OddServerTest, SaysThatTheDiskIsFullAndKeepsWhatHasCome)
+{
+    const QString part = QStringLiteral("Plan.pdf.%1.part").arg(token.left(8));
+    for (const int error : {ENOSPC, EDQUOT}) {
+        {
+            const FullDisk full(4, error);
+            EXPECT_EQ(failureOf("HTTP/1.1 200 OK\r\nContent-Length: 10\r\nETag: \"t\"\r\n\r\n0123456789"),
+                      "There is no room any more in " + inFolder({}).chopped(1).toStdString()
+                          + ". What has come is kept.");
+        }
+        EXPECT_EQ(read(inFolder(part)), "0123");
+    }
+    const FetchedBytes state
+        = fetchFrom({"HTTP/1.1 206 Part\r\nContent-Length: 6\r\nContent-Range: bytes 4-9/10\r\n\r\n456789"});
+    EXPECT_EQ(read(state.path), "0123456789");
+}
+
+TEST_F(OddServerTest, SaysWhyElseItCannotBeWritten)
+{
+    const FullDisk broken(0, EIO);
+    EXPECT_THAT(failureOf("HTTP/1.1 200 OK\r\nContent-Length: 3\r\n\r\nabc"),
+                testing::AllOf(HasSubstr(" cannot be written on: "), HasSubstr("nput/output error")));
+    EXPECT_THAT(found(), IsEmpty());
 }
 
 TEST_F(OddServerTest, ShowsNothingThatIsTooLarge)
