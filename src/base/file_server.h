@@ -39,6 +39,7 @@ public:
         std::uint16_t port = 0;
         QString name{};    ///< in the address
         QString trouble{}; ///< a sentence; empty: served from now on
+        QString leftOut{}; ///< a sentence on what of a folder is not in it; empty: all is
     };
 
     virtual ~FileServer() = default;

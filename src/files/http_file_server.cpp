@@ -362,7 +362,7 @@ void HttpFileServer::lookedAt(const std::shared_ptr<Served> &served, const Found
                 .arg(found.name));
     m_desk->setSource(*served, found);
     beginSum(served);
-    ready({.size = found.source->size(), .port = port, .name = served->file.name});
+    ready({.size = found.source->size(), .port = port, .name = served->file.name, .leftOut = found.leftOut});
 }
 
 std::uint16_t HttpFileServer::listenAt(Ipv4Address address)

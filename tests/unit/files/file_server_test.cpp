@@ -3,6 +3,7 @@
 
 #include "base/limits.h"
 #include "child_process.h"
+#include "ordinary_user.h"
 #include "print_qt.h"
 #include "protocol/address_text.h"
 
@@ -19,6 +20,10 @@
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <list>
 
@@ -543,6 +548,46 @@ TEST_F(FolderServerTest, GivesTheSameBytesHoweverTheyAreAskedFor)
         ASSERT_EQ(whole()->open(isStopped)->read(place, {&one, 1}), 1U);
         ASSERT_EQ(one, all[static_cast<qsizetype>(place)]) << place;
     }
+}
+
+TEST_F(FolderServerTest, SaysWhatOfAFolderIsLeftOut)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("F/closed")));
+    write(QStringLiteral("F/a"), "12345");
+    write(QStringLiteral("F/secret"), "no");
+    write(QStringLiteral("F/closed/inside"), "no");
+    ASSERT_TRUE(QFile::link(pathOf(QStringLiteral("F")), pathOf(QStringLiteral("F/loop"))));
+    const QByteArray pipe = QFile::encodeName(pathOf(QStringLiteral("F/pipe")));
+    ASSERT_EQ(mkfifo(pipe.constData(), 0600), 0);
+    const QByteArray noText = QFile::encodeName(pathOf(QStringLiteral("F"))) + "/\xE4.txt";
+    const int descriptor = ::open(noText.constData(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600);
+    ASSERT_GE(descriptor, 0);
+    ::close(descriptor);
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), QFile::Permissions(0x7755)));
+    ASSERT_TRUE(QFile::setPermissions(pathOf(QStringLiteral("F/secret")), {}));
+    ASSERT_TRUE(QFile::setPermissions(pathOf(QStringLiteral("F/closed")), {}));
+    QString leftOut;
+    {
+        const OrdinaryUser user;
+        const std::atomic<bool> isStopped = false;
+        const FoundSource found = findSource(pathOf(QStringLiteral("F")), isStopped);
+        ASSERT_TRUE(std::holds_alternative<NamedSource>(found));
+        leftOut = std::get<NamedSource>(found).leftOut;
+        EXPECT_GT(std::get<NamedSource>(found).source->size(), 0U);
+    }
+    ASSERT_TRUE(QFile::setPermissions(pathOf(QStringLiteral("F/closed")), QFile::Permissions(0x7700)));
+    EXPECT_EQ(leftOut,
+              QString::fromUtf8("5 left out of F: closed, loop, pipe and 2 more. Links are not followed, and what "
+                                "cannot be read is not sent."));
+    EXPECT_EQ(serve(pathOf(QStringLiteral("F"))), QString());
+}
+
+TEST_F(FolderServerTest, SaysNothingWhereNothingIsLeftOut)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("F/in")));
+    const std::atomic<bool> isStopped = false;
+    const FoundSource found = findSource(pathOf(QStringLiteral("F")), isStopped);
+    EXPECT_EQ(std::get<NamedSource>(found).leftOut, QString());
 }
 
 TEST_F(FolderServerTest, EndsWhenAFileInItChanges)

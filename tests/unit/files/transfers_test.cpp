@@ -134,6 +134,17 @@ TEST_F(TransfersTest, WhatIsReadyWhenTheWindowHasGoneIsNotOffered)
     EXPECT_THAT(copy.fileServer.withdrawn, ElementsAre(served().token));
 }
 
+TEST_F(TransfersTest, WhatOfAFolderIsLeftOutIsSaidAndTheRestIsSent)
+{
+    copy.fileServer.answersAtOnce = false;
+    chat().sendFiles({QStringLiteral("/a")});
+    copy.fileServer.readies.front()(
+        {.size = 5, .port = 5549, .name = QStringLiteral("a.zip"), .leftOut = QStringLiteral("1 left out of a: b.")});
+    EXPECT_THAT(view().fileTroubles, ElementsAre(QStringLiteral("1 left out of a: b.")));
+    EXPECT_THAT(copy.sent(), SizeIs(1));
+    EXPECT_TRUE(offers().isLive(0));
+}
+
 TEST_F(TransfersTest, TooManyAtOnceAreRefused)
 {
     chat().sendFiles(QStringList(21, QStringLiteral("/a")));
