@@ -1,6 +1,5 @@
 #include "files/http_file_server.h"
 
-#include "base/limits.h"
 #include "files/byte_range.h"
 #include "files/file_link.h"
 #include "files/file_name.h"
@@ -311,8 +310,8 @@ std::string rangeText(const ByteRange &range, std::uint64_t size)
 
 } // namespace
 
-HttpFileServer::HttpFileServer(std::uint16_t firstPort)
-    : m_firstPort(firstPort), m_calls(std::make_unique<EventLoopCalls>())
+HttpFileServer::HttpFileServer(std::uint16_t firstPort, std::chrono::seconds stalls)
+    : m_firstPort(firstPort), m_stalls(stalls), m_calls(std::make_unique<EventLoopCalls>())
 {
     m_desk
         = std::make_shared<Desk>([calls = m_calls.get()](std::function<void()> call) { calls->put(std::move(call)); });
@@ -376,7 +375,8 @@ std::uint16_t HttpFileServer::listenAt(Ipv4Address address)
         auto listener = HttpListener::open(
             address, static_cast<std::uint16_t>(port),
             {.answer = [this, address](const HttpRequest &request) { return answer(request, address); },
-             .isExpected = [desk = m_desk](Ipv4Address peer) { return desk->isExpected(peer); }});
+             .isExpected = [desk = m_desk](Ipv4Address peer) { return desk->isExpected(peer); }},
+            m_stalls);
         if (!listener)
             continue;
         m_listening[address] = {std::move(listener), static_cast<std::uint16_t>(port)};

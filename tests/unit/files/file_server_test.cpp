@@ -18,6 +18,7 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <gmock/gmock.h>
 
@@ -351,6 +352,44 @@ TEST_F(FileServerTest, SaysWhereItCannotListen)
                   [&](const FileServer::Readied &now) { readied = now; });
     ASSERT_TRUE(waitUntil([&] { return readied.has_value(); }));
     EXPECT_EQ(readied->trouble, QStringLiteral("Plan.pdf cannot be sent: no port of this computer is free for it."));
+}
+
+/// Its reader takes less in each limit than the buffers between them hold.
+TEST_F(FileServerTest, EndsNoTransferThatIsSlowButGoesOn)
+{
+    server = std::make_unique<HttpFileServer>(std::uint16_t{5549}, std::chrono::seconds(1));
+    server->sent = [this](const SentBytes &sent) { transfers.push_back(sent); };
+    QFile file(pathOf(QStringLiteral("large")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(qint64{200} * 1024 * 1024));
+    serve(file.fileName());
+    QTcpSocket slow;
+    ASSERT_TRUE(slow.bind(QHostAddress(peer.number())));
+    slow.setReadBufferSize(8 * 1024);
+    slow.connectToHost(QHostAddress(own.number()), port);
+    ASSERT_TRUE(slow.waitForConnected(patience));
+    slow.write("GET /" + token.toLatin1() + "/Plan.pdf HTTP/1.1\r\nHost: x\r\n\r\n");
+    qint64 got = 0;
+    QTimer pace;
+    QObject::connect(&pace, &QTimer::timeout, &slow, [&] { got += slow.read(8 * 1024).size(); });
+    pace.start(20);
+    constexpr qint64 longAfterTheLimit = qint64{1500} * 1024;
+    const auto isOver = [this] { return !transfers.empty() && transfers.back().isOver; };
+    EXPECT_TRUE(waitUntil([&] { return got > longAfterTheLimit || isOver(); }));
+    EXPECT_FALSE(isOver()) << got;
+}
+
+TEST_F(FileServerTest, EndsATransferThatStandsStill)
+{
+    server = std::make_unique<HttpFileServer>(std::uint16_t{5549}, std::chrono::seconds(1));
+    server->sent = [this](const SentBytes &sent) { transfers.push_back(sent); };
+    QFile file(pathOf(QStringLiteral("large")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(qint64{200} * 1024 * 1024));
+    serve(file.fileName());
+    const std::unique_ptr<QTcpSocket> socket = connected(peer);
+    socket->setReadBufferSize(1000);
+    socket->write("GET /" + token.toLatin1() + "/Plan.pdf HTTP/1.1\r\nHost: x\r\n\r\n");
+    EXPECT_TRUE(waitUntil([&] { return !transfers.empty() && transfers.back().isOver; }));
+    EXPECT_FALSE(transfers.back().isWhole);
 }
 
 TEST_F(FileServerTest, SendsFourFilesToAPeerAtATime)
