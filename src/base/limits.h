@@ -197,6 +197,8 @@ constexpr qsizetype fileNameEncoded = 800;
 constexpr int filesAtOnce = 20;
 /// Files that are offered at a time: each is a row that somebody has to oversee.
 constexpr int filesOffered = 200;
+/// Files whose fetching is gone on with after the next start.
+constexpr qsizetype filesUnfinished = 50;
 /// Rows of files that others offer, as many as anybody reads; the oldest go first.
 constexpr int filesReceived = 500;
 /// Files and folders in one that is offered: reading their names and sizes takes seconds.

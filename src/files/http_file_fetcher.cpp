@@ -256,6 +256,7 @@ private:
         case 503:
             return waitForTurn();
         case 404:
+            m_state.isGone = true;
             return tr("The sender offers it no longer.");
         default:
             return tr("The sender gave an answer that cannot be used.");
