@@ -48,7 +48,7 @@ public:
     /// Looks at the file, or at all of a folder, and serves it then until it is withdrawn. Nothing here waits: ready is
     /// called later, and not at all once this has ended or the file has been withdrawn.
     virtual void serve(const ServedFile &file, std::function<void(const Readied &)> ready) = 0;
-    /// Breaks off its transfers; listens no more where nothing else is served.
+    /// Breaks off its transfers; soon listens no more where nothing else is served. Nothing here waits.
     virtual void withdraw(const QString &token) = 0;
 
     /// Called while transfers are under way.

@@ -204,10 +204,11 @@ private:
             m_wake.wait(lock, [this] { return m_ends || !m_jobs.empty(); });
             if (m_ends)
                 return;
-            const std::function<void()> job = std::move(m_jobs.front());
+            std::function<void()> job = std::move(m_jobs.front());
             m_jobs.pop_front();
             lock.unlock();
             job();
+            job = nullptr; // with all that it holds
             lock.lock();
         }
     }
@@ -322,6 +323,7 @@ HttpFileServer::~HttpFileServer()
 {
     m_desk->stopAll();
     m_listening.clear();
+    m_closing.reset();
     m_looking.reset();
     m_summingSmall.reset();
     m_summingLarge.reset();
@@ -414,8 +416,15 @@ void HttpFileServer::beginSum(const std::shared_ptr<Served> &served)
 
 void HttpFileServer::withdraw(const QString &token)
 {
-    if (const std::optional<Ipv4Address> empty = m_desk->take(token))
-        m_listening.erase(*empty);
+    const std::optional<Ipv4Address> empty = m_desk->take(token);
+    const auto listening = empty ? m_listening.find(*empty) : m_listening.end();
+    if (listening == m_listening.end())
+        return;
+    // The threads of its connections are waited for, and those perhaps for a slow disk.
+    if (!m_closing)
+        m_closing = std::make_unique<Jobs>();
+    m_closing->put([closed = std::shared_ptr(std::move(listening->second.listener))]() mutable { closed.reset(); });
+    m_listening.erase(listening);
 }
 
 HttpAnswer HttpFileServer::answer(const HttpRequest &request, Ipv4Address at)

@@ -52,7 +52,7 @@ private:
     std::chrono::seconds m_stalls;
     std::unique_ptr<EventLoopCalls> m_calls; ///< outlives the threads
     std::shared_ptr<Desk> m_desk;
-    std::unique_ptr<Jobs> m_looking, m_summingSmall, m_summingLarge;
+    std::unique_ptr<Jobs> m_looking, m_summingSmall, m_summingLarge, m_closing;
     std::map<Ipv4Address, Listening> m_listening;
 };
 

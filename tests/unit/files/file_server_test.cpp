@@ -6,6 +6,7 @@
 #include "ordinary_user.h"
 #include "print_qt.h"
 #include "protocol/address_text.h"
+#include "slow_disk.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -309,7 +310,21 @@ TEST_F(FileServerTest, BreaksOffAndListensNoMoreWhenItIsWithdrawn)
     server->withdraw(token);
     socket->setReadBufferSize(0);
     EXPECT_LT(allFrom(*socket).size(), file.size());
-    EXPECT_EQ(curl(peer, {address()}).status, 7); // nobody there
+    EXPECT_TRUE(waitUntil([&] { return curl(peer, {address()}).status == 7; })) << "nobody is there soon";
+}
+
+TEST_F(FileServerTest, IsWithdrawnAtOnceThoughTheDiskDoesNotAnswer)
+{
+    serve(write(QStringLiteral("a.slow"), "abc"));
+    waitForSum();
+    SlowDisk disk;
+    const std::unique_ptr<QTcpSocket> socket = connected(peer);
+    socket->write("GET /" + token.toLatin1() + "/Plan.pdf HTTP/1.1\r\nHost: x\r\n\r\n");
+    ASSERT_TRUE(waitUntil([] { return SlowDisk::waiting() > 0; }));
+    server->withdraw(token); // or it would never come back
+    EXPECT_EQ(SlowDisk::waiting(), 1);
+    EXPECT_EQ(serve(write(QStringLiteral("b"), "def")), QString());
+    EXPECT_EQ(curl(peer, {address()}).out, "def");
 }
 
 TEST_F(FileServerTest, GoesOnListeningForTheOthers)
