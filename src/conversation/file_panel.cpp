@@ -2,6 +2,7 @@
 
 #include "base/limits.h"
 #include "base/link_opener.h"
+#include "conversation/small_picture.h"
 #include "files/received_files.h"
 #include "widgets/elided_label.h"
 #include "widgets/file_dialogs.h"
@@ -12,16 +13,18 @@
 
 #include <QFileInfo>
 #include <QHBoxLayout>
-#include <QImageReader>
+#include <QImage>
 #include <QLabel>
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QThread>
 #include <QToolButton>
 #include <QUrl>
 
 #include <algorithm>
+#include <memory>
 
 namespace nimb
 {
@@ -30,24 +33,7 @@ namespace
 
 using State = ReceivedFile::State;
 
-constexpr QSize largestShownPicture(240, 90);
-
-/// Empty where it cannot be read, or is larger than anybody photographs.
-QPixmap smallPicture(const QString &path, qreal scale)
-{
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (!size.isValid() || qint64(size.width()) * size.height() > limits::pictureFilePixels)
-        return {};
-    const QSize room = largestShownPicture * scale;
-    if (size.width() > room.width() || size.height() > room.height())
-        reader.setScaledSize(size.scaled(room, Qt::KeepAspectRatio));
-    QPixmap picture = QPixmap::fromImage(reader.read());
-    picture.setDevicePixelRatio(scale);
-    return picture;
-}
+constexpr QSizeF largestShownPicture(240, 90);
 
 QPushButton *rowButton(QWidget *parent, const char *name, const QString &caption)
 {
@@ -131,6 +117,13 @@ FileRow::FileRow(ReceivedFiles &files, int number, LinkOpener &folders, ScratchF
     refresh();
 }
 
+/// The thread ends before what it was made for.
+FileRow::~FileRow()
+{
+    if (m_reading)
+        m_reading->wait();
+}
+
 QWidget *FileRow::makeFirstLine()
 {
     auto *const line = new QWidget(this);
@@ -210,7 +203,7 @@ void FileRow::refresh()
     m_resume->setVisible(file->state == State::paused || file->state == State::failed);
     m_open->setVisible(file->state == State::done);
     m_save->setAccessibleName(tr("Save %1").arg(name));
-    showPicture(file->picture);
+    readPicture(file->picture);
 }
 
 /// Into the folder of the last time, or where the desktop keeps what comes from elsewhere.
@@ -237,16 +230,31 @@ void FileRow::openFolder()
         failed();
 }
 
-void FileRow::showPicture(const QString &path)
+/// Read on a thread of its own: a large one takes long, and comes from somebody else.
+void FileRow::readPicture(const QString &path)
 {
     if (path == m_shownPicture)
         return;
     m_shownPicture = path;
-    const QPixmap picture = smallPicture(path, devicePixelRatioF());
+    if (m_reading)
+        m_reading->wait();
+    const qreal scale = devicePixelRatioF();
+    const auto picture = std::make_shared<QImage>();
+    m_reading.reset(QThread::create(
+        [path, picture, room = (largestShownPicture * scale).toSize()] { *picture = smallPicture(path, room); }));
+    connect(m_reading.get(), &QThread::finished, this, [this, picture, scale] {
+        picture->setDevicePixelRatio(scale);
+        showPicture(*picture);
+    });
+    m_reading->start();
+}
+
+void FileRow::showPicture(const QImage &picture)
+{
     if (picture.isNull())
         m_picture->setText(tr("This is no picture that NIMB-Chat can read."));
     else
-        m_picture->setPixmap(picture);
+        m_picture->setPixmap(QPixmap::fromImage(picture));
     m_picture->setAccessibleName(tr("Picture %1").arg(m_name->text()));
     m_picture->show();
 }

@@ -4,10 +4,13 @@
 #include <QWidget>
 
 #include <list>
+#include <memory>
 
+class QImage;
 class QLabel;
 class QProgressBar;
 class QPushButton;
+class QThread;
 class QToolButton;
 
 namespace nimb
@@ -47,6 +50,7 @@ class FileRow : public QWidget
 
 public:
     FileRow(ReceivedFiles &files, int number, LinkOpener &folders, ScratchFolder &scratch, QWidget *parent);
+    ~FileRow() override;
 
     int number() const { return m_number; }
     /// As the file is now; one that has gone stays as it was.
@@ -61,7 +65,8 @@ private:
     void connectControls();
     void save();
     void openFolder();
-    void showPicture(const QString &path);
+    void readPicture(const QString &path);
+    void showPicture(const QImage &picture);
 
     ReceivedFiles &m_files;
     const int m_number;
@@ -72,7 +77,8 @@ private:
     ElidedLabel *m_state = nullptr;
     QProgressBar *m_bar = nullptr;
     QLabel *m_picture = nullptr;
-    QString m_shownPicture;
+    QString m_shownPicture; ///< or one that is being read
+    std::unique_ptr<QThread> m_reading;
     QPushButton *m_look = nullptr;
     QPushButton *m_save = nullptr;
     QPushButton *m_pause = nullptr;

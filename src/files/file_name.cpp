@@ -139,7 +139,7 @@ QString fileSizeText(quint64 bytes)
 bool isPictureName(const QString &name)
 {
     static const QStringList suffixes{QStringLiteral(".png"), QStringLiteral(".jpg"), QStringLiteral(".jpeg"),
-                                      QStringLiteral(".gif"), QStringLiteral(".bmp"), QStringLiteral(".webp")};
+                                      QStringLiteral(".gif"), QStringLiteral(".webp")};
     return std::ranges::any_of(suffixes,
                                [&](const QString &suffix) { return name.endsWith(suffix, Qt::CaseInsensitive); });
 }

@@ -1,6 +1,7 @@
 // Files in the windows: sending them, what others offer, and the window of transfers.
 #include "controls.h"
 #include "conversation/file_panel.h"
+#include "conversation/small_picture.h"
 #include "private_chat/private_windows.h"
 #include "real_windows.h"
 
@@ -17,6 +18,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QToolButton>
 
 namespace nimb::test
@@ -282,7 +284,7 @@ TEST_F(FilesInWindows, APictureIsShownAfterAClick)
     ASSERT_TRUE(picture.save(path));
     tell({.number = row.number(), .what = What::done, .path = path, .isChecked = true});
     auto &shown = controlOf<QLabel>(row, "shownPicture");
-    EXPECT_TRUE(shown.isVisibleTo(&row));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown.isVisibleTo(&row); }));
     EXPECT_EQ(shown.pixmap().deviceIndependentSize(), QSizeF(180, 90));
     EXPECT_TRUE(isShown(row, "saveBtn"));
     EXPECT_FALSE(isShown(row, "lookBtn"));
@@ -294,11 +296,24 @@ TEST_F(FilesInWindows, WhatIsNoPictureIsSaidToBeNone)
     FileRow &row = *rows().front();
     received().look(row.number(), folder.path());
     QFile file(folder.filePath(QStringLiteral("a.png")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("no picture") > 0);
+    // Qt could draw it, and whatever it leads to.
+    const QByteArray drawing = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" height=\"9\"/>";
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(drawing) > 0);
     file.close();
     tell({.number = row.number(), .what = What::done, .path = file.fileName(), .isChecked = true});
-    EXPECT_EQ(controlOf<QLabel>(row, "shownPicture").text(),
-              QStringLiteral("This is no picture that NIMB-Chat can read."));
+    auto &shown = controlOf<QLabel>(row, "shownPicture");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown.isVisibleTo(&row); }));
+    EXPECT_EQ(shown.text(), QStringLiteral("This is no picture that NIMB-Chat can read."));
+}
+
+TEST(PictureFormat, IsToldByTheFirstBytesAndOneOfFour)
+{
+    EXPECT_EQ(pictureFormatOf("\x89PNG\r\n\x1A\n...."), "png");
+    EXPECT_EQ(pictureFormatOf("\xFF\xD8\xFF\xE0"), "jpeg");
+    EXPECT_EQ(pictureFormatOf("GIF89a"), "gif");
+    EXPECT_EQ(pictureFormatOf("RIFF1234WEBP"), "webp");
+    for (const char *const other : {"", "BM", "<svg", "RIFF1234WAVE", "GIF", "\x89PNG", "%PDF"})
+        EXPECT_EQ(pictureFormatOf(other), "") << other;
 }
 
 TEST_F(FilesInWindows, ThreeRowsAreShownAndThoseUnderWayStay)
