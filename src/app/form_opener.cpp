@@ -21,6 +21,10 @@ FormOpener::FormOpener(const FormServices &services)
               if (m_dialogs)
                   m_dialogs->mnuHistory(address);
           },
+          [this] {
+              if (m_dialogs)
+                  m_dialogs->mnuTransfers();
+          },
           services.folders),
       m_slide(services.common, services.timers)
 {

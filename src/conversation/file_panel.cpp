@@ -24,6 +24,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 
 namespace nimb
@@ -40,6 +41,13 @@ QPushButton *rowButton(QWidget *parent, const char *name, const QString &caption
     auto *const button = named(new QPushButton(caption, parent), name);
     button->setAutoDefault(false);
     return button;
+}
+
+/// That of the last time, or where the desktop keeps what comes from elsewhere.
+QString folderToSaveIn(const ReceivedFiles &files)
+{
+    return files.lastFolder().isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DownloadLocation)
+                                        : files.lastFolder();
 }
 
 } // namespace
@@ -59,6 +67,7 @@ FilePanel::FilePanel(ReceivedFiles &files, LinkOpener &folders, ScratchFolder &s
             if (row->number() == number)
                 row->refresh();
         }
+        showFurther();
     });
 }
 
@@ -69,6 +78,7 @@ void FilePanel::add(int number)
     connect(row, &FileRow::closed, this, &FilePanel::remove);
     layout()->addWidget(row);
     m_rows.push_back(row);
+    showFurther();
     show();
 }
 
@@ -82,7 +92,64 @@ void FilePanel::makeRoom()
         return !file || !file->isUnderWay();
     };
     const auto idle = std::ranges::find_if(m_rows, isIdle);
-    remove(idle == m_rows.end() ? m_rows.front()->number() : (*idle)->number());
+    const int further = idle == m_rows.end() ? m_rows.front()->number() : (*idle)->number();
+    m_further.push_back(further);
+    remove(further);
+}
+
+std::vector<int> FilePanel::offered() const
+{
+    std::vector<int> numbers = m_further;
+    std::ranges::transform(m_rows, std::back_inserter(numbers), &FileRow::number);
+    std::erase_if(numbers, [this](int number) {
+        const ReceivedFile *const file = m_files.find(number);
+        return !file || file->state != State::offered;
+    });
+    return numbers;
+}
+
+void FilePanel::showFurther()
+{
+    std::erase_if(m_further, [this](int number) { return !m_files.find(number); });
+    const bool hasSeveral = offered().size() > 1;
+    if (!m_furtherLine && (hasSeveral || !m_further.empty()))
+        makeFurtherLine();
+    if (!m_furtherLine)
+        return;
+    const QString sentence = tr("Further files: %1.").arg(m_further.size());
+    m_furtherCount->setText(sentence + tr(" <a href=\"all\">Show all</a>"));
+    m_furtherCount->setAccessibleName(sentence);
+    m_furtherCount->setVisible(!m_further.empty());
+    m_saveAll->setVisible(hasSeveral);
+    m_furtherLine->setVisible(hasSeveral || !m_further.empty());
+}
+
+void FilePanel::makeFurtherLine()
+{
+    m_furtherLine = named(new QWidget(this), "furtherFiles");
+    m_furtherCount = named(new QLabel(m_furtherLine), "furtherCount");
+    m_furtherCount->setTextFormat(Qt::RichText);
+    m_furtherCount->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    m_saveAll = rowButton(m_furtherLine, "saveAllBtn", tr("Save all..."));
+    m_saveAll->setToolTip(tr("Saves all that is offered here, in one folder"));
+    auto *const line = new QHBoxLayout(m_furtherLine);
+    line->setContentsMargins(form_layout::margin, 0, form_layout::spacing, 0);
+    line->addWidget(m_furtherCount);
+    line->addStretch(1);
+    line->addWidget(m_saveAll);
+    static_cast<QVBoxLayout *>(layout())->insertWidget(0, m_furtherLine);
+    connect(m_furtherCount, &QLabel::linkActivated, this, &FilePanel::allWanted);
+    connect(m_saveAll, &QPushButton::clicked, this, &FilePanel::saveAll);
+}
+
+void FilePanel::saveAll()
+{
+    askForSaveFolder(*window(), folderToSaveIn(m_files), [panel = QPointer(this)](const QString &path) {
+        if (!panel)
+            return;
+        for (const int number : panel->offered())
+            panel->m_files.save(number, path);
+    });
 }
 
 void FilePanel::remove(int number)
@@ -93,6 +160,7 @@ void FilePanel::remove(int number)
     (*which)->hide();
     (*which)->deleteLater();
     m_rows.erase(which);
+    showFurther();
     setVisible(!m_rows.empty());
 }
 
@@ -206,13 +274,9 @@ void FileRow::refresh()
     readPicture(file->picture);
 }
 
-/// Into the folder of the last time, or where the desktop keeps what comes from elsewhere.
 void FileRow::save()
 {
-    const QString folder = m_files.lastFolder().isEmpty()
-        ? QStandardPaths::writableLocation(QStandardPaths::DownloadLocation)
-        : m_files.lastFolder();
-    askForSaveFolder(*window(), folder,
+    askForSaveFolder(*window(), folderToSaveIn(m_files),
                      [&files = m_files, number = m_number](const QString &path) { files.save(number, path); });
 }
 

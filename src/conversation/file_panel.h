@@ -5,6 +5,7 @@
 
 #include <list>
 #include <memory>
+#include <vector>
 
 class QImage;
 class QLabel;
@@ -22,7 +23,8 @@ class LinkOpener;
 class ReceivedFiles;
 class ScratchFolder;
 
-/// The newest files, one row each; hidden while there are none. Nothing is fetched by itself.
+/// The newest files, one row each, and above them how many more there are; hidden while there are none. Nothing is
+/// fetched by itself.
 class FilePanel : public QWidget
 {
     Q_OBJECT
@@ -33,14 +35,27 @@ public:
 
     void add(int number);
 
+Q_SIGNALS:
+    /// The user wants to see those that have no row here.
+    void allWanted();
+
 private:
     void remove(int number);
     void makeRoom();
+    void showFurther();
+    void makeFurtherLine();
+    void saveAll();
+    /// Those of this conversation with which nothing has been done yet.
+    std::vector<int> offered() const;
 
     ReceivedFiles &m_files;
     LinkOpener &m_folders;
     ScratchFolder &m_scratch;
     std::list<FileRow *> m_rows;
+    std::vector<int> m_further; ///< numbers of those that had to make room
+    QWidget *m_furtherLine = nullptr;
+    QLabel *m_furtherCount = nullptr;
+    QPushButton *m_saveAll = nullptr;
 };
 
 /// One file, and what can be done with it now.

@@ -96,6 +96,13 @@ protected:
         }
         qFatal("no window of transfers");
     }
+    /// The same file from Ann, each with another token.
+    void receiveAnother(int which)
+    {
+        std::string another = annsPlan;
+        another[another.rfind('/') - 1] = static_cast<char>('0' + which);
+        windows.arrive("10.0.0.2", another);
+    }
     void tell(const FetchedBytes &fetched) { windows.fileFetcher.told(fetched); }
 
     RealWindows windows{{{"10.0.0.2", "Ann"}}};
@@ -331,6 +338,47 @@ TEST_F(FilesInWindows, ThreeRowsAreShownAndThoseUnderWayStay)
         numbers.push_back(row->number());
     EXPECT_THAT(numbers, ElementsAre(first, first + 4, first + 5));
     EXPECT_EQ(received().rowCount(), 6);
+}
+
+TEST_F(FilesInWindows, FurtherFilesAreCountedAndShownTogether)
+{
+    const auto line = [this] { return form().findChild<QWidget *>(QStringLiteral("furtherFiles")); };
+    receiveAnother(0);
+    EXPECT_FALSE(line()) << "nothing is made before it is needed";
+    for (int i = 1; i < 6; ++i)
+        receiveAnother(i);
+    ASSERT_TRUE(line() && line()->isVisibleTo(&form()));
+    auto &count = control<QLabel>("furtherCount");
+    EXPECT_TRUE(count.isVisibleTo(&form()));
+    EXPECT_THAT(count.text().toStdString(), testing::StartsWith("Further files: 3."));
+    Q_EMIT count.linkActivated(QStringLiteral("all"));
+    EXPECT_TRUE(std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget *window) {
+        return window->objectName() == QLatin1String("frmTransfers") && window->isVisible();
+    }));
+}
+
+TEST_F(FilesInWindows, AllThatIsOfferedIsSavedAtOnce)
+{
+    for (int i = 0; i < 5; ++i)
+        receiveAnother(i);
+    received().save(received().at(1).number, QStringLiteral("/elsewhere"));
+    control<QPushButton>("saveAllBtn").click();
+    QMetaObject::invokeMethod(&dialog(), "fileSelected", Q_ARG(QString, folder.path()));
+    for (int row = 0; row < 5; ++row)
+        EXPECT_EQ(received().at(row).folder, row == 1 ? QStringLiteral("/elsewhere") : folder.path());
+    EXPECT_FALSE(control<QPushButton>("saveAllBtn").isVisibleTo(&form())) << "nothing is left";
+    EXPECT_TRUE(control<QLabel>("furtherCount").isVisibleTo(&form()));
+}
+
+TEST_F(FilesInWindows, OneFileIsSavedByItsRowAlone)
+{
+    receiveAnother(0);
+    EXPECT_FALSE(form().findChild<QPushButton *>(QStringLiteral("saveAllBtn")));
+    receiveAnother(1);
+    EXPECT_TRUE(control<QPushButton>("saveAllBtn").isVisibleTo(&form()));
+    EXPECT_FALSE(control<QLabel>("furtherCount").isVisibleTo(&form()));
+    controlOf<QToolButton>(*rows().front(), "closeRowBtn").click();
+    EXPECT_FALSE(control<QPushButton>("saveAllBtn").isVisibleTo(&form()));
 }
 
 TEST_F(FilesInWindows, ARowIsHidden)
