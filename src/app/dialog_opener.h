@@ -70,6 +70,8 @@ public:
     void mnuNetworkDoctor() override;
     void mnuShortcuts() override;
     void mnuTransfers() override;
+    bool canSendFiles() const override;
+    void mnuSendFile(const QString &ip) override;
     void mnuHistory(const QString &ip) override;
     void mnuLeaveOut(const QString &ip, bool leftOut) override;
     bool hasManual() const override;

@@ -220,9 +220,9 @@ void ConversationPane::connectFiles()
     connect(fileBand, &QLabel::linkActivated, this, &ConversationPane::fileBand_Click);
     intext->setTakesPictures(true);
     connect(intext, &MessageInput::picturePasted, this, &ConversationPane::offerPicture);
-    auto *const sendFile = named(new QAction(tr("Send &Files..."), this), "logSendFile");
+    auto *const sendFile = named(new QAction(tr("Send Fil&es..."), this), "logSendFile");
     connect(sendFile, &QAction::triggered, this, &ConversationPane::askForSentFiles);
-    auto *const sendFolder = named(new QAction(tr("Send a F&older..."), this), "logSendFolder");
+    auto *const sendFolder = named(new QAction(tr("Send a Fol&der..."), this), "logSendFolder");
     connect(sendFolder, &QAction::triggered, this,
             [this] { askForSentFolder(*window(), [this](const QString &path) { sendFiles({path}); }); });
     m_outtext->setFurtherCommands({sendFile, sendFolder});

@@ -145,6 +145,18 @@ TEST_F(FilesInWindows, TheToolAsksForFiles)
     EXPECT_EQ(paths(), QStringList{one.fileName()});
 }
 
+TEST_F(FilesInWindows, TheContextMenuOfAContactSendsFiles)
+{
+    form().close();
+    windows.click(0, Qt::RightButton);
+    EXPECT_TRUE(windows.entry("mnuSendFile").isVisible());
+    windows.entry("mnuSendFile").trigger();
+    QMetaObject::invokeMethod(&dialog(), "filesSelected", Q_ARG(QStringList, {QStringLiteral("/media/me/a.txt")}));
+    EXPECT_EQ(paths(), QStringList{QStringLiteral("/media/me/a.txt")});
+    EXPECT_THAT(windows.sent(), SizeIs(1));
+    EXPECT_TRUE(windows.privateWindow().isVisible());
+}
+
 TEST_F(FilesInWindows, TheContextMenuOfTheLogSendsFilesAndFolders)
 {
     auto &log = control<QTextEdit>("outtext");
@@ -153,10 +165,16 @@ TEST_F(FilesInWindows, TheContextMenuOfTheLogSendsFilesAndFolders)
     auto *const menu = log.findChild<QMenu *>(QStringLiteral("logMenu"));
     ASSERT_TRUE(menu);
     QStringList entries;
-    for (const QAction *const action : menu->actions())
+    QString accessKeys;
+    for (const QAction *const action : menu->actions()) {
         entries += action->text();
+        if (const qsizetype mark = action->text().indexOf(u'&'); mark >= 0)
+            accessKeys += action->text().at(mark + 1).toLower();
+    }
+    std::ranges::sort(accessKeys);
+    EXPECT_EQ(std::ranges::adjacent_find(accessKeys), accessKeys.end()) << accessKeys.toStdString();
     EXPECT_EQ(entries.mid(entries.size() - 2),
-              (QStringList{QStringLiteral("Send &Files..."), QStringLiteral("Send a F&older...")}));
+              (QStringList{QStringLiteral("Send Fil&es..."), QStringLiteral("Send a Fol&der...")}));
     menu->actions().last()->trigger();
     QMetaObject::invokeMethod(&dialog(), "fileSelected", Q_ARG(QString, folder.path()));
     EXPECT_EQ(paths(), QStringList{folder.path()});
@@ -218,6 +236,8 @@ TEST(FilesWithoutAServer, AreNotOfferedToBeSent)
     windows.doubleClick(0);
     QWidget &form = windows.privateWindow();
     EXPECT_FALSE(controlOf(form, "sendFileBtn").isVisibleTo(&form));
+    windows.click(0, Qt::RightButton);
+    EXPECT_FALSE(windows.entry("mnuSendFile").isVisible());
     windows.arrive("10.0.0.2", annsPlan);
     EXPECT_THAT(form.findChildren<FileRow *>(), SizeIs(1)) << "others' are received";
 }
