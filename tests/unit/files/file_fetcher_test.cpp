@@ -5,15 +5,13 @@
 #include "full_disk.h"
 #include "print_qt.h"
 #include "protocol/address_text.h"
+#include "served_files.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QRandomGenerator>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 
@@ -31,20 +29,10 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using What = FetchedBytes::What;
 
-constexpr int patience = 60000; ///< milliseconds
-const QString token = QStringLiteral("0123456789abcdef0123456789abcdef");
-
-/// Those of one test process; others have others.
-Ipv4Address ownLoopback(int last)
-{
-    const auto pid = static_cast<std::uint32_t>(QCoreApplication::applicationPid());
-    return Ipv4Address(127, 6, static_cast<std::uint8_t>(pid >> 8), static_cast<std::uint8_t>((pid & 0xF0) | last));
-}
-
-class FileFetcherTest : public testing::Test
+class FileFetcherTest : public FilesOnLoopback
 {
 protected:
-    FileFetcherTest()
+    FileFetcherTest() : FilesOnLoopback(6)
     {
         renew();
         EXPECT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("in")));
@@ -55,33 +43,12 @@ protected:
         fetcher = std::make_unique<HttpFileFetcher>();
         fetcher->told = [this](const FetchedBytes &now) { states.push_back(now); };
     }
-    static bool waitUntil(const std::function<bool()> &condition)
-    {
-        QElapsedTimer time;
-        time.start();
-        while (!condition() && time.elapsed() < patience)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
-        return condition();
-    }
     static bool isOver(const FetchedBytes &state)
     {
         return state.what == What::done || state.what == What::stopped || state.what == What::failed;
     }
     QString inFolder(const QString &name) const { return folder.filePath(QStringLiteral("in/") + name); }
     QStringList found() const { return QDir(folder.filePath(QStringLiteral("in"))).entryList(QDir::Files); }
-    QString write(const QString &name, const QByteArray &bytes) const
-    {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        EXPECT_EQ(file.write(bytes), bytes.size());
-        return file.fileName();
-    }
-    static QByteArray read(const QString &path)
-    {
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-        return file.readAll();
-    }
     WantedFile wanted(const QString &name = QStringLiteral("Plan.pdf")) const
     {
         return {.number = 1,
@@ -100,9 +67,8 @@ protected:
         return states.empty() ? FetchedBytes{} : states.back();
     }
 
-    const Ipv4Address server = ownLoopback(1), own = ownLoopback(2);
+    const Ipv4Address server = loopback(1), own = loopback(2);
     std::uint16_t port = 5549;
-    QTemporaryDir folder;
     std::unique_ptr<HttpFileFetcher> fetcher;
     std::vector<FetchedBytes> states;
 };
@@ -388,7 +354,7 @@ TEST_F(FetchedFromUsTest, OthersGetNothing)
 {
     serve(write(QStringLiteral("a"), "abc"));
     WantedFile file = wanted();
-    file.from = ownLoopback(3);
+    file.from = loopback(3);
     EXPECT_EQ(fetch(file).sentence, QStringLiteral("The sender offers it no longer."));
 }
 

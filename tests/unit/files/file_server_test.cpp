@@ -6,19 +6,17 @@
 #include "ordinary_user.h"
 #include "print_qt.h"
 #include "protocol/address_text.h"
+#include "served_files.h"
 #include "slow_disk.h"
 
-#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QStandardPaths>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <gmock/gmock.h>
@@ -39,54 +37,20 @@ using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 
-constexpr int patience = 60000; ///< milliseconds
-const QString token = QStringLiteral("0123456789abcdef0123456789abcdef");
-
-/// Those of one test process; others have others.
-Ipv4Address loopback(int last)
-{
-    const auto pid = static_cast<std::uint32_t>(QCoreApplication::applicationPid());
-    return Ipv4Address(127, 5, static_cast<std::uint8_t>(pid >> 8), static_cast<std::uint8_t>((pid & 0xF0) | last));
-}
-
-class FileServerTest : public testing::Test
+class FileServerTest : public FilesOnLoopback
 {
 protected:
-    FileServerTest()
+    FileServerTest() : FilesOnLoopback(5)
     {
         server->sent = [this](const SentBytes &sent) { transfers.push_back(sent); };
         server->failed = [this](const QString &, const QString &sentence) { failures += sentence; };
     }
 
-    static bool waitUntil(const std::function<bool()> &condition)
-    {
-        QElapsedTimer time;
-        time.start();
-        while (!condition() && time.elapsed() < patience)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
-        return condition();
-    }
-
-    QString pathOf(const QString &name) const { return folder.filePath(name); }
-    QString write(const QString &name, const QByteArray &bytes) const
-    {
-        QFile file(pathOf(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        EXPECT_EQ(file.write(bytes), bytes.size());
-        return file.fileName();
-    }
-    static QByteArray read(const QString &path)
-    {
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-        return file.readAll();
-    }
-
     /// Served to the peer; the sentence of the trouble, or none.
-    QString serve(const QString &path, const QString &name = QStringLiteral("Plan.pdf"), const QString &as = token)
+    QString serve(const QString &path, const QString &name = QStringLiteral("Plan.pdf"), const QString &as = {})
     {
         std::optional<FileServer::Readied> readied;
-        server->serve({.token = as, .name = name, .path = path, .to = {peer}, .at = own},
+        server->serve({.token = as.isEmpty() ? token : as, .name = name, .path = path, .to = {peer}, .at = own},
                       [&](const FileServer::Readied &now) { readied = now; });
         EXPECT_TRUE(waitUntil([&] { return readied.has_value(); }));
         size = readied ? readied->size : 0;
@@ -94,9 +58,12 @@ protected:
         servedName = readied ? readied->name : QString();
         return readied ? readied->trouble : QString();
     }
-    QString address(const QString &name = QStringLiteral("Plan.pdf"), const QString &of = token) const
+    QString address(const QString &name = QStringLiteral("Plan.pdf"), const QString &of = {}) const
     {
-        return QStringLiteral("http://%1:%2/%3/%4").arg(addressText(own)).arg(port).arg(of, name);
+        return QStringLiteral("http://%1:%2/%3/%4")
+            .arg(addressText(own))
+            .arg(port)
+            .arg(of.isEmpty() ? token : of, name);
     }
 
     struct Ended {
@@ -146,7 +113,6 @@ protected:
     }
 
     const Ipv4Address own = loopback(1), peer = loopback(2), stranger = loopback(3);
-    QTemporaryDir folder;
     std::unique_ptr<HttpFileServer> server = std::make_unique<HttpFileServer>();
     std::vector<SentBytes> transfers;
     QStringList failures;

@@ -1,14 +1,12 @@
 #include "slow_disk.h"
 
-#include <dlfcn.h>
-#include <unistd.h>
+#include "open_file.h"
 
-#include <array>
+#include <dlfcn.h>
+
 #include <atomic>
 #include <condition_variable>
 #include <mutex>
-#include <string>
-#include <string_view>
 
 namespace nimb::test
 {
@@ -26,13 +24,6 @@ DiskState &diskState()
 {
     static DiskState state;
     return state;
-}
-
-bool isSlowFile(int descriptor)
-{
-    std::array<char, 4096> path{};
-    const ssize_t length = readlink(("/proc/self/fd/" + std::to_string(descriptor)).c_str(), path.data(), path.size());
-    return length > 0 && std::string_view(path.data(), static_cast<std::size_t>(length)).ends_with(".slow");
 }
 
 void waitForDisk()
@@ -70,7 +61,7 @@ extern "C" ssize_t read(int descriptor, void *room, std::size_t size)
 {
     using namespace nimb::test;
     const auto systemsOwn = reinterpret_cast<decltype(&read)>(dlsym(RTLD_NEXT, "read"));
-    if (diskState().isSlow && isSlowFile(descriptor))
+    if (diskState().isSlow && pathOfDescriptor(descriptor).ends_with(".slow"))
         waitForDisk();
     return systemsOwn(descriptor, room, size);
 }
