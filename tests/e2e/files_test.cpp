@@ -45,15 +45,14 @@ void choosePath(const std::string &title, const QString &path)
     }));
 }
 
-/// Along the Tab key from the input box to the tool, then the name of the file in the dialog.
-void sendFile(const PrivateWindow &window, const QString &path)
+/// Presses until there is a window of that title: another window may have come to the front just now.
+void clickUntil(const std::string &title, const PrivateWindow &window, int fromRight, int aboveBottom)
 {
-    window.focusInput();
-    constexpr int stopsToTool = 9;
-    for (int stop = 0; stop < stopsToTool; ++stop)
-        press("Tab");
-    press("space");
-    choosePath("Choose files to send", path);
+    EXPECT_TRUE(waitUntil([&] {
+        window.activate();
+        window.click(window.place().width - fromRight, window.place().height - aboveBottom);
+        return waitUntil([&] { return Window::exists(title); }, std::chrono::seconds(1));
+    }));
 }
 
 class FilesOfACopy : public testing::Test
@@ -77,6 +76,7 @@ protected:
                     profile(port, {{"127.0.53.12", "Ann", "ANN-PC"}}, {{{"Options", "FilesExplained"}, "-1"}})};
 };
 
+/// Along the Tab key from the input box to the tool, then the name of the file in the dialog.
 TEST_F(FilesOfACopy, AreFetchedByWhomTheyAreMeantFor)
 {
     const QString path = bob.scratchFolder() + QStringLiteral("/Plan of the day.txt");
@@ -84,7 +84,12 @@ TEST_F(FilesOfACopy, AreFetchedByWhomTheyAreMeantFor)
     const MainWindow main = MainWindow::startBob(bob, ann);
     ann.send(bob.address(), "!ONLINE 127.0.53.12 ANN-PC Ann");
     const PrivateWindow window = main.openWhenOnline(0, "Ann");
-    sendFile(window, path);
+    window.focusInput();
+    constexpr int stopsToTool = 9;
+    for (int stop = 0; stop < stopsToTool; ++stop)
+        press("Tab");
+    press("space");
+    choosePath("Choose files to send", path);
     const std::string message
         = ann.hearWhere([](const std::string &bytes) { return bytes.starts_with("-Plan of the day.txt "); }).bytes;
     EXPECT_THAT(message,
@@ -121,17 +126,19 @@ protected:
         return MainWindow::of("Bob").openWhenOnline(0, "Ann");
     }
 
+    /// By the paper clip beside "Send".
+    static void sendFile(const PrivateWindow &window, const QString &path)
+    {
+        constexpr int fromRight = 107, aboveBottom = 68; // pixels
+        clickUntil("Choose files to send", window, fromRight, aboveBottom);
+        choosePath("Choose files to send", path);
+    }
     /// Ann presses "Save..." in the newest row, once that is there: above it a row has its second line there.
     void saveNewestFile(const PrivateWindow &window) const
     {
         constexpr int fromRight = 85, aboveBottom = 155; // pixels
-        const std::string title = "Choose a folder to save in";
-        window.activate();
-        EXPECT_TRUE(waitUntil([&] {
-            window.click(window.place().width - fromRight, window.place().height - aboveBottom);
-            return waitUntil([&] { return Window::exists(title); }, std::chrono::milliseconds(500));
-        }));
-        choosePath(title, annsFolder());
+        clickUntil("Choose a folder to save in", window, fromRight, aboveBottom);
+        choosePath("Choose a folder to save in", annsFolder());
     }
 
     const std::uint16_t port = freePort();
