@@ -19,12 +19,12 @@ class ConversationForms : public PrivateForms, public ConferenceForms
 {
 public:
     /// emojiUsed: called when what of common was used lately has changed.
-    /// openHistory: see ConversationTools.
-    /// folders: likewise.
+    /// openHistory, openTransfers, folders: see ConversationTools.
     ConversationForms(LinkOpener &links, Common &common, std::function<void()> emojiUsed, Spelling &spelling,
-                      std::function<void(const QString &, const QString &)> openHistory, LinkOpener &folders)
+                      std::function<void(const QString &, const QString &)> openHistory,
+                      std::function<void()> openTransfers, LinkOpener &folders)
         : m_links(links), m_emoji(common, std::move(emojiUsed)), m_spelling(spelling),
-          m_openHistory(std::move(openHistory)), m_folders(folders)
+          m_openHistory(std::move(openHistory)), m_openTransfers(std::move(openTransfers)), m_folders(folders)
     {
     }
 
@@ -39,6 +39,7 @@ private:
     Spelling &m_spelling;
     LogRoom m_logRoom;
     std::function<void(const QString &, const QString &)> m_openHistory;
+    std::function<void()> m_openTransfers;
     LinkOpener &m_folders;
     ScratchFolder m_scratch;
 };

@@ -140,6 +140,21 @@ void DialogOpener::mnuTransfers()
     m_transfers->activateWindow();
 }
 
+bool DialogOpener::canSendFiles() const
+{
+    return m_engine.transfers().offers.isAvailable();
+}
+
+void DialogOpener::mnuSendFile(const QString &ip)
+{
+    const Contact *const contact = m_engine.contacts().find(ip);
+    if (!contact)
+        return;
+    if (contact->presence == Presence::unknown)
+        return m_engine.contactCommands().mnuPrivateChat(ip); // which says why nothing opens
+    askForFiles(m_main, [this, ip](const QStringList &paths) { m_engine.privateWindows().sendFiles(ip, paths); });
+}
+
 void DialogOpener::mnuHistory(const QString &ip)
 {
     openHistory(ip, {});

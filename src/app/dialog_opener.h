@@ -70,6 +70,8 @@ public:
     void mnuNetworkDoctor() override;
     void mnuShortcuts() override;
     void mnuTransfers() override;
+    bool canSendFiles() const override;
+    void mnuSendFile(const QString &ip) override;
     void mnuHistory(const QString &ip) override;
     /// The same, and looks for words.
     void openHistory(const QString &ip, const QString &words);

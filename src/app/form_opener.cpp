@@ -21,6 +21,10 @@ FormOpener::FormOpener(const FormServices &services)
               if (m_dialogs)
                   m_dialogs->openHistory(address, words);
           },
+          [this] {
+              if (m_dialogs)
+                  m_dialogs->mnuTransfers();
+          },
           services.folders),
       m_slide(services.common, services.timers)
 {

@@ -9,7 +9,8 @@ Messenger::Messenger(Common &common, const Surroundings &around)
       m_log(around.mainView.outtext(), around.clock),
       m_notices({common, m_contacts, around.notifications, around.sound, around.timers}),
       m_history(around.history, common, around.clock),
-      m_transfers({around.fileServer, common, around.prompts, around.timers, around.clock, m_log}, around.fileFetcher),
+      m_transfers({around.fileServer, common, around.prompts, around.timers, around.clock, m_log}, around.fileFetcher,
+                  around.store),
       m_unknown(m_log, around.timers), m_sender(common, around.socket),
       m_announcement(common, m_contacts, m_sender, around.timers, around.clock, around.mainView),
       m_ownState(common, m_contacts, m_sender, m_announcement, m_log, around.mainView, [this] { ownStateChanged(); }),
@@ -78,6 +79,7 @@ Messenger::Messenger(Common &common, const Surroundings &around)
                     [this] {
                         m_outbox.load();
                         m_privateWindows.loadUnread();
+                        m_transfers.unfinished.load();
                     },
                     [this] { unloadOtherWindows(); },
                     [this] { return m_transfers.underWay(); },
@@ -133,6 +135,7 @@ void Messenger::endWithoutWindows()
 {
     m_search.end();
     m_outbox.end();
+    m_transfers.unfinished.save();
     m_conferences.takeLeave();
     tellOfWaiting();
     m_invitations.Form_Unload();
@@ -149,6 +152,7 @@ void Messenger::unloadOtherWindows()
 {
     m_search.end();
     m_outbox.end();
+    m_transfers.unfinished.save();
     m_conferences.unloadAll();
     tellOfWaiting();
     m_privateWindows.unloadAll();

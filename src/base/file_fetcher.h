@@ -40,6 +40,7 @@ struct FetchedBytes {
     QString path{};         ///< done: where it is
     bool isChecked = false; ///< done: the sum is that of the peer
     QString sentence{};     ///< failed: why
+    bool isGone = false;    ///< failed: it will not be had any more
 };
 
 class FileFetcher

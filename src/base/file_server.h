@@ -39,6 +39,7 @@ public:
         std::uint16_t port = 0;
         QString name{};    ///< in the address
         QString trouble{}; ///< a sentence; empty: served from now on
+        QString leftOut{}; ///< a sentence on what of a folder is not in it; empty: all is
     };
 
     virtual ~FileServer() = default;
@@ -47,7 +48,7 @@ public:
     /// Looks at the file, or at all of a folder, and serves it then until it is withdrawn. Nothing here waits: ready is
     /// called later, and not at all once this has ended or the file has been withdrawn.
     virtual void serve(const ServedFile &file, std::function<void(const Readied &)> ready) = 0;
-    /// Breaks off its transfers; listens no more where nothing else is served.
+    /// Breaks off its transfers; soon listens no more where nothing else is served. Nothing here waits.
     virtual void withdraw(const QString &token) = 0;
 
     /// Called while transfers are under way.

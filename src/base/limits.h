@@ -187,14 +187,18 @@ constexpr qsizetype spellingSuggestions = 5;
 constexpr std::chrono::milliseconds suggestionTime{100};
 /// Bytes of each file of a dictionary: several times the largest that there is.
 constexpr qint64 dictionaryFileBytes = qint64{32} * 1024 * 1024;
-/// Characters of the name of a file that goes to another computer: systems allow 255 bytes, and a number may follow.
+/// Characters of the name of a file that goes to another computer.
 constexpr qsizetype fileNameLength = 200;
+/// Of the same name in UTF-8: systems allow 255, and a number or the mark of what is unfinished follows.
+constexpr qsizetype fileNameBytes = 240;
 /// Of the same name in its link, encoded: with all that stands before it a link opens 1023 characters at most.
 constexpr qsizetype fileNameEncoded = 800;
 /// Files that one drop or choice sends: each is a message.
 constexpr int filesAtOnce = 20;
 /// Files that are offered at a time: each is a row that somebody has to oversee.
 constexpr int filesOffered = 200;
+/// Files whose fetching is gone on with after the next start.
+constexpr qsizetype filesUnfinished = 50;
 /// Rows of files that others offer, as many as anybody reads; the oldest go first.
 constexpr int filesReceived = 500;
 /// Files and folders in one that is offered: reading their names and sizes takes seconds.
@@ -215,6 +219,8 @@ constexpr int fileConnectionsOfStrangers = 16;
 constexpr int fileRequestBytes = 16 * 1024;
 /// Time without progress after which a transfer ends.
 constexpr std::chrono::seconds fileTransferStalls{30};
+/// Files up to here are summed within a second, and never after larger ones.
+constexpr std::uint64_t fileSummedSoon = std::uint64_t{128} * 1024 * 1024;
 /// What is read of a file and held in memory at a time, for each transfer.
 constexpr std::size_t filePiece = std::size_t{256} * 1024;
 /// How often the progress of a transfer is told.

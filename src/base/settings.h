@@ -56,6 +56,7 @@ inline constexpr std::array settingKeys = {
     SettingKey{"Settings", "AutorefuseConfMins", SettingType::text, "5", "that age, minutes"},
     SettingKey{"Outbox", "WaitingMessages", SettingType::text, "",
                "messages that wait until their receivers are there, as JSON"},
+    SettingKey{"Transfers", "UnfinishedFiles", SettingType::text, "", "files whose fetching has not ended, as JSON"},
     SettingKey{"Options", "RecentEmoji", SettingType::text, "",
                "emoji used lately, the latest first, with blanks between"},
     SettingKey{"Options", "TipOTDay", SettingType::text, "1", "exactly 1: a tip at every start"},

@@ -50,6 +50,10 @@ public:
     virtual void mnuShortcuts() = 0;
     /// What is offered, and what others offer.
     virtual void mnuTransfers() = 0;
+    /// False where the program was built without the part that sends files.
+    virtual bool canSendFiles() const = 0;
+    /// Asks for files and sends them to the contact; an address that is no contact's is ignored.
+    virtual void mnuSendFile(const QString &ip) = 0;
     /// What was kept of the conversation with a contact; of none: of all.
     virtual void mnuHistory(const QString &ip) = 0;
     /// Nothing of the contact is kept from now on, or again.

@@ -68,7 +68,7 @@ bool isMeantForMessage(const QKeyEvent &event)
 
 ConversationPane::ConversationPane(Conversation &conversation, const ConversationTools &tools, QWidget *parent)
     : QWidget(parent), m_conversation(&conversation), m_links(tools.links), m_openHistory(tools.openHistory),
-      m_emoji(tools.emoji), m_folders(tools.folders), m_scratch(tools.scratch)
+      m_openTransfers(tools.openTransfers), m_emoji(tools.emoji), m_folders(tools.folders), m_scratch(tools.scratch)
 {
     buildControls();
     connectControls();
@@ -224,9 +224,9 @@ void ConversationPane::connectFiles()
     connect(fileBand, &QLabel::linkActivated, this, &ConversationPane::fileBand_Click);
     intext->setTakesPictures(true);
     connect(intext, &MessageInput::picturePasted, this, &ConversationPane::offerPicture);
-    auto *const sendFile = named(new QAction(tr("Send &Files..."), this), "logSendFile");
+    auto *const sendFile = named(new QAction(tr("Send Fil&es..."), this), "logSendFile");
     connect(sendFile, &QAction::triggered, this, &ConversationPane::askForSentFiles);
-    auto *const sendFolder = named(new QAction(tr("Send a F&older..."), this), "logSendFolder");
+    auto *const sendFolder = named(new QAction(tr("Send a Fol&der..."), this), "logSendFolder");
     connect(sendFolder, &QAction::triggered, this,
             [this] { askForSentFolder(*window(), [this](const QString &path) { sendFiles({path}); }); });
     m_outtext->setFurtherCommands({sendFile, sendFolder});
@@ -278,6 +278,7 @@ void ConversationPane::addReceivedFile(int number)
 {
     if (!m_files) {
         m_files = new FilePanel(m_conversation->transfers().received, m_folders, m_scratch, this);
+        connect(m_files, &FilePanel::allWanted, this, m_openTransfers);
         m_column->insertWidget(m_column->indexOf(m_cleared->strip()), m_files);
     }
     m_files->add(number);

@@ -44,8 +44,9 @@ struct ConversationTools {
     LogRoom &logRoom;   ///< what the logs may hold
     /// Opens what was kept of the conversation with a contact; of none: of all. With words they are looked for.
     std::function<void(const QString &address, const QString &words)> openHistory;
-    LinkOpener &folders;    ///< opens a folder of this machine
-    ScratchFolder &scratch; ///< for pictures that are shown or sent and not kept
+    std::function<void()> openTransfers; ///< the window of all files
+    LinkOpener &folders;                 ///< opens a folder of this machine
+    ScratchFolder &scratch;              ///< for pictures that are shown or sent and not kept
 };
 
 /// What a window has beside it, it makes itself and puts between the parts of the pane or around it.
@@ -144,6 +145,7 @@ private:
     QString m_rest; ///< of what was pasted
     RTFSubClass &m_links;
     std::function<void(const QString &address, const QString &words)> m_openHistory;
+    std::function<void()> m_openTransfers;
     EmojiStock &m_emoji;
     LinkOpener &m_folders;
     ScratchFolder &m_scratch;

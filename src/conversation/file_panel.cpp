@@ -2,6 +2,7 @@
 
 #include "base/limits.h"
 #include "base/link_opener.h"
+#include "conversation/small_picture.h"
 #include "files/received_files.h"
 #include "widgets/elided_label.h"
 #include "widgets/file_dialogs.h"
@@ -12,16 +13,19 @@
 
 #include <QFileInfo>
 #include <QHBoxLayout>
-#include <QImageReader>
+#include <QImage>
 #include <QLabel>
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QThread>
 #include <QToolButton>
 #include <QUrl>
 
 #include <algorithm>
+#include <iterator>
+#include <memory>
 
 namespace nimb
 {
@@ -30,30 +34,20 @@ namespace
 
 using State = ReceivedFile::State;
 
-constexpr QSize largestShownPicture(240, 90);
-
-/// Empty where it cannot be read, or is larger than anybody photographs.
-QPixmap smallPicture(const QString &path, qreal scale)
-{
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (!size.isValid() || qint64(size.width()) * size.height() > limits::pictureFilePixels)
-        return {};
-    const QSize room = largestShownPicture * scale;
-    if (size.width() > room.width() || size.height() > room.height())
-        reader.setScaledSize(size.scaled(room, Qt::KeepAspectRatio));
-    QPixmap picture = QPixmap::fromImage(reader.read());
-    picture.setDevicePixelRatio(scale);
-    return picture;
-}
+constexpr QSizeF largestShownPicture(240, 90);
 
 QPushButton *rowButton(QWidget *parent, const char *name, const QString &caption)
 {
     auto *const button = named(new QPushButton(caption, parent), name);
     button->setAutoDefault(false);
     return button;
+}
+
+/// That of the last time, or where the desktop keeps what comes from elsewhere.
+QString folderToSaveIn(const ReceivedFiles &files)
+{
+    return files.lastFolder().isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DownloadLocation)
+                                        : files.lastFolder();
 }
 
 } // namespace
@@ -73,6 +67,7 @@ FilePanel::FilePanel(ReceivedFiles &files, LinkOpener &folders, ScratchFolder &s
             if (row->number() == number)
                 row->refresh();
         }
+        showFurther();
     });
 }
 
@@ -83,6 +78,7 @@ void FilePanel::add(int number)
     connect(row, &FileRow::closed, this, &FilePanel::remove);
     layout()->addWidget(row);
     m_rows.push_back(row);
+    showFurther();
     show();
 }
 
@@ -96,7 +92,64 @@ void FilePanel::makeRoom()
         return !file || !file->isUnderWay();
     };
     const auto idle = std::ranges::find_if(m_rows, isIdle);
-    remove(idle == m_rows.end() ? m_rows.front()->number() : (*idle)->number());
+    const int further = idle == m_rows.end() ? m_rows.front()->number() : (*idle)->number();
+    m_further.push_back(further);
+    remove(further);
+}
+
+std::vector<int> FilePanel::offered() const
+{
+    std::vector<int> numbers = m_further;
+    std::ranges::transform(m_rows, std::back_inserter(numbers), &FileRow::number);
+    std::erase_if(numbers, [this](int number) {
+        const ReceivedFile *const file = m_files.find(number);
+        return !file || file->state != State::offered;
+    });
+    return numbers;
+}
+
+void FilePanel::showFurther()
+{
+    std::erase_if(m_further, [this](int number) { return !m_files.find(number); });
+    const bool hasSeveral = offered().size() > 1;
+    if (!m_furtherLine && (hasSeveral || !m_further.empty()))
+        makeFurtherLine();
+    if (!m_furtherLine)
+        return;
+    const QString sentence = tr("Further files: %1.").arg(m_further.size());
+    m_furtherCount->setText(sentence + tr(" <a href=\"all\">Show all</a>"));
+    m_furtherCount->setAccessibleName(sentence);
+    m_furtherCount->setVisible(!m_further.empty());
+    m_saveAll->setVisible(hasSeveral);
+    m_furtherLine->setVisible(hasSeveral || !m_further.empty());
+}
+
+void FilePanel::makeFurtherLine()
+{
+    m_furtherLine = named(new QWidget(this), "furtherFiles");
+    m_furtherCount = named(new QLabel(m_furtherLine), "furtherCount");
+    m_furtherCount->setTextFormat(Qt::RichText);
+    m_furtherCount->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    m_saveAll = rowButton(m_furtherLine, "saveAllBtn", tr("Save all..."));
+    m_saveAll->setToolTip(tr("Saves all that is offered here, in one folder"));
+    auto *const line = new QHBoxLayout(m_furtherLine);
+    line->setContentsMargins(form_layout::margin, 0, form_layout::spacing, 0);
+    line->addWidget(m_furtherCount);
+    line->addStretch(1);
+    line->addWidget(m_saveAll);
+    static_cast<QVBoxLayout *>(layout())->insertWidget(0, m_furtherLine);
+    connect(m_furtherCount, &QLabel::linkActivated, this, &FilePanel::allWanted);
+    connect(m_saveAll, &QPushButton::clicked, this, &FilePanel::saveAll);
+}
+
+void FilePanel::saveAll()
+{
+    askForSaveFolder(*window(), folderToSaveIn(m_files), [panel = QPointer(this)](const QString &path) {
+        if (!panel)
+            return;
+        for (const int number : panel->offered())
+            panel->m_files.save(number, path);
+    });
 }
 
 void FilePanel::remove(int number)
@@ -107,6 +160,7 @@ void FilePanel::remove(int number)
     (*which)->hide();
     (*which)->deleteLater();
     m_rows.erase(which);
+    showFurther();
     setVisible(!m_rows.empty());
 }
 
@@ -129,6 +183,13 @@ FileRow::FileRow(ReceivedFiles &files, int number, LinkOpener &folders, ScratchF
     column->addWidget(m_picture);
     connectControls();
     refresh();
+}
+
+/// The thread ends before what it was made for.
+FileRow::~FileRow()
+{
+    if (m_reading)
+        m_reading->wait();
 }
 
 QWidget *FileRow::makeFirstLine()
@@ -210,16 +271,12 @@ void FileRow::refresh()
     m_resume->setVisible(file->state == State::paused || file->state == State::failed);
     m_open->setVisible(file->state == State::done);
     m_save->setAccessibleName(tr("Save %1").arg(name));
-    showPicture(file->picture);
+    readPicture(file->picture);
 }
 
-/// Into the folder of the last time, or where the desktop keeps what comes from elsewhere.
 void FileRow::save()
 {
-    const QString folder = m_files.lastFolder().isEmpty()
-        ? QStandardPaths::writableLocation(QStandardPaths::DownloadLocation)
-        : m_files.lastFolder();
-    askForSaveFolder(*window(), folder,
+    askForSaveFolder(*window(), folderToSaveIn(m_files),
                      [&files = m_files, number = m_number](const QString &path) { files.save(number, path); });
 }
 
@@ -237,16 +294,31 @@ void FileRow::openFolder()
         failed();
 }
 
-void FileRow::showPicture(const QString &path)
+/// Read on a thread of its own: a large one takes long, and comes from somebody else.
+void FileRow::readPicture(const QString &path)
 {
     if (path == m_shownPicture)
         return;
     m_shownPicture = path;
-    const QPixmap picture = smallPicture(path, devicePixelRatioF());
+    if (m_reading)
+        m_reading->wait();
+    const qreal scale = devicePixelRatioF();
+    const auto picture = std::make_shared<QImage>();
+    m_reading.reset(QThread::create(
+        [path, picture, room = (largestShownPicture * scale).toSize()] { *picture = smallPicture(path, room); }));
+    connect(m_reading.get(), &QThread::finished, this, [this, picture, scale] {
+        picture->setDevicePixelRatio(scale);
+        showPicture(*picture);
+    });
+    m_reading->start();
+}
+
+void FileRow::showPicture(const QImage &picture)
+{
     if (picture.isNull())
         m_picture->setText(tr("This is no picture that NIMB-Chat can read."));
     else
-        m_picture->setPixmap(picture);
+        m_picture->setPixmap(QPixmap::fromImage(picture));
     m_picture->setAccessibleName(tr("Picture %1").arg(m_name->text()));
     m_picture->show();
 }

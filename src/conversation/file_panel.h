@@ -4,10 +4,14 @@
 #include <QWidget>
 
 #include <list>
+#include <memory>
+#include <vector>
 
+class QImage;
 class QLabel;
 class QProgressBar;
 class QPushButton;
+class QThread;
 class QToolButton;
 
 namespace nimb
@@ -19,7 +23,8 @@ class LinkOpener;
 class ReceivedFiles;
 class ScratchFolder;
 
-/// The newest files, one row each; hidden while there are none. Nothing is fetched by itself.
+/// The newest files, one row each, and above them how many more there are; hidden while there are none. Nothing is
+/// fetched by itself.
 class FilePanel : public QWidget
 {
     Q_OBJECT
@@ -30,14 +35,27 @@ public:
 
     void add(int number);
 
+Q_SIGNALS:
+    /// The user wants to see those that have no row here.
+    void allWanted();
+
 private:
     void remove(int number);
     void makeRoom();
+    void showFurther();
+    void makeFurtherLine();
+    void saveAll();
+    /// Those of this conversation with which nothing has been done yet.
+    std::vector<int> offered() const;
 
     ReceivedFiles &m_files;
     LinkOpener &m_folders;
     ScratchFolder &m_scratch;
     std::list<FileRow *> m_rows;
+    std::vector<int> m_further; ///< numbers of those that had to make room
+    QWidget *m_furtherLine = nullptr;
+    QLabel *m_furtherCount = nullptr;
+    QPushButton *m_saveAll = nullptr;
 };
 
 /// One file, and what can be done with it now.
@@ -47,6 +65,7 @@ class FileRow : public QWidget
 
 public:
     FileRow(ReceivedFiles &files, int number, LinkOpener &folders, ScratchFolder &scratch, QWidget *parent);
+    ~FileRow() override;
 
     int number() const { return m_number; }
     /// As the file is now; one that has gone stays as it was.
@@ -61,7 +80,8 @@ private:
     void connectControls();
     void save();
     void openFolder();
-    void showPicture(const QString &path);
+    void readPicture(const QString &path);
+    void showPicture(const QImage &picture);
 
     ReceivedFiles &m_files;
     const int m_number;
@@ -72,7 +92,8 @@ private:
     ElidedLabel *m_state = nullptr;
     QProgressBar *m_bar = nullptr;
     QLabel *m_picture = nullptr;
-    QString m_shownPicture;
+    QString m_shownPicture; ///< or one that is being read
+    std::unique_ptr<QThread> m_reading;
     QPushButton *m_look = nullptr;
     QPushButton *m_save = nullptr;
     QPushButton *m_pause = nullptr;

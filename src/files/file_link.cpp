@@ -54,6 +54,12 @@ QString fileMessage(const QString &name, quint64 size, Ipv4Address host, std::ui
         + token + QLatin1Char('/') + QString::fromLatin1(encodedFileName(name));
 }
 
+QString messageOf(const FileLink &link)
+{
+    return link.name + QLatin1String(" (") + link.sizeText + QLatin1String(") http://") + addressText(link.host)
+        + QLatin1Char(':') + QString::number(link.port) + QString::fromLatin1(link.path);
+}
+
 std::optional<FileLink> fileLinkIn(const QString &message)
 {
     const QString text = message.trimmed();

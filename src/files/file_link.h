@@ -27,6 +27,9 @@ struct FileLink {
 /// "Plan.pdf (2.3 MB) http://192.168.1.12:5549/0123456789abcdef0123456789abcdef/Plan.pdf"
 QString fileMessage(const QString &name, quint64 size, Ipv4Address host, std::uint16_t port, const QString &token);
 
+/// The same as it came.
+QString messageOf(const FileLink &link);
+
 /// What such a message offers; nothing for every other one, though it may hold links. The name in front must be the one
 /// that the address ends with: nobody is shown another name than that of what he gets.
 std::optional<FileLink> fileLinkIn(const QString &message);

@@ -51,7 +51,8 @@ qsizetype suffixStart(const QString &name)
 
 bool isTooLong(const QString &name)
 {
-    return name.size() > limits::fileNameLength || encodedFileName(name).size() > limits::fileNameEncoded;
+    return name.size() > limits::fileNameLength || name.toUtf8().size() > limits::fileNameBytes
+        || encodedFileName(name).size() > limits::fileNameEncoded;
 }
 
 QString shortened(const QString &name)
@@ -138,7 +139,7 @@ QString fileSizeText(quint64 bytes)
 bool isPictureName(const QString &name)
 {
     static const QStringList suffixes{QStringLiteral(".png"), QStringLiteral(".jpg"), QStringLiteral(".jpeg"),
-                                      QStringLiteral(".gif"), QStringLiteral(".bmp"), QStringLiteral(".webp")};
+                                      QStringLiteral(".gif"), QStringLiteral(".webp")};
     return std::ranges::any_of(suffixes,
                                [&](const QString &suffix) { return name.endsWith(suffix, Qt::CaseInsensitive); });
 }

@@ -12,7 +12,7 @@ namespace nimb
 
 /// What is left of a name that may have come from anybody: no folder, no character that a system forbids or that nobody
 /// sees, no name that Windows keeps for its devices, no dot or blank at either end, at most limits::fileNameLength
-/// characters and so short that it fits a link. Never empty; a suffix is kept where the name is cut.
+/// characters, and so short that it fits a link and a folder. Never empty; a suffix is kept where the name is cut.
 QString cleanFileName(const QString &name);
 
 /// "Plan.pdf" for the first try, then "Plan (2).pdf" and so on; "Photos.tar (2).gz" is as good as any.

@@ -140,7 +140,9 @@ void FileOffers::readied(const QString &token, const FileServer::Readied &readie
     offer->age->start();
     rowChanged(*offer);
     if (!answers.written(fileMessage(offer->name, offer->size, offer->recipients.at, readied.port, token)))
-        end(*offer, tr("nobody was there to be told of it"));
+        return end(*offer, tr("nobody was there to be told of it"));
+    if (!readied.leftOut.isEmpty())
+        answers.refused(readied.leftOut);
 }
 
 void FileOffers::sent(const SentBytes &sent)

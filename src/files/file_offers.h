@@ -47,6 +47,7 @@ public:
     /// What becomes of a wish. written: is called with the message for each file, and returns whether it could be sent.
     struct Answers {
         std::function<bool(const QString &message)> written;
+        /// All of it, or a part: the rest is sent.
         std::function<void(const QString &sentence)> refused;
     };
 

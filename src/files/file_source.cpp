@@ -1,17 +1,18 @@
 #include "files/file_source.h"
 
 #include "base/limits.h"
+#include "base/remote_text.h"
 #include "files/file_name.h"
 #include "files/zip_layout.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
+#include <filesystem>
 #include <mutex>
 #include <optional>
 #include <vector>
@@ -250,34 +251,118 @@ std::unique_ptr<SourceReader> FolderArchive::open(const std::atomic<bool> &isSto
     return std::make_unique<Reader>(*this, isStopped);
 }
 
+/// The name as it is on the disk, or nothing where it is no text: no other system could be told of it.
+std::optional<QString> textOf(const std::filesystem::path &path)
+{
+    const std::string bytes = path.string();
+    const QByteArray name(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    const QString text = QFile::decodeName(name);
+    return QFile::encodeName(text) == name ? std::optional(text) : std::nullopt;
+}
+
+/// Goes through a folder, without following links.
+class FolderWalk
+{
+public:
+    using Found = std::pair<ZipEntry, SeenFile>;
+
+    explicit FolderWalk(const QFileInfo &folder)
+        : m_root(folder.fileName() + QLatin1Char('/')),
+          m_inside(folder.filePath()), m_found{{ZipEntry{m_root, 0, folder.lastModified()}, SeenFile{}}}
+    {
+    }
+
+    /// What stands in the way, a sentence; nothing when all has been seen, or when it was stopped.
+    std::optional<QString> go(const std::atomic<bool> &isStopped)
+    {
+        std::error_code error;
+        const QByteArray place = QFile::encodeName(m_inside.path());
+        std::filesystem::recursive_directory_iterator entries(
+            place.constData(), std::filesystem::directory_options::skip_permission_denied, error);
+        for (; !error && entries != decltype(entries)() && !isStopped; entries.increment(error)) {
+            if (!take(entries->path()))
+                entries.disable_recursion_pending();
+            if (m_found.size() + static_cast<std::size_t>(m_leftOut.size()) > limits::filesInFolder)
+                return sentenceOf(QT_TRANSLATE_NOOP("FileSource", "%1 holds too many files to be sent as one."),
+                                  m_inside.dirName());
+        }
+        if (error)
+            return sentenceOf(QT_TRANSLATE_NOOP("FileSource", "%1 cannot be sent: it cannot be read to its end."),
+                              m_inside.dirName());
+        return std::nullopt;
+    }
+
+    /// In the order of their names.
+    std::vector<Found> takeFound()
+    {
+        std::ranges::sort(m_found, {}, [](const auto &entry) { return entry.first.name; });
+        return std::move(m_found);
+    }
+
+    /// Empty where all is there.
+    QString leftOut()
+    {
+        if (m_leftOut.empty())
+            return {};
+        std::ranges::sort(m_leftOut);
+        QStringList names;
+        for (qsizetype i = 0; i < std::min<qsizetype>(m_leftOut.size(), namesSaid); ++i)
+            names += shownName(m_leftOut[i]);
+        QString all = names.join(QLatin1String(", "));
+        if (m_leftOut.size() > names.size())
+            all = QCoreApplication::translate("FileSource", "%1 and %2 more")
+                      .arg(all, QString::number(m_leftOut.size() - names.size()));
+        return QCoreApplication::translate("FileSource",
+                                           "%1 left out of %2: %3. Links are not followed, and what cannot be read "
+                                           "is not sent.")
+            .arg(QString::number(m_leftOut.size()), m_inside.dirName(), all);
+    }
+
+private:
+    static constexpr qsizetype namesSaid = 3, longestNameSaid = 40;
+
+    static QString shownName(const QString &name)
+    {
+        return name.size() > longestNameSaid ? cutText(name, longestNameSaid) + QLatin1String("...") : name;
+    }
+
+    /// False where it is left out.
+    bool take(const std::filesystem::path &path)
+    {
+        const std::optional<QString> text = textOf(path);
+        const QFileInfo info(text.value_or(QString()));
+        const bool isFolder = info.isDir() && info.isExecutable();
+        if (!text || info.isSymLink() || !info.isReadable() || !(isFolder || info.isFile())) {
+            m_leftOut += text ? info.fileName() : QString::fromUtf8(path.filename().string().c_str());
+            return false;
+        }
+        const QString name = m_root + m_inside.relativeFilePath(info.filePath());
+        if (isFolder)
+            m_found.push_back({ZipEntry{name + QLatin1Char('/'), 0, info.lastModified()}, SeenFile{}});
+        else
+            m_found.push_back({ZipEntry{name, static_cast<quint64>(info.size()), info.lastModified()}, seen(info)});
+        return true;
+    }
+
+    QString m_root;
+    QDir m_inside;
+    std::vector<Found> m_found;
+    QStringList m_leftOut;
+};
+
 FoundSource findFolder(const QFileInfo &folder, const std::atomic<bool> &isStopped)
 {
-    const QString root = folder.fileName() + QLatin1Char('/');
-    const QDir inside(folder.filePath());
-    std::vector<std::pair<ZipEntry, SeenFile>> found{{ZipEntry{root, 0, folder.lastModified()}, SeenFile{}}};
-    QDirIterator files(folder.filePath(), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot | QDir::NoSymLinks,
-                       QDirIterator::Subdirectories);
-    while (files.hasNext() && !isStopped) {
-        files.next();
-        const QFileInfo info = files.fileInfo();
-        const QString name = root + inside.relativeFilePath(info.filePath());
-        if (info.isDir())
-            found.push_back({ZipEntry{name + QLatin1Char('/'), 0, info.lastModified()}, SeenFile{}});
-        else if (info.isFile())
-            found.push_back({ZipEntry{name, static_cast<quint64>(info.size()), info.lastModified()}, seen(info)});
-        if (found.size() > limits::filesInFolder)
-            return sentenceOf(QT_TRANSLATE_NOOP("FileSource", "%1 holds too many files to be sent as one."),
-                              folder.fileName());
-    }
-    std::ranges::sort(found, {}, [](const auto &entry) { return entry.first.name; });
+    FolderWalk walk(folder);
+    if (const std::optional<QString> trouble = walk.go(isStopped))
+        return *trouble;
     std::vector<ZipEntry> entries;
     std::vector<SeenFile> seenFiles;
-    for (auto &[entry, file] : found) {
+    for (auto &[entry, file] : walk.takeFound()) {
         entries.push_back(std::move(entry));
         seenFiles.push_back(std::move(file));
     }
     return NamedSource{std::make_shared<const FolderArchive>(std::move(entries), std::move(seenFiles)),
-                       cleanFileName(folder.fileName() + QLatin1String(".zip"))};
+                       cleanFileName(folder.fileName() + QLatin1String(".zip")), walk.leftOut()};
 }
 
 } // namespace
@@ -288,7 +373,7 @@ FoundSource findSource(const QString &path, const std::atomic<bool> &isStopped)
     if (info.isDir() && info.isReadable())
         return findFolder(info, isStopped);
     if (info.isFile() && info.isReadable())
-        return NamedSource{std::make_shared<const PlainFile>(seen(info)), cleanFileName(info.fileName())};
+        return NamedSource{std::make_shared<const PlainFile>(seen(info)), cleanFileName(info.fileName()), {}};
     return sentenceOf(QT_TRANSLATE_NOOP("FileSource", "%1 cannot be sent: it is no file or folder that can be read."),
                       info.fileName());
 }

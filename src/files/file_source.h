@@ -35,12 +35,13 @@ public:
 
 struct NamedSource {
     std::shared_ptr<const FileSource> source;
-    QString name; ///< for the peer: clean, and of a folder that of an archive
+    QString name;      ///< for the peer: clean, and of a folder that of an archive
+    QString leftOut{}; ///< what of a folder is not in it, a sentence; empty: all is
 };
 using FoundSource = std::variant<NamedSource, QString>;
 
 /// Looks at a file, or at all names and sizes of a folder, without reading what is in them. Links within a folder are
-/// left out, for they lead elsewhere. Without a source: the reason, a sentence.
+/// left out, for they lead elsewhere, and so is what cannot be read. Without a source: the reason, a sentence.
 FoundSource findSource(const QString &path, const std::atomic<bool> &isStopped);
 
 } // namespace nimb

@@ -2,19 +2,23 @@
 #pragma once
 
 #include "files/file_offers.h"
-#include "files/received_files.h"
+#include "files/unfinished_files.h"
 
 namespace nimb
 {
 
 /// One for all conversations.
 struct FileTransfers {
-    FileTransfers(const FileOffers::Parts &parts, FileFetcher &fetcher) : offers(parts), received(fetcher) { }
+    FileTransfers(const FileOffers::Parts &parts, FileFetcher &fetcher, SettingsStore &store)
+        : offers(parts), received(fetcher), unfinished(received, store, parts.log)
+    {
+    }
 
     int underWay() const { return offers.underWay() + received.underWay(); }
 
     FileOffers offers;
     ReceivedFiles received;
+    UnfinishedFiles unfinished;
 };
 
 } // namespace nimb

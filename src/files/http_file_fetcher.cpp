@@ -23,6 +23,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <cerrno>
 #include <functional>
 #include <vector>
 
@@ -38,6 +39,16 @@ constexpr auto lookForStop = 100ms;
 constexpr auto connecting = 10s;
 constexpr auto rateOver = 1000ms;
 constexpr int namesTried = 1000;
+
+/// Or what the user may have of it.
+bool isFullDisk(int error)
+{
+#ifdef EDQUOT
+    if (error == EDQUOT)
+        return true;
+#endif
+    return error == ENOSPC;
+}
 
 QString sentence(const char *text)
 {
@@ -137,7 +148,10 @@ public:
         const std::optional<QString> trouble = m_file.most > 0 || QDir(m_file.folder).exists()
             ? fetchAll()
             : tr("The folder %1 is not there any more.").arg(QDir::toNativeSeparators(m_file.folder));
+        const bool isEmpty = m_part.isOpen() && m_part.size() == 0;
         m_part.close();
+        if (isEmpty)
+            m_part.remove();
         m_state.perSecond = 0;
         m_state.what = m_state.what == What::done ? What::done : m_isStopped ? What::stopped : What::failed;
         m_state.sentence = m_state.what == What::failed ? trouble.value_or(QString()) : QString();
@@ -242,6 +256,7 @@ private:
         case 503:
             return waitForTurn();
         case 404:
+            m_state.isGone = true;
             return tr("The sender offers it no longer.");
         default:
             return tr("The sender gave an answer that cannot be used.");
@@ -282,15 +297,36 @@ private:
             const QByteArray bytes = connection.read(m_state.size - m_state.place);
             if (bytes.isEmpty())
                 return std::nullopt;
-            if (m_part.write(bytes) != bytes.size())
-                return tr("%1 cannot be written on: %2. What has come is kept.")
-                    .arg(QDir::toNativeSeparators(m_part.fileName()), m_part.errorString());
-            m_sum.addData(bytes);
-            m_state.place += static_cast<quint64>(bytes.size());
+            if (Trouble trouble = write(bytes))
+                return trouble;
             tellProgress();
         }
         m_isWhole = true;
         return std::nullopt;
+    }
+
+    /// A disk that gets full takes some of it first, and says only then what is wrong.
+    Trouble write(QByteArrayView bytes)
+    {
+        while (!bytes.isEmpty()) {
+            errno = 0;
+            const qint64 written = m_part.write(bytes.data(), bytes.size());
+            if (written <= 0)
+                return writeTrouble(errno);
+            m_sum.addData(bytes.first(written));
+            m_state.place += static_cast<quint64>(written);
+            bytes = bytes.sliced(written);
+        }
+        return std::nullopt;
+    }
+
+    Trouble writeTrouble(int error)
+    {
+        const bool isFull = m_part.error() == QFileDevice::ResourceError || isFullDisk(error);
+        return isFull
+            ? tr("There is no room any more in %1. What has come is kept.").arg(QDir::toNativeSeparators(m_file.folder))
+            : tr("%1 cannot be written on: %2. What has come is kept.")
+                  .arg(QDir::toNativeSeparators(m_part.fileName()), m_part.errorString());
     }
 
     void tellProgress()
@@ -316,7 +352,8 @@ private:
         m_state.what = What::checking;
         m_tell(m_state);
         const QByteArray sum = m_sum.result();
-        while (m_head.sum.isEmpty() && m_head.isSumPending && !m_isStopped) {
+        const bool isOnlyShown = m_file.most > 0; // and thrown away: nobody waits for its sum
+        while (m_head.sum.isEmpty() && m_head.isSumPending && !m_isStopped && !isOnlyShown) {
             askForSum();
             if (m_head.sum.isEmpty() && m_head.isSumPending)
                 pause(1s);

@@ -1,6 +1,5 @@
 #include "files/http_file_server.h"
 
-#include "base/limits.h"
 #include "files/byte_range.h"
 #include "files/file_link.h"
 #include "files/file_name.h"
@@ -205,10 +204,11 @@ private:
             m_wake.wait(lock, [this] { return m_ends || !m_jobs.empty(); });
             if (m_ends)
                 return;
-            const std::function<void()> job = std::move(m_jobs.front());
+            std::function<void()> job = std::move(m_jobs.front());
             m_jobs.pop_front();
             lock.unlock();
             job();
+            job = nullptr; // with all that it holds
             lock.lock();
         }
     }
@@ -311,8 +311,8 @@ std::string rangeText(const ByteRange &range, std::uint64_t size)
 
 } // namespace
 
-HttpFileServer::HttpFileServer(std::uint16_t firstPort)
-    : m_firstPort(firstPort), m_calls(std::make_unique<EventLoopCalls>())
+HttpFileServer::HttpFileServer(std::uint16_t firstPort, std::chrono::seconds stalls)
+    : m_firstPort(firstPort), m_stalls(stalls), m_calls(std::make_unique<EventLoopCalls>())
 {
     m_desk
         = std::make_shared<Desk>([calls = m_calls.get()](std::function<void()> call) { calls->put(std::move(call)); });
@@ -323,8 +323,10 @@ HttpFileServer::~HttpFileServer()
 {
     m_desk->stopAll();
     m_listening.clear();
+    m_closing.reset();
     m_looking.reset();
-    m_summing.reset();
+    m_summingSmall.reset();
+    m_summingLarge.reset();
 }
 
 void HttpFileServer::serve(const ServedFile &file, std::function<void(const Readied &)> ready)
@@ -361,7 +363,7 @@ void HttpFileServer::lookedAt(const std::shared_ptr<Served> &served, const Found
                 .arg(found.name));
     m_desk->setSource(*served, found);
     beginSum(served);
-    ready({.size = found.source->size(), .port = port, .name = served->file.name});
+    ready({.size = found.source->size(), .port = port, .name = served->file.name, .leftOut = found.leftOut});
 }
 
 std::uint16_t HttpFileServer::listenAt(Ipv4Address address)
@@ -375,7 +377,8 @@ std::uint16_t HttpFileServer::listenAt(Ipv4Address address)
         auto listener = HttpListener::open(
             address, static_cast<std::uint16_t>(port),
             {.answer = [this, address](const HttpRequest &request) { return answer(request, address); },
-             .isExpected = [desk = m_desk](Ipv4Address peer) { return desk->isExpected(peer); }});
+             .isExpected = [desk = m_desk](Ipv4Address peer) { return desk->isExpected(peer); }},
+            m_stalls);
         if (!listener)
             continue;
         m_listening[address] = {std::move(listener), static_cast<std::uint16_t>(port)};
@@ -384,12 +387,13 @@ std::uint16_t HttpFileServer::listenAt(Ipv4Address address)
     return 0;
 }
 
-/// Beside the transfers, and after one another: what is offered need not wait for it.
+/// Beside the transfers: what is offered need not wait for it. The small ones are apart, for a large one takes minutes.
 void HttpFileServer::beginSum(const std::shared_ptr<Served> &served)
 {
-    if (!m_summing)
-        m_summing = std::make_unique<Jobs>();
-    m_summing->put([this, served] {
+    std::unique_ptr<Jobs> &summing = served->source->size() <= limits::fileSummedSoon ? m_summingSmall : m_summingLarge;
+    if (!summing)
+        summing = std::make_unique<Jobs>();
+    summing->put([this, served] {
         const std::unique_ptr<SourceReader> reader = served->source->open(served->isStopped);
         QCryptographicHash hash(QCryptographicHash::Sha256);
         std::vector<char> room(limits::filePiece);
@@ -412,8 +416,15 @@ void HttpFileServer::beginSum(const std::shared_ptr<Served> &served)
 
 void HttpFileServer::withdraw(const QString &token)
 {
-    if (const std::optional<Ipv4Address> empty = m_desk->take(token))
-        m_listening.erase(*empty);
+    const std::optional<Ipv4Address> empty = m_desk->take(token);
+    const auto listening = empty ? m_listening.find(*empty) : m_listening.end();
+    if (listening == m_listening.end())
+        return;
+    // The threads of its connections are waited for, and those perhaps for a slow disk.
+    if (!m_closing)
+        m_closing = std::make_unique<Jobs>();
+    m_closing->put([closed = std::shared_ptr(std::move(listening->second.listener))]() mutable { closed.reset(); });
+    m_listening.erase(listening);
 }
 
 HttpAnswer HttpFileServer::answer(const HttpRequest &request, Ipv4Address at)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/file_server.h"
+#include "base/limits.h"
 #include "files/file_source.h"
 #include "platform/http_listener.h"
 
@@ -18,7 +19,8 @@ class EventLoopCalls;
 class HttpFileServer : public FileServer
 {
 public:
-    explicit HttpFileServer(std::uint16_t firstPort = 5549);
+    /// stalls: a transfer that does not get on for so long is ended.
+    explicit HttpFileServer(std::uint16_t firstPort = 5549, std::chrono::seconds stalls = limits::fileTransferStalls);
     ~HttpFileServer() override;
     HttpFileServer(const HttpFileServer &) = delete;
     HttpFileServer &operator=(const HttpFileServer &) = delete;
@@ -47,9 +49,10 @@ private:
     std::uint16_t listenAt(Ipv4Address address);
 
     std::uint16_t m_firstPort;
+    std::chrono::seconds m_stalls;
     std::unique_ptr<EventLoopCalls> m_calls; ///< outlives the threads
     std::shared_ptr<Desk> m_desk;
-    std::unique_ptr<Jobs> m_looking, m_summing;
+    std::unique_ptr<Jobs> m_looking, m_summingSmall, m_summingLarge, m_closing;
     std::map<Ipv4Address, Listening> m_listening;
 };
 

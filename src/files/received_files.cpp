@@ -36,18 +36,36 @@ std::optional<int> ReceivedFiles::add(const QString &message, Ipv4Address writer
     const std::optional<FileLink> link = fileLinkIn(message);
     if (!link || link->host != writer)
         return std::nullopt;
-    // Two rows would write into one unfinished file.
-    const auto isSame = [&link](const ReceivedFile &file) {
-        return file.link.host == link->host && file.link.port == link->port && file.link.path == link->path;
-    };
-    if (std::ranges::any_of(m_files, isSame))
+    if (has(*link))
         return std::nullopt;
+    insert({.link = *link, .sender = sender, .from = own});
+    return m_last;
+}
+
+void ReceivedFiles::restore(ReceivedFile file)
+{
+    if (has(file.link))
+        return;
+    file.state = State::paused;
+    insert(std::move(file));
+}
+
+/// Two rows would write into one unfinished file.
+bool ReceivedFiles::has(const FileLink &link) const
+{
+    return std::ranges::any_of(m_files, [&link](const ReceivedFile &file) {
+        return file.link.host == link.host && file.link.port == link.port && file.link.path == link.path;
+    });
+}
+
+void ReceivedFiles::insert(ReceivedFile file)
+{
     makeRoom();
     const int row = rowCount();
     beginInsertRows({}, row, row);
-    m_files.push_back({.number = ++m_last, .link = *link, .sender = sender, .from = own});
+    file.number = ++m_last;
+    m_files.push_back(std::move(file));
     endInsertRows();
-    return m_last;
 }
 
 /// The oldest go that nobody fetches.
@@ -106,8 +124,10 @@ void ReceivedFiles::begin(ReceivedFile &file)
     file.state = State::waiting;
     file.sentence.clear();
     file.perSecond = 0;
+    file.isGone = false;
     rowChanged(file);
     beginNext();
+    Q_EMIT unfinishedChanged();
 }
 
 void ReceivedFiles::pause(int number)
@@ -119,6 +139,7 @@ void ReceivedFiles::pause(int number)
         return m_fetcher.stop(number); // which says so
     file->state = State::paused;
     rowChanged(*file);
+    Q_EMIT unfinishedChanged();
 }
 
 void ReceivedFiles::resume(int number)
@@ -128,10 +149,20 @@ void ReceivedFiles::resume(int number)
         begin(*file);
 }
 
+/// What waits for its sum alone leaves its place to others.
+bool ReceivedFiles::hasFreePlace() const
+{
+    const auto isChecking = [this](int number) {
+        const ReceivedFile *const file = find(number);
+        return file && file->state == State::checking;
+    };
+    return std::ssize(m_fetching) - std::ranges::count_if(m_fetching, isChecking) < limits::filesReceivedAtOnce;
+}
+
 void ReceivedFiles::beginNext()
 {
     for (ReceivedFile &file : m_files) {
-        if (std::ssize(m_fetching) >= limits::filesReceivedAtOnce)
+        if (!hasFreePlace())
             return;
         const bool isHere = std::ranges::find(m_fetching, file.number) != m_fetching.end();
         if (file.state != State::waiting || isHere)
@@ -162,8 +193,10 @@ void ReceivedFiles::told(const FetchedBytes &fetched)
         finish(*file, fetched);
         rowChanged(*file);
     }
-    if (isOver)
+    if (isOver || fetched.what == What::checking)
         beginNext();
+    if (isOver)
+        Q_EMIT unfinishedChanged();
 }
 
 void ReceivedFiles::finish(ReceivedFile &file, const FetchedBytes &fetched)
@@ -184,6 +217,7 @@ void ReceivedFiles::finish(ReceivedFile &file, const FetchedBytes &fetched)
     case What::failed:
         file.state = State::failed;
         file.sentence = fetched.sentence;
+        file.isGone = fetched.isGone;
         return;
     case What::done:
         file.state = file.isLookedAt ? State::offered : State::done;

@@ -35,12 +35,19 @@ struct ReceivedFile {
     bool isLookedAt = false; ///< it is fetched, or was, to be shown and not to be kept
     QString picture{};       ///< path of what can be shown
     QString sentence{};      ///< why it failed
+    bool isGone = false;     ///< it will not be had any more
 
     /// 0 to 100.
     int percent() const { return size > 0 ? static_cast<int>(place * 100 / size) : 0; }
     /// It can be shown before it is saved.
     bool isPicture() const;
     bool isUnderWay() const { return state == State::waiting || state == State::running || state == State::checking; }
+    /// It is to be saved, and there is a chance that it will be.
+    bool isUnfinished() const
+    {
+        const bool isBroken = state == State::paused || (state == State::failed && !isGone);
+        return !isLookedAt && !folder.isEmpty() && (isUnderWay() || isBroken);
+    }
 };
 
 /// One row for each, the newest last. At most limits::filesReceivedAtOnce are fetched at a time, the others wait.
@@ -58,6 +65,8 @@ public:
     /// is. own: the address
     /// under which the sender knows this copy.
     std::optional<int> add(const QString &message, Ipv4Address writer, const QString &sender, Ipv4Address own);
+    /// Another row, paused, for what an earlier run has left.
+    void restore(ReceivedFile file);
     /// Null once it has gone to make room.
     const ReceivedFile *find(int number) const;
     const ReceivedFile &at(int row) const { return m_files.at(static_cast<std::size_t>(row)); }
@@ -83,12 +92,17 @@ public:
 
 Q_SIGNALS:
     void changed(int number);
+    /// Another one is unfinished now, or one is not any more, or has come to a halt.
+    void unfinishedChanged();
 
 private:
     ReceivedFile *findRow(int number);
+    bool has(const FileLink &link) const;
+    void insert(ReceivedFile file);
     void told(const FetchedBytes &fetched);
     void finish(ReceivedFile &file, const FetchedBytes &fetched);
     void begin(ReceivedFile &file);
+    bool hasFreePlace() const;
     void beginNext();
     void makeRoom();
     void rowChanged(const ReceivedFile &file);

@@ -240,6 +240,7 @@ void frmMain::connectMenus()
     on("mnuHistory", [this] { m_engine->windows.mnuHistory({}); });
     on("mnuContactHistory", [this] { m_engine->windows.mnuHistory(selectedContact()); });
     on("mnuLeaveOut", [this](bool leftOut) { m_engine->windows.mnuLeaveOut(selectedContact(), leftOut); });
+    on("mnuSendFile", [this] { m_engine->windows.mnuSendFile(selectedContact()); });
     on("mnuNetworkscan", [this] { m_engine->windows.mnuNetworkscan(); });
     on("mnuAddUser", [this] { m_engine->windows.mnuAddUser(); });
     on("mnuImportContacts", [this] { m_engine->windows.mnuImportContacts(); });
@@ -569,6 +570,7 @@ void frmMain::refreshContextMenu()
 {
     const QString contact = selectedContact();
     m_menus.setContact(m_engine->commands.captions(contact, ListView1->selectedAddresses().size()), !contact.isEmpty());
+    m_menus.entry("mnuSendFile")->setVisible(m_engine->windows.canSendFiles());
     showItemDetails();
 }
 

@@ -111,6 +111,7 @@ inline constexpr std::array contactMenu = {
     MenuEntry{"mnuMuteContact", QT_TRANSLATE_NOOP("MainMenu", "M&ute")},
     MenuEntry{"mnuContactHistory", QT_TRANSLATE_NOOP("MainMenu", "&History...")},
     MenuEntry{"mnuLeaveOut", QT_TRANSLATE_NOOP("MainMenu", "&Keep no history")},
+    MenuEntry{"mnuSendFile", QT_TRANSLATE_NOOP("MainMenu", "Send &File..."), "file"},
 };
 
 } // namespace nimb

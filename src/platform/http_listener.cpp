@@ -11,6 +11,8 @@
 #include <winsock2.h>
 #else
 #include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/socket.h>
 #endif
 #include <microhttpd.h>
 
@@ -30,6 +32,17 @@ Ipv4Address peerOf(MHD_Connection *connection)
 {
     const MHD_ConnectionInfo *const info = MHD_get_connection_info(connection, MHD_CONNECTION_INFO_CLIENT_ADDRESS);
     return info ? ipv4Of(info->client_addr) : Ipv4Address();
+}
+
+/// The system takes megabytes ahead of a slow reader, and calls a connection writable again only when a good part of
+/// them has gone: nothing seems to move for minutes then. With less ahead whoever reads steadily is seen to do so.
+void keepLittleAhead([[maybe_unused]] MHD_Connection *connection)
+{
+#ifdef TCP_NOTSENT_LOWAT
+    constexpr int bytesAhead = 256 * 1024;
+    if (const MHD_ConnectionInfo *const info = MHD_get_connection_info(connection, MHD_CONNECTION_INFO_CONNECTION_FD))
+        setsockopt(info->connect_fd, IPPROTO_TCP, TCP_NOTSENT_LOWAT, &bytesAhead, sizeof(bytesAhead));
+#endif
 }
 
 std::optional<std::string_view> headerOf(MHD_Connection *connection, const char *name)
@@ -94,7 +107,7 @@ public:
     MicroHttpListener(const MicroHttpListener &) = delete;
     MicroHttpListener &operator=(const MicroHttpListener &) = delete;
 
-    bool start(Ipv4Address address, std::uint16_t port)
+    bool start(Ipv4Address address, std::uint16_t port, std::chrono::seconds stalls)
     {
         sockaddr_in place{};
         place.sin_family = AF_INET;
@@ -106,7 +119,7 @@ public:
             option(MHD_OPTION_SOCK_ADDR, 0, &place),
             option(MHD_OPTION_CONNECTION_LIMIT, limits::fileConnections),
             option(MHD_OPTION_PER_IP_CONNECTION_LIMIT, limits::fileConnectionsOfPeer),
-            option(MHD_OPTION_CONNECTION_TIMEOUT, limits::fileTransferStalls.count()),
+            option(MHD_OPTION_CONNECTION_TIMEOUT, stalls.count()),
             option(MHD_OPTION_CONNECTION_MEMORY_LIMIT, limits::fileRequestBytes),
             option(MHD_OPTION_THREAD_STACK_SIZE, stack),
             option(MHD_OPTION_UNESCAPE_CALLBACK, functionNumber(&leaveEscaped), this),
@@ -147,7 +160,10 @@ private:
         auto &self = *static_cast<MicroHttpListener *>(listener);
         if (what == MHD_CONNECTION_NOTIFY_CLOSED) {
             self.m_strangers -= *mark ? 1 : 0;
-        } else if (!self.m_handler.isExpected(peerOf(connection))) {
+            return;
+        }
+        keepLittleAhead(connection);
+        if (!self.m_handler.isExpected(peerOf(connection))) {
             *mark = listener;
             ++self.m_strangers;
         }
@@ -197,10 +213,11 @@ bool HttpListener::isBuilt()
     return true;
 }
 
-std::unique_ptr<HttpListener> HttpListener::open(Ipv4Address address, std::uint16_t port, Handler handler)
+std::unique_ptr<HttpListener> HttpListener::open(Ipv4Address address, std::uint16_t port, Handler handler,
+                                                 std::chrono::seconds stalls)
 {
     auto listener = std::make_unique<MicroHttpListener>(std::move(handler));
-    return listener->start(address, port) ? std::move(listener) : nullptr;
+    return listener->start(address, port, stalls) ? std::move(listener) : nullptr;
 }
 
 } // namespace nimb
@@ -215,7 +232,7 @@ bool HttpListener::isBuilt()
     return false;
 }
 
-std::unique_ptr<HttpListener> HttpListener::open(Ipv4Address, std::uint16_t, Handler)
+std::unique_ptr<HttpListener> HttpListener::open(Ipv4Address, std::uint16_t, Handler, std::chrono::seconds)
 {
     return nullptr;
 }

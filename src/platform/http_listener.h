@@ -3,6 +3,7 @@
 
 #include "protocol/ipv4_address.h"
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -55,7 +56,9 @@ public:
     };
 
     /// Null where the address or the port cannot be had, and where the program was built without a server.
-    [[nodiscard]] static std::unique_ptr<HttpListener> open(Ipv4Address address, std::uint16_t port, Handler handler);
+    /// stalls: a connection on which nothing moves for so long is ended.
+    [[nodiscard]] static std::unique_ptr<HttpListener> open(Ipv4Address address, std::uint16_t port, Handler handler,
+                                                            std::chrono::seconds stalls);
     /// False where the program was built without one.
     static bool isBuilt();
 

@@ -227,6 +227,13 @@ void PrivateWindows::answer(const ContactAddress &ip, const QString &text)
     [[maybe_unused]] const bool isSent = chat.send(remoteBody(text));
 }
 
+void PrivateWindows::sendFiles(const ContactAddress &ip, const QStringList &paths)
+{
+    openPrivate(ip);
+    if (const Contact *const contact = m_contacts.find(ip))
+        windowOf(*contact, OpenedBy::user).sendFiles(paths);
+}
+
 void PrivateWindows::sendWaiting(const WaitingMessage &message)
 {
     const Contact *const contact = m_contacts.find(message.ip);

@@ -39,6 +39,8 @@ public:
     void openPrivate(const ContactAddress &ip) override;
     /// Sends a text that was written elsewhere than in the window of this contact, which shows it.
     void answer(const ContactAddress &ip, const QString &text);
+    /// In the contact's window, which comes to the front.
+    void sendFiles(const ContactAddress &ip, const QStringList &paths);
     /// Sends what has waited for its contact, whose window shows it.
     void sendWaiting(const WaitingMessage &message);
     /// This will not be sent; a window that shows it says so.

@@ -1,10 +1,12 @@
-// A file goes from the window of a real copy to a program that knows nothing of it.
+// A file goes from the window of a real copy to a program that knows nothing of it, and to another copy.
 #include "chat_windows.h"
 #include "child_process.h"
 #include "running_copy.h"
 #include "wire_peer.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 
 #include <gmock/gmock.h>
@@ -14,8 +16,44 @@ namespace nimb::test
 namespace
 {
 
-using testing::HasSubstr;
 using testing::MatchesRegex;
+
+void writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+}
+
+QByteArray bytesOf(const QString &path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+/// Types the path into a dialog for files. Its list of names, which comes up meanwhile, may take keys for itself: then
+/// once more.
+void choosePath(const std::string &title, const QString &path)
+{
+    const Window dialog = Window::waitFor(title);
+    EXPECT_TRUE(waitUntil([&] {
+        dialog.activate();
+        press("ctrl+a");
+        type(path.toStdString());
+        press("Return");
+        return waitUntil([&] { return !Window::exists(title); }, std::chrono::seconds(3));
+    }));
+}
+
+/// Presses until there is a window of that title: another window may have come to the front just now.
+void clickUntil(const std::string &title, const PrivateWindow &window, int fromRight, int aboveBottom)
+{
+    EXPECT_TRUE(waitUntil([&] {
+        window.activate();
+        window.click(window.place().width - fromRight, window.place().height - aboveBottom);
+        return waitUntil([&] { return Window::exists(title); }, std::chrono::seconds(1));
+    }));
+}
 
 class FilesOfACopy : public testing::Test
 {
@@ -42,9 +80,7 @@ protected:
 TEST_F(FilesOfACopy, AreFetchedByWhomTheyAreMeantFor)
 {
     const QString path = bob.scratchFolder() + QStringLiteral("/Plan of the day.txt");
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("nine o'clock: tea") > 0);
-    file.close();
+    writeFile(path, "nine o'clock: tea");
     const MainWindow main = MainWindow::startBob(bob, ann);
     ann.send(bob.address(), "!ONLINE 127.0.53.12 ANN-PC Ann");
     const PrivateWindow window = main.openWhenOnline(0, "Ann");
@@ -53,9 +89,7 @@ TEST_F(FilesOfACopy, AreFetchedByWhomTheyAreMeantFor)
     for (int stop = 0; stop < stopsToTool; ++stop)
         press("Tab");
     press("space");
-    Window::waitFor("Choose files to send");
-    type(path.toStdString());
-    press("Return");
+    choosePath("Choose files to send", path);
     const std::string message
         = ann.hearWhere([](const std::string &bytes) { return bytes.starts_with("-Plan of the day.txt "); }).bytes;
     EXPECT_THAT(message,
@@ -66,6 +100,93 @@ TEST_F(FilesOfACopy, AreFetchedByWhomTheyAreMeantFor)
     EXPECT_EQ(fetched(url, "127.0.53.13"), "");
     EXPECT_EQ(bob.end(), 0);
     EXPECT_EQ(fetched(url, "127.0.53.12"), "") << "offers end with the program";
+}
+
+/// Bob has files, and Ann takes them into her folder.
+class FilesBetweenCopies : public testing::Test
+{
+protected:
+    FilesBetweenCopies() { EXPECT_TRUE(QDir().mkpath(annsFolder())); }
+
+    QString annsFolder() const { return ann.scratchFolder() + QStringLiteral("/Downloads"); }
+    QString inAnnsFolder(const QString &name) const { return annsFolder() + QLatin1Char('/') + name; }
+    QStringList annsFiles() const { return QDir(annsFolder()).entryList(QDir::Files | QDir::Hidden); }
+    QString bobsFile(const QString &name, const QByteArray &bytes) const
+    {
+        const QString path = bob.scratchFolder() + QLatin1Char('/') + name;
+        writeFile(path, bytes);
+        return path;
+    }
+    /// Both are there, and Bob has a window with Ann.
+    PrivateWindow startBoth()
+    {
+        bob.start({"Bob"});
+        ann.start({"Ann"});
+        MainWindow::of("Ann");
+        return MainWindow::of("Bob").openWhenOnline(0, "Ann");
+    }
+
+    /// By the paper clip beside "Send".
+    static void sendFile(const PrivateWindow &window, const QString &path)
+    {
+        constexpr int fromRight = 107, aboveBottom = 68; // pixels
+        clickUntil("Choose files to send", window, fromRight, aboveBottom);
+        choosePath("Choose files to send", path);
+    }
+    /// Ann presses "Save..." in the newest row, once that is there: above it a row has its second line there.
+    void saveNewestFile(const PrivateWindow &window) const
+    {
+        constexpr int fromRight = 85, aboveBottom = 155; // pixels
+        clickUntil("Choose a folder to save in", window, fromRight, aboveBottom);
+        choosePath("Choose a folder to save in", annsFolder());
+    }
+
+    const std::uint16_t port = freePort();
+    const Rows explained{{{"Options", "FilesExplained"}, "-1"}};
+    RunningCopy bob{{"127.0.53.21", "BOB-PC"}, profile(port, {{"127.0.53.22", "Ann", "ANN-PC"}}, explained)};
+    RunningCopy ann{{"127.0.53.22", "ANN-PC"}, profile(port, {{"127.0.53.21", "Bob", "BOB-PC"}}, explained)};
+};
+
+TEST_F(FilesBetweenCopies, AreSavedByTheirRowsAndNeverOverEachOther)
+{
+    const PrivateWindow toAnn = startBoth();
+    sendFile(toAnn, bobsFile(QStringLiteral("Plan.pdf"), "nine o'clock: tea"));
+    saveNewestFile(PrivateWindow::with("Bob"));
+    EXPECT_TRUE(waitUntil([&] { return annsFiles() == QStringList{QStringLiteral("Plan.pdf")}; }));
+    sendFile(toAnn, bobsFile(QStringLiteral("Plan.pdf"), "ten o'clock: coffee"));
+    saveNewestFile(PrivateWindow::with("Bob"));
+    const QStringList both{QStringLiteral("Plan (2).pdf"), QStringLiteral("Plan.pdf")};
+    EXPECT_TRUE(waitUntil([&] { return annsFiles() == both; })) << annsFiles().join(u' ').toStdString();
+    EXPECT_EQ(bytesOf(inAnnsFolder(QStringLiteral("Plan.pdf"))), "nine o'clock: tea");
+    EXPECT_EQ(bytesOf(inAnnsFolder(QStringLiteral("Plan (2).pdf"))), "ten o'clock: coffee");
+    EXPECT_EQ(bob.end(), 0);
+    EXPECT_EQ(ann.end(), 0);
+}
+
+/// An offer ends with the program that made it: what has come is kept, and is never taken for the whole.
+TEST_F(FilesBetweenCopies, AreNeverTakenForWholeWhenTheSenderIsKilled)
+{
+    const PrivateWindow toAnn = startBoth();
+    const QString large = bobsFile(QStringLiteral("Film.mkv"), "begin");
+    constexpr qint64 size = qint64{3} * 1024 * 1024 * 1024; // of which nothing but holes is on the disk
+    ASSERT_TRUE(QFile::resize(large, size));
+    sendFile(toAnn, large);
+    saveNewestFile(PrivateWindow::with("Bob"));
+    const auto parts = [this] { return QDir(annsFolder()).entryInfoList({QStringLiteral("*.part")}); };
+    ASSERT_TRUE(waitUntil([&] { return !parts().empty() && parts().front().size() > 0; }));
+    bob.kill();
+    const qint64 come = parts().front().size();
+    ASSERT_LT(come, size);
+    ASSERT_TRUE(QFile::resize(large, 1'000'000));
+    bob.start({"Bob"});
+    sendFile(MainWindow::of("Bob").openWhenOnline(0, "Ann"), large);
+    saveNewestFile(PrivateWindow::with("Bob"));
+    EXPECT_TRUE(waitUntil([&] { return annsFiles().contains(QStringLiteral("Film.mkv")); }));
+    EXPECT_EQ(bytesOf(inAnnsFolder(QStringLiteral("Film.mkv"))), bytesOf(large));
+    ASSERT_EQ(parts().size(), 1) << "of the first try";
+    EXPECT_GE(parts().front().size(), come);
+    EXPECT_EQ(bob.end(), 0);
+    EXPECT_EQ(ann.end(), 0);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // Files in the windows: sending them, what others offer, and the window of transfers.
 #include "controls.h"
 #include "conversation/file_panel.h"
+#include "conversation/small_picture.h"
 #include "private_chat/private_windows.h"
 #include "real_windows.h"
 
@@ -17,6 +18,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QToolButton>
 
 namespace nimb::test
@@ -94,6 +96,13 @@ protected:
         }
         qFatal("no window of transfers");
     }
+    /// The same file from Ann, each with another token.
+    void receiveAnother(int which)
+    {
+        std::string another = annsPlan;
+        another[another.rfind('/') - 1] = static_cast<char>('0' + which);
+        windows.arrive("10.0.0.2", another);
+    }
     void tell(const FetchedBytes &fetched) { windows.fileFetcher.told(fetched); }
 
     RealWindows windows{{{"10.0.0.2", "Ann"}}};
@@ -136,6 +145,18 @@ TEST_F(FilesInWindows, TheToolAsksForFiles)
     EXPECT_EQ(paths(), QStringList{one.fileName()});
 }
 
+TEST_F(FilesInWindows, TheContextMenuOfAContactSendsFiles)
+{
+    form().close();
+    windows.click(0, Qt::RightButton);
+    EXPECT_TRUE(windows.entry("mnuSendFile").isVisible());
+    windows.entry("mnuSendFile").trigger();
+    QMetaObject::invokeMethod(&dialog(), "filesSelected", Q_ARG(QStringList, {QStringLiteral("/media/me/a.txt")}));
+    EXPECT_EQ(paths(), QStringList{QStringLiteral("/media/me/a.txt")});
+    EXPECT_THAT(windows.sent(), SizeIs(1));
+    EXPECT_TRUE(windows.privateWindow().isVisible());
+}
+
 TEST_F(FilesInWindows, TheContextMenuOfTheLogSendsFilesAndFolders)
 {
     auto &log = control<QTextEdit>("outtext");
@@ -144,10 +165,16 @@ TEST_F(FilesInWindows, TheContextMenuOfTheLogSendsFilesAndFolders)
     auto *const menu = log.findChild<QMenu *>(QStringLiteral("logMenu"));
     ASSERT_TRUE(menu);
     QStringList entries;
-    for (const QAction *const action : menu->actions())
+    QString accessKeys;
+    for (const QAction *const action : menu->actions()) {
         entries += action->text();
+        if (const qsizetype mark = action->text().indexOf(u'&'); mark >= 0)
+            accessKeys += action->text().at(mark + 1).toLower();
+    }
+    std::ranges::sort(accessKeys);
+    EXPECT_EQ(std::ranges::adjacent_find(accessKeys), accessKeys.end()) << accessKeys.toStdString();
     EXPECT_EQ(entries.mid(entries.size() - 2),
-              (QStringList{QStringLiteral("Send &Files..."), QStringLiteral("Send a F&older...")}));
+              (QStringList{QStringLiteral("Send Fil&es..."), QStringLiteral("Send a Fol&der...")}));
     menu->actions().last()->trigger();
     QMetaObject::invokeMethod(&dialog(), "fileSelected", Q_ARG(QString, folder.path()));
     EXPECT_EQ(paths(), QStringList{folder.path()});
@@ -209,6 +236,8 @@ TEST(FilesWithoutAServer, AreNotOfferedToBeSent)
     windows.doubleClick(0);
     QWidget &form = windows.privateWindow();
     EXPECT_FALSE(controlOf(form, "sendFileBtn").isVisibleTo(&form));
+    windows.click(0, Qt::RightButton);
+    EXPECT_FALSE(windows.entry("mnuSendFile").isVisible());
     windows.arrive("10.0.0.2", annsPlan);
     EXPECT_THAT(form.findChildren<FileRow *>(), SizeIs(1)) << "others' are received";
 }
@@ -282,7 +311,7 @@ TEST_F(FilesInWindows, APictureIsShownAfterAClick)
     ASSERT_TRUE(picture.save(path));
     tell({.number = row.number(), .what = What::done, .path = path, .isChecked = true});
     auto &shown = controlOf<QLabel>(row, "shownPicture");
-    EXPECT_TRUE(shown.isVisibleTo(&row));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown.isVisibleTo(&row); }));
     EXPECT_EQ(shown.pixmap().deviceIndependentSize(), QSizeF(180, 90));
     EXPECT_TRUE(isShown(row, "saveBtn"));
     EXPECT_FALSE(isShown(row, "lookBtn"));
@@ -294,11 +323,24 @@ TEST_F(FilesInWindows, WhatIsNoPictureIsSaidToBeNone)
     FileRow &row = *rows().front();
     received().look(row.number(), folder.path());
     QFile file(folder.filePath(QStringLiteral("a.png")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("no picture") > 0);
+    // Qt could draw it, and whatever it leads to.
+    const QByteArray drawing = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" height=\"9\"/>";
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(drawing) > 0);
     file.close();
     tell({.number = row.number(), .what = What::done, .path = file.fileName(), .isChecked = true});
-    EXPECT_EQ(controlOf<QLabel>(row, "shownPicture").text(),
-              QStringLiteral("This is no picture that NIMB-Chat can read."));
+    auto &shown = controlOf<QLabel>(row, "shownPicture");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown.isVisibleTo(&row); }));
+    EXPECT_EQ(shown.text(), QStringLiteral("This is no picture that NIMB-Chat can read."));
+}
+
+TEST(PictureFormat, IsToldByTheFirstBytesAndOneOfFour)
+{
+    EXPECT_EQ(pictureFormatOf("\x89PNG\r\n\x1A\n...."), "png");
+    EXPECT_EQ(pictureFormatOf("\xFF\xD8\xFF\xE0"), "jpeg");
+    EXPECT_EQ(pictureFormatOf("GIF89a"), "gif");
+    EXPECT_EQ(pictureFormatOf("RIFF1234WEBP"), "webp");
+    for (const char *const other : {"", "BM", "<svg", "RIFF1234WAVE", "GIF", "\x89PNG", "%PDF"})
+        EXPECT_EQ(pictureFormatOf(other), "") << other;
 }
 
 TEST_F(FilesInWindows, ThreeRowsAreShownAndThoseUnderWayStay)
@@ -316,6 +358,47 @@ TEST_F(FilesInWindows, ThreeRowsAreShownAndThoseUnderWayStay)
         numbers.push_back(row->number());
     EXPECT_THAT(numbers, ElementsAre(first, first + 4, first + 5));
     EXPECT_EQ(received().rowCount(), 6);
+}
+
+TEST_F(FilesInWindows, FurtherFilesAreCountedAndShownTogether)
+{
+    const auto line = [this] { return form().findChild<QWidget *>(QStringLiteral("furtherFiles")); };
+    receiveAnother(0);
+    EXPECT_FALSE(line()) << "nothing is made before it is needed";
+    for (int i = 1; i < 6; ++i)
+        receiveAnother(i);
+    ASSERT_TRUE(line() && line()->isVisibleTo(&form()));
+    auto &count = control<QLabel>("furtherCount");
+    EXPECT_TRUE(count.isVisibleTo(&form()));
+    EXPECT_THAT(count.text().toStdString(), testing::StartsWith("Further files: 3."));
+    Q_EMIT count.linkActivated(QStringLiteral("all"));
+    EXPECT_TRUE(std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget *window) {
+        return window->objectName() == QLatin1String("frmTransfers") && window->isVisible();
+    }));
+}
+
+TEST_F(FilesInWindows, AllThatIsOfferedIsSavedAtOnce)
+{
+    for (int i = 0; i < 5; ++i)
+        receiveAnother(i);
+    received().save(received().at(1).number, QStringLiteral("/elsewhere"));
+    control<QPushButton>("saveAllBtn").click();
+    QMetaObject::invokeMethod(&dialog(), "fileSelected", Q_ARG(QString, folder.path()));
+    for (int row = 0; row < 5; ++row)
+        EXPECT_EQ(received().at(row).folder, row == 1 ? QStringLiteral("/elsewhere") : folder.path());
+    EXPECT_FALSE(control<QPushButton>("saveAllBtn").isVisibleTo(&form())) << "nothing is left";
+    EXPECT_TRUE(control<QLabel>("furtherCount").isVisibleTo(&form()));
+}
+
+TEST_F(FilesInWindows, OneFileIsSavedByItsRowAlone)
+{
+    receiveAnother(0);
+    EXPECT_FALSE(form().findChild<QPushButton *>(QStringLiteral("saveAllBtn")));
+    receiveAnother(1);
+    EXPECT_TRUE(control<QPushButton>("saveAllBtn").isVisibleTo(&form()));
+    EXPECT_FALSE(control<QLabel>("furtherCount").isVisibleTo(&form()));
+    controlOf<QToolButton>(*rows().front(), "closeRowBtn").click();
+    EXPECT_FALSE(control<QPushButton>("saveAllBtn").isVisibleTo(&form()));
 }
 
 TEST_F(FilesInWindows, ARowIsHidden)

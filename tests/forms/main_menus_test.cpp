@@ -152,12 +152,12 @@ TEST_F(MainMenusTest, AnOpenDialogDoesNotKeepTheProgram)
 TEST_F(MainMenusTest, TheContextMenuHasEveryEntryWithTheNameInIt)
 {
     windows.click(1, Qt::RightButton);
-    EXPECT_THAT(entriesOf(menu("mnuPopUp")),
-                ElementsAre("mnuPrivateChat: Private chat with 'Ben && Co'", "mnuBuzzUser: Buzz 'Ben && Co'",
-                            "mnusendcontacts: Send &contacts to 'Ben && Co'",
-                            "mnuRemoveUser: Remove 'Ben && Co' from the list",
-                            "mnuinviteuser: I&nvite user 'Ben && Co'", "mnuMuteContact: M&ute",
-                            "mnuContactHistory: &History...", "mnuLeaveOut: &Keep no history"));
+    EXPECT_THAT(
+        entriesOf(menu("mnuPopUp")),
+        ElementsAre("mnuPrivateChat: Private chat with 'Ben && Co'", "mnuBuzzUser: Buzz 'Ben && Co'",
+                    "mnusendcontacts: Send &contacts to 'Ben && Co'", "mnuRemoveUser: Remove 'Ben && Co' from the list",
+                    "mnuinviteuser: I&nvite user 'Ben && Co'", "mnuMuteContact: M&ute",
+                    "mnuContactHistory: &History...", "mnuLeaveOut: &Keep no history", "mnuSendFile: Send &File..."));
     for (const QAction *const action : menu("mnuPopUp").actions())
         EXPECT_EQ(action->isEnabled(), action->isVisible()) << action->objectName().toStdString();
     menu("mnuPopUp").close();
@@ -184,7 +184,7 @@ TEST_F(MainMenusTest, WithoutASelectionTheContextMenuHasNothingToActOn)
                 ElementsAre("mnuPrivateChat: &Private Chat", "mnuBuzzUser: &Buzz User",
                             "mnusendcontacts: Send &Contacts", "mnuRemoveUser: Re&move User",
                             "mnuinviteuser: I&nvite user", "mnuMuteContact: M&ute", "mnuContactHistory: &History...",
-                            "mnuLeaveOut: &Keep no history"));
+                            "mnuLeaveOut: &Keep no history", "mnuSendFile: Send &File..."));
     for (const QAction *const action : menu("mnuPopUp").actions())
         EXPECT_FALSE(action->isEnabled()) << action->objectName().toStdString();
 }

@@ -2,17 +2,16 @@
 #include "files/http_file_fetcher.h"
 
 #include "files/http_file_server.h"
+#include "full_disk.h"
 #include "print_qt.h"
 #include "protocol/address_text.h"
+#include "served_files.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QRandomGenerator>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 
@@ -30,20 +29,10 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using What = FetchedBytes::What;
 
-constexpr int patience = 60000; ///< milliseconds
-const QString token = QStringLiteral("0123456789abcdef0123456789abcdef");
-
-/// Those of one test process; others have others.
-Ipv4Address ownLoopback(int last)
-{
-    const auto pid = static_cast<std::uint32_t>(QCoreApplication::applicationPid());
-    return Ipv4Address(127, 6, static_cast<std::uint8_t>(pid >> 8), static_cast<std::uint8_t>((pid & 0xF0) | last));
-}
-
-class FileFetcherTest : public testing::Test
+class FileFetcherTest : public FilesOnLoopback
 {
 protected:
-    FileFetcherTest()
+    FileFetcherTest() : FilesOnLoopback(6)
     {
         renew();
         EXPECT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("in")));
@@ -54,33 +43,12 @@ protected:
         fetcher = std::make_unique<HttpFileFetcher>();
         fetcher->told = [this](const FetchedBytes &now) { states.push_back(now); };
     }
-    static bool waitUntil(const std::function<bool()> &condition)
-    {
-        QElapsedTimer time;
-        time.start();
-        while (!condition() && time.elapsed() < patience)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
-        return condition();
-    }
     static bool isOver(const FetchedBytes &state)
     {
         return state.what == What::done || state.what == What::stopped || state.what == What::failed;
     }
     QString inFolder(const QString &name) const { return folder.filePath(QStringLiteral("in/") + name); }
     QStringList found() const { return QDir(folder.filePath(QStringLiteral("in"))).entryList(QDir::Files); }
-    QString write(const QString &name, const QByteArray &bytes) const
-    {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        EXPECT_EQ(file.write(bytes), bytes.size());
-        return file.fileName();
-    }
-    static QByteArray read(const QString &path)
-    {
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-        return file.readAll();
-    }
     WantedFile wanted(const QString &name = QStringLiteral("Plan.pdf")) const
     {
         return {.number = 1,
@@ -99,9 +67,8 @@ protected:
         return states.empty() ? FetchedBytes{} : states.back();
     }
 
-    const Ipv4Address server = ownLoopback(1), own = ownLoopback(2);
+    const Ipv4Address server = loopback(1), own = loopback(2);
     std::uint16_t port = 5549;
-    QTemporaryDir folder;
     std::unique_ptr<HttpFileFetcher> fetcher;
     std::vector<FetchedBytes> states;
 };
@@ -264,6 +231,39 @@ TEST_F(OddServerTest, SaysThatThereIsTooLittleRoom)
                 testing::StartsWith("There is too little room in "));
 }
 
+TEST_F(OddServerTest, LeavesNothingBehindWhereNothingHasCome)
+{
+    failureOf("HTTP/1.1 200 OK\r\nContent-Length: 9000000000000000000\r\n\r\nabc");
+    EXPECT_THAT(found(), IsEmpty());
+    failureOf("HTTP/1.1 404 Not Found\r\n\r\n");
+    EXPECT_THAT(found(), IsEmpty());
+}
+
+TEST_F(OddServerTest, SaysThatTheDiskIsFullAndKeepsWhatHasCome)
+{
+    const QString part = QStringLiteral("Plan.pdf.%1.part").arg(token.left(8));
+    for (const int error : {ENOSPC, EDQUOT}) {
+        {
+            const FullDisk full(4, error);
+            EXPECT_EQ(failureOf("HTTP/1.1 200 OK\r\nContent-Length: 10\r\nETag: \"t\"\r\n\r\n0123456789"),
+                      "There is no room any more in " + inFolder({}).chopped(1).toStdString()
+                          + ". What has come is kept.");
+        }
+        EXPECT_EQ(read(inFolder(part)), "0123");
+    }
+    const FetchedBytes state
+        = fetchFrom({"HTTP/1.1 206 Part\r\nContent-Length: 6\r\nContent-Range: bytes 4-9/10\r\n\r\n456789"});
+    EXPECT_EQ(read(state.path), "0123456789");
+}
+
+TEST_F(OddServerTest, SaysWhyElseItCannotBeWritten)
+{
+    const FullDisk broken(0, EIO);
+    EXPECT_THAT(failureOf("HTTP/1.1 200 OK\r\nContent-Length: 3\r\n\r\nabc"),
+                testing::AllOf(HasSubstr(" cannot be written on: "), HasSubstr("nput/output error")));
+    EXPECT_THAT(found(), IsEmpty());
+}
+
 TEST_F(OddServerTest, ShowsNothingThatIsTooLarge)
 {
     odd.emplace(server, std::vector<QByteArray>{"HTTP/1.1 200 OK\r\nContent-Length: 11\r\n\r\n01234567890"});
@@ -271,6 +271,18 @@ TEST_F(OddServerTest, ShowsNothingThatIsTooLarge)
     WantedFile file = wanted();
     file.most = 10;
     EXPECT_EQ(fetch(file).sentence, QStringLiteral("It is too large to be shown."));
+}
+
+TEST_F(OddServerTest, ShowsAPictureWithoutWaitingForItsSum)
+{
+    odd.emplace(
+        server,
+        std::vector<QByteArray>{"HTTP/1.1 200 OK\r\nContent-Length: 3\r\nNIMB-Repr-Digest: pending\r\n\r\nabc"});
+    port = odd->serverPort();
+    WantedFile file = wanted();
+    file.most = 10;
+    EXPECT_EQ(fetch(file).what, What::done);
+    EXPECT_THAT(odd->requests, testing::SizeIs(1));
 }
 
 TEST_F(OddServerTest, WaitsWhileTheSenderIsBusy)
@@ -342,7 +354,7 @@ TEST_F(FetchedFromUsTest, OthersGetNothing)
 {
     serve(write(QStringLiteral("a"), "abc"));
     WantedFile file = wanted();
-    file.from = ownLoopback(3);
+    file.from = loopback(3);
     EXPECT_EQ(fetch(file).sentence, QStringLiteral("The sender offers it no longer."));
 }
 

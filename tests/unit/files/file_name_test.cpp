@@ -9,6 +9,21 @@ namespace nimb
 namespace
 {
 
+TEST(CleanFileName, FitsIntoAFolderWithAllThatIsPutBehindIt)
+{
+    constexpr qsizetype longestOfSystems = 255, numberAndMark = 14; // " (1000)", ".01234567.part"
+    for (const char32_t c : {U'a', U'\u00E4', U'\u4E2D', U'\U0001F600'}) {
+        const QString character = QString::fromUcs4(&c, 1);
+        const QString clean = cleanFileName(character.repeated(300) + QStringLiteral(".tar.gz"));
+        EXPECT_LE(clean.toUtf8().size() + numberAndMark, longestOfSystems) << character.toStdString();
+        EXPECT_GT(clean.toUtf8().size(), 190) << "no shorter than it must be";
+        EXPECT_TRUE(clean.endsWith(QStringLiteral(".gz")));
+        EXPECT_TRUE(clean.startsWith(character.repeated(40)));
+        EXPECT_FALSE(clean.contains(QChar::ReplacementCharacter));
+        EXPECT_TRUE(clean.isValidUtf16());
+    }
+}
+
 TEST(CleanFileName, LeavesAnOrdinaryNameAlone)
 {
     for (const char *const name : {"Plan.pdf", "Über uns (2).txt", "日本語.tar.gz", "no suffix", "a.b.c", "😀.png",
@@ -50,8 +65,8 @@ TEST(CleanFileName, IsNoDeviceOfWindows)
 TEST(CleanFileName, KeepsTheSuffixOfALongName)
 {
     EXPECT_EQ(cleanFileName(QString(300, u'a') + QStringLiteral(".pdf")), QString(196, u'a') + QStringLiteral(".pdf"));
-    // Each has nine characters in an address.
-    EXPECT_EQ(cleanFileName(QString(300, u'日') + QStringLiteral(".pdf")), QString(88, u'日') + QStringLiteral(".pdf"));
+    // Each is three bytes.
+    EXPECT_EQ(cleanFileName(QString(300, u'日') + QStringLiteral(".pdf")), QString(78, u'日') + QStringLiteral(".pdf"));
     EXPECT_EQ(cleanFileName(QStringLiteral("a.") + QString(300, u'b')), QStringLiteral("a.") + QString(198, u'b'));
 }
 

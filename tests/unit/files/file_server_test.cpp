@@ -3,22 +3,27 @@
 
 #include "base/limits.h"
 #include "child_process.h"
+#include "ordinary_user.h"
 #include "print_qt.h"
 #include "protocol/address_text.h"
+#include "served_files.h"
+#include "slow_disk.h"
 
-#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QStandardPaths>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTemporaryDir>
+#include <QTimer>
 
 #include <gmock/gmock.h>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <list>
 
@@ -32,54 +37,20 @@ using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 
-constexpr int patience = 60000; ///< milliseconds
-const QString token = QStringLiteral("0123456789abcdef0123456789abcdef");
-
-/// Those of one test process; others have others.
-Ipv4Address loopback(int last)
-{
-    const auto pid = static_cast<std::uint32_t>(QCoreApplication::applicationPid());
-    return Ipv4Address(127, 5, static_cast<std::uint8_t>(pid >> 8), static_cast<std::uint8_t>((pid & 0xF0) | last));
-}
-
-class FileServerTest : public testing::Test
+class FileServerTest : public FilesOnLoopback
 {
 protected:
-    FileServerTest()
+    FileServerTest() : FilesOnLoopback(5)
     {
         server->sent = [this](const SentBytes &sent) { transfers.push_back(sent); };
         server->failed = [this](const QString &, const QString &sentence) { failures += sentence; };
     }
 
-    static bool waitUntil(const std::function<bool()> &condition)
-    {
-        QElapsedTimer time;
-        time.start();
-        while (!condition() && time.elapsed() < patience)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
-        return condition();
-    }
-
-    QString pathOf(const QString &name) const { return folder.filePath(name); }
-    QString write(const QString &name, const QByteArray &bytes) const
-    {
-        QFile file(pathOf(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        EXPECT_EQ(file.write(bytes), bytes.size());
-        return file.fileName();
-    }
-    static QByteArray read(const QString &path)
-    {
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-        return file.readAll();
-    }
-
     /// Served to the peer; the sentence of the trouble, or none.
-    QString serve(const QString &path, const QString &name = QStringLiteral("Plan.pdf"), const QString &as = token)
+    QString serve(const QString &path, const QString &name = QStringLiteral("Plan.pdf"), const QString &as = {})
     {
         std::optional<FileServer::Readied> readied;
-        server->serve({.token = as, .name = name, .path = path, .to = {peer}, .at = own},
+        server->serve({.token = as.isEmpty() ? token : as, .name = name, .path = path, .to = {peer}, .at = own},
                       [&](const FileServer::Readied &now) { readied = now; });
         EXPECT_TRUE(waitUntil([&] { return readied.has_value(); }));
         size = readied ? readied->size : 0;
@@ -87,9 +58,12 @@ protected:
         servedName = readied ? readied->name : QString();
         return readied ? readied->trouble : QString();
     }
-    QString address(const QString &name = QStringLiteral("Plan.pdf"), const QString &of = token) const
+    QString address(const QString &name = QStringLiteral("Plan.pdf"), const QString &of = {}) const
     {
-        return QStringLiteral("http://%1:%2/%3/%4").arg(addressText(own)).arg(port).arg(of, name);
+        return QStringLiteral("http://%1:%2/%3/%4")
+            .arg(addressText(own))
+            .arg(port)
+            .arg(of.isEmpty() ? token : of, name);
     }
 
     struct Ended {
@@ -139,7 +113,6 @@ protected:
     }
 
     const Ipv4Address own = loopback(1), peer = loopback(2), stranger = loopback(3);
-    QTemporaryDir folder;
     std::unique_ptr<HttpFileServer> server = std::make_unique<HttpFileServer>();
     std::vector<SentBytes> transfers;
     QStringList failures;
@@ -303,7 +276,21 @@ TEST_F(FileServerTest, BreaksOffAndListensNoMoreWhenItIsWithdrawn)
     server->withdraw(token);
     socket->setReadBufferSize(0);
     EXPECT_LT(allFrom(*socket).size(), file.size());
-    EXPECT_EQ(curl(peer, {address()}).status, 7); // nobody there
+    EXPECT_TRUE(waitUntil([&] { return curl(peer, {address()}).status == 7; })) << "nobody is there soon";
+}
+
+TEST_F(FileServerTest, IsWithdrawnAtOnceThoughTheDiskDoesNotAnswer)
+{
+    serve(write(QStringLiteral("a.slow"), "abc"));
+    waitForSum();
+    SlowDisk disk;
+    const std::unique_ptr<QTcpSocket> socket = connected(peer);
+    socket->write("GET /" + token.toLatin1() + "/Plan.pdf HTTP/1.1\r\nHost: x\r\n\r\n");
+    ASSERT_TRUE(waitUntil([] { return SlowDisk::waiting() > 0; }));
+    server->withdraw(token); // or it would never come back
+    EXPECT_EQ(SlowDisk::waiting(), 1);
+    EXPECT_EQ(serve(write(QStringLiteral("b"), "def")), QString());
+    EXPECT_EQ(curl(peer, {address()}).out, "def");
 }
 
 TEST_F(FileServerTest, GoesOnListeningForTheOthers)
@@ -346,6 +333,44 @@ TEST_F(FileServerTest, SaysWhereItCannotListen)
                   [&](const FileServer::Readied &now) { readied = now; });
     ASSERT_TRUE(waitUntil([&] { return readied.has_value(); }));
     EXPECT_EQ(readied->trouble, QStringLiteral("Plan.pdf cannot be sent: no port of this computer is free for it."));
+}
+
+/// Its reader takes less in each limit than the buffers between them hold.
+TEST_F(FileServerTest, EndsNoTransferThatIsSlowButGoesOn)
+{
+    server = std::make_unique<HttpFileServer>(std::uint16_t{5549}, std::chrono::seconds(1));
+    server->sent = [this](const SentBytes &sent) { transfers.push_back(sent); };
+    QFile file(pathOf(QStringLiteral("large")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(qint64{200} * 1024 * 1024));
+    serve(file.fileName());
+    QTcpSocket slow;
+    ASSERT_TRUE(slow.bind(QHostAddress(peer.number())));
+    slow.setReadBufferSize(8 * 1024);
+    slow.connectToHost(QHostAddress(own.number()), port);
+    ASSERT_TRUE(slow.waitForConnected(patience));
+    slow.write("GET /" + token.toLatin1() + "/Plan.pdf HTTP/1.1\r\nHost: x\r\n\r\n");
+    qint64 got = 0;
+    QTimer pace;
+    QObject::connect(&pace, &QTimer::timeout, &slow, [&] { got += slow.read(8 * 1024).size(); });
+    pace.start(20);
+    constexpr qint64 longAfterTheLimit = qint64{1500} * 1024;
+    const auto isOver = [this] { return !transfers.empty() && transfers.back().isOver; };
+    EXPECT_TRUE(waitUntil([&] { return got > longAfterTheLimit || isOver(); }));
+    EXPECT_FALSE(isOver()) << got;
+}
+
+TEST_F(FileServerTest, EndsATransferThatStandsStill)
+{
+    server = std::make_unique<HttpFileServer>(std::uint16_t{5549}, std::chrono::seconds(1));
+    server->sent = [this](const SentBytes &sent) { transfers.push_back(sent); };
+    QFile file(pathOf(QStringLiteral("large")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(qint64{200} * 1024 * 1024));
+    serve(file.fileName());
+    const std::unique_ptr<QTcpSocket> socket = connected(peer);
+    socket->setReadBufferSize(1000);
+    socket->write("GET /" + token.toLatin1() + "/Plan.pdf HTTP/1.1\r\nHost: x\r\n\r\n");
+    EXPECT_TRUE(waitUntil([&] { return !transfers.empty() && transfers.back().isOver; }));
+    EXPECT_FALSE(transfers.back().isWhole);
 }
 
 TEST_F(FileServerTest, SendsFourFilesToAPeerAtATime)
@@ -413,6 +438,20 @@ TEST_F(FileServerTest, ReachesBeyondFourGigabytes)
     EXPECT_EQ(curl(peer, {QStringLiteral("--range"), QStringLiteral("-4"), address()}).out, QByteArray("\0end", 4));
     EXPECT_THAT(curl(peer, {QStringLiteral("--head"), address()}).out.toStdString(),
                 HasSubstr("Content-Length: 21474836480\r\n"));
+}
+
+/// The sum of the large one takes a minute.
+TEST_F(FileServerTest, ALargeFileHoldsUpNoSumOfSmallOnes)
+{
+    QFile file(pathOf(QStringLiteral("large")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(qint64{100} * 1024 * 1024 * 1024));
+    serve(file.fileName());
+    const QString small = QStringLiteral("fedcba9876543210fedcba9876543210");
+    serve(write(QStringLiteral("a"), "abc"), QStringLiteral("a"), small);
+    const auto headOf = [&](const QString &of) { return curl(peer, {QStringLiteral("--head"), of}).out; };
+    EXPECT_TRUE(waitUntil(
+        [&] { return headOf(address(QStringLiteral("a"), small)).contains("Repr-Digest: sha-256=:ungWv48"); }));
+    EXPECT_THAT(headOf(address()).toStdString(), HasSubstr("NIMB-Repr-Digest: pending"));
 }
 
 TEST_F(FileServerTest, LetsALargeFileBeResumed)
@@ -529,6 +568,46 @@ TEST_F(FolderServerTest, GivesTheSameBytesHoweverTheyAreAskedFor)
         ASSERT_EQ(whole()->open(isStopped)->read(place, {&one, 1}), 1U);
         ASSERT_EQ(one, all[static_cast<qsizetype>(place)]) << place;
     }
+}
+
+TEST_F(FolderServerTest, SaysWhatOfAFolderIsLeftOut)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("F/closed")));
+    write(QStringLiteral("F/a"), "12345");
+    write(QStringLiteral("F/secret"), "no");
+    write(QStringLiteral("F/closed/inside"), "no");
+    ASSERT_TRUE(QFile::link(pathOf(QStringLiteral("F")), pathOf(QStringLiteral("F/loop"))));
+    const QByteArray pipe = QFile::encodeName(pathOf(QStringLiteral("F/pipe")));
+    ASSERT_EQ(mkfifo(pipe.constData(), 0600), 0);
+    const QByteArray noText = QFile::encodeName(pathOf(QStringLiteral("F"))) + "/\xE4.txt";
+    const int descriptor = ::open(noText.constData(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600);
+    ASSERT_GE(descriptor, 0);
+    ::close(descriptor);
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), QFile::Permissions(0x7755)));
+    ASSERT_TRUE(QFile::setPermissions(pathOf(QStringLiteral("F/secret")), {}));
+    ASSERT_TRUE(QFile::setPermissions(pathOf(QStringLiteral("F/closed")), {}));
+    QString leftOut;
+    {
+        const OrdinaryUser user;
+        const std::atomic<bool> isStopped = false;
+        const FoundSource found = findSource(pathOf(QStringLiteral("F")), isStopped);
+        ASSERT_TRUE(std::holds_alternative<NamedSource>(found));
+        leftOut = std::get<NamedSource>(found).leftOut;
+        EXPECT_GT(std::get<NamedSource>(found).source->size(), 0U);
+    }
+    ASSERT_TRUE(QFile::setPermissions(pathOf(QStringLiteral("F/closed")), QFile::Permissions(0x7700)));
+    EXPECT_EQ(leftOut,
+              QString::fromUtf8("5 left out of F: closed, loop, pipe and 2 more. Links are not followed, and what "
+                                "cannot be read is not sent."));
+    EXPECT_EQ(serve(pathOf(QStringLiteral("F"))), QString());
+}
+
+TEST_F(FolderServerTest, SaysNothingWhereNothingIsLeftOut)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("F/in")));
+    const std::atomic<bool> isStopped = false;
+    const FoundSource found = findSource(pathOf(QStringLiteral("F")), isStopped);
+    EXPECT_EQ(std::get<NamedSource>(found).leftOut, QString());
 }
 
 TEST_F(FolderServerTest, EndsWhenAFileInItChanges)

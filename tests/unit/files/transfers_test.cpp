@@ -59,6 +59,17 @@ protected:
         return receive(message.replace(message.find("abcdef/") - number.size(), number.size(), number));
     }
 
+    /// The program as it starts with what this one has stored.
+    std::unique_ptr<Copy> next()
+    {
+        std::map<std::string, QString> stored;
+        stored["Transfers/UnfinishedFiles"]
+            = QString::fromStdString(copy.settings.value("Transfers", "UnfinishedFiles"));
+        auto later = std::make_unique<Copy>(CopySetup{.settings = stored}, nullptr, copy.time);
+        later->settleStart();
+        return later;
+    }
+
     Copy copy;
 
 private:
@@ -132,6 +143,17 @@ TEST_F(TransfersTest, WhatIsReadyWhenTheWindowHasGoneIsNotOffered)
     copy.fileServer.readies.front()({.size = 1, .port = 5549, .name = QStringLiteral("a")});
     EXPECT_THAT(copy.sent(), IsEmpty());
     EXPECT_THAT(copy.fileServer.withdrawn, ElementsAre(served().token));
+}
+
+TEST_F(TransfersTest, WhatOfAFolderIsLeftOutIsSaidAndTheRestIsSent)
+{
+    copy.fileServer.answersAtOnce = false;
+    chat().sendFiles({QStringLiteral("/a")});
+    copy.fileServer.readies.front()(
+        {.size = 5, .port = 5549, .name = QStringLiteral("a.zip"), .leftOut = QStringLiteral("1 left out of a: b.")});
+    EXPECT_THAT(view().fileTroubles, ElementsAre(QStringLiteral("1 left out of a: b.")));
+    EXPECT_THAT(copy.sent(), SizeIs(1));
+    EXPECT_TRUE(offers().isLive(0));
 }
 
 TEST_F(TransfersTest, TooManyAtOnceAreRefused)
@@ -323,6 +345,71 @@ TEST_F(TransfersTest, AFileIsPausedAndResumed)
     EXPECT_EQ(shown(0, ReceivedFiles::Progress), QStringLiteral("Gone."));
     received().resume(number);
     EXPECT_THAT(copy.fileFetcher.fetched, SizeIs(3));
+}
+
+TEST_F(TransfersTest, WhatWaitsForItsSumKeepsNobodyWaiting)
+{
+    chat();
+    std::vector<int> numbers;
+    for (int i = 0; i < 5; ++i)
+        received().save(numbers.emplace_back(receiveAnother()), QStringLiteral("/in"));
+    ASSERT_THAT(copy.fileFetcher.fetched, SizeIs(4));
+    tell({.number = numbers.front(), .what = What::checking, .place = 100, .size = 100});
+    ASSERT_THAT(copy.fileFetcher.fetched, SizeIs(5));
+    EXPECT_EQ(copy.fileFetcher.fetched.back().number, numbers.back());
+}
+
+TEST_F(TransfersTest, WhatIsUnfinishedComesBackPausedAfterARestart)
+{
+    chat();
+    const int number = receive();
+    received().save(number, QStringLiteral("/in"));
+    tell({.number = number, .what = What::running, .place = 45, .size = 100});
+    const int over = receiveAnother(), gone = receiveAnother();
+    received().save(over, QStringLiteral("/in"));
+    tell({.number = over, .what = What::done, .path = QStringLiteral("/in/Plan (2).pdf")});
+    received().save(gone, QStringLiteral("/in"));
+    tell({.number = gone, .what = What::failed, .sentence = QStringLiteral("Gone."), .isGone = true});
+    receiveAnother(); // which nobody wants
+    copy.engine.mainWindow().Form_Unload();
+    const std::unique_ptr<Copy> later = next();
+    ReceivedFiles &files = later->engine.transfers().received;
+    ASSERT_EQ(files.rowCount(), 1);
+    EXPECT_EQ(files.at(0).sender, QStringLiteral("Ann"));
+    EXPECT_EQ(files.index(0, ReceivedFiles::Progress).data().toString(), QStringLiteral("paused at 45 %"));
+    EXPECT_THAT(later->fileFetcher.fetched, IsEmpty()) << "nothing is fetched by itself";
+    EXPECT_EQ(later->engine.transfers().underWay(), 0);
+    files.resume(files.at(0).number);
+    ASSERT_THAT(later->fileFetcher.fetched, SizeIs(1));
+    const WantedFile &wanted = later->fileFetcher.fetched.front();
+    EXPECT_EQ(wanted.path, "/0123456789abcdef0123456789abcdef/Plan.pdf");
+    EXPECT_EQ(wanted.host, Ipv4Address(10, 0, 0, 2));
+    EXPECT_EQ(wanted.port, 5549);
+    EXPECT_EQ(wanted.from, Ipv4Address(10, 0, 0, 1));
+    EXPECT_EQ(wanted.folder, QStringLiteral("/in"));
+    later->fileFetcher.told({.number = files.at(0).number, .what = What::done});
+    EXPECT_EQ(later->settings.value("Transfers", "UnfinishedFiles"), "");
+}
+
+TEST_F(TransfersTest, WhatIsUnfinishedIsKeptAtOnceAndOnlySoManyOfThem)
+{
+    chat();
+    for (int i = 0; i < 60; ++i)
+        received().save(receiveAnother(), QStringLiteral("/in"));
+    const std::unique_ptr<Copy> later = next(); // without an end of this one
+    ReceivedFiles &files = later->engine.transfers().received;
+    EXPECT_EQ(files.rowCount(), 50);
+    EXPECT_EQ(files.at(49).link, received().at(59).link);
+}
+
+TEST_F(TransfersTest, WhatCannotBeReadOfThemIsPassedOver)
+{
+    const auto stored
+        = QStringLiteral("[{\"message\":\"hello\",\"own\":\"10.0.0.1\",\"folder\":\"/in\"},7,"
+                         "{\"message\":\"a (1 bytes) http://10.0.0.2:5549/0123456789abcdef0123456789abcdef/a\","
+                         "\"own\":\"10.0.0.1\",\"folder\":\"/in\",\"place\":-3,\"size\":-1}]");
+    Copy later({.settings = {{"Transfers/UnfinishedFiles", stored}}});
+    EXPECT_EQ(later.engine.transfers().received.rowCount(), 1);
 }
 
 TEST_F(TransfersTest, FourAreFetchedAtATime)
