@@ -50,8 +50,8 @@ constexpr std::array tables = {
 
 /// The steps from each form to the next, from the first one on. read_to: the last message that was read, where others
 /// behind it were not.
-constexpr std::array steps = {"ALTER TABLE conversations ADD COLUMN read_to INTEGER"};
-static_assert(steps.size() == formatNumber - 1);
+constexpr std::array formatSteps = {"ALTER TABLE conversations ADD COLUMN read_to INTEGER"};
+static_assert(formatSteps.size() == formatNumber - 1);
 
 constexpr auto putMessage = "INSERT INTO messages(conversation, time, own, address, writer, workstation, text) "
                             "VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7)";
@@ -364,8 +364,8 @@ void HistoryFile::makeTables()
             for (const char *const table : tables)
                 execute(m_database.get(), table);
         }
-        for (std::size_t step = static_cast<std::size_t>(qMax(format, 1)) - 1; step < steps.size(); ++step)
-            execute(m_database.get(), steps[step]);
+        for (std::size_t step = static_cast<std::size_t>(qMax(format, 1)) - 1; step < formatSteps.size(); ++step)
+            execute(m_database.get(), formatSteps[step]);
         execute(m_database.get(), QByteArray("PRAGMA user_version = " + QByteArray::number(formatNumber)).constData());
     });
 }

@@ -89,7 +89,6 @@ void FindBar::buildControls()
     findNext = pictureButton(this, "findNext", tr("Next (Shift+Enter)"), "down");
     findClose = pictureButton(this, "findClose", tr("Close (Esc)"), "close");
     findKept = toolButton(this, "findKept", tr("Search all that was kept"), "search");
-    findKept->setToolButtonStyle(Qt::ToolButtonTextOnly);
     findKept->setToolTip(tr("Opens the history's window"));
     findKept->hide();
     auto *const rows = new QVBoxLayout(this);

@@ -85,7 +85,8 @@ QString withWaiting(const PeerShown &peer, const QString &sentence)
 {
     if (peer.waiting == 0)
         return sentence;
-    const QString waiting = PeerHeader::tr("waiting to be sent: %1").arg(peer.waiting);
+    const QString waiting = peer.sendsLater ? PeerHeader::tr("waiting: %1").arg(peer.waiting)
+                                            : PeerHeader::tr("waiting to be sent: %1").arg(peer.waiting);
     return PeerHeader::tr("%1; %2", "two parts of a sentence").arg(sentence, waiting);
 }
 

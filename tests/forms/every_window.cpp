@@ -421,6 +421,11 @@ void takeHistory(Gallery &gallery)
     windows.arrive("192.168.1.12", "-Good morning, have you read it?");
     windows.privateWindow().showNormal();
     gallery.take(windows.privateWindow(), "private_with_history");
+    RichTextLogEdit &log = windows.logOf(windows.privateWindow());
+    log.findChild<QAction *>(QStringLiteral("logFind"))->trigger();
+    log.findChild<QLineEdit *>(QStringLiteral("findText"))->setText(QStringLiteral("budget"));
+    EXPECT_TRUE(QTest::qWaitFor([&log] { return log.findChild<QWidget *>(QStringLiteral("findKept"))->isVisible(); }));
+    gallery.take(windows.privateWindow(), "private_nothing_found");
 }
 
 void takePrivateWhileAway(Gallery &gallery)

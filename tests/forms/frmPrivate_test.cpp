@@ -114,9 +114,8 @@ TEST_F(FrmPrivate, TheBandOffersToSendLaterWhatWasWrittenMeanwhile)
     ASSERT_TRUE(button.isVisible());
     EXPECT_EQ(button.text(), QStringLiteral("Send when Ann && Co is back"));
     button.click();
-    EXPECT_EQ(
-        band.text(),
-        QStringLiteral("Ann & Co is offline: what you write is sent when Ann & Co is back; waiting to be sent: 1"));
+    EXPECT_EQ(band.text(),
+              QStringLiteral("Ann & Co is offline: what you write is sent when Ann & Co is back; waiting: 1"));
     EXPECT_TRUE(button.isVisible());
     EXPECT_EQ(button.text(), QStringLiteral("Do not send later"));
     button.click();
