@@ -189,5 +189,31 @@ TEST_F(FilesBetweenCopies, AreNeverTakenForWholeWhenTheSenderIsKilled)
     EXPECT_EQ(ann.end(), 0);
 }
 
+/// What was on its way stands in the window of transfers after the next start, and Bob offers it still.
+TEST_F(FilesBetweenCopies, AreGoneOnWithAfterTheReceiverWasKilled)
+{
+    const PrivateWindow toAnn = startBoth();
+    const QString large = bobsFile(QStringLiteral("Film.mkv"), "begin");
+    constexpr qint64 size = qint64{150} * 1024 * 1024;
+    ASSERT_TRUE(QFile::resize(large, size));
+    sendFile(toAnn, large);
+    saveNewestFile(PrivateWindow::with("Bob"));
+    const auto parts = [this] { return QDir(annsFolder()).entryInfoList({QStringLiteral("*.part")}); };
+    ASSERT_TRUE(waitUntil([&] { return !parts().empty() && parts().front().size() > 0; }));
+    ann.kill();
+    ASSERT_EQ(annsFiles().size(), 1) << "it had come before the kill";
+    ann.start({"Ann"});
+    MainWindow::of("Ann").activate();
+    press("alt+t");
+    press("t");
+    Window::waitFor("NIMB-Chat - Transfers").activate();
+    press("Tab"); // from what Ann offers to what others offer her
+    press("alt+r");
+    EXPECT_TRUE(waitUntil([&] { return annsFiles() == QStringList{QStringLiteral("Film.mkv")}; }));
+    EXPECT_EQ(bytesOf(inAnnsFolder(QStringLiteral("Film.mkv"))), bytesOf(large));
+    EXPECT_EQ(bob.end(), 0);
+    EXPECT_EQ(ann.end(), 0);
+}
+
 } // namespace
 } // namespace nimb::test
