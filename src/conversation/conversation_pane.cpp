@@ -360,8 +360,13 @@ void ConversationPane::showRoomLeft()
 {
     const qsizetype length = nimb::typedText(*intext).size();
     const bool isShown = length >= limits::messageLengthShown;
-    const bool changes = isShown != messageCounter->isVisibleTo(this);
+    const bool isFull = length >= limits::messageLength;
+    QFont weight = messageCounter->font();
+    const bool changes = isShown != messageCounter->isVisibleTo(this) || isFull != weight.bold();
     messageCounter->setVisible(isShown);
+    // What is typed beyond goes nowhere, which must not pass unseen.
+    weight.setBold(isFull);
+    messageCounter->setFont(weight);
     if (isShown)
         messageCounter->setText(tr("%1 of %2").arg(length).arg(limits::messageLength));
     if (changes)

@@ -450,6 +450,7 @@ TEST_F(FrmPrivate, TheCounterHasAllTheRoomThatItNeeds)
         intext().setPlainText(QString(length, u'x'));
         QCoreApplication::processEvents();
         EXPECT_EQ(counter.isVisible(), length >= 1800);
+        EXPECT_EQ(counter.font().bold(), length == 2000);
         EXPECT_TRUE(!counter.isVisible() || counter.width() >= counter.sizeHint().width()) << counter.width();
         for (const char *const tool : {"Emoticbtn", "datetimebtn", "clearbtn"}) {
             const auto &button = control<QToolButton>(tool);
