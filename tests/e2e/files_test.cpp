@@ -1,6 +1,7 @@
 // A file goes from the window of a real copy to a program that knows nothing of it, and to another copy.
 #include "chat_windows.h"
 #include "child_process.h"
+#include "network_namespaces.h"
 #include "running_copy.h"
 #include "wire_peer.h"
 
@@ -10,6 +11,8 @@
 #include <QProcess>
 
 #include <gmock/gmock.h>
+
+#include <memory>
 
 namespace nimb::test
 {
@@ -55,21 +58,29 @@ void clickUntil(const std::string &title, const PrivateWindow &window, int fromR
     }));
 }
 
+/// What curl gets at that address, asking from there.
+QByteArray fetched(const std::string &url, const std::string &from)
+{
+    QProcess curl;
+    endWithParent(curl);
+    curl.start(QStringLiteral("curl"),
+               {QStringLiteral("--silent"), QStringLiteral("--interface"), QString::fromStdString(from),
+                QString::fromStdString(url)});
+    EXPECT_TRUE(curl.waitForFinished(static_cast<int>(patience().count())));
+    return curl.readAllStandardOutput();
+}
+
+/// By the paper clip beside "Send".
+void sendFile(const PrivateWindow &window, const QString &path)
+{
+    constexpr int fromRight = 107, aboveBottom = 68; // pixels
+    clickUntil("Choose files to send", window, fromRight, aboveBottom);
+    choosePath("Choose files to send", path);
+}
+
 class FilesOfACopy : public testing::Test
 {
 protected:
-    /// What curl gets at that address, asking from there.
-    static std::string fetched(const std::string &url, const std::string &from)
-    {
-        QProcess curl;
-        endWithParent(curl);
-        curl.start(QStringLiteral("curl"),
-                   {QStringLiteral("--silent"), QStringLiteral("--interface"), QString::fromStdString(from),
-                    QString::fromStdString(url)});
-        EXPECT_TRUE(curl.waitForFinished(static_cast<int>(patience().count())));
-        return curl.readAllStandardOutput().toStdString();
-    }
-
     const std::uint16_t port = freePort();
     WirePeer ann{"127.0.53.12", port};
     RunningCopy bob{{"127.0.53.11", "BOB-PC"},
@@ -126,13 +137,6 @@ protected:
         return MainWindow::of("Bob").openWhenOnline(0, "Ann");
     }
 
-    /// By the paper clip beside "Send".
-    static void sendFile(const PrivateWindow &window, const QString &path)
-    {
-        constexpr int fromRight = 107, aboveBottom = 68; // pixels
-        clickUntil("Choose files to send", window, fromRight, aboveBottom);
-        choosePath("Choose files to send", path);
-    }
     /// Ann presses "Save..." in the newest row, once that is there: above it a row has its second line there.
     void saveNewestFile(const PrivateWindow &window) const
     {
@@ -213,6 +217,50 @@ TEST_F(FilesBetweenCopies, AreGoneOnWithAfterTheReceiverWasKilled)
     EXPECT_EQ(bytesOf(inAnnsFolder(QStringLiteral("Film.mkv"))), bytesOf(large));
     EXPECT_EQ(bob.end(), 0);
     EXPECT_EQ(ann.end(), 0);
+}
+
+TEST(FilesOnMachines, GoOverTheCardByWhichTheirReceiverIsReachedAndToNobodyElse)
+{
+    LanSwitch office, workshop;
+    if (!office.isThere())
+        GTEST_SKIP() << LanMachine::whyNot;
+    LanMachine bobs, anns, bens, cleos;
+    bobs.plug(office, "eth0", "10.1.0.1/24");
+    bobs.plug(workshop, "eth1", "10.2.0.1/24");
+    anns.plug(workshop, "eth0", "10.2.0.2/24");
+    bens.plug(workshop, "eth0", "10.2.0.3/24");
+    cleos.plug(office, "eth0", "10.1.0.2/24");
+    constexpr std::uint16_t usualPort = 5549;
+    const auto fetchedOn = [](const LanMachine &machine, const std::string &url, const std::string &from) {
+        const auto visit = machine.visit();
+        return fetched(url, from);
+    };
+    const auto ann = [&] {
+        const auto visit = anns.visit();
+        return std::make_unique<WirePeer>("10.2.0.2", usualPort);
+    }();
+    RunningCopy bob({"", "BOB-PC"},
+                    profile(usualPort, {{"10.2.0.2", "Ann", "ANN-PC"}}, {{{"Options", "FilesExplained"}, "-1"}}));
+    {
+        const auto visit = bobs.visit();
+        bob.start({"Bob"});
+    }
+    ann->hearUntil("!STATUS Online");
+    ann->send("10.2.0.1", "!ONLINE 10.2.0.2 ANN-PC Ann");
+    const PrivateWindow window = MainWindow::of("Bob").openWhenOnline(0, "Ann");
+    const QByteArray photographs = QByteArray("many colours ").repeated(400'000);
+    const QString path = bob.scratchFolder() + QStringLiteral("/Photographs.raw");
+    writeFile(path, photographs);
+    sendFile(window, path);
+    const std::string message
+        = ann->hearWhere([](const std::string &bytes) { return bytes.starts_with("-Photographs.raw "); }).bytes;
+    EXPECT_THAT(message, MatchesRegex("-Photographs\\.raw \\(5\\.2 MB\\) http://10\\.2\\.0\\.1:[0-9]+/.*"));
+    const std::string url = message.substr(message.find("http://"));
+    EXPECT_TRUE(fetchedOn(anns, url, "10.2.0.2") == photographs);
+    EXPECT_EQ(fetchedOn(bens, url, "10.2.0.3"), "") << "not meant for Ben";
+    std::string otherCard = url;
+    otherCard.replace(otherCard.find("10.2.0.1"), 8, "10.1.0.1");
+    EXPECT_EQ(fetchedOn(cleos, otherCard, "10.1.0.2"), "") << "nothing listens on the other card";
 }
 
 } // namespace

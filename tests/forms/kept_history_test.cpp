@@ -53,6 +53,19 @@ class KeptForEver : public KeptHistory
 {
 protected:
     KeptForEver() : KeptHistory("ever") { }
+
+    /// Over so many kept messages and this one.
+    void openFindBar(int kept, const char *newest = "-new")
+    {
+        keepSaid(kept);
+        windows.arrive("10.0.0.2", newest);
+        windows.privateWindow().showNormal();
+        windows.privateWindow().resize(500, 400);
+        windows.privateWindow().activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&windows.privateWindow(), 60000));
+        log().setFocus();
+        QTest::keyClick(&log(), Qt::Key_F, Qt::ControlModifier);
+    }
 };
 
 TEST_F(KeptHistory, TheFirstConversationAsksAndTheAnswerEndsTheQuestion)
@@ -219,17 +232,7 @@ TEST_F(KeptForEver, WhatWasSaidBeforeLooksLikeTheLog)
 class FindInEarlier : public KeptForEver
 {
 protected:
-    FindInEarlier()
-    {
-        keepSaid(30);
-        windows.arrive("10.0.0.2", "-said now");
-        windows.privateWindow().showNormal();
-        windows.privateWindow().resize(500, 400);
-        windows.privateWindow().activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&windows.privateWindow(), 60000));
-        log().setFocus();
-        QTest::keyClick(&log(), Qt::Key_F, Qt::ControlModifier);
-    }
+    FindInEarlier() { openFindBar(30, "-said now"); }
     template <class T = QWidget> T &child(const char *name) { return *log().findChild<T *>(QLatin1String(name)); }
     void search(const char *word) { child<QLineEdit>("findText").setText(QLatin1String(word)); }
     QString count() { return child<QLabel>("findCount").text(); }
@@ -305,17 +308,6 @@ TEST_F(KeptForEver, MoreThatIsPaintedWhileOneSearchesIsSearchedToo)
 class FindInAllThatWasKept : public KeptForEver
 {
 protected:
-    void openBar(int kept)
-    {
-        keepSaid(kept);
-        windows.arrive("10.0.0.2", "-new");
-        windows.privateWindow().showNormal();
-        windows.privateWindow().resize(500, 400);
-        windows.privateWindow().activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&windows.privateWindow(), 60000));
-        log().setFocus();
-        QTest::keyClick(&log(), Qt::Key_F, Qt::ControlModifier);
-    }
     QLineEdit &text() { return *log().findChild<QLineEdit *>(QStringLiteral("findText")); }
     QToolButton &findKept() { return *log().findChild<QToolButton *>(QStringLiteral("findKept")); }
     QString count() { return log().findChild<QLabel *>(QStringLiteral("findCount"))->text(); }
@@ -328,7 +320,7 @@ protected:
 
 TEST_F(FindInAllThatWasKept, BringsUpWhatWasNotPaintedYet)
 {
-    openBar(700);
+    openFindBar(700);
     ASSERT_EQ(log().earlierText().count(QStringLiteral("said before")), 50);
     text().setText(QStringLiteral("before 101"));
     EXPECT_NE(count(), QStringLiteral("Not found")) << "nobody knows yet";
@@ -340,7 +332,7 @@ TEST_F(FindInAllThatWasKept, BringsUpWhatWasNotPaintedYet)
 
 TEST_F(FindInAllThatWasKept, GoesOnBehindTheOldestOfThosePainted)
 {
-    openBar(700);
+    openFindBar(700);
     text().setText(QStringLiteral("before 33"));
     EXPECT_TRUE(counts("10 of 10")) << "330 to 339";
     for (int i = 0; i < 9; ++i)
@@ -354,7 +346,7 @@ TEST_F(FindInAllThatWasKept, GoesOnBehindTheOldestOfThosePainted)
 
 TEST_F(FindInAllThatWasKept, OffersTheWindowThatSearchesEverythingWhereNothingIsFound)
 {
-    openBar(3000);
+    openFindBar(3000);
     text().setText(QStringLiteral("before 5!"));
     EXPECT_TRUE(counts("Not found")) << count().toStdString();
     EXPECT_EQ(log().earlierText().count(QStringLiteral("said before")), 2050) << "bounded";
@@ -375,7 +367,7 @@ TEST_F(FindInAllThatWasKept, OffersTheWindowThatSearchesEverythingWhereNothingIs
 
 TEST_F(FindInAllThatWasKept, WhatIsTypedOnEndsTheSearchForWhatWasTypedBefore)
 {
-    openBar(700);
+    openFindBar(700);
     text().setText(QStringLiteral("nothing like that"));
     text().setText(QStringLiteral("new"));
     EXPECT_EQ(count(), QStringLiteral("1 of 1"));

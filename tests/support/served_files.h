@@ -1,18 +1,17 @@
 // What the tests of serving and of fetching files share: a folder, addresses of their own, and waiting.
 #pragma once
 
+#include "event_loop_wait.h"
+
 #include "protocol/ipv4_address.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QString>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-
-#include <functional>
 
 namespace nimb::test
 {
@@ -24,15 +23,6 @@ protected:
 
     /// net: the second number of the addresses, another one for each test program.
     explicit FilesOnLoopback(std::uint8_t net) : m_net(net) { }
-
-    static bool waitUntil(const std::function<bool()> &condition)
-    {
-        QElapsedTimer time;
-        time.start();
-        while (!condition() && time.elapsed() < patience)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
-        return condition();
-    }
 
     /// Those of one test process; others have others.
     Ipv4Address loopback(int last) const

@@ -46,6 +46,14 @@ protected:
         server->failed = [this](const QString &, const QString &sentence) { failures += sentence; };
     }
 
+    void serveLargeWithALimitOfASecond()
+    {
+        server = std::make_unique<HttpFileServer>(std::uint16_t{5549}, std::chrono::seconds(1));
+        server->sent = [this](const SentBytes &sent) { transfers.push_back(sent); };
+        QFile file(pathOf(QStringLiteral("large")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(qint64{200} * 1024 * 1024));
+        serve(file.fileName());
+    }
     /// Served to the peer; the sentence of the trouble, or none.
     QString serve(const QString &path, const QString &name = QStringLiteral("Plan.pdf"), const QString &as = {})
     {
@@ -338,11 +346,7 @@ TEST_F(FileServerTest, SaysWhereItCannotListen)
 /// Its reader takes less in each limit than the buffers between them hold.
 TEST_F(FileServerTest, EndsNoTransferThatIsSlowButGoesOn)
 {
-    server = std::make_unique<HttpFileServer>(std::uint16_t{5549}, std::chrono::seconds(1));
-    server->sent = [this](const SentBytes &sent) { transfers.push_back(sent); };
-    QFile file(pathOf(QStringLiteral("large")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(qint64{200} * 1024 * 1024));
-    serve(file.fileName());
+    serveLargeWithALimitOfASecond();
     QTcpSocket slow;
     ASSERT_TRUE(slow.bind(QHostAddress(peer.number())));
     slow.setReadBufferSize(8 * 1024);
@@ -361,11 +365,7 @@ TEST_F(FileServerTest, EndsNoTransferThatIsSlowButGoesOn)
 
 TEST_F(FileServerTest, EndsATransferThatStandsStill)
 {
-    server = std::make_unique<HttpFileServer>(std::uint16_t{5549}, std::chrono::seconds(1));
-    server->sent = [this](const SentBytes &sent) { transfers.push_back(sent); };
-    QFile file(pathOf(QStringLiteral("large")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(qint64{200} * 1024 * 1024));
-    serve(file.fileName());
+    serveLargeWithALimitOfASecond();
     const std::unique_ptr<QTcpSocket> socket = connected(peer);
     socket->setReadBufferSize(1000);
     socket->write("GET /" + token.toLatin1() + "/Plan.pdf HTTP/1.1\r\nHost: x\r\n\r\n");

@@ -1,12 +1,12 @@
 #include "history/history_keeper.h"
 
 #include "base/limits.h"
+#include "event_loop_wait.h"
 #include "history/history_file.h"
 #include "print_qt.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -20,8 +20,6 @@ namespace
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
-
-constexpr int patience = 60000; ///< milliseconds
 
 class HistoryKeeperTest : public testing::Test
 {
@@ -39,14 +37,6 @@ protected:
     void keep(const QString &text, const char *address = "10.0.0.2")
     {
         keeper->keep(with(address), {.time = QDateTime(QDate(2026, 11, 21), QTime(14, 5)), .text = text});
-    }
-    static bool waitUntil(const std::function<bool()> &condition)
-    {
-        QElapsedTimer time;
-        time.start();
-        while (!condition() && time.elapsed() < patience)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
-        return condition();
     }
     QStringList find(const HistoryQuestion &question)
     {
