@@ -4,6 +4,7 @@
 
 #include <QAudioDevice>
 #include <QAudioSink>
+#include <QCoreApplication>
 #include <QFile>
 #include <QMediaDevices>
 #include <QWaveDecoder>
@@ -71,7 +72,22 @@ SoundPlayer::SoundPlayer(std::optional<QString> file) : m_file(std::move(file))
     m_next.callOnTimeout([this] { start(); });
 }
 
-SoundPlayer::~SoundPlayer() = default;
+SoundPlayer::~SoundPlayer()
+{
+    destroySink();
+}
+
+/// Its destructor handles the events that wait. One that still sounds would be fed once more then, by a stream that is
+/// gone, and the sound library ends the process for that; and ours would meet it half destroyed.
+void SoundPlayer::destroySink()
+{
+    if (!m_sink)
+        return;
+    m_sink->stop();
+    m_sink->disconnect();
+    QCoreApplication::removePostedEvents(m_sink.get());
+    m_sink.reset();
+}
 
 void SoundPlayer::play()
 {
@@ -106,7 +122,7 @@ void SoundPlayer::playOn(const QAudioDevice &device)
     if (!wave.format.isValid())
         return;
     // A new one each time: it takes the device that is there now, and no connection that broke meanwhile.
-    m_sink.reset();
+    destroySink();
     m_samples.close();
     m_samples.setData(wave.samples);
     m_samples.open(QIODevice::ReadOnly);

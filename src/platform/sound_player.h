@@ -39,6 +39,7 @@ public:
 private:
     void start();
     void playOn(const QAudioDevice &device);
+    void destroySink();
     void stateChanged();
 
     std::optional<QString> m_file;
