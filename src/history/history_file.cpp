@@ -357,8 +357,12 @@ void HistoryFile::makeTables()
     if (format == formatNumber) {
         Statement look(m_database.get(),
                        (QByteArray(columns) + "FROM messages m").constData()); // fails where it is not ours
+        for (int older = 1; older < formatNumber; ++older)
+            QFile::remove(copyOfForm(older)); // it has been opened since
         return;
     }
+    if (format > 0)
+        copyTo(copyOfForm(format));
     inTransaction([this, format] {
         if (format == 0) {
             for (const char *const table : tables)
@@ -368,6 +372,18 @@ void HistoryFile::makeTables()
             execute(m_database.get(), formatSteps[step]);
         execute(m_database.get(), QByteArray("PRAGMA user_version = " + QByteArray::number(formatNumber)).constData());
     });
+}
+
+/// Before it gets another form.
+void HistoryFile::copyTo(const QString &path)
+{
+    QFile::remove(path); // of an attempt that failed
+    if (const auto reason = makePrivateFile(path))
+        throw Failure{*reason};
+    const QByteArray name = sqlite::fileName(path);
+    Statement copy(m_database.get(), "VACUUM INTO ?1");
+    copy.bind(1, name);
+    copy.next();
 }
 
 /// How many messages were taken over. What lies behind the damage is read from the other end.
@@ -643,7 +659,8 @@ void HistoryFile::eraseMessages(const HistorySelection &selection)
 
 void HistoryFile::removeSetAside(const QDateTime &before) const
 {
-    for (const QFileInfo &file : QDir(m_folder).entryInfoList({QStringLiteral("history.damaged-*")}, QDir::Files)) {
+    const QStringList names{QStringLiteral("history.damaged-*"), QStringLiteral("history.form-*")};
+    for (const QFileInfo &file : QDir(m_folder).entryInfoList(names, QDir::Files)) {
         if (!before.isValid() || file.lastModified() < before)
             QFile::remove(file.filePath());
     }

@@ -64,6 +64,11 @@ private:
     void open(const QString &path);
     static void rename(const QString &from, const QString &to);
     void makeTables();
+    QString copyOfForm(int number) const
+    {
+        return QStringLiteral("%1/history.form-%2.sqlite3").arg(m_folder).arg(number);
+    }
+    void copyTo(const QString &path);
     int salvage(const QString &wreck);
     std::int64_t conversationFor(const KeptConversation &conversation);
     void inTransaction(const std::function<void()> &work);

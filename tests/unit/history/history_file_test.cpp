@@ -80,6 +80,16 @@ protected:
     {
         return texts(history.find({.words = words}));
     }
+    /// Without a place for where reading stopped.
+    void makeOfTheFirstForm() const
+    {
+        sqlite3 *opened = nullptr;
+        ASSERT_EQ(sqlite3_open(file.toUtf8().constData(), &opened), SQLITE_OK);
+        for (const char *const step : {"PRAGMA locking_mode = EXCLUSIVE",
+                                       "ALTER TABLE conversations DROP COLUMN read_to", "PRAGMA user_version = 1"})
+            ASSERT_EQ(sqlite3_exec(opened, step, nullptr, nullptr, nullptr), SQLITE_OK) << step;
+        sqlite3_close(opened);
+    }
     /// Whether these bytes stand in a file of the folder.
     bool isOnTheDisk(const QByteArray &bytes) const
     {
@@ -464,18 +474,13 @@ TEST_F(HistoryFileTest, TheFirstMessageOfAllCanBeLeftUnread)
     EXPECT_EQ(history.listUnread()[0].messages, 1);
 }
 
-/// As the first form was, without a place for where reading stopped.
 TEST_F(HistoryFileTest, AFileOfTheFirstFormIsTakenOver)
 {
     {
         HistoryFile history(folder);
         write(history, {QStringLiteral("kept before")});
     }
-    sqlite3 *opened = nullptr;
-    ASSERT_EQ(sqlite3_open(file.toUtf8().constData(), &opened), SQLITE_OK);
-    for (const char *const step : {"ALTER TABLE conversations DROP COLUMN read_to", "PRAGMA user_version = 1"})
-        ASSERT_EQ(sqlite3_exec(opened, step, nullptr, nullptr, nullptr), SQLITE_OK) << step;
-    sqlite3_close(opened);
+    makeOfTheFirstForm();
     for (int start = 0; start < 2; ++start) {
         HistoryFile history(folder);
         EXPECT_THAT(found(history, QStringLiteral("before")), ElementsAre(QStringLiteral("kept before")));
@@ -484,6 +489,35 @@ TEST_F(HistoryFileTest, AFileOfTheFirstFormIsTakenOver)
         write(history, {QStringLiteral("new")});
         EXPECT_EQ(history.listUnread().at(0).readTo, 1);
     }
+}
+
+TEST_F(HistoryFileTest, WhatStoodThereBeforeAMigrationIsKeptUntilTheNewFormWasOpenedOnce)
+{
+    {
+        HistoryFile history(folder);
+        write(history, {QStringLiteral("kept before")});
+    }
+    makeOfTheFirstForm();
+    const QString copy = folder + QStringLiteral("/history.form-1.sqlite3");
+    {
+        HistoryFile migrated(folder);
+        ASSERT_TRUE(QFile::exists(copy));
+        EXPECT_EQ(QFile::permissions(copy) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+        migrated.erase({.message = 1});
+        EXPECT_FALSE(isOnTheDisk("kept before")) << "what is erased must stand nowhere";
+    }
+    {
+        HistoryFile history(folder);
+        write(history, {QStringLiteral("kept before")});
+    }
+    makeOfTheFirstForm();
+    {
+        HistoryFile migrated(folder);
+    }
+    ASSERT_TRUE(QFile::exists(copy));
+    HistoryFile again(folder);
+    EXPECT_FALSE(QFile::exists(copy));
+    EXPECT_EQ(found(again, "before").size(), 1);
 }
 
 TEST_F(HistoryFileTest, ANewerFormIsLeftAlone)
@@ -501,45 +535,106 @@ TEST_F(HistoryFileTest, ANewerFormIsLeftAlone)
     EXPECT_THAT(QDir(folder).entryList({"history.damaged-*"}, QDir::Files), IsEmpty());
 }
 
-class EveryFaultOfHistory : public HistoryFileTest, public testing::WithParamInterface<FaultyFiles::Lasting>
-{
+struct HistoryFault {
+    const char *label;
+    FaultyFiles::Lasting lasting;
+    int code;
 };
 
-TEST_P(EveryFaultOfHistory, LeavesWhatWasKeptAndIsTold)
+void PrintTo(const HistoryFault &fault, std::ostream *out)
 {
-    FaultyFiles files;
+    *out << fault.label;
+}
+
+class EveryFaultOfHistory : public HistoryFileTest, public testing::WithParamInterface<HistoryFault>
+{
+protected:
+    /// Each call of the work fails in turn. What was there before is there afterwards, wherever it failed.
+    void failEverywhere(const std::function<void()> &work, const std::function<void(bool failed)> &look = {},
+                        const std::function<void()> &prepare = {})
     {
+        FaultyFiles files;
+        int failures = 0;
+        bool happened = true;
+        for (call = 1; happened; ++call) {
+            if (prepare)
+                prepare();
+            files.failAt(call, GetParam().lasting, GetParam().code);
+            bool failed = false;
+            try {
+                work();
+            } catch (const sqlite::Failure &) {
+                failed = true;
+            }
+            happened = files.happened();
+            files.heal();
+            failures += failed ? 1 : 0;
+            EXPECT_EQ(HistoryFile(folder).takenOver(), std::nullopt) << "call " << call;
+            EXPECT_EQ(found(QStringLiteral("before")).size(), 1) << "call " << call;
+            if (look)
+                look(failed);
+        }
+        EXPECT_GT(failures, 5);
+    }
+    QStringList found(const QString &words) const
+    {
+        HistoryFile history(folder);
+        return texts(history.find({.words = words}));
+    }
+    void SetUp() override
+    {
+        HistoryFileTest::SetUp();
         HistoryFile history(folder);
         write(history, {QStringLiteral("before")});
     }
-    int failures = 0;
-    bool happened = true;
-    for (int n = 1; happened; ++n) {
-        files.failAt(n, GetParam(), SQLITE_IOERR_WRITE);
-        bool failed = false;
-        try {
-            HistoryFile history(folder);
-            write(history, {QStringLiteral("number %1").arg(n)});
-        } catch (const sqlite::Failure &) {
-            failed = true;
-        }
-        happened = files.happened();
-        files.heal();
-        failures += failed ? 1 : 0;
 
-        HistoryFile history(folder);
-        EXPECT_EQ(history.takenOver(), std::nullopt) << "call " << n;
-        EXPECT_EQ(found(history, "before").size(), 1) << "call " << n;
-        EXPECT_LE(found(history, QString::number(n)).size(), 1) << "call " << n;
-        if (!failed) {
-            EXPECT_EQ(found(history, QString::number(n)).size(), 1) << "call " << n;
-        }
-    }
-    EXPECT_GT(failures, 5);
+    int call = 0;
+};
+
+TEST_P(EveryFaultOfHistory, OfWritingLeavesWhatWasKeptAndIsTold)
+{
+    failEverywhere(
+        [this] {
+            HistoryFile history(folder);
+            write(history, {QStringLiteral("number %1").arg(call)});
+        },
+        [this](bool failed) {
+            const qsizetype written = found(QString::number(call)).size();
+            EXPECT_LE(written, 1) << "call " << call;
+            EXPECT_TRUE(failed || written == 1) << "call " << call;
+        });
 }
 
-INSTANTIATE_TEST_SUITE_P(OnceAndForGood, EveryFaultOfHistory,
-                         testing::Values(FaultyFiles::Lasting::once, FaultyFiles::Lasting::forGood));
+TEST_P(EveryFaultOfHistory, OfErasingErasesNothingElseAndIsTold)
+{
+    failEverywhere(
+        [this] {
+            HistoryFile history(folder);
+            history.erase({.message = history.find({.words = QStringLiteral("doomed")}).back().number});
+        },
+        [this](bool failed) {
+            EXPECT_TRUE(failed || found(QStringLiteral("doomed")).isEmpty()) << "call " << call;
+            EXPECT_TRUE(failed || !isOnTheDisk("doomed")) << "call " << call;
+        },
+        [this] {
+            HistoryFile history(folder);
+            if (history.find({.words = QStringLiteral("doomed")}).empty())
+                write(history, {QStringLiteral("doomed")});
+        });
+}
+
+TEST_P(EveryFaultOfHistory, OfAMigrationLeavesWhatWasKept)
+{
+    failEverywhere([this] { HistoryFile history(folder); }, {}, [this] { makeOfTheFirstForm(); });
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, EveryFaultOfHistory,
+                         testing::Values(HistoryFault{"ErrorOnce", FaultyFiles::Lasting::once, SQLITE_IOERR_WRITE},
+                                         HistoryFault{"ErrorForGood", FaultyFiles::Lasting::forGood,
+                                                      SQLITE_IOERR_WRITE},
+                                         HistoryFault{"FullOnce", FaultyFiles::Lasting::once, SQLITE_FULL},
+                                         HistoryFault{"FullForGood", FaultyFiles::Lasting::forGood, SQLITE_FULL}),
+                         [](const auto &fault) { return fault.param.label; });
 
 } // namespace
 } // namespace nimb::test
