@@ -17,14 +17,15 @@
 #include <QFileInfo>
 #include <QHostAddress>
 #include <QNetworkProxy>
-#include <QStorageInfo>
 #include <QTcpSocket>
 #include <QThread>
 #include <QTimer>
 
 #include <algorithm>
 #include <cerrno>
+#include <filesystem>
 #include <functional>
+#include <system_error>
 #include <vector>
 
 namespace nimb
@@ -287,8 +288,11 @@ private:
 
     Trouble takeBytes(FileConnection &connection)
     {
-        const qint64 room = QStorageInfo(m_file.folder).bytesAvailable();
-        if (room >= 0 && static_cast<quint64>(room) < m_state.size - m_state.place)
+        // Asked of the folder itself: Qt looks for its disk in a list of mounts, in which a container's may be missing.
+        std::error_code unknown;
+        const std::filesystem::space_info room
+            = std::filesystem::space(QFileInfo(m_file.folder).filesystemAbsoluteFilePath(), unknown);
+        if (!unknown && room.available < m_state.size - m_state.place)
             return tr("There is too little room in %1. What has come is kept.")
                 .arg(QDir::toNativeSeparators(m_file.folder));
         m_state.what = What::running;
