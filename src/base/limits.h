@@ -190,7 +190,7 @@ constexpr qint64 dictionaryFileBytes = qint64{32} * 1024 * 1024;
 /// Characters of the name of a file that goes to another computer.
 constexpr qsizetype fileNameLength = 200;
 /// Of the same name in UTF-8: systems allow 255, and a number or the mark of what is unfinished follows.
-constexpr qsizetype fileNameBytes = 240;
+constexpr qsizetype fileNameBytes = 232;
 /// Of the same name in its link, encoded: with all that stands before it a link opens 1023 characters at most.
 constexpr qsizetype fileNameEncoded = 800;
 /// Files that one drop or choice sends: each is a message.

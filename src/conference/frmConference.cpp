@@ -10,6 +10,7 @@
 #include "widgets/elided_label.h"
 #include "widgets/form_layout.h"
 #include "widgets/keyed_selection.h"
+#include "widgets/link_colours.h"
 #include "widgets/muted_text.h"
 #include "widgets/picture_delegate.h"
 #include "widgets/picture_label.h"
@@ -132,6 +133,7 @@ QWidget *frmConference::makeInviteHint()
     // It takes no focus, so that what is typed goes to the input; the menu of a contact invites by keys.
     m_inviteHint->setTextInteractionFlags(Qt::LinksAccessibleByMouse);
     keepMuted(*m_inviteHint);
+    keepLinkColours(*m_inviteHint);
     const Participants &rows = m_conference->partecipanti();
     connect(&rows, &Participants::rowsInserted, this, &frmConference::showInviteHint);
     connect(&rows, &Participants::rowsRemoved, this, &frmConference::showInviteHint);

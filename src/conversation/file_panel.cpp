@@ -7,6 +7,7 @@
 #include "widgets/elided_label.h"
 #include "widgets/file_dialogs.h"
 #include "widgets/form_layout.h"
+#include "widgets/link_colours.h"
 #include "widgets/muted_colour.h"
 #include "widgets/pictures.h"
 #include "widgets/scratch_folder.h"
@@ -129,6 +130,7 @@ void FilePanel::makeFurtherLine()
     m_furtherLine = named(new QWidget(this), "furtherFiles");
     m_furtherCount = named(new QLabel(m_furtherLine), "furtherCount");
     m_furtherCount->setTextFormat(Qt::RichText);
+    keepLinkColours(*m_furtherCount);
     m_furtherCount->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     m_saveAll = rowButton(m_furtherLine, "saveAllBtn", tr("Save all..."));
     m_saveAll->setToolTip(tr("Saves all that is offered here, in one folder"));

@@ -4,6 +4,7 @@
 #include "base/remote_text.h"
 #include "base/shown_name.h"
 
+#include <QCryptographicHash>
 #include <QStringList>
 
 #include <algorithm>
@@ -90,6 +91,13 @@ QString numberedFileName(const QString &name, int number)
         return name;
     const qsizetype suffix = suffixStart(name);
     return name.left(suffix) + QLatin1String(" (") + QString::number(number) + QLatin1Char(')') + name.mid(suffix);
+}
+
+QString unfinishedFileName(const QString &name, Ipv4Address sender, const QByteArray &path)
+{
+    const QByteArray offer = QByteArray::number(sender.number()) + '/' + path.split('/').value(1);
+    const QByteArray hash = QCryptographicHash::hash(offer, QCryptographicHash::Sha256).toHex().left(16);
+    return QStringLiteral("%1.%2.part").arg(name, QString::fromLatin1(hash));
 }
 
 QByteArray encodedFileName(const QString &name)

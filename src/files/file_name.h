@@ -1,6 +1,8 @@
 // Names of files that go from one computer to another: fit for every system, and never a path.
 #pragma once
 
+#include "protocol/ipv4_address.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -17,6 +19,10 @@ QString cleanFileName(const QString &name);
 
 /// "Plan.pdf" for the first try, then "Plan (2).pdf" and so on; "Photos.tar (2).gz" is as good as any.
 QString numberedFileName(const QString &name, int number);
+
+/// Of what has come so far of a file: other ones for other senders and other offers, whatever they call theirs.
+/// path: as in the link, its token first.
+QString unfinishedFileName(const QString &name, Ipv4Address sender, const QByteArray &path);
 
 /// The name as it stands in an address: everything but letters, digits, "-", "_", "." and "~" of ASCII is encoded.
 QByteArray encodedFileName(const QString &name);

@@ -321,10 +321,8 @@ public:
 private:
     static constexpr qsizetype namesSaid = 3, longestNameSaid = 40;
 
-    static QString shownName(const QString &name)
-    {
-        return name.size() > longestNameSaid ? cutText(name, longestNameSaid) + QLatin1String("...") : name;
-    }
+    /// A name may hold what turns the sentence round or breaks it.
+    static QString shownName(const QString &name) { return paintedName(name, longestNameSaid); }
 
     /// False where it is left out.
     bool take(const std::filesystem::path &path)

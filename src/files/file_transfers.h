@@ -10,7 +10,7 @@ namespace nimb
 /// One for all conversations.
 struct FileTransfers {
     FileTransfers(const FileOffers::Parts &parts, FileFetcher &fetcher, SettingsStore &store)
-        : offers(parts), received(fetcher), unfinished(received, store, parts.log)
+        : offers(parts), received(fetcher), unfinished(received, store, parts.log, parts.timers)
     {
     }
 

@@ -166,9 +166,7 @@ private:
 
     Trouble fetchAll()
     {
-        const QString token = QString::fromLatin1(m_file.path.mid(1, 8));
-        m_part.setFileName(
-            QDir(m_file.folder).filePath(QStringLiteral("%1.%2.part").arg(m_file.name, cleanFileName(token))));
+        m_part.setFileName(QDir(m_file.folder).filePath(unfinishedFileName(m_file.name, m_file.host, m_file.path)));
         if (!m_part.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
             return tr("%1 cannot be written: %2.")
                 .arg(QDir::toNativeSeparators(m_part.fileName()), m_part.errorString());

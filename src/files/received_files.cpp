@@ -33,11 +33,12 @@ ReceivedFiles::~ReceivedFiles()
 std::optional<int> ReceivedFiles::add(const QString &message, Ipv4Address writer, const QString &sender,
                                       Ipv4Address own)
 {
-    const std::optional<FileLink> link = fileLinkIn(message);
+    std::optional<FileLink> link = fileLinkIn(message);
     if (!link || link->host != writer)
         return std::nullopt;
     if (has(*link))
         return std::nullopt;
+    link->name = cleanFileName(link->name); // as it will be saved, so that it is not shown as something else
     insert({.link = *link, .sender = sender, .from = own});
     return m_last;
 }
@@ -53,8 +54,9 @@ void ReceivedFiles::restore(ReceivedFile file)
 /// Two rows would write into one unfinished file.
 bool ReceivedFiles::has(const FileLink &link) const
 {
-    return std::ranges::any_of(m_files, [&link](const ReceivedFile &file) {
-        return file.link.host == link.host && file.link.port == link.port && file.link.path == link.path;
+    const auto tokenOf = [](const FileLink &of) { return of.path.split('/').value(1); };
+    return std::ranges::any_of(m_files, [&](const ReceivedFile &file) {
+        return file.link.host == link.host && tokenOf(file.link) == tokenOf(link);
     });
 }
 
@@ -68,11 +70,11 @@ void ReceivedFiles::insert(ReceivedFile file)
     endInsertRows();
 }
 
-/// The oldest go that nobody fetches.
+/// The oldest go that nobody fetches or has begun to.
 void ReceivedFiles::makeRoom()
 {
     for (int row = 0; row < rowCount() && rowCount() >= limits::filesReceived;) {
-        if (at(row).isUnderWay()) {
+        if (at(row).isUnderWay() || at(row).isUnfinished()) {
             ++row;
             continue;
         }

@@ -48,8 +48,8 @@ std::optional<ReceivedFile> readUnfinished(const QJsonObject &object)
 
 } // namespace
 
-UnfinishedFiles::UnfinishedFiles(ReceivedFiles &files, SettingsStore &store, MainLog &log)
-    : m_files(files), m_store(store), m_log(log)
+UnfinishedFiles::UnfinishedFiles(ReceivedFiles &files, SettingsStore &store, MainLog &log, Timers &timers)
+    : m_files(files), m_store(store), m_log(log), m_delay(timers.oneShot(limits::keepDelay, [this] { save(); }))
 {
 }
 
@@ -60,7 +60,12 @@ void UnfinishedFiles::load()
         if (std::optional<ReceivedFile> file = readUnfinished(value.toObject()))
             m_files.restore(*std::move(file));
     }
-    connect(&m_files, &ReceivedFiles::unfinishedChanged, this, &UnfinishedFiles::save);
+    connect(&m_files, &ReceivedFiles::unfinishedChanged, this, [this] {
+        if (m_delay->isActive())
+            return;
+        save();
+        m_delay->start();
+    });
 }
 
 void UnfinishedFiles::save()
@@ -76,8 +81,10 @@ void UnfinishedFiles::save()
         return;
     m_saved = json;
     writeSetting(m_store, unfinishedKey, json);
-    if (const std::optional<QString> problem = m_store.save())
+    const std::optional<QString> problem = m_store.save();
+    if (problem && problem != m_told)
         m_log.fault(*problem);
+    m_told = problem;
 }
 
 } // namespace nimb

@@ -3,7 +3,11 @@
 
 #include "base/main_log.h"
 #include "base/settings_store.h"
+#include "base/timers.h"
 #include "files/received_files.h"
+
+#include <memory>
+#include <optional>
 
 namespace nimb
 {
@@ -15,11 +19,12 @@ class UnfinishedFiles : public QObject
     Q_OBJECT
 
 public:
-    UnfinishedFiles(ReceivedFiles &files, SettingsStore &store, MainLog &log);
+    UnfinishedFiles(ReceivedFiles &files, SettingsStore &store, MainLog &log, Timers &timers);
 
     /// Reads what an earlier run has left.
     void load();
-    /// Notes how far they are.
+    /// Notes how far they are. What changes is saved at once, and what changes soon after that a moment later,
+    /// together.
     void save();
 
 private:
@@ -27,6 +32,8 @@ private:
     SettingsStore &m_store;
     MainLog &m_log;
     QString m_saved;
+    std::optional<QString> m_told;  ///< of the last save, until one goes well
+    std::unique_ptr<Timer> m_delay; ///< since the last save
 };
 
 } // namespace nimb

@@ -52,7 +52,8 @@ public:
     using Task = std::function<void(HistoryFile *)>; ///< with nothing where the file cannot be used
     struct Work {
         Entries entries; ///< to be written before the task
-        Task task;       ///< empty: none
+        Task task{};     ///< empty: none
+        bool onlyReads = false;
         bool isLast = false;
     };
 
@@ -64,10 +65,10 @@ public:
         m_entries.push_back(std::move(entry));
     }
 
-    void put(Task task)
+    void put(Task task, bool onlyReads)
     {
         const std::lock_guard lock(m_mutex);
-        m_tasks.push_back({std::exchange(m_entries, {}), std::move(task)});
+        m_tasks.push_back({std::exchange(m_entries, {}), std::move(task), onlyReads});
         m_wake.notify_one();
     }
 
@@ -114,7 +115,7 @@ public:
             const Desk::Work work = m_desk->take();
             m_unwritten.insert(m_unwritten.end(), work.entries.begin(), work.entries.end());
             dropOldest();
-            if (!attempt(work.task) && work.task)
+            if (!attempt(work.task) && work.task && !(work.onlyReads && readAllTheSame(work.task)))
                 work.task(nullptr);
             if (work.isLast)
                 return;
@@ -173,6 +174,18 @@ private:
             }
         }
         return false;
+    }
+
+    /// A full disk keeps nobody from reading what is on it.
+    bool readAllTheSame(const Desk::Task &task)
+    {
+        try {
+            if (m_file)
+                task(&*m_file);
+            return m_file.has_value();
+        } catch (const sqlite::Failure &) {
+            return false; // told already
+        }
     }
 
     bool setAside()
@@ -240,23 +253,27 @@ void HistoryKeeper::keep(const KeptConversation &conversation, const KeptMessage
 }
 
 /// Puts a question to the file on its thread, and its answer to the thread of the event loop. ask: may throw.
-template <class Ask, class Answered> void HistoryKeeper::put(Ask ask, Answered answered)
+template <class Ask, class Answered> void HistoryKeeper::put(Access access, Ask ask, Answered answered)
 {
     begin();
-    m_desk->put([ask = std::move(ask), answered = std::move(answered), caller = m_caller.get()](HistoryFile *file) {
-        auto answer = file ? ask(*file) : decltype(ask(*file)){};
-        caller->put([answered, answer = std::move(answer)] { answered(answer); });
-    });
+    m_desk->put(
+        [ask = std::move(ask), answered = std::move(answered), caller = m_caller.get()](HistoryFile *file) {
+            auto answer = file ? ask(*file) : decltype(ask(*file)){};
+            caller->put([answered, answer = std::move(answer)] { answered(answer); });
+        },
+        access == Access::reads);
 }
 
 void HistoryKeeper::find(const HistoryQuestion &question, Found found)
 {
-    put([question](HistoryFile &file) { return file.find(question); }, std::move(found));
+    put(
+        Access::reads, [question](HistoryFile &file) { return file.find(question); }, std::move(found));
 }
 
 void HistoryKeeper::findIn(const KeptConversation &conversation, const HistoryQuestion &question, Found found)
 {
     put(
+        Access::reads,
         [conversation, question](HistoryFile &file) {
             HistoryQuestion there = question;
             there.conversation = file.numberOf(conversation);
@@ -267,12 +284,14 @@ void HistoryKeeper::findIn(const KeptConversation &conversation, const HistoryQu
 
 void HistoryKeeper::list(Listed listed)
 {
-    put([](HistoryFile &file) { return file.list(); }, std::move(listed));
+    put(
+        Access::reads, [](HistoryFile &file) { return file.list(); }, std::move(listed));
 }
 
 void HistoryKeeper::leaveUnread(const KeptConversation &conversation)
 {
     put(
+        Access::changes,
         [conversation](HistoryFile &file) {
             file.leaveUnread(conversation);
             return true;
@@ -283,6 +302,7 @@ void HistoryKeeper::leaveUnread(const KeptConversation &conversation)
 void HistoryKeeper::setRead(const KeptConversation &conversation, int unread)
 {
     put(
+        Access::changes,
         [conversation, unread](HistoryFile &file) {
             file.setRead(conversation, unread);
             return true;
@@ -294,12 +314,14 @@ void HistoryKeeper::setRead(const KeptConversation &conversation, int unread)
 void HistoryKeeper::listUnread(Unread listed)
 {
     if (QFile::exists(HistoryFile::pathIn(m_folder)))
-        put([](HistoryFile &file) { return file.listUnread(); }, std::move(listed));
+        put(
+            Access::reads, [](HistoryFile &file) { return file.listUnread(); }, std::move(listed));
 }
 
 void HistoryKeeper::erase(const HistorySelection &selection, Done done)
 {
     put(
+        Access::changes,
         [selection](HistoryFile &file) {
             file.erase(selection);
             return true;
@@ -317,6 +339,7 @@ void HistoryKeeper::eraseBefore(const QDateTime &time)
     if (!QFile::exists(HistoryFile::pathIn(m_folder)))
         return;
     put(
+        Access::changes,
         [time](HistoryFile &file) {
             file.eraseBefore(time);
             return true;

@@ -38,7 +38,8 @@ private:
     class Caller;
 
     void begin();
-    template <class Ask, class Answered> void put(Ask ask, Answered answered);
+    enum class Access { reads, changes };
+    template <class Ask, class Answered> void put(Access access, Ask ask, Answered answered);
 
     QString m_folder;
     std::unique_ptr<Caller> m_caller; ///< where answers are called, on the thread of the event loop

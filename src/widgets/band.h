@@ -2,6 +2,7 @@
 #pragma once
 
 #include "widgets/form_layout.h"
+#include "widgets/link_colours.h"
 
 #include <QLabel>
 
@@ -27,6 +28,7 @@ inline QLabel *makeBandWithLink(QWidget *parent)
     QLabel *const band = makeBand(parent);
     band->setTextFormat(Qt::RichText);
     band->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    keepLinkColours(*band);
     return band;
 }
 

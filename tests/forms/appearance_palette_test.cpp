@@ -1,5 +1,6 @@
 #include "widgets/appearance_palette.h"
 
+#include "widgets/band.h"
 #include "widgets/muted_colour.h"
 #include "widgets/muted_text.h"
 
@@ -89,6 +90,30 @@ TEST(MutedText, StaysReadableWhenTheDesktopChangesItsColours)
         EXPECT_EQ(shown, mutedTextColour(palette));
         EXPECT_GE(contrast(shown, palette.color(QPalette::Base)), 4.5);
     }
+}
+
+TEST(LinksOfABand, HaveTheColourOfTheDesktopThatIsThereNow)
+{
+    QWidget window;
+    QLabel *const band = makeBandWithLink(&window);
+    band->setText(QStringLiteral("<a href=\"year\">for a year</a>"));
+    band->resize(200, 40);
+    band->show();
+    window.show();
+    const QPalette before = QApplication::palette();
+    for (const Scheme scheme : {Scheme::light, Scheme::dark, Scheme::light}) {
+        const QPalette palette = *paletteFor({scheme, false}, scheme == Scheme::dark ? lightDesktop : darkDesktop());
+        QApplication::setPalette(palette);
+        QCoreApplication::processEvents();
+        const QImage image = band->grab().toImage();
+        int ofLink = 0; // its underline alone has so many
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                ofLink += image.pixelColor(x, y) == palette.color(QPalette::Link) ? 1 : 0;
+        }
+        EXPECT_GT(ofLink, 10) << palette.color(QPalette::Link).name().toStdString();
+    }
+    QApplication::setPalette(before);
 }
 
 } // namespace

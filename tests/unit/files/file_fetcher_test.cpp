@@ -1,6 +1,8 @@
 // Fetching from a real server, and from one that misbehaves.
 #include "files/http_file_fetcher.h"
 
+#include "files/file_name.h"
+
 #include "files/http_file_server.h"
 #include "full_disk.h"
 #include "print_qt.h"
@@ -49,6 +51,7 @@ protected:
     }
     QString inFolder(const QString &name) const { return folder.filePath(QStringLiteral("in/") + name); }
     QStringList found() const { return QDir(folder.filePath(QStringLiteral("in"))).entryList(QDir::Files); }
+    QString partName() const { return unfinishedFileName(wanted().name, wanted().host, wanted().path); }
     WantedFile wanted(const QString &name = QStringLiteral("Plan.pdf")) const
     {
         return {.number = 1,
@@ -187,7 +190,7 @@ TEST_F(OddServerTest, WaitsForASumThatIsBeingWorkedOut)
 
 TEST_F(OddServerTest, ChecksWhatWasThereAlreadyWhenItIsResumed)
 {
-    write(QStringLiteral("in/Plan.pdf.%1.part").arg(token.left(8)), "abX");
+    write(QStringLiteral("in/") + partName(), "abX");
     const FetchedBytes state
         = fetchFrom({"HTTP/1.1 416 Range Not Satisfiable\r\nContent-Length: 0\r\nContent-Range: bytes */3\r\n\r\n",
                      "HTTP/1.1 200 OK\r\nContent-Length: 3\r\n"
@@ -241,7 +244,7 @@ TEST_F(OddServerTest, LeavesNothingBehindWhereNothingHasCome)
 
 TEST_F(OddServerTest, SaysThatTheDiskIsFullAndKeepsWhatHasCome)
 {
-    const QString part = QStringLiteral("Plan.pdf.%1.part").arg(token.left(8));
+    const QString part = partName();
     for (const int error : {ENOSPC, EDQUOT}) {
         {
             const FullDisk full(4, error);
@@ -371,13 +374,13 @@ TEST_F(FetchedFromUsTest, IsResumedAfterEachStop)
     }
     file.close();
     serve(file.fileName());
-    const QString part = inFolder(QStringLiteral("Plan.pdf.01234567.part"));
+    const QString part = inFolder(partName());
     for (int i = 0; i < 10; ++i) {
         const qint64 enough = QFileInfo(part).size() + 1 + chance->bounded(large / 40);
         fetcher->fetch(wanted());
         ASSERT_TRUE(waitUntil([&] { return QFileInfo(part).size() >= enough; }));
         renew();
-        ASSERT_THAT(found(), ElementsAre(QStringLiteral("Plan.pdf.01234567.part")));
+        ASSERT_THAT(found(), ElementsAre(partName()));
     }
     const FetchedBytes state = fetch(wanted());
     EXPECT_TRUE(state.isChecked);

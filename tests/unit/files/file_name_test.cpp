@@ -2,6 +2,8 @@
 
 #include "print_qt.h"
 
+#include <QRegularExpression>
+
 #include <gmock/gmock.h>
 
 namespace nimb
@@ -11,7 +13,7 @@ namespace
 
 TEST(CleanFileName, FitsIntoAFolderWithAllThatIsPutBehindIt)
 {
-    constexpr qsizetype longestOfSystems = 255, numberAndMark = 14; // " (1000)", ".01234567.part"
+    constexpr qsizetype longestOfSystems = 255, numberAndMark = 22; // ".0123456789abcdef.part"
     for (const char32_t c : {U'a', U'\u00E4', U'\u4E2D', U'\U0001F600'}) {
         const QString character = QString::fromUcs4(&c, 1);
         const QString clean = cleanFileName(character.repeated(300) + QStringLiteral(".tar.gz"));
@@ -22,6 +24,22 @@ TEST(CleanFileName, FitsIntoAFolderWithAllThatIsPutBehindIt)
         EXPECT_FALSE(clean.contains(QChar::ReplacementCharacter));
         EXPECT_TRUE(clean.isValidUtf16());
     }
+}
+
+TEST(UnfinishedFileName, IsAnotherOneForEachSenderAndOffer)
+{
+    const Ipv4Address ann(10, 0, 0, 2), dan(10, 0, 0, 3);
+    const QByteArray offer = "/0123456789abcdef0123456789abcdef/a.txt";
+    const QByteArray alike = "/0123456700000000000000000000000/a.txt"; // the first digits of the token are the same
+    const auto name = [](Ipv4Address sender, const QByteArray &path) {
+        return unfinishedFileName(QStringLiteral("a.txt"), sender, path);
+    };
+    EXPECT_TRUE(
+        QRegularExpression(QStringLiteral("^a\\.txt\\.[0-9a-f]{16}\\.part$")).match(name(ann, offer)).hasMatch())
+        << name(ann, offer).toStdString();
+    EXPECT_EQ(name(ann, offer), name(ann, "/0123456789abcdef0123456789abcdef/%61.txt"));
+    EXPECT_NE(name(ann, offer), name(dan, offer));
+    EXPECT_NE(name(ann, offer), name(ann, alike));
 }
 
 TEST(CleanFileName, LeavesAnOrdinaryNameAlone)
@@ -66,7 +84,7 @@ TEST(CleanFileName, KeepsTheSuffixOfALongName)
 {
     EXPECT_EQ(cleanFileName(QString(300, u'a') + QStringLiteral(".pdf")), QString(196, u'a') + QStringLiteral(".pdf"));
     // Each is three bytes.
-    EXPECT_EQ(cleanFileName(QString(300, u'日') + QStringLiteral(".pdf")), QString(78, u'日') + QStringLiteral(".pdf"));
+    EXPECT_EQ(cleanFileName(QString(300, u'日') + QStringLiteral(".pdf")), QString(76, u'日') + QStringLiteral(".pdf"));
     EXPECT_EQ(cleanFileName(QStringLiteral("a.") + QString(300, u'b')), QStringLiteral("a.") + QString(198, u'b'));
 }
 

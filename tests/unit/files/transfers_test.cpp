@@ -10,6 +10,7 @@ namespace nimb::test
 namespace
 {
 
+using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -388,18 +389,66 @@ TEST_F(TransfersTest, WhatIsUnfinishedComesBackPausedAfterARestart)
     EXPECT_EQ(wanted.from, Ipv4Address(10, 0, 0, 1));
     EXPECT_EQ(wanted.folder, QStringLiteral("/in"));
     later->fileFetcher.told({.number = files.at(0).number, .what = What::done});
+    later->advance(1s);
     EXPECT_EQ(later->settings.value("Transfers", "UnfinishedFiles"), "");
 }
 
-TEST_F(TransfersTest, WhatIsUnfinishedIsKeptAtOnceAndOnlySoManyOfThem)
+TEST_F(TransfersTest, WhatIsUnfinishedIsKeptWithinASecondInTwoSavesAndOnlySoManyOfThem)
 {
     chat();
+    copy.advance(5s);
+    const int before = copy.settings.saves;
     for (int i = 0; i < 60; ++i)
         received().save(receiveAnother(), QStringLiteral("/in"));
+    copy.advance(1s);
+    EXPECT_EQ(copy.settings.saves, before + 2);
     const std::unique_ptr<Copy> later = next(); // without an end of this one
     ReceivedFiles &files = later->engine.transfers().received;
     EXPECT_EQ(files.rowCount(), 50);
     EXPECT_EQ(files.at(49).link, received().at(59).link);
+}
+
+TEST_F(TransfersTest, TheSameFailureToKeepThemIsSaidOnce)
+{
+    chat();
+    copy.settings.failure = QStringLiteral("The disk is full.");
+    for (int i = 0; i < 3; ++i) {
+        received().save(receiveAnother(), QStringLiteral("/in"));
+        copy.advance(1s);
+    }
+    EXPECT_EQ(copy.view.log.text().count(QLatin1String("The disk is full.")), 1);
+}
+
+TEST_F(TransfersTest, LinksThatPourInDriveNothingOutThatWasBegun)
+{
+    chat();
+    const int begun = receive();
+    received().save(begun, QStringLiteral("/in"));
+    received().pause(begun);
+    tell({.number = begun, .what = What::stopped, .place = 45, .size = 100});
+    for (int i = 0; i < 2 * limits::filesReceived; ++i)
+        receiveAnother();
+    EXPECT_TRUE(received().find(begun));
+    EXPECT_LE(received().rowCount(), limits::filesReceived);
+}
+
+TEST_F(TransfersTest, ANameIsShownAsItWillBeSaved)
+{
+    chat();
+    copy.arrive("10.0.0.2",
+                "-\xE2\x80\xAEgpj.exe (1 bytes) http://10.0.0.2:5549/"
+                "11223344556677889900112233445566/%E2%80%AEgpj.exe");
+    ASSERT_EQ(received().rowCount(), 1);
+    EXPECT_EQ(received().index(0, ReceivedFiles::File).data().toString(), QStringLiteral("gpj.exe (1 bytes)"));
+}
+
+TEST_F(TransfersTest, OneOfferIsOneRowHoweverItsNameIsWritten)
+{
+    chat();
+    for (const char *const name : {"a.txt", "%61.txt", "b.txt"})
+        copy.arrive("10.0.0.2",
+                    std::string("-a.txt (1 bytes) http://10.0.0.2:5549/11223344556677889900112233445566/") + name);
+    EXPECT_EQ(received().rowCount(), 1);
 }
 
 TEST_F(TransfersTest, WhatCannotBeReadOfThemIsPassedOver)
