@@ -3,6 +3,7 @@
 #include "platform/notification_service.h"
 
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QGuiApplication>
 
 #include <algorithm>
@@ -27,6 +28,18 @@ DesktopNotices::DesktopNotices(QDBusConnection bus) : m_bus(std::move(bus))
     on("ActionInvoked", SLOT(actionInvoked(uint, QString)));
     on("NotificationReplied", SLOT(notificationReplied(uint, QString)));
     on("NotificationClosed", SLOT(notificationClosed(uint, uint)));
+    auto *const watcher
+        = new QDBusServiceWatcher(notification_service::name, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
+    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &DesktopNotices::forgetService);
+}
+
+/// Another one can do other things, and its numbers mean other notices.
+void DesktopNotices::forgetService()
+{
+    m_capabilities.reset();
+    std::erase_if(m_standing, [](const auto &one) { return !one.second.isAsked; });
+    for (auto &[place, standing] : m_standing)
+        standing.id = 0;
 }
 
 void DesktopNotices::show(const Notice &notice)
@@ -110,7 +123,7 @@ void DesktopNotices::shown(const Notice &notice, std::optional<uint> id)
     if (!now.isOver && !id)
         Q_EMIT refused(now.next.value_or(notice));
     else if (!now.isOver && now.next)
-        notify(*now.next);
+        show(*now.next);
 }
 
 void DesktopNotices::withdraw(const NoticePlace &place)

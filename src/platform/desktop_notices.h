@@ -43,6 +43,7 @@ private:
     Q_SLOT void notificationReplied(uint id, const QString &text);
     Q_SLOT void notificationClosed(uint id, uint reason);
 
+    void forgetService();
     void askForCapabilities();
     void notify(const Notice &notice);
     void shown(const Notice &notice, std::optional<uint> id);

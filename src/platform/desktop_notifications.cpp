@@ -4,6 +4,7 @@
 #include "platform/notification_service.h"
 
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QGuiApplication>
 
 #include <utility>
@@ -27,6 +28,13 @@ DesktopNotifications::DesktopNotifications(const Common &common, QDBusConnection
                   QStringLiteral("ActionInvoked"), this, SLOT(actionInvoked(uint, QString)));
     m_bus.connect(notification_service::name, notification_service::path, notification_service::name,
                   QStringLiteral("NotificationClosed"), this, SLOT(notificationClosed(uint, uint)));
+    auto *const watcher
+        = new QDBusServiceWatcher(notification_service::name, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
+    // Another service can do other things, and its numbers mean other notifications.
+    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, [this] {
+        m_knowsCapabilities = false;
+        m_id = 0;
+    });
 }
 
 bool DesktopNotifications::areNeeded()

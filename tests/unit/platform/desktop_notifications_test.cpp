@@ -85,6 +85,13 @@ protected:
                                            QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals));
         ASSERT_TRUE(desktop.registerService(QStringLiteral("org.freedesktop.Notifications")));
     }
+    /// Another program takes the service's place, under the same name. The service notes for both.
+    void restartService()
+    {
+        QDBusConnection::disconnectFromBus(QStringLiteral("desktop"));
+        startService();
+        settle();
+    }
     void make()
     {
         notifications.emplace(common, *here);
@@ -207,6 +214,21 @@ TEST_F(DesktopNotificationsTest, MarkupIsShownWhetherTheDesktopKnowsMarkupOrNot)
     happen("<b>Ann</b> & Co is online");
     ASSERT_TRUE(waitForShown(2));
     EXPECT_EQ(service.shown[1].body, "&lt;b&gt;Ann&lt;/b&gt; &amp; Co is online");
+}
+
+TEST_F(DesktopNotificationsTest, AnotherServiceIsAskedWhatItCanAndItsNumbersAreItsOwn)
+{
+    startService();
+    make();
+    happen("<b>Ann</b> is online");
+    ASSERT_TRUE(waitForShown(1));
+    settle();
+    service.capabilities.append(QStringLiteral("body-markup"));
+    restartService();
+    happen("Ben is offline");
+    ASSERT_TRUE(waitForShown(2));
+    EXPECT_EQ(service.shown[1].replaces, 0u);
+    EXPECT_EQ(service.shown[1].body, "&lt;b&gt;Ann&lt;/b&gt; is online\nBen is offline");
 }
 
 TEST_F(DesktopNotificationsTest, WhileThePopUpIsSwitchedOffNothingIsShownOrKept)
@@ -357,6 +379,21 @@ TEST_F(DesktopNoticesTest, OffersReplyWhereTheServiceCanAndOpenWhereNot)
     show(fromBen, "Ben invites you to a conference", false);
     ASSERT_TRUE(waitForShown(3));
     EXPECT_EQ(service.shown[2].actions, QStringList({"default", "Open", "open", "Open"}));
+}
+
+TEST_F(DesktopNoticesTest, AnotherServiceIsAskedWhatItCanAndItsNumbersAreItsOwn)
+{
+    makeWithService();
+    show(fromAnn, "<b>one</b>");
+    ASSERT_TRUE(waitForShown(1));
+    settle();
+    service.capabilities.append(QStringLiteral("body-markup"));
+    restartService();
+    show(fromAnn, "<b>two</b>");
+    ASSERT_TRUE(waitForShown(2));
+    EXPECT_EQ(service.shown[0].body, "<b>one</b>");
+    EXPECT_EQ(service.shown[1].body, "&lt;b&gt;two&lt;/b&gt;");
+    EXPECT_EQ(service.shown[1].replaces, 0u);
 }
 
 TEST_F(DesktopNoticesTest, AClickOpensWhatItIsAbout)
