@@ -34,6 +34,8 @@ namespace
 
 /// The colour that was asked for, kept so that it can be adapted to another ground.
 constexpr int askedColour = QTextFormat::UserProperty + 1;
+/// Whether that is the desktop's own for texts, which it follows.
+constexpr int desktopsColour = QTextFormat::UserProperty + 2;
 /// A frame of the screen, less what it takes to lay out and paint what has come.
 constexpr std::chrono::milliseconds frame{14};
 /// Pieces that go in at once; more in one frame would be felt as a stall.
@@ -60,6 +62,13 @@ constexpr qsizetype withRoom(qsizetype limit)
 QColor screenColour(Colour colour)
 {
     return QColor(int(colour & 0xFF), int(colour >> 8 & 0xFF), int(colour >> 16 & 0xFF));
+}
+
+std::optional<QColor> meantColour(const QTextCharFormat &format)
+{
+    if (!format.hasProperty(askedColour) || format.property(desktopsColour).toBool())
+        return std::nullopt;
+    return screenColour(format.property(askedColour).toUInt());
 }
 
 Colour logColour(const QColor &colour)
@@ -235,6 +244,7 @@ void RichTextLogEdit::setSelColor(Colour colour)
 void RichTextLogEdit::applyColour(Colour colour)
 {
     m_format.setProperty(askedColour, colour);
+    m_format.setProperty(desktopsColour, colour == logColour(palette().color(QPalette::WindowText)));
     m_format.setForeground(readableOn(screenColour(colour), palette().color(QPalette::Base)));
 }
 
@@ -896,9 +906,14 @@ void RichTextLogEdit::resizeEvent(QResizeEvent *event)
         verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(topLine).top() - top);
 }
 
+/// To another ground, and to another colour of the desktop's texts.
 void RichTextLogEdit::adaptColours()
 {
     writeGathered();
+    const Colour texts = logColour(palette().color(QPalette::WindowText));
+    const auto asked = [texts](const QTextCharFormat &format) {
+        return format.property(desktopsColour).toBool() ? texts : format.property(askedColour).toUInt();
+    };
     const QColor ground = palette().color(QPalette::Base);
     QTextCursor cursor(document());
     cursor.beginEditBlock();
@@ -910,9 +925,9 @@ void RichTextLogEdit::adaptColours()
             QTextCharFormat format = fragment.charFormat();
             if (!format.hasProperty(askedColour))
                 continue;
-            format.setForeground(format.isAnchor()
-                                     ? linkColour()
-                                     : readableOn(screenColour(format.property(askedColour).toUInt()), ground));
+            const Colour colour = asked(format);
+            format.setProperty(askedColour, colour);
+            format.setForeground(format.isAnchor() ? linkColour() : readableOn(screenColour(colour), ground));
             cursor.setPosition(fragment.position());
             cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
             cursor.setCharFormat(format);
@@ -920,7 +935,7 @@ void RichTextLogEdit::adaptColours()
     }
     cursor.endEditBlock();
     if (m_format.hasProperty(askedColour))
-        applyColour(m_format.property(askedColour).toUInt());
+        applyColour(asked(m_format));
 }
 
 // --- the reader's hands

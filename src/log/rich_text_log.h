@@ -262,4 +262,8 @@ private:
 QColor screenColour(Colour colour);
 Colour logColour(const QColor &colour);
 
+/// The colour that a piece of a log is meant to have, before it is adapted to the ground of the screen. Nothing where
+/// it has none of its own: it is the reader's for texts.
+std::optional<QColor> meantColour(const QTextCharFormat &format);
+
 } // namespace nimb

@@ -2,6 +2,7 @@
 
 #include "log/log_marks.h"
 #include "log/log_pictures.h"
+#include "log/rich_text_log.h"
 #include "widgets/muted_colour.h"
 
 #include <QPagedPaintDevice>
@@ -49,10 +50,11 @@ QString pieceAsHtml(const QTextFragment &fragment)
         return QStringLiteral("<a href=\"%1\">%2</a>").arg(address.toHtmlEscaped(), text);
     const bool isBold = format.fontWeight() > QFont::Normal;
     const QString shown = isBold ? QStringLiteral("<b>%1</b>").arg(text) : text;
-    if (!format.hasProperty(QTextFormat::ForegroundBrush))
+    const std::optional<QColor> colour = meantColour(format);
+    if (!colour)
         return shown;
-    const QColor colour = contrastingOn(format.foreground().color(), QColor(Qt::white));
-    return QStringLiteral("<span style=\"color:%1\">%2</span>").arg(colour.name(), shown);
+    return QStringLiteral("<span style=\"color:%1\">%2</span>")
+        .arg(contrastingOn(*colour, QColor(Qt::white)).name(), shown);
 }
 
 QString lineAsHtml(const QTextBlock &block)
@@ -68,7 +70,8 @@ QString lineAsHtml(const QTextBlock &block)
 }
 
 constexpr auto pageHead = "<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<title>%1</title>\n<style>\n"
-                          "body { font-family: sans-serif; max-width: 50em; margin: 2em auto; padding: 0 1em; }\n"
+                          "body { color: #000; background: #fff; font-family: sans-serif; max-width: 50em; margin: 2em "
+                          "auto; padding: 0 1em; }\n"
                           "p { margin: 2px 0; padding: 1px 6px 1px 24px; text-indent: -18px; white-space: pre-wrap; }\n"
                           ".own { background-color: #eef3fa; }\n"
                           ".day { color: #5b6570; text-align: center; margin-top: 14px; }\n"

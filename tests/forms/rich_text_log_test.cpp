@@ -246,6 +246,26 @@ TEST_F(RichTextLogTest, ADarkGroundLightensTheColoursKeepingTheirHue)
     EXPECT_EQ(colourAt(0), QColor(0, 0, 192));
 }
 
+TEST_F(RichTextLogTest, WhatHasTheTextColourOfTheDesktopFollowsIt)
+{
+    const auto desktop = [this](const QColor &ground, const QColor &text) {
+        QPalette palette;
+        palette.setColor(QPalette::Base, ground);
+        palette.setColor(QPalette::WindowText, text);
+        log.setPalette(palette);
+    };
+    desktop(Qt::white, Qt::black);
+    append("own\r\n", logColour(Qt::black));
+    append("other's\r\n", 0xC00000);
+    desktop(QColor(30, 30, 30), Qt::white);
+    EXPECT_EQ(colourAt(0), QColor(Qt::white));
+    append("own again\r\n", logColour(Qt::white));
+    desktop(Qt::white, Qt::black);
+    EXPECT_EQ(colourAt(0), QColor(Qt::black));
+    EXPECT_EQ(colourAt(2), QColor(Qt::black));
+    EXPECT_EQ(colourAt(1), QColor(0, 0, 192)) << "this one is meant as it is";
+}
+
 TEST_F(RichTextLogTest, ABurstGoesInAtOnce)
 {
     lines(1);

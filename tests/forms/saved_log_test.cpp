@@ -102,6 +102,19 @@ TEST_F(SavedLogTest, AsPageHasLinksAndMarksOwnMessages)
     EXPECT_THAT(page, HasSubstr("<a href=\"http://example.org/?a=\">http://example.org/?a=</a>"));
 }
 
+TEST_F(SavedLogTest, AsPageOfADarkDesktopHasTheColoursThatAreMeantOnWhite)
+{
+    QPalette dark;
+    dark.setColor(QPalette::Base, QColor(30, 30, 30));
+    dark.setColor(QPalette::WindowText, Qt::white);
+    log.setPalette(dark);
+    appendText(log, QStringLiteral("own\r\n"), logColour(Qt::white));
+    appendText(log, QStringLiteral("received\r\n"), 0xC00000);
+    const std::string page = saved(QStringLiteral("a.html")).toStdString();
+    EXPECT_THAT(page, HasSubstr("<p>own</p>"));
+    EXPECT_THAT(page, HasSubstr("<span style=\"color:#0000c0\">received</span>"));
+}
+
 TEST_F(SavedLogTest, ACommandOfTheProgramBecomesNoLink)
 {
     log.setSelCommand(QStringLiteral("doctor"));
