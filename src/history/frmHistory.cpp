@@ -22,6 +22,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace nimb
 {
@@ -177,6 +178,20 @@ void frmHistory::connectControls()
     connect(&m_waiting, &WaitingMessages::changed, this, &frmHistory::list);
     auto *const search = new QShortcut(QKeySequence::Find, this);
     connect(search, &QShortcut::activated, searchText, qOverload<>(&QLineEdit::setFocus));
+}
+
+/// Whoever comes back sees what was said meanwhile, unless he is reading what was there.
+void frmHistory::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange)
+        return;
+    const QScrollBar &bar = *messagesView->verticalScrollBar();
+    const bool isReading = messagesView->selectionModel()->hasSelection() || bar.value() < bar.maximum();
+    if (isActiveWindow() && std::exchange(m_wasLeft, false) && !isReading)
+        list();
+    else if (!isActiveWindow())
+        m_wasLeft = true;
 }
 
 // --- conversations

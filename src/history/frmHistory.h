@@ -41,6 +41,9 @@ public:
     /// Chooses the conversation with this contact, if anything of it is kept, and looks for these words.
     void choose(const QString &address, const QString &words);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     struct Export;
 
@@ -93,8 +96,9 @@ private:
     HistoryDelegate *m_delegate = nullptr;
     QString m_wantedAddress; ///< to be chosen when the list has come
     bool m_asksOlder = false;
-    bool m_isAll = false; ///< nothing older is left
-    int m_question = 0;   ///< counts them; answers to earlier ones are of no use
+    bool m_wasLeft = false; ///< another window has been active since this one was
+    bool m_isAll = false;   ///< nothing older is left
+    int m_question = 0;     ///< counts them; answers to earlier ones are of no use
     QHash<std::int64_t, QString> m_names;
     std::unique_ptr<Export> m_export;
 };

@@ -12,6 +12,7 @@
 #include "protocol/wire_text.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace nimb
 {
@@ -49,6 +50,9 @@ void PrivateChat::preparewindow(const std::optional<UnreadConversation> &unread)
     Clearbtn_Click();
     if (unread)
         leaveUnread(*unread);
+    // Chosen in an earlier window, or before the program was started anew.
+    m_sendsLater = m_peer.delivery != Delivery::arrives && !waitingMessages().empty();
+    showWhetherMessagesCanWait();
     showEarlier();
 }
 
@@ -187,15 +191,20 @@ void PrivateChat::takeOutOfOutbox()
 {
     m_sendsLater = false;
     std::vector<Lost> taken;
-    for (const auto &[waiting, number] : std::map(m_waiting)) {
-        const auto &all = m_services.outbox.messages();
-        const auto message = std::ranges::find(all, waiting, &WaitingMessage::number);
-        if (message == all.end())
-            continue;
-        taken.push_back({message->text, message->written, number});
-        m_services.outbox.forget(waiting); // says that it will not be sent
+    for (const WaitingMessage &message : waitingMessages()) {
+        const auto line = m_waiting.find(message.number);
+        taken.push_back({message.text, message.written, line == m_waiting.end() ? 0 : line->second});
+        m_services.outbox.forget(message.number); // says that it will not be sent
     }
     m_lost.insert(m_lost.begin(), taken.begin(), taken.end());
+}
+
+std::vector<WaitingMessage> PrivateChat::waitingMessages() const
+{
+    std::vector<WaitingMessage> waiting;
+    std::ranges::copy_if(m_services.outbox.messages(), std::back_inserter(waiting),
+                         [this](const WaitingMessage &message) { return message.ip == m_rIP && !message.isGivenUp; });
+    return waiting;
 }
 
 int PrivateChat::takeWaiting(std::int64_t waiting)

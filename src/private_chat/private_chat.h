@@ -121,6 +121,8 @@ private:
     /// Until the outbox has no more room.
     void putIntoOutbox();
     void takeOutOfOutbox();
+    /// What waits for this peer, also what was written in an earlier window.
+    std::vector<WaitingMessage> waitingMessages() const;
     /// The number in the log of what waits no more; 0 where it has none there.
     int takeWaiting(std::int64_t waiting);
     Delivery deliveryTo(const PeerShown &peer);

@@ -259,6 +259,31 @@ TEST_F(FrmHistory, ADoubleClickOnAHitShowsWhereItStands)
     EXPECT_EQ(list().currentItem()->text(), QStringLiteral("Ann (304)"));
 }
 
+TEST_F(FrmHistory, WhoComesBackSeesWhatWasSaidMeanwhileUnlessHeIsReading)
+{
+    open();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return shown().size() == 8; }, patience));
+    QWidget other;
+    const auto leaveAndComeBack = [this, &other] {
+        other.show();
+        other.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+        form->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(form));
+    };
+    EXPECT_TRUE(QTest::qWaitForWindowActive(form));
+    keep(QStringLiteral("10.0.0.2"), QStringLiteral("Ann"), QStringLiteral("one more"));
+    leaveAndComeBack();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return shown().size() == 9; }, patience));
+    messages().setCurrentIndex(messages().model()->index(0, 0));
+    keep(QStringLiteral("10.0.0.2"), QStringLiteral("Ann"), QStringLiteral("and another"));
+    leaveAndComeBack();
+    EXPECT_TRUE(messages().selectionModel()->hasSelection());
+    messages().clearSelection();
+    leaveAndComeBack();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return shown().size() == 10; }, patience));
+}
+
 TEST_F(FrmHistory, ScrollingUpBringsOlderOnes)
 {
     for (int i = 0; i < 500; ++i)

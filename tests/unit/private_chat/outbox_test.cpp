@@ -136,6 +136,24 @@ TEST_F(OutboxTest, WhatWaitsIsTakenBackByTheSameButtonAndMayWaitAgain)
                             testing::StartsWith("-three (written")));
 }
 
+TEST_F(OutboxTest, WhatWaitsSinceAnEarlierStartIsTakenBackToo)
+{
+    writeForLater("one");
+    const std::unique_ptr<Copy> later = next();
+    later->arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC-ANN Ann");
+    later->engine.privateWindows().openPrivate(annsAddress);
+    EXPECT_TRUE(later->window(1).shownPeer.sendsLater);
+    PrivateChat &chat = *later->engine.privateWindows().at(1);
+    EXPECT_TRUE(chat.send(QStringLiteral("two")));
+    EXPECT_EQ(later->contact("10.0.0.2").toBeSent, 2);
+    chat.sendLaterBtn_Click();
+    EXPECT_FALSE(later->window(1).shownPeer.sendsLater);
+    EXPECT_TRUE(later->window(1).shownPeer.canWait);
+    EXPECT_EQ(later->contact("10.0.0.2").toBeSent, 0);
+    chat.sendLaterBtn_Click();
+    EXPECT_EQ(later->contact("10.0.0.2").toBeSent, 2);
+}
+
 TEST_F(OutboxTest, WhereNoMoreCanWaitItIsNotSaidToWait)
 {
     write("one");
