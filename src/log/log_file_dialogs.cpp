@@ -5,7 +5,6 @@
 #include "widgets/file_dialogs.h"
 #include "widgets/message_box.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -16,21 +15,16 @@ namespace nimb
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("LogFileDialogs", text);
-}
-
 QString titleOf(const RichTextLogEdit &log)
 {
     return log.window()->windowTitle();
 }
 
-/// What a name of a window becomes as that of a file, on every system.
+/// What a name of a window becomes as that of a file, on every system. Whose conversation it is says enough.
 QString fileNameOf(const QString &title)
 {
     static const QRegularExpression forbidden(QStringLiteral("[/\\\\:*?\"<>|\\x{0}-\\x{1f}]+"));
-    QString name = title.left(100);
+    QString name = title.section(QLatin1String(" - NIMB-Chat"), 0, 0).left(100);
     name.replace(forbidden, QStringLiteral("-"));
     return name.trimmed() + QLatin1String(".txt");
 }
@@ -39,11 +33,13 @@ QString fileNameOf(const QString &title)
 
 void askWhereToSave(RichTextLogEdit &log)
 {
-    const QString filters = tr("Text (*.txt)") + QLatin1String(";;") + tr("Web page (*.html)");
+    const QString filters
+        = RichTextLogEdit::tr("Text (*.txt)") + QLatin1String(";;") + RichTextLogEdit::tr("Web page (*.html)");
     askForNewFile(*log.window(), fileNameOf(titleOf(log)), filters, [&log](const QString &path) {
         log.writeGathered();
         if (const QString reason = saveLog(*log.document(), titleOf(log), path); !reason.isEmpty())
-            warn(*log.window(), tr("%1 cannot be written: %2.").arg(QFileInfo(path).fileName(), reason));
+            warn(*log.window(),
+                 RichTextLogEdit::tr("%1 cannot be written: %2.").arg(QFileInfo(path).fileName(), reason));
     });
 }
 

@@ -166,6 +166,15 @@ TEST_F(SavedLogTest, TheMenuAsksWhereAndWritesThere)
     EXPECT_THAT(box->text().toStdString(), testing::StartsWith("b.txt cannot be written: "));
 }
 
+TEST_F(SavedLogTest, AFileIsCalledAfterThoseWhoTalked)
+{
+    log.setWindowTitle(QStringLiteral("Ann - NIMB-Chat - Private Chat Window"));
+    entry("logSave").trigger();
+    const auto *const dialog = log.findChild<QFileDialog *>();
+    ASSERT_TRUE(dialog);
+    EXPECT_EQ(dialog->selectedFiles().value(0).section(u'/', -1), QStringLiteral("Ann.txt"));
+}
+
 TEST_F(SavedLogTest, TheMenuAsksHowToPrint)
 {
     entry("logPrint").trigger();
