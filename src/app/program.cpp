@@ -1,6 +1,8 @@
 #include "app/program.h"
 
 #include "base/limits.h"
+#include "base/program_languages.h"
+#include "base/settings.h"
 #include "main_window/frmMain.h"
 #include "main_window/offer_good_copy.h"
 #include "main_window/sub_main.h"
@@ -45,6 +47,7 @@ int Program::run(const QString &commandLine)
 {
     listenToTheSystem();
     followDesktop();
+    speakChosenLanguage();
     if (SubMain(commandLine, m_common, m_store, *this) != Started::running)
         return 0;
     m_exit.emplace([this] { endWithoutScreen(); });
@@ -73,6 +76,14 @@ void Program::followDesktop()
                      [desktops = QApplication::palette()](const Appearance &appearance) {
                          QApplication::setPalette(paletteFor(appearance, desktops).value_or(QPalette()));
                      });
+}
+
+void Program::speakChosenLanguage()
+{
+    const QString chosen = knownLanguage(readSetting(m_store, QLatin1String("Language")));
+    if (!chosen.isEmpty())
+        m_translations.use(chosen);
+    QGuiApplication::setLayoutDirection(m_translations.language().textDirection());
 }
 
 void Program::endSession(QSessionManager &session)

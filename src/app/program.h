@@ -26,6 +26,7 @@
 #include "platform/sound_player.h"
 #include "platform/system_chance.h"
 #include "platform/system_info.h"
+#include "platform/translations.h"
 #include "platform/udp_winsock.h"
 #include "platform/unix_signals.h"
 #include "protocol/traced_winsock.h"
@@ -80,6 +81,7 @@ public:
 private:
     void listenToTheSystem();
     void followDesktop();
+    void speakChosenLanguage();
     void endSession(QSessionManager &session);
     /// Ends the program without anybody there to answer questions.
     void end(UnloadMode mode);
@@ -91,6 +93,7 @@ private:
     bool m_ending = false;
     std::optional<QString> m_wantedAddress;
     DropCounts m_drops;
+    Translations m_translations; ///< before what may tell of a trouble while it is made
     Common m_common;
     SqliteSettingsStore m_store;
     NextStartFile m_nextStart;

@@ -77,7 +77,8 @@ struct Common {
     QString avatarHead;    ///< empty: no avatar
     QByteArray avatarBody; ///< 7500 bytes, or empty
     std::uint16_t udpPort = 5549;
-    QString ownCard; ///< the network card whose address is the own one; empty: as the system chooses
+    QString ownCard;  ///< the network card whose address is the own one; empty: as the system chooses
+    QString language; ///< of programLanguages; empty: the desktop's
     WindowPlace mainPlace;
     QStringList recentEmoji; ///< used lately, the latest first
     SpellingChoice spelling;

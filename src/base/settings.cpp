@@ -3,6 +3,7 @@
 #include "base/avatar.h"
 
 #include "base/limits.h"
+#include "base/program_languages.h"
 #include "base/remote_text.h"
 
 #include <QCoreApplication>
@@ -183,6 +184,7 @@ LoadedSettings loadSettings(const SettingsStore &store, Common &common)
     common.logFont.face = read.text("StandardFontFace");
     common.logFont.style = read.text("StandardFontStyle");
     common.ownCard = read.text("OwnNetworkCard");
+    common.language = knownLanguage(read.text("Language"));
     common.recentEmoji = emojiOf(read.text("RecentEmoji"));
     common.spelling.language = read.text("SpellingLanguage");
     common.spelling.words = ownWords(read.text("SpellingWords"));
@@ -215,6 +217,7 @@ void saveSettings(SettingsSink &store, const Common &common, const QStringList &
     write("StandardFontFace", common.logFont.face);
     write("StandardFontStyle", common.logFont.style);
     write("OwnNetworkCard", common.ownCard);
+    write("Language", common.language);
     write("RecentEmoji", common.recentEmoji.join(u' '));
     write("SpellingLanguage", common.spelling.language);
     write("SpellingWords", common.spelling.words.join(u' '));

@@ -67,6 +67,7 @@ inline constexpr std::array settingKeys = {
                "addresses of contacts with whom nothing is kept, between blanks"},
     SettingKey{"Options", "FilesExplained", SettingType::flag, "0",
                "the user has been told that files are not encrypted"},
+    SettingKey{"Options", "Language", SettingType::text, "", "language of the program, empty: the desktop's"},
     SettingKey{"Options", "SpellingLanguage", SettingType::text, "",
                "name of the dictionary for what is written, empty: of the desktop's language, off: none"},
     SettingKey{"Options", "SpellingWords", SettingType::text, "", "words added to every dictionary, between blanks"},

@@ -91,7 +91,6 @@ void frmConference::buildControls()
 void frmConference::buildParticipants()
 {
     m_listSide = new QWidget(this);
-    m_listSide->setFixedWidth(pixels(listWidth));
     partecipanti = named(new QTreeView(m_listSide), "partecipanti");
     partecipanti->setAccessibleName(tr("Participants"));
     partecipanti->setRootIsDecorated(false);
@@ -108,6 +107,8 @@ void frmConference::buildParticipants()
     partecipanti->header()->setStretchLastSection(true);
     refreshlistbtn = named(new QPushButton(tr("Refresh list"), m_listSide), "refreshlistbtn");
     kickuserbtn = named(new QPushButton(tr("Kick user"), m_listSide), "kickuserbtn");
+    m_listSide->setFixedWidth(
+        qMax(pixels(listWidth), qMax(refreshlistbtn->sizeHint().width(), kickuserbtn->sizeHint().width())));
     const bool hosted = m_conference->isHostedHere();
     refreshlistbtn->setEnabled(!hosted);
     refreshlistbtn->setVisible(!hosted);

@@ -273,7 +273,7 @@ void SpellingMarks::addWordEntries(QMenu &menu, const QTextCursor &word)
         add("mnuNoSuggestion", tr("(suggestions take longer)"))->setEnabled(false);
     else if (suggestions->isEmpty())
         add("mnuNoSuggestion", tr("(no suggestion)"))->setEnabled(false);
-    connect(add("mnuAddToDictionary", tr("A&dd to dictionary")), &QAction::triggered, this,
+    connect(add("mnuAddToDictionary", tr("Add to dictionary")), &QAction::triggered, this,
             [this, text = word.selectedText()] { m_spelling.addWord(text); });
     menu.insertSeparator(usual);
 }
@@ -284,7 +284,7 @@ void SpellingMarks::addLanguages(QMenu &menu)
     if (languages.empty())
         return;
     menu.addSeparator();
-    auto *const submenu = named(menu.addMenu(tr("S&pelling")), "mnuSpelling");
+    auto *const submenu = named(menu.addMenu(tr("Spelling")), "mnuSpelling");
     submenu->setToolTipsVisible(true);
     auto *const group = new QActionGroup(submenu);
     const auto add = [&](const QString &caption, const QString &choice, const QString &language) {

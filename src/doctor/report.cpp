@@ -1,11 +1,11 @@
 #include "doctor/report.h"
 
 #include "base/remote_text.h"
+#include "doctor/doctor.h"
 #include "protocol/address_text.h"
 #include "protocol/datagram.h"
 #include "protocol/wire_text.h"
 
-#include <QCoreApplication>
 #include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -15,11 +15,6 @@ namespace nimb
 {
 namespace
 {
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("Doctor", text);
-}
 
 /// What people wrote, which is nobody's business when a network is looked at.
 bool holdsWords(const wire::Datagram &datagram)
@@ -39,15 +34,15 @@ bool holdsPicture(const wire::Datagram &datagram)
 QString kindOf(const wire::Datagram &datagram, std::string_view bytes)
 {
     if (std::holds_alternative<wire::PrivateMessage>(datagram))
-        return translated("private message");
+        return Doctor::tr("private message");
     if (std::holds_alternative<wire::ConferenceMessage>(datagram))
-        return translated("conference message");
+        return Doctor::tr("conference message");
     if (std::holds_alternative<wire::Garbage>(datagram))
-        return translated("no command");
+        return Doctor::tr("no command");
     if (std::holds_alternative<wire::Unsupported>(datagram))
-        return translated("unknown command");
+        return Doctor::tr("unknown command");
     if (std::holds_alternative<wire::Incomplete>(datagram))
-        return translated("incomplete");
+        return Doctor::tr("incomplete");
     return remoteName(fromWire(bytes.substr(0, bytes.find(' '))));
 }
 
@@ -55,15 +50,15 @@ QString wordFor(Verdict verdict)
 {
     switch (verdict) {
     case Verdict::underWay:
-        return translated("[...]");
+        return Doctor::tr("[...]");
     case Verdict::fine:
-        return translated("[fine]");
+        return Doctor::tr("[fine]");
     case Verdict::doubtful:
-        return translated("[doubtful]");
+        return Doctor::tr("[doubtful]");
     case Verdict::wrong:
         break;
     }
-    return translated("[WRONG]");
+    return Doctor::tr("[WRONG]");
 }
 
 } // namespace
@@ -75,7 +70,7 @@ TraceLine traceLine(const TracedDatagram &datagram, bool withTexts)
     const bool shown = !holdsPicture(read) && (withTexts || !holdsWords(read));
     return {
         .time = QDateTime::fromMSecsSinceEpoch(sinceEpoch.count()).toString(QStringLiteral("HH:mm:ss.zzz")),
-        .direction = datagram.direction == TracedDatagram::Direction::in ? translated("in") : translated("out"),
+        .direction = datagram.direction == TracedDatagram::Direction::in ? Doctor::tr("in") : Doctor::tr("out"),
         .address = addressText(datagram.peer),
         .size = QString::number(datagram.size),
         .kind = kindOf(read, datagram.beginning),
@@ -97,9 +92,9 @@ QString findingsText(const std::vector<Finding> &findings)
 QString reportText(const std::vector<Finding> &findings, const QString &drops, const std::vector<TraceLine> &datagrams)
 {
     QString text = findingsText(findings);
-    text += u'\n' + translated("Dropped since the start:") + u'\n';
-    text += (drops.isEmpty() ? translated("nothing") : drops) + u'\n';
-    text += u'\n' + translated("The latest datagrams:") + u'\n';
+    text += u'\n' + Doctor::tr("Dropped since the start:") + u'\n';
+    text += (drops.isEmpty() ? Doctor::tr("nothing") : drops) + u'\n';
+    text += u'\n' + Doctor::tr("The latest datagrams:") + u'\n';
     for (const TraceLine &line : datagrams) {
         text += QStringList{line.time, line.direction, line.address, line.size, line.kind, line.text}
                     .join(u'\t')

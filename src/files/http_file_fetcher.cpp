@@ -51,11 +51,6 @@ bool isFullDisk(int error)
     return error == ENOSPC;
 }
 
-QString sentence(const char *text)
-{
-    return QCoreApplication::translate("HttpFileFetcher", text);
-}
-
 /// One connection. Every wait ends soon after the fetch is stopped.
 class FileConnection
 {
@@ -136,6 +131,8 @@ private:
 /// What one thread does.
 class HttpFileFetcher::Fetch
 {
+    Q_DECLARE_TR_FUNCTIONS(HttpFileFetcher)
+
 public:
     using Tell = std::function<void(const FetchedBytes &)>;
 
@@ -161,8 +158,6 @@ public:
 
 private:
     using Trouble = std::optional<QString>;
-
-    static QString tr(const char *text) { return sentence(text); }
 
     Trouble fetchAll()
     {

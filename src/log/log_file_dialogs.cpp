@@ -24,7 +24,8 @@ QString titleOf(const RichTextLogEdit &log)
 QString fileNameOf(const QString &title)
 {
     static const QRegularExpression forbidden(QStringLiteral("[/\\\\:*?\"<>|\\x{0}-\\x{1f}]+"));
-    QString name = title.section(QLatin1String(" - NIMB-Chat"), 0, 0).left(100);
+    static const QRegularExpression program(QStringLiteral(" [-–—] NIMB-Chat.*$"));
+    QString name = QString(title).remove(program).left(100);
     name.replace(forbidden, QStringLiteral("-"));
     return name.trimmed() + QLatin1String(".txt");
 }

@@ -5,6 +5,7 @@
 #include "main_window/accessible_contacts.h"
 #include "main_window/contact_delegate.h"
 #include "main_window/contact_filter.h"
+#include "widgets/folded_caption.h"
 #include "widgets/form_layout.h"
 #include "widgets/pictures.h"
 
@@ -241,15 +242,14 @@ void ContactView::buildInvitation()
         = new QLabel(tr("Nobody is in your list yet. One click asks everybody on your network."), m_invitation);
     sentence->setWordWrap(true);
     sentence->setAlignment(Qt::AlignCenter);
-    auto *const button
-        = new QPushButton(namedPicture(QStringLiteral("search")), tr("Find everybody here"), m_invitation);
-    button->setObjectName(QStringLiteral("findEverybodyBtn"));
+    m_everybody = new QPushButton(namedPicture(QStringLiteral("search")), tr("Find everybody here"), m_invitation);
+    m_everybody->setObjectName(QStringLiteral("findEverybodyBtn"));
     auto *const layout = new QVBoxLayout(m_invitation);
     layout->addStretch();
     layout->addWidget(sentence);
-    layout->addWidget(button, 0, Qt::AlignHCenter);
+    layout->addWidget(m_everybody, 0, Qt::AlignHCenter);
     layout->addStretch();
-    connect(button, &QPushButton::clicked, this, &ContactView::everybodyWanted);
+    connect(m_everybody, &QPushButton::clicked, this, &ContactView::everybodyWanted);
 }
 
 void ContactView::setModel(QAbstractItemModel *model)
@@ -505,6 +505,8 @@ void ContactView::placeInvitation()
         setFocus();
         selectionModel()->clear(); // nobody has been chosen yet
     }
+    const QMargins margins = m_invitation->layout()->contentsMargins();
+    showCaption(*m_everybody, tr("Find everybody here"), viewport()->width() - margins.left() - margins.right());
     m_invitation->setGeometry(viewport()->rect());
     m_invitation->setVisible(isEmpty);
 }

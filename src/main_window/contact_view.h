@@ -5,6 +5,7 @@
 #include <QTreeView>
 
 class QLabel;
+class QPushButton;
 
 namespace nimb
 {
@@ -127,6 +128,7 @@ private:
     RoomyHeader *m_header;
     QWidget *m_scrollBarRoom;
     QWidget *m_invitation;
+    QPushButton *m_everybody = nullptr;
     ContactFilter *m_filter; ///< beside the view: inside it the scroll bar would cover it
     QWidget *m_nobodyPart;
     QLabel *m_nobody;

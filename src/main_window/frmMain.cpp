@@ -93,7 +93,8 @@ void frmMain::fitFonts()
         const int row = RescanBtn->sizeHint().width() + buzzmute->sizeHint().width() + ListDetails->sizeHint().width();
         const int replyRow = AutoReplyOn->sizeHint().width() + Autoreplybtn->sizeHint().width();
         const bool wide = qMax(row + 2 * spacing, replyRow + spacing) > narrowInnerWidth
-            || TabStrip1->sizeHint().width() > narrowInnerWidth;
+            || TabStrip1->sizeHint().width() > narrowInnerWidth
+            || menuBar()->sizeHint().width() > pixels(main_layout::widthWithoutLog);
         return !wide && RescanBtn->fontMetrics().height() + 4 <= highestRow;
     };
     QFont font = this->font();

@@ -1,5 +1,6 @@
 #include "notify/frmNotify.h"
 
+#include "widgets/elided_label.h"
 #include "widgets/form_layout.h"
 #include "widgets/picture_delegate.h"
 #include "widgets/picture_label.h"
@@ -8,7 +9,6 @@
 
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QTreeView>
@@ -78,8 +78,8 @@ frmNotify::~frmNotify()
 void frmNotify::buildControls()
 {
     auto *const picture = new PictureLabel(windowIcon(), PictureDelegate::pictureSide, this);
-    auto *const caption = new QLabel(windowTitle(), this);
-    caption->setTextFormat(Qt::PlainText);
+    auto *const caption = new ElidedLabel(this);
+    caption->setText(windowTitle());
     closebtn = named(new QPushButton(tr("hide"), this), "closebtn");
     closebtn->setFocusPolicy(Qt::NoFocus);
     auto *const top = new QHBoxLayout;

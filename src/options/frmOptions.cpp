@@ -1,5 +1,6 @@
 #include "options/frmOptions.h"
 
+#include "base/program_languages.h"
 #include "base/remote_text.h"
 #include "log/log_font.h"
 #include "options/font_dialog.h"
@@ -212,6 +213,15 @@ QGroupBox *frmOptions::makeProgram()
     network->addWidget(UDPPorttxt, 0, 1, Qt::AlignLeft);
     network->addWidget(addressCaption, 1, 0);
     network->addWidget(ownAddressCombo, 1, 1);
+    languageCombo = named(new QComboBox(group), "languageCombo");
+    nameCombo(*languageCombo, tr("Language"));
+    languageCombo->addItem(tr("the desktop's"), QString());
+    for (const ProgramLanguage &language : programLanguages)
+        languageCombo->addItem(QString::fromUtf16(language.name), QLatin1String(language.code));
+    auto *const languageCaption = new QLabel(tr("Language:"), group);
+    languageCaption->setBuddy(languageCombo);
+    network->addWidget(languageCaption, 2, 0);
+    network->addWidget(languageCombo, 2, 1);
     network->setColumnStretch(1, 1);
     column->addLayout(network);
     column->addWidget(note(tr("A change takes effect at the next start."), group));
@@ -336,6 +346,7 @@ void frmOptions::Form_Load()
     ownAddressCombo->setEnabled(m_values.mayChooseCard());
     if (!m_values.mayChooseCard())
         ownAddressCombo->setToolTip(tr("The environment variable NIMBCHAT_ADDRESS says it"));
+    languageCombo->setCurrentIndex(languageCombo->findData(now.language));
     m_font = now.font;
     showFont();
     avatarButton(now.avatar)->setChecked(true);
@@ -371,6 +382,7 @@ OptionControls frmOptions::controls() const
     std::ranges::sort(now.removedStates);
     now.UDPPorttxt = UDPPorttxt->text();
     now.ownCard = ownAddressCombo->currentData().toString();
+    now.language = languageCombo->currentData().toString();
     now.font = m_font;
     now.loaded = m_loadedPicture;
     for (const AvatarChoice choice : {AvatarChoice::none, AvatarChoice::still, AvatarChoice::polled}) {

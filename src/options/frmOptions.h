@@ -86,6 +86,7 @@ private:
     std::vector<ShownOption> m_options;
     QLineEdit *UDPPorttxt = nullptr;
     QComboBox *ownAddressCombo = nullptr;
+    QComboBox *languageCombo = nullptr;
     QLabel *m_fontSample = nullptr;
     QLineEdit *nicknameText = nullptr;
     QComboBox *statesCombo = nullptr;

@@ -30,6 +30,7 @@ OptionControls OptionValues::Form_Load() const
     controls.keepHistory = m_parts.common.history.keep;
     controls.UDPPorttxt = QString::number(m_parts.common.udpPort);
     controls.ownCard = m_parts.common.ownCard;
+    controls.language = m_parts.common.language;
     controls.font = m_parts.common.logFont;
     controls.avatar = m_parts.common.avatarHead.isEmpty() ? AvatarChoice::none : AvatarChoice::still;
     if (const std::optional<PolledPicture> polled = m_parts.ownAvatar.source()) {
@@ -79,6 +80,7 @@ std::optional<QString> OptionValues::CmdOK_Click(const OptionControls &controls)
     m_parts.common.options = controls.options;
     m_parts.common.udpPort = *port;
     m_parts.common.ownCard = controls.ownCard;
+    m_parts.common.language = controls.language;
     m_parts.common.logFont = controls.font;
     takeAvatar(controls);
     // From the last one on, for those behind a removed one move up.

@@ -27,7 +27,8 @@ struct OptionControls {
     Options options;
     KeepHistory keepHistory = KeepHistory::notAsked;
     QString UDPPorttxt;
-    QString ownCard; ///< empty: automatic
+    QString ownCard;  ///< empty: automatic
+    QString language; ///< of programLanguages; empty: the desktop's
     LogFont font;
     AvatarChoice avatar = AvatarChoice::none;
     QByteArray loaded; ///< a picture that was loaded in this dialog, avatarBytes bytes, or none

@@ -5,7 +5,8 @@ namespace nimb
 
 QString Invite::Form_Load(const QString &selectedAddress)
 {
-    QString standardText = tr("%1 wants you to join him in NIMB-Chat").arg(m_common.ownNickname);
+    // Goes over the wire, to a computer whose language nobody knows.
+    QString standardText = QStringLiteral("%1 wants you to join him in NIMB-Chat").arg(m_common.ownNickname);
     if (const Contact *const contact = m_contacts.find(selectedAddress)) {
         m_target = {contact->workstation, contact->nickname};
     } else {

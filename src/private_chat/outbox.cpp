@@ -56,7 +56,8 @@ bool fits(const QString &then, const QString &now)
 
 QString writtenAt(const QDateTime &time)
 {
-    return Outbox::tr(" (written %1)").arg(QLocale::c().toString(time, QStringLiteral("ddd HH:mm")));
+    // Goes over the wire, so it is the same in every language.
+    return QStringLiteral(" (written %1)").arg(QLocale::c().toString(time, QStringLiteral("ddd HH:mm")));
 }
 
 Outbox::Outbox(Parts parts)

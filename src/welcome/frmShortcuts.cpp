@@ -26,37 +26,37 @@ struct ShortcutGroup {
 };
 
 constexpr std::array everywhereShortcuts{
-    Shortcut{"F1", QT_TRANSLATE_NOOP("frmShortcuts", "Open the manual at the page of the window")},
+    Shortcut{"F1", QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Open the manual at the page of the window")},
 };
 constexpr std::array mainShortcuts{
-    Shortcut{"Ctrl+K", QT_TRANSLATE_NOOP("frmShortcuts", "Find a contact; typing in the list does the same")},
-    Shortcut{"Ctrl+H", QT_TRANSLATE_NOOP("frmShortcuts", "What was kept of conversations")},
-    Shortcut{"Enter", QT_TRANSLATE_NOOP("frmShortcuts", "Open the private window of the selected contact")},
-    Shortcut{"Del", QT_TRANSLATE_NOOP("frmShortcuts", "Remove the selected contacts, after a question")},
-    Shortcut{"Esc", QT_TRANSLATE_NOOP("frmShortcuts", "Leave the search for a contact")},
+    Shortcut{"Ctrl+K", QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Find a contact; typing in the list does the same")},
+    Shortcut{"Ctrl+H", QT_TRANSLATE_NOOP("nimb::frmShortcuts", "What was kept of conversations")},
+    Shortcut{"Enter", QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Open the private window of the selected contact")},
+    Shortcut{"Del", QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Remove the selected contacts, after a question")},
+    Shortcut{"Esc", QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Leave the search for a contact")},
 };
 constexpr std::array conversationShortcuts{
-    Shortcut{"Enter", QT_TRANSLATE_NOOP("frmShortcuts", "Send the message")},
-    Shortcut{"Shift+Enter", QT_TRANSLATE_NOOP("frmShortcuts", "Begin another line")},
-    Shortcut{"Up", QT_TRANSLATE_NOOP("frmShortcuts", "In an empty box: bring back the last message")},
-    Shortcut{"Ctrl+.", QT_TRANSLATE_NOOP("frmShortcuts", "Choose an emoji")},
-    Shortcut{"Ctrl+G", QT_TRANSLATE_NOOP("frmShortcuts", "Buzz (private windows)")},
-    Shortcut{"Ctrl+W", QT_TRANSLATE_NOOP("frmShortcuts", "Close the window")},
-    Shortcut{"Esc", QT_TRANSLATE_NOOP("frmShortcuts", "Leave the search, the emoticons or the emoji")},
+    Shortcut{"Enter", QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Send the message")},
+    Shortcut{"Shift+Enter", QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Begin another line")},
+    Shortcut{"Up", QT_TRANSLATE_NOOP("nimb::frmShortcuts", "In an empty box: bring back the last message")},
+    Shortcut{"Ctrl+.", QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Choose an emoji")},
+    Shortcut{"Ctrl+G", QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Buzz (private windows)")},
+    Shortcut{"Ctrl+W", QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Close the window")},
+    Shortcut{"Esc", QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Leave the search, the emoticons or the emoji")},
 };
 constexpr std::array logShortcuts{
-    Shortcut{"Ctrl+F", QT_TRANSLATE_NOOP("frmShortcuts", "Search in the log")},
-    Shortcut{"Ctrl+C", QT_TRANSLATE_NOOP("frmShortcuts", "Copy what is selected")},
-    Shortcut{"Ctrl++", QT_TRANSLATE_NOOP("frmShortcuts", "Larger letters")},
-    Shortcut{"Ctrl+-", QT_TRANSLATE_NOOP("frmShortcuts", "Smaller letters")},
-    Shortcut{"Ctrl+0", QT_TRANSLATE_NOOP("frmShortcuts", "Letters of their own size")},
+    Shortcut{"Ctrl+F", QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Search in the log")},
+    Shortcut{"Ctrl+C", QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Copy what is selected")},
+    Shortcut{"Ctrl++", QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Larger letters")},
+    Shortcut{"Ctrl+-", QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Smaller letters")},
+    Shortcut{"Ctrl+0", QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Letters of their own size")},
 };
 
 const std::array shortcutGroups{
-    ShortcutGroup{QT_TRANSLATE_NOOP("frmShortcuts", "Every window"), everywhereShortcuts},
-    ShortcutGroup{QT_TRANSLATE_NOOP("frmShortcuts", "Main window"), mainShortcuts},
-    ShortcutGroup{QT_TRANSLATE_NOOP("frmShortcuts", "Conversations"), conversationShortcuts},
-    ShortcutGroup{QT_TRANSLATE_NOOP("frmShortcuts", "Logs"), logShortcuts},
+    ShortcutGroup{QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Every window"), everywhereShortcuts},
+    ShortcutGroup{QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Main window"), mainShortcuts},
+    ShortcutGroup{QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Conversations"), conversationShortcuts},
+    ShortcutGroup{QT_TRANSLATE_NOOP("nimb::frmShortcuts", "Logs"), logShortcuts},
 };
 
 QTreeWidget *makeList(QWidget *parent)

@@ -1,5 +1,6 @@
 #include "widgets/empty_hint.h"
 
+#include "widgets/folded_caption.h"
 #include "widgets/form_layout.h"
 #include "widgets/muted_text.h"
 
@@ -38,7 +39,17 @@ QPushButton *EmptyHint::addButton(const char *name, const QString &caption)
     auto *const button = named(new QPushButton(caption, this), name);
     auto *const column = qobject_cast<QVBoxLayout *>(layout());
     column->insertWidget(column->indexOf(m_sentence) + 1, button, 0, Qt::AlignHCenter);
+    m_buttons.push_back({button, caption});
+    fitButtons();
     return button;
+}
+
+void EmptyHint::fitButtons()
+{
+    const QMargins margins = layout()->contentsMargins();
+    const int room = m_list.viewport()->width() - margins.left() - margins.right();
+    for (const auto &[button, caption] : m_buttons)
+        showCaption(*button, caption, room);
 }
 
 void EmptyHint::followRows()
@@ -53,8 +64,10 @@ void EmptyHint::followRows()
 
 bool EmptyHint::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == parent() && event->type() == QEvent::Resize)
+    if (watched == parent() && event->type() == QEvent::Resize) {
+        fitButtons();
         setGeometry(m_list.viewport()->rect());
+    }
     return QWidget::eventFilter(watched, event);
 }
 

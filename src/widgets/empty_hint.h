@@ -3,6 +3,9 @@
 
 #include <QWidget>
 
+#include <utility>
+#include <vector>
+
 class QAbstractItemView;
 class QLabel;
 class QPushButton;
@@ -20,7 +23,7 @@ public:
     /// name: of the sentence.
     EmptyHint(QAbstractItemView &list, const char *name, const QString &sentence);
 
-    /// For what the sentence speaks of; below it.
+    /// For what the sentence speaks of; below it, its caption on two lines where one is too long.
     QPushButton *addButton(const char *name, const QString &caption);
 
 protected:
@@ -28,9 +31,11 @@ protected:
 
 private:
     void followRows();
+    void fitButtons();
 
     QAbstractItemView &m_list;
     QLabel *m_sentence;
+    std::vector<std::pair<QPushButton *, QString>> m_buttons;
 };
 
 } // namespace nimb

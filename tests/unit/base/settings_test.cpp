@@ -78,8 +78,9 @@ TEST(Settings, EveryKeyIsThereOnceInItsSection)
                 ElementsAre("ShowStatusOnPrivate", "BuzzLocal", "BuzzRemote", "PrivateBehaviour", "DontDestroyWindow",
                             "NotifyWin", "LiveType", "CloseButtonDoesMinimize", "NotifyMessages", "NotifyMessageText",
                             "SoundMessage", "SoundOnline", "SoundInvitation", "RecentEmoji", "TipOTDay", "TipOTDayNum",
-                            "KeepHistory", "HistoryLeftOut", "FilesExplained", "SpellingLanguage", "SpellingWords"));
-    EXPECT_EQ(keys.size(), 41u);
+                            "KeepHistory", "HistoryLeftOut", "FilesExplained", "Language", "SpellingLanguage",
+                            "SpellingWords"));
+    EXPECT_EQ(keys.size(), 42u);
 }
 
 TEST(Settings, SavingKeepsItsOrder)
@@ -96,7 +97,7 @@ TEST(Settings, SavingKeepsItsOrder)
                             "Settings/AutoReplyonBusyActive", "Settings/AutoReplyonAwayActive",
                             "Settings/AutoReplyonBusyText", "Settings/AutoReplyonawayText", "Settings/StandardFontSize",
                             "Settings/StandardFontFace", "Settings/StandardFontStyle", "Settings/OwnNetworkCard",
-                            "Options/RecentEmoji", "Options/SpellingLanguage", "Options/SpellingWords",
+                            "Options/Language", "Options/RecentEmoji", "Options/SpellingLanguage", "Options/SpellingWords",
                             "Options/KeepHistory", "Options/HistoryLeftOut", "Options/FilesExplained",
                             "Settings/PersonalizedState1", "Settings/PersonalizedState2", "Settings/PersonalizedState3",
                             "Settings/PersonalizedState4", "Settings/PersonalizedState5", "Settings/PersonalizedState6",
@@ -118,6 +119,22 @@ TEST(Settings, RecentEmojiAreStoredWithBlanksBetweenAndReadNoLongerThanTheyAre)
     loadSettings(store, next);
     EXPECT_EQ(next.recentEmoji.size(), 24);
     EXPECT_EQ(next.recentEmoji.front(), QStringLiteral("😀"));
+}
+
+TEST(Settings, ALanguageThatTheProgramDoesNotSpeakIsTheDesktops)
+{
+    Common common;
+    common.language = QStringLiteral("pt_BR");
+    MemoryStore store;
+    saveSettings(store, common, {});
+    store.save();
+    EXPECT_EQ(store.value("Options", "Language"), "pt_BR");
+    Common next;
+    loadSettings(store, next);
+    EXPECT_EQ(next.language, QStringLiteral("pt_BR"));
+    store.put("Options", "Language", QStringLiteral("tlh"));
+    loadSettings(store, next);
+    EXPECT_EQ(next.language, QString());
 }
 
 TEST(Settings, WhatIsSaidOfTheHistoryIsReadAsItWasSaved)
