@@ -102,6 +102,25 @@ TEST_F(FrmPrivate, ABandSaysWhatDoesNotArrive)
     EXPECT_FALSE(band.isVisible());
 }
 
+TEST_F(FrmPrivate, ANameFromTheRightTurnsNoSentenceOfItsHead)
+{
+    windows.arrive("10.0.0.2", "!ONLINE 10.0.0.2 \u0645\u0643\u062A\u0628 \u05D3\u05E0\u05D4");
+    EXPECT_EQ(control<QLabel>("peerDetails").text(),
+              QStringLiteral("Online · \u2068\u0645\u0643\u062A\u0628\u2069 · 10.0.0.2"));
+    windows.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 \u0645\u0643\u062A\u0628 \u05D3\u05E0\u05D4");
+    EXPECT_EQ(control<QLabel>("peerBand").text(),
+              QStringLiteral("\u2068\u05D3\u05E0\u05D4\u2069 is offline: what you write does not arrive"));
+}
+
+TEST_F(FrmPrivate, InALayoutFromTheRightALatinNameIsIsolatedToo)
+{
+    qApp->setLayoutDirection(Qt::RightToLeft);
+    windows.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");
+    const QString said = control<QLabel>("peerBand").text();
+    qApp->setLayoutDirection(Qt::LeftToRight);
+    EXPECT_EQ(said, QStringLiteral("\u2068Ann\u2069 is offline: what you write does not arrive"));
+}
+
 TEST_F(FrmPrivate, TheBandOffersToSendLaterWhatWasWrittenMeanwhile)
 {
     auto &band = control<QLabel>("peerBand");
