@@ -601,7 +601,8 @@ std::vector<UnreadConversation> HistoryFile::listUnread()
     Statement get(
         m_database.get(),
         "SELECT c.kind, c.address, c.begun, c.name, c.read_to, "
-        "(SELECT count(*) FROM messages m WHERE m.conversation = c.id AND m.id > c.read_to AND m.own = 0) AS n "
+        "(SELECT count(*) FROM messages m WHERE m.conversation = c.id AND m.id > c.read_to AND m.own = 0) AS n, "
+        "(SELECT m.time FROM messages m WHERE m.conversation = c.id AND m.own = 0 ORDER BY m.id DESC LIMIT 1) "
         "FROM conversations c WHERE c.read_to IS NOT NULL AND n > 0 ORDER BY c.id");
     std::vector<UnreadConversation> all;
     while (get.next()) {
@@ -612,7 +613,8 @@ std::vector<UnreadConversation> HistoryFile::listUnread()
                           .begun = isConference ? timeOf(get.number(2)) : QDateTime(),
                           .name = get.text(3)},
                        .readTo = get.number(4),
-                       .messages = static_cast<int>(get.number(5))});
+                       .messages = static_cast<int>(get.number(5)),
+                       .last = timeOf(get.number(6))});
     }
     return all;
 }

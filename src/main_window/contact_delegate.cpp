@@ -237,7 +237,8 @@ void ContactDelegate::paintRow(QPainter &painter, const QStyleOptionViewItem &ce
         room.paintBadge(QString::number(unread));
     const QString address = addressBeside(contact);
     if (unread > 0) {
-        const QString time = shortTime(contact.data(ContactList::LastMessageRole).toDateTime());
+        const QDateTime last = contact.data(ContactList::LastMessageRole).toDateTime();
+        const QString time = last.isValid() ? timeOrDate(last, QDate::currentDate()) : QString();
         if (room.beside(time) - room.taken(address) >= qMin(nameWidth, room.letters(lettersOfShortestName)))
             room.paintRight(time);
     }

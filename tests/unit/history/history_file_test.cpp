@@ -441,8 +441,9 @@ TEST_F(HistoryFileTest, RemembersWhereReadingStopped)
         history.leaveUnread(ann); // where reading has stopped already
         KeptMessage own = message(QStringLiteral("mine"));
         own.isOwn = true;
-        write(history, ann, own);
+        own.time = day(22);
         write(history, {QStringLiteral("three")});
+        write(history, ann, own);
         write(history, ben, message(QStringLiteral("of another")));
     }
     HistoryFile history(folder);
@@ -450,6 +451,7 @@ TEST_F(HistoryFileTest, RemembersWhereReadingStopped)
     EXPECT_EQ(history.listUnread()[0].conversation, ann);
     EXPECT_EQ(history.listUnread()[0].readTo, 1);
     EXPECT_EQ(history.listUnread()[0].messages, 3) << "own ones are none";
+    EXPECT_EQ(history.listUnread()[0].last, day(21));
     history.setRead(ann, 2);
     EXPECT_EQ(history.listUnread()[0].readTo, 2);
     EXPECT_EQ(history.listUnread()[0].messages, 2);
