@@ -143,7 +143,7 @@ bool Conversation::showEarlier()
     };
     int most = m_earliest ? limits::historyPage : limits::historyShown;
     if (m_keptNew)
-        most += qMin(m_keptNew->messages, limits::historyPage);
+        most += qMin(m_keptNew->messages, limits::historyOfUnread);
     history().history().findIn(keptAs(), {.before = m_earliest, .most = most}, show);
     return true;
 }
