@@ -380,6 +380,33 @@ TEST_F(HistoryFileTest, WhatCanBeReadOnBothSidesOfADamagedPageIsTakenOver)
     EXPECT_EQ(history.list().front().messages, static_cast<int>(left.size()));
 }
 
+TEST_F(HistoryFileTest, WhatWasUnreadIsSoAfterARescue)
+{
+    {
+        HistoryFile history(folder);
+        write(history, ben, message(QStringLiteral("all of it was read")));
+        QStringList all;
+        for (int i = 1000; i < 1900; ++i)
+            all += QStringLiteral("message number %1").arg(i);
+        write(history, all);
+        history.leaveUnread(ann);
+        KeptMessage own = message(QStringLiteral("mine"));
+        own.isOwn = true;
+        write(history, ann, own);
+        write(history, {QStringLiteral("new"), QStringLiteral("newer")});
+    }
+    damagePageWith("message number 1450");
+
+    HistoryFile history(folder);
+    history.setAside();
+    ASSERT_EQ(history.listUnread().size(), 1u);
+    const UnreadConversation unread = history.listUnread().front();
+    EXPECT_EQ(unread.conversation, ann);
+    EXPECT_EQ(unread.messages, 2);
+    const std::vector<StoredMessage> behind = history.find({.after = unread.readTo, .most = 10});
+    EXPECT_THAT(texts(behind), ElementsAre(QStringLiteral("mine"), QStringLiteral("new"), QStringLiteral("newer")));
+}
+
 TEST_F(HistoryFileTest, ErasingLeavesNothingOfWhatWasSetAside)
 {
     {
