@@ -36,8 +36,10 @@ QString ContactCommands::toolTip(const QString &ip) const
     return tr("%1 (messages that wait to be read: %2)").arg(line, QString::number(contact->waitingMessages));
 }
 
-QString ContactCommands::details(const QString &ip) const
+QString ContactCommands::details(const QString &ip, qsizetype selected) const
 {
+    if (selected > 1)
+        return tr("%1 contacts selected").arg(selected);
     const Contact *contact = m_contacts.find(ip);
     return contact
         ? tr("%1 on %2 (%3)").arg(isolated(contact->nickname), isolated(contact->workstation), contact->ip.text())
