@@ -137,11 +137,10 @@ PeerHeader::PeerHeader(QWidget *parent) : QWidget(parent)
 
 QWidget *PeerHeader::makeBandRow()
 {
-    m_bandRow = new QWidget(this);
-    m_bandRow->setAutoFillBackground(true);
-    m_bandRow->setBackgroundRole(QPalette::ToolTipBase);
+    auto *const strip = new BandStrip(this);
+    m_bandRow = strip;
     m_bandRow->hide();
-    peerBand = named(makeBand(m_bandRow), "peerBand");
+    peerBand = named(makeBandText(*strip), "peerBand");
     peerBand->setTextFormat(Qt::PlainText);
     sendLaterBtn = named(new QPushButton(m_bandRow), "sendLaterBtn");
     connect(sendLaterBtn, &QPushButton::clicked, this, &PeerHeader::sendLaterPressed);
