@@ -71,4 +71,16 @@ QLabel *makeBandWithLink(QWidget *parent)
     return band;
 }
 
+QString bandAnswer(const QString &name, const QString &words)
+{
+    QString together = words;
+    together.replace(QLatin1Char(' '), QChar(QChar::Nbsp));
+    return QStringLiteral("<a href=\"%1\">%2</a>").arg(name, together);
+}
+
+QString bandAnswers(const QStringList &answers)
+{
+    return answers.join(QChar(QChar::Nbsp) + QLatin1String("/ "));
+}
+
 } // namespace nimb

@@ -5,6 +5,7 @@
 #include "widgets/link_colours.h"
 
 #include <QLabel>
+#include <QStringList>
 
 namespace nimb
 {
@@ -37,5 +38,11 @@ QLabel *makeBandText(BandStrip &strip);
 
 /// The same for a text that holds a link and nothing that is not the program's own.
 QLabel *makeBandWithLink(QWidget *parent);
+
+/// An answer that a band offers: a link whose words stay on one line.
+QString bandAnswer(const QString &name, const QString &words);
+
+/// "this / that / no", broken only between two of them.
+QString bandAnswers(const QStringList &answers);
 
 } // namespace nimb
