@@ -459,9 +459,22 @@ void ConversationPane::Emoticbtn_Click(bool shown)
     // Of large letters on a small screen as many as there is room for.
     const int most = roomOnScreen(*window()).height() / 4;
     m_outtext->setMinimumHeight(shown ? qMin(linesBeside * m_outtext->heightOfLine() + frame, most) : 0);
-    if (shown)
+    if (shown) {
+        showRowsOfEmoji();
         m_formerSize->growOnce();
+    }
     Q_EMIT emoticonsToggled();
+}
+
+/// As many as the screen has room for beside everything else.
+void ConversationPane::showRowsOfEmoji()
+{
+    if (!m_emojiPicker)
+        return;
+    m_emojiPicker->setLeastRows(EmojiPicker::fewestRows);
+    layout()->activate(); // or the window would count with what was there before
+    const int room = roomOnScreen(*window()).height() - window()->layout()->totalMinimumSize().height();
+    m_emojiPicker->setLeastRows(m_emojiPicker->rowsWith(room));
 }
 
 void ConversationPane::showEmoji(bool shown)
