@@ -1,6 +1,7 @@
 #include "app/dialog_opener.h"
 
 #include "app/manual_opener.h"
+#include "base/isolated.h"
 #include "base/limits.h"
 #include "doctor/frmDoctor.h"
 #include "files/frmTransfers.h"
@@ -91,7 +92,7 @@ void DialogOpener::importContacts(const QString &path)
     if (file.error() != QFileDevice::NoError || bytes.size() > limits::contactFileBytes) {
         const bool isRead = file.error() == QFileDevice::NoError;
         const QString reason = isRead ? tr("it is too large for a list of contacts") : file.errorString();
-        m_services.prompts.tell(tr("%1 cannot be read: %2.").arg(name, reason), programTitle);
+        m_services.prompts.tell(tr("%1 cannot be read: %2.").arg(isolated(name), reason), programTitle);
         return;
     }
     ContactImport(m_engine.admission(), m_engine.contacts(), m_engine.search(), m_engine.log(), m_services.prompts)
@@ -112,7 +113,7 @@ void DialogOpener::exportContacts(const QString &path)
     const std::vector<ContactFile::Entry> entries = ContactFile::entriesOf(m_engine.contacts());
     const QByteArray bytes = ContactFile::write(entries);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
-        m_services.prompts.tell(tr("%1 cannot be written: %2.").arg(name, file.errorString()), programTitle);
+        m_services.prompts.tell(tr("%1 cannot be written: %2.").arg(isolated(name), file.errorString()), programTitle);
         return;
     }
     const auto others = m_engine.contacts().rowCount() - static_cast<qsizetype>(entries.size());

@@ -26,4 +26,10 @@ inline QString shortTime(const QDateTime &when)
     return when.time().toString(QStringLiteral("HH:mm"));
 }
 
+/// The same for a time of this day, else the date.
+inline QString timeOrDate(const QDateTime &when, const QDate &today)
+{
+    return when.date() == today ? shortTime(when) : shortDate(when);
+}
+
 } // namespace nimb

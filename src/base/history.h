@@ -57,6 +57,7 @@ struct UnreadConversation {
     KeptConversation conversation;
     std::int64_t readTo = 0; ///< number of a message, or 0
     int messages = 0;
+    QDateTime last{}; ///< time of the newest of them
 };
 
 /// Which messages are looked for; nothing restricts nothing.

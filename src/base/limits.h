@@ -37,6 +37,8 @@ constexpr std::size_t historyUndecided = 1000;
 /// Kept messages with which a conversation opens, and how many more come when its reader scrolls up.
 constexpr int historyShown = 50;
 constexpr int historyPage = 200;
+/// Of what an earlier run left unread, that are shown at once: further up they come as the reader comes to them.
+constexpr int historyOfUnread = 1000;
 /// Messages that wait until their receivers are there: they are stored as one value, and who writes more than that to
 /// people who are away sends mail.
 constexpr std::size_t outboxMessages = 200;

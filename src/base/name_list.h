@@ -1,6 +1,7 @@
 // Names in one line of a log.
 #pragma once
 
+#include "base/isolated.h"
 #include "base/limits.h"
 #include "base/remote_text.h"
 
@@ -16,7 +17,7 @@ inline QString nameList(const QStringList &names, qsizetype all)
 {
     QStringList shown;
     for (const QString &name : names.mid(0, limits::namesInLine))
-        shown.append(paintedName(name));
+        shown.append(isolated(paintedName(name)));
     if (const qsizetype more = all - shown.size(); more > 0)
         shown.append(QCoreApplication::translate("NameList", "%n more", nullptr, static_cast<int>(more)));
     return shown.join(QStringLiteral(", "));

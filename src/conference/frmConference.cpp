@@ -15,6 +15,7 @@
 #include "widgets/picture_delegate.h"
 #include "widgets/picture_label.h"
 #include "widgets/pictures.h"
+#include "widgets/screen_room.h"
 #include "widgets/twips.h"
 
 #include <QGroupBox>
@@ -62,7 +63,7 @@ frmConference::frmConference(Conference &conference, const ConversationTools &to
     setMinimumSize(pixels(leastWidth), pixels(leastHeight));
     buildControls();
     connectControls();
-    resize(pixels(leastWidth), 460);
+    resize(firstSize(*this, {pixels(leastWidth), 460}));
     Form_Resize();
 }
 

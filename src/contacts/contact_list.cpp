@@ -1,5 +1,6 @@
 #include "contacts/contact_list.h"
 
+#include "base/isolated.h"
 #include "base/limits.h"
 #include "base/look_alike.h"
 #include "base/own_presence.h"
@@ -91,7 +92,8 @@ QString wordsOf(const Contact &contact)
     if (contact.toBeSent == 0)
         return words;
     const QString waiting = ContactList::tr("%1 to be sent").arg(contact.toBeSent);
-    return words.isEmpty() ? waiting : ContactList::tr("%1, %2", "two things said of a contact").arg(words, waiting);
+    return words.isEmpty() ? waiting
+                           : ContactList::tr("%1, %2", "two things said of a contact").arg(isolated(words), waiting);
 }
 
 } // namespace
@@ -390,11 +392,11 @@ int ContactList::columnCount(const QModelIndex &parent) const
 QString ContactList::readOut(const Row &row) const
 {
     const Contact &contact = row.contact;
-    const QString name
-        = sharesName(row) ? QStringLiteral("%1 (%2)").arg(contact.nickname, contact.ip.text()) : contact.nickname;
+    const QString name = sharesName(row) ? QStringLiteral("%1 (%2)").arg(isolated(contact.nickname), contact.ip.text())
+                                         : isolated(contact.nickname);
     QStringList parts{name, presenceWord(contact.presence)};
     if (const QString words = ownWordsOrPresenceOf(contact); !words.isEmpty() && words != parts.back())
-        parts.append(words);
+        parts.append(isolated(words));
     if (contact.toBeSent > 0)
         parts.append(tr("%1 to be sent").arg(contact.toBeSent));
     if (contact.unread() > 0)

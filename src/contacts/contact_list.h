@@ -47,7 +47,7 @@ struct Contact {
     int waitingMessages = 0;    ///< that wait to be read, for it has no window
     int unreadInWindow = 0;     ///< messages in its window that nobody has seen; limits::unreadCounted at most
     int toBeSent = 0;           ///< messages that wait until it is there
-    QDateTime lastMessage{};    ///< when it wrote the last one in this run
+    QDateTime lastMessage{};    ///< when it wrote the last one, in this run or that nobody has read
     qint64 seenAt = 0;          ///< when it last said that it is there: ms since 1970; 0: not in this run
     std::optional<ContactAddress> shownBy{}; ///< the contact that stands for it on the screen; see SameMachine
 

@@ -1,5 +1,6 @@
 #include "contacts/contact_transfer.h"
 
+#include "base/isolated.h"
 #include "base/name_list.h"
 #include "protocol/send_datagram.h"
 #include "protocol/wire_text.h"
@@ -153,7 +154,8 @@ void ContactTransfer::tellSent(const QStringList &names) const
     const Contact *const receiver = m_contacts.find(m_destination);
     if (names.isEmpty() || !receiver)
         return;
-    m_log.note(tr("contacts sent to %1: %2").arg(paintedName(receiver->nickname), nameList(names, names.size())));
+    m_log.note(
+        tr("contacts sent to %1: %2").arg(isolated(paintedName(receiver->nickname)), nameList(names, names.size())));
 }
 
 } // namespace nimb

@@ -1,6 +1,7 @@
 #include "contacts/presence_receiver.h"
 
 #include "base/clock_text.h"
+#include "base/isolated.h"
 #include "base/remote_text.h"
 
 namespace nimb
@@ -76,7 +77,7 @@ void PresenceReceiver::cameOnline(Ipv4Address ip, const std::optional<PeerIdenti
     });
     const Contact &contact = *m_contacts.find(ip);
     if (!wasPresent)
-        notify({tr("%1 is online").arg(paintedName(contact.nickname)), Presence::online, ip});
+        notify({tr("%1 is online").arg(isolated(paintedName(contact.nickname))), Presence::online, ip});
     if (contact.nickname != shownName && !contact.formerNickname.isEmpty()) {
         // Who takes the name back that was blank for a while has changed it from what was shown last.
         const bool tookItBack = contact.nickname == contact.formerNickname;
@@ -96,7 +97,7 @@ void PresenceReceiver::wentOffline(Ipv4Address ip)
         contact.state.clear();
     });
     const Contact &contact = *m_contacts.find(ip);
-    notify({tr("%1 is offline").arg(paintedName(contact.nickname)), Presence::offline, ip});
+    notify({tr("%1 is offline").arg(isolated(paintedName(contact.nickname))), Presence::offline, ip});
     m_log.wentOffline(contact.nickname);
     tellPrivateWindow(contact, tr("%1 has gone offline").arg(contact.nickname));
 }

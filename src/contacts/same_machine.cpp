@@ -1,5 +1,6 @@
 #include "contacts/same_machine.h"
 
+#include "base/isolated.h"
 #include "base/limits.h"
 #include "base/remote_text.h"
 
@@ -73,8 +74,9 @@ void SameMachine::hide(Ipv4Address hidden, Ipv4Address shown)
         return;
     m_hidden.insert({hidden, shown});
     m_contacts.change(hidden, [shown](Contact &contact) { contact.shownBy = shown; });
-    m_log.note(tr("%1 answers from %2 and from %3 and is shown once")
-                   .arg(paintedName(m_contacts.find(shown)->nickname), addressText(shown), addressText(hidden)));
+    m_log.note(
+        tr("%1 answers from %2 and from %3 and is shown once")
+            .arg(isolated(paintedName(m_contacts.find(shown)->nickname)), addressText(shown), addressText(hidden)));
 }
 
 bool SameMachine::staysHidden(Ipv4Address hiddenAddress, Ipv4Address shownAddress) const

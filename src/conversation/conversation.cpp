@@ -28,7 +28,7 @@ void Conversation::Clearbtn_Click()
     ++m_cleared;
     m_waitsForEarlier = false;
     m_keptNew.reset();
-    if (m_hasUnread)
+    if (m_unread)
         seen(0);
     log.setSelFont(font);
     const QDateTime now = m_services.clock.now();
@@ -60,8 +60,7 @@ void Conversation::sendText(const QString &text)
 
 void Conversation::appendReceived(const Writer &writer, const QString &text)
 {
-    if (!m_hasUnread && !conversationView().isEndSeen()) {
-        m_hasUnread = true;
+    if (!m_unread && !conversationView().isEndSeen()) {
         m_unread = m_unreadKept = 0;
         conversationView().outtext().markNew();
         history().leftUnread(keptAs());
@@ -144,7 +143,7 @@ bool Conversation::showEarlier()
     };
     int most = m_earliest ? limits::historyPage : limits::historyShown;
     if (m_keptNew)
-        most += qMin(m_keptNew->messages, limits::historyPage);
+        most += qMin(m_keptNew->messages, limits::historyOfUnread);
     history().history().findIn(keptAs(), {.before = m_earliest, .most = most}, show);
     return true;
 }
@@ -169,7 +168,6 @@ QString Conversation::dateAndTime() const
 void Conversation::leaveUnread(const UnreadConversation &unread)
 {
     m_keptNew = unread;
-    m_hasUnread = true;
     m_unread = m_unreadKept = 0;
 }
 
@@ -177,21 +175,22 @@ void Conversation::seen(int unread)
 {
     if (m_keptNew)
         return; // it is not shown yet
-    m_unread = unread;
-    if (unread == 0 && std::exchange(m_hasUnread, false))
+    if (m_unread && unread > 0)
+        m_unread = unread;
+    else if (std::exchange(m_unread, std::nullopt))
         history().wasRead(keptAs(), 0);
     wasRead(unread);
 }
 
 void Conversation::turnedAway()
 {
-    if (m_hasUnread && std::exchange(m_unreadKept, m_unread) != m_unread)
-        history().wasRead(keptAs(), m_unread);
+    if (m_unread && std::exchange(m_unreadKept, *m_unread) != *m_unread)
+        history().wasRead(keptAs(), *m_unread);
 }
 
 void Conversation::closed(UnloadMode mode)
 {
-    if (mode == UnloadMode::closeBox && std::exchange(m_hasUnread, false))
+    if (mode == UnloadMode::closeBox && std::exchange(m_unread, std::nullopt))
         history().wasRead(keptAs(), 0);
     m_unloaded();
 }

@@ -54,7 +54,7 @@ public:
     /// The user has turned to something else: where he stopped reading is kept.
     void turnedAway();
     /// Something was written that nobody has seen.
-    bool hasUnread() const { return m_hasUnread; }
+    bool hasUnread() const { return m_unread.has_value(); }
 
     /// Offers files and folders to whoever takes part; each has a message of its own.
     void sendFiles(const QStringList &paths);
@@ -120,8 +120,7 @@ private:
     Services m_services;
     std::function<void()> m_unloaded;
     bool m_over = false;
-    bool m_hasUnread = false;
-    int m_unread = 0;                            ///< when something of it was read last
+    std::optional<int> m_unread;                 ///< messages, when some of them were read last; 0: none was yet
     int m_unreadKept = 0;                        ///< the same, as it is kept
     std::optional<UnreadConversation> m_keptNew; ///< until it is shown
     int m_lastNumber = 0;                        ///< of a message that was not just sent

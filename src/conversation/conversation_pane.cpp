@@ -143,8 +143,10 @@ QWidget *ConversationPane::makeHistoryBand()
     historyBand = named(makeBandWithLink(this), "historyBand");
     const QString sentence = tr("Conversations are not kept.");
     historyBand->setText(sentence
-                         + tr(" Keep them: <a href=\"year\">for a year</a> / <a href=\"ever\">for ever</a> / "
-                              "<a href=\"no\">no</a>"));
+                         + tr(" Keep them: %1", "answers that can be clicked")
+                               .arg(bandAnswers({bandAnswer(QStringLiteral("year"), tr("for a year")),
+                                                 bandAnswer(QStringLiteral("ever"), tr("for ever")),
+                                                 bandAnswer(QStringLiteral("no"), tr("no"))})));
     historyBand->setAccessibleName(sentence);
     return historyBand;
 }
@@ -254,7 +256,9 @@ void ConversationPane::offerPicture(const QImage &picture)
         return showFileTrouble(tr("The picture cannot be sent, for there is no room for it."));
     m_pastedPicture = path;
     const QString sentence = tr("A picture was pasted (%1 × %2).").arg(picture.width()).arg(picture.height());
-    fileBand->setText(sentence + tr(" <a href=\"send\">Send it</a> / <a href=\"no\">leave it</a>"));
+    fileBand->setText(sentence + QLatin1Char(' ')
+                      + bandAnswers({bandAnswer(QStringLiteral("send"), tr("Send it")),
+                                     bandAnswer(QStringLiteral("no"), tr("leave it"))}));
     fileBand->setAccessibleName(sentence);
     fileBand->show();
 }
@@ -455,9 +459,22 @@ void ConversationPane::Emoticbtn_Click(bool shown)
     // Of large letters on a small screen as many as there is room for.
     const int most = roomOnScreen(*window()).height() / 4;
     m_outtext->setMinimumHeight(shown ? qMin(linesBeside * m_outtext->heightOfLine() + frame, most) : 0);
-    if (shown)
+    if (shown) {
+        showRowsOfEmoji();
         m_formerSize->growOnce();
+    }
     Q_EMIT emoticonsToggled();
+}
+
+/// As many as the screen has room for beside everything else.
+void ConversationPane::showRowsOfEmoji()
+{
+    if (!m_emojiPicker)
+        return;
+    m_emojiPicker->setLeastRows(EmojiPicker::fewestRows);
+    layout()->activate(); // or the window would count with what was there before
+    const int room = roomOnScreen(*window()).height() - window()->layout()->totalMinimumSize().height();
+    m_emojiPicker->setLeastRows(m_emojiPicker->rowsWith(room));
 }
 
 void ConversationPane::showEmoji(bool shown)

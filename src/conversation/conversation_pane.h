@@ -122,6 +122,7 @@ private:
     void Emoticbtn_Click(bool shown);
     void ListViewEmot_ItemClick(const QString &emoticon);
     void showEmoji(bool shown);
+    void showRowsOfEmoji();
     void makeEmojiPicker();
     void findEmoji();
     void insertEmoji(const QString &emoji);

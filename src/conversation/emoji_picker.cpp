@@ -27,7 +27,7 @@ namespace
 {
 
 constexpr int emojiPixels = 22, emojiCell = 34, groupPixels = 16, groupCell = 24, roundness = 4, headingIndent = 6;
-constexpr int rowsShown = 4, rowsAtLeast = 2, widthWithName = 460;
+constexpr int widthWithName = 460;
 
 /// The family is the name under which systems with fontconfig know their font of emoji: it comes before those which
 /// have some of them in black and white. Where no such font is known, the desktop's own comes with its substitutes.
@@ -36,6 +36,11 @@ QFont emojiFont(QFont font, int pixels)
     font.setFamilies({QStringLiteral("emoji"), font.family()});
     font.setPixelSize(pixels);
     return font;
+}
+
+int headingHeight(const QFontMetrics &metrics)
+{
+    return metrics.height() + form_layout::spacing;
 }
 
 /// What a font has no glyph for but shows by way of others: joiners, styles and tags.
@@ -76,7 +81,7 @@ public:
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
         if (EmojiModel::isHeading(index))
-            return {m_list.viewport()->width(), option.fontMetrics.height() + form_layout::spacing};
+            return {m_list.viewport()->width(), headingHeight(option.fontMetrics)};
         return {emojiCell, emojiCell};
     }
 
@@ -205,13 +210,31 @@ QHBoxLayout *EmojiPicker::makeGroups()
 
 QSize EmojiPicker::sizeHint() const
 {
-    const int frames = 2 * m_list->frameWidth() + form_layout::spacing;
-    return {m_search->sizeHint().width(), m_search->sizeHint().height() + frames + rowsShown * emojiCell};
+    return {m_search->sizeHint().width(), heightOf(mostRows)};
 }
 
 QSize EmojiPicker::minimumSizeHint() const
 {
-    return {layout()->minimumSize().width(), sizeHint().height() - (rowsShown - rowsAtLeast) * emojiCell};
+    return {layout()->minimumSize().width(), heightOf(m_leastRows)};
+}
+
+int EmojiPicker::heightOf(int rows) const
+{
+    const int frames = 2 * m_list->frameWidth() + form_layout::spacing;
+    const int above = qMax(m_search->sizeHint().height(), groupCell);
+    return above + frames + m_headings * headingHeight(m_list->fontMetrics()) + rows * emojiCell;
+}
+
+void EmojiPicker::setLeastRows(int rows)
+{
+    m_leastRows = rows;
+    m_headings = m_emoji.recent().isEmpty() ? 1 : 2;
+    updateGeometry();
+}
+
+int EmojiPicker::rowsWith(int room) const
+{
+    return qBound(fewestRows, m_leastRows + room / emojiCell, mostRows);
 }
 
 // --- what is shown

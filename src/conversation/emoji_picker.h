@@ -30,6 +30,13 @@ public:
     QLineEdit &search() const { return *m_search; }
     QListView &list() const { return *m_list; }
 
+    /// As many lines of emoji as are wanted at least, with the headings among them, and the fewest. To be said each
+    /// time before it is shown.
+    static constexpr int mostRows = 5, fewestRows = 1;
+    void setLeastRows(int rows);
+    /// The number of lines that it takes with so many pixels more than it needs now; within those bounds.
+    int rowsWith(int room) const;
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -62,7 +69,11 @@ private:
     bool takesInList(const QKeyEvent &event);
     bool takesInSearch(const QKeyEvent &event);
 
+    int heightOf(int rows) const;
+
     EmojiStock &m_emoji;
+    int m_leastRows = fewestRows;
+    int m_headings = 1; ///< among the first lines
     EmojiModel *m_rows = nullptr;
     QLineEdit *m_search = nullptr;
     QLabel *m_name = nullptr;

@@ -1,5 +1,6 @@
 #include "conversation/file_panel.h"
 
+#include "base/isolated.h"
 #include "base/limits.h"
 #include "base/link_opener.h"
 #include "conversation/small_picture.h"
@@ -259,9 +260,9 @@ void FileRow::refresh()
     const ReceivedFile *const file = m_files.find(m_number);
     if (!file)
         return;
-    const QString name = tr("%1 (%2)").arg(file->link.name, file->link.sizeText);
+    const QString name = tr("%1 (%2)").arg(isolated(file->link.name), file->link.sizeText);
     const bool isOffered = file->state == State::offered;
-    m_name->setText(isOffered ? tr("%1 from %2").arg(name, file->sender) : name);
+    m_name->setText(isOffered ? tr("%1 from %2").arg(name, isolated(file->sender)) : name);
     m_name->setToolTip(file->link.name);
     m_stateLine->setVisible(!isOffered);
     m_state->setText(ReceivedFiles::progressOf(*file));

@@ -1,5 +1,6 @@
 #include "doctor/doctor.h"
 
+#include "base/isolated.h"
 #include "base/remote_text.h"
 #include "protocol/address_text.h"
 #include "protocol/datagram.h"
@@ -152,7 +153,7 @@ void Doctor::ask(const ContactAddress &ip)
     if (!contact)
         return found(findings::contactNotAsked(tr("%1 is no contact any more.").arg(ip.text()), {}));
     const std::optional<Ipv4Address> &address = ip.ipv4();
-    const QString text = ip.text(), nickname = paintedName(contact->nickname);
+    const QString text = ip.text(), nickname = isolated(paintedName(contact->nickname));
     if (!address || !address->isUnicast())
         return found(
             findings::contactNotAsked(tr("%1 is no address such as 192.168.1.20: nothing can be sent there.").arg(text),

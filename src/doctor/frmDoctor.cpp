@@ -1,5 +1,6 @@
 #include "doctor/frmDoctor.h"
 
+#include "base/isolated.h"
 #include "base/remote_text.h"
 #include "doctor/report.h"
 #include "widgets/dialog_parts.h"
@@ -223,7 +224,8 @@ void frmDoctor::fillContacts()
     for (int row = 0; row < m_doctor.contacts().rowCount(); ++row) {
         const Contact &contact = m_doctor.contacts().at(row);
         const QString ip = contact.ip.text();
-        contactCombo->addItem(QStringLiteral("%1 (%2)").arg(paintedName(contact.nickname), remoteName(ip)), ip);
+        contactCombo->addItem(QStringLiteral("%1 (%2)").arg(isolated(paintedName(contact.nickname)), remoteName(ip)),
+                              ip);
     }
     contactCombo->setCurrentIndex(std::max(contactCombo->findData(chosen), std::min(contactCombo->count() - 1, 0)));
     contactCombo->setEnabled(contactCombo->count() > 0);

@@ -1,6 +1,7 @@
 #include "files/file_offers.h"
 
 #include "base/clock_text.h"
+#include "base/isolated.h"
 #include "base/limits.h"
 #include "base/remote_text.h"
 #include "files/file_link.h"
@@ -281,7 +282,7 @@ QVariant FileOffers::data(const QModelIndex &index, int role) const
     switch (index.column()) {
     case File:
         return role == Qt::ToolTipRole ? offer.path
-            : offer.isReadied          ? tr("%1 (%2)").arg(offer.name, fileSizeText(offer.size))
+            : offer.isReadied          ? tr("%1 (%2)").arg(isolated(offer.name), fileSizeText(offer.size))
                                        : offer.name;
     case For:
         return offer.recipients.whom;

@@ -1,5 +1,6 @@
 #include "files/received_files.h"
 
+#include "base/isolated.h"
 #include "base/limits.h"
 #include "files/file_name.h"
 
@@ -300,7 +301,7 @@ QVariant ReceivedFiles::data(const QModelIndex &index, int role) const
     const ReceivedFile &file = at(index.row());
     switch (index.column()) {
     case File:
-        return tr("%1 (%2)").arg(file.link.name, file.link.sizeText);
+        return tr("%1 (%2)").arg(isolated(file.link.name), file.link.sizeText);
     case From:
         return file.sender;
     case Progress:

@@ -1,5 +1,6 @@
 #include "history/frmHistory.h"
 
+#include "base/isolated.h"
 #include "base/limits.h"
 #include "base/remote_text.h"
 #include "history/history_delegate.h"
@@ -230,12 +231,12 @@ void frmHistory::listed(const std::vector<StoredConversation> &conversations)
             = paintedName(stored.conversation.name.isEmpty() ? stored.conversation.address : stored.conversation.name);
         const bool isConference = stored.conversation.kind == KeptConversation::Kind::conference;
         const QString shown = isConference
-            ? tr("%1, %2").arg(name, QLocale().toString(stored.conversation.begun, QLocale::ShortFormat))
+            ? tr("%1, %2").arg(isolated(name), QLocale().toString(stored.conversation.begun, QLocale::ShortFormat))
             : name;
         m_names.insert(stored.number, shown);
-        auto *const item
-            = new QListWidgetItem(namedPicture(isConference ? QStringLiteral("conference") : QStringLiteral("avatar")),
-                                  tr("%1 (%2)").arg(shown, QString::number(stored.messages)), conversationList);
+        auto *const item = new QListWidgetItem(
+            namedPicture(isConference ? QStringLiteral("conference") : QStringLiteral("avatar")),
+            tr("%1 (%2)").arg(isolated(shown), QString::number(stored.messages)), conversationList);
         item->setData(Qt::UserRole, QVariant::fromValue(stored.number));
         item->setToolTip(stored.conversation.address);
         const bool isWanted
@@ -324,7 +325,7 @@ void frmHistory::showWaiting()
         const auto isIn = [&waiting](const QString &word) { return waiting.text.contains(word, Qt::CaseInsensitive); };
         if (!std::ranges::all_of(words, isIn))
             continue;
-        const QString name = paintedName(waiting.nickname);
+        const QString name = isolated(paintedName(waiting.nickname));
         shown.push_back({.number = waiting.number,
                          .message = {.time = waiting.written,
                                      .isOwn = true,
@@ -493,7 +494,8 @@ void frmHistory::showEraseMenu()
     const std::optional<std::int64_t> conversation = chosenConversation();
     add("mnuEraseConversation", tr("The chosen &conversation"), conversation.has_value(),
         {.conversation = conversation},
-        tr("Erase all that is kept of \"%1\" for good?").arg(conversation ? m_names.value(*conversation) : QString()));
+        tr("Erase all that is kept of \"%1\" for good?")
+            .arg(conversation ? isolated(m_names.value(*conversation)) : QString()));
     const HistoryQuestion shown = question();
     add("mnuEraseDays", tr("The chosen &days"), shown.from.isValid() || shown.until.isValid(),
         {.conversation = conversation, .from = shown.from, .until = shown.until},

@@ -233,6 +233,21 @@ QHash<std::int64_t, KeptConversation> readableConversations(sqlite3 *database)
     return found;
 }
 
+/// By the number of the conversation, the message up to which it was read, where others behind that were not. As far as
+/// it can be read; a file of the first form knows of none.
+QHash<std::int64_t, std::int64_t> readableReadTo(sqlite3 *database)
+{
+    QHash<std::int64_t, std::int64_t> found;
+    try {
+        Statement rows(database, "SELECT id, read_to FROM conversations WHERE read_to IS NOT NULL");
+        while (rows.next())
+            found.insert(rows.number(0), rows.number(1));
+    } catch (const Failure &) {
+        // What could be read counts; the others are taken for read.
+    }
+    return found;
+}
+
 /// Of the messages between these numbers the first ones in this order that can be read.
 std::vector<StoredMessage> readablePiece(sqlite3 *database, std::int64_t first, std::int64_t last,
                                          const QByteArray &order)
@@ -395,11 +410,16 @@ int HistoryFile::salvage(const QString &wreck)
     if (code != SQLITE_OK)
         return 0;
     const QHash<std::int64_t, KeptConversation> conversations = readableConversations(opened);
+    const QHash<std::int64_t, std::int64_t> readTo = readableReadTo(opened);
+    QHash<std::int64_t, int> notRead;
     int saved = 0;
     const auto take = [&](const std::vector<StoredMessage> &piece) {
         std::vector<Entry> entries;
-        for (const StoredMessage &found : piece)
+        for (const StoredMessage &found : piece) {
             entries.push_back({conversations.value(found.conversation), found.message});
+            if (const auto read = readTo.find(found.conversation); read != readTo.end() && found.number > *read)
+                ++notRead[found.conversation];
+        }
         write(entries);
         saved += static_cast<int>(piece.size());
     };
@@ -422,7 +442,21 @@ int HistoryFile::salvage(const QString &wreck)
     }
     for (auto piece = behind.rbegin(); piece != behind.rend(); ++piece)
         take(*piece);
+    for (auto unread = notRead.begin(); unread != notRead.end(); ++unread)
+        leaveLastUnread(conversations.value(unread.key()), *unread);
     return saved;
+}
+
+/// The numbers are others than they were, and so it is told by how many messages come behind the last one that was
+/// read.
+void HistoryFile::leaveLastUnread(const KeptConversation &conversation, int messages)
+{
+    Statement put(m_database.get(),
+                  "UPDATE conversations SET read_to = coalesce((SELECT id FROM messages WHERE conversation = ?1 "
+                  "ORDER BY id DESC LIMIT 1 OFFSET ?2), 0) WHERE id = ?1");
+    put.bind(1, conversationFor(conversation));
+    put.bind(2, std::int64_t{messages});
+    put.next();
 }
 
 void HistoryFile::inTransaction(const std::function<void()> &work)
@@ -601,7 +635,8 @@ std::vector<UnreadConversation> HistoryFile::listUnread()
     Statement get(
         m_database.get(),
         "SELECT c.kind, c.address, c.begun, c.name, c.read_to, "
-        "(SELECT count(*) FROM messages m WHERE m.conversation = c.id AND m.id > c.read_to AND m.own = 0) AS n "
+        "(SELECT count(*) FROM messages m WHERE m.conversation = c.id AND m.id > c.read_to AND m.own = 0) AS n, "
+        "(SELECT m.time FROM messages m WHERE m.conversation = c.id AND m.own = 0 ORDER BY m.id DESC LIMIT 1) "
         "FROM conversations c WHERE c.read_to IS NOT NULL AND n > 0 ORDER BY c.id");
     std::vector<UnreadConversation> all;
     while (get.next()) {
@@ -612,7 +647,8 @@ std::vector<UnreadConversation> HistoryFile::listUnread()
                           .begun = isConference ? timeOf(get.number(2)) : QDateTime(),
                           .name = get.text(3)},
                        .readTo = get.number(4),
-                       .messages = static_cast<int>(get.number(5))});
+                       .messages = static_cast<int>(get.number(5)),
+                       .last = timeOf(get.number(6))});
     }
     return all;
 }

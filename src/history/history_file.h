@@ -70,6 +70,7 @@ private:
     }
     void copyTo(const QString &path);
     int salvage(const QString &wreck);
+    void leaveLastUnread(const KeptConversation &conversation, int messages);
     std::int64_t conversationFor(const KeptConversation &conversation);
     void inTransaction(const std::function<void()> &work);
     QByteArray numbersOfTheTime(const HistoryQuestion &question);

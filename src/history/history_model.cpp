@@ -1,5 +1,6 @@
 #include "history/history_model.h"
 
+#include "base/isolated.h"
 #include "base/remote_text.h"
 
 #include <QLocale>
@@ -40,8 +41,9 @@ QString HistoryModel::headOf(const StoredMessage &stored) const
     const QString time = QLocale().toString(stored.message.time, QLocale::ShortFormat);
     const QString writer = paintedName(stored.message.writer);
     const QString where = m_names.value(stored.conversation);
-    return m_namesShown && !where.isEmpty() && where != writer ? tr("%1, %2, in \"%3\"").arg(writer, time, where)
-                                                               : tr("%1, %2").arg(writer, time);
+    return m_namesShown && !where.isEmpty() && where != writer
+        ? tr("%1, %2, in \"%3\"").arg(isolated(writer), time, isolated(where))
+        : tr("%1, %2").arg(isolated(writer), time);
 }
 
 void HistoryModel::setMessages(std::vector<StoredMessage> messages)

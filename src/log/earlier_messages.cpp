@@ -71,6 +71,11 @@ void EarlierMessages::add(const std::vector<StoredMessage> &messages, std::optio
 {
     if (messages.empty())
         return;
+    if (readTo)
+        m_readTo = readTo;
+    const StoredMessage *const firstNew = firstNewOf(messages);
+    if (firstNew)
+        removeMark();
     QTextCursor cursor(&m_text);
     cursor.beginEditBlock();
     if (!isEmpty()) {
@@ -82,7 +87,7 @@ void EarlierMessages::add(const std::vector<StoredMessage> &messages, std::optio
         if (&stored != &messages.front())
             cursor.insertBlock();
         QTextBlockFormat first = firstLineOf(asMarked(stored.message), marks);
-        const bool isFirstNew = readTo && stored.number > *readTo && !hasNew();
+        const bool isFirstNew = &stored == firstNew;
         LogMarks::setNew(first, isFirstNew);
         const int position = cursor.position();
         write(cursor, stored.message, first);
@@ -101,7 +106,23 @@ void EarlierMessages::add(const std::vector<StoredMessage> &messages, std::optio
     m_first = asMarked(messages.front().message);
 }
 
+const StoredMessage *EarlierMessages::firstNewOf(const std::vector<StoredMessage> &messages)
+{
+    if (!m_readTo)
+        return nullptr;
+    const auto first = std::ranges::find_if(messages, [this](const auto &stored) { return stored.number > *m_readTo; });
+    if (first != messages.begin())
+        m_readTo.reset(); // some of them were read
+    return first == messages.end() ? nullptr : &*first;
+}
+
 void EarlierMessages::unmarkNew()
+{
+    m_readTo.reset();
+    removeMark();
+}
+
+void EarlierMessages::removeMark()
 {
     if (!hasNew())
         return;

@@ -30,7 +30,8 @@ public:
     explicit EarlierMessages(LogPictures &pictures);
 
     bool isEmpty() const { return !m_first; }
-    /// In front of those that are there. readTo: the first one with a higher number is marked as new.
+    /// In front of those that are there. readTo: the first one with a higher number is marked as new, as long as that
+    /// is not unmarked also among those that come in front of it later.
     void add(const std::vector<StoredMessage> &messages, std::optional<std::int64_t> readTo = {});
     bool hasNew() const { return !m_new.isNull(); }
     void unmarkNew();
@@ -62,6 +63,9 @@ public:
     QRect lineAt(int position) const;
 
 private:
+    /// The first one that is to be marked as new instead of the one that is; null where none is.
+    const StoredMessage *firstNewOf(const std::vector<StoredMessage> &messages);
+    void removeMark();
     void write(QTextCursor &cursor, const KeptMessage &message, const QTextBlockFormat &first);
     /// Beside the text and above the lines, as the font is now.
     void makeRoom();
@@ -71,7 +75,8 @@ private:
     LogPictures &m_pictures;
     QTextDocument m_text;
     std::optional<LogMessage> m_first;
-    QTextCursor m_new; ///< in the first line of what is new; null where nothing is
+    std::optional<std::int64_t> m_readTo; ///< until what is new is known to begin nowhere further up
+    QTextCursor m_new;                    ///< in the first line of what is new; null where nothing is
     Found m_found;
 };
 

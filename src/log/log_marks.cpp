@@ -1,11 +1,13 @@
 #include "log/log_marks.h"
 
 #include "base/clock_text.h"
+#include "base/isolated.h"
 #include "base/remote_text.h"
 #include "widgets/muted_colour.h"
 
 #include <QCoreApplication>
 #include <QFontMetrics>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPalette>
 
@@ -111,6 +113,8 @@ QTextBlockFormat LogMarks::ownLine()
 {
     QTextBlockFormat format = line();
     format.setTextIndent(-continuationIndent);
+    // Whatever name stands in it, it is one of the program's own sentences.
+    format.setLayoutDirection(QGuiApplication::layoutDirection());
     return format;
 }
 
@@ -126,6 +130,7 @@ QTextBlockFormat LogMarks::continuedLine(bool isOwnMessage)
 QTextBlockFormat LogMarks::firstLine(const LogMessage &message)
 {
     QTextBlockFormat format = ownLine();
+    format.clearProperty(QTextFormat::LayoutDirection); // that of what was written
     format.setProperty(gapAbove, message.writer == m_writer ? gapOfWriter : gapOfOther);
     m_writer = message.writer;
     if (message.isOwn)
@@ -208,7 +213,7 @@ void LogMarks::setFate(QTextBlockFormat &line, MessageFate fate)
 
 QString LogMarks::meaningOf(const QTextBlockFormat &line)
 {
-    const QString receiver = paintedName(line.stringProperty(receiverName));
+    const QString receiver = isolated(paintedName(line.stringProperty(receiverName)));
     switch (fateOf(line)) {
     case MessageFate::sent:
         break;

@@ -5,12 +5,13 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QTextFrame>
 
 namespace nimb
 {
 namespace
 {
-constexpr int around = 10, arrowSide = 16, besideText = 4; // pixels
+constexpr int around = 10, arrowSide = 16, besideText = 4, besideTimes = 6; // pixels
 } // namespace
 
 NewLinesButton::NewLinesButton(RichTextLogEdit &log) : QToolButton(&log), m_log(log)
@@ -40,7 +41,10 @@ void NewLinesButton::place()
     const int height = fontMetrics().height() + around;
     const int width = qMax(height, arrowSide + besideText + fontMetrics().horizontalAdvance(text()) + 2 * around);
     const QRect shown = m_log.viewport()->geometry();
-    setGeometry(shown.right() - width - around, shown.bottom() - height - around, width, height);
+    // Where times are painted at the margin, it leaves them free.
+    const int margin = qRound(m_log.document()->rootFrame()->frameFormat().rightMargin());
+    setGeometry(shown.right() - width - qMax(around, margin + besideTimes), shown.bottom() - height - around, width,
+                height);
 }
 
 bool NewLinesButton::eventFilter(QObject *watched, QEvent *event)

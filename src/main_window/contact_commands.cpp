@@ -1,6 +1,7 @@
 #include "main_window/contact_commands.h"
 
 #include "base/buzz.h"
+#include "base/isolated.h"
 #include "base/remote_text.h"
 
 namespace nimb
@@ -11,7 +12,7 @@ ContactMenuCaptions ContactCommands::captions(const QString &ip, qsizetype selec
     const Contact *contact = m_contacts.find(ip);
     if (!contact)
         return {tr("&Private Chat"), tr("&Buzz User"), tr("Re&move User"), tr("Send &Contacts"), tr("I&nvite user")};
-    const QString name = menuName(contact->nickname);
+    const QString name = isolated(menuName(contact->nickname));
     return {
         tr("Private chat with '%1'").arg(name),
         tr("Buzz '%1'").arg(name),
@@ -27,17 +28,22 @@ QString ContactCommands::toolTip(const QString &ip) const
     const Contact *contact = m_contacts.find(ip);
     if (!contact)
         return {};
-    QString line
-        = contact->state.isEmpty() ? contact->nickname : contact->nickname + QLatin1String(": ") + contact->state;
+    QString line = isolated(contact->nickname);
+    if (!contact->state.isEmpty())
+        line += QLatin1String(": ") + isolated(contact->state);
     if (contact->waitingMessages == 0)
         return line;
     return tr("%1 (messages that wait to be read: %2)").arg(line, QString::number(contact->waitingMessages));
 }
 
-QString ContactCommands::details(const QString &ip) const
+QString ContactCommands::details(const QString &ip, qsizetype selected) const
 {
+    if (selected > 1)
+        return tr("%1 contacts selected").arg(selected);
     const Contact *contact = m_contacts.find(ip);
-    return contact ? tr("%1 on %2 (%3)").arg(contact->nickname, contact->workstation, contact->ip.text()) : QString();
+    return contact
+        ? tr("%1 on %2 (%3)").arg(isolated(contact->nickname), isolated(contact->workstation), contact->ip.text())
+        : QString();
 }
 
 void ContactCommands::openWaiting(const QString &ip)
@@ -52,7 +58,7 @@ void ContactCommands::mnuPrivateChat(const QString &ip)
     const Contact *contact = m_contacts.find(ip);
     if (!contact)
         return;
-    const QString name = paintedName(contact->nickname);
+    const QString name = isolated(paintedName(contact->nickname));
     if (contact->presence == Presence::unknown)
         return m_services.log.note(whyUnknown(name));
     if (contact->presence == Presence::offline)
@@ -90,7 +96,7 @@ QString ContactCommands::removalQuestion(const std::vector<const Contact *> &con
     if (contacts.size() == 1) {
         const Contact &contact = *contacts.front();
         return tr("Are you sure you want to remove the user '%1' on workstation '%2' (%3) ?")
-            .arg(contact.nickname, contact.workstation, contact.ip.text());
+            .arg(isolated(contact.nickname), isolated(contact.workstation), contact.ip.text());
     }
     QStringList lines = {tr("Are you sure you want to remove these %1 users?").arg(contacts.size())};
     for (const Contact *const contact : contacts) {
@@ -98,7 +104,7 @@ QString ContactCommands::removalQuestion(const std::vector<const Contact *> &con
             lines.append(tr("... (%1 more)").arg(contacts.size() - mostNames));
             break;
         }
-        lines.append(QStringLiteral("'%1' (%2)").arg(paintedName(contact->nickname), contact->ip.text()));
+        lines.append(QStringLiteral("'%1' (%2)").arg(isolated(paintedName(contact->nickname)), contact->ip.text()));
     }
     return lines.join(QLatin1Char('\n'));
 }

@@ -44,8 +44,8 @@ public:
     ContactMenuCaptions captions(const QString &ip, qsizetype selected = 1) const;
     /// Nickname and state text of the contact, as one line; empty when there is no such contact.
     QString toolTip(const QString &ip) const;
-    /// The same with workstation and address.
-    QString details(const QString &ip) const;
+    /// The same with workstation and address; of several contacts how many they are.
+    QString details(const QString &ip, qsizetype selected = 1) const;
 
     /// The row was clicked: what waits there to be read is opened.
     void openWaiting(const QString &ip);

@@ -20,6 +20,8 @@ constexpr int edgeOfColumn = 4;           ///< the same where the columns leave 
 constexpr int gap = 6;                    ///< between the parts of a row
 constexpr int aboveFace = 4;              ///< and below it, where the presence reaches into it
 constexpr int lettersOfShortestName = 12; ///< before the time gives way
+constexpr int lettersBesideBadge = 6;     ///< of a name, before the number goes over the picture
+constexpr int smallestBadgeLetters = 9;   ///< pixels
 constexpr int lettersOfShortestState = 6; ///< of a state that is shortened
 constexpr double strengthOfAbsent = 0.55; ///< of the pictures of those who are offline
 
@@ -100,23 +102,42 @@ public:
     {
         return m_cell.fontMetrics.elidedText(text, Qt::ElideRight, room);
     }
+    /// With the gap beside it.
+    int badgeWidth(const QString &number) const { return widthOfBadge(number) + gap; }
     int letters(int number) const { return number * m_cell.fontMetrics.averageCharWidth(); }
     void paintBadge(const QString &number)
     {
-        const bool selected = isSelected(m_cell);
-        const QFontMetrics &metrics = m_cell.fontMetrics;
-        const QRect place = takeRight(qMax(metrics.height(), metrics.horizontalAdvance(number) + 2 * gap));
-        QRect badge(0, 0, place.width(), metrics.height());
+        const QRect place = takeRight(widthOfBadge(number));
+        QRect badge(0, 0, place.width(), m_cell.fontMetrics.height());
         badge.moveCenter(place.center());
+        paintBadge(number, badge, m_cell.font);
+    }
+    /// At the upper corner of this picture, over it, in small letters.
+    void paintBadgeOver(const QRect &face, const QString &number)
+    {
+        QFont small = m_cell.font;
+        small.setPixelSize(qMax(smallestBadgeLetters, face.height() / 2));
+        const QFontMetrics metrics(small);
+        QRect badge(0, 0, qMax(metrics.height(), metrics.horizontalAdvance(number) + gap), metrics.height());
+        badge.moveTopRight(face.topRight() + QPoint(presenceOverhang, -aboveFace + 1));
+        paintBadge(number, badge, small);
+    }
+
+private:
+    int widthOfBadge(const QString &number) const
+    {
+        return qMax(m_cell.fontMetrics.height(), widthOf(number) + 2 * gap);
+    }
+    void paintBadge(const QString &number, const QRect &badge, const QFont &font)
+    {
+        const bool selected = isSelected(m_cell);
         m_painter.setRenderHint(QPainter::Antialiasing);
         m_painter.setPen(Qt::NoPen);
         m_painter.setBrush(m_cell.palette.color(selected ? QPalette::HighlightedText : QPalette::Highlight));
         m_painter.drawRoundedRect(badge, badge.height() / 2.0, badge.height() / 2.0);
         const QColor colour = m_cell.palette.color(selected ? QPalette::Highlight : QPalette::HighlightedText);
-        paint(badge, number, m_cell.font, colour, Qt::AlignHCenter);
+        paint(badge, number, font, colour, Qt::AlignHCenter);
     }
-
-private:
     QRect mirrored(const QRect &rect) const { return QStyle::visualRect(m_cell.direction, m_row, rect); }
     /// The side is that of the row, whatever way the text itself is written.
     void paint(const QRect &place, const QString &text, const QFont &font, const QColor &colour, Qt::Alignment side)
@@ -233,11 +254,17 @@ void ContactDelegate::paintRow(QPainter &painter, const QStyleOptionViewItem &ce
     paintFace(painter, face.adjusted(0, aboveFace, 0, -aboveFace), cell, contact);
     if (isStateShown())
         room.skip(presenceOverhang);
-    if (unread > 0)
-        room.paintBadge(QString::number(unread));
+    if (const QString number = QString::number(unread); unread > 0) {
+        const int besideBadge = room.width() - room.badgeWidth(number);
+        if (besideBadge >= qMin(nameWidth, room.letters(lettersBesideBadge)))
+            room.paintBadge(number);
+        else
+            room.paintBadgeOver(face.adjusted(0, aboveFace, 0, -aboveFace), number);
+    }
     const QString address = addressBeside(contact);
     if (unread > 0) {
-        const QString time = shortTime(contact.data(ContactList::LastMessageRole).toDateTime());
+        const QDateTime last = contact.data(ContactList::LastMessageRole).toDateTime();
+        const QString time = last.isValid() ? timeOrDate(last, QDate::currentDate()) : QString();
         if (room.beside(time) - room.taken(address) >= qMin(nameWidth, room.letters(lettersOfShortestName)))
             room.paintRight(time);
     }

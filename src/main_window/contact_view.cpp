@@ -1,5 +1,6 @@
 #include "main_window/contact_view.h"
 
+#include "base/isolated.h"
 #include "base/remote_text.h"
 #include "contacts/contact_list.h"
 #include "main_window/accessible_contacts.h"
@@ -486,7 +487,7 @@ void ContactView::placeNobody()
     const bool isNobody = !m_words.isEmpty() && m_hidden > 0 && shownCount() == 0;
     const QString words = paintedName(m_words.join(QLatin1Char(' ')));
     const auto sentence = [isNobody](const QString &looked) {
-        return isNobody ? tr("Nobody here is called \"%1\"").arg(looked) : QString();
+        return isNobody ? tr("Nobody here is called \"%1\"").arg(isolated(looked)) : QString();
     };
     const int width = viewport()->width();
     // A word alone can be longer than a line.

@@ -585,7 +585,7 @@ void frmMain::contactsChanged(int firstRow, int lastRow)
 
 void frmMain::showItemDetails()
 {
-    ItemDetailstxt->setText(m_engine->commands.details(selectedContact()));
+    ItemDetailstxt->setText(m_engine->commands.details(selectedContact(), ListView1->selectedAddresses().size()));
     ItemDetailstxt->setCursorPosition(0);
 }
 

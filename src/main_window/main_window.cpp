@@ -1,5 +1,6 @@
 #include "main_window/main_window.h"
 
+#include "base/isolated.h"
 #include "base/limits.h"
 #include "base/remote_text.h"
 #include "base/settings.h"
@@ -28,7 +29,7 @@ void MainWindow::showInTray()
         return;
     const int unread = m_parts.contacts.unread();
     QString tip = tr("NIMB-Chat: %1, %2")
-                      .arg(paintedName(m_parts.common.ownNickname, limits::trayNameLength),
+                      .arg(isolated(paintedName(m_parts.common.ownNickname, limits::trayNameLength)),
                            baseName(m_parts.common.ownPresence.base));
     if (unread > 0)
         tip = tr("%1, %2 unread").arg(tip, QString::number(unread));

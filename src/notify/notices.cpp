@@ -1,5 +1,6 @@
 #include "notify/notices.h"
 
+#include "base/isolated.h"
 #include "base/remote_text.h"
 
 #include <algorithm>
@@ -79,7 +80,7 @@ bool Notices::isQuietAbout(Ipv4Address ip) const
 
 Notice Notices::noticeOf(const News &news, const Unseen &unseen) const
 {
-    const QString name = paintedName(news.name);
+    const QString name = isolated(paintedName(news.name));
     Notice notice{.place = news.place, .title = name, .picture = QStringLiteral("message"), .mayBeAnswered = true};
     if (news.place.window == NoticeWindow::invitations) {
         notice.text = notice.line = counted(tr("%1 invites you to a conference").arg(name), unseen.messages);
@@ -97,8 +98,8 @@ Notice Notices::noticeOf(const News &news, const Unseen &unseen) const
         notice.title = tr("%1 in conference #%2").arg(name, QString::number(news.place.conference));
     notice.title = counted(notice.title, unseen.messages);
     const QString message = shownMessage(news.text, unseen.messages);
-    notice.text = unseen.buzzes > 0 ? tr("%1 · %2").arg(message, buzz) : message;
-    notice.line = tr("%1: %2").arg(notice.title, notice.text);
+    notice.text = unseen.buzzes > 0 ? tr("%1 · %2").arg(isolated(message), buzz) : message;
+    notice.line = tr("%1: %2").arg(notice.title, unseen.buzzes > 0 ? notice.text : isolated(notice.text));
     return notice;
 }
 

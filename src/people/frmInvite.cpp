@@ -1,5 +1,6 @@
 #include "people/frmInvite.h"
 
+#include "base/isolated.h"
 #include "base/remote_text.h"
 #include "widgets/dialog_parts.h"
 #include "widgets/elided_label.h"
@@ -103,8 +104,8 @@ void frmInvite::Form_Load(const QString &selectedAddress)
     Option1->setAccessibleDescription(standardText);
     const Invite::Target &target = m_invite.target();
     const QString toWhom = tr("Send to the computer %2, for %1");
-    Label1->setText(toWhom.arg(paintedName(target.nickname), paintedName(target.computer)));
-    Label1->setToolTip(toWhom.arg(target.nickname, target.computer));
+    Label1->setText(toWhom.arg(isolated(paintedName(target.nickname)), isolated(paintedName(target.computer))));
+    Label1->setToolTip(toWhom.arg(isolated(target.nickname), isolated(target.computer)));
     Option1->setFocus();
 }
 

@@ -12,6 +12,7 @@
 #include "widgets/bring_back.h"
 #include "widgets/elided_label.h"
 #include "widgets/form_layout.h"
+#include "widgets/screen_room.h"
 #include "widgets/tool_button.h"
 #include "widgets/twips.h"
 
@@ -42,7 +43,7 @@ frmPrivate::frmPrivate(PrivateChat &chat, const ConversationTools &tools)
     setWindowIcon(programIcon());
     buildControls();
     connectControls();
-    resize(600, 490);
+    resize(firstSize(*this, {600, 490}));
 }
 
 void frmPrivate::buildControls()

@@ -1,6 +1,7 @@
 #include "private_chat/outbox.h"
 
 #include "base/clock_text.h"
+#include "base/isolated.h"
 #include "base/limits.h"
 #include "base/remote_text.h"
 #include "base/settings.h"
@@ -136,7 +137,7 @@ void Outbox::contactRemoved(const ContactAddress &ip)
             continue;
         if (!message.isGivenUp)
             m_parts.log.remark(tr("--- a message that waited for %1, who is no contact any more, is not sent ---")
-                                   .arg(paintedName(message.nickname)));
+                                   .arg(isolated(paintedName(message.nickname))));
         forget(message.number);
     }
 }
@@ -200,7 +201,7 @@ void Outbox::tellWhatWasSent(const Contact &contact)
 {
     const auto delivery = m_deliveries.find(contact.ip.text());
     const int sent = delivery == m_deliveries.end() ? 0 : std::exchange(delivery->second.sent, 0);
-    const QString name = paintedName(contact.nickname);
+    const QString name = isolated(paintedName(contact.nickname));
     if (sent == 1)
         m_parts.log.remark(tr("--- the message that waited for %1 was sent ---").arg(name));
     else if (sent > 1)
@@ -217,8 +218,8 @@ void Outbox::askWhetherMeant(const WaitingMessage &message)
     const std::optional<bool> isMeant = m_parts.prompts.decideUnasked(
         tr("What you wrote to %1 (%2) waits to be sent to %3. There is %4 (%5) now.\n\n"
            "Send it to %4?")
-            .arg(paintedName(message.nickname), paintedName(message.workstation), address,
-                 paintedName(contact.nickname), paintedName(contact.workstation)),
+            .arg(isolated(paintedName(message.nickname)), isolated(paintedName(message.workstation)), address,
+                 isolated(paintedName(contact.nickname)), isolated(paintedName(contact.workstation))),
         programTitle);
     const auto delivery = m_deliveries.find(address);
     if (delivery == m_deliveries.end())
@@ -258,7 +259,7 @@ void Outbox::giveUpOld()
             continue;
         message->isGivenUp = true;
         m_parts.log.remark(tr("--- what you wrote to %1 on %2 was not sent within seven days ---")
-                               .arg(paintedName(old.nickname), shortDate(old.written)));
+                               .arg(isolated(paintedName(old.nickname)), shortDate(old.written)));
         save();
         wasChanged(old.ip);
         m_parts.notSent(old);

@@ -1,5 +1,6 @@
 #include "private_chat/peer_features.h"
 
+#include "base/isolated.h"
 #include "base/remote_text.h"
 #include "protocol/send_datagram.h"
 
@@ -16,7 +17,7 @@ void PeerFeatures::buzz(Ipv4Address ip)
 {
     if (m_parts.common.hearsReceivedBuzz())
         m_parts.sound.playAlarm();
-    const QString text = tr("%1 is buzzing you...").arg(paintedName(m_parts.contacts.find(ip)->nickname));
+    const QString text = tr("%1 is buzzing you...").arg(isolated(paintedName(m_parts.contacts.find(ip)->nickname)));
     m_parts.activity.show(text);
     PrivateChat *const window = windowOf(ip);
     if (window)
@@ -37,7 +38,8 @@ void PeerFeatures::tellBuzz(Ipv4Address ip, PrivateChat *window) const
 
 void PeerFeatures::typing(Ipv4Address ip)
 {
-    const QString text = tr("%1 is typing a message...").arg(paintedName(m_parts.contacts.find(ip)->nickname));
+    const QString text
+        = tr("%1 is typing a message...").arg(isolated(paintedName(m_parts.contacts.find(ip)->nickname)));
     if (PrivateChat *const window = windowOf(ip))
         window->typing(text);
     else

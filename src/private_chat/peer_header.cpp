@@ -1,5 +1,6 @@
 #include "private_chat/peer_header.h"
 
+#include "base/isolated.h"
 #include "base/own_presence.h"
 #include "base/remote_text.h"
 #include "widgets/avatar_image.h"
@@ -67,7 +68,7 @@ QString stateText(const PeerShown &peer)
     const QString words = ownWordsOf(peer.state);
     if (words.isEmpty() || !isPresent(peer.presence))
         return presenceText(peer.presence);
-    return words == peer.state ? words : withOwnWords(presenceText(peer.presence), words);
+    return words == peer.state ? isolated(words) : withOwnWords(presenceText(peer.presence), isolated(words));
 }
 
 QString detailsOf(const PeerShown &peer)
@@ -76,7 +77,7 @@ QString detailsOf(const PeerShown &peer)
     if (peer.delivery == Delivery::toNoContact)
         details = {PeerHeader::tr("No contact any more")};
     if (!peer.workstation.isEmpty())
-        details.append(paintedName(peer.workstation));
+        details.append(isolated(paintedName(peer.workstation)));
     details.append(paintedName(peer.address));
     return details.join(QStringLiteral(" · "));
 }
@@ -99,7 +100,7 @@ QString absenceOf(const PeerShown &peer, const QString &state, const QString &co
 /// Empty while all arrives.
 QString warningOf(const PeerShown &peer)
 {
-    const QString name = paintedName(peer.name);
+    const QString name = isolated(paintedName(peer.name));
     switch (peer.delivery) {
     case Delivery::arrives:
         return {};
@@ -136,11 +137,10 @@ PeerHeader::PeerHeader(QWidget *parent) : QWidget(parent)
 
 QWidget *PeerHeader::makeBandRow()
 {
-    m_bandRow = new QWidget(this);
-    m_bandRow->setAutoFillBackground(true);
-    m_bandRow->setBackgroundRole(QPalette::ToolTipBase);
+    auto *const strip = new BandStrip(this);
+    m_bandRow = strip;
     m_bandRow->hide();
-    peerBand = named(makeBand(m_bandRow), "peerBand");
+    peerBand = named(makeBandText(*strip), "peerBand");
     peerBand->setTextFormat(Qt::PlainText);
     sendLaterBtn = named(new QPushButton(m_bandRow), "sendLaterBtn");
     connect(sendLaterBtn, &QPushButton::clicked, this, &PeerHeader::sendLaterPressed);
@@ -182,12 +182,12 @@ void PeerHeader::setPeer(const PeerShown &peer)
     m_face->update();
     peerName->setText(paintedName(peer.name));
     peerDetails->setText(detailsOf(peer));
-    setAccessibleName(peerName->text() + QStringLiteral(", ") + peerDetails->text());
+    setAccessibleName(isolated(peerName->text()) + QStringLiteral(", ") + peerDetails->text());
     const QString warning = warningOf(peer);
     peerBand->setText(warning);
     peerBand->setVisible(!warning.isEmpty());
     // An ampersand would underline what follows it.
-    const QString name = paintedName(peer.name, longestNameOnButton).replace(u'&', QLatin1String("&&"));
+    const QString name = isolated(paintedName(peer.name, longestNameOnButton).replace(u'&', QLatin1String("&&")));
     sendLaterBtn->setText(peer.sendsLater ? tr("Do not send later") : tr("Send when %1 is back").arg(name));
     sendLaterBtn->setToolTip(
         peer.sendsLater

@@ -109,8 +109,11 @@ void PrivateWindows::takeUnread(const std::vector<UnreadConversation> &conversat
         if (!isContact || numberOf(ip) > 0 || !m_services.conversation.history.isKept(kept.address))
             continue;
         m_unreadBefore.insert_or_assign(kept.address, unread);
-        m_contacts.change(
-            ip, [&unread](Contact &row) { row.unreadInWindow = std::min(unread.messages, limits::unreadCounted); });
+        m_contacts.change(ip, [&unread](Contact &row) {
+            row.unreadInWindow = std::min(unread.messages, limits::unreadCounted);
+            if (!row.lastMessage.isValid())
+                row.lastMessage = unread.last;
+        });
     }
 }
 

@@ -5,31 +5,44 @@
 #include "widgets/link_colours.h"
 
 #include <QLabel>
+#include <QStringList>
 
 namespace nimb
 {
 
-/// Hidden at first. The desktop's colours for what explains something.
-inline QLabel *makeBand(QWidget *parent)
+/// A line around it where colours of high contrast leave its ground like any other.
+class BandStrip : public QWidget
 {
-    auto *const band = new QLabel(parent);
-    band->setWordWrap(true);
-    band->setMargin(form_layout::margin);
-    band->setAutoFillBackground(true);
-    band->setBackgroundRole(QPalette::ToolTipBase);
-    band->setForegroundRole(QPalette::ToolTipText);
-    band->hide();
-    return band;
-}
+public:
+    explicit BandStrip(QWidget *parent);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+/// The same as a text.
+class BandLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+/// Hidden at first. The desktop's colours for what explains something.
+QLabel *makeBand(QWidget *parent);
+
+/// The text of a band that is a strip with more than a text.
+QLabel *makeBandText(BandStrip &strip);
 
 /// The same for a text that holds a link and nothing that is not the program's own.
-inline QLabel *makeBandWithLink(QWidget *parent)
-{
-    QLabel *const band = makeBand(parent);
-    band->setTextFormat(Qt::RichText);
-    band->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    keepLinkColours(*band);
-    return band;
-}
+QLabel *makeBandWithLink(QWidget *parent);
+
+/// An answer that a band offers: a link whose words stay on one line.
+QString bandAnswer(const QString &name, const QString &words);
+
+/// "this / that / no", broken only between two of them.
+QString bandAnswers(const QStringList &answers);
 
 } // namespace nimb

@@ -15,4 +15,14 @@ inline QSize roomOnScreen(const QWidget &window)
     return window.screen()->availableSize() * share;
 }
 
+/// For a window with a log that opens for the first time: this high with letters of the usual size, higher with larger
+/// ones, for each of its lines takes more; on no screen higher than on a small one.
+inline QSize firstSize(const QWidget &window, QSize withUsualLetters)
+{
+    constexpr int usualLine = 17, smallScreen = 630;
+    const int most = qMin(smallScreen, roomOnScreen(window).height());
+    const int height = withUsualLetters.height() * window.fontMetrics().lineSpacing() / usualLine;
+    return {withUsualLetters.width(), qMax(withUsualLetters.height(), qMin(height, most))};
+}
+
 } // namespace nimb

@@ -116,5 +116,25 @@ TEST(LinksOfABand, HaveTheColourOfTheDesktopThatIsThereNow)
     QApplication::setPalette(before);
 }
 
+TEST(Band, HasAnEdgeInHighContrastAlone)
+{
+    QWidget window;
+    QLabel *const label = makeBand(&window);
+    auto *const strip = new BandStrip(&window);
+    for (const Appearance &appearance : {Appearance{Scheme::light, false}, Appearance{Scheme::dark, false},
+                                         Appearance{Scheme::light, true}, Appearance{Scheme::dark, true}}) {
+        const QPalette palette
+            = *paletteFor(appearance, appearance.scheme == Scheme::dark ? lightDesktop : darkDesktop());
+        const QColor expected = palette.color(appearance.highContrast ? QPalette::ToolTipText : QPalette::ToolTipBase);
+        for (QWidget *const band : std::initializer_list<QWidget *>{label, strip}) {
+            band->setPalette(palette);
+            band->resize(100, 30);
+            const QImage image = band->grab().toImage();
+            for (const QPoint &place : {QPoint(0, 0), QPoint(50, 0), QPoint(99, 15), QPoint(50, 29), QPoint(0, 29)})
+                EXPECT_EQ(image.pixelColor(place), expected) << place.x() << ' ' << place.y();
+        }
+    }
+}
+
 } // namespace
 } // namespace nimb::test

@@ -171,6 +171,35 @@ TEST_F(ContactRows, KeepTheirColumnsInFullDetails)
     EXPECT_EQ(cell(2), address) << "a long name stays in its column";
 }
 
+TEST_F(ContactRows, InFullDetailsTheNameGoesBeforeWhatStandsBesideIt)
+{
+    QFont large = windows.list().font();
+    large.setPointSize(16);
+    windows.list().setFont(large);
+    windows.control<QCheckBox>("ListDetails").click();
+    QCoreApplication::processEvents();
+    const auto name = [this] {
+        const QRect cell = windows.list().visualRect(windows.list().model()->index(rowOf("10.0.0.5"), 0));
+        const QImage whole = windows.list().viewport()->grab(cell).toImage();
+        return whole.copy(cell.height() + 4, 0, cell.width() - cell.height() - 4, cell.height());
+    };
+    const auto widthOfInk = [](const QImage &image) {
+        int first = image.width(), last = 0;
+        for (int x = 0; x < image.width(); ++x) {
+            if (isBlank(image.copy(x, 0, 1, image.height())))
+                continue;
+            first = qMin(first, x);
+            last = x;
+        }
+        return last - first;
+    };
+    const int alone = widthOfInk(name());
+    ASSERT_GT(alone, 40);
+    windows.engine.contacts().change(QStringLiteral("10.0.0.5"), [](Contact &contact) { contact.unreadInWindow = 12; });
+    QCoreApplication::processEvents();
+    EXPECT_GE(widthOfInk(name()), alone) << "the number lies over the picture";
+}
+
 TEST_F(ContactRows, AreAskedForTheirRemovalByTheDeleteKey)
 {
     windows.click(rowOf("10.0.0.2"));

@@ -97,6 +97,24 @@ TEST_F(EmojiPickerTest, IsNotMadeBeforeItIsOpened)
     EXPECT_FALSE(control<QWidget>("emojiPicker").isVisible());
 }
 
+TEST_F(EmojiPickerTest, OpensWithFiveWholeLinesAlsoBelowWhatWasUsedLately)
+{
+    windows.common.recentEmoji = {joy};
+    pressButton();
+    const auto wholeLines = [this] {
+        QSet<int> tops;
+        for (int row = 0; row < list().model()->rowCount(); ++row) {
+            const QRect place = list().visualRect(list().model()->index(row, 0));
+            const bool isHeading = place.width() > 100;
+            if (!isHeading && list().viewport()->rect().contains(place))
+                tops.insert(place.top());
+        }
+        return tops.size();
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return wholeLines() >= 5; })) << wholeLines();
+    EXPECT_LE(form().height(), form().screen()->availableSize().height());
+}
+
 TEST_F(EmojiPickerTest, WhatIsTypedIsSearchedForAndEnterInsertsAtTheCaret)
 {
     intext().setPlainText(QStringLiteral("well done"));

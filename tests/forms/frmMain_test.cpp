@@ -527,6 +527,18 @@ TEST_F(FrmMain, AMachineThatAnswersFromTwoAddressesHasOneRow)
     EXPECT_TRUE(isShown(row("10.7.0.2")));
 }
 
+TEST_F(FrmMain, OfSeveralContactsItSaysHowManyAreSelected)
+{
+    const auto &details = windows.control<QLineEdit>("ItemDetailstxt");
+    windows.click(0);
+    const QString one = details.text();
+    EXPECT_TRUE(one.contains(QLatin1String(" on PC (10.0.0."))) << one.toStdString();
+    windows.list().selectAll();
+    EXPECT_EQ(details.text(), QStringLiteral("3 contacts selected"));
+    windows.click(0);
+    EXPECT_EQ(details.text(), one);
+}
+
 TEST_F(FrmMain, RescanningAsksEveryContactAndDisablesItself)
 {
     auto &button = windows.control<QPushButton>("RescanBtn");

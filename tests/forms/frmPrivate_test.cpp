@@ -102,6 +102,45 @@ TEST_F(FrmPrivate, ABandSaysWhatDoesNotArrive)
     EXPECT_FALSE(band.isVisible());
 }
 
+TEST(PrivateWindowWithLargeLetters, OpensHighEnoughForItsLog)
+{
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSize(16);
+    QApplication::setFont(large);
+    {
+        RealWindows windows{{{"10.0.0.2", "Ann"}}};
+        windows.settleStart({});
+        windows.doubleClick(0);
+        QWidget &form = windows.privateWindow();
+        EXPECT_TRUE(RealWindows::control<QLabel>(form, "peerBand").isVisible());
+        EXPECT_TRUE(RealWindows::control<QLabel>(form, "historyBand").isVisible());
+        const RichTextLogEdit &log = RealWindows::logOf(form);
+        EXPECT_GE(log.viewport()->height(), 4 * log.heightOfLine());
+        EXPECT_LE(form.height(), 640);
+    }
+    QApplication::setFont(usual);
+}
+
+TEST_F(FrmPrivate, ANameFromTheRightTurnsNoSentenceOfItsHead)
+{
+    windows.arrive("10.0.0.2", "!ONLINE 10.0.0.2 \u0645\u0643\u062A\u0628 \u05D3\u05E0\u05D4");
+    EXPECT_EQ(control<QLabel>("peerDetails").text(),
+              QStringLiteral("Online · \u2068\u0645\u0643\u062A\u0628\u2069 · 10.0.0.2"));
+    windows.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 \u0645\u0643\u062A\u0628 \u05D3\u05E0\u05D4");
+    EXPECT_EQ(control<QLabel>("peerBand").text(),
+              QStringLiteral("\u2068\u05D3\u05E0\u05D4\u2069 is offline: what you write does not arrive"));
+}
+
+TEST_F(FrmPrivate, InALayoutFromTheRightALatinNameIsIsolatedToo)
+{
+    qApp->setLayoutDirection(Qt::RightToLeft);
+    windows.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");
+    const QString said = control<QLabel>("peerBand").text();
+    qApp->setLayoutDirection(Qt::LeftToRight);
+    EXPECT_EQ(said, QStringLiteral("\u2068Ann\u2069 is offline: what you write does not arrive"));
+}
+
 TEST_F(FrmPrivate, TheBandOffersToSendLaterWhatWasWrittenMeanwhile)
 {
     auto &band = control<QLabel>("peerBand");

@@ -80,6 +80,16 @@ TEST_F(KeptHistory, TheFirstConversationAsksAndTheAnswerEndsTheQuestion)
     EXPECT_EQ(windows.history.texts(), QStringList{"hello"});
 }
 
+TEST_F(KeptHistory, ItsAnswersAreBrokenBetweenEachOtherAlone)
+{
+    windows.arrive("10.0.0.2", "-hello");
+    QTextDocument text;
+    text.setHtml(band().text());
+    const QString whole = text.toRawText();
+    for (const char *const answer : {"for\u00A0a\u00A0year\u00A0/ ", "for\u00A0ever\u00A0/ ", "no"})
+        EXPECT_TRUE(whole.contains(QString::fromUtf8(answer))) << answer;
+}
+
 TEST_F(KeptHistory, NoIsAnAnswerToo)
 {
     windows.arrive("10.0.0.2", "-hello");

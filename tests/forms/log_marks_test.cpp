@@ -1,5 +1,7 @@
 // What is painted beside the lines of a log and above them, and how one finds his way in it.
+#include "log/earlier_messages.h"
 #include "log/find_bar.h"
+#include "log/log_pictures.h"
 #include "log/rich_text_log.h"
 #include "widgets/muted_colour.h"
 
@@ -102,6 +104,57 @@ TEST_F(LogMarksTest, TheTimeStandsBesideTheFirstLineOfAMinute)
     EXPECT_FALSE(isBlank(marginOf(0)));
     EXPECT_TRUE(isBlank(marginOf(1)));
     EXPECT_FALSE(isBlank(marginOf(2)));
+}
+
+TEST(EarlierMessagesTest, TheMarkOfWhatIsNewGoesUpToWhereReadingStoppedAsThatIsLoaded)
+{
+    const auto page = [](int first, int count) {
+        std::vector<StoredMessage> messages;
+        for (int i = first; i < first + count; ++i)
+            messages.push_back(
+                {.number = i,
+                 .message
+                 = {.time = saturday, .writer = QStringLiteral("Ann"), .text = QStringLiteral("number %1").arg(i)}});
+        return messages;
+    };
+    QObject owner;
+    LogPictures pictures([] { return LogPictures::Scale(); }, &owner);
+    EarlierMessages earlier(pictures);
+    const auto marked = [&earlier] {
+        QStringList lines;
+        for (QTextBlock line = earlier.text().begin(); line.isValid(); line = line.next()) {
+            if (LogMarks::isNew(line.blockFormat()))
+                lines += line.text();
+        }
+        return lines;
+    };
+    earlier.add(page(500, 20), 470);
+    EXPECT_EQ(marked(), QStringList{"Ann> number 500"});
+    earlier.add(page(480, 20));
+    EXPECT_EQ(marked(), QStringList{"Ann> number 480"});
+    earlier.add(page(460, 20));
+    EXPECT_EQ(marked(), QStringList{"Ann> number 471"});
+    earlier.add(page(440, 20));
+    EXPECT_EQ(marked(), QStringList{"Ann> number 471"});
+
+    EarlierMessages read(pictures);
+    read.add(page(500, 20), 470);
+    read.unmarkNew();
+    read.add(page(480, 20));
+    EXPECT_FALSE(read.hasNew()) << "what was read stays so";
+}
+
+TEST_F(LogMarksTest, TheButtonToTheNewestLineLeavesTheTimesFree)
+{
+    for (int i = 0; i < 40; ++i)
+        ann(QStringLiteral("line %1").arg(i), saturday.addSecs(60 * i));
+    log.verticalScrollBar()->setValue(0);
+    ann(QStringLiteral("new"), saturday.addSecs(3600));
+    const auto &button = *log.findChild<QToolButton *>(QStringLiteral("newLinesBtn"));
+    ASSERT_TRUE(button.isVisible());
+    const int times = log.viewport()->geometry().right() - LogMarks::marginRight(log.font());
+    EXPECT_LE(button.geometry().right() + 5, times);
+    EXPECT_GT(button.geometry().right() + 20, times) << "but stands at the side";
 }
 
 TEST_F(LogMarksTest, NoTextRunsUnderTheTimes)

@@ -204,6 +204,18 @@ TEST_F(RichTextLogTest, WhatDoesNotFitIntoALineStandsFurtherInToo)
     EXPECT_EQ(continued.blockFormat().indent(), 1) << "at the right";
 }
 
+TEST_F(RichTextLogTest, ASentenceOfTheProgramIsWrittenItsWayWhateverNameBeginsIt)
+{
+    appendText(log, QStringLiteral("--- \u05D3\u05E0\u05D4 went online ---\r\n"), colours::presence);
+    log.setSelMessage(LogMessage{.writer = QStringLiteral("Ann"), .time = QDateTime::currentDateTime()});
+    message("\u05E9\u05DC\u05D5\u05DD");
+    log.writeGathered();
+    EXPECT_EQ(log.document()->findBlockByNumber(0).textDirection(), Qt::LeftToRight);
+    EXPECT_EQ(log.document()->findBlockByNumber(0).text(), QStringLiteral("--- \u05D3\u05E0\u05D4 went online ---"));
+    const QTextBlock written = log.document()->findBlockByNumber(1);
+    EXPECT_EQ(written.blockFormat().layoutDirection(), Qt::LayoutDirectionAuto) << "as it was written";
+}
+
 TEST_F(RichTextLogTest, TheFirstLineThatAFullLogKeepsLooksAsItDid)
 {
     for (int i = 0; i < limits::logLines / 2; ++i)

@@ -759,7 +759,8 @@ public:
             const std::vector<std::int64_t> received = receivedOf(conversation);
             const auto unread = std::ranges::count_if(received, [last = last](auto number) { return number > last; });
             if (unread > 0)
-                all.push_back({conversation, last, static_cast<int>(unread)});
+                all.push_back({conversation, last, static_cast<int>(unread),
+                               kept[static_cast<std::size_t>(received.back() - 1)].second.time});
         }
         listed(all);
     }

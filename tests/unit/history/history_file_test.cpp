@@ -380,6 +380,33 @@ TEST_F(HistoryFileTest, WhatCanBeReadOnBothSidesOfADamagedPageIsTakenOver)
     EXPECT_EQ(history.list().front().messages, static_cast<int>(left.size()));
 }
 
+TEST_F(HistoryFileTest, WhatWasUnreadIsSoAfterARescue)
+{
+    {
+        HistoryFile history(folder);
+        write(history, ben, message(QStringLiteral("all of it was read")));
+        QStringList all;
+        for (int i = 1000; i < 1900; ++i)
+            all += QStringLiteral("message number %1").arg(i);
+        write(history, all);
+        history.leaveUnread(ann);
+        KeptMessage own = message(QStringLiteral("mine"));
+        own.isOwn = true;
+        write(history, ann, own);
+        write(history, {QStringLiteral("new"), QStringLiteral("newer")});
+    }
+    damagePageWith("message number 1450");
+
+    HistoryFile history(folder);
+    history.setAside();
+    ASSERT_EQ(history.listUnread().size(), 1u);
+    const UnreadConversation unread = history.listUnread().front();
+    EXPECT_EQ(unread.conversation, ann);
+    EXPECT_EQ(unread.messages, 2);
+    const std::vector<StoredMessage> behind = history.find({.after = unread.readTo, .most = 10});
+    EXPECT_THAT(texts(behind), ElementsAre(QStringLiteral("mine"), QStringLiteral("new"), QStringLiteral("newer")));
+}
+
 TEST_F(HistoryFileTest, ErasingLeavesNothingOfWhatWasSetAside)
 {
     {
@@ -441,8 +468,9 @@ TEST_F(HistoryFileTest, RemembersWhereReadingStopped)
         history.leaveUnread(ann); // where reading has stopped already
         KeptMessage own = message(QStringLiteral("mine"));
         own.isOwn = true;
-        write(history, ann, own);
+        own.time = day(22);
         write(history, {QStringLiteral("three")});
+        write(history, ann, own);
         write(history, ben, message(QStringLiteral("of another")));
     }
     HistoryFile history(folder);
@@ -450,6 +478,7 @@ TEST_F(HistoryFileTest, RemembersWhereReadingStopped)
     EXPECT_EQ(history.listUnread()[0].conversation, ann);
     EXPECT_EQ(history.listUnread()[0].readTo, 1);
     EXPECT_EQ(history.listUnread()[0].messages, 3) << "own ones are none";
+    EXPECT_EQ(history.listUnread()[0].last, day(21));
     history.setRead(ann, 2);
     EXPECT_EQ(history.listUnread()[0].readTo, 2);
     EXPECT_EQ(history.listUnread()[0].messages, 2);

@@ -25,6 +25,21 @@ TEST(RemoveUser, AsksAndRemovesOnOk)
     EXPECT_THAT(copy.sent(), IsEmpty());
 }
 
+TEST(RemoveUser, ANameFromTheRightTurnsNoQuestion)
+{
+    Copy copy(
+        {.contacts = {{"10.0.0.2", "\u05D3\u05E0\u05D4", "\u0645\u0643\u062A\u0628"}, {"10.0.0.3", "Ann", "PC"}}});
+    copy.prompts.answer = false;
+    copy.engine.contactCommands().mnuRemoveUser(ip("10.0.0.2"));
+    copy.engine.contactCommands().removeUsers({ip("10.0.0.2"), ip("10.0.0.3")});
+    EXPECT_THAT(copy.prompts.asked,
+                ElementsAre("Please confirm user removal: Are you sure you want to remove the user "
+                            "'\u2068\u05D3\u05E0\u05D4\u2069' on workstation '\u2068\u0645\u0643\u062A\u0628\u2069' "
+                            "(10.0.0.2) ?",
+                            "Please confirm user removal: Are you sure you want to remove these 2 users?\n"
+                            "'\u2068\u05D3\u05E0\u05D4\u2069' (10.0.0.2)\n'Ann' (10.0.0.3)"));
+}
+
 TEST(RemoveUser, ChangesNothingOnCancel)
 {
     Copy copy({.contacts = {{"10.0.0.2", "Ann"}}});
@@ -88,6 +103,18 @@ TEST(ToolTip, ShowsNicknameAndState)
     copy.arrive("10.0.0.2", "!STATUS BUSY In a meeting");
     EXPECT_EQ(copy.engine.contactCommands().toolTip(ip("10.0.0.2")), QStringLiteral("Ann: BUSY - In a meeting"));
     EXPECT_EQ(copy.engine.contactCommands().toolTip({}), QString());
+}
+
+TEST(ToolTip, ANameFromTheRightTurnsNothing)
+{
+    Copy copy({.contacts = {{"10.0.0.2", "\u05D3\u05E0\u05D4", "PC"}}});
+    copy.settleStart({"10.0.0.2"});
+    copy.arrive("10.0.0.2", "!STATUS BUSY In a meeting");
+    const ContactCommands &commands = copy.engine.contactCommands();
+    EXPECT_EQ(commands.toolTip(ip("10.0.0.2")), QStringLiteral("\u2068\u05D3\u05E0\u05D4\u2069: BUSY - In a meeting"));
+    EXPECT_EQ(commands.details(ip("10.0.0.2")), QStringLiteral("\u2068\u05D3\u05E0\u05D4\u2069 on PC (10.0.0.2)"));
+    EXPECT_EQ(commands.captions(ip("10.0.0.2")).mnuPrivateChat,
+              QStringLiteral("Private chat with '\u2068\u05D3\u05E0\u05D4\u2069'"));
 }
 
 TEST(ToolTip, CountsMessagesThatWaitAndLeavesPlaceMarkersInNamesAlone)

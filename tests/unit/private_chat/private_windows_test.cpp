@@ -550,6 +550,40 @@ TEST_F(UnreadAfterARestart, TheRowHasItsNumberAndTheWindowKnowsWhereReadingStopp
     EXPECT_EQ(copy.history.readTo[ann], 5);
 }
 
+TEST_F(UnreadAfterARestart, TheRowHasTheTimeOfTheLastMessage)
+{
+    const QDateTime monday(QDate(2026, 11, 23), QTime(9, 5));
+    copy.history.leaveUnread({.address = ann});
+    copy.history.keep({.address = ann}, {.time = monday, .text = QStringLiteral("one")});
+    copy.history.keep({.address = ann}, {.time = monday.addSecs(60), .isOwn = true, .text = QStringLiteral("mine")});
+    start();
+    EXPECT_EQ(copy.contact("10.0.0.2").lastMessage, monday);
+    copy.arrive("10.0.0.2", "-two");
+    EXPECT_GT(copy.contact("10.0.0.2").lastMessage.toSecsSinceEpoch(), 0);
+    EXPECT_NE(copy.contact("10.0.0.2").lastMessage, monday);
+}
+
+TEST_F(UnreadAfterARestart, AThousandOfThemAreShownAtOnce)
+{
+    keep("read");
+    copy.history.leaveUnread({.address = ann});
+    for (int i = 0; i < 600; ++i)
+        keep("unread");
+    start();
+    copy.engine.privateWindows().openPrivate(ann);
+    EXPECT_EQ(copy.window(1).earlier.size(), 601u) << "up to where reading stopped";
+}
+
+TEST_F(UnreadAfterARestart, OfMoreThanAThousandOnlySoManyAreShownAtOnce)
+{
+    copy.history.leaveUnread({.address = ann});
+    for (int i = 0; i < 1500; ++i)
+        keep("unread");
+    start();
+    copy.engine.privateWindows().openPrivate(ann);
+    EXPECT_EQ(copy.window(1).earlier.size(), 1050u);
+}
+
 TEST_F(UnreadAfterARestart, AMessageThatOpensTheWindowIsCountedWithThem)
 {
     copy.history.leaveUnread({.address = ann});
