@@ -8,7 +8,7 @@
         <translation>يرجى ملء جميع الحقول</translation>
     </message>
     <message>
-        <source>You can't add yourself...</source>
+        <source>You can&apos;t add yourself...</source>
         <translation>لا يمكنك إضافة نفسك...</translation>
     </message>
     <message>
@@ -54,7 +54,7 @@
         <translation>المؤتمر رقم %1 (مستضاف هنا) - NIMB-Chat</translation>
     </message>
     <message>
-        <source>Conference #%1 (Hosted by '%2') - NIMB-Chat</source>
+        <source>Conference #%1 (Hosted by &apos;%2&apos;) - NIMB-Chat</source>
         <translation>المؤتمر رقم %1 (يستضيفه «%2») - NIMB-Chat</translation>
     </message>
     <message>
@@ -131,11 +131,11 @@
         <translation>&amp;دعوة المستخدم</translation>
     </message>
     <message>
-        <source>Private chat with '%1'</source>
+        <source>Private chat with &apos;%1&apos;</source>
         <translation>محادثة خاصة مع «%1»</translation>
     </message>
     <message>
-        <source>Buzz '%1'</source>
+        <source>Buzz &apos;%1&apos;</source>
         <translation>تنبيه «%1»</translation>
     </message>
     <message>
@@ -143,19 +143,19 @@
         <translation>إزالة مستخدمين من القائمة (العدد: %1)</translation>
     </message>
     <message>
-        <source>Remove '%1' from the list</source>
+        <source>Remove &apos;%1&apos; from the list</source>
         <translation>إزالة «%1» من القائمة</translation>
     </message>
     <message>
-        <source>Send &amp;contacts to '%1'</source>
+        <source>Send &amp;contacts to &apos;%1&apos;</source>
         <translation>إرسال &amp;جهات اتصال إلى «%1»</translation>
     </message>
     <message>
-        <source>&amp;Net send message to '%1'</source>
+        <source>&amp;Net send message to &apos;%1&apos;</source>
         <translation>إرسال &amp;رسالة net send إلى «%1»</translation>
     </message>
     <message>
-        <source>I&amp;nvite user '%1'</source>
+        <source>I&amp;nvite user &apos;%1&apos;</source>
         <translation>&amp;دعوة المستخدم «%1»</translation>
     </message>
     <message>
@@ -175,15 +175,15 @@
         <translation>جارٍ السؤال عن وجود %1: لن تُفتح أي نافذة قبل معرفة ذلك</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: "Rescan" asks, and shows you to your contacts</source>
+        <source>whether %1 is there is not known: &quot;Rescan&quot; asks, and shows you to your contacts</source>
         <translation>لا يُعرف هل %1 موجود: زر «إعادة الفحص» يسأل عن ذلك ويُظهرك لجهات اتصالك</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: "Rescan" asks</source>
+        <source>whether %1 is there is not known: &quot;Rescan&quot; asks</source>
         <translation>لا يُعرف هل %1 موجود: زر «إعادة الفحص» يسأل عن ذلك</translation>
     </message>
     <message>
-        <source>Are you sure you want to remove the user '%1' on workstation '%2' (%3) ?</source>
+        <source>Are you sure you want to remove the user &apos;%1&apos; on workstation &apos;%2&apos; (%3) ?</source>
         <translation>هل تريد بالتأكيد إزالة المستخدم «%1» على محطة العمل «%2» (%3)؟</translation>
     </message>
     <message>
@@ -198,11 +198,15 @@
         <source>Please confirm user removal</source>
         <translation>تأكيد إزالة المستخدم</translation>
     </message>
+    <message>
+        <source>%1 contacts selected</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ContactFile</name>
     <message>
-        <source>"%1" is not the address of one computer</source>
+        <source>&quot;%1&quot; is not the address of one computer</source>
         <translation>«%1» ليس عنوان حاسوب واحد</translation>
     </message>
     <message>
@@ -448,7 +452,7 @@
         <translation>لا يسمح النظام لبرنامج NIMB-Chat باستخدام المنفذ %1.</translation>
     </message>
     <message>
-        <source>Choose a port above 1023 in Tools, Options, the same as everybody else's.</source>
+        <source>Choose a port above 1023 in Tools, Options, the same as everybody else&apos;s.</source>
         <translation>اختر من «أدوات &gt; خيارات» منفذًا أعلى من 1023، هو نفسه لدى الجميع.</translation>
     </message>
     <message>
@@ -472,7 +476,7 @@
         <translation>المنفذ %1 يستخدمه برنامج آخر.</translation>
     </message>
     <message>
-        <source>"sudo ss -ulpn sport = :%1" shows which one.</source>
+        <source>&quot;sudo ss -ulpn sport = :%1&quot; shows which one.</source>
         <translation>يبيّن الأمر «sudo ss -ulpn sport = :%1» أيَّ برنامج هو.</translation>
     </message>
     <message>
@@ -500,7 +504,7 @@
         <translation>لا يحتفظ النظام إلا بمقدار %1 كيبيبايت من حزم البيانات المنتظرة: عندما يجيب كثيرون معًا يُفقد بعضها.</translation>
     </message>
     <message>
-        <source>"sudo sysctl -w net.core.rmem_max=4194304" lets it keep more.</source>
+        <source>&quot;sudo sysctl -w net.core.rmem_max=4194304&quot; lets it keep more.</source>
         <translation>يتيح له الأمر «sudo sysctl -w net.core.rmem_max=4194304» الاحتفاظ بالمزيد.</translation>
     </message>
     <message>
@@ -580,7 +584,7 @@
         <translation>لا يحق إلا للمسؤول معرفة هل يمنع جدار حماية دخول منفذ UDP %1.</translation>
     </message>
     <message>
-        <source>"sudo nimb-chatctl doctor" tells.</source>
+        <source>&quot;sudo nimb-chatctl doctor&quot; tells.</source>
         <translation>يبيّن ذلك الأمر «sudo nimb-chatctl doctor».</translation>
     </message>
     <message>
@@ -588,7 +592,7 @@
         <translation>قد يكون على هذا الحاسوب جدار حماية، ولا يوجد هنا برنامج يعرض جميع قواعده.</translation>
     </message>
     <message>
-        <source>"sudo nft list ruleset" and "sudo iptables-legacy -S" show them, of the packages nftables and iptables.</source>
+        <source>&quot;sudo nft list ruleset&quot; and &quot;sudo iptables-legacy -S&quot; show them, of the packages nftables and iptables.</source>
         <translation>يعرضها الأمران «sudo nft list ruleset» و«sudo iptables-legacy -S» من الحزمتين nftables وiptables.</translation>
     </message>
     <message>
@@ -656,7 +660,7 @@
         <translation>لم يجب %1. الطريق إلى %2 يمر بعنوانك %3، لكن الخيارات تحدد البطاقة %4 التي قد لا يمكن الوصول من هناك إلى عنوانها %5.</translation>
     </message>
     <message>
-        <source>Choose "automatic" or the card of that network as your own address in Tools, Options.</source>
+        <source>Choose &quot;automatic&quot; or the card of that network as your own address in Tools, Options.</source>
         <translation>اختر «تلقائي» أو بطاقة تلك الشبكة لتكون عنوانك من «أدوات &gt; خيارات».</translation>
     </message>
     <message>
@@ -926,7 +930,7 @@
 <context>
     <name>FolderSource</name>
     <message>
-        <source>There is no picture to show in "%1".</source>
+        <source>There is no picture to show in &quot;%1&quot;.</source>
         <translation>لا توجد صورة يمكن عرضها في «%1».</translation>
     </message>
 </context>
@@ -1073,7 +1077,7 @@
         <translation>أصبح %1 غير متصل ---</translation>
     </message>
     <message>
-        <source>%1 changed his state to '%2'  ---</source>
+        <source>%1 changed his state to &apos;%2&apos;  ---</source>
         <translation>أصبحت حالة %1 «%2» ---</translation>
     </message>
     <message>
@@ -1081,7 +1085,7 @@
         <translation>ينبّهك %1 ---</translation>
     </message>
     <message>
-        <source>%1 sent you the contact '%2' (%3) ---</source>
+        <source>%1 sent you the contact &apos;%2&apos; (%3) ---</source>
         <translation>أرسل إليك %1 جهة الاتصال «%2» (%3) ---</translation>
     </message>
     <message>
@@ -1330,7 +1334,7 @@
         <translation>عند إنهاء NIMB-Chat آخر مرة: %1</translation>
     </message>
     <message>
-        <source>The stored personalized state "%1" begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
+        <source>The stored personalized state &quot;%1&quot; begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
         <translation>لا تبدأ الحالة المخصصة المخزنة «%1» برقم صورة، لذلك استُبعدت، وستُفقد نهائيًا عند إنهاء NIMB-Chat.</translation>
     </message>
     <message>
@@ -1419,7 +1423,7 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no "net" command.</source>
+        <source>The message was not sent: this system has no &quot;net&quot; command.</source>
         <translation>لم تُرسل الرسالة: لا يوجد في هذا النظام الأمر «net».</translation>
     </message>
     <message>
@@ -1438,11 +1442,11 @@
 <context>
     <name>NetworkScan</name>
     <message>
-        <source>"%1" is neither a name nor the address of a computer or a network, so nobody was asked.</source>
+        <source>&quot;%1&quot; is neither a name nor the address of a computer or a network, so nobody was asked.</source>
         <translation>إن «%1» ليس اسمًا ولا عنوانًا لحاسوب أو شبكة، لذلك لم يُسأل أحد.</translation>
     </message>
     <message>
-        <source>No address was found for "%1", so nobody was asked.</source>
+        <source>No address was found for &quot;%1&quot;, so nobody was asked.</source>
         <translation>لم يُعثر على عنوان لـ «%1»، لذلك لم يُسأل أحد.</translation>
     </message>
     <message>
@@ -1582,7 +1586,7 @@
         <translation>سؤال جميع جهات الاتصال عن وجودها</translation>
     </message>
     <message>
-        <source>Only %1 personalized states are kept: "%2" lasts until NIMB-Chat ends.</source>
+        <source>Only %1 personalized states are kept: &quot;%2&quot; lasts until NIMB-Chat ends.</source>
         <translation>لا يُحتفظ إلا بعدد %1 من الحالات المخصصة: تبقى «%2» إلى حين إنهاء NIMB-Chat.</translation>
     </message>
 </context>
@@ -1616,7 +1620,7 @@
         <translation>ليست هذه صورة يستطيع NIMB-Chat قراءتها.</translation>
     </message>
     <message>
-        <source>"%1" cannot be opened.</source>
+        <source>&quot;%1&quot; cannot be opened.</source>
         <translation>يتعذر فتح «%1».</translation>
     </message>
 </context>
@@ -1670,7 +1674,7 @@
         <translation>أصبح %1 غير متصل</translation>
     </message>
     <message>
-        <source>%1 changed his state to '%2'</source>
+        <source>%1 changed his state to &apos;%2&apos;</source>
         <translation>أصبحت حالة %1 «%2»</translation>
     </message>
 </context>
@@ -1698,7 +1702,7 @@
 <context>
     <name>Program</name>
     <message>
-        <source>NIMBCHAT_ADDRESS is "%1", which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
+        <source>NIMBCHAT_ADDRESS is &quot;%1&quot;, which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
         <translation>قيمة NIMBCHAT_ADDRESS هي «%1»، وهي ليست عنوان IPv4؛ لذلك يستمع NIMB-Chat إلى جميع الواجهات.</translation>
     </message>
     <message>
@@ -1804,7 +1808,7 @@
 <context>
     <name>Settings</name>
     <message>
-        <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
+        <source>The stored setting %1 cannot be &quot;%2&quot;; %3 is used instead.</source>
         <translation>لا يمكن أن يكون الإعداد المخزن %1 هو «%2»؛ يُستخدم %3 بدلًا منه.</translation>
     </message>
 </context>
@@ -1911,8 +1915,8 @@
 <context>
     <name>nimb::ClearedBand</name>
     <message>
-        <source> &lt;a href="undo"&gt;Bring it back&lt;/a&gt;</source>
-        <translation> &lt;a href="undo"&gt;استرجاع&lt;/a&gt;</translation>
+        <source> &lt;a href=&quot;undo&quot;&gt;Bring it back&lt;/a&gt;</source>
+        <translation> &lt;a href=&quot;undo&quot;&gt;استرجاع&lt;/a&gt;</translation>
     </message>
 </context>
 <context>
@@ -2012,7 +2016,7 @@
         <translation>إظهار الجميع</translation>
     </message>
     <message>
-        <source>Nobody here is called "%1"</source>
+        <source>Nobody here is called &quot;%1&quot;</source>
         <translation>لا أحد هنا باسم «%1»</translation>
     </message>
 </context>
@@ -2059,10 +2063,6 @@
         <translation>لا تُحفظ المحادثات.</translation>
     </message>
     <message>
-        <source> Keep them: &lt;a href="year"&gt;for a year&lt;/a&gt; / &lt;a href="ever"&gt;for ever&lt;/a&gt; / &lt;a href="no"&gt;no&lt;/a&gt;</source>
-        <translation> حفظها: &lt;a href="year"&gt;لمدة سنة&lt;/a&gt; / &lt;a href="ever"&gt;دائمًا&lt;/a&gt; / &lt;a href="no"&gt;لا&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Message</source>
         <translation>الرسالة</translation>
     </message>
@@ -2099,12 +2099,8 @@
         <translation>أُلصقت صورة (%1 × %2).</translation>
     </message>
     <message>
-        <source> &lt;a href="send"&gt;Send it&lt;/a&gt; / &lt;a href="no"&gt;leave it&lt;/a&gt;</source>
-        <translation> &lt;a href="send"&gt;إرسالها&lt;/a&gt; / &lt;a href="no"&gt;تركها&lt;/a&gt;</translation>
-    </message>
-    <message>
-        <source> &lt;a href="close"&gt;Close&lt;/a&gt;</source>
-        <translation> &lt;a href="close"&gt;إغلاق&lt;/a&gt;</translation>
+        <source> &lt;a href=&quot;close&quot;&gt;Close&lt;/a&gt;</source>
+        <translation> &lt;a href=&quot;close&quot;&gt;إغلاق&lt;/a&gt;</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -2115,8 +2111,33 @@
         <translation>تتسع الرسالة لعدد %1 من الأحرف؛ لم تتسع لآخر %2 مما ألصقته.</translation>
     </message>
     <message>
-        <source> &lt;a href="rest"&gt;Copy the rest&lt;/a&gt;</source>
-        <translation> &lt;a href="rest"&gt;نسخ الباقي&lt;/a&gt;</translation>
+        <source> &lt;a href=&quot;rest&quot;&gt;Copy the rest&lt;/a&gt;</source>
+        <translation> &lt;a href=&quot;rest&quot;&gt;نسخ الباقي&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source> Keep them: %1</source>
+        <comment>answers that can be clicked</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for a year</source>
+        <translation type="unfinished">لمدة سنة</translation>
+    </message>
+    <message>
+        <source>for ever</source>
+        <translation type="unfinished">دائمًا</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation type="unfinished">لا</translation>
+    </message>
+    <message>
+        <source>Send it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>leave it</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2276,8 +2297,8 @@
         <translation>ملفات أخرى: %1.</translation>
     </message>
     <message>
-        <source> &lt;a href="all"&gt;Show all&lt;/a&gt;</source>
-        <translation> &lt;a href="all"&gt;إظهار الكل&lt;/a&gt;</translation>
+        <source> &lt;a href=&quot;all&quot;&gt;Show all&lt;/a&gt;</source>
+        <translation> &lt;a href=&quot;all&quot;&gt;إظهار الكل&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Save all...</source>
@@ -2386,7 +2407,7 @@
         <translation>البحث في كل ما حُفظ</translation>
     </message>
     <message>
-        <source>Opens the history's window</source>
+        <source>Opens the history&apos;s window</source>
         <translation>فتح نافذة المحفوظات</translation>
     </message>
     <message>
@@ -2405,7 +2426,7 @@
 <context>
     <name>nimb::HistoryModel</name>
     <message>
-        <source>%1, %2, in "%3"</source>
+        <source>%1, %2, in &quot;%3&quot;</source>
         <translation>%1، %2، في «%3»</translation>
     </message>
     <message>
@@ -2816,7 +2837,7 @@ Send it to %4?</source>
         <translation>حول NIMB-Chat</translation>
     </message>
     <message>
-        <source>NIMB-Chat's picture</source>
+        <source>NIMB-Chat&apos;s picture</source>
         <translation>صورة NIMB-Chat</translation>
     </message>
     <message>
@@ -2828,7 +2849,7 @@ Send it to %4?</source>
         <translation>الإصدار %1</translation>
     </message>
     <message>
-        <source>A simple messenger that works with UDP/IP and it's been intended for use on a small LAN</source>
+        <source>A simple messenger that works with UDP/IP and it&apos;s been intended for use on a small LAN</source>
         <translation>برنامج مراسلة بسيط يعمل عبر UDP/IP ومخصص للشبكات المحلية الصغيرة</translation>
     </message>
     <message>
@@ -3215,7 +3236,7 @@ Send it to %4?</source>
         <translation>المحا&amp;دثة المحددة</translation>
     </message>
     <message>
-        <source>Erase all that is kept of "%1" for good?</source>
+        <source>Erase all that is kept of &quot;%1&quot; for good?</source>
         <translation>هل تريد محو كل ما هو محفوظ من «%1» نهائيًا؟</translation>
     </message>
     <message>
@@ -3407,7 +3428,7 @@ Send it to %4?</source>
         <translation>الجميع على...</translation>
     </message>
     <message>
-        <source>Note: you can use broadcast IP to scan a whole network (e.g. let's say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
+        <source>Note: you can use broadcast IP to scan a whole network (e.g. let&apos;s say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
         <translation>ملاحظة: يمكنك استخدام عنوان IP للبث لفحص شبكة كاملة (مثلًا إذا كان عنوان IP لديك 192.168.1.1 وقناع الشبكة الفرعية 255.255.255.0 فإن عنوان IP للبث هو 192.168.1.255)</translation>
     </message>
     <message>
@@ -3601,7 +3622,7 @@ Send it to %4?</source>
         <translation>اللغة</translation>
     </message>
     <message>
-        <source>the desktop's</source>
+        <source>the desktop&apos;s</source>
         <translation>لغة سطح المكتب</translation>
     </message>
     <message>
@@ -3685,7 +3706,7 @@ Send it to %4?</source>
         <translation>%1، %2 نقطة</translation>
     </message>
     <message>
-        <source>the desktop's font: %1, %2 points</source>
+        <source>the desktop&apos;s font: %1, %2 points</source>
         <translation>خط سطح المكتب: %1، %2 نقطة</translation>
     </message>
     <message>
@@ -3763,7 +3784,7 @@ Send it to %4?</source>
 <context>
     <name>nimb::frmSendContact</name>
     <message>
-        <source>NIMB-Chat - Send Contacts to '%1'</source>
+        <source>NIMB-Chat - Send Contacts to &apos;%1&apos;</source>
         <translation>NIMB-Chat - إرسال جهات اتصال إلى «%1»</translation>
     </message>
     <message>

@@ -8,7 +8,7 @@
         <translation>Bitte alle Felder ausfüllen</translation>
     </message>
     <message>
-        <source>You can't add yourself...</source>
+        <source>You can&apos;t add yourself...</source>
         <translation>Sie können sich nicht selbst hinzufügen...</translation>
     </message>
     <message>
@@ -54,7 +54,7 @@
         <translation>Konferenz %1 (von Ihnen) – NIMB-Chat</translation>
     </message>
     <message>
-        <source>Conference #%1 (Hosted by '%2') - NIMB-Chat</source>
+        <source>Conference #%1 (Hosted by &apos;%2&apos;) - NIMB-Chat</source>
         <translation>Konferenz %1 (von „%2“) – NIMB-Chat</translation>
     </message>
     <message>
@@ -131,11 +131,11 @@
         <translation>Benutzer e&amp;inladen</translation>
     </message>
     <message>
-        <source>Private chat with '%1'</source>
+        <source>Private chat with &apos;%1&apos;</source>
         <translation>Privater Chat mit „%1“</translation>
     </message>
     <message>
-        <source>Buzz '%1'</source>
+        <source>Buzz &apos;%1&apos;</source>
         <translation>„%1“ anstupsen</translation>
     </message>
     <message>
@@ -143,19 +143,19 @@
         <translation>%1 Benutzer aus der Liste entfernen</translation>
     </message>
     <message>
-        <source>Remove '%1' from the list</source>
+        <source>Remove &apos;%1&apos; from the list</source>
         <translation>„%1“ aus der Liste entfernen</translation>
     </message>
     <message>
-        <source>Send &amp;contacts to '%1'</source>
+        <source>Send &amp;contacts to &apos;%1&apos;</source>
         <translation>&amp;Kontakte an „%1“ senden</translation>
     </message>
     <message>
-        <source>&amp;Net send message to '%1'</source>
+        <source>&amp;Net send message to &apos;%1&apos;</source>
         <translation>Ne&amp;t-Send-Nachricht an „%1“</translation>
     </message>
     <message>
-        <source>I&amp;nvite user '%1'</source>
+        <source>I&amp;nvite user &apos;%1&apos;</source>
         <translation>„%1“ e&amp;inladen</translation>
     </message>
     <message>
@@ -175,15 +175,15 @@
         <translation>ob %1 da ist, wird gerade geprüft: Vorher öffnet sich kein Fenster</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: "Rescan" asks, and shows you to your contacts</source>
+        <source>whether %1 is there is not known: &quot;Rescan&quot; asks, and shows you to your contacts</source>
         <translation>ob %1 da ist, ist nicht bekannt: „Neu abfragen“ klärt es und zeigt Ihren Kontakten, dass Sie da sind</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: "Rescan" asks</source>
+        <source>whether %1 is there is not known: &quot;Rescan&quot; asks</source>
         <translation>ob %1 da ist, ist nicht bekannt: „Neu abfragen“ klärt es</translation>
     </message>
     <message>
-        <source>Are you sure you want to remove the user '%1' on workstation '%2' (%3) ?</source>
+        <source>Are you sure you want to remove the user &apos;%1&apos; on workstation &apos;%2&apos; (%3) ?</source>
         <translation>Möchten Sie den Benutzer „%1“ auf der Arbeitsstation „%2“ (%3) wirklich entfernen?</translation>
     </message>
     <message>
@@ -198,11 +198,15 @@
         <source>Please confirm user removal</source>
         <translation>Entfernen bestätigen</translation>
     </message>
+    <message>
+        <source>%1 contacts selected</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ContactFile</name>
     <message>
-        <source>"%1" is not the address of one computer</source>
+        <source>&quot;%1&quot; is not the address of one computer</source>
         <translation>„%1“ ist nicht die Adresse eines einzelnen Computers</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>Das System lässt NIMB-Chat den Port %1 nicht benutzen.</translation>
     </message>
     <message>
-        <source>Choose a port above 1023 in Tools, Options, the same as everybody else's.</source>
+        <source>Choose a port above 1023 in Tools, Options, the same as everybody else&apos;s.</source>
         <translation>Wählen Sie unter „Extras, Optionen“ einen Port über 1023, und zwar denselben wie alle anderen.</translation>
     </message>
     <message>
@@ -468,7 +472,7 @@
         <translation>Port %1 wird von einem anderen Programm benutzt.</translation>
     </message>
     <message>
-        <source>"sudo ss -ulpn sport = :%1" shows which one.</source>
+        <source>&quot;sudo ss -ulpn sport = :%1&quot; shows which one.</source>
         <translation>„sudo ss -ulpn sport = :%1“ zeigt, von welchem.</translation>
     </message>
     <message>
@@ -496,7 +500,7 @@
         <translation>Das System hebt nur %1 KiB an wartenden Datagrammen auf: Wenn viele gleichzeitig antworten, gehen einige verloren.</translation>
     </message>
     <message>
-        <source>"sudo sysctl -w net.core.rmem_max=4194304" lets it keep more.</source>
+        <source>&quot;sudo sysctl -w net.core.rmem_max=4194304&quot; lets it keep more.</source>
         <translation>Mit „sudo sysctl -w net.core.rmem_max=4194304“ hebt es mehr auf.</translation>
     </message>
     <message>
@@ -576,7 +580,7 @@
         <translation>Nur der Systemverwalter darf sehen, ob eine Firewall den UDP-Port %1 sperrt.</translation>
     </message>
     <message>
-        <source>"sudo nimb-chatctl doctor" tells.</source>
+        <source>&quot;sudo nimb-chatctl doctor&quot; tells.</source>
         <translation>„sudo nimb-chatctl doctor“ gibt Auskunft.</translation>
     </message>
     <message>
@@ -584,7 +588,7 @@
         <translation>Dieser Computer hat vielleicht eine Firewall, aber kein Programm ist vorhanden, das alle ihre Regeln zeigt.</translation>
     </message>
     <message>
-        <source>"sudo nft list ruleset" and "sudo iptables-legacy -S" show them, of the packages nftables and iptables.</source>
+        <source>&quot;sudo nft list ruleset&quot; and &quot;sudo iptables-legacy -S&quot; show them, of the packages nftables and iptables.</source>
         <translation>„sudo nft list ruleset“ und „sudo iptables-legacy -S“ aus den Paketen nftables und iptables zeigen sie.</translation>
     </message>
     <message>
@@ -652,7 +656,7 @@
         <translation>%1 hat nicht geantwortet. Der Weg zu %2 führt über Ihre Adresse %3, aber die Optionen nennen die Karte %4, deren Adresse %5 von dort vielleicht nicht erreichbar ist.</translation>
     </message>
     <message>
-        <source>Choose "automatic" or the card of that network as your own address in Tools, Options.</source>
+        <source>Choose &quot;automatic&quot; or the card of that network as your own address in Tools, Options.</source>
         <translation>Wählen Sie „automatisch“ oder die Karte dieses Netzwerks unter „Extras, Optionen“ als eigene Adresse.</translation>
     </message>
     <message>
@@ -922,7 +926,7 @@
 <context>
     <name>FolderSource</name>
     <message>
-        <source>There is no picture to show in "%1".</source>
+        <source>There is no picture to show in &quot;%1&quot;.</source>
         <translation>In „%1“ gibt es kein anzeigbares Bild.</translation>
     </message>
 </context>
@@ -1069,7 +1073,7 @@
         <translation>%1 ist jetzt offline ---</translation>
     </message>
     <message>
-        <source>%1 changed his state to '%2'  ---</source>
+        <source>%1 changed his state to &apos;%2&apos;  ---</source>
         <translation>%1 hat jetzt den Status „%2“ ---</translation>
     </message>
     <message>
@@ -1077,7 +1081,7 @@
         <translation>%1 stupst Sie an ---</translation>
     </message>
     <message>
-        <source>%1 sent you the contact '%2' (%3) ---</source>
+        <source>%1 sent you the contact &apos;%2&apos; (%3) ---</source>
         <translation>%1 hat Ihnen den Kontakt „%2“ (%3) gesendet ---</translation>
     </message>
     <message>
@@ -1322,7 +1326,7 @@
         <translation>Beim letzten Beenden von NIMB-Chat: %1</translation>
     </message>
     <message>
-        <source>The stored personalized state "%1" begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
+        <source>The stored personalized state &quot;%1&quot; begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
         <translation>Der gespeicherte eigene Status „%1“ beginnt nicht mit der Ziffer eines Bildes; er wird ausgelassen und ist nach dem Beenden von NIMB-Chat endgültig weg.</translation>
     </message>
     <message>
@@ -1411,7 +1415,7 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no "net" command.</source>
+        <source>The message was not sent: this system has no &quot;net&quot; command.</source>
         <translation>Die Nachricht wurde nicht gesendet: Dieses System hat keinen Befehl „net“.</translation>
     </message>
     <message>
@@ -1430,11 +1434,11 @@
 <context>
     <name>NetworkScan</name>
     <message>
-        <source>"%1" is neither a name nor the address of a computer or a network, so nobody was asked.</source>
+        <source>&quot;%1&quot; is neither a name nor the address of a computer or a network, so nobody was asked.</source>
         <translation>„%1“ ist weder ein Name noch die Adresse eines Computers oder Netzwerks, daher wurde niemand gefragt.</translation>
     </message>
     <message>
-        <source>No address was found for "%1", so nobody was asked.</source>
+        <source>No address was found for &quot;%1&quot;, so nobody was asked.</source>
         <translation>Für „%1“ wurde keine Adresse gefunden, daher wurde niemand gefragt.</translation>
     </message>
     <message>
@@ -1574,7 +1578,7 @@
         <translation>Alle Kontakte fragen, ob sie da sind</translation>
     </message>
     <message>
-        <source>Only %1 personalized states are kept: "%2" lasts until NIMB-Chat ends.</source>
+        <source>Only %1 personalized states are kept: &quot;%2&quot; lasts until NIMB-Chat ends.</source>
         <translation>Nur %1 eigene Status werden gespeichert: „%2“ gilt, bis NIMB-Chat beendet wird.</translation>
     </message>
 </context>
@@ -1608,7 +1612,7 @@
         <translation>Das ist kein Bild, das NIMB-Chat lesen kann.</translation>
     </message>
     <message>
-        <source>"%1" cannot be opened.</source>
+        <source>&quot;%1&quot; cannot be opened.</source>
         <translation>„%1“ kann nicht geöffnet werden.</translation>
     </message>
 </context>
@@ -1662,7 +1666,7 @@
         <translation>%1 ist jetzt offline</translation>
     </message>
     <message>
-        <source>%1 changed his state to '%2'</source>
+        <source>%1 changed his state to &apos;%2&apos;</source>
         <translation>%1 hat jetzt den Status „%2“</translation>
     </message>
 </context>
@@ -1690,7 +1694,7 @@
 <context>
     <name>Program</name>
     <message>
-        <source>NIMBCHAT_ADDRESS is "%1", which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
+        <source>NIMBCHAT_ADDRESS is &quot;%1&quot;, which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
         <translation>NIMBCHAT_ADDRESS ist „%1“ und damit keine IPv4-Adresse; NIMB-Chat lauscht stattdessen auf allen Schnittstellen.</translation>
     </message>
     <message>
@@ -1796,7 +1800,7 @@
 <context>
     <name>Settings</name>
     <message>
-        <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
+        <source>The stored setting %1 cannot be &quot;%2&quot;; %3 is used instead.</source>
         <translation>Die gespeicherte Einstellung %1 kann nicht „%2“ sein; stattdessen gilt %3.</translation>
     </message>
 </context>
@@ -1903,8 +1907,8 @@
 <context>
     <name>nimb::ClearedBand</name>
     <message>
-        <source> &lt;a href="undo"&gt;Bring it back&lt;/a&gt;</source>
-        <translation> &lt;a href="undo"&gt;Wiederherstellen&lt;/a&gt;</translation>
+        <source> &lt;a href=&quot;undo&quot;&gt;Bring it back&lt;/a&gt;</source>
+        <translation> &lt;a href=&quot;undo&quot;&gt;Wiederherstellen&lt;/a&gt;</translation>
     </message>
 </context>
 <context>
@@ -2004,7 +2008,7 @@
         <translation>Alle anzeigen</translation>
     </message>
     <message>
-        <source>Nobody here is called "%1"</source>
+        <source>Nobody here is called &quot;%1&quot;</source>
         <translation>Hier heißt niemand „%1“</translation>
     </message>
 </context>
@@ -2051,10 +2055,6 @@
         <translation>Unterhaltungen werden nicht aufbewahrt.</translation>
     </message>
     <message>
-        <source> Keep them: &lt;a href="year"&gt;for a year&lt;/a&gt; / &lt;a href="ever"&gt;for ever&lt;/a&gt; / &lt;a href="no"&gt;no&lt;/a&gt;</source>
-        <translation> Aufbewahren: &lt;a href="year"&gt;ein Jahr lang&lt;/a&gt; / &lt;a href="ever"&gt;für immer&lt;/a&gt; / &lt;a href="no"&gt;nein&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Message</source>
         <translation>Nachricht</translation>
     </message>
@@ -2091,12 +2091,8 @@
         <translation>Ein Bild wurde eingefügt (%1 × %2).</translation>
     </message>
     <message>
-        <source> &lt;a href="send"&gt;Send it&lt;/a&gt; / &lt;a href="no"&gt;leave it&lt;/a&gt;</source>
-        <translation> &lt;a href="send"&gt;Senden&lt;/a&gt; / &lt;a href="no"&gt;nicht senden&lt;/a&gt;</translation>
-    </message>
-    <message>
-        <source> &lt;a href="close"&gt;Close&lt;/a&gt;</source>
-        <translation> &lt;a href="close"&gt;Schließen&lt;/a&gt;</translation>
+        <source> &lt;a href=&quot;close&quot;&gt;Close&lt;/a&gt;</source>
+        <translation> &lt;a href=&quot;close&quot;&gt;Schließen&lt;/a&gt;</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -2107,8 +2103,33 @@
         <translation>Eine Nachricht fasst %1 Zeichen; die letzten %2 des Eingefügten hatten keinen Platz.</translation>
     </message>
     <message>
-        <source> &lt;a href="rest"&gt;Copy the rest&lt;/a&gt;</source>
-        <translation> &lt;a href="rest"&gt;Rest kopieren&lt;/a&gt;</translation>
+        <source> &lt;a href=&quot;rest&quot;&gt;Copy the rest&lt;/a&gt;</source>
+        <translation> &lt;a href=&quot;rest&quot;&gt;Rest kopieren&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source> Keep them: %1</source>
+        <comment>answers that can be clicked</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for a year</source>
+        <translation type="unfinished">ein Jahr lang</translation>
+    </message>
+    <message>
+        <source>for ever</source>
+        <translation type="unfinished">für immer</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation type="unfinished">nein</translation>
+    </message>
+    <message>
+        <source>Send it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>leave it</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2268,8 +2289,8 @@
         <translation>Weitere Dateien: %1.</translation>
     </message>
     <message>
-        <source> &lt;a href="all"&gt;Show all&lt;/a&gt;</source>
-        <translation> &lt;a href="all"&gt;Alle anzeigen&lt;/a&gt;</translation>
+        <source> &lt;a href=&quot;all&quot;&gt;Show all&lt;/a&gt;</source>
+        <translation> &lt;a href=&quot;all&quot;&gt;Alle anzeigen&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Save all...</source>
@@ -2378,7 +2399,7 @@
         <translation>Alles Aufbewahrte durchsuchen</translation>
     </message>
     <message>
-        <source>Opens the history's window</source>
+        <source>Opens the history&apos;s window</source>
         <translation>Öffnet das Verlaufsfenster</translation>
     </message>
     <message>
@@ -2397,7 +2418,7 @@
 <context>
     <name>nimb::HistoryModel</name>
     <message>
-        <source>%1, %2, in "%3"</source>
+        <source>%1, %2, in &quot;%3&quot;</source>
         <translation>%1, %2, in „%3“</translation>
     </message>
     <message>
@@ -2804,7 +2825,7 @@ An %4 senden?</translation>
         <translation>Über NIMB-Chat</translation>
     </message>
     <message>
-        <source>NIMB-Chat's picture</source>
+        <source>NIMB-Chat&apos;s picture</source>
         <translation>Bild von NIMB-Chat</translation>
     </message>
     <message>
@@ -2816,7 +2837,7 @@ An %4 senden?</translation>
         <translation>Version %1</translation>
     </message>
     <message>
-        <source>A simple messenger that works with UDP/IP and it's been intended for use on a small LAN</source>
+        <source>A simple messenger that works with UDP/IP and it&apos;s been intended for use on a small LAN</source>
         <translation>Ein einfacher Messenger, der mit UDP/IP arbeitet und für kleine lokale Netzwerke gedacht ist</translation>
     </message>
     <message>
@@ -3203,7 +3224,7 @@ An %4 senden?</translation>
         <translation>Ausgewählte &amp;Unterhaltung</translation>
     </message>
     <message>
-        <source>Erase all that is kept of "%1" for good?</source>
+        <source>Erase all that is kept of &quot;%1&quot; for good?</source>
         <translation>Alles endgültig löschen, was von „%1“ aufbewahrt wird?</translation>
     </message>
     <message>
@@ -3395,7 +3416,7 @@ An %4 senden?</translation>
         <translation>Alle in...</translation>
     </message>
     <message>
-        <source>Note: you can use broadcast IP to scan a whole network (e.g. let's say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
+        <source>Note: you can use broadcast IP to scan a whole network (e.g. let&apos;s say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
         <translation>Hinweis: Mit einer Broadcast-Adresse lässt sich ein ganzes Netzwerk durchsuchen (ist Ihre IP-Adresse zum Beispiel 192.168.1.1 und Ihre Subnetzmaske 255.255.255.0, so ist Ihre Broadcast-Adresse 192.168.1.255)</translation>
     </message>
     <message>
@@ -3589,7 +3610,7 @@ An %4 senden?</translation>
         <translation>Sprache</translation>
     </message>
     <message>
-        <source>the desktop's</source>
+        <source>the desktop&apos;s</source>
         <translation>wie der Desktop</translation>
     </message>
     <message>
@@ -3673,7 +3694,7 @@ An %4 senden?</translation>
         <translation>%1, %2 Punkt</translation>
     </message>
     <message>
-        <source>the desktop's font: %1, %2 points</source>
+        <source>the desktop&apos;s font: %1, %2 points</source>
         <translation>Schrift des Desktops: %1, %2 Punkt</translation>
     </message>
     <message>
@@ -3751,7 +3772,7 @@ An %4 senden?</translation>
 <context>
     <name>nimb::frmSendContact</name>
     <message>
-        <source>NIMB-Chat - Send Contacts to '%1'</source>
+        <source>NIMB-Chat - Send Contacts to &apos;%1&apos;</source>
         <translation>NIMB-Chat – Kontakte an „%1“ senden</translation>
     </message>
     <message>

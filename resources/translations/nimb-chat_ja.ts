@@ -8,7 +8,7 @@
         <translation>すべての項目を入力してください</translation>
     </message>
     <message>
-        <source>You can't add yourself...</source>
+        <source>You can&apos;t add yourself...</source>
         <translation>自分自身は追加できません...</translation>
     </message>
     <message>
@@ -54,7 +54,7 @@
         <translation>会議 #%1 (自分が主催) - NIMB-Chat</translation>
     </message>
     <message>
-        <source>Conference #%1 (Hosted by '%2') - NIMB-Chat</source>
+        <source>Conference #%1 (Hosted by &apos;%2&apos;) - NIMB-Chat</source>
         <translation>会議 #%1 (主催: %2) - NIMB-Chat</translation>
     </message>
     <message>
@@ -131,11 +131,11 @@
         <translation>ユーザーを招待(&amp;N)</translation>
     </message>
     <message>
-        <source>Private chat with '%1'</source>
+        <source>Private chat with &apos;%1&apos;</source>
         <translation>「%1」とプライベートチャット</translation>
     </message>
     <message>
-        <source>Buzz '%1'</source>
+        <source>Buzz &apos;%1&apos;</source>
         <translation>「%1」のブザーを鳴らす</translation>
     </message>
     <message>
@@ -143,19 +143,19 @@
         <translation>%1 人のユーザーを一覧から削除</translation>
     </message>
     <message>
-        <source>Remove '%1' from the list</source>
+        <source>Remove &apos;%1&apos; from the list</source>
         <translation>「%1」を一覧から削除</translation>
     </message>
     <message>
-        <source>Send &amp;contacts to '%1'</source>
+        <source>Send &amp;contacts to &apos;%1&apos;</source>
         <translation>「%1」に連絡先を送信(&amp;C)</translation>
     </message>
     <message>
-        <source>&amp;Net send message to '%1'</source>
+        <source>&amp;Net send message to &apos;%1&apos;</source>
         <translation>「%1」に net send でメッセージを送信(&amp;N)</translation>
     </message>
     <message>
-        <source>I&amp;nvite user '%1'</source>
+        <source>I&amp;nvite user &apos;%1&apos;</source>
         <translation>「%1」を招待(&amp;N)</translation>
     </message>
     <message>
@@ -175,15 +175,15 @@
         <translation>%1 さんがいるかどうかを確認中です。確認できるまでウィンドウは開きません</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: "Rescan" asks, and shows you to your contacts</source>
+        <source>whether %1 is there is not known: &quot;Rescan&quot; asks, and shows you to your contacts</source>
         <translation>%1 さんがいるかどうかは不明です。「再スキャン」で確認できますが、自分がいることも連絡先に知られます</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: "Rescan" asks</source>
+        <source>whether %1 is there is not known: &quot;Rescan&quot; asks</source>
         <translation>%1 さんがいるかどうかは不明です。「再スキャン」で確認できます</translation>
     </message>
     <message>
-        <source>Are you sure you want to remove the user '%1' on workstation '%2' (%3) ?</source>
+        <source>Are you sure you want to remove the user &apos;%1&apos; on workstation &apos;%2&apos; (%3) ?</source>
         <translation>ワークステーション「%2」のユーザー「%1」(%3) を削除しますか?</translation>
     </message>
     <message>
@@ -198,11 +198,15 @@
         <source>Please confirm user removal</source>
         <translation>ユーザーの削除の確認</translation>
     </message>
+    <message>
+        <source>%1 contacts selected</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ContactFile</name>
     <message>
-        <source>"%1" is not the address of one computer</source>
+        <source>&quot;%1&quot; is not the address of one computer</source>
         <translation>「%1」は 1 台のコンピューターのアドレスではありません</translation>
     </message>
     <message>
@@ -443,7 +447,7 @@
         <translation>NIMB-Chat によるポート %1 の使用がシステムで許可されていません。</translation>
     </message>
     <message>
-        <source>Choose a port above 1023 in Tools, Options, the same as everybody else's.</source>
+        <source>Choose a port above 1023 in Tools, Options, the same as everybody else&apos;s.</source>
         <translation>「ツール」&gt;「オプション」で、1023 より大きいポートを指定してください。全員が同じポートを使用する必要があります。</translation>
     </message>
     <message>
@@ -467,7 +471,7 @@
         <translation>ポート %1 は別のプログラムが使用しています。</translation>
     </message>
     <message>
-        <source>"sudo ss -ulpn sport = :%1" shows which one.</source>
+        <source>&quot;sudo ss -ulpn sport = :%1&quot; shows which one.</source>
         <translation>どのプログラムかは「sudo ss -ulpn sport = :%1」で確認できます。</translation>
     </message>
     <message>
@@ -495,7 +499,7 @@
         <translation>システムが保持できる処理待ちのデータグラムは %1 KiB だけです。多数の応答が同時に届くと、一部が失われます。</translation>
     </message>
     <message>
-        <source>"sudo sysctl -w net.core.rmem_max=4194304" lets it keep more.</source>
+        <source>&quot;sudo sysctl -w net.core.rmem_max=4194304&quot; lets it keep more.</source>
         <translation>「sudo sysctl -w net.core.rmem_max=4194304」で増やすことができます。</translation>
     </message>
     <message>
@@ -575,7 +579,7 @@
         <translation>ファイアウォールが UDP ポート %1 を遮断しているかどうかは、管理者だけが確認できます。</translation>
     </message>
     <message>
-        <source>"sudo nimb-chatctl doctor" tells.</source>
+        <source>&quot;sudo nimb-chatctl doctor&quot; tells.</source>
         <translation>「sudo nimb-chatctl doctor」で確認できます。</translation>
     </message>
     <message>
@@ -583,7 +587,7 @@
         <translation>このコンピューターではファイアウォールが有効な可能性がありますが、すべての規則を表示できるプログラムがありません。</translation>
     </message>
     <message>
-        <source>"sudo nft list ruleset" and "sudo iptables-legacy -S" show them, of the packages nftables and iptables.</source>
+        <source>&quot;sudo nft list ruleset&quot; and &quot;sudo iptables-legacy -S&quot; show them, of the packages nftables and iptables.</source>
         <translation>規則は「sudo nft list ruleset」と「sudo iptables-legacy -S」で表示できます (nftables および iptables パッケージに付属)。</translation>
     </message>
     <message>
@@ -651,7 +655,7 @@
         <translation>%1 は応答しませんでした。%2 への経路は自分のアドレス %3 を通りますが、オプションではカード %4 が選択されています。そのアドレス %5 には、相手側から到達できない可能性があります。</translation>
     </message>
     <message>
-        <source>Choose "automatic" or the card of that network as your own address in Tools, Options.</source>
+        <source>Choose &quot;automatic&quot; or the card of that network as your own address in Tools, Options.</source>
         <translation>「ツール」&gt;「オプション」の「自分のアドレス」で、「自動」またはそのネットワークのカードを選択してください。</translation>
     </message>
     <message>
@@ -921,7 +925,7 @@
 <context>
     <name>FolderSource</name>
     <message>
-        <source>There is no picture to show in "%1".</source>
+        <source>There is no picture to show in &quot;%1&quot;.</source>
         <translation>「%1」には表示できる画像がありません。</translation>
     </message>
 </context>
@@ -1068,7 +1072,7 @@
         <translation>%1 さんがオフラインになりました ---</translation>
     </message>
     <message>
-        <source>%1 changed his state to '%2'  ---</source>
+        <source>%1 changed his state to &apos;%2&apos;  ---</source>
         <translation>%1 さんが状態を「%2」に変更しました ---</translation>
     </message>
     <message>
@@ -1076,7 +1080,7 @@
         <translation>%1 さんがブザーを鳴らしました ---</translation>
     </message>
     <message>
-        <source>%1 sent you the contact '%2' (%3) ---</source>
+        <source>%1 sent you the contact &apos;%2&apos; (%3) ---</source>
         <translation>%1 さんから連絡先「%2」(%3) を受信しました ---</translation>
     </message>
     <message>
@@ -1320,7 +1324,7 @@
         <translation>前回の NIMB-Chat 終了時: %1</translation>
     </message>
     <message>
-        <source>The stored personalized state "%1" begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
+        <source>The stored personalized state &quot;%1&quot; begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
         <translation>保存されている独自の状態「%1」は、先頭に画像を示す数字がないため読み込まれませんでした。NIMB-Chat を終了すると完全に失われます。</translation>
     </message>
     <message>
@@ -1409,7 +1413,7 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no "net" command.</source>
+        <source>The message was not sent: this system has no &quot;net&quot; command.</source>
         <translation>メッセージは送信されませんでした。このシステムには「net」コマンドがありません。</translation>
     </message>
     <message>
@@ -1428,11 +1432,11 @@
 <context>
     <name>NetworkScan</name>
     <message>
-        <source>"%1" is neither a name nor the address of a computer or a network, so nobody was asked.</source>
+        <source>&quot;%1&quot; is neither a name nor the address of a computer or a network, so nobody was asked.</source>
         <translation>「%1」は、コンピューターやネットワークの名前でもアドレスでもないため、問い合わせは行われませんでした。</translation>
     </message>
     <message>
-        <source>No address was found for "%1", so nobody was asked.</source>
+        <source>No address was found for &quot;%1&quot;, so nobody was asked.</source>
         <translation>「%1」のアドレスが見つからないため、問い合わせは行われませんでした。</translation>
     </message>
     <message>
@@ -1572,7 +1576,7 @@
         <translation>すべての連絡先に、オンラインかどうかを問い合わせます</translation>
     </message>
     <message>
-        <source>Only %1 personalized states are kept: "%2" lasts until NIMB-Chat ends.</source>
+        <source>Only %1 personalized states are kept: &quot;%2&quot; lasts until NIMB-Chat ends.</source>
         <translation>独自の状態は %1 個までしか保存されません。「%2」は NIMB-Chat を終了すると失われます。</translation>
     </message>
 </context>
@@ -1606,7 +1610,7 @@
         <translation>NIMB-Chat で読み取れる画像ではありません。</translation>
     </message>
     <message>
-        <source>"%1" cannot be opened.</source>
+        <source>&quot;%1&quot; cannot be opened.</source>
         <translation>「%1」を開けません。</translation>
     </message>
 </context>
@@ -1660,7 +1664,7 @@
         <translation>%1 さんがオフラインになりました</translation>
     </message>
     <message>
-        <source>%1 changed his state to '%2'</source>
+        <source>%1 changed his state to &apos;%2&apos;</source>
         <translation>%1 さんが状態を「%2」に変更しました</translation>
     </message>
 </context>
@@ -1688,7 +1692,7 @@
 <context>
     <name>Program</name>
     <message>
-        <source>NIMBCHAT_ADDRESS is "%1", which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
+        <source>NIMBCHAT_ADDRESS is &quot;%1&quot;, which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
         <translation>NIMBCHAT_ADDRESS に指定された「%1」は IPv4 アドレスではありません。代わりに、NIMB-Chat はすべてのインターフェイスで待ち受けます。</translation>
     </message>
     <message>
@@ -1794,7 +1798,7 @@
 <context>
     <name>Settings</name>
     <message>
-        <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
+        <source>The stored setting %1 cannot be &quot;%2&quot;; %3 is used instead.</source>
         <translation>保存されている設定 %1 の値「%2」は使用できません。代わりに %3 を使用します。</translation>
     </message>
 </context>
@@ -1901,8 +1905,8 @@
 <context>
     <name>nimb::ClearedBand</name>
     <message>
-        <source> &lt;a href="undo"&gt;Bring it back&lt;/a&gt;</source>
-        <translation> &lt;a href="undo"&gt;元に戻す&lt;/a&gt;</translation>
+        <source> &lt;a href=&quot;undo&quot;&gt;Bring it back&lt;/a&gt;</source>
+        <translation> &lt;a href=&quot;undo&quot;&gt;元に戻す&lt;/a&gt;</translation>
     </message>
 </context>
 <context>
@@ -2002,7 +2006,7 @@
         <translation>全員を表示</translation>
     </message>
     <message>
-        <source>Nobody here is called "%1"</source>
+        <source>Nobody here is called &quot;%1&quot;</source>
         <translation>「%1」という名前の人はいません</translation>
     </message>
 </context>
@@ -2049,10 +2053,6 @@
         <translation>会話は保存されません。</translation>
     </message>
     <message>
-        <source> Keep them: &lt;a href="year"&gt;for a year&lt;/a&gt; / &lt;a href="ever"&gt;for ever&lt;/a&gt; / &lt;a href="no"&gt;no&lt;/a&gt;</source>
-        <translation> 保存期間: &lt;a href="year"&gt;1 年間&lt;/a&gt; / &lt;a href="ever"&gt;無期限&lt;/a&gt; / &lt;a href="no"&gt;保存しない&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Message</source>
         <translation>メッセージ</translation>
     </message>
@@ -2089,12 +2089,8 @@
         <translation>画像が貼り付けられました (%1 × %2)。</translation>
     </message>
     <message>
-        <source> &lt;a href="send"&gt;Send it&lt;/a&gt; / &lt;a href="no"&gt;leave it&lt;/a&gt;</source>
-        <translation> &lt;a href="send"&gt;送信する&lt;/a&gt; / &lt;a href="no"&gt;やめる&lt;/a&gt;</translation>
-    </message>
-    <message>
-        <source> &lt;a href="close"&gt;Close&lt;/a&gt;</source>
-        <translation> &lt;a href="close"&gt;閉じる&lt;/a&gt;</translation>
+        <source> &lt;a href=&quot;close&quot;&gt;Close&lt;/a&gt;</source>
+        <translation> &lt;a href=&quot;close&quot;&gt;閉じる&lt;/a&gt;</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -2105,8 +2101,33 @@
         <translation>1 つのメッセージは %1 文字までです。貼り付けた内容の最後の %2 文字が入り切りませんでした。</translation>
     </message>
     <message>
-        <source> &lt;a href="rest"&gt;Copy the rest&lt;/a&gt;</source>
-        <translation> &lt;a href="rest"&gt;残りをコピー&lt;/a&gt;</translation>
+        <source> &lt;a href=&quot;rest&quot;&gt;Copy the rest&lt;/a&gt;</source>
+        <translation> &lt;a href=&quot;rest&quot;&gt;残りをコピー&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source> Keep them: %1</source>
+        <comment>answers that can be clicked</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for a year</source>
+        <translation type="unfinished">1 年間</translation>
+    </message>
+    <message>
+        <source>for ever</source>
+        <translation type="unfinished">無期限</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation type="unfinished">保存しない</translation>
+    </message>
+    <message>
+        <source>Send it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>leave it</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2266,8 +2287,8 @@
         <translation>ほかのファイル: %1 個。</translation>
     </message>
     <message>
-        <source> &lt;a href="all"&gt;Show all&lt;/a&gt;</source>
-        <translation> &lt;a href="all"&gt;すべて表示&lt;/a&gt;</translation>
+        <source> &lt;a href=&quot;all&quot;&gt;Show all&lt;/a&gt;</source>
+        <translation> &lt;a href=&quot;all&quot;&gt;すべて表示&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Save all...</source>
@@ -2376,7 +2397,7 @@
         <translation>保存されているすべての会話を検索</translation>
     </message>
     <message>
-        <source>Opens the history's window</source>
+        <source>Opens the history&apos;s window</source>
         <translation>履歴ウィンドウを開きます</translation>
     </message>
     <message>
@@ -2395,7 +2416,7 @@
 <context>
     <name>nimb::HistoryModel</name>
     <message>
-        <source>%1, %2, in "%3"</source>
+        <source>%1, %2, in &quot;%3&quot;</source>
         <translation>%1、%2、「%3」</translation>
     </message>
     <message>
@@ -2801,7 +2822,7 @@ Send it to %4?</source>
         <translation>NIMB-Chat のバージョン情報</translation>
     </message>
     <message>
-        <source>NIMB-Chat's picture</source>
+        <source>NIMB-Chat&apos;s picture</source>
         <translation>NIMB-Chat の画像</translation>
     </message>
     <message>
@@ -2813,7 +2834,7 @@ Send it to %4?</source>
         <translation>バージョン %1</translation>
     </message>
     <message>
-        <source>A simple messenger that works with UDP/IP and it's been intended for use on a small LAN</source>
+        <source>A simple messenger that works with UDP/IP and it&apos;s been intended for use on a small LAN</source>
         <translation>UDP/IP で動作する、小規模な LAN 向けのシンプルなメッセンジャー</translation>
     </message>
     <message>
@@ -3200,7 +3221,7 @@ Send it to %4?</source>
         <translation>選択した会話(&amp;C)</translation>
     </message>
     <message>
-        <source>Erase all that is kept of "%1" for good?</source>
+        <source>Erase all that is kept of &quot;%1&quot; for good?</source>
         <translation>「%1」の保存内容をすべて完全に消去しますか?</translation>
     </message>
     <message>
@@ -3392,7 +3413,7 @@ Send it to %4?</source>
         <translation>全員の検索先...</translation>
     </message>
     <message>
-        <source>Note: you can use broadcast IP to scan a whole network (e.g. let's say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
+        <source>Note: you can use broadcast IP to scan a whole network (e.g. let&apos;s say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
         <translation>注: ブロードキャストアドレスを使用すると、ネットワーク全体をスキャンできます (たとえば、IP アドレスが 192.168.1.1、サブネットマスクが 255.255.255.0 の場合、ブロードキャストアドレスは 192.168.1.255 です)</translation>
     </message>
     <message>
@@ -3586,7 +3607,7 @@ Send it to %4?</source>
         <translation>言語</translation>
     </message>
     <message>
-        <source>the desktop's</source>
+        <source>the desktop&apos;s</source>
         <translation>デスクトップの設定</translation>
     </message>
     <message>
@@ -3670,7 +3691,7 @@ Send it to %4?</source>
         <translation>%1、%2 ポイント</translation>
     </message>
     <message>
-        <source>the desktop's font: %1, %2 points</source>
+        <source>the desktop&apos;s font: %1, %2 points</source>
         <translation>デスクトップのフォント: %1、%2 ポイント</translation>
     </message>
     <message>
@@ -3748,7 +3769,7 @@ Send it to %4?</source>
 <context>
     <name>nimb::frmSendContact</name>
     <message>
-        <source>NIMB-Chat - Send Contacts to '%1'</source>
+        <source>NIMB-Chat - Send Contacts to &apos;%1&apos;</source>
         <translation>NIMB-Chat - 「%1」に連絡先を送信</translation>
     </message>
     <message>

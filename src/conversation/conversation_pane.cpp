@@ -472,8 +472,15 @@ void ConversationPane::showRowsOfEmoji()
     if (!m_emojiPicker)
         return;
     m_emojiPicker->setLeastRows(EmojiPicker::fewestRows);
-    layout()->activate(); // or the window would count with what was there before
-    const int room = roomOnScreen(*window()).height() - window()->layout()->totalMinimumSize().height();
+    // From the inside outwards, or the window would count with what was there before.
+    for (QWidget *widget = this; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget()) {
+        if (QLayout *const inner = widget->layout())
+            inner->activate();
+    }
+    const QLayout &all = *window()->layout();
+    // A band whose sentence takes two lines needs more than the least that a layout knows of.
+    const int needed = qMax(all.totalMinimumSize().height(), all.totalMinimumHeightForWidth(window()->width()));
+    const int room = roomOnScreen(*window()).height() - needed;
     m_emojiPicker->setLeastRows(m_emojiPicker->rowsWith(room));
 }
 

@@ -184,9 +184,7 @@ void EarlierMessages::makeRoom()
         cursor.setBlockFormat(LogMarks::withRoom(block.blockFormat(), m_text.defaultFont()));
     }
     cursor.endEditBlock();
-    QTextFrameFormat margins = m_text.rootFrame()->frameFormat();
-    margins.setRightMargin(LogMarks::marginRight(m_text.defaultFont()));
-    m_text.rootFrame()->setFrameFormat(margins);
+    LogMarks::leaveRoomForTimes(m_text, m_text.defaultFont());
 }
 
 int EarlierMessages::layOut(int width, const QFont &font)

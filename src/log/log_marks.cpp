@@ -102,9 +102,16 @@ void paintWaiting(QPainter &painter, const QRectF &place, const QColor &colour)
     painter.restore();
 }
 
+/// The side at which a reader's lines end.
+bool timesAreAtTheLeft()
+{
+    return QGuiApplication::layoutDirection() == Qt::RightToLeft;
+}
+
 QRect placeOfTime(const LogMarks::Seen &line, int width, const QFont &font)
 {
-    return {0, qRound(line.place.top()), width - markEdge, QFontMetrics(font).height()};
+    const int left = timesAreAtTheLeft() ? markEdge : 0;
+    return {left, qRound(line.place.top()), width - markEdge, QFontMetrics(font).height()};
 }
 
 } // namespace
@@ -230,7 +237,8 @@ QRectF LogMarks::placeOfFate(const Seen &line, int width, const QFont &font)
 {
     const double side = QFontMetrics(smaller(font)).height() * 0.8;
     const QRect time = placeOfTime(line, width, font);
-    return {time.right() - side, time.center().y() - side / 2, side, side};
+    const double left = timesAreAtTheLeft() ? time.left() : time.right() - side;
+    return {left, time.center().y() - side / 2, side, side};
 }
 
 int LogMarks::numberOf(const QTextBlockFormat &line)
@@ -256,9 +264,15 @@ int LogMarks::heightOfLine(const QFont &font)
     return qRound(QFontMetrics(font).height() * lineHeight / 100) + gapOfWriter;
 }
 
-int LogMarks::marginRight(const QFont &font)
+void LogMarks::leaveRoomForTimes(QTextDocument &log, const QFont &font)
 {
-    return QFontMetrics(smaller(font)).horizontalAdvance(QStringLiteral("00:00")) + markEdge + 2 * besideMark;
+    const int room = QFontMetrics(smaller(font)).horizontalAdvance(QStringLiteral("00:00")) + markEdge + 2 * besideMark;
+    QTextFrameFormat margins = log.rootFrame()->frameFormat();
+    if (timesAreAtTheLeft())
+        margins.setLeftMargin(room);
+    else
+        margins.setRightMargin(room);
+    log.rootFrame()->setFrameFormat(margins);
 }
 
 void LogMarks::paintGround(QPainter &painter, const Seen &line, const QPalette &palette)
@@ -298,11 +312,12 @@ void LogMarks::paintMarks(QPainter &painter, const Seen &line, const QPalette &p
             paintUndelivered(painter, place, contrastingOn(QColor(0x7A, 0x41, 0x00), palette));
         else
             paintWaiting(painter, place, muted);
-        time.setRight(time.right() - qRound(place.width()) - besideMark / 2);
+        const int taken = qRound(place.width()) + besideMark / 2;
+        time.adjust(timesAreAtTheLeft() ? taken : 0, 0, timesAreAtTheLeft() ? 0 : -taken, 0);
     }
     if (format.hasProperty(timeShown)) {
         painter.setPen(muted);
-        painter.drawText(time, Qt::AlignRight | Qt::AlignVCenter, timeOf(format));
+        painter.drawText(time, Qt::AlignTrailing | Qt::AlignVCenter, timeOf(format));
     }
 }
 

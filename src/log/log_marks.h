@@ -40,8 +40,8 @@ public:
     static bool isNew(const QTextBlockFormat &line);
     /// The same line with the room that what is painted above it needs.
     static QTextBlockFormat withRoom(QTextBlockFormat line, const QFont &font);
-    /// Room at the right side in which times are painted, in pixels.
-    static int marginRight(const QFont &font);
+    /// At the side at which times are painted.
+    static void leaveRoomForTimes(QTextDocument &log, const QFont &font);
     /// Of a line with the gap to the one before, in pixels.
     static int heightOfLine(const QFont &font);
     static bool hasRoomAbove(const QTextBlockFormat &line);

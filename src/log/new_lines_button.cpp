@@ -42,9 +42,11 @@ void NewLinesButton::place()
     const int width = qMax(height, arrowSide + besideText + fontMetrics().horizontalAdvance(text()) + 2 * around);
     const QRect shown = m_log.viewport()->geometry();
     // Where times are painted at the margin, it leaves them free.
-    const int margin = qRound(m_log.document()->rootFrame()->frameFormat().rightMargin());
-    setGeometry(shown.right() - width - qMax(around, margin + besideTimes), shown.bottom() - height - around, width,
-                height);
+    const QTextFrameFormat margins = m_log.document()->rootFrame()->frameFormat();
+    const bool isAtTheLeft = layoutDirection() == Qt::RightToLeft;
+    const int margin = qMax(around, qRound(isAtTheLeft ? margins.leftMargin() : margins.rightMargin()) + besideTimes);
+    const int left = isAtTheLeft ? shown.left() + margin : shown.right() - width - margin;
+    setGeometry(left, shown.bottom() - height - around, width, height);
 }
 
 bool NewLinesButton::eventFilter(QObject *watched, QEvent *event)

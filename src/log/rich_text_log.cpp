@@ -581,9 +581,7 @@ void RichTextLogEdit::makeRoom()
     placeEarlier();
     if (!m_hasMargin)
         return;
-    QTextFrameFormat margins = document()->rootFrame()->frameFormat();
-    margins.setRightMargin(LogMarks::marginRight(font()));
-    document()->rootFrame()->setFrameFormat(margins);
+    LogMarks::leaveRoomForTimes(*document(), font());
 }
 
 void RichTextLogEdit::clear()

@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTest>
+#include <QTextFrame>
 #include <QToolButton>
 
 #include <map>
@@ -106,6 +107,49 @@ TEST_F(LogMarksTest, TheTimeStandsBesideTheFirstLineOfAMinute)
     EXPECT_FALSE(isBlank(marginOf(2)));
 }
 
+/// The application is laid out from the right to the left as long as this is there.
+class FromTheRight
+{
+public:
+    FromTheRight() { QGuiApplication::setLayoutDirection(Qt::RightToLeft); }
+    ~FromTheRight() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
+    FromTheRight(const FromTheRight &) = delete;
+    FromTheRight &operator=(const FromTheRight &) = delete;
+};
+
+TEST(LogMarksFromTheRight, TimesAndMarksStandAtTheOtherSideAndNoTextRunsUnderThem)
+{
+    const FromTheRight direction;
+    RichTextLogEdit log;
+    log.resize(400, 300);
+    log.show();
+    for (const MessageFate fate : {MessageFate::sent, MessageFate::sent, MessageFate::lost}) {
+        log.setSelMessage(LogMessage{.writer = QStringLiteral("Me"), .time = saturday, .isOwn = true, .fate = fate});
+        appendText(log, QString(90, QChar(0x05D0)) + QStringLiteral("\r\n"), 0);
+    }
+    log.setSelMessage({});
+    log.writeGathered();
+    QCoreApplication::processEvents();
+    const QImage picture = log.viewport()->grab().toImage();
+    const QTextFrameFormat margins = log.document()->rootFrame()->frameFormat();
+    EXPECT_GT(margins.leftMargin(), 30);
+    EXPECT_LT(margins.rightMargin(), 10);
+    std::vector<bool> hasInk;
+    for (int message = 0; message < 3; ++message) {
+        const QRectF line
+            = log.document()->documentLayout()->blockBoundingRect(log.document()->findBlockByNumber(message));
+        const QImage strip
+            = picture.copy(0, qRound(line.top()) + 1, qRound(margins.leftMargin()) - 2, log.fontMetrics().height() - 2);
+        std::set<QRgb> colours;
+        for (int y = 0; y < strip.height(); ++y) {
+            for (int x = 0; x < strip.width(); ++x)
+                colours.insert(strip.pixel(x, y));
+        }
+        hasInk.push_back(colours.size() > 1);
+    }
+    EXPECT_THAT(hasInk, testing::ElementsAre(true, false, true));
+}
+
 TEST(EarlierMessagesTest, TheMarkOfWhatIsNewGoesUpToWhereReadingStoppedAsThatIsLoaded)
 {
     const auto page = [](int first, int count) {
@@ -152,7 +196,8 @@ TEST_F(LogMarksTest, TheButtonToTheNewestLineLeavesTheTimesFree)
     ann(QStringLiteral("new"), saturday.addSecs(3600));
     const auto &button = *log.findChild<QToolButton *>(QStringLiteral("newLinesBtn"));
     ASSERT_TRUE(button.isVisible());
-    const int times = log.viewport()->geometry().right() - LogMarks::marginRight(log.font());
+    const int times
+        = log.viewport()->geometry().right() - qRound(log.document()->rootFrame()->frameFormat().rightMargin());
     EXPECT_LE(button.geometry().right() + 5, times);
     EXPECT_GT(button.geometry().right() + 20, times) << "but stands at the side";
 }

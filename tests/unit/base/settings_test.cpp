@@ -87,21 +87,21 @@ TEST(Settings, SavingKeepsItsOrder)
 {
     MemoryStore store;
     saveSettings(store, Common(), {});
-    EXPECT_THAT(store.order,
-                ElementsAre("Settings/UDPPort", "Options/ShowStatusOnPrivate", "Options/BuzzLocal",
-                            "Options/BuzzRemote", "Options/PrivateBehaviour", "Options/DontDestroyWindow",
-                            "Options/NotifyWin", "Options/LiveType", "Options/CloseButtonDoesMinimize",
-                            "Options/NotifyMessages", "Options/NotifyMessageText", "Options/SoundMessage",
-                            "Options/SoundOnline", "Options/SoundInvitation", "Settings/MainLeft", "Settings/MainTop",
-                            "Settings/MainHeight", "Settings/AvatarHead", "Settings/AvatarBody",
-                            "Settings/AutoReplyonBusyActive", "Settings/AutoReplyonAwayActive",
-                            "Settings/AutoReplyonBusyText", "Settings/AutoReplyonawayText", "Settings/StandardFontSize",
-                            "Settings/StandardFontFace", "Settings/StandardFontStyle", "Settings/OwnNetworkCard",
-                            "Options/Language", "Options/RecentEmoji", "Options/SpellingLanguage", "Options/SpellingWords",
-                            "Options/KeepHistory", "Options/HistoryLeftOut", "Options/FilesExplained",
-                            "Settings/PersonalizedState1", "Settings/PersonalizedState2", "Settings/PersonalizedState3",
-                            "Settings/PersonalizedState4", "Settings/PersonalizedState5", "Settings/PersonalizedState6",
-                            "Settings/PersonalizedState7", "Settings/PersonalizedState8"));
+    EXPECT_THAT(
+        store.order,
+        ElementsAre("Settings/UDPPort", "Options/ShowStatusOnPrivate", "Options/BuzzLocal", "Options/BuzzRemote",
+                    "Options/PrivateBehaviour", "Options/DontDestroyWindow", "Options/NotifyWin", "Options/LiveType",
+                    "Options/CloseButtonDoesMinimize", "Options/NotifyMessages", "Options/NotifyMessageText",
+                    "Options/SoundMessage", "Options/SoundOnline", "Options/SoundInvitation", "Settings/MainLeft",
+                    "Settings/MainTop", "Settings/MainHeight", "Settings/AvatarHead", "Settings/AvatarBody",
+                    "Settings/AutoReplyonBusyActive", "Settings/AutoReplyonAwayActive", "Settings/AutoReplyonBusyText",
+                    "Settings/AutoReplyonawayText", "Settings/StandardFontSize", "Settings/StandardFontFace",
+                    "Settings/StandardFontStyle", "Settings/OwnNetworkCard", "Options/Language", "Options/RecentEmoji",
+                    "Options/SpellingLanguage", "Options/SpellingWords", "Options/KeepHistory",
+                    "Options/HistoryLeftOut", "Options/FilesExplained", "Settings/PersonalizedState1",
+                    "Settings/PersonalizedState2", "Settings/PersonalizedState3", "Settings/PersonalizedState4",
+                    "Settings/PersonalizedState5", "Settings/PersonalizedState6", "Settings/PersonalizedState7",
+                    "Settings/PersonalizedState8"));
 }
 
 TEST(Settings, RecentEmojiAreStoredWithBlanksBetweenAndReadNoLongerThanTheyAre)
