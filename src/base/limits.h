@@ -96,6 +96,11 @@ constexpr int avatarsOfStrangers = 1000;
 constexpr qint64 pictureFilePixels = 50'000'000;
 /// MiB that Qt may take for one: the above with its largest pixels of eight bytes.
 constexpr int pictureFileMemory = 512;
+/// Pixels of a picture of somebody else's that is shown small: what most cameras and phones make. One of 5 MB may hold
+/// any number of one colour, which only some formats can be read without; these take 100 MB, and about half a second.
+constexpr qint64 shownPicturePixels = 25'000'000;
+/// After so long it is no picture that anybody means to be looked at: JPEG may say the same pixel thousands of times.
+constexpr std::chrono::seconds shownPictureTime{10};
 /// Invitations that wait: a host that sends more of them wants to annoy.
 constexpr int invitations = 1000;
 /// Of one host: it has five conferences at most, and now and then a new one.

@@ -68,7 +68,8 @@ bool isMeantForMessage(const QKeyEvent &event)
 
 ConversationPane::ConversationPane(Conversation &conversation, const ConversationTools &tools, QWidget *parent)
     : QWidget(parent), m_conversation(&conversation), m_links(tools.links), m_openHistory(tools.openHistory),
-      m_openTransfers(tools.openTransfers), m_emoji(tools.emoji), m_folders(tools.folders), m_scratch(tools.scratch)
+      m_openTransfers(tools.openTransfers), m_emoji(tools.emoji), m_folders(tools.folders), m_scratch(tools.scratch),
+      m_pictures(tools.pictures)
 {
     buildControls();
     connectControls();
@@ -277,7 +278,7 @@ void ConversationPane::showFileTrouble(const QString &sentence)
 void ConversationPane::addReceivedFile(int number)
 {
     if (!m_files) {
-        m_files = new FilePanel(m_conversation->transfers().received, m_folders, m_scratch, this);
+        m_files = new FilePanel(m_conversation->transfers().received, m_folders, m_scratch, m_pictures, this);
         connect(m_files, &FilePanel::allWanted, this, m_openTransfers);
         m_column->insertWidget(m_column->indexOf(m_cleared->strip()), m_files);
     }

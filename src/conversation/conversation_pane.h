@@ -33,6 +33,7 @@ class LogRoom;
 class MessageInput;
 class RTFSubClass;
 class ScratchFolder;
+class SmallPictures;
 class Spelling;
 class ToolRow;
 
@@ -47,6 +48,7 @@ struct ConversationTools {
     std::function<void()> openTransfers; ///< the window of all files
     LinkOpener &folders;                 ///< opens a folder of this machine
     ScratchFolder &scratch;              ///< for pictures that are shown or sent and not kept
+    SmallPictures &pictures;             ///< reads those of others
 };
 
 /// What a window has beside it, it makes itself and puts between the parts of the pane or around it.
@@ -149,6 +151,7 @@ private:
     EmojiStock &m_emoji;
     LinkOpener &m_folders;
     ScratchFolder &m_scratch;
+    SmallPictures &m_pictures;
     QString m_pastedPicture; ///< path of what may be sent
     int m_pastedPictures = 0;
 

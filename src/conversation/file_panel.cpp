@@ -20,13 +20,11 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStandardPaths>
-#include <QThread>
 #include <QToolButton>
 #include <QUrl>
 
 #include <algorithm>
 #include <iterator>
-#include <memory>
 
 namespace nimb
 {
@@ -55,8 +53,9 @@ QString folderToSaveIn(const ReceivedFiles &files)
 
 // --- the panel
 
-FilePanel::FilePanel(ReceivedFiles &files, LinkOpener &folders, ScratchFolder &scratch, QWidget *parent)
-    : QWidget(parent), m_files(files), m_folders(folders), m_scratch(scratch)
+FilePanel::FilePanel(ReceivedFiles &files, LinkOpener &folders, ScratchFolder &scratch, SmallPictures &pictures,
+                     QWidget *parent)
+    : QWidget(parent), m_files(files), m_folders(folders), m_scratch(scratch), m_pictures(pictures)
 {
     auto *const column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -75,7 +74,7 @@ FilePanel::FilePanel(ReceivedFiles &files, LinkOpener &folders, ScratchFolder &s
 void FilePanel::add(int number)
 {
     makeRoom();
-    auto *const row = new FileRow(m_files, number, m_folders, m_scratch, this);
+    auto *const row = new FileRow(m_files, number, m_folders, m_scratch, m_pictures, this);
     connect(row, &FileRow::closed, this, &FilePanel::remove);
     layout()->addWidget(row);
     m_rows.push_back(row);
@@ -168,8 +167,9 @@ void FilePanel::remove(int number)
 
 // --- a row
 
-FileRow::FileRow(ReceivedFiles &files, int number, LinkOpener &folders, ScratchFolder &scratch, QWidget *parent)
-    : QWidget(parent), m_files(files), m_number(number), m_folders(folders), m_scratch(scratch)
+FileRow::FileRow(ReceivedFiles &files, int number, LinkOpener &folders, ScratchFolder &scratch, SmallPictures &pictures,
+                 QWidget *parent)
+    : QWidget(parent), m_files(files), m_number(number), m_folders(folders), m_scratch(scratch), m_pictures(pictures)
 {
     setObjectName(QStringLiteral("fileRow"));
     setAutoFillBackground(true);
@@ -187,12 +187,7 @@ FileRow::FileRow(ReceivedFiles &files, int number, LinkOpener &folders, ScratchF
     refresh();
 }
 
-/// The thread ends before what it was made for.
-FileRow::~FileRow()
-{
-    if (m_reading)
-        m_reading->wait();
-}
+FileRow::~FileRow() = default;
 
 QWidget *FileRow::makeFirstLine()
 {
@@ -296,23 +291,17 @@ void FileRow::openFolder()
         failed();
 }
 
-/// Read on a thread of its own: a large one takes long, and comes from somebody else.
+/// Elsewhere: a large one takes long, and comes from somebody else.
 void FileRow::readPicture(const QString &path)
 {
     if (path == m_shownPicture)
         return;
     m_shownPicture = path;
-    if (m_reading)
-        m_reading->wait();
     const qreal scale = devicePixelRatioF();
-    const auto picture = std::make_shared<QImage>();
-    m_reading.reset(QThread::create(
-        [path, picture, room = (largestShownPicture * scale).toSize()] { *picture = smallPicture(path, room); }));
-    connect(m_reading.get(), &QThread::finished, this, [this, picture, scale] {
-        picture->setDevicePixelRatio(scale);
-        showPicture(*picture);
+    m_reading = m_pictures.read(path, (largestShownPicture * scale).toSize(), [this, scale](QImage picture) {
+        picture.setDevicePixelRatio(scale);
+        showPicture(picture);
     });
-    m_reading->start();
 }
 
 void FileRow::showPicture(const QImage &picture)

@@ -1,9 +1,9 @@
 #include "files/http_file_fetcher.h"
 
+#include "base/event_loop_calls.h"
 #include "base/limits.h"
 #include "files/file_name.h"
 #include "files/http_head.h"
-#include "platform/event_loop_calls.h"
 #include "platform/origin_mark.h"
 #include "protocol/address_text.h"
 

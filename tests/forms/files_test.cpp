@@ -21,6 +21,8 @@
 #include <QTest>
 #include <QToolButton>
 
+#include <sys/stat.h>
+
 namespace nimb::test
 {
 namespace
@@ -105,6 +107,7 @@ protected:
     }
     void tell(const FetchedBytes &fetched) { windows.fileFetcher.told(fetched); }
 
+    QFile slow; ///< a pipe that is read, which waits for whoever writes
     RealWindows windows{{{"10.0.0.2", "Ann"}}};
     QTemporaryDir folder;
 };
@@ -341,6 +344,49 @@ TEST(PictureFormat, IsToldByTheFirstBytesAndOneOfFour)
     EXPECT_EQ(pictureFormatOf("RIFF1234WEBP"), "webp");
     for (const char *const other : {"", "BM", "<svg", "RIFF1234WAVE", "GIF", "\x89PNG", "%PDF"})
         EXPECT_EQ(pictureFormatOf(other), "") << other;
+}
+
+/// One of very few bytes, however large.
+QString onePicture(const QTemporaryDir &folder, QSize size)
+{
+    QImage picture(size, QImage::Format_Mono);
+    picture.fill(1);
+    const QString path = folder.filePath(QStringLiteral("%1.png").arg(size.width()));
+    EXPECT_TRUE(picture.save(path));
+    return path;
+}
+
+TEST(PictureOfOthers, HasNoMorePixelsThanAreWorthWhile)
+{
+    const QTemporaryDir folder;
+    const auto isUnwanted = [] { return false; };
+    EXPECT_EQ(smallPicture(onePicture(folder, {5000, 5000}), {90, 90}, isUnwanted).size(), QSize(90, 90));
+    EXPECT_TRUE(smallPicture(onePicture(folder, {5001, 5000}), {90, 90}, isUnwanted).isNull());
+}
+
+TEST(PictureOfOthers, IsReadNoFurtherOnceNobodyWantsIt)
+{
+    const QTemporaryDir folder;
+    int asked = 0;
+    const QImage picture = smallPicture(onePicture(folder, {5000, 5000}), {90, 90}, [&asked] { return ++asked > 1; });
+    EXPECT_TRUE(picture.isNull());
+    EXPECT_GT(asked, 1);
+}
+
+TEST_F(FilesInWindows, ARowIsHiddenWhileItsPictureIsRead)
+{
+    windows.arrive("10.0.0.2", annsPicture);
+    receiveAnother(1);
+    FileRow &row = *rows().front();
+    received().look(row.number(), folder.path());
+    const QString path = folder.filePath(QStringLiteral("a.png"));
+    ASSERT_EQ(mkfifo(qPrintable(path), 0600), 0);
+    slow.setFileName(path);
+    ASSERT_TRUE(slow.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
+    tell({.number = row.number(), .what = What::done, .path = path, .isChecked = true});
+    controlOf<QToolButton>(row, "closeRowBtn").click();
+    EXPECT_THAT(rows(), SizeIs(1)) << "or it waits for ever";
+    EXPECT_GT(slow.write("This is no picture."), 0);
 }
 
 TEST_F(FilesInWindows, ThreeRowsAreShownAndThoseUnderWayStay)
