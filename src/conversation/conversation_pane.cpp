@@ -228,8 +228,7 @@ void ConversationPane::connectFiles()
     auto *const sendFile = named(new QAction(tr("Send Fil&es..."), this), "logSendFile");
     connect(sendFile, &QAction::triggered, this, &ConversationPane::askForSentFiles);
     auto *const sendFolder = named(new QAction(tr("Send a Fol&der..."), this), "logSendFolder");
-    connect(sendFolder, &QAction::triggered, this,
-            [this] { askForSentFolder(*window(), [this](const QString &path) { sendFiles({path}); }); });
+    connect(sendFolder, &QAction::triggered, this, &ConversationPane::askForFolderToSend);
     m_outtext->setFurtherCommands({sendFile, sendFolder});
 }
 
@@ -237,7 +236,14 @@ void ConversationPane::connectFiles()
 
 void ConversationPane::askForSentFiles()
 {
-    askForFiles(*window(), [this](const QStringList &paths) { sendFiles(paths); });
+    if (m_conversation && m_conversation->mayFilesBeSent())
+        askForFiles(*window(), [this](const QStringList &paths) { sendFiles(paths); });
+}
+
+void ConversationPane::askForFolderToSend()
+{
+    if (m_conversation && m_conversation->mayFilesBeSent())
+        askForSentFolder(*window(), [this](const QString &path) { sendFiles({path}); });
 }
 
 void ConversationPane::sendFiles(const QStringList &paths)
@@ -249,6 +255,8 @@ void ConversationPane::sendFiles(const QStringList &paths)
 /// Not at once: who pastes may have meant a text.
 void ConversationPane::offerPicture(const QImage &picture)
 {
+    if (!m_conversation || !m_conversation->mayFilesBeSent())
+        return;
     const QString name = tr("Picture %1.png").arg(++m_pastedPictures);
     const QString path = QDir(m_scratch.path()).filePath(QStringLiteral("%1-%2").arg(quintptr(this)).arg(name));
     if (m_scratch.path().isEmpty() || !picture.save(path, "PNG"))

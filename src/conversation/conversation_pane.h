@@ -137,6 +137,7 @@ private:
     void offerRest(const QString &rest);
     void sendFiles(const QStringList &paths);
     void askForSentFiles();
+    void askForFolderToSend();
     void offerPicture(const QImage &picture);
     void fileBand_Click(const QString &answer);
     void Form_Unload();

@@ -231,6 +231,35 @@ TEST_F(FilesInWindows, WhatWasNotSentIsSaid)
     EXPECT_FALSE(band.isVisibleTo(&form()));
 }
 
+TEST_F(FilesInWindows, WhoeverIsOfflineGetsNoneAndNobodyHasToChooseOneFirst)
+{
+    windows.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");
+    const auto isAsked = [] {
+        return std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget *window) {
+            return qobject_cast<const QFileDialog *>(window) && window->isVisible();
+        });
+    };
+    auto &band = control<QLabel>("fileBand");
+    const auto isSaid = [&] {
+        EXPECT_TRUE(band.isVisibleTo(&form()));
+        EXPECT_THAT(band.text().toStdString(),
+                    testing::StartsWith("Ann is offline: files can be sent when Ann is back."));
+        Q_EMIT band.linkActivated(QStringLiteral("close"));
+    };
+    control<QToolButton>("sendFileBtn").click();
+    isSaid();
+    drop(form(), {QUrl::fromLocalFile(QStringLiteral("/a"))});
+    isSaid();
+    QGuiApplication::clipboard()->setImage(QImage(8, 6, QImage::Format_RGB32));
+    control<QPlainTextEdit>("intext").paste();
+    isSaid();
+    windows.click(0, Qt::RightButton);
+    windows.entry("mnuSendFile").trigger();
+    isSaid();
+    EXPECT_FALSE(isAsked());
+    EXPECT_THAT(paths(), IsEmpty());
+}
+
 TEST(FilesWithoutAServer, AreNotOfferedToBeSent)
 {
     RealWindows windows{{{"10.0.0.2", "Ann"}}};

@@ -146,6 +146,34 @@ TEST_F(TransfersTest, WhatIsReadyWhenTheWindowHasGoneIsNotOffered)
     EXPECT_THAT(copy.fileServer.withdrawn, ElementsAre(served().token));
 }
 
+TEST_F(TransfersTest, NothingIsOfferedToWhoeverIsOffline)
+{
+    PrivateChat &annsChat = chat();
+    copy.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");
+    copy.sent();
+    annsChat.sendFiles({QStringLiteral("/a")});
+    EXPECT_THAT(copy.fileServer.served, IsEmpty());
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_THAT(view().fileTroubles,
+                ElementsAre(QStringLiteral("Ann is offline: files can be sent when Ann is back.")));
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
+    annsChat.sendFiles({QStringLiteral("/a")});
+    EXPECT_THAT(copy.fileServer.served, SizeIs(1));
+}
+
+TEST_F(TransfersTest, WhatIsReadyWhenItsReceiverHasGoneIsNotOffered)
+{
+    copy.fileServer.answersAtOnce = false;
+    PrivateChat &annsChat = chat();
+    annsChat.sendFiles({QStringLiteral("/a")});
+    copy.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");
+    copy.sent();
+    copy.fileServer.readies.front()({.size = 1, .port = 5549, .name = QStringLiteral("a")});
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_THAT(view().fileTroubles, SizeIs(1));
+    EXPECT_THAT(copy.fileServer.withdrawn, ElementsAre(served().token));
+}
+
 TEST_F(TransfersTest, WhatOfAFolderIsLeftOutIsSaidAndTheRestIsSent)
 {
     copy.fileServer.answersAtOnce = false;
