@@ -2,6 +2,7 @@
 
 #include "base/event_loop_calls.h"
 #include "base/limits.h"
+#include "base/work_thread.h"
 #include "files/file_name.h"
 #include "files/http_head.h"
 #include "platform/origin_mark.h"
@@ -49,6 +50,12 @@ bool isFullDisk(int error)
         return true;
 #endif
     return error == ENOSPC;
+}
+
+/// Where it lies until all has come.
+QString partPath(const WantedFile &file)
+{
+    return QDir(file.folder).filePath(unfinishedFileName(file.name, file.host, file.path));
 }
 
 QString sentence(const char *text)
@@ -149,6 +156,8 @@ public:
         const std::optional<QString> trouble = m_file.most > 0 || QDir(m_file.folder).exists()
             ? fetchAll()
             : tr("The folder %1 is not there any more.").arg(QDir::toNativeSeparators(m_file.folder));
+        if (m_part.isOpen())
+            m_state.place = static_cast<quint64>(m_part.size());
         const bool isEmpty = m_part.isOpen() && m_part.size() == 0;
         m_part.close();
         if (isEmpty)
@@ -166,7 +175,7 @@ private:
 
     Trouble fetchAll()
     {
-        m_part.setFileName(QDir(m_file.folder).filePath(unfinishedFileName(m_file.name, m_file.host, m_file.path)));
+        m_part.setFileName(partPath(m_file));
         if (!m_part.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
             return tr("%1 cannot be written: %2.")
                 .arg(QDir::toNativeSeparators(m_part.fileName()), m_part.errorString());
@@ -365,6 +374,7 @@ private:
         m_state.isChecked = !m_head.sum.isEmpty();
         if (m_state.isChecked && m_head.sum != sum) {
             m_part.remove();
+            m_state.place = 0;
             return tr("What has come is not what was sent. It has been removed.");
         }
         return putInPlace();
@@ -437,6 +447,18 @@ void HttpFileFetcher::stop(int number)
 {
     if (const auto running = m_running.find(number); running != m_running.end())
         running->second.fetch->stop();
+}
+
+/// A folder of another machine may take its time.
+void HttpFileFetcher::lookUp(const WantedFile &file)
+{
+    if (!m_lookingUp)
+        m_lookingUp = std::make_unique<WorkThread>();
+    m_lookingUp->put([this, file] {
+        const auto size = static_cast<quint64>(QFileInfo(partPath(file)).size());
+        m_calls->put(
+            [this, state = FetchedBytes{.number = file.number, .what = What::there, .place = size}] { tell(state); });
+    });
 }
 
 void HttpFileFetcher::tell(const FetchedBytes &fetched)

@@ -49,6 +49,7 @@ void ReceivedFiles::restore(ReceivedFile file)
         return;
     file.state = State::paused;
     insert(std::move(file));
+    m_fetcher.lookUp(wantedOf(m_files.back()));
 }
 
 /// Two rows would write into one unfinished file.
@@ -170,15 +171,20 @@ void ReceivedFiles::beginNext()
         if (file.state != State::waiting || isHere)
             continue;
         m_fetching.push_back(file.number);
-        m_fetcher.fetch({.number = file.number,
-                         .host = file.link.host,
-                         .port = file.link.port,
-                         .path = file.link.path,
-                         .from = file.from,
-                         .folder = file.folder,
-                         .name = cleanFileName(file.link.name),
-                         .most = file.isLookedAt ? static_cast<quint64>(limits::shownPictureBytes) : 0});
+        m_fetcher.fetch(wantedOf(file));
     }
+}
+
+WantedFile ReceivedFiles::wantedOf(const ReceivedFile &file)
+{
+    return {.number = file.number,
+            .host = file.link.host,
+            .port = file.link.port,
+            .path = file.link.path,
+            .from = file.from,
+            .folder = file.folder,
+            .name = cleanFileName(file.link.name),
+            .most = file.isLookedAt ? static_cast<quint64>(limits::shownPictureBytes) : 0};
 }
 
 // --- what has become of it
@@ -189,8 +195,11 @@ void ReceivedFiles::told(const FetchedBytes &fetched)
     if (isOver)
         std::erase(m_fetching, fetched.number);
     if (ReceivedFile *const file = findRow(fetched.number)) {
+        if (fetched.what == What::there && file->state != State::paused)
+            return; // it has been gone on with meanwhile
         file->place = fetched.place;
-        file->size = fetched.size;
+        if (fetched.size > 0) // unless nobody has said it this time
+            file->size = fetched.size;
         file->perSecond = fetched.perSecond;
         finish(*file, fetched);
         rowChanged(*file);
@@ -204,6 +213,8 @@ void ReceivedFiles::told(const FetchedBytes &fetched)
 void ReceivedFiles::finish(ReceivedFile &file, const FetchedBytes &fetched)
 {
     switch (fetched.what) {
+    case What::there:
+        return;
     case What::running:
         file.state = State::running;
         return;

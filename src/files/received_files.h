@@ -6,6 +6,7 @@
 
 #include <QAbstractTableModel>
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -38,7 +39,7 @@ struct ReceivedFile {
     bool isGone = false;     ///< it will not be had any more
 
     /// 0 to 100.
-    int percent() const { return size > 0 ? static_cast<int>(place * 100 / size) : 0; }
+    int percent() const { return size > 0 ? static_cast<int>(std::min(place, size) * 100 / size) : 0; }
     /// It can be shown before it is saved.
     bool isPicture() const;
     bool isUnderWay() const { return state == State::waiting || state == State::running || state == State::checking; }
@@ -65,7 +66,7 @@ public:
     /// is. own: the address
     /// under which the sender knows this copy.
     std::optional<int> add(const QString &message, Ipv4Address writer, const QString &sender, Ipv4Address own);
-    /// Another row, paused, for what an earlier run has left.
+    /// Another row, paused, for what an earlier run has left. How far it is says the file itself, once that was asked.
     void restore(ReceivedFile file);
     /// Null once it has gone to make room.
     const ReceivedFile *find(int number) const;
@@ -102,6 +103,7 @@ private:
     void told(const FetchedBytes &fetched);
     void finish(ReceivedFile &file, const FetchedBytes &fetched);
     void begin(ReceivedFile &file);
+    static WantedFile wantedOf(const ReceivedFile &file);
     bool hasFreePlace() const;
     void beginNext();
     void makeRoom();

@@ -529,6 +529,20 @@ TEST_F(FilesInWindows, TheWindowSavesWhatIsOffered)
     EXPECT_THAT(windows.folders.opened, ElementsAre("file://" + folder.path().toStdString()));
 }
 
+TEST(UnfinishedFilesInWindows, AreALineOfTheLogThatLeadsToThem)
+{
+    const QString message = QString::fromStdString(annsPlan.substr(1));
+    const QString stored
+        = QStringLiteral(R"([{"message":"%1","own":"10.0.0.1","folder":"/in","sender":"Ann","size":9}])").arg(message);
+    RealWindows windows{{{"10.0.0.2", "Ann"}}, {{"Transfers/UnfinishedFiles", stored}}};
+    auto &log = controlOf<RichTextLogEdit>(windows.main(), "outtext");
+    EXPECT_THAT(log.toPlainText().toStdString(), HasSubstr("when NIMB-Chat ended: 1; Tools, Transfers... goes on"));
+    Q_EMIT log.commandPressed(transfersCommand);
+    EXPECT_TRUE(std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget *window) {
+        return window->objectName() == QLatin1String("frmTransfers") && window->isVisible();
+    }));
+}
+
 TEST_F(FilesInWindows, TheWindowMayBeClosedWhileATransferIsUnderWay)
 {
     windows.arrive("10.0.0.2", annsPlan);

@@ -832,7 +832,9 @@ public:
             told({.number = number, .what = FetchedBytes::What::stopped});
     }
 
-    std::vector<WantedFile> fetched;
+    void lookUp(const WantedFile &file) override { lookedUp.push_back(file); }
+
+    std::vector<WantedFile> fetched, lookedUp;
     std::vector<int> stopped;
 };
 

@@ -301,6 +301,19 @@ TEST_F(FileFetcherTest, SaysThatTheSenderCannotBeReached)
     EXPECT_EQ(fetch(wanted()).sentence, QStringLiteral("The sender cannot be reached."));
 }
 
+TEST_F(FileFetcherTest, LooksUpHowMuchIsThere)
+{
+    write(QStringLiteral("in/") + partName(), "0123");
+    for (const quint64 size : {4, 0}) {
+        states.clear();
+        fetcher->lookUp(wanted());
+        ASSERT_TRUE(waitUntil([&] { return !states.empty(); }));
+        EXPECT_EQ(states.front().what, What::there);
+        EXPECT_EQ(states.front().place, size);
+        QFile::remove(inFolder(partName()));
+    }
+}
+
 TEST_F(FileFetcherTest, SaysThatTheFolderHasGone)
 {
     ASSERT_TRUE(QDir(folder.path()).rmdir(QStringLiteral("in")));

@@ -63,12 +63,16 @@ protected:
     /// The program as it starts with what this one has stored.
     std::unique_ptr<Copy> next()
     {
+        std::unique_ptr<Copy> later = justStarted();
+        later->settleStart();
+        return later;
+    }
+    std::unique_ptr<Copy> justStarted()
+    {
         std::map<std::string, QString> stored;
         stored["Transfers/UnfinishedFiles"]
             = QString::fromStdString(copy.settings.value("Transfers", "UnfinishedFiles"));
-        auto later = std::make_unique<Copy>(CopySetup{.settings = stored}, nullptr, copy.time);
-        later->settleStart();
-        return later;
+        return std::make_unique<Copy>(CopySetup{.settings = stored}, nullptr, copy.time);
     }
 
     Copy copy;
@@ -419,6 +423,39 @@ TEST_F(TransfersTest, WhatIsUnfinishedComesBackPausedAfterARestart)
     later->fileFetcher.told({.number = files.at(0).number, .what = What::done});
     later->advance(1s);
     EXPECT_EQ(later->settings.value("Transfers", "UnfinishedFiles"), "");
+}
+
+TEST_F(TransfersTest, ARestartSaysWhatIsUnfinishedAndAsksTheDiskHowFarItIs)
+{
+    chat();
+    for (int i = 0; i < 2; ++i) {
+        const int number = receiveAnother();
+        received().save(number, QStringLiteral("/in"));
+        tell({.number = number, .what = What::running, .place = 45, .size = 100});
+    }
+    copy.engine.mainWindow().Form_Unload();
+    const std::unique_ptr<Copy> later = justStarted();
+    EXPECT_THAT(later->view.log.text().toStdString(),
+                HasSubstr("--- files that had not all come when NIMB-Chat ended: 2; Tools, Transfers... goes on with "
+                          "them ---"));
+    ReceivedFiles &files = later->engine.transfers().received;
+    const int first = files.at(0).number, second = files.at(1).number;
+    ASSERT_THAT(later->fileFetcher.lookedUp, SizeIs(2));
+    EXPECT_EQ(later->fileFetcher.lookedUp.front().number, first);
+    EXPECT_EQ(later->fileFetcher.lookedUp.front().folder, QStringLiteral("/in"));
+    later->fileFetcher.told({.number = first, .what = What::there, .place = 70});
+    EXPECT_EQ(ReceivedFiles::progressOf(files.at(0)), QStringLiteral("paused at 70 %"));
+    files.resume(second);
+    later->fileFetcher.told({.number = second, .what = What::running, .place = 90, .size = 100});
+    later->fileFetcher.told({.number = second, .what = What::there, .place = 70});
+    EXPECT_EQ(files.at(1).percent(), 90) << "it is further now";
+    later->fileFetcher.told({.number = second, .what = What::failed, .place = 90, .sentence = QStringLiteral("Off.")});
+    EXPECT_EQ(files.at(1).size, 100U) << "however little its last try has learnt";
+}
+
+TEST_F(TransfersTest, ARestartWithoutAnySaysNothing)
+{
+    EXPECT_THAT(justStarted()->view.log.text().toStdString(), testing::Not(HasSubstr("files that had not all come")));
 }
 
 TEST_F(TransfersTest, WhatIsUnfinishedIsKeptWithinASecondInTwoSavesAndOnlySoManyOfThem)
