@@ -27,6 +27,7 @@ struct FetchedBytes {
     enum class What {
         there, ///< nothing is under way; it was looked up how much of it is here
         running,
+        summing,  ///< the peer is there; what earlier tries have left is being read
         waiting,  ///< the peer sends too many others now
         checking, ///< all is here; the sum is waited for
         done,

@@ -260,7 +260,7 @@ void FileRow::refresh()
     m_name->setToolTip(file->link.name);
     m_stateLine->setVisible(!isOffered);
     m_state->setText(ReceivedFiles::progressOf(*file));
-    m_bar->setVisible(file->state == State::running || file->state == State::paused);
+    m_bar->setVisible(file->state == State::running || file->state == State::paused || file->state == State::summing);
     m_bar->setValue(file->percent());
     m_look->setVisible(isOffered && file->isPicture() && file->picture.isEmpty());
     m_save->setVisible(isOffered || (file->isLookedAt && !file->isUnderWay()) || file->state == State::failed);

@@ -179,8 +179,12 @@ private:
         if (!m_part.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
             return tr("%1 cannot be written: %2.")
                 .arg(QDir::toNativeSeparators(m_part.fileName()), m_part.errorString());
-        if (!sumWhatIsThere())
-            return std::nullopt;
+        if (m_part.size() > 0) {
+            if (Trouble trouble = askBeforeSumming())
+                return trouble;
+            if (!sumWhatIsThere())
+                return std::nullopt;
+        }
         while (!m_isWhole) {
             const quint64 before = m_state.place;
             if (Trouble trouble = attempt())
@@ -194,18 +198,46 @@ private:
         return check();
     }
 
+    /// Reading much takes minutes: whoever has gone by then has gone before.
+    Trouble askBeforeSumming()
+    {
+        FileConnection connection(m_file, m_isStopped);
+        if (!connection.open())
+            return tr("The sender cannot be reached.");
+        const std::optional<HttpHead> head = connection.ask("HEAD", {});
+        if (!head)
+            return tr("The sender broke off, or gave an answer that cannot be used.");
+        if (head->status == 404)
+            return goneTrouble();
+        if (head->status == 200) {
+            m_state.size = head->length.value_or(0);
+            m_tag = head->tag;
+        }
+        return std::nullopt;
+    }
+
+    Trouble goneTrouble()
+    {
+        m_state.isGone = true;
+        return tr("The sender offers it no longer.");
+    }
+
     /// Of an earlier try; false when it was stopped meanwhile.
     bool sumWhatIsThere()
     {
+        m_state.what = What::summing;
         m_state.place = 0;
-        m_sum.reset();
-        m_part.seek(0);
+        m_tell(m_state);
         while (!m_isStopped) {
             const QByteArray piece = m_part.read(static_cast<qint64>(limits::filePiece));
-            if (piece.isEmpty())
+            if (piece.isEmpty()) {
+                m_state.perSecond = 0; // of the disk
+                m_sinceRated.invalidate();
                 return true;
+            }
             m_sum.addData(piece);
             m_state.place += static_cast<quint64>(piece.size());
+            tellProgress();
         }
         return false;
     }
@@ -264,8 +296,7 @@ private:
         case 503:
             return waitForTurn();
         case 404:
-            m_state.isGone = true;
-            return tr("The sender offers it no longer.");
+            return goneTrouble();
         default:
             return tr("The sender gave an answer that cannot be used.");
         }

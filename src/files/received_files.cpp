@@ -215,6 +215,9 @@ void ReceivedFiles::finish(ReceivedFile &file, const FetchedBytes &fetched)
     switch (fetched.what) {
     case What::there:
         return;
+    case What::summing:
+        file.state = State::summing;
+        return;
     case What::running:
         file.state = State::running;
         return;
@@ -252,6 +255,8 @@ QString ReceivedFiles::progressOf(const ReceivedFile &file)
         return tr("offered");
     case State::waiting:
         return tr("waits for others");
+    case State::summing:
+        return tr("checks what is there: %1 %").arg(file.percent());
     case State::running:
         return file.perSecond > 0 ? tr("%1 % of %2, %3 a second")
                                         .arg(file.percent())

@@ -17,6 +17,7 @@ struct ReceivedFile {
     enum class State {
         offered, ///< nothing has been done with it
         waiting, ///< for others to be fetched first, here or there
+        summing, ///< what is here of it already is read, so that the whole can be checked
         running,
         paused,
         checking,
@@ -42,7 +43,11 @@ struct ReceivedFile {
     int percent() const { return size > 0 ? static_cast<int>(std::min(place, size) * 100 / size) : 0; }
     /// It can be shown before it is saved.
     bool isPicture() const;
-    bool isUnderWay() const { return state == State::waiting || state == State::running || state == State::checking; }
+    bool isUnderWay() const
+    {
+        return state == State::waiting || state == State::summing || state == State::running
+            || state == State::checking;
+    }
     /// It is to be saved, and there is a chance that it will be.
     bool isUnfinished() const
     {

@@ -192,11 +192,30 @@ TEST_F(OddServerTest, ChecksWhatWasThereAlreadyWhenItIsResumed)
 {
     write(QStringLiteral("in/") + partName(), "abX");
     const FetchedBytes state
-        = fetchFrom({"HTTP/1.1 416 Range Not Satisfiable\r\nContent-Length: 0\r\nContent-Range: bytes */3\r\n\r\n",
+        = fetchFrom({"HTTP/1.1 200 OK\r\nContent-Length: 3\r\nNIMB-Repr-Digest: pending\r\n\r\n",
+                     "HTTP/1.1 416 Range Not Satisfiable\r\nContent-Length: 0\r\nContent-Range: bytes */3\r\n\r\n",
                      "HTTP/1.1 200 OK\r\nContent-Length: 3\r\n"
                      "Repr-Digest: sha-256=:ungWv48Bz+pBQUDeXa4iI7ADYaOWF3qctBD/YfIAFa0=:\r\n\r\n"});
     EXPECT_EQ(state.what, What::failed);
     EXPECT_EQ(state.sentence.toStdString(), "What has come is not what was sent. It has been removed.");
+}
+
+TEST_F(OddServerTest, AsksBeforeItReadsWhatIsThere)
+{
+    write(QStringLiteral("in/") + partName(), "0123");
+    EXPECT_EQ(fetchFrom({"HTTP/1.1 404 Not Found\r\n\r\n"}).what, What::failed);
+    EXPECT_THAT(states, testing::SizeIs(1)) << "nothing was read first";
+    EXPECT_TRUE(states.back().isGone);
+    EXPECT_EQ(states.back().place, 4U) << "it is kept";
+    EXPECT_TRUE(odd->requests.front().startsWith("HEAD "));
+
+    const FetchedBytes state
+        = fetchFrom({"HTTP/1.1 200 OK\r\nContent-Length: 10\r\nETag: \"t\"\r\n\r\n",
+                     "HTTP/1.1 206 Part\r\nContent-Length: 6\r\nContent-Range: bytes 4-9/10\r\n\r\n456789"});
+    EXPECT_EQ(states.front().what, What::summing);
+    EXPECT_EQ(states.front().size, 10U);
+    EXPECT_THAT(odd->requests.back().toStdString(), HasSubstr("\r\nRange: bytes=4-\r\nIf-Range: \"t\"\r\n"));
+    EXPECT_EQ(read(state.path), "0123456789");
 }
 
 TEST_F(OddServerTest, FollowsNobodyElsewhere)

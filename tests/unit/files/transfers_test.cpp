@@ -361,6 +361,18 @@ TEST_F(TransfersTest, ProgressIsShown)
     EXPECT_EQ(copy.engine.transfers().underWay(), 0);
 }
 
+TEST_F(TransfersTest, WhatIsThereAlreadyIsSeenToBeChecked)
+{
+    chat();
+    const int number = receive();
+    received().save(number, QStringLiteral("/in"));
+    tell({.number = number, .what = What::summing, .place = 30, .size = 100});
+    EXPECT_EQ(shown(0, ReceivedFiles::Progress), QStringLiteral("checks what is there: 30 %"));
+    EXPECT_EQ(copy.engine.transfers().underWay(), 1);
+    received().pause(number);
+    EXPECT_THAT(copy.fileFetcher.stopped, ElementsAre(number));
+}
+
 TEST_F(TransfersTest, AFileIsPausedAndResumed)
 {
     chat();
