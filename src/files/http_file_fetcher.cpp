@@ -331,8 +331,7 @@ private:
         const std::filesystem::space_info room
             = std::filesystem::space(QFileInfo(m_file.folder).filesystemAbsoluteFilePath(), unknown);
         if (!unknown && room.available < m_state.size - m_state.place)
-            return tr("There is too little room in %1. What has come is kept.")
-                .arg(QDir::toNativeSeparators(m_file.folder));
+            return whatIsKept(tr("There is too little room in %1.").arg(QDir::toNativeSeparators(m_file.folder)));
         m_state.what = What::running;
         tellProgress();
         while (m_state.place < m_state.size) {
@@ -365,10 +364,14 @@ private:
     Trouble writeTrouble(int error)
     {
         const bool isFull = m_part.error() == QFileDevice::ResourceError || isFullDisk(error);
-        return isFull
-            ? tr("There is no room any more in %1. What has come is kept.").arg(QDir::toNativeSeparators(m_file.folder))
-            : tr("%1 cannot be written on: %2. What has come is kept.")
-                  .arg(QDir::toNativeSeparators(m_part.fileName()), m_part.errorString());
+        return whatIsKept(isFull ? tr("There is no room any more in %1.").arg(QDir::toNativeSeparators(m_file.folder))
+                                 : tr("%1 cannot be written on: %2.")
+                                       .arg(QDir::toNativeSeparators(m_part.fileName()), m_part.errorString()));
+    }
+
+    QString whatIsKept(const QString &sentence) const
+    {
+        return m_state.place > 0 ? tr("%1 What has come is kept.").arg(sentence) : sentence;
     }
 
     void tellProgress()
