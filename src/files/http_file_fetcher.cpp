@@ -96,6 +96,9 @@ public:
         return m_socket.state() == QAbstractSocket::ConnectedState;
     }
 
+    /// The machine is there, and nothing is offered on it: a firewall keeps silent, or says that it is one.
+    bool wasRefused() const { return m_socket.error() == QAbstractSocket::ConnectionRefusedError; }
+
     /// Asks, and reads the head of the answer; nothing where none came that can be used.
     std::optional<HttpHead> ask(const QByteArray &method, const QByteArray &headers)
     {
@@ -203,7 +206,7 @@ private:
     {
         FileConnection connection(m_file, m_isStopped);
         if (!connection.open())
-            return tr("The sender cannot be reached.");
+            return unreachedTrouble(connection);
         const std::optional<HttpHead> head = connection.ask("HEAD", {});
         if (!head)
             return tr("The sender broke off, or gave an answer that cannot be used.");
@@ -214,6 +217,11 @@ private:
             m_tag = head->tag;
         }
         return std::nullopt;
+    }
+
+    Trouble unreachedTrouble(const FileConnection &connection)
+    {
+        return connection.wasRefused() ? goneTrouble() : tr("The sender cannot be reached.");
     }
 
     Trouble goneTrouble()
@@ -256,7 +264,7 @@ private:
         m_waited = false;
         FileConnection connection(m_file, m_isStopped);
         if (!connection.open())
-            return tr("The sender cannot be reached.");
+            return unreachedTrouble(connection);
         QByteArray headers;
         if (m_state.place > 0)
             headers = "Range: bytes=" + QByteArray::number(m_state.place) + "-\r\n"

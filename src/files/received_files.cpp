@@ -1,6 +1,7 @@
 #include "files/received_files.h"
 
 #include "base/limits.h"
+#include "base/remote_text.h"
 #include "files/file_name.h"
 
 #include <QDir>
@@ -232,7 +233,8 @@ void ReceivedFiles::finish(ReceivedFile &file, const FetchedBytes &fetched)
         return;
     case What::failed:
         file.state = State::failed;
-        file.sentence = fetched.sentence;
+        file.sentence
+            = fetched.isGone ? tr("%1 no longer offers this file.").arg(paintedName(file.sender)) : fetched.sentence;
         file.isGone = fetched.isGone;
         return;
     case What::done:

@@ -1,7 +1,9 @@
 // Fetching from a real server, and from one that misbehaves.
 #include "files/http_file_fetcher.h"
 
+#include "files/file_link.h"
 #include "files/file_name.h"
+#include "files/received_files.h"
 
 #include "files/http_file_server.h"
 #include "full_disk.h"
@@ -318,7 +320,18 @@ TEST_F(OddServerTest, WaitsWhileTheSenderIsBusy)
 
 TEST_F(FileFetcherTest, SaysThatTheSenderCannotBeReached)
 {
-    EXPECT_EQ(fetch(wanted()).sentence, QStringLiteral("The sender cannot be reached."));
+    WantedFile file = wanted();
+    file.host = Ipv4Address(127, 255, 255, 255); // nobody's
+    const FetchedBytes state = fetch(file);
+    EXPECT_EQ(state.sentence, QStringLiteral("The sender cannot be reached."));
+    EXPECT_FALSE(state.isGone);
+}
+
+TEST_F(FileFetcherTest, SaysThatNothingIsOfferedWhereNobodyListensAnyMore)
+{
+    const FetchedBytes state = fetch(wanted());
+    EXPECT_EQ(state.sentence, QStringLiteral("The sender offers it no longer."));
+    EXPECT_TRUE(state.isGone);
 }
 
 TEST_F(FileFetcherTest, LooksUpHowMuchIsThere)
@@ -419,6 +432,40 @@ TEST_F(FetchedFromUsTest, IsResumedAfterEachStop)
     EXPECT_TRUE(state.isChecked);
     EXPECT_EQ(read(state.path), read(file.fileName()));
     EXPECT_THAT(found(), ElementsAre(QStringLiteral("Plan.pdf")));
+}
+
+/// Its links lead nowhere from then on, also where it offers others.
+TEST_F(FetchedFromUsTest, IsNoLongerOfferedBySomebodyWhoHasStartedAnew)
+{
+    QFile large(folder.filePath(QStringLiteral("large")));
+    ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(qint64{20} * 1024 * 1024 * 1024));
+    serve(large.fileName());
+    fetcher->told = nullptr;
+    ReceivedFiles received(*fetcher);
+    const std::optional<int> number = received.add(fileMessage(QStringLiteral("Plan.pdf"), 1, server, port, token),
+                                                   server, QStringLiteral("Ann"), own);
+    ASSERT_TRUE(number);
+    received.save(*number, folder.filePath(QStringLiteral("in")));
+    const auto isStill = [&](ReceivedFile::State state) { return received.find(*number)->state == state; };
+    ASSERT_TRUE(waitUntil([&] { return isStill(ReceivedFile::State::running) && received.find(*number)->place > 0; }));
+    files.reset();
+    ASSERT_TRUE(waitUntil([&] { return isStill(ReceivedFile::State::failed); }));
+    EXPECT_EQ(ReceivedFiles::progressOf(received.at(0)), QStringLiteral("Ann no longer offers this file."));
+    EXPECT_GT(received.at(0).place, 0U) << "what has come is kept";
+
+    files = std::make_unique<HttpFileServer>(port);
+    std::optional<FileServer::Readied> readied;
+    files->serve({.token = QString(token).replace(u'0', u'f'),
+                  .name = {},
+                  .path = write(QStringLiteral("b"), "b"),
+                  .to = {own},
+                  .at = server},
+                 [&](const FileServer::Readied &now) { readied = now; });
+    ASSERT_TRUE(waitUntil([&] { return readied.has_value(); }));
+    ASSERT_EQ(readied->port, port);
+    received.resume(*number);
+    ASSERT_TRUE(waitUntil([&] { return isStill(ReceivedFile::State::failed); }));
+    EXPECT_EQ(ReceivedFiles::progressOf(received.at(0)), QStringLiteral("Ann no longer offers this file."));
 }
 
 TEST_F(FetchedFromUsTest, StopsAsWished)

@@ -392,6 +392,15 @@ TEST_F(TransfersTest, AFileIsPausedAndResumed)
     EXPECT_THAT(copy.fileFetcher.fetched, SizeIs(3));
 }
 
+TEST_F(TransfersTest, WhoeverOffersItNoLongerIsNamed)
+{
+    chat();
+    const int number = receive();
+    received().save(number, QStringLiteral("/in"));
+    tell({.number = number, .what = What::failed, .sentence = QStringLiteral("Gone."), .isGone = true});
+    EXPECT_EQ(shown(0, ReceivedFiles::Progress), QStringLiteral("Ann no longer offers this file."));
+}
+
 TEST_F(TransfersTest, WhatWaitsForItsSumKeepsNobodyWaiting)
 {
     chat();
