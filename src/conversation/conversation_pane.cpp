@@ -163,7 +163,8 @@ QHBoxLayout *ConversationPane::makeInput()
     // Not among the tools, whose captions need the room.
     sendFileBtn = toolButton(this, "sendFileBtn", tr("Send files"), "file");
     sendFileBtn->setToolButtonStyle(Qt::ToolButtonIconOnly);
-    sendFileBtn->setToolTip(tr("Send files"));
+    sendFileBtn->setToolTip(tr("Send files; the arrow, or the Down key, has folders too"));
+    sendFileBtn->setPopupMode(QToolButton::MenuButtonPopup);
     sendFileBtn->setVisible(m_conversation->transfers().offers.isAvailable());
     row->addWidget(intext);
     row->addWidget(sendFileBtn);
@@ -230,6 +231,10 @@ void ConversationPane::connectFiles()
     auto *const sendFolder = named(new QAction(tr("Send a Fol&der..."), this), "logSendFolder");
     connect(sendFolder, &QAction::triggered, this, &ConversationPane::askForFolderToSend);
     m_outtext->setFurtherCommands({sendFile, sendFolder});
+    sendFileBtn->addActions({sendFile, sendFolder}); // of which the button makes a menu while it is open
+    auto *const open = new QShortcut(Qt::Key_Down, sendFileBtn);
+    open->setContext(Qt::WidgetShortcut);
+    connect(open, &QShortcut::activated, sendFileBtn, &QToolButton::showMenu);
 }
 
 // --- files

@@ -19,6 +19,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 
 #include <sys/stat.h>
@@ -146,6 +147,27 @@ TEST_F(FilesInWindows, TheToolAsksForFiles)
     dialog().setDirectory(folder.path());
     QMetaObject::invokeMethod(&dialog(), "filesSelected", Q_ARG(QStringList, {one.fileName()}));
     EXPECT_EQ(paths(), QStringList{one.fileName()});
+}
+
+TEST_F(FilesInWindows, TheToolHasAMenuWithFoldersForMouseAndKeyboard)
+{
+    auto &tool = control<QToolButton>("sendFileBtn");
+    form().activateWindow();
+    tool.setFocus();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return tool.hasFocus(); }));
+    QStringList entries;
+    // The menu has an event loop of its own.
+    QTimer::singleShot(0, &tool, [&] {
+        auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        ASSERT_TRUE(menu);
+        for (const QAction *const action : menu->actions())
+            entries += action->text();
+        QTest::keyClick(menu, Qt::Key_D);
+    });
+    QTest::keyClick(&tool, Qt::Key_Down);
+    EXPECT_EQ(entries, (QStringList{QStringLiteral("Send Fil&es..."), QStringLiteral("Send a Fol&der...")}));
+    QMetaObject::invokeMethod(&dialog(), "fileSelected", Q_ARG(QString, folder.path()));
+    EXPECT_EQ(paths(), QStringList{folder.path()});
 }
 
 TEST_F(FilesInWindows, TheContextMenuOfAContactSendsFiles)
