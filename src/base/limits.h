@@ -213,6 +213,8 @@ constexpr int filesSentAtOnce = 8;
 constexpr int filesSentToPeer = 4;
 /// Rows of a conversation's panel of files; the others are under Tools > Transfers...
 constexpr int filesInPanel = 3;
+/// Sentences of a conversation on files that were not sent: more would take the room of what was said.
+constexpr qsizetype fileTroublesShown = 3;
 /// Files that are received at once; others wait.
 constexpr int filesReceivedAtOnce = 4;
 /// Connections to the server of files: a peer may look while it loads. Each has a thread with a small stack.

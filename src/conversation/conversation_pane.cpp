@@ -267,25 +267,51 @@ void ConversationPane::offerPicture(const QImage &picture)
     if (m_scratch.path().isEmpty() || !picture.save(path, "PNG"))
         return showFileTrouble(tr("The picture cannot be sent, for there is no room for it."));
     m_pastedPicture = path;
-    const QString sentence = tr("A picture was pasted (%1 × %2).").arg(picture.width()).arg(picture.height());
-    fileBand->setText(sentence + tr(" <a href=\"send\">Send it</a> / <a href=\"no\">leave it</a>"));
-    fileBand->setAccessibleName(sentence);
-    fileBand->show();
+    m_pastedQuestion = tr("A picture was pasted (%1 × %2).").arg(picture.width()).arg(picture.height());
+    showFileBand();
+}
+
+/// What went wrong, and below it what is asked.
+void ConversationPane::showFileBand()
+{
+    QStringList said = m_fileTroubles, lines;
+    if (m_earlierTroubles > 0)
+        said.prepend(tr("Earlier troubles with files: %1.").arg(m_earlierTroubles));
+    for (const QString &sentence : said)
+        lines += sentence.toHtmlEscaped();
+    if (!lines.empty())
+        lines.back() += tr(" <a href=\"close\">Close</a>");
+    if (!m_pastedQuestion.isEmpty()) {
+        said += m_pastedQuestion;
+        lines += m_pastedQuestion + tr(" <a href=\"send\">Send it</a> / <a href=\"no\">leave it</a>");
+    }
+    fileBand->setText(lines.join(QLatin1String("<br>")));
+    fileBand->setAccessibleName(said.join(u' '));
+    fileBand->setVisible(!lines.empty());
 }
 
 void ConversationPane::fileBand_Click(const QString &answer)
 {
-    fileBand->hide();
+    if (answer == QLatin1String("close")) {
+        m_fileTroubles.clear();
+        m_earlierTroubles = 0;
+    } else {
+        m_pastedQuestion.clear();
+    }
+    showFileBand();
     if (answer == QLatin1String("send"))
         sendFiles({std::exchange(m_pastedPicture, {})});
     focusInput();
 }
 
+/// The newest ones, each once.
 void ConversationPane::showFileTrouble(const QString &sentence)
 {
-    fileBand->setText(sentence.toHtmlEscaped() + tr(" <a href=\"close\">Close</a>"));
-    fileBand->setAccessibleName(sentence);
-    fileBand->show();
+    m_fileTroubles.removeAll(sentence);
+    m_fileTroubles += sentence;
+    for (; m_fileTroubles.size() > limits::fileTroublesShown; ++m_earlierTroubles)
+        m_fileTroubles.removeFirst();
+    showFileBand();
 }
 
 void ConversationPane::addReceivedFile(int number)

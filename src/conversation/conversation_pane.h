@@ -139,6 +139,7 @@ private:
     void askForSentFiles();
     void askForFolderToSend();
     void offerPicture(const QImage &picture);
+    void showFileBand();
     void fileBand_Click(const QString &answer);
     void Form_Unload();
 
@@ -153,7 +154,10 @@ private:
     LinkOpener &m_folders;
     ScratchFolder &m_scratch;
     SmallPictures &m_pictures;
-    QString m_pastedPicture; ///< path of what may be sent
+    QString m_pastedPicture;         ///< path of what may be sent
+    QString m_pastedQuestion;        ///< about it, while it is asked
+    QStringList m_fileTroubles;      ///< those that the band shows
+    qsizetype m_earlierTroubles = 0; ///< which it shows no more
     int m_pastedPictures = 0;
 
     RichTextLogEdit *m_outtext = nullptr;

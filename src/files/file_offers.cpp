@@ -35,6 +35,7 @@ struct FileOffers::Offer {
     QString name;
     QString path;
     Recipients recipients;
+    Answers answers;
     quint64 size = 0;
     OfferLife life = OfferLife::day;
     QDateTime until{};
@@ -54,6 +55,7 @@ FileOffers::FileOffers(Parts parts) : m_parts(parts)
         if (!offer || !offer->isLive)
             return;
         m_parts.log.fault(sentence);
+        offer->answers.refused(sentence);
         end(*offer, sentence);
     };
 }
@@ -111,6 +113,7 @@ void FileOffers::offerOne(const QString &path, const Recipients &recipients, con
     made->path = path;
     made->name = cleanFileName(path);
     made->recipients = recipients;
+    made->answers = answers;
     const QString token = made->token;
     made->age = m_parts.timers.oneShot(limits::fileOffered, [this, token] {
         if (Offer *const offer = find(token))
@@ -121,14 +124,15 @@ void FileOffers::offerOne(const QString &path, const Recipients &recipients, con
     m_offers.push_back(std::move(made));
     endInsertRows();
     m_parts.server.serve({.token = token, .name = {}, .path = path, .to = recipients.to, .at = recipients.at},
-                         [this, token, answers](const FileServer::Readied &now) { readied(token, now, answers); });
+                         [this, token](const FileServer::Readied &now) { readied(token, now); });
 }
 
-void FileOffers::readied(const QString &token, const FileServer::Readied &readied, const Answers &answers)
+void FileOffers::readied(const QString &token, const FileServer::Readied &readied)
 {
     Offer *const offer = find(token);
     if (!offer || !offer->isLive)
         return;
+    const Answers answers = offer->answers; // the offer may have gone when they come back
     if (!readied.trouble.isEmpty()) {
         end(*offer, readied.trouble);
         return answers.refused(readied.trouble);

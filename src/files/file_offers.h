@@ -48,6 +48,7 @@ public:
     struct Answers {
         std::function<bool(const QString &message)> written;
         /// All of it, or a part: the rest is sent.
+        /// Later, too, when what was offered cannot be sent any more.
         std::function<void(const QString &sentence)> refused;
     };
 
@@ -80,7 +81,7 @@ private:
     const Offer &offerAt(int row) const;
     bool mayBegin(qsizetype count, const Recipients &recipients, const Answers &answers);
     void offerOne(const QString &path, const Recipients &recipients, const Answers &answers);
-    void readied(const QString &token, const FileServer::Readied &readied, const Answers &answers);
+    void readied(const QString &token, const FileServer::Readied &readied);
     void sent(const SentBytes &sent);
     void end(Offer &offer, const QString &why);
     Offer *find(const QString &token);

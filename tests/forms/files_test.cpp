@@ -253,6 +253,30 @@ TEST_F(FilesInWindows, WhatWasNotSentIsSaid)
     EXPECT_FALSE(band.isVisibleTo(&form()));
 }
 
+TEST_F(FilesInWindows, SeveralTroublesAreSaidAndTheQuestionStays)
+{
+    drop(form(), {QUrl::fromLocalFile(QStringLiteral("/a"))});
+    auto &band = control<QLabel>("fileBand");
+    QGuiApplication::clipboard()->setImage(QImage(8, 6, QImage::Format_RGB32));
+    control<QPlainTextEdit>("intext").paste();
+    windows.fileServer.failed(windows.fileServer.served.front().token, QStringLiteral("a has changed."));
+    EXPECT_EQ(band.text().toStdString(),
+              "a has changed. <a href=\"close\">Close</a><br>"
+              "A picture was pasted (8 × 6). <a href=\"send\">Send it</a> / <a href=\"no\">leave it</a>");
+    Q_EMIT band.linkActivated(QStringLiteral("no"));
+    EXPECT_EQ(band.text().toStdString(), "a has changed. <a href=\"close\">Close</a>");
+    windows.fileServer.answersAtOnce = false;
+    for (const char *const name : {"/b", "/c", "/c", "/d", "/e"}) {
+        drop(form(), {QUrl::fromLocalFile(QLatin1String(name))});
+        windows.fileServer.readies.back()({.trouble = QLatin1String(name) + QLatin1Char('.')});
+    }
+    EXPECT_EQ(band.text().toStdString(),
+              "Earlier troubles with files: 2.<br>/c.<br>/d.<br>/e. <a href=\"close\">Close</a>");
+    EXPECT_EQ(band.accessibleName().toStdString(), "Earlier troubles with files: 2. /c. /d. /e.");
+    Q_EMIT band.linkActivated(QStringLiteral("close"));
+    EXPECT_FALSE(band.isVisibleTo(&form()));
+}
+
 TEST_F(FilesInWindows, WhoeverIsOfflineGetsNoneAndNobodyHasToChooseOneFirst)
 {
     windows.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");

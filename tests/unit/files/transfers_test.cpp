@@ -271,6 +271,7 @@ TEST_F(TransfersTest, AFileThatChangesEndsItsOfferWithASentence)
     copy.fileServer.failed(served().token, QStringLiteral("a has changed."));
     EXPECT_FALSE(offers().isLive(0));
     EXPECT_EQ(copy.view.log.text().count(QStringLiteral("a has changed.")), 1);
+    EXPECT_THAT(view().fileTroubles, ElementsAre(QStringLiteral("a has changed."))) << "where it was offered, too";
 }
 
 TEST_F(TransfersTest, TheEndOfTheProgramAsksWhileFilesAreOnTheirWay)
