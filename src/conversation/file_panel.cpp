@@ -78,8 +78,8 @@ void FilePanel::add(int number)
     connect(row, &FileRow::closed, this, &FilePanel::remove);
     layout()->addWidget(row);
     m_rows.push_back(row);
-    showFurther();
     show();
+    showFurther();
 }
 
 /// What is under way stays longer than what nobody has wanted.
@@ -117,11 +117,12 @@ void FilePanel::showFurther()
     if (!m_furtherLine)
         return;
     const QString sentence = tr("Further files: %1.").arg(m_further.size());
-    m_furtherCount->setText(sentence + tr(" <a href=\"all\">Show all</a>"));
+    m_furtherCount->setText(sentence + tr(" <a href=\"all\">Show all</a> / <a href=\"hide\">Hide</a>"));
     m_furtherCount->setAccessibleName(sentence);
     m_furtherCount->setVisible(!m_further.empty());
     m_saveAll->setVisible(hasSeveral);
     m_furtherLine->setVisible(hasSeveral || !m_further.empty());
+    setVisible(!m_rows.empty() || !m_further.empty());
 }
 
 void FilePanel::makeFurtherLine()
@@ -139,7 +140,12 @@ void FilePanel::makeFurtherLine()
     line->addStretch(1);
     line->addWidget(m_saveAll);
     static_cast<QVBoxLayout *>(layout())->insertWidget(0, m_furtherLine);
-    connect(m_furtherCount, &QLabel::linkActivated, this, &FilePanel::allWanted);
+    connect(m_furtherCount, &QLabel::linkActivated, this, [this](const QString &what) {
+        if (what == QLatin1String("all"))
+            return Q_EMIT allWanted();
+        m_further.clear();
+        showFurther();
+    });
     connect(m_saveAll, &QPushButton::clicked, this, &FilePanel::saveAll);
 }
 
@@ -161,8 +167,8 @@ void FilePanel::remove(int number)
     (*which)->hide();
     (*which)->deleteLater();
     m_rows.erase(which);
-    showFurther();
     setVisible(!m_rows.empty());
+    showFurther();
 }
 
 // --- a row

@@ -498,6 +498,24 @@ TEST_F(FilesInWindows, FurtherFilesAreCountedAndShownTogether)
     }));
 }
 
+TEST_F(FilesInWindows, FurtherFilesAreStillThereWhenAllRowsAreHidden)
+{
+    for (int i = 0; i < 5; ++i)
+        receiveAnother(i);
+    for (FileRow *const row : rows())
+        controlOf<QToolButton>(*row, "closeRowBtn").click();
+    EXPECT_THAT(rows(), IsEmpty());
+    auto &count = control<QLabel>("furtherCount");
+    EXPECT_TRUE(count.isVisibleTo(&form()));
+    EXPECT_THAT(count.text().toStdString(), testing::StartsWith("Further files: 2."));
+    EXPECT_TRUE(control<QPushButton>("saveAllBtn").isVisibleTo(&form()));
+    Q_EMIT count.linkActivated(QStringLiteral("hide"));
+    EXPECT_FALSE(count.isVisibleTo(&form()));
+    receiveAnother(5);
+    EXPECT_TRUE(rows().front()->isVisibleTo(&form()));
+    EXPECT_FALSE(count.isVisibleTo(&form()));
+}
+
 TEST_F(FilesInWindows, AllThatIsOfferedIsSavedAtOnce)
 {
     for (int i = 0; i < 5; ++i)
