@@ -113,6 +113,18 @@ TEST(UnaskedMessageBox, TakesNoFocusAndReturnMeansNo)
     EXPECT_EQ(boxes.decideUnasked(QStringLiteral("Send it?"), QStringLiteral("t")), std::nullopt);
 }
 
+TEST(CarefulMessageBox, TakesReturnAndEscForNo)
+{
+    MessageBoxes boxes;
+    for (const auto &[key, isYes] : {std::pair{Qt::Key_Return, false}, {Qt::Key_Escape, false}, {Qt::Key_Y, true}}) {
+        QTimer::singleShot(0, [key = key] {
+            QTest::keyClick(QApplication::activeModalWidget(), key,
+                            key == Qt::Key_Y ? Qt::AltModifier : Qt::NoModifier);
+        });
+        EXPECT_EQ(boxes.decideCarefully(QStringLiteral("End it?"), QStringLiteral("t")), std::optional(isYes));
+    }
+}
+
 TEST(UnattendedMessageBox, ClosesWhatIsOpenAsIfCancelled)
 {
     MessageBoxes boxes;

@@ -286,6 +286,7 @@ TEST_F(TransfersTest, TheEndOfTheProgramAsksWhileFilesAreOnTheirWay)
     EXPECT_THAT(copy.prompts.asked,
                 testing::Each("NIMB-Chat: Files that are still on their way would be broken off: 1. End NIMB-Chat all "
                               "the same?"));
+    EXPECT_EQ(copy.prompts.carefully, 2);
     copy.prompts.answer = true;
     EXPECT_EQ(copy.engine.mainWindow().Form_QueryUnload(UnloadMode::code), CloseDecision::unload);
     copy.prompts.answer = false;
