@@ -2,6 +2,7 @@
 
 #include "base/clock_text.h"
 #include "base/limits.h"
+#include "base/own_addresses.h"
 #include "base/remote_text.h"
 #include "files/file_link.h"
 #include "files/file_name.h"
@@ -11,6 +12,8 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
+#include <utility>
 
 namespace nimb
 {
@@ -43,6 +46,7 @@ struct FileOffers::Offer {
     QHash<quint64, SentBytes> transfers{}; ///< under way
     int fetched = 0;                       ///< how often all of it
     bool isReadied = false;
+    bool hasAddress = true; ///< the one at which it is offered is still one of this computer
     bool isLive = true;
     QString ended{}; ///< why it is not live any more
 };
@@ -196,6 +200,26 @@ void FileOffers::setLife(int row, OfferLife life)
     rowChanged(offer);
 }
 
+/// Each address has one sentence, however much is offered there.
+void FileOffers::ownAddressesChanged(const OwnAddresses &own)
+{
+    const std::vector<NetworkCard> cards = own.cards();
+    std::set<Ipv4Address> gone;
+    for (const auto &offer : m_offers) {
+        const Ipv4Address at = offer->recipients.at;
+        const bool has = at.isLoopback() || std::ranges::count(cards, at, &NetworkCard::address) > 0;
+        if (!offer->isLive || std::exchange(offer->hasAddress, has) == has)
+            continue;
+        rowChanged(*offer);
+        if (!has)
+            gone.insert(at);
+    }
+    for (const Ipv4Address at : gone)
+        m_parts.log.fault(tr("Files are offered at %1, which this computer no longer has: nobody can fetch them, until "
+                             "it has it again or you send them once more.")
+                              .arg(addressText(at)));
+}
+
 const FileOffers::Offer &FileOffers::offerAt(int row) const
 {
     return *m_offers.at(static_cast<std::size_t>(row));
@@ -306,6 +330,8 @@ QString FileOffers::progressOf(const Offer &offer) const
         parts += tr("%1 % to %2").arg(percent).arg(addressText(transfer.to));
     }
     parts.sort();
+    if (offer.isLive && !offer.hasAddress)
+        parts.prepend(tr("offered at %1, which this computer no longer has").arg(addressText(offer.recipients.at)));
     if (offer.fetched > 0)
         parts += tr("fetched: %1").arg(offer.fetched);
     return parts.isEmpty() && offer.isLive ? tr("not fetched yet") : parts.join(QLatin1String(", "));

@@ -16,6 +16,8 @@
 namespace nimb
 {
 
+class OwnAddresses;
+
 /// How long something is offered.
 enum class OfferLife {
     day,          ///< limits::fileOffered
@@ -62,6 +64,8 @@ public:
     void setLife(int row, OfferLife life);
     OfferLife lifeOf(int row) const;
     bool isLive(int row) const;
+    /// Says which offers stand at an address that this computer has no longer; they work again when it is back.
+    void ownAddressesChanged(const OwnAddresses &own);
     /// How many are being sent now, and how many can be fetched.
     int underWay() const;
     int live() const;

@@ -274,6 +274,32 @@ TEST_F(TransfersTest, AFileThatChangesEndsItsOfferWithASentence)
     EXPECT_THAT(view().fileTroubles, ElementsAre(QStringLiteral("a has changed."))) << "where it was offered, too";
 }
 
+TEST_F(TransfersTest, AnAddressThatHasGoneIsSaidWhereSomethingIsOfferedAtIt)
+{
+    const std::vector<NetworkCard> before = copy.ownAddresses.running;
+    const QString sentence = QStringLiteral("Files are offered at 10.0.0.1, which this computer no longer has");
+    copy.ownAddresses.running = {};
+    copy.networkWatch.tell();
+    EXPECT_FALSE(copy.view.log.text().contains(sentence)) << "nothing is offered";
+    copy.ownAddresses.running = before;
+    copy.networkWatch.tell();
+    chat().sendFiles({QStringLiteral("/a"), QStringLiteral("/b"), QStringLiteral("/c")});
+    offers().stop(2);
+    copy.networkWatch.tell();
+    EXPECT_FALSE(copy.view.log.text().contains(sentence));
+    copy.ownAddresses.running = {};
+    copy.networkWatch.tell();
+    copy.networkWatch.tell();
+    EXPECT_EQ(copy.view.log.text().count(sentence), 1);
+    const QString gone = QStringLiteral("offered at 10.0.0.1, which this computer no longer has");
+    EXPECT_EQ(shown(0, FileOffers::Progress), gone);
+    EXPECT_EQ(shown(1, FileOffers::Progress), gone);
+    EXPECT_EQ(shown(2, FileOffers::Progress), QString());
+    copy.ownAddresses.running = before;
+    copy.networkWatch.tell();
+    EXPECT_EQ(shown(0, FileOffers::Progress), QStringLiteral("not fetched yet"));
+}
+
 TEST_F(TransfersTest, TheEndOfTheProgramAsksWhileFilesAreOnTheirWay)
 {
     EXPECT_EQ(copy.engine.mainWindow().Form_QueryUnload(UnloadMode::closeBox), CloseDecision::unload);
