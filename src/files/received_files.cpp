@@ -250,6 +250,16 @@ int ReceivedFiles::underWay() const
     return static_cast<int>(std::ranges::count_if(m_files, &ReceivedFile::isUnderWay));
 }
 
+std::vector<int> ReceivedFiles::offered() const
+{
+    std::vector<int> numbers;
+    for (const ReceivedFile &file : m_files) {
+        if (file.state == State::offered)
+            numbers.push_back(file.number);
+    }
+    return numbers;
+}
+
 QString ReceivedFiles::progressOf(const ReceivedFile &file)
 {
     switch (file.state) {

@@ -88,6 +88,8 @@ public:
     /// The folder of the last save(); empty before.
     const QString &lastFolder() const { return m_lastFolder; }
     int underWay() const;
+    /// The numbers of those with which nothing has been done yet.
+    std::vector<int> offered() const;
     /// For people: how far it is.
     static QString progressOf(const ReceivedFile &file);
 

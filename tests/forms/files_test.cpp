@@ -607,6 +607,26 @@ TEST(UnfinishedFilesInWindows, AreALineOfTheLogThatLeadsToThem)
     }));
 }
 
+TEST_F(FilesInWindows, TheWindowSavesAllThatWaits)
+{
+    receiveAnother(0);
+    QWidget &window = transfers();
+    auto &saveAll = controlOf<QPushButton>(window, "saveAllReceivedBtn");
+    EXPECT_FALSE(saveAll.isEnabled());
+    for (int i = 1; i < 4; ++i)
+        receiveAnother(i);
+    received().save(received().at(1).number, QStringLiteral("/elsewhere"));
+    EXPECT_TRUE(saveAll.isEnabled());
+    EXPECT_EQ(saveAll.text(), QStringLiteral("Save A&ll (3)..."));
+    saveAll.click();
+    receiveAnother(4); // which came when the user had been told of three
+    QMetaObject::invokeMethod(&dialog(), "fileSelected", Q_ARG(QString, folder.path()));
+    for (int row = 0; row < 4; ++row)
+        EXPECT_EQ(received().at(row).folder, row == 1 ? QStringLiteral("/elsewhere") : folder.path());
+    EXPECT_EQ(received().at(4).folder, QString());
+    EXPECT_FALSE(saveAll.isEnabled());
+}
+
 TEST_F(FilesInWindows, TheWindowMayBeClosedWhileATransferIsUnderWay)
 {
     windows.arrive("10.0.0.2", annsPlan);
