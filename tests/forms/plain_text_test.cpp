@@ -116,13 +116,13 @@ TEST(UnaskedMessageBox, TakesNoFocusAndReturnMeansNo)
 TEST(CarefulMessageBox, TakesReturnAndEscForNo)
 {
     MessageBoxes boxes;
-    for (const auto &[key, isYes] : {std::pair{Qt::Key_Return, false}, {Qt::Key_Escape, false}, {Qt::Key_Y, true}}) {
-        QTimer::singleShot(0, [key = key] {
-            QTest::keyClick(QApplication::activeModalWidget(), key,
-                            key == Qt::Key_Y ? Qt::AltModifier : Qt::NoModifier);
-        });
-        EXPECT_EQ(boxes.decideCarefully(QStringLiteral("End it?"), QStringLiteral("t")), std::optional(isYes));
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+        QTimer::singleShot(0, [key] { QTest::keyClick(QApplication::activeModalWidget(), key); });
+        EXPECT_EQ(boxes.decideCarefully(QStringLiteral("End it?"), QStringLiteral("t")), std::optional(false));
     }
+    QTimer::singleShot(
+        0, [] { qobject_cast<QMessageBox *>(QApplication::activeModalWidget())->button(QMessageBox::Yes)->click(); });
+    EXPECT_EQ(boxes.decideCarefully(QStringLiteral("End it?"), QStringLiteral("t")), std::optional(true));
 }
 
 TEST(UnattendedMessageBox, ClosesWhatIsOpenAsIfCancelled)
