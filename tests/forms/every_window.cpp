@@ -494,6 +494,12 @@ void takeFiles(Gallery &gallery)
                               .what = What::done,
                               .path = folder.filePath(QStringLiteral("Cat.png")),
                               .isChecked = true});
+    const auto isPictureShown = [&windows] {
+        const QList<QLabel *> pictures = windows.privateWindow().findChildren<QLabel *>(QStringLiteral("shownPicture"));
+        return std::ranges::any_of(pictures, &QLabel::isVisible);
+    };
+    if (!QTest::qWaitFor(isPictureShown))
+        qFatal("no picture");
     gallery.take(windows.privateWindow(), "private_with_transfers");
     windows.engine.privateWindows().at(1)->sendFiles(
         {QStringLiteral("/media/me/Minutes of the meeting.odt"), QStringLiteral("/media/me/Plan.pdf")});
