@@ -9,7 +9,7 @@ namespace nimb
 
 ConversationTools ConversationForms::tools()
 {
-    return {m_links, m_emoji, m_spelling, m_logRoom, m_openHistory, m_openTransfers, m_folders, m_scratch};
+    return {m_links, m_emoji, m_spelling, m_logRoom, m_openHistory, m_openTransfers, m_folders, m_scratch, m_pictures};
 }
 
 ViewPtr<PrivateChatView> ConversationForms::makePrivateForm(PrivateChat &chat)

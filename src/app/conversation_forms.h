@@ -3,6 +3,7 @@
 
 #include "conference/conference_view.h"
 #include "conversation/emoji_stock.h"
+#include "conversation/small_picture.h"
 #include "conversation/spelling.h"
 #include "log/RTFSubClass.h"
 #include "log/log_room.h"
@@ -42,6 +43,7 @@ private:
     std::function<void()> m_openTransfers;
     LinkOpener &m_folders;
     ScratchFolder m_scratch;
+    SmallPictures m_pictures;
 };
 
 } // namespace nimb

@@ -153,6 +153,8 @@ void DialogOpener::mnuSendFile(const QString &ip)
         return;
     if (contact->presence == Presence::unknown)
         return m_engine.contactCommands().mnuPrivateChat(ip); // which says why nothing opens
+    if (!isPresent(contact->presence))
+        return m_engine.privateWindows().sendFiles(ip, {}); // which says why none goes
     askForFiles(m_main, [this, ip](const QStringList &paths) { m_engine.privateWindows().sendFiles(ip, paths); });
 }
 

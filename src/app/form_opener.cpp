@@ -93,6 +93,8 @@ void FormOpener::runCommand(const QString &name)
 {
     if (m_dialogs && name == networkDoctorCommand)
         m_dialogs->mnuNetworkDoctor();
+    if (m_dialogs && name == transfersCommand)
+        m_dialogs->mnuTransfers();
 }
 
 void FormOpener::destroyMain()

@@ -25,7 +25,9 @@ struct WantedFile {
 /// How far it is.
 struct FetchedBytes {
     enum class What {
+        there, ///< nothing is under way; it was looked up how much of it is here
         running,
+        summing,  ///< the peer is there; what earlier tries have left is being read
         waiting,  ///< the peer sends too many others now
         checking, ///< all is here; the sum is waited for
         done,
@@ -50,6 +52,8 @@ public:
     /// Goes on where an earlier one ended, as far as that is the same file. Nothing here waits.
     virtual void fetch(const WantedFile &file) = 0;
     virtual void stop(int number) = 0;
+    /// Looks how much of it earlier tries have left, and says so once. Nothing here waits.
+    virtual void lookUp(const WantedFile &file) = 0;
 
     /// Called on the thread of the event loop; for each file done, stopped or failed comes last.
     std::function<void(const FetchedBytes &)> told;

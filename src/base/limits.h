@@ -98,6 +98,11 @@ constexpr int avatarsOfStrangers = 1000;
 constexpr qint64 pictureFilePixels = 50'000'000;
 /// MiB that Qt may take for one: the above with its largest pixels of eight bytes.
 constexpr int pictureFileMemory = 512;
+/// Pixels of a picture of somebody else's that is shown small: what most cameras and phones make. One of 5 MB may hold
+/// any number of one colour, which only some formats can be read without; these take 100 MB, and about half a second.
+constexpr qint64 shownPicturePixels = 25'000'000;
+/// After so long it is no picture that anybody means to be looked at: JPEG may say the same pixel thousands of times.
+constexpr std::chrono::seconds shownPictureTime{10};
 /// Invitations that wait: a host that sends more of them wants to annoy.
 constexpr int invitations = 1000;
 /// Of one host: it has five conferences at most, and now and then a new one.
@@ -210,6 +215,8 @@ constexpr int filesSentAtOnce = 8;
 constexpr int filesSentToPeer = 4;
 /// Rows of a conversation's panel of files; the others are under Tools > Transfers...
 constexpr int filesInPanel = 3;
+/// Sentences of a conversation on files that were not sent: more would take the room of what was said.
+constexpr qsizetype fileTroublesShown = 3;
 /// Files that are received at once; others wait.
 constexpr int filesReceivedAtOnce = 4;
 /// Connections to the server of files: a peer may look while it loads. Each has a thread with a small stack.

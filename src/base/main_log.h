@@ -17,6 +17,8 @@ struct LogCommand {
 
 /// Opens the network doctor.
 inline const QString networkDoctorCommand = QStringLiteral("networkDoctor");
+/// Opens the window of transfers.
+inline const QString transfersCommand = QStringLiteral("transfers");
 
 class MainLog
 {

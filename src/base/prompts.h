@@ -21,6 +21,8 @@ public:
     [[nodiscard]] virtual bool ask(const QString &text, const QString &title) = 0;
     /// The same; nothing when nobody was there to answer, as at the end of a session.
     [[nodiscard]] virtual std::optional<bool> decide(const QString &text, const QString &title) = 0;
+    /// The same before what cannot be undone: Return means No, as Esc does.
+    [[nodiscard]] virtual std::optional<bool> decideCarefully(const QString &text, const QString &title) = 0;
     /// The same for a question that comes up by itself, while the user may be typing: the box takes no focus, and
     /// Return means No.
     [[nodiscard]] virtual std::optional<bool> decideUnasked(const QString &text, const QString &title) = 0;

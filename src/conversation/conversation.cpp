@@ -90,15 +90,23 @@ void Conversation::appendMessage(const Writer &writer, const QString &text, cons
                     .text = text});
 }
 
+bool Conversation::mayFilesBeSent()
+{
+    const QString trouble = whyNoFiles();
+    if (!trouble.isEmpty())
+        conversationView().showFileTrouble(trouble);
+    return trouble.isEmpty();
+}
+
 /// Each answer may come when this is gone.
 void Conversation::sendFiles(const QStringList &paths)
 {
-    if (m_over)
+    if (m_over || !mayFilesBeSent())
         return;
     const FileOffers::Answers answers{.written =
                                           [self = std::weak_ptr(m_self)](const QString &message) {
                                               const auto there = self.lock();
-                                              return there && (*there)->send(message);
+                                              return there && (*there)->mayFilesBeSent() && (*there)->send(message);
                                           },
                                       .refused =
                                           [self = std::weak_ptr(m_self)](const QString &sentence) {

@@ -58,6 +58,8 @@ public:
 
     /// Offers files and folders to whoever takes part; each has a message of its own.
     void sendFiles(const QStringList &paths);
+    /// Says so where nobody would get a file now; to be asked before the user chooses one.
+    [[nodiscard]] bool mayFilesBeSent();
     FileTransfers &transfers() const { return m_services.transfers; }
 
     HistoryChoice &history() const { return m_services.history; }
@@ -107,6 +109,8 @@ private:
     virtual void deliver(const QString &text) = 0;
     /// To whom files go that are sent here.
     virtual FileOffers::Recipients fileRecipients() const = 0;
+    /// Why none would get there now, a sentence; empty: nothing is known against it.
+    virtual QString whyNoFiles() const { return {}; }
     /// No more than this many messages are unread now.
     virtual void wasRead(int) { }
     /// Of what is sent now.

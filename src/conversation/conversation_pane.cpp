@@ -68,7 +68,8 @@ bool isMeantForMessage(const QKeyEvent &event)
 
 ConversationPane::ConversationPane(Conversation &conversation, const ConversationTools &tools, QWidget *parent)
     : QWidget(parent), m_conversation(&conversation), m_links(tools.links), m_openHistory(tools.openHistory),
-      m_openTransfers(tools.openTransfers), m_emoji(tools.emoji), m_folders(tools.folders), m_scratch(tools.scratch)
+      m_openTransfers(tools.openTransfers), m_emoji(tools.emoji), m_folders(tools.folders), m_scratch(tools.scratch),
+      m_pictures(tools.pictures)
 {
     buildControls();
     connectControls();
@@ -164,7 +165,8 @@ QHBoxLayout *ConversationPane::makeInput()
     // Not among the tools, whose captions need the room.
     sendFileBtn = toolButton(this, "sendFileBtn", tr("Send files"), "file");
     sendFileBtn->setToolButtonStyle(Qt::ToolButtonIconOnly);
-    sendFileBtn->setToolTip(tr("Send files"));
+    sendFileBtn->setToolTip(tr("Send files; the arrow, or the Down key, has folders too"));
+    sendFileBtn->setPopupMode(QToolButton::MenuButtonPopup);
     sendFileBtn->setVisible(m_conversation->transfers().offers.isAvailable());
     row->addWidget(intext);
     row->addWidget(sendFileBtn);
@@ -229,16 +231,26 @@ void ConversationPane::connectFiles()
     auto *const sendFile = named(new QAction(tr("Send Fil&es..."), this), "logSendFile");
     connect(sendFile, &QAction::triggered, this, &ConversationPane::askForSentFiles);
     auto *const sendFolder = named(new QAction(tr("Send a Fol&der..."), this), "logSendFolder");
-    connect(sendFolder, &QAction::triggered, this,
-            [this] { askForSentFolder(*window(), [this](const QString &path) { sendFiles({path}); }); });
+    connect(sendFolder, &QAction::triggered, this, &ConversationPane::askForFolderToSend);
     m_outtext->setFurtherCommands({sendFile, sendFolder});
+    sendFileBtn->addActions({sendFile, sendFolder}); // of which the button makes a menu while it is open
+    auto *const open = new QShortcut(Qt::Key_Down, sendFileBtn);
+    open->setContext(Qt::WidgetShortcut);
+    connect(open, &QShortcut::activated, sendFileBtn, &QToolButton::showMenu);
 }
 
 // --- files
 
 void ConversationPane::askForSentFiles()
 {
-    askForFiles(*window(), [this](const QStringList &paths) { sendFiles(paths); });
+    if (m_conversation && m_conversation->mayFilesBeSent())
+        askForFiles(*window(), [this](const QStringList &paths) { sendFiles(paths); });
+}
+
+void ConversationPane::askForFolderToSend()
+{
+    if (m_conversation && m_conversation->mayFilesBeSent())
+        askForSentFolder(*window(), [this](const QString &path) { sendFiles({path}); });
 }
 
 void ConversationPane::sendFiles(const QStringList &paths)
@@ -250,38 +262,66 @@ void ConversationPane::sendFiles(const QStringList &paths)
 /// Not at once: who pastes may have meant a text.
 void ConversationPane::offerPicture(const QImage &picture)
 {
+    if (!m_conversation || !m_conversation->mayFilesBeSent())
+        return;
     const QString name = tr("Picture %1.png").arg(++m_pastedPictures);
     const QString path = QDir(m_scratch.path()).filePath(QStringLiteral("%1-%2").arg(quintptr(this)).arg(name));
     if (m_scratch.path().isEmpty() || !picture.save(path, "PNG"))
         return showFileTrouble(tr("The picture cannot be sent, for there is no room for it."));
     m_pastedPicture = path;
-    const QString sentence = tr("A picture was pasted (%1 × %2).").arg(picture.width()).arg(picture.height());
-    fileBand->setText(sentence + QLatin1Char(' ')
-                      + bandAnswers({bandAnswer(QStringLiteral("send"), tr("Send it")),
-                                     bandAnswer(QStringLiteral("no"), tr("leave it"))}));
-    fileBand->setAccessibleName(sentence);
-    fileBand->show();
+    m_pastedQuestion = tr("A picture was pasted (%1 × %2).").arg(picture.width()).arg(picture.height());
+    showFileBand();
+}
+
+/// What went wrong, and below it what is asked.
+void ConversationPane::showFileBand()
+{
+    QStringList said = m_fileTroubles, lines;
+    if (m_earlierTroubles > 0)
+        said.prepend(tr("Earlier troubles with files: %1.").arg(m_earlierTroubles));
+    for (const QString &sentence : said)
+        lines += sentence.toHtmlEscaped();
+    if (!lines.empty())
+        lines.back() += u' ' + bandAnswer(QStringLiteral("close"), tr("Close"));
+    if (!m_pastedQuestion.isEmpty()) {
+        said += m_pastedQuestion;
+        lines += m_pastedQuestion + u' '
+            + bandAnswers({bandAnswer(QStringLiteral("send"), tr("Send it")),
+                           bandAnswer(QStringLiteral("no"), tr("leave it"))});
+    }
+    fileBand->setText(lines.join(QLatin1String("<br>")));
+    fileBand->setAccessibleName(said.join(u' '));
+    fileBand->setVisible(!lines.empty());
 }
 
 void ConversationPane::fileBand_Click(const QString &answer)
 {
-    fileBand->hide();
+    if (answer == QLatin1String("close")) {
+        m_fileTroubles.clear();
+        m_earlierTroubles = 0;
+    } else {
+        m_pastedQuestion.clear();
+    }
+    showFileBand();
     if (answer == QLatin1String("send"))
         sendFiles({std::exchange(m_pastedPicture, {})});
     focusInput();
 }
 
+/// The newest ones, each once.
 void ConversationPane::showFileTrouble(const QString &sentence)
 {
-    fileBand->setText(sentence.toHtmlEscaped() + tr(" <a href=\"close\">Close</a>"));
-    fileBand->setAccessibleName(sentence);
-    fileBand->show();
+    m_fileTroubles.removeAll(sentence);
+    m_fileTroubles += sentence;
+    for (; m_fileTroubles.size() > limits::fileTroublesShown; ++m_earlierTroubles)
+        m_fileTroubles.removeFirst();
+    showFileBand();
 }
 
 void ConversationPane::addReceivedFile(int number)
 {
     if (!m_files) {
-        m_files = new FilePanel(m_conversation->transfers().received, m_folders, m_scratch, this);
+        m_files = new FilePanel(m_conversation->transfers().received, m_folders, m_scratch, m_pictures, this);
         connect(m_files, &FilePanel::allWanted, this, m_openTransfers);
         m_column->insertWidget(m_column->indexOf(m_cleared->strip()), m_files);
     }
@@ -384,7 +424,7 @@ void ConversationPane::offerRest(const QString &rest)
     const QString sentence = tr("A message holds %1 characters; the last %2 of what you pasted did not fit.")
                                  .arg(limits::messageLength)
                                  .arg(m_rest.size());
-    cutBand->setText(sentence + tr(" <a href=\"rest\">Copy the rest</a>"));
+    cutBand->setText(sentence + u' ' + bandAnswer(QStringLiteral("rest"), tr("Copy the rest")));
     cutBand->setAccessibleName(sentence);
     cutBand->show();
 }

@@ -33,6 +33,7 @@ class LogRoom;
 class MessageInput;
 class RTFSubClass;
 class ScratchFolder;
+class SmallPictures;
 class Spelling;
 class ToolRow;
 
@@ -47,6 +48,7 @@ struct ConversationTools {
     std::function<void()> openTransfers; ///< the window of all files
     LinkOpener &folders;                 ///< opens a folder of this machine
     ScratchFolder &scratch;              ///< for pictures that are shown or sent and not kept
+    SmallPictures &pictures;             ///< reads those of others
 };
 
 /// What a window has beside it, it makes itself and puts between the parts of the pane or around it.
@@ -136,7 +138,9 @@ private:
     void offerRest(const QString &rest);
     void sendFiles(const QStringList &paths);
     void askForSentFiles();
+    void askForFolderToSend();
     void offerPicture(const QImage &picture);
+    void showFileBand();
     void fileBand_Click(const QString &answer);
     void Form_Unload();
 
@@ -150,7 +154,11 @@ private:
     EmojiStock &m_emoji;
     LinkOpener &m_folders;
     ScratchFolder &m_scratch;
-    QString m_pastedPicture; ///< path of what may be sent
+    SmallPictures &m_pictures;
+    QString m_pastedPicture;         ///< path of what may be sent
+    QString m_pastedQuestion;        ///< about it, while it is asked
+    QStringList m_fileTroubles;      ///< those that the band shows
+    qsizetype m_earlierTroubles = 0; ///< which it shows no more
     int m_pastedPictures = 0;
 
     RichTextLogEdit *m_outtext = nullptr;

@@ -5,6 +5,7 @@
 #include "base/link_opener.h"
 #include "conversation/small_picture.h"
 #include "files/received_files.h"
+#include "widgets/band.h"
 #include "widgets/elided_label.h"
 #include "widgets/file_dialogs.h"
 #include "widgets/form_layout.h"
@@ -21,13 +22,11 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStandardPaths>
-#include <QThread>
 #include <QToolButton>
 #include <QUrl>
 
 #include <algorithm>
 #include <iterator>
-#include <memory>
 
 namespace nimb
 {
@@ -56,8 +55,9 @@ QString folderToSaveIn(const ReceivedFiles &files)
 
 // --- the panel
 
-FilePanel::FilePanel(ReceivedFiles &files, LinkOpener &folders, ScratchFolder &scratch, QWidget *parent)
-    : QWidget(parent), m_files(files), m_folders(folders), m_scratch(scratch)
+FilePanel::FilePanel(ReceivedFiles &files, LinkOpener &folders, ScratchFolder &scratch, SmallPictures &pictures,
+                     QWidget *parent)
+    : QWidget(parent), m_files(files), m_folders(folders), m_scratch(scratch), m_pictures(pictures)
 {
     auto *const column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -76,12 +76,12 @@ FilePanel::FilePanel(ReceivedFiles &files, LinkOpener &folders, ScratchFolder &s
 void FilePanel::add(int number)
 {
     makeRoom();
-    auto *const row = new FileRow(m_files, number, m_folders, m_scratch, this);
+    auto *const row = new FileRow(m_files, number, m_folders, m_scratch, m_pictures, this);
     connect(row, &FileRow::closed, this, &FilePanel::remove);
     layout()->addWidget(row);
     m_rows.push_back(row);
-    showFurther();
     show();
+    showFurther();
 }
 
 /// What is under way stays longer than what nobody has wanted.
@@ -119,11 +119,14 @@ void FilePanel::showFurther()
     if (!m_furtherLine)
         return;
     const QString sentence = tr("Further files: %1.").arg(m_further.size());
-    m_furtherCount->setText(sentence + tr(" <a href=\"all\">Show all</a>"));
+    m_furtherCount->setText(sentence + u' '
+                            + bandAnswers({bandAnswer(QStringLiteral("all"), tr("Show all")),
+                                           bandAnswer(QStringLiteral("hide"), tr("Hide"))}));
     m_furtherCount->setAccessibleName(sentence);
     m_furtherCount->setVisible(!m_further.empty());
     m_saveAll->setVisible(hasSeveral);
     m_furtherLine->setVisible(hasSeveral || !m_further.empty());
+    setVisible(!m_rows.empty() || !m_further.empty());
 }
 
 void FilePanel::makeFurtherLine()
@@ -141,7 +144,12 @@ void FilePanel::makeFurtherLine()
     line->addStretch(1);
     line->addWidget(m_saveAll);
     static_cast<QVBoxLayout *>(layout())->insertWidget(0, m_furtherLine);
-    connect(m_furtherCount, &QLabel::linkActivated, this, &FilePanel::allWanted);
+    connect(m_furtherCount, &QLabel::linkActivated, this, [this](const QString &what) {
+        if (what == QLatin1String("all"))
+            return Q_EMIT allWanted();
+        m_further.clear();
+        showFurther();
+    });
     connect(m_saveAll, &QPushButton::clicked, this, &FilePanel::saveAll);
 }
 
@@ -163,14 +171,15 @@ void FilePanel::remove(int number)
     (*which)->hide();
     (*which)->deleteLater();
     m_rows.erase(which);
-    showFurther();
     setVisible(!m_rows.empty());
+    showFurther();
 }
 
 // --- a row
 
-FileRow::FileRow(ReceivedFiles &files, int number, LinkOpener &folders, ScratchFolder &scratch, QWidget *parent)
-    : QWidget(parent), m_files(files), m_number(number), m_folders(folders), m_scratch(scratch)
+FileRow::FileRow(ReceivedFiles &files, int number, LinkOpener &folders, ScratchFolder &scratch, SmallPictures &pictures,
+                 QWidget *parent)
+    : QWidget(parent), m_files(files), m_number(number), m_folders(folders), m_scratch(scratch), m_pictures(pictures)
 {
     setObjectName(QStringLiteral("fileRow"));
     setAutoFillBackground(true);
@@ -188,12 +197,7 @@ FileRow::FileRow(ReceivedFiles &files, int number, LinkOpener &folders, ScratchF
     refresh();
 }
 
-/// The thread ends before what it was made for.
-FileRow::~FileRow()
-{
-    if (m_reading)
-        m_reading->wait();
-}
+FileRow::~FileRow() = default;
 
 QWidget *FileRow::makeFirstLine()
 {
@@ -266,7 +270,7 @@ void FileRow::refresh()
     m_name->setToolTip(file->link.name);
     m_stateLine->setVisible(!isOffered);
     m_state->setText(ReceivedFiles::progressOf(*file));
-    m_bar->setVisible(file->state == State::running || file->state == State::paused);
+    m_bar->setVisible(file->state == State::running || file->state == State::paused || file->state == State::summing);
     m_bar->setValue(file->percent());
     m_look->setVisible(isOffered && file->isPicture() && file->picture.isEmpty());
     m_save->setVisible(isOffered || (file->isLookedAt && !file->isUnderWay()) || file->state == State::failed);
@@ -297,23 +301,17 @@ void FileRow::openFolder()
         failed();
 }
 
-/// Read on a thread of its own: a large one takes long, and comes from somebody else.
+/// Elsewhere: a large one takes long, and comes from somebody else.
 void FileRow::readPicture(const QString &path)
 {
     if (path == m_shownPicture)
         return;
     m_shownPicture = path;
-    if (m_reading)
-        m_reading->wait();
     const qreal scale = devicePixelRatioF();
-    const auto picture = std::make_shared<QImage>();
-    m_reading.reset(QThread::create(
-        [path, picture, room = (largestShownPicture * scale).toSize()] { *picture = smallPicture(path, room); }));
-    connect(m_reading.get(), &QThread::finished, this, [this, picture, scale] {
-        picture->setDevicePixelRatio(scale);
-        showPicture(*picture);
+    m_reading = m_pictures.read(path, (largestShownPicture * scale).toSize(), [this, scale](QImage picture) {
+        picture.setDevicePixelRatio(scale);
+        showPicture(picture);
     });
-    m_reading->start();
 }
 
 void FileRow::showPicture(const QImage &picture)

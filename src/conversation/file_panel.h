@@ -11,7 +11,6 @@ class QImage;
 class QLabel;
 class QProgressBar;
 class QPushButton;
-class QThread;
 class QToolButton;
 
 namespace nimb
@@ -21,7 +20,9 @@ class ElidedLabel;
 class FileRow;
 class LinkOpener;
 class ReceivedFiles;
+class PictureReading;
 class ScratchFolder;
+class SmallPictures;
 
 /// The newest files, one row each, and above them how many more there are; hidden while there are none. Nothing is
 /// fetched by itself.
@@ -31,7 +32,8 @@ class FilePanel : public QWidget
 
 public:
     /// folders: opens a folder of this machine.
-    FilePanel(ReceivedFiles &files, LinkOpener &folders, ScratchFolder &scratch, QWidget *parent);
+    FilePanel(ReceivedFiles &files, LinkOpener &folders, ScratchFolder &scratch, SmallPictures &pictures,
+              QWidget *parent);
 
     void add(int number);
 
@@ -51,6 +53,7 @@ private:
     ReceivedFiles &m_files;
     LinkOpener &m_folders;
     ScratchFolder &m_scratch;
+    SmallPictures &m_pictures;
     std::list<FileRow *> m_rows;
     std::vector<int> m_further; ///< numbers of those that had to make room
     QWidget *m_furtherLine = nullptr;
@@ -64,7 +67,8 @@ class FileRow : public QWidget
     Q_OBJECT
 
 public:
-    FileRow(ReceivedFiles &files, int number, LinkOpener &folders, ScratchFolder &scratch, QWidget *parent);
+    FileRow(ReceivedFiles &files, int number, LinkOpener &folders, ScratchFolder &scratch, SmallPictures &pictures,
+            QWidget *parent);
     ~FileRow() override;
 
     int number() const { return m_number; }
@@ -87,13 +91,14 @@ private:
     const int m_number;
     LinkOpener &m_folders;
     ScratchFolder &m_scratch;
+    SmallPictures &m_pictures;
     ElidedLabel *m_name = nullptr;
     QWidget *m_stateLine = nullptr; ///< while there is more to say than that it is offered
     ElidedLabel *m_state = nullptr;
     QProgressBar *m_bar = nullptr;
     QLabel *m_picture = nullptr;
     QString m_shownPicture; ///< or one that is being read
-    std::unique_ptr<QThread> m_reading;
+    std::unique_ptr<PictureReading> m_reading;
     QPushButton *m_look = nullptr;
     QPushButton *m_save = nullptr;
     QPushButton *m_pause = nullptr;

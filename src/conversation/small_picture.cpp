@@ -1,12 +1,40 @@
 #include "conversation/small_picture.h"
 
+#include "base/event_loop_calls.h"
 #include "base/limits.h"
+#include "base/work_thread.h"
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QImageReader>
 
+#include <utility>
+
 namespace nimb
 {
+namespace
+{
+
+/// Breaks off when nobody wants the picture any more, or it takes too long: its reader sees a file that ends.
+class WantedFileBytes : public QFile
+{
+public:
+    WantedFileBytes(const QString &path, const std::function<bool()> &isUnwanted)
+        : QFile(path), m_isUnwanted(isUnwanted)
+    {
+    }
+
+    bool isBrokenOff() const { return m_isUnwanted() || m_deadline.hasExpired(); }
+
+protected:
+    qint64 readData(char *data, qint64 most) override { return isBrokenOff() ? -1 : QFile::readData(data, most); }
+
+private:
+    const std::function<bool()> &m_isUnwanted;
+    const QDeadlineTimer m_deadline{limits::shownPictureTime};
+};
+
+} // namespace
 
 QByteArray pictureFormatOf(const QByteArray &firstBytes)
 {
@@ -21,9 +49,9 @@ QByteArray pictureFormatOf(const QByteArray &firstBytes)
     return {};
 }
 
-QImage smallPicture(const QString &path, QSize room)
+QImage smallPicture(const QString &path, QSize room, const std::function<bool()> &isUnwanted)
 {
-    QFile file(path);
+    WantedFileBytes file(path, isUnwanted);
     if (!file.open(QIODevice::ReadOnly))
         return {};
     constexpr qint64 longestMark = 12;
@@ -34,11 +62,37 @@ QImage smallPicture(const QString &path, QSize room)
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
     const QSize size = reader.size();
-    if (!size.isValid() || qint64(size.width()) * size.height() > limits::pictureFilePixels)
+    if (!size.isValid() || qint64(size.width()) * size.height() > limits::shownPicturePixels)
         return {};
     if (size.width() > room.width() || size.height() > room.height())
-        reader.setScaledSize(size.scaled(room, Qt::KeepAspectRatio));
-    return reader.read();
+        reader.setScaledSize(size.scaled(room, Qt::KeepAspectRatio)); // which JPEG and WebP do while they are read
+    const QImage picture = reader.read();
+    return file.isBrokenOff() ? QImage() : picture; // the rest would be made up
+}
+
+SmallPictures::SmallPictures() : m_calls(std::make_unique<EventLoopCalls>()) { }
+
+SmallPictures::~SmallPictures()
+{
+    m_isOver = true;
+}
+
+std::unique_ptr<PictureReading> SmallPictures::read(const QString &path, QSize room,
+                                                    std::function<void(const QImage &)> done)
+{
+    auto reading = std::make_unique<PictureReading>();
+    if (!m_thread)
+        m_thread = std::make_unique<WorkThread>();
+    m_thread->put([this, path, room, done = std::move(done), isUnwanted = reading->isUnwanted] {
+        if (*isUnwanted)
+            return;
+        const QImage picture = smallPicture(path, room, [&] { return *isUnwanted || m_isOver; });
+        m_calls->put([picture, done, isUnwanted] {
+            if (!*isUnwanted)
+                done(picture);
+        });
+    });
+    return reading;
 }
 
 } // namespace nimb

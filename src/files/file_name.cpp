@@ -132,6 +132,8 @@ std::optional<QByteArray> decodedPart(std::string_view part)
 QString fileSizeText(quint64 bytes)
 {
     static const std::array units{"kB", "MB", "GB", "TB"};
+    if (bytes == 1)
+        return QStringLiteral("1 byte");
     if (bytes < 1000)
         return QStringLiteral("%1 bytes").arg(bytes);
     double size = static_cast<double>(bytes) / 1000;

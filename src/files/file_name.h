@@ -29,8 +29,8 @@ QByteArray encodedFileName(const QString &name);
 /// The bytes that a part of an address means; nothing where an escape is broken.
 std::optional<QByteArray> decodedPart(std::string_view part);
 
-/// "0 bytes", "999 bytes", "1.0 kB", "2.3 MB", "20.0 GB": thousands, as most desktops count. The same in every
-/// language, for it travels.
+/// "0 bytes", "1 byte", "999 bytes", "1.0 kB", "2.3 MB", "20.0 GB": thousands, as most desktops count. The same in
+/// every language, for it travels.
 QString fileSizeText(quint64 bytes);
 
 /// The suffix says that it is a picture of a kind that can be shown.

@@ -3,6 +3,7 @@
 #include "base/clock_text.h"
 #include "base/isolated.h"
 #include "base/limits.h"
+#include "base/own_addresses.h"
 #include "base/remote_text.h"
 #include "files/file_link.h"
 #include "files/file_name.h"
@@ -12,6 +13,8 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
+#include <utility>
 
 namespace nimb
 {
@@ -36,6 +39,7 @@ struct FileOffers::Offer {
     QString name;
     QString path;
     Recipients recipients;
+    Answers answers;
     quint64 size = 0;
     OfferLife life = OfferLife::day;
     QDateTime until{};
@@ -43,6 +47,7 @@ struct FileOffers::Offer {
     QHash<quint64, SentBytes> transfers{}; ///< under way
     int fetched = 0;                       ///< how often all of it
     bool isReadied = false;
+    bool hasAddress = true; ///< the one at which it is offered is still one of this computer
     bool isLive = true;
     QString ended{}; ///< why it is not live any more
 };
@@ -55,6 +60,7 @@ FileOffers::FileOffers(Parts parts) : m_parts(parts)
         if (!offer || !offer->isLive)
             return;
         m_parts.log.fault(sentence);
+        offer->answers.refused(sentence);
         end(*offer, sentence);
     };
 }
@@ -112,6 +118,7 @@ void FileOffers::offerOne(const QString &path, const Recipients &recipients, con
     made->path = path;
     made->name = cleanFileName(path);
     made->recipients = recipients;
+    made->answers = answers;
     const QString token = made->token;
     made->age = m_parts.timers.oneShot(limits::fileOffered, [this, token] {
         if (Offer *const offer = find(token))
@@ -122,14 +129,15 @@ void FileOffers::offerOne(const QString &path, const Recipients &recipients, con
     m_offers.push_back(std::move(made));
     endInsertRows();
     m_parts.server.serve({.token = token, .name = {}, .path = path, .to = recipients.to, .at = recipients.at},
-                         [this, token, answers](const FileServer::Readied &now) { readied(token, now, answers); });
+                         [this, token](const FileServer::Readied &now) { readied(token, now); });
 }
 
-void FileOffers::readied(const QString &token, const FileServer::Readied &readied, const Answers &answers)
+void FileOffers::readied(const QString &token, const FileServer::Readied &readied)
 {
     Offer *const offer = find(token);
     if (!offer || !offer->isLive)
         return;
+    const Answers answers = offer->answers; // the offer may have gone when they come back
     if (!readied.trouble.isEmpty()) {
         end(*offer, readied.trouble);
         return answers.refused(readied.trouble);
@@ -191,6 +199,26 @@ void FileOffers::setLife(int row, OfferLife life)
         offer.age->start();
     offer.until = m_parts.clock.now().addSecs(std::chrono::seconds(limits::fileOffered).count());
     rowChanged(offer);
+}
+
+/// Each address has one sentence, however much is offered there.
+void FileOffers::ownAddressesChanged(const OwnAddresses &own)
+{
+    const std::vector<NetworkCard> cards = own.cards();
+    std::set<Ipv4Address> gone;
+    for (const auto &offer : m_offers) {
+        const Ipv4Address at = offer->recipients.at;
+        const bool has = at.isLoopback() || std::ranges::count(cards, at, &NetworkCard::address) > 0;
+        if (!offer->isLive || std::exchange(offer->hasAddress, has) == has)
+            continue;
+        rowChanged(*offer);
+        if (!has)
+            gone.insert(at);
+    }
+    for (const Ipv4Address at : gone)
+        m_parts.log.fault(tr("Files are offered at %1, which this computer no longer has: nobody can fetch them, until "
+                             "it has it again or you send them once more.")
+                              .arg(addressText(at)));
 }
 
 const FileOffers::Offer &FileOffers::offerAt(int row) const
@@ -303,6 +331,8 @@ QString FileOffers::progressOf(const Offer &offer) const
         parts += tr("%1 % to %2").arg(percent).arg(addressText(transfer.to));
     }
     parts.sort();
+    if (offer.isLive && !offer.hasAddress)
+        parts.prepend(tr("offered at %1, which this computer no longer has").arg(addressText(offer.recipients.at)));
     if (offer.fetched > 0)
         parts += tr("fetched: %1").arg(offer.fetched);
     return parts.isEmpty() && offer.isLive ? tr("not fetched yet") : parts.join(QLatin1String(", "));

@@ -16,6 +16,8 @@
 namespace nimb
 {
 
+class OwnAddresses;
+
 /// How long something is offered.
 enum class OfferLife {
     day,          ///< limits::fileOffered
@@ -48,6 +50,7 @@ public:
     struct Answers {
         std::function<bool(const QString &message)> written;
         /// All of it, or a part: the rest is sent.
+        /// Later, too, when what was offered cannot be sent any more.
         std::function<void(const QString &sentence)> refused;
     };
 
@@ -61,6 +64,8 @@ public:
     void setLife(int row, OfferLife life);
     OfferLife lifeOf(int row) const;
     bool isLive(int row) const;
+    /// Says which offers stand at an address that this computer has no longer; they work again when it is back.
+    void ownAddressesChanged(const OwnAddresses &own);
     /// How many are being sent now, and how many can be fetched.
     int underWay() const;
     int live() const;
@@ -80,7 +85,7 @@ private:
     const Offer &offerAt(int row) const;
     bool mayBegin(qsizetype count, const Recipients &recipients, const Answers &answers);
     void offerOne(const QString &path, const Recipients &recipients, const Answers &answers);
-    void readied(const QString &token, const FileServer::Readied &readied, const Answers &answers);
+    void readied(const QString &token, const FileServer::Readied &readied);
     void sent(const SentBytes &sent);
     void end(Offer &offer, const QString &why);
     Offer *find(const QString &token);

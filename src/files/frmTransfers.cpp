@@ -108,12 +108,15 @@ QGroupBox *frmTransfers::receivedPart()
     receivedList = transferList(part, "receivedList", tr("What others offer you"), m_transfers.received);
     new EmptyHint(*receivedList, "receivedHint", tr("Nobody has offered you a file since NIMB-Chat was started."));
     saveReceivedBtn = transferButton(part, "saveReceivedBtn", tr("S&ave..."));
+    saveAllReceivedBtn = transferButton(part, "saveAllReceivedBtn", tr("Save A&ll..."));
+    saveAllReceivedBtn->setToolTip(tr("Saves all that is offered and has not been fetched, in one folder"));
     pauseReceivedBtn = transferButton(part, "pauseReceivedBtn", tr("&Pause"));
     resumeReceivedBtn = transferButton(part, "resumeReceivedBtn", tr("&Resume"));
     openReceivedBtn = transferButton(part, "openReceivedBtn", tr("&Open Folder"));
     auto *const column = new QVBoxLayout(part);
     column->addWidget(receivedList, 1);
-    column->addLayout(buttonLine({saveReceivedBtn, pauseReceivedBtn, resumeReceivedBtn, openReceivedBtn}));
+    column->addLayout(
+        buttonLine({saveReceivedBtn, saveAllReceivedBtn, pauseReceivedBtn, resumeReceivedBtn, openReceivedBtn}));
     return part;
 }
 
@@ -128,6 +131,7 @@ void frmTransfers::connectControls()
     connect(lifeBox, &QComboBox::activated, this, &frmTransfers::lifeBox_Click);
     connect(stopOfferBtn, &QPushButton::clicked, this, [this] { m_transfers.offers.stop(chosenOffer()); });
     connect(saveReceivedBtn, &QPushButton::clicked, this, &frmTransfers::saveReceivedBtn_Click);
+    connect(saveAllReceivedBtn, &QPushButton::clicked, this, &frmTransfers::saveAllReceivedBtn_Click);
     connect(pauseReceivedBtn, &QPushButton::clicked, this, [this] {
         if (const ReceivedFile *const file = chosenFile())
             m_transfers.received.pause(file->number);
@@ -161,6 +165,9 @@ void frmTransfers::showWhatCanBeDone()
     const ReceivedFile *const file = chosenFile();
     const bool isIdle = file && !file->isUnderWay();
     saveReceivedBtn->setEnabled(isIdle && file->state != State::paused);
+    const std::size_t offered = m_transfers.received.offered().size();
+    saveAllReceivedBtn->setEnabled(offered > 1);
+    saveAllReceivedBtn->setText(offered > 1 ? tr("Save A&ll (%1)...").arg(offered) : tr("Save A&ll..."));
     pauseReceivedBtn->setEnabled(file && file->isUnderWay());
     resumeReceivedBtn->setEnabled(isIdle && (file->state == State::paused || file->state == State::failed));
     openReceivedBtn->setEnabled(isIdle && file->state == State::done);
@@ -177,9 +184,22 @@ void frmTransfers::saveReceivedBtn_Click()
     const ReceivedFile *const file = chosenFile();
     if (!file)
         return;
+    askWhereToSave([this, number = file->number](const QString &path) { m_transfers.received.save(number, path); });
+}
+
+void frmTransfers::saveAllReceivedBtn_Click()
+{
+    askWhereToSave([this, numbers = m_transfers.received.offered()](const QString &path) {
+        for (const int number : numbers)
+            m_transfers.received.save(number, path);
+    });
+}
+
+void frmTransfers::askWhereToSave(std::function<void(const QString &folder)> chosen)
+{
     const QString &last = m_transfers.received.lastFolder();
     askForSaveFolder(*this, last.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DownloadLocation) : last,
-                     [this, number = file->number](const QString &path) { m_transfers.received.save(number, path); });
+                     std::move(chosen));
 }
 
 void frmTransfers::openReceivedBtn_Click()

@@ -6,6 +6,8 @@
 
 #include <QDialog>
 
+#include <functional>
+
 class QComboBox;
 class QGroupBox;
 class QPushButton;
@@ -34,6 +36,8 @@ private:
     void showWhatCanBeDone();
     void lifeBox_Click(int life);
     void saveReceivedBtn_Click();
+    void saveAllReceivedBtn_Click();
+    void askWhereToSave(std::function<void(const QString &folder)> chosen);
     void openReceivedBtn_Click();
 
     FileTransfers &m_transfers;
@@ -43,6 +47,7 @@ private:
     QComboBox *lifeBox = nullptr;
     QPushButton *stopOfferBtn = nullptr;
     QPushButton *saveReceivedBtn = nullptr;
+    QPushButton *saveAllReceivedBtn = nullptr;
     QPushButton *pauseReceivedBtn = nullptr;
     QPushButton *resumeReceivedBtn = nullptr;
     QPushButton *openReceivedBtn = nullptr;

@@ -1,9 +1,10 @@
 #include "files/http_file_fetcher.h"
 
+#include "base/event_loop_calls.h"
 #include "base/limits.h"
+#include "base/work_thread.h"
 #include "files/file_name.h"
 #include "files/http_head.h"
-#include "platform/event_loop_calls.h"
 #include "platform/origin_mark.h"
 #include "protocol/address_text.h"
 
@@ -51,6 +52,12 @@ bool isFullDisk(int error)
     return error == ENOSPC;
 }
 
+/// Where it lies until all has come.
+QString partPath(const WantedFile &file)
+{
+    return QDir(file.folder).filePath(unfinishedFileName(file.name, file.host, file.path));
+}
+
 /// One connection. Every wait ends soon after the fetch is stopped.
 class FileConnection
 {
@@ -83,6 +90,9 @@ public:
             wait.exec();
         return m_socket.state() == QAbstractSocket::ConnectedState;
     }
+
+    /// The machine is there, and nothing is offered on it: a firewall keeps silent, or says that it is one.
+    bool wasRefused() const { return m_socket.error() == QAbstractSocket::ConnectionRefusedError; }
 
     /// Asks, and reads the head of the answer; nothing where none came that can be used.
     std::optional<HttpHead> ask(const QByteArray &method, const QByteArray &headers)
@@ -146,6 +156,8 @@ public:
         const std::optional<QString> trouble = m_file.most > 0 || QDir(m_file.folder).exists()
             ? fetchAll()
             : tr("The folder %1 is not there any more.").arg(QDir::toNativeSeparators(m_file.folder));
+        if (m_part.isOpen())
+            m_state.place = static_cast<quint64>(m_part.size());
         const bool isEmpty = m_part.isOpen() && m_part.size() == 0;
         m_part.close();
         if (isEmpty)
@@ -161,12 +173,16 @@ private:
 
     Trouble fetchAll()
     {
-        m_part.setFileName(QDir(m_file.folder).filePath(unfinishedFileName(m_file.name, m_file.host, m_file.path)));
+        m_part.setFileName(partPath(m_file));
         if (!m_part.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
             return tr("%1 cannot be written: %2.")
                 .arg(QDir::toNativeSeparators(m_part.fileName()), m_part.errorString());
-        if (!sumWhatIsThere())
-            return std::nullopt;
+        if (m_part.size() > 0) {
+            if (Trouble trouble = askBeforeSumming())
+                return trouble;
+            if (!sumWhatIsThere())
+                return std::nullopt;
+        }
         while (!m_isWhole) {
             const quint64 before = m_state.place;
             if (Trouble trouble = attempt())
@@ -180,18 +196,51 @@ private:
         return check();
     }
 
+    /// Reading much takes minutes: whoever has gone by then has gone before.
+    Trouble askBeforeSumming()
+    {
+        FileConnection connection(m_file, m_isStopped);
+        if (!connection.open())
+            return unreachedTrouble(connection);
+        const std::optional<HttpHead> head = connection.ask("HEAD", {});
+        if (!head)
+            return tr("The sender broke off, or gave an answer that cannot be used.");
+        if (head->status == 404)
+            return goneTrouble();
+        if (head->status == 200) {
+            m_state.size = head->length.value_or(0);
+            m_tag = head->tag;
+        }
+        return std::nullopt;
+    }
+
+    Trouble unreachedTrouble(const FileConnection &connection)
+    {
+        return connection.wasRefused() ? goneTrouble() : tr("The sender cannot be reached.");
+    }
+
+    Trouble goneTrouble()
+    {
+        m_state.isGone = true;
+        return tr("The sender offers it no longer.");
+    }
+
     /// Of an earlier try; false when it was stopped meanwhile.
     bool sumWhatIsThere()
     {
+        m_state.what = What::summing;
         m_state.place = 0;
-        m_sum.reset();
-        m_part.seek(0);
+        m_tell(m_state);
         while (!m_isStopped) {
             const QByteArray piece = m_part.read(static_cast<qint64>(limits::filePiece));
-            if (piece.isEmpty())
+            if (piece.isEmpty()) {
+                m_state.perSecond = 0; // of the disk
+                m_sinceRated.invalidate();
                 return true;
+            }
             m_sum.addData(piece);
             m_state.place += static_cast<quint64>(piece.size());
+            tellProgress();
         }
         return false;
     }
@@ -210,7 +259,7 @@ private:
         m_waited = false;
         FileConnection connection(m_file, m_isStopped);
         if (!connection.open())
-            return tr("The sender cannot be reached.");
+            return unreachedTrouble(connection);
         QByteArray headers;
         if (m_state.place > 0)
             headers = "Range: bytes=" + QByteArray::number(m_state.place) + "-\r\n"
@@ -250,8 +299,7 @@ private:
         case 503:
             return waitForTurn();
         case 404:
-            m_state.isGone = true;
-            return tr("The sender offers it no longer.");
+            return goneTrouble();
         default:
             return tr("The sender gave an answer that cannot be used.");
         }
@@ -286,8 +334,7 @@ private:
         const std::filesystem::space_info room
             = std::filesystem::space(QFileInfo(m_file.folder).filesystemAbsoluteFilePath(), unknown);
         if (!unknown && room.available < m_state.size - m_state.place)
-            return tr("There is too little room in %1. What has come is kept.")
-                .arg(QDir::toNativeSeparators(m_file.folder));
+            return whatIsKept(tr("There is too little room in %1.").arg(QDir::toNativeSeparators(m_file.folder)));
         m_state.what = What::running;
         tellProgress();
         while (m_state.place < m_state.size) {
@@ -320,10 +367,14 @@ private:
     Trouble writeTrouble(int error)
     {
         const bool isFull = m_part.error() == QFileDevice::ResourceError || isFullDisk(error);
-        return isFull
-            ? tr("There is no room any more in %1. What has come is kept.").arg(QDir::toNativeSeparators(m_file.folder))
-            : tr("%1 cannot be written on: %2. What has come is kept.")
-                  .arg(QDir::toNativeSeparators(m_part.fileName()), m_part.errorString());
+        return whatIsKept(isFull ? tr("There is no room any more in %1.").arg(QDir::toNativeSeparators(m_file.folder))
+                                 : tr("%1 cannot be written on: %2.")
+                                       .arg(QDir::toNativeSeparators(m_part.fileName()), m_part.errorString()));
+    }
+
+    QString whatIsKept(const QString &sentence) const
+    {
+        return m_state.place > 0 ? tr("%1 What has come is kept.").arg(sentence) : sentence;
     }
 
     void tellProgress()
@@ -360,6 +411,7 @@ private:
         m_state.isChecked = !m_head.sum.isEmpty();
         if (m_state.isChecked && m_head.sum != sum) {
             m_part.remove();
+            m_state.place = 0;
             return tr("What has come is not what was sent. It has been removed.");
         }
         return putInPlace();
@@ -432,6 +484,18 @@ void HttpFileFetcher::stop(int number)
 {
     if (const auto running = m_running.find(number); running != m_running.end())
         running->second.fetch->stop();
+}
+
+/// A folder of another machine may take its time.
+void HttpFileFetcher::lookUp(const WantedFile &file)
+{
+    if (!m_lookingUp)
+        m_lookingUp = std::make_unique<WorkThread>();
+    m_lookingUp->put([this, file] {
+        const auto size = static_cast<quint64>(QFileInfo(partPath(file)).size());
+        m_calls->put(
+            [this, state = FetchedBytes{.number = file.number, .what = What::there, .place = size}] { tell(state); });
+    });
 }
 
 void HttpFileFetcher::tell(const FetchedBytes &fetched)

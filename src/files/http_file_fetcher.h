@@ -13,6 +13,7 @@ namespace nimb
 {
 
 class EventLoopCalls;
+class WorkThread;
 
 /// Each on a thread of its own: neither the network nor a slow disk is waited for. What has come lies beside its place
 /// as "NAME.TOKEN.part" until all is there and checked. Asks the given address alone: no proxy, and no answer leads
@@ -27,6 +28,7 @@ public:
 
     void fetch(const WantedFile &file) override;
     void stop(int number) override;
+    void lookUp(const WantedFile &file) override;
 
 private:
     class Fetch;
@@ -39,6 +41,7 @@ private:
 
     std::unique_ptr<EventLoopCalls> m_calls; ///< outlives the threads
     std::map<int, Running> m_running;
+    std::unique_ptr<WorkThread> m_lookingUp; ///< once there was something
 };
 
 } // namespace nimb

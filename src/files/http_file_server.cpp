@@ -1,21 +1,19 @@
 #include "files/http_file_server.h"
 
+#include "base/event_loop_calls.h"
+#include "base/work_thread.h"
 #include "files/byte_range.h"
 #include "files/file_link.h"
 #include "files/file_name.h"
 #include "files/file_source.h"
-#include "platform/event_loop_calls.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
 
 #include <algorithm>
 #include <chrono>
-#include <condition_variable>
-#include <deque>
 #include <mutex>
 #include <optional>
-#include <thread>
 
 namespace nimb
 {
@@ -172,54 +170,6 @@ private:
     quint64 m_transfers = 0;
 };
 
-/// A thread that does one thing after the other.
-class HttpFileServer::Jobs
-{
-public:
-    Jobs() : m_thread([this] { run(); }) { }
-    ~Jobs()
-    {
-        {
-            const std::lock_guard lock(m_mutex);
-            m_ends = true;
-            m_wake.notify_one();
-        }
-        m_thread.join();
-    }
-    Jobs(const Jobs &) = delete;
-    Jobs &operator=(const Jobs &) = delete;
-
-    void put(std::function<void()> job)
-    {
-        const std::lock_guard lock(m_mutex);
-        m_jobs.push_back(std::move(job));
-        m_wake.notify_one();
-    }
-
-private:
-    void run()
-    {
-        std::unique_lock lock(m_mutex);
-        for (;;) {
-            m_wake.wait(lock, [this] { return m_ends || !m_jobs.empty(); });
-            if (m_ends)
-                return;
-            std::function<void()> job = std::move(m_jobs.front());
-            m_jobs.pop_front();
-            lock.unlock();
-            job();
-            job = nullptr; // with all that it holds
-            lock.lock();
-        }
-    }
-
-    std::mutex m_mutex;
-    std::condition_variable m_wake;
-    std::deque<std::function<void()>> m_jobs;
-    bool m_ends = false;
-    std::thread m_thread; ///< last, for it uses the others
-};
-
 /// One answer that is under way.
 class HttpFileServer::Transfer : public HttpBody
 {
@@ -337,7 +287,7 @@ void HttpFileServer::serve(const ServedFile &file, std::function<void(const Read
     served->tag = tagOf(file.token);
     m_desk->put(served); // so that it can be withdrawn while it is looked at
     if (!m_looking)
-        m_looking = std::make_unique<Jobs>();
+        m_looking = std::make_unique<WorkThread>();
     m_looking->put([this, served, ready = std::move(ready)] {
         auto source = findSource(served->file.path, served->isStopped);
         m_desk->tell([this, served, ready, source = std::move(source)] { lookedAt(served, source, ready); });
@@ -390,9 +340,10 @@ std::uint16_t HttpFileServer::listenAt(Ipv4Address address)
 /// Beside the transfers: what is offered need not wait for it. The small ones are apart, for a large one takes minutes.
 void HttpFileServer::beginSum(const std::shared_ptr<Served> &served)
 {
-    std::unique_ptr<Jobs> &summing = served->source->size() <= limits::fileSummedSoon ? m_summingSmall : m_summingLarge;
+    std::unique_ptr<WorkThread> &summing
+        = served->source->size() <= limits::fileSummedSoon ? m_summingSmall : m_summingLarge;
     if (!summing)
-        summing = std::make_unique<Jobs>();
+        summing = std::make_unique<WorkThread>();
     summing->put([this, served] {
         const std::unique_ptr<SourceReader> reader = served->source->open(served->isStopped);
         QCryptographicHash hash(QCryptographicHash::Sha256);
@@ -422,7 +373,7 @@ void HttpFileServer::withdraw(const QString &token)
         return;
     // The threads of its connections are waited for, and those perhaps for a slow disk.
     if (!m_closing)
-        m_closing = std::make_unique<Jobs>();
+        m_closing = std::make_unique<WorkThread>();
     m_closing->put([closed = std::shared_ptr(std::move(listening->second.listener))]() mutable { closed.reset(); });
     m_listening.erase(listening);
 }

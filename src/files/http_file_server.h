@@ -13,6 +13,7 @@ namespace nimb
 {
 
 class EventLoopCalls;
+class WorkThread;
 
 /// Listens at an address while something is served there, on the first free port from the given one on. Whoever is not
 /// meant, or asks for what is not there, gets the same answer: 404. Needs the application object.
@@ -31,7 +32,6 @@ public:
 
 private:
     class Desk;
-    class Jobs;
     class Transfer;
     struct Served;
     struct Listening {
@@ -52,7 +52,7 @@ private:
     std::chrono::seconds m_stalls;
     std::unique_ptr<EventLoopCalls> m_calls; ///< outlives the threads
     std::shared_ptr<Desk> m_desk;
-    std::unique_ptr<Jobs> m_looking, m_summingSmall, m_summingLarge, m_closing;
+    std::unique_ptr<WorkThread> m_looking, m_summingSmall, m_summingLarge, m_closing;
     std::map<Ipv4Address, Listening> m_listening;
 };
 

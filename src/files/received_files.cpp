@@ -2,6 +2,7 @@
 
 #include "base/isolated.h"
 #include "base/limits.h"
+#include "base/remote_text.h"
 #include "files/file_name.h"
 
 #include <QDir>
@@ -50,6 +51,7 @@ void ReceivedFiles::restore(ReceivedFile file)
         return;
     file.state = State::paused;
     insert(std::move(file));
+    m_fetcher.lookUp(wantedOf(m_files.back()));
 }
 
 /// Two rows would write into one unfinished file.
@@ -171,15 +173,20 @@ void ReceivedFiles::beginNext()
         if (file.state != State::waiting || isHere)
             continue;
         m_fetching.push_back(file.number);
-        m_fetcher.fetch({.number = file.number,
-                         .host = file.link.host,
-                         .port = file.link.port,
-                         .path = file.link.path,
-                         .from = file.from,
-                         .folder = file.folder,
-                         .name = cleanFileName(file.link.name),
-                         .most = file.isLookedAt ? static_cast<quint64>(limits::shownPictureBytes) : 0});
+        m_fetcher.fetch(wantedOf(file));
     }
+}
+
+WantedFile ReceivedFiles::wantedOf(const ReceivedFile &file)
+{
+    return {.number = file.number,
+            .host = file.link.host,
+            .port = file.link.port,
+            .path = file.link.path,
+            .from = file.from,
+            .folder = file.folder,
+            .name = cleanFileName(file.link.name),
+            .most = file.isLookedAt ? static_cast<quint64>(limits::shownPictureBytes) : 0};
 }
 
 // --- what has become of it
@@ -190,8 +197,11 @@ void ReceivedFiles::told(const FetchedBytes &fetched)
     if (isOver)
         std::erase(m_fetching, fetched.number);
     if (ReceivedFile *const file = findRow(fetched.number)) {
+        if (fetched.what == What::there && file->state != State::paused)
+            return; // it has been gone on with meanwhile
         file->place = fetched.place;
-        file->size = fetched.size;
+        if (fetched.size > 0) // unless nobody has said it this time
+            file->size = fetched.size;
         file->perSecond = fetched.perSecond;
         finish(*file, fetched);
         rowChanged(*file);
@@ -205,6 +215,11 @@ void ReceivedFiles::told(const FetchedBytes &fetched)
 void ReceivedFiles::finish(ReceivedFile &file, const FetchedBytes &fetched)
 {
     switch (fetched.what) {
+    case What::there:
+        return;
+    case What::summing:
+        file.state = State::summing;
+        return;
     case What::running:
         file.state = State::running;
         return;
@@ -219,7 +234,8 @@ void ReceivedFiles::finish(ReceivedFile &file, const FetchedBytes &fetched)
         return;
     case What::failed:
         file.state = State::failed;
-        file.sentence = fetched.sentence;
+        file.sentence
+            = fetched.isGone ? tr("%1 no longer offers this file.").arg(paintedName(file.sender)) : fetched.sentence;
         file.isGone = fetched.isGone;
         return;
     case What::done:
@@ -235,6 +251,16 @@ int ReceivedFiles::underWay() const
     return static_cast<int>(std::ranges::count_if(m_files, &ReceivedFile::isUnderWay));
 }
 
+std::vector<int> ReceivedFiles::offered() const
+{
+    std::vector<int> numbers;
+    for (const ReceivedFile &file : m_files) {
+        if (file.state == State::offered)
+            numbers.push_back(file.number);
+    }
+    return numbers;
+}
+
 QString ReceivedFiles::progressOf(const ReceivedFile &file)
 {
     switch (file.state) {
@@ -242,6 +268,8 @@ QString ReceivedFiles::progressOf(const ReceivedFile &file)
         return tr("offered");
     case State::waiting:
         return tr("waits for others");
+    case State::summing:
+        return tr("checks what is there: %1 %").arg(file.percent());
     case State::running:
         return file.perSecond > 0 ? tr("%1 % of %2, %3 a second")
                                         .arg(file.percent())

@@ -6,6 +6,7 @@
 
 #include <QAbstractTableModel>
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -16,6 +17,7 @@ struct ReceivedFile {
     enum class State {
         offered, ///< nothing has been done with it
         waiting, ///< for others to be fetched first, here or there
+        summing, ///< what is here of it already is read, so that the whole can be checked
         running,
         paused,
         checking,
@@ -38,10 +40,14 @@ struct ReceivedFile {
     bool isGone = false;     ///< it will not be had any more
 
     /// 0 to 100.
-    int percent() const { return size > 0 ? static_cast<int>(place * 100 / size) : 0; }
+    int percent() const { return size > 0 ? static_cast<int>(std::min(place, size) * 100 / size) : 0; }
     /// It can be shown before it is saved.
     bool isPicture() const;
-    bool isUnderWay() const { return state == State::waiting || state == State::running || state == State::checking; }
+    bool isUnderWay() const
+    {
+        return state == State::waiting || state == State::summing || state == State::running
+            || state == State::checking;
+    }
     /// It is to be saved, and there is a chance that it will be.
     bool isUnfinished() const
     {
@@ -65,7 +71,7 @@ public:
     /// is. own: the address
     /// under which the sender knows this copy.
     std::optional<int> add(const QString &message, Ipv4Address writer, const QString &sender, Ipv4Address own);
-    /// Another row, paused, for what an earlier run has left.
+    /// Another row, paused, for what an earlier run has left. How far it is says the file itself, once that was asked.
     void restore(ReceivedFile file);
     /// Null once it has gone to make room.
     const ReceivedFile *find(int number) const;
@@ -82,6 +88,8 @@ public:
     /// The folder of the last save(); empty before.
     const QString &lastFolder() const { return m_lastFolder; }
     int underWay() const;
+    /// The numbers of those with which nothing has been done yet.
+    std::vector<int> offered() const;
     /// For people: how far it is.
     static QString progressOf(const ReceivedFile &file);
 
@@ -102,6 +110,7 @@ private:
     void told(const FetchedBytes &fetched);
     void finish(ReceivedFile &file, const FetchedBytes &fetched);
     void begin(ReceivedFile &file);
+    static WantedFile wantedOf(const ReceivedFile &file);
     bool hasFreePlace() const;
     void beginNext();
     void makeRoom();

@@ -60,12 +60,22 @@ void UnfinishedFiles::load()
         if (std::optional<ReceivedFile> file = readUnfinished(value.toObject()))
             m_files.restore(*std::move(file));
     }
+    tellOfUnfinished();
     connect(&m_files, &ReceivedFiles::unfinishedChanged, this, [this] {
         if (m_delay->isActive())
             return;
         save();
         m_delay->start();
     });
+}
+
+void UnfinishedFiles::tellOfUnfinished()
+{
+    if (m_files.rowCount() == 0)
+        return;
+    m_log.note(tr("files that had not all come when NIMB-Chat ended: %2; %1 goes on with them")
+                   .arg(QStringLiteral("%1"), QString::number(m_files.rowCount())),
+               {tr("Tools, Transfers..."), transfersCommand});
 }
 
 void UnfinishedFiles::save()

@@ -21,13 +21,15 @@ class UnfinishedFiles : public QObject
 public:
     UnfinishedFiles(ReceivedFiles &files, SettingsStore &store, MainLog &log, Timers &timers);
 
-    /// Reads what an earlier run has left.
+    /// Reads what an earlier run has left, and says in the log how many there are.
     void load();
     /// Notes how far they are. What changes is saved at once, and what changes soon after that a moment later,
     /// together.
     void save();
 
 private:
+    void tellOfUnfinished();
+
     ReceivedFiles &m_files;
     SettingsStore &m_store;
     MainLog &m_log;

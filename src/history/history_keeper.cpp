@@ -1,8 +1,8 @@
 #include "history/history_keeper.h"
 
+#include "base/event_loop_calls.h"
 #include "base/limits.h"
 #include "history/history_file.h"
-#include "platform/event_loop_calls.h"
 
 #include <QDir>
 #include <QFile>

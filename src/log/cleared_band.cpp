@@ -13,7 +13,7 @@ ClearedBand::ClearedBand(RichTextLogEdit &log, const QString &sentence, QWidget 
     : QObject(parent), m_log(log), m_strip(named(makeBandWithLink(parent), "clearedBand")),
       m_forGood(named(new QTimer(parent), "clearedForGood"))
 {
-    m_strip->setText(sentence + tr(" <a href=\"undo\">Bring it back</a>"));
+    m_strip->setText(sentence + u' ' + bandAnswer(QStringLiteral("undo"), tr("Bring it back")));
     m_strip->setAccessibleName(sentence);
     m_forGood->setSingleShot(true);
     m_forGood->setInterval(limits::clearedKept);

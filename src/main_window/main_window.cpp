@@ -109,7 +109,7 @@ bool MainWindow::mayEndTransfers(UnloadMode mode)
     if (underWay == 0)
         return true;
     return m_parts.prompts
-        .decide(
+        .decideCarefully(
             tr("Files that are still on their way would be broken off: %1. End NIMB-Chat all the same?").arg(underWay),
             programTitle)
         .value_or(true);

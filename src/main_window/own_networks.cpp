@@ -90,6 +90,7 @@ void OwnNetworks::changed(NetworkChange change)
     take(m_now);
     if (m_now.own != before.own)
         m_parts.ownAddressChanged();
+    m_parts.networksChanged();
     // Of what the others did while this machine slept it has heard nothing.
     if (m_now == before && !listensAgain && change != NetworkChange::wokeUp)
         return;

@@ -40,6 +40,7 @@ public:
         Timers &timers;
         Chance &chance;
         std::function<void()> ownAddressChanged; ///< after the start
+        std::function<void()> networksChanged;   ///< whenever the system says so, whether or not the own address has
     };
 
     explicit OwnNetworks(const Parts &parts);

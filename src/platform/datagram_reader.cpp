@@ -80,7 +80,8 @@ void DatagramReader::run()
         watched.push_back({.fd = socket->descriptor(), .events = POLLIN, .revents = 0});
     ArrivalRush rush;
     for (;;) {
-        const int ready = ::poll(watched.data(), watched.size(), rush.isOn() ? ArrivalRush::silence.count() : -1);
+        const int ready
+            = ::poll(watched.data(), watched.size(), rush.isOn() ? static_cast<int>(ArrivalRush::silence.count()) : -1);
         if (ready < 0)
             continue; // a signal came in between
         if (watched.front().revents != 0)

@@ -232,6 +232,14 @@ FileOffers::Recipients PrivateChat::fileRecipients() const
     return {.to = {*ip}, .at = ownAddressTowards(common(), socket(), ip), .whom = m_peer.name};
 }
 
+/// The link would be lost, or be read when the offer has ended.
+QString PrivateChat::whyNoFiles() const
+{
+    return m_peer.delivery == Delivery::lost
+        ? tr("%1 is offline: files can be sent when %1 is back.").arg(paintedName(m_peer.name))
+        : QString();
+}
+
 KeptConversation PrivateChat::keptAs() const
 {
     return {.kind = KeptConversation::Kind::contact, .address = m_rIP.text(), .name = m_peer.name};

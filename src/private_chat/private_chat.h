@@ -113,6 +113,7 @@ private:
     QString textToSend(const QString &typed) const override;
     void deliver(const QString &text) override;
     FileOffers::Recipients fileRecipients() const override;
+    QString whyNoFiles() const override;
     Writer peer(const QString &nik) const;
     void wasRead(int unread) override { m_read(unread); }
     MessageFate fate() const override;

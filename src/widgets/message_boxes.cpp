@@ -10,7 +10,7 @@ namespace nimb
 {
 
 int MessageBoxes::show(const QString &picture, QMessageBox::StandardButtons buttons, const QString &text,
-                       const QString &title, bool isUnasked)
+                       const QString &title, Manner manner)
 {
     QWidget *const active = QApplication::activeWindow();
     // The window may end while its box is open, and takes the box with it.
@@ -18,10 +18,10 @@ int MessageBoxes::show(const QString &picture, QMessageBox::StandardButtons butt
         = new QMessageBox(QMessageBox::NoIcon, title, {}, buttons, active ? active : m_window.data());
     dress(*box, picture);
     box->setText(text);
-    if (isUnasked) {
+    if (manner == Manner::unasked)
         box->setAttribute(Qt::WA_ShowWithoutActivating);
+    if (manner != Manner::usual)
         box->setDefaultButton(QMessageBox::No);
-    }
     m_open.push_back(box);
     const int answer = box->exec();
     m_open.pop_back();
@@ -59,11 +59,21 @@ std::optional<bool> MessageBoxes::decide(const QString &text, const QString &tit
     return m_unattended ? std::nullopt : std::optional(yes);
 }
 
+std::optional<bool> MessageBoxes::decideCarefully(const QString &text, const QString &title)
+{
+    return decideIn(Manner::careful, text, title);
+}
+
 std::optional<bool> MessageBoxes::decideUnasked(const QString &text, const QString &title)
+{
+    return decideIn(Manner::unasked, text, title);
+}
+
+std::optional<bool> MessageBoxes::decideIn(Manner manner, const QString &text, const QString &title)
 {
     if (m_unattended)
         return std::nullopt;
-    const bool yes = show(questionPicture, QMessageBox::Yes | QMessageBox::No, text, title, true) == QMessageBox::Yes;
+    const bool yes = show(questionPicture, QMessageBox::Yes | QMessageBox::No, text, title, manner) == QMessageBox::Yes;
     return m_unattended ? std::nullopt : std::optional(yes);
 }
 

@@ -25,15 +25,23 @@ public:
     bool confirm(const QString &text, const QString &title) override;
     bool ask(const QString &text, const QString &title) override;
     std::optional<bool> decide(const QString &text, const QString &title) override;
+    std::optional<bool> decideCarefully(const QString &text, const QString &title) override;
     std::optional<bool> decideUnasked(const QString &text, const QString &title) override;
     bool tell(const QString &text, const QString &title) override;
     /// Whether something was told to nobody.
     bool wereMissed() const { return m_missed; }
 
 private:
+    enum class Manner {
+        usual,
+        careful, ///< Return means No
+        unasked, ///< the same, and no focus
+    };
+
     /// The box stands over the window in which the user is.
     int show(const QString &picture, QMessageBox::StandardButtons buttons, const QString &text, const QString &title,
-             bool isUnasked = false);
+             Manner manner = Manner::usual);
+    std::optional<bool> decideIn(Manner manner, const QString &text, const QString &title);
 
     QPointer<QWidget> m_window;
     std::vector<QPointer<QMessageBox>> m_open; ///< the innermost last

@@ -73,7 +73,7 @@ QByteArray fetched(const std::string &url, const std::string &from)
 /// By the paper clip beside "Send".
 void sendFile(const PrivateWindow &window, const QString &path)
 {
-    constexpr int fromRight = 107, aboveBottom = 68; // pixels
+    constexpr int fromRight = 122, aboveBottom = 68; // pixels: left of its arrow
     clickUntil("Choose files to send", window, fromRight, aboveBottom);
     choosePath("Choose files to send", path);
 }

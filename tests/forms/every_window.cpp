@@ -494,6 +494,12 @@ void takeFiles(Gallery &gallery)
                               .what = What::done,
                               .path = folder.filePath(QStringLiteral("Cat.png")),
                               .isChecked = true});
+    const auto isPictureShown = [&windows] {
+        const QList<QLabel *> pictures = windows.privateWindow().findChildren<QLabel *>(QStringLiteral("shownPicture"));
+        return std::ranges::any_of(pictures, &QLabel::isVisible);
+    };
+    if (!QTest::qWaitFor(isPictureShown))
+        qFatal("no picture");
     gallery.take(windows.privateWindow(), "private_with_transfers");
     windows.engine.privateWindows().at(1)->sendFiles(
         {QStringLiteral("/media/me/Minutes of the meeting.odt"), QStringLiteral("/media/me/Plan.pdf")});
@@ -507,6 +513,11 @@ void takeFiles(Gallery &gallery)
         .setCurrentIndex(windows.engine.transfers().offers.index(0, 0));
     RealWindows::control<QTreeView>(transfers, "receivedList").setCurrentIndex(received.index(1, 0));
     gallery.take(transfers, "transfers");
+    windows.fileServer.failed(windows.fileServer.served.back().token,
+                              QStringLiteral("Plan.pdf has changed since it was offered, so its transfer has ended."));
+    windows.arrive("192.168.1.12", "!OFFLINE 192.168.1.12 PC Ann");
+    RealWindows::control<QToolButton>(windows.privateWindow(), "sendFileBtn").click();
+    gallery.take(windows.privateWindow(), "private_with_file_troubles");
 }
 
 void takeDialogs(Gallery &gallery)

@@ -19,7 +19,10 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
+
+#include <sys/stat.h>
 
 namespace nimb::test
 {
@@ -105,6 +108,7 @@ protected:
     }
     void tell(const FetchedBytes &fetched) { windows.fileFetcher.told(fetched); }
 
+    QFile slow; ///< a pipe that is read, which waits for whoever writes
     RealWindows windows{{{"10.0.0.2", "Ann"}}};
     QTemporaryDir folder;
 };
@@ -143,6 +147,27 @@ TEST_F(FilesInWindows, TheToolAsksForFiles)
     dialog().setDirectory(folder.path());
     QMetaObject::invokeMethod(&dialog(), "filesSelected", Q_ARG(QStringList, {one.fileName()}));
     EXPECT_EQ(paths(), QStringList{one.fileName()});
+}
+
+TEST_F(FilesInWindows, TheToolHasAMenuWithFoldersForMouseAndKeyboard)
+{
+    auto &tool = control<QToolButton>("sendFileBtn");
+    form().activateWindow();
+    tool.setFocus();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return tool.hasFocus(); }));
+    QStringList entries;
+    // The menu has an event loop of its own.
+    QTimer::singleShot(0, &tool, [&] {
+        auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        ASSERT_TRUE(menu);
+        for (const QAction *const action : menu->actions())
+            entries += action->text();
+        QTest::keyClick(menu, Qt::Key_D);
+    });
+    QTest::keyClick(&tool, Qt::Key_Down);
+    EXPECT_EQ(entries, (QStringList{QStringLiteral("Send Fil&es..."), QStringLiteral("Send a Fol&der...")}));
+    QMetaObject::invokeMethod(&dialog(), "fileSelected", Q_ARG(QString, folder.path()));
+    EXPECT_EQ(paths(), QStringList{folder.path()});
 }
 
 TEST_F(FilesInWindows, TheContextMenuOfAContactSendsFiles)
@@ -226,6 +251,59 @@ TEST_F(FilesInWindows, WhatWasNotSentIsSaid)
     EXPECT_THAT(band.text().toStdString(), testing::StartsWith("a &lt;b&gt; cannot be sent."));
     Q_EMIT band.linkActivated(QStringLiteral("close"));
     EXPECT_FALSE(band.isVisibleTo(&form()));
+}
+
+TEST_F(FilesInWindows, SeveralTroublesAreSaidAndTheQuestionStays)
+{
+    drop(form(), {QUrl::fromLocalFile(QStringLiteral("/a"))});
+    auto &band = control<QLabel>("fileBand");
+    QGuiApplication::clipboard()->setImage(QImage(8, 6, QImage::Format_RGB32));
+    control<QPlainTextEdit>("intext").paste();
+    windows.fileServer.failed(windows.fileServer.served.front().token, QStringLiteral("a has changed."));
+    EXPECT_EQ(band.text().toStdString(),
+              "a has changed. <a href=\"close\">Close</a><br>"
+              "A picture was pasted (8 × 6). <a href=\"send\">Send it</a> / <a href=\"no\">leave it</a>");
+    Q_EMIT band.linkActivated(QStringLiteral("no"));
+    EXPECT_EQ(band.text().toStdString(), "a has changed. <a href=\"close\">Close</a>");
+    windows.fileServer.answersAtOnce = false;
+    for (const char *const name : {"/b", "/c", "/c", "/d", "/e"}) {
+        drop(form(), {QUrl::fromLocalFile(QLatin1String(name))});
+        windows.fileServer.readies.back()({.trouble = QLatin1String(name) + QLatin1Char('.')});
+    }
+    EXPECT_EQ(band.text().toStdString(),
+              "Earlier troubles with files: 2.<br>/c.<br>/d.<br>/e. <a href=\"close\">Close</a>");
+    EXPECT_EQ(band.accessibleName().toStdString(), "Earlier troubles with files: 2. /c. /d. /e.");
+    Q_EMIT band.linkActivated(QStringLiteral("close"));
+    EXPECT_FALSE(band.isVisibleTo(&form()));
+}
+
+TEST_F(FilesInWindows, WhoeverIsOfflineGetsNoneAndNobodyHasToChooseOneFirst)
+{
+    windows.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");
+    const auto isAsked = [] {
+        return std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget *window) {
+            return qobject_cast<const QFileDialog *>(window) && window->isVisible();
+        });
+    };
+    auto &band = control<QLabel>("fileBand");
+    const auto isSaid = [&] {
+        EXPECT_TRUE(band.isVisibleTo(&form()));
+        EXPECT_THAT(band.text().toStdString(),
+                    testing::StartsWith("Ann is offline: files can be sent when Ann is back."));
+        Q_EMIT band.linkActivated(QStringLiteral("close"));
+    };
+    control<QToolButton>("sendFileBtn").click();
+    isSaid();
+    drop(form(), {QUrl::fromLocalFile(QStringLiteral("/a"))});
+    isSaid();
+    QGuiApplication::clipboard()->setImage(QImage(8, 6, QImage::Format_RGB32));
+    control<QPlainTextEdit>("intext").paste();
+    isSaid();
+    windows.click(0, Qt::RightButton);
+    windows.entry("mnuSendFile").trigger();
+    isSaid();
+    EXPECT_FALSE(isAsked());
+    EXPECT_THAT(paths(), IsEmpty());
 }
 
 TEST(FilesWithoutAServer, AreNotOfferedToBeSent)
@@ -343,6 +421,49 @@ TEST(PictureFormat, IsToldByTheFirstBytesAndOneOfFour)
         EXPECT_EQ(pictureFormatOf(other), "") << other;
 }
 
+/// One of very few bytes, however large.
+QString onePicture(const QTemporaryDir &folder, QSize size)
+{
+    QImage picture(size, QImage::Format_Mono);
+    picture.fill(1);
+    const QString path = folder.filePath(QStringLiteral("%1.png").arg(size.width()));
+    EXPECT_TRUE(picture.save(path));
+    return path;
+}
+
+TEST(PictureOfOthers, HasNoMorePixelsThanAreWorthWhile)
+{
+    const QTemporaryDir folder;
+    const auto isUnwanted = [] { return false; };
+    EXPECT_EQ(smallPicture(onePicture(folder, {5000, 5000}), {90, 90}, isUnwanted).size(), QSize(90, 90));
+    EXPECT_TRUE(smallPicture(onePicture(folder, {5001, 5000}), {90, 90}, isUnwanted).isNull());
+}
+
+TEST(PictureOfOthers, IsReadNoFurtherOnceNobodyWantsIt)
+{
+    const QTemporaryDir folder;
+    int asked = 0;
+    const QImage picture = smallPicture(onePicture(folder, {5000, 5000}), {90, 90}, [&asked] { return ++asked > 1; });
+    EXPECT_TRUE(picture.isNull());
+    EXPECT_GT(asked, 1);
+}
+
+TEST_F(FilesInWindows, ARowIsHiddenWhileItsPictureIsRead)
+{
+    windows.arrive("10.0.0.2", annsPicture);
+    receiveAnother(1);
+    FileRow &row = *rows().front();
+    received().look(row.number(), folder.path());
+    const QString path = folder.filePath(QStringLiteral("a.png"));
+    ASSERT_EQ(mkfifo(qPrintable(path), 0600), 0);
+    slow.setFileName(path);
+    ASSERT_TRUE(slow.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
+    tell({.number = row.number(), .what = What::done, .path = path, .isChecked = true});
+    controlOf<QToolButton>(row, "closeRowBtn").click();
+    EXPECT_THAT(rows(), SizeIs(1)) << "or it waits for ever";
+    EXPECT_GT(slow.write("This is no picture."), 0);
+}
+
 TEST_F(FilesInWindows, ThreeRowsAreShownAndThoseUnderWayStay)
 {
     windows.arrive("10.0.0.2", annsPlan);
@@ -375,6 +496,24 @@ TEST_F(FilesInWindows, FurtherFilesAreCountedAndShownTogether)
     EXPECT_TRUE(std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget *window) {
         return window->objectName() == QLatin1String("frmTransfers") && window->isVisible();
     }));
+}
+
+TEST_F(FilesInWindows, FurtherFilesAreStillThereWhenAllRowsAreHidden)
+{
+    for (int i = 0; i < 5; ++i)
+        receiveAnother(i);
+    for (FileRow *const row : rows())
+        controlOf<QToolButton>(*row, "closeRowBtn").click();
+    EXPECT_THAT(rows(), IsEmpty());
+    auto &count = control<QLabel>("furtherCount");
+    EXPECT_TRUE(count.isVisibleTo(&form()));
+    EXPECT_THAT(count.text().toStdString(), testing::StartsWith("Further files: 2."));
+    EXPECT_TRUE(control<QPushButton>("saveAllBtn").isVisibleTo(&form()));
+    Q_EMIT count.linkActivated(QStringLiteral("hide"));
+    EXPECT_FALSE(count.isVisibleTo(&form()));
+    receiveAnother(5);
+    EXPECT_TRUE(rows().front()->isVisibleTo(&form()));
+    EXPECT_FALSE(count.isVisibleTo(&form()));
 }
 
 TEST_F(FilesInWindows, AllThatIsOfferedIsSavedAtOnce)
@@ -452,6 +591,40 @@ TEST_F(FilesInWindows, TheWindowSavesWhatIsOffered)
           .isChecked = true});
     controlOf<QPushButton>(window, "openReceivedBtn").click();
     EXPECT_THAT(windows.folders.opened, ElementsAre("file://" + folder.path().toStdString()));
+}
+
+TEST(UnfinishedFilesInWindows, AreALineOfTheLogThatLeadsToThem)
+{
+    const QString message = QString::fromStdString(annsPlan.substr(1));
+    const QString stored
+        = QStringLiteral(R"([{"message":"%1","own":"10.0.0.1","folder":"/in","sender":"Ann","size":9}])").arg(message);
+    RealWindows windows{{{"10.0.0.2", "Ann"}}, {{"Transfers/UnfinishedFiles", stored}}};
+    auto &log = controlOf<RichTextLogEdit>(windows.main(), "outtext");
+    EXPECT_THAT(log.toPlainText().toStdString(), HasSubstr("when NIMB-Chat ended: 1; Tools, Transfers... goes on"));
+    Q_EMIT log.commandPressed(transfersCommand);
+    EXPECT_TRUE(std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget *window) {
+        return window->objectName() == QLatin1String("frmTransfers") && window->isVisible();
+    }));
+}
+
+TEST_F(FilesInWindows, TheWindowSavesAllThatWaits)
+{
+    receiveAnother(0);
+    QWidget &window = transfers();
+    auto &saveAll = controlOf<QPushButton>(window, "saveAllReceivedBtn");
+    EXPECT_FALSE(saveAll.isEnabled());
+    for (int i = 1; i < 4; ++i)
+        receiveAnother(i);
+    received().save(received().at(1).number, QStringLiteral("/elsewhere"));
+    EXPECT_TRUE(saveAll.isEnabled());
+    EXPECT_EQ(saveAll.text(), QStringLiteral("Save A&ll (3)..."));
+    saveAll.click();
+    receiveAnother(4); // which came when the user had been told of three
+    QMetaObject::invokeMethod(&dialog(), "fileSelected", Q_ARG(QString, folder.path()));
+    for (int row = 0; row < 4; ++row)
+        EXPECT_EQ(received().at(row).folder, row == 1 ? QStringLiteral("/elsewhere") : folder.path());
+    EXPECT_EQ(received().at(4).folder, QString());
+    EXPECT_FALSE(saveAll.isEnabled());
 }
 
 TEST_F(FilesInWindows, TheWindowMayBeClosedWhileATransferIsUnderWay)

@@ -113,6 +113,18 @@ TEST(UnaskedMessageBox, TakesNoFocusAndReturnMeansNo)
     EXPECT_EQ(boxes.decideUnasked(QStringLiteral("Send it?"), QStringLiteral("t")), std::nullopt);
 }
 
+TEST(CarefulMessageBox, TakesReturnAndEscForNo)
+{
+    MessageBoxes boxes;
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+        QTimer::singleShot(0, [key] { QTest::keyClick(QApplication::activeModalWidget(), key); });
+        EXPECT_EQ(boxes.decideCarefully(QStringLiteral("End it?"), QStringLiteral("t")), std::optional(false));
+    }
+    QTimer::singleShot(
+        0, [] { qobject_cast<QMessageBox *>(QApplication::activeModalWidget())->button(QMessageBox::Yes)->click(); });
+    EXPECT_EQ(boxes.decideCarefully(QStringLiteral("End it?"), QStringLiteral("t")), std::optional(true));
+}
+
 TEST(UnattendedMessageBox, ClosesWhatIsOpenAsIfCancelled)
 {
     MessageBoxes boxes;

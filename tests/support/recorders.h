@@ -442,6 +442,11 @@ public:
         const bool yes = confirm(text, title);
         return attended ? std::optional(yes) : std::nullopt;
     }
+    std::optional<bool> decideCarefully(const QString &text, const QString &title) override
+    {
+        ++carefully;
+        return decide(text, title);
+    }
     std::optional<bool> decideUnasked(const QString &text, const QString &title) override
     {
         return decide(text, title);
@@ -454,6 +459,7 @@ public:
 
     bool answer = true;
     bool attended = true;
+    int carefully = 0; ///< how many of those that were asked
     std::vector<std::string> asked;
     std::vector<std::string> told;
 };
@@ -833,7 +839,9 @@ public:
             told({.number = number, .what = FetchedBytes::What::stopped});
     }
 
-    std::vector<WantedFile> fetched;
+    void lookUp(const WantedFile &file) override { lookedUp.push_back(file); }
+
+    std::vector<WantedFile> fetched, lookedUp;
     std::vector<int> stopped;
 };
 

@@ -1,7 +1,9 @@
 // Fetching from a real server, and from one that misbehaves.
 #include "files/http_file_fetcher.h"
 
+#include "files/file_link.h"
 #include "files/file_name.h"
+#include "files/received_files.h"
 
 #include "files/http_file_server.h"
 #include "full_disk.h"
@@ -192,11 +194,30 @@ TEST_F(OddServerTest, ChecksWhatWasThereAlreadyWhenItIsResumed)
 {
     write(QStringLiteral("in/") + partName(), "abX");
     const FetchedBytes state
-        = fetchFrom({"HTTP/1.1 416 Range Not Satisfiable\r\nContent-Length: 0\r\nContent-Range: bytes */3\r\n\r\n",
+        = fetchFrom({"HTTP/1.1 200 OK\r\nContent-Length: 3\r\nNIMB-Repr-Digest: pending\r\n\r\n",
+                     "HTTP/1.1 416 Range Not Satisfiable\r\nContent-Length: 0\r\nContent-Range: bytes */3\r\n\r\n",
                      "HTTP/1.1 200 OK\r\nContent-Length: 3\r\n"
                      "Repr-Digest: sha-256=:ungWv48Bz+pBQUDeXa4iI7ADYaOWF3qctBD/YfIAFa0=:\r\n\r\n"});
     EXPECT_EQ(state.what, What::failed);
     EXPECT_EQ(state.sentence.toStdString(), "What has come is not what was sent. It has been removed.");
+}
+
+TEST_F(OddServerTest, AsksBeforeItReadsWhatIsThere)
+{
+    write(QStringLiteral("in/") + partName(), "0123");
+    EXPECT_EQ(fetchFrom({"HTTP/1.1 404 Not Found\r\n\r\n"}).what, What::failed);
+    EXPECT_THAT(states, testing::SizeIs(1)) << "nothing was read first";
+    EXPECT_TRUE(states.back().isGone);
+    EXPECT_EQ(states.back().place, 4U) << "it is kept";
+    EXPECT_TRUE(odd->requests.front().startsWith("HEAD "));
+
+    const FetchedBytes state
+        = fetchFrom({"HTTP/1.1 200 OK\r\nContent-Length: 10\r\nETag: \"t\"\r\n\r\n",
+                     "HTTP/1.1 206 Part\r\nContent-Length: 6\r\nContent-Range: bytes 4-9/10\r\n\r\n456789"});
+    EXPECT_EQ(states.front().what, What::summing);
+    EXPECT_EQ(states.front().size, 10U);
+    EXPECT_THAT(odd->requests.back().toStdString(), HasSubstr("\r\nRange: bytes=4-\r\nIf-Range: \"t\"\r\n"));
+    EXPECT_EQ(read(state.path), "0123456789");
 }
 
 TEST_F(OddServerTest, FollowsNobodyElsewhere)
@@ -230,8 +251,9 @@ TEST_F(OddServerTest, GivesUpWhereTriesBringNothing)
 
 TEST_F(OddServerTest, SaysThatThereIsTooLittleRoom)
 {
-    EXPECT_THAT(failureOf("HTTP/1.1 200 OK\r\nContent-Length: 9000000000000000000\r\n\r\nabc"),
-                testing::StartsWith("There is too little room in "));
+    EXPECT_EQ(failureOf("HTTP/1.1 200 OK\r\nContent-Length: 9000000000000000000\r\n\r\nabc"),
+              "There is too little room in " + inFolder({}).chopped(1).toStdString() + '.')
+        << "and nothing has come that could be kept";
 }
 
 TEST_F(OddServerTest, LeavesNothingBehindWhereNothingHasCome)
@@ -298,7 +320,31 @@ TEST_F(OddServerTest, WaitsWhileTheSenderIsBusy)
 
 TEST_F(FileFetcherTest, SaysThatTheSenderCannotBeReached)
 {
-    EXPECT_EQ(fetch(wanted()).sentence, QStringLiteral("The sender cannot be reached."));
+    WantedFile file = wanted();
+    file.host = Ipv4Address(127, 255, 255, 255); // nobody's
+    const FetchedBytes state = fetch(file);
+    EXPECT_EQ(state.sentence, QStringLiteral("The sender cannot be reached."));
+    EXPECT_FALSE(state.isGone);
+}
+
+TEST_F(FileFetcherTest, SaysThatNothingIsOfferedWhereNobodyListensAnyMore)
+{
+    const FetchedBytes state = fetch(wanted());
+    EXPECT_EQ(state.sentence, QStringLiteral("The sender offers it no longer."));
+    EXPECT_TRUE(state.isGone);
+}
+
+TEST_F(FileFetcherTest, LooksUpHowMuchIsThere)
+{
+    write(QStringLiteral("in/") + partName(), "0123");
+    for (const quint64 size : {4, 0}) {
+        states.clear();
+        fetcher->lookUp(wanted());
+        ASSERT_TRUE(waitUntil([&] { return !states.empty(); }));
+        EXPECT_EQ(states.front().what, What::there);
+        EXPECT_EQ(states.front().place, size);
+        QFile::remove(inFolder(partName()));
+    }
 }
 
 TEST_F(FileFetcherTest, SaysThatTheFolderHasGone)
@@ -386,6 +432,40 @@ TEST_F(FetchedFromUsTest, IsResumedAfterEachStop)
     EXPECT_TRUE(state.isChecked);
     EXPECT_EQ(read(state.path), read(file.fileName()));
     EXPECT_THAT(found(), ElementsAre(QStringLiteral("Plan.pdf")));
+}
+
+/// Its links lead nowhere from then on, also where it offers others.
+TEST_F(FetchedFromUsTest, IsNoLongerOfferedBySomebodyWhoHasStartedAnew)
+{
+    QFile large(folder.filePath(QStringLiteral("large")));
+    ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(qint64{20} * 1024 * 1024 * 1024));
+    serve(large.fileName());
+    fetcher->told = nullptr;
+    ReceivedFiles received(*fetcher);
+    const std::optional<int> number = received.add(fileMessage(QStringLiteral("Plan.pdf"), 1, server, port, token),
+                                                   server, QStringLiteral("Ann"), own);
+    ASSERT_TRUE(number);
+    received.save(*number, folder.filePath(QStringLiteral("in")));
+    const auto isStill = [&](ReceivedFile::State state) { return received.find(*number)->state == state; };
+    ASSERT_TRUE(waitUntil([&] { return isStill(ReceivedFile::State::running) && received.find(*number)->place > 0; }));
+    files.reset();
+    ASSERT_TRUE(waitUntil([&] { return isStill(ReceivedFile::State::failed); }));
+    EXPECT_EQ(ReceivedFiles::progressOf(received.at(0)), QStringLiteral("Ann no longer offers this file."));
+    EXPECT_GT(received.at(0).place, 0U) << "what has come is kept";
+
+    files = std::make_unique<HttpFileServer>(port);
+    std::optional<FileServer::Readied> readied;
+    files->serve({.token = QString(token).replace(u'0', u'f'),
+                  .name = {},
+                  .path = write(QStringLiteral("b"), "b"),
+                  .to = {own},
+                  .at = server},
+                 [&](const FileServer::Readied &now) { readied = now; });
+    ASSERT_TRUE(waitUntil([&] { return readied.has_value(); }));
+    ASSERT_EQ(readied->port, port);
+    received.resume(*number);
+    ASSERT_TRUE(waitUntil([&] { return isStill(ReceivedFile::State::failed); }));
+    EXPECT_EQ(ReceivedFiles::progressOf(received.at(0)), QStringLiteral("Ann no longer offers this file."));
 }
 
 TEST_F(FetchedFromUsTest, StopsAsWished)

@@ -28,7 +28,7 @@ TEST(FileMessage, EncodesTheNameInTheAddress)
 TEST(FileMessage, TakesANameForWhatItIs)
 {
     EXPECT_EQ(fileMessage(QStringLiteral("100%2 %1 %L3.txt"), 1, Ipv4Address(10, 0, 0, 1), 80, token),
-              QStringLiteral("100%2 %1 %L3.txt (1 bytes) "
+              QStringLiteral("100%2 %1 %L3.txt (1 byte) "
                              "http://10.0.0.1:80/0123456789abcdef0123456789abcdef/100%252%20%251%20%25L3.txt"));
 }
 

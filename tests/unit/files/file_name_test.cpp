@@ -106,6 +106,7 @@ TEST(NumberedFileName, CountsBeforeTheSuffix)
 TEST(FileSizeText, CountsInThousands)
 {
     EXPECT_EQ(fileSizeText(0), QStringLiteral("0 bytes"));
+    EXPECT_EQ(fileSizeText(1), QStringLiteral("1 byte"));
     EXPECT_EQ(fileSizeText(999), QStringLiteral("999 bytes"));
     EXPECT_EQ(fileSizeText(1000), QStringLiteral("1.0 kB"));
     EXPECT_EQ(fileSizeText(2'345'678), QStringLiteral("2.3 MB"));

@@ -63,12 +63,16 @@ protected:
     /// The program as it starts with what this one has stored.
     std::unique_ptr<Copy> next()
     {
+        std::unique_ptr<Copy> later = justStarted();
+        later->settleStart();
+        return later;
+    }
+    std::unique_ptr<Copy> justStarted()
+    {
         std::map<std::string, QString> stored;
         stored["Transfers/UnfinishedFiles"]
             = QString::fromStdString(copy.settings.value("Transfers", "UnfinishedFiles"));
-        auto later = std::make_unique<Copy>(CopySetup{.settings = stored}, nullptr, copy.time);
-        later->settleStart();
-        return later;
+        return std::make_unique<Copy>(CopySetup{.settings = stored}, nullptr, copy.time);
     }
 
     Copy copy;
@@ -143,6 +147,34 @@ TEST_F(TransfersTest, WhatIsReadyWhenTheWindowHasGoneIsNotOffered)
     closed.closed();
     copy.fileServer.readies.front()({.size = 1, .port = 5549, .name = QStringLiteral("a")});
     EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_THAT(copy.fileServer.withdrawn, ElementsAre(served().token));
+}
+
+TEST_F(TransfersTest, NothingIsOfferedToWhoeverIsOffline)
+{
+    PrivateChat &annsChat = chat();
+    copy.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");
+    copy.sent();
+    annsChat.sendFiles({QStringLiteral("/a")});
+    EXPECT_THAT(copy.fileServer.served, IsEmpty());
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_THAT(view().fileTroubles,
+                ElementsAre(QStringLiteral("Ann is offline: files can be sent when Ann is back.")));
+    copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
+    annsChat.sendFiles({QStringLiteral("/a")});
+    EXPECT_THAT(copy.fileServer.served, SizeIs(1));
+}
+
+TEST_F(TransfersTest, WhatIsReadyWhenItsReceiverHasGoneIsNotOffered)
+{
+    copy.fileServer.answersAtOnce = false;
+    PrivateChat &annsChat = chat();
+    annsChat.sendFiles({QStringLiteral("/a")});
+    copy.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");
+    copy.sent();
+    copy.fileServer.readies.front()({.size = 1, .port = 5549, .name = QStringLiteral("a")});
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_THAT(view().fileTroubles, SizeIs(1));
     EXPECT_THAT(copy.fileServer.withdrawn, ElementsAre(served().token));
 }
 
@@ -239,6 +271,33 @@ TEST_F(TransfersTest, AFileThatChangesEndsItsOfferWithASentence)
     copy.fileServer.failed(served().token, QStringLiteral("a has changed."));
     EXPECT_FALSE(offers().isLive(0));
     EXPECT_EQ(copy.view.log.text().count(QStringLiteral("a has changed.")), 1);
+    EXPECT_THAT(view().fileTroubles, ElementsAre(QStringLiteral("a has changed."))) << "where it was offered, too";
+}
+
+TEST_F(TransfersTest, AnAddressThatHasGoneIsSaidWhereSomethingIsOfferedAtIt)
+{
+    const std::vector<NetworkCard> before = copy.ownAddresses.running;
+    const QString sentence = QStringLiteral("Files are offered at 10.0.0.1, which this computer no longer has");
+    copy.ownAddresses.running = {};
+    copy.networkWatch.tell();
+    EXPECT_FALSE(copy.view.log.text().contains(sentence)) << "nothing is offered";
+    copy.ownAddresses.running = before;
+    copy.networkWatch.tell();
+    chat().sendFiles({QStringLiteral("/a"), QStringLiteral("/b"), QStringLiteral("/c")});
+    offers().stop(2);
+    copy.networkWatch.tell();
+    EXPECT_FALSE(copy.view.log.text().contains(sentence));
+    copy.ownAddresses.running = {};
+    copy.networkWatch.tell();
+    copy.networkWatch.tell();
+    EXPECT_EQ(copy.view.log.text().count(sentence), 1);
+    const QString gone = QStringLiteral("offered at 10.0.0.1, which this computer no longer has");
+    EXPECT_EQ(shown(0, FileOffers::Progress), gone);
+    EXPECT_EQ(shown(1, FileOffers::Progress), gone);
+    EXPECT_EQ(shown(2, FileOffers::Progress), QString());
+    copy.ownAddresses.running = before;
+    copy.networkWatch.tell();
+    EXPECT_EQ(shown(0, FileOffers::Progress), QStringLiteral("not fetched yet"));
 }
 
 TEST_F(TransfersTest, TheEndOfTheProgramAsksWhileFilesAreOnTheirWay)
@@ -253,6 +312,7 @@ TEST_F(TransfersTest, TheEndOfTheProgramAsksWhileFilesAreOnTheirWay)
     EXPECT_THAT(copy.prompts.asked,
                 testing::Each("NIMB-Chat: Files that are still on their way would be broken off: 1. End NIMB-Chat all "
                               "the same?"));
+    EXPECT_EQ(copy.prompts.carefully, 2);
     copy.prompts.answer = true;
     EXPECT_EQ(copy.engine.mainWindow().Form_QueryUnload(UnloadMode::code), CloseDecision::unload);
     copy.prompts.answer = false;
@@ -329,6 +389,18 @@ TEST_F(TransfersTest, ProgressIsShown)
     EXPECT_EQ(copy.engine.transfers().underWay(), 0);
 }
 
+TEST_F(TransfersTest, WhatIsThereAlreadyIsSeenToBeChecked)
+{
+    chat();
+    const int number = receive();
+    received().save(number, QStringLiteral("/in"));
+    tell({.number = number, .what = What::summing, .place = 30, .size = 100});
+    EXPECT_EQ(shown(0, ReceivedFiles::Progress), QStringLiteral("checks what is there: 30 %"));
+    EXPECT_EQ(copy.engine.transfers().underWay(), 1);
+    received().pause(number);
+    EXPECT_THAT(copy.fileFetcher.stopped, ElementsAre(number));
+}
+
 TEST_F(TransfersTest, AFileIsPausedAndResumed)
 {
     chat();
@@ -346,6 +418,15 @@ TEST_F(TransfersTest, AFileIsPausedAndResumed)
     EXPECT_EQ(shown(0, ReceivedFiles::Progress), QStringLiteral("Gone."));
     received().resume(number);
     EXPECT_THAT(copy.fileFetcher.fetched, SizeIs(3));
+}
+
+TEST_F(TransfersTest, WhoeverOffersItNoLongerIsNamed)
+{
+    chat();
+    const int number = receive();
+    received().save(number, QStringLiteral("/in"));
+    tell({.number = number, .what = What::failed, .sentence = QStringLiteral("Gone."), .isGone = true});
+    EXPECT_EQ(shown(0, ReceivedFiles::Progress), QStringLiteral("Ann no longer offers this file."));
 }
 
 TEST_F(TransfersTest, WhatWaitsForItsSumKeepsNobodyWaiting)
@@ -391,6 +472,39 @@ TEST_F(TransfersTest, WhatIsUnfinishedComesBackPausedAfterARestart)
     later->fileFetcher.told({.number = files.at(0).number, .what = What::done});
     later->advance(1s);
     EXPECT_EQ(later->settings.value("Transfers", "UnfinishedFiles"), "");
+}
+
+TEST_F(TransfersTest, ARestartSaysWhatIsUnfinishedAndAsksTheDiskHowFarItIs)
+{
+    chat();
+    for (int i = 0; i < 2; ++i) {
+        const int number = receiveAnother();
+        received().save(number, QStringLiteral("/in"));
+        tell({.number = number, .what = What::running, .place = 45, .size = 100});
+    }
+    copy.engine.mainWindow().Form_Unload();
+    const std::unique_ptr<Copy> later = justStarted();
+    EXPECT_THAT(later->view.log.text().toStdString(),
+                HasSubstr("--- files that had not all come when NIMB-Chat ended: 2; Tools, Transfers... goes on with "
+                          "them ---"));
+    ReceivedFiles &files = later->engine.transfers().received;
+    const int first = files.at(0).number, second = files.at(1).number;
+    ASSERT_THAT(later->fileFetcher.lookedUp, SizeIs(2));
+    EXPECT_EQ(later->fileFetcher.lookedUp.front().number, first);
+    EXPECT_EQ(later->fileFetcher.lookedUp.front().folder, QStringLiteral("/in"));
+    later->fileFetcher.told({.number = first, .what = What::there, .place = 70});
+    EXPECT_EQ(ReceivedFiles::progressOf(files.at(0)), QStringLiteral("paused at 70 %"));
+    files.resume(second);
+    later->fileFetcher.told({.number = second, .what = What::running, .place = 90, .size = 100});
+    later->fileFetcher.told({.number = second, .what = What::there, .place = 70});
+    EXPECT_EQ(files.at(1).percent(), 90) << "it is further now";
+    later->fileFetcher.told({.number = second, .what = What::failed, .place = 90, .sentence = QStringLiteral("Off.")});
+    EXPECT_EQ(files.at(1).size, 100U) << "however little its last try has learnt";
+}
+
+TEST_F(TransfersTest, ARestartWithoutAnySaysNothing)
+{
+    EXPECT_THAT(justStarted()->view.log.text().toStdString(), testing::Not(HasSubstr("files that had not all come")));
 }
 
 TEST_F(TransfersTest, WhatIsUnfinishedIsKeptWithinASecondInTwoSavesAndOnlySoManyOfThem)
