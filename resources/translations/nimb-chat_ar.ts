@@ -8,12 +8,12 @@
         <translation>يرجى ملء جميع الحقول</translation>
     </message>
     <message>
-        <source>You can&apos;t add yourself...</source>
+        <source>You can't add yourself...</source>
         <translation>لا يمكنك إضافة نفسك...</translation>
     </message>
     <message>
         <source>IP Address already used by another user</source>
-        <translation>عنوان IP مستخدم لدى مستخدم آخر</translation>
+        <translation>عنوان IP يستخدمه مستخدم آخر بالفعل</translation>
     </message>
     <message>
         <source>This is not the address of one computer: everybody on the network hears what is sent there.</source>
@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>The camera stopped: %1</source>
-        <translation>توقفت الكاميرا: %1</translation>
+        <translation>توقفت الكاميرا: ⁨%1⁩</translation>
     </message>
     <message>
         <source>The camera was unplugged.</source>
@@ -47,27 +47,27 @@
     <name>Conference</name>
     <message>
         <source>%1 (you)</source>
-        <translation>%1 (أنت)</translation>
+        <translation>⁨%1⁩ (أنت)</translation>
     </message>
     <message>
         <source>Conference #%1 (Hosted here) - NIMB-Chat</source>
-        <translation>المؤتمر رقم %1 (مستضاف هنا) - NIMB-Chat</translation>
+        <translation>المؤتمر رقم ⁨%1⁩ (مستضاف هنا) - NIMB-Chat</translation>
     </message>
     <message>
-        <source>Conference #%1 (Hosted by &apos;%2&apos;) - NIMB-Chat</source>
-        <translation>المؤتمر رقم %1 (يستضيفه «%2») - NIMB-Chat</translation>
+        <source>Conference #%1 (Hosted by '%2') - NIMB-Chat</source>
+        <translation>المؤتمر رقم ⁨%1⁩ (يستضيفه «⁨%2⁩») - NIMB-Chat</translation>
     </message>
     <message>
         <source>« NIMB-Chat [today:%1 - now:%2] Conference #%3 Ready »</source>
-        <translation>« برنامج NIMB-Chat [اليوم:%1 - الآن:%2] المؤتمر رقم %3 جاهز »</translation>
+        <translation>« برنامج NIMB-Chat [اليوم:⁨%1⁩ - الآن:⁨%2⁩] المؤتمر رقم ⁨%3⁩ جاهز »</translation>
     </message>
     <message>
         <source>Conference #%1</source>
-        <translation>المؤتمر رقم %1</translation>
+        <translation>المؤتمر رقم ⁨%1⁩</translation>
     </message>
     <message>
         <source>Conference #%1 of %2</source>
-        <translation>المؤتمر رقم %1 لدى %2</translation>
+        <translation>المؤتمر رقم ⁨%1⁩ لدى ⁨%2⁩</translation>
     </message>
     <message>
         <source>--- This conference is terminated.</source>
@@ -75,7 +75,7 @@
     </message>
     <message>
         <source>--- You removed %1 from the conference.</source>
-        <translation>--- أخرجت %1 من المؤتمر.</translation>
+        <translation>--- أخرجتَ ⁨%1⁩ من المؤتمر.</translation>
     </message>
     <message>
         <source>Closing that window will terminate the conference. Proceed?</source>
@@ -90,15 +90,15 @@
     <name>ConferenceCommands</name>
     <message>
         <source>--- %1 joined the conference</source>
-        <translation>--- انضم %1 إلى المؤتمر</translation>
+        <translation>--- انضم ⁨%1⁩ إلى المؤتمر</translation>
     </message>
     <message>
         <source>--- %1 left the conference.</source>
-        <translation>--- غادر %1 المؤتمر.</translation>
+        <translation>--- غادر ⁨%1⁩ المؤتمر.</translation>
     </message>
     <message>
         <source>--- %1 refused to partecipate to conf</source>
-        <translation>--- رفض %1 المشاركة في المؤتمر</translation>
+        <translation>--- رفض ⁨%1⁩ المشاركة في المؤتمر</translation>
     </message>
 </context>
 <context>
@@ -131,68 +131,68 @@
         <translation>&amp;دعوة المستخدم</translation>
     </message>
     <message>
-        <source>Private chat with &apos;%1&apos;</source>
-        <translation>محادثة خاصة مع «%1»</translation>
+        <source>Private chat with '%1'</source>
+        <translation>محادثة خاصة مع «⁨%1⁩»</translation>
     </message>
     <message>
-        <source>Buzz &apos;%1&apos;</source>
-        <translation>تنبيه «%1»</translation>
+        <source>Buzz '%1'</source>
+        <translation>تنبيه «⁨%1⁩»</translation>
     </message>
     <message>
         <source>Remove %1 users from the list</source>
-        <translation>إزالة مستخدمين من القائمة (العدد: %1)</translation>
+        <translation>إزالة مستخدمين من القائمة (العدد: ⁨%1⁩)</translation>
     </message>
     <message>
-        <source>Remove &apos;%1&apos; from the list</source>
-        <translation>إزالة «%1» من القائمة</translation>
+        <source>Remove '%1' from the list</source>
+        <translation>إزالة «⁨%1⁩» من القائمة</translation>
     </message>
     <message>
-        <source>Send &amp;contacts to &apos;%1&apos;</source>
-        <translation>إرسال &amp;جهات اتصال إلى «%1»</translation>
+        <source>Send &amp;contacts to '%1'</source>
+        <translation>إرسال &amp;جهات اتصال إلى «⁨%1⁩»</translation>
     </message>
     <message>
-        <source>&amp;Net send message to &apos;%1&apos;</source>
-        <translation>إرسال &amp;رسالة net send إلى «%1»</translation>
+        <source>&amp;Net send message to '%1'</source>
+        <translation>إرسال &amp;رسالة net send إلى «⁨%1⁩»</translation>
     </message>
     <message>
-        <source>I&amp;nvite user &apos;%1&apos;</source>
-        <translation>&amp;دعوة المستخدم «%1»</translation>
+        <source>I&amp;nvite user '%1'</source>
+        <translation>&amp;دعوة المستخدم «⁨%1⁩»</translation>
     </message>
     <message>
         <source>%1 (messages that wait to be read: %2)</source>
-        <translation>%1 (رسائل تنتظر القراءة: %2)</translation>
+        <translation>⁨%1⁩ (رسائل تنتظر القراءة: ⁨%2⁩)</translation>
     </message>
     <message>
         <source>%1 on %2 (%3)</source>
-        <translation>%1 على %2 (%3)</translation>
+        <translation>⁨%1⁩ على ⁨%2⁩ (⁨%3⁩)</translation>
     </message>
     <message>
         <source>%1 is offline: what you write does not arrive</source>
-        <translation>المستخدم %1 غير متصل: ما تكتبه لا يصل</translation>
+        <translation>المستخدم ⁨%1⁩ غير متصل: ما تكتبه لا يصل</translation>
     </message>
     <message>
         <source>whether %1 is there is being asked: no window opens before that is known</source>
-        <translation>جارٍ السؤال عن وجود %1: لن تُفتح أي نافذة قبل معرفة ذلك</translation>
+        <translation>جارٍ السؤال عن وجود ⁨%1⁩: لن تُفتح النافذة قبل معرفة ذلك</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks, and shows you to your contacts</source>
-        <translation>لا يُعرف هل %1 موجود: زر «إعادة الفحص» يسأل عن ذلك ويُظهرك لجهات اتصالك</translation>
+        <source>whether %1 is there is not known: "Rescan" asks, and shows you to your contacts</source>
+        <translation>وجود ⁨%1⁩ غير مؤكد: زر «إعادة الفحص» يسأل عن ذلك ويُظهرك لجهات اتصالك</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks</source>
-        <translation>لا يُعرف هل %1 موجود: زر «إعادة الفحص» يسأل عن ذلك</translation>
+        <source>whether %1 is there is not known: "Rescan" asks</source>
+        <translation>وجود ⁨%1⁩ غير مؤكد: زر «إعادة الفحص» يسأل عن ذلك</translation>
     </message>
     <message>
-        <source>Are you sure you want to remove the user &apos;%1&apos; on workstation &apos;%2&apos; (%3) ?</source>
-        <translation>هل تريد بالتأكيد إزالة المستخدم «%1» على محطة العمل «%2» (%3)؟</translation>
+        <source>Are you sure you want to remove the user '%1' on workstation '%2' (%3) ?</source>
+        <translation>هل تريد حقًا إزالة المستخدم «⁨%1⁩» على محطة العمل «⁨%2⁩» (⁨%3⁩)؟</translation>
     </message>
     <message>
         <source>Are you sure you want to remove these %1 users?</source>
-        <translation>هل تريد بالتأكيد إزالة هؤلاء المستخدمين (العدد: %1)؟</translation>
+        <translation>هل تريد حقًا إزالة هؤلاء المستخدمين (العدد: ⁨%1⁩)؟</translation>
     </message>
     <message>
         <source>... (%1 more)</source>
-        <translation>... (و%1 غيرهم)</translation>
+        <translation>... (و⁨%1⁩ غيرهم)</translation>
     </message>
     <message>
         <source>Please confirm user removal</source>
@@ -200,14 +200,14 @@
     </message>
     <message>
         <source>%1 contacts selected</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>
     <name>ContactFile</name>
     <message>
-        <source>&quot;%1&quot; is not the address of one computer</source>
-        <translation>«%1» ليس عنوان حاسوب واحد</translation>
+        <source>"%1" is not the address of one computer</source>
+        <translation>«⁨%1⁩» ليس عنوان حاسوب واحد</translation>
     </message>
     <message>
         <source>a name is empty</source>
@@ -215,7 +215,7 @@
     </message>
     <message>
         <source>%1 was there before</source>
-        <translation>سبق ورود %1</translation>
+        <translation>سبق ورود ⁨%1⁩</translation>
     </message>
     <message>
         <source>it is not written in UTF-8</source>
@@ -223,7 +223,7 @@
     </message>
     <message>
         <source>it must be: %1</source>
-        <translation>يجب أن يكون: %1</translation>
+        <translation>يجب أن يكون: ⁨%1⁩</translation>
     </message>
     <message>
         <source>its quotation marks do not fit</source>
@@ -238,23 +238,23 @@
     <name>ContactImport</name>
     <message>
         <source>everybody on the network hears what is sent to %1</source>
-        <translation>كل من على الشبكة يتلقى ما يُرسل إلى %1</translation>
+        <translation>كل من على الشبكة يتلقى ما يُرسل إلى ⁨%1⁩</translation>
     </message>
     <message>
         <source>%1 means whoever says it</source>
-        <translation>العنوان %1 يعني الجهاز نفسه الذي يستخدمه</translation>
+        <translation>العنوان ⁨%1⁩ يعني الجهاز نفسه الذي يستخدمه</translation>
     </message>
     <message>
         <source>Line %1 of %2</source>
-        <translation>السطر %1 من %2</translation>
+        <translation>السطر ⁨%1⁩ من ⁨%2⁩</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1: %2</translation>
+        <translation>⁨%1⁩: ⁨%2⁩</translation>
     </message>
     <message>
         <source>; line %1: %2</source>
-        <translation>؛ السطر %1: %2</translation>
+        <translation>؛ السطر ⁨%1⁩: ⁨%2⁩</translation>
     </message>
     <message numerus="yes">
         <source>; %n more</source>
@@ -269,11 +269,11 @@
     </message>
     <message>
         <source>%1. No contact was taken from this file.</source>
-        <translation>%1. لم تؤخذ أي جهة اتصال من هذا الملف.</translation>
+        <translation>⁨%1⁩. لم تُستورد أي جهة اتصال من هذا الملف.</translation>
     </message>
     <message>
         <source>contacts taken from %1: %2; there already: %3</source>
-        <translation>جهات الاتصال المأخوذة من %1: %2؛ الموجودة من قبل: %3</translation>
+        <translation>جهات الاتصال المستوردة من ⁨%1⁩: ⁨%2⁩؛ الموجودة من قبل: ⁨%3⁩</translation>
     </message>
     <message>
         <source>; left out: your own address</source>
@@ -288,14 +288,14 @@
     <name>ContactTransfer</name>
     <message>
         <source>contacts sent to %1: %2</source>
-        <translation>جهات الاتصال المرسلة إلى %1: %2</translation>
+        <translation>جهات الاتصال المرسلة إلى ⁨%1⁩: ⁨%2⁩</translation>
     </message>
 </context>
 <context>
     <name>Conversation</name>
     <message>
         <source>Last message: %1 @ %2</source>
-        <translation>آخر رسالة: %1 @ %2</translation>
+        <translation>آخر رسالة: ⁨%1⁩ @ ⁨%2⁩</translation>
     </message>
 </context>
 <context>
@@ -314,19 +314,19 @@
     </message>
     <message>
         <source>%1 cannot be read: %2.</source>
-        <translation>تتعذر قراءة %1: %2.</translation>
+        <translation>تتعذر قراءة ‎⁨%1⁩: ⁨%2⁩.</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2.</source>
-        <translation>تتعذر الكتابة إلى %1: %2.</translation>
+        <translation>تتعذر الكتابة إلى ‎⁨%1⁩: ⁨%2⁩.</translation>
     </message>
     <message>
         <source>contacts in %1: %2</source>
-        <translation>جهات الاتصال في %1: %2</translation>
+        <translation>جهات الاتصال في ⁨%1⁩: ⁨%2⁩</translation>
     </message>
     <message>
         <source>contacts in %1: %2; left out, for nobody else could reach them: %3</source>
-        <translation>جهات الاتصال في %1: %2؛ المستبعدة لأنه لا يمكن لأحد غيرك الوصول إليها: %3</translation>
+        <translation>جهات الاتصال في ⁨%1⁩: ⁨%2⁩؛ المستبعدة لأنه لا يمكن لأحد غيرك الوصول إليها: ⁨%3⁩</translation>
     </message>
 </context>
 <context>
@@ -341,11 +341,11 @@
     </message>
     <message>
         <source>%1 is no contact any more.</source>
-        <translation>لم يعد %1 من جهات الاتصال.</translation>
+        <translation>لم يعد ⁨%1⁩ من جهات الاتصال.</translation>
     </message>
     <message>
         <source>%1 is no address such as 192.168.1.20: nothing can be sent there.</source>
-        <translation>إن %1 ليس عنوانًا من قبيل 192.168.1.20: لا يمكن إرسال شيء إليه.</translation>
+        <translation>إن ⁨%1⁩ ليس عنوانًا من قبيل 192.168.1.20: لا يمكن إرسال شيء إليه.</translation>
     </message>
     <message>
         <source>Remove the contact and add it with its address.</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>%1 was not asked: you are invisible, and the question would show that you are here.</source>
-        <translation>لم يُسأل %1: أنت غير مرئي، والسؤال سيكشف وجودك هنا.</translation>
+        <translation>لم يُسأل ⁨%1⁩: أنت غير مرئي، والسؤال سيكشف وجودك هنا.</translation>
     </message>
     <message>
         <source>Choose another state first.</source>
@@ -361,15 +361,15 @@
     </message>
     <message>
         <source>No network of this computer leads to %1.</source>
-        <translation>لا توصل أي شبكة في هذا الحاسوب إلى %1.</translation>
+        <translation>لا توصل أي شبكة في هذا الحاسوب إلى ⁨%1⁩.</translation>
     </message>
     <message>
         <source>Connect the network on which the contact is.</source>
-        <translation>صِل الشبكة التي توجد عليها جهة الاتصال.</translation>
+        <translation>اتصل بالشبكة التي توجد عليها جهة الاتصال.</translation>
     </message>
     <message>
         <source>%1 was not asked, for nothing listens for an answer.</source>
-        <translation>لم يُسأل %1 لأنه لا شيء يستمع إلى الإجابة.</translation>
+        <translation>لم يُسأل ⁨%1⁩ لأنه لا شيء يستمع إلى الإجابة.</translation>
     </message>
     <message>
         <source>See to the port first.</source>
@@ -377,11 +377,11 @@
     </message>
     <message>
         <source>Waiting for an answer of %1.</source>
-        <translation>في انتظار إجابة من %1.</translation>
+        <translation>في انتظار إجابة من ⁨%1⁩.</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
+        <translation>⁨%1⁩ (⁨%2⁩)</translation>
     </message>
     <message>
         <source>NIMB-Chat was told to stay on this computer: it uses the loopback network.</source>
@@ -393,27 +393,27 @@
     </message>
     <message>
         <source>Plug in the cable, or join the wireless network that the others use.</source>
-        <translation>صِل الكبل، أو انضم إلى الشبكة اللاسلكية التي يستخدمها الآخرون.</translation>
+        <translation>وصّل الكبل، أو انضم إلى الشبكة اللاسلكية التي يستخدمها الآخرون.</translation>
     </message>
     <message>
         <source>Connected as %1.</source>
-        <translation>متصل بالعنوان %1.</translation>
+        <translation>متصل بالعنوان ⁨%1⁩.</translation>
     </message>
     <message>
         <source>Your address is %1, and no network card of this computer has it.</source>
-        <translation>عنوانك هو %1، ولا تحمله أي بطاقة شبكة في هذا الحاسوب.</translation>
+        <translation>عنوانك هو ⁨%1⁩، ولا تحمله أي بطاقة شبكة في هذا الحاسوب.</translation>
     </message>
     <message>
         <source>Correct NIMBCHAT_ADDRESS, or connect that network.</source>
-        <translation>صحّح قيمة NIMBCHAT_ADDRESS، أو صِل تلك الشبكة.</translation>
+        <translation>صحّح قيمة NIMBCHAT_ADDRESS، أو اتصل بتلك الشبكة.</translation>
     </message>
     <message>
         <source>Connect a network, or choose another own address in Tools, Options.</source>
-        <translation>صِل شبكة، أو اختر عنوانًا آخر لك من «أدوات &gt; خيارات».</translation>
+        <translation>اتصل بشبكة، أو اختر عنوانًا آخر لك من «أدوات &gt; خيارات».</translation>
     </message>
     <message>
         <source>Your address is %1 of the card %2, on which nobody can be found: it leads to a single machine, or to what runs inside this one.</source>
-        <translation>عنوانك هو %1 على البطاقة %2، ولا يمكن العثور على أحد عليها: فهي توصل إلى جهاز واحد فقط، أو إلى ما يعمل داخل هذا الجهاز.</translation>
+        <translation>عنوانك هو ⁨%1⁩ على البطاقة ⁨%2⁩، ولا يمكن العثور على أحد عليها: فهي توصل إلى جهاز واحد فقط، أو إلى ما يعمل داخل هذا الجهاز.</translation>
     </message>
     <message>
         <source>If the others are on another network, correct NIMBCHAT_ADDRESS.</source>
@@ -421,11 +421,11 @@
     </message>
     <message>
         <source>If the others are on another network, choose its card as your own address in Tools, Options.</source>
-        <translation>إذا كان الآخرون على شبكة أخرى، فاختر بطاقتها لتكون عنوانك من «أدوات &gt; خيارات».</translation>
+        <translation>إذا كان الآخرون على شبكة أخرى، فاختر عنوان بطاقتها من «أدوات &gt; خيارات».</translation>
     </message>
     <message>
         <source>Your address is %1, which only programs on this computer can reach.</source>
-        <translation>عنوانك هو %1، ولا يمكن أن تصل إليه إلا البرامج التي على هذا الحاسوب.</translation>
+        <translation>عنوانك هو ⁨%1⁩، ولا يمكن أن تصل إليه إلا البرامج التي على هذا الحاسوب.</translation>
     </message>
     <message>
         <source>Start NIMB-Chat without NIMBCHAT_ADDRESS to talk to other computers.</source>
@@ -433,26 +433,26 @@
     </message>
     <message>
         <source>The network card %1, whose address the options name as yours, is not connected; your address is %2 of the card %3.</source>
-        <translation>بطاقة الشبكة %1، التي تحدد الخيارات عنوانها عنوانًا لك، غير متصلة؛ عنوانك هو %2 على البطاقة %3.</translation>
+        <translation>بطاقة الشبكة ⁨%1⁩، التي اختير عنوانها في الخيارات ليكون عنوانك، غير متصلة؛ عنوانك هو ⁨%2⁩ على البطاقة ⁨%3⁩.</translation>
     </message>
     <message>
         <source>Connect that card, or choose another own address in Tools, Options.</source>
-        <translation>صِل تلك البطاقة، أو اختر عنوانًا آخر لك من «أدوات &gt; خيارات».</translation>
+        <translation>وصّل تلك البطاقة، أو اختر عنوانًا آخر لك من «أدوات &gt; خيارات».</translation>
     </message>
     <message>
         <source>Your address is %1, of the card %2.</source>
-        <translation>عنوانك هو %1 على البطاقة %2.</translation>
+        <translation>عنوانك هو ⁨%1⁩ على البطاقة ⁨%2⁩.</translation>
     </message>
     <message>
         <source>NIMB-Chat listens on UDP port %1.</source>
-        <translation>يستمع NIMB-Chat إلى منفذ UDP %1.</translation>
+        <translation>يستمع NIMB-Chat إلى منفذ UDP ⁨%1⁩.</translation>
     </message>
     <message>
         <source>The system does not let NIMB-Chat use port %1.</source>
-        <translation>لا يسمح النظام لبرنامج NIMB-Chat باستخدام المنفذ %1.</translation>
+        <translation>لا يسمح النظام لبرنامج NIMB-Chat باستخدام المنفذ ⁨%1⁩.</translation>
     </message>
     <message>
-        <source>Choose a port above 1023 in Tools, Options, the same as everybody else&apos;s.</source>
+        <source>Choose a port above 1023 in Tools, Options, the same as everybody else's.</source>
         <translation>اختر من «أدوات &gt; خيارات» منفذًا أعلى من 1023، هو نفسه لدى الجميع.</translation>
     </message>
     <message>
@@ -461,11 +461,11 @@
     </message>
     <message>
         <source>Connect the network that has it; NIMB-Chat tries again every 5 seconds.</source>
-        <translation>صِل الشبكة التي لها هذا العنوان؛ يعيد NIMB-Chat المحاولة كل 5 ثوانٍ.</translation>
+        <translation>اتصل بالشبكة التي لها هذا العنوان؛ يعيد NIMB-Chat المحاولة كل 5 ثوانٍ.</translation>
     </message>
     <message>
         <source>Port %1 is used by the program %2 (process %3).</source>
-        <translation>المنفذ %1 يستخدمه البرنامج %2 (العملية %3).</translation>
+        <translation>المنفذ ⁨%1⁩ يستخدمه البرنامج ⁨%2⁩ (العملية ⁨%3⁩).</translation>
     </message>
     <message>
         <source>Close that program; NIMB-Chat tries again every 5 seconds.</source>
@@ -473,15 +473,15 @@
     </message>
     <message>
         <source>Port %1 is used by another program.</source>
-        <translation>المنفذ %1 يستخدمه برنامج آخر.</translation>
+        <translation>المنفذ ⁨%1⁩ يستخدمه برنامج آخر.</translation>
     </message>
     <message>
-        <source>&quot;sudo ss -ulpn sport = :%1&quot; shows which one.</source>
-        <translation>يبيّن الأمر «sudo ss -ulpn sport = :%1» أيَّ برنامج هو.</translation>
+        <source>"sudo ss -ulpn sport = :%1" shows which one.</source>
+        <translation>يبيّن الأمر «sudo ss -ulpn sport = :⁨%1⁩» أيَّ برنامج هو.</translation>
     </message>
     <message>
         <source>NIMB-Chat does not listen on port %1.</source>
-        <translation>لا يستمع NIMB-Chat إلى المنفذ %1.</translation>
+        <translation>لا يستمع NIMB-Chat إلى المنفذ ⁨%1⁩.</translation>
     </message>
     <message>
         <source>NIMB-Chat tries again every 5 seconds; if that does not help, start it anew.</source>
@@ -489,11 +489,11 @@
     </message>
     <message>
         <source>UDP port %1 is free for NIMB-Chat, which does not run.</source>
-        <translation>منفذ UDP %1 متاح لبرنامج NIMB-Chat، وهو لا يعمل الآن.</translation>
+        <translation>منفذ UDP ⁨%1⁩ متاح لبرنامج NIMB-Chat، وهو لا يعمل الآن.</translation>
     </message>
     <message>
         <source>NIMB-Chat runs (process %1) and listens on UDP port %2.</source>
-        <translation>يعمل NIMB-Chat (العملية %1) ويستمع إلى منفذ UDP %2.</translation>
+        <translation>يعمل NIMB-Chat (العملية ⁨%1⁩) ويستمع إلى منفذ UDP ⁨%2⁩.</translation>
     </message>
     <message>
         <source>The system gives no room for waiting datagrams.</source>
@@ -501,27 +501,27 @@
     </message>
     <message>
         <source>The system keeps only %1 KiB of waiting datagrams: when many answer at once, some are lost.</source>
-        <translation>لا يحتفظ النظام إلا بمقدار %1 كيبيبايت من حزم البيانات المنتظرة: عندما يجيب كثيرون معًا يُفقد بعضها.</translation>
+        <translation>لا يحتفظ النظام إلا بمقدار ⁨%1⁩ كيبيبايت من حزم البيانات المنتظرة: عندما يجيب كثيرون معًا يُفقد بعضها.</translation>
     </message>
     <message>
-        <source>&quot;sudo sysctl -w net.core.rmem_max=4194304&quot; lets it keep more.</source>
+        <source>"sudo sysctl -w net.core.rmem_max=4194304" lets it keep more.</source>
         <translation>يتيح له الأمر «sudo sysctl -w net.core.rmem_max=4194304» الاحتفاظ بالمزيد.</translation>
     </message>
     <message>
         <source>The system keeps %1 KiB of waiting datagrams.</source>
-        <translation>يحتفظ النظام بمقدار %1 كيبيبايت من حزم البيانات المنتظرة.</translation>
+        <translation>يحتفظ النظام بمقدار ⁨%1⁩ كيبيبايت من حزم البيانات المنتظرة.</translation>
     </message>
     <message>
         <source>A datagram to %1, yourself, came back.</source>
-        <translation>عادت حزمة البيانات المرسلة إلى عنوانك %1.</translation>
+        <translation>عادت حزمة البيانات المرسلة إلى عنوانك ⁨%1⁩.</translation>
     </message>
     <message>
         <source>A datagram to %1, yourself, did not come back within a second.</source>
-        <translation>لم تعد حزمة البيانات المرسلة إلى عنوانك %1 خلال ثانية.</translation>
+        <translation>لم تعد حزمة البيانات المرسلة إلى عنوانك ⁨%1⁩ خلال ثانية.</translation>
     </message>
     <message>
         <source>A firewall on this computer keeps even its own datagrams out, or the address is not its own.</source>
-        <translation>جدار حماية على هذا الحاسوب يمنع حتى حزمه هو، أو أن العنوان ليس عنوانه.</translation>
+        <translation>جدار حماية على هذا الحاسوب يحجب حتى حزم الحاسوب نفسه، أو أن العنوان ليس عنوانه.</translation>
     </message>
     <message>
         <source>No datagram was sent to yourself, for nothing listens for it.</source>
@@ -545,15 +545,15 @@
     </message>
     <message>
         <source>A question to everybody leaves: %1.</source>
-        <translation>يخرج السؤال الموجَّه إلى الجميع: %1.</translation>
+        <translation>يخرج السؤال الموجَّه إلى الجميع: ⁨%1⁩.</translation>
     </message>
     <message>
         <source>The system refuses to send to everybody: %1.</source>
-        <translation>يرفض النظام الإرسال إلى الجميع: %1.</translation>
+        <translation>يرفض النظام الإرسال إلى الجميع: ⁨%1⁩.</translation>
     </message>
     <message>
         <source>A firewall on this computer keeps it in; let UDP out to that address.</source>
-        <translation>جدار حماية على هذا الحاسوب يمنع خروجه؛ اسمح بخروج UDP إلى ذلك العنوان.</translation>
+        <translation>جدار حماية على هذا الحاسوب يحجب خروجه؛ اسمح بخروج UDP إلى ذلك العنوان.</translation>
     </message>
     <message>
         <source>No firewall is seen on this computer.</source>
@@ -561,30 +561,30 @@
     </message>
     <message>
         <source>The firewall %1 is on and lets UDP port %2 in.</source>
-        <translation>جدار الحماية %1 مفعّل ويسمح بدخول منفذ UDP %2.</translation>
+        <translation>جدار الحماية ⁨%1⁩ مفعّل ويسمح بمنفذ UDP ⁨%2⁩.</translation>
     </message>
     <message>
         <source>The firewall %1 is on and keeps UDP port %2 out: nobody reaches you.</source>
-        <translation>جدار الحماية %1 مفعّل ويمنع دخول منفذ UDP %2: لا أحد يصل إليك.</translation>
+        <translation>جدار الحماية ⁨%1⁩ مفعّل ويحجب منفذ UDP ⁨%2⁩: لا أحد يصل إليك.</translation>
     </message>
     <message>
         <source>This opens the port: %1</source>
-        <translation>هذا يفتح المنفذ: %1</translation>
+        <translation>هذا يفتح المنفذ: ‎⁨%1⁩</translation>
     </message>
     <message>
         <source>The firewall %1 is on and lets UDP port %2 in for some and not for others, as it seems.</source>
-        <translation>جدار الحماية %1 مفعّل، ويبدو أنه يسمح بدخول منفذ UDP %2 لبعضهم دون غيرهم.</translation>
+        <translation>جدار الحماية ⁨%1⁩ مفعّل، ويبدو أنه يسمح بمنفذ UDP ⁨%2⁩ لبعضهم دون غيرهم.</translation>
     </message>
     <message>
         <source>If others do not reach you, this opens the port for everybody: %1</source>
-        <translation>إذا كان الآخرون لا يصلون إليك، فهذا يفتح المنفذ للجميع: %1</translation>
+        <translation>إذا كان الآخرون لا يصلون إليك، فهذا يفتح المنفذ للجميع: ‎⁨%1⁩</translation>
     </message>
     <message>
         <source>Only the administrator may see whether a firewall keeps UDP port %1 out.</source>
-        <translation>لا يحق إلا للمسؤول معرفة هل يمنع جدار حماية دخول منفذ UDP %1.</translation>
+        <translation>لا يُسمح إلا للمسؤول بمعرفة هل يحجب جدار حماية منفذ UDP ⁨%1⁩.</translation>
     </message>
     <message>
-        <source>&quot;sudo nimb-chatctl doctor&quot; tells.</source>
+        <source>"sudo nimb-chatctl doctor" tells.</source>
         <translation>يبيّن ذلك الأمر «sudo nimb-chatctl doctor».</translation>
     </message>
     <message>
@@ -592,36 +592,36 @@
         <translation>قد يكون على هذا الحاسوب جدار حماية، ولا يوجد هنا برنامج يعرض جميع قواعده.</translation>
     </message>
     <message>
-        <source>&quot;sudo nft list ruleset&quot; and &quot;sudo iptables-legacy -S&quot; show them, of the packages nftables and iptables.</source>
+        <source>"sudo nft list ruleset" and "sudo iptables-legacy -S" show them, of the packages nftables and iptables.</source>
         <translation>يعرضها الأمران «sudo nft list ruleset» و«sudo iptables-legacy -S» من الحزمتين nftables وiptables.</translation>
     </message>
     <message>
         <source>The firewall %1 is on; only the administrator may see whether it lets UDP port %2 in.</source>
-        <translation>جدار الحماية %1 مفعّل؛ ولا يحق إلا للمسؤول معرفة هل يسمح بدخول منفذ UDP %2.</translation>
+        <translation>جدار الحماية ⁨%1⁩ مفعّل؛ ولا يُسمح إلا للمسؤول بمعرفة هل يسمح بمنفذ UDP ⁨%2⁩.</translation>
     </message>
     <message>
         <source>The cards %1 and %2 are on the same network; your address is the one that was chosen.</source>
-        <translation>البطاقتان %1 و%2 على الشبكة نفسها؛ وعنوانك هو العنوان المختار.</translation>
+        <translation>البطاقتان ⁨%1⁩ و⁨%2⁩ على الشبكة نفسها؛ وعنوانك هو العنوان المختار.</translation>
     </message>
     <message>
         <source>The cards %1 and %2 are on the same network: others may see you under either address.</source>
-        <translation>البطاقتان %1 و%2 على الشبكة نفسها: قد يراك الآخرون بأيٍّ من العنوانين.</translation>
+        <translation>البطاقتان ⁨%1⁩ و⁨%2⁩ على الشبكة نفسها: قد يراك الآخرون بأيٍّ من العنوانين.</translation>
     </message>
     <message>
         <source>Turn one of them off, or choose one as your own address in Tools, Options.</source>
-        <translation>أوقف إحداهما، أو اختر إحداهما لتكون عنوانك من «أدوات &gt; خيارات».</translation>
+        <translation>أوقف إحداهما، أو اختر عنوان إحداهما من «أدوات &gt; خيارات».</translation>
     </message>
     <message>
         <source>Your address is that of %1, a VPN or another line to a single machine.</source>
-        <translation>عنوانك هو عنوان %1، وهي شبكة VPN أو خط آخر إلى جهاز واحد.</translation>
+        <translation>عنوانك هو عنوان ⁨%1⁩، وهي شبكة VPN أو خط آخر إلى جهاز واحد.</translation>
     </message>
     <message>
         <source>If the others are on the local network, choose its card as your own address in Tools, Options.</source>
-        <translation>إذا كان الآخرون على الشبكة المحلية، فاختر بطاقتها لتكون عنوانك من «أدوات &gt; خيارات».</translation>
+        <translation>إذا كان الآخرون على الشبكة المحلية، فاختر عنوان بطاقتها من «أدوات &gt; خيارات».</translation>
     </message>
     <message>
         <source>A VPN is up (%1); your address is not on it.</source>
-        <translation>توجد شبكة VPN عاملة (%1)؛ وعنوانك ليس عليها.</translation>
+        <translation>توجد شبكة VPN عاملة (⁨%1⁩)؛ وعنوانك ليس عليها.</translation>
     </message>
     <message>
         <source>There is no VPN, and no network has two cards of this computer.</source>
@@ -629,19 +629,19 @@
     </message>
     <message>
         <source>%1 answered after %2 ms.</source>
-        <translation>أجاب %1 بعد %2 مللي ثانية.</translation>
+        <translation>أجاب ⁨%1⁩ بعد ⁨%2⁩ مللي ثانية.</translation>
     </message>
     <message>
         <source>%1 did not answer, but the computer at %2 is there, or was a moment ago.</source>
-        <translation>لم يجب %1، لكن الحاسوب ذا العنوان %2 موجود، أو كان موجودًا قبل لحظات.</translation>
+        <translation>لم يجب ⁨%1⁩، لكن الحاسوب ذا العنوان ⁨%2⁩ موجود، أو كان موجودًا قبل لحظات.</translation>
     </message>
     <message>
         <source>A firewall there may keep UDP out, NIMB-Chat may not run there or its user may be invisible, or that copy does not know you yet: let both sides use Users, Find everybody here. Run the network doctor there as well.</source>
-        <translation>قد يكون هناك جدار حماية يمنع دخول UDP، أو أن NIMB-Chat لا يعمل هناك، أو أن مستخدمه غير مرئي، أو أن تلك النسخة لا تعرفك بعد: ليستخدم الطرفان «المستخدمون &gt; البحث عن الجميع هنا». وشغّل تشخيص الشبكة هناك أيضًا.</translation>
+        <translation>قد يكون هناك جدار حماية يحجب UDP، أو أن NIMB-Chat لا يعمل هناك، أو أن مستخدمه غير مرئي، أو أن تلك النسخة لا تعرفك بعد: ليستخدم الطرفان «المستخدمون &gt; البحث عن الجميع هنا». وشغّل تشخيص الشبكة هناك أيضًا.</translation>
     </message>
     <message>
         <source>%1 did not answer, and no computer on your network has the address %2.</source>
-        <translation>لم يجب %1، ولا يوجد على شبكتك حاسوب له العنوان %2.</translation>
+        <translation>لم يجب ⁨%1⁩، ولا يوجد على شبكتك حاسوب له العنوان ⁨%2⁩.</translation>
     </message>
     <message>
         <source>It is off, it has another address by now, it is on another network, or the access point keeps its machines apart (client isolation).</source>
@@ -649,7 +649,7 @@
     </message>
     <message>
         <source>%1 did not answer. The address %2 is on another network, behind a router or at the other end of a tunnel.</source>
-        <translation>لم يجب %1. العنوان %2 على شبكة أخرى، خلف موجّه أو في الطرف الآخر من نفق.</translation>
+        <translation>لم يجب ⁨%1⁩. العنوان ⁨%2⁩ على شبكة أخرى، خلف موجّه أو في الطرف الآخر من نفق.</translation>
     </message>
     <message>
         <source>What leads there must let UDP through in both directions; and what may be wrong on one network may be wrong there: a firewall, a copy that does not run, a user who is invisible.</source>
@@ -657,11 +657,11 @@
     </message>
     <message>
         <source>%1 did not answer. The way to %2 is that of your address %3, but the options name the card %4, whose address %5 may not be reached from there.</source>
-        <translation>لم يجب %1. الطريق إلى %2 يمر بعنوانك %3، لكن الخيارات تحدد البطاقة %4 التي قد لا يمكن الوصول من هناك إلى عنوانها %5.</translation>
+        <translation>لم يجب ⁨%1⁩. الطريق إلى ⁨%2⁩ يمر بعنوانك ⁨%3⁩، لكن الخيارات تحدد البطاقة ⁨%4⁩، وقد لا يمكن الوصول من هناك إلى عنوانها ⁨%5⁩.</translation>
     </message>
     <message>
-        <source>Choose &quot;automatic&quot; or the card of that network as your own address in Tools, Options.</source>
-        <translation>اختر «تلقائي» أو بطاقة تلك الشبكة لتكون عنوانك من «أدوات &gt; خيارات».</translation>
+        <source>Choose "automatic" or the card of that network as your own address in Tools, Options.</source>
+        <translation>اختر «تلقائي» أو عنوان بطاقة تلك الشبكة من «أدوات &gt; خيارات».</translation>
     </message>
     <message>
         <source>private message</source>
@@ -724,67 +724,67 @@
     <name>DropCounts</name>
     <message>
         <source>From addresses that are no contacts: %1</source>
-        <translation>من عناوين ليست جهات اتصال: %1</translation>
+        <translation>من عناوين ليست جهات اتصال: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Incomplete commands: %1</source>
-        <translation>أوامر غير مكتملة: %1</translation>
+        <translation>أوامر غير مكتملة: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Commands that nothing here takes: %1</source>
-        <translation>أوامر لا يقبلها شيء هنا: %1</translation>
+        <translation>أوامر لا يقبلها شيء هنا: ⁨%1⁩</translation>
     </message>
     <message>
         <source>For private windows that are not open: %1</source>
-        <translation>لنوافذ خاصة غير مفتوحة: %1</translation>
+        <translation>لنوافذ خاصة غير مفتوحة: ⁨%1⁩</translation>
     </message>
     <message>
         <source>For conferences that are not there, or not to be had so: %1</source>
-        <translation>لمؤتمرات غير موجودة، أو لا يمكن دخولها هكذا: %1</translation>
+        <translation>لمؤتمرات غير موجودة، أو غير مسموح بها لمرسلها: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Addresses that cannot become contacts: %1</source>
-        <translation>عناوين لا يمكن أن تصبح جهات اتصال: %1</translation>
+        <translation>عناوين لا يمكن أن تصبح جهات اتصال: ⁨%1⁩</translation>
     </message>
     <message>
         <source>New contacts while the list was full: %1</source>
-        <translation>جهات اتصال جديدة وصلت والقائمة ممتلئة: %1</translation>
+        <translation>جهات اتصال جديدة وصلت والقائمة ممتلئة: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Messages while too many waited to be read: %1</source>
-        <translation>رسائل وصلت وعدد كبير ينتظر القراءة: %1</translation>
+        <translation>رسائل وصلت وعدد كبير ينتظر القراءة: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Invitations while too many waited: %1</source>
-        <translation>دعوات وصلت وعدد كبير في الانتظار: %1</translation>
+        <translation>دعوات وصلت وعدد كبير في الانتظار: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Avatars while those of too many strangers were kept: %1</source>
-        <translation>صور رمزية وصلت وصور كثيرة لغرباء محفوظة: %1</translation>
+        <translation>صور رمزية وصلت وصور كثيرة لغرباء محفوظة: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Contacts that made room in a full list: %1</source>
-        <translation>جهات اتصال أُزيلت لإفساح مكان في قائمة ممتلئة: %1</translation>
+        <translation>جهات اتصال أُزيلت لإفساح مكان في قائمة ممتلئة: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Avatars and lists asked for or sent too often: %1</source>
-        <translation>صور رمزية وقوائم طُلبت أو أُرسلت أكثر مما ينبغي: %1</translation>
+        <translation>صور رمزية وقوائم طُلبت أو أُرسلت أكثر مما ينبغي: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Datagrams that could not be sent: %1</source>
-        <translation>حزم بيانات تعذر إرسالها: %1</translation>
+        <translation>حزم بيانات تعذر إرسالها: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Datagrams lost before they could be read: %1</source>
-        <translation>حزم بيانات فُقدت قبل التمكن من قراءتها: %1</translation>
+        <translation>حزم بيانات فُقدت قبل التمكن من قراءتها: ⁨%1⁩</translation>
     </message>
     <message>
         <source>More than could wait, of the loudest senders: %1</source>
-        <translation>ما زاد على سعة الانتظار من أكثر المرسلين إرسالًا: %1</translation>
+        <translation>ما زاد على سعة الانتظار من أكثر المرسلين إرسالًا: ⁨%1⁩</translation>
     </message>
     <message>
         <source>of them from %1: %2</source>
-        <translation>منها من %1: %2</translation>
+        <translation>منها من ⁨%1⁩: ⁨%2⁩</translation>
     </message>
 </context>
 <context>
@@ -900,38 +900,38 @@
     <name>FileSource</name>
     <message>
         <source>%1 has changed since it was offered, so its transfer has ended.</source>
-        <translation>تغيّر %1 منذ عرضه، لذلك انتهى نقله.</translation>
+        <translation>تغيّر ⁨%1⁩ منذ عرضه، لذلك انتهى نقله.</translation>
     </message>
     <message>
         <source>%1 cannot be read.</source>
-        <translation>تتعذر قراءة %1.</translation>
+        <translation>تتعذر قراءة ⁨%1⁩.</translation>
     </message>
     <message>
         <source>%1 holds too many files to be sent as one.</source>
-        <translation>يحتوي %1 على ملفات أكثر من أن تُرسل دفعة واحدة.</translation>
+        <translation>يحتوي ⁨%1⁩ على ملفات أكثر من أن تُرسل دفعة واحدة.</translation>
     </message>
     <message>
         <source>%1 cannot be sent: it cannot be read to its end.</source>
-        <translation>يتعذر إرسال %1: لا يمكن قراءته حتى نهايته.</translation>
+        <translation>يتعذر إرسال ⁨%1⁩: لا يمكن قراءته حتى نهايته.</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation>%1 و%2 غيرها</translation>
+        <translation>⁨%1⁩ و⁨%2⁩ غيرها</translation>
     </message>
     <message>
         <source>%1 left out of %2: %3. Links are not followed, and what cannot be read is not sent.</source>
-        <translation>عدد ما استُبعد من %2: %1 (%3). لا تُتبع الروابط، وما تتعذر قراءته لا يُرسل.</translation>
+        <translation>عدد ما استُبعد من ⁨%2⁩: ⁨%1⁩ (⁨%3⁩). لا تُتبع الروابط، وما تتعذر قراءته لا يُرسل.</translation>
     </message>
     <message>
         <source>%1 cannot be sent: it is no file or folder that can be read.</source>
-        <translation>يتعذر إرسال %1: ليس ملفًا أو مجلدًا يمكن قراءته.</translation>
+        <translation>يتعذر إرسال ⁨%1⁩: ليس ملفًا أو مجلدًا يمكن قراءته.</translation>
     </message>
 </context>
 <context>
     <name>FolderSource</name>
     <message>
-        <source>There is no picture to show in &quot;%1&quot;.</source>
-        <translation>لا توجد صورة يمكن عرضها في «%1».</translation>
+        <source>There is no picture to show in "%1".</source>
+        <translation>لا توجد صورة يمكن عرضها في «‎⁨%1⁩».</translation>
     </message>
 </context>
 <context>
@@ -942,18 +942,18 @@
     </message>
     <message>
         <source>There is a copy of the settings, saved on %1 at %2. Is NIMB-Chat to go on with that copy? What is not used is kept under another name.</source>
-        <translation>توجد نسخة من الإعدادات حُفظت في %1 الساعة %2. هل يتابع NIMB-Chat بهذه النسخة؟ ما لا يُستخدم يُحتفظ به باسم آخر.</translation>
+        <translation>توجد نسخة من الإعدادات حُفظت في ⁨%1⁩ الساعة ⁨%2⁩. هل يتابع NIMB-Chat بهذه النسخة؟ ما لا يُستخدم يُحتفظ به باسم آخر.</translation>
     </message>
     <message>
         <source>There is a copy of the settings, saved on %1 at %2; NIMB-Chat offers it when it is started without a nickname.</source>
-        <translation>توجد نسخة من الإعدادات حُفظت في %1 الساعة %2؛ يعرضها NIMB-Chat عند تشغيله من دون اسم مستعار.</translation>
+        <translation>توجد نسخة من الإعدادات حُفظت في ⁨%1⁩ الساعة ⁨%2⁩؛ يعرضها NIMB-Chat عند تشغيله من دون اسم مستعار.</translation>
     </message>
 </context>
 <context>
     <name>HistoryFile</name>
     <message>
         <source>The history was damaged, so a new one has been begun; %1 messages that could still be read went into it. The old file is %2.</source>
-        <translation>كانت المحفوظات تالفة، فأُنشئت محفوظات جديدة؛ عدد الرسائل التي أمكنت قراءتها ونُقلت إليها: %1. الملف القديم هو %2.</translation>
+        <translation>كانت المحفوظات تالفة، فأُنشئت محفوظات جديدة؛ عدد الرسائل التي أمكنت قراءتها ونُقلت إليها: ⁨%1⁩. الملف القديم هو ‎⁨%2⁩.</translation>
     </message>
     <message>
         <source>a newer version of NIMB-Chat has written it</source>
@@ -964,18 +964,18 @@
     <name>HistoryKeeper</name>
     <message>
         <source>The history in %1 cannot be used now (%2); what was kept before is unchanged.</source>
-        <translation>لا يمكن استخدام المحفوظات في %1 الآن (%2)؛ ما حُفظ من قبل لم يتغير.</translation>
+        <translation>لا يمكن استخدام المحفوظات في ‎⁨%1⁩ الآن (⁨%2⁩)؛ ما حُفظ من قبل لم يتغير.</translation>
     </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
     <message>
         <source>The folder %1 is not there any more.</source>
-        <translation>لم يعد المجلد %1 موجودًا.</translation>
+        <translation>لم يعد المجلد ‎⁨%1⁩ موجودًا.</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2.</source>
-        <translation>تتعذر الكتابة إلى %1: %2.</translation>
+        <translation>تتعذر الكتابة إلى ‎⁨%1⁩: ⁨%2⁩.</translation>
     </message>
     <message>
         <source>The connection to the sender broke off.</source>
@@ -1002,38 +1002,42 @@
         <translation>حجمه أكبر من أن يُعرض.</translation>
     </message>
     <message>
-        <source>There is too little room in %1. What has come is kept.</source>
-        <translation>لا توجد مساحة كافية في %1. ما وصل محفوظ.</translation>
-    </message>
-    <message>
-        <source>There is no room any more in %1. What has come is kept.</source>
-        <translation>لم تعد هناك مساحة في %1. ما وصل محفوظ.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written on: %2. What has come is kept.</source>
-        <translation>تتعذر متابعة الكتابة إلى %1: %2. ما وصل محفوظ.</translation>
-    </message>
-    <message>
         <source>What has come is not what was sent. It has been removed.</source>
         <translation>ما وصل ليس ما أُرسل، وقد أُزيل.</translation>
     </message>
     <message>
         <source>%1 cannot be renamed: %2.</source>
-        <translation>تتعذر إعادة تسمية %1: %2.</translation>
+        <translation>تتعذر إعادة تسمية ‎⁨%1⁩: ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>There is too little room in %1.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>There is no room any more in %1.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>%1 cannot be written on: %2.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>%1 What has come is kept.</source>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>
     <name>HttpFileServer</name>
     <message>
         <source>%1 cannot be sent: no port of this computer is free for it.</source>
-        <translation>يتعذر إرسال %1: لا يوجد في هذا الحاسوب منفذ متاح له.</translation>
+        <translation>يتعذر إرسال ⁨%1⁩: لا يوجد في هذا الحاسوب منفذ متاح له.</translation>
     </message>
 </context>
 <context>
     <name>Invitations</name>
     <message>
         <source>%1 %2 - %3 invited you to a conference</source>
-        <translation>%1 %2 - دعاك %3 إلى مؤتمر</translation>
+        <translation>⁨%1⁩ ⁨%2⁩ - دعاك ⁨%3⁩ إلى مؤتمر</translation>
     </message>
 </context>
 <context>
@@ -1047,11 +1051,11 @@
     <name>LogMarks</name>
     <message>
         <source>%1 was not online: this has probably not arrived</source>
-        <translation>لم يكن %1 متصلًا: الأرجح أن هذا لم يصل</translation>
+        <translation>لم يكن ⁨%1⁩ متصلًا: الأرجح أن هذا لم يصل</translation>
     </message>
     <message>
         <source>Waits until %1 is back</source>
-        <translation>ينتظر عودة %1</translation>
+        <translation>ينتظر عودة ⁨%1⁩</translation>
     </message>
     <message>
         <source>new</source>
@@ -1062,54 +1066,54 @@
     <name>MainLog</name>
     <message>
         <source>« NIMB-Chat [today:%1 - now:%2] Ready »</source>
-        <translation>« برنامج NIMB-Chat [اليوم:%1 - الآن:%2] جاهز »</translation>
+        <translation>« برنامج NIMB-Chat [اليوم:⁨%1⁩ - الآن:⁨%2⁩] جاهز »</translation>
     </message>
     <message>
         <source>%1 is now called %2 ---</source>
-        <translation>غيّر %1 اسمه إلى %2 ---</translation>
+        <translation>غيّر ⁨%1⁩ اسمه إلى ⁨%2⁩ ---</translation>
     </message>
     <message>
         <source>%1 went online ---</source>
-        <translation>أصبح %1 متصلًا ---</translation>
+        <translation>أصبح ⁨%1⁩ متصلًا ---</translation>
     </message>
     <message>
         <source>%1 has gone offline ---</source>
-        <translation>أصبح %1 غير متصل ---</translation>
+        <translation>أصبح ⁨%1⁩ غير متصل ---</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;  ---</source>
-        <translation>أصبحت حالة %1 «%2» ---</translation>
+        <source>%1 changed his state to '%2'  ---</source>
+        <translation>أصبحت حالة ⁨%1⁩ «⁨%2⁩» ---</translation>
     </message>
     <message>
         <source>%1 buzzes you ---</source>
-        <translation>ينبّهك %1 ---</translation>
+        <translation>ينبّهك ⁨%1⁩ ---</translation>
     </message>
     <message>
-        <source>%1 sent you the contact &apos;%2&apos; (%3) ---</source>
-        <translation>أرسل إليك %1 جهة الاتصال «%2» (%3) ---</translation>
+        <source>%1 sent you the contact '%2' (%3) ---</source>
+        <translation>أرسل إليك ⁨%1⁩ جهة الاتصال «⁨%2⁩» (⁨%3⁩) ---</translation>
     </message>
     <message>
         <source>--- unsupported command received (%1) ---</source>
-        <translation>--- ورد أمر غير مدعوم (%1) ---</translation>
+        <translation>--- ورد أمر غير مدعوم (⁨%1⁩) ---</translation>
     </message>
     <message>
         <source>--- garbage received  (%1) ---</source>
-        <translation>--- وردت بيانات غير صالحة (%1) ---</translation>
+        <translation>--- وردت بيانات غير صالحة (⁨%1⁩) ---</translation>
     </message>
     <message numerus="yes">
         <source>--- %n more that nobody understands received from %1 ---</source>
         <translation>
-            <numerusform>--- لم ترد من %1 حزم أخرى غير مفهومة ---</numerusform>
-            <numerusform>--- وردت من %1 حزمة أخرى غير مفهومة ---</numerusform>
-            <numerusform>--- وردت من %1 حزمتان أخريان غير مفهومتين ---</numerusform>
-            <numerusform>--- وردت من %1 %n حزم أخرى غير مفهومة ---</numerusform>
-            <numerusform>--- وردت من %1 %n حزمة أخرى غير مفهومة ---</numerusform>
-            <numerusform>--- وردت من %1 %n حزمة أخرى غير مفهومة ---</numerusform>
+            <numerusform>--- لم ترد من ⁨%1⁩ حزم أخرى غير مفهومة ---</numerusform>
+            <numerusform>--- وردت من ⁨%1⁩ حزمة أخرى غير مفهومة ---</numerusform>
+            <numerusform>--- وردت من ⁨%1⁩ حزمتان أخريان غير مفهومتين ---</numerusform>
+            <numerusform>--- وردت من ⁨%1⁩ %n حزم أخرى غير مفهومة ---</numerusform>
+            <numerusform>--- وردت من ⁨%1⁩ %n حزمة أخرى غير مفهومة ---</numerusform>
+            <numerusform>--- وردت من ⁨%1⁩ %n حزمة أخرى غير مفهومة ---</numerusform>
         </translation>
     </message>
     <message>
         <source>--- %1 ---</source>
-        <translation>--- %1 ---</translation>
+        <translation>--- ⁨%1⁩ ---</translation>
     </message>
 </context>
 <context>
@@ -1323,19 +1327,19 @@
     <name>MainWindow</name>
     <message>
         <source>NIMB-Chat: %1, %2</source>
-        <translation>برنامج NIMB-Chat: %1، %2</translation>
+        <translation>برنامج NIMB-Chat: ⁨%1⁩، ⁨%2⁩</translation>
     </message>
     <message>
         <source>%1, %2 unread</source>
-        <translation>%1، غير مقروءة: %2</translation>
+        <translation>⁨%1⁩، غير مقروءة: ⁨%2⁩</translation>
     </message>
     <message>
         <source>When NIMB-Chat last ended: %1</source>
-        <translation>عند إنهاء NIMB-Chat آخر مرة: %1</translation>
+        <translation>عند إنهاء NIMB-Chat آخر مرة: ⁨%1⁩</translation>
     </message>
     <message>
-        <source>The stored personalized state &quot;%1&quot; begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
-        <translation>لا تبدأ الحالة المخصصة المخزنة «%1» برقم صورة، لذلك استُبعدت، وستُفقد نهائيًا عند إنهاء NIMB-Chat.</translation>
+        <source>The stored personalized state "%1" begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
+        <translation>لا تبدأ الحالة المخصصة المخزنة «⁨%1⁩» برقم صورة، لذلك استُبعدت، وستُفقد نهائيًا عند إنهاء NIMB-Chat.</translation>
     </message>
     <message>
         <source>--- this desktop shows no tray icon: NIMB-Chat is minimised instead of hidden ---</source>
@@ -1343,18 +1347,18 @@
     </message>
     <message>
         <source>Files that are still on their way would be broken off: %1. End NIMB-Chat all the same?</source>
-        <translation>ستنقطع الملفات التي لا تزال قيد النقل: %1. هل تريد إنهاء NIMB-Chat رغم ذلك؟</translation>
+        <translation>ستنقطع الملفات التي لا تزال قيد النقل: ⁨%1⁩. هل تريد إنهاء NIMB-Chat رغم ذلك؟</translation>
     </message>
     <message>
         <source>Messages that arrived while the program ended are lost: %1.</source>
-        <translation>فُقدت الرسائل التي وصلت أثناء إنهاء البرنامج: %1.</translation>
+        <translation>فُقدت الرسائل التي وصلت أثناء إنهاء البرنامج: ⁨%1⁩.</translation>
     </message>
 </context>
 <context>
     <name>Messenger</name>
     <message>
         <source>Messages that waited to be read when the program ended are lost: %1.</source>
-        <translation>فُقدت الرسائل التي كانت تنتظر القراءة عند إنهاء البرنامج: %1.</translation>
+        <translation>فُقدت الرسائل التي كانت تنتظر القراءة عند إنهاء البرنامج: ⁨%1⁩.</translation>
     </message>
 </context>
 <context>
@@ -1423,7 +1427,7 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no &quot;net&quot; command.</source>
+        <source>The message was not sent: this system has no "net" command.</source>
         <translation>لم تُرسل الرسالة: لا يوجد في هذا النظام الأمر «net».</translation>
     </message>
     <message>
@@ -1432,33 +1436,33 @@
     </message>
     <message>
         <source>The message was not sent: no temporary file could be written (%1).</source>
-        <translation>لم تُرسل الرسالة: تعذرت كتابة ملف مؤقت (%1).</translation>
+        <translation>لم تُرسل الرسالة: تعذرت كتابة ملف مؤقت (⁨%1⁩).</translation>
     </message>
     <message>
         <source>The message was not sent: %1 could not be started (%2).</source>
-        <translation>لم تُرسل الرسالة: تعذر تشغيل %1 (%2).</translation>
+        <translation>لم تُرسل الرسالة: تعذر تشغيل ⁨%1⁩ (⁨%2⁩).</translation>
     </message>
 </context>
 <context>
     <name>NetworkScan</name>
     <message>
-        <source>&quot;%1&quot; is neither a name nor the address of a computer or a network, so nobody was asked.</source>
-        <translation>إن «%1» ليس اسمًا ولا عنوانًا لحاسوب أو شبكة، لذلك لم يُسأل أحد.</translation>
+        <source>"%1" is neither a name nor the address of a computer or a network, so nobody was asked.</source>
+        <translation>إن «⁨%1⁩» ليس اسمًا ولا عنوانًا لحاسوب أو شبكة، لذلك لم يُسأل أحد.</translation>
     </message>
     <message>
-        <source>No address was found for &quot;%1&quot;, so nobody was asked.</source>
-        <translation>لم يُعثر على عنوان لـ «%1»، لذلك لم يُسأل أحد.</translation>
+        <source>No address was found for "%1", so nobody was asked.</source>
+        <translation>لم يُعثر على عنوان لـ «⁨%1⁩»، لذلك لم يُسأل أحد.</translation>
     </message>
     <message>
         <source>%1 has too many addresses to be asked one by one: the largest range is /%2.</source>
-        <translation>يحتوي %1 على عناوين أكثر من أن تُسأل واحدًا واحدًا: أكبر نطاق هو ‎/%2.</translation>
+        <translation>يحتوي ⁨%1⁩ على عناوين أكثر من أن تُسأل واحدًا واحدًا: أكبر نطاق هو ‎/⁨%2⁩.</translation>
     </message>
 </context>
 <context>
     <name>Notices</name>
     <message>
         <source>%1 new messages</source>
-        <translation>رسائل جديدة: %1</translation>
+        <translation>رسائل جديدة: ⁨%1⁩</translation>
     </message>
     <message>
         <source>1 new message</source>
@@ -1466,23 +1470,23 @@
     </message>
     <message>
         <source>%1 invites you to a conference</source>
-        <translation>يدعوك %1 إلى مؤتمر</translation>
+        <translation>يدعوك ⁨%1⁩ إلى مؤتمر</translation>
     </message>
     <message>
         <source>%1 buzzes you</source>
-        <translation>ينبّهك %1</translation>
+        <translation>ينبّهك ⁨%1⁩</translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation>%1 · %2</translation>
+        <translation>⁨%1⁩ · ⁨%2⁩</translation>
     </message>
     <message>
         <source>%1 in conference #%2</source>
-        <translation>%1 في المؤتمر رقم %2</translation>
+        <translation>⁨%1⁩ في المؤتمر رقم ⁨%2⁩</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1: %2</translation>
+        <translation>⁨%1⁩: ⁨%2⁩</translation>
     </message>
     <message>
         <source>new messages</source>
@@ -1501,11 +1505,11 @@
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
+        <translation>⁨%1⁩ (⁨%2⁩)</translation>
     </message>
     <message>
         <source>%1 (not connected)</source>
-        <translation>%1 (غير متصلة)</translation>
+        <translation>⁨%1⁩ (غير متصلة)</translation>
     </message>
     <message>
         <source>The port must be a number from 1 to 65535.</source>
@@ -1520,23 +1524,23 @@
     </message>
     <message>
         <source>There is a network now: your address is %1</source>
-        <translation>توجد شبكة الآن: عنوانك هو %1</translation>
+        <translation>توجد شبكة الآن: عنوانك هو ⁨%1⁩</translation>
     </message>
     <message>
         <source>Your address is now %1</source>
-        <translation>عنوانك الآن هو %1</translation>
+        <translation>عنوانك الآن هو ⁨%1⁩</translation>
     </message>
     <message>
         <source>This computer has slept: your address is still %1</source>
-        <translation>كان هذا الحاسوب في وضع السكون: لا يزال عنوانك %1</translation>
+        <translation>كان هذا الحاسوب في وضع السكون: لا يزال عنوانك ⁨%1⁩</translation>
     </message>
     <message>
         <source>The networks have changed: your address is still %1</source>
-        <translation>تغيّرت الشبكات: لا يزال عنوانك %1</translation>
+        <translation>تغيّرت الشبكات: لا يزال عنوانك ⁨%1⁩</translation>
     </message>
     <message>
         <source>The network card %1, whose address the options name as yours, is not connected; your address is %2 until it is.</source>
-        <translation>بطاقة الشبكة %1، التي تحدد الخيارات عنوانها عنوانًا لك، غير متصلة؛ عنوانك هو %2 إلى أن تتصل.</translation>
+        <translation>بطاقة الشبكة ⁨%1⁩، التي اختير عنوانها في الخيارات ليكون عنوانك، غير متصلة؛ عنوانك هو ⁨%2⁩ إلى أن تتصل.</translation>
     </message>
     <message>
         <source>No network gives this computer an IPv4 address, so nobody can reach you. NIMB-Chat goes on as soon as one does.</source>
@@ -1567,7 +1571,7 @@
     </message>
     <message>
         <source>Status: %1</source>
-        <translation>الحالة: %1</translation>
+        <translation>الحالة: ⁨%1⁩</translation>
     </message>
     <message>
         <source>AutoReply text (when Busy)</source>
@@ -1586,19 +1590,19 @@
         <translation>سؤال جميع جهات الاتصال عن وجودها</translation>
     </message>
     <message>
-        <source>Only %1 personalized states are kept: &quot;%2&quot; lasts until NIMB-Chat ends.</source>
-        <translation>لا يُحتفظ إلا بعدد %1 من الحالات المخصصة: تبقى «%2» إلى حين إنهاء NIMB-Chat.</translation>
+        <source>Only %1 personalized states are kept: "%2" lasts until NIMB-Chat ends.</source>
+        <translation>لا يُحفظ أكثر من ⁨%1⁩ من الحالات المخصصة: تبقى «⁨%2⁩» حتى إنهاء NIMB-Chat.</translation>
     </message>
 </context>
 <context>
     <name>PeerFeatures</name>
     <message>
         <source>%1 is buzzing you...</source>
-        <translation>ينبّهك %1 الآن...</translation>
+        <translation>ينبّهك ⁨%1⁩ الآن...</translation>
     </message>
     <message>
         <source>%1 is typing a message...</source>
-        <translation>يكتب %1 رسالة...</translation>
+        <translation>يكتب ⁨%1⁩ رسالة...</translation>
     </message>
 </context>
 <context>
@@ -1620,76 +1624,80 @@
         <translation>ليست هذه صورة يستطيع NIMB-Chat قراءتها.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be opened.</source>
-        <translation>يتعذر فتح «%1».</translation>
+        <source>"%1" cannot be opened.</source>
+        <translation>يتعذر فتح «‎⁨%1⁩».</translation>
     </message>
 </context>
 <context>
     <name>PortWatch</name>
     <message>
         <source>Port %1 is taken</source>
-        <translation>المنفذ %1 مشغول</translation>
+        <translation>المنفذ ⁨%1⁩ مشغول</translation>
     </message>
     <message>
         <source>No port %1</source>
-        <translation>لا يتوفر المنفذ %1</translation>
+        <translation>لا يتوفر المنفذ ⁨%1⁩</translation>
     </message>
     <message>
         <source>This machine does not have the address that NIMB-Chat was told to use, so nobody can reach you on port %1. Correct NIMBCHAT_ADDRESS, or connect the network: NIMB-Chat tries again every 5 seconds.</source>
-        <translation>هذا الجهاز ليس له العنوان الذي طُلب من NIMB-Chat استخدامه، لذلك لا يمكن لأحد الوصول إليك عبر المنفذ %1. صحّح قيمة NIMBCHAT_ADDRESS، أو صِل الشبكة: يعيد NIMB-Chat المحاولة كل 5 ثوانٍ.</translation>
+        <translation>هذا الجهاز ليس له العنوان الذي طُلب من NIMB-Chat استخدامه، لذلك لا يمكن لأحد الوصول إليك عبر المنفذ ⁨%1⁩. صحّح قيمة NIMBCHAT_ADDRESS، أو اتصل بالشبكة: يعيد NIMB-Chat المحاولة كل 5 ثوانٍ.</translation>
     </message>
     <message>
         <source>The system does not let NIMB-Chat use port %1, so nobody can reach you. Choose a port above 1023.</source>
-        <translation>لا يسمح النظام لبرنامج NIMB-Chat باستخدام المنفذ %1، لذلك لا يمكن لأحد الوصول إليك. اختر منفذًا أعلى من 1023.</translation>
+        <translation>لا يسمح النظام لبرنامج NIMB-Chat باستخدام المنفذ ⁨%1⁩، لذلك لا يمكن لأحد الوصول إليك. اختر منفذًا أعلى من 1023.</translation>
     </message>
     <message>
         <source>The network cannot be used on port %1, so nobody can reach you. NIMB-Chat tries again every 5 seconds.</source>
-        <translation>لا يمكن استخدام الشبكة عبر المنفذ %1، لذلك لا يمكن لأحد الوصول إليك. يعيد NIMB-Chat المحاولة كل 5 ثوانٍ.</translation>
+        <translation>لا يمكن استخدام الشبكة عبر المنفذ ⁨%1⁩، لذلك لا يمكن لأحد الوصول إليك. يعيد NIMB-Chat المحاولة كل 5 ثوانٍ.</translation>
     </message>
     <message>
         <source>Port %1 is used by another program, so nobody can reach you. Close that program: NIMB-Chat tries again every 5 seconds.</source>
-        <translation>المنفذ %1 يستخدمه برنامج آخر، لذلك لا يمكن لأحد الوصول إليك. أغلق ذلك البرنامج: يعيد NIMB-Chat المحاولة كل 5 ثوانٍ.</translation>
+        <translation>المنفذ ⁨%1⁩ يستخدمه برنامج آخر، لذلك لا يمكن لأحد الوصول إليك. أغلق ذلك البرنامج: يعيد NIMB-Chat المحاولة كل 5 ثوانٍ.</translation>
     </message>
     <message>
         <source>Port %1 is free now: you can be reached.</source>
-        <translation>المنفذ %1 متاح الآن: يمكن الوصول إليك.</translation>
+        <translation>المنفذ ⁨%1⁩ متاح الآن: يمكن الوصول إليك.</translation>
     </message>
     <message>
         <source>You can be reached on port %1 again.</source>
-        <translation>يمكن الوصول إليك مجددًا عبر المنفذ %1.</translation>
+        <translation>يمكن الوصول إليك مجددًا عبر المنفذ ⁨%1⁩.</translation>
     </message>
 </context>
 <context>
     <name>PresenceReceiver</name>
     <message>
         <source>%1 is online</source>
-        <translation>أصبح %1 متصلًا</translation>
+        <translation>أصبح ⁨%1⁩ متصلًا</translation>
     </message>
     <message>
         <source>%1 is offline</source>
-        <translation>أصبح %1 غير متصل</translation>
+        <translation>أصبح ⁨%1⁩ غير متصل</translation>
     </message>
     <message>
         <source>%1 has gone offline</source>
-        <translation>أصبح %1 غير متصل</translation>
+        <translation>أصبح ⁨%1⁩ غير متصل</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;</source>
-        <translation>أصبحت حالة %1 «%2»</translation>
+        <source>%1 changed his state to '%2'</source>
+        <translation>أصبحت حالة ⁨%1⁩ «⁨%2⁩»</translation>
     </message>
 </context>
 <context>
     <name>PrivateChat</name>
     <message>
         <source>« NIMB-Chat [today:%1 - now:%2] Ready »</source>
-        <translation>« برنامج NIMB-Chat [اليوم:%1 - الآن:%2] جاهز »</translation>
+        <translation>« برنامج NIMB-Chat [اليوم:⁨%1⁩ - الآن:⁨%2⁩] جاهز »</translation>
+    </message>
+    <message>
+        <source>%1 is offline: files can be sent when %1 is back.</source>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>
     <name>PrivateWindows</name>
     <message>
         <source>%1 - NIMB-Chat - Private Chat Window</source>
-        <translation>%1 - NIMB-Chat - نافذة محادثة خاصة</translation>
+        <translation>⁨%1⁩ - NIMB-Chat - نافذة محادثة خاصة</translation>
     </message>
 </context>
 <context>
@@ -1702,19 +1710,19 @@
 <context>
     <name>Program</name>
     <message>
-        <source>NIMBCHAT_ADDRESS is &quot;%1&quot;, which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
-        <translation>قيمة NIMBCHAT_ADDRESS هي «%1»، وهي ليست عنوان IPv4؛ لذلك يستمع NIMB-Chat إلى جميع الواجهات.</translation>
+        <source>NIMBCHAT_ADDRESS is "%1", which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
+        <translation>قيمة NIMBCHAT_ADDRESS هي «⁨%1⁩»، وهي ليست عنوان IPv4؛ لذلك يستمع NIMB-Chat إلى جميع الواجهات.</translation>
     </message>
     <message>
         <source>The system grants %1 KiB for waiting datagrams instead of %2 KiB: sudden bursts may be lost.</source>
-        <translation>يمنح النظام %1 كيبيبايت لحزم البيانات المنتظرة بدلًا من %2 كيبيبايت: قد تُفقد الدفعات المفاجئة.</translation>
+        <translation>يمنح النظام ⁨%1⁩ كيبيبايت لحزم البيانات المنتظرة بدلًا من ⁨%2⁩ كيبيبايت: قد تُفقد الدفعات المفاجئة.</translation>
     </message>
 </context>
 <context>
     <name>RTFSubClass</name>
     <message>
         <source>Nothing on this computer opens %1.</source>
-        <translation>لا يوجد على هذا الحاسوب برنامج يفتح %1.</translation>
+        <translation>لا يوجد على هذا الحاسوب برنامج يفتح ‎⁨%1⁩.</translation>
     </message>
 </context>
 <context>
@@ -1725,40 +1733,40 @@
     </message>
     <message>
         <source>--- NIMB-Chat could not save everything when it last ended: what had changed is taken over, but for %1 damaged values ---</source>
-        <translation>--- لم يتمكن NIMB-Chat من حفظ كل شيء عند إنهائه آخر مرة: استُعيد ما كان قد تغيّر، ما عدا القيم التالفة وعددها %1 ---</translation>
+        <translation>--- لم يتمكن NIMB-Chat من حفظ كل شيء عند إنهائه آخر مرة: استُعيد ما كان قد تغيّر، ما عدا القيم التالفة وعددها ⁨%1⁩ ---</translation>
     </message>
 </context>
 <context>
     <name>RemoteText</name>
     <message>
         <source>... (%1 more lines)</source>
-        <translation>... (أسطر أخرى: %1)</translation>
+        <translation>... (أسطر أخرى: ⁨%1⁩)</translation>
     </message>
     <message>
         <source>... (%1 more characters)</source>
-        <translation>... (أحرف أخرى: %1)</translation>
+        <translation>... (أحرف أخرى: ⁨%1⁩)</translation>
     </message>
 </context>
 <context>
     <name>SameMachine</name>
     <message>
         <source>%1 answers from %2 and from %3 and is shown once</source>
-        <translation>يجيب %1 من %2 ومن %3 ويُعرض مرة واحدة</translation>
+        <translation>يجيب ⁨%1⁩ من ⁨%2⁩ ومن ⁨%3⁩ ويُعرض مرة واحدة</translation>
     </message>
 </context>
 <context>
     <name>Search</name>
     <message>
         <source>No network of this computer leads to %1, so nobody was asked.</source>
-        <translation>لا توصل أي شبكة في هذا الحاسوب إلى %1، لذلك لم يُسأل أحد.</translation>
+        <translation>لا توصل أي شبكة في هذا الحاسوب إلى ⁨%1⁩، لذلك لم يُسأل أحد.</translation>
     </message>
     <message>
         <source>asking %1 who is there</source>
-        <translation>جارٍ السؤال عن الموجودين: %1</translation>
+        <translation>جارٍ السؤال عن الموجودين: ⁨%1⁩</translation>
     </message>
     <message>
         <source>stopped when %1 of %2 had been asked</source>
-        <translation>توقف البحث بعد سؤال %1 من %2</translation>
+        <translation>توقف البحث بعد سؤال ⁨%1⁩ من ⁨%2⁩</translation>
     </message>
     <message>
         <source>nobody was asked: you are invisible, and the question would show everybody that you are there</source>
@@ -1766,7 +1774,7 @@
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
+        <translation>⁨%1⁩ (⁨%2⁩)</translation>
     </message>
     <message>
         <source>nobody can be asked: no network is connected</source>
@@ -1774,7 +1782,7 @@
     </message>
     <message>
         <source>everybody on %1</source>
-        <translation>الجميع على %1</translation>
+        <translation>الجميع على ⁨%1⁩</translation>
     </message>
     <message>
         <source>this computer</source>
@@ -1786,7 +1794,7 @@
     </message>
     <message>
         <source>%1 is your own address: nobody else hears what is sent there</source>
-        <translation>العنوان %1 هو عنوانك أنت: لا أحد غيرك يتلقى ما يُرسل إليه</translation>
+        <translation>العنوان ⁨%1⁩ هو عنوانك أنت: لا أحد غيرك يتلقى ما يُرسل إليه</translation>
     </message>
     <message>
         <source>nobody answered: no network is connected, so only this computer was asked</source>
@@ -1794,7 +1802,7 @@
     </message>
     <message>
         <source>nobody answered: nobody may be there, a firewall may be in the way, or the network may keep its machines apart; %1 looks which</source>
-        <translation>لم يجب أحد: قد لا يكون هناك أحد، أو يعترض جدار حماية الطريق، أو تعزل الشبكة أجهزتها بعضها عن بعض؛ لمعرفة السبب: %1</translation>
+        <translation>لم يجب أحد: قد لا يكون هناك أحد، أو يعترض جدار حماية الطريق، أو تعزل الشبكة أجهزتها بعضها عن بعض؛ لمعرفة السبب: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Help, Network doctor...</source>
@@ -1802,14 +1810,14 @@
     </message>
     <message>
         <source>%1 answered: %2; %3 new</source>
-        <translation>عدد المجيبين %1: %2؛ الجدد: %3</translation>
+        <translation>عدد المجيبين ⁨%1⁩: ⁨%2⁩؛ الجدد: ⁨%3⁩</translation>
     </message>
 </context>
 <context>
     <name>Settings</name>
     <message>
-        <source>The stored setting %1 cannot be &quot;%2&quot;; %3 is used instead.</source>
-        <translation>لا يمكن أن يكون الإعداد المخزن %1 هو «%2»؛ يُستخدم %3 بدلًا منه.</translation>
+        <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
+        <translation>لا يمكن أن يكون الإعداد المخزن ⁨%1⁩ هو «⁨%2⁩»؛ يُستخدم ⁨%3⁩ بدلًا منه.</translation>
     </message>
 </context>
 <context>
@@ -1843,27 +1851,27 @@
     <name>SqliteSettingsStore</name>
     <message>
         <source>The settings were not saved in %1 (%2), so what was changed since the last save is not kept; what was stored before is unchanged.</source>
-        <translation>لم تُحفظ الإعدادات في %1 (%2)، لذلك لم يُحتفظ بما تغيّر منذ آخر حفظ؛ ما خُزّن من قبل لم يتغير.</translation>
+        <translation>لم تُحفظ الإعدادات في ‎⁨%1⁩ (⁨%2⁩)، لذلك لم يُحتفظ بما تغيّر منذ آخر حفظ؛ ما خُزّن من قبل لم يتغير.</translation>
     </message>
     <message>
         <source>What has changed cannot be kept in %1 now (%2), so it would be lost if NIMB-Chat ended before it can save.</source>
-        <translation>لا يمكن الاحتفاظ بما تغيّر في %1 الآن (%2)، لذلك سيُفقد إذا أُنهي NIMB-Chat قبل أن يتمكن من الحفظ.</translation>
+        <translation>لا يمكن الاحتفاظ بما تغيّر في ‎⁨%1⁩ الآن (⁨%2⁩)، لذلك سيُفقد إذا أُنهي NIMB-Chat قبل أن يتمكن من الحفظ.</translation>
     </message>
     <message>
         <source>The settings folder %1 cannot be made (%2), so the program starts with its defaults and keeps no settings.</source>
-        <translation>يتعذر إنشاء مجلد الإعدادات %1 (%2)، لذلك يبدأ البرنامج بقيمه الافتراضية ولا يحفظ أي إعدادات.</translation>
+        <translation>يتعذر إنشاء مجلد الإعدادات ‎⁨%1⁩ (⁨%2⁩)، لذلك يبدأ البرنامج بقيمه الافتراضية ولا يحفظ أي إعدادات.</translation>
     </message>
     <message>
         <source>The settings file %1 cannot be made (%2), so the program starts with its defaults and keeps no settings.</source>
-        <translation>يتعذر إنشاء ملف الإعدادات %1 (%2)، لذلك يبدأ البرنامج بقيمه الافتراضية ولا يحفظ أي إعدادات.</translation>
+        <translation>يتعذر إنشاء ملف الإعدادات ‎⁨%1⁩ (⁨%2⁩)، لذلك يبدأ البرنامج بقيمه الافتراضية ولا يحفظ أي إعدادات.</translation>
     </message>
     <message>
         <source>The settings in %1 cannot be read (%2), so the program starts with its defaults and leaves the file as it is.</source>
-        <translation>تتعذر قراءة الإعدادات في %1 (%2)، لذلك يبدأ البرنامج بقيمه الافتراضية ويترك الملف كما هو.</translation>
+        <translation>تتعذر قراءة الإعدادات في ‎⁨%1⁩ (⁨%2⁩)، لذلك يبدأ البرنامج بقيمه الافتراضية ويترك الملف كما هو.</translation>
     </message>
     <message>
         <source>The settings in %1 cannot be changed (%2), so what you change is forgotten when the program ends.</source>
-        <translation>يتعذر تغيير الإعدادات في %1 (%2)، لذلك سيُنسى ما تغيّره عند إنهاء البرنامج.</translation>
+        <translation>يتعذر تغيير الإعدادات في ‎⁨%1⁩ (⁨%2⁩)، لذلك سيُنسى ما تغيّره عند إنهاء البرنامج.</translation>
     </message>
     <message>
         <source>they could not be read when the program started and would be lost</source>
@@ -1875,22 +1883,22 @@
     </message>
     <message>
         <source>Some of the settings in %1 are damaged (%2), so they may differ from what was saved.</source>
-        <translation>بعض الإعدادات في %1 تالف (%2)، لذلك قد تختلف عما حُفظ.</translation>
+        <translation>بعض الإعدادات في ‎⁨%1⁩ تالف (⁨%2⁩)، لذلك قد تختلف عما حُفظ.</translation>
     </message>
     <message>
         <source>The copy %1 cannot take the place of the settings (%2), so the program goes on without them.</source>
-        <translation>لا يمكن أن تحل النسخة %1 محل الإعدادات (%2)، لذلك يتابع البرنامج من دونها.</translation>
+        <translation>لا يمكن أن تحل النسخة ‎⁨%1⁩ محل الإعدادات (⁨%2⁩)، لذلك يتابع البرنامج من دونها.</translation>
     </message>
     <message>
         <source>The settings were saved, but the copy of them in %1 could not be renewed (%2).</source>
-        <translation>حُفظت الإعدادات، لكن تعذر تجديد نسختها في %1 (%2).</translation>
+        <translation>حُفظت الإعدادات، لكن تعذر تجديد نسختها في ‎⁨%1⁩ (⁨%2⁩).</translation>
     </message>
 </context>
 <context>
     <name>TipOfTheDay</name>
     <message>
         <source>Tip of the Day - Tip #%1</source>
-        <translation>تلميح اليوم - التلميح رقم %1</translation>
+        <translation>تلميح اليوم - التلميح رقم ⁨%1⁩</translation>
     </message>
     <message>
         <source>There are no tips to show: the file TOTD.txt, which came with the program, is missing or cannot be read.</source>
@@ -1915,15 +1923,15 @@
 <context>
     <name>nimb::ClearedBand</name>
     <message>
-        <source> &lt;a href=&quot;undo&quot;&gt;Bring it back&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;undo&quot;&gt;استرجاع&lt;/a&gt;</translation>
+        <source>Bring it back</source>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>
     <name>nimb::ConsoleDoctor</name>
     <message>
         <source>The settings in %1 cannot be read, so those of a fresh copy are taken: %2</source>
-        <translation>تتعذر قراءة الإعدادات في %1، لذلك تُستخدم إعدادات نسخة جديدة: %2</translation>
+        <translation>تتعذر قراءة الإعدادات في ‎⁨%1⁩، لذلك تُستخدم إعدادات نسخة جديدة: ⁨%2⁩</translation>
     </message>
 </context>
 <context>
@@ -1961,16 +1969,16 @@
     </message>
     <message>
         <source>%1 to be sent</source>
-        <translation>بانتظار الإرسال: %1</translation>
+        <translation>بانتظار الإرسال: ⁨%1⁩</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <comment>two things said of a contact</comment>
-        <translation>%1، %2</translation>
+        <translation>⁨%1⁩، ⁨%2⁩</translation>
     </message>
     <message>
         <source>%1 unread</source>
-        <translation>غير مقروءة: %1</translation>
+        <translation>غير مقروءة: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Nickname</source>
@@ -2016,8 +2024,8 @@
         <translation>إظهار الجميع</translation>
     </message>
     <message>
-        <source>Nobody here is called &quot;%1&quot;</source>
-        <translation>لا أحد هنا باسم «%1»</translation>
+        <source>Nobody here is called "%1"</source>
+        <translation>لا أحد هنا باسم «⁨%1⁩»</translation>
     </message>
 </context>
 <context>
@@ -2088,7 +2096,7 @@
     </message>
     <message>
         <source>Picture %1.png</source>
-        <translation>صورة %1.png</translation>
+        <translation>صورة ⁨%1⁩.png</translation>
     </message>
     <message>
         <source>The picture cannot be sent, for there is no room for it.</source>
@@ -2096,28 +2104,20 @@
     </message>
     <message>
         <source>A picture was pasted (%1 × %2).</source>
-        <translation>أُلصقت صورة (%1 × %2).</translation>
-    </message>
-    <message>
-        <source> &lt;a href=&quot;close&quot;&gt;Close&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;close&quot;&gt;إغلاق&lt;/a&gt;</translation>
+        <translation>أُلصقت صورة (⁨%1⁩ × ⁨%2⁩).</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%1 من %2</translation>
+        <translation>⁨%1⁩ من ⁨%2⁩</translation>
     </message>
     <message>
         <source>A message holds %1 characters; the last %2 of what you pasted did not fit.</source>
-        <translation>تتسع الرسالة لعدد %1 من الأحرف؛ لم تتسع لآخر %2 مما ألصقته.</translation>
-    </message>
-    <message>
-        <source> &lt;a href=&quot;rest&quot;&gt;Copy the rest&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;rest&quot;&gt;نسخ الباقي&lt;/a&gt;</translation>
+        <translation>سعة الرسالة ⁨%1⁩ من الأحرف؛ وعدد ما لم تتسع له من آخر ما ألصقته: ⁨%2⁩.</translation>
     </message>
     <message>
         <source> Keep them: %1</source>
         <comment>answers that can be clicked</comment>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished" />
     </message>
     <message>
         <source>for a year</source>
@@ -2133,11 +2133,27 @@
     </message>
     <message>
         <source>Send it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished" />
     </message>
     <message>
         <source>leave it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Send files; the arrow, or the Down key, has folders too</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Earlier troubles with files: %1.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">إغلاق</translation>
+    </message>
+    <message>
+        <source>Copy the rest</source>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>
@@ -2163,7 +2179,7 @@
     </message>
     <message>
         <source>(%1 more)</source>
-        <translation>(و%1 غيرها)</translation>
+        <translation>(و⁨%1⁩ غيرها)</translation>
     </message>
 </context>
 <context>
@@ -2207,11 +2223,11 @@
     </message>
     <message>
         <source>At most %1 files are sent at once: put more of them into a folder and send that.</source>
-        <translation>عدد الملفات التي تُرسل معًا لا يزيد على %1: ضع ما زاد منها في مجلد وأرسله.</translation>
+        <translation>عدد الملفات التي تُرسل معًا لا يزيد على ⁨%1⁩: ضع ما زاد منها في مجلد وأرسله.</translation>
     </message>
     <message>
         <source>At most %1 files can be offered at a time: stop some under Tools &gt; Transfers...</source>
-        <translation>عدد الملفات التي تُعرض في الوقت نفسه لا يزيد على %1: أوقف بعضها من أدوات &gt; عمليات النقل...</translation>
+        <translation>عدد الملفات التي تُعرض في الوقت نفسه لا يزيد على ⁨%1⁩: أوقف بعضها من أدوات &gt; عمليات النقل...</translation>
     </message>
     <message>
         <source>There is nobody here to whom a file could be sent.</source>
@@ -2251,7 +2267,7 @@
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
+        <translation>⁨%1⁩ (⁨%2⁩)</translation>
     </message>
     <message>
         <source>being prepared</source>
@@ -2259,11 +2275,11 @@
     </message>
     <message>
         <source>%1 % to %2</source>
-        <translation>%1% إلى %2</translation>
+        <translation>⁨%1⁩% إلى ⁨%2⁩</translation>
     </message>
     <message>
         <source>fetched: %1</source>
-        <translation>مرات التنزيل: %1</translation>
+        <translation>مرات التنزيل: ⁨%1⁩</translation>
     </message>
     <message>
         <source>not fetched yet</source>
@@ -2275,11 +2291,11 @@
     </message>
     <message>
         <source>over: %1</source>
-        <translation>انتهى: %1</translation>
+        <translation>انتهى: ⁨%1⁩</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation>%1 %2</translation>
+        <translation>⁨%1⁩ ⁨%2⁩</translation>
     </message>
     <message>
         <source>it has been fetched</source>
@@ -2289,16 +2305,20 @@
         <source>it is stopped</source>
         <translation>إيقافه</translation>
     </message>
+    <message>
+        <source>Files are offered at %1, which this computer no longer has: nobody can fetch them, until it has it again or you send them once more.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>offered at %1, which this computer no longer has</source>
+        <translation type="unfinished" />
+    </message>
 </context>
 <context>
     <name>nimb::FilePanel</name>
     <message>
         <source>Further files: %1.</source>
-        <translation>ملفات أخرى: %1.</translation>
-    </message>
-    <message>
-        <source> &lt;a href=&quot;all&quot;&gt;Show all&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;all&quot;&gt;إظهار الكل&lt;/a&gt;</translation>
+        <translation>ملفات أخرى: ⁨%1⁩.</translation>
     </message>
     <message>
         <source>Save all...</source>
@@ -2307,6 +2327,14 @@
     <message>
         <source>Saves all that is offered here, in one folder</source>
         <translation>حفظ كل ما هو معروض هنا في مجلد واحد</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation type="unfinished">إخفاء</translation>
     </message>
 </context>
 <context>
@@ -2349,19 +2377,19 @@
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
+        <translation>⁨%1⁩ (⁨%2⁩)</translation>
     </message>
     <message>
         <source>%1 from %2</source>
-        <translation>%1 من %2</translation>
+        <translation>⁨%1⁩ من ⁨%2⁩</translation>
     </message>
     <message>
         <source>Save %1</source>
-        <translation>حفظ %1</translation>
+        <translation>حفظ ⁨%1⁩</translation>
     </message>
     <message>
         <source>Nothing on this computer opens %1.</source>
-        <translation>لا يوجد على هذا الحاسوب برنامج يفتح %1.</translation>
+        <translation>لا يوجد على هذا الحاسوب برنامج يفتح ‎⁨%1⁩.</translation>
     </message>
     <message>
         <source>This is no picture that NIMB-Chat can read.</source>
@@ -2369,7 +2397,7 @@
     </message>
     <message>
         <source>Picture %1</source>
-        <translation>الصورة %1</translation>
+        <translation>الصورة ⁨%1⁩</translation>
     </message>
 </context>
 <context>
@@ -2407,12 +2435,12 @@
         <translation>البحث في كل ما حُفظ</translation>
     </message>
     <message>
-        <source>Opens the history&apos;s window</source>
+        <source>Opens the history's window</source>
         <translation>فتح نافذة المحفوظات</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%1 من %2</translation>
+        <translation>⁨%1⁩ من ⁨%2⁩</translation>
     </message>
     <message>
         <source>Searching...</source>
@@ -2426,19 +2454,19 @@
 <context>
     <name>nimb::HistoryModel</name>
     <message>
-        <source>%1, %2, in &quot;%3&quot;</source>
-        <translation>%1، %2، في «%3»</translation>
+        <source>%1, %2, in "%3"</source>
+        <translation>⁨%1⁩، ⁨%2⁩، في «⁨%3⁩»</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation>%1، %2</translation>
+        <translation>⁨%1⁩، ⁨%2⁩</translation>
     </message>
 </context>
 <context>
     <name>nimb::InvitationList</name>
     <message>
         <source>%1 minute(s)</source>
-        <translation>%1 دقيقة</translation>
+        <translation>⁨%1⁩ دقيقة</translation>
     </message>
     <message>
         <source>Refused</source>
@@ -2462,7 +2490,7 @@
     </message>
     <message>
         <source>Age</source>
-        <translation>العمر</translation>
+        <translation>المدة</translation>
     </message>
     <message>
         <source>Number</source>
@@ -2513,14 +2541,14 @@
     </message>
     <message>
         <source>%1 (not installed)</source>
-        <translation>%1 (غير مثبت)</translation>
+        <translation>⁨%1⁩ (غير مثبت)</translation>
     </message>
 </context>
 <context>
     <name>nimb::ManualOpener</name>
     <message>
         <source>Nothing on this computer opens %1.</source>
-        <translation>لا يوجد على هذا الحاسوب برنامج يفتح %1.</translation>
+        <translation>لا يوجد على هذا الحاسوب برنامج يفتح ‎⁨%1⁩.</translation>
     </message>
 </context>
 <context>
@@ -2549,31 +2577,31 @@
     </message>
     <message>
         <source>%1 messages wait to be sent already, and no more can.</source>
-        <translation>عدد الرسائل التي تنتظر الإرسال بلغ %1، ولا يمكن أن ينتظر المزيد.</translation>
+        <translation>بلغ عدد الرسائل التي تنتظر الإرسال ⁨%1⁩، ولا مكان للمزيد.</translation>
     </message>
     <message>
         <source>--- a message that waited for %1, who is no contact any more, is not sent ---</source>
-        <translation>--- لن تُرسل رسالة كانت تنتظر %1، إذ لم يعد من جهات الاتصال ---</translation>
+        <translation>--- لن تُرسل رسالة كانت تنتظر ⁨%1⁩، إذ لم يعد من جهات الاتصال ---</translation>
     </message>
     <message>
         <source>--- the message that waited for %1 was sent ---</source>
-        <translation>--- أُرسلت الرسالة التي كانت تنتظر %1 ---</translation>
+        <translation>--- أُرسلت الرسالة التي كانت تنتظر ⁨%1⁩ ---</translation>
     </message>
     <message>
         <source>--- the %1 messages that waited for %2 were sent ---</source>
-        <translation>--- أُرسلت الرسائل التي كانت تنتظر %2 وعددها %1 ---</translation>
+        <translation>--- أُرسلت الرسائل التي كانت تنتظر ⁨%2⁩ وعددها ⁨%1⁩ ---</translation>
     </message>
     <message>
         <source>What you wrote to %1 (%2) waits to be sent to %3. There is %4 (%5) now.
 
 Send it to %4?</source>
-        <translation>ما كتبته إلى %1 (%2) ينتظر الإرسال إلى %3. ويوجد هناك الآن %4 (%5).
+        <translation>ما كتبته إلى ⁨%1⁩ (⁨%2⁩) ينتظر الإرسال إلى ⁨%3⁩. ويوجد هناك الآن ⁨%4⁩ (⁨%5⁩).
 
-هل تريد إرساله إلى %4؟</translation>
+هل تريد إرساله إلى ⁨%4⁩؟</translation>
     </message>
     <message>
         <source>--- what you wrote to %1 on %2 was not sent within seven days ---</source>
-        <translation>--- ما كتبته إلى %1 في %2 لم يُرسل خلال سبعة أيام ---</translation>
+        <translation>--- ما كتبته إلى ⁨%1⁩ في ⁨%2⁩ لم يُرسل خلال سبعة أيام ---</translation>
     </message>
 </context>
 <context>
@@ -2611,44 +2639,44 @@ Send it to %4?</source>
     </message>
     <message>
         <source>waiting: %1</source>
-        <translation>في الانتظار: %1</translation>
+        <translation>في الانتظار: ⁨%1⁩</translation>
     </message>
     <message>
         <source>waiting to be sent: %1</source>
-        <translation>بانتظار الإرسال: %1</translation>
+        <translation>بانتظار الإرسال: ⁨%1⁩</translation>
     </message>
     <message>
         <source>%1; %2</source>
         <comment>two parts of a sentence</comment>
-        <translation>%1؛ %2</translation>
+        <translation>⁨%1⁩؛ ⁨%2⁩</translation>
     </message>
     <message>
         <source>%1 is not known to be there: what you write is sent when %1 is back</source>
-        <translation>وجود %1 غير مؤكد: ما تكتبه يُرسل عند عودة %1</translation>
+        <translation>وجود ⁨%1⁩ غير مؤكد: ما تكتبه يُرسل عند عودة ⁨%1⁩</translation>
     </message>
     <message>
         <source>%1 is not known to be there</source>
-        <translation>وجود %1 غير مؤكد</translation>
+        <translation>وجود ⁨%1⁩ غير مؤكد</translation>
     </message>
     <message>
         <source>%1 is not known to be there: what you write may not arrive</source>
-        <translation>وجود %1 غير مؤكد: ما تكتبه قد لا يصل</translation>
+        <translation>وجود ⁨%1⁩ غير مؤكد: ما تكتبه قد لا يصل</translation>
     </message>
     <message>
         <source>%1 is offline: what you write is sent when %1 is back</source>
-        <translation>المستخدم %1 غير متصل: ما تكتبه يُرسل عند عودة %1</translation>
+        <translation>المستخدم ⁨%1⁩ غير متصل: ما تكتبه يُرسل عند عودة ⁨%1⁩</translation>
     </message>
     <message>
         <source>%1 is offline</source>
-        <translation>المستخدم %1 غير متصل</translation>
+        <translation>المستخدم ⁨%1⁩ غير متصل</translation>
     </message>
     <message>
         <source>%1 is offline: what you write does not arrive</source>
-        <translation>المستخدم %1 غير متصل: ما تكتبه لا يصل</translation>
+        <translation>المستخدم ⁨%1⁩ غير متصل: ما تكتبه لا يصل</translation>
     </message>
     <message>
         <source>%1 is no contact any more: what comes from there is not shown</source>
-        <translation>لم يعد %1 من جهات الاتصال: ما يرد من هناك لا يُعرض</translation>
+        <translation>لم يعد ⁨%1⁩ من جهات الاتصال: ما يرد من هناك لا يُعرض</translation>
     </message>
     <message>
         <source>Do not send later</source>
@@ -2656,7 +2684,7 @@ Send it to %4?</source>
     </message>
     <message>
         <source>Send when %1 is back</source>
-        <translation>الإرسال عند عودة %1</translation>
+        <translation>الإرسال عند عودة ⁨%1⁩</translation>
     </message>
     <message>
         <source>What waits in this conversation is not sent, and what you write now does not wait</source>
@@ -2702,15 +2730,15 @@ Send it to %4?</source>
     </message>
     <message>
         <source>%1 % of %2, %3 a second</source>
-        <translation>%1% من %2، %3 في الثانية</translation>
+        <translation>⁨%1⁩% من ⁨%2⁩، ⁨%3⁩ في الثانية</translation>
     </message>
     <message>
         <source>%1 % of %2</source>
-        <translation>%1% من %2</translation>
+        <translation>⁨%1⁩% من ⁨%2⁩</translation>
     </message>
     <message>
         <source>paused at %1 %</source>
-        <translation>متوقف مؤقتًا عند %1%</translation>
+        <translation>متوقف مؤقتًا عند ⁨%1⁩%</translation>
     </message>
     <message>
         <source>is being checked</source>
@@ -2722,7 +2750,7 @@ Send it to %4?</source>
     </message>
     <message>
         <source>saved; the sender gave nothing to check it by</source>
-        <translation>حُفظ؛ لم يقدم المرسل ما يُتحقق به منه</translation>
+        <translation>حُفظ؛ لم يرسل المرسل ما يتيح التحقق منه</translation>
     </message>
     <message>
         <source>File</source>
@@ -2742,7 +2770,15 @@ Send it to %4?</source>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
+        <translation>⁨%1⁩ (⁨%2⁩)</translation>
+    </message>
+    <message>
+        <source>%1 no longer offers this file.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>checks what is there: %1 %</source>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>
@@ -2757,7 +2793,7 @@ Send it to %4?</source>
     </message>
     <message>
         <source>%1 cannot be written: %2.</source>
-        <translation>تتعذر الكتابة إلى %1: %2.</translation>
+        <translation>تتعذر الكتابة إلى ‎⁨%1⁩: ⁨%2⁩.</translation>
     </message>
     <message>
         <source>&amp;Copy	Ctrl+C</source>
@@ -2831,13 +2867,24 @@ Send it to %4?</source>
     </message>
 </context>
 <context>
+    <name>nimb::UnfinishedFiles</name>
+    <message>
+        <source>files that had not all come when NIMB-Chat ended: %2; %1 goes on with them</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Tools, Transfers...</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
     <name>nimb::frmAbout</name>
     <message>
         <source>About NIMB-Chat</source>
         <translation>حول NIMB-Chat</translation>
     </message>
     <message>
-        <source>NIMB-Chat&apos;s picture</source>
+        <source>NIMB-Chat's picture</source>
         <translation>صورة NIMB-Chat</translation>
     </message>
     <message>
@@ -2846,10 +2893,10 @@ Send it to %4?</source>
     </message>
     <message>
         <source>Version %1</source>
-        <translation>الإصدار %1</translation>
+        <translation>الإصدار ⁨%1⁩</translation>
     </message>
     <message>
-        <source>A simple messenger that works with UDP/IP and it&apos;s been intended for use on a small LAN</source>
+        <source>A simple messenger that works with UDP/IP and it's been intended for use on a small LAN</source>
         <translation>برنامج مراسلة بسيط يعمل عبر UDP/IP ومخصص للشبكات المحلية الصغيرة</translation>
     </message>
     <message>
@@ -2979,7 +3026,7 @@ Send it to %4?</source>
     </message>
     <message>
         <source>Invite somebody...</source>
-        <translation>دعوة أحدهم...</translation>
+        <translation>دعوة شخص...</translation>
     </message>
     <message>
         <source>Invite somebody else...</source>
@@ -3046,7 +3093,7 @@ Send it to %4?</source>
     </message>
     <message>
         <source>As&amp;k</source>
-        <translation>&amp;سؤال</translation>
+        <translation>&amp;سؤالها</translation>
     </message>
     <message>
         <source>The latest datagrams</source>
@@ -3165,15 +3212,15 @@ Send it to %4?</source>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation>%1، %2</translation>
+        <translation>⁨%1⁩، ⁨%2⁩</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
+        <translation>⁨%1⁩ (⁨%2⁩)</translation>
     </message>
     <message>
         <source>To be sent (%1)</source>
-        <translation>بانتظار الإرسال (%1)</translation>
+        <translation>بانتظار الإرسال (⁨%1⁩)</translation>
     </message>
     <message>
         <source>What you have written to contacts who were away</source>
@@ -3181,15 +3228,15 @@ Send it to %4?</source>
     </message>
     <message>
         <source>Not sent to %1</source>
-        <translation>لم تُرسل إلى %1</translation>
+        <translation>لم تُرسل إلى ⁨%1⁩</translation>
     </message>
     <message>
         <source>To be sent to %1</source>
-        <translation>بانتظار الإرسال إلى %1</translation>
+        <translation>بانتظار الإرسال إلى ⁨%1⁩</translation>
     </message>
     <message>
         <source>Nothing is kept yet. In the options you choose whether conversations are.</source>
-        <translation>لا شيء محفوظ بعد. من الخيارات تحدد هل تُحفظ المحادثات.</translation>
+        <translation>لا شيء محفوظ بعد. اختر من الخيارات هل تُحفظ المحادثات.</translation>
     </message>
     <message>
         <source>Nothing fits what you look for.</source>
@@ -3209,7 +3256,7 @@ Send it to %4?</source>
     </message>
     <message>
         <source>%1 cannot be written: %2.</source>
-        <translation>تتعذر الكتابة إلى %1: %2.</translation>
+        <translation>تتعذر الكتابة إلى ‎⁨%1⁩: ⁨%2⁩.</translation>
     </message>
     <message>
         <source>NIMB-Chat history</source>
@@ -3217,11 +3264,11 @@ Send it to %4?</source>
     </message>
     <message>
         <source>Messages written: %1.</source>
-        <translation>الرسائل المكتوبة: %1.</translation>
+        <translation>الرسائل المصدَّرة: ⁨%1⁩.</translation>
     </message>
     <message>
         <source>Messages written so far: %1</source>
-        <translation>الرسائل المكتوبة حتى الآن: %1</translation>
+        <translation>الرسائل المصدَّرة حتى الآن: ⁨%1⁩</translation>
     </message>
     <message>
         <source>The chosen &amp;message</source>
@@ -3236,12 +3283,12 @@ Send it to %4?</source>
         <translation>المحا&amp;دثة المحددة</translation>
     </message>
     <message>
-        <source>Erase all that is kept of &quot;%1&quot; for good?</source>
-        <translation>هل تريد محو كل ما هو محفوظ من «%1» نهائيًا؟</translation>
+        <source>Erase all that is kept of "%1" for good?</source>
+        <translation>هل تريد محو كل ما هو محفوظ من «⁨%1⁩» نهائيًا؟</translation>
     </message>
     <message>
         <source>The chosen &amp;days</source>
-        <translation>ال&amp;أيام المحددة</translation>
+        <translation>الأيام الم&amp;حددة</translation>
     </message>
     <message>
         <source>Erase all that is kept of the chosen days for good?</source>
@@ -3300,7 +3347,7 @@ Send it to %4?</source>
     </message>
     <message>
         <source>Send to the computer %2, for %1</source>
-        <translation>إرسال إلى الحاسوب %2، من أجل %1</translation>
+        <translation>إرسال إلى الحاسوب ⁨%2⁩ للمستخدم ⁨%1⁩</translation>
     </message>
 </context>
 <context>
@@ -3386,11 +3433,11 @@ Send it to %4?</source>
     </message>
     <message>
         <source>Status: %1</source>
-        <translation>الحالة: %1</translation>
+        <translation>الحالة: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Addresses asked</source>
-        <translation>العناوين المسؤولة</translation>
+        <translation>العناوين التي سُئلت</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -3398,7 +3445,7 @@ Send it to %4?</source>
     </message>
     <message>
         <source>Asks nobody else</source>
-        <translation>التوقف عن سؤال غيرهم</translation>
+        <translation>عدم سؤال أحد آخر</translation>
     </message>
     <message>
         <source>All Files (*.*)</source>
@@ -3428,7 +3475,7 @@ Send it to %4?</source>
         <translation>الجميع على...</translation>
     </message>
     <message>
-        <source>Note: you can use broadcast IP to scan a whole network (e.g. let&apos;s say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
+        <source>Note: you can use broadcast IP to scan a whole network (e.g. let's say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
         <translation>ملاحظة: يمكنك استخدام عنوان IP للبث لفحص شبكة كاملة (مثلًا إذا كان عنوان IP لديك 192.168.1.1 وقناع الشبكة الفرعية 255.255.255.0 فإن عنوان IP للبث هو 192.168.1.255)</translation>
     </message>
     <message>
@@ -3449,7 +3496,7 @@ Send it to %4?</source>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
+        <translation>⁨%1⁩ (⁨%2⁩)</translation>
     </message>
 </context>
 <context>
@@ -3499,7 +3546,7 @@ Send it to %4?</source>
     </message>
     <message>
         <source>Ticked: nothing slides in, neither who comes and goes nor what arrives</source>
-        <translation>عند التحديد: لا تنزلق أي نافذة، لا عند دخول أحد أو خروجه ولا عند وصول شيء</translation>
+        <translation>عند التحديد: لا تنزلق نافذة تخبر بمن يدخل ويخرج ولا بما يصل</translation>
     </message>
     <message>
         <source>LiveType &amp;disabled by default</source>
@@ -3622,7 +3669,7 @@ Send it to %4?</source>
         <translation>اللغة</translation>
     </message>
     <message>
-        <source>the desktop&apos;s</source>
+        <source>the desktop's</source>
         <translation>لغة سطح المكتب</translation>
     </message>
     <message>
@@ -3691,7 +3738,7 @@ Send it to %4?</source>
     </message>
     <message>
         <source>ask me</source>
-        <translation>السؤال عند الحاجة</translation>
+        <translation>اسألني</translation>
     </message>
     <message>
         <source>The environment variable NIMBCHAT_ADDRESS says it</source>
@@ -3703,11 +3750,11 @@ Send it to %4?</source>
     </message>
     <message>
         <source>%1, %2 points</source>
-        <translation>%1، %2 نقطة</translation>
+        <translation>⁨%1⁩، ⁨%2⁩ نقطة</translation>
     </message>
     <message>
-        <source>the desktop&apos;s font: %1, %2 points</source>
-        <translation>خط سطح المكتب: %1، %2 نقطة</translation>
+        <source>the desktop's font: %1, %2 points</source>
+        <translation>خط سطح المكتب: ⁨%1⁩، ⁨%2⁩ نقطة</translation>
     </message>
     <message>
         <source>Images (*.jpg,*.gif,*.bmp)</source>
@@ -3774,18 +3821,18 @@ Send it to %4?</source>
     </message>
     <message>
         <source>Your mood (%1)</source>
-        <translation>مزاجك (%1)</translation>
+        <translation>مزاجك (⁨%1⁩)</translation>
     </message>
     <message>
         <source>His/her mood (%1)</source>
-        <translation>مزاج الطرف الآخر (%1)</translation>
+        <translation>مزاج الطرف الآخر (⁨%1⁩)</translation>
     </message>
 </context>
 <context>
     <name>nimb::frmSendContact</name>
     <message>
-        <source>NIMB-Chat - Send Contacts to &apos;%1&apos;</source>
-        <translation>NIMB-Chat - إرسال جهات اتصال إلى «%1»</translation>
+        <source>NIMB-Chat - Send Contacts to '%1'</source>
+        <translation>NIMB-Chat - إرسال جهات اتصال إلى «⁨%1⁩»</translation>
     </message>
     <message>
         <source>Choose the selected contacts</source>
@@ -3947,7 +3994,7 @@ Send it to %4?</source>
     </message>
     <message>
         <source>NIMB-Chat is free software under the MIT licence. You are welcome to pass it on to everybody in your network.</source>
-        <translation>إن NIMB-Chat برنامج حر بموجب ترخيص MIT. يسرّنا أن تعطيه لكل من على شبكتك.</translation>
+        <translation>إن NIMB-Chat برنامج حر بموجب ترخيص MIT. يسرّنا أن تشاركه مع كل من على شبكتك.</translation>
     </message>
     <message>
         <source>&amp;Show tips at start</source>
@@ -4030,7 +4077,19 @@ Send it to %4?</source>
     </message>
     <message>
         <source>Nothing on this computer opens %1.</source>
-        <translation>لا يوجد على هذا الحاسوب برنامج يفتح %1.</translation>
+        <translation>لا يوجد على هذا الحاسوب برنامج يفتح ‎⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>Save A&amp;ll...</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Saves all that is offered and has not been fetched, in one folder</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Save A&amp;ll (%1)...</source>
+        <translation type="unfinished" />
     </message>
 </context>
 </TS>

@@ -998,24 +998,28 @@
         <translation>Das Bild ist zu groß, um angezeigt zu werden.</translation>
     </message>
     <message>
-        <source>There is too little room in %1. What has come is kept.</source>
-        <translation>In %1 ist zu wenig Platz. Was angekommen ist, bleibt erhalten.</translation>
-    </message>
-    <message>
-        <source>There is no room any more in %1. What has come is kept.</source>
-        <translation>In %1 ist kein Platz mehr. Was angekommen ist, bleibt erhalten.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written on: %2. What has come is kept.</source>
-        <translation>%1 kann nicht weitergeschrieben werden: %2. Was angekommen ist, bleibt erhalten.</translation>
-    </message>
-    <message>
         <source>What has come is not what was sent. It has been removed.</source>
         <translation>Was angekommen ist, entspricht nicht dem Gesendeten. Es wurde entfernt.</translation>
     </message>
     <message>
         <source>%1 cannot be renamed: %2.</source>
         <translation>%1 kann nicht umbenannt werden: %2.</translation>
+    </message>
+    <message>
+        <source>There is too little room in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no room any more in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be written on: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 What has come is kept.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1676,6 +1680,10 @@
         <source>« NIMB-Chat [today:%1 - now:%2] Ready »</source>
         <translation>« NIMB-Chat [heute: %1 – jetzt: %2] bereit »</translation>
     </message>
+    <message>
+        <source>%1 is offline: files can be sent when %1 is back.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PrivateWindows</name>
@@ -1907,8 +1915,8 @@
 <context>
     <name>nimb::ClearedBand</name>
     <message>
-        <source> &lt;a href=&quot;undo&quot;&gt;Bring it back&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;undo&quot;&gt;Wiederherstellen&lt;/a&gt;</translation>
+        <source>Bring it back</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2091,20 +2099,12 @@
         <translation>Ein Bild wurde eingefügt (%1 × %2).</translation>
     </message>
     <message>
-        <source> &lt;a href=&quot;close&quot;&gt;Close&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;close&quot;&gt;Schließen&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>%1 of %2</source>
         <translation>%1 von %2</translation>
     </message>
     <message>
         <source>A message holds %1 characters; the last %2 of what you pasted did not fit.</source>
         <translation>Eine Nachricht fasst %1 Zeichen; die letzten %2 des Eingefügten hatten keinen Platz.</translation>
-    </message>
-    <message>
-        <source> &lt;a href=&quot;rest&quot;&gt;Copy the rest&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;rest&quot;&gt;Rest kopieren&lt;/a&gt;</translation>
     </message>
     <message>
         <source> Keep them: %1</source>
@@ -2129,6 +2129,22 @@
     </message>
     <message>
         <source>leave it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Send files; the arrow, or the Down key, has folders too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Earlier troubles with files: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Schließen</translation>
+    </message>
+    <message>
+        <source>Copy the rest</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2281,6 +2297,14 @@
         <source>it is stopped</source>
         <translation>zum Stoppen</translation>
     </message>
+    <message>
+        <source>Files are offered at %1, which this computer no longer has: nobody can fetch them, until it has it again or you send them once more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>offered at %1, which this computer no longer has</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>nimb::FilePanel</name>
@@ -2289,16 +2313,20 @@
         <translation>Weitere Dateien: %1.</translation>
     </message>
     <message>
-        <source> &lt;a href=&quot;all&quot;&gt;Show all&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;all&quot;&gt;Alle anzeigen&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Save all...</source>
         <translation>Alle speichern...</translation>
     </message>
     <message>
         <source>Saves all that is offered here, in one folder</source>
         <translation>Speichert alles hier Angebotene in einem Ordner</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation type="unfinished">Ausblenden</translation>
     </message>
 </context>
 <context>
@@ -2732,6 +2760,14 @@ An %4 senden?</translation>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
+    <message>
+        <source>%1 no longer offers this file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>checks what is there: %1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>nimb::RichTextLogEdit</name>
@@ -2816,6 +2852,17 @@ An %4 senden?</translation>
     <message>
         <source>Nickname</source>
         <translation>Spitzname</translation>
+    </message>
+</context>
+<context>
+    <name>nimb::UnfinishedFiles</name>
+    <message>
+        <source>files that had not all come when NIMB-Chat ended: %2; %1 goes on with them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools, Transfers...</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4019,6 +4066,18 @@ An %4 senden?</translation>
     <message>
         <source>Nothing on this computer opens %1.</source>
         <translation>Auf diesem Computer gibt es kein Programm, das %1 öffnet.</translation>
+    </message>
+    <message>
+        <source>Save A&amp;ll...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves all that is offered and has not been fetched, in one folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save A&amp;ll (%1)...</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

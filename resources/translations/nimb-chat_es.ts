@@ -998,24 +998,28 @@
         <translation>Es demasiado grande para mostrarse.</translation>
     </message>
     <message>
-        <source>There is too little room in %1. What has come is kept.</source>
-        <translation>No hay espacio suficiente en %1. Se conserva lo ya recibido.</translation>
-    </message>
-    <message>
-        <source>There is no room any more in %1. What has come is kept.</source>
-        <translation>Ya no queda espacio en %1. Se conserva lo ya recibido.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written on: %2. What has come is kept.</source>
-        <translation>No se puede seguir escribiendo %1: %2. Se conserva lo ya recibido.</translation>
-    </message>
-    <message>
         <source>What has come is not what was sent. It has been removed.</source>
         <translation>Lo recibido no coincide con lo enviado. Se ha eliminado.</translation>
     </message>
     <message>
         <source>%1 cannot be renamed: %2.</source>
         <translation>No se puede cambiar el nombre de %1: %2.</translation>
+    </message>
+    <message>
+        <source>There is too little room in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no room any more in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be written on: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 What has come is kept.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1676,6 +1680,10 @@
         <source>« NIMB-Chat [today:%1 - now:%2] Ready »</source>
         <translation>« NIMB-Chat [fecha: %1 - hora: %2] listo »</translation>
     </message>
+    <message>
+        <source>%1 is offline: files can be sent when %1 is back.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PrivateWindows</name>
@@ -1907,8 +1915,8 @@
 <context>
     <name>nimb::ClearedBand</name>
     <message>
-        <source> &lt;a href=&quot;undo&quot;&gt;Bring it back&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;undo&quot;&gt;Recuperar&lt;/a&gt;</translation>
+        <source>Bring it back</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2091,20 +2099,12 @@
         <translation>Se ha pegado una imagen (%1 × %2).</translation>
     </message>
     <message>
-        <source> &lt;a href=&quot;close&quot;&gt;Close&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;close&quot;&gt;Cerrar&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>%1 of %2</source>
         <translation>%1 de %2</translation>
     </message>
     <message>
         <source>A message holds %1 characters; the last %2 of what you pasted did not fit.</source>
         <translation>Un mensaje admite %1 caracteres; los últimos %2 de lo que ha pegado no han cabido.</translation>
-    </message>
-    <message>
-        <source> &lt;a href=&quot;rest&quot;&gt;Copy the rest&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;rest&quot;&gt;Copiar el resto&lt;/a&gt;</translation>
     </message>
     <message>
         <source> Keep them: %1</source>
@@ -2129,6 +2129,22 @@
     </message>
     <message>
         <source>leave it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Send files; the arrow, or the Down key, has folders too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Earlier troubles with files: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Cerrar</translation>
+    </message>
+    <message>
+        <source>Copy the rest</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2281,6 +2297,14 @@
         <source>it is stopped</source>
         <translation>que se detenga</translation>
     </message>
+    <message>
+        <source>Files are offered at %1, which this computer no longer has: nobody can fetch them, until it has it again or you send them once more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>offered at %1, which this computer no longer has</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>nimb::FilePanel</name>
@@ -2289,16 +2313,20 @@
         <translation>Otros archivos: %1.</translation>
     </message>
     <message>
-        <source> &lt;a href=&quot;all&quot;&gt;Show all&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;all&quot;&gt;Mostrar todos&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Save all...</source>
         <translation>Guardar todo...</translation>
     </message>
     <message>
         <source>Saves all that is offered here, in one folder</source>
         <translation>Guarda todo lo que se ofrece aquí en una sola carpeta</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation type="unfinished">Ocultar</translation>
     </message>
 </context>
 <context>
@@ -2732,6 +2760,14 @@ Send it to %4?</source>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
+    <message>
+        <source>%1 no longer offers this file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>checks what is there: %1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>nimb::RichTextLogEdit</name>
@@ -2816,6 +2852,17 @@ Send it to %4?</source>
     <message>
         <source>Nickname</source>
         <translation>Apodo</translation>
+    </message>
+</context>
+<context>
+    <name>nimb::UnfinishedFiles</name>
+    <message>
+        <source>files that had not all come when NIMB-Chat ended: %2; %1 goes on with them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools, Transfers...</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4019,6 +4066,18 @@ Send it to %4?</source>
     <message>
         <source>Nothing on this computer opens %1.</source>
         <translation>Ningún programa de este equipo puede abrir %1.</translation>
+    </message>
+    <message>
+        <source>Save A&amp;ll...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves all that is offered and has not been fetched, in one folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save A&amp;ll (%1)...</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -998,24 +998,28 @@
         <translation>Trop volumineux pour être affiché.</translation>
     </message>
     <message>
-        <source>There is too little room in %1. What has come is kept.</source>
-        <translation>Il n’y a pas assez de place dans %1. Ce qui est arrivé est conservé.</translation>
-    </message>
-    <message>
-        <source>There is no room any more in %1. What has come is kept.</source>
-        <translation>Il n’y a plus de place dans %1. Ce qui est arrivé est conservé.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written on: %2. What has come is kept.</source>
-        <translation>Impossible de continuer l’écriture de %1&#xa0;: %2. Ce qui est arrivé est conservé.</translation>
-    </message>
-    <message>
         <source>What has come is not what was sent. It has been removed.</source>
         <translation>Ce qui est arrivé n’est pas ce qui a été envoyé. Le fichier a été supprimé.</translation>
     </message>
     <message>
         <source>%1 cannot be renamed: %2.</source>
         <translation>Impossible de renommer %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>There is too little room in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no room any more in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be written on: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 What has come is kept.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1676,6 +1680,10 @@
         <source>« NIMB-Chat [today:%1 - now:%2] Ready »</source>
         <translation>« NIMB-Chat [date&#xa0;: %1 - heure&#xa0;: %2] Prêt »</translation>
     </message>
+    <message>
+        <source>%1 is offline: files can be sent when %1 is back.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PrivateWindows</name>
@@ -1907,8 +1915,8 @@
 <context>
     <name>nimb::ClearedBand</name>
     <message>
-        <source> &lt;a href=&quot;undo&quot;&gt;Bring it back&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;undo&quot;&gt;Rétablir&lt;/a&gt;</translation>
+        <source>Bring it back</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2091,20 +2099,12 @@
         <translation>Une image a été collée (%1 × %2).</translation>
     </message>
     <message>
-        <source> &lt;a href=&quot;close&quot;&gt;Close&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;close&quot;&gt;Fermer&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>%1 of %2</source>
         <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>A message holds %1 characters; the last %2 of what you pasted did not fit.</source>
         <translation>Un message contient au plus %1 caractères&#xa0;; les %2 derniers du texte collé n’ont pas pu être insérés.</translation>
-    </message>
-    <message>
-        <source> &lt;a href=&quot;rest&quot;&gt;Copy the rest&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;rest&quot;&gt;Copier le reste&lt;/a&gt;</translation>
     </message>
     <message>
         <source> Keep them: %1</source>
@@ -2129,6 +2129,22 @@
     </message>
     <message>
         <source>leave it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Send files; the arrow, or the Down key, has folders too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Earlier troubles with files: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Fermer</translation>
+    </message>
+    <message>
+        <source>Copy the rest</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2281,6 +2297,14 @@
         <source>it is stopped</source>
         <translation>à l’arrêt manuel</translation>
     </message>
+    <message>
+        <source>Files are offered at %1, which this computer no longer has: nobody can fetch them, until it has it again or you send them once more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>offered at %1, which this computer no longer has</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>nimb::FilePanel</name>
@@ -2289,16 +2313,20 @@
         <translation>Autres fichiers&#xa0;: %1.</translation>
     </message>
     <message>
-        <source> &lt;a href=&quot;all&quot;&gt;Show all&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;all&quot;&gt;Tout afficher&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Save all...</source>
         <translation>Tout enregistrer...</translation>
     </message>
     <message>
         <source>Saves all that is offered here, in one folder</source>
         <translation>Enregistre tout ce qui est proposé ici dans un même dossier</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation type="unfinished">Masquer</translation>
     </message>
 </context>
 <context>
@@ -2732,6 +2760,14 @@ L’envoyer à %4&#xa0;?</translation>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
+    <message>
+        <source>%1 no longer offers this file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>checks what is there: %1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>nimb::RichTextLogEdit</name>
@@ -2816,6 +2852,17 @@ L’envoyer à %4&#xa0;?</translation>
     <message>
         <source>Nickname</source>
         <translation>Pseudo</translation>
+    </message>
+</context>
+<context>
+    <name>nimb::UnfinishedFiles</name>
+    <message>
+        <source>files that had not all come when NIMB-Chat ended: %2; %1 goes on with them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools, Transfers...</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4019,6 +4066,18 @@ L’envoyer à %4&#xa0;?</translation>
     <message>
         <source>Nothing on this computer opens %1.</source>
         <translation>Aucun programme de cet ordinateur n’ouvre %1.</translation>
+    </message>
+    <message>
+        <source>Save A&amp;ll...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves all that is offered and has not been fetched, in one folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save A&amp;ll (%1)...</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -997,24 +997,28 @@
         <translation>大きすぎるため表示できません。</translation>
     </message>
     <message>
-        <source>There is too little room in %1. What has come is kept.</source>
-        <translation>%1 の空き容量が不足しています。受信済みの部分は残されます。</translation>
-    </message>
-    <message>
-        <source>There is no room any more in %1. What has come is kept.</source>
-        <translation>%1 の空き容量がなくなりました。受信済みの部分は残されます。</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written on: %2. What has come is kept.</source>
-        <translation>%1 への書き込みを続けられません (%2)。受信済みの部分は残されます。</translation>
-    </message>
-    <message>
         <source>What has come is not what was sent. It has been removed.</source>
         <translation>受信した内容が送信された内容と一致しないため、削除しました。</translation>
     </message>
     <message>
         <source>%1 cannot be renamed: %2.</source>
         <translation>%1 の名前を変更できません (%2)。</translation>
+    </message>
+    <message>
+        <source>There is too little room in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no room any more in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be written on: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 What has come is kept.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1674,6 +1678,10 @@
         <source>« NIMB-Chat [today:%1 - now:%2] Ready »</source>
         <translation>« NIMB-Chat [日付: %1 - 時刻: %2] 準備完了 »</translation>
     </message>
+    <message>
+        <source>%1 is offline: files can be sent when %1 is back.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PrivateWindows</name>
@@ -1905,8 +1913,8 @@
 <context>
     <name>nimb::ClearedBand</name>
     <message>
-        <source> &lt;a href=&quot;undo&quot;&gt;Bring it back&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;undo&quot;&gt;元に戻す&lt;/a&gt;</translation>
+        <source>Bring it back</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2089,20 +2097,12 @@
         <translation>画像が貼り付けられました (%1 × %2)。</translation>
     </message>
     <message>
-        <source> &lt;a href=&quot;close&quot;&gt;Close&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;close&quot;&gt;閉じる&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>%1 of %2</source>
         <translation>%1 / %2</translation>
     </message>
     <message>
         <source>A message holds %1 characters; the last %2 of what you pasted did not fit.</source>
         <translation>1 つのメッセージは %1 文字までです。貼り付けた内容の最後の %2 文字が入り切りませんでした。</translation>
-    </message>
-    <message>
-        <source> &lt;a href=&quot;rest&quot;&gt;Copy the rest&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;rest&quot;&gt;残りをコピー&lt;/a&gt;</translation>
     </message>
     <message>
         <source> Keep them: %1</source>
@@ -2127,6 +2127,22 @@
     </message>
     <message>
         <source>leave it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Send files; the arrow, or the Down key, has folders too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Earlier troubles with files: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">閉じる</translation>
+    </message>
+    <message>
+        <source>Copy the rest</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2279,6 +2295,14 @@
         <source>it is stopped</source>
         <translation>停止するまで</translation>
     </message>
+    <message>
+        <source>Files are offered at %1, which this computer no longer has: nobody can fetch them, until it has it again or you send them once more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>offered at %1, which this computer no longer has</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>nimb::FilePanel</name>
@@ -2287,16 +2311,20 @@
         <translation>ほかのファイル: %1 個。</translation>
     </message>
     <message>
-        <source> &lt;a href=&quot;all&quot;&gt;Show all&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;all&quot;&gt;すべて表示&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Save all...</source>
         <translation>すべて保存...</translation>
     </message>
     <message>
         <source>Saves all that is offered here, in one folder</source>
         <translation>ここで提供されているものすべてを 1 つのフォルダーに保存します</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation type="unfinished">隠す</translation>
     </message>
 </context>
 <context>
@@ -2729,6 +2757,14 @@ Send it to %4?</source>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
+    <message>
+        <source>%1 no longer offers this file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>checks what is there: %1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>nimb::RichTextLogEdit</name>
@@ -2813,6 +2849,17 @@ Send it to %4?</source>
     <message>
         <source>Nickname</source>
         <translation>ニックネーム</translation>
+    </message>
+</context>
+<context>
+    <name>nimb::UnfinishedFiles</name>
+    <message>
+        <source>files that had not all come when NIMB-Chat ended: %2; %1 goes on with them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools, Transfers...</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4016,6 +4063,18 @@ Send it to %4?</source>
     <message>
         <source>Nothing on this computer opens %1.</source>
         <translation>このコンピューターには %1 を開くプログラムがありません。</translation>
+    </message>
+    <message>
+        <source>Save A&amp;ll...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves all that is offered and has not been fetched, in one folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save A&amp;ll (%1)...</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

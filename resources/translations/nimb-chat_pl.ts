@@ -999,24 +999,28 @@
         <translation>Obraz jest zbyt duży, aby go pokazać.</translation>
     </message>
     <message>
-        <source>There is too little room in %1. What has come is kept.</source>
-        <translation>W %1 jest za mało miejsca. To, co odebrano, zostało zachowane.</translation>
-    </message>
-    <message>
-        <source>There is no room any more in %1. What has come is kept.</source>
-        <translation>W %1 nie ma już miejsca. To, co odebrano, zostało zachowane.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written on: %2. What has come is kept.</source>
-        <translation>Nie można dalej zapisywać %1: %2. To, co odebrano, zostało zachowane.</translation>
-    </message>
-    <message>
         <source>What has come is not what was sent. It has been removed.</source>
         <translation>Odebrane dane różnią się od wysłanych. Zostały usunięte.</translation>
     </message>
     <message>
         <source>%1 cannot be renamed: %2.</source>
         <translation>Nie można zmienić nazwy %1: %2.</translation>
+    </message>
+    <message>
+        <source>There is too little room in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no room any more in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be written on: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 What has come is kept.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1678,6 +1682,10 @@
         <source>« NIMB-Chat [today:%1 - now:%2] Ready »</source>
         <translation>« NIMB-Chat [dziś: %1 - teraz: %2] gotowy »</translation>
     </message>
+    <message>
+        <source>%1 is offline: files can be sent when %1 is back.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PrivateWindows</name>
@@ -1909,8 +1917,8 @@
 <context>
     <name>nimb::ClearedBand</name>
     <message>
-        <source> &lt;a href=&quot;undo&quot;&gt;Bring it back&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;undo&quot;&gt;Przywróć&lt;/a&gt;</translation>
+        <source>Bring it back</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2093,20 +2101,12 @@
         <translation>Wklejono obraz (%1 × %2).</translation>
     </message>
     <message>
-        <source> &lt;a href=&quot;close&quot;&gt;Close&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;close&quot;&gt;Zamknij&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>%1 of %2</source>
         <translation>%1 z %2</translation>
     </message>
     <message>
         <source>A message holds %1 characters; the last %2 of what you pasted did not fit.</source>
         <translation>Wiadomość mieści najwyżej %1 znaków; z wklejonego tekstu nie zmieściły się ostatnie znaki (%2).</translation>
-    </message>
-    <message>
-        <source> &lt;a href=&quot;rest&quot;&gt;Copy the rest&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;rest&quot;&gt;Skopiuj resztę&lt;/a&gt;</translation>
     </message>
     <message>
         <source> Keep them: %1</source>
@@ -2131,6 +2131,22 @@
     </message>
     <message>
         <source>leave it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Send files; the arrow, or the Down key, has folders too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Earlier troubles with files: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Zamknij</translation>
+    </message>
+    <message>
+        <source>Copy the rest</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2283,6 +2299,14 @@
         <source>it is stopped</source>
         <translation>do zatrzymania</translation>
     </message>
+    <message>
+        <source>Files are offered at %1, which this computer no longer has: nobody can fetch them, until it has it again or you send them once more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>offered at %1, which this computer no longer has</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>nimb::FilePanel</name>
@@ -2291,16 +2315,20 @@
         <translation>Pozostałe pliki: %1.</translation>
     </message>
     <message>
-        <source> &lt;a href=&quot;all&quot;&gt;Show all&lt;/a&gt;</source>
-        <translation> &lt;a href=&quot;all&quot;&gt;Pokaż wszystkie&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Save all...</source>
         <translation>Zapisz wszystko...</translation>
     </message>
     <message>
         <source>Saves all that is offered here, in one folder</source>
         <translation>Zapisuje wszystko, co jest tu oferowane, w jednym folderze</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation type="unfinished">Ukryj</translation>
     </message>
 </context>
 <context>
@@ -2735,6 +2763,14 @@ Wysłać ją do użytkownika %4?</translation>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
+    <message>
+        <source>%1 no longer offers this file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>checks what is there: %1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>nimb::RichTextLogEdit</name>
@@ -2819,6 +2855,17 @@ Wysłać ją do użytkownika %4?</translation>
     <message>
         <source>Nickname</source>
         <translation>Pseudonim</translation>
+    </message>
+</context>
+<context>
+    <name>nimb::UnfinishedFiles</name>
+    <message>
+        <source>files that had not all come when NIMB-Chat ended: %2; %1 goes on with them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools, Transfers...</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4022,6 +4069,18 @@ Wysłać ją do użytkownika %4?</translation>
     <message>
         <source>Nothing on this computer opens %1.</source>
         <translation>Żaden program na tym komputerze nie otwiera %1.</translation>
+    </message>
+    <message>
+        <source>Save A&amp;ll...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves all that is offered and has not been fetched, in one folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save A&amp;ll (%1)...</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -82,6 +82,8 @@ RichTextLogEdit::RichTextLogEdit(QWidget *parent)
     setReadOnly(true);
     setUndoRedoEnabled(false);
     setAcceptDrops(false);
+    // Lines are broken anywhere. From the right to the left the toolkit would show one all the same.
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     viewport()->setMouseTracking(true);
     addScrollBarWidget(m_above, Qt::AlignTop);

@@ -116,6 +116,21 @@ TEST_F(StoryDialogs, ATipIsShownAtTheStartAndTheNextOneAtTheNext)
     EXPECT_EQ(bob.stored("Options", "TipOTDayNum"), "3");
 }
 
+TEST_F(StoryDialogs, TheProgramSpeaksTheDesktopsLanguageOrTheOneThatWasChosen)
+{
+    bob.setVariable(QStringLiteral("LC_ALL"), QStringLiteral("de_DE.UTF-8"));
+    start();
+    press("ctrl+h");
+    dialog("NIMB-Chat – Verlauf");
+    EXPECT_EQ(bob.end(), 0);
+    bob.writeStore({{{"Options", "Language"}, "fr"}});
+    start();
+    press("ctrl+h");
+    dialog("NIMB-Chat - Historique");
+    EXPECT_EQ(bob.end(), 0);
+    EXPECT_EQ(bob.stored("Options", "Language"), "fr");
+}
+
 TEST_F(StoryDialogs, ATipThatStandsThereEndsWithTheProgramAndIsKept)
 {
     bob.writeStore({{{"Options", "TipOTDay"}, "1"}});
