@@ -472,7 +472,9 @@ void ConversationPane::showRowsOfEmoji()
     if (!m_emojiPicker)
         return;
     m_emojiPicker->setLeastRows(EmojiPicker::fewestRows);
-    layout()->activate(); // or the window would count with what was there before
+    // Or the window would count with what was there before.
+    layout()->activate();
+    window()->layout()->activate();
     const int room = roomOnScreen(*window()).height() - window()->layout()->totalMinimumSize().height();
     m_emojiPicker->setLeastRows(m_emojiPicker->rowsWith(room));
 }
