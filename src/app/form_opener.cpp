@@ -78,8 +78,8 @@ void FormOpener::connectMain(Messenger &engine, std::function<QString()> statusN
     QObject::connect(m_invitations.get(), &frmConfInvitations::conferenceWanted, m_main.get(),
                      [this] { m_dialogs->mnuCreateNewConf(); });
     m_main->connectControls({engine.mainWindow(), engine.contacts(), engine.avatars(), engine.contactCommands(),
-                             engine.ownState(), engine.announcement(), engine.log(), m_services.common, *m_dialogs,
-                             std::move(statusNotes)},
+                             engine.ownState(), engine.announcement(), engine.log(), m_services.common,
+                             m_services.clock, *m_dialogs, std::move(statusNotes)},
                             std::move(ended));
 }
 

@@ -493,24 +493,35 @@ void ConversationPane::Emoticbtn_Click(bool shown)
     ListViewEmot->setVisible(shown);
     if (EmojiTable::isThere())
         showEmoji(shown);
-    // Who chooses an emoji still sees what he answers: where there is no room for both, the window grows meanwhile.
-    constexpr int linesBeside = 6; // one of them the empty one at the end
-    const int frame = 2 * (m_outtext->frameWidth() + qRound(m_outtext->document()->documentMargin()));
-    // Of large letters on a small screen as many as there is room for.
-    const int most = roomOnScreen(*window()).height() / 4;
-    m_outtext->setMinimumHeight(shown ? qMin(linesBeside * m_outtext->heightOfLine() + frame, most) : 0);
     if (shown) {
-        showRowsOfEmoji();
+        keepLogBesideEmoji();
         m_formerSize->growOnce();
+    } else {
+        m_outtext->setMinimumHeight(0);
     }
     Q_EMIT emoticonsToggled();
 }
 
-/// As many as the screen has room for beside everything else.
-void ConversationPane::showRowsOfEmoji()
+/// Who chooses an emoji still sees what he answers: where there is no room for both, the window grows meanwhile, and
+/// where the screen has none either, the log has fewer lines first.
+void ConversationPane::keepLogBesideEmoji()
+{
+    constexpr int linesBeside = 6, fewestBeside = 3; // one of them the empty one at the end
+    const int frame = 2 * (m_outtext->frameWidth() + qRound(m_outtext->document()->documentMargin()));
+    // Of large letters on a small screen as many as there is room for.
+    const int most = roomOnScreen(*window()).height() / 4;
+    for (int lines = linesBeside; lines >= fewestBeside; --lines) {
+        m_outtext->setMinimumHeight(qMin(lines * m_outtext->heightOfLine() + frame, most));
+        if (hasAllRowsOfEmoji())
+            return;
+    }
+}
+
+/// Gives them as many rows as the screen has room for beside everything else.
+bool ConversationPane::hasAllRowsOfEmoji()
 {
     if (!m_emojiPicker)
-        return;
+        return true;
     m_emojiPicker->setLeastRows(EmojiPicker::fewestRows);
     // From the inside outwards, or the window would count with what was there before.
     for (QWidget *widget = this; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget()) {
@@ -520,8 +531,9 @@ void ConversationPane::showRowsOfEmoji()
     const QLayout &all = *window()->layout();
     // A band whose sentence takes two lines needs more than the least that a layout knows of.
     const int needed = qMax(all.totalMinimumSize().height(), all.totalMinimumHeightForWidth(window()->width()));
-    const int room = roomOnScreen(*window()).height() - needed;
-    m_emojiPicker->setLeastRows(m_emojiPicker->rowsWith(room));
+    const int rows = m_emojiPicker->rowsWith(roomOnScreen(*window()).height() - needed);
+    m_emojiPicker->setLeastRows(rows);
+    return rows == EmojiPicker::mostRows;
 }
 
 void ConversationPane::showEmoji(bool shown)

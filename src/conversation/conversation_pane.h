@@ -124,7 +124,8 @@ private:
     void Emoticbtn_Click(bool shown);
     void ListViewEmot_ItemClick(const QString &emoticon);
     void showEmoji(bool shown);
-    void showRowsOfEmoji();
+    void keepLogBesideEmoji();
+    bool hasAllRowsOfEmoji();
     void makeEmojiPicker();
     void findEmoji();
     void insertEmoji(const QString &emoji);

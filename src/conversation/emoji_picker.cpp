@@ -210,7 +210,7 @@ QHBoxLayout *EmojiPicker::makeGroups()
 
 QSize EmojiPicker::sizeHint() const
 {
-    return {m_search->sizeHint().width(), heightOf(mostRows)};
+    return {m_search->sizeHint().width(), heightOf(m_leastRows)}; // or a line would be cut
 }
 
 QSize EmojiPicker::minimumSizeHint() const

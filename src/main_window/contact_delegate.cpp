@@ -2,6 +2,7 @@
 
 #include "base/clock_text.h"
 #include "base/remote_text.h"
+#include "base/timers.h"
 #include "contacts/avatar_store.h"
 #include "widgets/avatar_image.h"
 #include "widgets/muted_colour.h"
@@ -241,6 +242,15 @@ QString ContactDelegate::addressBeside(const QModelIndex &contact) const
     return isNeeded ? paintedName(contact.data(ContactList::TagRole).toString()) : QString();
 }
 
+/// When the last message came, or on which day.
+QString ContactDelegate::timeBeside(const QModelIndex &contact) const
+{
+    const QDateTime last = contact.data(ContactList::LastMessageRole).toDateTime();
+    if (!last.isValid())
+        return {};
+    return timeOrDate(last, m_clock ? m_clock->now().date() : last.date());
+}
+
 void ContactDelegate::paintRow(QPainter &painter, const QStyleOptionViewItem &cell, const QModelIndex &contact) const
 {
     const bool offline = presenceOf(contact) == Presence::offline;
@@ -263,8 +273,7 @@ void ContactDelegate::paintRow(QPainter &painter, const QStyleOptionViewItem &ce
     }
     const QString address = addressBeside(contact);
     if (unread > 0) {
-        const QDateTime last = contact.data(ContactList::LastMessageRole).toDateTime();
-        const QString time = last.isValid() ? timeOrDate(last, QDate::currentDate()) : QString();
+        const QString time = timeBeside(contact);
         if (room.beside(time) - room.taken(address) >= qMin(nameWidth, room.letters(lettersOfShortestName)))
             room.paintRight(time);
     }

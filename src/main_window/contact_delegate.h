@@ -14,6 +14,7 @@ namespace nimb
 {
 
 class AvatarStore;
+class WallClock;
 
 /// The picture with the presence, the name with all the room that it needs, and at the other side what is said beside
 /// it: the state muted and shortened first, the address of whoever has a name that looks like another's, when the last
@@ -28,6 +29,8 @@ public:
     explicit ContactDelegate(QTreeView &view);
     /// Until then everybody has initials.
     void setAvatars(const AvatarStore &avatars) { m_avatars = &avatars; }
+    /// Until then every message is one of today.
+    void setClock(const WallClock &clock) { m_clock = &clock; }
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
@@ -53,6 +56,7 @@ private:
 
     bool isStateShown() const;
     QRect rowAround(const QRect &cell) const;
+    QString timeBeside(const QModelIndex &contact) const;
     QString addressBeside(const QModelIndex &contact) const;
     void paintRow(QPainter &painter, const QStyleOptionViewItem &cell, const QModelIndex &contact) const;
     void paintFace(QPainter &painter, const QRect &place, const QStyleOptionViewItem &cell,
@@ -60,6 +64,7 @@ private:
 
     QTreeView &m_view;
     const AvatarStore *m_avatars = nullptr;
+    const WallClock *m_clock = nullptr;
     mutable QCache<QString, Face> m_faces{500}; ///< by address; as many as ever fit on a screen, and more
 };
 

@@ -114,6 +114,11 @@ void ContactView::setAvatars(const AvatarStore &avatars)
     viewport()->update();
 }
 
+void ContactView::setClock(const WallClock &clock)
+{
+    m_delegate->setClock(clock);
+}
+
 void ContactView::setDetailColumns(int workstation, int ipAddress, int stateText)
 {
     const auto set = [this](int column, int width) {

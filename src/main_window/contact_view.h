@@ -13,6 +13,7 @@ namespace nimb
 class AvatarStore;
 class ContactDelegate;
 class ContactFilter;
+class WallClock;
 
 /// A header that keeps room above its captions for controls that lie over it. Without captions it is only that room.
 class RoomyHeader : public QHeaderView
@@ -46,6 +47,8 @@ public:
     void setModel(QAbstractItemModel *model) override;
     void setRoomAbove(int room);
     void setAvatars(const AvatarStore &avatars);
+    /// For messages that are not of today.
+    void setClock(const WallClock &clock);
     /// Widths in pixels of the columns that the details switch sets; 0 hides a column.
     void setDetailColumns(int workstation, int ipAddress, int stateText);
     /// Address of the selected contact, empty when none is selected; of several, the one that was selected last.

@@ -269,6 +269,7 @@ void frmMain::connectContacts()
 {
     setModelOfKeyedRows(*ListView1, m_engine->contacts);
     ListView1->setAvatars(m_engine->avatars);
+    ListView1->setClock(m_engine->clock);
     connect(ListView1, &ContactView::contactClicked, this, &frmMain::ListView1_Click);
     connect(ListView1, &ContactView::contactOpened, this, &frmMain::ListView1_DblClick);
     connect(ListView1, &ContactView::removalWanted, this, &frmMain::removeSelected);

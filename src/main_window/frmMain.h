@@ -36,6 +36,7 @@ class MainWindow;
 class OwnState;
 class PersonalizedStateFrame;
 class RichTextLogEdit;
+class WallClock;
 
 /// The engine behind the main window; outlives it.
 struct MainWindowEngine {
@@ -47,6 +48,7 @@ struct MainWindowEngine {
     Announcement &announcement;
     MainLog &log;
     Common &common;
+    const WallClock &clock;
     MenuWindows &windows;
     std::function<QString()> statusNotes; ///< for the status bar's tool tip
 };

@@ -171,6 +171,27 @@ TEST_F(ContactRows, KeepTheirColumnsInFullDetails)
     EXPECT_EQ(cell(2), address) << "a long name stays in its column";
 }
 
+TEST_F(ContactRows, HaveTheDateOfAMessageThatIsNotOfToday)
+{
+    const auto rowWithMessageOf = [this](const QDateTime &time) {
+        windows.engine.contacts().change(QStringLiteral("10.0.0.5"), [&time](Contact &contact) {
+            contact.unreadInWindow = 1;
+            contact.lastMessage = time;
+        });
+        QCoreApplication::processEvents();
+        return row("10.0.0.5");
+    };
+    const auto ink = [](const QImage &image) {
+        int columns = 0;
+        for (int x = image.width() - 173; x < image.width(); ++x)
+            columns += isBlank(image.copy(x, 0, 1, image.height())) ? 0 : 1;
+        return columns;
+    };
+    const QDateTime now = windows.time.now();
+    const int ofToday = ink(rowWithMessageOf(now));
+    EXPECT_GT(ink(rowWithMessageOf(now.addDays(-1))), ofToday + 20) << "21/11/2026 in place of 14:05";
+}
+
 TEST_F(ContactRows, InFullDetailsTheNameGoesBeforeWhatStandsBesideIt)
 {
     QFont large = windows.list().font();
