@@ -98,8 +98,8 @@ constexpr int avatarsOfStrangers = 1000;
 constexpr qint64 pictureFilePixels = 50'000'000;
 /// MiB that Qt may take for one: the above with its largest pixels of eight bytes.
 constexpr int pictureFileMemory = 512;
-/// Pixels of a picture of somebody else's that is shown small: what most cameras and phones make. One of 5 MB may hold
-/// any number of one colour, which only some formats can be read without; these take 100 MB, and about half a second.
+/// Pixels of a picture of somebody else's that is shown small: what most cameras and phones make. 5 MB may hold any
+/// number of pixels of one colour; these take 0.7 s, and 100 MB where the format must be read whole (GIF).
 constexpr qint64 shownPicturePixels = 25'000'000;
 /// After so long it is no picture that anybody means to be looked at: JPEG may say the same pixel thousands of times.
 constexpr std::chrono::seconds shownPictureTime{10};

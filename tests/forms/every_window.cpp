@@ -513,11 +513,6 @@ void takeFiles(Gallery &gallery)
         .setCurrentIndex(windows.engine.transfers().offers.index(0, 0));
     RealWindows::control<QTreeView>(transfers, "receivedList").setCurrentIndex(received.index(1, 0));
     gallery.take(transfers, "transfers");
-    windows.fileServer.failed(windows.fileServer.served.back().token,
-                              QStringLiteral("Plan.pdf has changed since it was offered, so its transfer has ended."));
-    windows.arrive("192.168.1.12", "!OFFLINE 192.168.1.12 PC Ann");
-    RealWindows::control<QToolButton>(windows.privateWindow(), "sendFileBtn").click();
-    gallery.take(windows.privateWindow(), "private_with_file_troubles");
 }
 
 void takeDialogs(Gallery &gallery)
