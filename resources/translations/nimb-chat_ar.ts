@@ -200,7 +200,7 @@
     </message>
     <message>
         <source>%1 contacts selected</source>
-        <translation type="unfinished" />
+        <translation>جهات الاتصال المحددة: ⁨%1⁩</translation>
     </message>
 </context>
 <context>
@@ -1011,19 +1011,19 @@
     </message>
     <message>
         <source>There is too little room in %1.</source>
-        <translation type="unfinished" />
+        <translation>لا توجد مساحة كافية في ‎⁨%1⁩.</translation>
     </message>
     <message>
         <source>There is no room any more in %1.</source>
-        <translation type="unfinished" />
+        <translation>لم تعد هناك مساحة في ‎⁨%1⁩.</translation>
     </message>
     <message>
         <source>%1 cannot be written on: %2.</source>
-        <translation type="unfinished" />
+        <translation>تتعذر متابعة الكتابة إلى ‎⁨%1⁩: ⁨%2⁩.</translation>
     </message>
     <message>
         <source>%1 What has come is kept.</source>
-        <translation type="unfinished" />
+        <translation>⁨%1⁩ ما وصل محفوظ.</translation>
     </message>
 </context>
 <context>
@@ -1690,7 +1690,7 @@
     </message>
     <message>
         <source>%1 is offline: files can be sent when %1 is back.</source>
-        <translation type="unfinished" />
+        <translation>المستخدم ⁨%1⁩ غير متصل: يمكن إرسال الملفات عند عودة ⁨%1⁩.</translation>
     </message>
 </context>
 <context>
@@ -1924,7 +1924,7 @@
     <name>nimb::ClearedBand</name>
     <message>
         <source>Bring it back</source>
-        <translation type="unfinished" />
+        <translation>استرجاع</translation>
     </message>
 </context>
 <context>
@@ -2117,43 +2117,43 @@
     <message>
         <source> Keep them: %1</source>
         <comment>answers that can be clicked</comment>
-        <translation type="unfinished" />
+        <translation> حفظها: ⁨%1⁩</translation>
     </message>
     <message>
         <source>for a year</source>
-        <translation type="unfinished">لمدة سنة</translation>
+        <translation>لمدة سنة</translation>
     </message>
     <message>
         <source>for ever</source>
-        <translation type="unfinished">دائمًا</translation>
+        <translation>دائمًا</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished">لا</translation>
+        <translation>لا</translation>
     </message>
     <message>
         <source>Send it</source>
-        <translation type="unfinished" />
+        <translation>إرسالها</translation>
     </message>
     <message>
         <source>leave it</source>
-        <translation type="unfinished" />
+        <translation>تركها</translation>
     </message>
     <message>
         <source>Send files; the arrow, or the Down key, has folders too</source>
-        <translation type="unfinished" />
+        <translation>إرسال ملفات؛ ولإرسال مجلد استخدم السهم أو مفتاح السهم لأسفل</translation>
     </message>
     <message>
         <source>Earlier troubles with files: %1.</source>
-        <translation type="unfinished" />
+        <translation>مشكلات سابقة في الملفات: ⁨%1⁩.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">إغلاق</translation>
+        <translation>إغلاق</translation>
     </message>
     <message>
         <source>Copy the rest</source>
-        <translation type="unfinished" />
+        <translation>نسخ الباقي</translation>
     </message>
 </context>
 <context>
@@ -2307,11 +2307,11 @@
     </message>
     <message>
         <source>Files are offered at %1, which this computer no longer has: nobody can fetch them, until it has it again or you send them once more.</source>
-        <translation type="unfinished" />
+        <translation>هناك ملفات معروضة على العنوان ⁨%1⁩ الذي لم يعد لهذا الحاسوب: لا يمكن لأحد تنزيلها حتى يعود له العنوان أو ترسلها من جديد.</translation>
     </message>
     <message>
         <source>offered at %1, which this computer no longer has</source>
-        <translation type="unfinished" />
+        <translation>معروض على العنوان ⁨%1⁩ الذي لم يعد لهذا الحاسوب</translation>
     </message>
 </context>
 <context>
@@ -2330,11 +2330,11 @@
     </message>
     <message>
         <source>Show all</source>
-        <translation type="unfinished" />
+        <translation>إظهار الكل</translation>
     </message>
     <message>
         <source>Hide</source>
-        <translation type="unfinished">إخفاء</translation>
+        <translation>إخفاء</translation>
     </message>
 </context>
 <context>
@@ -2774,11 +2774,11 @@ Send it to %4?</source>
     </message>
     <message>
         <source>%1 no longer offers this file.</source>
-        <translation type="unfinished" />
+        <translation>لم يعد ⁨%1⁩ يعرض هذا الملف.</translation>
     </message>
     <message>
         <source>checks what is there: %1 %</source>
-        <translation type="unfinished" />
+        <translation>التحقق مما وصل: ⁨%1⁩%</translation>
     </message>
 </context>
 <context>
@@ -2870,11 +2870,11 @@ Send it to %4?</source>
     <name>nimb::UnfinishedFiles</name>
     <message>
         <source>files that had not all come when NIMB-Chat ended: %2; %1 goes on with them</source>
-        <translation type="unfinished" />
+        <translation>ملفات لم يكتمل وصولها عند إنهاء NIMB-Chat: ⁨%2⁩؛ لاستئنافها: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Tools, Transfers...</source>
-        <translation type="unfinished" />
+        <translation>أدوات &gt; عمليات النقل...</translation>
     </message>
 </context>
 <context>
@@ -4081,15 +4081,15 @@ Send it to %4?</source>
     </message>
     <message>
         <source>Save A&amp;ll...</source>
-        <translation type="unfinished" />
+        <translation>حفظ ال&amp;كل...</translation>
     </message>
     <message>
         <source>Saves all that is offered and has not been fetched, in one folder</source>
-        <translation type="unfinished" />
+        <translation>الحفظ في مجلد واحد لكل ما هو معروض ولم يُنزَّل بعد</translation>
     </message>
     <message>
         <source>Save A&amp;ll (%1)...</source>
-        <translation type="unfinished" />
+        <translation>حفظ ال&amp;كل (⁨%1⁩)...</translation>
     </message>
 </context>
 </TS>

@@ -8,7 +8,7 @@
         <translation>Bitte alle Felder ausfüllen</translation>
     </message>
     <message>
-        <source>You can&apos;t add yourself...</source>
+        <source>You can't add yourself...</source>
         <translation>Sie können sich nicht selbst hinzufügen...</translation>
     </message>
     <message>
@@ -54,7 +54,7 @@
         <translation>Konferenz %1 (von Ihnen) – NIMB-Chat</translation>
     </message>
     <message>
-        <source>Conference #%1 (Hosted by &apos;%2&apos;) - NIMB-Chat</source>
+        <source>Conference #%1 (Hosted by '%2') - NIMB-Chat</source>
         <translation>Konferenz %1 (von „%2“) – NIMB-Chat</translation>
     </message>
     <message>
@@ -131,11 +131,11 @@
         <translation>Benutzer e&amp;inladen</translation>
     </message>
     <message>
-        <source>Private chat with &apos;%1&apos;</source>
+        <source>Private chat with '%1'</source>
         <translation>Privater Chat mit „%1“</translation>
     </message>
     <message>
-        <source>Buzz &apos;%1&apos;</source>
+        <source>Buzz '%1'</source>
         <translation>„%1“ anstupsen</translation>
     </message>
     <message>
@@ -143,19 +143,19 @@
         <translation>%1 Benutzer aus der Liste entfernen</translation>
     </message>
     <message>
-        <source>Remove &apos;%1&apos; from the list</source>
+        <source>Remove '%1' from the list</source>
         <translation>„%1“ aus der Liste entfernen</translation>
     </message>
     <message>
-        <source>Send &amp;contacts to &apos;%1&apos;</source>
+        <source>Send &amp;contacts to '%1'</source>
         <translation>&amp;Kontakte an „%1“ senden</translation>
     </message>
     <message>
-        <source>&amp;Net send message to &apos;%1&apos;</source>
+        <source>&amp;Net send message to '%1'</source>
         <translation>Ne&amp;t-Send-Nachricht an „%1“</translation>
     </message>
     <message>
-        <source>I&amp;nvite user &apos;%1&apos;</source>
+        <source>I&amp;nvite user '%1'</source>
         <translation>„%1“ e&amp;inladen</translation>
     </message>
     <message>
@@ -175,15 +175,15 @@
         <translation>ob %1 da ist, wird gerade geprüft: Vorher öffnet sich kein Fenster</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks, and shows you to your contacts</source>
+        <source>whether %1 is there is not known: "Rescan" asks, and shows you to your contacts</source>
         <translation>ob %1 da ist, ist nicht bekannt: „Neu abfragen“ klärt es und zeigt Ihren Kontakten, dass Sie da sind</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks</source>
+        <source>whether %1 is there is not known: "Rescan" asks</source>
         <translation>ob %1 da ist, ist nicht bekannt: „Neu abfragen“ klärt es</translation>
     </message>
     <message>
-        <source>Are you sure you want to remove the user &apos;%1&apos; on workstation &apos;%2&apos; (%3) ?</source>
+        <source>Are you sure you want to remove the user '%1' on workstation '%2' (%3) ?</source>
         <translation>Möchten Sie den Benutzer „%1“ auf der Arbeitsstation „%2“ (%3) wirklich entfernen?</translation>
     </message>
     <message>
@@ -200,13 +200,13 @@
     </message>
     <message>
         <source>%1 contacts selected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Kontakte ausgewählt</translation>
     </message>
 </context>
 <context>
     <name>ContactFile</name>
     <message>
-        <source>&quot;%1&quot; is not the address of one computer</source>
+        <source>"%1" is not the address of one computer</source>
         <translation>„%1“ ist nicht die Adresse eines einzelnen Computers</translation>
     </message>
     <message>
@@ -425,7 +425,7 @@
     </message>
     <message>
         <source>Start NIMB-Chat without NIMBCHAT_ADDRESS to talk to other computers.</source>
-        <translation>Starten Sie NIMB-Chat ohne NIMBCHAT_ADDRESS, um mit anderen Computern zu sprechen.</translation>
+        <translation>Starten Sie NIMB-Chat ohne NIMBCHAT_ADDRESS, um andere Computer zu erreichen.</translation>
     </message>
     <message>
         <source>The network card %1, whose address the options name as yours, is not connected; your address is %2 of the card %3.</source>
@@ -448,7 +448,7 @@
         <translation>Das System lässt NIMB-Chat den Port %1 nicht benutzen.</translation>
     </message>
     <message>
-        <source>Choose a port above 1023 in Tools, Options, the same as everybody else&apos;s.</source>
+        <source>Choose a port above 1023 in Tools, Options, the same as everybody else's.</source>
         <translation>Wählen Sie unter „Extras, Optionen“ einen Port über 1023, und zwar denselben wie alle anderen.</translation>
     </message>
     <message>
@@ -472,7 +472,7 @@
         <translation>Port %1 wird von einem anderen Programm benutzt.</translation>
     </message>
     <message>
-        <source>&quot;sudo ss -ulpn sport = :%1&quot; shows which one.</source>
+        <source>"sudo ss -ulpn sport = :%1" shows which one.</source>
         <translation>„sudo ss -ulpn sport = :%1“ zeigt, von welchem.</translation>
     </message>
     <message>
@@ -485,7 +485,7 @@
     </message>
     <message>
         <source>UDP port %1 is free for NIMB-Chat, which does not run.</source>
-        <translation>Der UDP-Port %1 ist für NIMB-Chat frei, das nicht läuft.</translation>
+        <translation>NIMB-Chat läuft nicht; der UDP-Port %1 ist dafür frei.</translation>
     </message>
     <message>
         <source>NIMB-Chat runs (process %1) and listens on UDP port %2.</source>
@@ -500,7 +500,7 @@
         <translation>Das System hebt nur %1 KiB an wartenden Datagrammen auf: Wenn viele gleichzeitig antworten, gehen einige verloren.</translation>
     </message>
     <message>
-        <source>&quot;sudo sysctl -w net.core.rmem_max=4194304&quot; lets it keep more.</source>
+        <source>"sudo sysctl -w net.core.rmem_max=4194304" lets it keep more.</source>
         <translation>Mit „sudo sysctl -w net.core.rmem_max=4194304“ hebt es mehr auf.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Nur der Systemverwalter darf sehen, ob eine Firewall den UDP-Port %1 sperrt.</translation>
     </message>
     <message>
-        <source>&quot;sudo nimb-chatctl doctor&quot; tells.</source>
+        <source>"sudo nimb-chatctl doctor" tells.</source>
         <translation>„sudo nimb-chatctl doctor“ gibt Auskunft.</translation>
     </message>
     <message>
@@ -588,7 +588,7 @@
         <translation>Dieser Computer hat vielleicht eine Firewall, aber kein Programm ist vorhanden, das alle ihre Regeln zeigt.</translation>
     </message>
     <message>
-        <source>&quot;sudo nft list ruleset&quot; and &quot;sudo iptables-legacy -S&quot; show them, of the packages nftables and iptables.</source>
+        <source>"sudo nft list ruleset" and "sudo iptables-legacy -S" show them, of the packages nftables and iptables.</source>
         <translation>„sudo nft list ruleset“ und „sudo iptables-legacy -S“ aus den Paketen nftables und iptables zeigen sie.</translation>
     </message>
     <message>
@@ -656,7 +656,7 @@
         <translation>%1 hat nicht geantwortet. Der Weg zu %2 führt über Ihre Adresse %3, aber die Optionen nennen die Karte %4, deren Adresse %5 von dort vielleicht nicht erreichbar ist.</translation>
     </message>
     <message>
-        <source>Choose &quot;automatic&quot; or the card of that network as your own address in Tools, Options.</source>
+        <source>Choose "automatic" or the card of that network as your own address in Tools, Options.</source>
         <translation>Wählen Sie „automatisch“ oder die Karte dieses Netzwerks unter „Extras, Optionen“ als eigene Adresse.</translation>
     </message>
     <message>
@@ -776,7 +776,7 @@
     </message>
     <message>
         <source>More than could wait, of the loudest senders: %1</source>
-        <translation>Überzählige der Absender, die am meisten senden: %1</translation>
+        <translation>Überzählige Datagramme der aktivsten Absender: %1</translation>
     </message>
     <message>
         <source>of them from %1: %2</source>
@@ -926,7 +926,7 @@
 <context>
     <name>FolderSource</name>
     <message>
-        <source>There is no picture to show in &quot;%1&quot;.</source>
+        <source>There is no picture to show in "%1".</source>
         <translation>In „%1“ gibt es kein anzeigbares Bild.</translation>
     </message>
 </context>
@@ -1007,19 +1007,19 @@
     </message>
     <message>
         <source>There is too little room in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>In %1 ist zu wenig Platz.</translation>
     </message>
     <message>
         <source>There is no room any more in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>In %1 ist kein Platz mehr.</translation>
     </message>
     <message>
         <source>%1 cannot be written on: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht weitergeschrieben werden: %2.</translation>
     </message>
     <message>
         <source>%1 What has come is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Was angekommen ist, bleibt erhalten.</translation>
     </message>
 </context>
 <context>
@@ -1077,7 +1077,7 @@
         <translation>%1 ist jetzt offline ---</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;  ---</source>
+        <source>%1 changed his state to '%2'  ---</source>
         <translation>%1 hat jetzt den Status „%2“ ---</translation>
     </message>
     <message>
@@ -1085,7 +1085,7 @@
         <translation>%1 stupst Sie an ---</translation>
     </message>
     <message>
-        <source>%1 sent you the contact &apos;%2&apos; (%3) ---</source>
+        <source>%1 sent you the contact '%2' (%3) ---</source>
         <translation>%1 hat Ihnen den Kontakt „%2“ (%3) gesendet ---</translation>
     </message>
     <message>
@@ -1196,7 +1196,7 @@
     </message>
     <message>
         <source>Create &amp;new...</source>
-        <translation>&amp;Neue erstellen...</translation>
+        <translation>&amp;Neue Konferenz...</translation>
     </message>
     <message>
         <source>View &amp;invitations...</source>
@@ -1330,8 +1330,8 @@
         <translation>Beim letzten Beenden von NIMB-Chat: %1</translation>
     </message>
     <message>
-        <source>The stored personalized state &quot;%1&quot; begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
-        <translation>Der gespeicherte eigene Status „%1“ beginnt nicht mit der Ziffer eines Bildes; er wird ausgelassen und ist nach dem Beenden von NIMB-Chat endgültig weg.</translation>
+        <source>The stored personalized state "%1" begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
+        <translation>Der gespeicherte eigene Status „%1“ beginnt nicht mit der Ziffer eines Bildes; er wird ausgelassen und geht beim Beenden von NIMB-Chat endgültig verloren.</translation>
     </message>
     <message>
         <source>--- this desktop shows no tray icon: NIMB-Chat is minimised instead of hidden ---</source>
@@ -1419,7 +1419,7 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no &quot;net&quot; command.</source>
+        <source>The message was not sent: this system has no "net" command.</source>
         <translation>Die Nachricht wurde nicht gesendet: Dieses System hat keinen Befehl „net“.</translation>
     </message>
     <message>
@@ -1438,11 +1438,11 @@
 <context>
     <name>NetworkScan</name>
     <message>
-        <source>&quot;%1&quot; is neither a name nor the address of a computer or a network, so nobody was asked.</source>
+        <source>"%1" is neither a name nor the address of a computer or a network, so nobody was asked.</source>
         <translation>„%1“ ist weder ein Name noch die Adresse eines Computers oder Netzwerks, daher wurde niemand gefragt.</translation>
     </message>
     <message>
-        <source>No address was found for &quot;%1&quot;, so nobody was asked.</source>
+        <source>No address was found for "%1", so nobody was asked.</source>
         <translation>Für „%1“ wurde keine Adresse gefunden, daher wurde niemand gefragt.</translation>
     </message>
     <message>
@@ -1532,7 +1532,7 @@
     </message>
     <message>
         <source>The network card %1, whose address the options name as yours, is not connected; your address is %2 until it is.</source>
-        <translation>Die Netzwerkkarte %1, deren Adresse laut Optionen Ihre ist, ist nicht verbunden; bis dahin ist Ihre Adresse %2.</translation>
+        <translation>Die Netzwerkkarte %1, deren Adresse laut Optionen Ihre ist, ist nicht verbunden; so lange ist Ihre Adresse %2.</translation>
     </message>
     <message>
         <source>No network gives this computer an IPv4 address, so nobody can reach you. NIMB-Chat goes on as soon as one does.</source>
@@ -1567,11 +1567,11 @@
     </message>
     <message>
         <source>AutoReply text (when Busy)</source>
-        <translation>Text der automatischen Antwort (bei Status „Beschäftigt“)</translation>
+        <translation>Text der Auto-Antwort (bei „Beschäftigt“)</translation>
     </message>
     <message>
         <source>AutoReply text (when Away)</source>
-        <translation>Text der automatischen Antwort (bei Status „Abwesend“)</translation>
+        <translation>Text der Auto-Antwort (bei „Abwesend“)</translation>
     </message>
     <message>
         <source>You are invisible: rescanning shows you to your contacts</source>
@@ -1582,7 +1582,7 @@
         <translation>Alle Kontakte fragen, ob sie da sind</translation>
     </message>
     <message>
-        <source>Only %1 personalized states are kept: &quot;%2&quot; lasts until NIMB-Chat ends.</source>
+        <source>Only %1 personalized states are kept: "%2" lasts until NIMB-Chat ends.</source>
         <translation>Nur %1 eigene Status werden gespeichert: „%2“ gilt, bis NIMB-Chat beendet wird.</translation>
     </message>
 </context>
@@ -1616,7 +1616,7 @@
         <translation>Das ist kein Bild, das NIMB-Chat lesen kann.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be opened.</source>
+        <source>"%1" cannot be opened.</source>
         <translation>„%1“ kann nicht geöffnet werden.</translation>
     </message>
 </context>
@@ -1670,7 +1670,7 @@
         <translation>%1 ist jetzt offline</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;</source>
+        <source>%1 changed his state to '%2'</source>
         <translation>%1 hat jetzt den Status „%2“</translation>
     </message>
 </context>
@@ -1682,7 +1682,7 @@
     </message>
     <message>
         <source>%1 is offline: files can be sent when %1 is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist offline: Dateien können gesendet werden, sobald %1 zurück ist.</translation>
     </message>
 </context>
 <context>
@@ -1702,7 +1702,7 @@
 <context>
     <name>Program</name>
     <message>
-        <source>NIMBCHAT_ADDRESS is &quot;%1&quot;, which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
+        <source>NIMBCHAT_ADDRESS is "%1", which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
         <translation>NIMBCHAT_ADDRESS ist „%1“ und damit keine IPv4-Adresse; NIMB-Chat lauscht stattdessen auf allen Schnittstellen.</translation>
     </message>
     <message>
@@ -1808,7 +1808,7 @@
 <context>
     <name>Settings</name>
     <message>
-        <source>The stored setting %1 cannot be &quot;%2&quot;; %3 is used instead.</source>
+        <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
         <translation>Die gespeicherte Einstellung %1 kann nicht „%2“ sein; stattdessen gilt %3.</translation>
     </message>
 </context>
@@ -1847,7 +1847,7 @@
     </message>
     <message>
         <source>What has changed cannot be kept in %1 now (%2), so it would be lost if NIMB-Chat ended before it can save.</source>
-        <translation>Die Änderungen können zurzeit nicht in %1 gespeichert werden (%2); sie gingen verloren, wenn NIMB-Chat vorher beendet würde.</translation>
+        <translation>Die Änderungen können zurzeit nicht in %1 gespeichert werden (%2); sie würden verloren gehen, wenn NIMB-Chat vorher beendet wird.</translation>
     </message>
     <message>
         <source>The settings folder %1 cannot be made (%2), so the program starts with its defaults and keeps no settings.</source>
@@ -1867,7 +1867,7 @@
     </message>
     <message>
         <source>they could not be read when the program started and would be lost</source>
-        <translation>sie konnten beim Programmstart nicht gelesen werden und gingen verloren</translation>
+        <translation>sie konnten beim Programmstart nicht gelesen werden und würden verloren gehen</translation>
     </message>
     <message>
         <source>The settings were damaged or empty when NIMB-Chat started before.</source>
@@ -1905,7 +1905,7 @@
     <name>nimb::AutoreplyFrame</name>
     <message>
         <source>AutoReply text</source>
-        <translation>Text der automatischen Antwort</translation>
+        <translation>Text der Auto-Antwort</translation>
     </message>
     <message>
         <source>Close</source>
@@ -1916,7 +1916,7 @@
     <name>nimb::ClearedBand</name>
     <message>
         <source>Bring it back</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederherstellen</translation>
     </message>
 </context>
 <context>
@@ -2016,7 +2016,7 @@
         <translation>Alle anzeigen</translation>
     </message>
     <message>
-        <source>Nobody here is called &quot;%1&quot;</source>
+        <source>Nobody here is called "%1"</source>
         <translation>Hier heißt niemand „%1“</translation>
     </message>
 </context>
@@ -2109,43 +2109,43 @@
     <message>
         <source> Keep them: %1</source>
         <comment>answers that can be clicked</comment>
-        <translation type="unfinished"></translation>
+        <translation> Aufbewahren: %1</translation>
     </message>
     <message>
         <source>for a year</source>
-        <translation type="unfinished">ein Jahr lang</translation>
+        <translation>ein Jahr lang</translation>
     </message>
     <message>
         <source>for ever</source>
-        <translation type="unfinished">für immer</translation>
+        <translation>für immer</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished">nein</translation>
+        <translation>nein</translation>
     </message>
     <message>
         <source>Send it</source>
-        <translation type="unfinished"></translation>
+        <translation>Senden</translation>
     </message>
     <message>
         <source>leave it</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht senden</translation>
     </message>
     <message>
         <source>Send files; the arrow, or the Down key, has folders too</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien senden; Ordner über den Pfeil oder die Nach-unten-Taste</translation>
     </message>
     <message>
         <source>Earlier troubles with files: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Frühere Probleme mit Dateien: %1.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Schließen</translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Copy the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>Rest kopieren</translation>
     </message>
 </context>
 <context>
@@ -2299,11 +2299,11 @@
     </message>
     <message>
         <source>Files are offered at %1, which this computer no longer has: nobody can fetch them, until it has it again or you send them once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es werden Dateien unter der Adresse %1 angeboten, die dieser Computer nicht mehr hat: Niemand kann die Dateien abholen, bis er die Adresse wieder hat oder Sie die Dateien erneut senden.</translation>
     </message>
     <message>
         <source>offered at %1, which this computer no longer has</source>
-        <translation type="unfinished"></translation>
+        <translation>angeboten unter der Adresse %1, die dieser Computer nicht mehr hat</translation>
     </message>
 </context>
 <context>
@@ -2322,11 +2322,11 @@
     </message>
     <message>
         <source>Show all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle anzeigen</translation>
     </message>
     <message>
         <source>Hide</source>
-        <translation type="unfinished">Ausblenden</translation>
+        <translation>Ausblenden</translation>
     </message>
 </context>
 <context>
@@ -2345,7 +2345,7 @@
     </message>
     <message>
         <source>Pause</source>
-        <translation>Anhalten</translation>
+        <translation>Pausieren</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -2427,7 +2427,7 @@
         <translation>Alles Aufbewahrte durchsuchen</translation>
     </message>
     <message>
-        <source>Opens the history&apos;s window</source>
+        <source>Opens the history's window</source>
         <translation>Öffnet das Verlaufsfenster</translation>
     </message>
     <message>
@@ -2446,7 +2446,7 @@
 <context>
     <name>nimb::HistoryModel</name>
     <message>
-        <source>%1, %2, in &quot;%3&quot;</source>
+        <source>%1, %2, in "%3"</source>
         <translation>%1, %2, in „%3“</translation>
     </message>
     <message>
@@ -2565,7 +2565,7 @@
     </message>
     <message>
         <source>%1 messages wait to be sent already, and no more can.</source>
-        <translation>Es warten schon %1 Nachrichten auf das Senden; mehr sind nicht möglich.</translation>
+        <translation>Es warten schon %1 Nachrichten auf den Versand; mehr ist nicht möglich.</translation>
     </message>
     <message>
         <source>--- a message that waited for %1, who is no contact any more, is not sent ---</source>
@@ -2726,7 +2726,7 @@ An %4 senden?</translation>
     </message>
     <message>
         <source>paused at %1 %</source>
-        <translation>angehalten bei %1 %</translation>
+        <translation>pausiert bei %1 %</translation>
     </message>
     <message>
         <source>is being checked</source>
@@ -2762,11 +2762,11 @@ An %4 senden?</translation>
     </message>
     <message>
         <source>%1 no longer offers this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bietet diese Datei nicht mehr an.</translation>
     </message>
     <message>
         <source>checks what is there: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>vorhandener Teil wird geprüft: %1 %</translation>
     </message>
 </context>
 <context>
@@ -2858,11 +2858,11 @@ An %4 senden?</translation>
     <name>nimb::UnfinishedFiles</name>
     <message>
         <source>files that had not all come when NIMB-Chat ended: %2; %1 goes on with them</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien, die beim Beenden von NIMB-Chat noch nicht vollständig angekommen waren: %2; fortsetzen lassen sie sich unter %1</translation>
     </message>
     <message>
         <source>Tools, Transfers...</source>
-        <translation type="unfinished"></translation>
+        <translation>Extras, Übertragungen...</translation>
     </message>
 </context>
 <context>
@@ -2872,7 +2872,7 @@ An %4 senden?</translation>
         <translation>Über NIMB-Chat</translation>
     </message>
     <message>
-        <source>NIMB-Chat&apos;s picture</source>
+        <source>NIMB-Chat's picture</source>
         <translation>Bild von NIMB-Chat</translation>
     </message>
     <message>
@@ -2884,7 +2884,7 @@ An %4 senden?</translation>
         <translation>Version %1</translation>
     </message>
     <message>
-        <source>A simple messenger that works with UDP/IP and it&apos;s been intended for use on a small LAN</source>
+        <source>A simple messenger that works with UDP/IP and it's been intended for use on a small LAN</source>
         <translation>Ein einfacher Messenger, der mit UDP/IP arbeitet und für kleine lokale Netzwerke gedacht ist</translation>
     </message>
     <message>
@@ -3271,7 +3271,7 @@ An %4 senden?</translation>
         <translation>Ausgewählte &amp;Unterhaltung</translation>
     </message>
     <message>
-        <source>Erase all that is kept of &quot;%1&quot; for good?</source>
+        <source>Erase all that is kept of "%1" for good?</source>
         <translation>Alles endgültig löschen, was von „%1“ aufbewahrt wird?</translation>
     </message>
     <message>
@@ -3413,7 +3413,7 @@ An %4 senden?</translation>
     </message>
     <message>
         <source>AutoReply</source>
-        <translation>Automatische Antwort</translation>
+        <translation>Auto-Antwort</translation>
     </message>
     <message>
         <source>AutoReply text...</source>
@@ -3463,7 +3463,7 @@ An %4 senden?</translation>
         <translation>Alle in...</translation>
     </message>
     <message>
-        <source>Note: you can use broadcast IP to scan a whole network (e.g. let&apos;s say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
+        <source>Note: you can use broadcast IP to scan a whole network (e.g. let's say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
         <translation>Hinweis: Mit einer Broadcast-Adresse lässt sich ein ganzes Netzwerk durchsuchen (ist Ihre IP-Adresse zum Beispiel 192.168.1.1 und Ihre Subnetzmaske 255.255.255.0, so ist Ihre Broadcast-Adresse 192.168.1.255)</translation>
     </message>
     <message>
@@ -3534,7 +3534,7 @@ An %4 senden?</translation>
     </message>
     <message>
         <source>Ticked: nothing slides in, neither who comes and goes nor what arrives</source>
-        <translation>Angekreuzt: Nichts wird eingeblendet, weder wer kommt und geht noch was eintrifft</translation>
+        <translation>Ist dies angekreuzt, wird nichts eingeblendet: weder wer kommt und geht noch was eintrifft</translation>
     </message>
     <message>
         <source>LiveType &amp;disabled by default</source>
@@ -3550,7 +3550,7 @@ An %4 senden?</translation>
     </message>
     <message>
         <source>While their window is not active, and you are not busy; a contact that is muted is never told of</source>
-        <translation>Wenn deren Fenster nicht aktiv ist und Sie nicht beschäftigt sind; stummgeschaltete Kontakte werden nie gemeldet</translation>
+        <translation>Nur wenn das zugehörige Fenster nicht aktiv ist und Sie nicht beschäftigt sind; stummgeschaltete Kontakte werden nie gemeldet</translation>
     </message>
     <message>
         <source>S&amp;how what a message says</source>
@@ -3657,7 +3657,7 @@ An %4 senden?</translation>
         <translation>Sprache</translation>
     </message>
     <message>
-        <source>the desktop&apos;s</source>
+        <source>the desktop's</source>
         <translation>wie der Desktop</translation>
     </message>
     <message>
@@ -3741,7 +3741,7 @@ An %4 senden?</translation>
         <translation>%1, %2 Punkt</translation>
     </message>
     <message>
-        <source>the desktop&apos;s font: %1, %2 points</source>
+        <source>the desktop's font: %1, %2 points</source>
         <translation>Schrift des Desktops: %1, %2 Punkt</translation>
     </message>
     <message>
@@ -3819,7 +3819,7 @@ An %4 senden?</translation>
 <context>
     <name>nimb::frmSendContact</name>
     <message>
-        <source>NIMB-Chat - Send Contacts to &apos;%1&apos;</source>
+        <source>NIMB-Chat - Send Contacts to '%1'</source>
         <translation>NIMB-Chat – Kontakte an „%1“ senden</translation>
     </message>
     <message>
@@ -4049,11 +4049,11 @@ An %4 senden?</translation>
     </message>
     <message>
         <source>S&amp;ave...</source>
-        <translation>S&amp;peichern...</translation>
+        <translation>Spei&amp;chern...</translation>
     </message>
     <message>
         <source>&amp;Pause</source>
-        <translation>&amp;Anhalten</translation>
+        <translation>&amp;Pausieren</translation>
     </message>
     <message>
         <source>&amp;Resume</source>
@@ -4069,15 +4069,15 @@ An %4 senden?</translation>
     </message>
     <message>
         <source>Save A&amp;ll...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle speichern...</translation>
     </message>
     <message>
         <source>Saves all that is offered and has not been fetched, in one folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichert alles Angebotene, das noch nicht abgeholt wurde, in einem Ordner</translation>
     </message>
     <message>
         <source>Save A&amp;ll (%1)...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle speichern (%1)...</translation>
     </message>
 </context>
 </TS>

@@ -8,7 +8,7 @@
         <translation>Rellene todos los campos</translation>
     </message>
     <message>
-        <source>You can&apos;t add yourself...</source>
+        <source>You can't add yourself...</source>
         <translation>No puede agregarse a sí mismo...</translation>
     </message>
     <message>
@@ -54,7 +54,7 @@
         <translation>Conferencia n.º %1 (organizada aquí) - NIMB-Chat</translation>
     </message>
     <message>
-        <source>Conference #%1 (Hosted by &apos;%2&apos;) - NIMB-Chat</source>
+        <source>Conference #%1 (Hosted by '%2') - NIMB-Chat</source>
         <translation>Conferencia n.º %1 (organizada por «%2») - NIMB-Chat</translation>
     </message>
     <message>
@@ -131,11 +131,11 @@
         <translation>&amp;Invitar al usuario</translation>
     </message>
     <message>
-        <source>Private chat with &apos;%1&apos;</source>
+        <source>Private chat with '%1'</source>
         <translation>Chat privado con «%1»</translation>
     </message>
     <message>
-        <source>Buzz &apos;%1&apos;</source>
+        <source>Buzz '%1'</source>
         <translation>Enviar zumbido a «%1»</translation>
     </message>
     <message>
@@ -143,19 +143,19 @@
         <translation>Eliminar %1 usuarios de la lista</translation>
     </message>
     <message>
-        <source>Remove &apos;%1&apos; from the list</source>
+        <source>Remove '%1' from the list</source>
         <translation>Eliminar a «%1» de la lista</translation>
     </message>
     <message>
-        <source>Send &amp;contacts to &apos;%1&apos;</source>
+        <source>Send &amp;contacts to '%1'</source>
         <translation>Enviar &amp;contactos a «%1»</translation>
     </message>
     <message>
-        <source>&amp;Net send message to &apos;%1&apos;</source>
+        <source>&amp;Net send message to '%1'</source>
         <translation>Enviar &amp;mensaje (net send) a «%1»</translation>
     </message>
     <message>
-        <source>I&amp;nvite user &apos;%1&apos;</source>
+        <source>I&amp;nvite user '%1'</source>
         <translation>&amp;Invitar a «%1»</translation>
     </message>
     <message>
@@ -175,15 +175,15 @@
         <translation>se está preguntando si %1 está en línea: no se abre ninguna ventana hasta saberlo</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks, and shows you to your contacts</source>
+        <source>whether %1 is there is not known: "Rescan" asks, and shows you to your contacts</source>
         <translation>no se sabe si %1 está en línea: «Actualizar» lo pregunta, y sus contactos le verán</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks</source>
+        <source>whether %1 is there is not known: "Rescan" asks</source>
         <translation>no se sabe si %1 está en línea: «Actualizar» lo pregunta</translation>
     </message>
     <message>
-        <source>Are you sure you want to remove the user &apos;%1&apos; on workstation &apos;%2&apos; (%3) ?</source>
+        <source>Are you sure you want to remove the user '%1' on workstation '%2' (%3) ?</source>
         <translation>¿Seguro que desea eliminar al usuario «%1» del equipo «%2» (%3)?</translation>
     </message>
     <message>
@@ -200,13 +200,13 @@
     </message>
     <message>
         <source>%1 contacts selected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 contactos seleccionados</translation>
     </message>
 </context>
 <context>
     <name>ContactFile</name>
     <message>
-        <source>&quot;%1&quot; is not the address of one computer</source>
+        <source>"%1" is not the address of one computer</source>
         <translation>«%1» no es la dirección de un solo equipo</translation>
     </message>
     <message>
@@ -448,7 +448,7 @@
         <translation>El sistema no permite a NIMB-Chat utilizar el puerto %1.</translation>
     </message>
     <message>
-        <source>Choose a port above 1023 in Tools, Options, the same as everybody else&apos;s.</source>
+        <source>Choose a port above 1023 in Tools, Options, the same as everybody else's.</source>
         <translation>Elija en Herramientas, Opciones un puerto superior a 1023, el mismo que todos los demás.</translation>
     </message>
     <message>
@@ -472,7 +472,7 @@
         <translation>Otro programa está utilizando el puerto %1.</translation>
     </message>
     <message>
-        <source>&quot;sudo ss -ulpn sport = :%1&quot; shows which one.</source>
+        <source>"sudo ss -ulpn sport = :%1" shows which one.</source>
         <translation>«sudo ss -ulpn sport = :%1» muestra cuál.</translation>
     </message>
     <message>
@@ -500,7 +500,7 @@
         <translation>El sistema solo guarda %1 KiB de datagramas en espera: cuando muchos responden a la vez, algunos se pierden.</translation>
     </message>
     <message>
-        <source>&quot;sudo sysctl -w net.core.rmem_max=4194304&quot; lets it keep more.</source>
+        <source>"sudo sysctl -w net.core.rmem_max=4194304" lets it keep more.</source>
         <translation>«sudo sysctl -w net.core.rmem_max=4194304» le permite guardar más.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Solo el administrador puede ver si un cortafuegos bloquea el puerto UDP %1.</translation>
     </message>
     <message>
-        <source>&quot;sudo nimb-chatctl doctor&quot; tells.</source>
+        <source>"sudo nimb-chatctl doctor" tells.</source>
         <translation>«sudo nimb-chatctl doctor» lo indica.</translation>
     </message>
     <message>
@@ -588,7 +588,7 @@
         <translation>Es posible que este equipo tenga un cortafuegos, y no hay aquí ningún programa que muestre todas sus reglas.</translation>
     </message>
     <message>
-        <source>&quot;sudo nft list ruleset&quot; and &quot;sudo iptables-legacy -S&quot; show them, of the packages nftables and iptables.</source>
+        <source>"sudo nft list ruleset" and "sudo iptables-legacy -S" show them, of the packages nftables and iptables.</source>
         <translation>«sudo nft list ruleset» y «sudo iptables-legacy -S», de los paquetes nftables e iptables, las muestran.</translation>
     </message>
     <message>
@@ -656,7 +656,7 @@
         <translation>%1 no ha respondido. El camino a %2 es el de su dirección %3, pero en las opciones figura la tarjeta %4, a cuya dirección %5 quizá no se pueda llegar desde allí.</translation>
     </message>
     <message>
-        <source>Choose &quot;automatic&quot; or the card of that network as your own address in Tools, Options.</source>
+        <source>Choose "automatic" or the card of that network as your own address in Tools, Options.</source>
         <translation>Elija «automática» o la tarjeta de esa red como dirección propia en Herramientas, Opciones.</translation>
     </message>
     <message>
@@ -926,7 +926,7 @@
 <context>
     <name>FolderSource</name>
     <message>
-        <source>There is no picture to show in &quot;%1&quot;.</source>
+        <source>There is no picture to show in "%1".</source>
         <translation>En «%1» no hay ninguna imagen que mostrar.</translation>
     </message>
 </context>
@@ -1007,19 +1007,19 @@
     </message>
     <message>
         <source>There is too little room in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay espacio suficiente en %1.</translation>
     </message>
     <message>
         <source>There is no room any more in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya no queda espacio en %1.</translation>
     </message>
     <message>
         <source>%1 cannot be written on: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede seguir escribiendo %1: %2.</translation>
     </message>
     <message>
         <source>%1 What has come is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Se conserva lo ya recibido.</translation>
     </message>
 </context>
 <context>
@@ -1077,7 +1077,7 @@
         <translation>%1 se ha desconectado ---</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;  ---</source>
+        <source>%1 changed his state to '%2'  ---</source>
         <translation>%1 ha cambiado su estado a «%2» ---</translation>
     </message>
     <message>
@@ -1085,7 +1085,7 @@
         <translation>%1 le envía un zumbido ---</translation>
     </message>
     <message>
-        <source>%1 sent you the contact &apos;%2&apos; (%3) ---</source>
+        <source>%1 sent you the contact '%2' (%3) ---</source>
         <translation>%1 le ha enviado el contacto «%2» (%3) ---</translation>
     </message>
     <message>
@@ -1330,7 +1330,7 @@
         <translation>La última vez que se cerró NIMB-Chat: %1</translation>
     </message>
     <message>
-        <source>The stored personalized state &quot;%1&quot; begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
+        <source>The stored personalized state "%1" begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
         <translation>El estado personalizado almacenado «%1» no empieza con la cifra de una imagen, por lo que se omite y se perderá definitivamente al cerrar NIMB-Chat.</translation>
     </message>
     <message>
@@ -1419,7 +1419,7 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no &quot;net&quot; command.</source>
+        <source>The message was not sent: this system has no "net" command.</source>
         <translation>El mensaje no se ha enviado: este sistema no tiene el comando «net».</translation>
     </message>
     <message>
@@ -1438,11 +1438,11 @@
 <context>
     <name>NetworkScan</name>
     <message>
-        <source>&quot;%1&quot; is neither a name nor the address of a computer or a network, so nobody was asked.</source>
+        <source>"%1" is neither a name nor the address of a computer or a network, so nobody was asked.</source>
         <translation>«%1» no es un nombre ni la dirección de un equipo o de una red, por lo que no se ha preguntado a nadie.</translation>
     </message>
     <message>
-        <source>No address was found for &quot;%1&quot;, so nobody was asked.</source>
+        <source>No address was found for "%1", so nobody was asked.</source>
         <translation>No se ha encontrado ninguna dirección para «%1», por lo que no se ha preguntado a nadie.</translation>
     </message>
     <message>
@@ -1582,7 +1582,7 @@
         <translation>Preguntar a todos los contactos si están en línea</translation>
     </message>
     <message>
-        <source>Only %1 personalized states are kept: &quot;%2&quot; lasts until NIMB-Chat ends.</source>
+        <source>Only %1 personalized states are kept: "%2" lasts until NIMB-Chat ends.</source>
         <translation>Solo se guardan %1 estados personalizados: «%2» dura hasta que se cierre NIMB-Chat.</translation>
     </message>
 </context>
@@ -1616,7 +1616,7 @@
         <translation>No es una imagen que NIMB-Chat pueda leer.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be opened.</source>
+        <source>"%1" cannot be opened.</source>
         <translation>No se puede abrir «%1».</translation>
     </message>
 </context>
@@ -1670,7 +1670,7 @@
         <translation>%1 se ha desconectado</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;</source>
+        <source>%1 changed his state to '%2'</source>
         <translation>%1 ha cambiado su estado a «%2»</translation>
     </message>
 </context>
@@ -1682,7 +1682,7 @@
     </message>
     <message>
         <source>%1 is offline: files can be sent when %1 is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está sin conexión: se podrán enviar archivos cuando %1 vuelva.</translation>
     </message>
 </context>
 <context>
@@ -1702,7 +1702,7 @@
 <context>
     <name>Program</name>
     <message>
-        <source>NIMBCHAT_ADDRESS is &quot;%1&quot;, which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
+        <source>NIMBCHAT_ADDRESS is "%1", which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
         <translation>NIMBCHAT_ADDRESS es «%1», que no es una dirección IPv4; NIMB-Chat escucha en todas las interfaces en su lugar.</translation>
     </message>
     <message>
@@ -1808,7 +1808,7 @@
 <context>
     <name>Settings</name>
     <message>
-        <source>The stored setting %1 cannot be &quot;%2&quot;; %3 is used instead.</source>
+        <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
         <translation>El ajuste almacenado %1 no puede ser «%2»; se utiliza %3 en su lugar.</translation>
     </message>
 </context>
@@ -1916,7 +1916,7 @@
     <name>nimb::ClearedBand</name>
     <message>
         <source>Bring it back</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperar</translation>
     </message>
 </context>
 <context>
@@ -2016,7 +2016,7 @@
         <translation>Mostrar a todos</translation>
     </message>
     <message>
-        <source>Nobody here is called &quot;%1&quot;</source>
+        <source>Nobody here is called "%1"</source>
         <translation>Aquí nadie se llama «%1»</translation>
     </message>
 </context>
@@ -2109,43 +2109,43 @@
     <message>
         <source> Keep them: %1</source>
         <comment>answers that can be clicked</comment>
-        <translation type="unfinished"></translation>
+        <translation> Guardarlas: %1</translation>
     </message>
     <message>
         <source>for a year</source>
-        <translation type="unfinished">durante un año</translation>
+        <translation>durante un año</translation>
     </message>
     <message>
         <source>for ever</source>
-        <translation type="unfinished">para siempre</translation>
+        <translation>para siempre</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished">no</translation>
+        <translation>no</translation>
     </message>
     <message>
         <source>Send it</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviarla</translation>
     </message>
     <message>
         <source>leave it</source>
-        <translation type="unfinished"></translation>
+        <translation>descartarla</translation>
     </message>
     <message>
         <source>Send files; the arrow, or the Down key, has folders too</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar archivos; para carpetas, use la flecha o la tecla Flecha abajo</translation>
     </message>
     <message>
         <source>Earlier troubles with files: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Problemas anteriores con archivos: %1.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Cerrar</translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Copy the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar el resto</translation>
     </message>
 </context>
 <context>
@@ -2299,11 +2299,11 @@
     </message>
     <message>
         <source>Files are offered at %1, which this computer no longer has: nobody can fetch them, until it has it again or you send them once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ofrecen archivos en la dirección %1, que este equipo ya no tiene: nadie puede descargarlos hasta que el equipo la recupere o usted los vuelva a enviar.</translation>
     </message>
     <message>
         <source>offered at %1, which this computer no longer has</source>
-        <translation type="unfinished"></translation>
+        <translation>ofrecido en la dirección %1, que este equipo ya no tiene</translation>
     </message>
 </context>
 <context>
@@ -2322,11 +2322,11 @@
     </message>
     <message>
         <source>Show all</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar todos</translation>
     </message>
     <message>
         <source>Hide</source>
-        <translation type="unfinished">Ocultar</translation>
+        <translation>Ocultar</translation>
     </message>
 </context>
 <context>
@@ -2427,7 +2427,7 @@
         <translation>Buscar en todo lo guardado</translation>
     </message>
     <message>
-        <source>Opens the history&apos;s window</source>
+        <source>Opens the history's window</source>
         <translation>Abre la ventana del historial</translation>
     </message>
     <message>
@@ -2446,7 +2446,7 @@
 <context>
     <name>nimb::HistoryModel</name>
     <message>
-        <source>%1, %2, in &quot;%3&quot;</source>
+        <source>%1, %2, in "%3"</source>
         <translation>%1, %2, en «%3»</translation>
     </message>
     <message>
@@ -2762,11 +2762,11 @@ Send it to %4?</source>
     </message>
     <message>
         <source>%1 no longer offers this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ya no ofrece este archivo.</translation>
     </message>
     <message>
         <source>checks what is there: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>comprobando lo ya recibido: %1 %</translation>
     </message>
 </context>
 <context>
@@ -2858,11 +2858,11 @@ Send it to %4?</source>
     <name>nimb::UnfinishedFiles</name>
     <message>
         <source>files that had not all come when NIMB-Chat ended: %2; %1 goes on with them</source>
-        <translation type="unfinished"></translation>
+        <translation>archivos incompletos al cerrarse NIMB-Chat: %2; %1 permite reanudarlos</translation>
     </message>
     <message>
         <source>Tools, Transfers...</source>
-        <translation type="unfinished"></translation>
+        <translation>Herramientas, Transferencias...</translation>
     </message>
 </context>
 <context>
@@ -2872,7 +2872,7 @@ Send it to %4?</source>
         <translation>Acerca de NIMB-Chat</translation>
     </message>
     <message>
-        <source>NIMB-Chat&apos;s picture</source>
+        <source>NIMB-Chat's picture</source>
         <translation>Imagen de NIMB-Chat</translation>
     </message>
     <message>
@@ -2884,7 +2884,7 @@ Send it to %4?</source>
         <translation>Versión %1</translation>
     </message>
     <message>
-        <source>A simple messenger that works with UDP/IP and it&apos;s been intended for use on a small LAN</source>
+        <source>A simple messenger that works with UDP/IP and it's been intended for use on a small LAN</source>
         <translation>Un programa de mensajería sencillo sobre UDP/IP, pensado para pequeñas redes locales</translation>
     </message>
     <message>
@@ -3271,7 +3271,7 @@ Send it to %4?</source>
         <translation>La &amp;conversación seleccionada</translation>
     </message>
     <message>
-        <source>Erase all that is kept of &quot;%1&quot; for good?</source>
+        <source>Erase all that is kept of "%1" for good?</source>
         <translation>¿Borrar definitivamente todo lo guardado de «%1»?</translation>
     </message>
     <message>
@@ -3463,7 +3463,7 @@ Send it to %4?</source>
         <translation>Todos en...</translation>
     </message>
     <message>
-        <source>Note: you can use broadcast IP to scan a whole network (e.g. let&apos;s say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
+        <source>Note: you can use broadcast IP to scan a whole network (e.g. let's say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
         <translation>Nota: puede utilizar la dirección IP de difusión para explorar toda una red (por ejemplo, si su dirección IP es 192.168.1.1 y su máscara de subred es 255.255.255.0, la dirección IP de difusión es 192.168.1.255)</translation>
     </message>
     <message>
@@ -3657,7 +3657,7 @@ Send it to %4?</source>
         <translation>Idioma</translation>
     </message>
     <message>
-        <source>the desktop&apos;s</source>
+        <source>the desktop's</source>
         <translation>el del escritorio</translation>
     </message>
     <message>
@@ -3741,7 +3741,7 @@ Send it to %4?</source>
         <translation>%1, %2 puntos</translation>
     </message>
     <message>
-        <source>the desktop&apos;s font: %1, %2 points</source>
+        <source>the desktop's font: %1, %2 points</source>
         <translation>la fuente del escritorio: %1, %2 puntos</translation>
     </message>
     <message>
@@ -3819,7 +3819,7 @@ Send it to %4?</source>
 <context>
     <name>nimb::frmSendContact</name>
     <message>
-        <source>NIMB-Chat - Send Contacts to &apos;%1&apos;</source>
+        <source>NIMB-Chat - Send Contacts to '%1'</source>
         <translation>NIMB-Chat - Enviar contactos a «%1»</translation>
     </message>
     <message>
@@ -4069,15 +4069,15 @@ Send it to %4?</source>
     </message>
     <message>
         <source>Save A&amp;ll...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar &amp;todo...</translation>
     </message>
     <message>
         <source>Saves all that is offered and has not been fetched, in one folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda en una sola carpeta todo lo que se ofrece y aún no se ha descargado</translation>
     </message>
     <message>
         <source>Save A&amp;ll (%1)...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar &amp;todo (%1)...</translation>
     </message>
 </context>
 </TS>

@@ -8,7 +8,7 @@
         <translation>Veuillez remplir tous les champs</translation>
     </message>
     <message>
-        <source>You can&apos;t add yourself...</source>
+        <source>You can't add yourself...</source>
         <translation>Vous ne pouvez pas vous ajouter vous-même...</translation>
     </message>
     <message>
@@ -17,15 +17,15 @@
     </message>
     <message>
         <source>This is not the address of one computer: everybody on the network hears what is sent there.</source>
-        <translation>Ce n’est pas l’adresse d’un seul ordinateur&#xa0;: tout le réseau reçoit ce qui y est envoyé.</translation>
+        <translation>Ce n’est pas l’adresse d’un seul ordinateur : tout le réseau reçoit ce qui y est envoyé.</translation>
     </message>
     <message>
         <source>This address cannot be kept: it marks the end of the stored list.</source>
-        <translation>Cette adresse ne peut pas être conservée&#xa0;: elle marque la fin de la liste enregistrée.</translation>
+        <translation>Cette adresse ne peut pas être conservée : elle marque la fin de la liste enregistrée.</translation>
     </message>
     <message>
         <source>This is no address such as 192.168.1.20: nothing can be sent there.</source>
-        <translation>Ce n’est pas une adresse comme 192.168.1.20&#xa0;: rien ne peut y être envoyé.</translation>
+        <translation>Ce n’est pas une adresse comme 192.168.1.20 : rien ne peut y être envoyé.</translation>
     </message>
 </context>
 <context>
@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>The camera stopped: %1</source>
-        <translation>La caméra s’est arrêtée&#xa0;: %1</translation>
+        <translation>La caméra s’est arrêtée : %1</translation>
     </message>
     <message>
         <source>The camera was unplugged.</source>
@@ -51,23 +51,23 @@
     </message>
     <message>
         <source>Conference #%1 (Hosted here) - NIMB-Chat</source>
-        <translation>Conférence n°&#xa0;%1 (hébergée ici) - NIMB-Chat</translation>
+        <translation>Conférence n° %1 (hébergée ici) - NIMB-Chat</translation>
     </message>
     <message>
-        <source>Conference #%1 (Hosted by &apos;%2&apos;) - NIMB-Chat</source>
-        <translation>Conférence n°&#xa0;%1 (hébergée par «&#xa0;%2&#xa0;») - NIMB-Chat</translation>
+        <source>Conference #%1 (Hosted by '%2') - NIMB-Chat</source>
+        <translation>Conférence n° %1 (hébergée par « %2 ») - NIMB-Chat</translation>
     </message>
     <message>
         <source>« NIMB-Chat [today:%1 - now:%2] Conference #%3 Ready »</source>
-        <translation>« NIMB-Chat [date&#xa0;: %1 - heure&#xa0;: %2] Conférence n°&#xa0;%3 prête »</translation>
+        <translation>« NIMB-Chat [date : %1 - heure : %2] Conférence n° %3 prête »</translation>
     </message>
     <message>
         <source>Conference #%1</source>
-        <translation>Conférence n°&#xa0;%1</translation>
+        <translation>Conférence n° %1</translation>
     </message>
     <message>
         <source>Conference #%1 of %2</source>
-        <translation>Conférence n°&#xa0;%1 de %2</translation>
+        <translation>Conférence n° %1 de %2</translation>
     </message>
     <message>
         <source>--- This conference is terminated.</source>
@@ -79,11 +79,11 @@
     </message>
     <message>
         <source>Closing that window will terminate the conference. Proceed?</source>
-        <translation>Fermer cette fenêtre mettra fin à la conférence. Continuer&#xa0;?</translation>
+        <translation>Fermer cette fenêtre mettra fin à la conférence. Continuer ?</translation>
     </message>
     <message>
         <source>Leave the conference?</source>
-        <translation>Quitter la conférence&#xa0;?</translation>
+        <translation>Quitter la conférence ?</translation>
     </message>
 </context>
 <context>
@@ -105,7 +105,7 @@
     <name>ConferenceTable</name>
     <message>
         <source>Sorry, conf windows are over!!!</source>
-        <translation>Plus aucune fenêtre de conférence n’est disponible&#xa0;!</translation>
+        <translation>Plus aucune fenêtre de conférence n’est disponible !</translation>
     </message>
 </context>
 <context>
@@ -131,36 +131,36 @@
         <translation>I&amp;nviter l’utilisateur</translation>
     </message>
     <message>
-        <source>Private chat with &apos;%1&apos;</source>
-        <translation>Discussion privée avec «&#xa0;%1&#xa0;»</translation>
+        <source>Private chat with '%1'</source>
+        <translation>Discussion privée avec « %1 »</translation>
     </message>
     <message>
-        <source>Buzz &apos;%1&apos;</source>
-        <translation>Envoyer un buzz à «&#xa0;%1&#xa0;»</translation>
+        <source>Buzz '%1'</source>
+        <translation>Envoyer un buzz à « %1 »</translation>
     </message>
     <message>
         <source>Remove %1 users from the list</source>
         <translation>Supprimer %1 utilisateurs de la liste</translation>
     </message>
     <message>
-        <source>Remove &apos;%1&apos; from the list</source>
-        <translation>Supprimer «&#xa0;%1&#xa0;» de la liste</translation>
+        <source>Remove '%1' from the list</source>
+        <translation>Supprimer « %1 » de la liste</translation>
     </message>
     <message>
-        <source>Send &amp;contacts to &apos;%1&apos;</source>
-        <translation>Envoyer des &amp;contacts à «&#xa0;%1&#xa0;»</translation>
+        <source>Send &amp;contacts to '%1'</source>
+        <translation>Envoyer des &amp;contacts à « %1 »</translation>
     </message>
     <message>
-        <source>&amp;Net send message to &apos;%1&apos;</source>
-        <translation>Envoyer un message &amp;net send à «&#xa0;%1&#xa0;»</translation>
+        <source>&amp;Net send message to '%1'</source>
+        <translation>Envoyer un message &amp;net send à « %1 »</translation>
     </message>
     <message>
-        <source>I&amp;nvite user &apos;%1&apos;</source>
-        <translation>I&amp;nviter «&#xa0;%1&#xa0;»</translation>
+        <source>I&amp;nvite user '%1'</source>
+        <translation>I&amp;nviter « %1 »</translation>
     </message>
     <message>
         <source>%1 (messages that wait to be read: %2)</source>
-        <translation>%1 (messages en attente de lecture&#xa0;: %2)</translation>
+        <translation>%1 (messages en attente de lecture : %2)</translation>
     </message>
     <message>
         <source>%1 on %2 (%3)</source>
@@ -168,27 +168,27 @@
     </message>
     <message>
         <source>%1 is offline: what you write does not arrive</source>
-        <translation>%1 est hors ligne&#xa0;: vos messages n’arriveront pas</translation>
+        <translation>%1 est hors ligne : vos messages n’arriveront pas</translation>
     </message>
     <message>
         <source>whether %1 is there is being asked: no window opens before that is known</source>
-        <translation>vérification de la présence de %1&#xa0;: aucune fenêtre ne s’ouvre avant la réponse</translation>
+        <translation>vérification de la présence de %1 : aucune fenêtre ne s’ouvre avant la réponse</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks, and shows you to your contacts</source>
-        <translation>présence de %1 inconnue&#xa0;: «&#xa0;Actualiser&#xa0;» pose la question et vous montre à vos contacts</translation>
+        <source>whether %1 is there is not known: "Rescan" asks, and shows you to your contacts</source>
+        <translation>présence de %1 inconnue : « Actualiser » pose la question et vous montre à vos contacts</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks</source>
-        <translation>présence de %1 inconnue&#xa0;: «&#xa0;Actualiser&#xa0;» pose la question</translation>
+        <source>whether %1 is there is not known: "Rescan" asks</source>
+        <translation>présence de %1 inconnue : « Actualiser » pose la question</translation>
     </message>
     <message>
-        <source>Are you sure you want to remove the user &apos;%1&apos; on workstation &apos;%2&apos; (%3) ?</source>
-        <translation>Voulez-vous vraiment supprimer l’utilisateur «&#xa0;%1&#xa0;» du poste «&#xa0;%2&#xa0;» (%3)&#xa0;?</translation>
+        <source>Are you sure you want to remove the user '%1' on workstation '%2' (%3) ?</source>
+        <translation>Voulez-vous vraiment supprimer l’utilisateur « %1 » du poste « %2 » (%3) ?</translation>
     </message>
     <message>
         <source>Are you sure you want to remove these %1 users?</source>
-        <translation>Voulez-vous vraiment supprimer ces %1 utilisateurs&#xa0;?</translation>
+        <translation>Voulez-vous vraiment supprimer ces %1 utilisateurs ?</translation>
     </message>
     <message>
         <source>... (%1 more)</source>
@@ -200,14 +200,14 @@
     </message>
     <message>
         <source>%1 contacts selected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 contacts sélectionnés</translation>
     </message>
 </context>
 <context>
     <name>ContactFile</name>
     <message>
-        <source>&quot;%1&quot; is not the address of one computer</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas l’adresse d’un seul ordinateur</translation>
+        <source>"%1" is not the address of one computer</source>
+        <translation>« %1 » n’est pas l’adresse d’un seul ordinateur</translation>
     </message>
     <message>
         <source>a name is empty</source>
@@ -223,7 +223,7 @@
     </message>
     <message>
         <source>it must be: %1</source>
-        <translation>il faut&#xa0;: %1</translation>
+        <translation>il faut : %1</translation>
     </message>
     <message>
         <source>its quotation marks do not fit</source>
@@ -250,17 +250,17 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1&#xa0;: %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>; line %1: %2</source>
-        <translation>&#xa0;; ligne %1&#xa0;: %2</translation>
+        <translation> ; ligne %1 : %2</translation>
     </message>
     <message numerus="yes">
         <source>; %n more</source>
         <translation>
-            <numerusform>&#xa0;; %n autre erreur</numerusform>
-            <numerusform>&#xa0;; %n autres erreurs</numerusform>
+            <numerusform> ; %n autre erreur</numerusform>
+            <numerusform> ; %n autres erreurs</numerusform>
         </translation>
     </message>
     <message>
@@ -269,11 +269,11 @@
     </message>
     <message>
         <source>contacts taken from %1: %2; there already: %3</source>
-        <translation>contacts importés de %1&#xa0;: %2&#xa0;; déjà présents&#xa0;: %3</translation>
+        <translation>contacts importés de %1 : %2 ; déjà présents : %3</translation>
     </message>
     <message>
         <source>; left out: your own address</source>
-        <translation>&#xa0;; ignorée&#xa0;: votre propre adresse</translation>
+        <translation> ; ignorée : votre propre adresse</translation>
     </message>
     <message>
         <source>the new contacts</source>
@@ -284,14 +284,14 @@
     <name>ContactTransfer</name>
     <message>
         <source>contacts sent to %1: %2</source>
-        <translation>contacts envoyés à %1&#xa0;: %2</translation>
+        <translation>contacts envoyés à %1 : %2</translation>
     </message>
 </context>
 <context>
     <name>Conversation</name>
     <message>
         <source>Last message: %1 @ %2</source>
-        <translation>Dernier message&#xa0;: %1 @ %2</translation>
+        <translation>Dernier message : %1 @ %2</translation>
     </message>
 </context>
 <context>
@@ -310,19 +310,19 @@
     </message>
     <message>
         <source>%1 cannot be read: %2.</source>
-        <translation>Lecture de %1 impossible&#xa0;: %2.</translation>
+        <translation>Lecture de %1 impossible : %2.</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2.</source>
-        <translation>Écriture de %1 impossible&#xa0;: %2.</translation>
+        <translation>Écriture de %1 impossible : %2.</translation>
     </message>
     <message>
         <source>contacts in %1: %2</source>
-        <translation>contacts dans %1&#xa0;: %2</translation>
+        <translation>contacts dans %1 : %2</translation>
     </message>
     <message>
         <source>contacts in %1: %2; left out, for nobody else could reach them: %3</source>
-        <translation>contacts dans %1&#xa0;: %2&#xa0;; omis, car personne d’autre ne pourrait les joindre&#xa0;: %3</translation>
+        <translation>contacts dans %1 : %2 ; omis, car personne d’autre ne pourrait les joindre : %3</translation>
     </message>
 </context>
 <context>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>%1 is no address such as 192.168.1.20: nothing can be sent there.</source>
-        <translation>%1 n’est pas une adresse comme 192.168.1.20&#xa0;: rien ne peut y être envoyé.</translation>
+        <translation>%1 n’est pas une adresse comme 192.168.1.20 : rien ne peut y être envoyé.</translation>
     </message>
     <message>
         <source>Remove the contact and add it with its address.</source>
@@ -349,7 +349,7 @@
     </message>
     <message>
         <source>%1 was not asked: you are invisible, and the question would show that you are here.</source>
-        <translation>La question n’a pas été envoyée à %1&#xa0;: vous êtes invisible, et elle révélerait votre présence.</translation>
+        <translation>La question n’a pas été envoyée à %1 : vous êtes invisible, et elle révélerait votre présence.</translation>
     </message>
     <message>
         <source>Choose another state first.</source>
@@ -381,7 +381,7 @@
     </message>
     <message>
         <source>NIMB-Chat was told to stay on this computer: it uses the loopback network.</source>
-        <translation>NIMB-Chat doit rester sur cet ordinateur&#xa0;: il utilise le réseau de bouclage.</translation>
+        <translation>NIMB-Chat doit rester sur cet ordinateur : il utilise le réseau de bouclage.</translation>
     </message>
     <message>
         <source>No network with an IPv4 address is connected.</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>Your address is %1 of the card %2, on which nobody can be found: it leads to a single machine, or to what runs inside this one.</source>
-        <translation>Votre adresse est %1, celle de la carte %2, où personne ne peut être trouvé&#xa0;: elle ne mène qu’à une seule machine ou à ce qui s’exécute dans celle-ci.</translation>
+        <translation>Votre adresse est %1, celle de la carte %2, où personne ne peut être trouvé : elle ne mène qu’à une seule machine ou à ce qui s’exécute dans celle-ci.</translation>
     </message>
     <message>
         <source>If the others are on another network, correct NIMBCHAT_ADDRESS.</source>
@@ -429,7 +429,7 @@
     </message>
     <message>
         <source>The network card %1, whose address the options name as yours, is not connected; your address is %2 of the card %3.</source>
-        <translation>La carte réseau %1, dont l’adresse est la vôtre selon les options, n’est pas connectée&#xa0;; votre adresse est %2, celle de la carte %3.</translation>
+        <translation>La carte réseau %1, dont l’adresse est la vôtre selon les options, n’est pas connectée ; votre adresse est %2, celle de la carte %3.</translation>
     </message>
     <message>
         <source>Connect that card, or choose another own address in Tools, Options.</source>
@@ -448,16 +448,16 @@
         <translation>Le système n’autorise pas NIMB-Chat à utiliser le port %1.</translation>
     </message>
     <message>
-        <source>Choose a port above 1023 in Tools, Options, the same as everybody else&apos;s.</source>
+        <source>Choose a port above 1023 in Tools, Options, the same as everybody else's.</source>
         <translation>Choisissez un port supérieur à 1023 dans Outils &gt; Options, le même que tous les autres.</translation>
     </message>
     <message>
         <source>Nothing listens: this machine does not have your address.</source>
-        <translation>Rien n’est à l’écoute&#xa0;: cette machine ne possède pas votre adresse.</translation>
+        <translation>Rien n’est à l’écoute : cette machine ne possède pas votre adresse.</translation>
     </message>
     <message>
         <source>Connect the network that has it; NIMB-Chat tries again every 5 seconds.</source>
-        <translation>Connectez le réseau qui la possède&#xa0;; NIMB-Chat réessaie toutes les 5&#xa0;secondes.</translation>
+        <translation>Connectez le réseau qui la possède ; NIMB-Chat réessaie toutes les 5 secondes.</translation>
     </message>
     <message>
         <source>Port %1 is used by the program %2 (process %3).</source>
@@ -465,15 +465,15 @@
     </message>
     <message>
         <source>Close that program; NIMB-Chat tries again every 5 seconds.</source>
-        <translation>Fermez ce programme&#xa0;; NIMB-Chat réessaie toutes les 5&#xa0;secondes.</translation>
+        <translation>Fermez ce programme ; NIMB-Chat réessaie toutes les 5 secondes.</translation>
     </message>
     <message>
         <source>Port %1 is used by another program.</source>
         <translation>Le port %1 est utilisé par un autre programme.</translation>
     </message>
     <message>
-        <source>&quot;sudo ss -ulpn sport = :%1&quot; shows which one.</source>
-        <translation>«&#xa0;sudo ss -ulpn sport = :%1&#xa0;» indique lequel.</translation>
+        <source>"sudo ss -ulpn sport = :%1" shows which one.</source>
+        <translation>« sudo ss -ulpn sport = :%1 » indique lequel.</translation>
     </message>
     <message>
         <source>NIMB-Chat does not listen on port %1.</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>NIMB-Chat tries again every 5 seconds; if that does not help, start it anew.</source>
-        <translation>NIMB-Chat réessaie toutes les 5&#xa0;secondes&#xa0;; si cela ne suffit pas, relancez-le.</translation>
+        <translation>NIMB-Chat réessaie toutes les 5 secondes ; si cela ne suffit pas, relancez-le.</translation>
     </message>
     <message>
         <source>UDP port %1 is free for NIMB-Chat, which does not run.</source>
@@ -497,15 +497,15 @@
     </message>
     <message>
         <source>The system keeps only %1 KiB of waiting datagrams: when many answer at once, some are lost.</source>
-        <translation>Le système ne garde que %1&#xa0;Kio de datagrammes en attente&#xa0;: quand beaucoup répondent à la fois, certains se perdent.</translation>
+        <translation>Le système ne garde que %1 Kio de datagrammes en attente : quand beaucoup répondent à la fois, certains se perdent.</translation>
     </message>
     <message>
-        <source>&quot;sudo sysctl -w net.core.rmem_max=4194304&quot; lets it keep more.</source>
-        <translation>«&#xa0;sudo sysctl -w net.core.rmem_max=4194304&#xa0;» lui permet d’en garder davantage.</translation>
+        <source>"sudo sysctl -w net.core.rmem_max=4194304" lets it keep more.</source>
+        <translation>« sudo sysctl -w net.core.rmem_max=4194304 » lui permet d’en garder davantage.</translation>
     </message>
     <message>
         <source>The system keeps %1 KiB of waiting datagrams.</source>
-        <translation>Le système garde %1&#xa0;Kio de datagrammes en attente.</translation>
+        <translation>Le système garde %1 Kio de datagrammes en attente.</translation>
     </message>
     <message>
         <source>A datagram to %1, yourself, came back.</source>
@@ -525,7 +525,7 @@
     </message>
     <message>
         <source>No datagram was sent to yourself, for the copy that runs would get it: its own network doctor tries it.</source>
-        <translation>Aucun datagramme n’a été envoyé à vous-même, car l’instance déjà lancée le recevrait&#xa0;: son propre diagnostic réseau fait l’essai.</translation>
+        <translation>Aucun datagramme n’a été envoyé à vous-même, car l’instance déjà lancée le recevrait : son propre diagnostic réseau fait l’essai.</translation>
     </message>
     <message>
         <source>Everybody on this computer can be asked.</source>
@@ -537,19 +537,19 @@
     </message>
     <message>
         <source>Add the others by their addresses: Users, Add offline user.</source>
-        <translation>Ajoutez les autres par leur adresse&#xa0;: Utilisateurs &gt; Ajouter un utilisateur hors ligne.</translation>
+        <translation>Ajoutez les autres par leur adresse : Utilisateurs &gt; Ajouter un utilisateur hors ligne.</translation>
     </message>
     <message>
         <source>A question to everybody leaves: %1.</source>
-        <translation>Une question à tout le monde part bien&#xa0;: %1.</translation>
+        <translation>Une question à tout le monde part bien : %1.</translation>
     </message>
     <message>
         <source>The system refuses to send to everybody: %1.</source>
-        <translation>Le système refuse l’envoi à tout le monde&#xa0;: %1.</translation>
+        <translation>Le système refuse l’envoi à tout le monde : %1.</translation>
     </message>
     <message>
         <source>A firewall on this computer keeps it in; let UDP out to that address.</source>
-        <translation>Un pare-feu de cet ordinateur la retient&#xa0;; autorisez l’UDP sortant vers cette adresse.</translation>
+        <translation>Un pare-feu de cet ordinateur la retient ; autorisez l’UDP sortant vers cette adresse.</translation>
     </message>
     <message>
         <source>No firewall is seen on this computer.</source>
@@ -561,11 +561,11 @@
     </message>
     <message>
         <source>The firewall %1 is on and keeps UDP port %2 out: nobody reaches you.</source>
-        <translation>Le pare-feu %1 est actif et bloque le port UDP %2&#xa0;: personne ne peut vous joindre.</translation>
+        <translation>Le pare-feu %1 est actif et bloque le port UDP %2 : personne ne peut vous joindre.</translation>
     </message>
     <message>
         <source>This opens the port: %1</source>
-        <translation>Pour ouvrir le port&#xa0;: %1</translation>
+        <translation>Pour ouvrir le port : %1</translation>
     </message>
     <message>
         <source>The firewall %1 is on and lets UDP port %2 in for some and not for others, as it seems.</source>
@@ -573,35 +573,35 @@
     </message>
     <message>
         <source>If others do not reach you, this opens the port for everybody: %1</source>
-        <translation>Si d’autres ne peuvent pas vous joindre, ceci ouvre le port à tout le monde&#xa0;: %1</translation>
+        <translation>Si d’autres ne peuvent pas vous joindre, ceci ouvre le port à tout le monde : %1</translation>
     </message>
     <message>
         <source>Only the administrator may see whether a firewall keeps UDP port %1 out.</source>
         <translation>Seul l’administrateur peut voir si un pare-feu bloque le port UDP %1.</translation>
     </message>
     <message>
-        <source>&quot;sudo nimb-chatctl doctor&quot; tells.</source>
-        <translation>«&#xa0;sudo nimb-chatctl doctor&#xa0;» l’indique.</translation>
+        <source>"sudo nimb-chatctl doctor" tells.</source>
+        <translation>« sudo nimb-chatctl doctor » l’indique.</translation>
     </message>
     <message>
         <source>This computer may have a firewall, and no program is here that shows all of its rules.</source>
         <translation>Cet ordinateur a peut-être un pare-feu, mais aucun programme présent n’en montre toutes les règles.</translation>
     </message>
     <message>
-        <source>&quot;sudo nft list ruleset&quot; and &quot;sudo iptables-legacy -S&quot; show them, of the packages nftables and iptables.</source>
-        <translation>«&#xa0;sudo nft list ruleset&#xa0;» et «&#xa0;sudo iptables-legacy -S&#xa0;» les montrent&#xa0;; ils font partie des paquets nftables et iptables.</translation>
+        <source>"sudo nft list ruleset" and "sudo iptables-legacy -S" show them, of the packages nftables and iptables.</source>
+        <translation>« sudo nft list ruleset » et « sudo iptables-legacy -S » les montrent ; ils font partie des paquets nftables et iptables.</translation>
     </message>
     <message>
         <source>The firewall %1 is on; only the administrator may see whether it lets UDP port %2 in.</source>
-        <translation>Le pare-feu %1 est actif&#xa0;; seul l’administrateur peut voir s’il autorise le port UDP %2.</translation>
+        <translation>Le pare-feu %1 est actif ; seul l’administrateur peut voir s’il autorise le port UDP %2.</translation>
     </message>
     <message>
         <source>The cards %1 and %2 are on the same network; your address is the one that was chosen.</source>
-        <translation>Les cartes %1 et %2 sont sur le même réseau&#xa0;; votre adresse est celle qui a été choisie.</translation>
+        <translation>Les cartes %1 et %2 sont sur le même réseau ; votre adresse est celle qui a été choisie.</translation>
     </message>
     <message>
         <source>The cards %1 and %2 are on the same network: others may see you under either address.</source>
-        <translation>Les cartes %1 et %2 sont sur le même réseau&#xa0;: les autres peuvent vous voir sous l’une ou l’autre adresse.</translation>
+        <translation>Les cartes %1 et %2 sont sur le même réseau : les autres peuvent vous voir sous l’une ou l’autre adresse.</translation>
     </message>
     <message>
         <source>Turn one of them off, or choose one as your own address in Tools, Options.</source>
@@ -617,7 +617,7 @@
     </message>
     <message>
         <source>A VPN is up (%1); your address is not on it.</source>
-        <translation>Un VPN est actif (%1)&#xa0;; votre adresse n’en fait pas partie.</translation>
+        <translation>Un VPN est actif (%1) ; votre adresse n’en fait pas partie.</translation>
     </message>
     <message>
         <source>There is no VPN, and no network has two cards of this computer.</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>%1 answered after %2 ms.</source>
-        <translation>%1 a répondu au bout de %2&#xa0;ms.</translation>
+        <translation>%1 a répondu au bout de %2 ms.</translation>
     </message>
     <message>
         <source>%1 did not answer, but the computer at %2 is there, or was a moment ago.</source>
@@ -633,7 +633,7 @@
     </message>
     <message>
         <source>A firewall there may keep UDP out, NIMB-Chat may not run there or its user may be invisible, or that copy does not know you yet: let both sides use Users, Find everybody here. Run the network doctor there as well.</source>
-        <translation>Là-bas, un pare-feu bloque peut-être l’UDP, NIMB-Chat n’est pas lancé, l’utilisateur est invisible, ou cette instance ne vous connaît pas encore&#xa0;: utilisez des deux côtés Utilisateurs &gt; Trouver tout le monde. Lancez-y aussi le diagnostic réseau.</translation>
+        <translation>Là-bas, un pare-feu bloque peut-être l’UDP, NIMB-Chat n’est pas lancé, l’utilisateur est invisible, ou cette instance ne vous connaît pas encore : utilisez des deux côtés Utilisateurs &gt; Trouver tout le monde. Lancez-y aussi le diagnostic réseau.</translation>
     </message>
     <message>
         <source>%1 did not answer, and no computer on your network has the address %2.</source>
@@ -649,15 +649,15 @@
     </message>
     <message>
         <source>What leads there must let UDP through in both directions; and what may be wrong on one network may be wrong there: a firewall, a copy that does not run, a user who is invisible.</source>
-        <translation>Tout ce qui y mène doit laisser passer l’UDP dans les deux sens&#xa0;; et les mêmes causes que sur un seul réseau sont possibles&#xa0;: un pare-feu, une instance non lancée, un utilisateur invisible.</translation>
+        <translation>Tout ce qui y mène doit laisser passer l’UDP dans les deux sens ; et les mêmes causes que sur un seul réseau sont possibles : un pare-feu, une instance non lancée, un utilisateur invisible.</translation>
     </message>
     <message>
         <source>%1 did not answer. The way to %2 is that of your address %3, but the options name the card %4, whose address %5 may not be reached from there.</source>
         <translation>%1 n’a pas répondu. Le chemin vers %2 passe par votre adresse %3, mais les options indiquent la carte %4, dont l’adresse %5 n’est peut-être pas joignable de là-bas.</translation>
     </message>
     <message>
-        <source>Choose &quot;automatic&quot; or the card of that network as your own address in Tools, Options.</source>
-        <translation>Choisissez «&#xa0;automatique&#xa0;» ou la carte de ce réseau comme adresse dans Outils &gt; Options.</translation>
+        <source>Choose "automatic" or the card of that network as your own address in Tools, Options.</source>
+        <translation>Choisissez « automatique » ou la carte de ce réseau comme adresse dans Outils &gt; Options.</translation>
     </message>
     <message>
         <source>private message</source>
@@ -705,7 +705,7 @@
     </message>
     <message>
         <source>Dropped since the start:</source>
-        <translation>Rejetés depuis le lancement&#xa0;:</translation>
+        <translation>Rejetés depuis le lancement :</translation>
     </message>
     <message>
         <source>nothing</source>
@@ -713,70 +713,70 @@
     </message>
     <message>
         <source>The latest datagrams:</source>
-        <translation>Derniers datagrammes&#xa0;:</translation>
+        <translation>Derniers datagrammes :</translation>
     </message>
 </context>
 <context>
     <name>DropCounts</name>
     <message>
         <source>From addresses that are no contacts: %1</source>
-        <translation>D’adresses qui ne sont pas des contacts&#xa0;: %1</translation>
+        <translation>D’adresses qui ne sont pas des contacts : %1</translation>
     </message>
     <message>
         <source>Incomplete commands: %1</source>
-        <translation>Commandes incomplètes&#xa0;: %1</translation>
+        <translation>Commandes incomplètes : %1</translation>
     </message>
     <message>
         <source>Commands that nothing here takes: %1</source>
-        <translation>Commandes non prises en charge&#xa0;: %1</translation>
+        <translation>Commandes non prises en charge : %1</translation>
     </message>
     <message>
         <source>For private windows that are not open: %1</source>
-        <translation>Pour des fenêtres privées non ouvertes&#xa0;: %1</translation>
+        <translation>Pour des fenêtres privées non ouvertes : %1</translation>
     </message>
     <message>
         <source>For conferences that are not there, or not to be had so: %1</source>
-        <translation>Pour des conférences inexistantes ou inaccessibles&#xa0;: %1</translation>
+        <translation>Pour des conférences inexistantes ou inaccessibles : %1</translation>
     </message>
     <message>
         <source>Addresses that cannot become contacts: %1</source>
-        <translation>Adresses qui ne peuvent pas devenir des contacts&#xa0;: %1</translation>
+        <translation>Adresses qui ne peuvent pas devenir des contacts : %1</translation>
     </message>
     <message>
         <source>New contacts while the list was full: %1</source>
-        <translation>Nouveaux contacts quand la liste était pleine&#xa0;: %1</translation>
+        <translation>Nouveaux contacts quand la liste était pleine : %1</translation>
     </message>
     <message>
         <source>Messages while too many waited to be read: %1</source>
-        <translation>Messages quand trop d’autres attendaient d’être lus&#xa0;: %1</translation>
+        <translation>Messages quand trop d’autres attendaient d’être lus : %1</translation>
     </message>
     <message>
         <source>Invitations while too many waited: %1</source>
-        <translation>Invitations quand trop d’autres attendaient&#xa0;: %1</translation>
+        <translation>Invitations quand trop d’autres attendaient : %1</translation>
     </message>
     <message>
         <source>Avatars while those of too many strangers were kept: %1</source>
-        <translation>Avatars quand ceux de trop d’inconnus étaient conservés&#xa0;: %1</translation>
+        <translation>Avatars quand ceux de trop d’inconnus étaient conservés : %1</translation>
     </message>
     <message>
         <source>Contacts that made room in a full list: %1</source>
-        <translation>Contacts ayant cédé leur place dans une liste pleine&#xa0;: %1</translation>
+        <translation>Contacts ayant cédé leur place dans une liste pleine : %1</translation>
     </message>
     <message>
         <source>Avatars and lists asked for or sent too often: %1</source>
-        <translation>Avatars et listes demandés ou envoyés trop souvent&#xa0;: %1</translation>
+        <translation>Avatars et listes demandés ou envoyés trop souvent : %1</translation>
     </message>
     <message>
         <source>Datagrams that could not be sent: %1</source>
-        <translation>Datagrammes qui n’ont pas pu être envoyés&#xa0;: %1</translation>
+        <translation>Datagrammes qui n’ont pas pu être envoyés : %1</translation>
     </message>
     <message>
         <source>Datagrams lost before they could be read: %1</source>
-        <translation>Datagrammes perdus avant d’avoir pu être lus&#xa0;: %1</translation>
+        <translation>Datagrammes perdus avant d’avoir pu être lus : %1</translation>
     </message>
     <message>
         <source>More than could wait, of the loudest senders: %1</source>
-        <translation>Excédent des expéditeurs les plus bavards&#xa0;: %1</translation>
+        <translation>Excédent des expéditeurs les plus bavards : %1</translation>
     </message>
     <message>
         <source>of them from %1: %2</source>
@@ -896,7 +896,7 @@
     <name>FileSource</name>
     <message>
         <source>%1 has changed since it was offered, so its transfer has ended.</source>
-        <translation>%1 a été modifié depuis sa mise à disposition&#xa0;; son transfert est terminé.</translation>
+        <translation>%1 a été modifié depuis sa mise à disposition ; son transfert est terminé.</translation>
     </message>
     <message>
         <source>%1 cannot be read.</source>
@@ -908,7 +908,7 @@
     </message>
     <message>
         <source>%1 cannot be sent: it cannot be read to its end.</source>
-        <translation>%1 ne peut pas être envoyé&#xa0;: impossible de le lire jusqu’à la fin.</translation>
+        <translation>%1 ne peut pas être envoyé : impossible de le lire jusqu’à la fin.</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
@@ -916,18 +916,18 @@
     </message>
     <message>
         <source>%1 left out of %2: %3. Links are not followed, and what cannot be read is not sent.</source>
-        <translation>Éléments de %2 omis (%1)&#xa0;: %3. Les liens ne sont pas suivis et ce qui ne peut pas être lu n’est pas envoyé.</translation>
+        <translation>Éléments de %2 omis (%1) : %3. Les liens ne sont pas suivis et ce qui ne peut pas être lu n’est pas envoyé.</translation>
     </message>
     <message>
         <source>%1 cannot be sent: it is no file or folder that can be read.</source>
-        <translation>%1 ne peut pas être envoyé&#xa0;: ce n’est ni un fichier ni un dossier lisible.</translation>
+        <translation>%1 ne peut pas être envoyé : ce n’est ni un fichier ni un dossier lisible.</translation>
     </message>
 </context>
 <context>
     <name>FolderSource</name>
     <message>
-        <source>There is no picture to show in &quot;%1&quot;.</source>
-        <translation>Il n’y a aucune image à afficher dans «&#xa0;%1&#xa0;».</translation>
+        <source>There is no picture to show in "%1".</source>
+        <translation>Il n’y a aucune image à afficher dans « %1 ».</translation>
     </message>
 </context>
 <context>
@@ -938,18 +938,18 @@
     </message>
     <message>
         <source>There is a copy of the settings, saved on %1 at %2. Is NIMB-Chat to go on with that copy? What is not used is kept under another name.</source>
-        <translation>Il existe une copie des paramètres, enregistrée le %1 à %2. NIMB-Chat doit-il continuer avec cette copie&#xa0;? Ce qui n’est pas utilisé est conservé sous un autre nom.</translation>
+        <translation>Il existe une copie des paramètres, enregistrée le %1 à %2. NIMB-Chat doit-il continuer avec cette copie ? Ce qui n’est pas utilisé est conservé sous un autre nom.</translation>
     </message>
     <message>
         <source>There is a copy of the settings, saved on %1 at %2; NIMB-Chat offers it when it is started without a nickname.</source>
-        <translation>Il existe une copie des paramètres, enregistrée le %1 à %2&#xa0;; NIMB-Chat la propose quand il est lancé sans pseudo.</translation>
+        <translation>Il existe une copie des paramètres, enregistrée le %1 à %2 ; NIMB-Chat la propose quand il est lancé sans pseudo.</translation>
     </message>
 </context>
 <context>
     <name>HistoryFile</name>
     <message>
         <source>The history was damaged, so a new one has been begun; %1 messages that could still be read went into it. The old file is %2.</source>
-        <translation>L’historique était endommagé, un nouveau a donc été commencé&#xa0;; %1 messages encore lisibles y ont été repris. L’ancien fichier est %2.</translation>
+        <translation>L’historique était endommagé, un nouveau a donc été commencé ; %1 messages encore lisibles y ont été repris. L’ancien fichier est %2.</translation>
     </message>
     <message>
         <source>a newer version of NIMB-Chat has written it</source>
@@ -960,7 +960,7 @@
     <name>HistoryKeeper</name>
     <message>
         <source>The history in %1 cannot be used now (%2); what was kept before is unchanged.</source>
-        <translation>L’historique dans %1 ne peut pas être utilisé actuellement (%2)&#xa0;; ce qui était déjà conservé reste inchangé.</translation>
+        <translation>L’historique dans %1 ne peut pas être utilisé actuellement (%2) ; ce qui était déjà conservé reste inchangé.</translation>
     </message>
 </context>
 <context>
@@ -971,7 +971,7 @@
     </message>
     <message>
         <source>%1 cannot be written: %2.</source>
-        <translation>Écriture de %1 impossible&#xa0;: %2.</translation>
+        <translation>Écriture de %1 impossible : %2.</translation>
     </message>
     <message>
         <source>The connection to the sender broke off.</source>
@@ -1003,30 +1003,30 @@
     </message>
     <message>
         <source>%1 cannot be renamed: %2.</source>
-        <translation>Impossible de renommer %1&#xa0;: %2.</translation>
+        <translation>Impossible de renommer %1 : %2.</translation>
     </message>
     <message>
         <source>There is too little room in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas assez de place dans %1.</translation>
     </message>
     <message>
         <source>There is no room any more in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a plus de place dans %1.</translation>
     </message>
     <message>
         <source>%1 cannot be written on: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de continuer l’écriture de %1 : %2.</translation>
     </message>
     <message>
         <source>%1 What has come is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Ce qui est arrivé est conservé.</translation>
     </message>
 </context>
 <context>
     <name>HttpFileServer</name>
     <message>
         <source>%1 cannot be sent: no port of this computer is free for it.</source>
-        <translation>%1 ne peut pas être envoyé&#xa0;: aucun port de cet ordinateur n’est libre pour cela.</translation>
+        <translation>%1 ne peut pas être envoyé : aucun port de cet ordinateur n’est libre pour cela.</translation>
     </message>
 </context>
 <context>
@@ -1040,14 +1040,14 @@
     <name>Invite</name>
     <message>
         <source>No user selected!</source>
-        <translation>Aucun utilisateur sélectionné&#xa0;!</translation>
+        <translation>Aucun utilisateur sélectionné !</translation>
     </message>
 </context>
 <context>
     <name>LogMarks</name>
     <message>
         <source>%1 was not online: this has probably not arrived</source>
-        <translation>%1 n’était pas en ligne&#xa0;: ce message n’est probablement pas arrivé</translation>
+        <translation>%1 n’était pas en ligne : ce message n’est probablement pas arrivé</translation>
     </message>
     <message>
         <source>Waits until %1 is back</source>
@@ -1062,7 +1062,7 @@
     <name>MainLog</name>
     <message>
         <source>« NIMB-Chat [today:%1 - now:%2] Ready »</source>
-        <translation>« NIMB-Chat [date&#xa0;: %1 - heure&#xa0;: %2] Prêt »</translation>
+        <translation>« NIMB-Chat [date : %1 - heure : %2] Prêt »</translation>
     </message>
     <message>
         <source>%1 is now called %2 ---</source>
@@ -1077,16 +1077,16 @@
         <translation>%1 est maintenant hors ligne ---</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;  ---</source>
-        <translation>%1 est maintenant à l’état «&#xa0;%2&#xa0;»  ---</translation>
+        <source>%1 changed his state to '%2'  ---</source>
+        <translation>%1 est maintenant à l’état « %2 »  ---</translation>
     </message>
     <message>
         <source>%1 buzzes you ---</source>
         <translation>%1 vous envoie un buzz ---</translation>
     </message>
     <message>
-        <source>%1 sent you the contact &apos;%2&apos; (%3) ---</source>
-        <translation>%1 vous a envoyé le contact «&#xa0;%2&#xa0;» (%3) ---</translation>
+        <source>%1 sent you the contact '%2' (%3) ---</source>
+        <translation>%1 vous a envoyé le contact « %2 » (%3) ---</translation>
     </message>
     <message>
         <source>--- unsupported command received (%1) ---</source>
@@ -1272,23 +1272,23 @@
     </message>
     <message>
         <source>Invite to Conference #&amp;1</source>
-        <translation>Inviter à la conférence n°&#xa0;&amp;1</translation>
+        <translation>Inviter à la conférence n° &amp;1</translation>
     </message>
     <message>
         <source>Invite to Conference #&amp;2</source>
-        <translation>Inviter à la conférence n°&#xa0;&amp;2</translation>
+        <translation>Inviter à la conférence n° &amp;2</translation>
     </message>
     <message>
         <source>Invite to Conference #&amp;3</source>
-        <translation>Inviter à la conférence n°&#xa0;&amp;3</translation>
+        <translation>Inviter à la conférence n° &amp;3</translation>
     </message>
     <message>
         <source>Invite to Conference #&amp;4</source>
-        <translation>Inviter à la conférence n°&#xa0;&amp;4</translation>
+        <translation>Inviter à la conférence n° &amp;4</translation>
     </message>
     <message>
         <source>Invite to Conference #&amp;5</source>
-        <translation>Inviter à la conférence n°&#xa0;&amp;5</translation>
+        <translation>Inviter à la conférence n° &amp;5</translation>
     </message>
     <message>
         <source>Send &amp;Contacts</source>
@@ -1319,38 +1319,38 @@
     <name>MainWindow</name>
     <message>
         <source>NIMB-Chat: %1, %2</source>
-        <translation>NIMB-Chat&#xa0;: %1, %2</translation>
+        <translation>NIMB-Chat : %1, %2</translation>
     </message>
     <message>
         <source>%1, %2 unread</source>
-        <translation>%1, non lus&#xa0;: %2</translation>
+        <translation>%1, non lus : %2</translation>
     </message>
     <message>
         <source>When NIMB-Chat last ended: %1</source>
-        <translation>À la dernière fermeture de NIMB-Chat&#xa0;: %1</translation>
+        <translation>À la dernière fermeture de NIMB-Chat : %1</translation>
     </message>
     <message>
-        <source>The stored personalized state &quot;%1&quot; begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
-        <translation>L’état personnalisé enregistré «&#xa0;%1&#xa0;» ne commence pas par un chiffre d’image&#xa0;; il est ignoré et disparaîtra définitivement à la fermeture de NIMB-Chat.</translation>
+        <source>The stored personalized state "%1" begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
+        <translation>L’état personnalisé enregistré « %1 » ne commence pas par un chiffre d’image ; il est ignoré et disparaîtra définitivement à la fermeture de NIMB-Chat.</translation>
     </message>
     <message>
         <source>--- this desktop shows no tray icon: NIMB-Chat is minimised instead of hidden ---</source>
-        <translation>--- ce bureau n’affiche pas d’icône de notification&#xa0;: NIMB-Chat est réduit au lieu d’être masqué ---</translation>
+        <translation>--- ce bureau n’affiche pas d’icône de notification : NIMB-Chat est réduit au lieu d’être masqué ---</translation>
     </message>
     <message>
         <source>Files that are still on their way would be broken off: %1. End NIMB-Chat all the same?</source>
-        <translation>Des fichiers encore en cours de transfert seraient interrompus&#xa0;: %1. Quitter NIMB-Chat quand même&#xa0;?</translation>
+        <translation>Des fichiers encore en cours de transfert seraient interrompus : %1. Quitter NIMB-Chat quand même ?</translation>
     </message>
     <message>
         <source>Messages that arrived while the program ended are lost: %1.</source>
-        <translation>Messages perdus, arrivés pendant la fermeture du programme&#xa0;: %1.</translation>
+        <translation>Messages perdus, arrivés pendant la fermeture du programme : %1.</translation>
     </message>
 </context>
 <context>
     <name>Messenger</name>
     <message>
         <source>Messages that waited to be read when the program ended are lost: %1.</source>
-        <translation>Messages perdus, encore non lus à la fermeture du programme&#xa0;: %1.</translation>
+        <translation>Messages perdus, encore non lus à la fermeture du programme : %1.</translation>
     </message>
 </context>
 <context>
@@ -1419,35 +1419,35 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no &quot;net&quot; command.</source>
-        <translation>Le message n’a pas été envoyé&#xa0;: ce système n’a pas de commande «&#xa0;net&#xa0;».</translation>
+        <source>The message was not sent: this system has no "net" command.</source>
+        <translation>Le message n’a pas été envoyé : ce système n’a pas de commande « net ».</translation>
     </message>
     <message>
         <source>The message was not sent: the program smbclient is not installed. Install the package smbclient (Debian, Ubuntu, Arch) or samba-client (Fedora) and send again.</source>
-        <translation>Le message n’a pas été envoyé&#xa0;: le programme smbclient n’est pas installé. Installez le paquet smbclient (Debian, Ubuntu, Arch) ou samba-client (Fedora), puis renvoyez le message.</translation>
+        <translation>Le message n’a pas été envoyé : le programme smbclient n’est pas installé. Installez le paquet smbclient (Debian, Ubuntu, Arch) ou samba-client (Fedora), puis renvoyez le message.</translation>
     </message>
     <message>
         <source>The message was not sent: no temporary file could be written (%1).</source>
-        <translation>Le message n’a pas été envoyé&#xa0;: impossible d’écrire un fichier temporaire (%1).</translation>
+        <translation>Le message n’a pas été envoyé : impossible d’écrire un fichier temporaire (%1).</translation>
     </message>
     <message>
         <source>The message was not sent: %1 could not be started (%2).</source>
-        <translation>Le message n’a pas été envoyé&#xa0;: impossible de lancer %1 (%2).</translation>
+        <translation>Le message n’a pas été envoyé : impossible de lancer %1 (%2).</translation>
     </message>
 </context>
 <context>
     <name>NetworkScan</name>
     <message>
-        <source>&quot;%1&quot; is neither a name nor the address of a computer or a network, so nobody was asked.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est ni un nom ni l’adresse d’un ordinateur ou d’un réseau&#xa0;; personne n’a été interrogé.</translation>
+        <source>"%1" is neither a name nor the address of a computer or a network, so nobody was asked.</source>
+        <translation>« %1 » n’est ni un nom ni l’adresse d’un ordinateur ou d’un réseau ; personne n’a été interrogé.</translation>
     </message>
     <message>
-        <source>No address was found for &quot;%1&quot;, so nobody was asked.</source>
-        <translation>Aucune adresse trouvée pour «&#xa0;%1&#xa0;»&#xa0;; personne n’a été interrogé.</translation>
+        <source>No address was found for "%1", so nobody was asked.</source>
+        <translation>Aucune adresse trouvée pour « %1 » ; personne n’a été interrogé.</translation>
     </message>
     <message>
         <source>%1 has too many addresses to be asked one by one: the largest range is /%2.</source>
-        <translation>%1 contient trop d’adresses pour les interroger une par une&#xa0;: la plus grande plage est /%2.</translation>
+        <translation>%1 contient trop d’adresses pour les interroger une par une : la plus grande plage est /%2.</translation>
     </message>
 </context>
 <context>
@@ -1474,11 +1474,11 @@
     </message>
     <message>
         <source>%1 in conference #%2</source>
-        <translation>%1 dans la conférence n°&#xa0;%2</translation>
+        <translation>%1 dans la conférence n° %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1&#xa0;: %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>new messages</source>
@@ -1516,7 +1516,7 @@
     </message>
     <message>
         <source>There is a network now: your address is %1</source>
-        <translation>Un réseau est maintenant disponible&#xa0;: votre adresse est %1</translation>
+        <translation>Un réseau est maintenant disponible : votre adresse est %1</translation>
     </message>
     <message>
         <source>Your address is now %1</source>
@@ -1524,15 +1524,15 @@
     </message>
     <message>
         <source>This computer has slept: your address is still %1</source>
-        <translation>Cet ordinateur était en veille&#xa0;: votre adresse est toujours %1</translation>
+        <translation>Cet ordinateur était en veille : votre adresse est toujours %1</translation>
     </message>
     <message>
         <source>The networks have changed: your address is still %1</source>
-        <translation>Les réseaux ont changé&#xa0;: votre adresse est toujours %1</translation>
+        <translation>Les réseaux ont changé : votre adresse est toujours %1</translation>
     </message>
     <message>
         <source>The network card %1, whose address the options name as yours, is not connected; your address is %2 until it is.</source>
-        <translation>La carte réseau %1, dont l’adresse est la vôtre selon les options, n’est pas connectée&#xa0;; en attendant, votre adresse est %2.</translation>
+        <translation>La carte réseau %1, dont l’adresse est la vôtre selon les options, n’est pas connectée ; en attendant, votre adresse est %2.</translation>
     </message>
     <message>
         <source>No network gives this computer an IPv4 address, so nobody can reach you. NIMB-Chat goes on as soon as one does.</source>
@@ -1563,7 +1563,7 @@
     </message>
     <message>
         <source>Status: %1</source>
-        <translation>État&#xa0;: %1</translation>
+        <translation>État : %1</translation>
     </message>
     <message>
         <source>AutoReply text (when Busy)</source>
@@ -1575,15 +1575,15 @@
     </message>
     <message>
         <source>You are invisible: rescanning shows you to your contacts</source>
-        <translation>Vous êtes invisible&#xa0;: actualiser vous montre à vos contacts</translation>
+        <translation>Vous êtes invisible : actualiser vous montre à vos contacts</translation>
     </message>
     <message>
         <source>Ask all contacts whether they are there</source>
         <translation>Demander à tous les contacts s’ils sont là</translation>
     </message>
     <message>
-        <source>Only %1 personalized states are kept: &quot;%2&quot; lasts until NIMB-Chat ends.</source>
-        <translation>Seuls %1 états personnalisés sont conservés&#xa0;: «&#xa0;%2&#xa0;» dure jusqu’à la fermeture de NIMB-Chat.</translation>
+        <source>Only %1 personalized states are kept: "%2" lasts until NIMB-Chat ends.</source>
+        <translation>Seuls %1 états personnalisés sont conservés : « %2 » dure jusqu’à la fermeture de NIMB-Chat.</translation>
     </message>
 </context>
 <context>
@@ -1616,8 +1616,8 @@
         <translation>Ce n’est pas une image que NIMB-Chat peut lire.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be opened.</source>
-        <translation>«&#xa0;%1&#xa0;» ne peut pas être ouvert.</translation>
+        <source>"%1" cannot be opened.</source>
+        <translation>« %1 » ne peut pas être ouvert.</translation>
     </message>
 </context>
 <context>
@@ -1632,7 +1632,7 @@
     </message>
     <message>
         <source>This machine does not have the address that NIMB-Chat was told to use, so nobody can reach you on port %1. Correct NIMBCHAT_ADDRESS, or connect the network: NIMB-Chat tries again every 5 seconds.</source>
-        <translation>Cette machine ne possède pas l’adresse indiquée à NIMB-Chat, personne ne peut donc vous joindre sur le port %1. Corrigez NIMBCHAT_ADDRESS ou connectez le réseau&#xa0;: NIMB-Chat réessaie toutes les 5&#xa0;secondes.</translation>
+        <translation>Cette machine ne possède pas l’adresse indiquée à NIMB-Chat, personne ne peut donc vous joindre sur le port %1. Corrigez NIMBCHAT_ADDRESS ou connectez le réseau : NIMB-Chat réessaie toutes les 5 secondes.</translation>
     </message>
     <message>
         <source>The system does not let NIMB-Chat use port %1, so nobody can reach you. Choose a port above 1023.</source>
@@ -1640,15 +1640,15 @@
     </message>
     <message>
         <source>The network cannot be used on port %1, so nobody can reach you. NIMB-Chat tries again every 5 seconds.</source>
-        <translation>Le réseau ne peut pas être utilisé sur le port %1, personne ne peut donc vous joindre. NIMB-Chat réessaie toutes les 5&#xa0;secondes.</translation>
+        <translation>Le réseau ne peut pas être utilisé sur le port %1, personne ne peut donc vous joindre. NIMB-Chat réessaie toutes les 5 secondes.</translation>
     </message>
     <message>
         <source>Port %1 is used by another program, so nobody can reach you. Close that program: NIMB-Chat tries again every 5 seconds.</source>
-        <translation>Le port %1 est utilisé par un autre programme, personne ne peut donc vous joindre. Fermez ce programme&#xa0;: NIMB-Chat réessaie toutes les 5&#xa0;secondes.</translation>
+        <translation>Le port %1 est utilisé par un autre programme, personne ne peut donc vous joindre. Fermez ce programme : NIMB-Chat réessaie toutes les 5 secondes.</translation>
     </message>
     <message>
         <source>Port %1 is free now: you can be reached.</source>
-        <translation>Le port %1 est maintenant libre&#xa0;: on peut vous joindre.</translation>
+        <translation>Le port %1 est maintenant libre : on peut vous joindre.</translation>
     </message>
     <message>
         <source>You can be reached on port %1 again.</source>
@@ -1670,19 +1670,19 @@
         <translation>%1 est maintenant hors ligne</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;</source>
-        <translation>%1 est maintenant à l’état «&#xa0;%2&#xa0;»</translation>
+        <source>%1 changed his state to '%2'</source>
+        <translation>%1 est maintenant à l’état « %2 »</translation>
     </message>
 </context>
 <context>
     <name>PrivateChat</name>
     <message>
         <source>« NIMB-Chat [today:%1 - now:%2] Ready »</source>
-        <translation>« NIMB-Chat [date&#xa0;: %1 - heure&#xa0;: %2] Prêt »</translation>
+        <translation>« NIMB-Chat [date : %1 - heure : %2] Prêt »</translation>
     </message>
     <message>
         <source>%1 is offline: files can be sent when %1 is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est hors ligne : vous pourrez envoyer des fichiers au retour de %1.</translation>
     </message>
 </context>
 <context>
@@ -1702,12 +1702,12 @@
 <context>
     <name>Program</name>
     <message>
-        <source>NIMBCHAT_ADDRESS is &quot;%1&quot;, which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
-        <translation>NIMBCHAT_ADDRESS vaut «&#xa0;%1&#xa0;», qui n’est pas une adresse IPv4&#xa0;; NIMB-Chat écoute donc sur toutes les interfaces.</translation>
+        <source>NIMBCHAT_ADDRESS is "%1", which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
+        <translation>NIMBCHAT_ADDRESS vaut « %1 », qui n’est pas une adresse IPv4 ; NIMB-Chat écoute donc sur toutes les interfaces.</translation>
     </message>
     <message>
         <source>The system grants %1 KiB for waiting datagrams instead of %2 KiB: sudden bursts may be lost.</source>
-        <translation>Le système accorde %1&#xa0;Kio aux datagrammes en attente au lieu de %2&#xa0;Kio&#xa0;: en cas d’afflux soudain, certains peuvent se perdre.</translation>
+        <translation>Le système accorde %1 Kio aux datagrammes en attente au lieu de %2 Kio : en cas d’afflux soudain, certains peuvent se perdre.</translation>
     </message>
 </context>
 <context>
@@ -1721,11 +1721,11 @@
     <name>Recovery</name>
     <message>
         <source>--- NIMB-Chat could not save everything when it last ended: what had changed is taken over ---</source>
-        <translation>--- NIMB-Chat n’a pas pu tout enregistrer à sa dernière fermeture&#xa0;: les changements sont repris ---</translation>
+        <translation>--- NIMB-Chat n’a pas pu tout enregistrer à sa dernière fermeture : les changements sont repris ---</translation>
     </message>
     <message>
         <source>--- NIMB-Chat could not save everything when it last ended: what had changed is taken over, but for %1 damaged values ---</source>
-        <translation>--- NIMB-Chat n’a pas pu tout enregistrer à sa dernière fermeture&#xa0;: les changements sont repris, sauf %1 valeurs endommagées ---</translation>
+        <translation>--- NIMB-Chat n’a pas pu tout enregistrer à sa dernière fermeture : les changements sont repris, sauf %1 valeurs endommagées ---</translation>
     </message>
 </context>
 <context>
@@ -1750,11 +1750,11 @@
     <name>Search</name>
     <message>
         <source>No network of this computer leads to %1, so nobody was asked.</source>
-        <translation>Aucun réseau de cet ordinateur ne mène à %1&#xa0;; personne n’a été interrogé.</translation>
+        <translation>Aucun réseau de cet ordinateur ne mène à %1 ; personne n’a été interrogé.</translation>
     </message>
     <message>
         <source>asking %1 who is there</source>
-        <translation>question envoyée à %1&#xa0;: qui est là&#xa0;?</translation>
+        <translation>question envoyée à %1 : qui est là ?</translation>
     </message>
     <message>
         <source>stopped when %1 of %2 had been asked</source>
@@ -1762,7 +1762,7 @@
     </message>
     <message>
         <source>nobody was asked: you are invisible, and the question would show everybody that you are there</source>
-        <translation>personne n’a été interrogé&#xa0;: vous êtes invisible, et la question révélerait votre présence à tous</translation>
+        <translation>personne n’a été interrogé : vous êtes invisible, et la question révélerait votre présence à tous</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
@@ -1770,7 +1770,7 @@
     </message>
     <message>
         <source>nobody can be asked: no network is connected</source>
-        <translation>personne ne peut être interrogé&#xa0;: aucun réseau n’est connecté</translation>
+        <translation>personne ne peut être interrogé : aucun réseau n’est connecté</translation>
     </message>
     <message>
         <source>everybody on %1</source>
@@ -1782,19 +1782,19 @@
     </message>
     <message>
         <source>nobody is asked any more: you are invisible</source>
-        <translation>plus personne n’est interrogé&#xa0;: vous êtes invisible</translation>
+        <translation>plus personne n’est interrogé : vous êtes invisible</translation>
     </message>
     <message>
         <source>%1 is your own address: nobody else hears what is sent there</source>
-        <translation>%1 est votre propre adresse&#xa0;: personne d’autre ne reçoit ce qui y est envoyé</translation>
+        <translation>%1 est votre propre adresse : personne d’autre ne reçoit ce qui y est envoyé</translation>
     </message>
     <message>
         <source>nobody answered: no network is connected, so only this computer was asked</source>
-        <translation>aucune réponse&#xa0;: aucun réseau n’est connecté, seul cet ordinateur a donc été interrogé</translation>
+        <translation>aucune réponse : aucun réseau n’est connecté, seul cet ordinateur a donc été interrogé</translation>
     </message>
     <message>
         <source>nobody answered: nobody may be there, a firewall may be in the way, or the network may keep its machines apart; %1 looks which</source>
-        <translation>aucune réponse&#xa0;: il n’y a peut-être personne, un pare-feu fait peut-être obstacle, ou le réseau isole ses machines&#xa0;; %1 en cherche la cause</translation>
+        <translation>aucune réponse : il n’y a peut-être personne, un pare-feu fait peut-être obstacle, ou le réseau isole ses machines ; %1 en cherche la cause</translation>
     </message>
     <message>
         <source>Help, Network doctor...</source>
@@ -1802,14 +1802,14 @@
     </message>
     <message>
         <source>%1 answered: %2; %3 new</source>
-        <translation>réponses reçues&#xa0;: %1 (%2)&#xa0;; nouveaux contacts&#xa0;: %3</translation>
+        <translation>réponses reçues : %1 (%2) ; nouveaux contacts : %3</translation>
     </message>
 </context>
 <context>
     <name>Settings</name>
     <message>
-        <source>The stored setting %1 cannot be &quot;%2&quot;; %3 is used instead.</source>
-        <translation>Le paramètre enregistré %1 ne peut pas valoir «&#xa0;%2&#xa0;»&#xa0;; %3 est utilisé à la place.</translation>
+        <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
+        <translation>Le paramètre enregistré %1 ne peut pas valoir « %2 » ; %3 est utilisé à la place.</translation>
     </message>
 </context>
 <context>
@@ -1843,27 +1843,27 @@
     <name>SqliteSettingsStore</name>
     <message>
         <source>The settings were not saved in %1 (%2), so what was changed since the last save is not kept; what was stored before is unchanged.</source>
-        <translation>Les paramètres n’ont pas été enregistrés dans %1 (%2)&#xa0;; les changements depuis le dernier enregistrement ne sont pas conservés, ce qui était enregistré avant reste inchangé.</translation>
+        <translation>Les paramètres n’ont pas été enregistrés dans %1 (%2) ; les changements depuis le dernier enregistrement ne sont pas conservés, ce qui était enregistré avant reste inchangé.</translation>
     </message>
     <message>
         <source>What has changed cannot be kept in %1 now (%2), so it would be lost if NIMB-Chat ended before it can save.</source>
-        <translation>Les changements ne peuvent pas être enregistrés dans %1 actuellement (%2)&#xa0;; ils seraient perdus si NIMB-Chat se fermait avant d’avoir pu le faire.</translation>
+        <translation>Les changements ne peuvent pas être enregistrés dans %1 actuellement (%2) ; ils seraient perdus si NIMB-Chat se fermait avant d’avoir pu le faire.</translation>
     </message>
     <message>
         <source>The settings folder %1 cannot be made (%2), so the program starts with its defaults and keeps no settings.</source>
-        <translation>Le dossier de paramètres %1 ne peut pas être créé (%2)&#xa0;; le programme démarre avec ses valeurs par défaut et ne conserve aucun paramètre.</translation>
+        <translation>Le dossier de paramètres %1 ne peut pas être créé (%2) ; le programme démarre avec ses valeurs par défaut et ne conserve aucun paramètre.</translation>
     </message>
     <message>
         <source>The settings file %1 cannot be made (%2), so the program starts with its defaults and keeps no settings.</source>
-        <translation>Le fichier de paramètres %1 ne peut pas être créé (%2)&#xa0;; le programme démarre avec ses valeurs par défaut et ne conserve aucun paramètre.</translation>
+        <translation>Le fichier de paramètres %1 ne peut pas être créé (%2) ; le programme démarre avec ses valeurs par défaut et ne conserve aucun paramètre.</translation>
     </message>
     <message>
         <source>The settings in %1 cannot be read (%2), so the program starts with its defaults and leaves the file as it is.</source>
-        <translation>Les paramètres dans %1 ne peuvent pas être lus (%2)&#xa0;; le programme démarre avec ses valeurs par défaut et laisse le fichier tel quel.</translation>
+        <translation>Les paramètres dans %1 ne peuvent pas être lus (%2) ; le programme démarre avec ses valeurs par défaut et laisse le fichier tel quel.</translation>
     </message>
     <message>
         <source>The settings in %1 cannot be changed (%2), so what you change is forgotten when the program ends.</source>
-        <translation>Les paramètres dans %1 ne peuvent pas être modifiés (%2)&#xa0;; vos changements seront oubliés à la fermeture du programme.</translation>
+        <translation>Les paramètres dans %1 ne peuvent pas être modifiés (%2) ; vos changements seront oubliés à la fermeture du programme.</translation>
     </message>
     <message>
         <source>they could not be read when the program started and would be lost</source>
@@ -1879,7 +1879,7 @@
     </message>
     <message>
         <source>The copy %1 cannot take the place of the settings (%2), so the program goes on without them.</source>
-        <translation>La copie %1 ne peut pas remplacer les paramètres (%2)&#xa0;; le programme continue sans eux.</translation>
+        <translation>La copie %1 ne peut pas remplacer les paramètres (%2) ; le programme continue sans eux.</translation>
     </message>
     <message>
         <source>The settings were saved, but the copy of them in %1 could not be renewed (%2).</source>
@@ -1890,11 +1890,11 @@
     <name>TipOfTheDay</name>
     <message>
         <source>Tip of the Day - Tip #%1</source>
-        <translation>Astuce du jour - Astuce n°&#xa0;%1</translation>
+        <translation>Astuce du jour - Astuce n° %1</translation>
     </message>
     <message>
         <source>There are no tips to show: the file TOTD.txt, which came with the program, is missing or cannot be read.</source>
-        <translation>Il n’y a aucune astuce à afficher&#xa0;: le fichier TOTD.txt, fourni avec le programme, est absent ou illisible.</translation>
+        <translation>Il n’y a aucune astuce à afficher : le fichier TOTD.txt, fourni avec le programme, est absent ou illisible.</translation>
     </message>
     <message>
         <source>Tip of the Day</source>
@@ -1916,14 +1916,14 @@
     <name>nimb::ClearedBand</name>
     <message>
         <source>Bring it back</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir</translation>
     </message>
 </context>
 <context>
     <name>nimb::ConsoleDoctor</name>
     <message>
         <source>The settings in %1 cannot be read, so those of a fresh copy are taken: %2</source>
-        <translation>Les paramètres dans %1 ne peuvent pas être lus, ceux d’une nouvelle installation sont utilisés&#xa0;: %2</translation>
+        <translation>Les paramètres dans %1 ne peuvent pas être lus, ceux d’une nouvelle installation sont utilisés : %2</translation>
     </message>
 </context>
 <context>
@@ -1961,7 +1961,7 @@
     </message>
     <message>
         <source>%1 to be sent</source>
-        <translation>à envoyer&#xa0;: %1</translation>
+        <translation>à envoyer : %1</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -1970,7 +1970,7 @@
     </message>
     <message>
         <source>%1 unread</source>
-        <translation>non lus&#xa0;: %1</translation>
+        <translation>non lus : %1</translation>
     </message>
     <message>
         <source>Nickname</source>
@@ -2016,8 +2016,8 @@
         <translation>Afficher tout le monde</translation>
     </message>
     <message>
-        <source>Nobody here is called &quot;%1&quot;</source>
-        <translation>Personne ici ne s’appelle «&#xa0;%1&#xa0;»</translation>
+        <source>Nobody here is called "%1"</source>
+        <translation>Personne ici ne s’appelle « %1 »</translation>
     </message>
 </context>
 <context>
@@ -2104,48 +2104,48 @@
     </message>
     <message>
         <source>A message holds %1 characters; the last %2 of what you pasted did not fit.</source>
-        <translation>Un message contient au plus %1 caractères&#xa0;; les %2 derniers du texte collé n’ont pas pu être insérés.</translation>
+        <translation>Un message contient au plus %1 caractères ; les %2 derniers du texte collé n’ont pas pu être insérés.</translation>
     </message>
     <message>
         <source> Keep them: %1</source>
         <comment>answers that can be clicked</comment>
-        <translation type="unfinished"></translation>
+        <translation> Les conserver : %1</translation>
     </message>
     <message>
         <source>for a year</source>
-        <translation type="unfinished">pendant un an</translation>
+        <translation>pendant un an</translation>
     </message>
     <message>
         <source>for ever</source>
-        <translation type="unfinished">indéfiniment</translation>
+        <translation>indéfiniment</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished">non</translation>
+        <translation>non</translation>
     </message>
     <message>
         <source>Send it</source>
-        <translation type="unfinished"></translation>
+        <translation>L’envoyer</translation>
     </message>
     <message>
         <source>leave it</source>
-        <translation type="unfinished"></translation>
+        <translation>ne pas l’envoyer</translation>
     </message>
     <message>
         <source>Send files; the arrow, or the Down key, has folders too</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoyer des fichiers ; pour un dossier, utilisez la flèche ou la touche Bas</translation>
     </message>
     <message>
         <source>Earlier troubles with files: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Problèmes précédents avec des fichiers : %1.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Fermer</translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Copy the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier le reste</translation>
     </message>
 </context>
 <context>
@@ -2215,11 +2215,11 @@
     </message>
     <message>
         <source>At most %1 files are sent at once: put more of them into a folder and send that.</source>
-        <translation>Au plus %1 fichiers peuvent être envoyés à la fois&#xa0;: placez-les dans un dossier et envoyez celui-ci.</translation>
+        <translation>Au plus %1 fichiers peuvent être envoyés à la fois : placez-les dans un dossier et envoyez celui-ci.</translation>
     </message>
     <message>
         <source>At most %1 files can be offered at a time: stop some under Tools &gt; Transfers...</source>
-        <translation>Au plus %1 fichiers peuvent être proposés à la fois&#xa0;: arrêtez-en certains dans Outils &gt; Transferts...</translation>
+        <translation>Au plus %1 fichiers peuvent être proposés à la fois : arrêtez-en certains dans Outils &gt; Transferts...</translation>
     </message>
     <message>
         <source>There is nobody here to whom a file could be sent.</source>
@@ -2227,7 +2227,7 @@
     </message>
     <message>
         <source>Files are not encrypted on their way: whoever can listen in on this network can read them.</source>
-        <translation>Les fichiers ne sont pas chiffrés pendant leur transfert&#xa0;: quiconque peut écouter ce réseau peut les lire.</translation>
+        <translation>Les fichiers ne sont pas chiffrés pendant leur transfert : quiconque peut écouter ce réseau peut les lire.</translation>
     </message>
     <message>
         <source>its time is over</source>
@@ -2267,11 +2267,11 @@
     </message>
     <message>
         <source>%1 % to %2</source>
-        <translation>%1&#xa0;% vers %2</translation>
+        <translation>%1 % vers %2</translation>
     </message>
     <message>
         <source>fetched: %1</source>
-        <translation>téléchargements&#xa0;: %1</translation>
+        <translation>téléchargements : %1</translation>
     </message>
     <message>
         <source>not fetched yet</source>
@@ -2283,7 +2283,7 @@
     </message>
     <message>
         <source>over: %1</source>
-        <translation>terminé&#xa0;: %1</translation>
+        <translation>terminé : %1</translation>
     </message>
     <message>
         <source>%1 %2</source>
@@ -2299,18 +2299,18 @@
     </message>
     <message>
         <source>Files are offered at %1, which this computer no longer has: nobody can fetch them, until it has it again or you send them once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des fichiers sont proposés à l’adresse %1, que cet ordinateur ne possède plus : personne ne peut les télécharger tant qu’il ne l’a pas retrouvée ou que vous ne les avez pas renvoyés.</translation>
     </message>
     <message>
         <source>offered at %1, which this computer no longer has</source>
-        <translation type="unfinished"></translation>
+        <translation>proposé à l’adresse %1, que cet ordinateur ne possède plus</translation>
     </message>
 </context>
 <context>
     <name>nimb::FilePanel</name>
     <message>
         <source>Further files: %1.</source>
-        <translation>Autres fichiers&#xa0;: %1.</translation>
+        <translation>Autres fichiers : %1.</translation>
     </message>
     <message>
         <source>Save all...</source>
@@ -2322,11 +2322,11 @@
     </message>
     <message>
         <source>Show all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout afficher</translation>
     </message>
     <message>
         <source>Hide</source>
-        <translation type="unfinished">Masquer</translation>
+        <translation>Masquer</translation>
     </message>
 </context>
 <context>
@@ -2357,7 +2357,7 @@
     </message>
     <message>
         <source>Hide this row; Tools &gt; Transfers... still has it</source>
-        <translation>Masque cette ligne&#xa0;; le menu Outils &gt; Transferts... la conserve</translation>
+        <translation>Masque cette ligne ; le menu Outils &gt; Transferts... la conserve</translation>
     </message>
     <message>
         <source>Hide</source>
@@ -2400,7 +2400,7 @@
     </message>
     <message>
         <source>Searches this conversation; Ctrl+H searches everything that was kept</source>
-        <translation>Recherche dans cette conversation&#xa0;; Ctrl+H recherche dans tout ce qui a été conservé</translation>
+        <translation>Recherche dans cette conversation ; Ctrl+H recherche dans tout ce qui a été conservé</translation>
     </message>
     <message>
         <source>Aa</source>
@@ -2427,7 +2427,7 @@
         <translation>Rechercher dans tout l’historique</translation>
     </message>
     <message>
-        <source>Opens the history&apos;s window</source>
+        <source>Opens the history's window</source>
         <translation>Ouvre la fenêtre de l’historique</translation>
     </message>
     <message>
@@ -2446,8 +2446,8 @@
 <context>
     <name>nimb::HistoryModel</name>
     <message>
-        <source>%1, %2, in &quot;%3&quot;</source>
-        <translation>%1, %2, dans «&#xa0;%3&#xa0;»</translation>
+        <source>%1, %2, in "%3"</source>
+        <translation>%1, %2, dans « %3 »</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -2458,7 +2458,7 @@
     <name>nimb::InvitationList</name>
     <message>
         <source>%1 minute(s)</source>
-        <translation>%1&#xa0;min</translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>Refused</source>
@@ -2513,7 +2513,7 @@
     </message>
     <message>
         <source>Ann: Good morning!</source>
-        <translation>Anne&#xa0;: Bonjour&#xa0;!</translation>
+        <translation>Anne : Bonjour !</translation>
     </message>
     <message>
         <source>OK</source>
@@ -2525,11 +2525,11 @@
     </message>
     <message>
         <source>&amp;Family:</source>
-        <translation>&amp;Famille&#xa0;:</translation>
+        <translation>&amp;Famille :</translation>
     </message>
     <message>
         <source>&amp;Size:</source>
-        <translation>&amp;Taille&#xa0;:</translation>
+        <translation>&amp;Taille :</translation>
     </message>
     <message>
         <source>%1 (not installed)</source>
@@ -2565,7 +2565,7 @@
     </message>
     <message>
         <source>%1 messages wait to be sent already, and no more can.</source>
-        <translation>%1 messages attendent déjà d’être envoyés&#xa0;; il n’y a pas de place pour d’autres.</translation>
+        <translation>%1 messages attendent déjà d’être envoyés ; il n’y a pas de place pour d’autres.</translation>
     </message>
     <message>
         <source>--- a message that waited for %1, who is no contact any more, is not sent ---</source>
@@ -2585,7 +2585,7 @@
 Send it to %4?</source>
         <translation>Votre message pour %1 (%2) attend d’être envoyé à %3. %4 (%5) s’y trouve maintenant.
 
-L’envoyer à %4&#xa0;?</translation>
+L’envoyer à %4 ?</translation>
     </message>
     <message>
         <source>--- what you wrote to %1 on %2 was not sent within seven days ---</source>
@@ -2627,20 +2627,20 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>waiting: %1</source>
-        <translation>en attente&#xa0;: %1</translation>
+        <translation>en attente : %1</translation>
     </message>
     <message>
         <source>waiting to be sent: %1</source>
-        <translation>en attente d’envoi&#xa0;: %1</translation>
+        <translation>en attente d’envoi : %1</translation>
     </message>
     <message>
         <source>%1; %2</source>
         <comment>two parts of a sentence</comment>
-        <translation>%1&#xa0;; %2</translation>
+        <translation>%1 ; %2</translation>
     </message>
     <message>
         <source>%1 is not known to be there: what you write is sent when %1 is back</source>
-        <translation>Présence de %1 inconnue&#xa0;: vos messages seront envoyés au retour de %1</translation>
+        <translation>Présence de %1 inconnue : vos messages seront envoyés au retour de %1</translation>
     </message>
     <message>
         <source>%1 is not known to be there</source>
@@ -2648,11 +2648,11 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>%1 is not known to be there: what you write may not arrive</source>
-        <translation>Présence de %1 inconnue&#xa0;: vos messages n’arriveront peut-être pas</translation>
+        <translation>Présence de %1 inconnue : vos messages n’arriveront peut-être pas</translation>
     </message>
     <message>
         <source>%1 is offline: what you write is sent when %1 is back</source>
-        <translation>%1 est hors ligne&#xa0;: vos messages seront envoyés au retour de %1</translation>
+        <translation>%1 est hors ligne : vos messages seront envoyés au retour de %1</translation>
     </message>
     <message>
         <source>%1 is offline</source>
@@ -2660,11 +2660,11 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>%1 is offline: what you write does not arrive</source>
-        <translation>%1 est hors ligne&#xa0;: vos messages n’arriveront pas</translation>
+        <translation>%1 est hors ligne : vos messages n’arriveront pas</translation>
     </message>
     <message>
         <source>%1 is no contact any more: what comes from there is not shown</source>
-        <translation>%1 ne fait plus partie des contacts&#xa0;: ses messages ne sont pas affichés</translation>
+        <translation>%1 ne fait plus partie des contacts : ses messages ne sont pas affichés</translation>
     </message>
     <message>
         <source>Do not send later</source>
@@ -2687,11 +2687,11 @@ L’envoyer à %4&#xa0;?</translation>
     <name>nimb::PersonalizedStateFrame</name>
     <message>
         <source>&amp;State:</source>
-        <translation>É&amp;tat&#xa0;:</translation>
+        <translation>É&amp;tat :</translation>
     </message>
     <message>
         <source>Te&amp;xt:</source>
-        <translation>Te&amp;xte&#xa0;:</translation>
+        <translation>Te&amp;xte :</translation>
     </message>
     <message>
         <source>OK</source>
@@ -2718,15 +2718,15 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>%1 % of %2, %3 a second</source>
-        <translation>%1&#xa0;% de %2, %3/s</translation>
+        <translation>%1 % de %2, %3/s</translation>
     </message>
     <message>
         <source>%1 % of %2</source>
-        <translation>%1&#xa0;% de %2</translation>
+        <translation>%1 % de %2</translation>
     </message>
     <message>
         <source>paused at %1 %</source>
-        <translation>en pause à %1&#xa0;%</translation>
+        <translation>en pause à %1 %</translation>
     </message>
     <message>
         <source>is being checked</source>
@@ -2738,7 +2738,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>saved; the sender gave nothing to check it by</source>
-        <translation>enregistré&#xa0;; l’expéditeur n’a rien fourni pour le vérifier</translation>
+        <translation>enregistré ; l’expéditeur n’a rien fourni pour le vérifier</translation>
     </message>
     <message>
         <source>File</source>
@@ -2762,11 +2762,11 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>%1 no longer offers this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne propose plus ce fichier.</translation>
     </message>
     <message>
         <source>checks what is there: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>vérification de la partie déjà reçue : %1 %</translation>
     </message>
 </context>
 <context>
@@ -2781,7 +2781,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2.</source>
-        <translation>Écriture de %1 impossible&#xa0;: %2.</translation>
+        <translation>Écriture de %1 impossible : %2.</translation>
     </message>
     <message>
         <source>&amp;Copy	Ctrl+C</source>
@@ -2858,11 +2858,11 @@ L’envoyer à %4&#xa0;?</translation>
     <name>nimb::UnfinishedFiles</name>
     <message>
         <source>files that had not all come when NIMB-Chat ended: %2; %1 goes on with them</source>
-        <translation type="unfinished"></translation>
+        <translation>fichiers encore incomplets à la fermeture de NIMB-Chat : %2 ; %1 permet de les reprendre</translation>
     </message>
     <message>
         <source>Tools, Transfers...</source>
-        <translation type="unfinished"></translation>
+        <translation>Outils &gt; Transferts...</translation>
     </message>
 </context>
 <context>
@@ -2872,7 +2872,7 @@ L’envoyer à %4&#xa0;?</translation>
         <translation>À propos de NIMB-Chat</translation>
     </message>
     <message>
-        <source>NIMB-Chat&apos;s picture</source>
+        <source>NIMB-Chat's picture</source>
         <translation>Image de NIMB-Chat</translation>
     </message>
     <message>
@@ -2884,12 +2884,12 @@ L’envoyer à %4&#xa0;?</translation>
         <translation>Version %1</translation>
     </message>
     <message>
-        <source>A simple messenger that works with UDP/IP and it&apos;s been intended for use on a small LAN</source>
+        <source>A simple messenger that works with UDP/IP and it's been intended for use on a small LAN</source>
         <translation>Une messagerie simple fonctionnant sur UDP/IP, conçue pour les petits réseaux locaux</translation>
     </message>
     <message>
         <source>Free software under the MIT licence, without any warranty. Nothing that is sent is encrypted: everybody on your network can read it.</source>
-        <translation>Logiciel libre sous licence MIT, sans aucune garantie. Rien de ce qui est envoyé n’est chiffré&#xa0;: tout le monde sur votre réseau peut le lire.</translation>
+        <translation>Logiciel libre sous licence MIT, sans aucune garantie. Rien de ce qui est envoyé n’est chiffré : tout le monde sur votre réseau peut le lire.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -3069,7 +3069,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Does this contact answer?</source>
-        <translation>Ce &amp;contact répond-il&#xa0;?</translation>
+        <translation>Ce &amp;contact répond-il ?</translation>
     </message>
     <message>
         <source>Contact to be asked</source>
@@ -3125,7 +3125,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>Dropped:</source>
-        <translation>Rejetés&#xa0;:</translation>
+        <translation>Rejetés :</translation>
     </message>
 </context>
 <context>
@@ -3244,7 +3244,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2.</source>
-        <translation>Écriture de %1 impossible&#xa0;: %2.</translation>
+        <translation>Écriture de %1 impossible : %2.</translation>
     </message>
     <message>
         <source>NIMB-Chat history</source>
@@ -3252,11 +3252,11 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>Messages written: %1.</source>
-        <translation>Messages exportés&#xa0;: %1.</translation>
+        <translation>Messages exportés : %1.</translation>
     </message>
     <message>
         <source>Messages written so far: %1</source>
-        <translation>Messages exportés jusqu’ici&#xa0;: %1</translation>
+        <translation>Messages exportés jusqu’ici : %1</translation>
     </message>
     <message>
         <source>The chosen &amp;message</source>
@@ -3264,15 +3264,15 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>Erase the chosen message for good?</source>
-        <translation>Effacer définitivement le message sélectionné&#xa0;?</translation>
+        <translation>Effacer définitivement le message sélectionné ?</translation>
     </message>
     <message>
         <source>The chosen &amp;conversation</source>
         <translation>La &amp;conversation sélectionnée</translation>
     </message>
     <message>
-        <source>Erase all that is kept of &quot;%1&quot; for good?</source>
-        <translation>Effacer définitivement tout ce qui est conservé de «&#xa0;%1&#xa0;»&#xa0;?</translation>
+        <source>Erase all that is kept of "%1" for good?</source>
+        <translation>Effacer définitivement tout ce qui est conservé de « %1 » ?</translation>
     </message>
     <message>
         <source>The chosen &amp;days</source>
@@ -3280,7 +3280,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>Erase all that is kept of the chosen days for good?</source>
-        <translation>Effacer définitivement tout ce qui est conservé des jours choisis&#xa0;?</translation>
+        <translation>Effacer définitivement tout ce qui est conservé des jours choisis ?</translation>
     </message>
     <message>
         <source>&amp;All</source>
@@ -3288,11 +3288,11 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>Erase all that is kept of all conversations for good?</source>
-        <translation>Effacer définitivement tout ce qui est conservé de toutes les conversations&#xa0;?</translation>
+        <translation>Effacer définitivement tout ce qui est conservé de toutes les conversations ?</translation>
     </message>
     <message>
         <source>Erase the chosen message? It will not be sent.</source>
-        <translation>Effacer le message sélectionné&#xa0;? Il ne sera pas envoyé.</translation>
+        <translation>Effacer le message sélectionné ? Il ne sera pas envoyé.</translation>
     </message>
     <message>
         <source>Erasing...</source>
@@ -3300,7 +3300,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>Nothing was erased: the history cannot be written.</source>
-        <translation>Rien n’a été effacé&#xa0;: l’historique ne peut pas être modifié.</translation>
+        <translation>Rien n’a été effacé : l’historique ne peut pas être modifié.</translation>
     </message>
 </context>
 <context>
@@ -3346,7 +3346,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>Welcome to NIMB-Chat!</source>
-        <translation>Bienvenue dans NIMB-Chat&#xa0;!</translation>
+        <translation>Bienvenue dans NIMB-Chat !</translation>
     </message>
     <message>
         <source>Please, choose a nickname for this session</source>
@@ -3354,7 +3354,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;NickName:</source>
-        <translation>&amp;Pseudo&#xa0;:</translation>
+        <translation>&amp;Pseudo :</translation>
     </message>
     <message>
         <source>OK</source>
@@ -3421,7 +3421,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>Status: %1</source>
-        <translation>État&#xa0;: %1</translation>
+        <translation>État : %1</translation>
     </message>
     <message>
         <source>Addresses asked</source>
@@ -3452,7 +3452,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Workstation name / IP Address:</source>
-        <translation>Nom du &amp;poste ou adresse IP&#xa0;:</translation>
+        <translation>Nom du &amp;poste ou adresse IP :</translation>
     </message>
     <message>
         <source>Everybody on a network of this computer</source>
@@ -3463,8 +3463,8 @@ L’envoyer à %4&#xa0;?</translation>
         <translation>Tout le monde sur...</translation>
     </message>
     <message>
-        <source>Note: you can use broadcast IP to scan a whole network (e.g. let&apos;s say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
-        <translation>Remarque&#xa0;: l’adresse IP de diffusion permet d’interroger tout un réseau (par exemple, si votre adresse IP est 192.168.1.1 et votre masque de sous-réseau 255.255.255.0, votre adresse de diffusion est 192.168.1.255)</translation>
+        <source>Note: you can use broadcast IP to scan a whole network (e.g. let's say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
+        <translation>Remarque : l’adresse IP de diffusion permet d’interroger tout un réseau (par exemple, si votre adresse IP est 192.168.1.1 et votre masque de sous-réseau 255.255.255.0, votre adresse de diffusion est 192.168.1.255)</translation>
     </message>
     <message>
         <source>Scan</source>
@@ -3550,7 +3550,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>While their window is not active, and you are not busy; a contact that is muted is never told of</source>
-        <translation>Tant que leur fenêtre n’est pas active et que vous n’êtes pas à l’état «&#xa0;Occupé&#xa0;»&#xa0;; un contact en sourdine n’est jamais signalé</translation>
+        <translation>Tant que leur fenêtre n’est pas active et que vous n’êtes pas à l’état « Occupé » ; un contact en sourdine n’est jamais signalé</translation>
     </message>
     <message>
         <source>S&amp;how what a message says</source>
@@ -3586,7 +3586,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>Nickname:</source>
-        <translation>Pseudo&#xa0;:</translation>
+        <translation>Pseudo :</translation>
     </message>
     <message>
         <source>Your own states</source>
@@ -3594,7 +3594,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>Own states:</source>
-        <translation>Vos états&#xa0;:</translation>
+        <translation>Vos états :</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -3630,7 +3630,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>Keep conversations:</source>
-        <translation>Conserver les conversations&#xa0;:</translation>
+        <translation>Conserver les conversations :</translation>
     </message>
     <message>
         <source>Private windows</source>
@@ -3642,7 +3642,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>UDP &amp;port:</source>
-        <translation>P&amp;ort UDP&#xa0;:</translation>
+        <translation>P&amp;ort UDP :</translation>
     </message>
     <message>
         <source>Your address</source>
@@ -3650,19 +3650,19 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>Yo&amp;ur address:</source>
-        <translation>Votre &amp;adresse&#xa0;:</translation>
+        <translation>Votre &amp;adresse :</translation>
     </message>
     <message>
         <source>Language</source>
         <translation>Langue</translation>
     </message>
     <message>
-        <source>the desktop&apos;s</source>
+        <source>the desktop's</source>
         <translation>celle du bureau</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation>Langue&#xa0;:</translation>
+        <translation>Langue :</translation>
     </message>
     <message>
         <source>A change takes effect at the next start.</source>
@@ -3678,7 +3678,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>New windows use it; open ones keep theirs.</source>
-        <translation>Les nouvelles fenêtres l’utilisent&#xa0;; celles déjà ouvertes gardent la leur.</translation>
+        <translation>Les nouvelles fenêtres l’utilisent ; celles déjà ouvertes gardent la leur.</translation>
     </message>
     <message>
         <source>Your avatar</source>
@@ -3690,11 +3690,11 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>A p&amp;icture:</source>
-        <translation>Image fi&amp;xe&#xa0;:</translation>
+        <translation>Image fi&amp;xe :</translation>
     </message>
     <message>
         <source>Pictures that chan&amp;ge:</source>
-        <translation>Images c&amp;hangeantes&#xa0;:</translation>
+        <translation>Images c&amp;hangeantes :</translation>
     </message>
     <message>
         <source>The picture</source>
@@ -3722,7 +3722,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>A picture can also be dropped here or pasted. Pictures that change end with NIMB-Chat; the picture is kept.</source>
-        <translation>Une image peut aussi être déposée ou collée ici. Les images changeantes disparaissent à la fermeture de NIMB-Chat&#xa0;; l’image fixe est conservée.</translation>
+        <translation>Une image peut aussi être déposée ou collée ici. Les images changeantes disparaissent à la fermeture de NIMB-Chat ; l’image fixe est conservée.</translation>
     </message>
     <message>
         <source>ask me</source>
@@ -3738,11 +3738,11 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>%1, %2 points</source>
-        <translation>%1, %2&#xa0;points</translation>
+        <translation>%1, %2 points</translation>
     </message>
     <message>
-        <source>the desktop&apos;s font: %1, %2 points</source>
-        <translation>police du bureau&#xa0;: %1, %2&#xa0;points</translation>
+        <source>the desktop's font: %1, %2 points</source>
+        <translation>police du bureau : %1, %2 points</translation>
     </message>
     <message>
         <source>Images (*.jpg,*.gif,*.bmp)</source>
@@ -3761,7 +3761,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>Buzz!</source>
-        <translation>Buzz&#xa0;!</translation>
+        <translation>Buzz !</translation>
     </message>
     <message>
         <source>(CTRL+G)</source>
@@ -3769,7 +3769,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>LiveType!</source>
-        <translation>LiveType&#xa0;!</translation>
+        <translation>LiveType !</translation>
     </message>
     <message>
         <source>The other one sees what you type before you send it</source>
@@ -3819,8 +3819,8 @@ L’envoyer à %4&#xa0;?</translation>
 <context>
     <name>nimb::frmSendContact</name>
     <message>
-        <source>NIMB-Chat - Send Contacts to &apos;%1&apos;</source>
-        <translation>NIMB-Chat - Envoyer des contacts à «&#xa0;%1&#xa0;»</translation>
+        <source>NIMB-Chat - Send Contacts to '%1'</source>
+        <translation>NIMB-Chat - Envoyer des contacts à « %1 »</translation>
     </message>
     <message>
         <source>Choose the selected contacts</source>
@@ -3875,7 +3875,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>Find a contact; typing in the list does the same</source>
-        <translation>Rechercher un contact&#xa0;; écrire dans la liste a le même effet</translation>
+        <translation>Rechercher un contact ; écrire dans la liste a le même effet</translation>
     </message>
     <message>
         <source>What was kept of conversations</source>
@@ -3903,7 +3903,7 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>In an empty box: bring back the last message</source>
-        <translation>Dans un champ vide&#xa0;: rappeler le dernier message</translation>
+        <translation>Dans un champ vide : rappeler le dernier message</translation>
     </message>
     <message>
         <source>Choose an emoji</source>
@@ -3974,7 +3974,7 @@ L’envoyer à %4&#xa0;?</translation>
     <name>nimb::frmTipOfTheDay</name>
     <message>
         <source>Did you know?</source>
-        <translation>Le saviez-vous&#xa0;?</translation>
+        <translation>Le saviez-vous ?</translation>
     </message>
     <message>
         <source>Tip</source>
@@ -4069,15 +4069,15 @@ L’envoyer à %4&#xa0;?</translation>
     </message>
     <message>
         <source>Save A&amp;ll...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout enregistrer...</translation>
     </message>
     <message>
         <source>Saves all that is offered and has not been fetched, in one folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistre dans un même dossier tout ce qui est proposé et pas encore téléchargé</translation>
     </message>
     <message>
         <source>Save A&amp;ll (%1)...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout enregistrer (%1)...</translation>
     </message>
 </context>
 </TS>

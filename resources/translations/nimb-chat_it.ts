@@ -8,7 +8,7 @@
         <translation>Compila tutti i campi</translation>
     </message>
     <message>
-        <source>You can&apos;t add yourself...</source>
+        <source>You can't add yourself...</source>
         <translation>Non puoi aggiungere il tuo indirizzo...</translation>
     </message>
     <message>
@@ -17,11 +17,11 @@
     </message>
     <message>
         <source>This is not the address of one computer: everybody on the network hears what is sent there.</source>
-        <translation>Questo non è l&apos;indirizzo di un singolo computer: tutti nella rete ricevono ciò che vi si invia.</translation>
+        <translation>Questo non è l'indirizzo di un singolo computer: tutti nella rete ricevono ciò che vi si invia.</translation>
     </message>
     <message>
         <source>This address cannot be kept: it marks the end of the stored list.</source>
-        <translation>Questo indirizzo non può essere conservato: segna la fine dell&apos;elenco memorizzato.</translation>
+        <translation>Questo indirizzo non può essere conservato: segna la fine dell'elenco memorizzato.</translation>
     </message>
     <message>
         <source>This is no address such as 192.168.1.20: nothing can be sent there.</source>
@@ -54,7 +54,7 @@
         <translation>Conferenza n. %1 (ospitata qui) - NIMB-Chat</translation>
     </message>
     <message>
-        <source>Conference #%1 (Hosted by &apos;%2&apos;) - NIMB-Chat</source>
+        <source>Conference #%1 (Hosted by '%2') - NIMB-Chat</source>
         <translation>Conferenza n. %1 (ospitata da «%2») - NIMB-Chat</translation>
     </message>
     <message>
@@ -131,32 +131,32 @@
         <translation>In&amp;vita utente</translation>
     </message>
     <message>
-        <source>Private chat with &apos;%1&apos;</source>
+        <source>Private chat with '%1'</source>
         <translation>Chat privata con «%1»</translation>
     </message>
     <message>
-        <source>Buzz &apos;%1&apos;</source>
+        <source>Buzz '%1'</source>
         <translation>Invia un trillo a «%1»</translation>
     </message>
     <message>
         <source>Remove %1 users from the list</source>
-        <translation>Rimuovi %1 utenti dall&apos;elenco</translation>
+        <translation>Rimuovi %1 utenti dall'elenco</translation>
     </message>
     <message>
-        <source>Remove &apos;%1&apos; from the list</source>
-        <translation>Rimuovi «%1» dall&apos;elenco</translation>
+        <source>Remove '%1' from the list</source>
+        <translation>Rimuovi «%1» dall'elenco</translation>
     </message>
     <message>
-        <source>Send &amp;contacts to &apos;%1&apos;</source>
+        <source>Send &amp;contacts to '%1'</source>
         <translation>Invia c&amp;ontatti a «%1»</translation>
     </message>
     <message>
-        <source>&amp;Net send message to &apos;%1&apos;</source>
+        <source>&amp;Net send message to '%1'</source>
         <translation>Invia un &amp;messaggio net send a «%1»</translation>
     </message>
     <message>
-        <source>I&amp;nvite user &apos;%1&apos;</source>
-        <translation>In&amp;vita l&apos;utente «%1»</translation>
+        <source>I&amp;nvite user '%1'</source>
+        <translation>In&amp;vita l'utente «%1»</translation>
     </message>
     <message>
         <source>%1 (messages that wait to be read: %2)</source>
@@ -172,19 +172,19 @@
     </message>
     <message>
         <source>whether %1 is there is being asked: no window opens before that is known</source>
-        <translation>verifica della presenza di %1 in corso: prima dell&apos;esito non si apre alcuna finestra</translation>
+        <translation>verifica della presenza di %1 in corso: prima dell'esito non si apre alcuna finestra</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks, and shows you to your contacts</source>
+        <source>whether %1 is there is not known: "Rescan" asks, and shows you to your contacts</source>
         <translation>non si sa se %1 è presente: «Aggiorna» lo verifica e ti rende visibile ai tuoi contatti</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks</source>
+        <source>whether %1 is there is not known: "Rescan" asks</source>
         <translation>non si sa se %1 è presente: «Aggiorna» lo verifica</translation>
     </message>
     <message>
-        <source>Are you sure you want to remove the user &apos;%1&apos; on workstation &apos;%2&apos; (%3) ?</source>
-        <translation>Rimuovere l&apos;utente «%1» della postazione «%2» (%3)?</translation>
+        <source>Are you sure you want to remove the user '%1' on workstation '%2' (%3) ?</source>
+        <translation>Rimuovere l'utente «%1» della postazione «%2» (%3)?</translation>
     </message>
     <message>
         <source>Are you sure you want to remove these %1 users?</source>
@@ -200,14 +200,14 @@
     </message>
     <message>
         <source>%1 contacts selected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 contatti selezionati</translation>
     </message>
 </context>
 <context>
     <name>ContactFile</name>
     <message>
-        <source>&quot;%1&quot; is not the address of one computer</source>
-        <translation>«%1» non è l&apos;indirizzo di un singolo computer</translation>
+        <source>"%1" is not the address of one computer</source>
+        <translation>«%1» non è l'indirizzo di un singolo computer</translation>
     </message>
     <message>
         <source>a name is empty</source>
@@ -409,15 +409,15 @@
     </message>
     <message>
         <source>Your address is %1 of the card %2, on which nobody can be found: it leads to a single machine, or to what runs inside this one.</source>
-        <translation>Il tuo indirizzo è %1 della scheda %2, su cui non è possibile trovare nessuno: porta a una sola macchina oppure a ciò che è in esecuzione all&apos;interno di questa.</translation>
+        <translation>Il tuo indirizzo è %1 della scheda %2, su cui non è possibile trovare nessuno: porta a una sola macchina oppure a ciò che è in esecuzione all'interno di questa.</translation>
     </message>
     <message>
         <source>If the others are on another network, correct NIMBCHAT_ADDRESS.</source>
-        <translation>Se gli altri sono in un&apos;altra rete, correggi NIMBCHAT_ADDRESS.</translation>
+        <translation>Se gli altri sono in un'altra rete, correggi NIMBCHAT_ADDRESS.</translation>
     </message>
     <message>
         <source>If the others are on another network, choose its card as your own address in Tools, Options.</source>
-        <translation>Se gli altri sono in un&apos;altra rete, scegli la sua scheda come tuo indirizzo in Strumenti, Opzioni.</translation>
+        <translation>Se gli altri sono in un'altra rete, scegli la sua scheda come tuo indirizzo in Strumenti, Opzioni.</translation>
     </message>
     <message>
         <source>Your address is %1, which only programs on this computer can reach.</source>
@@ -448,7 +448,7 @@
         <translation>Il sistema non consente a NIMB-Chat di usare la porta %1.</translation>
     </message>
     <message>
-        <source>Choose a port above 1023 in Tools, Options, the same as everybody else&apos;s.</source>
+        <source>Choose a port above 1023 in Tools, Options, the same as everybody else's.</source>
         <translation>Scegli una porta superiore a 1023 in Strumenti, Opzioni, la stessa per tutti.</translation>
     </message>
     <message>
@@ -472,7 +472,7 @@
         <translation>La porta %1 è usata da un altro programma.</translation>
     </message>
     <message>
-        <source>&quot;sudo ss -ulpn sport = :%1&quot; shows which one.</source>
+        <source>"sudo ss -ulpn sport = :%1" shows which one.</source>
         <translation>«sudo ss -ulpn sport = :%1» mostra quale.</translation>
     </message>
     <message>
@@ -500,7 +500,7 @@
         <translation>Il sistema conserva solo %1 KiB di datagrammi in attesa: se rispondono in molti nello stesso momento, alcuni vanno persi.</translation>
     </message>
     <message>
-        <source>&quot;sudo sysctl -w net.core.rmem_max=4194304&quot; lets it keep more.</source>
+        <source>"sudo sysctl -w net.core.rmem_max=4194304" lets it keep more.</source>
         <translation>«sudo sysctl -w net.core.rmem_max=4194304» gli consente di conservarne di più.</translation>
     </message>
     <message>
@@ -517,7 +517,7 @@
     </message>
     <message>
         <source>A firewall on this computer keeps even its own datagrams out, or the address is not its own.</source>
-        <translation>Un firewall su questo computer blocca perfino i suoi stessi datagrammi, oppure l&apos;indirizzo non è il suo.</translation>
+        <translation>Un firewall su questo computer blocca perfino i suoi stessi datagrammi, oppure l'indirizzo non è il suo.</translation>
     </message>
     <message>
         <source>No datagram was sent to yourself, for nothing listens for it.</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>There is no network on which everybody can be asked.</source>
-        <translation>Non c&apos;è alcuna rete in cui sia possibile interpellare tutti.</translation>
+        <translation>Non c'è alcuna rete in cui sia possibile interpellare tutti.</translation>
     </message>
     <message>
         <source>Add the others by their addresses: Users, Add offline user.</source>
@@ -545,11 +545,11 @@
     </message>
     <message>
         <source>The system refuses to send to everybody: %1.</source>
-        <translation>Il sistema rifiuta l&apos;invio a tutti: %1.</translation>
+        <translation>Il sistema rifiuta l'invio a tutti: %1.</translation>
     </message>
     <message>
         <source>A firewall on this computer keeps it in; let UDP out to that address.</source>
-        <translation>Un firewall su questo computer lo trattiene; consenti l&apos;uscita di UDP verso quell&apos;indirizzo.</translation>
+        <translation>Un firewall su questo computer lo trattiene; consenti l'uscita di UDP verso quell'indirizzo.</translation>
     </message>
     <message>
         <source>No firewall is seen on this computer.</source>
@@ -577,23 +577,23 @@
     </message>
     <message>
         <source>Only the administrator may see whether a firewall keeps UDP port %1 out.</source>
-        <translation>Solo l&apos;amministratore può vedere se un firewall blocca la porta UDP %1.</translation>
+        <translation>Solo l'amministratore può vedere se un firewall blocca la porta UDP %1.</translation>
     </message>
     <message>
-        <source>&quot;sudo nimb-chatctl doctor&quot; tells.</source>
+        <source>"sudo nimb-chatctl doctor" tells.</source>
         <translation>«sudo nimb-chatctl doctor» lo indica.</translation>
     </message>
     <message>
         <source>This computer may have a firewall, and no program is here that shows all of its rules.</source>
-        <translation>Questo computer potrebbe avere un firewall, ma non c&apos;è alcun programma che ne mostri tutte le regole.</translation>
+        <translation>Questo computer potrebbe avere un firewall, ma non c'è alcun programma che ne mostri tutte le regole.</translation>
     </message>
     <message>
-        <source>&quot;sudo nft list ruleset&quot; and &quot;sudo iptables-legacy -S&quot; show them, of the packages nftables and iptables.</source>
+        <source>"sudo nft list ruleset" and "sudo iptables-legacy -S" show them, of the packages nftables and iptables.</source>
         <translation>«sudo nft list ruleset» e «sudo iptables-legacy -S», dei pacchetti nftables e iptables, le mostrano.</translation>
     </message>
     <message>
         <source>The firewall %1 is on; only the administrator may see whether it lets UDP port %2 in.</source>
-        <translation>Il firewall %1 è attivo; solo l&apos;amministratore può vedere se apre la porta UDP %2.</translation>
+        <translation>Il firewall %1 è attivo; solo l'amministratore può vedere se apre la porta UDP %2.</translation>
     </message>
     <message>
         <source>The cards %1 and %2 are on the same network; your address is the one that was chosen.</source>
@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>The cards %1 and %2 are on the same network: others may see you under either address.</source>
-        <translation>Le schede %1 e %2 sono nella stessa rete: gli altri potrebbero vederti con l&apos;uno o l&apos;altro indirizzo.</translation>
+        <translation>Le schede %1 e %2 sono nella stessa rete: gli altri potrebbero vederti con l'uno o l'altro indirizzo.</translation>
     </message>
     <message>
         <source>Turn one of them off, or choose one as your own address in Tools, Options.</source>
@@ -621,7 +621,7 @@
     </message>
     <message>
         <source>There is no VPN, and no network has two cards of this computer.</source>
-        <translation>Non c&apos;è alcuna VPN e nessuna rete ha due schede di questo computer.</translation>
+        <translation>Non c'è alcuna VPN e nessuna rete ha due schede di questo computer.</translation>
     </message>
     <message>
         <source>%1 answered after %2 ms.</source>
@@ -629,23 +629,23 @@
     </message>
     <message>
         <source>%1 did not answer, but the computer at %2 is there, or was a moment ago.</source>
-        <translation>%1 non ha risposto, ma il computer all&apos;indirizzo %2 è presente o lo era un attimo fa.</translation>
+        <translation>%1 non ha risposto, ma il computer all'indirizzo %2 è presente o lo era un attimo fa.</translation>
     </message>
     <message>
         <source>A firewall there may keep UDP out, NIMB-Chat may not run there or its user may be invisible, or that copy does not know you yet: let both sides use Users, Find everybody here. Run the network doctor there as well.</source>
-        <translation>Lì un firewall potrebbe bloccare UDP, NIMB-Chat potrebbe non essere in esecuzione o l&apos;utente essere invisibile, oppure quella copia non ti conosce ancora: usate su entrambi i computer Utenti, Cerca chi è in rete. Esegui la diagnostica di rete anche lì.</translation>
+        <translation>Lì un firewall potrebbe bloccare UDP, NIMB-Chat potrebbe non essere in esecuzione o l'utente essere invisibile, oppure quella copia non ti conosce ancora: usate su entrambi i computer Utenti, Cerca chi è in rete. Esegui la diagnostica di rete anche lì.</translation>
     </message>
     <message>
         <source>%1 did not answer, and no computer on your network has the address %2.</source>
-        <translation>%1 non ha risposto e nessun computer della tua rete ha l&apos;indirizzo %2.</translation>
+        <translation>%1 non ha risposto e nessun computer della tua rete ha l'indirizzo %2.</translation>
     </message>
     <message>
         <source>It is off, it has another address by now, it is on another network, or the access point keeps its machines apart (client isolation).</source>
-        <translation>È spento, ha ormai un altro indirizzo, è in un&apos;altra rete, oppure il punto di accesso tiene separate le sue macchine (isolamento dei client).</translation>
+        <translation>È spento, ha ormai un altro indirizzo, è in un'altra rete, oppure il punto di accesso tiene separate le sue macchine (isolamento dei client).</translation>
     </message>
     <message>
         <source>%1 did not answer. The address %2 is on another network, behind a router or at the other end of a tunnel.</source>
-        <translation>%1 non ha risposto. L&apos;indirizzo %2 è in un&apos;altra rete, dietro un router o all&apos;altra estremità di un tunnel.</translation>
+        <translation>%1 non ha risposto. L'indirizzo %2 è in un'altra rete, dietro un router o all'altra estremità di un tunnel.</translation>
     </message>
     <message>
         <source>What leads there must let UDP through in both directions; and what may be wrong on one network may be wrong there: a firewall, a copy that does not run, a user who is invisible.</source>
@@ -656,7 +656,7 @@
         <translation>%1 non ha risposto. Il percorso verso %2 è quello del tuo indirizzo %3, ma le opzioni indicano la scheda %4, il cui indirizzo %5 potrebbe non essere raggiungibile da lì.</translation>
     </message>
     <message>
-        <source>Choose &quot;automatic&quot; or the card of that network as your own address in Tools, Options.</source>
+        <source>Choose "automatic" or the card of that network as your own address in Tools, Options.</source>
         <translation>Scegli «automatico» o la scheda di quella rete come tuo indirizzo in Strumenti, Opzioni.</translation>
     </message>
     <message>
@@ -705,7 +705,7 @@
     </message>
     <message>
         <source>Dropped since the start:</source>
-        <translation>Scartati dall&apos;avvio:</translation>
+        <translation>Scartati dall'avvio:</translation>
     </message>
     <message>
         <source>nothing</source>
@@ -744,7 +744,7 @@
     </message>
     <message>
         <source>New contacts while the list was full: %1</source>
-        <translation>Nuovi contatti con l&apos;elenco pieno: %1</translation>
+        <translation>Nuovi contatti con l'elenco pieno: %1</translation>
     </message>
     <message>
         <source>Messages while too many waited to be read: %1</source>
@@ -850,11 +850,11 @@
     </message>
     <message>
         <source>winking face</source>
-        <translation>faccina che fa l&apos;occhiolino</translation>
+        <translation>faccina che fa l'occhiolino</translation>
     </message>
     <message>
         <source>winking face with tongue out</source>
-        <translation>faccina che fa l&apos;occhiolino con la linguaccia</translation>
+        <translation>faccina che fa l'occhiolino con la linguaccia</translation>
     </message>
     <message>
         <source>grinning face</source>
@@ -926,8 +926,8 @@
 <context>
     <name>FolderSource</name>
     <message>
-        <source>There is no picture to show in &quot;%1&quot;.</source>
-        <translation>In «%1» non c&apos;è alcuna immagine da mostrare.</translation>
+        <source>There is no picture to show in "%1".</source>
+        <translation>In «%1» non c'è alcuna immagine da mostrare.</translation>
     </message>
 </context>
 <context>
@@ -1007,19 +1007,19 @@
     </message>
     <message>
         <source>There is too little room in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spazio insufficiente in %1.</translation>
     </message>
     <message>
         <source>There is no room any more in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spazio esaurito in %1.</translation>
     </message>
     <message>
         <source>%1 cannot be written on: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile continuare a scrivere %1: %2.</translation>
     </message>
     <message>
         <source>%1 What has come is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Ciò che è arrivato viene conservato.</translation>
     </message>
 </context>
 <context>
@@ -1077,7 +1077,7 @@
         <translation>%1 è ora offline ---</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;  ---</source>
+        <source>%1 changed his state to '%2'  ---</source>
         <translation>%1 ha cambiato stato in «%2»  ---</translation>
     </message>
     <message>
@@ -1085,7 +1085,7 @@
         <translation>%1 ti ha inviato un trillo ---</translation>
     </message>
     <message>
-        <source>%1 sent you the contact &apos;%2&apos; (%3) ---</source>
+        <source>%1 sent you the contact '%2' (%3) ---</source>
         <translation>%1 ti ha inviato il contatto «%2» (%3) ---</translation>
     </message>
     <message>
@@ -1220,7 +1220,7 @@
     </message>
     <message>
         <source>&amp;Search For Help On...</source>
-        <translation>&amp;Cerca nell&apos;aiuto...</translation>
+        <translation>&amp;Cerca nell'aiuto...</translation>
     </message>
     <message>
         <source>&amp;Manual</source>
@@ -1330,12 +1330,12 @@
         <translation>Alla chiusura precedente di NIMB-Chat: %1</translation>
     </message>
     <message>
-        <source>The stored personalized state &quot;%1&quot; begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
-        <translation>Lo stato personalizzato memorizzato «%1» non inizia con la cifra di un&apos;immagine: viene ignorato e andrà perso alla chiusura di NIMB-Chat.</translation>
+        <source>The stored personalized state "%1" begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
+        <translation>Lo stato personalizzato memorizzato «%1» non inizia con la cifra di un'immagine: viene ignorato e andrà perso alla chiusura di NIMB-Chat.</translation>
     </message>
     <message>
         <source>--- this desktop shows no tray icon: NIMB-Chat is minimised instead of hidden ---</source>
-        <translation>--- questo desktop non mostra icone nell&apos;area di notifica: NIMB-Chat viene ridotto a icona invece che nascosto ---</translation>
+        <translation>--- questo desktop non mostra icone nell'area di notifica: NIMB-Chat viene ridotto a icona invece che nascosto ---</translation>
     </message>
     <message>
         <source>Files that are still on their way would be broken off: %1. End NIMB-Chat all the same?</source>
@@ -1419,7 +1419,7 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no &quot;net&quot; command.</source>
+        <source>The message was not sent: this system has no "net" command.</source>
         <translation>Il messaggio non è stato inviato: questo sistema non ha il comando «net».</translation>
     </message>
     <message>
@@ -1438,16 +1438,16 @@
 <context>
     <name>NetworkScan</name>
     <message>
-        <source>&quot;%1&quot; is neither a name nor the address of a computer or a network, so nobody was asked.</source>
-        <translation>«%1» non è un nome né l&apos;indirizzo di un computer o di una rete: nessuno è stato interpellato.</translation>
+        <source>"%1" is neither a name nor the address of a computer or a network, so nobody was asked.</source>
+        <translation>«%1» non è un nome né l'indirizzo di un computer o di una rete: nessuno è stato interpellato.</translation>
     </message>
     <message>
-        <source>No address was found for &quot;%1&quot;, so nobody was asked.</source>
+        <source>No address was found for "%1", so nobody was asked.</source>
         <translation>Nessun indirizzo trovato per «%1»: nessuno è stato interpellato.</translation>
     </message>
     <message>
         <source>%1 has too many addresses to be asked one by one: the largest range is /%2.</source>
-        <translation>%1 ha troppi indirizzi per interpellarli uno a uno: l&apos;intervallo più grande è /%2.</translation>
+        <translation>%1 ha troppi indirizzi per interpellarli uno a uno: l'intervallo più grande è /%2.</translation>
     </message>
 </context>
 <context>
@@ -1516,7 +1516,7 @@
     </message>
     <message>
         <source>There is a network now: your address is %1</source>
-        <translation>Ora c&apos;è una rete: il tuo indirizzo è %1</translation>
+        <translation>Ora c'è una rete: il tuo indirizzo è %1</translation>
     </message>
     <message>
         <source>Your address is now %1</source>
@@ -1582,7 +1582,7 @@
         <translation>Chiede a tutti i contatti se sono presenti</translation>
     </message>
     <message>
-        <source>Only %1 personalized states are kept: &quot;%2&quot; lasts until NIMB-Chat ends.</source>
+        <source>Only %1 personalized states are kept: "%2" lasts until NIMB-Chat ends.</source>
         <translation>Si conservano solo %1 stati personalizzati: «%2» dura fino alla chiusura di NIMB-Chat.</translation>
     </message>
 </context>
@@ -1613,10 +1613,10 @@
     </message>
     <message>
         <source>This is no picture that NIMB-Chat can read.</source>
-        <translation>Non è un&apos;immagine che NIMB-Chat possa leggere.</translation>
+        <translation>Non è un'immagine che NIMB-Chat possa leggere.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be opened.</source>
+        <source>"%1" cannot be opened.</source>
         <translation>Impossibile aprire «%1».</translation>
     </message>
 </context>
@@ -1632,7 +1632,7 @@
     </message>
     <message>
         <source>This machine does not have the address that NIMB-Chat was told to use, so nobody can reach you on port %1. Correct NIMBCHAT_ADDRESS, or connect the network: NIMB-Chat tries again every 5 seconds.</source>
-        <translation>Questa macchina non ha l&apos;indirizzo che NIMB-Chat deve usare, perciò nessuno può raggiungerti sulla porta %1. Correggi NIMBCHAT_ADDRESS oppure collega la rete: NIMB-Chat riprova ogni 5 secondi.</translation>
+        <translation>Questa macchina non ha l'indirizzo che NIMB-Chat deve usare, perciò nessuno può raggiungerti sulla porta %1. Correggi NIMBCHAT_ADDRESS oppure collega la rete: NIMB-Chat riprova ogni 5 secondi.</translation>
     </message>
     <message>
         <source>The system does not let NIMB-Chat use port %1, so nobody can reach you. Choose a port above 1023.</source>
@@ -1670,7 +1670,7 @@
         <translation>%1 è ora offline</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;</source>
+        <source>%1 changed his state to '%2'</source>
         <translation>%1 ha cambiato stato in «%2»</translation>
     </message>
 </context>
@@ -1682,7 +1682,7 @@
     </message>
     <message>
         <source>%1 is offline: files can be sent when %1 is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è offline: potrai inviare file al ritorno di %1.</translation>
     </message>
 </context>
 <context>
@@ -1696,13 +1696,13 @@
     <name>ProfileFolder</name>
     <message>
         <source>something that is no file stands in its place</source>
-        <translation>al suo posto c&apos;è qualcosa che non è un file</translation>
+        <translation>al suo posto c'è qualcosa che non è un file</translation>
     </message>
 </context>
 <context>
     <name>Program</name>
     <message>
-        <source>NIMBCHAT_ADDRESS is &quot;%1&quot;, which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
+        <source>NIMBCHAT_ADDRESS is "%1", which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
         <translation>NIMBCHAT_ADDRESS è «%1», che non è un indirizzo IPv4; NIMB-Chat è invece in ascolto su tutte le interfacce.</translation>
     </message>
     <message>
@@ -1794,7 +1794,7 @@
     </message>
     <message>
         <source>nobody answered: nobody may be there, a firewall may be in the way, or the network may keep its machines apart; %1 looks which</source>
-        <translation>nessuno ha risposto: forse non c&apos;è nessuno, un firewall blocca il traffico o la rete tiene separate le sue macchine; per scoprirlo: %1</translation>
+        <translation>nessuno ha risposto: forse non c'è nessuno, un firewall blocca il traffico o la rete tiene separate le sue macchine; per scoprirlo: %1</translation>
     </message>
     <message>
         <source>Help, Network doctor...</source>
@@ -1808,8 +1808,8 @@
 <context>
     <name>Settings</name>
     <message>
-        <source>The stored setting %1 cannot be &quot;%2&quot;; %3 is used instead.</source>
-        <translation>L&apos;impostazione memorizzata %1 non può essere «%2»; viene usato %3.</translation>
+        <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
+        <translation>L'impostazione memorizzata %1 non può essere «%2»; viene usato %3.</translation>
     </message>
 </context>
 <context>
@@ -1843,7 +1843,7 @@
     <name>SqliteSettingsStore</name>
     <message>
         <source>The settings were not saved in %1 (%2), so what was changed since the last save is not kept; what was stored before is unchanged.</source>
-        <translation>Le impostazioni non sono state salvate in %1 (%2): le modifiche successive all&apos;ultimo salvataggio non vengono conservate; ciò che era memorizzato è rimasto invariato.</translation>
+        <translation>Le impostazioni non sono state salvate in %1 (%2): le modifiche successive all'ultimo salvataggio non vengono conservate; ciò che era memorizzato è rimasto invariato.</translation>
     </message>
     <message>
         <source>What has changed cannot be kept in %1 now (%2), so it would be lost if NIMB-Chat ended before it can save.</source>
@@ -1859,7 +1859,7 @@
     </message>
     <message>
         <source>The settings in %1 cannot be read (%2), so the program starts with its defaults and leaves the file as it is.</source>
-        <translation>Impossibile leggere le impostazioni in %1 (%2): il programma si avvia con i valori predefiniti e lascia il file com&apos;è.</translation>
+        <translation>Impossibile leggere le impostazioni in %1 (%2): il programma si avvia con i valori predefiniti e lascia il file com'è.</translation>
     </message>
     <message>
         <source>The settings in %1 cannot be changed (%2), so what you change is forgotten when the program ends.</source>
@@ -1867,7 +1867,7 @@
     </message>
     <message>
         <source>they could not be read when the program started and would be lost</source>
-        <translation>non è stato possibile leggerle all&apos;avvio del programma e andrebbero perse</translation>
+        <translation>non è stato possibile leggerle all'avvio del programma e andrebbero perse</translation>
     </message>
     <message>
         <source>The settings were damaged or empty when NIMB-Chat started before.</source>
@@ -1916,7 +1916,7 @@
     <name>nimb::ClearedBand</name>
     <message>
         <source>Bring it back</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina</translation>
     </message>
 </context>
 <context>
@@ -2005,7 +2005,7 @@
     <name>nimb::ContactView</name>
     <message>
         <source>Nobody is in your list yet. One click asks everybody on your network.</source>
-        <translation>Il tuo elenco è ancora vuoto. Basta un clic per chiedere chi c&apos;è nella tua rete.</translation>
+        <translation>Il tuo elenco è ancora vuoto. Basta un clic per chiedere chi c'è nella tua rete.</translation>
     </message>
     <message>
         <source>Find everybody here</source>
@@ -2016,7 +2016,7 @@
         <translation>Mostra tutti</translation>
     </message>
     <message>
-        <source>Nobody here is called &quot;%1&quot;</source>
+        <source>Nobody here is called "%1"</source>
         <translation>Qui nessuno si chiama «%1»</translation>
     </message>
 </context>
@@ -2092,11 +2092,11 @@
     </message>
     <message>
         <source>The picture cannot be sent, for there is no room for it.</source>
-        <translation>Impossibile inviare l&apos;immagine: spazio insufficiente.</translation>
+        <translation>Impossibile inviare l'immagine: spazio insufficiente.</translation>
     </message>
     <message>
         <source>A picture was pasted (%1 × %2).</source>
-        <translation>È stata incollata un&apos;immagine (%1 × %2).</translation>
+        <translation>È stata incollata un'immagine (%1 × %2).</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -2109,43 +2109,43 @@
     <message>
         <source> Keep them: %1</source>
         <comment>answers that can be clicked</comment>
-        <translation type="unfinished"></translation>
+        <translation> Conservarle? %1</translation>
     </message>
     <message>
         <source>for a year</source>
-        <translation type="unfinished">per un anno</translation>
+        <translation>per un anno</translation>
     </message>
     <message>
         <source>for ever</source>
-        <translation type="unfinished">per sempre</translation>
+        <translation>per sempre</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished">no</translation>
+        <translation>no</translation>
     </message>
     <message>
         <source>Send it</source>
-        <translation type="unfinished"></translation>
+        <translation>Inviala</translation>
     </message>
     <message>
         <source>leave it</source>
-        <translation type="unfinished"></translation>
+        <translation>ignora</translation>
     </message>
     <message>
         <source>Send files; the arrow, or the Down key, has folders too</source>
-        <translation type="unfinished"></translation>
+        <translation>Invia file; per le cartelle usa la freccia o il tasto Freccia giù</translation>
     </message>
     <message>
         <source>Earlier troubles with files: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Problemi precedenti con i file: %1.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Chiudi</translation>
+        <translation>Chiudi</translation>
     </message>
     <message>
         <source>Copy the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia il resto</translation>
     </message>
 </context>
 <context>
@@ -2189,11 +2189,11 @@
     </message>
     <message>
         <source>Find an emoji</source>
-        <translation>Cerca un&apos;emoji</translation>
+        <translation>Cerca un'emoji</translation>
     </message>
     <message>
         <source>No emoji has such a name. Try another word.</source>
-        <translation>Nessuna emoji ha questo nome. Prova un&apos;altra parola.</translation>
+        <translation>Nessuna emoji ha questo nome. Prova un'altra parola.</translation>
     </message>
     <message>
         <source>Not found</source>
@@ -2223,7 +2223,7 @@
     </message>
     <message>
         <source>There is nobody here to whom a file could be sent.</source>
-        <translation>Non c&apos;è nessuno a cui inviare un file.</translation>
+        <translation>Non c'è nessuno a cui inviare un file.</translation>
     </message>
     <message>
         <source>Files are not encrypted on their way: whoever can listen in on this network can read them.</source>
@@ -2235,7 +2235,7 @@
     </message>
     <message>
         <source>nobody was there to be told of it</source>
-        <translation>non c&apos;era nessuno da avvisare</translation>
+        <translation>non c'era nessuno da avvisare</translation>
     </message>
     <message>
         <source>stopped</source>
@@ -2295,15 +2295,15 @@
     </message>
     <message>
         <source>it is stopped</source>
-        <translation>all&apos;interruzione</translation>
+        <translation>all'interruzione</translation>
     </message>
     <message>
         <source>Files are offered at %1, which this computer no longer has: nobody can fetch them, until it has it again or you send them once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alcuni file sono offerti all'indirizzo %1, che questo computer non ha più: nessuno può scaricarli finché il computer non lo riottiene o non li invii di nuovo.</translation>
     </message>
     <message>
         <source>offered at %1, which this computer no longer has</source>
-        <translation type="unfinished"></translation>
+        <translation>offerto all'indirizzo %1, che questo computer non ha più</translation>
     </message>
 </context>
 <context>
@@ -2322,11 +2322,11 @@
     </message>
     <message>
         <source>Show all</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra tutti</translation>
     </message>
     <message>
         <source>Hide</source>
-        <translation type="unfinished">Nascondi</translation>
+        <translation>Nascondi</translation>
     </message>
 </context>
 <context>
@@ -2337,7 +2337,7 @@
     </message>
     <message>
         <source>Fetches the picture and shows it here, without saving it</source>
-        <translation>Scarica l&apos;immagine e la mostra qui, senza salvarla</translation>
+        <translation>Scarica l'immagine e la mostra qui, senza salvarla</translation>
     </message>
     <message>
         <source>Save...</source>
@@ -2385,7 +2385,7 @@
     </message>
     <message>
         <source>This is no picture that NIMB-Chat can read.</source>
-        <translation>Non è un&apos;immagine che NIMB-Chat possa leggere.</translation>
+        <translation>Non è un'immagine che NIMB-Chat possa leggere.</translation>
     </message>
     <message>
         <source>Picture %1</source>
@@ -2427,7 +2427,7 @@
         <translation>Cerca in tutta la cronologia</translation>
     </message>
     <message>
-        <source>Opens the history&apos;s window</source>
+        <source>Opens the history's window</source>
         <translation>Apre la finestra della cronologia</translation>
     </message>
     <message>
@@ -2446,7 +2446,7 @@
 <context>
     <name>nimb::HistoryModel</name>
     <message>
-        <source>%1, %2, in &quot;%3&quot;</source>
+        <source>%1, %2, in "%3"</source>
         <translation>%1, %2, in «%3»</translation>
     </message>
     <message>
@@ -2583,7 +2583,7 @@
         <source>What you wrote to %1 (%2) waits to be sent to %3. There is %4 (%5) now.
 
 Send it to %4?</source>
-        <translation>Ciò che hai scritto a %1 (%2) è in attesa di invio a %3. Ora lì c&apos;è %4 (%5).
+        <translation>Ciò che hai scritto a %1 (%2) è in attesa di invio a %3. Ora lì c'è %4 (%5).
 
 Inviarlo a %4?</translation>
     </message>
@@ -2687,7 +2687,7 @@ Inviarlo a %4?</translation>
     <name>nimb::PersonalizedStateFrame</name>
     <message>
         <source>&amp;State:</source>
-        <translation>Sta&amp;to:</translation>
+        <translation>Stat&amp;o:</translation>
     </message>
     <message>
         <source>Te&amp;xt:</source>
@@ -2762,11 +2762,11 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>%1 no longer offers this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non offre più questo file.</translation>
     </message>
     <message>
         <source>checks what is there: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>verifica della parte già ricevuta: %1%</translation>
     </message>
 </context>
 <context>
@@ -2858,11 +2858,11 @@ Inviarlo a %4?</translation>
     <name>nimb::UnfinishedFiles</name>
     <message>
         <source>files that had not all come when NIMB-Chat ended: %2; %1 goes on with them</source>
-        <translation type="unfinished"></translation>
+        <translation>file ancora incompleti alla chiusura di NIMB-Chat: %2; per riprenderli: %1</translation>
     </message>
     <message>
         <source>Tools, Transfers...</source>
-        <translation type="unfinished"></translation>
+        <translation>Strumenti, Trasferimenti...</translation>
     </message>
 </context>
 <context>
@@ -2872,7 +2872,7 @@ Inviarlo a %4?</translation>
         <translation>Informazioni su NIMB-Chat</translation>
     </message>
     <message>
-        <source>NIMB-Chat&apos;s picture</source>
+        <source>NIMB-Chat's picture</source>
         <translation>Immagine di NIMB-Chat</translation>
     </message>
     <message>
@@ -2884,8 +2884,8 @@ Inviarlo a %4?</translation>
         <translation>Versione %1</translation>
     </message>
     <message>
-        <source>A simple messenger that works with UDP/IP and it&apos;s been intended for use on a small LAN</source>
-        <translation>Un semplice programma di messaggistica che funziona con UDP/IP ed è pensato per l&apos;uso in una piccola rete locale</translation>
+        <source>A simple messenger that works with UDP/IP and it's been intended for use on a small LAN</source>
+        <translation>Un semplice programma di messaggistica che funziona con UDP/IP ed è pensato per l'uso in una piccola rete locale</translation>
     </message>
     <message>
         <source>Free software under the MIT licence, without any warranty. Nothing that is sent is encrypted: everybody on your network can read it.</source>
@@ -2912,7 +2912,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>Insert user information</source>
-        <translation>Inserisci i dati dell&apos;utente</translation>
+        <translation>Inserisci i dati dell'utente</translation>
     </message>
     <message>
         <source>Resolve</source>
@@ -3010,7 +3010,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>Nobody else is here yet.</source>
-        <translation>Non c&apos;è ancora nessun altro.</translation>
+        <translation>Non c'è ancora nessun altro.</translation>
     </message>
     <message>
         <source>Invite somebody...</source>
@@ -3192,7 +3192,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>The export was stopped.</source>
-        <translation>L&apos;esportazione è stata interrotta.</translation>
+        <translation>L'esportazione è stata interrotta.</translation>
     </message>
     <message>
         <source>All conversations</source>
@@ -3212,7 +3212,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>What you have written to contacts who were away</source>
-        <translation>Ciò che hai scritto a contatti che non c&apos;erano</translation>
+        <translation>Ciò che hai scritto a contatti che non c'erano</translation>
     </message>
     <message>
         <source>Not sent to %1</source>
@@ -3271,7 +3271,7 @@ Inviarlo a %4?</translation>
         <translation>La con&amp;versazione selezionata</translation>
     </message>
     <message>
-        <source>Erase all that is kept of &quot;%1&quot; for good?</source>
+        <source>Erase all that is kept of "%1" for good?</source>
         <translation>Cancellare definitivamente tutto ciò che è conservato di «%1»?</translation>
     </message>
     <message>
@@ -3463,8 +3463,8 @@ Inviarlo a %4?</translation>
         <translation>Tutti in...</translation>
     </message>
     <message>
-        <source>Note: you can use broadcast IP to scan a whole network (e.g. let&apos;s say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
-        <translation>Nota: puoi usare l&apos;IP di broadcast per analizzare un&apos;intera rete (ad esempio, se il tuo indirizzo IP è 192.168.1.1 e la maschera di sottorete è 255.255.255.0, l&apos;indirizzo IP di broadcast è 192.168.1.255)</translation>
+        <source>Note: you can use broadcast IP to scan a whole network (e.g. let's say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
+        <translation>Nota: puoi usare l'IP di broadcast per analizzare un'intera rete (ad esempio, se il tuo indirizzo IP è 192.168.1.1 e la maschera di sottorete è 255.255.255.0, l'indirizzo IP di broadcast è 192.168.1.255)</translation>
     </message>
     <message>
         <source>Scan</source>
@@ -3542,7 +3542,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>The &amp;close box hides the main window (the tray icon brings it back)</source>
-        <translation>La c&amp;hiusura nasconde la finestra principale (l&apos;icona di notifica la riapre)</translation>
+        <translation>La c&amp;hiusura nasconde la finestra principale (l'icona di notifica la riapre)</translation>
     </message>
     <message>
         <source>Tell of messages and in&amp;vitations</source>
@@ -3657,7 +3657,7 @@ Inviarlo a %4?</translation>
         <translation>Lingua</translation>
     </message>
     <message>
-        <source>the desktop&apos;s</source>
+        <source>the desktop's</source>
         <translation>quella del desktop</translation>
     </message>
     <message>
@@ -3690,7 +3690,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>A p&amp;icture:</source>
-        <translation>Un&apos;imma&amp;gine:</translation>
+        <translation>Un'imma&amp;gine:</translation>
     </message>
     <message>
         <source>Pictures that chan&amp;ge:</source>
@@ -3698,7 +3698,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>The picture</source>
-        <translation>L&apos;immagine</translation>
+        <translation>L'immagine</translation>
     </message>
     <message>
         <source>L&amp;oad...</source>
@@ -3722,7 +3722,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>A picture can also be dropped here or pasted. Pictures that change end with NIMB-Chat; the picture is kept.</source>
-        <translation>È anche possibile trascinare qui o incollare un&apos;immagine. Le immagini che cambiano terminano con NIMB-Chat; l&apos;immagine singola viene conservata.</translation>
+        <translation>È anche possibile trascinare qui o incollare un'immagine. Le immagini che cambiano terminano con NIMB-Chat; l'immagine singola viene conservata.</translation>
     </message>
     <message>
         <source>ask me</source>
@@ -3730,7 +3730,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>The environment variable NIMBCHAT_ADDRESS says it</source>
-        <translation>È indicato dalla variabile d&apos;ambiente NIMBCHAT_ADDRESS</translation>
+        <translation>È indicato dalla variabile d'ambiente NIMBCHAT_ADDRESS</translation>
     </message>
     <message>
         <source>none</source>
@@ -3741,7 +3741,7 @@ Inviarlo a %4?</translation>
         <translation>%1, %2 punti</translation>
     </message>
     <message>
-        <source>the desktop&apos;s font: %1, %2 points</source>
+        <source>the desktop's font: %1, %2 points</source>
         <translation>font del desktop: %1, %2 punti</translation>
     </message>
     <message>
@@ -3757,7 +3757,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>What the peer is typing</source>
-        <translation>Cosa sta scrivendo l&apos;interlocutore</translation>
+        <translation>Cosa sta scrivendo l'interlocutore</translation>
     </message>
     <message>
         <source>Buzz!</source>
@@ -3773,7 +3773,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>The other one sees what you type before you send it</source>
-        <translation>L&apos;interlocutore vede ciò che scrivi prima dell&apos;invio</translation>
+        <translation>L'interlocutore vede ciò che scrivi prima dell'invio</translation>
     </message>
     <message>
         <source>Mood</source>
@@ -3785,7 +3785,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>Avatar of the peer</source>
-        <translation>Avatar dell&apos;interlocutore</translation>
+        <translation>Avatar dell'interlocutore</translation>
     </message>
     <message>
         <source>Your mood (unspecified)</source>
@@ -3805,7 +3805,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>Address of the peer</source>
-        <translation>Indirizzo dell&apos;interlocutore</translation>
+        <translation>Indirizzo dell'interlocutore</translation>
     </message>
     <message>
         <source>Your mood (%1)</source>
@@ -3819,7 +3819,7 @@ Inviarlo a %4?</translation>
 <context>
     <name>nimb::frmSendContact</name>
     <message>
-        <source>NIMB-Chat - Send Contacts to &apos;%1&apos;</source>
+        <source>NIMB-Chat - Send Contacts to '%1'</source>
         <translation>NIMB-Chat - Invia contatti a «%1»</translation>
     </message>
     <message>
@@ -3852,7 +3852,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>Contacts chosen for sending</source>
-        <translation>Contatti scelti per l&apos;invio</translation>
+        <translation>Contatti scelti per l'invio</translation>
     </message>
     <message>
         <source>Contacts moved here will be sent</source>
@@ -3875,7 +3875,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>Find a contact; typing in the list does the same</source>
-        <translation>Cerca un contatto; basta anche scrivere nell&apos;elenco</translation>
+        <translation>Cerca un contatto; basta anche scrivere nell'elenco</translation>
     </message>
     <message>
         <source>What was kept of conversations</source>
@@ -3903,11 +3903,11 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>In an empty box: bring back the last message</source>
-        <translation>In una casella vuota: richiama l&apos;ultimo messaggio</translation>
+        <translation>In una casella vuota: richiama l'ultimo messaggio</translation>
     </message>
     <message>
         <source>Choose an emoji</source>
-        <translation>Sceglie un&apos;emoji</translation>
+        <translation>Sceglie un'emoji</translation>
     </message>
     <message>
         <source>Buzz (private windows)</source>
@@ -3986,7 +3986,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>&amp;Show tips at start</source>
-        <translation>&amp;Mostra suggerimenti all&apos;avvio</translation>
+        <translation>&amp;Mostra suggerimenti all'avvio</translation>
     </message>
     <message>
         <source>&amp;Next tip</source>
@@ -4021,7 +4021,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>Until when it is offered</source>
-        <translation>Scadenza dell&apos;offerta</translation>
+        <translation>Scadenza dell'offerta</translation>
     </message>
     <message>
         <source>For 24 hours</source>
@@ -4033,7 +4033,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>Until it is stopped</source>
-        <translation>Fino all&apos;interruzione</translation>
+        <translation>Fino all'interruzione</translation>
     </message>
     <message>
         <source>&amp;Stop</source>
@@ -4045,7 +4045,7 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>Nobody has offered you a file since NIMB-Chat was started.</source>
-        <translation>Nessuno ti ha offerto file dall&apos;avvio di NIMB-Chat.</translation>
+        <translation>Nessuno ti ha offerto file dall'avvio di NIMB-Chat.</translation>
     </message>
     <message>
         <source>S&amp;ave...</source>
@@ -4069,15 +4069,15 @@ Inviarlo a %4?</translation>
     </message>
     <message>
         <source>Save A&amp;ll...</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva &amp;tutto...</translation>
     </message>
     <message>
         <source>Saves all that is offered and has not been fetched, in one folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva in una cartella tutto ciò che è offerto e non è ancora stato scaricato</translation>
     </message>
     <message>
         <source>Save A&amp;ll (%1)...</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva &amp;tutto (%1)...</translation>
     </message>
 </context>
 </TS>

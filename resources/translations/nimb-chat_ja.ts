@@ -8,7 +8,7 @@
         <translation>すべての項目を入力してください</translation>
     </message>
     <message>
-        <source>You can&apos;t add yourself...</source>
+        <source>You can't add yourself...</source>
         <translation>自分自身は追加できません...</translation>
     </message>
     <message>
@@ -54,7 +54,7 @@
         <translation>会議 #%1 (自分が主催) - NIMB-Chat</translation>
     </message>
     <message>
-        <source>Conference #%1 (Hosted by &apos;%2&apos;) - NIMB-Chat</source>
+        <source>Conference #%1 (Hosted by '%2') - NIMB-Chat</source>
         <translation>会議 #%1 (主催: %2) - NIMB-Chat</translation>
     </message>
     <message>
@@ -131,11 +131,11 @@
         <translation>ユーザーを招待(&amp;N)</translation>
     </message>
     <message>
-        <source>Private chat with &apos;%1&apos;</source>
+        <source>Private chat with '%1'</source>
         <translation>「%1」とプライベートチャット</translation>
     </message>
     <message>
-        <source>Buzz &apos;%1&apos;</source>
+        <source>Buzz '%1'</source>
         <translation>「%1」のブザーを鳴らす</translation>
     </message>
     <message>
@@ -143,19 +143,19 @@
         <translation>%1 人のユーザーを一覧から削除</translation>
     </message>
     <message>
-        <source>Remove &apos;%1&apos; from the list</source>
+        <source>Remove '%1' from the list</source>
         <translation>「%1」を一覧から削除</translation>
     </message>
     <message>
-        <source>Send &amp;contacts to &apos;%1&apos;</source>
+        <source>Send &amp;contacts to '%1'</source>
         <translation>「%1」に連絡先を送信(&amp;C)</translation>
     </message>
     <message>
-        <source>&amp;Net send message to &apos;%1&apos;</source>
+        <source>&amp;Net send message to '%1'</source>
         <translation>「%1」に net send でメッセージを送信(&amp;N)</translation>
     </message>
     <message>
-        <source>I&amp;nvite user &apos;%1&apos;</source>
+        <source>I&amp;nvite user '%1'</source>
         <translation>「%1」を招待(&amp;N)</translation>
     </message>
     <message>
@@ -175,15 +175,15 @@
         <translation>%1 さんがいるかどうかを確認中です。確認できるまでウィンドウは開きません</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks, and shows you to your contacts</source>
+        <source>whether %1 is there is not known: "Rescan" asks, and shows you to your contacts</source>
         <translation>%1 さんがいるかどうかは不明です。「再スキャン」で確認できますが、自分がいることも連絡先に知られます</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks</source>
+        <source>whether %1 is there is not known: "Rescan" asks</source>
         <translation>%1 さんがいるかどうかは不明です。「再スキャン」で確認できます</translation>
     </message>
     <message>
-        <source>Are you sure you want to remove the user &apos;%1&apos; on workstation &apos;%2&apos; (%3) ?</source>
+        <source>Are you sure you want to remove the user '%1' on workstation '%2' (%3) ?</source>
         <translation>ワークステーション「%2」のユーザー「%1」(%3) を削除しますか?</translation>
     </message>
     <message>
@@ -200,13 +200,13 @@
     </message>
     <message>
         <source>%1 contacts selected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 件の連絡先を選択中</translation>
     </message>
 </context>
 <context>
     <name>ContactFile</name>
     <message>
-        <source>&quot;%1&quot; is not the address of one computer</source>
+        <source>"%1" is not the address of one computer</source>
         <translation>「%1」は 1 台のコンピューターのアドレスではありません</translation>
     </message>
     <message>
@@ -447,7 +447,7 @@
         <translation>NIMB-Chat によるポート %1 の使用がシステムで許可されていません。</translation>
     </message>
     <message>
-        <source>Choose a port above 1023 in Tools, Options, the same as everybody else&apos;s.</source>
+        <source>Choose a port above 1023 in Tools, Options, the same as everybody else's.</source>
         <translation>「ツール」&gt;「オプション」で、1023 より大きいポートを指定してください。全員が同じポートを使用する必要があります。</translation>
     </message>
     <message>
@@ -471,7 +471,7 @@
         <translation>ポート %1 は別のプログラムが使用しています。</translation>
     </message>
     <message>
-        <source>&quot;sudo ss -ulpn sport = :%1&quot; shows which one.</source>
+        <source>"sudo ss -ulpn sport = :%1" shows which one.</source>
         <translation>どのプログラムかは「sudo ss -ulpn sport = :%1」で確認できます。</translation>
     </message>
     <message>
@@ -499,7 +499,7 @@
         <translation>システムが保持できる処理待ちのデータグラムは %1 KiB だけです。多数の応答が同時に届くと、一部が失われます。</translation>
     </message>
     <message>
-        <source>&quot;sudo sysctl -w net.core.rmem_max=4194304&quot; lets it keep more.</source>
+        <source>"sudo sysctl -w net.core.rmem_max=4194304" lets it keep more.</source>
         <translation>「sudo sysctl -w net.core.rmem_max=4194304」で増やすことができます。</translation>
     </message>
     <message>
@@ -579,7 +579,7 @@
         <translation>ファイアウォールが UDP ポート %1 を遮断しているかどうかは、管理者だけが確認できます。</translation>
     </message>
     <message>
-        <source>&quot;sudo nimb-chatctl doctor&quot; tells.</source>
+        <source>"sudo nimb-chatctl doctor" tells.</source>
         <translation>「sudo nimb-chatctl doctor」で確認できます。</translation>
     </message>
     <message>
@@ -587,7 +587,7 @@
         <translation>このコンピューターではファイアウォールが有効な可能性がありますが、すべての規則を表示できるプログラムがありません。</translation>
     </message>
     <message>
-        <source>&quot;sudo nft list ruleset&quot; and &quot;sudo iptables-legacy -S&quot; show them, of the packages nftables and iptables.</source>
+        <source>"sudo nft list ruleset" and "sudo iptables-legacy -S" show them, of the packages nftables and iptables.</source>
         <translation>規則は「sudo nft list ruleset」と「sudo iptables-legacy -S」で表示できます (nftables および iptables パッケージに付属)。</translation>
     </message>
     <message>
@@ -655,7 +655,7 @@
         <translation>%1 は応答しませんでした。%2 への経路は自分のアドレス %3 を通りますが、オプションではカード %4 が選択されています。そのアドレス %5 には、相手側から到達できない可能性があります。</translation>
     </message>
     <message>
-        <source>Choose &quot;automatic&quot; or the card of that network as your own address in Tools, Options.</source>
+        <source>Choose "automatic" or the card of that network as your own address in Tools, Options.</source>
         <translation>「ツール」&gt;「オプション」の「自分のアドレス」で、「自動」またはそのネットワークのカードを選択してください。</translation>
     </message>
     <message>
@@ -925,7 +925,7 @@
 <context>
     <name>FolderSource</name>
     <message>
-        <source>There is no picture to show in &quot;%1&quot;.</source>
+        <source>There is no picture to show in "%1".</source>
         <translation>「%1」には表示できる画像がありません。</translation>
     </message>
 </context>
@@ -1006,19 +1006,19 @@
     </message>
     <message>
         <source>There is too little room in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 の空き容量が不足しています。</translation>
     </message>
     <message>
         <source>There is no room any more in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 の空き容量がなくなりました。</translation>
     </message>
     <message>
         <source>%1 cannot be written on: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 への書き込みを続けられません (%2)。</translation>
     </message>
     <message>
         <source>%1 What has come is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1受信済みの部分は残されます。</translation>
     </message>
 </context>
 <context>
@@ -1076,7 +1076,7 @@
         <translation>%1 さんがオフラインになりました ---</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;  ---</source>
+        <source>%1 changed his state to '%2'  ---</source>
         <translation>%1 さんが状態を「%2」に変更しました ---</translation>
     </message>
     <message>
@@ -1084,7 +1084,7 @@
         <translation>%1 さんがブザーを鳴らしました ---</translation>
     </message>
     <message>
-        <source>%1 sent you the contact &apos;%2&apos; (%3) ---</source>
+        <source>%1 sent you the contact '%2' (%3) ---</source>
         <translation>%1 さんから連絡先「%2」(%3) を受信しました ---</translation>
     </message>
     <message>
@@ -1328,7 +1328,7 @@
         <translation>前回の NIMB-Chat 終了時: %1</translation>
     </message>
     <message>
-        <source>The stored personalized state &quot;%1&quot; begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
+        <source>The stored personalized state "%1" begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
         <translation>保存されている独自の状態「%1」は、先頭に画像を示す数字がないため読み込まれませんでした。NIMB-Chat を終了すると完全に失われます。</translation>
     </message>
     <message>
@@ -1417,7 +1417,7 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no &quot;net&quot; command.</source>
+        <source>The message was not sent: this system has no "net" command.</source>
         <translation>メッセージは送信されませんでした。このシステムには「net」コマンドがありません。</translation>
     </message>
     <message>
@@ -1436,11 +1436,11 @@
 <context>
     <name>NetworkScan</name>
     <message>
-        <source>&quot;%1&quot; is neither a name nor the address of a computer or a network, so nobody was asked.</source>
+        <source>"%1" is neither a name nor the address of a computer or a network, so nobody was asked.</source>
         <translation>「%1」は、コンピューターやネットワークの名前でもアドレスでもないため、問い合わせは行われませんでした。</translation>
     </message>
     <message>
-        <source>No address was found for &quot;%1&quot;, so nobody was asked.</source>
+        <source>No address was found for "%1", so nobody was asked.</source>
         <translation>「%1」のアドレスが見つからないため、問い合わせは行われませんでした。</translation>
     </message>
     <message>
@@ -1580,7 +1580,7 @@
         <translation>すべての連絡先に、オンラインかどうかを問い合わせます</translation>
     </message>
     <message>
-        <source>Only %1 personalized states are kept: &quot;%2&quot; lasts until NIMB-Chat ends.</source>
+        <source>Only %1 personalized states are kept: "%2" lasts until NIMB-Chat ends.</source>
         <translation>独自の状態は %1 個までしか保存されません。「%2」は NIMB-Chat を終了すると失われます。</translation>
     </message>
 </context>
@@ -1614,7 +1614,7 @@
         <translation>NIMB-Chat で読み取れる画像ではありません。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be opened.</source>
+        <source>"%1" cannot be opened.</source>
         <translation>「%1」を開けません。</translation>
     </message>
 </context>
@@ -1668,7 +1668,7 @@
         <translation>%1 さんがオフラインになりました</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;</source>
+        <source>%1 changed his state to '%2'</source>
         <translation>%1 さんが状態を「%2」に変更しました</translation>
     </message>
 </context>
@@ -1680,7 +1680,7 @@
     </message>
     <message>
         <source>%1 is offline: files can be sent when %1 is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 さんはオフラインです。ファイルは、%1 さんが戻ったときに送信できます。</translation>
     </message>
 </context>
 <context>
@@ -1700,7 +1700,7 @@
 <context>
     <name>Program</name>
     <message>
-        <source>NIMBCHAT_ADDRESS is &quot;%1&quot;, which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
+        <source>NIMBCHAT_ADDRESS is "%1", which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
         <translation>NIMBCHAT_ADDRESS に指定された「%1」は IPv4 アドレスではありません。代わりに、NIMB-Chat はすべてのインターフェイスで待ち受けます。</translation>
     </message>
     <message>
@@ -1806,7 +1806,7 @@
 <context>
     <name>Settings</name>
     <message>
-        <source>The stored setting %1 cannot be &quot;%2&quot;; %3 is used instead.</source>
+        <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
         <translation>保存されている設定 %1 の値「%2」は使用できません。代わりに %3 を使用します。</translation>
     </message>
 </context>
@@ -1914,7 +1914,7 @@
     <name>nimb::ClearedBand</name>
     <message>
         <source>Bring it back</source>
-        <translation type="unfinished"></translation>
+        <translation>元に戻す</translation>
     </message>
 </context>
 <context>
@@ -2014,7 +2014,7 @@
         <translation>全員を表示</translation>
     </message>
     <message>
-        <source>Nobody here is called &quot;%1&quot;</source>
+        <source>Nobody here is called "%1"</source>
         <translation>「%1」という名前の人はいません</translation>
     </message>
 </context>
@@ -2107,43 +2107,43 @@
     <message>
         <source> Keep them: %1</source>
         <comment>answers that can be clicked</comment>
-        <translation type="unfinished"></translation>
+        <translation> 保存期間: %1</translation>
     </message>
     <message>
         <source>for a year</source>
-        <translation type="unfinished">1 年間</translation>
+        <translation>1 年間</translation>
     </message>
     <message>
         <source>for ever</source>
-        <translation type="unfinished">無期限</translation>
+        <translation>無期限</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished">保存しない</translation>
+        <translation>保存しない</translation>
     </message>
     <message>
         <source>Send it</source>
-        <translation type="unfinished"></translation>
+        <translation>送信する</translation>
     </message>
     <message>
         <source>leave it</source>
-        <translation type="unfinished"></translation>
+        <translation>やめる</translation>
     </message>
     <message>
         <source>Send files; the arrow, or the Down key, has folders too</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを送信します。フォルダーは矢印または下方向キーから送信できます</translation>
     </message>
     <message>
         <source>Earlier troubles with files: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>これまでのファイルの問題: %1 件。</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">閉じる</translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>Copy the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>残りをコピー</translation>
     </message>
 </context>
 <context>
@@ -2297,11 +2297,11 @@
     </message>
     <message>
         <source>Files are offered at %1, which this computer no longer has: nobody can fetch them, until it has it again or you send them once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>アドレス %1 で提供しているファイルがありますが、このアドレスはもうこのコンピューターにありません。再びこのアドレスになるか、ファイルを送信し直すまで、誰も取得できません。</translation>
     </message>
     <message>
         <source>offered at %1, which this computer no longer has</source>
-        <translation type="unfinished"></translation>
+        <translation>アドレス %1 で提供中 (このコンピューターにはもうないアドレス)</translation>
     </message>
 </context>
 <context>
@@ -2320,11 +2320,11 @@
     </message>
     <message>
         <source>Show all</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて表示</translation>
     </message>
     <message>
         <source>Hide</source>
-        <translation type="unfinished">隠す</translation>
+        <translation>隠す</translation>
     </message>
 </context>
 <context>
@@ -2425,7 +2425,7 @@
         <translation>保存されているすべての会話を検索</translation>
     </message>
     <message>
-        <source>Opens the history&apos;s window</source>
+        <source>Opens the history's window</source>
         <translation>履歴ウィンドウを開きます</translation>
     </message>
     <message>
@@ -2444,7 +2444,7 @@
 <context>
     <name>nimb::HistoryModel</name>
     <message>
-        <source>%1, %2, in &quot;%3&quot;</source>
+        <source>%1, %2, in "%3"</source>
         <translation>%1、%2、「%3」</translation>
     </message>
     <message>
@@ -2759,11 +2759,11 @@ Send it to %4?</source>
     </message>
     <message>
         <source>%1 no longer offers this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 さんはこのファイルの提供を終了しています。</translation>
     </message>
     <message>
         <source>checks what is there: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>受信済みの部分を確認中: %1 %</translation>
     </message>
 </context>
 <context>
@@ -2855,11 +2855,11 @@ Send it to %4?</source>
     <name>nimb::UnfinishedFiles</name>
     <message>
         <source>files that had not all come when NIMB-Chat ended: %2; %1 goes on with them</source>
-        <translation type="unfinished"></translation>
+        <translation>NIMB-Chat の終了時に受信が完了していなかったファイル: %2 個。%1 から再開できます</translation>
     </message>
     <message>
         <source>Tools, Transfers...</source>
-        <translation type="unfinished"></translation>
+        <translation>ツール &gt; 転送...</translation>
     </message>
 </context>
 <context>
@@ -2869,7 +2869,7 @@ Send it to %4?</source>
         <translation>NIMB-Chat のバージョン情報</translation>
     </message>
     <message>
-        <source>NIMB-Chat&apos;s picture</source>
+        <source>NIMB-Chat's picture</source>
         <translation>NIMB-Chat の画像</translation>
     </message>
     <message>
@@ -2881,7 +2881,7 @@ Send it to %4?</source>
         <translation>バージョン %1</translation>
     </message>
     <message>
-        <source>A simple messenger that works with UDP/IP and it&apos;s been intended for use on a small LAN</source>
+        <source>A simple messenger that works with UDP/IP and it's been intended for use on a small LAN</source>
         <translation>UDP/IP で動作する、小規模な LAN 向けのシンプルなメッセンジャー</translation>
     </message>
     <message>
@@ -3268,7 +3268,7 @@ Send it to %4?</source>
         <translation>選択した会話(&amp;C)</translation>
     </message>
     <message>
-        <source>Erase all that is kept of &quot;%1&quot; for good?</source>
+        <source>Erase all that is kept of "%1" for good?</source>
         <translation>「%1」の保存内容をすべて完全に消去しますか?</translation>
     </message>
     <message>
@@ -3460,7 +3460,7 @@ Send it to %4?</source>
         <translation>全員の検索先...</translation>
     </message>
     <message>
-        <source>Note: you can use broadcast IP to scan a whole network (e.g. let&apos;s say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
+        <source>Note: you can use broadcast IP to scan a whole network (e.g. let's say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
         <translation>注: ブロードキャストアドレスを使用すると、ネットワーク全体をスキャンできます (たとえば、IP アドレスが 192.168.1.1、サブネットマスクが 255.255.255.0 の場合、ブロードキャストアドレスは 192.168.1.255 です)</translation>
     </message>
     <message>
@@ -3654,7 +3654,7 @@ Send it to %4?</source>
         <translation>言語</translation>
     </message>
     <message>
-        <source>the desktop&apos;s</source>
+        <source>the desktop's</source>
         <translation>デスクトップの設定</translation>
     </message>
     <message>
@@ -3738,7 +3738,7 @@ Send it to %4?</source>
         <translation>%1、%2 ポイント</translation>
     </message>
     <message>
-        <source>the desktop&apos;s font: %1, %2 points</source>
+        <source>the desktop's font: %1, %2 points</source>
         <translation>デスクトップのフォント: %1、%2 ポイント</translation>
     </message>
     <message>
@@ -3816,7 +3816,7 @@ Send it to %4?</source>
 <context>
     <name>nimb::frmSendContact</name>
     <message>
-        <source>NIMB-Chat - Send Contacts to &apos;%1&apos;</source>
+        <source>NIMB-Chat - Send Contacts to '%1'</source>
         <translation>NIMB-Chat - 「%1」に連絡先を送信</translation>
     </message>
     <message>
@@ -4066,15 +4066,15 @@ Send it to %4?</source>
     </message>
     <message>
         <source>Save A&amp;ll...</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて保存(&amp;L)...</translation>
     </message>
     <message>
         <source>Saves all that is offered and has not been fetched, in one folder</source>
-        <translation type="unfinished"></translation>
+        <translation>提供されていて未取得のものすべてを 1 つのフォルダーに保存します</translation>
     </message>
     <message>
         <source>Save A&amp;ll (%1)...</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて保存 (%1)(&amp;L)...</translation>
     </message>
 </context>
 </TS>

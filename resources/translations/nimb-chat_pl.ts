@@ -8,7 +8,7 @@
         <translation>Wypełnij wszystkie pola</translation>
     </message>
     <message>
-        <source>You can&apos;t add yourself...</source>
+        <source>You can't add yourself...</source>
         <translation>Nie można dodać samego siebie...</translation>
     </message>
     <message>
@@ -54,7 +54,7 @@
         <translation>Konferencja nr %1 (prowadzona tutaj) – NIMB-Chat</translation>
     </message>
     <message>
-        <source>Conference #%1 (Hosted by &apos;%2&apos;) - NIMB-Chat</source>
+        <source>Conference #%1 (Hosted by '%2') - NIMB-Chat</source>
         <translation>Konferencja nr %1 (prowadzi „%2”) – NIMB-Chat</translation>
     </message>
     <message>
@@ -131,11 +131,11 @@
         <translation>&amp;Zaproś użytkownika</translation>
     </message>
     <message>
-        <source>Private chat with &apos;%1&apos;</source>
+        <source>Private chat with '%1'</source>
         <translation>Rozmowa prywatna: „%1”</translation>
     </message>
     <message>
-        <source>Buzz &apos;%1&apos;</source>
+        <source>Buzz '%1'</source>
         <translation>Szturchnij: „%1”</translation>
     </message>
     <message>
@@ -143,19 +143,19 @@
         <translation>Usuń z listy zaznaczonych użytkowników (%1)</translation>
     </message>
     <message>
-        <source>Remove &apos;%1&apos; from the list</source>
+        <source>Remove '%1' from the list</source>
         <translation>Usuń z listy: „%1”</translation>
     </message>
     <message>
-        <source>Send &amp;contacts to &apos;%1&apos;</source>
+        <source>Send &amp;contacts to '%1'</source>
         <translation>Wyślij &amp;kontakty do: „%1”</translation>
     </message>
     <message>
-        <source>&amp;Net send message to &apos;%1&apos;</source>
+        <source>&amp;Net send message to '%1'</source>
         <translation>Wyślij wiadomość n&amp;et send do: „%1”</translation>
     </message>
     <message>
-        <source>I&amp;nvite user &apos;%1&apos;</source>
+        <source>I&amp;nvite user '%1'</source>
         <translation>&amp;Zaproś użytkownika „%1”</translation>
     </message>
     <message>
@@ -175,15 +175,15 @@
         <translation>trwa sprawdzanie, czy %1 jest online: do tego czasu okno się nie otworzy</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks, and shows you to your contacts</source>
+        <source>whether %1 is there is not known: "Rescan" asks, and shows you to your contacts</source>
         <translation>nie wiadomo, czy %1 jest online: przycisk „Odśwież” wysyła pytanie i ujawnia Cię Twoim kontaktom</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks</source>
+        <source>whether %1 is there is not known: "Rescan" asks</source>
         <translation>nie wiadomo, czy %1 jest online: przycisk „Odśwież” wysyła pytanie</translation>
     </message>
     <message>
-        <source>Are you sure you want to remove the user &apos;%1&apos; on workstation &apos;%2&apos; (%3) ?</source>
+        <source>Are you sure you want to remove the user '%1' on workstation '%2' (%3) ?</source>
         <translation>Czy na pewno usunąć użytkownika „%1” na stacji roboczej „%2” (%3)?</translation>
     </message>
     <message>
@@ -200,13 +200,13 @@
     </message>
     <message>
         <source>%1 contacts selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaznaczone kontakty: %1</translation>
     </message>
 </context>
 <context>
     <name>ContactFile</name>
     <message>
-        <source>&quot;%1&quot; is not the address of one computer</source>
+        <source>"%1" is not the address of one computer</source>
         <translation>„%1” nie jest adresem pojedynczego komputera</translation>
     </message>
     <message>
@@ -449,7 +449,7 @@
         <translation>System nie pozwala programowi NIMB-Chat używać portu %1.</translation>
     </message>
     <message>
-        <source>Choose a port above 1023 in Tools, Options, the same as everybody else&apos;s.</source>
+        <source>Choose a port above 1023 in Tools, Options, the same as everybody else's.</source>
         <translation>W menu Narzędzia, Opcje wybierz port powyżej 1023, ten sam co u wszystkich.</translation>
     </message>
     <message>
@@ -473,7 +473,7 @@
         <translation>Port %1 jest używany przez inny program.</translation>
     </message>
     <message>
-        <source>&quot;sudo ss -ulpn sport = :%1&quot; shows which one.</source>
+        <source>"sudo ss -ulpn sport = :%1" shows which one.</source>
         <translation>Polecenie „sudo ss -ulpn sport = :%1” pokaże, przez który.</translation>
     </message>
     <message>
@@ -501,7 +501,7 @@
         <translation>System przechowuje tylko %1 KiB oczekujących datagramów: gdy wielu odpowiada naraz, część z nich przepada.</translation>
     </message>
     <message>
-        <source>&quot;sudo sysctl -w net.core.rmem_max=4194304&quot; lets it keep more.</source>
+        <source>"sudo sysctl -w net.core.rmem_max=4194304" lets it keep more.</source>
         <translation>Polecenie „sudo sysctl -w net.core.rmem_max=4194304” pozwoli przechowywać ich więcej.</translation>
     </message>
     <message>
@@ -581,7 +581,7 @@
         <translation>Tylko administrator może sprawdzić, czy zapora blokuje port UDP %1.</translation>
     </message>
     <message>
-        <source>&quot;sudo nimb-chatctl doctor&quot; tells.</source>
+        <source>"sudo nimb-chatctl doctor" tells.</source>
         <translation>Pokaże to polecenie „sudo nimb-chatctl doctor”.</translation>
     </message>
     <message>
@@ -589,7 +589,7 @@
         <translation>Ten komputer może mieć zaporę, ale brakuje programu, który pokaże wszystkie jej reguły.</translation>
     </message>
     <message>
-        <source>&quot;sudo nft list ruleset&quot; and &quot;sudo iptables-legacy -S&quot; show them, of the packages nftables and iptables.</source>
+        <source>"sudo nft list ruleset" and "sudo iptables-legacy -S" show them, of the packages nftables and iptables.</source>
         <translation>Pokażą je polecenia „sudo nft list ruleset” i „sudo iptables-legacy -S” z pakietów nftables i iptables.</translation>
     </message>
     <message>
@@ -657,7 +657,7 @@
         <translation>%1 nie odpowiada. Droga do %2 prowadzi z Twojego adresu %3, ale w opcjach wybrano kartę %4, której adres %5 może być stamtąd nieosiągalny.</translation>
     </message>
     <message>
-        <source>Choose &quot;automatic&quot; or the card of that network as your own address in Tools, Options.</source>
+        <source>Choose "automatic" or the card of that network as your own address in Tools, Options.</source>
         <translation>Wybierz „automatycznie” lub kartę tej sieci jako własny adres w menu Narzędzia, Opcje.</translation>
     </message>
     <message>
@@ -927,7 +927,7 @@
 <context>
     <name>FolderSource</name>
     <message>
-        <source>There is no picture to show in &quot;%1&quot;.</source>
+        <source>There is no picture to show in "%1".</source>
         <translation>W folderze „%1” nie ma obrazu do pokazania.</translation>
     </message>
 </context>
@@ -1008,19 +1008,19 @@
     </message>
     <message>
         <source>There is too little room in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>W %1 jest za mało miejsca.</translation>
     </message>
     <message>
         <source>There is no room any more in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>W %1 nie ma już miejsca.</translation>
     </message>
     <message>
         <source>%1 cannot be written on: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można dalej zapisywać %1: %2.</translation>
     </message>
     <message>
         <source>%1 What has come is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 To, co odebrano, zostało zachowane.</translation>
     </message>
 </context>
 <context>
@@ -1078,7 +1078,7 @@
         <translation>%1 jest teraz offline ---</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;  ---</source>
+        <source>%1 changed his state to '%2'  ---</source>
         <translation>%1 ma teraz stan „%2”  ---</translation>
     </message>
     <message>
@@ -1086,7 +1086,7 @@
         <translation>%1 Cię szturcha ---</translation>
     </message>
     <message>
-        <source>%1 sent you the contact &apos;%2&apos; (%3) ---</source>
+        <source>%1 sent you the contact '%2' (%3) ---</source>
         <translation>%1 przesyła Ci kontakt „%2” (%3) ---</translation>
     </message>
     <message>
@@ -1332,7 +1332,7 @@
         <translation>Przy ostatnim zakończeniu NIMB-Chat: %1</translation>
     </message>
     <message>
-        <source>The stored personalized state &quot;%1&quot; begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
+        <source>The stored personalized state "%1" begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
         <translation>Zapisany własny stan „%1” nie zaczyna się od cyfry obrazka, więc został pominięty i zniknie na dobre po zakończeniu NIMB-Chat.</translation>
     </message>
     <message>
@@ -1421,7 +1421,7 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no &quot;net&quot; command.</source>
+        <source>The message was not sent: this system has no "net" command.</source>
         <translation>Wiadomość nie została wysłana: ten system nie ma polecenia „net”.</translation>
     </message>
     <message>
@@ -1440,11 +1440,11 @@
 <context>
     <name>NetworkScan</name>
     <message>
-        <source>&quot;%1&quot; is neither a name nor the address of a computer or a network, so nobody was asked.</source>
+        <source>"%1" is neither a name nor the address of a computer or a network, so nobody was asked.</source>
         <translation>„%1” nie jest ani nazwą, ani adresem komputera lub sieci, więc nikogo nie zapytano.</translation>
     </message>
     <message>
-        <source>No address was found for &quot;%1&quot;, so nobody was asked.</source>
+        <source>No address was found for "%1", so nobody was asked.</source>
         <translation>Nie znaleziono adresu dla „%1”, więc nikogo nie zapytano.</translation>
     </message>
     <message>
@@ -1584,7 +1584,7 @@
         <translation>Pyta wszystkie kontakty, czy są online</translation>
     </message>
     <message>
-        <source>Only %1 personalized states are kept: &quot;%2&quot; lasts until NIMB-Chat ends.</source>
+        <source>Only %1 personalized states are kept: "%2" lasts until NIMB-Chat ends.</source>
         <translation>Liczba zachowywanych własnych stanów jest ograniczona do %1: „%2” zniknie po zakończeniu NIMB-Chat.</translation>
     </message>
 </context>
@@ -1618,7 +1618,7 @@
         <translation>To nie jest obraz, który NIMB-Chat potrafi odczytać.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be opened.</source>
+        <source>"%1" cannot be opened.</source>
         <translation>Nie można otworzyć „%1”.</translation>
     </message>
 </context>
@@ -1672,7 +1672,7 @@
         <translation>%1 jest teraz offline</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;</source>
+        <source>%1 changed his state to '%2'</source>
         <translation>%1 ma teraz stan „%2”</translation>
     </message>
 </context>
@@ -1684,7 +1684,7 @@
     </message>
     <message>
         <source>%1 is offline: files can be sent when %1 is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 jest offline: pliki będzie można wysłać, gdy %1 wróci.</translation>
     </message>
 </context>
 <context>
@@ -1704,7 +1704,7 @@
 <context>
     <name>Program</name>
     <message>
-        <source>NIMBCHAT_ADDRESS is &quot;%1&quot;, which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
+        <source>NIMBCHAT_ADDRESS is "%1", which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
         <translation>NIMBCHAT_ADDRESS ma wartość „%1”, która nie jest adresem IPv4; NIMB-Chat nasłuchuje zamiast tego na wszystkich interfejsach.</translation>
     </message>
     <message>
@@ -1810,7 +1810,7 @@
 <context>
     <name>Settings</name>
     <message>
-        <source>The stored setting %1 cannot be &quot;%2&quot;; %3 is used instead.</source>
+        <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
         <translation>Zapisane ustawienie %1 nie może mieć wartości „%2”; zamiast tego używane jest %3.</translation>
     </message>
 </context>
@@ -1918,7 +1918,7 @@
     <name>nimb::ClearedBand</name>
     <message>
         <source>Bring it back</source>
-        <translation type="unfinished"></translation>
+        <translation>Przywróć</translation>
     </message>
 </context>
 <context>
@@ -2018,7 +2018,7 @@
         <translation>Pokaż wszystkich</translation>
     </message>
     <message>
-        <source>Nobody here is called &quot;%1&quot;</source>
+        <source>Nobody here is called "%1"</source>
         <translation>Nikt tutaj nie nosi nazwy „%1”</translation>
     </message>
 </context>
@@ -2111,43 +2111,43 @@
     <message>
         <source> Keep them: %1</source>
         <comment>answers that can be clicked</comment>
-        <translation type="unfinished"></translation>
+        <translation> Zachowuj je: %1</translation>
     </message>
     <message>
         <source>for a year</source>
-        <translation type="unfinished">przez rok</translation>
+        <translation>przez rok</translation>
     </message>
     <message>
         <source>for ever</source>
-        <translation type="unfinished">bezterminowo</translation>
+        <translation>bezterminowo</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished">nie</translation>
+        <translation>nie</translation>
     </message>
     <message>
         <source>Send it</source>
-        <translation type="unfinished"></translation>
+        <translation>Wyślij</translation>
     </message>
     <message>
         <source>leave it</source>
-        <translation type="unfinished"></translation>
+        <translation>pomiń</translation>
     </message>
     <message>
         <source>Send files; the arrow, or the Down key, has folders too</source>
-        <translation type="unfinished"></translation>
+        <translation>Wyślij pliki; aby wysłać folder, użyj strzałki lub klawisza strzałki w dół</translation>
     </message>
     <message>
         <source>Earlier troubles with files: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wcześniejsze problemy z plikami: %1.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Zamknij</translation>
+        <translation>Zamknij</translation>
     </message>
     <message>
         <source>Copy the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>Skopiuj resztę</translation>
     </message>
 </context>
 <context>
@@ -2301,11 +2301,11 @@
     </message>
     <message>
         <source>Files are offered at %1, which this computer no longer has: nobody can fetch them, until it has it again or you send them once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pliki są oferowane pod adresem %1, którego ten komputer już nie ma: nikt nie może ich pobrać, dopóki komputer go nie odzyska lub nie wyślesz ich ponownie.</translation>
     </message>
     <message>
         <source>offered at %1, which this computer no longer has</source>
-        <translation type="unfinished"></translation>
+        <translation>oferowany pod adresem %1, którego ten komputer już nie ma</translation>
     </message>
 </context>
 <context>
@@ -2324,11 +2324,11 @@
     </message>
     <message>
         <source>Show all</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokaż wszystkie</translation>
     </message>
     <message>
         <source>Hide</source>
-        <translation type="unfinished">Ukryj</translation>
+        <translation>Ukryj</translation>
     </message>
 </context>
 <context>
@@ -2429,7 +2429,7 @@
         <translation>Przeszukaj całą historię</translation>
     </message>
     <message>
-        <source>Opens the history&apos;s window</source>
+        <source>Opens the history's window</source>
         <translation>Otwiera okno historii</translation>
     </message>
     <message>
@@ -2448,7 +2448,7 @@
 <context>
     <name>nimb::HistoryModel</name>
     <message>
-        <source>%1, %2, in &quot;%3&quot;</source>
+        <source>%1, %2, in "%3"</source>
         <translation>%1, %2, rozmowa „%3”</translation>
     </message>
     <message>
@@ -2765,11 +2765,11 @@ Wysłać ją do użytkownika %4?</translation>
     </message>
     <message>
         <source>%1 no longer offers this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 już nie oferuje tego pliku.</translation>
     </message>
     <message>
         <source>checks what is there: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>sprawdzanie odebranej części: %1 %</translation>
     </message>
 </context>
 <context>
@@ -2861,11 +2861,11 @@ Wysłać ją do użytkownika %4?</translation>
     <name>nimb::UnfinishedFiles</name>
     <message>
         <source>files that had not all come when NIMB-Chat ended: %2; %1 goes on with them</source>
-        <translation type="unfinished"></translation>
+        <translation>pliki nieodebrane w całości przed zakończeniem NIMB-Chat: %2; wznowić je można w menu %1</translation>
     </message>
     <message>
         <source>Tools, Transfers...</source>
-        <translation type="unfinished"></translation>
+        <translation>Narzędzia, Transfery...</translation>
     </message>
 </context>
 <context>
@@ -2875,7 +2875,7 @@ Wysłać ją do użytkownika %4?</translation>
         <translation>O programie NIMB-Chat</translation>
     </message>
     <message>
-        <source>NIMB-Chat&apos;s picture</source>
+        <source>NIMB-Chat's picture</source>
         <translation>Obrazek NIMB-Chat</translation>
     </message>
     <message>
@@ -2887,7 +2887,7 @@ Wysłać ją do użytkownika %4?</translation>
         <translation>Wersja %1</translation>
     </message>
     <message>
-        <source>A simple messenger that works with UDP/IP and it&apos;s been intended for use on a small LAN</source>
+        <source>A simple messenger that works with UDP/IP and it's been intended for use on a small LAN</source>
         <translation>Prosty komunikator działający przez UDP/IP, przeznaczony do małych sieci lokalnych</translation>
     </message>
     <message>
@@ -3274,7 +3274,7 @@ Wysłać ją do użytkownika %4?</translation>
         <translation>Wybraną &amp;rozmowę</translation>
     </message>
     <message>
-        <source>Erase all that is kept of &quot;%1&quot; for good?</source>
+        <source>Erase all that is kept of "%1" for good?</source>
         <translation>Usunąć trwale całą zachowaną historię „%1”?</translation>
     </message>
     <message>
@@ -3466,7 +3466,7 @@ Wysłać ją do użytkownika %4?</translation>
         <translation>Wszyscy w sieci...</translation>
     </message>
     <message>
-        <source>Note: you can use broadcast IP to scan a whole network (e.g. let&apos;s say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
+        <source>Note: you can use broadcast IP to scan a whole network (e.g. let's say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
         <translation>Uwaga: aby przeskanować całą sieć, można użyć adresu rozgłoszeniowego (np. dla adresu IP 192.168.1.1 i maski podsieci 255.255.255.0 adresem rozgłoszeniowym jest 192.168.1.255)</translation>
     </message>
     <message>
@@ -3660,7 +3660,7 @@ Wysłać ją do użytkownika %4?</translation>
         <translation>Język</translation>
     </message>
     <message>
-        <source>the desktop&apos;s</source>
+        <source>the desktop's</source>
         <translation>jak w systemie</translation>
     </message>
     <message>
@@ -3744,7 +3744,7 @@ Wysłać ją do użytkownika %4?</translation>
         <translation>%1, %2 pkt</translation>
     </message>
     <message>
-        <source>the desktop&apos;s font: %1, %2 points</source>
+        <source>the desktop's font: %1, %2 points</source>
         <translation>czcionka systemu: %1, %2 pkt</translation>
     </message>
     <message>
@@ -3822,7 +3822,7 @@ Wysłać ją do użytkownika %4?</translation>
 <context>
     <name>nimb::frmSendContact</name>
     <message>
-        <source>NIMB-Chat - Send Contacts to &apos;%1&apos;</source>
+        <source>NIMB-Chat - Send Contacts to '%1'</source>
         <translation>NIMB-Chat – Wysyłanie kontaktów do: „%1”</translation>
     </message>
     <message>
@@ -4072,15 +4072,15 @@ Wysłać ją do użytkownika %4?</translation>
     </message>
     <message>
         <source>Save A&amp;ll...</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisz wszys&amp;tko...</translation>
     </message>
     <message>
         <source>Saves all that is offered and has not been fetched, in one folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisuje w jednym folderze wszystko, co jest oferowane, a nie zostało jeszcze pobrane</translation>
     </message>
     <message>
         <source>Save A&amp;ll (%1)...</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisz wszys&amp;tko (%1)...</translation>
     </message>
 </context>
 </TS>

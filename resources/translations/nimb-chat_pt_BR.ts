@@ -8,7 +8,7 @@
         <translation>Preencha todos os campos</translation>
     </message>
     <message>
-        <source>You can&apos;t add yourself...</source>
+        <source>You can't add yourself...</source>
         <translation>Não é possível adicionar o seu próprio usuário...</translation>
     </message>
     <message>
@@ -54,7 +54,7 @@
         <translation>Conferência nº %1 (hospedada aqui) - NIMB-Chat</translation>
     </message>
     <message>
-        <source>Conference #%1 (Hosted by &apos;%2&apos;) - NIMB-Chat</source>
+        <source>Conference #%1 (Hosted by '%2') - NIMB-Chat</source>
         <translation>Conferência nº %1 (hospedada por “%2”) - NIMB-Chat</translation>
     </message>
     <message>
@@ -131,11 +131,11 @@
         <translation>Con&amp;vidar usuário</translation>
     </message>
     <message>
-        <source>Private chat with &apos;%1&apos;</source>
+        <source>Private chat with '%1'</source>
         <translation>Conversa privada com “%1”</translation>
     </message>
     <message>
-        <source>Buzz &apos;%1&apos;</source>
+        <source>Buzz '%1'</source>
         <translation>Enviar toque para “%1”</translation>
     </message>
     <message>
@@ -143,19 +143,19 @@
         <translation>Remover %1 usuários da lista</translation>
     </message>
     <message>
-        <source>Remove &apos;%1&apos; from the list</source>
+        <source>Remove '%1' from the list</source>
         <translation>Remover “%1” da lista</translation>
     </message>
     <message>
-        <source>Send &amp;contacts to &apos;%1&apos;</source>
+        <source>Send &amp;contacts to '%1'</source>
         <translation>&amp;Enviar contatos para “%1”</translation>
     </message>
     <message>
-        <source>&amp;Net send message to &apos;%1&apos;</source>
+        <source>&amp;Net send message to '%1'</source>
         <translation>Enviar mensagem por &amp;net send para “%1”</translation>
     </message>
     <message>
-        <source>I&amp;nvite user &apos;%1&apos;</source>
+        <source>I&amp;nvite user '%1'</source>
         <translation>Con&amp;vidar o usuário “%1”</translation>
     </message>
     <message>
@@ -175,15 +175,15 @@
         <translation>verificando se %1 está online: nenhuma janela será aberta antes da resposta</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks, and shows you to your contacts</source>
+        <source>whether %1 is there is not known: "Rescan" asks, and shows you to your contacts</source>
         <translation>não se sabe se %1 está online: “Atualizar” faz a consulta e mostra você aos seus contatos</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks</source>
+        <source>whether %1 is there is not known: "Rescan" asks</source>
         <translation>não se sabe se %1 está online: “Atualizar” faz a consulta</translation>
     </message>
     <message>
-        <source>Are you sure you want to remove the user &apos;%1&apos; on workstation &apos;%2&apos; (%3) ?</source>
+        <source>Are you sure you want to remove the user '%1' on workstation '%2' (%3) ?</source>
         <translation>Tem certeza de que deseja remover o usuário “%1” da estação de trabalho “%2” (%3)?</translation>
     </message>
     <message>
@@ -200,13 +200,13 @@
     </message>
     <message>
         <source>%1 contacts selected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 contatos selecionados</translation>
     </message>
 </context>
 <context>
     <name>ContactFile</name>
     <message>
-        <source>&quot;%1&quot; is not the address of one computer</source>
+        <source>"%1" is not the address of one computer</source>
         <translation>“%1” não é o endereço de um único computador</translation>
     </message>
     <message>
@@ -448,7 +448,7 @@
         <translation>O sistema não permite que o NIMB-Chat use a porta %1.</translation>
     </message>
     <message>
-        <source>Choose a port above 1023 in Tools, Options, the same as everybody else&apos;s.</source>
+        <source>Choose a port above 1023 in Tools, Options, the same as everybody else's.</source>
         <translation>Escolha uma porta acima de 1023 em Ferramentas &gt; Opções, a mesma para todos.</translation>
     </message>
     <message>
@@ -472,7 +472,7 @@
         <translation>A porta %1 está sendo usada por outro programa.</translation>
     </message>
     <message>
-        <source>&quot;sudo ss -ulpn sport = :%1&quot; shows which one.</source>
+        <source>"sudo ss -ulpn sport = :%1" shows which one.</source>
         <translation>“sudo ss -ulpn sport = :%1” mostra qual é.</translation>
     </message>
     <message>
@@ -500,7 +500,7 @@
         <translation>O sistema guarda apenas %1 KiB de datagramas em espera: quando muitos respondem ao mesmo tempo, alguns se perdem.</translation>
     </message>
     <message>
-        <source>&quot;sudo sysctl -w net.core.rmem_max=4194304&quot; lets it keep more.</source>
+        <source>"sudo sysctl -w net.core.rmem_max=4194304" lets it keep more.</source>
         <translation>“sudo sysctl -w net.core.rmem_max=4194304” permite guardar mais.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Só o administrador pode ver se um firewall bloqueia a porta UDP %1.</translation>
     </message>
     <message>
-        <source>&quot;sudo nimb-chatctl doctor&quot; tells.</source>
+        <source>"sudo nimb-chatctl doctor" tells.</source>
         <translation>“sudo nimb-chatctl doctor” mostra isso.</translation>
     </message>
     <message>
@@ -588,7 +588,7 @@
         <translation>Este computador pode ter um firewall, e não há aqui nenhum programa que mostre todas as regras dele.</translation>
     </message>
     <message>
-        <source>&quot;sudo nft list ruleset&quot; and &quot;sudo iptables-legacy -S&quot; show them, of the packages nftables and iptables.</source>
+        <source>"sudo nft list ruleset" and "sudo iptables-legacy -S" show them, of the packages nftables and iptables.</source>
         <translation>“sudo nft list ruleset” e “sudo iptables-legacy -S”, dos pacotes nftables e iptables, mostram essas regras.</translation>
     </message>
     <message>
@@ -656,7 +656,7 @@
         <translation>%1 não respondeu. O caminho até %2 passa pelo seu endereço %3, mas as opções indicam a placa %4, cujo endereço %5 talvez não possa ser alcançado de lá.</translation>
     </message>
     <message>
-        <source>Choose &quot;automatic&quot; or the card of that network as your own address in Tools, Options.</source>
+        <source>Choose "automatic" or the card of that network as your own address in Tools, Options.</source>
         <translation>Escolha “automático” ou a placa dessa rede para o seu endereço em Ferramentas &gt; Opções.</translation>
     </message>
     <message>
@@ -926,7 +926,7 @@
 <context>
     <name>FolderSource</name>
     <message>
-        <source>There is no picture to show in &quot;%1&quot;.</source>
+        <source>There is no picture to show in "%1".</source>
         <translation>Não há nenhuma imagem para mostrar em “%1”.</translation>
     </message>
 </context>
@@ -1007,19 +1007,19 @@
     </message>
     <message>
         <source>There is too little room in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não há espaço suficiente em %1.</translation>
     </message>
     <message>
         <source>There is no room any more in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não há mais espaço em %1.</translation>
     </message>
     <message>
         <source>%1 cannot be written on: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível continuar gravando %1: %2.</translation>
     </message>
     <message>
         <source>%1 What has come is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 O que já chegou foi mantido.</translation>
     </message>
 </context>
 <context>
@@ -1077,7 +1077,7 @@
         <translation>%1 ficou offline ---</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;  ---</source>
+        <source>%1 changed his state to '%2'  ---</source>
         <translation>%1 mudou de estado para “%2”  ---</translation>
     </message>
     <message>
@@ -1085,7 +1085,7 @@
         <translation>%1 enviou um toque para você ---</translation>
     </message>
     <message>
-        <source>%1 sent you the contact &apos;%2&apos; (%3) ---</source>
+        <source>%1 sent you the contact '%2' (%3) ---</source>
         <translation>%1 enviou a você o contato “%2” (%3) ---</translation>
     </message>
     <message>
@@ -1330,7 +1330,7 @@
         <translation>Na última vez em que o NIMB-Chat foi encerrado: %1</translation>
     </message>
     <message>
-        <source>The stored personalized state &quot;%1&quot; begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
+        <source>The stored personalized state "%1" begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
         <translation>O estado personalizado “%1”, armazenado, não começa com o dígito da imagem; ele foi ignorado e será perdido definitivamente quando o NIMB-Chat for encerrado.</translation>
     </message>
     <message>
@@ -1419,7 +1419,7 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no &quot;net&quot; command.</source>
+        <source>The message was not sent: this system has no "net" command.</source>
         <translation>A mensagem não foi enviada: este sistema não tem o comando “net”.</translation>
     </message>
     <message>
@@ -1438,11 +1438,11 @@
 <context>
     <name>NetworkScan</name>
     <message>
-        <source>&quot;%1&quot; is neither a name nor the address of a computer or a network, so nobody was asked.</source>
+        <source>"%1" is neither a name nor the address of a computer or a network, so nobody was asked.</source>
         <translation>“%1” não é um nome nem o endereço de um computador ou de uma rede; por isso, ninguém foi consultado.</translation>
     </message>
     <message>
-        <source>No address was found for &quot;%1&quot;, so nobody was asked.</source>
+        <source>No address was found for "%1", so nobody was asked.</source>
         <translation>Nenhum endereço foi encontrado para “%1”; por isso, ninguém foi consultado.</translation>
     </message>
     <message>
@@ -1582,7 +1582,7 @@
         <translation>Consulta todos os contatos para saber se estão online</translation>
     </message>
     <message>
-        <source>Only %1 personalized states are kept: &quot;%2&quot; lasts until NIMB-Chat ends.</source>
+        <source>Only %1 personalized states are kept: "%2" lasts until NIMB-Chat ends.</source>
         <translation>Apenas %1 estados personalizados são mantidos: “%2” dura até o NIMB-Chat ser encerrado.</translation>
     </message>
 </context>
@@ -1616,7 +1616,7 @@
         <translation>Esta não é uma imagem que o NIMB-Chat consiga ler.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be opened.</source>
+        <source>"%1" cannot be opened.</source>
         <translation>Não é possível abrir “%1”.</translation>
     </message>
 </context>
@@ -1670,7 +1670,7 @@
         <translation>%1 ficou offline</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;</source>
+        <source>%1 changed his state to '%2'</source>
         <translation>%1 mudou de estado para “%2”</translation>
     </message>
 </context>
@@ -1682,7 +1682,7 @@
     </message>
     <message>
         <source>%1 is offline: files can be sent when %1 is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está offline: será possível enviar arquivos quando %1 voltar.</translation>
     </message>
 </context>
 <context>
@@ -1702,7 +1702,7 @@
 <context>
     <name>Program</name>
     <message>
-        <source>NIMBCHAT_ADDRESS is &quot;%1&quot;, which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
+        <source>NIMBCHAT_ADDRESS is "%1", which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
         <translation>NIMBCHAT_ADDRESS é “%1”, que não é um endereço IPv4; por isso, o NIMB-Chat escuta em todas as interfaces.</translation>
     </message>
     <message>
@@ -1808,7 +1808,7 @@
 <context>
     <name>Settings</name>
     <message>
-        <source>The stored setting %1 cannot be &quot;%2&quot;; %3 is used instead.</source>
+        <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
         <translation>A configuração armazenada %1 não pode ser “%2”; %3 será usado no lugar.</translation>
     </message>
 </context>
@@ -1916,7 +1916,7 @@
     <name>nimb::ClearedBand</name>
     <message>
         <source>Bring it back</source>
-        <translation type="unfinished"></translation>
+        <translation>Desfazer</translation>
     </message>
 </context>
 <context>
@@ -2016,7 +2016,7 @@
         <translation>Mostrar todos</translation>
     </message>
     <message>
-        <source>Nobody here is called &quot;%1&quot;</source>
+        <source>Nobody here is called "%1"</source>
         <translation>Ninguém aqui se chama “%1”</translation>
     </message>
 </context>
@@ -2109,43 +2109,43 @@
     <message>
         <source> Keep them: %1</source>
         <comment>answers that can be clicked</comment>
-        <translation type="unfinished"></translation>
+        <translation> Guardar: %1</translation>
     </message>
     <message>
         <source>for a year</source>
-        <translation type="unfinished">por um ano</translation>
+        <translation>por um ano</translation>
     </message>
     <message>
         <source>for ever</source>
-        <translation type="unfinished">para sempre</translation>
+        <translation>para sempre</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished">não</translation>
+        <translation>não</translation>
     </message>
     <message>
         <source>Send it</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar</translation>
     </message>
     <message>
         <source>leave it</source>
-        <translation type="unfinished"></translation>
+        <translation>não enviar</translation>
     </message>
     <message>
         <source>Send files; the arrow, or the Down key, has folders too</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar arquivos; para pastas, use a seta ou a tecla Seta para baixo</translation>
     </message>
     <message>
         <source>Earlier troubles with files: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Problemas anteriores com arquivos: %1.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Fechar</translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>Copy the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar o restante</translation>
     </message>
 </context>
 <context>
@@ -2299,11 +2299,11 @@
     </message>
     <message>
         <source>Files are offered at %1, which this computer no longer has: nobody can fetch them, until it has it again or you send them once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Há arquivos oferecidos no endereço %1, que este computador não tem mais: ninguém pode baixá-los até que ele volte a ter esse endereço ou você os envie novamente.</translation>
     </message>
     <message>
         <source>offered at %1, which this computer no longer has</source>
-        <translation type="unfinished"></translation>
+        <translation>oferecido no endereço %1, que este computador não tem mais</translation>
     </message>
 </context>
 <context>
@@ -2322,11 +2322,11 @@
     </message>
     <message>
         <source>Show all</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar todos</translation>
     </message>
     <message>
         <source>Hide</source>
-        <translation type="unfinished">Ocultar</translation>
+        <translation>Ocultar</translation>
     </message>
 </context>
 <context>
@@ -2427,7 +2427,7 @@
         <translation>Pesquisar em tudo o que foi guardado</translation>
     </message>
     <message>
-        <source>Opens the history&apos;s window</source>
+        <source>Opens the history's window</source>
         <translation>Abre a janela do histórico</translation>
     </message>
     <message>
@@ -2446,7 +2446,7 @@
 <context>
     <name>nimb::HistoryModel</name>
     <message>
-        <source>%1, %2, in &quot;%3&quot;</source>
+        <source>%1, %2, in "%3"</source>
         <translation>%1, %2, em “%3”</translation>
     </message>
     <message>
@@ -2762,11 +2762,11 @@ Enviar para %4?</translation>
     </message>
     <message>
         <source>%1 no longer offers this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 não oferece mais este arquivo.</translation>
     </message>
     <message>
         <source>checks what is there: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>verificando o que já chegou: %1%</translation>
     </message>
 </context>
 <context>
@@ -2858,11 +2858,11 @@ Enviar para %4?</translation>
     <name>nimb::UnfinishedFiles</name>
     <message>
         <source>files that had not all come when NIMB-Chat ended: %2; %1 goes on with them</source>
-        <translation type="unfinished"></translation>
+        <translation>arquivos ainda incompletos quando o NIMB-Chat foi encerrado: %2; %1 permite retomá-los</translation>
     </message>
     <message>
         <source>Tools, Transfers...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferramentas &gt; Transferências...</translation>
     </message>
 </context>
 <context>
@@ -2872,7 +2872,7 @@ Enviar para %4?</translation>
         <translation>Sobre o NIMB-Chat</translation>
     </message>
     <message>
-        <source>NIMB-Chat&apos;s picture</source>
+        <source>NIMB-Chat's picture</source>
         <translation>Imagem do NIMB-Chat</translation>
     </message>
     <message>
@@ -2884,7 +2884,7 @@ Enviar para %4?</translation>
         <translation>Versão %1</translation>
     </message>
     <message>
-        <source>A simple messenger that works with UDP/IP and it&apos;s been intended for use on a small LAN</source>
+        <source>A simple messenger that works with UDP/IP and it's been intended for use on a small LAN</source>
         <translation>Um mensageiro simples que funciona com UDP/IP, destinado ao uso em uma pequena rede local</translation>
     </message>
     <message>
@@ -3271,7 +3271,7 @@ Enviar para %4?</translation>
         <translation>A &amp;conversa selecionada</translation>
     </message>
     <message>
-        <source>Erase all that is kept of &quot;%1&quot; for good?</source>
+        <source>Erase all that is kept of "%1" for good?</source>
         <translation>Apagar definitivamente tudo o que foi guardado de “%1”?</translation>
     </message>
     <message>
@@ -3463,7 +3463,7 @@ Enviar para %4?</translation>
         <translation>Todos em...</translation>
     </message>
     <message>
-        <source>Note: you can use broadcast IP to scan a whole network (e.g. let&apos;s say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
+        <source>Note: you can use broadcast IP to scan a whole network (e.g. let's say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
         <translation>Nota: você pode usar o IP de broadcast para varrer uma rede inteira (por exemplo, se o seu endereço IP é 192.168.1.1 e a máscara de sub-rede é 255.255.255.0, o endereço IP de broadcast é 192.168.1.255)</translation>
     </message>
     <message>
@@ -3657,7 +3657,7 @@ Enviar para %4?</translation>
         <translation>Idioma</translation>
     </message>
     <message>
-        <source>the desktop&apos;s</source>
+        <source>the desktop's</source>
         <translation>padrão do sistema</translation>
     </message>
     <message>
@@ -3741,7 +3741,7 @@ Enviar para %4?</translation>
         <translation>%1, %2 pontos</translation>
     </message>
     <message>
-        <source>the desktop&apos;s font: %1, %2 points</source>
+        <source>the desktop's font: %1, %2 points</source>
         <translation>fonte do sistema: %1, %2 pontos</translation>
     </message>
     <message>
@@ -3819,7 +3819,7 @@ Enviar para %4?</translation>
 <context>
     <name>nimb::frmSendContact</name>
     <message>
-        <source>NIMB-Chat - Send Contacts to &apos;%1&apos;</source>
+        <source>NIMB-Chat - Send Contacts to '%1'</source>
         <translation>NIMB-Chat - Enviar contatos para “%1”</translation>
     </message>
     <message>
@@ -4069,15 +4069,15 @@ Enviar para %4?</translation>
     </message>
     <message>
         <source>Save A&amp;ll...</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar &amp;tudo...</translation>
     </message>
     <message>
         <source>Saves all that is offered and has not been fetched, in one folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva em uma pasta tudo o que é oferecido e ainda não foi baixado</translation>
     </message>
     <message>
         <source>Save A&amp;ll (%1)...</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar &amp;tudo (%1)...</translation>
     </message>
 </context>
 </TS>

@@ -8,7 +8,7 @@
         <translation>Заполните все поля</translation>
     </message>
     <message>
-        <source>You can&apos;t add yourself...</source>
+        <source>You can't add yourself...</source>
         <translation>Нельзя добавить самого себя...</translation>
     </message>
     <message>
@@ -51,23 +51,23 @@
     </message>
     <message>
         <source>Conference #%1 (Hosted here) - NIMB-Chat</source>
-        <translation>Конференция №&#xa0;%1 (организатор: вы)&#xa0;— NIMB-Chat</translation>
+        <translation>Конференция № %1 (организатор: вы) — NIMB-Chat</translation>
     </message>
     <message>
-        <source>Conference #%1 (Hosted by &apos;%2&apos;) - NIMB-Chat</source>
-        <translation>Конференция №&#xa0;%1 (организатор: «%2»)&#xa0;— NIMB-Chat</translation>
+        <source>Conference #%1 (Hosted by '%2') - NIMB-Chat</source>
+        <translation>Конференция № %1 (организатор: «%2») — NIMB-Chat</translation>
     </message>
     <message>
         <source>« NIMB-Chat [today:%1 - now:%2] Conference #%3 Ready »</source>
-        <translation>« NIMB-Chat [дата: %1&#xa0;— время: %2] Конференция №&#xa0;%3 готова »</translation>
+        <translation>« NIMB-Chat [дата: %1 — время: %2] Конференция № %3 готова »</translation>
     </message>
     <message>
         <source>Conference #%1</source>
-        <translation>Конференция №&#xa0;%1</translation>
+        <translation>Конференция № %1</translation>
     </message>
     <message>
         <source>Conference #%1 of %2</source>
-        <translation>Конференция №&#xa0;%1 (организатор: %2)</translation>
+        <translation>Конференция № %1 (организатор: %2)</translation>
     </message>
     <message>
         <source>--- This conference is terminated.</source>
@@ -131,11 +131,11 @@
         <translation>При&amp;гласить пользователя</translation>
     </message>
     <message>
-        <source>Private chat with &apos;%1&apos;</source>
+        <source>Private chat with '%1'</source>
         <translation>Личный чат с «%1»</translation>
     </message>
     <message>
-        <source>Buzz &apos;%1&apos;</source>
+        <source>Buzz '%1'</source>
         <translation>Подать сигнал для «%1»</translation>
     </message>
     <message>
@@ -143,19 +143,19 @@
         <translation>Удалить выбранных из списка (%1)</translation>
     </message>
     <message>
-        <source>Remove &apos;%1&apos; from the list</source>
+        <source>Remove '%1' from the list</source>
         <translation>Удалить «%1» из списка</translation>
     </message>
     <message>
-        <source>Send &amp;contacts to &apos;%1&apos;</source>
+        <source>Send &amp;contacts to '%1'</source>
         <translation>Отправить &amp;контакты для «%1»</translation>
     </message>
     <message>
-        <source>&amp;Net send message to &apos;%1&apos;</source>
+        <source>&amp;Net send message to '%1'</source>
         <translation>С&amp;ообщение net send для «%1»</translation>
     </message>
     <message>
-        <source>I&amp;nvite user &apos;%1&apos;</source>
+        <source>I&amp;nvite user '%1'</source>
         <translation>При&amp;гласить пользователя «%1»</translation>
     </message>
     <message>
@@ -175,15 +175,15 @@
         <translation>выясняется, в сети ли %1: пока это не известно, окно не откроется</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks, and shows you to your contacts</source>
+        <source>whether %1 is there is not known: "Rescan" asks, and shows you to your contacts</source>
         <translation>неизвестно, в сети ли %1: кнопка «Обновить» опросит контакты, но и покажет им вас</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks</source>
+        <source>whether %1 is there is not known: "Rescan" asks</source>
         <translation>неизвестно, в сети ли %1: кнопка «Обновить» опросит контакты</translation>
     </message>
     <message>
-        <source>Are you sure you want to remove the user &apos;%1&apos; on workstation &apos;%2&apos; (%3) ?</source>
+        <source>Are you sure you want to remove the user '%1' on workstation '%2' (%3) ?</source>
         <translation>Удалить пользователя «%1» на рабочей станции «%2» (%3)?</translation>
     </message>
     <message>
@@ -200,14 +200,14 @@
     </message>
     <message>
         <source>%1 contacts selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбрано контактов: %1</translation>
     </message>
 </context>
 <context>
     <name>ContactFile</name>
     <message>
-        <source>&quot;%1&quot; is not the address of one computer</source>
-        <translation>«%1»&#xa0;— не адрес одного компьютера</translation>
+        <source>"%1" is not the address of one computer</source>
+        <translation>«%1» — не адрес одного компьютера</translation>
     </message>
     <message>
         <source>a name is empty</source>
@@ -342,7 +342,7 @@
     </message>
     <message>
         <source>%1 is no address such as 192.168.1.20: nothing can be sent there.</source>
-        <translation>%1&#xa0;— не адрес вида 192.168.1.20: отправить туда ничего нельзя.</translation>
+        <translation>%1 — не адрес вида 192.168.1.20: отправить туда ничего нельзя.</translation>
     </message>
     <message>
         <source>Remove the contact and add it with its address.</source>
@@ -398,7 +398,7 @@
     </message>
     <message>
         <source>Your address is %1, and no network card of this computer has it.</source>
-        <translation>Ваш адрес&#xa0;— %1, но ни у одного сетевого адаптера этого компьютера его нет.</translation>
+        <translation>Ваш адрес — %1, но ни у одного сетевого адаптера этого компьютера его нет.</translation>
     </message>
     <message>
         <source>Correct NIMBCHAT_ADDRESS, or connect that network.</source>
@@ -410,7 +410,7 @@
     </message>
     <message>
         <source>Your address is %1 of the card %2, on which nobody can be found: it leads to a single machine, or to what runs inside this one.</source>
-        <translation>Ваш адрес&#xa0;— %1 (адаптер %2), но через него никого не найти: он ведёт к одному-единственному компьютеру или к тому, что работает внутри этого.</translation>
+        <translation>Ваш адрес — %1 (адаптер %2), но через него никого не найти: он ведёт к одному-единственному компьютеру или к тому, что работает внутри этого.</translation>
     </message>
     <message>
         <source>If the others are on another network, correct NIMBCHAT_ADDRESS.</source>
@@ -422,7 +422,7 @@
     </message>
     <message>
         <source>Your address is %1, which only programs on this computer can reach.</source>
-        <translation>Ваш адрес&#xa0;— %1, он доступен только программам на этом компьютере.</translation>
+        <translation>Ваш адрес — %1, он доступен только программам на этом компьютере.</translation>
     </message>
     <message>
         <source>Start NIMB-Chat without NIMBCHAT_ADDRESS to talk to other computers.</source>
@@ -430,7 +430,7 @@
     </message>
     <message>
         <source>The network card %1, whose address the options name as yours, is not connected; your address is %2 of the card %3.</source>
-        <translation>Сетевой адаптер %1, адрес которого выбран в параметрах, не подключён; ваш адрес&#xa0;— %2 (адаптер %3).</translation>
+        <translation>Сетевой адаптер %1, адрес которого выбран в параметрах, не подключён; ваш адрес — %2 (адаптер %3).</translation>
     </message>
     <message>
         <source>Connect that card, or choose another own address in Tools, Options.</source>
@@ -438,7 +438,7 @@
     </message>
     <message>
         <source>Your address is %1, of the card %2.</source>
-        <translation>Ваш адрес&#xa0;— %1 (адаптер %2).</translation>
+        <translation>Ваш адрес — %1 (адаптер %2).</translation>
     </message>
     <message>
         <source>NIMB-Chat listens on UDP port %1.</source>
@@ -449,7 +449,7 @@
         <translation>Система не разрешает NIMB-Chat использовать порт %1.</translation>
     </message>
     <message>
-        <source>Choose a port above 1023 in Tools, Options, the same as everybody else&apos;s.</source>
+        <source>Choose a port above 1023 in Tools, Options, the same as everybody else's.</source>
         <translation>Выберите в меню «Инструменты → Параметры» порт больше 1023, такой же, как у всех.</translation>
     </message>
     <message>
@@ -473,7 +473,7 @@
         <translation>Порт %1 занят другой программой.</translation>
     </message>
     <message>
-        <source>&quot;sudo ss -ulpn sport = :%1&quot; shows which one.</source>
+        <source>"sudo ss -ulpn sport = :%1" shows which one.</source>
         <translation>Какой именно, покажет команда «sudo ss -ulpn sport = :%1».</translation>
     </message>
     <message>
@@ -498,15 +498,15 @@
     </message>
     <message>
         <source>The system keeps only %1 KiB of waiting datagrams: when many answer at once, some are lost.</source>
-        <translation>Система хранит только %1&#xa0;КиБ ожидающих датаграмм: если сразу ответят многие, часть ответов потеряется.</translation>
+        <translation>Система хранит только %1 КиБ ожидающих датаграмм: если сразу ответят многие, часть ответов потеряется.</translation>
     </message>
     <message>
-        <source>&quot;sudo sysctl -w net.core.rmem_max=4194304&quot; lets it keep more.</source>
+        <source>"sudo sysctl -w net.core.rmem_max=4194304" lets it keep more.</source>
         <translation>Команда «sudo sysctl -w net.core.rmem_max=4194304» увеличит этот объём.</translation>
     </message>
     <message>
         <source>The system keeps %1 KiB of waiting datagrams.</source>
-        <translation>Система хранит %1&#xa0;КиБ ожидающих датаграмм.</translation>
+        <translation>Система хранит %1 КиБ ожидающих датаграмм.</translation>
     </message>
     <message>
         <source>A datagram to %1, yourself, came back.</source>
@@ -581,7 +581,7 @@
         <translation>Закрыт ли UDP-порт %1 брандмауэром, может узнать только администратор.</translation>
     </message>
     <message>
-        <source>&quot;sudo nimb-chatctl doctor&quot; tells.</source>
+        <source>"sudo nimb-chatctl doctor" tells.</source>
         <translation>Ответ даст команда «sudo nimb-chatctl doctor».</translation>
     </message>
     <message>
@@ -589,7 +589,7 @@
         <translation>На этом компьютере может работать брандмауэр, но программы, которая покажет все его правила, нет.</translation>
     </message>
     <message>
-        <source>&quot;sudo nft list ruleset&quot; and &quot;sudo iptables-legacy -S&quot; show them, of the packages nftables and iptables.</source>
+        <source>"sudo nft list ruleset" and "sudo iptables-legacy -S" show them, of the packages nftables and iptables.</source>
         <translation>Их покажут команды «sudo nft list ruleset» и «sudo iptables-legacy -S» из пакетов nftables и iptables.</translation>
     </message>
     <message>
@@ -598,7 +598,7 @@
     </message>
     <message>
         <source>The cards %1 and %2 are on the same network; your address is the one that was chosen.</source>
-        <translation>Адаптеры %1 и %2 в одной сети; ваш адрес&#xa0;— тот, что был выбран.</translation>
+        <translation>Адаптеры %1 и %2 в одной сети; ваш адрес — тот, что был выбран.</translation>
     </message>
     <message>
         <source>The cards %1 and %2 are on the same network: others may see you under either address.</source>
@@ -626,7 +626,7 @@
     </message>
     <message>
         <source>%1 answered after %2 ms.</source>
-        <translation>Ответ от %1 получен через %2&#xa0;мс.</translation>
+        <translation>Ответ от %1 получен через %2 мс.</translation>
     </message>
     <message>
         <source>%1 did not answer, but the computer at %2 is there, or was a moment ago.</source>
@@ -657,7 +657,7 @@
         <translation>Ответа от %1 нет. Путь к %2 идёт с вашего адреса %3, но в параметрах выбран адаптер %4, адрес которого %5 оттуда может быть недоступен.</translation>
     </message>
     <message>
-        <source>Choose &quot;automatic&quot; or the card of that network as your own address in Tools, Options.</source>
+        <source>Choose "automatic" or the card of that network as your own address in Tools, Options.</source>
         <translation>Выберите «автоматически» или адаптер той сети для своего адреса в меню «Инструменты → Параметры».</translation>
     </message>
     <message>
@@ -927,7 +927,7 @@
 <context>
     <name>FolderSource</name>
     <message>
-        <source>There is no picture to show in &quot;%1&quot;.</source>
+        <source>There is no picture to show in "%1".</source>
         <translation>В «%1» нет изображений, которые можно показать.</translation>
     </message>
 </context>
@@ -950,7 +950,7 @@
     <name>HistoryFile</name>
     <message>
         <source>The history was damaged, so a new one has been begun; %1 messages that could still be read went into it. The old file is %2.</source>
-        <translation>История была повреждена, поэтому начата новая; в неё перенесены сообщения, которые удалось прочитать: %1. Старый файл&#xa0;— %2.</translation>
+        <translation>История была повреждена, поэтому начата новая; в неё перенесены сообщения, которые удалось прочитать: %1. Старый файл — %2.</translation>
     </message>
     <message>
         <source>a newer version of NIMB-Chat has written it</source>
@@ -1008,19 +1008,19 @@
     </message>
     <message>
         <source>There is too little room in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>В %1 слишком мало места.</translation>
     </message>
     <message>
         <source>There is no room any more in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>В %1 закончилось место.</translation>
     </message>
     <message>
         <source>%1 cannot be written on: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось продолжить запись %1: %2.</translation>
     </message>
     <message>
         <source>%1 What has come is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Полученная часть сохранена.</translation>
     </message>
 </context>
 <context>
@@ -1034,7 +1034,7 @@
     <name>Invitations</name>
     <message>
         <source>%1 %2 - %3 invited you to a conference</source>
-        <translation>%1 %2&#xa0;— %3 приглашает вас в конференцию</translation>
+        <translation>%1 %2 — %3 приглашает вас в конференцию</translation>
     </message>
 </context>
 <context>
@@ -1063,7 +1063,7 @@
     <name>MainLog</name>
     <message>
         <source>« NIMB-Chat [today:%1 - now:%2] Ready »</source>
-        <translation>« NIMB-Chat [дата: %1&#xa0;— время: %2] Готов к работе »</translation>
+        <translation>« NIMB-Chat [дата: %1 — время: %2] Готов к работе »</translation>
     </message>
     <message>
         <source>%1 is now called %2 ---</source>
@@ -1078,7 +1078,7 @@
         <translation>%1 больше не в сети ---</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;  ---</source>
+        <source>%1 changed his state to '%2'  ---</source>
         <translation>%1 меняет статус на «%2» ---</translation>
     </message>
     <message>
@@ -1086,7 +1086,7 @@
         <translation>%1 подаёт вам сигнал ---</translation>
     </message>
     <message>
-        <source>%1 sent you the contact &apos;%2&apos; (%3) ---</source>
+        <source>%1 sent you the contact '%2' (%3) ---</source>
         <translation>%1 присылает вам контакт «%2» (%3) ---</translation>
     </message>
     <message>
@@ -1274,23 +1274,23 @@
     </message>
     <message>
         <source>Invite to Conference #&amp;1</source>
-        <translation>Пригласить в конференцию №&#xa0;&amp;1</translation>
+        <translation>Пригласить в конференцию № &amp;1</translation>
     </message>
     <message>
         <source>Invite to Conference #&amp;2</source>
-        <translation>Пригласить в конференцию №&#xa0;&amp;2</translation>
+        <translation>Пригласить в конференцию № &amp;2</translation>
     </message>
     <message>
         <source>Invite to Conference #&amp;3</source>
-        <translation>Пригласить в конференцию №&#xa0;&amp;3</translation>
+        <translation>Пригласить в конференцию № &amp;3</translation>
     </message>
     <message>
         <source>Invite to Conference #&amp;4</source>
-        <translation>Пригласить в конференцию №&#xa0;&amp;4</translation>
+        <translation>Пригласить в конференцию № &amp;4</translation>
     </message>
     <message>
         <source>Invite to Conference #&amp;5</source>
-        <translation>Пригласить в конференцию №&#xa0;&amp;5</translation>
+        <translation>Пригласить в конференцию № &amp;5</translation>
     </message>
     <message>
         <source>Send &amp;Contacts</source>
@@ -1332,7 +1332,7 @@
         <translation>При прошлом завершении NIMB-Chat: %1</translation>
     </message>
     <message>
-        <source>The stored personalized state &quot;%1&quot; begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
+        <source>The stored personalized state "%1" begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
         <translation>Сохранённый собственный статус «%1» не начинается с цифры картинки, поэтому пропущен и исчезнет насовсем при завершении NIMB-Chat.</translation>
     </message>
     <message>
@@ -1421,7 +1421,7 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no &quot;net&quot; command.</source>
+        <source>The message was not sent: this system has no "net" command.</source>
         <translation>Сообщение не отправлено: в этой системе нет команды «net».</translation>
     </message>
     <message>
@@ -1440,16 +1440,16 @@
 <context>
     <name>NetworkScan</name>
     <message>
-        <source>&quot;%1&quot; is neither a name nor the address of a computer or a network, so nobody was asked.</source>
-        <translation>«%1»&#xa0;— не имя и не адрес компьютера или сети, поэтому опрос не проведён.</translation>
+        <source>"%1" is neither a name nor the address of a computer or a network, so nobody was asked.</source>
+        <translation>«%1» — не имя и не адрес компьютера или сети, поэтому опрос не проведён.</translation>
     </message>
     <message>
-        <source>No address was found for &quot;%1&quot;, so nobody was asked.</source>
+        <source>No address was found for "%1", so nobody was asked.</source>
         <translation>Для «%1» адрес не найден, поэтому опрос не проведён.</translation>
     </message>
     <message>
         <source>%1 has too many addresses to be asked one by one: the largest range is /%2.</source>
-        <translation>%1: слишком много адресов, чтобы опросить каждый; наибольший диапазон&#xa0;— /%2.</translation>
+        <translation>%1: слишком много адресов, чтобы опросить каждый; наибольший диапазон — /%2.</translation>
     </message>
 </context>
 <context>
@@ -1476,7 +1476,7 @@
     </message>
     <message>
         <source>%1 in conference #%2</source>
-        <translation>%1 в конференции №&#xa0;%2</translation>
+        <translation>%1 в конференции № %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -1518,11 +1518,11 @@
     </message>
     <message>
         <source>There is a network now: your address is %1</source>
-        <translation>Сеть появилась: ваш адрес&#xa0;— %1</translation>
+        <translation>Сеть появилась: ваш адрес — %1</translation>
     </message>
     <message>
         <source>Your address is now %1</source>
-        <translation>Теперь ваш адрес&#xa0;— %1</translation>
+        <translation>Теперь ваш адрес — %1</translation>
     </message>
     <message>
         <source>This computer has slept: your address is still %1</source>
@@ -1534,7 +1534,7 @@
     </message>
     <message>
         <source>The network card %1, whose address the options name as yours, is not connected; your address is %2 until it is.</source>
-        <translation>Сетевой адаптер %1, адрес которого выбран в параметрах, не подключён; до его подключения ваш адрес&#xa0;— %2.</translation>
+        <translation>Сетевой адаптер %1, адрес которого выбран в параметрах, не подключён; до его подключения ваш адрес — %2.</translation>
     </message>
     <message>
         <source>No network gives this computer an IPv4 address, so nobody can reach you. NIMB-Chat goes on as soon as one does.</source>
@@ -1584,7 +1584,7 @@
         <translation>Узнать, кто из контактов в сети</translation>
     </message>
     <message>
-        <source>Only %1 personalized states are kept: &quot;%2&quot; lasts until NIMB-Chat ends.</source>
+        <source>Only %1 personalized states are kept: "%2" lasts until NIMB-Chat ends.</source>
         <translation>Сохраняется не более %1 собственных статусов: «%2» исчезнет при завершении NIMB-Chat.</translation>
     </message>
 </context>
@@ -1618,7 +1618,7 @@
         <translation>NIMB-Chat не может прочитать это изображение.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be opened.</source>
+        <source>"%1" cannot be opened.</source>
         <translation>Не удалось открыть «%1».</translation>
     </message>
 </context>
@@ -1672,7 +1672,7 @@
         <translation>%1 больше не в сети</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;</source>
+        <source>%1 changed his state to '%2'</source>
         <translation>%1 меняет статус на «%2»</translation>
     </message>
 </context>
@@ -1680,18 +1680,18 @@
     <name>PrivateChat</name>
     <message>
         <source>« NIMB-Chat [today:%1 - now:%2] Ready »</source>
-        <translation>« NIMB-Chat [дата: %1&#xa0;— время: %2] Готов к работе »</translation>
+        <translation>« NIMB-Chat [дата: %1 — время: %2] Готов к работе »</translation>
     </message>
     <message>
         <source>%1 is offline: files can be sent when %1 is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 не в сети: файлы можно будет отправить, когда %1 вернётся в сеть.</translation>
     </message>
 </context>
 <context>
     <name>PrivateWindows</name>
     <message>
         <source>%1 - NIMB-Chat - Private Chat Window</source>
-        <translation>%1&#xa0;— NIMB-Chat&#xa0;— Личный чат</translation>
+        <translation>%1 — NIMB-Chat — Личный чат</translation>
     </message>
 </context>
 <context>
@@ -1704,12 +1704,12 @@
 <context>
     <name>Program</name>
     <message>
-        <source>NIMBCHAT_ADDRESS is &quot;%1&quot;, which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
+        <source>NIMBCHAT_ADDRESS is "%1", which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
         <translation>В NIMBCHAT_ADDRESS указано «%1», а это не IPv4-адрес; вместо этого NIMB-Chat принимает данные на всех интерфейсах.</translation>
     </message>
     <message>
         <source>The system grants %1 KiB for waiting datagrams instead of %2 KiB: sudden bursts may be lost.</source>
-        <translation>Система выделяет для ожидающих датаграмм %1&#xa0;КиБ вместо %2&#xa0;КиБ: при резком наплыве часть может потеряться.</translation>
+        <translation>Система выделяет для ожидающих датаграмм %1 КиБ вместо %2 КиБ: при резком наплыве часть может потеряться.</translation>
     </message>
 </context>
 <context>
@@ -1788,7 +1788,7 @@
     </message>
     <message>
         <source>%1 is your own address: nobody else hears what is sent there</source>
-        <translation>%1&#xa0;— ваш собственный адрес: отправленное туда больше никто не получит</translation>
+        <translation>%1 — ваш собственный адрес: отправленное туда больше никто не получит</translation>
     </message>
     <message>
         <source>nobody answered: no network is connected, so only this computer was asked</source>
@@ -1810,7 +1810,7 @@
 <context>
     <name>Settings</name>
     <message>
-        <source>The stored setting %1 cannot be &quot;%2&quot;; %3 is used instead.</source>
+        <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
         <translation>Сохранённый параметр %1 не может иметь значение «%2»; вместо него используется %3.</translation>
     </message>
 </context>
@@ -1892,7 +1892,7 @@
     <name>TipOfTheDay</name>
     <message>
         <source>Tip of the Day - Tip #%1</source>
-        <translation>Совет дня&#xa0;— №&#xa0;%1</translation>
+        <translation>Совет дня — № %1</translation>
     </message>
     <message>
         <source>There are no tips to show: the file TOTD.txt, which came with the program, is missing or cannot be read.</source>
@@ -1918,7 +1918,7 @@
     <name>nimb::ClearedBand</name>
     <message>
         <source>Bring it back</source>
-        <translation type="unfinished"></translation>
+        <translation>Вернуть</translation>
     </message>
 </context>
 <context>
@@ -1996,7 +1996,7 @@
     </message>
     <message>
         <source>AvatarNum</source>
-        <translation>№&#xa0;аватара</translation>
+        <translation>№ аватара</translation>
     </message>
     <message>
         <source>Status</source>
@@ -2018,7 +2018,7 @@
         <translation>Показать всех</translation>
     </message>
     <message>
-        <source>Nobody here is called &quot;%1&quot;</source>
+        <source>Nobody here is called "%1"</source>
         <translation>Контакт «%1» не найден</translation>
     </message>
 </context>
@@ -2078,7 +2078,7 @@
     </message>
     <message>
         <source>The rest is on the clipboard.</source>
-        <translation>Остаток&#xa0;— в буфере обмена.</translation>
+        <translation>Остаток — в буфере обмена.</translation>
     </message>
     <message>
         <source>Send Fil&amp;es...</source>
@@ -2111,43 +2111,43 @@
     <message>
         <source> Keep them: %1</source>
         <comment>answers that can be clicked</comment>
-        <translation type="unfinished"></translation>
+        <translation> Сохранять: %1</translation>
     </message>
     <message>
         <source>for a year</source>
-        <translation type="unfinished">в течение года</translation>
+        <translation>в течение года</translation>
     </message>
     <message>
         <source>for ever</source>
-        <translation type="unfinished">всегда</translation>
+        <translation>всегда</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished">нет</translation>
+        <translation>нет</translation>
     </message>
     <message>
         <source>Send it</source>
-        <translation type="unfinished"></translation>
+        <translation>Отправить</translation>
     </message>
     <message>
         <source>leave it</source>
-        <translation type="unfinished"></translation>
+        <translation>не отправлять</translation>
     </message>
     <message>
         <source>Send files; the arrow, or the Down key, has folders too</source>
-        <translation type="unfinished"></translation>
+        <translation>Отправить файлы; папки — по стрелке или клавише «Вниз»</translation>
     </message>
     <message>
         <source>Earlier troubles with files: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Более ранние проблемы с файлами: %1.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Закрыть</translation>
+        <translation>Закрыть</translation>
     </message>
     <message>
         <source>Copy the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>Копировать остаток</translation>
     </message>
 </context>
 <context>
@@ -2269,7 +2269,7 @@
     </message>
     <message>
         <source>%1 % to %2</source>
-        <translation>%1&#xa0;% для %2</translation>
+        <translation>%1 % для %2</translation>
     </message>
     <message>
         <source>fetched: %1</source>
@@ -2301,11 +2301,11 @@
     </message>
     <message>
         <source>Files are offered at %1, which this computer no longer has: nobody can fetch them, until it has it again or you send them once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Файлы предлагаются по адресу %1, которого у этого компьютера больше нет: получить их нельзя, пока адрес не вернётся или вы не отправите их снова.</translation>
     </message>
     <message>
         <source>offered at %1, which this computer no longer has</source>
-        <translation type="unfinished"></translation>
+        <translation>предложено по адресу %1, которого у этого компьютера больше нет</translation>
     </message>
 </context>
 <context>
@@ -2324,11 +2324,11 @@
     </message>
     <message>
         <source>Show all</source>
-        <translation type="unfinished"></translation>
+        <translation>Показать все</translation>
     </message>
     <message>
         <source>Hide</source>
-        <translation type="unfinished">Скрыть</translation>
+        <translation>Скрыть</translation>
     </message>
 </context>
 <context>
@@ -2402,7 +2402,7 @@
     </message>
     <message>
         <source>Searches this conversation; Ctrl+H searches everything that was kept</source>
-        <translation>Поиск в этой беседе; Ctrl+H&#xa0;— поиск во всём сохранённом</translation>
+        <translation>Поиск в этой беседе; Ctrl+H — поиск во всём сохранённом</translation>
     </message>
     <message>
         <source>Aa</source>
@@ -2429,7 +2429,7 @@
         <translation>Искать во всём сохранённом</translation>
     </message>
     <message>
-        <source>Opens the history&apos;s window</source>
+        <source>Opens the history's window</source>
         <translation>Открывает окно истории</translation>
     </message>
     <message>
@@ -2448,7 +2448,7 @@
 <context>
     <name>nimb::HistoryModel</name>
     <message>
-        <source>%1, %2, in &quot;%3&quot;</source>
+        <source>%1, %2, in "%3"</source>
         <translation>%1, %2, в «%3»</translation>
     </message>
     <message>
@@ -2460,7 +2460,7 @@
     <name>nimb::InvitationList</name>
     <message>
         <source>%1 minute(s)</source>
-        <translation>%1&#xa0;мин.</translation>
+        <translation>%1 мин.</translation>
     </message>
     <message>
         <source>Refused</source>
@@ -2721,15 +2721,15 @@ Send it to %4?</source>
     </message>
     <message>
         <source>%1 % of %2, %3 a second</source>
-        <translation>%1&#xa0;% из %2, %3/с</translation>
+        <translation>%1 % из %2, %3/с</translation>
     </message>
     <message>
         <source>%1 % of %2</source>
-        <translation>%1&#xa0;% из %2</translation>
+        <translation>%1 % из %2</translation>
     </message>
     <message>
         <source>paused at %1 %</source>
-        <translation>пауза на %1&#xa0;%</translation>
+        <translation>пауза на %1 %</translation>
     </message>
     <message>
         <source>is being checked</source>
@@ -2765,11 +2765,11 @@ Send it to %4?</source>
     </message>
     <message>
         <source>%1 no longer offers this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 больше не предлагает этот файл.</translation>
     </message>
     <message>
         <source>checks what is there: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>проверка полученной части: %1 %</translation>
     </message>
 </context>
 <context>
@@ -2861,11 +2861,11 @@ Send it to %4?</source>
     <name>nimb::UnfinishedFiles</name>
     <message>
         <source>files that had not all come when NIMB-Chat ended: %2; %1 goes on with them</source>
-        <translation type="unfinished"></translation>
+        <translation>файлы, не полученные полностью до завершения NIMB-Chat: %2; продолжить их получение можно через «%1»</translation>
     </message>
     <message>
         <source>Tools, Transfers...</source>
-        <translation type="unfinished"></translation>
+        <translation>Инструменты → Передача файлов...</translation>
     </message>
 </context>
 <context>
@@ -2875,7 +2875,7 @@ Send it to %4?</source>
         <translation>О программе NIMB-Chat</translation>
     </message>
     <message>
-        <source>NIMB-Chat&apos;s picture</source>
+        <source>NIMB-Chat's picture</source>
         <translation>Логотип NIMB-Chat</translation>
     </message>
     <message>
@@ -2887,7 +2887,7 @@ Send it to %4?</source>
         <translation>Версия %1</translation>
     </message>
     <message>
-        <source>A simple messenger that works with UDP/IP and it&apos;s been intended for use on a small LAN</source>
+        <source>A simple messenger that works with UDP/IP and it's been intended for use on a small LAN</source>
         <translation>Простой мессенджер на основе UDP/IP, предназначенный для небольшой локальной сети</translation>
     </message>
     <message>
@@ -2946,7 +2946,7 @@ Send it to %4?</source>
     <name>nimb::frmConfInvitations</name>
     <message>
         <source>Conference Invitations - NIMB-Chat</source>
-        <translation>Приглашения в конференции&#xa0;— NIMB-Chat</translation>
+        <translation>Приглашения в конференции — NIMB-Chat</translation>
     </message>
     <message>
         <source>Invitations</source>
@@ -3056,7 +3056,7 @@ Send it to %4?</source>
     </message>
     <message>
         <source>NIMB-Chat - Network Doctor</source>
-        <translation>NIMB-Chat&#xa0;— Диагностика сети</translation>
+        <translation>NIMB-Chat — Диагностика сети</translation>
     </message>
     <message>
         <source>Check &amp;Again</source>
@@ -3135,7 +3135,7 @@ Send it to %4?</source>
     <name>nimb::frmHistory</name>
     <message>
         <source>NIMB-Chat - History</source>
-        <translation>NIMB-Chat&#xa0;— История</translation>
+        <translation>NIMB-Chat — История</translation>
     </message>
     <message>
         <source>Conversations</source>
@@ -3274,7 +3274,7 @@ Send it to %4?</source>
         <translation>Выбранную &amp;беседу</translation>
     </message>
     <message>
-        <source>Erase all that is kept of &quot;%1&quot; for good?</source>
+        <source>Erase all that is kept of "%1" for good?</source>
         <translation>Удалить навсегда всё сохранённое из «%1»?</translation>
     </message>
     <message>
@@ -3310,7 +3310,7 @@ Send it to %4?</source>
     <name>nimb::frmInvite</name>
     <message>
         <source>NIMB-Chat - Invite by net send</source>
-        <translation>NIMB-Chat&#xa0;— Приглашение через net send</translation>
+        <translation>NIMB-Chat — Приглашение через net send</translation>
     </message>
     <message>
         <source>&amp;Send</source>
@@ -3447,7 +3447,7 @@ Send it to %4?</source>
     <name>nimb::frmNetworkscan</name>
     <message>
         <source>NIMB-Chat - Network Scan</source>
-        <translation>NIMB-Chat&#xa0;— Сканирование сети</translation>
+        <translation>NIMB-Chat — Сканирование сети</translation>
     </message>
     <message>
         <source>Scan/search the network for new NIMB-Chat users</source>
@@ -3466,8 +3466,8 @@ Send it to %4?</source>
         <translation>Все в сети...</translation>
     </message>
     <message>
-        <source>Note: you can use broadcast IP to scan a whole network (e.g. let&apos;s say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
-        <translation>Примечание: чтобы просканировать сеть целиком, укажите её широковещательный IP-адрес (например, если ваш IP-адрес 192.168.1.1, а маска подсети 255.255.255.0, то широковещательный IP-адрес&#xa0;— 192.168.1.255)</translation>
+        <source>Note: you can use broadcast IP to scan a whole network (e.g. let's say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
+        <translation>Примечание: чтобы просканировать сеть целиком, укажите её широковещательный IP-адрес (например, если ваш IP-адрес 192.168.1.1, а маска подсети 255.255.255.0, то широковещательный IP-адрес — 192.168.1.255)</translation>
     </message>
     <message>
         <source>Scan</source>
@@ -3573,7 +3573,7 @@ Send it to %4?</source>
     </message>
     <message>
         <source>NIMB-Chat - Options</source>
-        <translation>NIMB-Chat&#xa0;— Параметры</translation>
+        <translation>NIMB-Chat — Параметры</translation>
     </message>
     <message>
         <source>OK</source>
@@ -3660,7 +3660,7 @@ Send it to %4?</source>
         <translation>Язык</translation>
     </message>
     <message>
-        <source>the desktop&apos;s</source>
+        <source>the desktop's</source>
         <translation>как в системе</translation>
     </message>
     <message>
@@ -3741,11 +3741,11 @@ Send it to %4?</source>
     </message>
     <message>
         <source>%1, %2 points</source>
-        <translation>%1, %2&#xa0;пт</translation>
+        <translation>%1, %2 пт</translation>
     </message>
     <message>
-        <source>the desktop&apos;s font: %1, %2 points</source>
-        <translation>шрифт системы: %1, %2&#xa0;пт</translation>
+        <source>the desktop's font: %1, %2 points</source>
+        <translation>шрифт системы: %1, %2 пт</translation>
     </message>
     <message>
         <source>Images (*.jpg,*.gif,*.bmp)</source>
@@ -3756,7 +3756,7 @@ Send it to %4?</source>
     <name>nimb::frmPrivate</name>
     <message>
         <source>NIMB-Chat - Private Chat</source>
-        <translation>NIMB-Chat&#xa0;— Личный чат</translation>
+        <translation>NIMB-Chat — Личный чат</translation>
     </message>
     <message>
         <source>What the peer is typing</source>
@@ -3822,8 +3822,8 @@ Send it to %4?</source>
 <context>
     <name>nimb::frmSendContact</name>
     <message>
-        <source>NIMB-Chat - Send Contacts to &apos;%1&apos;</source>
-        <translation>NIMB-Chat&#xa0;— Отправка контактов для «%1»</translation>
+        <source>NIMB-Chat - Send Contacts to '%1'</source>
+        <translation>NIMB-Chat — Отправка контактов для «%1»</translation>
     </message>
     <message>
         <source>Choose the selected contacts</source>
@@ -3966,7 +3966,7 @@ Send it to %4?</source>
     </message>
     <message>
         <source>NIMB-Chat - Keyboard Shortcuts</source>
-        <translation>NIMB-Chat&#xa0;— Сочетания клавиш</translation>
+        <translation>NIMB-Chat — Сочетания клавиш</translation>
     </message>
     <message>
         <source>Close</source>
@@ -3985,7 +3985,7 @@ Send it to %4?</source>
     </message>
     <message>
         <source>NIMB-Chat is free software under the MIT licence. You are welcome to pass it on to everybody in your network.</source>
-        <translation>NIMB-Chat&#xa0;— свободная программа по лицензии MIT. Смело делитесь ею со всеми в вашей сети.</translation>
+        <translation>NIMB-Chat — свободная программа по лицензии MIT. Смело делитесь ею со всеми в вашей сети.</translation>
     </message>
     <message>
         <source>&amp;Show tips at start</source>
@@ -4004,7 +4004,7 @@ Send it to %4?</source>
     <name>nimb::frmTransfers</name>
     <message>
         <source>NIMB-Chat - Transfers</source>
-        <translation>NIMB-Chat&#xa0;— Передача файлов</translation>
+        <translation>NIMB-Chat — Передача файлов</translation>
     </message>
     <message>
         <source>Close</source>
@@ -4072,15 +4072,15 @@ Send it to %4?</source>
     </message>
     <message>
         <source>Save A&amp;ll...</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить &amp;все...</translation>
     </message>
     <message>
         <source>Saves all that is offered and has not been fetched, in one folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохраняет в одну папку всё предложенное, но ещё не полученное</translation>
     </message>
     <message>
         <source>Save A&amp;ll (%1)...</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить &amp;все (%1)...</translation>
     </message>
 </context>
 </TS>

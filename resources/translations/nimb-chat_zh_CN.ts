@@ -8,7 +8,7 @@
         <translation>请填写所有字段</translation>
     </message>
     <message>
-        <source>You can&apos;t add yourself...</source>
+        <source>You can't add yourself...</source>
         <translation>不能添加自己...</translation>
     </message>
     <message>
@@ -54,7 +54,7 @@
         <translation>会议 #%1（由本机主持） - NIMB-Chat</translation>
     </message>
     <message>
-        <source>Conference #%1 (Hosted by &apos;%2&apos;) - NIMB-Chat</source>
+        <source>Conference #%1 (Hosted by '%2') - NIMB-Chat</source>
         <translation>会议 #%1（由“%2”主持） - NIMB-Chat</translation>
     </message>
     <message>
@@ -131,11 +131,11 @@
         <translation>邀请用户(&amp;N)</translation>
     </message>
     <message>
-        <source>Private chat with &apos;%1&apos;</source>
+        <source>Private chat with '%1'</source>
         <translation>与“%1”私聊</translation>
     </message>
     <message>
-        <source>Buzz &apos;%1&apos;</source>
+        <source>Buzz '%1'</source>
         <translation>呼叫“%1”</translation>
     </message>
     <message>
@@ -143,19 +143,19 @@
         <translation>从列表中移除 %1 个用户</translation>
     </message>
     <message>
-        <source>Remove &apos;%1&apos; from the list</source>
+        <source>Remove '%1' from the list</source>
         <translation>从列表中移除“%1”</translation>
     </message>
     <message>
-        <source>Send &amp;contacts to &apos;%1&apos;</source>
+        <source>Send &amp;contacts to '%1'</source>
         <translation>向“%1”发送联系人(&amp;C)</translation>
     </message>
     <message>
-        <source>&amp;Net send message to &apos;%1&apos;</source>
+        <source>&amp;Net send message to '%1'</source>
         <translation>用 net send 向“%1”发送消息(&amp;N)</translation>
     </message>
     <message>
-        <source>I&amp;nvite user &apos;%1&apos;</source>
+        <source>I&amp;nvite user '%1'</source>
         <translation>邀请用户“%1”(&amp;N)</translation>
     </message>
     <message>
@@ -175,15 +175,15 @@
         <translation>正在确认 %1 是否在线：得到结果前不会打开窗口</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks, and shows you to your contacts</source>
+        <source>whether %1 is there is not known: "Rescan" asks, and shows you to your contacts</source>
         <translation>不清楚 %1 是否在线：可用“重新扫描”询问，但这会让您的联系人看到您在线</translation>
     </message>
     <message>
-        <source>whether %1 is there is not known: &quot;Rescan&quot; asks</source>
+        <source>whether %1 is there is not known: "Rescan" asks</source>
         <translation>不清楚 %1 是否在线：可用“重新扫描”询问</translation>
     </message>
     <message>
-        <source>Are you sure you want to remove the user &apos;%1&apos; on workstation &apos;%2&apos; (%3) ?</source>
+        <source>Are you sure you want to remove the user '%1' on workstation '%2' (%3) ?</source>
         <translation>确定要移除计算机“%2”(%3) 上的用户“%1”吗？</translation>
     </message>
     <message>
@@ -200,13 +200,13 @@
     </message>
     <message>
         <source>%1 contacts selected</source>
-        <translation type="unfinished"></translation>
+        <translation>已选择 %1 个联系人</translation>
     </message>
 </context>
 <context>
     <name>ContactFile</name>
     <message>
-        <source>&quot;%1&quot; is not the address of one computer</source>
+        <source>"%1" is not the address of one computer</source>
         <translation>“%1”不是单台计算机的地址</translation>
     </message>
     <message>
@@ -447,7 +447,7 @@
         <translation>系统不允许 NIMB-Chat 使用端口 %1。</translation>
     </message>
     <message>
-        <source>Choose a port above 1023 in Tools, Options, the same as everybody else&apos;s.</source>
+        <source>Choose a port above 1023 in Tools, Options, the same as everybody else's.</source>
         <translation>请在“工具 &gt; 选项”中选择大于 1023 的端口，并与其他人的端口一致。</translation>
     </message>
     <message>
@@ -471,7 +471,7 @@
         <translation>端口 %1 已被其他程序占用。</translation>
     </message>
     <message>
-        <source>&quot;sudo ss -ulpn sport = :%1&quot; shows which one.</source>
+        <source>"sudo ss -ulpn sport = :%1" shows which one.</source>
         <translation>可用“sudo ss -ulpn sport = :%1”查看是哪个程序。</translation>
     </message>
     <message>
@@ -499,7 +499,7 @@
         <translation>系统只能缓存 %1 KiB 等待读取的数据报：许多人同时应答时会丢失一部分。</translation>
     </message>
     <message>
-        <source>&quot;sudo sysctl -w net.core.rmem_max=4194304&quot; lets it keep more.</source>
+        <source>"sudo sysctl -w net.core.rmem_max=4194304" lets it keep more.</source>
         <translation>“sudo sysctl -w net.core.rmem_max=4194304”可增大缓冲区。</translation>
     </message>
     <message>
@@ -579,7 +579,7 @@
         <translation>只有管理员才能查看防火墙是否阻止 UDP 端口 %1 入站。</translation>
     </message>
     <message>
-        <source>&quot;sudo nimb-chatctl doctor&quot; tells.</source>
+        <source>"sudo nimb-chatctl doctor" tells.</source>
         <translation>可用“sudo nimb-chatctl doctor”查明。</translation>
     </message>
     <message>
@@ -587,7 +587,7 @@
         <translation>此计算机可能有防火墙，但缺少能显示其全部规则的程序。</translation>
     </message>
     <message>
-        <source>&quot;sudo nft list ruleset&quot; and &quot;sudo iptables-legacy -S&quot; show them, of the packages nftables and iptables.</source>
+        <source>"sudo nft list ruleset" and "sudo iptables-legacy -S" show them, of the packages nftables and iptables.</source>
         <translation>可用“sudo nft list ruleset”和“sudo iptables-legacy -S”查看规则（由软件包 nftables 和 iptables 提供）。</translation>
     </message>
     <message>
@@ -655,7 +655,7 @@
         <translation>%1 未应答。通往 %2 的线路使用本机地址 %3，但选项中指定了网卡 %4，从那边可能无法访问其地址 %5。</translation>
     </message>
     <message>
-        <source>Choose &quot;automatic&quot; or the card of that network as your own address in Tools, Options.</source>
+        <source>Choose "automatic" or the card of that network as your own address in Tools, Options.</source>
         <translation>请在“工具 &gt; 选项”中选择“自动”或该网络的网卡作为本机地址。</translation>
     </message>
     <message>
@@ -925,7 +925,7 @@
 <context>
     <name>FolderSource</name>
     <message>
-        <source>There is no picture to show in &quot;%1&quot;.</source>
+        <source>There is no picture to show in "%1".</source>
         <translation>“%1”中没有可显示的图片。</translation>
     </message>
 </context>
@@ -1006,19 +1006,19 @@
     </message>
     <message>
         <source>There is too little room in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 的可用空间不足。</translation>
     </message>
     <message>
         <source>There is no room any more in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 已没有可用空间。</translation>
     </message>
     <message>
         <source>%1 cannot be written on: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法继续写入 %1：%2。</translation>
     </message>
     <message>
         <source>%1 What has come is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1已收到的部分将保留。</translation>
     </message>
 </context>
 <context>
@@ -1076,7 +1076,7 @@
         <translation>%1 已离线 ---</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;  ---</source>
+        <source>%1 changed his state to '%2'  ---</source>
         <translation>%1 将状态改为“%2”  ---</translation>
     </message>
     <message>
@@ -1084,7 +1084,7 @@
         <translation>%1 呼叫您 ---</translation>
     </message>
     <message>
-        <source>%1 sent you the contact &apos;%2&apos; (%3) ---</source>
+        <source>%1 sent you the contact '%2' (%3) ---</source>
         <translation>%1 向您发送了联系人“%2”(%3) ---</translation>
     </message>
     <message>
@@ -1328,7 +1328,7 @@
         <translation>NIMB-Chat 上次退出时：%1</translation>
     </message>
     <message>
-        <source>The stored personalized state &quot;%1&quot; begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
+        <source>The stored personalized state "%1" begins with no picture digit and is left out, and gone for good once NIMB-Chat ends.</source>
         <translation>已存的自定义状态“%1”开头没有图标编号，已被略去；NIMB-Chat 退出后它将彻底消失。</translation>
     </message>
     <message>
@@ -1417,7 +1417,7 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no &quot;net&quot; command.</source>
+        <source>The message was not sent: this system has no "net" command.</source>
         <translation>消息未发送：此系统没有“net”命令。</translation>
     </message>
     <message>
@@ -1436,11 +1436,11 @@
 <context>
     <name>NetworkScan</name>
     <message>
-        <source>&quot;%1&quot; is neither a name nor the address of a computer or a network, so nobody was asked.</source>
+        <source>"%1" is neither a name nor the address of a computer or a network, so nobody was asked.</source>
         <translation>“%1”既不是名称，也不是计算机或网络的地址，因此未询问任何人。</translation>
     </message>
     <message>
-        <source>No address was found for &quot;%1&quot;, so nobody was asked.</source>
+        <source>No address was found for "%1", so nobody was asked.</source>
         <translation>找不到“%1”的地址，因此未询问任何人。</translation>
     </message>
     <message>
@@ -1580,7 +1580,7 @@
         <translation>询问所有联系人是否在线</translation>
     </message>
     <message>
-        <source>Only %1 personalized states are kept: &quot;%2&quot; lasts until NIMB-Chat ends.</source>
+        <source>Only %1 personalized states are kept: "%2" lasts until NIMB-Chat ends.</source>
         <translation>最多保留 %1 个自定义状态：“%2”仅在 NIMB-Chat 退出前有效。</translation>
     </message>
 </context>
@@ -1614,7 +1614,7 @@
         <translation>这不是 NIMB-Chat 可以读取的图片。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be opened.</source>
+        <source>"%1" cannot be opened.</source>
         <translation>无法打开“%1”。</translation>
     </message>
 </context>
@@ -1668,7 +1668,7 @@
         <translation>%1 已离线</translation>
     </message>
     <message>
-        <source>%1 changed his state to &apos;%2&apos;</source>
+        <source>%1 changed his state to '%2'</source>
         <translation>%1 将状态改为“%2”</translation>
     </message>
 </context>
@@ -1680,7 +1680,7 @@
     </message>
     <message>
         <source>%1 is offline: files can be sent when %1 is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 已离线：文件可在 %1 上线后发送。</translation>
     </message>
 </context>
 <context>
@@ -1700,7 +1700,7 @@
 <context>
     <name>Program</name>
     <message>
-        <source>NIMBCHAT_ADDRESS is &quot;%1&quot;, which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
+        <source>NIMBCHAT_ADDRESS is "%1", which is no IPv4 address; NIMB-Chat listens on every interface instead.</source>
         <translation>NIMBCHAT_ADDRESS 为“%1”，不是 IPv4 地址；NIMB-Chat 改为监听所有网络接口。</translation>
     </message>
     <message>
@@ -1806,7 +1806,7 @@
 <context>
     <name>Settings</name>
     <message>
-        <source>The stored setting %1 cannot be &quot;%2&quot;; %3 is used instead.</source>
+        <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
         <translation>已存的设置 %1 不能为“%2”；改用 %3。</translation>
     </message>
 </context>
@@ -1914,7 +1914,7 @@
     <name>nimb::ClearedBand</name>
     <message>
         <source>Bring it back</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复</translation>
     </message>
 </context>
 <context>
@@ -2014,7 +2014,7 @@
         <translation>全部显示</translation>
     </message>
     <message>
-        <source>Nobody here is called &quot;%1&quot;</source>
+        <source>Nobody here is called "%1"</source>
         <translation>没有名为“%1”的联系人</translation>
     </message>
 </context>
@@ -2107,43 +2107,43 @@
     <message>
         <source> Keep them: %1</source>
         <comment>answers that can be clicked</comment>
-        <translation type="unfinished"></translation>
+        <translation> 是否保留：%1</translation>
     </message>
     <message>
         <source>for a year</source>
-        <translation type="unfinished">保留一年</translation>
+        <translation>保留一年</translation>
     </message>
     <message>
         <source>for ever</source>
-        <translation type="unfinished">永久保留</translation>
+        <translation>永久保留</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished">不保留</translation>
+        <translation>不保留</translation>
     </message>
     <message>
         <source>Send it</source>
-        <translation type="unfinished"></translation>
+        <translation>发送</translation>
     </message>
     <message>
         <source>leave it</source>
-        <translation type="unfinished"></translation>
+        <translation>不发送</translation>
     </message>
     <message>
         <source>Send files; the arrow, or the Down key, has folders too</source>
-        <translation type="unfinished"></translation>
+        <translation>发送文件；单击箭头或按向下键可发送文件夹</translation>
     </message>
     <message>
         <source>Earlier troubles with files: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>此前的文件问题：%1 个。</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">关闭</translation>
+        <translation>关闭</translation>
     </message>
     <message>
         <source>Copy the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>复制其余内容</translation>
     </message>
 </context>
 <context>
@@ -2297,11 +2297,11 @@
     </message>
     <message>
         <source>Files are offered at %1, which this computer no longer has: nobody can fetch them, until it has it again or you send them once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>有文件通过地址 %1 提供，但此计算机已没有该地址：在重新获得该地址或您重新发送之前，没有人能下载这些文件。</translation>
     </message>
     <message>
         <source>offered at %1, which this computer no longer has</source>
-        <translation type="unfinished"></translation>
+        <translation>通过地址 %1 提供（此计算机已没有该地址）</translation>
     </message>
 </context>
 <context>
@@ -2320,11 +2320,11 @@
     </message>
     <message>
         <source>Show all</source>
-        <translation type="unfinished"></translation>
+        <translation>全部显示</translation>
     </message>
     <message>
         <source>Hide</source>
-        <translation type="unfinished">隐藏</translation>
+        <translation>隐藏</translation>
     </message>
 </context>
 <context>
@@ -2425,7 +2425,7 @@
         <translation>搜索全部聊天记录</translation>
     </message>
     <message>
-        <source>Opens the history&apos;s window</source>
+        <source>Opens the history's window</source>
         <translation>打开聊天记录窗口</translation>
     </message>
     <message>
@@ -2444,7 +2444,7 @@
 <context>
     <name>nimb::HistoryModel</name>
     <message>
-        <source>%1, %2, in &quot;%3&quot;</source>
+        <source>%1, %2, in "%3"</source>
         <translation>%1，%2，在“%3”中</translation>
     </message>
     <message>
@@ -2759,11 +2759,11 @@ Send it to %4?</source>
     </message>
     <message>
         <source>%1 no longer offers this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 已不再提供此文件。</translation>
     </message>
     <message>
         <source>checks what is there: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>正在校验已收到的部分：%1%</translation>
     </message>
 </context>
 <context>
@@ -2855,11 +2855,11 @@ Send it to %4?</source>
     <name>nimb::UnfinishedFiles</name>
     <message>
         <source>files that had not all come when NIMB-Chat ended: %2; %1 goes on with them</source>
-        <translation type="unfinished"></translation>
+        <translation>NIMB-Chat 退出时尚未接收完的文件：%2 个；可通过 %1 继续接收</translation>
     </message>
     <message>
         <source>Tools, Transfers...</source>
-        <translation type="unfinished"></translation>
+        <translation>工具 &gt; 传输...</translation>
     </message>
 </context>
 <context>
@@ -2869,7 +2869,7 @@ Send it to %4?</source>
         <translation>关于 NIMB-Chat</translation>
     </message>
     <message>
-        <source>NIMB-Chat&apos;s picture</source>
+        <source>NIMB-Chat's picture</source>
         <translation>NIMB-Chat 的图片</translation>
     </message>
     <message>
@@ -2881,7 +2881,7 @@ Send it to %4?</source>
         <translation>版本 %1</translation>
     </message>
     <message>
-        <source>A simple messenger that works with UDP/IP and it&apos;s been intended for use on a small LAN</source>
+        <source>A simple messenger that works with UDP/IP and it's been intended for use on a small LAN</source>
         <translation>一款基于 UDP/IP 的简易即时通讯程序，专为小型局域网设计</translation>
     </message>
     <message>
@@ -3268,7 +3268,7 @@ Send it to %4?</source>
         <translation>所选会话(&amp;C)</translation>
     </message>
     <message>
-        <source>Erase all that is kept of &quot;%1&quot; for good?</source>
+        <source>Erase all that is kept of "%1" for good?</source>
         <translation>要永久删除“%1”的全部聊天记录吗？</translation>
     </message>
     <message>
@@ -3460,7 +3460,7 @@ Send it to %4?</source>
         <translation>某网络上的所有人...</translation>
     </message>
     <message>
-        <source>Note: you can use broadcast IP to scan a whole network (e.g. let&apos;s say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
+        <source>Note: you can use broadcast IP to scan a whole network (e.g. let's say your IP address is 192.168.1.1 and your subnet mask is 255.255.255.0 then your broadcast IP address is 192.168.1.255)</source>
         <translation>注意：可使用广播 IP 扫描整个网络（例如，您的 IP 地址为 192.168.1.1、子网掩码为 255.255.255.0 时，广播 IP 地址为 192.168.1.255）</translation>
     </message>
     <message>
@@ -3654,7 +3654,7 @@ Send it to %4?</source>
         <translation>语言</translation>
     </message>
     <message>
-        <source>the desktop&apos;s</source>
+        <source>the desktop's</source>
         <translation>与桌面相同</translation>
     </message>
     <message>
@@ -3738,7 +3738,7 @@ Send it to %4?</source>
         <translation>%1，%2 磅</translation>
     </message>
     <message>
-        <source>the desktop&apos;s font: %1, %2 points</source>
+        <source>the desktop's font: %1, %2 points</source>
         <translation>桌面字体：%1，%2 磅</translation>
     </message>
     <message>
@@ -3816,7 +3816,7 @@ Send it to %4?</source>
 <context>
     <name>nimb::frmSendContact</name>
     <message>
-        <source>NIMB-Chat - Send Contacts to &apos;%1&apos;</source>
+        <source>NIMB-Chat - Send Contacts to '%1'</source>
         <translation>NIMB-Chat - 向“%1”发送联系人</translation>
     </message>
     <message>
@@ -4066,15 +4066,15 @@ Send it to %4?</source>
     </message>
     <message>
         <source>Save A&amp;ll...</source>
-        <translation type="unfinished"></translation>
+        <translation>全部保存(&amp;L)...</translation>
     </message>
     <message>
         <source>Saves all that is offered and has not been fetched, in one folder</source>
-        <translation type="unfinished"></translation>
+        <translation>将提供给您且尚未下载的所有文件保存到一个文件夹中</translation>
     </message>
     <message>
         <source>Save A&amp;ll (%1)...</source>
-        <translation type="unfinished"></translation>
+        <translation>全部保存 (%1)(&amp;L)...</translation>
     </message>
 </context>
 </TS>
