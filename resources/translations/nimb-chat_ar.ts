@@ -2008,6 +2008,10 @@
         <source>Status</source>
         <translation>الحالة</translation>
     </message>
+    <message>
+        <source>muted</source>
+        <translation>مكتوم</translation>
+    </message>
 </context>
 <context>
     <name>nimb::ContactView</name>

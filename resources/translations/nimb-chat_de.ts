@@ -2000,6 +2000,10 @@
         <source>Status</source>
         <translation>Statustext</translation>
     </message>
+    <message>
+        <source>muted</source>
+        <translation>stumm</translation>
+    </message>
 </context>
 <context>
     <name>nimb::ContactView</name>

@@ -2000,6 +2000,10 @@
         <source>Status</source>
         <translation>Estado</translation>
     </message>
+    <message>
+        <source>muted</source>
+        <translation>silenciado</translation>
+    </message>
 </context>
 <context>
     <name>nimb::ContactView</name>

@@ -2000,6 +2000,10 @@
         <source>Status</source>
         <translation>État</translation>
     </message>
+    <message>
+        <source>muted</source>
+        <translation>en sourdine</translation>
+    </message>
 </context>
 <context>
     <name>nimb::ContactView</name>

@@ -2000,6 +2000,10 @@
         <source>Status</source>
         <translation>Stato</translation>
     </message>
+    <message>
+        <source>muted</source>
+        <translation>silenziato</translation>
+    </message>
 </context>
 <context>
     <name>nimb::ContactView</name>

@@ -1998,6 +1998,10 @@
         <source>Status</source>
         <translation>状態</translation>
     </message>
+    <message>
+        <source>muted</source>
+        <translation>ミュート中</translation>
+    </message>
 </context>
 <context>
     <name>nimb::ContactView</name>

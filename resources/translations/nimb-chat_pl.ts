@@ -2002,6 +2002,10 @@
         <source>Status</source>
         <translation>Status</translation>
     </message>
+    <message>
+        <source>muted</source>
+        <translation>wyciszony</translation>
+    </message>
 </context>
 <context>
     <name>nimb::ContactView</name>

@@ -2002,6 +2002,10 @@
         <source>Status</source>
         <translation>Статус</translation>
     </message>
+    <message>
+        <source>muted</source>
+        <translation>без уведомлений</translation>
+    </message>
 </context>
 <context>
     <name>nimb::ContactView</name>

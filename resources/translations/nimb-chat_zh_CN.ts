@@ -1998,6 +1998,10 @@
         <source>Status</source>
         <translation>状态</translation>
     </message>
+    <message>
+        <source>muted</source>
+        <translation>免打扰</translation>
+    </message>
 </context>
 <context>
     <name>nimb::ContactView</name>

@@ -401,6 +401,8 @@ QString ContactList::readOut(const Row &row) const
         parts.append(tr("%1 to be sent").arg(contact.toBeSent));
     if (contact.unread() > 0)
         parts.append(tr("%1 unread").arg(contact.unread()));
+    if (contact.muted)
+        parts.append(tr("muted"));
     return parts.join(QLatin1String(", "));
 }
 
@@ -422,6 +424,8 @@ QVariant ContactList::data(const QModelIndex &index, int role) const
         return static_cast<int>(contact.presence);
     if (role == WordsRole)
         return wordsOf(contact);
+    if (role == MutedRole)
+        return contact.muted;
     if (role == Qt::AccessibleTextRole && index.column() == Nickname)
         return readOut(row);
     if (role == KeyRole)

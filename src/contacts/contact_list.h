@@ -78,7 +78,7 @@ public:
     /// UnreadRole: how many messages nobody has seen. SharesNameRole: another contact has a name that looks like this
     /// one's. LastMessageRole: when the last message came. HiddenRole: another row stands for this one. PresenceRole: a
     /// Presence, as int. WordsRole: what is said about the contact beside its presence; where nothing
-    /// is, "away" and "busy"; always "offline".
+    /// is, "away" and "busy"; always "offline". MutedRole: the user is told of nothing that it sends.
     enum Role {
         KeyRole = Qt::UserRole,
         TagRole,
@@ -89,6 +89,7 @@ public:
         HiddenRole,
         PresenceRole,
         WordsRole,
+        MutedRole,
     };
 
     using QAbstractTableModel::QAbstractTableModel;

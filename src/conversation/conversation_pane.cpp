@@ -318,6 +318,12 @@ void ConversationPane::showFileTrouble(const QString &sentence)
     showFileBand();
 }
 
+void ConversationPane::withdrawFileTrouble(const QString &sentence)
+{
+    if (m_fileTroubles.removeAll(sentence) > 0)
+        showFileBand();
+}
+
 void ConversationPane::addReceivedFile(int number)
 {
     if (!m_files) {

@@ -87,6 +87,7 @@ public:
     }
     void addReceivedFile(int number) override;
     void showFileTrouble(const QString &sentence) override;
+    void withdrawFileTrouble(const QString &sentence) override;
     void setLastMessage(const QString &text) override { Q_EMIT lastMessageChanged(text); }
     QString typedText() const override;
     void setDraft(const QString &text) override;

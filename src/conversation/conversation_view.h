@@ -25,6 +25,8 @@ public:
     virtual void addReceivedFile(int number) = 0;
     /// Why a file was not sent.
     virtual void showFileTrouble(const QString &sentence) = 0;
+    /// It does not hold any more.
+    virtual void withdrawFileTrouble(const QString &sentence) = 0;
     /// The first panel of the status bar.
     virtual void setLastMessage(const QString &text) = 0;
     /// The input box as it is now, line breaks as CR LF.

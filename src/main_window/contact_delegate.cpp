@@ -7,6 +7,7 @@
 #include "widgets/avatar_image.h"
 #include "widgets/muted_colour.h"
 #include "widgets/peer_picture.h"
+#include "widgets/pictures.h"
 
 #include <QPainter>
 #include <QTreeView>
@@ -93,6 +94,12 @@ public:
     {
         if (!text.isEmpty())
             paint(takeRight(widthOf(text)), text, m_cell.font, textColour(m_cell, true), Qt::AlignRight);
+    }
+    void paintRight(const QIcon &picture)
+    {
+        const int side = m_cell.fontMetrics.height();
+        picture.paint(&m_painter, takeRight(side), Qt::AlignCenter,
+                      isSelected(m_cell) ? QIcon::Selected : QIcon::Normal);
     }
     int widthOf(const QString &text) const { return m_cell.fontMetrics.horizontalAdvance(text); }
     /// What such a text takes, and what it leaves.
@@ -271,6 +278,8 @@ void ContactDelegate::paintRow(QPainter &painter, const QStyleOptionViewItem &ce
         else
             room.paintBadgeOver(face.adjusted(0, aboveFace, 0, -aboveFace), number);
     }
+    if (contact.data(ContactList::MutedRole).toBool())
+        room.paintRight(namedPicture(QStringLiteral("muted")));
     const QString address = addressBeside(contact);
     if (unread > 0) {
         const QString time = timeBeside(contact);

@@ -1,6 +1,7 @@
 #include "private_chat/private_chat.h"
 
 #include "base/buzz.h"
+#include "base/isolated.h"
 #include "base/limits.h"
 #include "base/own_address.h"
 #include "base/remote_text.h"
@@ -74,7 +75,10 @@ void PrivateChat::showPeer(PeerShown peer)
     peer.sendsLater = m_sendsLater;
     if (m_peer == peer)
         return;
+    const QString noFilesSoFar = whyNoFiles();
     m_peer = std::move(peer);
+    if (!noFilesSoFar.isEmpty() && whyNoFiles() != noFilesSoFar)
+        conversationView().withdrawFileTrouble(noFilesSoFar);
     m_view->setPeer(m_peer);
 }
 
@@ -236,7 +240,7 @@ FileOffers::Recipients PrivateChat::fileRecipients() const
 QString PrivateChat::whyNoFiles() const
 {
     return m_peer.delivery == Delivery::lost
-        ? tr("%1 is offline: files can be sent when %1 is back.").arg(paintedName(m_peer.name))
+        ? tr("%1 is offline: files can be sent when %1 is back.").arg(isolated(paintedName(m_peer.name)))
         : QString();
 }
 

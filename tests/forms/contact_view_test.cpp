@@ -121,6 +121,15 @@ TEST_F(ContactRows, OfWhoeverIsOfflineAreMutedAndSaySo)
     EXPECT_EQ(windows.list().model()->index(rowOf("10.0.0.2"), 6).data().toString(), QString());
 }
 
+TEST_F(ContactRows, ShowWhoIsMuted)
+{
+    EXPECT_TRUE(isBlank(rightSide("10.0.0.2")));
+    windows.engine.commands.mnuMuteContact(QStringLiteral("10.0.0.2"), true);
+    EXPECT_FALSE(isBlank(rightSide("10.0.0.2")));
+    windows.engine.commands.mnuMuteContact(QStringLiteral("10.0.0.2"), false);
+    EXPECT_TRUE(isBlank(rightSide("10.0.0.2")));
+}
+
 TEST_F(ContactRows, TellThePresenceByShape)
 {
     const auto shape = [this] {

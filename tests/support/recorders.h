@@ -178,6 +178,7 @@ public:
     }
     void addReceivedFile(int number) override { receivedFiles.push_back(number); }
     void showFileTrouble(const QString &sentence) override { fileTroubles.append(sentence); }
+    void withdrawFileTrouble(const QString &sentence) override { fileTroubles.removeAll(sentence); }
     void setLastMessage(const QString &text) override { lastMessage = text; }
     QString typedText() const override { return typed; }
     void setDraft(const QString &text) override { typed = text; }

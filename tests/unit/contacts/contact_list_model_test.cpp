@@ -136,6 +136,8 @@ TEST_F(RowInTheList, IsReadAsNamePresenceStateAndWhatIsUnread)
     EXPECT_EQ(readOut(), QStringLiteral("Ann, online, Phoning, 1 unread"));
     set(Presence::offline, "");
     EXPECT_EQ(readOut(), QStringLiteral("Ann, offline"));
+    list.change(ip, [](Contact &contact) { contact.muted = true; });
+    EXPECT_EQ(readOut(), QStringLiteral("Ann, offline, muted"));
 }
 
 TEST_F(RowInTheList, SaysBesideTheNameWhatThePictureDoesNot)

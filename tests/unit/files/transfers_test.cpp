@@ -161,6 +161,7 @@ TEST_F(TransfersTest, NothingIsOfferedToWhoeverIsOffline)
     EXPECT_THAT(view().fileTroubles,
                 ElementsAre(QStringLiteral("Ann is offline: files can be sent when Ann is back.")));
     copy.arrive("10.0.0.2", "!ONLINE 10.0.0.2 PC Ann");
+    EXPECT_THAT(view().fileTroubles, IsEmpty()) << "it holds no more";
     annsChat.sendFiles({QStringLiteral("/a")});
     EXPECT_THAT(copy.fileServer.served, SizeIs(1));
 }
