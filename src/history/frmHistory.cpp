@@ -169,8 +169,16 @@ void frmHistory::connectControls()
     connect(messagesView, &QListView::activated, this, &frmHistory::showPlaceOf);
     connect(messagesView, &QListView::customContextMenuRequested, this, &frmHistory::showEraseMenu);
     connect(messagesView->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
-        if (value < messagesView->viewport()->height() / 2)
+        const int near = messagesView->viewport()->height() / 2;
+        if (value < near)
             findOlder();
+        if (value > messagesView->verticalScrollBar()->maximum() - near)
+            findNewer();
+    });
+    // The end of a conversation of which a place in the middle is shown.
+    connect(conversationList, &QListWidget::itemClicked, this, [this] {
+        if (m_hasNewer)
+            find();
     });
     connect(exportBtn, &QPushButton::clicked, this, &frmHistory::exportBtn_Click);
     connect(cancelExportBtn, &QPushButton::clicked, this, [this] { endExport(tr("The export was stopped.")); });
@@ -188,7 +196,7 @@ void frmHistory::changeEvent(QEvent *event)
     if (event->type() != QEvent::ActivationChange)
         return;
     const QScrollBar &bar = *messagesView->verticalScrollBar();
-    const bool isReading = messagesView->selectionModel()->hasSelection() || bar.value() < bar.maximum();
+    const bool isReading = messagesView->selectionModel()->hasSelection() || bar.value() < bar.maximum() || m_hasNewer;
     if (isActiveWindow() && std::exchange(m_wasLeft, false) && !isReading)
         list();
     else if (!isActiveWindow())
@@ -297,6 +305,7 @@ void frmHistory::find()
     m_typed->stop();
     m_asksOlder = false;
     m_isAll = false;
+    m_hasNewer = false;
     m_delegate->setWords(wordsIn(searchText->text()));
     if (isWaitingChosen())
         return showWaiting();
@@ -370,6 +379,21 @@ void frmHistory::findOlder()
     });
 }
 
+/// Only where a place in the middle is shown; everything else ends with the newest.
+void frmHistory::findNewer()
+{
+    if (!std::exchange(m_hasNewer, false))
+        return;
+    m_history.find(
+        {.conversation = chosenConversation(), .after = m_model->messages().back().number, .most = limits::historyPage},
+        [self = QPointer(this), asked = m_question](const std::vector<StoredMessage> &messages) {
+            if (!self || self->m_question != asked)
+                return;
+            self->m_model->addNewer(messages);
+            self->m_hasNewer = messages.size() == limits::historyPage;
+        });
+}
+
 void frmHistory::showPlaceOf(const QModelIndex &hit)
 {
     if (!isSearch() || !hit.isValid())
@@ -389,6 +413,7 @@ void frmHistory::showPlaceOf(const QModelIndex &hit)
     }
     const int asked = ++m_question;
     m_isAll = false;
+    m_hasNewer = false;
     m_asksOlder = false;
     const auto isOld = [self = QPointer(this), asked] { return !self || self->m_question != asked; };
     m_history.find({.conversation = conversation, .before = number + 1, .most = aroundHit},
@@ -403,6 +428,7 @@ void frmHistory::showPlaceOf(const QModelIndex &hit)
                                           std::vector<StoredMessage> all = m_model->messages();
                                           all.insert(all.end(), after.begin(), after.end());
                                           m_model->setMessages(std::move(all));
+                                          m_hasNewer = after.size() == aroundHit;
                                           const QModelIndex place = m_model->index(m_model->rowOf(number));
                                           messagesView->setCurrentIndex(place);
                                           messagesView->scrollTo(place, QAbstractItemView::PositionAtCenter);

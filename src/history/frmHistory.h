@@ -65,6 +65,7 @@ private:
     void find();
     void found(const std::vector<StoredMessage> &messages);
     void findOlder();
+    void findNewer();
     /// Shows the conversation of a message as it was around it.
     void showPlaceOf(const QModelIndex &hit);
     void showEmptiness();
@@ -96,9 +97,10 @@ private:
     HistoryDelegate *m_delegate = nullptr;
     QString m_wantedAddress; ///< to be chosen when the list has come
     bool m_asksOlder = false;
-    bool m_wasLeft = false; ///< another window has been active since this one was
-    bool m_isAll = false;   ///< nothing older is left
-    int m_question = 0;     ///< counts them; answers to earlier ones are of no use
+    bool m_wasLeft = false;  ///< another window has been active since this one was
+    bool m_hasNewer = false; ///< behind what is shown
+    bool m_isAll = false;    ///< nothing older is left
+    int m_question = 0;      ///< counts them; answers to earlier ones are of no use
     QHash<std::int64_t, QString> m_names;
     std::unique_ptr<Export> m_export;
 };

@@ -12,6 +12,10 @@
 #include <array>
 #include <limits>
 
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
 namespace nimb
 {
 namespace
@@ -56,6 +60,17 @@ static_assert(formatSteps.size() == formatNumber - 1);
 constexpr auto putMessage = "INSERT INTO messages(conversation, time, own, address, writer, workstation, text) "
                             "VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7)";
 constexpr auto columns = "SELECT m.id, m.conversation, m.time, m.own, m.address, m.writer, m.workstation, m.text ";
+
+/// Device and number; nothing where there is no such file, or the system keeps an open file from being replaced anyway.
+std::optional<std::pair<quint64, quint64>> identityOf([[maybe_unused]] const QString &path)
+{
+#ifdef Q_OS_UNIX
+    struct stat found = {};
+    if (::stat(QFile::encodeName(path).constData(), &found) == 0)
+        return std::pair(static_cast<quint64>(found.st_dev), static_cast<quint64>(found.st_ino));
+#endif
+    return std::nullopt;
+}
 
 std::int64_t milliseconds(const QDateTime &time)
 {
@@ -305,6 +320,21 @@ HistoryFile::HistoryFile(const QString &folder) : m_folder(QDir(folder).absolute
 }
 
 /// The new file gets its name when all is in it: a rescue that is cut short begins anew with the next start.
+bool HistoryFile::leaveIfGone()
+{
+    int hasMoved = 0;
+    const bool isThere = QFile::exists(m_file);
+    if (isThere
+        && (sqlite3_file_control(m_database.get(), "main", SQLITE_FCNTL_HAS_MOVED, &hasMoved) != SQLITE_OK
+            || hasMoved == 0))
+        return false;
+    m_database.reset();
+    // It is left where it is, and would be read as a part of the file that takes the place.
+    if (!isThere || m_log == identityOf(logFile()))
+        QFile::remove(logFile());
+    return true;
+}
+
 void HistoryFile::setAside()
 {
     m_database.reset();
@@ -409,6 +439,8 @@ int HistoryFile::salvage(const QString &wreck)
     const Database old(opened);
     if (code != SQLITE_OK)
         return 0;
+    // Or it reads nothing of a file that is shorter than it says of itself.
+    sqlite3_exec(opened, "PRAGMA writable_schema = ON", nullptr, nullptr, nullptr);
     const QHash<std::int64_t, KeptConversation> conversations = readableConversations(opened);
     const QHash<std::int64_t, std::int64_t> readTo = readableReadTo(opened);
     QHash<std::int64_t, int> notRead;
@@ -478,6 +510,8 @@ void HistoryFile::write(std::span<const Entry> entries)
         for (const Entry &entry : entries)
             putTexts(put, entry.message, conversationFor(entry.conversation));
     });
+    if (!m_log)
+        m_log = identityOf(logFile());
 }
 
 std::int64_t HistoryFile::conversationFor(const KeptConversation &conversation)

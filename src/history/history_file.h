@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 #include <span>
 #include <utility>
 
@@ -37,6 +38,10 @@ public:
     /// The same once.
     std::optional<QString> takeTakenOver() { return std::exchange(m_takenOver, std::nullopt); }
 
+    /// Where somebody has removed the file or put another one in its place, so that what is written is written nowhere,
+    /// it is closed, and this object is of no further use.
+    [[nodiscard]] bool leaveIfGone();
+
     void write(std::span<const Entry> entries);
     std::vector<StoredMessage> find(const HistoryQuestion &question);
     /// The number of a conversation of which something is kept.
@@ -60,6 +65,7 @@ private:
         QByteArray numbers{}; ///< condition for those of the messages; empty: none
     };
 
+    QString logFile() const { return m_file + QStringLiteral("-wal"); }
     QString rescuedFile() const { return m_folder + QStringLiteral("/history.rescued.sqlite3"); }
     void open(const QString &path);
     static void rename(const QString &from, const QString &to);
@@ -83,6 +89,7 @@ private:
     QString m_folder;
     QString m_file;
     sqlite::Database m_database;
+    std::optional<std::pair<quint64, quint64>> m_log; ///< device and number of the file beside it, once there is one
     std::optional<QString> m_takenOver;
 };
 

@@ -125,6 +125,14 @@ public:
 private:
     void open()
     {
+        if (m_file && m_file->leaveIfGone()) {
+            m_file.reset();
+            tell(translated(
+                     QT_TRANSLATE_NOOP("HistoryKeeper",
+                                       "The history in %1 has been removed or replaced while NIMB-Chat runs: what is "
+                                       "said from now on goes into the one that is there now."))
+                     .arg(QDir::toNativeSeparators(HistoryFile::pathIn(m_folder))));
+        }
         if (!m_file)
             m_file.emplace(m_folder);
         if (const std::optional<QString> sentence = m_file->takeTakenOver())

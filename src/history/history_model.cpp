@@ -62,6 +62,16 @@ void HistoryModel::addOlder(const std::vector<StoredMessage> &messages)
     endInsertRows();
 }
 
+void HistoryModel::addNewer(const std::vector<StoredMessage> &messages)
+{
+    if (messages.empty())
+        return;
+    const int rows = static_cast<int>(m_messages.size());
+    beginInsertRows({}, rows, rows + static_cast<int>(messages.size()) - 1);
+    m_messages.insert(m_messages.end(), messages.begin(), messages.end());
+    endInsertRows();
+}
+
 void HistoryModel::setNames(QHash<std::int64_t, QString> names, bool shown)
 {
     m_names = std::move(names);

@@ -28,6 +28,7 @@ public:
     void setMessages(std::vector<StoredMessage> messages);
     /// In front of those that are there.
     void addOlder(const std::vector<StoredMessage> &messages);
+    void addNewer(const std::vector<StoredMessage> &messages);
     /// Names of conversations, which stand beside messages where those of several are shown.
     void setNames(QHash<std::int64_t, QString> names, bool shown);
 

@@ -257,6 +257,13 @@ TEST_F(FrmHistory, ADoubleClickOnAHitShowsWhereItStands)
         shown().mid(0, 5),
         (QStringList{"the plan of day 1", "the plan of day 2", "the plan of day 3", "the plan of day 4", "talk 0"}));
     EXPECT_EQ(list().currentItem()->text(), QStringLiteral("Ann (304)"));
+    EXPECT_EQ(shown().size(), 102);
+    const auto hasCome = [this] {
+        messages().scrollToBottom(); // page by page
+        return shown().size() == 304;
+    };
+    EXPECT_TRUE(QTest::qWaitFor(hasCome, patience));
+    EXPECT_EQ(shown().back(), QStringLiteral("talk 299"));
 }
 
 TEST_F(FrmHistory, WhoComesBackSeesWhatWasSaidMeanwhileUnlessHeIsReading)

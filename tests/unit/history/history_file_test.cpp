@@ -380,6 +380,26 @@ TEST_F(HistoryFileTest, WhatCanBeReadOnBothSidesOfADamagedPageIsTakenOver)
     EXPECT_EQ(history.list().front().messages, static_cast<int>(left.size()));
 }
 
+TEST_F(HistoryFileTest, WhatIsLeftOfAFileThatIsCutOffIsTakenOver)
+{
+    {
+        HistoryFile history(folder);
+        QStringList all;
+        for (int i = 1000; i < 3000; ++i)
+            all += QStringLiteral("message number %1").arg(i);
+        write(history, all);
+    }
+    QFile cut(file);
+    ASSERT_TRUE(cut.resize(cut.size() * 6 / 10));
+
+    HistoryFile history(folder);
+    if (!history.takenOver())
+        history.setAside();
+    ASSERT_TRUE(history.takenOver());
+    EXPECT_GT(history.find({.most = 3000}).size(), 500u);
+    EXPECT_THAT(texts(history.find({.most = 3000})), testing::Contains(QStringLiteral("message number 1000")));
+}
+
 TEST_F(HistoryFileTest, WhatWasUnreadIsSoAfterARescue)
 {
     {

@@ -90,6 +90,40 @@ TEST_F(HistoryKeeperTest, IsOnTheDiskSoonWithoutAnybodyAsking)
     EXPECT_LT(limits::historyGathered.count(), 200);
 }
 
+TEST_F(HistoryKeeperTest, AFileThatSomebodyRemovesIsToldAndAnotherOneBegun)
+{
+    keep(QStringLiteral("before"));
+    EXPECT_EQ(find({}), QStringList{"before"});
+    ASSERT_TRUE(QFile::remove(folder + QStringLiteral("/history.sqlite3")));
+    keep(QStringLiteral("after"));
+    EXPECT_EQ(find({}), QStringList{"after"});
+    ASSERT_THAT(troubles, SizeIs(1));
+    EXPECT_TRUE(troubles.front().contains(QLatin1String("has been removed or replaced")));
+    keep(QStringLiteral("later"));
+    keeper.reset();
+    EXPECT_EQ(HistoryFile(folder).list().front().messages, 2);
+}
+
+TEST_F(HistoryKeeperTest, AFileThatSomebodyPutsInItsPlaceIsGoneOnWith)
+{
+    const QString other = m_base.filePath(QStringLiteral("other"));
+    {
+        HistoryFile history(other);
+        const HistoryFile::Entry entry{
+            with("10.0.0.2"),
+            {.time = QDateTime(QDate(2026, 11, 20), QTime(9, 0)), .text = QStringLiteral("of a backup")}};
+        history.write({&entry, 1});
+    }
+    keep(QStringLiteral("before"));
+    EXPECT_EQ(find({}), QStringList{"before"});
+    const QString file = folder + QStringLiteral("/history.sqlite3");
+    ASSERT_TRUE(QFile::remove(file));
+    ASSERT_TRUE(QFile::rename(other + QStringLiteral("/history.sqlite3"), file));
+    keep(QStringLiteral("after"));
+    EXPECT_EQ(find({}), (QStringList{"of a backup", "after"}));
+    EXPECT_THAT(troubles, SizeIs(1));
+}
+
 TEST_F(HistoryKeeperTest, FindsInAConversationByItsName)
 {
     keep(QStringLiteral("to Ann"));
