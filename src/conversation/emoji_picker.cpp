@@ -93,8 +93,9 @@ private:
         painter.drawText(option.rect.adjusted(headingIndent, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, text);
     }
 
-    static void paintEmoji(QPainter &painter, const QStyleOptionViewItem &option, const QString &text)
+    static void paintEmoji(QPainter &painter, const QStyleOptionViewItem &option, QString text)
     {
+        text.remove(QChar(0xFE0F)); // the font is that of the emoji already, and some toolkits break sequences at it
         const bool selected = option.state & QStyle::State_Selected;
         if (selected || option.state & QStyle::State_MouseOver) {
             painter.setRenderHint(QPainter::Antialiasing);
