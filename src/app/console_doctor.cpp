@@ -40,25 +40,30 @@ ConsoleDoctor::ConsoleDoctor(const Environment &environment, std::function<void(
     m_common.ownHostName = m_socket.LocalHostName();
     m_common.ownNickname = m_common.ownHostName;
     m_common.ownIP = m_socket.LocalIP();
-    readProfile(environment.profileFolder);
+    readProfile(environment);
     m_socket.DataArrival = [this](std::size_t byteCount) { m_socket.GetData(byteCount); };
     m_socket.setLocalPort(m_common.udpPort);
     m_socket.setRemotePort(m_common.udpPort);
     static_cast<void>(m_socket.bind()); // whether it is bound is one of the checks
 }
 
-void ConsoleDoctor::readProfile(const QString &folder)
+void ConsoleDoctor::readProfile(const Environment &environment)
 {
+    const QString &folder = environment.profileFolder;
+    SiteDefaults::Values defaults = readSiteDefaults(environment.siteFolders).values;
     const std::string file = QFile::encodeName(folder + QLatin1String("/settings.sqlite3")).toStdString();
     std::error_code trouble;
     if (!std::filesystem::exists(file, trouble)) {
         if (trouble)
             m_profileTrouble = tr("The settings in %1 cannot be read, so those of a fresh copy are taken: %2")
                                    .arg(folder, QString::fromLocal8Bit(trouble.message().c_str()));
-        return;
+        if (trouble || defaults.isEmpty())
+            return;
     }
-    const SqliteSettingsStore store = SqliteSettingsStore::forReading(folder);
-    m_profileTrouble = store.problem();
+    SqliteSettingsStore store = SqliteSettingsStore::forReading(folder);
+    store.setDefaults(std::move(defaults));
+    if (std::filesystem::exists(file, trouble))
+        m_profileTrouble = store.problem();
     loadSettings(store, m_common);
     if (m_ownAddresses.isFixed() || m_common.ownCard.isEmpty())
         return;

@@ -36,7 +36,7 @@ public:
 
 private:
     /// What the program would read of its settings. Makes no profile where there is none.
-    void readProfile(const QString &folder);
+    void readProfile(const Environment &environment);
 
     std::function<void()> m_ended;
     std::optional<QString> m_profileTrouble;

@@ -28,8 +28,8 @@ QString commandLineOf(int argc, char *argv[])
 }
 
 Program::Program(const Environment &environment)
-    : m_wantedAddress(environment.address), m_store(environment.profileFolder), m_nextStart(environment.profileFolder),
-      m_instance(environment.profileFolder),
+    : m_wantedAddress(environment.address), m_siteDefaults(readSiteDefaults(environment.siteFolders)),
+      m_store(environment.profileFolder), m_nextStart(environment.profileFolder), m_instance(environment.profileFolder),
       m_udp(m_drops, environment.address ? readAddress(*environment.address) : std::nullopt, environment.hostName),
       m_socket(m_udp, m_trace), m_ownAddresses(environment.address ? readAddress(*environment.address) : std::nullopt),
       m_diagnosis(m_udp), m_history(environment.profileFolder),
@@ -37,6 +37,7 @@ Program::Program(const Environment &environment)
                m_names, m_netSend, m_systemInfo, m_diagnosis, m_trace, m_drops, m_spellChecker,
                [] { return readProgramFile(QStringLiteral("TOTD.txt")); }})
 {
+    m_store.setDefaults(m_siteDefaults.values);
     qApp->installEventFilter(&m_toolTips);
     makeOutlinesClear();
     // For pictures that are pasted as well as for those of files.
@@ -191,6 +192,8 @@ void Program::loadMain()
         *m_engine, [this] { return statusNotes(); }, [] { QCoreApplication::exit(0); });
     window.Form_Load();
     m_engine->history().removeOld();
+    for (const QString &fault : std::as_const(m_siteDefaults.faults))
+        m_engine->log().fault(fault);
     if (m_wantedAddress && !readAddress(*m_wantedAddress))
         m_engine->log().fault(
             tr("NIMBCHAT_ADDRESS is \"%1\", which is no IPv4 address; NIMB-Chat listens on every interface instead.")

@@ -95,6 +95,7 @@ private:
     DropCounts m_drops;
     Translations m_translations; ///< before what may tell of a trouble while it is made
     Common m_common;
+    SiteDefaults m_siteDefaults;
     SqliteSettingsStore m_store;
     NextStartFile m_nextStart;
     SingleInstance m_instance;

@@ -23,7 +23,9 @@ Environment environmentOf(const QProcessEnvironment &variables, const QString &c
         return value.isEmpty() ? std::nullopt : std::optional(value);
     };
     const QString profile = variable("NIMBCHAT_PROFILE").value_or(configuration + QLatin1String("/NIMB-Chat"));
-    return {variable("NIMBCHAT_ADDRESS"), variable("NIMBCHAT_HOSTNAME"),
+    QStringList siteFolders = variable("XDG_CONFIG_DIRS").value_or(QStringLiteral("/etc/xdg")).split(u':');
+    siteFolders.removeIf([](const QString &place) { return !QDir::isAbsolutePath(place); }); // the standard says so
+    return {variable("NIMBCHAT_ADDRESS"), variable("NIMBCHAT_HOSTNAME"), siteFolders,
             QDir::cleanPath(QDir(folder).absoluteFilePath(profile))};
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -14,7 +15,8 @@ namespace nimb
 struct Environment {
     std::optional<QString> address;  ///< NIMBCHAT_ADDRESS: dotted IPv4 to bind to
     std::optional<QString> hostName; ///< NIMBCHAT_HOSTNAME
-    QString profileFolder;           ///< NIMBCHAT_PROFILE, or NIMB-Chat in the user's configuration folder
+    QStringList siteFolders; ///< XDG_CONFIG_DIRS, for what holds for everybody on the machine, the first one first
+    QString profileFolder;   ///< NIMBCHAT_PROFILE, or NIMB-Chat in the user's configuration folder
 
     static Environment fromSystem();
     /// The same for a tool that looks at what another program uses: with sudo its user is still the one who sits there.

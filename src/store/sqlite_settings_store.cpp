@@ -165,12 +165,19 @@ QString SqliteSettingsStore::read(const QString &section, const QString &key, co
     const auto change = m_droppingKept ? m_recovered.cend() : m_recovered.constFind({section, key});
     if (change != m_recovered.cend() && change->has_value())
         return **change;
-    return m_values.value({section, key}, defaultValue);
+    return m_values.value({section, key}, m_defaults.value({section, key}, defaultValue));
 }
 
 void SqliteSettingsStore::write(const QString &section, const QString &key, const QString &value)
 {
-    m_pending.insert({section, key}, value);
+    const Name name(section, key);
+    const auto given = m_defaults.constFind(name);
+    // Contacts belong together: of a list none is left to the site alone.
+    const bool isStored = m_values.contains(name) || m_recovered.contains(name) || section == QLatin1String("Users");
+    if (given != m_defaults.cend() && *given == value && !isStored)
+        m_pending.remove(name);
+    else
+        m_pending.insert(name, value);
 }
 
 std::optional<QString> SqliteSettingsStore::save()

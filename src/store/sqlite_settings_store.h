@@ -3,6 +3,7 @@
 
 #include "base/good_copy.h"
 #include "base/settings_store.h"
+#include "store/site_defaults.h"
 #include "store/sqlite.h"
 
 #include <QCoreApplication>
@@ -29,6 +30,10 @@ public:
     /// For whoever only looks: nothing is made or changed in the folder, and saving fails.
     static SqliteSettingsStore forReading(const QString &folder) { return {folder, Access::readOnly}; }
     ~SqliteSettingsStore() override;
+
+    /// For keys of which the store holds nothing. What is written as it was given here is not stored, so that another
+    /// default of the site reaches whoever has chosen nothing.
+    void setDefaults(SiteDefaults::Values values) { m_defaults = std::move(values); }
 
     /// Every character comes back as it was written, except that UTF-8 has no room for half a surrogate pair.
     QString read(const QString &section, const QString &key, const QString &defaultValue) const override;
@@ -105,6 +110,7 @@ private:
     Database m_database; ///< empty unless its values could be read
     Values m_values;
     Values m_pending;
+    Values m_defaults;               ///< of the site
     Changes m_recovered;             ///< by an earlier run, and not saved since
     int m_unreadableChanges = 0;     ///< beside those
     Changes m_kept;                  ///< all that the file holds beside the values
