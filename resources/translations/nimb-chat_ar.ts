@@ -966,6 +966,10 @@
         <source>The history in %1 cannot be used now (%2); what was kept before is unchanged.</source>
         <translation>لا يمكن استخدام المحفوظات في ‎⁨%1⁩ الآن (⁨%2⁩)؛ ما حُفظ من قبل لم يتغير.</translation>
     </message>
+    <message>
+        <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
+        <translation>أُزيلت المحفوظات في ⁨%1⁩ أو استُبدلت أثناء تشغيل NIMB-Chat: ما يقال من الآن فصاعدًا يُحفظ في الملف الموجود هناك الآن.</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1818,6 +1822,37 @@
     <message>
         <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
         <translation>لا يمكن أن يكون الإعداد المخزن ⁨%1⁩ هو «⁨%2⁩»؛ يُستخدم ⁨%3⁩ بدلًا منه.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteDefaults</name>
+    <message>
+        <source>it is neither a section nor a key with its value</source>
+        <translation>ليس قسمًا ولا مفتاحًا مع قيمته</translation>
+    </message>
+    <message>
+        <source>there is no key "%1" in the section "%2"</source>
+        <translation>لا يوجد مفتاح «⁨%1⁩» في القسم «⁨%2⁩»</translation>
+    </message>
+    <message>
+        <source>%1: further lines that say nothing: %2</source>
+        <translation>⁨%1⁩: أسطر أخرى لا تفيد شيئًا: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>⁨%1⁩، السطر ⁨%2⁩: ⁨%3⁩</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>تتعذر قراءة ⁨%1⁩: ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>الملف كبير جدًا</translation>
+    </message>
+    <message>
+        <source>it is not written in UTF-8</source>
+        <translation>الملف غير مكتوب بترميز UTF-8</translation>
     </message>
 </context>
 <context>

@@ -962,6 +962,10 @@
         <source>The history in %1 cannot be used now (%2); what was kept before is unchanged.</source>
         <translation>Der Verlauf in %1 kann zurzeit nicht benutzt werden (%2); was bisher aufbewahrt wurde, ist unverändert.</translation>
     </message>
+    <message>
+        <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
+        <translation>Der Verlauf in %1 wurde entfernt oder ersetzt, während NIMB-Chat läuft: Was von jetzt an gesagt wird, kommt in den, der jetzt dort liegt.</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1810,6 +1814,37 @@
     <message>
         <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
         <translation>Die gespeicherte Einstellung %1 kann nicht „%2“ sein; stattdessen gilt %3.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteDefaults</name>
+    <message>
+        <source>it is neither a section nor a key with its value</source>
+        <translation>sie ist weder ein Abschnitt noch ein Schlüssel mit seinem Wert</translation>
+    </message>
+    <message>
+        <source>there is no key "%1" in the section "%2"</source>
+        <translation>im Abschnitt „%2“ gibt es keinen Schlüssel „%1“</translation>
+    </message>
+    <message>
+        <source>%1: further lines that say nothing: %2</source>
+        <translation>%1: weitere Zeilen ohne Bedeutung: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, Zeile %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>die Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>it is not written in UTF-8</source>
+        <translation>die Datei ist nicht in UTF-8 geschrieben</translation>
     </message>
 </context>
 <context>

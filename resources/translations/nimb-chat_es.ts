@@ -962,6 +962,10 @@
         <source>The history in %1 cannot be used now (%2); what was kept before is unchanged.</source>
         <translation>El historial de %1 no se puede utilizar ahora (%2); lo guardado antes no ha cambiado.</translation>
     </message>
+    <message>
+        <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
+        <translation>El historial de %1 se ha eliminado o sustituido mientras NIMB-Chat está en marcha: lo que se diga a partir de ahora va al que hay allí ahora.</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1810,6 +1814,37 @@
     <message>
         <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
         <translation>El ajuste almacenado %1 no puede ser «%2»; se utiliza %3 en su lugar.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteDefaults</name>
+    <message>
+        <source>it is neither a section nor a key with its value</source>
+        <translation>no es ni una sección ni una clave con su valor</translation>
+    </message>
+    <message>
+        <source>there is no key "%1" in the section "%2"</source>
+        <translation>no hay ninguna clave «%1» en la sección «%2»</translation>
+    </message>
+    <message>
+        <source>%1: further lines that say nothing: %2</source>
+        <translation>%1: otras líneas que no dicen nada: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, línea %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>No se puede leer %1: %2.</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>el archivo es demasiado grande</translation>
+    </message>
+    <message>
+        <source>it is not written in UTF-8</source>
+        <translation>el archivo no está escrito en UTF-8</translation>
     </message>
 </context>
 <context>

@@ -962,6 +962,10 @@
         <source>The history in %1 cannot be used now (%2); what was kept before is unchanged.</source>
         <translation>L’historique dans %1 ne peut pas être utilisé actuellement (%2) ; ce qui était déjà conservé reste inchangé.</translation>
     </message>
+    <message>
+        <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
+        <translation>L’historique dans %1 a été supprimé ou remplacé pendant que NIMB-Chat fonctionne : ce qui se dit désormais va dans celui qui s’y trouve maintenant.</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1810,6 +1814,37 @@
     <message>
         <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
         <translation>Le paramètre enregistré %1 ne peut pas valoir « %2 » ; %3 est utilisé à la place.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteDefaults</name>
+    <message>
+        <source>it is neither a section nor a key with its value</source>
+        <translation>ce n’est ni une section ni une clé avec sa valeur</translation>
+    </message>
+    <message>
+        <source>there is no key "%1" in the section "%2"</source>
+        <translation>il n’y a pas de clé « %1 » dans la section « %2 »</translation>
+    </message>
+    <message>
+        <source>%1: further lines that say nothing: %2</source>
+        <translation>%1 : autres lignes sans signification : %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, ligne %2 : %3</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 ne peut pas être lu : %2.</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>le fichier est trop grand</translation>
+    </message>
+    <message>
+        <source>it is not written in UTF-8</source>
+        <translation>le fichier n’est pas écrit en UTF-8</translation>
     </message>
 </context>
 <context>

@@ -962,6 +962,10 @@
         <source>The history in %1 cannot be used now (%2); what was kept before is unchanged.</source>
         <translation>La cronologia in %1 al momento non è utilizzabile (%2); ciò che era conservato è rimasto invariato.</translation>
     </message>
+    <message>
+        <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
+        <translation>La cronologia in %1 è stata rimossa o sostituita mentre NIMB-Chat è in esecuzione: ciò che viene detto da ora in poi va in quella che si trova lì adesso.</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1810,6 +1814,37 @@
     <message>
         <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
         <translation>L'impostazione memorizzata %1 non può essere «%2»; viene usato %3.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteDefaults</name>
+    <message>
+        <source>it is neither a section nor a key with its value</source>
+        <translation>non è né una sezione né una chiave con il suo valore</translation>
+    </message>
+    <message>
+        <source>there is no key "%1" in the section "%2"</source>
+        <translation>non c'è nessuna chiave «%1» nella sezione «%2»</translation>
+    </message>
+    <message>
+        <source>%1: further lines that say nothing: %2</source>
+        <translation>%1: altre righe che non dicono nulla: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, riga %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>Impossibile leggere %1: %2.</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>il file è troppo grande</translation>
+    </message>
+    <message>
+        <source>it is not written in UTF-8</source>
+        <translation>il file non è scritto in UTF-8</translation>
     </message>
 </context>
 <context>

@@ -961,6 +961,10 @@
         <source>The history in %1 cannot be used now (%2); what was kept before is unchanged.</source>
         <translation>%1 の履歴は現在使用できません (%2)。これまでに保存された内容は変わりません。</translation>
     </message>
+    <message>
+        <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
+        <translation>NIMB-Chat の実行中に %1 の履歴が削除されたか置き換えられました。これ以降の内容は、現在そこにあるものに保存されます。</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1808,6 +1812,37 @@
     <message>
         <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
         <translation>保存されている設定 %1 の値「%2」は使用できません。代わりに %3 を使用します。</translation>
+    </message>
+</context>
+<context>
+    <name>SiteDefaults</name>
+    <message>
+        <source>it is neither a section nor a key with its value</source>
+        <translation>セクションでも、値のあるキーでもありません</translation>
+    </message>
+    <message>
+        <source>there is no key "%1" in the section "%2"</source>
+        <translation>セクション「%2」にキー「%1」はありません</translation>
+    </message>
+    <message>
+        <source>%1: further lines that say nothing: %2</source>
+        <translation>%1: ほかに意味のない行: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1、%2 行目: %3</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 を読み込めません: %2。</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>ファイルが大きすぎます</translation>
+    </message>
+    <message>
+        <source>it is not written in UTF-8</source>
+        <translation>ファイルが UTF-8 で書かれていません</translation>
     </message>
 </context>
 <context>

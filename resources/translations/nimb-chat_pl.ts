@@ -963,6 +963,10 @@
         <source>The history in %1 cannot be used now (%2); what was kept before is unchanged.</source>
         <translation>Nie można teraz używać historii w %1 (%2); to, co zachowano wcześniej, pozostaje bez zmian.</translation>
     </message>
+    <message>
+        <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
+        <translation>Historia w %1 została usunięta lub zastąpiona podczas działania NIMB-Chat: to, co zostanie powiedziane od teraz, trafi do tej, która jest tam teraz.</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1812,6 +1816,37 @@
     <message>
         <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
         <translation>Zapisane ustawienie %1 nie może mieć wartości „%2”; zamiast tego używane jest %3.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteDefaults</name>
+    <message>
+        <source>it is neither a section nor a key with its value</source>
+        <translation>nie jest ani sekcją, ani kluczem z wartością</translation>
+    </message>
+    <message>
+        <source>there is no key "%1" in the section "%2"</source>
+        <translation>w sekcji „%2” nie ma klucza „%1”</translation>
+    </message>
+    <message>
+        <source>%1: further lines that say nothing: %2</source>
+        <translation>%1: dalsze wiersze bez znaczenia: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, wiersz %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>Nie można odczytać %1: %2.</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>plik jest za duży</translation>
+    </message>
+    <message>
+        <source>it is not written in UTF-8</source>
+        <translation>plik nie jest zapisany w UTF-8</translation>
     </message>
 </context>
 <context>

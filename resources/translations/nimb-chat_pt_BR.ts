@@ -962,6 +962,10 @@
         <source>The history in %1 cannot be used now (%2); what was kept before is unchanged.</source>
         <translation>O histórico em %1 não pode ser usado agora (%2); o que foi guardado antes permanece inalterado.</translation>
     </message>
+    <message>
+        <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
+        <translation>O histórico em %1 foi removido ou substituído enquanto o NIMB-Chat está em execução: o que for dito de agora em diante vai para o que está lá agora.</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1810,6 +1814,37 @@
     <message>
         <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
         <translation>A configuração armazenada %1 não pode ser “%2”; %3 será usado no lugar.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteDefaults</name>
+    <message>
+        <source>it is neither a section nor a key with its value</source>
+        <translation>não é uma seção nem uma chave com seu valor</translation>
+    </message>
+    <message>
+        <source>there is no key "%1" in the section "%2"</source>
+        <translation>não há chave “%1” na seção “%2”</translation>
+    </message>
+    <message>
+        <source>%1: further lines that say nothing: %2</source>
+        <translation>%1: outras linhas que não dizem nada: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, linha %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>Não é possível ler %1: %2.</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>o arquivo é grande demais</translation>
+    </message>
+    <message>
+        <source>it is not written in UTF-8</source>
+        <translation>o arquivo não está escrito em UTF-8</translation>
     </message>
 </context>
 <context>

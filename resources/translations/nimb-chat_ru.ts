@@ -963,6 +963,10 @@
         <source>The history in %1 cannot be used now (%2); what was kept before is unchanged.</source>
         <translation>История в %1 сейчас недоступна (%2); сохранённое ранее не изменилось.</translation>
     </message>
+    <message>
+        <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
+        <translation>История в %1 удалена или заменена во время работы NIMB-Chat: всё, что будет сказано с этого момента, попадёт в ту, которая находится там сейчас.</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1812,6 +1816,37 @@
     <message>
         <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
         <translation>Сохранённый параметр %1 не может иметь значение «%2»; вместо него используется %3.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteDefaults</name>
+    <message>
+        <source>it is neither a section nor a key with its value</source>
+        <translation>это не раздел и не ключ со значением</translation>
+    </message>
+    <message>
+        <source>there is no key "%1" in the section "%2"</source>
+        <translation>в разделе «%2» нет ключа «%1»</translation>
+    </message>
+    <message>
+        <source>%1: further lines that say nothing: %2</source>
+        <translation>%1: прочих строк без смысла: %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, строка %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>Не удаётся прочитать %1: %2.</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>файл слишком велик</translation>
+    </message>
+    <message>
+        <source>it is not written in UTF-8</source>
+        <translation>файл записан не в UTF-8</translation>
     </message>
 </context>
 <context>

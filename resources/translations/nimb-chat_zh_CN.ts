@@ -961,6 +961,10 @@
         <source>The history in %1 cannot be used now (%2); what was kept before is unchanged.</source>
         <translation>目前无法使用 %1 中的聊天记录（%2）；此前保留的内容未变。</translation>
     </message>
+    <message>
+        <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
+        <translation>%1 中的聊天记录在 NIMB-Chat 运行时被删除或替换：此后的内容将写入现在位于该处的文件。</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1808,6 +1812,37 @@
     <message>
         <source>The stored setting %1 cannot be "%2"; %3 is used instead.</source>
         <translation>已存的设置 %1 不能为“%2”；改用 %3。</translation>
+    </message>
+</context>
+<context>
+    <name>SiteDefaults</name>
+    <message>
+        <source>it is neither a section nor a key with its value</source>
+        <translation>既不是节，也不是带值的键</translation>
+    </message>
+    <message>
+        <source>there is no key "%1" in the section "%2"</source>
+        <translation>节“%2”中没有键“%1”</translation>
+    </message>
+    <message>
+        <source>%1: further lines that say nothing: %2</source>
+        <translation>%1：其他无意义的行：%2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1，第 %2 行：%3</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>无法读取 %1：%2。</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>文件太大</translation>
+    </message>
+    <message>
+        <source>it is not written in UTF-8</source>
+        <translation>文件不是 UTF-8 编码</translation>
     </message>
 </context>
 <context>
