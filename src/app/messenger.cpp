@@ -20,7 +20,7 @@ Messenger::Messenger(Common &common, const Surroundings &around)
       m_networks({common, around.socket, around.ownAddresses, around.networkWatch, m_port, m_announcement, m_log,
                   around.mainView, around.timers, around.chance, [this] { m_conferences.ownAddressChanged(); },
                   [this] { m_transfers.offers.ownAddressesChanged(m_ownAddresses); }}),
-      m_outbox({common, around.store, m_contacts, around.timers, around.clock, around.prompts, m_log,
+      m_outbox({common, around.store, around.goodCopy, m_contacts, around.timers, around.clock, around.prompts, m_log,
                 [this](const WaitingMessage &message) { m_privateWindows.sendWaiting(message); },
                 [this](const WaitingMessage &message) { m_privateWindows.willNotBeSent(message); }}),
       m_privateWindows({{common, around.socket, around.clock, m_history, m_transfers},

@@ -35,6 +35,8 @@ public:
     virtual const std::vector<WaitingMessage> &messages() const = 0;
     /// The user wants it to be sent no more, nor shown; a number that is not there is ignored.
     virtual void forget(std::int64_t number) = 0;
+    /// The same, and afterwards it is in no file any more.
+    virtual void erase(std::int64_t number) = 0;
 
 Q_SIGNALS:
     void changed();

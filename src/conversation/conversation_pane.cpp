@@ -409,6 +409,8 @@ void ConversationPane::sendbtn_Click()
 void ConversationPane::showRoomLeft()
 {
     const qsizetype length = nimb::typedText(*intext).size();
+    if (length == 0)
+        cutBand->hide(); // what it belongs to is gone
     const bool isShown = length >= limits::messageLengthShown;
     const bool isFull = length >= limits::messageLength;
     QFont weight = messageCounter->font();
@@ -634,6 +636,7 @@ void ConversationPane::setInputEnabled(bool enabled)
 {
     intext->setEnabled(enabled);
     sendbtn->setEnabled(enabled);
+    sendFileBtn->setEnabled(enabled);
     showHistoryBand();
     Q_EMIT inputEnabled(enabled);
 }

@@ -94,6 +94,8 @@ void frmHistory::buildControls()
     messagesView->setItemDelegate(m_delegate);
     messagesView->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     messagesView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // Rows that are as high as they need without it would be too low once it takes some of their width.
+    messagesView->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     messagesView->setResizeMode(QListView::Adjust);
     messagesView->setContextMenuPolicy(Qt::CustomContextMenu);
     sides->setStretchFactor(0, 0);
@@ -534,7 +536,7 @@ void frmHistory::showEraseMenu()
 void frmHistory::forgetWaiting(std::int64_t number)
 {
     if (m_prompts.confirm(tr("Erase the chosen message? It will not be sent."), windowTitle()))
-        m_waiting.forget(number);
+        m_waiting.erase(number);
 }
 
 void frmHistory::erase(const HistorySelection &selection, const QString &sentence)

@@ -283,6 +283,33 @@ std::vector<StoredMessage> readablePiece(sqlite3 *database, std::int64_t first, 
     return piece;
 }
 
+/// Behind the newest message that ever was.
+std::int64_t endOfNumbers(sqlite3 *database)
+{
+    try {
+        Statement last(database, "SELECT seq FROM sqlite_sequence WHERE name = 'messages'");
+        return last.next() ? last.number(0) + 1 : 0;
+    } catch (const Failure &) {
+        return 0;
+    }
+}
+
+/// Between two places that cannot be read there may be much that can, one by one.
+void takeBetween(sqlite3 *database, std::int64_t first, std::int64_t last,
+                 const std::function<void(const std::vector<StoredMessage> &)> &take)
+{
+    constexpr std::size_t pieceSize = 500;
+    constexpr std::int64_t mostTried = 2'000'000; // of a file whose numbers are damaged, too
+    std::vector<StoredMessage> piece;
+    for (std::int64_t number = first + 1; number < std::min(last, first + mostTried); ++number) {
+        const std::vector<StoredMessage> one = readablePiece(database, number - 1, number + 1, "ASC");
+        piece.insert(piece.end(), one.begin(), one.end());
+        if (piece.size() >= pieceSize)
+            take(std::exchange(piece, {}));
+    }
+    take(piece);
+}
+
 void sortAndCut(std::vector<StoredMessage> &messages, const HistoryQuestion &question)
 {
     std::ranges::sort(messages, {}, &StoredMessage::number);
@@ -472,6 +499,7 @@ int HistoryFile::salvage(const QString &wreck)
         std::ranges::reverse(piece);
         behind.push_back(std::move(piece));
     }
+    takeBetween(opened, first, behind.empty() ? endOfNumbers(opened) : last, take);
     for (auto piece = behind.rbegin(); piece != behind.rend(); ++piece)
         take(*piece);
     for (auto unread = notRead.begin(); unread != notRead.end(); ++unread)

@@ -110,6 +110,10 @@ public:
     {
         return m_cell.fontMetrics.elidedText(text, Qt::ElideRight, room);
     }
+    QString cutInFront(const QString &text, int room) const
+    {
+        return m_cell.fontMetrics.elidedText(text, Qt::ElideLeft, room);
+    }
     /// With the gap beside it.
     int badgeWidth(const QString &number) const { return widthOfBadge(number) + gap; }
     int letters(int number) const { return number * m_cell.fontMetrics.averageCharWidth(); }
@@ -286,7 +290,9 @@ void ContactDelegate::paintRow(QPainter &painter, const QStyleOptionViewItem &ce
         if (room.beside(time) - room.taken(address) >= qMin(nameWidth, room.letters(lettersOfShortestName)))
             room.paintRight(time);
     }
-    room.paintRight(address);
+    // Of an address the end tells two of one network apart.
+    const int besideName = room.width() - qMin(nameWidth, room.letters(lettersOfShortestName)) - gap;
+    room.paintRight(room.taken(address) <= besideName ? address : room.cutInFront(address, besideName));
     if (isStateShown() || offline)
         paintWords(room, paintedName(contact.data(ContactList::WordsRole).toString()), nameWidth);
     room.paintLeft(cell.text, nameFont, textColour(cell, offline));

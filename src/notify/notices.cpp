@@ -113,6 +113,9 @@ QString Notices::shownMessage(const QString &text, int count) const
 
 void Notices::tell(const News &news, bool wantsSound)
 {
+    // What was not heard is not told later: by then it calls nobody any more.
+    if (news.isBuzz && isQuietAbout(news.place.ip))
+        return;
     Unseen &unseen = m_unseen[news.place];
     int &count = news.isBuzz ? unseen.buzzes : unseen.messages;
     count = std::min(count + 1, limits::unreadCounted);

@@ -130,6 +130,15 @@ void Outbox::forget(std::int64_t number)
     m_parts.notSent(gone);
 }
 
+void Outbox::erase(std::int64_t number)
+{
+    forget(number);
+    if (m_parts.goodCopy.offeredCopy())
+        return; // which nobody has decided about
+    if (const std::optional<QString> problem = m_parts.goodCopy.renewCopy())
+        m_parts.log.fault(*problem);
+}
+
 void Outbox::contactRemoved(const ContactAddress &ip)
 {
     for (const WaitingMessage &message : std::vector(m_messages)) {

@@ -1,6 +1,7 @@
 // What is written to somebody who is away and goes out when he is back.
 #pragma once
 
+#include "base/good_copy.h"
 #include "base/main_log.h"
 #include "base/prompts.h"
 #include "base/settings_store.h"
@@ -31,6 +32,7 @@ public:
     struct Parts {
         const Common &common;
         SettingsStore &store;
+        GoodCopy &goodCopy; ///< of the store
         ContactList &contacts;
         Timers &timers;
         const WallClock &clock;
@@ -56,6 +58,7 @@ public:
 
     const std::vector<WaitingMessage> &messages() const override { return m_messages; }
     void forget(std::int64_t number) override;
+    void erase(std::int64_t number) override;
     void seenOnline(Ipv4Address ip, bool isNew) override;
 
 private:

@@ -2,28 +2,49 @@
 
 #include "widgets/message_box.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QEventLoop>
 
 #include <cstdio>
 
 namespace nimb
 {
 
+QWidget *MessageBoxes::over() const
+{
+    QWidget *const active = QApplication::activeWindow();
+    return active ? active : m_window.data();
+}
+
+/// A box of the window in which somebody types would get the keyboard from most window managers, and a letter that was
+/// meant for a message would answer it. So it belongs to no window, and all others go on.
+int MessageBoxes::answerBeside(QMessageBox &box)
+{
+    box.setAttribute(Qt::WA_ShowWithoutActivating);
+    box.setWindowModality(Qt::NonModal);
+    QEventLoop loop;
+    QObject::connect(&box, &QMessageBox::finished, &loop, &QEventLoop::quit);
+    QObject::connect(&box, &QObject::destroyed, &loop, &QEventLoop::quit);
+    const QPointer<QMessageBox> shown = &box;
+    box.show();
+    loop.exec();
+    const QAbstractButton *const clicked = shown ? shown->clickedButton() : nullptr;
+    return clicked ? shown->standardButton(const_cast<QAbstractButton *>(clicked)) : QMessageBox::NoButton;
+}
+
 int MessageBoxes::show(const QString &picture, QMessageBox::StandardButtons buttons, const QString &text,
                        const QString &title, Manner manner)
 {
-    QWidget *const active = QApplication::activeWindow();
     // The window may end while its box is open, and takes the box with it.
     const QPointer<QMessageBox> box
-        = new QMessageBox(QMessageBox::NoIcon, title, {}, buttons, active ? active : m_window.data());
+        = new QMessageBox(QMessageBox::NoIcon, title, {}, buttons, manner == Manner::unasked ? nullptr : over());
     dress(*box, picture);
     box->setText(text);
-    if (manner == Manner::unasked)
-        box->setAttribute(Qt::WA_ShowWithoutActivating);
     if (manner != Manner::usual)
         box->setDefaultButton(QMessageBox::No);
     m_open.push_back(box);
-    const int answer = box->exec();
+    const int answer = manner == Manner::unasked ? answerBeside(*box) : box->exec();
     m_open.pop_back();
     delete box;
     return answer;

@@ -41,6 +41,9 @@ private:
     /// The box stands over the window in which the user is.
     int show(const QString &picture, QMessageBox::StandardButtons buttons, const QString &text, const QString &title,
              Manner manner = Manner::usual);
+    /// The window in which the user is.
+    QWidget *over() const;
+    static int answerBeside(QMessageBox &box);
     std::optional<bool> decideIn(Manner manner, const QString &text, const QString &title);
 
     QPointer<QWidget> m_window;

@@ -124,9 +124,9 @@ TEST_F(ContactRows, OfWhoeverIsOfflineAreMutedAndSaySo)
 TEST_F(ContactRows, ShowWhoIsMuted)
 {
     EXPECT_TRUE(isBlank(rightSide("10.0.0.2")));
-    windows.engine.commands.mnuMuteContact(QStringLiteral("10.0.0.2"), true);
+    windows.engine.contactCommands().mnuMuteContact(QStringLiteral("10.0.0.2"), true);
     EXPECT_FALSE(isBlank(rightSide("10.0.0.2")));
-    windows.engine.commands.mnuMuteContact(QStringLiteral("10.0.0.2"), false);
+    windows.engine.contactCommands().mnuMuteContact(QStringLiteral("10.0.0.2"), false);
     EXPECT_TRUE(isBlank(rightSide("10.0.0.2")));
 }
 

@@ -41,6 +41,7 @@ public:
         std::erase_if(list, [number](const WaitingMessage &message) { return message.number == number; });
         Q_EMIT changed();
     }
+    void erase(std::int64_t number) override { forget(number); }
     void put(const QString &name, const QString &text)
     {
         list.push_back({.number = static_cast<std::int64_t>(list.size()) + 1,

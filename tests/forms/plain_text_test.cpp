@@ -103,9 +103,18 @@ TEST(PlainMessageBox, ShowsMarkupAndAnswersWithItsButtons)
 TEST(UnaskedMessageBox, TakesNoFocusAndReturnMeansNo)
 {
     MessageBoxes boxes;
+    QWidget window;
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     QTimer::singleShot(0, [] {
-        auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        QMessageBox *box = nullptr;
+        for (QWidget *const other : QApplication::topLevelWidgets())
+            box = box ? box : qobject_cast<QMessageBox *>(other);
+        ASSERT_TRUE(box);
         EXPECT_TRUE(box->testAttribute(Qt::WA_ShowWithoutActivating));
+        EXPECT_FALSE(box->isModal()) << "or it would take the keyboard";
+        EXPECT_EQ(box->parentWidget(), nullptr);
         QTest::keyClick(box, Qt::Key_Return);
     });
     EXPECT_EQ(boxes.decideUnasked(QStringLiteral("Send it?"), QStringLiteral("t")), std::optional(false));

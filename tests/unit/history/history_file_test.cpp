@@ -380,6 +380,29 @@ TEST_F(HistoryFileTest, WhatCanBeReadOnBothSidesOfADamagedPageIsTakenOver)
     EXPECT_EQ(history.list().front().messages, static_cast<int>(left.size()));
 }
 
+TEST_F(HistoryFileTest, WhatStandsBetweenTwoDamagedPagesIsTakenOverToo)
+{
+    {
+        HistoryFile history(folder);
+        QStringList all;
+        for (int i = 1000; i < 1900; ++i)
+            all += QStringLiteral("message number %1").arg(i);
+        write(history, all);
+    }
+    damagePageWith("message number 1200");
+    damagePageWith("message number 1700");
+
+    HistoryFile history(folder);
+    if (!history.takenOver())
+        history.setAside();
+    const QStringList left = texts(history.find({.most = 1000}));
+    EXPECT_GT(left.size(), 700);
+    EXPECT_TRUE(left.contains(QStringLiteral("message number 1450")));
+    EXPECT_TRUE(left.contains(QStringLiteral("message number 1000")));
+    EXPECT_TRUE(left.contains(QStringLiteral("message number 1899")));
+    EXPECT_TRUE(std::ranges::is_sorted(left));
+}
+
 TEST_F(HistoryFileTest, WhatIsLeftOfAFileThatIsCutOffIsTakenOver)
 {
     {
