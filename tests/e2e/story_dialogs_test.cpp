@@ -118,10 +118,10 @@ TEST_F(StoryDialogs, ATipIsShownAtTheStartAndTheNextOneAtTheNext)
 
 TEST_F(StoryDialogs, TheProgramSpeaksTheDesktopsLanguageOrTheOneThatWasChosen)
 {
-    bob.setVariable(QStringLiteral("LC_ALL"), QStringLiteral("de_DE.UTF-8"));
+    bob.setVariable(QStringLiteral("LC_ALL"), QStringLiteral("es_ES.UTF-8"));
     start();
     press("ctrl+h");
-    dialog("NIMB-Chat – Verlauf");
+    dialog("NIMB-Chat - Historial");
     EXPECT_EQ(bob.end(), 0);
     bob.writeStore({{{"Options", "Language"}, "fr"}});
     start();

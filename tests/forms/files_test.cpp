@@ -260,9 +260,10 @@ TEST_F(FilesInWindows, SeveralTroublesAreSaidAndTheQuestionStays)
     QGuiApplication::clipboard()->setImage(QImage(8, 6, QImage::Format_RGB32));
     control<QPlainTextEdit>("intext").paste();
     windows.fileServer.failed(windows.fileServer.served.front().token, QStringLiteral("a has changed."));
-    EXPECT_EQ(band.text().toStdString(),
-              "a has changed. <a href=\"close\">Close</a><br>"
-              "A picture was pasted (8 × 6). <a href=\"send\">Send it</a> / <a href=\"no\">leave it</a>");
+    EXPECT_EQ(
+        band.text().toStdString(),
+        "a has changed. <a href=\"close\">Close</a><br>"
+        "A picture was pasted (8 × 6). <a href=\"send\">Send\u00A0it</a>\u00A0/ <a href=\"no\">leave\u00A0it</a>");
     Q_EMIT band.linkActivated(QStringLiteral("no"));
     EXPECT_EQ(band.text().toStdString(), "a has changed. <a href=\"close\">Close</a>");
     windows.fileServer.answersAtOnce = false;
