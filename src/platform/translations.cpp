@@ -59,7 +59,7 @@ void Translations::use(const QString &code, const QString &folder)
 {
     const QString chosen = code.isEmpty() ? desktopLanguage() : code;
     m_language = QLocale(chosen);
-    const bool isDesktops = QLocale::system().language() == m_language.language();
+    const bool isDesktops = code.isEmpty() || QLocale::system().language() == m_language.language();
     QLocale::setDefault(isDesktops ? QLocale::system() : m_language);
     const QString own = folder.isEmpty() ? shippedFolder() : folder;
     install(m_own, QLatin1String("nimb-chat_") + chosen, own);

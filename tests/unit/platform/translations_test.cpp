@@ -69,6 +69,16 @@ TEST_F(TranslationsTest, TheDesktopsIsTakenWhereNoneIsChosen)
     EXPECT_EQ(languageOn("sw_KE.UTF-8"), QStringLiteral("en_US"));
 }
 
+TEST_F(TranslationsTest, DatesAreTheDesktopsWhereNothingIsChosenAlsoInALanguageThatIsNotSpoken)
+{
+    for (const char *const desktop : {"C.UTF-8", "sw_KE.UTF-8", "de_CH.UTF-8"}) {
+        setDesktop(desktop);
+        Translations translations;
+        translations.use({}, m_folder);
+        EXPECT_EQ(QLocale(), QLocale::system()) << desktop;
+    }
+}
+
 TEST_F(TranslationsTest, NumbersHaveTheirFormsInEnglishToo)
 {
     Translations translations;
