@@ -21,8 +21,8 @@ public:
     /// code: of programLanguages, or empty for the first of the desktop's languages that the program speaks; where it
     /// speaks none of them, and where files are missing, the texts are the English ones of the sources. folder: where
     /// the translations of the program are; empty: where they ship. Sets QLocale's default: to a
-    /// language that was chosen and is not the desktop's, so that dates and numbers go with the texts; else they are the
-    /// desktop's, also where the program does not speak its language.
+    /// language that was chosen and is not the desktop's, so that dates and numbers go with the texts; else they are
+    /// the desktop's, also where the program does not speak its language.
     void use(const QString &code, const QString &folder = {});
 
     /// The language of the texts.

@@ -180,6 +180,7 @@ TEST_F(FrmConference, AClosedConferenceTakesNoInput)
     windows.arrive("10.0.0.2", "!CONF CLOSE #3");
     EXPECT_FALSE(intext().isEnabled());
     EXPECT_FALSE(control<QPushButton>("sendbtn").isEnabled());
+    EXPECT_FALSE(control<QToolButton>("sendFileBtn").isEnabled());
     EXPECT_EQ(lastLogLine(), "--- This conference is terminated.");
     QTest::mouseClick(&control<QToolButton>("datetimebtn"), Qt::LeftButton);
     QTest::mouseClick(&control<QToolButton>("Emoticbtn"), Qt::LeftButton);

@@ -481,6 +481,15 @@ TEST_F(FrmPrivate, APasteThatIsTooLongIsSaidAndItsRestOffered)
     EXPECT_FALSE(band.isVisible());
 }
 
+TEST_F(FrmPrivate, WhatDidNotFitIsOfferedNoMoreOnceTheInputIsEmptied)
+{
+    QGuiApplication::clipboard()->setText(QString(2010, u'x'));
+    intext().paste();
+    EXPECT_TRUE(control<QLabel>("cutBand").isVisible());
+    intext().clear();
+    EXPECT_FALSE(control<QLabel>("cutBand").isVisible());
+}
+
 TEST_F(FrmPrivate, TheCounterHasAllTheRoomThatItNeeds)
 {
     form().show();

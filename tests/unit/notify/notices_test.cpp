@@ -171,6 +171,9 @@ TEST_F(NoticesTest, WhoIsBusyIsToldNothingAndHearsNothing)
     EXPECT_THAT(lines(), IsEmpty());
     EXPECT_EQ(copy.sound.notices, 0);
     EXPECT_EQ(copy.contact("10.0.0.2").unread(), 1) << "it is counted all the same";
+    copy.engine.ownState().choose(1);
+    copy.arrive("10.0.0.2", "-there");
+    EXPECT_THAT(lines(), ElementsAre("Ann (2): there")) << "a buzz that is over calls nobody any more";
 }
 
 TEST_F(NoticesTest, OfAMutedContactNothingIsToldNorHeard)
