@@ -1,8 +1,11 @@
 // nimb-chatctl: what can be asked of NIMB-Chat on a console.
+#include "app/console_commands.h"
 #include "app/console_doctor.h"
+#include "platform/translations.h"
 #include "protocol/address_text.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QTimer>
 
 #include <cstdio>
@@ -32,9 +35,39 @@ void print(const QByteArray &text, std::FILE *to = stdout)
     std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), to);
 }
 
-const char usage[] = "usage: nimb-chatctl doctor [--json]\n"
-                     "       nimb-chatctl --version | --help\n"
-                     "doctor  looks why others are not reached; exit status 0 fine, 1 doubtful, 2 wrong\n";
+const char usage[]
+    = "usage: nimb-chatctl doctor [--json]\n"
+      "       nimb-chatctl contacts [--json]\n"
+      "       nimb-chatctl send CONTACT [TEXT...]\n"
+      "       nimb-chatctl send-file CONTACT PATH\n"
+      "       nimb-chatctl status online|busy|away|invisible [TEXT...]\n"
+      "       nimb-chatctl show | quit | --version | --help\n"
+      "doctor  looks why others are not reached; exit status 0 fine, 1 doubtful, 2 wrong\n"
+      "send    without TEXT sends what comes over the standard input\n"
+      "All but doctor are carried out by the copy that runs; exit status 0 done, 1 refused, 2 no copy runs.\n";
+
+/// One more than a message holds is enough to be refused.
+QString typedText()
+{
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly))
+        return {};
+    QString text = QString::fromLocal8Bit(input.read(qint64{64} * 1024));
+    while (text.endsWith(u'\n'))
+        text.chop(1);
+    return text;
+}
+
+int askCopy(nimb::ConsoleCommand command)
+{
+    if (command.needsInput)
+        command.request.insert(QStringLiteral("text"), typedText());
+    const nimb::ConsoleAnswer answer = nimb::askRunningCopy(nimb::Environment::ofCaller(), command);
+    print(answer.output);
+    if (!answer.complaint.isEmpty())
+        print("nimb-chatctl: " + answer.complaint, stderr);
+    return answer.status;
+}
 
 int examine(bool asJson)
 {
@@ -59,6 +92,7 @@ int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("NIMB-Chat"));
+    const nimb::Translations translations;
     const QStringList words = QCoreApplication::arguments().mid(1);
     if (words == QStringList{QStringLiteral("--version")}) {
         print("nimb-chatctl " NIMB_VERSION "\n");
@@ -72,6 +106,8 @@ int main(int argc, char *argv[])
         return examine(false);
     if (words == QStringList{QStringLiteral("doctor"), QStringLiteral("--json")})
         return examine(true);
+    if (const std::optional<nimb::ConsoleCommand> command = nimb::ConsoleCommand::of(words))
+        return askCopy(*command);
     print(usage, stderr);
     return wrongUsage;
 }

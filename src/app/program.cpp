@@ -16,6 +16,7 @@
 #include <QImageReader>
 #include <QLocale>
 #include <QSessionManager>
+#include <QTimer>
 
 namespace nimb
 {
@@ -55,6 +56,8 @@ int Program::run(const QString &commandLine)
     const int status = QCoreApplication::exec();
     m_exit.reset();
     m_forms.destroyMain();
+    m_instance.setCommandHandler({});
+    m_remote.reset();
     m_engine.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return m_prompts.wereMissed() ? EXIT_FAILURE : status;
@@ -188,6 +191,10 @@ void Program::loadMain()
                                   m_drops,
                                   m_fileServer,
                                   m_fileFetcher});
+    m_remote.emplace(RemoteCommands::Parts{*m_engine, [&window] { window.restore(); },
+                                           [this] { QTimer::singleShot(0, qApp, [this] { end(UnloadMode::code); }); }});
+    m_instance.setCommandHandler(
+        [this](const QByteArray &command, const auto &reply) { m_remote->carryOut(command, reply); });
     m_forms.connectMain(
         *m_engine, [this] { return statusNotes(); }, [] { QCoreApplication::exit(0); });
     window.Form_Load();

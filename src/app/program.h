@@ -5,6 +5,7 @@
 #include "app/manual_opener.h"
 #include "app/messenger.h"
 #include "app/notification_router.h"
+#include "app/remote_commands.h"
 #include "base/window_openers.h"
 #include "files/http_file_fetcher.h"
 #include "files/http_file_server.h"
@@ -129,6 +130,7 @@ private:
     std::optional<Login> m_login;
     std::optional<Tray> m_tray;
     std::optional<Messenger> m_engine;
+    std::optional<RemoteCommands> m_remote;
     std::optional<UnixSignals> m_signals;
     std::optional<ProcessExit> m_exit;
 };

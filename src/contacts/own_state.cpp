@@ -85,6 +85,22 @@ void OwnState::choose(int position)
     m_changed();
 }
 
+void OwnState::become(BaseState base, const QString &words)
+{
+    const auto isIt = [&](const OwnStateEntry &entry) { return entry.base == base && entry.personalizedText == words; };
+    auto entry = std::ranges::find_if(m_entries, isIt);
+    const bool isNew = entry == m_entries.end();
+    if (isNew)
+        entry = std::ranges::find(m_entries, std::optional(base), &OwnStateEntry::base);
+    const int position = static_cast<int>(entry - m_entries.begin()) + 1;
+    m_view.selectOwnState(position);
+    choose(position);
+    if (!isNew)
+        return;
+    become(OwnPresence{base, words});
+    m_changed();
+}
+
 void OwnState::cancelPersonalized()
 {
     m_view.setPersonalizedStateVisible(false);

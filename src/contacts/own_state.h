@@ -34,6 +34,9 @@ public:
 
     /// The user chose an entry; position counted from 1. A position that does not exist does nothing.
     void choose(int position);
+    /// As if the user had chosen a plain state, with words of his own that last until the next choice; or, where they
+    /// are those of a personalised state, that one. base: not unchosen; one without words may be invisible.
+    void become(BaseState base, const QString &words);
     /// The user gave up adding a personalised state: everything shows the present state again.
     void cancelPersonalized();
     /// Adds a personalised state on one of the base states online, busy and away, and chooses it. An empty text adds

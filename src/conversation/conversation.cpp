@@ -99,21 +99,43 @@ bool Conversation::mayFilesBeSent()
 }
 
 /// Each answer may come when this is gone.
+FileOffers::Answers Conversation::offerAnswers()
+{
+    return {.written =
+                [self = std::weak_ptr(m_self)](const QString &message) {
+                    const auto there = self.lock();
+                    return there && (*there)->mayFilesBeSent() && (*there)->send(message);
+                },
+            .refused =
+                [self = std::weak_ptr(m_self)](const QString &sentence) {
+                    if (const auto there = self.lock())
+                        (*there)->conversationView().showFileTrouble(sentence);
+                }};
+}
+
 void Conversation::sendFiles(const QStringList &paths)
 {
-    if (m_over || !mayFilesBeSent())
-        return;
-    const FileOffers::Answers answers{.written =
-                                          [self = std::weak_ptr(m_self)](const QString &message) {
-                                              const auto there = self.lock();
-                                              return there && (*there)->mayFilesBeSent() && (*there)->send(message);
-                                          },
-                                      .refused =
-                                          [self = std::weak_ptr(m_self)](const QString &sentence) {
-                                              if (const auto there = self.lock())
-                                                  (*there)->conversationView().showFileTrouble(sentence);
-                                          }};
-    transfers().offers.offer(paths, fileRecipients(), answers);
+    if (!m_over && mayFilesBeSent())
+        transfers().offers.offer(paths, fileRecipients(), offerAnswers());
+}
+
+void Conversation::offerFile(const QString &path, const OfferReports &reports)
+{
+    const QString trouble = whyNoFiles();
+    if (m_over || !trouble.isEmpty())
+        return reports.refused(trouble.isEmpty() ? FileOffers::nobodyThere() : trouble);
+    FileOffers::Answers answers = offerAnswers();
+    answers.written = [reports, write = answers.written](const QString &message) {
+        const bool isWritten = write(message);
+        isWritten ? reports.written() : reports.refused(FileOffers::nobodyThere());
+        return isWritten;
+    };
+    answers.refused = [reports, show = answers.refused](const QString &sentence) {
+        show(sentence);
+        reports.refused(sentence);
+    };
+    answers.explained = reports.explained;
+    transfers().offers.offer({path}, fileRecipients(), answers);
 }
 
 void Conversation::offerReceived(const Writer &writer, const QString &text)

@@ -56,8 +56,15 @@ public:
     /// Something was written that nobody has seen.
     bool hasUnread() const { return m_unread.has_value(); }
 
-    /// Offers files and folders to whoever takes part; each has a message of its own.
+    /// Offers files and folders to whoever takes part; each has a message of its own. What goes wrong is shown.
     void sendFiles(const QStringList &paths);
+    /// What becomes of one that is offered for somebody who does not see the window.
+    struct OfferReports {
+        std::function<void()> written;                          ///< its message has gone out
+        std::function<void(const QString &sentence)> refused;   ///< nothing was offered; or, later, not all of it
+        std::function<void(const QString &sentence)> explained; ///< what is to be known the first time
+    };
+    void offerFile(const QString &path, const OfferReports &reports);
     /// Says so where nobody would get a file now; to be asked before the user chooses one.
     [[nodiscard]] bool mayFilesBeSent();
     FileTransfers &transfers() const { return m_services.transfers; }
@@ -118,6 +125,7 @@ private:
     /// It stands in the log.
     virtual void wasSent(const QString &, const LogMessage &) { }
 
+    FileOffers::Answers offerAnswers();
     void offerReceived(const Writer &writer, const QString &text);
     void appendMessage(const Writer &writer, const QString &text, const LogMessage &message);
 

@@ -75,6 +75,11 @@ FileOffers::~FileOffers()
     }
 }
 
+QString FileOffers::nobodyThere()
+{
+    return tr("nobody was there to be told of it");
+}
+
 void FileOffers::offer(const QStringList &paths, const Recipients &recipients, const Answers &answers)
 {
     if (paths.isEmpty() || !mayBegin(paths.size(), recipients, answers))
@@ -102,9 +107,11 @@ bool FileOffers::mayBegin(qsizetype count, const Recipients &recipients, const A
         return refuse(tr("There is nobody here to whom a file could be sent."));
     if (m_parts.common.filesExplained)
         return true;
-    if (!m_parts.prompts.confirm(
-            tr("Files are not encrypted on their way: whoever can listen in on this network can read them."),
-            programTitle))
+    const QString known
+        = tr("Files are not encrypted on their way: whoever can listen in on this network can read them.");
+    if (answers.explained)
+        answers.explained(known);
+    else if (!m_parts.prompts.confirm(known, programTitle))
         return false;
     m_parts.common.filesExplained = true;
     Q_EMIT explained();
@@ -149,7 +156,7 @@ void FileOffers::readied(const QString &token, const FileServer::Readied &readie
     offer->age->start();
     rowChanged(*offer);
     if (!answers.written(fileMessage(offer->name, offer->size, offer->recipients.at, readied.port, token)))
-        return end(*offer, tr("nobody was there to be told of it"));
+        return end(*offer, nobodyThere());
     if (!readied.leftOut.isEmpty())
         answers.refused(readied.leftOut);
 }

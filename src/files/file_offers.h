@@ -52,13 +52,18 @@ public:
         /// All of it, or a part: the rest is sent.
         /// Later, too, when what was offered cannot be sent any more.
         std::function<void(const QString &sentence)> refused;
+        /// Takes what is to be known the first time; without it the user is asked whether he knows.
+        std::function<void(const QString &sentence)> explained{};
     };
 
     explicit FileOffers(Parts parts);
     ~FileOffers() override;
 
+    /// Why what could not be written of is over; the end of a sentence.
+    static QString nobodyThere();
+
     bool isAvailable() const { return m_parts.server.isAvailable(); }
-    /// Files and folders. The first time the user is asked whether he knows that nothing is encrypted.
+    /// Files and folders. The first time it is said that nothing is encrypted.
     void offer(const QStringList &paths, const Recipients &recipients, const Answers &answers);
     void stop(int row);
     void setLife(int row, OfferLife life);

@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QLocalServer>
 #include <QLocalSocket>
+#include <QPointer>
 #include <QStringDecoder>
 #include <QTimer>
 
@@ -27,11 +28,13 @@ namespace
 
 using namespace std::chrono_literals;
 
-constexpr auto patience = 2s;
+constexpr auto patience = 2s, patienceForAnAnswer = 60s;
 
-// A message is the caption in UTF-8 and an end mark, which no command line can hold; the answer is one byte.
+// A message is the caption in UTF-8 and an end mark, which no command line can hold; the answer is one byte. A command
+// begins with a mark with which no caption begins; its answer ends with the end mark.
 constexpr char endMark = '\0';
 constexpr char acknowledgement = '!';
+constexpr char commandMark = '\1';
 
 QString folderOfSockets()
 {
@@ -49,12 +52,17 @@ QString userName()
 }
 
 /// The path of a socket has room for about a hundred bytes, so the folder enters by its hash.
-QString socketPathFor(const QString &folder)
+QString socketPathIn(const QString &sockets, const QString &folder)
 {
     const QString canonical = QFileInfo(folder).canonicalFilePath();
     const QByteArray name = QFile::encodeName(canonical.isEmpty() ? QDir(folder).absolutePath() : canonical);
     const QByteArray hash = QCryptographicHash::hash(name, QCryptographicHash::Sha256).toHex().left(16);
-    return QStringLiteral("%1/nimb-chat-%2-%3").arg(folderOfSockets(), userName(), QString::fromLatin1(hash));
+    return QStringLiteral("%1/nimb-chat-%2-%3").arg(sockets, userName(), QString::fromLatin1(hash));
+}
+
+QString socketPathFor(const QString &folder)
+{
+    return socketPathIn(folderOfSockets(), folder);
 }
 
 bool belongsToUs(const QString &path)
@@ -148,10 +156,12 @@ void SingleInstance::handOver(const QString &expectedCaption)
 void SingleInstance::greet()
 {
     while (QLocalSocket *client = m_server->nextPendingConnection()) {
-        client->setReadBufferSize(longestMessage);
+        client->setReadBufferSize(longestCommand);
         connect(client, &QLocalSocket::disconnected, client, &QObject::deleteLater);
         connect(client, &QLocalSocket::readyRead, this, [this, client] { readFrom(*client); });
         QTimer::singleShot(patience, client, [client] {
+            if (client->peek(longestCommand).contains(endMark))
+                return; // all is said, and it waits for its answer
             client->abort();
             client->deleteLater();
         });
@@ -161,13 +171,16 @@ void SingleInstance::greet()
 
 void SingleInstance::readFrom(QLocalSocket &client)
 {
-    const QByteArray message = client.peek(longestMessage);
+    const QByteArray message = client.peek(longestCommand);
+    const bool isCommand = message.startsWith(commandMark);
     const qsizetype end = message.indexOf(endMark);
     if (end < 0) {
-        if (message.size() >= longestMessage)
+        if (message.size() >= (isCommand ? longestCommand : longestMessage))
             client.abort();
         return;
     }
+    if (isCommand)
+        return answer(client, message.mid(1, end - 1));
     client.disconnect(this);                                                       // one message a client
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless); // nothing follows
     const QString caption = decoder(QByteArrayView(message).first(end));
@@ -178,6 +191,46 @@ void SingleInstance::readFrom(QLocalSocket &client)
     client.write(&acknowledgement, 1);
     client.disconnectFromServer();
     Q_EMIT secondStart(caption);
+}
+
+void SingleInstance::answer(QLocalSocket &client, const QByteArray &command)
+{
+    client.disconnect(this); // one a client
+    if (!m_handler)
+        return client.abort();
+    m_handler(command, [asker = QPointer(&client)](const QByteArray &answer) {
+        if (!asker)
+            return;
+        asker->write(answer + endMark);
+        asker->disconnectFromServer();
+    });
+}
+
+std::optional<QByteArray> SingleInstance::ask(const QString &profileFolder, const QByteArray &command)
+{
+    const QDeadlineTimer deadline(patienceForAnAnswer);
+    if (command.size() > longestCommand - 2)
+        return std::nullopt;
+    QLocalSocket socket;
+    // Whoever asks from a service or another session may have been told of another folder than the copy was.
+    for (const QString &sockets : {folderOfSockets(), QLatin1String("/run/user/") + userName(), QDir::tempPath()}) {
+        const QString path = socketPathIn(sockets, QDir(profileFolder).absolutePath());
+        if (!belongsToUs(path))
+            continue;
+        socket.connectToServer(path);
+        if (socket.waitForConnected(millisecondsLeft(deadline)))
+            break;
+    }
+    if (socket.state() != QLocalSocket::ConnectedState)
+        return std::nullopt;
+    socket.write(commandMark + command + endMark);
+    QByteArray answer;
+    while (!answer.endsWith(endMark)) {
+        if (!socket.waitForReadyRead(millisecondsLeft(deadline)))
+            return QByteArray();
+        answer += socket.readAll();
+    }
+    return answer.chopped(1);
 }
 
 } // namespace nimb

@@ -4,7 +4,9 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
 #include <memory>
+#include <optional>
 
 class QLocalServer;
 class QLocalSocket;
@@ -21,7 +23,8 @@ class SingleInstance : public QObject
     Q_OBJECT
 
 public:
-    static constexpr qsizetype longestMessage = 4096; ///< bytes
+    static constexpr qsizetype longestMessage = 4096;  ///< bytes
+    static constexpr qsizetype longestCommand = 65536; ///< bytes
 
     explicit SingleInstance(const QString &profileFolder, QObject *parent = nullptr);
     ~SingleInstance() override;
@@ -34,6 +37,15 @@ public:
     /// seconds at the latest when there is none. A caption of more than longestMessage bytes arrives cut.
     void handOver(const QString &expectedCaption);
 
+    using CommandHandler
+        = std::function<void(const QByteArray &command, std::function<void(const QByteArray &)> reply)>;
+    /// In the first copy: what answers the commands of nimb-chatctl. Without it they are not answered.
+    void setCommandHandler(CommandHandler handler) { m_handler = std::move(handler); }
+
+    /// The answer of the first copy of that profile to a command; nothing when none runs, empty when it gives none
+    /// within a minute.
+    static std::optional<QByteArray> ask(const QString &profileFolder, const QByteArray &command);
+
     /// Full path of the socket on which the first copy listens.
     QString socketPath() const { return m_socketPath; }
 
@@ -44,10 +56,12 @@ Q_SIGNALS:
 private:
     void greet();
     void readFrom(QLocalSocket &client);
+    void answer(QLocalSocket &client, const QByteArray &command);
 
     QString m_folder;
     QString m_socketPath;
     std::unique_ptr<InstanceLock> m_lock;
+    CommandHandler m_handler;
     std::unique_ptr<QLocalServer> m_server; // closed before the lock is given back
 };
 

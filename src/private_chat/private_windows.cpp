@@ -218,16 +218,15 @@ void PrivateWindows::openPrivate(const ContactAddress &ip)
     chat.show(ShowMode::active);
 }
 
-void PrivateWindows::answer(const ContactAddress &ip, const QString &text)
+bool PrivateWindows::answer(const ContactAddress &ip, const QString &text)
 {
     const Contact *const contact = m_contacts.find(ip);
     if (!contact)
-        return;
+        return false;
     PrivateChat &chat = windowOf(*contact, OpenedBy::user);
     chat.attend();
     showWaiting(*contact, chat);
-    // Without a text there is nothing to send, and nobody to tell.
-    [[maybe_unused]] const bool isSent = chat.send(remoteBody(text));
+    return chat.send(remoteBody(text));
 }
 
 void PrivateWindows::sendFiles(const ContactAddress &ip, const QStringList &paths)
@@ -235,6 +234,12 @@ void PrivateWindows::sendFiles(const ContactAddress &ip, const QStringList &path
     openPrivate(ip);
     if (const Contact *const contact = m_contacts.find(ip))
         windowOf(*contact, OpenedBy::user).sendFiles(paths);
+}
+
+void PrivateWindows::offerFile(const ContactAddress &ip, const QString &path, const Conversation::OfferReports &reports)
+{
+    if (const Contact *const contact = m_contacts.find(ip))
+        windowOf(*contact, OpenedBy::user).offerFile(path, reports);
 }
 
 void PrivateWindows::sendWaiting(const WaitingMessage &message)

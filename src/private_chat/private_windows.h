@@ -37,10 +37,13 @@ public:
     /// has not turned to, they wait there until the user opens that.
     void privateMessage(Ipv4Address ip, const QString &text) override;
     void openPrivate(const ContactAddress &ip) override;
-    /// Sends a text that was written elsewhere than in the window of this contact, which shows it.
-    void answer(const ContactAddress &ip, const QString &text);
+    /// Sends a text that was written elsewhere than in the window of this contact, which shows it. False when there
+    /// was nothing to send, or nobody to send it to.
+    bool answer(const ContactAddress &ip, const QString &text);
     /// In the contact's window, which comes to the front.
     void sendFiles(const ContactAddress &ip, const QStringList &paths);
+    /// The same for one, and its window is not shown. An address that is no contact's is heard of no more.
+    void offerFile(const ContactAddress &ip, const QString &path, const Conversation::OfferReports &reports);
     /// Sends what has waited for its contact, whose window shows it.
     void sendWaiting(const WaitingMessage &message);
     /// This will not be sent; a window that shows it says so.
