@@ -12,7 +12,7 @@ int main(int argc, char *argv[])
     QApplication application(programNameAlone, argv);
     QCoreApplication::setApplicationName(QStringLiteral("NIMB-Chat"));
     QCoreApplication::setApplicationVersion(QStringLiteral(NIMB_VERSION));
-    QGuiApplication::setDesktopFileName(QStringLiteral("nimb-chat"));
+    QGuiApplication::setDesktopFileName(QStringLiteral(NIMB_APPLICATION_ID));
     // Windows come and go; only the main window's unloading ends the program.
     QGuiApplication::setQuitOnLastWindowClosed(false);
 

@@ -107,14 +107,19 @@ bool FileOffers::mayBegin(qsizetype count, const Recipients &recipients, const A
         return refuse(tr("There is nobody here to whom a file could be sent."));
     if (m_parts.common.filesExplained)
         return true;
-    const QString known
-        = tr("Files are not encrypted on their way: whoever can listen in on this network can read them.");
-    if (answers.explained)
-        answers.explained(known);
-    else if (!m_parts.prompts.confirm(known, programTitle))
+    if (!explain(tr("Files are not encrypted on their way: whoever can listen in on this network can read them."),
+                 answers))
         return false;
     m_parts.common.filesExplained = true;
     Q_EMIT explained();
+    return true;
+}
+
+bool FileOffers::explain(const QString &sentence, const Answers &answers)
+{
+    if (!answers.explained)
+        return m_parts.prompts.confirm(sentence, programTitle);
+    answers.explained(sentence);
     return true;
 }
 

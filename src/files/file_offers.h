@@ -89,6 +89,8 @@ private:
 
     const Offer &offerAt(int row) const;
     bool mayBegin(qsizetype count, const Recipients &recipients, const Answers &answers);
+    /// False when the user shies away.
+    bool explain(const QString &sentence, const Answers &answers);
     void offerOne(const QString &path, const Recipients &recipients, const Answers &answers);
     void readied(const QString &token, const FileServer::Readied &readied);
     void sent(const SentBytes &sent);
