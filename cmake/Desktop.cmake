@@ -1,6 +1,6 @@
 # What a desktop, a shell and a firewall find of the program once it is installed.
 #
-# Everything goes below the prefix; where that is /usr, the configuration goes to /etc, as GNUInstallDirs has it.
+# Everything goes below the prefix; where that is /usr, the configuration goes to /etc.
 
 set(made ${CMAKE_BINARY_DIR}/packaging)
 foreach(kind desktop metainfo.xml)
@@ -19,8 +19,15 @@ install(FILES packaging/completion/_nimb-chatctl DESTINATION ${CMAKE_INSTALL_DAT
 
 # firewalld reads its services below /usr/lib alone, whatever the libraries' folder is called.
 install(FILES packaging/firewall/nimb-chat.xml DESTINATION lib/firewalld/services)
-install(FILES packaging/firewall/nimb-chat.ufw DESTINATION ${CMAKE_INSTALL_FULL_SYSCONFDIR}/ufw/applications.d
-  RENAME nimb-chat)
+# The prefix may be another than that of the configuration: a package has its own.
+install(CODE "set(profile \"${PROJECT_SOURCE_DIR}/packaging/firewall/nimb-chat.ufw\")")
+install(CODE [[
+  set(configuration ${CMAKE_INSTALL_PREFIX}/etc)
+  if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+    set(configuration /etc)
+  endif()
+  file(INSTALL ${profile} DESTINATION ${configuration}/ufw/applications.d RENAME nimb-chat)
+]])
 
 set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
 install(FILES resources/pictures/nimb-chat.svg DESTINATION ${icons}/scalable/apps RENAME ${NIMB_APPLICATION_ID}.svg)
