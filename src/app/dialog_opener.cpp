@@ -246,6 +246,7 @@ void DialogOpener::mnuToolsOptions()
          .sources = m_services.pictures,
          .clock = m_services.clock,
          .ownAddresses = m_engine.ownAddresses(),
+         .autostart = m_services.autostart,
          .changeNickname = [this](const QString &name) { m_engine.mainWindow().changeNickname(name); },
          .keepHistory = [this](KeepHistory keep) { m_engine.history().choose(keep); },
          .taken = [this] { m_engine.recovery().settingsChanged(); }});

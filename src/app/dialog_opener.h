@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/messenger.h"
+#include "base/autostart.h"
 #include "base/link_opener.h"
 #include "base/name_resolver.h"
 #include "base/net_send.h"
@@ -46,6 +47,7 @@ struct FormServices {
     DatagramTrace &trace; ///< of the socket
     const DropCounts &drops;
     SpellChecker &spellChecker;
+    Autostart &autostart;
     TipOfTheDay::OpenFile openTips;
 };
 

@@ -16,6 +16,7 @@
 #include <QImageReader>
 #include <QLocale>
 #include <QSessionManager>
+#include <QStandardPaths>
 #include <QTimer>
 
 namespace nimb
@@ -33,9 +34,12 @@ Program::Program(const Environment &environment)
       m_store(environment.profileFolder), m_nextStart(environment.profileFolder), m_instance(environment.profileFolder),
       m_udp(m_drops, environment.address ? readAddress(*environment.address) : std::nullopt, environment.hostName),
       m_socket(m_udp, m_trace), m_ownAddresses(environment.address ? readAddress(*environment.address) : std::nullopt),
-      m_diagnosis(m_udp), m_history(environment.profileFolder),
+      m_diagnosis(m_udp),
+      m_autostart(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QLatin1String("/autostart"),
+                  QGuiApplication::desktopFileName(), QCoreApplication::applicationFilePath()),
+      m_history(environment.profileFolder),
       m_forms({m_common, m_timers, m_clock, m_socket, m_store, m_prompts, m_links, m_folders, m_manual, m_pictures,
-               m_names, m_netSend, m_systemInfo, m_diagnosis, m_trace, m_drops, m_spellChecker,
+               m_names, m_netSend, m_systemInfo, m_diagnosis, m_trace, m_drops, m_spellChecker, m_autostart,
                [] { return readProgramFile(QStringLiteral("TOTD.txt")); }})
 {
     m_store.setDefaults(m_siteDefaults.values);

@@ -12,6 +12,7 @@
 #include "history/history_keeper.h"
 #include "main_window/Tray.h"
 #include "platform/desktop_appearance.h"
+#include "platform/desktop_autostart.h"
 #include "platform/environment.h"
 #include "platform/hunspell_spelling.h"
 #include "platform/link_opener.h"
@@ -121,6 +122,7 @@ private:
     SystemInfo m_systemInfo;
     SystemNetworkDiagnosis m_diagnosis;
     HunspellSpelling m_spellChecker;
+    DesktopAutostart m_autostart;
     HistoryKeeper m_history;
     HttpFileServer m_fileServer;
     HttpFileFetcher m_fileFetcher;

@@ -197,6 +197,9 @@ QGroupBox *frmOptions::makeProgram()
     auto *const group = new QGroupBox(tr("Main window and network"), this);
     QVBoxLayout *const column = columnOf(group);
     addOptions(OptionGroup::mainWindow, *column);
+    autostartBox = named(new QCheckBox(tr("Start with the desktop"), group), "autostartBox");
+    autostartBox->setToolTip(tr("At every login, minimised, under your nickname"));
+    column->addWidget(autostartBox);
     UDPPorttxt = named(new QLineEdit(group), "UDPPorttxt");
     UDPPorttxt->setFixedWidth(80);
     auto *const portCaption = new QLabel(tr("UDP &port:"), group);
@@ -347,6 +350,7 @@ void frmOptions::Form_Load()
     if (!m_values.mayChooseCard())
         ownAddressCombo->setToolTip(tr("The environment variable NIMBCHAT_ADDRESS says it"));
     languageCombo->setCurrentIndex(languageCombo->findData(now.language));
+    autostartBox->setChecked(now.startsWithDesktop);
     m_font = now.font;
     showFont();
     avatarButton(now.avatar)->setChecked(true);
@@ -383,6 +387,7 @@ OptionControls frmOptions::controls() const
     now.UDPPorttxt = UDPPorttxt->text();
     now.ownCard = ownAddressCombo->currentData().toString();
     now.language = languageCombo->currentData().toString();
+    now.startsWithDesktop = autostartBox->isChecked();
     now.font = m_font;
     now.loaded = m_loadedPicture;
     for (const AvatarChoice choice : {AvatarChoice::none, AvatarChoice::still, AvatarChoice::polled}) {

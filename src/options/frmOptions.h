@@ -87,6 +87,7 @@ private:
     QLineEdit *UDPPorttxt = nullptr;
     QComboBox *ownAddressCombo = nullptr;
     QComboBox *languageCombo = nullptr;
+    QCheckBox *autostartBox = nullptr;
     QLabel *m_fontSample = nullptr;
     QLineEdit *nicknameText = nullptr;
     QComboBox *statesCombo = nullptr;

@@ -31,6 +31,7 @@ OptionControls OptionValues::Form_Load() const
     controls.UDPPorttxt = QString::number(m_parts.common.udpPort);
     controls.ownCard = m_parts.common.ownCard;
     controls.language = m_parts.common.language;
+    controls.startsWithDesktop = m_parts.autostart.isOn();
     controls.font = m_parts.common.logFont;
     controls.avatar = m_parts.common.avatarHead.isEmpty() ? AvatarChoice::none : AvatarChoice::still;
     if (const std::optional<PolledPicture> polled = m_parts.ownAvatar.source()) {
@@ -77,6 +78,8 @@ std::optional<QString> OptionValues::CmdOK_Click(const OptionControls &controls)
             return problem;
         m_parts.ownAvatar.setSource(std::move(source));
     }
+    if (std::optional<QString> problem = takeAutostart(controls))
+        return problem;
     m_parts.common.options = controls.options;
     m_parts.common.udpPort = *port;
     m_parts.common.ownCard = controls.ownCard;
@@ -90,6 +93,19 @@ std::optional<QString> OptionValues::CmdOK_Click(const OptionControls &controls)
     m_parts.keepHistory(controls.keepHistory);
     m_parts.taken();
     return std::nullopt;
+}
+
+/// The entry bears the nickname, so that nothing is asked at a login.
+std::optional<QString> OptionValues::takeAutostart(const OptionControls &controls)
+{
+    const bool isOn = m_parts.autostart.isOn();
+    const bool isRight
+        = isOn == controls.startsWithDesktop && (!isOn || controls.nickname == m_parts.common.ownNickname);
+    if (isRight)
+        return std::nullopt;
+    const std::optional<QString> reason
+        = controls.startsWithDesktop ? m_parts.autostart.switchOn(controls.nickname) : m_parts.autostart.switchOff();
+    return reason ? std::optional(tr("Starting with the desktop cannot be changed: %1").arg(*reason)) : std::nullopt;
 }
 
 void OptionValues::takeAvatar(const OptionControls &controls)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Common.h"
+#include "base/autostart.h"
 #include "base/own_addresses.h"
 #include "base/picture_source.h"
 #include "base/timers.h"
@@ -29,6 +30,7 @@ struct OptionControls {
     QString UDPPorttxt;
     QString ownCard;  ///< empty: automatic
     QString language; ///< of programLanguages; empty: the desktop's
+    bool startsWithDesktop = false;
     LogFont font;
     AvatarChoice avatar = AvatarChoice::none;
     QByteArray loaded; ///< a picture that was loaded in this dialog, avatarBytes bytes, or none
@@ -48,6 +50,7 @@ public:
         PictureSources &sources;
         const WallClock &clock;
         const OwnAddresses &ownAddresses;
+        Autostart &autostart;
         std::function<void(const QString &)> changeNickname;
         std::function<void(KeepHistory)> keepHistory;
         std::function<void()> taken; ///< called when the options have been taken
@@ -74,6 +77,7 @@ public:
     [[nodiscard]] std::optional<QString> CmdOK_Click(const OptionControls &controls);
 
 private:
+    std::optional<QString> takeAutostart(const OptionControls &controls);
     void takeAvatar(const OptionControls &controls);
 
     Parts m_parts;

@@ -139,6 +139,17 @@ TEST_F(FrmOptions, TheNicknameCanBeChanged)
     EXPECT_EQ(windows.main().windowTitle(), QStringLiteral("NIMB-Chat 1.2 - Robert"));
 }
 
+TEST_F(FrmOptions, TheProgramStartsWithTheDesktopWhereThatIsTicked)
+{
+    click("autostartBox");
+    click("CmdOK");
+    EXPECT_EQ(windows.autostart.nickname, windows.common.ownNickname);
+    EXPECT_TRUE(box("autostartBox").isChecked());
+    click("autostartBox");
+    click("CmdOK");
+    EXPECT_FALSE(windows.autostart.isOn());
+}
+
 TEST_F(FrmOptions, StatesOfOnesOwnCanBeRemoved)
 {
     EXPECT_FALSE(control<QPushButton>("removeStateBtn").isEnabled());

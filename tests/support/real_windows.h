@@ -129,6 +129,7 @@ public:
     RecorderNetSend netSend;
     RecorderSystemInformation systemInformation;
     ToldDiagnosis diagnosis;
+    RecorderAutostart autostart;
     RecorderSpellChecker spellChecker; ///< without a dictionary; unless the test has a real one
 
 private:
@@ -139,7 +140,7 @@ public:
     ManualOpener manual;
     std::optional<QByteArray> tips = QByteArray("The first tip||in two lines\nThe second tip, with a comma\n");
     FormOpener forms{{common, time, time, traced, settings, prompts, links, folders, manual, pictures, names, netSend,
-                      systemInformation, diagnosis, trace, drops, m_spelling, [this] { return tips; }}};
+                      systemInformation, diagnosis, trace, drops, m_spelling, autostart, [this] { return tips; }}};
     bool ended = false;
 
 private:

@@ -1,6 +1,7 @@
 // What an engine shows and asks, written down for a test to read.
 #pragma once
 
+#include "base/autostart.h"
 #include "base/chance.h"
 #include "base/file_fetcher.h"
 #include "base/file_server.h"
@@ -806,6 +807,26 @@ public:
     std::vector<std::pair<KeptConversation, KeptMessage>> kept;
     std::map<QString, std::int64_t> readTo; ///< by address, where something is unread
     std::vector<QDateTime> erasedBefore;
+};
+
+class RecorderAutostart : public Autostart
+{
+public:
+    bool isOn() const override { return nickname.has_value(); }
+    std::optional<QString> switchOn(const QString &name) override
+    {
+        if (problem.isEmpty())
+            nickname = name;
+        return problem.isEmpty() ? std::nullopt : std::optional(problem);
+    }
+    std::optional<QString> switchOff() override
+    {
+        nickname.reset();
+        return std::nullopt;
+    }
+
+    std::optional<QString> nickname; ///< under which it starts
+    QString problem;
 };
 
 /// Serves nothing and notes what it is to serve; a test tells what becomes of it.

@@ -26,6 +26,7 @@ protected:
 
     Copy copy{{.contacts = {{QStringLiteral("10.0.0.2"), QStringLiteral("Ann")}}}};
     RecorderPictureSources sources;
+    RecorderAutostart autostart;
     OptionValues values{
         {.common = copy.common,
          .ownAvatar = copy.engine.ownAvatar(),
@@ -33,6 +34,7 @@ protected:
          .sources = sources,
          .clock = *copy.time,
          .ownAddresses = copy.ownAddresses,
+         .autostart = autostart,
          .changeNickname = [this](const QString &name) { copy.engine.mainWindow().changeNickname(name); },
          .keepHistory = [this](KeepHistory keep) { copy.engine.history().choose(keep); },
          .taken = [this] { copy.engine.recovery().settingsChanged(); }}};
@@ -99,6 +101,34 @@ TEST_F(OptionValuesTest, WhoIsInvisibleChangesTheNicknameInSilence)
     EXPECT_EQ(values.CmdOK_Click(controls), std::nullopt);
     copy.advance(std::chrono::seconds(2));
     EXPECT_THAT(copy.sent(), testing::IsEmpty());
+}
+
+TEST_F(OptionValuesTest, TheDesktopStartsTheProgramUnderTheNicknameThatIsChosen)
+{
+    OptionControls controls = values.Form_Load();
+    EXPECT_FALSE(controls.startsWithDesktop);
+    controls.startsWithDesktop = true;
+    EXPECT_FALSE(values.CmdOK_Click(controls));
+    EXPECT_EQ(autostart.nickname, copy.common.ownNickname);
+    controls = values.Form_Load();
+    EXPECT_TRUE(controls.startsWithDesktop);
+    controls.nickname = QStringLiteral("Somebody else");
+    EXPECT_FALSE(values.CmdOK_Click(controls));
+    EXPECT_EQ(autostart.nickname, QStringLiteral("Somebody else"));
+    controls.startsWithDesktop = false;
+    EXPECT_FALSE(values.CmdOK_Click(controls));
+    EXPECT_FALSE(autostart.isOn());
+}
+
+TEST_F(OptionValuesTest, WhereTheDesktopCannotBeToldNothingIsTaken)
+{
+    autostart.problem = QStringLiteral("Permission denied");
+    OptionControls controls = values.Form_Load();
+    controls.startsWithDesktop = true;
+    controls.options.liveType = false;
+    EXPECT_EQ(values.CmdOK_Click(controls),
+              QStringLiteral("Starting with the desktop cannot be changed: Permission denied"));
+    EXPECT_TRUE(options().liveType);
 }
 
 TEST_F(OptionValuesTest, RemovedStatesAreGone)
