@@ -136,7 +136,7 @@ void DialogOpener::mnuShortcuts()
 void DialogOpener::mnuTransfers()
 {
     if (!m_transfers || !m_transfers->isVisible())
-        m_transfers = new frmTransfers(m_engine.transfers(), m_services.folders, &m_main);
+        m_transfers = new frmTransfers(m_engine.transfers(), m_services.folders, m_services.prompts, &m_main);
     bringBack(*m_transfers);
     m_transfers->activateWindow();
 }

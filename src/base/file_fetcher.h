@@ -54,6 +54,8 @@ public:
     virtual void stop(int number) = 0;
     /// Looks how much of it earlier tries have left, and says so once. Nothing here waits.
     virtual void lookUp(const WantedFile &file) = 0;
+    /// Removes what tries that are over have left of it. Nothing here waits.
+    virtual void discard(const WantedFile &file) = 0;
 
     /// Called on the thread of the event loop; for each file done, stopped or failed comes last.
     std::function<void(const FetchedBytes &)> told;

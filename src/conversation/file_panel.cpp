@@ -71,6 +71,10 @@ FilePanel::FilePanel(ReceivedFiles &files, LinkOpener &folders, ScratchFolder &s
         }
         showFurther();
     });
+    connect(&files, &ReceivedFiles::discarded, this, [this](int number) {
+        remove(number);
+        showFurther();
+    });
 }
 
 void FilePanel::add(int number)

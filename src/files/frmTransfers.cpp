@@ -1,5 +1,7 @@
 #include "files/frmTransfers.h"
 
+#include "base/isolated.h"
+#include "files/file_name.h"
 #include "widgets/dialog_parts.h"
 #include "widgets/empty_hint.h"
 #include "widgets/file_dialogs.h"
@@ -13,6 +15,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QMenu>
 #include <QPointer>
 #include <QStandardPaths>
 #include <QTreeView>
@@ -32,6 +35,7 @@ QTreeView *transferList(QWidget *parent, const char *name, const QString &access
     list->setAllColumnsShowFocus(true);
     list->setTabKeyNavigation(false);
     list->setModel(&model);
+    list->setContextMenuPolicy(Qt::CustomContextMenu);
     list->header()->setStretchLastSection(true);
     const int letter = list->fontMetrics().averageCharWidth();
     constexpr int widths[] = {40, 16, 36};
@@ -59,8 +63,8 @@ QPushButton *transferButton(QWidget *parent, const char *name, const QString &ca
 
 } // namespace
 
-frmTransfers::frmTransfers(FileTransfers &transfers, LinkOpener &folders, QWidget *parent)
-    : QDialog(parent), m_transfers(transfers), m_folders(folders)
+frmTransfers::frmTransfers(FileTransfers &transfers, LinkOpener &folders, Prompts &prompts, QWidget *parent)
+    : QDialog(parent), m_transfers(transfers), m_folders(folders), m_prompts(prompts)
 {
     setObjectName(QStringLiteral("frmTransfers"));
     setWindowTitle(tr("NIMB-Chat - Transfers"));
@@ -113,10 +117,12 @@ QGroupBox *frmTransfers::receivedPart()
     pauseReceivedBtn = transferButton(part, "pauseReceivedBtn", tr("&Pause"));
     resumeReceivedBtn = transferButton(part, "resumeReceivedBtn", tr("&Resume"));
     openReceivedBtn = transferButton(part, "openReceivedBtn", tr("&Open Folder"));
+    discardReceivedBtn = transferButton(part, "discardReceivedBtn", tr("&Discard..."));
+    discardReceivedBtn->setToolTip(tr("Gives the file up, and removes what has come of it"));
     auto *const column = new QVBoxLayout(part);
     column->addWidget(receivedList, 1);
-    column->addLayout(
-        buttonLine({saveReceivedBtn, saveAllReceivedBtn, pauseReceivedBtn, resumeReceivedBtn, openReceivedBtn}));
+    column->addLayout(buttonLine({saveReceivedBtn, saveAllReceivedBtn, pauseReceivedBtn, resumeReceivedBtn,
+                                  openReceivedBtn, discardReceivedBtn}));
     return part;
 }
 
@@ -127,6 +133,8 @@ void frmTransfers::connectControls()
         for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
             connect(list->model(), signal, this, &frmTransfers::showWhatCanBeDone);
         connect(list->model(), &QAbstractItemModel::dataChanged, this, &frmTransfers::showWhatCanBeDone);
+        connect(list, &QWidget::customContextMenuRequested, this,
+                [this, list](const QPoint &place) { showMenu(*list, place); });
     }
     connect(lifeBox, &QComboBox::activated, this, &frmTransfers::lifeBox_Click);
     connect(stopOfferBtn, &QPushButton::clicked, this, [this] { m_transfers.offers.stop(chosenOffer()); });
@@ -141,6 +149,7 @@ void frmTransfers::connectControls()
             m_transfers.received.resume(file->number);
     });
     connect(openReceivedBtn, &QPushButton::clicked, this, &frmTransfers::openReceivedBtn_Click);
+    connect(discardReceivedBtn, &QPushButton::clicked, this, &frmTransfers::discardReceivedBtn_Click);
 }
 
 int frmTransfers::chosenOffer() const
@@ -169,7 +178,8 @@ void frmTransfers::showWhatCanBeDone()
     saveAllReceivedBtn->setEnabled(offered > 1);
     saveAllReceivedBtn->setText(offered > 1 ? tr("Save A&ll (%1)...").arg(offered) : tr("Save A&ll..."));
     pauseReceivedBtn->setEnabled(file && file->isUnderWay());
-    resumeReceivedBtn->setEnabled(isIdle && (file->state == State::paused || file->state == State::failed));
+    resumeReceivedBtn->setEnabled(file && file->isHalted());
+    discardReceivedBtn->setEnabled(file && file->isHalted());
     openReceivedBtn->setEnabled(isIdle && file->state == State::done);
 }
 
@@ -214,6 +224,38 @@ void frmTransfers::openReceivedBtn_Click()
     };
     if (!m_folders.open(QUrl::fromLocalFile(folder), failed))
         failed();
+}
+
+void frmTransfers::discardReceivedBtn_Click()
+{
+    const ReceivedFile *const file = chosenFile();
+    if (!file)
+        return;
+    // The window may be gone when the question is answered.
+    ReceivedFiles &received = m_transfers.received;
+    const int number = file->number;
+    const QString shown = isolated(file->link.name), size = fileSizeText(file->place);
+    const std::optional<bool> isWanted = m_prompts.decideCarefully(
+        tr("Discard \"%1\"? What has come of it, %2, is removed from the disk.").arg(shown, size), windowTitle());
+    if (isWanted.value_or(false))
+        received.discard(number);
+}
+
+/// What the buttons below that list can do now.
+void frmTransfers::showMenu(const QTreeView &list, const QPoint &place)
+{
+    auto *const menu = named(new QMenu(this), "transferMenu");
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (QPushButton *const button : list.parentWidget()->findChildren<QPushButton *>()) {
+        if (!button->isEnabled())
+            continue;
+        const QAction *const action = named(menu->addAction(button->text()), qPrintable(button->objectName()));
+        connect(action, &QAction::triggered, button, &QPushButton::click);
+    }
+    if (menu->isEmpty())
+        delete menu;
+    else
+        menu->popup(list.viewport()->mapToGlobal(place));
 }
 
 } // namespace nimb

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/link_opener.h"
+#include "base/prompts.h"
 #include "files/file_transfers.h"
 
 #include <QDialog>
@@ -10,6 +11,7 @@
 
 class QComboBox;
 class QGroupBox;
+class QPoint;
 class QPushButton;
 class QTreeView;
 
@@ -23,7 +25,7 @@ class frmTransfers : public QDialog
 
 public:
     /// folders: opens a folder of this machine.
-    frmTransfers(FileTransfers &transfers, LinkOpener &folders, QWidget *parent);
+    frmTransfers(FileTransfers &transfers, LinkOpener &folders, Prompts &prompts, QWidget *parent);
 
 private:
     void buildControls();
@@ -39,9 +41,12 @@ private:
     void saveAllReceivedBtn_Click();
     void askWhereToSave(std::function<void(const QString &folder)> chosen);
     void openReceivedBtn_Click();
+    void discardReceivedBtn_Click();
+    void showMenu(const QTreeView &list, const QPoint &place);
 
     FileTransfers &m_transfers;
     LinkOpener &m_folders;
+    Prompts &m_prompts;
     QTreeView *offerList = nullptr;
     QTreeView *receivedList = nullptr;
     QComboBox *lifeBox = nullptr;
@@ -51,6 +56,7 @@ private:
     QPushButton *pauseReceivedBtn = nullptr;
     QPushButton *resumeReceivedBtn = nullptr;
     QPushButton *openReceivedBtn = nullptr;
+    QPushButton *discardReceivedBtn = nullptr;
     QPushButton *closeBtn = nullptr;
 };
 

@@ -486,12 +486,22 @@ void HttpFileFetcher::stop(int number)
         running->second.fetch->stop();
 }
 
-/// A folder of another machine may take its time.
+/// For folders of other machines, which may take their time.
+WorkThread &HttpFileFetcher::besides()
+{
+    if (!m_besides)
+        m_besides = std::make_unique<WorkThread>();
+    return *m_besides;
+}
+
+void HttpFileFetcher::discard(const WantedFile &file)
+{
+    besides().put([file] { QFile::remove(partPath(file)); });
+}
+
 void HttpFileFetcher::lookUp(const WantedFile &file)
 {
-    if (!m_lookingUp)
-        m_lookingUp = std::make_unique<WorkThread>();
-    m_lookingUp->put([this, file] {
+    besides().put([this, file] {
         const auto size = static_cast<quint64>(QFileInfo(partPath(file)).size());
         m_calls->put(
             [this, state = FetchedBytes{.number = file.number, .what = What::there, .place = size}] { tell(state); });

@@ -29,6 +29,7 @@ public:
     void fetch(const WantedFile &file) override;
     void stop(int number) override;
     void lookUp(const WantedFile &file) override;
+    void discard(const WantedFile &file) override;
 
 private:
     class Fetch;
@@ -38,10 +39,11 @@ private:
     };
 
     void tell(const FetchedBytes &fetched);
+    WorkThread &besides();
 
     std::unique_ptr<EventLoopCalls> m_calls; ///< outlives the threads
     std::map<int, Running> m_running;
-    std::unique_ptr<WorkThread> m_lookingUp; ///< once there was something
+    std::unique_ptr<WorkThread> m_besides; ///< once there was something for it
 };
 
 } // namespace nimb

@@ -82,11 +82,16 @@ void ReceivedFiles::makeRoom()
             continue;
         }
         const int number = at(row).number;
-        beginRemoveRows({}, row, row);
-        m_files.erase(m_files.begin() + row);
-        endRemoveRows();
+        removeRow(row);
         Q_EMIT changed(number);
     }
+}
+
+void ReceivedFiles::removeRow(int row)
+{
+    beginRemoveRows({}, row, row);
+    m_files.erase(m_files.begin() + row);
+    endRemoveRows();
 }
 
 const ReceivedFile *ReceivedFiles::find(int number) const
@@ -150,8 +155,19 @@ void ReceivedFiles::pause(int number)
 void ReceivedFiles::resume(int number)
 {
     ReceivedFile *const file = findRow(number);
-    if (file && (file->state == State::paused || file->state == State::failed))
+    if (file && file->isHalted())
         begin(*file);
+}
+
+void ReceivedFiles::discard(int number)
+{
+    const ReceivedFile *const file = find(number);
+    if (!file || !file->isHalted())
+        return;
+    m_fetcher.discard(wantedOf(*file));
+    removeRow(static_cast<int>(file - m_files.data()));
+    Q_EMIT discarded(number);
+    Q_EMIT unfinishedChanged();
 }
 
 /// What waits for its sum alone leaves its place to others.

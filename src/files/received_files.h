@@ -48,6 +48,8 @@ struct ReceivedFile {
         return state == State::waiting || state == State::summing || state == State::running
             || state == State::checking;
     }
+    /// It came to a halt before all was here.
+    bool isHalted() const { return state == State::paused || state == State::failed; }
     /// It is to be saved, and there is a chance that it will be.
     bool isUnfinished() const
     {
@@ -84,6 +86,8 @@ public:
     void pause(int number);
     /// After a pause or a failure.
     void resume(int number);
+    /// After a pause or a failure: takes its row away, and from the disk what has come of it.
+    void discard(int number);
 
     /// The folder of the last save(); empty before.
     const QString &lastFolder() const { return m_lastFolder; }
@@ -100,6 +104,8 @@ public:
 
 Q_SIGNALS:
     void changed(int number);
+    /// The user wants no more of it; its row has gone.
+    void discarded(int number);
     /// Another one is unfinished now, or one is not any more, or has come to a halt.
     void unfinishedChanged();
 
@@ -114,6 +120,7 @@ private:
     bool hasFreePlace() const;
     void beginNext();
     void makeRoom();
+    void removeRow(int row);
     void rowChanged(const ReceivedFile &file);
 
     FileFetcher &m_fetcher;

@@ -594,6 +594,56 @@ TEST_F(FilesInWindows, TheWindowSavesWhatIsOffered)
     EXPECT_THAT(windows.folders.opened, ElementsAre("file://" + folder.path().toStdString()));
 }
 
+TEST_F(FilesInWindows, TheWindowDiscardsWhatCameToAHaltAfterAQuestion)
+{
+    windows.arrive("10.0.0.2", annsPlan);
+    QWidget &window = transfers();
+    auto &list = controlOf<QTreeView>(window, "receivedList");
+    list.setCurrentIndex(list.model()->index(0, 0));
+    auto &discard = controlOf<QPushButton>(window, "discardReceivedBtn");
+    EXPECT_FALSE(discard.isEnabled()) << "nothing has been begun";
+    const int number = received().at(0).number;
+    received().save(number, folder.path());
+    EXPECT_FALSE(discard.isEnabled()) << "it is under way";
+    tell({.number = number, .what = What::failed, .place = 2000, .size = 3000, .isGone = true});
+    windows.prompts.answer = false;
+    discard.click();
+    EXPECT_THAT(windows.prompts.asked,
+                ElementsAre("NIMB-Chat - Transfers: Discard \"Plan.pdf\"? What has come of it, 2.0 kB, is "
+                            "removed from the disk."));
+    EXPECT_EQ(windows.prompts.carefully, 1) << "Return means No";
+    EXPECT_EQ(received().rowCount(), 1);
+    EXPECT_THAT(rows(), SizeIs(1));
+    windows.prompts.answer = true;
+    discard.click();
+    EXPECT_EQ(received().rowCount(), 0);
+    EXPECT_THAT(windows.fileFetcher.discarded, SizeIs(1));
+    EXPECT_THAT(rows(), IsEmpty()) << "nor in the conversation";
+    EXPECT_FALSE(discard.isEnabled());
+}
+
+TEST_F(FilesInWindows, TheContextMenuOfATransferHasWhatCanBeDoneNow)
+{
+    windows.arrive("10.0.0.2", annsPlan);
+    QWidget &window = transfers();
+    auto &list = controlOf<QTreeView>(window, "receivedList");
+    list.setCurrentIndex(list.model()->index(0, 0));
+    received().save(received().at(0).number, folder.path());
+    received().pause(received().at(0).number);
+    list.setFocus();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 5), list.viewport()->mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(&list, &event);
+    auto *const menu = window.findChild<QMenu *>(QStringLiteral("transferMenu"));
+    ASSERT_TRUE(menu);
+    QStringList entries;
+    for (const QAction *const action : menu->actions())
+        entries += action->text();
+    EXPECT_EQ(entries, (QStringList{QStringLiteral("&Resume"), QStringLiteral("&Discard...")}));
+    menu->actions().back()->trigger();
+    menu->close();
+    EXPECT_EQ(received().rowCount(), 0);
+}
+
 TEST(UnfinishedFilesInWindows, AreALineOfTheLogThatLeadsToThem)
 {
     const QString message = QString::fromStdString(annsPlan.substr(1));

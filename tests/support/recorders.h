@@ -862,8 +862,9 @@ public:
     }
 
     void lookUp(const WantedFile &file) override { lookedUp.push_back(file); }
+    void discard(const WantedFile &file) override { discarded.push_back(file); }
 
-    std::vector<WantedFile> fetched, lookedUp;
+    std::vector<WantedFile> fetched, lookedUp, discarded;
     std::vector<int> stopped;
 };
 

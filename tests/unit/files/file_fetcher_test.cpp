@@ -347,6 +347,17 @@ TEST_F(FileFetcherTest, LooksUpHowMuchIsThere)
     }
 }
 
+TEST_F(FileFetcherTest, DiscardsWhatIsThereOfOneFileAlone)
+{
+    const QString other = QStringLiteral("Plan.pdf.01234567.part");
+    write(QStringLiteral("in/") + partName(), "0123");
+    write(QStringLiteral("in/") + other, "0123");
+    write(QStringLiteral("in/Plan.pdf"), "0123");
+    fetcher->discard(wanted());
+    ASSERT_TRUE(waitUntil([&] { return !found().contains(partName()); }));
+    EXPECT_EQ(found(), (QStringList{QStringLiteral("Plan.pdf"), other}));
+}
+
 TEST_F(FileFetcherTest, SaysThatTheFolderHasGone)
 {
     ASSERT_TRUE(QDir(folder.path()).rmdir(QStringLiteral("in")));

@@ -475,6 +475,32 @@ TEST_F(TransfersTest, WhatIsUnfinishedComesBackPausedAfterARestart)
     EXPECT_EQ(later->settings.value("Transfers", "UnfinishedFiles"), "");
 }
 
+TEST_F(TransfersTest, WhatIsDiscardedIsRemovedAndNotToldOfAtTheNextStart)
+{
+    chat();
+    const int paused = receive(), failed = receiveAnother(), running = receiveAnother(), offered = receiveAnother();
+    for (const int number : {paused, failed, running})
+        received().save(number, QStringLiteral("/in"));
+    received().pause(paused);
+    tell({.number = failed, .what = What::failed, .place = 45, .size = 100, .isGone = true});
+    tell({.number = running, .what = What::running, .place = 45, .size = 100});
+    for (const int number : {paused, failed, running, offered})
+        received().discard(number);
+    EXPECT_FALSE(received().find(paused));
+    EXPECT_FALSE(received().find(failed));
+    EXPECT_EQ(received().rowCount(), 2) << "what is under way, or was never begun, is not discarded";
+    ASSERT_THAT(copy.fileFetcher.discarded, SizeIs(2));
+    EXPECT_EQ(copy.fileFetcher.discarded.front().number, paused);
+    EXPECT_EQ(copy.fileFetcher.discarded.front().folder, QStringLiteral("/in"));
+    EXPECT_EQ(copy.fileFetcher.discarded.front().path, "/0123456789abcdef0123456789abcdef/Plan.pdf");
+    received().pause(running);
+    received().discard(running);
+    copy.advance(1s);
+    EXPECT_EQ(copy.settings.value("Transfers", "UnfinishedFiles"), "");
+    EXPECT_EQ(next()->engine.transfers().received.rowCount(), 0);
+    EXPECT_NE(receive(), 0) << "whoever offers it once more is heard";
+}
+
 TEST_F(TransfersTest, ARestartSaysWhatIsUnfinishedAndAsksTheDiskHowFarItIs)
 {
     chat();
