@@ -312,18 +312,22 @@ void FileRow::readPicture(const QString &path)
         return;
     m_shownPicture = path;
     const qreal scale = devicePixelRatioF();
-    m_reading = m_pictures.read(path, (largestShownPicture * scale).toSize(), [this, scale](QImage picture) {
-        picture.setDevicePixelRatio(scale);
-        showPicture(picture);
+    m_reading = m_pictures.read(path, (largestShownPicture * scale).toSize(), [this, scale](SmallPicture read) {
+        read.picture.setDevicePixelRatio(scale);
+        showPicture(read);
     });
 }
 
-void FileRow::showPicture(const QImage &picture)
+void FileRow::showPicture(const SmallPicture &read)
 {
-    if (picture.isNull())
+    constexpr qint64 mega = 1'000'000;
+    if (read.isTooLarge)
+        m_picture->setText(tr("This picture is too large to be shown: it has more than %1 megapixels. Save it.")
+                               .arg(limits::shownPicturePixels / mega));
+    else if (read.picture.isNull())
         m_picture->setText(tr("This is no picture that NIMB-Chat can read."));
     else
-        m_picture->setPixmap(QPixmap::fromImage(picture));
+        m_picture->setPixmap(QPixmap::fromImage(read.picture));
     m_picture->setAccessibleName(tr("Picture %1").arg(m_name->text()));
     m_picture->show();
 }

@@ -7,7 +7,6 @@
 #include <memory>
 #include <vector>
 
-class QImage;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -23,6 +22,7 @@ class ReceivedFiles;
 class PictureReading;
 class ScratchFolder;
 class SmallPictures;
+struct SmallPicture;
 
 /// The newest files, one row each, and above them how many more there are; hidden while there are none. Nothing is
 /// fetched by itself.
@@ -85,7 +85,7 @@ private:
     void save();
     void openFolder();
     void readPicture(const QString &path);
-    void showPicture(const QImage &picture);
+    void showPicture(const SmallPicture &read);
 
     ReceivedFiles &m_files;
     const int m_number;

@@ -49,7 +49,7 @@ QByteArray pictureFormatOf(const QByteArray &firstBytes)
     return {};
 }
 
-QImage smallPicture(const QString &path, QSize room, const std::function<bool()> &isUnwanted)
+SmallPicture smallPicture(const QString &path, QSize room, const std::function<bool()> &isUnwanted)
 {
     WantedFileBytes file(path, isUnwanted);
     if (!file.open(QIODevice::ReadOnly))
@@ -62,12 +62,14 @@ QImage smallPicture(const QString &path, QSize room, const std::function<bool()>
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
     const QSize size = reader.size();
-    if (!size.isValid() || qint64(size.width()) * size.height() > limits::shownPicturePixels)
+    if (!size.isValid())
         return {};
+    if (qint64(size.width()) * size.height() > limits::shownPicturePixels)
+        return {.isTooLarge = true};
     if (size.width() > room.width() || size.height() > room.height())
         reader.setScaledSize(size.scaled(room, Qt::KeepAspectRatio)); // which JPEG and WebP do while they are read
     const QImage picture = reader.read();
-    return file.isBrokenOff() ? QImage() : picture; // the rest would be made up
+    return {.picture = file.isBrokenOff() ? QImage() : picture}; // the rest would be made up
 }
 
 SmallPictures::SmallPictures() : m_calls(std::make_unique<EventLoopCalls>()) { }
@@ -78,7 +80,7 @@ SmallPictures::~SmallPictures()
 }
 
 std::unique_ptr<PictureReading> SmallPictures::read(const QString &path, QSize room,
-                                                    std::function<void(const QImage &)> done)
+                                                    std::function<void(const SmallPicture &)> done)
 {
     auto reading = std::make_unique<PictureReading>();
     if (!m_thread)
@@ -86,7 +88,7 @@ std::unique_ptr<PictureReading> SmallPictures::read(const QString &path, QSize r
     m_thread->put([this, path, room, done = std::move(done), isUnwanted = reading->isUnwanted] {
         if (*isUnwanted)
             return;
-        const QImage picture = smallPicture(path, room, [&] { return *isUnwanted || m_isOver; });
+        const SmallPicture picture = smallPicture(path, room, [&] { return *isUnwanted || m_isOver; });
         m_calls->put([picture, done, isUnwanted] {
             if (!*isUnwanted)
                 done(picture);

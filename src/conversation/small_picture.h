@@ -19,9 +19,13 @@ class WorkThread;
 /// it is named. Nothing that may lead elsewhere, such as a drawing with links, is among them.
 QByteArray pictureFormatOf(const QByteArray &firstBytes);
 
-/// Not larger than the room. Null where it is none of those formats, cannot be read, or has more pixels, or takes
-/// longer, than is worth while. isUnwanted: ends it soon. From any thread.
-QImage smallPicture(const QString &path, QSize room, const std::function<bool()> &isUnwanted);
+struct SmallPicture {
+    QImage picture{};        ///< null where it is none of those formats, cannot be read, or is not worth while
+    bool isTooLarge = false; ///< it has more pixels than are worth while
+};
+
+/// Not larger than the room. What takes longer than is worth while is none. isUnwanted: ends it soon. From any thread.
+SmallPicture smallPicture(const QString &path, QSize room, const std::function<bool()> &isUnwanted);
 
 /// Somebody waits for a picture as long as this is there; nobody waits for the reading.
 class PictureReading
@@ -48,7 +52,7 @@ public:
 
     /// done: called with what smallPicture() makes of it, later, unless what is returned has gone by then.
     [[nodiscard]] std::unique_ptr<PictureReading> read(const QString &path, QSize room,
-                                                       std::function<void(const QImage &)> done);
+                                                       std::function<void(const SmallPicture &)> done);
 
 private:
     std::atomic<bool> m_isOver = false;

@@ -38,6 +38,16 @@ using What = FetchedBytes::What;
 const std::string annsPlan = "-Plan.pdf (2.3 MB) http://10.0.0.2:5549/0123456789abcdef0123456789abcdef/Plan.pdf";
 const std::string annsPicture = "-a.png (2 bytes) http://10.0.0.2:5549/0123456789abcdef0123456789abcdef/a.png";
 
+/// One of very few bytes, however large.
+QString onePicture(const QTemporaryDir &folder, QSize size)
+{
+    QImage picture(size, QImage::Format_Mono);
+    picture.fill(1);
+    const QString path = folder.filePath(QStringLiteral("%1.png").arg(size.width()));
+    EXPECT_TRUE(picture.save(path));
+    return path;
+}
+
 class FilesInWindows : public testing::Test
 {
 protected:
@@ -412,6 +422,18 @@ TEST_F(FilesInWindows, WhatIsNoPictureIsSaidToBeNone)
     EXPECT_EQ(shown.text(), QStringLiteral("This is no picture that NIMB-Chat can read."));
 }
 
+TEST_F(FilesInWindows, APictureThatIsTooLargeIsNotCalledNone)
+{
+    windows.arrive("10.0.0.2", annsPicture);
+    FileRow &row = *rows().front();
+    received().look(row.number(), folder.path());
+    tell({.number = row.number(), .what = What::done, .path = onePicture(folder, {5001, 5000}), .isChecked = true});
+    auto &shown = controlOf<QLabel>(row, "shownPicture");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown.isVisibleTo(&row); }));
+    EXPECT_EQ(shown.text(),
+              QStringLiteral("This picture is too large to be shown: it has more than 25 megapixels. Save it."));
+}
+
 TEST(PictureFormat, IsToldByTheFirstBytesAndOneOfFour)
 {
     EXPECT_EQ(pictureFormatOf("\x89PNG\r\n\x1A\n...."), "png");
@@ -422,30 +444,24 @@ TEST(PictureFormat, IsToldByTheFirstBytesAndOneOfFour)
         EXPECT_EQ(pictureFormatOf(other), "") << other;
 }
 
-/// One of very few bytes, however large.
-QString onePicture(const QTemporaryDir &folder, QSize size)
-{
-    QImage picture(size, QImage::Format_Mono);
-    picture.fill(1);
-    const QString path = folder.filePath(QStringLiteral("%1.png").arg(size.width()));
-    EXPECT_TRUE(picture.save(path));
-    return path;
-}
-
 TEST(PictureOfOthers, HasNoMorePixelsThanAreWorthWhile)
 {
     const QTemporaryDir folder;
     const auto isUnwanted = [] { return false; };
-    EXPECT_EQ(smallPicture(onePicture(folder, {5000, 5000}), {90, 90}, isUnwanted).size(), QSize(90, 90));
-    EXPECT_TRUE(smallPicture(onePicture(folder, {5001, 5000}), {90, 90}, isUnwanted).isNull());
+    EXPECT_EQ(smallPicture(onePicture(folder, {5000, 5000}), {90, 90}, isUnwanted).picture.size(), QSize(90, 90));
+    const SmallPicture larger = smallPicture(onePicture(folder, {5001, 5000}), {90, 90}, isUnwanted);
+    EXPECT_TRUE(larger.picture.isNull());
+    EXPECT_TRUE(larger.isTooLarge);
 }
 
 TEST(PictureOfOthers, IsReadNoFurtherOnceNobodyWantsIt)
 {
     const QTemporaryDir folder;
     int asked = 0;
-    const QImage picture = smallPicture(onePicture(folder, {5000, 5000}), {90, 90}, [&asked] { return ++asked > 1; });
-    EXPECT_TRUE(picture.isNull());
+    const SmallPicture read
+        = smallPicture(onePicture(folder, {5000, 5000}), {90, 90}, [&asked] { return ++asked > 1; });
+    EXPECT_TRUE(read.picture.isNull());
+    EXPECT_FALSE(read.isTooLarge);
     EXPECT_GT(asked, 1);
 }
 
