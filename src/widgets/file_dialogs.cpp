@@ -12,21 +12,26 @@ namespace nimb
 namespace
 {
 
-void open(QFileDialog *dialog, std::function<void(const QString &path)> chosen)
+/// A dialog says what was chosen while it is still there: what may bring up a question is called once it has gone.
+constexpr auto onceItHasGone = Qt::QueuedConnection;
+
+void open(QFileDialog *dialog, std::function<void(const QString &path)> chosen,
+          Qt::ConnectionType when = Qt::AutoConnection)
 {
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(dialog, &QFileDialog::fileSelected, dialog,
-                     [chosen = std::move(chosen)](const QString &path) { chosen(path); });
+    QObject::connect(
+        dialog, &QFileDialog::fileSelected, dialog, [chosen = std::move(chosen)](const QString &path) { chosen(path); },
+        when);
     dialog->QDialog::open();
 }
 
 void openForFolder(QWidget &parent, const QString &title, const QString &folder,
-                   std::function<void(const QString &path)> chosen)
+                   std::function<void(const QString &path)> chosen, Qt::ConnectionType when = Qt::AutoConnection)
 {
     auto *const dialog = new QFileDialog(&parent, title, folder);
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
-    open(dialog, std::move(chosen));
+    open(dialog, std::move(chosen), when);
 }
 
 } // namespace
@@ -66,7 +71,8 @@ void askForFolder(QWidget &parent, const QString &folder, std::function<void(con
 
 void askForSentFolder(QWidget &parent, std::function<void(const QString &path)> chosen)
 {
-    openForFolder(parent, QCoreApplication::translate("FileDialogs", "Choose a folder to send"), {}, std::move(chosen));
+    openForFolder(parent, QCoreApplication::translate("FileDialogs", "Choose a folder to send"), {}, std::move(chosen),
+                  onceItHasGone);
 }
 
 void askForSaveFolder(QWidget &parent, const QString &folder, std::function<void(const QString &path)> chosen)
@@ -80,8 +86,9 @@ void askForFiles(QWidget &parent, std::function<void(const QStringList &paths)> 
     auto *const dialog = new QFileDialog(&parent, QCoreApplication::translate("FileDialogs", "Choose files to send"));
     dialog->setFileMode(QFileDialog::ExistingFiles);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(dialog, &QFileDialog::filesSelected, dialog,
-                     [chosen = std::move(chosen)](const QStringList &paths) { chosen(paths); });
+    QObject::connect(
+        dialog, &QFileDialog::filesSelected, dialog,
+        [chosen = std::move(chosen)](const QStringList &paths) { chosen(paths); }, onceItHasGone);
     dialog->QDialog::open();
 }
 

@@ -156,6 +156,23 @@ TEST_F(FilesInWindows, TheToolAsksForFiles)
     dialog().selectFile(one.fileName());
     dialog().setDirectory(folder.path());
     QMetaObject::invokeMethod(&dialog(), "filesSelected", Q_ARG(QStringList, {one.fileName()}));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(paths(), QStringList{one.fileName()});
+}
+
+TEST_F(FilesInWindows, WhatIsSaidBeforeTheFirstFileDoesNotStandOverTheDialogThatChoseIt)
+{
+    QFile one(folder.filePath(QStringLiteral("one")));
+    ASSERT_TRUE(one.open(QIODevice::WriteOnly));
+    control<QToolButton>("sendFileBtn").click();
+    QFileDialog &files = dialog();
+    files.setDirectory(folder.path());
+    files.selectFile(one.fileName());
+    QMetaObject::invokeMethod(&files, "accept");
+    EXPECT_FALSE(files.isVisible());
+    EXPECT_THAT(windows.prompts.asked, IsEmpty());
+    QCoreApplication::processEvents();
+    EXPECT_THAT(windows.prompts.asked, SizeIs(1));
     EXPECT_EQ(paths(), QStringList{one.fileName()});
 }
 
@@ -177,6 +194,7 @@ TEST_F(FilesInWindows, TheToolHasAMenuWithFoldersForMouseAndKeyboard)
     QTest::keyClick(&tool, Qt::Key_Down);
     EXPECT_EQ(entries, (QStringList{QStringLiteral("Send Fil&es..."), QStringLiteral("Send a Fol&der...")}));
     QMetaObject::invokeMethod(&dialog(), "fileSelected", Q_ARG(QString, folder.path()));
+    QCoreApplication::processEvents();
     EXPECT_EQ(paths(), QStringList{folder.path()});
 }
 
@@ -187,6 +205,7 @@ TEST_F(FilesInWindows, TheContextMenuOfAContactSendsFiles)
     EXPECT_TRUE(windows.entry("mnuSendFile").isVisible());
     windows.entry("mnuSendFile").trigger();
     QMetaObject::invokeMethod(&dialog(), "filesSelected", Q_ARG(QStringList, {QStringLiteral("/media/me/a.txt")}));
+    QCoreApplication::processEvents();
     EXPECT_EQ(paths(), QStringList{QStringLiteral("/media/me/a.txt")});
     EXPECT_THAT(windows.sent(), SizeIs(1));
     EXPECT_TRUE(windows.privateWindow().isVisible());
@@ -211,9 +230,10 @@ TEST_F(FilesInWindows, TheContextMenuOfTheLogSendsFilesAndFolders)
     EXPECT_EQ(entries.mid(entries.size() - 2),
               (QStringList{QStringLiteral("Send Fil&es..."), QStringLiteral("Send a Fol&der...")}));
     menu->actions().last()->trigger();
-    QMetaObject::invokeMethod(&dialog(), "fileSelected", Q_ARG(QString, folder.path()));
-    EXPECT_EQ(paths(), QStringList{folder.path()});
     menu->close();
+    QMetaObject::invokeMethod(&dialog(), "fileSelected", Q_ARG(QString, folder.path()));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(paths(), QStringList{folder.path()});
 }
 
 TEST_F(FilesInWindows, APastedPictureIsOfferedAndSentAtAClick)
