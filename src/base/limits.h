@@ -215,6 +215,8 @@ constexpr int filesSentAtOnce = 8;
 constexpr int filesSentToPeer = 4;
 /// Rows of a conversation's panel of files; the others are under Tools > Transfers...
 constexpr int filesInPanel = 3;
+/// Those of the others that get rows when the user wants them there.
+constexpr std::ptrdiff_t furtherFilesInPanel = 20;
 /// Sentences of a conversation on files that were not sent: more would take the room of what was said.
 constexpr qsizetype fileTroublesShown = 3;
 /// Files that are received at once; others wait.

@@ -21,7 +21,10 @@
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QToolButton>
 #include <QUrl>
 
@@ -36,6 +39,9 @@ namespace
 using State = ReceivedFile::State;
 
 constexpr QSizeF largestShownPicture(240, 90);
+/// Pixels; rows that need more are scrolled. The first is what two rows of two lines and a picture need at the usual
+/// size of letters, the second what they still get where a small screen has large ones.
+constexpr int mostHeightOfRows = 242, leastHeightOfRows = 110;
 
 QPushButton *rowButton(QWidget *parent, const char *name, const QString &caption)
 {
@@ -52,6 +58,58 @@ QString folderToSaveIn(const ReceivedFiles &files)
 }
 
 } // namespace
+
+/// As high as its rows, as far as there is room.
+class RowsOfFiles : public QScrollArea
+{
+public:
+    explicit RowsOfFiles(QWidget *parent) : QScrollArea(parent)
+    {
+        setObjectName(QStringLiteral("rowsOfFiles"));
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus); // the rows have it, and one that gets it is scrolled to
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+        setWidgetResizable(true);
+        auto *const rows = new QWidget(this);
+        m_column = new QVBoxLayout(rows);
+        m_column->setContentsMargins(0, 0, 0, 0);
+        m_column->setSpacing(form_layout::spacing);
+        setWidget(rows);
+    }
+
+    QVBoxLayout &column() { return *m_column; }
+    /// Once everything has its new size.
+    void scrollTo(QWidget &row)
+    {
+        QTimer::singleShot(0, &row, [this, &row] { ensureWidgetVisible(&row); });
+    }
+
+    QSize sizeHint() const override
+    {
+        const QSize rows = m_column->sizeHint();
+        const bool isScrolled = rows.height() > mostHeightOfRows;
+        return {rows.width() + (isScrolled ? verticalScrollBar()->sizeHint().width() : 0),
+                isScrolled ? mostHeightOfRows : rows.height()};
+    }
+    QSize minimumSizeHint() const override
+    {
+        const QSize most = sizeHint();
+        const int narrower = m_column->sizeHint().width() - m_column->minimumSize().width();
+        return {most.width() - narrower, std::min(most.height(), leastHeightOfRows)};
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest)
+            updateGeometry();
+        return QScrollArea::eventFilter(watched, event);
+    }
+
+private:
+    QVBoxLayout *m_column;
+};
 
 // --- the panel
 
@@ -80,12 +138,24 @@ FilePanel::FilePanel(ReceivedFiles &files, LinkOpener &folders, ScratchFolder &s
 void FilePanel::add(int number)
 {
     makeRoom();
-    auto *const row = new FileRow(m_files, number, m_folders, m_scratch, m_pictures, this);
-    connect(row, &FileRow::closed, this, &FilePanel::remove);
-    layout()->addWidget(row);
-    m_rows.push_back(row);
-    show();
+    FileRow *const row = addRow(number, Place::bottom);
     showFurther();
+    m_area->scrollTo(*row);
+}
+
+FileRow *FilePanel::addRow(int number, Place place)
+{
+    if (!m_area) {
+        m_area = new RowsOfFiles(this);
+        layout()->addWidget(m_area);
+    }
+    auto *const row = new FileRow(m_files, number, m_folders, m_scratch, m_pictures, m_area->widget());
+    connect(row, &FileRow::closed, this, &FilePanel::remove);
+    connect(row, &FileRow::grown, this, [this, row] { m_area->scrollTo(*row); });
+    m_area->column().insertWidget(place == Place::top ? 0 : -1, row);
+    m_rows.insert(place == Place::top ? m_rows.begin() : m_rows.end(), row);
+    m_area->show();
+    return row;
 }
 
 /// What is under way stays longer than what nobody has wanted.
@@ -120,17 +190,18 @@ void FilePanel::showFurther()
     const bool hasSeveral = offered().size() > 1;
     if (!m_furtherLine && (hasSeveral || !m_further.empty()))
         makeFurtherLine();
+    setVisible(!m_rows.empty() || !m_further.empty());
     if (!m_furtherLine)
         return;
     const QString sentence = tr("Further files: %1.").arg(m_further.size());
     m_furtherCount->setText(sentence + u' '
-                            + bandAnswers({bandAnswer(QStringLiteral("all"), tr("Show all")),
+                            + bandAnswers({bandAnswer(QStringLiteral("here"), tr("Show here")),
+                                           bandAnswer(QStringLiteral("all"), tr("Show all")),
                                            bandAnswer(QStringLiteral("hide"), tr("Hide"))}));
     m_furtherCount->setAccessibleName(sentence);
     m_furtherCount->setVisible(!m_further.empty());
     m_saveAll->setVisible(hasSeveral);
     m_furtherLine->setVisible(hasSeveral || !m_further.empty());
-    setVisible(!m_rows.empty() || !m_further.empty());
 }
 
 void FilePanel::makeFurtherLine()
@@ -151,10 +222,24 @@ void FilePanel::makeFurtherLine()
     connect(m_furtherCount, &QLabel::linkActivated, this, [this](const QString &what) {
         if (what == QLatin1String("all"))
             return Q_EMIT allWanted();
+        if (what == QLatin1String("here"))
+            return showFurtherHere();
         m_further.clear();
         showFurther();
     });
     connect(m_saveAll, &QPushButton::clicked, this, &FilePanel::saveAll);
+}
+
+/// The newest that are not too many, above the rows that are there.
+void FilePanel::showFurtherHere()
+{
+    std::ranges::sort(m_further);
+    const auto left = std::max<std::ptrdiff_t>(std::ssize(m_further) - limits::furtherFilesInPanel, 0);
+    const std::vector<int> shown(m_further.begin() + left, m_further.end());
+    m_further.resize(static_cast<std::size_t>(left));
+    for (auto number = shown.rbegin(); number != shown.rend(); ++number)
+        addRow(*number, Place::top);
+    showFurther();
 }
 
 void FilePanel::saveAll()
@@ -175,7 +260,7 @@ void FilePanel::remove(int number)
     (*which)->hide();
     (*which)->deleteLater();
     m_rows.erase(which);
-    setVisible(!m_rows.empty());
+    m_area->setVisible(!m_rows.empty());
     showFurther();
 }
 
@@ -330,6 +415,7 @@ void FileRow::showPicture(const SmallPicture &read)
         m_picture->setPixmap(QPixmap::fromImage(read.picture));
     m_picture->setAccessibleName(tr("Picture %1").arg(m_name->text()));
     m_picture->show();
+    Q_EMIT grown();
 }
 
 } // namespace nimb

@@ -20,12 +20,13 @@ class FileRow;
 class LinkOpener;
 class ReceivedFiles;
 class PictureReading;
+class RowsOfFiles;
 class ScratchFolder;
 class SmallPictures;
 struct SmallPicture;
 
-/// The newest files, one row each, and above them how many more there are; hidden while there are none. Nothing is
-/// fetched by itself.
+/// The newest files, one row each, and above them how many more there are; hidden while there are none. Rows that would
+/// take too much of the conversation's room are scrolled. Nothing is fetched by itself.
 class FilePanel : public QWidget
 {
     Q_OBJECT
@@ -42,8 +43,12 @@ Q_SIGNALS:
     void allWanted();
 
 private:
+    enum class Place { top, bottom };
+
+    FileRow *addRow(int number, Place place);
     void remove(int number);
     void makeRoom();
+    void showFurtherHere();
     void showFurther();
     void makeFurtherLine();
     void saveAll();
@@ -54,6 +59,7 @@ private:
     LinkOpener &m_folders;
     ScratchFolder &m_scratch;
     SmallPictures &m_pictures;
+    RowsOfFiles *m_area = nullptr; ///< once there was a row
     std::list<FileRow *> m_rows;
     std::vector<int> m_further; ///< numbers of those that had to make room
     QWidget *m_furtherLine = nullptr;
@@ -77,6 +83,8 @@ public:
 
 Q_SIGNALS:
     void closed(int number);
+    /// It has its picture now.
+    void grown();
 
 private:
     QWidget *makeFirstLine();

@@ -17,6 +17,7 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -537,6 +538,94 @@ TEST_F(FilesInWindows, FurtherFilesAreCountedAndShownTogether)
     }));
 }
 
+TEST_F(FilesInWindows, FurtherFilesGetRowsWhereTheUserWantsThem)
+{
+    windows.arrive("10.0.0.2", annsPicture);
+    const int picture = rows().front()->number();
+    for (int i = 0; i < 5; ++i)
+        receiveAnother(i);
+    Q_EMIT control<QLabel>("furtherCount").linkActivated(QStringLiteral("here"));
+    ASSERT_THAT(rows(), SizeIs(6));
+    EXPECT_FALSE(control<QLabel>("furtherCount").isVisibleTo(&form()));
+    QCoreApplication::processEvents();
+    std::map<int, int> numberAtHeight;
+    for (const FileRow *const row : rows())
+        numberAtHeight[row->y()] = row->number();
+    std::vector<int> downwards;
+    for (const auto &[height, number] : numberAtHeight)
+        downwards.push_back(number);
+    EXPECT_THAT(downwards, ElementsAre(picture, picture + 1, picture + 2, picture + 3, picture + 4, picture + 5));
+    for (FileRow *const row : rows()) {
+        if (row->number() == picture)
+            controlOf<QPushButton>(*row, "lookBtn").click();
+    }
+    ASSERT_THAT(windows.fileFetcher.fetched, SizeIs(1)) << "shown as any other picture is";
+    receiveAnother(6);
+    EXPECT_THAT(rows(), SizeIs(6)) << "and no more than the user wanted";
+}
+
+TEST_F(FilesInWindows, NoMoreThanTwentyFurtherFilesGetRows)
+{
+    for (int i = 0; i < 30; ++i) {
+        std::string another = annsPlan;
+        windows.arrive("10.0.0.2", another.replace(another.rfind('/') - 2, 2, std::to_string(10 + i)));
+    }
+    Q_EMIT control<QLabel>("furtherCount").linkActivated(QStringLiteral("here"));
+    EXPECT_THAT(rows(), SizeIs(23));
+    EXPECT_THAT(control<QLabel>("furtherCount").text().toStdString(), testing::StartsWith("Further files: 7."));
+}
+
+TEST_F(FilesInWindows, ManyRowsLeaveTheConversationItsRoomAndAreScrolledTo)
+{
+    for (int i = 0; i < 5; ++i)
+        receiveAnother(i);
+    const int before = form().minimumSizeHint().height();
+    Q_EMIT control<QLabel>("furtherCount").linkActivated(QStringLiteral("here"));
+    for (FileRow *const row : rows())
+        received().save(row->number(), folder.path()); // each has a second line then
+    QCoreApplication::processEvents();
+    EXPECT_LT(form().minimumSizeHint().height(), before + 150);
+    const auto isSeen = [](const FileRow &row) { return row.visibleRegion().boundingRect().size() == row.size(); };
+    receiveAnother(6);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isSeen(*rows().back()); })) << "the newest";
+}
+
+/// Two with a second line, a picture and what had to make room; above them whatever bands can be there.
+TEST_F(FilesInWindows, RowsAndBandsHaveRoomOnASmallScreenAtLargeLetters)
+{
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSize(16);
+    QApplication::setFont(large);
+    windows.arrive("10.0.0.2", annsPlan);
+    for (int i = 0; i < 3; ++i)
+        receiveAnother(i);
+    std::string another = annsPicture;
+    windows.arrive("10.0.0.2", another.replace(another.rfind('/') - 1, 1, "9"));
+    received().save(rows().at(0)->number(), folder.path());
+    received().save(rows().at(1)->number(), folder.path());
+    received().look(rows().at(2)->number(), folder.path());
+    QImage picture(1000, 500, QImage::Format_RGB32);
+    ASSERT_TRUE(picture.save(folder.filePath(QStringLiteral("a.png"))));
+    tell({.number = rows().at(2)->number(), .what = What::done, .path = folder.filePath(QStringLiteral("a.png"))});
+    auto &shown = controlOf<QLabel>(*rows().at(2), "shownPicture");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown.isVisible(); }));
+    drop(form(), {QUrl::fromLocalFile(QStringLiteral("/a"))});
+    windows.fileServer.failed(windows.fileServer.served.front().token, QStringLiteral("a has changed."));
+    QGuiApplication::clipboard()->setImage(QImage(8, 6, QImage::Format_RGB32));
+    control<QPlainTextEdit>("intext").paste();
+    windows.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC Ann");
+    QCoreApplication::processEvents();
+    form().resize(600, 100);
+    QCoreApplication::processEvents();
+    constexpr int smallScreen = 720, panelAndFrame = 60;
+    EXPECT_LE(form().height(), smallScreen - panelAndFrame);
+    form().resize(600, 900);
+    QCoreApplication::processEvents();
+    EXPECT_GT(control<QScrollArea>("rowsOfFiles").height(), 240) << "with room they have more of it";
+    QApplication::setFont(usual);
+}
+
 TEST_F(FilesInWindows, FurtherFilesAreStillThereWhenAllRowsAreHidden)
 {
     for (int i = 0; i < 5; ++i)
@@ -582,8 +671,11 @@ TEST_F(FilesInWindows, OneFileIsSavedByItsRowAlone)
 TEST_F(FilesInWindows, ARowIsHidden)
 {
     windows.arrive("10.0.0.2", annsPlan);
+    auto *const panel = form().findChild<FilePanel *>();
+    ASSERT_TRUE(panel && panel->isVisibleTo(&form()));
     controlOf<QToolButton>(*rows().front(), "closeRowBtn").click();
     EXPECT_THAT(rows(), IsEmpty());
+    EXPECT_FALSE(panel->isVisibleTo(&form()));
     EXPECT_EQ(received().rowCount(), 1);
 }
 
