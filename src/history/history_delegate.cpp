@@ -1,5 +1,6 @@
 #include "history/history_delegate.h"
 
+#include "history/found_words.h"
 #include "history/history_model.h"
 #include "widgets/muted_colour.h"
 
@@ -51,9 +52,10 @@ void HistoryDelegate::layOut(QTextDocument &text, const QStyleOptionViewItem &op
     if (!selected) {
         QTextCharFormat hit;
         hit.setBackground(hitGround(option.palette));
-        for (const QString &word : m_words) {
-            for (QTextCursor found = text.find(word, begin); !found.isNull(); found = text.find(word, found))
-                found.mergeCharFormat(hit);
+        for (const FoundWord &word : findWords(m_words, text.toPlainText().sliced(begin))) {
+            cursor.setPosition(begin + static_cast<int>(word.begin));
+            cursor.setPosition(begin + static_cast<int>(word.end), QTextCursor::KeepAnchor);
+            cursor.mergeCharFormat(hit);
         }
     }
     text.setTextWidth(textWidth(option));
