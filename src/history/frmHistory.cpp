@@ -529,19 +529,22 @@ void frmHistory::showEraseMenu()
         {.conversation = conversation, .from = shown.from, .until = shown.until},
         tr("Erase all that is kept of the chosen days for good?"));
     menu->addSeparator();
-    add("mnuEraseAll", tr("&All"), true, {}, tr("Erase all that is kept of all conversations for good?"));
+    add("mnuEraseAll", tr("&All"), true, {},
+        m_waiting.messages().empty()
+            ? tr("Erase all that is kept of all conversations for good?")
+            : tr("Erase all that is kept of all conversations for good? What waits to be sent stays and is sent."));
     menu->popup(eraseBtn->mapToGlobal(QPoint(0, eraseBtn->height())));
 }
 
 void frmHistory::forgetWaiting(std::int64_t number)
 {
-    if (m_prompts.confirm(tr("Erase the chosen message? It will not be sent."), windowTitle()))
+    if (m_prompts.decideCarefully(tr("Erase the chosen message? It will not be sent."), windowTitle()).value_or(false))
         m_waiting.erase(number);
 }
 
 void frmHistory::erase(const HistorySelection &selection, const QString &sentence)
 {
-    if (!m_prompts.confirm(sentence, windowTitle()))
+    if (!m_prompts.decideCarefully(sentence, windowTitle()).value_or(false))
         return;
     m_progress->setText(tr("Erasing..."));
     m_history.erase(selection, [self = QPointer(this)](bool done) {

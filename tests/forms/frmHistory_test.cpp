@@ -152,6 +152,7 @@ TEST_F(FrmHistory, WhatWaitsIsErasedAfterAQuestion)
     prompts.answer = false;
     chooseErase("mnuForgetWaiting");
     EXPECT_EQ(shown().size(), 2);
+    EXPECT_EQ(prompts.carefully, 1) << "Return means No";
     prompts.answer = true;
     messages().setCurrentIndex(messages().model()->index(0, 0));
     chooseErase("mnuForgetWaiting");
@@ -314,6 +315,7 @@ TEST_F(FrmHistory, ErasesTheChosenMessageAfterAQuestion)
     prompts.answer = false;
     chooseErase("mnuEraseMessage");
     EXPECT_EQ(prompts.asked.back(), "NIMB-Chat - History: Erase the chosen message for good?");
+    EXPECT_EQ(prompts.carefully, 1) << "Return means No";
     prompts.answer = true;
     chooseErase("mnuEraseMessage");
     EXPECT_TRUE(becomes({"the plan of day 1", "the plan of day 3", "the plan of day 4"}));
@@ -332,6 +334,24 @@ TEST_F(FrmHistory, ErasesAConversationAndAll)
     EXPECT_TRUE(becomes({}));
     EXPECT_TRUE(control<QLabel>("nothingKept").text().startsWith(QLatin1String("Nothing is kept yet.")));
     EXPECT_FALSE(control<QPushButton>("eraseBtn").isEnabled());
+}
+
+TEST_F(FrmHistory, TheQuestionBeforeAllGoesSaysWhetherSomethingStays)
+{
+    open();
+    prompts.answer = false;
+    chooseErase("mnuEraseAll");
+    EXPECT_EQ(prompts.asked.back(), "NIMB-Chat - History: Erase all that is kept of all conversations for good?");
+    waiting.put(QStringLiteral("Dora"), QStringLiteral("one"));
+    chooseErase("mnuEraseAll");
+    EXPECT_EQ(prompts.asked.back(),
+              "NIMB-Chat - History: Erase all that is kept of all conversations for good? What "
+              "waits to be sent stays and is sent.");
+    EXPECT_EQ(prompts.carefully, 2);
+    prompts.answer = true;
+    chooseErase("mnuEraseAll");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return list().count() == 2; }, patience));
+    EXPECT_EQ(list().item(1)->text(), QStringLiteral("To be sent (1)"));
 }
 
 TEST_F(FrmHistory, ExportsAllThatIsChosenAndNotOnlyWhatIsShown)
