@@ -80,7 +80,7 @@ struct HistorySelection {
 };
 
 /// Nothing here waits: answers come with the event loop, in the order of the questions, and not at all once this has
-/// ended. Where the history cannot be used they are empty, and `trouble` says so.
+/// ended. Where the history cannot be read they are empty; that, and that it cannot be written, `trouble` says.
 class History
 {
 public:

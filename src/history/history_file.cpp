@@ -331,6 +331,9 @@ HistoryFile::HistoryFile(const QString &folder) : m_folder(QDir(folder).absolute
 {
     if (const auto reason = makePrivateFolder(m_folder))
         throw Failure{*reason};
+    if (canOnlyBeRead(
+            m_folder)) // where SQLite fails later, with whatever the system says of a file that it cannot lock
+        throw Failure{sqlite::reasonFor(SQLITE_READONLY, nullptr)};
     // A rescue was killed when all was done but this: until then the damaged file is there.
     if (!QFile::exists(m_file) && QFile::exists(rescuedFile()))
         rename(rescuedFile(), m_file);
@@ -344,6 +347,27 @@ HistoryFile::HistoryFile(const QString &folder) : m_folder(QDir(folder).absolute
             throw;
         setAside();
     }
+}
+
+HistoryFile::HistoryFile(const QString &folder, ForReading)
+    : m_folder(QDir(folder).absolutePath()), m_file(pathIn(m_folder))
+{
+    // It can be locked by nobody who cannot write it; this is how SQLite reads without a lock.
+    const QByteArray name = "file:" + sqlite::fileName(m_file).toPercentEncoding("/") + "?immutable=1";
+    sqlite3 *opened = nullptr;
+    const int code = sqlite3_open_v2(name.constData(), &opened,
+                                     SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX, nullptr);
+    m_database.reset(opened);
+    check(code, opened);
+    check(sqlite3_extended_result_codes(opened, 1), opened);
+    execute(opened, "PRAGMA temp_store = MEMORY");
+    storedFormat();
+}
+
+bool HistoryFile::canOnlyBeRead(const QString &folder)
+{
+    const QFileInfo file(pathIn(folder));
+    return file.isFile() && file.isReadable() && !(file.isWritable() && QFileInfo(folder).isWritable());
 }
 
 /// The new file gets its name when all is in it: a rescue that is cut short begins anew with the next start.
@@ -416,16 +440,20 @@ void HistoryFile::open(const QString &path)
     makeTables();
 }
 
+/// 0: it has no tables yet.
+int HistoryFile::storedFormat()
+{
+    Statement version(m_database.get(), "PRAGMA user_version");
+    version.next();
+    const int found = static_cast<int>(version.number(0));
+    if (found > formatNumber)
+        throw Failure{tr("a newer version of NIMB-Chat has written it")};
+    return found;
+}
+
 void HistoryFile::makeTables()
 {
-    int format = 0;
-    {
-        Statement version(m_database.get(), "PRAGMA user_version");
-        version.next();
-        format = static_cast<int>(version.number(0));
-    }
-    if (format > formatNumber)
-        throw Failure{tr("a newer version of NIMB-Chat has written it")};
+    const int format = storedFormat();
     if (format == formatNumber) {
         Statement look(m_database.get(),
                        (QByteArray(columns) + "FROM messages m").constData()); // fails where it is not ours

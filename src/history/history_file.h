@@ -31,6 +31,14 @@ public:
     /// `history.damaged-TIME.sqlite3`, and what can still be read goes into a new one; see takenOver().
     explicit HistoryFile(const QString &folder);
 
+    /// A file that this user may read and not change, as on a disk that was mounted for reading: nothing but questions
+    /// can be put to it. What a killed program has left beside it is not seen. Others may change it: for a moment only.
+    struct ForReading {
+    };
+    HistoryFile(const QString &folder, ForReading);
+    /// There is one, and it is such a file.
+    static bool canOnlyBeRead(const QString &folder);
+
     /// Where a call fails because the file is damaged: as the constructor does it.
     void setAside();
     /// A sentence about a file that had to be set aside by this object, or nothing.
@@ -69,6 +77,7 @@ private:
     QString rescuedFile() const { return m_folder + QStringLiteral("/history.rescued.sqlite3"); }
     void open(const QString &path);
     static void rename(const QString &from, const QString &to);
+    int storedFormat();
     void makeTables();
     QString copyOfForm(int number) const
     {

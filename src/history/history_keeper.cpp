@@ -184,13 +184,19 @@ private:
         return false;
     }
 
-    /// A full disk keeps nobody from reading what is on it.
+    /// A full disk, or one that cannot be written, keeps nobody from reading what is on it.
     bool readAllTheSame(const Desk::Task &task)
     {
         try {
-            if (m_file)
+            if (m_file) {
                 task(&*m_file);
-            return m_file.has_value();
+                return true;
+            }
+            if (!HistoryFile::canOnlyBeRead(m_folder))
+                return false;
+            HistoryFile file(m_folder, HistoryFile::ForReading());
+            task(&file);
+            return true;
         } catch (const sqlite::Failure &) {
             return false; // told already
         }
@@ -210,11 +216,13 @@ private:
 
     void tellFailure(const sqlite::Failure &failure)
     {
+        const char *const form = !m_file && HistoryFile::canOnlyBeRead(m_folder)
+            ? QT_TRANSLATE_NOOP("HistoryKeeper",
+                                "The history in %1 can only be read now (%2): nothing more is kept until that changes.")
+            : QT_TRANSLATE_NOOP("HistoryKeeper",
+                                "The history in %1 cannot be used now (%2); what was kept before is unchanged.");
         const QString sentence
-            = translated(QT_TRANSLATE_NOOP("HistoryKeeper",
-                                           "The history in %1 cannot be used now (%2); what was kept "
-                                           "before is unchanged."))
-                  .arg(QDir::toNativeSeparators(HistoryFile::pathIn(m_folder)), failure.reason);
+            = translated(form).arg(QDir::toNativeSeparators(HistoryFile::pathIn(m_folder)), failure.reason);
         m_isInTrouble = true;
         m_caller.put([caller = &m_caller, sentence] { caller->setTrouble(sentence); });
         if (sentence != m_told)

@@ -3,6 +3,7 @@
 #include "base/limits.h"
 #include "event_loop_wait.h"
 #include "history/history_file.h"
+#include "ordinary_user.h"
 #include "print_qt.h"
 
 #include <QCoreApplication>
@@ -88,6 +89,59 @@ TEST_F(HistoryKeeperTest, IsOnTheDiskSoonWithoutAnybodyAsking)
         return log.open(QFile::ReadOnly) && log.readAll().contains("unmistakable");
     }));
     EXPECT_LT(limits::historyGathered.count(), 200);
+}
+
+class HistoryThatCanOnlyBeRead : public HistoryKeeperTest
+{
+protected:
+    HistoryThatCanOnlyBeRead()
+    {
+        keep(QStringLiteral("before"));
+        keeper.reset();
+        QFile::setPermissions(m_base.path(), readable | QFile::WriteOwner);
+    }
+    ~HistoryThatCanOnlyBeRead() override { QFile::setPermissions(folder, QFile::ExeOwner | forMe); }
+    QStringList textsOfAll()
+    {
+        keeper.emplace(folder);
+        keeper->trouble = [this](const QString &sentence) { troubles += sentence; };
+        return find({});
+    }
+
+    static constexpr QFile::Permissions forMe = QFile::ReadOwner | QFile::WriteOwner;
+    static constexpr QFile::Permissions readable
+        = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
+    const QString file = folder + QStringLiteral("/history.sqlite3");
+};
+
+TEST_F(HistoryThatCanOnlyBeRead, IsReadAndSaysWhyItIsNotWrittenOnce)
+{
+    QFile::setPermissions(file, QFile::ReadOwner | QFile::ReadOther);
+    QFile::setPermissions(folder, readable);
+    {
+        const OrdinaryUser user;
+        EXPECT_EQ(textsOfAll(), QStringList{"before"});
+        keep(QStringLiteral("after"));
+        EXPECT_EQ(find({.words = QStringLiteral("bef")}), QStringList{"before"});
+        EXPECT_EQ(troubles,
+                  QStringList{QStringLiteral("The history in %1 can only be read now (the file or its folder is "
+                                             "read-only): nothing more is kept until that changes.")
+                                  .arg(file)});
+        EXPECT_EQ(keeper->troubleNow(), troubles.front());
+    }
+    QFile::setPermissions(folder, QFile::ExeOwner | forMe);
+    QFile::setPermissions(file, forMe);
+    EXPECT_EQ(find({}), (QStringList{"before", "after"})) << "what waited is written once it can be";
+    EXPECT_EQ(keeper->troubleNow(), std::nullopt);
+}
+
+TEST_F(HistoryThatCanOnlyBeRead, IsReadInAFolderWithoutRights)
+{
+    QFile::setPermissions(file, forMe | QFile::ReadOther | QFile::WriteOther);
+    QFile::setPermissions(folder, readable);
+    const OrdinaryUser user;
+    EXPECT_EQ(textsOfAll(), QStringList{"before"});
+    EXPECT_THAT(troubles, SizeIs(1));
 }
 
 TEST_F(HistoryKeeperTest, AFileThatSomebodyRemovesIsToldAndAnotherOneBegun)
