@@ -49,7 +49,8 @@ void ReceivedFiles::restore(ReceivedFile file)
 {
     if (has(file.link))
         return;
-    file.state = State::paused;
+    file.state = file.isGone ? State::failed : State::paused;
+    file.sentence = file.isGone ? goneSentence(file) : QString();
     insert(std::move(file));
     m_fetcher.lookUp(wantedOf(m_files.back()));
 }
@@ -165,7 +166,13 @@ void ReceivedFiles::discard(int number)
     if (!file || !file->isHalted())
         return;
     m_fetcher.discard(wantedOf(*file));
-    removeRow(static_cast<int>(file - m_files.data()));
+    forget(*file);
+}
+
+void ReceivedFiles::forget(const ReceivedFile &file)
+{
+    const int number = file.number;
+    removeRow(static_cast<int>(&file - m_files.data()));
     Q_EMIT discarded(number);
     Q_EMIT unfinishedChanged();
 }
@@ -213,8 +220,10 @@ void ReceivedFiles::told(const FetchedBytes &fetched)
     if (isOver)
         std::erase(m_fetching, fetched.number);
     if (ReceivedFile *const file = findRow(fetched.number)) {
-        if (fetched.what == What::there && file->state != State::paused)
+        if (fetched.what == What::there && !file->isHalted())
             return; // it has been gone on with meanwhile
+        if (fetched.what == What::there && file->isGone && fetched.place == 0)
+            return forget(*file);
         file->place = fetched.place;
         if (fetched.size > 0) // unless nobody has said it this time
             file->size = fetched.size;
@@ -250,8 +259,7 @@ void ReceivedFiles::finish(ReceivedFile &file, const FetchedBytes &fetched)
         return;
     case What::failed:
         file.state = State::failed;
-        file.sentence
-            = fetched.isGone ? tr("%1 no longer offers this file.").arg(paintedName(file.sender)) : fetched.sentence;
+        file.sentence = fetched.isGone ? goneSentence(file) : fetched.sentence;
         file.isGone = fetched.isGone;
         return;
     case What::done:
@@ -260,6 +268,11 @@ void ReceivedFiles::finish(ReceivedFile &file, const FetchedBytes &fetched)
         file.isChecked = fetched.isChecked;
         return;
     }
+}
+
+QString ReceivedFiles::goneSentence(const ReceivedFile &file)
+{
+    return tr("%1 no longer offers this file.").arg(paintedName(file.sender));
 }
 
 int ReceivedFiles::underWay() const

@@ -56,6 +56,8 @@ struct ReceivedFile {
         const bool isBroken = state == State::paused || (state == State::failed && !isGone);
         return !isLookedAt && !folder.isEmpty() && (isUnderWay() || isBroken);
     }
+    /// It will not be had any more, and what has come of it is still on the disk.
+    bool isRemnant() const { return state == State::failed && isGone && !isLookedAt && !folder.isEmpty() && place > 0; }
 };
 
 /// One row for each, the newest last. At most limits::filesReceivedAtOnce are fetched at a time, the others wait.
@@ -73,7 +75,8 @@ public:
     /// is. own: the address
     /// under which the sender knows this copy.
     std::optional<int> add(const QString &message, Ipv4Address writer, const QString &sender, Ipv4Address own);
-    /// Another row, paused, for what an earlier run has left. How far it is says the file itself, once that was asked.
+    /// Another row, paused, or failed where it is gone, for what an earlier run has left. How far it is says the file
+    /// itself, once that was asked; of one that is gone and has left nothing the row goes.
     void restore(ReceivedFile file);
     /// Null once it has gone to make room.
     const ReceivedFile *find(int number) const;
@@ -104,7 +107,7 @@ public:
 
 Q_SIGNALS:
     void changed(int number);
-    /// The user wants no more of it; its row has gone.
+    /// Nothing of it is left, as the user wants it; its row has gone.
     void discarded(int number);
     /// Another one is unfinished now, or one is not any more, or has come to a halt.
     void unfinishedChanged();
@@ -114,6 +117,7 @@ private:
     bool has(const FileLink &link) const;
     void insert(ReceivedFile file);
     void told(const FetchedBytes &fetched);
+    static QString goneSentence(const ReceivedFile &file);
     void finish(ReceivedFile &file, const FetchedBytes &fetched);
     void begin(ReceivedFile &file);
     static WantedFile wantedOf(const ReceivedFile &file);
@@ -121,6 +125,7 @@ private:
     void beginNext();
     void makeRoom();
     void removeRow(int row);
+    void forget(const ReceivedFile &file);
     void rowChanged(const ReceivedFile &file);
 
     FileFetcher &m_fetcher;

@@ -24,6 +24,7 @@ QJsonObject stored(const ReceivedFile &file)
             {QStringLiteral("sender"), file.sender},
             {QStringLiteral("own"), addressText(file.from)},
             {QStringLiteral("folder"), file.folder},
+            {QStringLiteral("gone"), file.isGone},
             {QStringLiteral("place"), static_cast<qint64>(file.place)},
             {QStringLiteral("size"), static_cast<qint64>(file.size)}};
 }
@@ -43,6 +44,7 @@ std::optional<ReceivedFile> readUnfinished(const QJsonObject &object)
     file.size = static_cast<quint64>(std::max<qint64>(object[QLatin1String("size")].toInteger(), 0));
     const auto place = static_cast<quint64>(std::max<qint64>(object[QLatin1String("place")].toInteger(), 0));
     file.place = std::min(place, file.size);
+    file.isGone = object[QLatin1String("gone")].toBool();
     return file;
 }
 
@@ -71,10 +73,13 @@ void UnfinishedFiles::load()
 
 void UnfinishedFiles::tellOfUnfinished()
 {
-    if (m_files.rowCount() == 0)
+    int unfinished = 0;
+    for (int row = 0; row < m_files.rowCount(); ++row)
+        unfinished += m_files.at(row).isUnfinished();
+    if (unfinished == 0)
         return;
     m_log.note(tr("files that had not all come when NIMB-Chat ended: %2; %1 goes on with them")
-                   .arg(QStringLiteral("%1"), QString::number(m_files.rowCount())),
+                   .arg(QStringLiteral("%1"), QString::number(unfinished)),
                {tr("Tools, Transfers..."), transfersCommand});
 }
 
@@ -82,8 +87,9 @@ void UnfinishedFiles::save()
 {
     QJsonArray array;
     for (int row = m_files.rowCount() - 1; row >= 0; --row) {
-        if (m_files.at(row).isUnfinished() && array.size() < limits::filesUnfinished)
-            array.prepend(stored(m_files.at(row)));
+        const ReceivedFile &file = m_files.at(row);
+        if ((file.isUnfinished() || file.isRemnant()) && array.size() < limits::filesUnfinished)
+            array.prepend(stored(file));
     }
     const QString json
         = array.isEmpty() ? QString() : QString::fromUtf8(QJsonDocument(array).toJson(QJsonDocument::Compact));

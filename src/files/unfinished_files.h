@@ -13,7 +13,8 @@ namespace nimb
 {
 
 /// Kept in the profile, the newest limits::filesUnfinished of them. They come back as paused: only the user says that
-/// one is gone on with, and only its sender whether there is still something to be had.
+/// one is gone on with, and only its sender whether there is still something to be had. One that is not, and of which
+/// something lies on the disk, comes back as failed, so that it can be discarded.
 class UnfinishedFiles : public QObject
 {
     Q_OBJECT

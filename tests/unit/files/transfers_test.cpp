@@ -501,6 +501,42 @@ TEST_F(TransfersTest, WhatIsDiscardedIsRemovedAndNotToldOfAtTheNextStart)
     EXPECT_NE(receive(), 0) << "whoever offers it once more is heard";
 }
 
+TEST_F(TransfersTest, WhatIsLeftOfAFileThatIsGoneComesBackToBeDiscardedAndIsNotToldOf)
+{
+    chat();
+    const int number = receive();
+    received().save(number, QStringLiteral("/in"));
+    tell({.number = number, .what = What::failed, .place = 45, .size = 100, .isGone = true});
+    copy.advance(1s);
+    const std::unique_ptr<Copy> later = justStarted();
+    EXPECT_THAT(later->view.log.text().toStdString(), testing::Not(HasSubstr("files that had not all come")));
+    ReceivedFiles &files = later->engine.transfers().received;
+    ASSERT_EQ(files.rowCount(), 1);
+    EXPECT_EQ(files.index(0, ReceivedFiles::Progress).data().toString(),
+              QStringLiteral("Ann no longer offers this file."));
+    EXPECT_THAT(later->fileFetcher.lookedUp, SizeIs(1));
+    files.discard(files.at(0).number);
+    EXPECT_THAT(later->fileFetcher.discarded, SizeIs(1));
+    later->advance(1s);
+    EXPECT_EQ(later->settings.value("Transfers", "UnfinishedFiles"), "");
+}
+
+TEST_F(TransfersTest, OfAFileThatIsGoneAndHasLeftNothingTheRowGoes)
+{
+    chat();
+    const int number = receive();
+    received().save(number, QStringLiteral("/in"));
+    tell({.number = number, .what = What::failed, .place = 45, .size = 100, .isGone = true});
+    copy.advance(1s);
+    const std::unique_ptr<Copy> later = next();
+    ReceivedFiles &files = later->engine.transfers().received;
+    ASSERT_EQ(files.rowCount(), 1);
+    later->fileFetcher.told({.number = files.at(0).number, .what = What::there, .place = 0});
+    EXPECT_EQ(files.rowCount(), 0);
+    later->advance(1s);
+    EXPECT_EQ(later->settings.value("Transfers", "UnfinishedFiles"), "");
+}
+
 TEST_F(TransfersTest, ARestartSaysWhatIsUnfinishedAndAsksTheDiskHowFarItIs)
 {
     chat();
