@@ -4,6 +4,7 @@
 #include "base/line_break.h"
 #include "base/remote_text.h"
 #include "conversation/spelling_marks.h"
+#include "widgets/emoji_look.h"
 #include "widgets/form_text.h"
 
 #include <QContextMenuEvent>
@@ -21,6 +22,7 @@ constexpr int visibleLines = 3;
 MessageInput::MessageInput(QWidget *parent) : PlainTextBox(parent)
 {
     setTabChangesFocus(true);
+    new EmojiLook(*document()); // which owns it
     connect(this, &QPlainTextEdit::textChanged, this, &MessageInput::cut);
 }
 

@@ -2,6 +2,7 @@
 
 #include "history/found_words.h"
 #include "history/history_model.h"
+#include "widgets/emoji_look.h"
 #include "widgets/muted_colour.h"
 
 #include <QAbstractItemView>
@@ -38,6 +39,7 @@ QColor hitGround(const QPalette &palette)
 void HistoryDelegate::layOut(QTextDocument &text, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     const bool selected = option.state.testFlag(QStyle::State_Selected);
+    new EmojiLook(text); // which owns it
     text.setUndoRedoEnabled(false);
     text.setDocumentMargin(0);
     text.setDefaultFont(option.font);

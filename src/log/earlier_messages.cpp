@@ -5,6 +5,7 @@
 #include "log/link_marks.h"
 #include "log/log_pictures.h"
 #include "log/metafile.h"
+#include "widgets/emoji_look.h"
 #include "widgets/muted_colour.h"
 
 #include <QPainter>
@@ -62,6 +63,7 @@ QAbstractTextDocumentLayout::Selection inLook(QTextDocument &text, int position,
 
 EarlierMessages::EarlierMessages(LogPictures &pictures) : m_pictures(pictures)
 {
+    new EmojiLook(m_text); // which owns it
     m_text.setUndoRedoEnabled(false);
     m_text.setIndentWidth(LogMarks::continuationIndent);
     m_text.documentLayout()->registerHandler(QTextFormat::ImageObject, &pictures);

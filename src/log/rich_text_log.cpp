@@ -11,6 +11,7 @@
 #include "log/log_font.h"
 #include "log/log_pictures.h"
 #include "log/new_lines_button.h"
+#include "widgets/emoji_look.h"
 #include "widgets/muted_colour.h"
 
 #include <QAction>
@@ -92,6 +93,7 @@ RichTextLogEdit::RichTextLogEdit(QWidget *parent)
 
     m_pictures = new LogPictures([this] { return pictureScale(); }, this);
     document()->documentLayout()->registerHandler(QTextFormat::ImageObject, m_pictures);
+    new EmojiLook(*document()); // which owns it
     prepareLines();
     m_frame.setSingleShot(true);
     m_frame.setTimerType(Qt::PreciseTimer);
