@@ -112,6 +112,7 @@ RichTextLogEdit::RichTextLogEdit(QWidget *parent)
         Q_EMIT endReached();
     });
     connect(&m_frame, &QTimer::timeout, this, &RichTextLogEdit::writeGathered);
+    connect(document()->documentLayout(), &QAbstractTextDocumentLayout::update, this, &RichTextLogEdit::paintAround);
     m_roomForEarlier.setSingleShot(true);
     connect(&m_roomForEarlier, &QTimer::timeout, this, &RichTextLogEdit::askForEarlier);
     m_findBar = new FindBar(*this);
@@ -752,6 +753,16 @@ std::vector<LogMarks::Seen> RichTextLogEdit::linesIn(const QRect &place) const
             break;
     }
     return lines;
+}
+
+/// The ground of a line reaches out of what the layout knows of.
+void RichTextLogEdit::paintAround(const QRectF &changed)
+{
+    const int around = heightOfLine();
+    const QRectF sight(0, verticalScrollBar()->value(), viewport()->width(), viewport()->height());
+    const QRectF place = changed.adjusted(0, -around, 0, around).intersected(sight);
+    if (!place.isEmpty())
+        viewport()->update(place.translated(0, -sight.top()).toAlignedRect());
 }
 
 void RichTextLogEdit::paintEvent(QPaintEvent *event)

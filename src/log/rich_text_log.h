@@ -184,6 +184,7 @@ private:
     /// Room for the marks as the font is now.
     void makeRoom();
     std::vector<LogMarks::Seen> linesIn(const QRect &place) const;
+    void paintAround(const QRectF &changed);
     void paintText(QPainter &painter, const QRect &place, const std::vector<LogMarks::Seen> &lines);
     QList<QAbstractTextDocumentLayout::Selection> adaptedColours(const std::vector<LogMarks::Seen> &lines);
     void showFound(QList<QAbstractTextDocumentLayout::Selection> &selections,

@@ -247,6 +247,38 @@ TEST_F(LogMarksTest, OwnMessagesHaveAGroundOfTheirOwn)
     }
 }
 
+/// What a widget was asked to paint.
+class Painted : public QObject
+{
+public:
+    explicit Painted(QWidget &view) : m_view(view) { view.installEventFilter(this); }
+    QRegion region;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == &m_view && event->type() == QEvent::Paint)
+            region += static_cast<const QPaintEvent *>(event)->region();
+        return false;
+    }
+
+private:
+    QWidget &m_view;
+};
+
+TEST_F(LogMarksTest, TheGroundOfANewLineIsPaintedAsFarAsItGoesUp)
+{
+    me(QStringLiteral("one"));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&log));
+    picture();
+    Painted painted(*log.viewport());
+    me(QStringLiteral("two"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !painted.region.isEmpty(); }));
+    const int firstEnd = qRound(placeOf(0).bottom());
+    for (int y = firstEnd; y < placeOf(1).top(); ++y)
+        EXPECT_TRUE(painted.region.contains(QPoint(2, y))) << y << " of " << firstEnd;
+}
+
 TEST_F(LogMarksTest, WhatHasNotArrivedBearsAMark)
 {
     me(QStringLiteral("first"));
