@@ -11,6 +11,7 @@
 #include "main_window/state_chooser.h"
 #include "widgets/bring_back.h"
 #include "widgets/elided_label.h"
+#include "widgets/elided_line.h"
 #include "widgets/file_dialogs.h"
 #include "widgets/form_layout.h"
 #include "widgets/form_text.h"
@@ -149,9 +150,8 @@ void frmMain::buildContacts(QWidget *parent)
     RescanBtn = named(new QPushButton(namedPicture(QStringLiteral("rescan")), tr("&Rescan"), parent), "RescanBtn");
     buzzmute = named(new QCheckBox(tr("Mute Buzz"), parent), "buzzmute");
     ListDetails = named(new QCheckBox(tr("Users &details"), parent), "ListDetails");
-    ItemDetailstxt = named(new QLineEdit(parent), "ItemDetailstxt");
+    ItemDetailstxt = named(new ElidedLine(parent), "ItemDetailstxt");
     ItemDetailstxt->setAccessibleName(tr("Selected contact"));
-    ItemDetailstxt->setReadOnly(true);
     ItemDetailstxt->setFrame(false);
     ItemDetailstxt->setFocusPolicy(Qt::ClickFocus);
     QPalette ground = ItemDetailstxt->palette();

@@ -2,6 +2,7 @@
 
 #include "base/limits.h"
 #include "main_window/contact_view.h"
+#include "widgets/elided_line.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>
@@ -537,6 +538,23 @@ TEST_F(FrmMain, OfSeveralContactsItSaysHowManyAreSelected)
     EXPECT_EQ(details.text(), QStringLiteral("3 contacts selected"));
     windows.click(0);
     EXPECT_EQ(details.text(), one);
+}
+
+TEST_F(FrmMain, TheLineBelowTheListSaysWhereItGoesOn)
+{
+    auto &details = windows.control<ElidedLine>("ItemDetailstxt");
+    const QString all = QStringLiteral("Somebody with a long name on A-COMPUTER-WITH-A-LONG-NAME (10.0.0.2) - Away");
+    details.resize(200, details.height());
+    details.setText(all);
+    details.setCursorPosition(0);
+    const QString shown = details.shownText();
+    EXPECT_TRUE(shown.endsWith(QChar(0x2026))) << shown.toStdString();
+    EXPECT_EQ(details.text(), all);
+    EXPECT_EQ(details.toolTip(), all);
+    const QImage elided = details.grab().toImage();
+    details.setText(shown);
+    EXPECT_EQ(details.toolTip(), QString());
+    EXPECT_EQ(elided, details.grab().toImage()) << "painted as any other text";
 }
 
 TEST_F(FrmMain, RescanningAsksEveryContactAndDisablesItself)
