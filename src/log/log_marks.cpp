@@ -10,6 +10,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPalette>
+#include <QTextLayout>
 
 namespace nimb
 {
@@ -111,7 +112,11 @@ bool timesAreAtTheLeft()
 QRect placeOfTime(const LogMarks::Seen &line, int width, const QFont &font)
 {
     const int left = timesAreAtTheLeft() ? markEdge : 0;
-    return {left, qRound(line.place.top()), width - markEdge, QFontMetrics(font).height()};
+    const QFontMetrics metrics(font);
+    // A picture makes its line higher; the letters beside it stand on their own line all the same.
+    const QTextLine first = line.block.layout()->lineCount() > 0 ? line.block.layout()->lineAt(0) : QTextLine();
+    const double baseline = first.isValid() ? first.y() + first.ascent() : metrics.ascent();
+    return {left, qRound(line.place.top() + baseline) - metrics.ascent(), width - markEdge, metrics.height()};
 }
 
 } // namespace

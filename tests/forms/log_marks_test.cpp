@@ -1,7 +1,9 @@
 // What is painted beside the lines of a log and above them, and how one finds his way in it.
+#include "log/RTFSubClass.h"
 #include "log/earlier_messages.h"
 #include "log/find_bar.h"
 #include "log/log_pictures.h"
+#include "log/metafile.h"
 #include "log/rich_text_log.h"
 #include "widgets/muted_colour.h"
 
@@ -105,6 +107,30 @@ TEST_F(LogMarksTest, TheTimeStandsBesideTheFirstLineOfAMinute)
     EXPECT_FALSE(isBlank(marginOf(0)));
     EXPECT_TRUE(isBlank(marginOf(1)));
     EXPECT_FALSE(isBlank(marginOf(2)));
+}
+
+TEST_F(LogMarksTest, TheTimeStandsOnTheLineOfTheLettersBesideAPictureToo)
+{
+    ann(QStringLiteral("Hello"));
+    log.setSelMessage(LogMessage{.writer = ann_, .time = saturday.addSecs(60)});
+    appendText(log, QStringLiteral("Ann> "), 0xC00000);
+    appendPicture(log, emoticonFragment(3), QStringLiteral(":)"));
+    appendText(log, QStringLiteral("\r\n"), 0xC00000);
+    log.writeGathered();
+    QCoreApplication::processEvents();
+    ASSERT_GT(placeOf(1).height(), placeOf(0).height()) << "the picture makes its line higher";
+    const QImage margin = picture().copy(log.viewport()->width() - 40, 0, 40, log.viewport()->height());
+    const auto belowLetters = [&](int line) {
+        const QTextLine first = log.document()->findBlockByNumber(line).layout()->lineAt(0);
+        const int baseline = qRound(placeOf(line).top() + first.y() + first.ascent());
+        const int end = qRound(placeOf(line).bottom());
+        for (int y = end; y > end - 40; --y) {
+            if (!isBlank(margin.copy(0, y, margin.width(), 1)))
+                return y - baseline;
+        }
+        return 40;
+    };
+    EXPECT_EQ(belowLetters(1), belowLetters(0));
 }
 
 /// The application is laid out from the right to the left as long as this is there.
