@@ -86,6 +86,23 @@ void drawTabEdge(const QStyleOptionTab &tab, QPainter &painter)
     painter.restore();
 }
 
+/// A plain bar: the style's own is a shade away from what it moves on.
+void drawHandle(const QRect &place, const QStyleOptionSlider &bar, QPainter &painter)
+{
+    constexpr int besideBar = 3, roundEnd = 3;
+    const bool lies = bar.orientation == Qt::Horizontal;
+    const QRect handle
+        = place.adjusted(lies ? 1 : besideBar, lies ? besideBar : 1, lies ? -1 : -besideBar, lies ? -besideBar : -1);
+    if (!bar.state.testFlag(QStyle::State_Enabled) || bar.maximum <= bar.minimum || handle.isEmpty())
+        return;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(outlineColour(bar.palette));
+    painter.drawRoundedRect(handle, roundEnd, roundEnd);
+    painter.restore();
+}
+
 template <class Option> Option inColours(const Option &option, const QPalette &palette)
 {
     Option copy(option);
@@ -158,7 +175,8 @@ void ClearOutlines::drawComplexControl(ComplexControl control, const QStyleOptio
         const auto *const bar = qstyleoption_cast<const QStyleOptionSlider *>(option);
         if (control == CC_ScrollBar && bar && isOfHighContrast(bar->palette)) {
             const QStyleOptionSlider copy = inColours(*bar, outlined(bar->palette));
-            return QProxyStyle::drawComplexControl(control, &copy, painter, widget);
+            QProxyStyle::drawComplexControl(control, &copy, painter, widget);
+            return drawHandle(proxy()->subControlRect(control, bar, SC_ScrollBarSlider, widget), *bar, *painter);
         }
     }
     QProxyStyle::drawComplexControl(control, option, painter, widget);

@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QScrollBar>
 
 namespace nimb::test
 {
@@ -122,6 +123,24 @@ TEST_P(ClearOutlinesTest, OfAGroup)
 }
 
 INSTANTIATE_TEST_SUITE_P(, ClearOutlinesTest, testing::Values("dark", "whiteOnBlack", "blackOnWhite"),
+                         [](const auto &palette) { return std::string(palette.param); });
+
+class HighContrastTest : public ClearOutlinesTest
+{
+};
+
+TEST_P(HighContrastTest, TheHandleOfAScrollBarStandsOutFromWhatItMovesOn)
+{
+    QScrollBar bar(Qt::Vertical);
+    bar.setRange(0, 100);
+    bar.setPageStep(100);
+    bar.resize(bar.sizeHint().width(), 200);
+    const QImage image = bar.grab().toImage();
+    const int middle = bar.width() / 2;
+    EXPECT_GE(contrast(image.pixelColor(middle, 60), image.pixelColor(middle, 150)), visible);
+}
+
+INSTANTIATE_TEST_SUITE_P(, HighContrastTest, testing::Values("whiteOnBlack", "blackOnWhite"),
                          [](const auto &palette) { return std::string(palette.param); });
 
 TEST(ClearOutlinesOnLight, AreThoseOfTheStyleItself)
