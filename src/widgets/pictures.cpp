@@ -108,7 +108,8 @@ private:
     {
         const auto *const next = std::ranges::lower_bound(renderedSizes, side);
         const int size = next == renderedSizes.end() ? renderedSizes.back() : *next;
-        QImage image(fileOf(m_path, size));
+        // Before it is scaled: turned afterwards, what Qt 6.4 has scaled gets colours brighter than their share.
+        const QImage image = QImage(fileOf(m_path, size)).convertToFormat(QImage::Format_ARGB32_Premultiplied);
         if (size == side)
             return image;
         return image.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
@@ -131,7 +132,6 @@ private:
 
     static void tint(QImage &image, const QColor &colour)
     {
-        image = std::move(image).convertToFormat(QImage::Format_ARGB32_Premultiplied);
         QPainter painter(&image);
         painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
         painter.fillRect(image.rect(), colour);

@@ -161,6 +161,31 @@ TEST(Pictures, ThoseOfOneColourTakeTheTextColour)
     }
 }
 
+/// What a painter adds up: a colour is never brighter than its share of the point.
+bool isSound(const QImage &picture)
+{
+    const QImage image = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *const line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb point = line[x];
+            if (qMax(qRed(point), qMax(qGreen(point), qBlue(point))) > qAlpha(point))
+                return false;
+        }
+    }
+    return true;
+}
+
+TEST(Pictures, NoneHasAFringeInAnySize)
+{
+    const Palette dark(QColor(0xEE, 0xEE, 0xEE), Qt::black);
+    const QIcon avatar = namedPicture(QStringLiteral("avatar")), online = namedPicture(QStringLiteral("green"));
+    for (int side = 16; side <= 96; ++side) {
+        EXPECT_TRUE(isSound(avatar.pixmap(side, side).toImage())) << side;
+        EXPECT_TRUE(isSound(online.pixmap(side, side).toImage())) << side;
+    }
+}
+
 TEST(Pictures, ThoseOfSeveralColoursKeepThem)
 {
     const Palette dark(Qt::white, Qt::black);
