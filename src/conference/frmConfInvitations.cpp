@@ -181,10 +181,18 @@ void frmConfInvitations::changeEvent(QEvent *event)
 
 void frmConfInvitations::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Escape)
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (event->key() == Qt::Key_Escape) {
         close();
-    else
-        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (!isEnter || event->isAutoRepeat())
+        return QWidget::keyPressEvent(event);
+    // Which has come to be chosen here, never by itself while one types: the list selects nothing in an active window.
+    if (ListView1->hasFocus())
+        ConfAgreebtn->click();
+    else if (auto *const button = qobject_cast<QPushButton *>(focusWidget()))
+        button->click();
 }
 
 void frmConfInvitations::closeEvent(QCloseEvent *event)

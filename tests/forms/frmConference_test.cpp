@@ -18,6 +18,7 @@ namespace nimb::test
 namespace
 {
 
+using testing::Contains;
 using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
@@ -407,6 +408,37 @@ TEST_F(FrmConference, OnlyPendingInvitationsAreAnswered)
     EXPECT_EQ(list.model()->index(0, 2).data().toString(), QStringLiteral("Refused"));
     QTest::mouseClick(&RealWindows::control<QPushButton>(invitations(), "clearbtn"), Qt::LeftButton);
     EXPECT_FALSE(invitations().isVisible());
+}
+
+TEST_F(FrmConference, EnterAcceptsTheChosenInvitationAndPressesTheButtonWithTheFocus)
+{
+    windows.arrive("10.0.0.2", "?CONF INVITE #3");
+    windows.arrive("10.0.0.3", "?CONF INVITE #4");
+    auto &list = RealWindows::control<QTreeView>(invitations(), "ListView1");
+    windows.entry("mnushowinvitations").trigger();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&invitations()));
+    windows.sent();
+    list.selectionModel()->clear();
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_THAT(windows.sent(), IsEmpty()) << "none is chosen";
+    auto &minutes = RealWindows::control<QLineEdit>(invitations(), "autorefusemins");
+    list.setCurrentIndex(list.model()->index(0, 0));
+    minutes.setFocus();
+    QTest::keyClick(&minutes, Qt::Key_Return);
+    EXPECT_THAT(windows.sent(), IsEmpty()) << "typed elsewhere";
+    auto &deny = RealWindows::control<QPushButton>(invitations(), "ConfDenybtn");
+    deny.setFocus();
+    QTest::keyClick(&deny, Qt::Key_Return);
+    EXPECT_THAT(windows.sent(), ElementsAre(To("10.0.0.2", "!CONF INVITE #3 DENY")));
+    list.setCurrentIndex(list.model()->index(0, 0));
+    list.setFocus();
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(&list, &held);
+    EXPECT_THAT(windows.sent(), IsEmpty()) << "held down since another window";
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_THAT(windows.sent(), Contains(To("10.0.0.3", "!CONF INVITE #4 AGREE")));
+    EXPECT_EQ(open().size(), 1U);
 }
 
 TEST_F(FrmConference, TheMinutesBoxHoldsANumber)
