@@ -13,7 +13,10 @@ namespace nimb
 
 QWidget *MessageBoxes::over() const
 {
-    QWidget *const active = QApplication::activeWindow();
+    QWidget *active = QApplication::activeWindow();
+    // A dialog that is just closing would take the box with it, and the focus would go to anybody.
+    while (active && !active->isVisible())
+        active = active->parentWidget() ? active->parentWidget()->window() : nullptr;
     return active ? active : m_window.data();
 }
 

@@ -100,6 +100,28 @@ TEST(PlainMessageBox, ShowsMarkupAndAnswersWithItsButtons)
     EXPECT_EQ(shown, QStringLiteral("<i>y</i>"));
 }
 
+TEST(PlainMessageBox, BelongsToTheWindowWhoseDialogIsJustClosing)
+{
+    MessageBoxes boxes;
+    QWidget program, asked;
+    boxes.setParentWindow(&program);
+    asked.show();
+    QDialog files(&asked);
+    files.show();
+    QApplication::setActiveWindow(&files);
+    ASSERT_EQ(QApplication::activeWindow(), &files);
+    QWidget *owner = nullptr;
+    QTimer::singleShot(0, [&owner] {
+        auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        owner = box->parentWidget();
+        box->button(QMessageBox::Ok)->click();
+    });
+    files.setAttribute(Qt::WA_WState_Visible, false); // as within its own closing
+    boxes.tell(QStringLiteral("a bad line"), QStringLiteral("t"));
+    files.setAttribute(Qt::WA_WState_Visible, true);
+    EXPECT_EQ(owner, &asked);
+}
+
 TEST(UnaskedMessageBox, TakesNoFocusAndReturnMeansNo)
 {
     MessageBoxes boxes;
