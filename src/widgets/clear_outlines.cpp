@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QPainter>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QStyleOption>
 #include <QTextEdit>
 
@@ -103,6 +104,31 @@ void drawHandle(const QRect &place, const QStyleOptionSlider &bar, QPainter &pai
     painter.restore();
 }
 
+/// The accent, or half of it where it is as black as an outline without the focus.
+QColor focusColour(const QPalette &palette)
+{
+    constexpr double toldApart = 1.5;
+    const QColor accent = palette.color(QPalette::Highlight), ground = palette.color(QPalette::Base);
+    if (contrast(accent, outlineColour(palette)) >= toldApart)
+        return accent;
+    return {(accent.red() + ground.red()) / 2, (accent.green() + ground.green()) / 2,
+            (accent.blue() + ground.blue()) / 2};
+}
+
+/// Where the style itself shows nothing: around a text, and in a default button, which is edged as one with the focus.
+void drawFocus(QStyle::PrimitiveElement element, const QStyleOption &option, QPainter &painter, const QWidget *widget)
+{
+    if (!option.state.testFlag(QStyle::State_HasFocus))
+        return;
+    const bool isText = qobject_cast<const QTextEdit *>(widget) || qobject_cast<const QPlainTextEdit *>(widget);
+    if (element == QStyle::PE_Frame && isText)
+        drawEdge(painter, option.rect, focusColour(option.palette));
+    const auto *const button = qobject_cast<const QPushButton *>(widget);
+    const bool byKeys = option.state.testFlag(QStyle::State_KeyboardFocusChange);
+    if (element == QStyle::PE_PanelButtonCommand && byKeys && button && button->isDefault())
+        drawEdge(painter, option.rect.adjusted(3, 3, -3, -3), option.palette.color(QPalette::ButtonText));
+}
+
 template <class Option> Option inColours(const Option &option, const QPalette &palette)
 {
     Option copy(option);
@@ -138,15 +164,19 @@ void ClearOutlines::drawPrimitive(PrimitiveElement element, const QStyleOption *
         const QPalette &colours = outlined(option->palette);
         if (const auto *const button = qstyleoption_cast<const QStyleOptionButton *>(option)) {
             const QStyleOptionButton copy = inColours(*button, colours);
-            return QProxyStyle::drawPrimitive(element, &copy, painter, widget);
+            QProxyStyle::drawPrimitive(element, &copy, painter, widget);
+            return drawFocus(element, *option, *painter, widget);
         }
         if (const auto *const frame = qstyleoption_cast<const QStyleOptionFrame *>(option)) {
             const QStyleOptionFrame copy = inColours(*frame, colours);
-            return QProxyStyle::drawPrimitive(element, &copy, painter, widget);
+            QProxyStyle::drawPrimitive(element, &copy, painter, widget);
+            return drawFocus(element, *option, *painter, widget);
         }
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool isPressedTool = element == PE_PanelButtonTool && option && option->state.testFlag(State_On);
+    if (option)
+        drawFocus(element, *option, *painter, widget);
     if (clear && (element == PE_FrameMenu || element == PE_PanelMenu || isPressedTool))
         drawEdge(*painter, option->rect, outlineColour(option->palette));
 }

@@ -12,8 +12,11 @@
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QTest>
+#include <QTextEdit>
 
 namespace nimb::test
 {
@@ -112,6 +115,49 @@ TEST_P(ClearOutlinesTest, OfAComboBox)
 {
     QComboBox combo;
     EXPECT_GE(leftEdge(combo), visible);
+}
+
+/// How much of what is drawn changes when the widget gets the focus by the Tab key.
+int changedByFocus(QWidget &widget)
+{
+    QWidget window;
+    QLineEdit other(&window);
+    widget.setParent(&window);
+    widget.setGeometry(8, 40, 100, 60);
+    window.resize(120, 110);
+    window.show();
+    other.setFocus();
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    // Its edge alone: a caret is no frame.
+    const auto edge = [&widget] { return widget.grab().toImage().copy(0, 3, 6, 50); };
+    const QImage without = edge();
+    window.setAttribute(Qt::WA_KeyboardFocusChange); // as the key itself does
+    widget.setFocus(Qt::TabFocusReason);
+    const QImage with = edge();
+    int changed = 0;
+    for (int y = 0; y < with.height(); ++y) {
+        double most = 1;
+        for (int x = 0; x < with.width(); ++x)
+            most = qMax(most, contrast(with.pixelColor(x, y), without.pixelColor(x, y)));
+        changed += most > 1.5 ? 1 : 0;
+    }
+    widget.setParent(nullptr);
+    return changed;
+}
+
+TEST_P(ClearOutlinesTest, OfATextWithTheFocusAreSeen)
+{
+    QTextEdit log;
+    log.setReadOnly(true);
+    EXPECT_GT(changedByFocus(log), 40);
+}
+
+TEST_P(ClearOutlinesTest, OfADefaultButtonWithTheFocusAreSeen)
+{
+    QPushButton send(QStringLiteral("Send"));
+    send.setDefault(true);
+    EXPECT_GT(changedByFocus(send), 40);
 }
 
 TEST_P(ClearOutlinesTest, OfAGroup)
