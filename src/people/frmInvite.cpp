@@ -21,14 +21,15 @@ using form_layout::groupDistance;
 using form_layout::margin;
 using form_layout::spacing;
 
-constexpr int labelWidth = 360;
+constexpr int labelWidth = 360, letters = 52;
 
 /// One line that never widens the dialog; what there is no room for can be read in its tool tip.
 QLabel *textLine(QWidget *parent, const char *name)
 {
     auto *const label = named(new ElidedLabel(parent), name);
     label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    label->setMinimumWidth(labelWidth);
+    // With large letters more, so that the standard text has room.
+    label->setMinimumWidth(qMax(labelWidth, letters * label->fontMetrics().averageCharWidth()));
     return label;
 }
 

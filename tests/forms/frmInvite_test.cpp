@@ -9,6 +9,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -70,6 +72,19 @@ protected:
     QWidget parent;
     QPointer<frmInvite> dialog;
 };
+
+TEST_F(FrmInvite, WithLargeLettersTheStandardTextIsNotCut)
+{
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSize(16);
+    QApplication::setFont(large);
+    common.ownNickname = QStringLiteral("Somebody Else");
+    open();
+    const auto &standard = *dialog->findChild<QLabel *>(QStringLiteral("stdtext"));
+    EXPECT_LE(standard.fontMetrics().horizontalAdvance(standard.text()), standard.width());
+    QApplication::setFont(usual);
+}
 
 TEST_F(FrmInvite, SaysToWhomAndOffersTheStandardText)
 {
