@@ -109,6 +109,17 @@
     </message>
 </context>
 <context>
+    <name>ConsoleCommands</name>
+    <message>
+        <source>No copy of NIMB-Chat runs with this profile.</source>
+        <translation>لا يعمل NIMB-Chat بهذا الملف الشخصي.</translation>
+    </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs gives no answer.</source>
+        <translation>لا يجيب NIMB-Chat قيد التشغيل.</translation>
+    </message>
+</context>
+<context>
     <name>ContactCommands</name>
     <message>
         <source>&amp;Private Chat</source>
@@ -970,6 +981,10 @@
         <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
         <translation>أُزيلت المحفوظات في ⁨%1⁩ أو استُبدلت أثناء تشغيل NIMB-Chat: ما يقال من الآن فصاعدًا يُحفظ في الملف الموجود هناك الآن.</translation>
     </message>
+    <message>
+        <source>The history in %1 can only be read now (%2): nothing more is kept until that changes.</source>
+        <translation>لا يمكن الآن إلا قراءة المحفوظات في ‎⁨%1⁩ (⁨%2⁩): لن يُحفظ المزيد حتى يتغير ذلك.</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1519,6 +1534,10 @@
         <source>The port must be a number from 1 to 65535.</source>
         <translation>يجب أن يكون المنفذ رقمًا من 1 إلى 65535.</translation>
     </message>
+    <message>
+        <source>Starting with the desktop cannot be changed: %1</source>
+        <translation>يتعذر تغيير البدء مع سطح المكتب: ⁨%1⁩</translation>
+    </message>
 </context>
 <context>
     <name>OwnNetworks</name>
@@ -1738,6 +1757,45 @@
     <message>
         <source>--- NIMB-Chat could not save everything when it last ended: what had changed is taken over, but for %1 damaged values ---</source>
         <translation>--- لم يتمكن NIMB-Chat من حفظ كل شيء عند إنهائه آخر مرة: استُعيد ما كان قد تغيّر، ما عدا القيم التالفة وعددها ⁨%1⁩ ---</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteCommands</name>
+    <message>
+        <source>The copy of NIMB-Chat that runs knows no command "%1".</source>
+        <translation>لا يعرف NIMB-Chat قيد التشغيل الأمر «⁨%1⁩».</translation>
+    </message>
+    <message>
+        <source>No contact is called "%1" or has this address.</source>
+        <translation>لا توجد جهة اتصال باسم «⁨%1⁩» أو بهذا العنوان.</translation>
+    </message>
+    <message>
+        <source>Several contacts are called "%1": name one by its address (%2).</source>
+        <translation>توجد عدة جهات اتصال باسم «⁨%1⁩»: حدّد واحدة بعنوانها (⁨%2⁩).</translation>
+    </message>
+    <message>
+        <source>%1 is not online: nothing was sent.</source>
+        <translation>⁨%1⁩ غير متصل: لم يُرسل شيء.</translation>
+    </message>
+    <message>
+        <source>There is no text to be sent.</source>
+        <translation>لا يوجد نص لإرساله.</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
+        <translation>تتسع الرسالة لعدد أحرف ⁨%1⁩، وفي هذه ⁨%2⁩: لم يُرسل شيء.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>تتعذر قراءة ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>No text can stand beside "invisible".</source>
+        <translation>لا يقبل «invisible» نصًا.</translation>
+    </message>
+    <message>
+        <source>There is no state "%1": online, busy, away and invisible are.</source>
+        <translation>لا توجد الحالة «⁨%1⁩»: المتاح online و busy و away و invisible.</translation>
     </message>
 </context>
 <context>
@@ -2375,6 +2433,10 @@
         <source>Hide</source>
         <translation>إخفاء</translation>
     </message>
+    <message>
+        <source>Show here</source>
+        <translation>إظهار هنا</translation>
+    </message>
 </context>
 <context>
     <name>nimb::FileRow</name>
@@ -2437,6 +2499,10 @@
     <message>
         <source>Picture %1</source>
         <translation>الصورة ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>This picture is too large to be shown: it has more than %1 megapixels. Save it.</source>
+        <translation>هذه الصورة أكبر من أن تُعرض: فيها أكثر من ⁨%1⁩ ميغابكسل. احفظها.</translation>
     </message>
 </context>
 <context>
@@ -3353,6 +3419,10 @@ Send it to %4?</source>
         <source>Nothing was erased: the history cannot be written.</source>
         <translation>لم يُمحَ شيء: تتعذر الكتابة إلى المحفوظات.</translation>
     </message>
+    <message>
+        <source>Erase all that is kept of all conversations for good? What waits to be sent stays and is sent.</source>
+        <translation>هل تريد محو كل ما هو محفوظ من جميع المحادثات نهائيًا؟ ما ينتظر الإرسال يبقى ويُرسل.</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmInvite</name>
@@ -3799,6 +3869,14 @@ Send it to %4?</source>
         <source>Images (*.jpg,*.gif,*.bmp)</source>
         <translation>الصور (*.jpg,*.gif,*.bmp)</translation>
     </message>
+    <message>
+        <source>Start with the desktop</source>
+        <translation>البدء مع سطح المكتب</translation>
+    </message>
+    <message>
+        <source>At every login, minimised, under your nickname</source>
+        <translation>عند كل تسجيل دخول، مصغّرًا، باسمك المستعار</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmPrivate</name>
@@ -4129,6 +4207,18 @@ Send it to %4?</source>
     <message>
         <source>Save A&amp;ll (%1)...</source>
         <translation>حفظ ال&amp;كل (⁨%1⁩)...</translation>
+    </message>
+    <message>
+        <source>&amp;Discard...</source>
+        <translation>&amp;تجاهل...</translation>
+    </message>
+    <message>
+        <source>Gives the file up, and removes what has come of it</source>
+        <translation>التخلي عن الملف وإزالة ما وصل منه</translation>
+    </message>
+    <message>
+        <source>Discard "%1"? What has come of it, %2, is removed from the disk.</source>
+        <translation>هل تريد تجاهل «⁨%1⁩»؟ سيُزال من القرص ما وصل منه، ⁨%2⁩.</translation>
     </message>
 </context>
 </TS>

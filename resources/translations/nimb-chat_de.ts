@@ -109,6 +109,17 @@
     </message>
 </context>
 <context>
+    <name>ConsoleCommands</name>
+    <message>
+        <source>No copy of NIMB-Chat runs with this profile.</source>
+        <translation>NIMB-Chat läuft nicht mit diesem Profil.</translation>
+    </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs gives no answer.</source>
+        <translation>Das laufende NIMB-Chat antwortet nicht.</translation>
+    </message>
+</context>
+<context>
     <name>ContactCommands</name>
     <message>
         <source>&amp;Private Chat</source>
@@ -966,6 +977,10 @@
         <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
         <translation>Der Verlauf in %1 wurde entfernt oder ersetzt, während NIMB-Chat läuft: Was von jetzt an gesagt wird, kommt in den, der jetzt dort liegt.</translation>
     </message>
+    <message>
+        <source>The history in %1 can only be read now (%2): nothing more is kept until that changes.</source>
+        <translation>Der Verlauf in %1 kann zurzeit nur gelesen werden (%2): Bis sich das ändert, wird nichts mehr aufbewahrt.</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1511,6 +1526,10 @@
         <source>The port must be a number from 1 to 65535.</source>
         <translation>Der Port muss eine Zahl von 1 bis 65535 sein.</translation>
     </message>
+    <message>
+        <source>Starting with the desktop cannot be changed: %1</source>
+        <translation>Das Starten mit dem Desktop lässt sich nicht ändern: %1</translation>
+    </message>
 </context>
 <context>
     <name>OwnNetworks</name>
@@ -1730,6 +1749,45 @@
     <message>
         <source>--- NIMB-Chat could not save everything when it last ended: what had changed is taken over, but for %1 damaged values ---</source>
         <translation>--- beim letzten Beenden konnte NIMB-Chat nicht alles speichern: Die Änderungen werden übernommen, beschädigte Werte (%1) ausgenommen ---</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteCommands</name>
+    <message>
+        <source>The copy of NIMB-Chat that runs knows no command "%1".</source>
+        <translation>Das laufende NIMB-Chat kennt den Befehl „%1“ nicht.</translation>
+    </message>
+    <message>
+        <source>No contact is called "%1" or has this address.</source>
+        <translation>Kein Kontakt heißt „%1“ oder hat diese Adresse.</translation>
+    </message>
+    <message>
+        <source>Several contacts are called "%1": name one by its address (%2).</source>
+        <translation>Mehrere Kontakte heißen „%1“: Nennen Sie einen mit seiner Adresse (%2).</translation>
+    </message>
+    <message>
+        <source>%1 is not online: nothing was sent.</source>
+        <translation>%1 ist nicht online: Es wurde nichts gesendet.</translation>
+    </message>
+    <message>
+        <source>There is no text to be sent.</source>
+        <translation>Es gibt keinen Text zu senden.</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
+        <translation>Eine Nachricht fasst %1 Zeichen, diese hat %2: Es wurde nichts gesendet.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>No text can stand beside "invisible".</source>
+        <translation>Zu „invisible“ gehört kein Text.</translation>
+    </message>
+    <message>
+        <source>There is no state "%1": online, busy, away and invisible are.</source>
+        <translation>Den Zustand „%1“ gibt es nicht, nur online, busy, away und invisible.</translation>
     </message>
 </context>
 <context>
@@ -2367,6 +2425,10 @@
         <source>Hide</source>
         <translation>Ausblenden</translation>
     </message>
+    <message>
+        <source>Show here</source>
+        <translation>Hier anzeigen</translation>
+    </message>
 </context>
 <context>
     <name>nimb::FileRow</name>
@@ -2429,6 +2491,10 @@
     <message>
         <source>Picture %1</source>
         <translation>Bild %1</translation>
+    </message>
+    <message>
+        <source>This picture is too large to be shown: it has more than %1 megapixels. Save it.</source>
+        <translation>Dieses Bild ist zu groß, um angezeigt zu werden: Es hat mehr als %1 Megapixel. Speichern Sie es.</translation>
     </message>
 </context>
 <context>
@@ -3341,6 +3407,10 @@ An %4 senden?</translation>
         <source>Nothing was erased: the history cannot be written.</source>
         <translation>Nichts wurde gelöscht: Der Verlauf kann nicht geschrieben werden.</translation>
     </message>
+    <message>
+        <source>Erase all that is kept of all conversations for good? What waits to be sent stays and is sent.</source>
+        <translation>Alles endgültig löschen, was von allen Unterhaltungen aufbewahrt wird? Was noch zu senden ist, bleibt und wird gesendet.</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmInvite</name>
@@ -3787,6 +3857,14 @@ An %4 senden?</translation>
         <source>Images (*.jpg,*.gif,*.bmp)</source>
         <translation>Bilder (*.jpg,*.gif,*.bmp)</translation>
     </message>
+    <message>
+        <source>Start with the desktop</source>
+        <translation>Mit dem Desktop starten</translation>
+    </message>
+    <message>
+        <source>At every login, minimised, under your nickname</source>
+        <translation>Bei jeder Anmeldung, minimiert, mit Ihrem Spitznamen</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmPrivate</name>
@@ -4117,6 +4195,18 @@ An %4 senden?</translation>
     <message>
         <source>Save A&amp;ll (%1)...</source>
         <translation>&amp;Alle speichern (%1)...</translation>
+    </message>
+    <message>
+        <source>&amp;Discard...</source>
+        <translation>&amp;Verwerfen...</translation>
+    </message>
+    <message>
+        <source>Gives the file up, and removes what has come of it</source>
+        <translation>Gibt die Datei auf und entfernt, was davon angekommen ist</translation>
+    </message>
+    <message>
+        <source>Discard "%1"? What has come of it, %2, is removed from the disk.</source>
+        <translation>„%1“ verwerfen? Was davon angekommen ist, %2, wird von der Festplatte entfernt.</translation>
     </message>
 </context>
 </TS>

@@ -109,6 +109,17 @@
     </message>
 </context>
 <context>
+    <name>ConsoleCommands</name>
+    <message>
+        <source>No copy of NIMB-Chat runs with this profile.</source>
+        <translation>NIMB-Chat no se está ejecutando con este perfil.</translation>
+    </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs gives no answer.</source>
+        <translation>El NIMB-Chat en ejecución no responde.</translation>
+    </message>
+</context>
+<context>
     <name>ContactCommands</name>
     <message>
         <source>&amp;Private Chat</source>
@@ -966,6 +977,10 @@
         <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
         <translation>El historial de %1 se ha eliminado o sustituido mientras NIMB-Chat está en marcha: lo que se diga a partir de ahora va al que hay allí ahora.</translation>
     </message>
+    <message>
+        <source>The history in %1 can only be read now (%2): nothing more is kept until that changes.</source>
+        <translation>Ahora el historial de %1 solo se puede leer (%2): no se guardará nada más hasta que eso cambie.</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1511,6 +1526,10 @@
         <source>The port must be a number from 1 to 65535.</source>
         <translation>El puerto debe ser un número del 1 al 65535.</translation>
     </message>
+    <message>
+        <source>Starting with the desktop cannot be changed: %1</source>
+        <translation>No se puede cambiar el inicio con el escritorio: %1</translation>
+    </message>
 </context>
 <context>
     <name>OwnNetworks</name>
@@ -1730,6 +1749,45 @@
     <message>
         <source>--- NIMB-Chat could not save everything when it last ended: what had changed is taken over, but for %1 damaged values ---</source>
         <translation>--- NIMB-Chat no pudo guardarlo todo la última vez que se cerró: se han recuperado los cambios, salvo %1 valores dañados ---</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteCommands</name>
+    <message>
+        <source>The copy of NIMB-Chat that runs knows no command "%1".</source>
+        <translation>El NIMB-Chat en ejecución no conoce la orden «%1».</translation>
+    </message>
+    <message>
+        <source>No contact is called "%1" or has this address.</source>
+        <translation>Ningún contacto se llama «%1» ni tiene esta dirección.</translation>
+    </message>
+    <message>
+        <source>Several contacts are called "%1": name one by its address (%2).</source>
+        <translation>Varios contactos se llaman «%1»: indique uno por su dirección (%2).</translation>
+    </message>
+    <message>
+        <source>%1 is not online: nothing was sent.</source>
+        <translation>%1 no está en línea: no se ha enviado nada.</translation>
+    </message>
+    <message>
+        <source>There is no text to be sent.</source>
+        <translation>No hay texto que enviar.</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
+        <translation>Un mensaje admite %1 caracteres y este tiene %2: no se ha enviado nada.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>No se puede leer %1.</translation>
+    </message>
+    <message>
+        <source>No text can stand beside "invisible".</source>
+        <translation>«invisible» no admite texto.</translation>
+    </message>
+    <message>
+        <source>There is no state "%1": online, busy, away and invisible are.</source>
+        <translation>El estado «%1» no existe: solo online, busy, away e invisible.</translation>
     </message>
 </context>
 <context>
@@ -2367,6 +2425,10 @@
         <source>Hide</source>
         <translation>Ocultar</translation>
     </message>
+    <message>
+        <source>Show here</source>
+        <translation>Mostrar aquí</translation>
+    </message>
 </context>
 <context>
     <name>nimb::FileRow</name>
@@ -2429,6 +2491,10 @@
     <message>
         <source>Picture %1</source>
         <translation>Imagen %1</translation>
+    </message>
+    <message>
+        <source>This picture is too large to be shown: it has more than %1 megapixels. Save it.</source>
+        <translation>Esta imagen es demasiado grande para mostrarse: tiene más de %1 megapíxeles. Guárdela.</translation>
     </message>
 </context>
 <context>
@@ -3341,6 +3407,10 @@ Send it to %4?</source>
         <source>Nothing was erased: the history cannot be written.</source>
         <translation>No se ha borrado nada: no se puede escribir en el historial.</translation>
     </message>
+    <message>
+        <source>Erase all that is kept of all conversations for good? What waits to be sent stays and is sent.</source>
+        <translation>¿Borrar definitivamente todo lo guardado de todas las conversaciones? Lo que está por enviar se queda y se enviará.</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmInvite</name>
@@ -3787,6 +3857,14 @@ Send it to %4?</source>
         <source>Images (*.jpg,*.gif,*.bmp)</source>
         <translation>Imágenes (*.jpg,*.gif,*.bmp)</translation>
     </message>
+    <message>
+        <source>Start with the desktop</source>
+        <translation>Iniciar con el escritorio</translation>
+    </message>
+    <message>
+        <source>At every login, minimised, under your nickname</source>
+        <translation>En cada inicio de sesión, minimizado, con su apodo</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmPrivate</name>
@@ -4117,6 +4195,18 @@ Send it to %4?</source>
     <message>
         <source>Save A&amp;ll (%1)...</source>
         <translation>Guardar &amp;todo (%1)...</translation>
+    </message>
+    <message>
+        <source>&amp;Discard...</source>
+        <translation>De&amp;scartar...</translation>
+    </message>
+    <message>
+        <source>Gives the file up, and removes what has come of it</source>
+        <translation>Renuncia al archivo y elimina lo recibido de él</translation>
+    </message>
+    <message>
+        <source>Discard "%1"? What has come of it, %2, is removed from the disk.</source>
+        <translation>¿Descartar «%1»? Lo recibido, %2, se eliminará del disco.</translation>
     </message>
 </context>
 </TS>

@@ -109,6 +109,17 @@
     </message>
 </context>
 <context>
+    <name>ConsoleCommands</name>
+    <message>
+        <source>No copy of NIMB-Chat runs with this profile.</source>
+        <translation>NIMB-Chat n’est pas lancé avec ce profil.</translation>
+    </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs gives no answer.</source>
+        <translation>Le NIMB-Chat en cours d’exécution ne répond pas.</translation>
+    </message>
+</context>
+<context>
     <name>ContactCommands</name>
     <message>
         <source>&amp;Private Chat</source>
@@ -966,6 +977,10 @@
         <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
         <translation>L’historique dans %1 a été supprimé ou remplacé pendant que NIMB-Chat fonctionne : ce qui se dit désormais va dans celui qui s’y trouve maintenant.</translation>
     </message>
+    <message>
+        <source>The history in %1 can only be read now (%2): nothing more is kept until that changes.</source>
+        <translation>L’historique dans %1 ne peut actuellement qu’être lu (%2) : rien de plus n’est conservé tant que cela ne change pas.</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1511,6 +1526,10 @@
         <source>The port must be a number from 1 to 65535.</source>
         <translation>Le port doit être un nombre de 1 à 65535.</translation>
     </message>
+    <message>
+        <source>Starting with the desktop cannot be changed: %1</source>
+        <translation>Le démarrage avec le bureau ne peut pas être modifié : %1</translation>
+    </message>
 </context>
 <context>
     <name>OwnNetworks</name>
@@ -1730,6 +1749,45 @@
     <message>
         <source>--- NIMB-Chat could not save everything when it last ended: what had changed is taken over, but for %1 damaged values ---</source>
         <translation>--- NIMB-Chat n’a pas pu tout enregistrer à sa dernière fermeture : les changements sont repris, sauf %1 valeurs endommagées ---</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteCommands</name>
+    <message>
+        <source>The copy of NIMB-Chat that runs knows no command "%1".</source>
+        <translation>Le NIMB-Chat en cours d’exécution ne connaît pas la commande « %1 ».</translation>
+    </message>
+    <message>
+        <source>No contact is called "%1" or has this address.</source>
+        <translation>Aucun contact ne s’appelle « %1 » ni n’a cette adresse.</translation>
+    </message>
+    <message>
+        <source>Several contacts are called "%1": name one by its address (%2).</source>
+        <translation>Plusieurs contacts s’appellent « %1 » : désignez-en un par son adresse (%2).</translation>
+    </message>
+    <message>
+        <source>%1 is not online: nothing was sent.</source>
+        <translation>%1 n’est pas en ligne : rien n’a été envoyé.</translation>
+    </message>
+    <message>
+        <source>There is no text to be sent.</source>
+        <translation>Il n’y a pas de texte à envoyer.</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
+        <translation>Un message contient au plus %1 caractères et celui-ci en a %2 : rien n’a été envoyé.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>No text can stand beside "invisible".</source>
+        <translation>« invisible » n’admet pas de texte.</translation>
+    </message>
+    <message>
+        <source>There is no state "%1": online, busy, away and invisible are.</source>
+        <translation>L’état « %1 » n’existe pas, seulement online, busy, away et invisible.</translation>
     </message>
 </context>
 <context>
@@ -2367,6 +2425,10 @@
         <source>Hide</source>
         <translation>Masquer</translation>
     </message>
+    <message>
+        <source>Show here</source>
+        <translation>Afficher ici</translation>
+    </message>
 </context>
 <context>
     <name>nimb::FileRow</name>
@@ -2429,6 +2491,10 @@
     <message>
         <source>Picture %1</source>
         <translation>Image %1</translation>
+    </message>
+    <message>
+        <source>This picture is too large to be shown: it has more than %1 megapixels. Save it.</source>
+        <translation>Cette image est trop grande pour être affichée : elle a plus de %1 mégapixels. Enregistrez-la.</translation>
     </message>
 </context>
 <context>
@@ -3341,6 +3407,10 @@ L’envoyer à %4 ?</translation>
         <source>Nothing was erased: the history cannot be written.</source>
         <translation>Rien n’a été effacé : l’historique ne peut pas être modifié.</translation>
     </message>
+    <message>
+        <source>Erase all that is kept of all conversations for good? What waits to be sent stays and is sent.</source>
+        <translation>Effacer définitivement tout ce qui est conservé de toutes les conversations ? Ce qui reste à envoyer est gardé et sera envoyé.</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmInvite</name>
@@ -3787,6 +3857,14 @@ L’envoyer à %4 ?</translation>
         <source>Images (*.jpg,*.gif,*.bmp)</source>
         <translation>Images (*.jpg,*.gif,*.bmp)</translation>
     </message>
+    <message>
+        <source>Start with the desktop</source>
+        <translation>Démarrer avec le bureau</translation>
+    </message>
+    <message>
+        <source>At every login, minimised, under your nickname</source>
+        <translation>À chaque ouverture de session, réduit, sous votre pseudo</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmPrivate</name>
@@ -4117,6 +4195,18 @@ L’envoyer à %4 ?</translation>
     <message>
         <source>Save A&amp;ll (%1)...</source>
         <translation>&amp;Tout enregistrer (%1)...</translation>
+    </message>
+    <message>
+        <source>&amp;Discard...</source>
+        <translation>A&amp;bandonner...</translation>
+    </message>
+    <message>
+        <source>Gives the file up, and removes what has come of it</source>
+        <translation>Renonce au fichier et supprime ce qui en est arrivé</translation>
+    </message>
+    <message>
+        <source>Discard "%1"? What has come of it, %2, is removed from the disk.</source>
+        <translation>Abandonner « %1 » ? Ce qui en est arrivé, %2, sera supprimé du disque.</translation>
     </message>
 </context>
 </TS>

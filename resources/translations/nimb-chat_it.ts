@@ -109,6 +109,17 @@
     </message>
 </context>
 <context>
+    <name>ConsoleCommands</name>
+    <message>
+        <source>No copy of NIMB-Chat runs with this profile.</source>
+        <translation>NIMB-Chat non è in esecuzione con questo profilo.</translation>
+    </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs gives no answer.</source>
+        <translation>Il NIMB-Chat in esecuzione non risponde.</translation>
+    </message>
+</context>
+<context>
     <name>ContactCommands</name>
     <message>
         <source>&amp;Private Chat</source>
@@ -966,6 +977,10 @@
         <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
         <translation>La cronologia in %1 è stata rimossa o sostituita mentre NIMB-Chat è in esecuzione: ciò che viene detto da ora in poi va in quella che si trova lì adesso.</translation>
     </message>
+    <message>
+        <source>The history in %1 can only be read now (%2): nothing more is kept until that changes.</source>
+        <translation>La cronologia in %1 al momento si può solo leggere (%2): finché non cambia, non viene conservato altro.</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1511,6 +1526,10 @@
         <source>The port must be a number from 1 to 65535.</source>
         <translation>La porta deve essere un numero da 1 a 65535.</translation>
     </message>
+    <message>
+        <source>Starting with the desktop cannot be changed: %1</source>
+        <translation>Impossibile modificare l'avvio con il desktop: %1</translation>
+    </message>
 </context>
 <context>
     <name>OwnNetworks</name>
@@ -1730,6 +1749,45 @@
     <message>
         <source>--- NIMB-Chat could not save everything when it last ended: what had changed is taken over, but for %1 damaged values ---</source>
         <translation>--- NIMB-Chat non ha potuto salvare tutto alla chiusura precedente: le modifiche sono state recuperate, tranne i valori danneggiati (%1) ---</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteCommands</name>
+    <message>
+        <source>The copy of NIMB-Chat that runs knows no command "%1".</source>
+        <translation>Il NIMB-Chat in esecuzione non conosce il comando «%1».</translation>
+    </message>
+    <message>
+        <source>No contact is called "%1" or has this address.</source>
+        <translation>Nessun contatto si chiama «%1» o ha questo indirizzo.</translation>
+    </message>
+    <message>
+        <source>Several contacts are called "%1": name one by its address (%2).</source>
+        <translation>Più contatti si chiamano «%1»: indicane uno con il suo indirizzo (%2).</translation>
+    </message>
+    <message>
+        <source>%1 is not online: nothing was sent.</source>
+        <translation>%1 non è in linea: non è stato inviato nulla.</translation>
+    </message>
+    <message>
+        <source>There is no text to be sent.</source>
+        <translation>Non c'è testo da inviare.</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
+        <translation>Un messaggio contiene %1 caratteri e questo ne ha %2: non è stato inviato nulla.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>Impossibile leggere %1.</translation>
+    </message>
+    <message>
+        <source>No text can stand beside "invisible".</source>
+        <translation>«invisible» non ammette testo.</translation>
+    </message>
+    <message>
+        <source>There is no state "%1": online, busy, away and invisible are.</source>
+        <translation>Lo stato «%1» non esiste: ci sono online, busy, away e invisible.</translation>
     </message>
 </context>
 <context>
@@ -2367,6 +2425,10 @@
         <source>Hide</source>
         <translation>Nascondi</translation>
     </message>
+    <message>
+        <source>Show here</source>
+        <translation>Mostra qui</translation>
+    </message>
 </context>
 <context>
     <name>nimb::FileRow</name>
@@ -2429,6 +2491,10 @@
     <message>
         <source>Picture %1</source>
         <translation>Immagine %1</translation>
+    </message>
+    <message>
+        <source>This picture is too large to be shown: it has more than %1 megapixels. Save it.</source>
+        <translation>Questa immagine è troppo grande per essere mostrata: ha più di %1 megapixel. Salvala.</translation>
     </message>
 </context>
 <context>
@@ -3341,6 +3407,10 @@ Inviarlo a %4?</translation>
         <source>Nothing was erased: the history cannot be written.</source>
         <translation>Non è stato cancellato nulla: impossibile scrivere la cronologia.</translation>
     </message>
+    <message>
+        <source>Erase all that is kept of all conversations for good? What waits to be sent stays and is sent.</source>
+        <translation>Cancellare definitivamente tutto ciò che è conservato di tutte le conversazioni? Ciò che è da inviare resta e verrà inviato.</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmInvite</name>
@@ -3787,6 +3857,14 @@ Inviarlo a %4?</translation>
         <source>Images (*.jpg,*.gif,*.bmp)</source>
         <translation>Immagini (*.jpg,*.gif,*.bmp)</translation>
     </message>
+    <message>
+        <source>Start with the desktop</source>
+        <translation>Avvia con il desktop</translation>
+    </message>
+    <message>
+        <source>At every login, minimised, under your nickname</source>
+        <translation>A ogni accesso, ridotto a icona, con il tuo nickname</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmPrivate</name>
@@ -4117,6 +4195,18 @@ Inviarlo a %4?</translation>
     <message>
         <source>Save A&amp;ll (%1)...</source>
         <translation>Salva &amp;tutto (%1)...</translation>
+    </message>
+    <message>
+        <source>&amp;Discard...</source>
+        <translation>S&amp;carta...</translation>
+    </message>
+    <message>
+        <source>Gives the file up, and removes what has come of it</source>
+        <translation>Rinuncia al file e rimuove ciò che ne è arrivato</translation>
+    </message>
+    <message>
+        <source>Discard "%1"? What has come of it, %2, is removed from the disk.</source>
+        <translation>Scartare "%1"? Ciò che ne è arrivato, %2, verrà rimosso dal disco.</translation>
     </message>
 </context>
 </TS>

@@ -109,6 +109,17 @@
     </message>
 </context>
 <context>
+    <name>ConsoleCommands</name>
+    <message>
+        <source>No copy of NIMB-Chat runs with this profile.</source>
+        <translation>このプロファイルで NIMB-Chat は起動していません。</translation>
+    </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs gives no answer.</source>
+        <translation>起動中の NIMB-Chat から応答がありません。</translation>
+    </message>
+</context>
+<context>
     <name>ContactCommands</name>
     <message>
         <source>&amp;Private Chat</source>
@@ -965,6 +976,10 @@
         <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
         <translation>NIMB-Chat の実行中に %1 の履歴が削除されたか置き換えられました。これ以降の内容は、現在そこにあるものに保存されます。</translation>
     </message>
+    <message>
+        <source>The history in %1 can only be read now (%2): nothing more is kept until that changes.</source>
+        <translation>%1 の履歴は現在読み取りしかできません (%2)。この状態が変わるまで、新しい内容は保存されません。</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1509,6 +1524,10 @@
         <source>The port must be a number from 1 to 65535.</source>
         <translation>ポートは 1 ～ 65535 の数値で指定してください。</translation>
     </message>
+    <message>
+        <source>Starting with the desktop cannot be changed: %1</source>
+        <translation>デスクトップと同時に起動する設定を変更できません: %1</translation>
+    </message>
 </context>
 <context>
     <name>OwnNetworks</name>
@@ -1728,6 +1747,45 @@
     <message>
         <source>--- NIMB-Chat could not save everything when it last ended: what had changed is taken over, but for %1 damaged values ---</source>
         <translation>--- NIMB-Chat の前回の終了時に一部を保存できませんでした。壊れた値 %1 件を除き、変更内容を引き継ぎました ---</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteCommands</name>
+    <message>
+        <source>The copy of NIMB-Chat that runs knows no command "%1".</source>
+        <translation>起動中の NIMB-Chat はコマンド「%1」に対応していません。</translation>
+    </message>
+    <message>
+        <source>No contact is called "%1" or has this address.</source>
+        <translation>「%1」という名前またはアドレスの連絡先はありません。</translation>
+    </message>
+    <message>
+        <source>Several contacts are called "%1": name one by its address (%2).</source>
+        <translation>「%1」という連絡先が複数あります。アドレス (%2) で指定してください。</translation>
+    </message>
+    <message>
+        <source>%1 is not online: nothing was sent.</source>
+        <translation>%1 はオンラインではないため、何も送信しませんでした。</translation>
+    </message>
+    <message>
+        <source>There is no text to be sent.</source>
+        <translation>送信するテキストがありません。</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
+        <translation>メッセージは %1 文字までですが、%2 文字あるため、何も送信しませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 を読み取れません。</translation>
+    </message>
+    <message>
+        <source>No text can stand beside "invisible".</source>
+        <translation>「invisible」にテキストは付けられません。</translation>
+    </message>
+    <message>
+        <source>There is no state "%1": online, busy, away and invisible are.</source>
+        <translation>「%1」という状態はありません。online、busy、away、invisible があります。</translation>
     </message>
 </context>
 <context>
@@ -2365,6 +2423,10 @@
         <source>Hide</source>
         <translation>隠す</translation>
     </message>
+    <message>
+        <source>Show here</source>
+        <translation>ここに表示</translation>
+    </message>
 </context>
 <context>
     <name>nimb::FileRow</name>
@@ -2427,6 +2489,10 @@
     <message>
         <source>Picture %1</source>
         <translation>画像 %1</translation>
+    </message>
+    <message>
+        <source>This picture is too large to be shown: it has more than %1 megapixels. Save it.</source>
+        <translation>この画像は %1 メガピクセルを超えており、大きすぎるため表示できません。保存してご覧ください。</translation>
     </message>
 </context>
 <context>
@@ -3338,6 +3404,10 @@ Send it to %4?</source>
         <source>Nothing was erased: the history cannot be written.</source>
         <translation>履歴に書き込めないため、消去されませんでした。</translation>
     </message>
+    <message>
+        <source>Erase all that is kept of all conversations for good? What waits to be sent stays and is sent.</source>
+        <translation>すべての会話の保存内容を完全に消去しますか? 送信待ちのメッセージは残り、送信されます。</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmInvite</name>
@@ -3784,6 +3854,14 @@ Send it to %4?</source>
         <source>Images (*.jpg,*.gif,*.bmp)</source>
         <translation>画像 (*.jpg,*.gif,*.bmp)</translation>
     </message>
+    <message>
+        <source>Start with the desktop</source>
+        <translation>デスクトップと同時に起動する</translation>
+    </message>
+    <message>
+        <source>At every login, minimised, under your nickname</source>
+        <translation>ログインのたびに、最小化して、自分のニックネームで起動します</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmPrivate</name>
@@ -4114,6 +4192,18 @@ Send it to %4?</source>
     <message>
         <source>Save A&amp;ll (%1)...</source>
         <translation>すべて保存 (%1)(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>&amp;Discard...</source>
+        <translation>破棄(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>Gives the file up, and removes what has come of it</source>
+        <translation>ファイルの取得をやめ、受信済みの分を削除します</translation>
+    </message>
+    <message>
+        <source>Discard "%1"? What has come of it, %2, is removed from the disk.</source>
+        <translation>「%1」を破棄しますか? 受信済みの %2 はディスクから削除されます。</translation>
     </message>
 </context>
 </TS>

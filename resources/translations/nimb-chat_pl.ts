@@ -109,6 +109,17 @@
     </message>
 </context>
 <context>
+    <name>ConsoleCommands</name>
+    <message>
+        <source>No copy of NIMB-Chat runs with this profile.</source>
+        <translation>NIMB-Chat nie działa z tym profilem.</translation>
+    </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs gives no answer.</source>
+        <translation>Działający NIMB-Chat nie odpowiada.</translation>
+    </message>
+</context>
+<context>
     <name>ContactCommands</name>
     <message>
         <source>&amp;Private Chat</source>
@@ -967,6 +978,10 @@
         <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
         <translation>Historia w %1 została usunięta lub zastąpiona podczas działania NIMB-Chat: to, co zostanie powiedziane od teraz, trafi do tej, która jest tam teraz.</translation>
     </message>
+    <message>
+        <source>The history in %1 can only be read now (%2): nothing more is kept until that changes.</source>
+        <translation>Historię w %1 można teraz tylko czytać (%2): dopóki się to nie zmieni, nic więcej nie będzie zachowywane.</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1513,6 +1528,10 @@
         <source>The port must be a number from 1 to 65535.</source>
         <translation>Port musi być liczbą od 1 do 65535.</translation>
     </message>
+    <message>
+        <source>Starting with the desktop cannot be changed: %1</source>
+        <translation>Nie można zmienić uruchamiania z pulpitem: %1</translation>
+    </message>
 </context>
 <context>
     <name>OwnNetworks</name>
@@ -1732,6 +1751,45 @@
     <message>
         <source>--- NIMB-Chat could not save everything when it last ended: what had changed is taken over, but for %1 damaged values ---</source>
         <translation>--- NIMB-Chat nie zdążył wszystkiego zapisać przy ostatnim zakończeniu: zmiany zostały przejęte oprócz uszkodzonych wartości (%1) ---</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteCommands</name>
+    <message>
+        <source>The copy of NIMB-Chat that runs knows no command "%1".</source>
+        <translation>Działający NIMB-Chat nie zna polecenia „%1”.</translation>
+    </message>
+    <message>
+        <source>No contact is called "%1" or has this address.</source>
+        <translation>Żaden kontakt nie nazywa się „%1” ani nie ma tego adresu.</translation>
+    </message>
+    <message>
+        <source>Several contacts are called "%1": name one by its address (%2).</source>
+        <translation>Kilka kontaktów nazywa się „%1”: podaj adres jednego z nich (%2).</translation>
+    </message>
+    <message>
+        <source>%1 is not online: nothing was sent.</source>
+        <translation>%1 nie jest online: nic nie wysłano.</translation>
+    </message>
+    <message>
+        <source>There is no text to be sent.</source>
+        <translation>Nie ma tekstu do wysłania.</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
+        <translation>Wiadomość mieści %1 znaków, a ta ma %2: nic nie wysłano.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>Nie można odczytać %1.</translation>
+    </message>
+    <message>
+        <source>No text can stand beside "invisible".</source>
+        <translation>Stan „invisible” nie może mieć tekstu.</translation>
+    </message>
+    <message>
+        <source>There is no state "%1": online, busy, away and invisible are.</source>
+        <translation>Nie ma stanu „%1”: są online, busy, away i invisible.</translation>
     </message>
 </context>
 <context>
@@ -2369,6 +2427,10 @@
         <source>Hide</source>
         <translation>Ukryj</translation>
     </message>
+    <message>
+        <source>Show here</source>
+        <translation>Pokaż tutaj</translation>
+    </message>
 </context>
 <context>
     <name>nimb::FileRow</name>
@@ -2431,6 +2493,10 @@
     <message>
         <source>Picture %1</source>
         <translation>Obraz %1</translation>
+    </message>
+    <message>
+        <source>This picture is too large to be shown: it has more than %1 megapixels. Save it.</source>
+        <translation>Ten obraz jest zbyt duży, aby go pokazać: ma ponad %1 megapikseli. Zapisz go.</translation>
     </message>
 </context>
 <context>
@@ -3344,6 +3410,10 @@ Wysłać ją do użytkownika %4?</translation>
         <source>Nothing was erased: the history cannot be written.</source>
         <translation>Niczego nie usunięto: nie można zapisać historii.</translation>
     </message>
+    <message>
+        <source>Erase all that is kept of all conversations for good? What waits to be sent stays and is sent.</source>
+        <translation>Usunąć trwale całą historię wszystkich rozmów? To, co czeka na wysłanie, pozostanie i zostanie wysłane.</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmInvite</name>
@@ -3790,6 +3860,14 @@ Wysłać ją do użytkownika %4?</translation>
         <source>Images (*.jpg,*.gif,*.bmp)</source>
         <translation>Obrazy (*.jpg,*.gif,*.bmp)</translation>
     </message>
+    <message>
+        <source>Start with the desktop</source>
+        <translation>Uruchamiaj z pulpitem</translation>
+    </message>
+    <message>
+        <source>At every login, minimised, under your nickname</source>
+        <translation>Przy każdym logowaniu, zminimalizowany, z Twoim pseudonimem</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmPrivate</name>
@@ -4120,6 +4198,18 @@ Wysłać ją do użytkownika %4?</translation>
     <message>
         <source>Save A&amp;ll (%1)...</source>
         <translation>Zapisz wszys&amp;tko (%1)...</translation>
+    </message>
+    <message>
+        <source>&amp;Discard...</source>
+        <translation>O&amp;drzuć...</translation>
+    </message>
+    <message>
+        <source>Gives the file up, and removes what has come of it</source>
+        <translation>Rezygnuje z pliku i usuwa to, co już odebrano</translation>
+    </message>
+    <message>
+        <source>Discard "%1"? What has come of it, %2, is removed from the disk.</source>
+        <translation>Odrzucić „%1”? To, co już odebrano (%2), zostanie usunięte z dysku.</translation>
     </message>
 </context>
 </TS>

@@ -109,6 +109,17 @@
     </message>
 </context>
 <context>
+    <name>ConsoleCommands</name>
+    <message>
+        <source>No copy of NIMB-Chat runs with this profile.</source>
+        <translation>O NIMB-Chat não está em execução com este perfil.</translation>
+    </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs gives no answer.</source>
+        <translation>O NIMB-Chat em execução não responde.</translation>
+    </message>
+</context>
+<context>
     <name>ContactCommands</name>
     <message>
         <source>&amp;Private Chat</source>
@@ -966,6 +977,10 @@
         <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
         <translation>O histórico em %1 foi removido ou substituído enquanto o NIMB-Chat está em execução: o que for dito de agora em diante vai para o que está lá agora.</translation>
     </message>
+    <message>
+        <source>The history in %1 can only be read now (%2): nothing more is kept until that changes.</source>
+        <translation>O histórico em %1 só pode ser lido agora (%2): nada mais será guardado até que isso mude.</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1511,6 +1526,10 @@
         <source>The port must be a number from 1 to 65535.</source>
         <translation>A porta deve ser um número de 1 a 65535.</translation>
     </message>
+    <message>
+        <source>Starting with the desktop cannot be changed: %1</source>
+        <translation>Não é possível alterar a inicialização com a área de trabalho: %1</translation>
+    </message>
 </context>
 <context>
     <name>OwnNetworks</name>
@@ -1730,6 +1749,45 @@
     <message>
         <source>--- NIMB-Chat could not save everything when it last ended: what had changed is taken over, but for %1 damaged values ---</source>
         <translation>--- o NIMB-Chat não conseguiu salvar tudo ao ser encerrado pela última vez: as alterações foram recuperadas, exceto %1 valores danificados ---</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteCommands</name>
+    <message>
+        <source>The copy of NIMB-Chat that runs knows no command "%1".</source>
+        <translation>O NIMB-Chat em execução não conhece o comando “%1”.</translation>
+    </message>
+    <message>
+        <source>No contact is called "%1" or has this address.</source>
+        <translation>Nenhum contato se chama “%1” ou tem este endereço.</translation>
+    </message>
+    <message>
+        <source>Several contacts are called "%1": name one by its address (%2).</source>
+        <translation>Vários contatos se chamam “%1”: indique um pelo endereço (%2).</translation>
+    </message>
+    <message>
+        <source>%1 is not online: nothing was sent.</source>
+        <translation>%1 não está on-line: nada foi enviado.</translation>
+    </message>
+    <message>
+        <source>There is no text to be sent.</source>
+        <translation>Não há texto para enviar.</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
+        <translation>Uma mensagem comporta %1 caracteres e esta tem %2: nada foi enviado.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>Não é possível ler %1.</translation>
+    </message>
+    <message>
+        <source>No text can stand beside "invisible".</source>
+        <translation>“invisible” não aceita texto.</translation>
+    </message>
+    <message>
+        <source>There is no state "%1": online, busy, away and invisible are.</source>
+        <translation>O estado “%1” não existe: há online, busy, away e invisible.</translation>
     </message>
 </context>
 <context>
@@ -2367,6 +2425,10 @@
         <source>Hide</source>
         <translation>Ocultar</translation>
     </message>
+    <message>
+        <source>Show here</source>
+        <translation>Mostrar aqui</translation>
+    </message>
 </context>
 <context>
     <name>nimb::FileRow</name>
@@ -2429,6 +2491,10 @@
     <message>
         <source>Picture %1</source>
         <translation>Imagem %1</translation>
+    </message>
+    <message>
+        <source>This picture is too large to be shown: it has more than %1 megapixels. Save it.</source>
+        <translation>Esta imagem é grande demais para ser mostrada: tem mais de %1 megapixels. Salve-a.</translation>
     </message>
 </context>
 <context>
@@ -3341,6 +3407,10 @@ Enviar para %4?</translation>
         <source>Nothing was erased: the history cannot be written.</source>
         <translation>Nada foi apagado: não é possível gravar no histórico.</translation>
     </message>
+    <message>
+        <source>Erase all that is kept of all conversations for good? What waits to be sent stays and is sent.</source>
+        <translation>Apagar definitivamente tudo o que foi guardado de todas as conversas? O que está a enviar permanece e será enviado.</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmInvite</name>
@@ -3787,6 +3857,14 @@ Enviar para %4?</translation>
         <source>Images (*.jpg,*.gif,*.bmp)</source>
         <translation>Imagens (*.jpg,*.gif,*.bmp)</translation>
     </message>
+    <message>
+        <source>Start with the desktop</source>
+        <translation>Iniciar com a área de trabalho</translation>
+    </message>
+    <message>
+        <source>At every login, minimised, under your nickname</source>
+        <translation>A cada login, minimizado, com o seu apelido</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmPrivate</name>
@@ -4117,6 +4195,18 @@ Enviar para %4?</translation>
     <message>
         <source>Save A&amp;ll (%1)...</source>
         <translation>Salvar &amp;tudo (%1)...</translation>
+    </message>
+    <message>
+        <source>&amp;Discard...</source>
+        <translation>&amp;Descartar...</translation>
+    </message>
+    <message>
+        <source>Gives the file up, and removes what has come of it</source>
+        <translation>Desiste do arquivo e remove o que chegou dele</translation>
+    </message>
+    <message>
+        <source>Discard "%1"? What has come of it, %2, is removed from the disk.</source>
+        <translation>Descartar “%1”? O que chegou dele, %2, será removido do disco.</translation>
     </message>
 </context>
 </TS>

@@ -109,6 +109,17 @@
     </message>
 </context>
 <context>
+    <name>ConsoleCommands</name>
+    <message>
+        <source>No copy of NIMB-Chat runs with this profile.</source>
+        <translation>NIMB-Chat с этим профилем не запущен.</translation>
+    </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs gives no answer.</source>
+        <translation>Запущенный NIMB-Chat не отвечает.</translation>
+    </message>
+</context>
+<context>
     <name>ContactCommands</name>
     <message>
         <source>&amp;Private Chat</source>
@@ -967,6 +978,10 @@
         <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
         <translation>История в %1 удалена или заменена во время работы NIMB-Chat: всё, что будет сказано с этого момента, попадёт в ту, которая находится там сейчас.</translation>
     </message>
+    <message>
+        <source>The history in %1 can only be read now (%2): nothing more is kept until that changes.</source>
+        <translation>История в %1 сейчас доступна только для чтения (%2): пока это не изменится, ничего больше не сохраняется.</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1513,6 +1528,10 @@
         <source>The port must be a number from 1 to 65535.</source>
         <translation>Порт должен быть числом от 1 до 65535.</translation>
     </message>
+    <message>
+        <source>Starting with the desktop cannot be changed: %1</source>
+        <translation>Не удалось изменить запуск вместе с рабочим столом: %1</translation>
+    </message>
 </context>
 <context>
     <name>OwnNetworks</name>
@@ -1732,6 +1751,45 @@
     <message>
         <source>--- NIMB-Chat could not save everything when it last ended: what had changed is taken over, but for %1 damaged values ---</source>
         <translation>--- при прошлом завершении NIMB-Chat удалось сохранить не всё: изменения восстановлены, кроме повреждённых значений (%1) ---</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteCommands</name>
+    <message>
+        <source>The copy of NIMB-Chat that runs knows no command "%1".</source>
+        <translation>Запущенный NIMB-Chat не знает команды «%1».</translation>
+    </message>
+    <message>
+        <source>No contact is called "%1" or has this address.</source>
+        <translation>Нет контакта с именем «%1» или таким адресом.</translation>
+    </message>
+    <message>
+        <source>Several contacts are called "%1": name one by its address (%2).</source>
+        <translation>Несколько контактов носят имя «%1»: укажите адрес одного из них (%2).</translation>
+    </message>
+    <message>
+        <source>%1 is not online: nothing was sent.</source>
+        <translation>%1 не в сети: ничего не отправлено.</translation>
+    </message>
+    <message>
+        <source>There is no text to be sent.</source>
+        <translation>Нет текста для отправки.</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
+        <translation>В сообщении помещается символов: %1, а в этом %2: ничего не отправлено.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>Не удалось прочитать %1.</translation>
+    </message>
+    <message>
+        <source>No text can stand beside "invisible".</source>
+        <translation>К состоянию «invisible» текст не добавляется.</translation>
+    </message>
+    <message>
+        <source>There is no state "%1": online, busy, away and invisible are.</source>
+        <translation>Состояния «%1» нет; есть online, busy, away и invisible.</translation>
     </message>
 </context>
 <context>
@@ -2369,6 +2427,10 @@
         <source>Hide</source>
         <translation>Скрыть</translation>
     </message>
+    <message>
+        <source>Show here</source>
+        <translation>Показать здесь</translation>
+    </message>
 </context>
 <context>
     <name>nimb::FileRow</name>
@@ -2431,6 +2493,10 @@
     <message>
         <source>Picture %1</source>
         <translation>Изображение %1</translation>
+    </message>
+    <message>
+        <source>This picture is too large to be shown: it has more than %1 megapixels. Save it.</source>
+        <translation>Изображение слишком велико для показа: в нём больше %1 мегапикселей. Сохраните его.</translation>
     </message>
 </context>
 <context>
@@ -3344,6 +3410,10 @@ Send it to %4?</source>
         <source>Nothing was erased: the history cannot be written.</source>
         <translation>Ничего не удалено: запись в историю невозможна.</translation>
     </message>
+    <message>
+        <source>Erase all that is kept of all conversations for good? What waits to be sent stays and is sent.</source>
+        <translation>Удалить навсегда всё сохранённое из всех бесед? То, что ожидает отправки, останется и будет отправлено.</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmInvite</name>
@@ -3790,6 +3860,14 @@ Send it to %4?</source>
         <source>Images (*.jpg,*.gif,*.bmp)</source>
         <translation>Изображения (*.jpg,*.gif,*.bmp)</translation>
     </message>
+    <message>
+        <source>Start with the desktop</source>
+        <translation>Запускать вместе с рабочим столом</translation>
+    </message>
+    <message>
+        <source>At every login, minimised, under your nickname</source>
+        <translation>При каждом входе в систему, свёрнутым, под вашим псевдонимом</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmPrivate</name>
@@ -4120,6 +4198,18 @@ Send it to %4?</source>
     <message>
         <source>Save A&amp;ll (%1)...</source>
         <translation>Сохранить &amp;все (%1)...</translation>
+    </message>
+    <message>
+        <source>&amp;Discard...</source>
+        <translation>От&amp;бросить...</translation>
+    </message>
+    <message>
+        <source>Gives the file up, and removes what has come of it</source>
+        <translation>Отказывается от файла и удаляет то, что уже получено</translation>
+    </message>
+    <message>
+        <source>Discard "%1"? What has come of it, %2, is removed from the disk.</source>
+        <translation>Отбросить «%1»? То, что уже получено (%2), будет удалено с диска.</translation>
     </message>
 </context>
 </TS>

@@ -109,6 +109,17 @@
     </message>
 </context>
 <context>
+    <name>ConsoleCommands</name>
+    <message>
+        <source>No copy of NIMB-Chat runs with this profile.</source>
+        <translation>没有使用此配置文件运行的 NIMB-Chat。</translation>
+    </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs gives no answer.</source>
+        <translation>正在运行的 NIMB-Chat 没有回应。</translation>
+    </message>
+</context>
+<context>
     <name>ContactCommands</name>
     <message>
         <source>&amp;Private Chat</source>
@@ -965,6 +976,10 @@
         <source>The history in %1 has been removed or replaced while NIMB-Chat runs: what is said from now on goes into the one that is there now.</source>
         <translation>%1 中的聊天记录在 NIMB-Chat 运行时被删除或替换：此后的内容将写入现在位于该处的文件。</translation>
     </message>
+    <message>
+        <source>The history in %1 can only be read now (%2): nothing more is kept until that changes.</source>
+        <translation>目前只能读取 %1 中的聊天记录（%2）：在此情况改变之前，不会再保留新内容。</translation>
+    </message>
 </context>
 <context>
     <name>HttpFileFetcher</name>
@@ -1509,6 +1524,10 @@
         <source>The port must be a number from 1 to 65535.</source>
         <translation>端口必须是 1 到 65535 之间的数字。</translation>
     </message>
+    <message>
+        <source>Starting with the desktop cannot be changed: %1</source>
+        <translation>无法更改随桌面启动的设置：%1</translation>
+    </message>
 </context>
 <context>
     <name>OwnNetworks</name>
@@ -1728,6 +1747,45 @@
     <message>
         <source>--- NIMB-Chat could not save everything when it last ended: what had changed is taken over, but for %1 damaged values ---</source>
         <translation>--- NIMB-Chat 上次退出时未能保存全部内容：除 %1 个损坏的值外，已恢复当时的更改 ---</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteCommands</name>
+    <message>
+        <source>The copy of NIMB-Chat that runs knows no command "%1".</source>
+        <translation>正在运行的 NIMB-Chat 不认识命令“%1”。</translation>
+    </message>
+    <message>
+        <source>No contact is called "%1" or has this address.</source>
+        <translation>没有名为“%1”或使用此地址的联系人。</translation>
+    </message>
+    <message>
+        <source>Several contacts are called "%1": name one by its address (%2).</source>
+        <translation>有多个名为“%1”的联系人：请用地址指定其中一个（%2）。</translation>
+    </message>
+    <message>
+        <source>%1 is not online: nothing was sent.</source>
+        <translation>%1 不在线：未发送任何内容。</translation>
+    </message>
+    <message>
+        <source>There is no text to be sent.</source>
+        <translation>没有要发送的文字。</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
+        <translation>一条消息最多 %1 个字符，而这条有 %2 个：未发送任何内容。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>无法读取 %1。</translation>
+    </message>
+    <message>
+        <source>No text can stand beside "invisible".</source>
+        <translation>“invisible”不能带文字。</translation>
+    </message>
+    <message>
+        <source>There is no state "%1": online, busy, away and invisible are.</source>
+        <translation>没有状态“%1”：可用的有 online、busy、away 和 invisible。</translation>
     </message>
 </context>
 <context>
@@ -2365,6 +2423,10 @@
         <source>Hide</source>
         <translation>隐藏</translation>
     </message>
+    <message>
+        <source>Show here</source>
+        <translation>在此处显示</translation>
+    </message>
 </context>
 <context>
     <name>nimb::FileRow</name>
@@ -2427,6 +2489,10 @@
     <message>
         <source>Picture %1</source>
         <translation>图片 %1</translation>
+    </message>
+    <message>
+        <source>This picture is too large to be shown: it has more than %1 megapixels. Save it.</source>
+        <translation>此图片超过 %1 百万像素，过大而无法显示。请保存后查看。</translation>
     </message>
 </context>
 <context>
@@ -3338,6 +3404,10 @@ Send it to %4?</source>
         <source>Nothing was erased: the history cannot be written.</source>
         <translation>未删除任何内容：无法写入聊天记录。</translation>
     </message>
+    <message>
+        <source>Erase all that is kept of all conversations for good? What waits to be sent stays and is sent.</source>
+        <translation>要永久删除所有会话的全部聊天记录吗？待发送的消息会保留，并将照常发送。</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmInvite</name>
@@ -3784,6 +3854,14 @@ Send it to %4?</source>
         <source>Images (*.jpg,*.gif,*.bmp)</source>
         <translation>图像 (*.jpg,*.gif,*.bmp)</translation>
     </message>
+    <message>
+        <source>Start with the desktop</source>
+        <translation>随桌面启动</translation>
+    </message>
+    <message>
+        <source>At every login, minimised, under your nickname</source>
+        <translation>每次登录时以您的昵称最小化启动</translation>
+    </message>
 </context>
 <context>
     <name>nimb::frmPrivate</name>
@@ -4114,6 +4192,18 @@ Send it to %4?</source>
     <message>
         <source>Save A&amp;ll (%1)...</source>
         <translation>全部保存 (%1)(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>&amp;Discard...</source>
+        <translation>放弃(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>Gives the file up, and removes what has come of it</source>
+        <translation>放弃该文件并删除已收到的部分</translation>
+    </message>
+    <message>
+        <source>Discard "%1"? What has come of it, %2, is removed from the disk.</source>
+        <translation>要放弃“%1”吗？已收到的部分（%2）将从磁盘中删除。</translation>
     </message>
 </context>
 </TS>

@@ -2,7 +2,10 @@
 
 #include "controls.h"
 #include "keyboard.h"
+#include "labels.h"
+#include "recorders.h"
 #include "simulated_network.h"
+#include "virtual_time.h"
 
 #include <gmock/gmock.h>
 
