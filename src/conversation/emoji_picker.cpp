@@ -149,8 +149,8 @@ void EmojiPicker::buildControls()
 
     auto *const above = new QHBoxLayout;
     above->setSpacing(form_layout::groupDistance);
-    above->addWidget(m_search, 1);
-    above->addWidget(m_name, 1);
+    above->addWidget(m_search, 3);
+    above->addWidget(m_name, 2);
     above->addLayout(makeGroups());
     auto *const column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);

@@ -7,6 +7,7 @@
 #include "widgets/pictures.h"
 #include "widgets/twips.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -22,7 +23,12 @@ namespace
 using form_layout::margin;
 using form_layout::spacing;
 
-constexpr QSize windowSize(320, 150); // pixels
+/// Pixels; larger letters than those of most desktops want more.
+QSize popUpSizeFor(const QFontMetrics &letters)
+{
+    constexpr int lettersInARow = 40, rows = 10;
+    return QSize(320, 150).expandedTo({lettersInARow * letters.averageCharWidth(), rows * letters.height()});
+}
 
 std::int32_t inTwips(int pixels)
 {
@@ -67,7 +73,14 @@ frmNotify::frmNotify(NotifySlide &slide)
     setFrameStyle(QFrame::Box | QFrame::Plain);
     buildControls();
     connectControls();
-    setFixedSize(windowSize);
+    setFixedSize(popUpSizeFor(fontMetrics()));
+}
+
+void frmNotify::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange)
+        setFixedSize(popUpSizeFor(fontMetrics()));
+    QFrame::changeEvent(event);
 }
 
 frmNotify::~frmNotify()

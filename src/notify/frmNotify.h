@@ -29,6 +29,9 @@ Q_SIGNALS:
     /// A row was clicked, which leads there.
     void opened(const nimb::NoticePlace &place);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void buildControls();
     void connectControls();

@@ -142,8 +142,6 @@ QWidget *frmPrivate::makeStatusBar()
     rIP->setFrame(false);
     rIP->setFocusPolicy(Qt::ClickFocus);
     rIP->setAlignment(Qt::AlignRight);
-    const int longest = rIP->fontMetrics().horizontalAdvance(QStringLiteral("255.255.255.255"));
-    rIP->setFixedWidth(qMax(120, longest + margin));
     QPalette ground = rIP->palette();
     ground.setColor(QPalette::Base, Qt::transparent);
     rIP->setPalette(ground);
@@ -271,6 +269,7 @@ ConversationView &frmPrivate::conversation()
 void frmPrivate::setPeerAddress(const QString &ip)
 {
     rIP->setText(ip);
+    rIP->setFixedWidth(rIP->fontMetrics().horizontalAdvance(ip) + 2 * margin);
 }
 
 void frmPrivate::setPeer(const PeerShown &peer)

@@ -63,6 +63,22 @@ TEST_F(FrmNotifyTest, RisesWithWhatHappenedAndGoesAfterFiveSeconds)
     EXPECT_EQ(rows().rowCount(), 0);
 }
 
+TEST_F(FrmNotifyTest, GrowsWithTheLettersOfTheDesktop)
+{
+    const QSize usual = notify->size();
+    QFont large = notify->font();
+    large.setPointSize(2 * large.pointSize());
+    notify->setFont(large);
+    EXPECT_GT(notify->width(), usual.width());
+    EXPECT_GT(notify->height(), usual.height());
+    windows.arrive("10.0.0.3", "!ONLINE 10.0.0.3 PC Ben");
+    rise();
+    EXPECT_EQ(notify->x(), screen.width() - notify->width() - 8) << "it stands where one of this size has to";
+    const QFontMetrics letters = RealWindows::control<QTreeView>(*notify, "ListViewNotify").fontMetrics();
+    EXPECT_GT(RealWindows::control<QTreeView>(*notify, "ListViewNotify").viewport()->width(),
+              30 * letters.averageCharWidth());
+}
+
 TEST_F(FrmNotifyTest, HideDismissesIt)
 {
     windows.arrive("10.0.0.2", "!OFFLINE");
