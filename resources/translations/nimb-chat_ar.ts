@@ -118,6 +118,10 @@
         <source>The copy of NIMB-Chat that runs gives no answer.</source>
         <translation>لا يجيب NIMB-Chat قيد التشغيل.</translation>
     </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>الأمر طويل جدًا.</translation>
+    </message>
 </context>
 <context>
     <name>ContactCommands</name>
@@ -1782,10 +1786,6 @@
         <translation>لا يوجد نص لإرساله.</translation>
     </message>
     <message>
-        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
-        <translation>تتسع الرسالة لعدد أحرف ⁨%1⁩، وفي هذه ⁨%2⁩: لم يُرسل شيء.</translation>
-    </message>
-    <message>
         <source>%1 cannot be read.</source>
         <translation>تتعذر قراءة ⁨%1⁩.</translation>
     </message>
@@ -1796,6 +1796,10 @@
     <message>
         <source>There is no state "%1": online, busy, away and invisible are.</source>
         <translation>لا توجد الحالة «⁨%1⁩»: المتاح online و busy و away و invisible.</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
+        <translation>تتسع الرسالة لعدد أحرف ⁨%1⁩، وفي هذه أكثر: لم يُرسل شيء.</translation>
     </message>
 </context>
 <context>

@@ -118,6 +118,10 @@
         <source>The copy of NIMB-Chat that runs gives no answer.</source>
         <translation>Das laufende NIMB-Chat antwortet nicht.</translation>
     </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>Der Befehl ist zu lang.</translation>
+    </message>
 </context>
 <context>
     <name>ContactCommands</name>
@@ -1774,10 +1778,6 @@
         <translation>Es gibt keinen Text zu senden.</translation>
     </message>
     <message>
-        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
-        <translation>Eine Nachricht fasst %1 Zeichen, diese hat %2: Es wurde nichts gesendet.</translation>
-    </message>
-    <message>
         <source>%1 cannot be read.</source>
         <translation>%1 kann nicht gelesen werden.</translation>
     </message>
@@ -1788,6 +1788,10 @@
     <message>
         <source>There is no state "%1": online, busy, away and invisible are.</source>
         <translation>Den Zustand „%1“ gibt es nicht, nur online, busy, away und invisible.</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
+        <translation>Eine Nachricht fasst %1 Zeichen, diese hat mehr: Es wurde nichts gesendet.</translation>
     </message>
 </context>
 <context>

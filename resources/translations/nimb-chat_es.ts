@@ -118,6 +118,10 @@
         <source>The copy of NIMB-Chat that runs gives no answer.</source>
         <translation>El NIMB-Chat en ejecución no responde.</translation>
     </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>La orden es demasiado larga.</translation>
+    </message>
 </context>
 <context>
     <name>ContactCommands</name>
@@ -1774,10 +1778,6 @@
         <translation>No hay texto que enviar.</translation>
     </message>
     <message>
-        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
-        <translation>Un mensaje admite %1 caracteres y este tiene %2: no se ha enviado nada.</translation>
-    </message>
-    <message>
         <source>%1 cannot be read.</source>
         <translation>No se puede leer %1.</translation>
     </message>
@@ -1788,6 +1788,10 @@
     <message>
         <source>There is no state "%1": online, busy, away and invisible are.</source>
         <translation>El estado «%1» no existe: solo online, busy, away e invisible.</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
+        <translation>Un mensaje admite %1 caracteres y este tiene más: no se ha enviado nada.</translation>
     </message>
 </context>
 <context>

@@ -118,6 +118,10 @@
         <source>The copy of NIMB-Chat that runs gives no answer.</source>
         <translation>Le NIMB-Chat en cours d’exécution ne répond pas.</translation>
     </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>La commande est trop longue.</translation>
+    </message>
 </context>
 <context>
     <name>ContactCommands</name>
@@ -1774,10 +1778,6 @@
         <translation>Il n’y a pas de texte à envoyer.</translation>
     </message>
     <message>
-        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
-        <translation>Un message contient au plus %1 caractères et celui-ci en a %2 : rien n’a été envoyé.</translation>
-    </message>
-    <message>
         <source>%1 cannot be read.</source>
         <translation>%1 ne peut pas être lu.</translation>
     </message>
@@ -1788,6 +1788,10 @@
     <message>
         <source>There is no state "%1": online, busy, away and invisible are.</source>
         <translation>L’état « %1 » n’existe pas, seulement online, busy, away et invisible.</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
+        <translation>Un message contient au plus %1 caractères et celui-ci en a davantage : rien n’a été envoyé.</translation>
     </message>
 </context>
 <context>

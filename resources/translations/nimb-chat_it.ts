@@ -118,6 +118,10 @@
         <source>The copy of NIMB-Chat that runs gives no answer.</source>
         <translation>Il NIMB-Chat in esecuzione non risponde.</translation>
     </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>Il comando è troppo lungo.</translation>
+    </message>
 </context>
 <context>
     <name>ContactCommands</name>
@@ -1774,10 +1778,6 @@
         <translation>Non c'è testo da inviare.</translation>
     </message>
     <message>
-        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
-        <translation>Un messaggio contiene %1 caratteri e questo ne ha %2: non è stato inviato nulla.</translation>
-    </message>
-    <message>
         <source>%1 cannot be read.</source>
         <translation>Impossibile leggere %1.</translation>
     </message>
@@ -1788,6 +1788,10 @@
     <message>
         <source>There is no state "%1": online, busy, away and invisible are.</source>
         <translation>Lo stato «%1» non esiste: ci sono online, busy, away e invisible.</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
+        <translation>Un messaggio contiene %1 caratteri e questo ne ha di più: non è stato inviato nulla.</translation>
     </message>
 </context>
 <context>

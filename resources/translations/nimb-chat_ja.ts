@@ -118,6 +118,10 @@
         <source>The copy of NIMB-Chat that runs gives no answer.</source>
         <translation>起動中の NIMB-Chat から応答がありません。</translation>
     </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>コマンドが長すぎます。</translation>
+    </message>
 </context>
 <context>
     <name>ContactCommands</name>
@@ -1772,10 +1776,6 @@
         <translation>送信するテキストがありません。</translation>
     </message>
     <message>
-        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
-        <translation>メッセージは %1 文字までですが、%2 文字あるため、何も送信しませんでした。</translation>
-    </message>
-    <message>
         <source>%1 cannot be read.</source>
         <translation>%1 を読み取れません。</translation>
     </message>
@@ -1786,6 +1786,10 @@
     <message>
         <source>There is no state "%1": online, busy, away and invisible are.</source>
         <translation>「%1」という状態はありません。online、busy、away、invisible があります。</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
+        <translation>メッセージは %1 文字までですが、それを超えているため、何も送信しませんでした。</translation>
     </message>
 </context>
 <context>

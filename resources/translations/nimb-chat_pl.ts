@@ -118,6 +118,10 @@
         <source>The copy of NIMB-Chat that runs gives no answer.</source>
         <translation>Działający NIMB-Chat nie odpowiada.</translation>
     </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>Polecenie jest za długie.</translation>
+    </message>
 </context>
 <context>
     <name>ContactCommands</name>
@@ -1776,10 +1780,6 @@
         <translation>Nie ma tekstu do wysłania.</translation>
     </message>
     <message>
-        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
-        <translation>Wiadomość mieści %1 znaków, a ta ma %2: nic nie wysłano.</translation>
-    </message>
-    <message>
         <source>%1 cannot be read.</source>
         <translation>Nie można odczytać %1.</translation>
     </message>
@@ -1790,6 +1790,10 @@
     <message>
         <source>There is no state "%1": online, busy, away and invisible are.</source>
         <translation>Nie ma stanu „%1”: są online, busy, away i invisible.</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
+        <translation>Wiadomość mieści %1 znaków, a ta ma więcej: nic nie wysłano.</translation>
     </message>
 </context>
 <context>

@@ -118,6 +118,10 @@
         <source>The copy of NIMB-Chat that runs gives no answer.</source>
         <translation>O NIMB-Chat em execução não responde.</translation>
     </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>O comando é longo demais.</translation>
+    </message>
 </context>
 <context>
     <name>ContactCommands</name>
@@ -1774,10 +1778,6 @@
         <translation>Não há texto para enviar.</translation>
     </message>
     <message>
-        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
-        <translation>Uma mensagem comporta %1 caracteres e esta tem %2: nada foi enviado.</translation>
-    </message>
-    <message>
         <source>%1 cannot be read.</source>
         <translation>Não é possível ler %1.</translation>
     </message>
@@ -1788,6 +1788,10 @@
     <message>
         <source>There is no state "%1": online, busy, away and invisible are.</source>
         <translation>O estado “%1” não existe: há online, busy, away e invisible.</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
+        <translation>Uma mensagem comporta %1 caracteres e esta tem mais: nada foi enviado.</translation>
     </message>
 </context>
 <context>

@@ -118,6 +118,10 @@
         <source>The copy of NIMB-Chat that runs gives no answer.</source>
         <translation>Запущенный NIMB-Chat не отвечает.</translation>
     </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>Команда слишком длинная.</translation>
+    </message>
 </context>
 <context>
     <name>ContactCommands</name>
@@ -1776,10 +1780,6 @@
         <translation>Нет текста для отправки.</translation>
     </message>
     <message>
-        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
-        <translation>В сообщении помещается символов: %1, а в этом %2: ничего не отправлено.</translation>
-    </message>
-    <message>
         <source>%1 cannot be read.</source>
         <translation>Не удалось прочитать %1.</translation>
     </message>
@@ -1790,6 +1790,10 @@
     <message>
         <source>There is no state "%1": online, busy, away and invisible are.</source>
         <translation>Состояния «%1» нет; есть online, busy, away и invisible.</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
+        <translation>В сообщении помещается символов: %1, а в этом больше: ничего не отправлено.</translation>
     </message>
 </context>
 <context>

@@ -118,6 +118,10 @@
         <source>The copy of NIMB-Chat that runs gives no answer.</source>
         <translation>正在运行的 NIMB-Chat 没有回应。</translation>
     </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>命令太长。</translation>
+    </message>
 </context>
 <context>
     <name>ContactCommands</name>
@@ -1772,10 +1776,6 @@
         <translation>没有要发送的文字。</translation>
     </message>
     <message>
-        <source>A message holds %1 characters, and this one has %2: nothing was sent.</source>
-        <translation>一条消息最多 %1 个字符，而这条有 %2 个：未发送任何内容。</translation>
-    </message>
-    <message>
         <source>%1 cannot be read.</source>
         <translation>无法读取 %1。</translation>
     </message>
@@ -1786,6 +1786,10 @@
     <message>
         <source>There is no state "%1": online, busy, away and invisible are.</source>
         <translation>没有状态“%1”：可用的有 online、busy、away 和 invisible。</translation>
+    </message>
+    <message>
+        <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
+        <translation>一条消息最多 %1 个字符，而这条超出了：未发送任何内容。</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 // nimb-chatctl: what can be asked of NIMB-Chat on a console.
 #include "app/console_commands.h"
 #include "app/console_doctor.h"
+#include "base/limits.h"
 #include "platform/translations.h"
 #include "protocol/address_text.h"
 
@@ -46,14 +47,15 @@ const char usage[]
       "send    without TEXT sends what comes over the standard input\n"
       "All but doctor are carried out by the copy that runs; exit status 0 done, 1 refused, 2 no copy runs.\n";
 
-/// One more than a message holds is enough to be refused.
+/// A little more than a message holds is enough to be refused.
 QString typedText()
 {
     QFile input;
     if (!input.open(stdin, QIODevice::ReadOnly))
         return {};
-    QString text = QString::fromLocal8Bit(input.read(qint64{64} * 1024));
-    while (text.endsWith(u'\n'))
+    constexpr qint64 bytesOfACharacter = 4;
+    QString text = QString::fromLocal8Bit(input.read(bytesOfACharacter * (nimb::limits::messageLength + 1)));
+    while (text.endsWith(u'\n') || text.endsWith(u'\r'))
         text.chop(1);
     return text;
 }

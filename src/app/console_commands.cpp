@@ -72,8 +72,10 @@ std::optional<ConsoleCommand> ConsoleCommand::of(const QStringList &words)
 
 ConsoleAnswer askRunningCopy(const Environment &environment, const ConsoleCommand &command)
 {
-    const std::optional<QByteArray> answer
-        = SingleInstance::ask(environment.profileFolder, QJsonDocument(command.request).toJson(QJsonDocument::Compact));
+    const QByteArray request = QJsonDocument(command.request).toJson(QJsonDocument::Compact);
+    if (request.size() > SingleInstance::longestCommand - SingleInstance::marksOfACommand)
+        return {refused, {}, Texts::tr("The command is too long.").toLocal8Bit() + '\n'};
+    const std::optional<QByteArray> answer = SingleInstance::ask(environment.profileFolder, request);
     if (!answer)
         return {nobodyThere, {}, Texts::tr("No copy of NIMB-Chat runs with this profile.").toLocal8Bit() + '\n'};
     if (answer->isEmpty())

@@ -45,6 +45,13 @@ QString presenceName(Presence presence)
     return QStringLiteral("unknown");
 }
 
+/// As a message has them; what comes from a program may have either kind.
+QString withLineBreaks(QString typed)
+{
+    typed.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    return typed.replace(u'\n', QLatin1String("\r\n"));
+}
+
 QByteArray asBytes(const QJsonObject &answer)
 {
     return QJsonDocument(answer).toJson(QJsonDocument::Compact);
@@ -122,17 +129,15 @@ QString RemoteCommands::nothingToSend()
 
 RemoteCommands::Refusal RemoteCommands::send(const QJsonObject &command)
 {
-    const QString message = text(command, "text");
+    const QString message = withLineBreaks(text(command, "text"));
     if (message.trimmed().isEmpty())
         return nothingToSend();
     if (message.size() > limits::messageLength)
-        return tr("A message holds %1 characters, and this one has %2: nothing was sent.")
-            .arg(limits::messageLength)
-            .arg(message.size());
+        return tr("A message holds %1 characters, and this one has more: nothing was sent.").arg(limits::messageLength);
     ContactAddress contact;
     if (Refusal refusal = find(text(command, "contact"), contact))
         return refusal;
-    if (!m_parts.engine.privateWindows().answer(contact, QString(message).replace(u'\n', QLatin1String("\r\n"))))
+    if (!m_parts.engine.privateWindows().answer(contact, message))
         return nothingToSend();
     return std::nullopt;
 }

@@ -209,8 +209,6 @@ void SingleInstance::answer(QLocalSocket &client, const QByteArray &command)
 std::optional<QByteArray> SingleInstance::ask(const QString &profileFolder, const QByteArray &command)
 {
     const QDeadlineTimer deadline(patienceForAnAnswer);
-    if (command.size() > longestCommand - 2)
-        return std::nullopt;
     QLocalSocket socket;
     // Whoever asks from a service or another session may have been told of another folder than the copy was.
     for (const QString &sockets : {folderOfSockets(), QLatin1String("/run/user/") + userName(), QDir::tempPath()}) {

@@ -24,7 +24,8 @@ class SingleInstance : public QObject
 
 public:
     static constexpr qsizetype longestMessage = 4096;  ///< bytes
-    static constexpr qsizetype longestCommand = 65536; ///< bytes
+    static constexpr qsizetype longestCommand = 65536; ///< bytes, with the marks at both ends
+    static constexpr qsizetype marksOfACommand = 2;    ///< bytes
 
     explicit SingleInstance(const QString &profileFolder, QObject *parent = nullptr);
     ~SingleInstance() override;
@@ -42,8 +43,8 @@ public:
     /// In the first copy: what answers the commands of nimb-chatctl. Without it they are not answered.
     void setCommandHandler(CommandHandler handler) { m_handler = std::move(handler); }
 
-    /// The answer of the first copy of that profile to a command; nothing when none runs, empty when it gives none
-    /// within a minute.
+    /// The answer of the first copy of that profile to a command that is not too long; nothing when none runs, empty
+    /// when it gives none within a minute.
     static std::optional<QByteArray> ask(const QString &profileFolder, const QByteArray &command);
 
     /// Full path of the socket on which the first copy listens.

@@ -73,6 +73,14 @@ TEST_F(ConsoleCommands, SendWhatABuildServerHasToSay)
     const Answer nobody = ask({"send", "Dora", "x"});
     EXPECT_EQ(nobody.status, 1);
     EXPECT_THAT(nobody.complaint, HasSubstr("No contact is called \"Dora\""));
+    for (const qsizetype bytes : {2001, 100'000}) {
+        const Answer tooLong = ask({"send", "Ann"}, QByteArray(bytes, 'x'));
+        EXPECT_EQ(tooLong.status, 1);
+        EXPECT_THAT(tooLong.complaint, HasSubstr("A message holds 2000 characters"));
+    }
+    const Answer endless = ask({"send", "Ann", QString(70'000, u'x')});
+    EXPECT_EQ(endless.status, 1);
+    EXPECT_EQ(endless.complaint, "nimb-chatctl: The command is too long.\n");
     EXPECT_EQ(ask({"send"}).status, 64);
     EXPECT_EQ(bob.end(), 0);
 }

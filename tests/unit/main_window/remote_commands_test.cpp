@@ -72,9 +72,11 @@ TEST_F(RemoteCommandsTest, SendAMessageToWhoeverIsCalledSoOrHasThatAddress)
 {
     EXPECT_EQ(send("ann", "done"), "done");
     EXPECT_EQ(send("10.0.0.3", "one\ntwo"), "done");
+    EXPECT_EQ(send("10.0.0.3", "one\r\ntwo"), "done");
     std::vector<To> messages = copy.sent();
     std::erase_if(messages, [](const auto &datagram) { return !datagram.bytes.starts_with('-'); });
-    EXPECT_THAT(messages, ElementsAre(To{"10.0.0.2", "-done"}, To{"10.0.0.3", "-one\r\ntwo"}));
+    EXPECT_THAT(messages,
+                ElementsAre(To{"10.0.0.2", "-done"}, To{"10.0.0.3", "-one\r\ntwo"}, To{"10.0.0.3", "-one\r\ntwo"}));
 }
 
 TEST_F(RemoteCommandsTest, RefuseWhatCannotBeSentAndSayWhy)
@@ -85,7 +87,10 @@ TEST_F(RemoteCommandsTest, RefuseWhatCannotBeSentAndSayWhy)
     EXPECT_EQ(send("Cleo", "x"), "Cleo is not online: nothing was sent.");
     EXPECT_EQ(send("Ann", " \n"), "There is no text to be sent.");
     EXPECT_EQ(send("Ann", QString(2001, u'x')),
-              "A message holds 2000 characters, and this one has 2001: nothing was sent.");
+              "A message holds 2000 characters, and this one has more: nothing was sent.");
+    EXPECT_EQ(send("Ann", QString(QStringLiteral("a\n")).repeated(667)),
+              "A message holds 2000 characters, and this one has more: nothing was sent.")
+        << "a line break is two characters of a message";
     EXPECT_EQ(answer({{"command", "dance"}}), "The copy of NIMB-Chat that runs knows no command \"dance\".");
     EXPECT_EQ(answer({}), "The copy of NIMB-Chat that runs knows no command \"\".");
     EXPECT_THAT(copy.sent(), IsEmpty());
