@@ -15,10 +15,12 @@ _nimb_chatctl() {
         ;;
     send:2 | send-file:2)
         # Not compgen -W: others choose these names, and it would carry out what is in them.
+        local column=1
+        [[ $word != [0-9]* ]] || column=2
         while IFS= read -r contact; do
             printf -v contact '%q' "$contact"
-            [[ $contact == "$word"* ]] && COMPREPLY+=("$contact")
-        done < <(nimb-chatctl contacts 2>/dev/null | cut -f 1)
+            [[ ${contact,,} == "${word,,}"* ]] && COMPREPLY+=("$contact")
+        done < <(nimb-chatctl contacts 2>/dev/null | cut -f "$column")
         ;;
     send-file:3)
         compopt -o filenames

@@ -1801,6 +1801,14 @@
         <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
         <translation>تتسع الرسالة لعدد أحرف ⁨%1⁩، وفي هذه أكثر: لم يُرسل شيء.</translation>
     </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs still asks for a nickname.</source>
+        <translation>ما زال NIMB-Chat قيد التشغيل يطلب اسمًا مستعارًا.</translation>
+    </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>الأمر طويل جدًا.</translation>
+    </message>
 </context>
 <context>
     <name>RemoteText</name>

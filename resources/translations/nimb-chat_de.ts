@@ -1793,6 +1793,14 @@
         <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
         <translation>Eine Nachricht fasst %1 Zeichen, diese hat mehr: Es wurde nichts gesendet.</translation>
     </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs still asks for a nickname.</source>
+        <translation>Das laufende NIMB-Chat fragt noch nach einem Spitznamen.</translation>
+    </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>Der Befehl ist zu lang.</translation>
+    </message>
 </context>
 <context>
     <name>RemoteText</name>

@@ -1793,6 +1793,14 @@
         <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
         <translation>Un mensaje admite %1 caracteres y este tiene más: no se ha enviado nada.</translation>
     </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs still asks for a nickname.</source>
+        <translation>El NIMB-Chat en ejecución aún pide un apodo.</translation>
+    </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>La orden es demasiado larga.</translation>
+    </message>
 </context>
 <context>
     <name>RemoteText</name>

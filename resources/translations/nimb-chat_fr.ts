@@ -1793,6 +1793,14 @@
         <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
         <translation>Un message contient au plus %1 caractères et celui-ci en a davantage : rien n’a été envoyé.</translation>
     </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs still asks for a nickname.</source>
+        <translation>Le NIMB-Chat en cours d’exécution demande encore un pseudo.</translation>
+    </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>La commande est trop longue.</translation>
+    </message>
 </context>
 <context>
     <name>RemoteText</name>

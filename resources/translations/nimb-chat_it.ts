@@ -1793,6 +1793,14 @@
         <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
         <translation>Un messaggio contiene %1 caratteri e questo ne ha di più: non è stato inviato nulla.</translation>
     </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs still asks for a nickname.</source>
+        <translation>Il NIMB-Chat in esecuzione chiede ancora un nickname.</translation>
+    </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>Il comando è troppo lungo.</translation>
+    </message>
 </context>
 <context>
     <name>RemoteText</name>

@@ -1791,6 +1791,14 @@
         <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
         <translation>メッセージは %1 文字までですが、それを超えているため、何も送信しませんでした。</translation>
     </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs still asks for a nickname.</source>
+        <translation>起動中の NIMB-Chat はまだニックネームの入力を待っています。</translation>
+    </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>コマンドが長すぎます。</translation>
+    </message>
 </context>
 <context>
     <name>RemoteText</name>

@@ -1795,6 +1795,14 @@
         <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
         <translation>Wiadomość mieści %1 znaków, a ta ma więcej: nic nie wysłano.</translation>
     </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs still asks for a nickname.</source>
+        <translation>Działający NIMB-Chat pyta jeszcze o pseudonim.</translation>
+    </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>Polecenie jest za długie.</translation>
+    </message>
 </context>
 <context>
     <name>RemoteText</name>

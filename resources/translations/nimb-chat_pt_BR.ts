@@ -1793,6 +1793,14 @@
         <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
         <translation>Uma mensagem comporta %1 caracteres e esta tem mais: nada foi enviado.</translation>
     </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs still asks for a nickname.</source>
+        <translation>O NIMB-Chat em execução ainda pede um apelido.</translation>
+    </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>O comando é longo demais.</translation>
+    </message>
 </context>
 <context>
     <name>RemoteText</name>

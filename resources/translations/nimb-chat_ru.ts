@@ -1795,6 +1795,14 @@
         <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
         <translation>В сообщении помещается символов: %1, а в этом больше: ничего не отправлено.</translation>
     </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs still asks for a nickname.</source>
+        <translation>Запущенный NIMB-Chat ещё запрашивает псевдоним.</translation>
+    </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>Команда слишком длинная.</translation>
+    </message>
 </context>
 <context>
     <name>RemoteText</name>

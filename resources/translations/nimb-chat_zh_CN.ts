@@ -1791,6 +1791,14 @@
         <source>A message holds %1 characters, and this one has more: nothing was sent.</source>
         <translation>一条消息最多 %1 个字符，而这条超出了：未发送任何内容。</translation>
     </message>
+    <message>
+        <source>The copy of NIMB-Chat that runs still asks for a nickname.</source>
+        <translation>正在运行的 NIMB-Chat 仍在等待输入昵称。</translation>
+    </message>
+    <message>
+        <source>The command is too long.</source>
+        <translation>命令太长。</translation>
+    </message>
 </context>
 <context>
     <name>RemoteText</name>

@@ -57,7 +57,7 @@ std::optional<ConsoleCommand> ConsoleCommand::of(const QStringList &words)
         request.insert(QStringLiteral("text"), rest.mid(1).join(u' '));
         return ConsoleCommand{request, false, rest.size() == 1};
     }
-    if (name == QLatin1String("send-file") && rest.size() == 2) {
+    if (name == QLatin1String("send-file") && rest.size() == 2 && !rest.back().isEmpty()) {
         request.insert(QStringLiteral("contact"), rest.front());
         request.insert(QStringLiteral("path"), QFileInfo(rest.back()).absoluteFilePath());
         return ConsoleCommand{request};

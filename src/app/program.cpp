@@ -54,6 +54,11 @@ int Program::run(const QString &commandLine)
     listenToTheSystem();
     followDesktop();
     speakChosenLanguage();
+    m_instance.setCommandHandler([this](const QByteArray &command, const auto &reply) {
+        if (m_remote)
+            return m_remote->carryOut(command, reply);
+        reply(RemoteCommands::answerAtLogin(command, [this] { endSoon(); }));
+    });
     if (SubMain(commandLine, m_common, m_store, *this) != Started::running)
         return 0;
     m_exit.emplace([this] { endWithoutScreen(); });
@@ -108,6 +113,12 @@ void Program::end(UnloadMode mode)
         window->unload(mode);
     else
         m_forms.closeLogin();
+}
+
+/// Once whoever asked for it has been answered.
+void Program::endSoon()
+{
+    QTimer::singleShot(0, qApp, [this] { end(UnloadMode::code); });
 }
 
 void Program::endWithoutScreen()
@@ -195,10 +206,7 @@ void Program::loadMain()
                                   m_drops,
                                   m_fileServer,
                                   m_fileFetcher});
-    m_remote.emplace(RemoteCommands::Parts{*m_engine, [&window] { window.restore(); },
-                                           [this] { QTimer::singleShot(0, qApp, [this] { end(UnloadMode::code); }); }});
-    m_instance.setCommandHandler(
-        [this](const QByteArray &command, const auto &reply) { m_remote->carryOut(command, reply); });
+    m_remote.emplace(RemoteCommands::Parts{*m_engine, [&window] { window.restore(); }, [this] { endSoon(); }});
     m_forms.connectMain(
         *m_engine, [this] { return statusNotes(); }, [] { QCoreApplication::exit(0); });
     window.Form_Load();

@@ -87,6 +87,7 @@ private:
     void endSession(QSessionManager &session);
     /// Ends the program without anybody there to answer questions.
     void end(UnloadMode mode);
+    void endSoon();
     /// The screen is gone, and with it every window.
     void endWithoutScreen();
     void secondStart(const QString &caption);

@@ -86,6 +86,14 @@ void RemoteCommands::carryOut(const QByteArray &command, const Reply &reply)
     reply(refusal ? saying(1, *refusal) : asBytes({{QStringLiteral("status"), 0}}));
 }
 
+QByteArray RemoteCommands::answerAtLogin(const QByteArray &command, const std::function<void()> &quit)
+{
+    if (text(QJsonDocument::fromJson(command).object(), "command") != QLatin1String("quit"))
+        return saying(1, tr("The copy of NIMB-Chat that runs still asks for a nickname."));
+    quit();
+    return asBytes({{QStringLiteral("status"), 0}});
+}
+
 QJsonObject RemoteCommands::contacts() const
 {
     QJsonArray list;
@@ -106,11 +114,15 @@ RemoteCommands::Refusal RemoteCommands::find(const QString &meant, ContactAddres
     const ContactList &all = m_parts.engine.contacts();
     QStringList addresses;
     for (const ContactAddress &ip : all.addresses()) {
-        const bool isCalledSo = all.find(ip)->nickname.compare(meant, Qt::CaseInsensitive) == 0;
-        if (ip.text() == meant || isCalledSo) {
-            addresses.append(ip.text());
-            found = ip;
-        }
+        const bool isIt = ip.text() == meant;
+        if (!isIt && all.find(ip)->nickname.compare(meant, Qt::CaseInsensitive) != 0)
+            continue;
+        found = ip;
+        if (isIt)
+            addresses.clear(); // whoever bears it as a nickname
+        addresses.append(ip.text());
+        if (isIt)
+            break;
     }
     if (addresses.isEmpty())
         return tr("No contact is called \"%1\" or has this address.").arg(meant);
@@ -156,15 +168,19 @@ void RemoteCommands::sendFile(const QJsonObject &command, const Reply &reply)
         if (!std::exchange(*isGiven, true))
             reply(saying(status, sentence));
     };
-    m_parts.engine.privateWindows().offerFile(contact, path,
-                                              {.written = [answer, note] { answer(0, *note); },
-                                               .refused = [answer](const QString &sentence) { answer(1, sentence); },
-                                               .explained = [note](const QString &sentence) { *note = sentence; }});
+    m_parts.engine.privateWindows().offerFile(
+        contact, path,
+        {.written = [answer, note] { answer(0, *note); },
+         .refused = [answer](const QString &sentence) { answer(1, sentence); },
+         .explained
+         = [note](const QString &sentence) { *note += note->isEmpty() ? sentence : QLatin1Char('\n') + sentence; }});
 }
 
 RemoteCommands::Refusal RemoteCommands::status(const QJsonObject &command)
 {
     const QString wanted = text(command, "state"), words = text(command, "text").simplified();
+    if (words.size() > limits::messageLength)
+        return tr("The command is too long.");
     for (const NamedState &state : states) {
         if (wanted != QLatin1String(state.name))
             continue;

@@ -35,6 +35,9 @@ public:
     /// later.
     void carryOut(const QByteArray &command, const Reply &reply);
 
+    /// Before there is an engine; only the end can be had.
+    static QByteArray answerAtLogin(const QByteArray &command, const std::function<void()> &quit);
+
 private:
     using Refusal = std::optional<QString>; ///< a sentence; nothing when it was done
 

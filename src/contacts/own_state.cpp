@@ -75,9 +75,14 @@ void OwnState::choose(int position)
     m_view.setPersonalizedStateVisible(!entry.base);
     if (!entry.base)
         return m_view.setAutoReply({});
+    take(position, {*entry.base, entry.personalizedText});
+}
+
+void OwnState::take(int position, const OwnPresence &chosen)
+{
     m_chosen = position;
-    if (*entry.base != BaseState::invisible)
-        become({*entry.base, entry.personalizedText});
+    if (chosen.base != BaseState::invisible)
+        become(chosen);
     else if (!m_common.isInvisible())
         goInvisible();
     showAutoReply();
@@ -87,18 +92,16 @@ void OwnState::choose(int position)
 
 void OwnState::become(BaseState base, const QString &words)
 {
+    if (m_common.ownPresence == OwnPresence{base, words})
+        return; // everybody knows
     const auto isIt = [&](const OwnStateEntry &entry) { return entry.base == base && entry.personalizedText == words; };
     auto entry = std::ranges::find_if(m_entries, isIt);
-    const bool isNew = entry == m_entries.end();
-    if (isNew)
+    if (entry == m_entries.end())
         entry = std::ranges::find(m_entries, std::optional(base), &OwnStateEntry::base);
     const int position = static_cast<int>(entry - m_entries.begin()) + 1;
+    m_view.setPersonalizedStateVisible(false);
     m_view.selectOwnState(position);
-    choose(position);
-    if (!isNew)
-        return;
-    become(OwnPresence{base, words});
-    m_changed();
+    take(position, {base, words});
 }
 
 void OwnState::cancelPersonalized()

@@ -59,6 +59,7 @@ private:
     static QString personalizedKey(std::size_t number);
     /// Numbers the entry among the personalised states.
     void appendPersonalized(OwnStateEntry entry);
+    void take(int position, const OwnPresence &chosen);
     void become(const OwnPresence &chosen);
     void goInvisible();
     /// The automatic-reply controls as they belong to the own state.

@@ -101,16 +101,17 @@ bool Conversation::mayFilesBeSent()
 /// Each answer may come when this is gone.
 FileOffers::Answers Conversation::offerAnswers()
 {
+    const auto show = [self = std::weak_ptr(m_self)](const QString &sentence) {
+        if (const auto there = self.lock())
+            (*there)->conversationView().showFileTrouble(sentence);
+    };
     return {.written =
                 [self = std::weak_ptr(m_self)](const QString &message) {
                     const auto there = self.lock();
                     return there && (*there)->mayFilesBeSent() && (*there)->send(message);
                 },
-            .refused =
-                [self = std::weak_ptr(m_self)](const QString &sentence) {
-                    if (const auto there = self.lock())
-                        (*there)->conversationView().showFileTrouble(sentence);
-                }};
+            .refused = show,
+            .leftOut = show};
 }
 
 void Conversation::sendFiles(const QStringList &paths)
@@ -133,6 +134,10 @@ void Conversation::offerFile(const QString &path, const OfferReports &reports)
     answers.refused = [reports, show = answers.refused](const QString &sentence) {
         show(sentence);
         reports.refused(sentence);
+    };
+    answers.leftOut = [reports, show = answers.leftOut](const QString &sentence) {
+        show(sentence);
+        reports.explained(sentence);
     };
     answers.explained = reports.explained;
     transfers().offers.offer({path}, fileRecipients(), answers);

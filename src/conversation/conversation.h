@@ -61,8 +61,8 @@ public:
     /// What becomes of one that is offered for somebody who does not see the window.
     struct OfferReports {
         std::function<void()> written;                          ///< its message has gone out
-        std::function<void(const QString &sentence)> refused;   ///< nothing was offered; or, later, not all of it
-        std::function<void(const QString &sentence)> explained; ///< what is to be known the first time
+        std::function<void(const QString &sentence)> refused;   ///< or, later, cannot be sent any more
+        std::function<void(const QString &sentence)> explained; ///< before: what is to be known, and what is left out
     };
     void offerFile(const QString &path, const OfferReports &reports);
     /// Says so where nobody would get a file now; to be asked before the user chooses one.

@@ -160,10 +160,11 @@ void FileOffers::readied(const QString &token, const FileServer::Readied &readie
     offer->until = m_parts.clock.now().addSecs(std::chrono::seconds(limits::fileOffered).count());
     offer->age->start();
     rowChanged(*offer);
-    if (!answers.written(fileMessage(offer->name, offer->size, offer->recipients.at, readied.port, token)))
-        return end(*offer, nobodyThere());
+    const QString message = fileMessage(offer->name, offer->size, offer->recipients.at, readied.port, token);
     if (!readied.leftOut.isEmpty())
-        answers.refused(readied.leftOut);
+        answers.leftOut(readied.leftOut);
+    if (!answers.written(message))
+        end(*offer, nobodyThere());
 }
 
 void FileOffers::sent(const SentBytes &sent)

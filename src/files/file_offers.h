@@ -49,9 +49,10 @@ public:
     /// What becomes of a wish. written: is called with the message for each file, and returns whether it could be sent.
     struct Answers {
         std::function<bool(const QString &message)> written;
-        /// All of it, or a part: the rest is sent.
         /// Later, too, when what was offered cannot be sent any more.
         std::function<void(const QString &sentence)> refused;
+        /// A part of it is not sent; before the message for the rest.
+        std::function<void(const QString &sentence)> leftOut;
         /// Takes what is to be known the first time; without it the user is asked whether he knows.
         std::function<void(const QString &sentence)> explained{};
     };

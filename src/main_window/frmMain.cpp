@@ -320,7 +320,10 @@ void frmMain::unload(UnloadMode mode)
 {
     if (!m_engine || !m_ended)
         return;
-    switch (m_engine->window.Form_QueryUnload(mode)) {
+    const CloseDecision decision = m_engine->window.Form_QueryUnload(mode);
+    if (!m_ended)
+        return; // the end came by itself while the user was asked
+    switch (decision) {
     case CloseDecision::stay:
         return;
     case CloseDecision::hide:

@@ -63,6 +63,15 @@ TEST_F(ConsoleCommands, WithoutACopyThatRunsSaySo)
     EXPECT_EQ(answer.complaint, "nimb-chatctl: No copy of NIMB-Chat runs with this profile.\n");
 }
 
+TEST_F(ConsoleCommands, EndACopyThatStillAsksForANickname)
+{
+    bob.start({});
+    waitUntil([this] { return ask({"contacts"}).status == 1; });
+    EXPECT_THAT(ask({"show"}).complaint, HasSubstr("still asks for a nickname"));
+    EXPECT_EQ(ask({"quit"}).status, 0);
+    EXPECT_TRUE(waitUntil([this] { return !bob.isRunning(); }));
+}
+
 TEST_F(ConsoleCommands, SendWhatABuildServerHasToSay)
 {
     start();

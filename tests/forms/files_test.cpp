@@ -724,6 +724,26 @@ TEST_F(FilesInWindows, TheWindowSavesWhatIsOffered)
     EXPECT_THAT(windows.folders.opened, ElementsAre("file://" + folder.path().toStdString()));
 }
 
+TEST_F(FilesInWindows, TheEndThatComesByItselfWhileTheUserIsAskedComesOnce)
+{
+    drop(form(), {QUrl::fromLocalFile(QStringLiteral("/media/me/Plan.pdf"))});
+    ASSERT_THAT(windows.fileServer.served, SizeIs(1));
+    windows.fileServer.sent({.token = windows.fileServer.served.front().token,
+                             .transfer = 1,
+                             .to = Ipv4Address(10, 0, 0, 2),
+                             .place = 1,
+                             .size = 2});
+    windows.prompts.asked.clear();
+    windows.prompts.meanwhile = [this] {
+        windows.prompts.attended = false;
+        windows.main().unload(UnloadMode::code);
+    };
+    windows.entry("mnuFileExit").trigger();
+    EXPECT_THAT(windows.prompts.asked, SizeIs(2)) << "the second is answered by nobody";
+    EXPECT_TRUE(windows.ended);
+    EXPECT_EQ(windows.settings.saves, 1);
+}
+
 TEST_F(FilesInWindows, TheWindowDiscardsWhatCameToAHaltAfterAQuestion)
 {
     windows.arrive("10.0.0.2", annsPlan);

@@ -436,6 +436,8 @@ public:
     bool confirm(const QString &text, const QString &title) override
     {
         asked.push_back((title + QLatin1String(": ") + text).toStdString());
+        if (meanwhile)
+            std::exchange(meanwhile, nullptr)();
         return answer;
     }
     bool ask(const QString &text, const QString &title) override { return confirm(text, title); }
@@ -461,7 +463,8 @@ public:
 
     bool answer = true;
     bool attended = true;
-    int carefully = 0; ///< how many of those that were asked
+    std::function<void()> meanwhile; ///< what happens while the next question is open
+    int carefully = 0;               ///< how many of those that were asked
     std::vector<std::string> asked;
     std::vector<std::string> told;
 };

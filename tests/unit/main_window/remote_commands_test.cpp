@@ -144,9 +144,14 @@ TEST_F(RemoteCommandsTest, ChangeTheOwnState)
     EXPECT_EQ(status("busy"), "done");
     EXPECT_EQ(copy.view.selectedState, 2);
     EXPECT_EQ(copy.sent().front(), (To{"10.0.0.2", "!STATUS BUSY"}));
+    EXPECT_EQ(status("busy"), "done");
+    EXPECT_THAT(copy.sent(), IsEmpty()) << "everybody knows";
     EXPECT_EQ(status("away", "Build 17 runs"), "done");
     EXPECT_EQ(copy.view.selectedState, 3);
-    EXPECT_EQ(copy.sent().back().bytes, "!STATUS AWAY Build 17 runs");
+    EXPECT_THAT(copy.sent(), testing::Each(testing::Field(&To::bytes, "!STATUS AWAY Build 17 runs")));
+    EXPECT_EQ(status("away", "Build 17 runs"), "done");
+    EXPECT_THAT(copy.sent(), IsEmpty());
+    EXPECT_EQ(status("busy", QString(2001, u'x')), "The command is too long.");
     EXPECT_EQ(copy.engine.ownState().storedValues(), QStringList()) << "it lasts until the next choice";
     ASSERT_TRUE(copy.engine.ownState().addPersonalized(BaseState::away, QStringLiteral("Lunch")));
     EXPECT_EQ(status("online"), "done");
@@ -156,6 +161,44 @@ TEST_F(RemoteCommandsTest, ChangeTheOwnState)
     EXPECT_EQ(status("asleep"), "There is no state \"asleep\": online, busy, away and invisible are.");
     EXPECT_EQ(status("invisible"), "done");
     EXPECT_TRUE(copy.common.isInvisible());
+}
+
+TEST_F(RemoteCommandsTest, WhoeverBearsAnothersAddressAsANicknameIsNotMeantByIt)
+{
+    copy.arrive("10.0.0.3", "!ONLINE 10.0.0.3 PC 10.0.0.2");
+    EXPECT_EQ(send("10.0.0.2", "done"), "done");
+    std::vector<To> messages = copy.sent();
+    std::erase_if(messages, [](const auto &datagram) { return !datagram.bytes.starts_with('-'); });
+    EXPECT_THAT(messages, ElementsAre(To{"10.0.0.2", "-done"}));
+}
+
+TEST_F(RemoteCommandsTest, WhatIsLeftOutOfAFolderIsSaidWithTheAnswer)
+{
+    copy.common.filesExplained = true;
+    copy.fileServer.answersAtOnce = false;
+    const QTemporaryDir folder;
+    QByteArray answer;
+    const QJsonObject command{{"command", "send-file"}, {"contact", "Ann"}, {"path", folder.path()}};
+    commands.carryOut(QJsonDocument(command).toJson(), [&answer](const QByteArray &given) { answer += given; });
+    copy.fileServer.readies.at(0)({.size = 5,
+                                   .port = 5549,
+                                   .name = QStringLiteral("Photos.zip"),
+                                   .leftOut = QStringLiteral("1 left out of Photos: pipe.")});
+    EXPECT_EQ(answer, "{\"sentence\":\"1 left out of Photos: pipe.\",\"status\":0}");
+}
+
+TEST_F(RemoteCommandsTest, WhileANicknameIsAskedForOnlyTheEndCanBeHad)
+{
+    int quits = 0;
+    const auto atLogin
+        = [&quits](const QByteArray &command) { return RemoteCommands::answerAtLogin(command, [&quits] { ++quits; }); };
+    EXPECT_EQ(atLogin(R"({"command":"contacts"})"),
+              R"({"sentence":"The copy of NIMB-Chat that runs still asks for a nickname.","status":1})");
+    EXPECT_EQ(atLogin("nonsense"),
+              R"({"sentence":"The copy of NIMB-Chat that runs still asks for a nickname.","status":1})");
+    EXPECT_EQ(quits, 0);
+    EXPECT_EQ(atLogin(R"({"command":"quit"})"), R"({"status":0})");
+    EXPECT_EQ(quits, 1);
 }
 
 TEST_F(RemoteCommandsTest, ShowTheWindowAndEndTheProgram)
