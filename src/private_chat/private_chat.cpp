@@ -80,6 +80,17 @@ void PrivateChat::showPeer(PeerShown peer)
     if (!noFilesSoFar.isEmpty() && whyNoFiles() != noFilesSoFar)
         conversationView().withdrawFileTrouble(noFilesSoFar);
     m_view->setPeer(m_peer);
+    if (m_peer.delivery == Delivery::lost || m_peer.delivery == Delivery::toNoContact)
+        takeLiveTypeAway();
+}
+
+/// Whoever has gone sends no empty text any more.
+void PrivateChat::takeLiveTypeAway()
+{
+    if (!m_liveTypeAge->isActive())
+        return; // none is shown
+    m_liveTypeAge->stop();
+    m_view->setLiveType({});
 }
 
 Delivery PrivateChat::deliveryTo(const PeerShown &peer)

@@ -130,6 +130,7 @@ private:
     void doubtDelivery();
 
     void TimerLiveType_Timer();
+    void takeLiveTypeAway();
     void appendBuzz();
     void endPeerActivity();
     void replyAutomatically(BaseState state, bool on, const QString &text);

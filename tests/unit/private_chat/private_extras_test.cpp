@@ -137,6 +137,25 @@ TEST_F(PrivateExtras, ReceivedLiveTextShowsUntilTheMessageComes)
     EXPECT_EQ(window().liveType, QString());
 }
 
+TEST_F(PrivateExtras, LiveTextGoesWithWhoeverGoes)
+{
+    copy.arrive("10.0.0.2", "!LIVETYPE how");
+    copy.arrive("10.0.0.2", "!STATUS AWAY");
+    EXPECT_EQ(window().liveType, QStringLiteral("how")) << "whoever is away is there";
+    copy.arrive("10.0.0.2", "!OFFLINE 10.0.0.2 PC-ANN Ann");
+    EXPECT_EQ(window().liveType, QString());
+    const int hidden = window().liveTypeHidden;
+    copy.advance(31s);
+    EXPECT_EQ(window().liveTypeHidden, hidden) << "there is nothing whose age is measured";
+}
+
+TEST_F(PrivateExtras, LiveTextGoesWithAContactThatIsRemoved)
+{
+    copy.arrive("10.0.0.2", "!LIVETYPE how");
+    chat().setContact(false);
+    EXPECT_EQ(window().liveType, QString());
+}
+
 TEST_F(PrivateExtras, WithoutAWindowLiveTextAndMoodAreDropped)
 {
     copy.arrive("10.0.0.3", "!LIVETYPE hello");
