@@ -8,6 +8,7 @@
 #include "widgets/dialog_parts.h"
 #include "widgets/file_dialogs.h"
 #include "widgets/form_layout.h"
+#include "widgets/muted_text.h"
 #include "widgets/pictures.h"
 
 #include <QDateEdit>
@@ -104,7 +105,8 @@ void frmHistory::buildControls()
     m_nothing = named(new QLabel(messagesView->viewport()), "nothingKept");
     m_nothing->setAlignment(Qt::AlignCenter);
     m_nothing->setWordWrap(true);
-    m_nothing->setForegroundRole(QPalette::Text);
+    m_nothing->setForegroundRole(QPalette::WindowText);
+    keepMuted(*m_nothing);
     m_nothing->hide();
     auto *const room = new QVBoxLayout(messagesView->viewport());
     room->addWidget(m_nothing);
@@ -170,7 +172,13 @@ void frmHistory::connectControls()
     connect(conversationList, &QListWidget::currentRowChanged, this, &frmHistory::find);
     connect(messagesView, &QListView::activated, this, &frmHistory::showPlaceOf);
     connect(messagesView, &QListView::customContextMenuRequested, this, &frmHistory::showEraseMenu);
+    // Rows get their final heights only with the final width of the list.
+    connect(messagesView->verticalScrollBar(), &QScrollBar::rangeChanged, this, [this](int, int end) {
+        if (m_staysAtEnd)
+            messagesView->verticalScrollBar()->setValue(end);
+    });
     connect(messagesView->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
+        m_staysAtEnd = value == messagesView->verticalScrollBar()->maximum() && !m_hasNewer;
         const int near = messagesView->viewport()->height() / 2;
         if (value < near)
             findOlder();
@@ -323,6 +331,7 @@ void frmHistory::found(const std::vector<StoredMessage> &messages)
     m_model->setNames(m_names, !chosenConversation());
     m_model->setMessages(messages);
     showEmptiness();
+    m_staysAtEnd = true;
     messagesView->scrollToBottom();
 }
 

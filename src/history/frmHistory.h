@@ -97,10 +97,11 @@ private:
     HistoryDelegate *m_delegate = nullptr;
     QString m_wantedAddress; ///< to be chosen when the list has come
     bool m_asksOlder = false;
-    bool m_wasLeft = false;  ///< another window has been active since this one was
-    bool m_hasNewer = false; ///< behind what is shown
-    bool m_isAll = false;    ///< nothing older is left
-    int m_question = 0;      ///< counts them; answers to earlier ones are of no use
+    bool m_wasLeft = false;    ///< another window has been active since this one was
+    bool m_hasNewer = false;   ///< behind what is shown
+    bool m_staysAtEnd = false; ///< until the user scrolls up
+    bool m_isAll = false;      ///< nothing older is left
+    int m_question = 0;        ///< counts them; answers to earlier ones are of no use
     QHash<std::int64_t, QString> m_names;
     std::unique_ptr<Export> m_export;
 };

@@ -6,6 +6,7 @@
 #include "history/history_model.h"
 #include "print_qt.h"
 #include "recorders.h"
+#include "widgets/muted_colour.h"
 
 #include <gmock/gmock.h>
 
@@ -394,6 +395,48 @@ TEST_F(FrmHistory, AFileThatCannotBeWrittenIsSaid)
     Q_EMIT dialog->fileSelected(m_base.filePath(QStringLiteral("no such folder/out.txt")));
     EXPECT_TRUE(control<QLabel>("exportProgress").text().contains(QLatin1String("cannot be written")));
     EXPECT_TRUE(control<QPushButton>("exportBtn").isEnabled());
+}
+
+TEST_F(FrmHistory, TheLastMessageIsSeenWholeAndStaysSo)
+{
+    QString text;
+    for (int message = 0; message < 40; ++message) {
+        text += QStringLiteral("and another thing that takes some room ");
+        keep(QStringLiteral("10.0.0.2"), QStringLiteral("Ann"), text);
+    }
+    open();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return shown().size() == 48; }, patience));
+    const QScrollBar &bar = *messages().verticalScrollBar();
+    const auto isLastWhole = [&] {
+        const QRect last = messages().visualRect(messages().model()->index(47, 0));
+        return bar.value() == bar.maximum() && last.bottom() < messages().viewport()->height();
+    };
+    const auto becomesNarrower = [&] {
+        const int before = bar.maximum();
+        form->resize(form->width() - 100, form->height() - 100);
+        return QTest::qWaitFor([&] { return bar.maximum() > before + 100; }, patience);
+    };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar.maximum() > 0; }, patience));
+    messages().grab();
+    EXPECT_TRUE(isLastWhole());
+    ASSERT_TRUE(becomesNarrower());
+    EXPECT_TRUE(QTest::qWaitFor(isLastWhole, 5000));
+    messages().verticalScrollBar()->setValue(bar.maximum() - 300);
+    ASSERT_TRUE(becomesNarrower());
+    EXPECT_FALSE(isLastWhole()) << "whoever has scrolled up reads there";
+}
+
+TEST_F(FrmHistory, WhatItSaysWhenNothingFitsIsQuieterThanMessages)
+{
+    open();
+    search().setText(QStringLiteral("nobody said this"));
+    auto &nothing = control<QLabel>("nothingKept");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return nothing.isVisible(); }, patience));
+    const QColor colour = nothing.palette().color(nothing.foregroundRole());
+    const QPalette &rows = messages().palette();
+    EXPECT_LT(contrast(colour, rows.color(QPalette::Base)),
+              contrast(rows.color(QPalette::Text), rows.color(QPalette::Base)));
+    EXPECT_GE(contrast(colour, rows.color(QPalette::Base)), 4.5);
 }
 
 TEST_F(FrmHistory, ItCanBeClosedWhileAnAnswerIsOnItsWay)
