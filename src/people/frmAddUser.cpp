@@ -67,7 +67,7 @@ void frmAddUser::buildControls()
     // The room is kept, or the dialog would jump while somebody types: three lines, whose heights are rounded up.
     addressRemark->setFixedHeight(3 * (addressRemark->fontMetrics().lineSpacing() + 1));
     QPalette colours = addressRemark->palette();
-    colours.setColor(QPalette::WindowText, readableOn(Qt::red, colours.color(QPalette::Window)));
+    colours.setColor(QPalette::WindowText, contrastingOn(Qt::red, colours.color(QPalette::Window)));
     addressRemark->setPalette(colours);
     grid->addWidget(addressRemark, row, 0, 1, 3);
 

@@ -5,6 +5,7 @@
 #include "keyboard.h"
 #include "print_qt.h"
 #include "recorders.h"
+#include "widgets/muted_colour.h"
 
 #include <gmock/gmock.h>
 
@@ -161,6 +162,14 @@ TEST_F(FrmAddUser, AWrongAddressIsMarkedInItsBoxWhileItIsTyped)
     EXPECT_EQ(remark.text(), QString());
     EXPECT_EQ(dialog->size(), size);
     EXPECT_THAT(prompts.told, IsEmpty());
+}
+
+TEST_F(FrmAddUser, WhatIsWrongCanBeRead)
+{
+    const QPalette &colours = dialog->findChild<QLabel *>(QStringLiteral("addressRemark"))->palette();
+    const QColor remark = colours.color(QPalette::WindowText);
+    EXPECT_GE(contrast(remark, colours.color(QPalette::Window)), 4.5) << remark.name().toStdString();
+    EXPECT_EQ(remark.hue(), 0) << "it is red";
 }
 
 TEST_F(FrmAddUser, PastedLineBreaksBecomeBlanks)
