@@ -71,6 +71,7 @@ void frmConfInvitations::buildControls()
     ConfAgreebtn->setEnabled(false);
     ConfDenybtn->setEnabled(false);
     ConfDenyAllbtn->setEnabled(false);
+    clearbtn->setEnabled(false);
     auto *const answers = new QHBoxLayout;
     answers->setSpacing(spacing);
     for (QPushButton *const button : {ConfAgreebtn, ConfDenybtn, ConfDenyAllbtn, clearbtn})
@@ -110,10 +111,9 @@ void frmConfInvitations::connectControls()
             &frmConfInvitations::ListView1_ItemClick);
     const InvitationList &list = m_invitations.list();
     connect(&list, &InvitationList::dataChanged, this, &frmConfInvitations::ListView1_ItemClick);
-    const auto offerDenial = [this] { ConfDenyAllbtn->setEnabled(m_invitations.isAnyPending()); };
-    connect(&list, &InvitationList::dataChanged, this, offerDenial);
-    connect(&list, &InvitationList::rowsInserted, this, offerDenial);
-    connect(&list, &InvitationList::rowsRemoved, this, offerDenial);
+    connect(&list, &InvitationList::dataChanged, this, &frmConfInvitations::offerWhatConcernsSeveral);
+    connect(&list, &InvitationList::rowsInserted, this, &frmConfInvitations::offerWhatConcernsSeveral);
+    connect(&list, &InvitationList::rowsRemoved, this, &frmConfInvitations::offerWhatConcernsSeveral);
     // Who is looking chooses himself: a click must not meet an invitation that has come this moment.
     connect(ListView1->model(), &QAbstractItemModel::rowsInserted, this, [this] {
         if (!isActiveWindow())
@@ -141,6 +141,16 @@ void frmConfInvitations::ListView1_ItemClick()
         ListView1->setFocus();
     ConfAgreebtn->setEnabled(pending);
     ConfDenybtn->setEnabled(pending);
+}
+
+void frmConfInvitations::offerWhatConcernsSeveral()
+{
+    ConfDenyAllbtn->setEnabled(m_invitations.isAnyPending());
+    const bool isAnyOver = m_invitations.isAnyOver();
+    // As above; an empty list hides the window anyway.
+    if (!isAnyOver && clearbtn->hasFocus())
+        ListView1->setFocus();
+    clearbtn->setEnabled(isAnyOver);
 }
 
 void frmConfInvitations::autorefusemins_Change()

@@ -42,6 +42,7 @@ private:
     void selectTheOnlyOne();
     int selectedRow() const; ///< -1 when none is selected
     void ListView1_ItemClick();
+    void offerWhatConcernsSeveral();
     void autorefusemins_Change();
 
     Invitations &m_invitations;

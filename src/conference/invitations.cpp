@@ -217,6 +217,15 @@ bool Invitations::isPending(int row) const
     return row >= 0 && row < m_list.rowCount() && m_list.at(row).state == Invitation::State::pending;
 }
 
+bool Invitations::isAnyOver() const
+{
+    for (int row = 0; row < m_list.rowCount(); ++row) {
+        if (!isPending(row))
+            return true;
+    }
+    return false;
+}
+
 bool Invitations::isAnyPending() const
 {
     for (int row = 0; row < m_list.rowCount(); ++row) {

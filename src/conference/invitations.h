@@ -107,6 +107,8 @@ public:
     void clearbtn_Click();
     bool isPending(int row) const;
     bool isAnyPending() const;
+    /// Whether there is something to clear.
+    bool isAnyOver() const;
 
     void setAutorefuse(bool on) { m_autorefuse = on; }
     /// Takes the text's numeric value, within 16 bits, and returns what the box is to show.

@@ -410,6 +410,25 @@ TEST_F(FrmConference, OnlyPendingInvitationsAreAnswered)
     EXPECT_FALSE(invitations().isVisible());
 }
 
+TEST_F(FrmConference, OnlyInvitationsThatAreOverCanBeCleared)
+{
+    windows.entry("mnushowinvitations").trigger();
+    auto &clear = RealWindows::control<QPushButton>(invitations(), "clearbtn");
+    EXPECT_FALSE(clear.isEnabled()) << "there is none";
+    windows.arrive("10.0.0.2", "?CONF INVITE #3");
+    EXPECT_FALSE(clear.isEnabled()) << "it may still be answered";
+    windows.arrive("10.0.0.2", "!CONF CLOSE #3");
+    EXPECT_TRUE(clear.isEnabled());
+    windows.arrive("10.0.0.3", "?CONF INVITE #4");
+    EXPECT_TRUE(clear.isEnabled());
+    clear.setFocus();
+    QTest::keyClick(&clear, Qt::Key_Space);
+    EXPECT_FALSE(clear.isEnabled());
+    auto &list = RealWindows::control<QTreeView>(invitations(), "ListView1");
+    EXPECT_EQ(list.model()->rowCount(), 1);
+    EXPECT_EQ(invitations().focusWidget(), &list) << "whoever presses on presses nothing else";
+}
+
 TEST_F(FrmConference, EnterAcceptsTheChosenInvitationAndPressesTheButtonWithTheFocus)
 {
     windows.arrive("10.0.0.2", "?CONF INVITE #3");
