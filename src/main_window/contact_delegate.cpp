@@ -12,6 +12,8 @@
 #include <QPainter>
 #include <QTreeView>
 
+#include <cmath>
+
 namespace nimb
 {
 namespace
@@ -268,7 +270,8 @@ void ContactDelegate::paintRow(QPainter &painter, const QStyleOptionViewItem &ce
     const int unread = contact.data(ContactList::UnreadRole).toInt();
     QFont nameFont = cell.font;
     nameFont.setBold(unread > 0);
-    const int nameWidth = QFontMetrics(nameFont).horizontalAdvance(cell.text);
+    // Rounded up, or a name would be cut in a room that is a part of a pixel too narrow.
+    const int nameWidth = static_cast<int>(std::ceil(QFontMetricsF(nameFont).horizontalAdvance(cell.text)));
 
     Room room(painter, cell, rowAround(cell.rect), isStateShown() ? edge : edgeOfColumn);
     const QRect face = room.takeLeft(cell.rect.height() - 2 * aboveFace);

@@ -8,6 +8,7 @@
 #include "main_window/contact_filter.h"
 #include "widgets/folded_caption.h"
 #include "widgets/form_layout.h"
+#include "widgets/muted_text.h"
 #include "widgets/pictures.h"
 
 #include <QContextMenuEvent>
@@ -248,6 +249,8 @@ void ContactView::buildInvitation()
         = new QLabel(tr("Nobody is in your list yet. One click asks everybody on your network."), m_invitation);
     sentence->setWordWrap(true);
     sentence->setAlignment(Qt::AlignCenter);
+    sentence->setForegroundRole(QPalette::WindowText); // on the ground of a list it would be that of its rows
+    keepMuted(*sentence);
     m_everybody = new QPushButton(namedPicture(QStringLiteral("search")), tr("Find everybody here"), m_invitation);
     m_everybody->setObjectName(QStringLiteral("findEverybodyBtn"));
     auto *const layout = new QVBoxLayout(m_invitation);

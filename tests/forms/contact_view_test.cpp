@@ -2,11 +2,14 @@
 #include "real_windows.h"
 
 #include "main_window/contact_view.h"
+#include "widgets/muted_colour.h"
 
 #include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScrollBar>
 
 namespace nimb::test
@@ -228,6 +231,57 @@ TEST_F(ContactRows, InFullDetailsTheNameGoesBeforeWhatStandsBesideIt)
     windows.engine.contacts().change(QStringLiteral("10.0.0.5"), [](Contact &contact) { contact.unreadInWindow = 12; });
     QCoreApplication::processEvents();
     EXPECT_GE(widthOfInk(name()), alone) << "the number lies over the picture";
+}
+
+TEST(ContactRowsOfNamesakes, ShortenTheAddressAndNotAShortName)
+{
+    RealWindows windows{{{"192.168.100.104", "Cleo"}, {"192.168.100.105", "Cleo"}, {"192.168.100.106", "Dora"}}};
+    windows.settleStart({"192.168.100.104", "192.168.100.105", "192.168.100.106"});
+    windows.list().clearSelection();
+    windows.list().setCurrentIndex({});
+    const auto setNickname = [&](const char *nickname) {
+        windows.engine.contacts().change(QStringLiteral("192.168.100.105"), [&](Contact &contact) {
+            contact.nickname = QLatin1String(nickname);
+            contact.unreadInWindow = 1;
+        });
+    };
+    const auto name = [&](int width) {
+        const int number = windows.engine.contacts().rowOf(QStringLiteral("192.168.100.105"));
+        const QRect cell = windows.list().visualRect(windows.list().model()->index(number, 0));
+        const QRect row(0, cell.top(), windows.list().viewport()->width(), cell.height());
+        // The picture at its left side is a square within the row, with a distance on each side.
+        return windows.list().viewport()->grab(row).toImage().copy(row.height() + 8, 0, width - 2, row.height());
+    };
+    for (int tenths = 90; tenths <= 200; tenths += 5) {
+        QFont font = windows.list().font();
+        font.setPointSizeF(tenths / 10.0);
+        windows.list().setFont(font);
+        font.setBold(true);
+        for (const char *const nickname : {"Cleo", "Li", "Wim", "Alfi"}) {
+            setNickname(nickname);
+            windows.engine.contacts().change(QStringLiteral("192.168.100.104"),
+                                             [](Contact &contact) { contact.nickname = QStringLiteral("Cleo"); });
+            QCoreApplication::processEvents();
+            const int width = QFontMetrics(font).horizontalAdvance(QLatin1String(nickname));
+            const QImage alone = name(width);
+            windows.engine.contacts().change(QStringLiteral("192.168.100.104"),
+                                             [&](Contact &contact) { contact.nickname = QLatin1String(nickname); });
+            QCoreApplication::processEvents();
+            EXPECT_EQ(name(width), alone) << nickname << " at " << tenths / 10.0 << " points";
+        }
+    }
+}
+
+TEST(EmptyContactList, SaysWhatToDoMoreQuietlyThanRows)
+{
+    RealWindows windows;
+    QWidget &part = *windows.control<QPushButton>("findEverybodyBtn").parentWidget();
+    const QLabel &sentence = *part.findChild<QLabel *>();
+    const QColor ground = windows.list().palette().color(QPalette::Base);
+    const QColor colour = sentence.palette().color(sentence.foregroundRole());
+    EXPECT_TRUE(sentence.isVisible());
+    EXPECT_LT(contrast(colour, ground), contrast(windows.list().palette().color(QPalette::Text), ground));
+    EXPECT_GE(contrast(colour, ground), 4.5);
 }
 
 TEST_F(ContactRows, AreAskedForTheirRemovalByTheDeleteKey)
