@@ -382,9 +382,14 @@ void frmHistory::findOlder()
             return;
         self->m_asksOlder = false;
         self->m_isAll = messages.empty();
+        if (self->m_isAll)
+            return;
+        const bool wasAtEnd = self->m_staysAtEnd;
         const QModelIndex top = self->messagesView->indexAt(QPoint(1, 1));
         const int row = top.isValid() ? top.row() : 0;
         self->m_model->addOlder(messages);
+        if (wasAtEnd)
+            return self->messagesView->scrollToBottom();
         self->messagesView->scrollTo(self->m_model->index(row + static_cast<int>(messages.size())),
                                      QAbstractItemView::PositionAtTop);
     });

@@ -426,6 +426,32 @@ TEST_F(FrmHistory, TheLastMessageIsSeenWholeAndStaysSo)
     EXPECT_FALSE(isLastWhole()) << "whoever has scrolled up reads there";
 }
 
+TEST_F(FrmHistory, ThatThereIsNothingOlderLeavesTheListAtItsEnd)
+{
+    for (int message = 0; message < 12; ++message)
+        keep(QStringLiteral("10.0.0.2"), QStringLiteral("Ann"), QStringLiteral("one\ntwo"));
+    open();
+    const QScrollBar &bar = *messages().verticalScrollBar();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return shown().size() == 20 && bar.maximum() > 0; }, patience));
+    // So near to the beginning that what is older is asked for, and not at the upper edge of a row.
+    form->resize(form->width(), form->height() + bar.maximum() - 23);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar.maximum() == 23; }, patience));
+    const auto find = [this](const QString &words, qsizetype count) {
+        search().setText(words);
+        QTest::keyClick(&search(), Qt::Key_Return);
+        return QTest::qWaitFor([&] { return shown().size() == count; }, patience);
+    };
+    ASSERT_TRUE(find(QStringLiteral("plan"), 4));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar.maximum() == 0; }, patience));
+    ASSERT_TRUE(find(QString(), 20));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar.maximum() == 23; }, patience));
+    bool isAnswered = false; // after the question for what is older
+    keeper.find({.most = 1}, [&isAnswered](const std::vector<StoredMessage> &) { isAnswered = true; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return isAnswered; }, patience));
+    messages().grab();
+    EXPECT_EQ(bar.value(), bar.maximum());
+}
+
 TEST_F(FrmHistory, WhatItSaysWhenNothingFitsIsQuieterThanMessages)
 {
     open();
