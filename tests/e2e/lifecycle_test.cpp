@@ -751,6 +751,8 @@ TEST_F(Store, KeepsAHeightThatTheWindowMayHave)
     main.resize(900, 200);
     EXPECT_TRUE(waitUntil([&] { return main.place().height == 300; })) << main.place().height;
     EXPECT_EQ(main.place().width, 621);
+    // The screen knows the height before the program has heard of it.
+    EXPECT_TRUE(waitUntil([&bob] { return bob.kept()[{"Settings", "MainHeight"}] == "4500"; }));
     EXPECT_EQ(bob.end(), 0);
     EXPECT_EQ(bob.stored("Settings", "MainHeight"), "4500");
 }
