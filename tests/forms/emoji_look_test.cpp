@@ -52,10 +52,15 @@ TEST(EmojiIn, WhatIsJoinedIsOnePlace)
     EXPECT_THAT(in("\U0001F469\u200D\u2695"), ElementsAre(TextPlace{0, 4}));
 }
 
-bool hasColourFont()
+class EmojiInColour : public testing::Test
 {
-    return QFontInfo(QFont(QStringLiteral("emoji"))).family().contains(QStringLiteral("Color"));
-}
+protected:
+    void SetUp() override
+    {
+        if (!QFontInfo(QFont(QStringLiteral("emoji"))).family().contains(QStringLiteral("Color")))
+            GTEST_SKIP() << "no font of coloured emoji";
+    }
+};
 
 int redPoints(QWidget &view)
 {
@@ -75,10 +80,8 @@ int looksIn(const QTextDocument &document)
     return static_cast<int>(document.firstBlock().layout()->formats().size());
 }
 
-TEST(EmojiLookTest, ARedHeartIsRedInTheLogAndNothingOfItStandsInTheDocument)
+TEST_F(EmojiInColour, ARedHeartIsRedInTheLogAndNothingOfItStandsInTheDocument)
 {
-    if (!hasColourFont())
-        GTEST_SKIP() << "no font of coloured emoji";
     RichTextLogEdit log;
     log.resize(200, 80);
     log.show();
@@ -93,10 +96,8 @@ TEST(EmojiLookTest, ARedHeartIsRedInTheLogAndNothingOfItStandsInTheDocument)
     EXPECT_EQ(pieces, 1);
 }
 
-TEST(EmojiLookTest, ARedHeartIsRedInTheInputAndUndoneInOneStep)
+TEST_F(EmojiInColour, ARedHeartIsRedInTheInputAndUndoneInOneStep)
 {
-    if (!hasColourFont())
-        GTEST_SKIP() << "no font of coloured emoji";
     MessageInput input;
     input.resize(200, 80);
     input.show();
@@ -111,10 +112,8 @@ TEST(EmojiLookTest, ARedHeartIsRedInTheInputAndUndoneInOneStep)
     EXPECT_EQ(looksIn(*input.document()), 0);
 }
 
-TEST(EmojiLookTest, ACoupleOfThreePicturesTakesTheRoomOfOne)
+TEST_F(EmojiInColour, ACoupleOfThreePicturesTakesTheRoomOfOne)
 {
-    if (!hasColourFont())
-        GTEST_SKIP() << "no font of coloured emoji";
     MessageInput input;
     const auto widthOf = [&input](const QString &text) {
         input.setPlainText(text);

@@ -56,6 +56,15 @@ protected:
             entries.push_back({ann, message(text)});
         history.write(entries);
     }
+    /// "message number 1000" to 1899, in a file that is closed then.
+    void writeNumbered() const
+    {
+        HistoryFile history(folder);
+        QStringList all;
+        for (int i = 1000; i < 1900; ++i)
+            all += QStringLiteral("message number %1").arg(i);
+        write(history, all);
+    }
     /// Overwrites the page of the file on which these bytes stand.
     void damagePageWith(const QByteArray &bytes) const
     {
@@ -355,13 +364,7 @@ TEST_F(HistoryFileTest, WhatIsNoHistoryIsSetAsideAndTold)
 
 TEST_F(HistoryFileTest, WhatCanBeReadOnBothSidesOfADamagedPageIsTakenOver)
 {
-    {
-        HistoryFile history(folder);
-        QStringList all;
-        for (int i = 1000; i < 1900; ++i)
-            all += QStringLiteral("message number %1").arg(i);
-        write(history, all);
-    }
+    writeNumbered();
     damagePageWith("message number 1450");
 
     HistoryFile history(folder);
@@ -382,13 +385,7 @@ TEST_F(HistoryFileTest, WhatCanBeReadOnBothSidesOfADamagedPageIsTakenOver)
 
 TEST_F(HistoryFileTest, WhatStandsBetweenTwoDamagedPagesIsTakenOverToo)
 {
-    {
-        HistoryFile history(folder);
-        QStringList all;
-        for (int i = 1000; i < 1900; ++i)
-            all += QStringLiteral("message number %1").arg(i);
-        write(history, all);
-    }
+    writeNumbered();
     damagePageWith("message number 1200");
     damagePageWith("message number 1700");
 
