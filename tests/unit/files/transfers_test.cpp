@@ -60,6 +60,14 @@ protected:
         return receive(message.replace(message.find("abcdef/") - number.size(), number.size(), number));
     }
 
+    /// A file of which 45 of 100 bytes had come is offered no longer.
+    void loseWhatHadBegun()
+    {
+        const int number = receive();
+        received().save(number, QStringLiteral("/in"));
+        tell({.number = number, .what = What::failed, .place = 45, .size = 100, .isGone = true});
+        copy.advance(1s);
+    }
     /// The program as it starts with what this one has stored.
     std::unique_ptr<Copy> next()
     {
@@ -504,10 +512,7 @@ TEST_F(TransfersTest, WhatIsDiscardedIsRemovedAndNotToldOfAtTheNextStart)
 TEST_F(TransfersTest, WhatIsLeftOfAFileThatIsGoneComesBackToBeDiscardedAndIsNotToldOf)
 {
     chat();
-    const int number = receive();
-    received().save(number, QStringLiteral("/in"));
-    tell({.number = number, .what = What::failed, .place = 45, .size = 100, .isGone = true});
-    copy.advance(1s);
+    loseWhatHadBegun();
     const std::unique_ptr<Copy> later = justStarted();
     EXPECT_THAT(later->view.log.text().toStdString(), testing::Not(HasSubstr("files that had not all come")));
     ReceivedFiles &files = later->engine.transfers().received;
@@ -524,10 +529,7 @@ TEST_F(TransfersTest, WhatIsLeftOfAFileThatIsGoneComesBackToBeDiscardedAndIsNotT
 TEST_F(TransfersTest, OfAFileThatIsGoneAndHasLeftNothingTheRowGoes)
 {
     chat();
-    const int number = receive();
-    received().save(number, QStringLiteral("/in"));
-    tell({.number = number, .what = What::failed, .place = 45, .size = 100, .isGone = true});
-    copy.advance(1s);
+    loseWhatHadBegun();
     const std::unique_ptr<Copy> later = next();
     ReceivedFiles &files = later->engine.transfers().received;
     ASSERT_EQ(files.rowCount(), 1);
