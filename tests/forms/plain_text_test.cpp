@@ -108,8 +108,8 @@ TEST(PlainMessageBox, BelongsToTheWindowWhoseDialogIsJustClosing)
     asked.show();
     QDialog files(&asked);
     files.show();
-    QApplication::setActiveWindow(&files);
-    ASSERT_EQ(QApplication::activeWindow(), &files);
+    files.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&files));
     QWidget *owner = nullptr;
     QTimer::singleShot(0, [&owner] {
         auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
