@@ -408,14 +408,17 @@ void frmMain::setPlace(const WindowPlace &place)
     moveOntoScreen();
 }
 
-/// A window whose title cannot be reached with the mouse is moved onto the first screen, and no window is higher than
-/// its screen.
+/// A window of which a part is on no screen is moved in whole, onto the first screen where its title cannot be reached
+/// with the mouse, and no window is higher than its screen.
 void frmMain::moveOntoScreen()
 {
     constexpr QSize reachableTitle(100, 24);
+    constexpr int frame = 4; // on each side, as far as one can know before the window is shown
     const QRect title(pos(), QSize(width(), reachableTitle.height()));
     const QScreen *home = nullptr;
+    QRegion screens;
     for (const QScreen *const screen : QGuiApplication::screens()) {
+        screens += screen->availableGeometry();
         const QRect seen = title & screen->availableGeometry();
         if (seen.width() >= reachableTitle.width() && seen.height() >= reachableTitle.height())
             home = screen;
@@ -427,10 +430,12 @@ void frmMain::moveOntoScreen()
         resize(width(), available.height());
         m_place.height = twips(height());
     }
-    if (home)
+    const QRect whole(pos(), size() + QSize(2 * frame, frame + reachableTitle.height()));
+    if (QRegion(whole).subtracted(screens).isEmpty())
         return;
-    const int left = qBound(available.left(), x(), qMax(available.left(), available.right() + 1 - width()));
-    const int top = qBound(available.top(), y(), qMax(available.top(), available.bottom() + 1 - height()));
+    const QPoint last = available.bottomRight() + QPoint(1 - width() - 2 * frame, 1 - height() - frame);
+    const int left = qBound(available.left(), x(), qMax(available.left(), last.x()));
+    const int top = qBound(available.top(), y(), qMax(available.top(), last.y()));
     move(left, top);
     m_place.left = twips(left);
     m_place.top = twips(top);

@@ -734,6 +734,14 @@ TEST(FrmMainPlace, APlaceOffEveryScreenIsMovedIn)
     EXPECT_TRUE(screen.contains(windows.main().frameGeometry())) << "moved in whole";
 }
 
+TEST(FrmMainPlace, APlacePartlyOffTheScreenIsMovedIn)
+{
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QString nearlyOut = QString::number((screen.right() - 200) * 15); // twips of a pixel
+    RealWindows windows({}, {{"Settings/MainLeft", nearlyOut}, {"Settings/MainTop", nearlyOut}});
+    EXPECT_TRUE(screen.contains(windows.main().frameGeometry())) << "its title was to be seen, and no more";
+}
+
 TEST(FrmMainPlace, ATitleOutOfReachIsMovedIn)
 {
     RealWindows windows({}, {{"Settings/MainTop", "-3000"}, {"Settings/MainHeight", "1000000"}});
