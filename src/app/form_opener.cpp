@@ -6,6 +6,7 @@
 #include "notify/frmNotify.h"
 #include "protocol/address_text.h"
 #include "welcome/frmLogin.h"
+#include "widgets/focus_edge.h"
 #include "widgets/pictures.h"
 
 #include <QLocale>
@@ -61,6 +62,7 @@ frmMain &FormOpener::makeMain()
     // The window takes the log over as a child.
     auto *const log = new RichTextLogEdit(nullptr);
     log->setFrameShape(QFrame::NoFrame);
+    new FocusEdge(*log);
     log->setInsets(frmMain::logInsetAbove, frmMain::logInsetBelow);
     m_main = std::make_unique<frmMain>(*log);
     QObject::connect(log, &RichTextLogEdit::commandPressed, m_main.get(),

@@ -234,7 +234,7 @@ QList<QAbstractTextDocumentLayout::Selection> EarlierMessages::coloured(const st
 {
     QTextCharFormat link, found, current;
     link.setForeground(look.link);
-    LogMarks::setFoundLook(found);
+    LogMarks::setFoundLook(found, look.palette);
     current.setBackground(look.palette.brush(QPalette::Highlight));
     current.setForeground(look.palette.brush(QPalette::HighlightedText));
     QList<QAbstractTextDocumentLayout::Selection> selections;

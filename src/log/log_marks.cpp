@@ -204,10 +204,13 @@ void LogMarks::setYearShown(QTextBlockFormat &line)
     line.setProperty(yearShown, true);
 }
 
-void LogMarks::setFoundLook(QTextCharFormat &text)
+void LogMarks::setFoundLook(QTextCharFormat &text, const QPalette &palette)
 {
-    text.setBackground(QColor(0xFF, 0xD5, 0x4F));
-    text.setForeground(QColor(0x1B, 0x1F, 0x24));
+    constexpr QColor yellow(0xFF, 0xD5, 0x4F), dimYellow(0x5C, 0x4A, 0x12);
+    constexpr double toldApart = 1.5;
+    const bool likeSelection = contrast(yellow, palette.color(QPalette::Highlight)) < toldApart;
+    text.setBackground(likeSelection ? dimYellow : yellow);
+    text.setForeground(likeSelection ? QColor(Qt::white) : QColor(0x1B, 0x1F, 0x24));
 }
 
 MessageFate LogMarks::fateOf(const QTextBlockFormat &line)

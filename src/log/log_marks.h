@@ -5,6 +5,7 @@
 #include "base/rich_text.h"
 
 #include <QDate>
+#include <QPalette>
 #include <QTextBlock>
 #include <QTextBlockFormat>
 
@@ -62,8 +63,8 @@ public:
     /// The day that is painted above it is of another year than this, which it says.
     static void setYearShown(QTextBlockFormat &line);
 
-    /// Of what a search has found.
-    static void setFoundLook(QTextCharFormat &text);
+    /// Of what a search has found, beside the one place at which it stands, which is in the colours of a selection.
+    static void setFoundLook(QTextCharFormat &text, const QPalette &palette);
 
     /// One line of the log as it is seen: where it lies, without the room above it.
     struct Seen {

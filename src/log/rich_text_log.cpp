@@ -882,7 +882,7 @@ void RichTextLogEdit::showFound(QList<QAbstractTextDocumentLayout::Selection> &s
         selection.cursor.setPosition(qMin(*place, document()->characterCount() - 1));
         selection.cursor.setPosition(qMin(*place + m_foundLength, document()->characterCount() - 1),
                                      QTextCursor::KeepAnchor);
-        LogMarks::setFoundLook(selection.format);
+        LogMarks::setFoundLook(selection.format, palette());
         selections.append(selection);
     }
 }

@@ -6,6 +6,7 @@
 #include "main_window/accessible_contacts.h"
 #include "main_window/contact_delegate.h"
 #include "main_window/contact_filter.h"
+#include "widgets/focus_edge.h"
 #include "widgets/folded_caption.h"
 #include "widgets/form_layout.h"
 #include "widgets/muted_text.h"
@@ -99,6 +100,7 @@ ContactView::ContactView(QWidget *parent)
     setEditTriggers(NoEditTriggers);
     setSelectionMode(ExtendedSelection);
     setFrameShape(NoFrame);
+    new FocusEdge(*this);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setMouseTracking(true);
 }

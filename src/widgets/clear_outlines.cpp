@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QStyleOption>
 #include <QTextEdit>
+#include <QToolButton>
 
 namespace nimb
 {
@@ -104,17 +105,6 @@ void drawHandle(const QRect &place, const QStyleOptionSlider &bar, QPainter &pai
     painter.restore();
 }
 
-/// The accent, or half of it where it is as black as an outline without the focus.
-QColor focusColour(const QPalette &palette)
-{
-    constexpr double toldApart = 1.5;
-    const QColor accent = palette.color(QPalette::Highlight), ground = palette.color(QPalette::Base);
-    if (contrast(accent, outlineColour(palette)) >= toldApart)
-        return accent;
-    return {(accent.red() + ground.red()) / 2, (accent.green() + ground.green()) / 2,
-            (accent.blue() + ground.blue()) / 2};
-}
-
 /// Where the style itself shows nothing: around a text, and in a default button, which is edged as one with the focus.
 void drawFocus(QStyle::PrimitiveElement element, const QStyleOption &option, QPainter &painter, const QWidget *widget)
 {
@@ -139,6 +129,16 @@ template <class Option> Option inColours(const Option &option, const QPalette &p
 
 } // namespace
 
+QColor focusColour(const QPalette &palette)
+{
+    constexpr double toldApart = 1.5;
+    const QColor accent = palette.color(QPalette::Highlight), ground = palette.color(QPalette::Base);
+    if (contrast(accent, outlineColour(palette)) >= toldApart)
+        return accent;
+    return {(accent.red() + ground.red()) / 2, (accent.green() + ground.green()) / 2,
+            (accent.blue() + ground.blue()) / 2};
+}
+
 ClearOutlines::ClearOutlines() : QProxyStyle(qtsOwnStyle) { }
 
 const QPalette &ClearOutlines::outlined(const QPalette &palette) const
@@ -158,6 +158,9 @@ void ClearOutlines::drawPrimitive(PrimitiveElement element, const QStyleOption *
                                   const QWidget *widget) const
 {
     const bool clear = option && needsClearOutlines(option->palette);
+    // The style's own is the accent, nearly transparent.
+    if (clear && element == PE_FrameFocusRect && qobject_cast<const QToolButton *>(widget))
+        return drawEdge(*painter, option->rect, focusColour(option->palette));
     if (clear && element == PE_FrameGroupBox)
         return drawGroupFrame(*option, *painter, widget);
     if (clear && isOutlined(element, option->palette, widget)) {

@@ -32,6 +32,9 @@ private:
     mutable QHash<qint64, QPalette> m_outlined;
 };
 
+/// The accent, or half of it where it is as black as an outline without the focus.
+QColor focusColour(const QPalette &palette);
+
 /// Lets the whole program use it where the desktop brings no style of its own; other styles know their grounds. To be
 /// called before there are windows.
 void makeOutlinesClear();

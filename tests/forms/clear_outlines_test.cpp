@@ -2,6 +2,7 @@
 #include "widgets/clear_outlines.h"
 
 #include "widgets/appearance_palette.h"
+#include "widgets/focus_edge.h"
 #include "widgets/muted_colour.h"
 
 #include <gmock/gmock.h>
@@ -11,12 +12,14 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextEdit>
+#include <QToolButton>
 
 namespace nimb::test
 {
@@ -153,6 +156,22 @@ TEST_P(ClearOutlinesTest, OfATextWithTheFocusAreSeen)
     EXPECT_GT(changedByFocus(log), 40);
 }
 
+TEST_P(ClearOutlinesTest, OfAFramelessListWithTheFocusAreSeen)
+{
+    QListWidget list;
+    list.setFrameShape(QFrame::NoFrame);
+    new FocusEdge(list);
+    EXPECT_GT(changedByFocus(list), 40);
+}
+
+TEST_P(ClearOutlinesTest, OfAFlatToolButtonWithTheFocusAreSeen)
+{
+    QToolButton button;
+    button.setAutoRaise(true);
+    button.setFocusPolicy(Qt::StrongFocus);
+    EXPECT_GT(changedByFocus(button), 40);
+}
+
 TEST_P(ClearOutlinesTest, OfADefaultButtonWithTheFocusAreSeen)
 {
     QPushButton send(QStringLiteral("Send"));
@@ -184,6 +203,15 @@ TEST_P(HighContrastTest, TheHandleOfAScrollBarStandsOutFromWhatItMovesOn)
     const QImage image = bar.grab().toImage();
     const int middle = bar.width() / 2;
     EXPECT_GE(contrast(image.pixelColor(middle, 60), image.pixelColor(middle, 150)), visible);
+}
+
+TEST_P(HighContrastTest, AFramelessListHasAnEdgeWithoutTheFocusToo)
+{
+    QListWidget list;
+    list.setFrameShape(QFrame::NoFrame);
+    const FocusEdge *const edge = new FocusEdge(list);
+    EXPECT_GE(leftEdge(list), visible);
+    EXPECT_TRUE(edge->isVisibleTo(&list));
 }
 
 INSTANTIATE_TEST_SUITE_P(, HighContrastTest, testing::Values("whiteOnBlack", "blackOnWhite"),

@@ -625,6 +625,18 @@ TEST_F(FindBarTest, MarksEveryPlaceThatItFinds)
     EXPECT_NE(picture(), before);
 }
 
+TEST(FoundLook, IsToldFromThePlaceAtWhichASearchStandsInEveryPalette)
+{
+    for (const QColor &accent : {QColor(0x1B, 0x6E, 0xC2), QColor(0xFF, 0xD5, 0x4F), QColor(Qt::yellow)}) {
+        QPalette palette;
+        palette.setColor(QPalette::Highlight, accent);
+        QTextCharFormat found;
+        LogMarks::setFoundLook(found, palette);
+        EXPECT_GE(contrast(found.background().color(), accent), 1.5) << accent.name().toStdString();
+        EXPECT_GE(contrast(found.background().color(), found.foreground().color()), 4.5);
+    }
+}
+
 TEST_F(FindBarTest, AWordThatGoesAcrossLinesIsNone)
 {
     QTest::keyClicks(&text(), QStringLiteral("deskWhich"));
