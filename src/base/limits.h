@@ -221,6 +221,8 @@ constexpr std::ptrdiff_t furtherFilesInPanel = 20;
 constexpr qsizetype fileTroublesShown = 3;
 /// Files that are received at once; others wait.
 constexpr int filesReceivedAtOnce = 4;
+/// Of them those of one sender.
+constexpr int filesReceivedFromOne = 3;
 /// Connections to the server of files: a peer may look while it loads. Each has a thread with a small stack.
 constexpr int fileConnections = 64;
 constexpr int fileConnectionsOfPeer = 12;

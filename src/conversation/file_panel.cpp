@@ -357,6 +357,7 @@ void FileRow::refresh()
     const bool isOffered = file->state == State::offered;
     m_name->setText(isOffered ? tr("%1 from %2").arg(name, isolated(file->sender)) : name);
     m_name->setToolTip(file->link.name);
+    const bool grows = m_stateLine->isHidden() && !isOffered;
     m_stateLine->setVisible(!isOffered);
     m_state->setText(ReceivedFiles::progressOf(*file));
     m_bar->setVisible(file->state == State::running || file->state == State::paused || file->state == State::summing);
@@ -364,10 +365,13 @@ void FileRow::refresh()
     m_look->setVisible(isOffered && file->isPicture() && file->picture.isEmpty());
     m_save->setVisible(isOffered || (file->isLookedAt && !file->isUnderWay()) || file->state == State::failed);
     m_pause->setVisible(file->isUnderWay());
-    m_resume->setVisible(file->state == State::paused || file->state == State::failed);
+    // What may not be shown is not shown the second time either.
+    m_resume->setVisible(file->state == State::paused || (file->state == State::failed && !file->isLookedAt));
     m_open->setVisible(file->state == State::done);
     m_save->setAccessibleName(tr("Save %1").arg(name));
     readPicture(file->picture);
+    if (grows)
+        Q_EMIT grown();
 }
 
 void FileRow::save()

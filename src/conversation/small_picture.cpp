@@ -67,7 +67,8 @@ SmallPicture smallPicture(const QString &path, QSize room, const std::function<b
     if (qint64(size.width()) * size.height() > limits::shownPicturePixels)
         return {.isTooLarge = true};
     if (size.width() > room.width() || size.height() > room.height())
-        reader.setScaledSize(size.scaled(room, Qt::KeepAspectRatio)); // which JPEG and WebP do while they are read
+        // JPEG and WebP do it while they are read. A long line keeps its breadth of one pixel.
+        reader.setScaledSize(size.scaled(room, Qt::KeepAspectRatio).expandedTo({1, 1}));
     const QImage picture = reader.read();
     return {.picture = file.isBrokenOff() ? QImage() : picture}; // the rest would be made up
 }

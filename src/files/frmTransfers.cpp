@@ -36,11 +36,13 @@ QTreeView *transferList(QWidget *parent, const char *name, const QString &access
     list->setTabKeyNavigation(false);
     list->setModel(&model);
     list->setContextMenuPolicy(Qt::CustomContextMenu);
-    list->header()->setStretchLastSection(true);
     const int letter = list->fontMetrics().averageCharWidth();
-    constexpr int widths[] = {40, 16, 36};
+    // How it goes may take a whole sentence to say.
+    constexpr int sentence = 2, widths[] = {36, 16, 36, 28};
+    list->header()->setStretchLastSection(false);
     for (int column = 0; column < static_cast<int>(std::size(widths)); ++column)
         list->header()->resizeSection(column, widths[column] * letter);
+    list->header()->setSectionResizeMode(sentence, QHeaderView::Stretch);
     return list;
 }
 

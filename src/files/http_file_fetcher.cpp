@@ -27,6 +27,7 @@
 #include <filesystem>
 #include <functional>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace nimb
@@ -40,6 +41,8 @@ using namespace std::chrono_literals;
 constexpr auto lookForStop = 100ms;
 constexpr auto connecting = 10s;
 constexpr auto rateOver = 1000ms;
+/// That a sum is asked for which the sender has not worked out yet.
+constexpr std::chrono::seconds longestBetweenAsking = 30s;
 constexpr int namesTried = 1000;
 
 /// Or what the user may have of it.
@@ -401,10 +404,11 @@ private:
         m_tell(m_state);
         const QByteArray sum = m_sum.result();
         const bool isOnlyShown = m_file.most > 0; // and thrown away: nobody waits for its sum
+        std::chrono::seconds between{1};
         while (m_head.sum.isEmpty() && m_head.isSumPending && !m_isStopped && !isOnlyShown) {
             askForSum();
             if (m_head.sum.isEmpty() && m_head.isSumPending)
-                pause(1s);
+                pause(std::exchange(between, std::min(between * 2, longestBetweenAsking)));
         }
         if (m_isStopped)
             return std::nullopt;

@@ -115,6 +115,11 @@ void ReceivedFiles::save(int number, const QString &folder)
     if (!file || file->isUnderWay())
         return;
     m_lastFolder = folder;
+    // What has come of it stays nowhere where nobody would look for it again.
+    if (file->isHalted() && file->folder != folder) {
+        m_fetcher.discard(wantedOf(*file));
+        file->place = 0;
+    }
     file->folder = folder;
     file->isLookedAt = false;
     begin(*file);
@@ -177,23 +182,26 @@ void ReceivedFiles::forget(const ReceivedFile &file)
     Q_EMIT unfinishedChanged();
 }
 
-/// What waits for its sum alone leaves its place to others.
-bool ReceivedFiles::hasFreePlace() const
+/// What waits for its sum alone leaves its place to others, and so does what is too much from one sender: he may let
+/// us wait for ever.
+bool ReceivedFiles::hasFreePlace(Ipv4Address sender) const
 {
-    const auto isChecking = [this](int number) {
+    int all = 0, hisOwn = 0;
+    for (const int number : m_fetching) {
         const ReceivedFile *const file = find(number);
-        return file && file->state == State::checking;
-    };
-    return std::ssize(m_fetching) - std::ranges::count_if(m_fetching, isChecking) < limits::filesReceivedAtOnce;
+        if (!file || file->state == State::checking)
+            continue;
+        ++all;
+        hisOwn += file->link.host == sender ? 1 : 0;
+    }
+    return all < limits::filesReceivedAtOnce && hisOwn < limits::filesReceivedFromOne;
 }
 
 void ReceivedFiles::beginNext()
 {
     for (ReceivedFile &file : m_files) {
-        if (!hasFreePlace())
-            return;
         const bool isHere = std::ranges::find(m_fetching, file.number) != m_fetching.end();
-        if (file.state != State::waiting || isHere)
+        if (file.state != State::waiting || isHere || !hasFreePlace(file.link.host))
             continue;
         m_fetching.push_back(file.number);
         m_fetcher.fetch(wantedOf(file));

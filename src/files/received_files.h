@@ -121,7 +121,7 @@ private:
     void finish(ReceivedFile &file, const FetchedBytes &fetched);
     void begin(ReceivedFile &file);
     static WantedFile wantedOf(const ReceivedFile &file);
-    bool hasFreePlace() const;
+    bool hasFreePlace(Ipv4Address sender) const;
     void beginNext();
     void makeRoom();
     void removeRow(int row);

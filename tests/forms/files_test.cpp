@@ -470,6 +470,8 @@ TEST(PictureOfOthers, HasNoMorePixelsThanAreWorthWhile)
     const QTemporaryDir folder;
     const auto isUnwanted = [] { return false; };
     EXPECT_EQ(smallPicture(onePicture(folder, {5000, 5000}), {90, 90}, isUnwanted).picture.size(), QSize(90, 90));
+    EXPECT_EQ(smallPicture(onePicture(folder, {8000, 3}), {90, 90}, isUnwanted).picture.size(), QSize(90, 1));
+    EXPECT_EQ(smallPicture(onePicture(folder, {3, 8000}), {90, 90}, isUnwanted).picture.size(), QSize(1, 90));
     const SmallPicture larger = smallPicture(onePicture(folder, {5001, 5000}), {90, 90}, isUnwanted);
     EXPECT_TRUE(larger.picture.isNull());
     EXPECT_TRUE(larger.isTooLarge);

@@ -442,11 +442,11 @@ TEST_F(TransfersTest, WhatWaitsForItsSumKeepsNobodyWaiting)
 {
     chat();
     std::vector<int> numbers;
-    for (int i = 0; i < 5; ++i)
+    for (int i = 0; i < 4; ++i)
         received().save(numbers.emplace_back(receiveAnother()), QStringLiteral("/in"));
-    ASSERT_THAT(copy.fileFetcher.fetched, SizeIs(4));
+    ASSERT_THAT(copy.fileFetcher.fetched, SizeIs(3));
     tell({.number = numbers.front(), .what = What::checking, .place = 100, .size = 100});
-    ASSERT_THAT(copy.fileFetcher.fetched, SizeIs(5));
+    ASSERT_THAT(copy.fileFetcher.fetched, SizeIs(4));
     EXPECT_EQ(copy.fileFetcher.fetched.back().number, numbers.back());
 }
 
@@ -640,21 +640,54 @@ TEST_F(TransfersTest, WhatCannotBeReadOfThemIsPassedOver)
     EXPECT_EQ(later.engine.transfers().received.rowCount(), 1);
 }
 
-TEST_F(TransfersTest, FourAreFetchedAtATime)
+TEST_F(TransfersTest, ThreeOfOneSenderAreFetchedAtATime)
 {
     chat();
     std::vector<int> numbers;
-    for (int i = 0; i < 6; ++i) {
+    for (int i = 0; i < 5; ++i) {
         numbers.push_back(receiveAnother());
         received().save(numbers.back(), QStringLiteral("/in"));
     }
-    EXPECT_THAT(copy.fileFetcher.fetched, SizeIs(4));
-    EXPECT_EQ(shown(4, ReceivedFiles::Progress), QStringLiteral("waits for others"));
-    received().pause(numbers[4]);
+    EXPECT_THAT(copy.fileFetcher.fetched, SizeIs(3));
+    EXPECT_EQ(shown(3, ReceivedFiles::Progress), QStringLiteral("waits for others"));
+    received().pause(numbers[3]);
     EXPECT_THAT(copy.fileFetcher.stopped, IsEmpty());
     tell({.number = numbers[0], .what = What::done});
-    ASSERT_THAT(copy.fileFetcher.fetched, SizeIs(5));
-    EXPECT_EQ(copy.fileFetcher.fetched.back().number, numbers[5]);
+    ASSERT_THAT(copy.fileFetcher.fetched, SizeIs(4));
+    EXPECT_EQ(copy.fileFetcher.fetched.back().number, numbers[4]);
+}
+
+TEST_F(TransfersTest, FourAreFetchedAtATimeSoThatASenderWhoNeverAnswersLeavesAPlaceToAnother)
+{
+    chat();
+    for (int i = 0; i < 3; ++i)
+        received().save(receiveAnother(), QStringLiteral("/in"));
+    std::vector<int> ofBen;
+    copy.engine.privateWindows().openPrivate(Ipv4Address(10, 0, 0, 3));
+    for (int i = 0; i < 2; ++i) {
+        copy.arrive("10.0.0.3",
+                    "-Plan.pdf (2.3 MB) http://10.0.0.3:5549/0123456789abcdef0123456789abcde" + std::to_string(i)
+                        + "/Plan.pdf");
+        ofBen.push_back(received().at(received().rowCount() - 1).number);
+        received().save(ofBen.back(), QStringLiteral("/in"));
+    }
+    ASSERT_THAT(copy.fileFetcher.fetched, SizeIs(4));
+    EXPECT_EQ(copy.fileFetcher.fetched.back().number, ofBen.front());
+}
+
+TEST_F(TransfersTest, WhatHasBegunInOneFolderIsRemovedThereWhenItIsSavedInAnother)
+{
+    chat();
+    const int number = receive();
+    received().save(number, QStringLiteral("/in"));
+    tell({.number = number, .what = What::failed, .place = 45, .size = 100});
+    received().save(number, QStringLiteral("/in"));
+    EXPECT_THAT(copy.fileFetcher.discarded, IsEmpty()) << "there it goes on";
+    tell({.number = number, .what = What::failed, .place = 45, .size = 100});
+    received().save(number, QStringLiteral("/elsewhere"));
+    ASSERT_THAT(copy.fileFetcher.discarded, SizeIs(1));
+    EXPECT_EQ(copy.fileFetcher.discarded.front().folder, QStringLiteral("/in"));
+    EXPECT_EQ(copy.fileFetcher.fetched.back().folder, QStringLiteral("/elsewhere"));
 }
 
 TEST_F(TransfersTest, APictureIsShownBeforeItIsSaved)
