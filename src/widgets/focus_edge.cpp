@@ -30,12 +30,17 @@ bool isByKeys(Qt::FocusReason reason, bool before)
 
 } // namespace
 
-FocusEdge::FocusEdge(QAbstractScrollArea &area) : QWidget(&area), m_area(area)
+FocusEdge::FocusEdge(QAbstractScrollArea &area) : QWidget(&area)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     area.installEventFilter(this);
     area.viewport()->installEventFilter(this); // it is placed after the area
     refresh();
+}
+
+QAbstractScrollArea *FocusEdge::area() const
+{
+    return qobject_cast<QAbstractScrollArea *>(parentWidget());
 }
 
 bool FocusEdge::eventFilter(QObject *watched, QEvent *event)
@@ -60,17 +65,20 @@ bool FocusEdge::eventFilter(QObject *watched, QEvent *event)
 /// nothing is scrolled fast below another widget.
 void FocusEdge::refresh()
 {
+    const QAbstractScrollArea *const seenArea = area();
+    if (!seenArea)
+        return;
     // With the scroll bar, and without what the area leaves empty above and below.
-    const QRect seen = m_area.viewport()->geometry();
-    setGeometry(0, seen.top(), m_area.width(), seen.height());
-    setVisible((m_area.hasFocus() && m_byKeys) || isOfHighContrast(palette()));
+    const QRect seen = seenArea->viewport()->geometry();
+    setGeometry(0, seen.top(), seenArea->width(), seen.height());
+    setVisible((seenArea->hasFocus() && m_byKeys) || isOfHighContrast(palette()));
     raise();
     update();
 }
 
 void FocusEdge::paintEvent(QPaintEvent *)
 {
-    const bool isFocus = m_area.hasFocus() && m_byKeys;
+    const bool isFocus = parentWidget()->hasFocus() && m_byKeys;
     QPainter painter(this);
     painter.setPen(isFocus ? focusColour(palette()) : outlineColour(palette()));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));

@@ -20,9 +20,10 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    /// Null once its destruction has begun, in which it still loses the focus.
+    QAbstractScrollArea *area() const;
     void refresh();
 
-    QAbstractScrollArea &m_area;
     bool m_byKeys = false;
 };
 
