@@ -2,7 +2,7 @@
 # Called in a folder, for all that is compiled there from then on. Not while debugging, where it is in the way, nor under
 # sanitizers, which see more.
 function(nimb_harden)
-  if(CMAKE_BUILD_TYPE STREQUAL "Debug" OR NIMB_SANITIZE OR NIMB_FUZZ OR NIMB_COVERAGE OR MSVC)
+  if(CMAKE_BUILD_TYPE STREQUAL "Debug" OR NIMB_SANITIZE OR NIMB_FUZZ OR NIMB_COVERAGE OR MSVC OR MINGW)
     return()
   endif()
   include(CheckCXXCompilerFlag)

@@ -314,6 +314,13 @@
     </message>
 </context>
 <context>
+    <name>DesktopAutostart</name>
+    <message>
+        <source>the registry cannot be written</source>
+        <translation>تتعذر الكتابة في السجل</translation>
+    </message>
+</context>
+<context>
     <name>DialogOpener</name>
     <message>
         <source>Contacts (*.csv)</source>
@@ -1450,10 +1457,6 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no "net" command.</source>
-        <translation>لم تُرسل الرسالة: لا يوجد في هذا النظام الأمر «net».</translation>
-    </message>
-    <message>
         <source>The message was not sent: the program smbclient is not installed. Install the package smbclient (Debian, Ubuntu, Arch) or samba-client (Fedora) and send again.</source>
         <translation>لم تُرسل الرسالة: البرنامج smbclient غير مثبت. ثبّت الحزمة smbclient (في Debian وUbuntu وArch) أو samba-client (في Fedora) ثم أعد الإرسال.</translation>
     </message>
@@ -1464,6 +1467,10 @@
     <message>
         <source>The message was not sent: %1 could not be started (%2).</source>
         <translation>لم تُرسل الرسالة: تعذر تشغيل ⁨%1⁩ (⁨%2⁩).</translation>
+    </message>
+    <message>
+        <source>The message was not sent: this system has no "%1" command.</source>
+        <translation>لم تُرسل الرسالة: لا يوجد في هذا النظام الأمر «⁨%1⁩».</translation>
     </message>
 </context>
 <context>

@@ -310,6 +310,13 @@
     </message>
 </context>
 <context>
+    <name>DesktopAutostart</name>
+    <message>
+        <source>the registry cannot be written</source>
+        <translation>in die Registrierung kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
     <name>DialogOpener</name>
     <message>
         <source>Contacts (*.csv)</source>
@@ -1442,10 +1449,6 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no "net" command.</source>
-        <translation>Die Nachricht wurde nicht gesendet: Dieses System hat keinen Befehl „net“.</translation>
-    </message>
-    <message>
         <source>The message was not sent: the program smbclient is not installed. Install the package smbclient (Debian, Ubuntu, Arch) or samba-client (Fedora) and send again.</source>
         <translation>Die Nachricht wurde nicht gesendet: Das Programm smbclient ist nicht installiert. Installieren Sie das Paket smbclient (Debian, Ubuntu, Arch) oder samba-client (Fedora) und senden Sie erneut.</translation>
     </message>
@@ -1456,6 +1459,10 @@
     <message>
         <source>The message was not sent: %1 could not be started (%2).</source>
         <translation>Die Nachricht wurde nicht gesendet: %1 konnte nicht gestartet werden (%2).</translation>
+    </message>
+    <message>
+        <source>The message was not sent: this system has no "%1" command.</source>
+        <translation>Die Nachricht wurde nicht gesendet: Dieses System hat keinen Befehl „%1“.</translation>
     </message>
 </context>
 <context>

@@ -310,6 +310,13 @@
     </message>
 </context>
 <context>
+    <name>DesktopAutostart</name>
+    <message>
+        <source>the registry cannot be written</source>
+        <translation>no se puede escribir en el registro</translation>
+    </message>
+</context>
+<context>
     <name>DialogOpener</name>
     <message>
         <source>Contacts (*.csv)</source>
@@ -1442,10 +1449,6 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no "net" command.</source>
-        <translation>El mensaje no se ha enviado: este sistema no tiene el comando «net».</translation>
-    </message>
-    <message>
         <source>The message was not sent: the program smbclient is not installed. Install the package smbclient (Debian, Ubuntu, Arch) or samba-client (Fedora) and send again.</source>
         <translation>El mensaje no se ha enviado: el programa smbclient no está instalado. Instale el paquete smbclient (Debian, Ubuntu, Arch) o samba-client (Fedora) y vuelva a enviarlo.</translation>
     </message>
@@ -1456,6 +1459,10 @@
     <message>
         <source>The message was not sent: %1 could not be started (%2).</source>
         <translation>El mensaje no se ha enviado: no se ha podido iniciar %1 (%2).</translation>
+    </message>
+    <message>
+        <source>The message was not sent: this system has no "%1" command.</source>
+        <translation>El mensaje no se ha enviado: este sistema no tiene el comando «%1».</translation>
     </message>
 </context>
 <context>

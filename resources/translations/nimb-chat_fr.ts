@@ -310,6 +310,13 @@
     </message>
 </context>
 <context>
+    <name>DesktopAutostart</name>
+    <message>
+        <source>the registry cannot be written</source>
+        <translation>le registre ne peut pas être écrit</translation>
+    </message>
+</context>
+<context>
     <name>DialogOpener</name>
     <message>
         <source>Contacts (*.csv)</source>
@@ -1442,10 +1449,6 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no "net" command.</source>
-        <translation>Le message n’a pas été envoyé : ce système n’a pas de commande « net ».</translation>
-    </message>
-    <message>
         <source>The message was not sent: the program smbclient is not installed. Install the package smbclient (Debian, Ubuntu, Arch) or samba-client (Fedora) and send again.</source>
         <translation>Le message n’a pas été envoyé : le programme smbclient n’est pas installé. Installez le paquet smbclient (Debian, Ubuntu, Arch) ou samba-client (Fedora), puis renvoyez le message.</translation>
     </message>
@@ -1456,6 +1459,10 @@
     <message>
         <source>The message was not sent: %1 could not be started (%2).</source>
         <translation>Le message n’a pas été envoyé : impossible de lancer %1 (%2).</translation>
+    </message>
+    <message>
+        <source>The message was not sent: this system has no "%1" command.</source>
+        <translation>Le message n’a pas été envoyé : ce système n’a pas de commande « %1 ».</translation>
     </message>
 </context>
 <context>

@@ -309,6 +309,13 @@
     </message>
 </context>
 <context>
+    <name>DesktopAutostart</name>
+    <message>
+        <source>the registry cannot be written</source>
+        <translation>レジストリに書き込めません</translation>
+    </message>
+</context>
+<context>
     <name>DialogOpener</name>
     <message>
         <source>Contacts (*.csv)</source>
@@ -1440,10 +1447,6 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no "net" command.</source>
-        <translation>メッセージは送信されませんでした。このシステムには「net」コマンドがありません。</translation>
-    </message>
-    <message>
         <source>The message was not sent: the program smbclient is not installed. Install the package smbclient (Debian, Ubuntu, Arch) or samba-client (Fedora) and send again.</source>
         <translation>メッセージは送信されませんでした。プログラム smbclient がインストールされていません。パッケージ smbclient (Debian、Ubuntu、Arch) または samba-client (Fedora) をインストールしてから、もう一度送信してください。</translation>
     </message>
@@ -1454,6 +1457,10 @@
     <message>
         <source>The message was not sent: %1 could not be started (%2).</source>
         <translation>メッセージは送信されませんでした。%1 を起動できませんでした (%2)。</translation>
+    </message>
+    <message>
+        <source>The message was not sent: this system has no "%1" command.</source>
+        <translation>メッセージは送信されませんでした。このシステムには「%1」コマンドがありません。</translation>
     </message>
 </context>
 <context>

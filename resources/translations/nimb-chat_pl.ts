@@ -311,6 +311,13 @@
     </message>
 </context>
 <context>
+    <name>DesktopAutostart</name>
+    <message>
+        <source>the registry cannot be written</source>
+        <translation>nie można zapisać w rejestrze</translation>
+    </message>
+</context>
+<context>
     <name>DialogOpener</name>
     <message>
         <source>Contacts (*.csv)</source>
@@ -1444,10 +1451,6 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no "net" command.</source>
-        <translation>Wiadomość nie została wysłana: ten system nie ma polecenia „net”.</translation>
-    </message>
-    <message>
         <source>The message was not sent: the program smbclient is not installed. Install the package smbclient (Debian, Ubuntu, Arch) or samba-client (Fedora) and send again.</source>
         <translation>Wiadomość nie została wysłana: program smbclient nie jest zainstalowany. Zainstaluj pakiet smbclient (Debian, Ubuntu, Arch) lub samba-client (Fedora) i wyślij ponownie.</translation>
     </message>
@@ -1458,6 +1461,10 @@
     <message>
         <source>The message was not sent: %1 could not be started (%2).</source>
         <translation>Wiadomość nie została wysłana: nie można uruchomić %1 (%2).</translation>
+    </message>
+    <message>
+        <source>The message was not sent: this system has no "%1" command.</source>
+        <translation>Wiadomość nie została wysłana: ten system nie ma polecenia „%1”.</translation>
     </message>
 </context>
 <context>

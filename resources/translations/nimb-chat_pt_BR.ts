@@ -310,6 +310,13 @@
     </message>
 </context>
 <context>
+    <name>DesktopAutostart</name>
+    <message>
+        <source>the registry cannot be written</source>
+        <translation>não é possível gravar no registro</translation>
+    </message>
+</context>
+<context>
     <name>DialogOpener</name>
     <message>
         <source>Contacts (*.csv)</source>
@@ -1442,10 +1449,6 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no "net" command.</source>
-        <translation>A mensagem não foi enviada: este sistema não tem o comando “net”.</translation>
-    </message>
-    <message>
         <source>The message was not sent: the program smbclient is not installed. Install the package smbclient (Debian, Ubuntu, Arch) or samba-client (Fedora) and send again.</source>
         <translation>A mensagem não foi enviada: o programa smbclient não está instalado. Instale o pacote smbclient (Debian, Ubuntu, Arch) ou samba-client (Fedora) e envie novamente.</translation>
     </message>
@@ -1456,6 +1459,10 @@
     <message>
         <source>The message was not sent: %1 could not be started (%2).</source>
         <translation>A mensagem não foi enviada: não foi possível iniciar %1 (%2).</translation>
+    </message>
+    <message>
+        <source>The message was not sent: this system has no "%1" command.</source>
+        <translation>A mensagem não foi enviada: este sistema não tem o comando “%1”.</translation>
     </message>
 </context>
 <context>

@@ -309,6 +309,13 @@
     </message>
 </context>
 <context>
+    <name>DesktopAutostart</name>
+    <message>
+        <source>the registry cannot be written</source>
+        <translation>无法写入注册表</translation>
+    </message>
+</context>
+<context>
     <name>DialogOpener</name>
     <message>
         <source>Contacts (*.csv)</source>
@@ -1440,10 +1447,6 @@
 <context>
     <name>NetSendRunner</name>
     <message>
-        <source>The message was not sent: this system has no "net" command.</source>
-        <translation>消息未发送：此系统没有“net”命令。</translation>
-    </message>
-    <message>
         <source>The message was not sent: the program smbclient is not installed. Install the package smbclient (Debian, Ubuntu, Arch) or samba-client (Fedora) and send again.</source>
         <translation>消息未发送：未安装程序 smbclient。请安装软件包 smbclient（Debian、Ubuntu、Arch）或 samba-client（Fedora），然后重新发送。</translation>
     </message>
@@ -1454,6 +1457,10 @@
     <message>
         <source>The message was not sent: %1 could not be started (%2).</source>
         <translation>消息未发送：无法启动 %1（%2）。</translation>
+    </message>
+    <message>
+        <source>The message was not sent: this system has no "%1" command.</source>
+        <translation>消息未发送：此系统没有“%1”命令。</translation>
     </message>
 </context>
 <context>

@@ -1,12 +1,13 @@
 // Sub Main: the program's entry.
 #include "app/program.h"
+#include "platform/command_line.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
 
 int main(int argc, char *argv[])
 {
-    const QString commandLine = nimb::commandLineOf(argc, argv);
+    const QString commandLine = nimb::commandLineWords(argc, argv).join(QLatin1Char(' '));
     // Qt would take words such as -style for itself, but every word is part of the nickname.
     int programNameAlone = 1;
     QApplication application(programNameAlone, argv);

@@ -21,13 +21,6 @@
 
 namespace nimb
 {
-QString commandLineOf(int argc, char *argv[])
-{
-    QStringList words;
-    for (int i = 1; i < argc; ++i)
-        words.append(QString::fromLocal8Bit(argv[i]));
-    return words.join(QLatin1Char(' '));
-}
 
 Program::Program(const Environment &environment)
     : m_wantedAddress(environment.address), m_siteDefaults(readSiteDefaults(environment.siteFolders)),
@@ -74,7 +67,7 @@ int Program::run(const QString &commandLine)
 
 void Program::listenToTheSystem()
 {
-    m_signals.emplace([this] { end(UnloadMode::code); });
+    m_endRequests = listenForEndRequests([this] { end(UnloadMode::code); });
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, &m_instance,
                      [this](QSessionManager &session) { endSession(session); });
     // A restored session would start the program with words that it takes for a nickname.
@@ -84,11 +77,9 @@ void Program::listenToTheSystem()
 
 void Program::followDesktop()
 {
-    m_appearance.emplace(QDBusConnection::sessionBus());
-    QObject::connect(&*m_appearance, &DesktopAppearance::changed, qApp,
-                     [desktops = QApplication::palette()](const Appearance &appearance) {
-                         QApplication::setPalette(paletteFor(appearance, desktops).value_or(QPalette()));
-                     });
+    followAppearance(*qApp, [desktops = QApplication::palette()](const Appearance &appearance) {
+        QApplication::setPalette(paletteFor(appearance, desktops).value_or(QPalette()));
+    });
 }
 
 void Program::speakChosenLanguage()
@@ -149,17 +140,17 @@ void Program::loadNotify()
     QObject::connect(&m_instance, &SingleInstance::secondStart, &m_instance,
                      [this](const QString &caption) { secondStart(caption); });
     m_login.emplace(m_common, m_store, m_socket);
-    const bool placed = !DesktopNotifications::areNeeded();
+    const bool placed = windowsStandWherePut();
     m_forms.loadNotify(placed);
-    m_notifications.emplace(m_common, m_forms.notifications(), placed,
-                            NotificationRouter::Reactions{
-                                .open = [this](const NoticePlace &place) { m_forms.openNotice(place); },
-                                .answer =
-                                    [this](const NoticePlace &place, const QString &text) {
-                                        if (m_engine)
-                                            m_engine->answerNotice(place, text);
-                                    },
-                            });
+    m_notifications = routeNotifications(m_common, m_forms.notifications(), placed,
+                                         {
+                                             .open = [this](const NoticePlace &place) { m_forms.openNotice(place); },
+                                             .answer =
+                                                 [this](const NoticePlace &place, const QString &text) {
+                                                     if (m_engine)
+                                                         m_engine->answerNotice(place, text);
+                                                 },
+                                         });
 }
 
 bool Program::offerGoodCopy()
@@ -192,7 +183,7 @@ void Program::loadMain()
                                   m_timers,
                                   m_clock,
                                   m_ownAddresses,
-                                  m_networkWatch,
+                                  *m_networkWatch,
                                   m_chance,
                                   m_prompts,
                                   *m_notifications,

@@ -4,15 +4,15 @@
 #include "app/form_opener.h"
 #include "app/manual_opener.h"
 #include "app/messenger.h"
-#include "app/notification_router.h"
 #include "app/remote_commands.h"
 #include "base/window_openers.h"
 #include "files/http_file_fetcher.h"
 #include "files/http_file_server.h"
 #include "history/history_keeper.h"
 #include "main_window/Tray.h"
-#include "platform/desktop_appearance.h"
+#include "platform/desktop.h"
 #include "platform/desktop_autostart.h"
+#include "platform/end_requests.h"
 #include "platform/environment.h"
 #include "platform/hunspell_spelling.h"
 #include "platform/link_opener.h"
@@ -30,22 +30,19 @@
 #include "platform/system_info.h"
 #include "platform/translations.h"
 #include "platform/udp_winsock.h"
-#include "platform/unix_signals.h"
 #include "protocol/traced_winsock.h"
 #include "store/next_start_file.h"
 #include "store/sqlite_settings_store.h"
 #include "widgets/message_boxes.h"
 #include "widgets/plain_tool_tips.h"
 
+#include <memory>
 #include <optional>
 
 class QSessionManager;
 
 namespace nimb
 {
-
-/// All arguments joined by single blanks.
-QString commandLineOf(int argc, char *argv[]);
 
 /// Two sounds that do not wait for each other.
 class ProgramSounds : public Sound
@@ -108,7 +105,7 @@ private:
     UdpWinsock m_udp;
     TracedWinsock m_socket;
     MachineAddresses m_ownAddresses;
-    SystemNetworkWatch m_networkWatch{m_timers};
+    std::unique_ptr<NetworkWatch> m_networkWatch = watchNetworks(m_timers);
     SystemChance m_chance;
     MessageBoxes m_prompts;
     PlainToolTips m_toolTips;
@@ -128,13 +125,12 @@ private:
     HttpFileServer m_fileServer;
     HttpFileFetcher m_fileFetcher;
     FormOpener m_forms;
-    std::optional<DesktopAppearance> m_appearance;
-    std::optional<NotificationRouter> m_notifications;
+    std::unique_ptr<Notifications> m_notifications;
     std::optional<Login> m_login;
     std::optional<Tray> m_tray;
     std::optional<Messenger> m_engine;
     std::optional<RemoteCommands> m_remote;
-    std::optional<UnixSignals> m_signals;
+    std::unique_ptr<QObject> m_endRequests;
     std::optional<ProcessExit> m_exit;
 };
 

@@ -6,6 +6,7 @@
 #include "files/file_name.h"
 #include "files/http_head.h"
 #include "platform/origin_mark.h"
+#include "platform/profile_folder.h"
 #include "protocol/address_text.h"
 
 #include <QCoreApplication>
@@ -23,7 +24,6 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <cerrno>
 #include <filesystem>
 #include <functional>
 #include <system_error>
@@ -44,16 +44,6 @@ constexpr auto rateOver = 1000ms;
 /// That a sum is asked for which the sender has not worked out yet.
 constexpr std::chrono::seconds longestBetweenAsking = 30s;
 constexpr int namesTried = 1000;
-
-/// Or what the user may have of it.
-bool isFullDisk(int error)
-{
-#ifdef EDQUOT
-    if (error == EDQUOT)
-        return true;
-#endif
-    return error == ENOSPC;
-}
 
 /// Where it lies until all has come.
 QString partPath(const WantedFile &file)
@@ -356,10 +346,10 @@ private:
     Trouble write(QByteArrayView bytes)
     {
         while (!bytes.isEmpty()) {
-            errno = 0;
+            forgetTrouble();
             const qint64 written = m_part.write(bytes.data(), bytes.size());
             if (written <= 0)
-                return writeTrouble(errno);
+                return writeTrouble(wasDiskFull());
             m_sum.addData(bytes.first(written));
             m_state.place += static_cast<quint64>(written);
             bytes = bytes.sliced(written);
@@ -367,9 +357,9 @@ private:
         return std::nullopt;
     }
 
-    Trouble writeTrouble(int error)
+    Trouble writeTrouble(bool wasFull)
     {
-        const bool isFull = m_part.error() == QFileDevice::ResourceError || isFullDisk(error);
+        const bool isFull = m_part.error() == QFileDevice::ResourceError || wasFull;
         return whatIsKept(isFull ? tr("There is no room any more in %1.").arg(QDir::toNativeSeparators(m_file.folder))
                                  : tr("%1 cannot be written on: %2.")
                                        .arg(QDir::toNativeSeparators(m_part.fileName()), m_part.errorString()));

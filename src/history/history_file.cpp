@@ -1,5 +1,6 @@
 #include "history/history_file.h"
 
+#include "platform/library_file_names.h"
 #include "platform/profile_folder.h"
 
 #include <QDir>
@@ -11,10 +12,6 @@
 #include <algorithm>
 #include <array>
 #include <limits>
-
-#ifdef Q_OS_UNIX
-#include <sys/stat.h>
-#endif
 
 namespace nimb
 {
@@ -60,17 +57,6 @@ static_assert(formatSteps.size() == formatNumber - 1);
 constexpr auto putMessage = "INSERT INTO messages(conversation, time, own, address, writer, workstation, text) "
                             "VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7)";
 constexpr auto columns = "SELECT m.id, m.conversation, m.time, m.own, m.address, m.writer, m.workstation, m.text ";
-
-/// Device and number; nothing where there is no such file, or the system keeps an open file from being replaced anyway.
-std::optional<std::pair<quint64, quint64>> identityOf([[maybe_unused]] const QString &path)
-{
-#ifdef Q_OS_UNIX
-    struct stat found = {};
-    if (::stat(QFile::encodeName(path).constData(), &found) == 0)
-        return std::pair(static_cast<quint64>(found.st_dev), static_cast<quint64>(found.st_ino));
-#endif
-    return std::nullopt;
-}
 
 std::int64_t milliseconds(const QDateTime &time)
 {
@@ -353,7 +339,7 @@ HistoryFile::HistoryFile(const QString &folder, ForReading)
     : m_folder(QDir(folder).absolutePath()), m_file(pathIn(m_folder))
 {
     // It can be locked by nobody who cannot write it; this is how SQLite reads without a lock.
-    const QByteArray name = "file:" + sqlite::fileName(m_file).toPercentEncoding("/") + "?immutable=1";
+    const QByteArray name = "file:" + fileNameForSqlite(m_file).toPercentEncoding("/") + "?immutable=1";
     sqlite3 *opened = nullptr;
     const int code = sqlite3_open_v2(name.constData(), &opened,
                                      SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX, nullptr);
@@ -381,7 +367,7 @@ bool HistoryFile::leaveIfGone()
         return false;
     m_database.reset();
     // It is left where it is, and would be read as a part of the file that takes the place.
-    if (!isThere || m_log == identityOf(logFile()))
+    if (!isThere || m_log == identityOfFile(logFile()))
         QFile::remove(logFile());
     return true;
 }
@@ -426,7 +412,7 @@ void HistoryFile::rename(const QString &from, const QString &to)
 void HistoryFile::open(const QString &path)
 {
     sqlite3 *opened = nullptr;
-    const int code = sqlite3_open_v2(sqlite::fileName(path).constData(), &opened,
+    const int code = sqlite3_open_v2(fileNameForSqlite(path).constData(), &opened,
                                      SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     m_database.reset(opened);
     check(code, opened);
@@ -480,7 +466,7 @@ void HistoryFile::copyTo(const QString &path)
     QFile::remove(path); // of an attempt that failed
     if (const auto reason = makePrivateFile(path))
         throw Failure{*reason};
-    const QByteArray name = sqlite::fileName(path);
+    const QByteArray name = fileNameForSqlite(path);
     Statement copy(m_database.get(), "VACUUM INTO ?1");
     copy.bind(1, name);
     copy.next();
@@ -490,7 +476,7 @@ void HistoryFile::copyTo(const QString &path)
 int HistoryFile::salvage(const QString &wreck)
 {
     sqlite3 *opened = nullptr;
-    const int code = sqlite3_open_v2(sqlite::fileName(wreck).constData(), &opened, SQLITE_OPEN_READWRITE, nullptr);
+    const int code = sqlite3_open_v2(fileNameForSqlite(wreck).constData(), &opened, SQLITE_OPEN_READWRITE, nullptr);
     const Database old(opened);
     if (code != SQLITE_OK)
         return 0;
@@ -567,7 +553,7 @@ void HistoryFile::write(std::span<const Entry> entries)
             putTexts(put, entry.message, conversationFor(entry.conversation));
     });
     if (!m_log)
-        m_log = identityOf(logFile());
+        m_log = identityOfFile(logFile());
 }
 
 std::int64_t HistoryFile::conversationFor(const KeptConversation &conversation)

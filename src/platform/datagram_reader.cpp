@@ -1,12 +1,12 @@
 #include "platform/datagram_reader.h"
 
+#include "platform/socket_wait.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <limits>
 #include <system_error>
 #include <utility>
-
-#include <poll.h>
 
 namespace nimb
 {
@@ -75,21 +75,19 @@ void DatagramReader::letReadFirst(std::unique_lock<std::mutex> &lock)
 void DatagramReader::run()
 {
     DatagramSocket::Buffers buffers;
-    std::vector<pollfd> watched = {{.fd = m_end.readable(), .events = POLLIN, .revents = 0}};
-    for (const DatagramSocket *const socket : m_sockets)
-        watched.push_back({.fd = socket->descriptor(), .events = POLLIN, .revents = 0});
+    SocketWait sockets(m_end, m_sockets);
     ArrivalRush rush;
     for (;;) {
-        const int ready
-            = ::poll(watched.data(), watched.size(), rush.isOn() ? static_cast<int>(ArrivalRush::silence.count()) : -1);
-        if (ready < 0)
-            continue; // a signal came in between
-        if (watched.front().revents != 0)
+        const SocketWait::Outcome outcome
+            = sockets.wait(rush.isOn() ? std::optional(ArrivalRush::silence) : std::nullopt);
+        if (outcome == SocketWait::Outcome::nothing)
+            continue;
+        if (outcome == SocketWait::Outcome::ended)
             return;
         std::size_t received = 0;
-        for (std::size_t i = 0; ready > 0 && i < m_sockets.size(); ++i)
-            received += watched[i + 1].revents != 0 ? read(*m_sockets[i], buffers) : 0;
-        if (ready == 0)
+        for (std::size_t i = 0; outcome == SocketWait::Outcome::ready && i < m_sockets.size(); ++i)
+            received += sockets.isReady(i) ? read(*m_sockets[i], buffers) : 0;
+        if (outcome == SocketWait::Outcome::timeOut)
             rush.pause();
         else
             rush.note(received, std::chrono::steady_clock::now());

@@ -37,7 +37,7 @@ public:
     ~DatagramReader();
 
     /// Readable while there is something to take.
-    int readable() const { return m_somethingWaits.readable(); }
+    WakePipe::Handle readable() const { return m_somethingWaits.readable(); }
     /// As ArrivalQueue::setAcquainted().
     void setAcquainted(Ipv4Address sender, bool acquainted);
     /// At most so many datagrams, and all counts since the last call. While datagrams rush in it waits, within

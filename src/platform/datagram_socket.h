@@ -59,8 +59,11 @@ public:
     };
 
     struct SystemError {
-        int number; ///< as errno has it
+        int number; ///< as errno has it, on every system
     };
+
+    /// Of the operating system: a small number, or a handle as wide as a pointer.
+    using Descriptor = std::intptr_t;
 
     /// The error when the address and port are taken or may not be used.
     [[nodiscard]] static std::variant<DatagramSocket, SystemError> open(Ipv4Endpoint local, Sharing sharing);
@@ -70,7 +73,7 @@ public:
     ~DatagramSocket();
 
     /// For a notifier to watch; it stays the property of this object.
-    int descriptor() const { return m_descriptor; }
+    Descriptor descriptor() const { return m_descriptor; }
 
     /// Asks for room for this many bytes of waiting datagrams and returns what the system granted.
     int growReceiveBuffer(int bytes);
@@ -86,9 +89,9 @@ public:
     Reception receive(Buffers &buffers);
 
 private:
-    explicit DatagramSocket(int descriptor) : m_descriptor(descriptor) { }
+    explicit DatagramSocket(Descriptor descriptor) : m_descriptor(descriptor) { }
 
-    int m_descriptor;
+    Descriptor m_descriptor;
     std::uint32_t m_lostSoFar = 0;
 };
 

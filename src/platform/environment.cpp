@@ -1,14 +1,9 @@
 #include "platform/environment.h"
 
-#include <QDir>
-#include <QFile>
-#include <QProcessEnvironment>
-#include <QStandardPaths>
+#include "platform/system_folders.h"
 
-#ifdef Q_OS_UNIX
-#include <pwd.h>
-#include <unistd.h>
-#endif
+#include <QDir>
+#include <QProcessEnvironment>
 
 namespace nimb
 {
@@ -23,7 +18,7 @@ Environment environmentOf(const QProcessEnvironment &variables, const QString &c
         return value.isEmpty() ? std::nullopt : std::optional(value);
     };
     const QString profile = variable("NIMBCHAT_PROFILE").value_or(configuration + QLatin1String("/NIMB-Chat"));
-    QStringList siteFolders = variable("XDG_CONFIG_DIRS").value_or(QStringLiteral("/etc/xdg")).split(u':');
+    QStringList siteFolders = variable("XDG_CONFIG_DIRS").value_or(siteFolder()).split(QDir::listSeparator());
     siteFolders.removeIf([](const QString &place) { return !QDir::isAbsolutePath(place); }); // the standard says so
     return {variable("NIMBCHAT_ADDRESS"), variable("NIMBCHAT_HOSTNAME"), siteFolders,
             QDir::cleanPath(QDir(folder).absoluteFilePath(profile))};
@@ -33,20 +28,13 @@ Environment environmentOf(const QProcessEnvironment &variables, const QString &c
 
 Environment Environment::fromSystem()
 {
-    return environmentOf(QProcessEnvironment::systemEnvironment(),
-                         QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation), QDir::currentPath());
+    return environmentOf(QProcessEnvironment::systemEnvironment(), configurationFolder(), QDir::currentPath());
 }
 
 Environment Environment::ofCaller()
 {
-#ifdef Q_OS_UNIX
-    bool isNumber = false;
-    const uint caller = qEnvironmentVariable("SUDO_UID").toUInt(&isNumber);
-    const passwd *const user = ::geteuid() == 0 && isNumber ? ::getpwuid(caller) : nullptr;
-    if (user)
-        return environmentOf(QProcessEnvironment::systemEnvironment(),
-                             QFile::decodeName(user->pw_dir) + QLatin1String("/.config"), QDir::currentPath());
-#endif
+    if (const std::optional<QString> folder = configurationFolderOfCaller())
+        return environmentOf(QProcessEnvironment::systemEnvironment(), *folder, QDir::currentPath());
     return fromSystem();
 }
 

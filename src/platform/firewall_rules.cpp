@@ -430,4 +430,71 @@ std::optional<NftAnswer> nftAnswer(const QByteArray &json, std::uint16_t udpPort
         .hasInput = lenient.hasInput(), .answer = isSure ? answer : RuleAnswer::unsure, .block = one ? one : other};
 }
 
+namespace
+{
+
+/// One rule of Windows: what stands behind a key, each as often as it is written.
+class WindowsRule
+{
+public:
+    explicit WindowsRule(const QString &text) : m_parts(text.split(u'|', Qt::SkipEmptyParts)) { }
+
+    QStringList values(QLatin1String key) const
+    {
+        QStringList found;
+        for (const QString &part : m_parts) {
+            if (part.startsWith(key) && part.mid(key.size()).startsWith(u'='))
+                found.append(part.mid(key.size() + 1));
+        }
+        return found;
+    }
+    /// Ranges are written in a field of their own.
+    QStringList ports() const { return values(QLatin1String("LPort")) + values(QLatin1String("LPort2_10")); }
+    bool isOneOf(QLatin1String key, const QString &value) const
+    {
+        const QStringList all = values(key);
+        return all.isEmpty() || all.contains(value, Qt::CaseInsensitive);
+    }
+
+private:
+    QStringList m_parts;
+};
+
+/// "5549" or "5000-6000"; words as "RPC" are no port of ours.
+bool isInPorts(const QStringList &ports, std::uint16_t port)
+{
+    return ports.isEmpty() || std::ranges::any_of(ports, [port](const QString &text) {
+               const QStringList ends = text.split(u'-');
+               return ends.first().toUInt() <= port && port <= ends.last().toUInt();
+           });
+}
+
+} // namespace
+
+RuleAnswer windowsAnswer(const QStringList &rules, const QString &program, std::uint16_t udpPort)
+{
+    bool isLetIn = false, isForSome = false;
+    for (const QString &text : rules) {
+        const WindowsRule rule(text);
+        const bool matters = rule.isOneOf(QLatin1String("Active"), QStringLiteral("TRUE"))
+            && rule.isOneOf(QLatin1String("Dir"), QStringLiteral("In"))
+            && rule.isOneOf(QLatin1String("Protocol"), QStringLiteral("17"))
+            && rule.isOneOf(QLatin1String("App"), program) && isInPorts(rule.ports(), udpPort);
+        if (!matters)
+            continue;
+        // What blocks goes before what lets in, whatever else it asks.
+        const bool asksMore = !rule.values(QLatin1String("RA4")).isEmpty()
+            || !rule.values(QLatin1String("Profile")).isEmpty() || !rule.values(QLatin1String("Svc")).isEmpty()
+            || !rule.values(QLatin1String("AppPkgId")).isEmpty();
+        if (rule.values(QLatin1String("Action")).contains(QLatin1String("Block")))
+            return asksMore ? RuleAnswer::unsure : RuleAnswer::blocks;
+        const bool lets = rule.values(QLatin1String("Action")).contains(QLatin1String("Allow"));
+        isForSome = isForSome || (lets && asksMore && !rule.values(QLatin1String("App")).isEmpty());
+        isLetIn = isLetIn || (lets && !asksMore);
+    }
+    if (isLetIn)
+        return RuleAnswer::lets;
+    return isForSome ? RuleAnswer::unsure : RuleAnswer::blocks;
+}
+
 } // namespace nimb

@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <optional>
@@ -52,5 +53,9 @@ struct NftAnswer {
 /// connection state and the loopback card are understood. Where it makes a difference how anything else turns out, the
 /// answer is not sure.
 [[nodiscard]] std::optional<NftAnswer> nftAnswer(const QByteArray &json, std::uint16_t udpPort);
+
+/// rules: as Windows keeps those of its firewall in the registry ("v2.31|Action=Allow|Active=TRUE|Dir=In|Protocol=17|
+/// App=C:\\...|"). What is not let in there is kept out. program: full path with backslashes; the case does not matter.
+[[nodiscard]] RuleAnswer windowsAnswer(const QStringList &rules, const QString &program, std::uint16_t udpPort);
 
 } // namespace nimb

@@ -7,14 +7,11 @@
 #include <array>
 #include <atomic>
 
-#ifdef _WIN32
-#include <winsock2.h>
-#else
+#include <microhttpd.h>
+#if __has_include(<netinet/tcp.h>)
 #include <netinet/in.h>
 #include <netinet/tcp.h>
-#include <sys/socket.h>
 #endif
-#include <microhttpd.h>
 
 namespace nimb
 {

@@ -1,6 +1,7 @@
 #include "platform/hunspell_dictionary.h"
 
 #include "base/limits.h"
+#include "platform/library_file_names.h"
 
 #include <QDir>
 #include <QFile>
@@ -36,8 +37,7 @@ namespace nimb
 namespace
 {
 
-const iconv_t noConversion = reinterpret_cast<iconv_t>(-1); // as iconv_open() says it
-constexpr qint64 lookedAt = qint64{64} * 1024;              ///< bytes at the beginning of the words
+constexpr qint64 lookedAt = qint64{64} * 1024; ///< bytes at the beginning of the words
 constexpr int wordsTried = 100;
 
 /// A language with what may follow it, "en_US" or "de_DE_frami"; "hyph_en_US" goes with no affixes anyway.
@@ -65,28 +65,6 @@ void sortLinksBehind(std::vector<DictionaryFiles> &dictionaries)
     std::stable_partition(dictionaries.begin(), dictionaries.end(), [](const DictionaryFiles &one) {
         return QFileInfo(one.words).completeBaseName() == one.language.name;
     });
-}
-
-/// The C library knows the encodings of dictionaries but for the way in which some are written.
-std::string encodingName(const std::string &name)
-{
-    if (name.starts_with("microsoft-"))
-        return name.substr(std::string_view("microsoft-").size());
-    return name.starts_with("TIS620") ? "TIS-620" : name;
-}
-
-std::optional<std::string> converted(iconv_t conversion, std::string text)
-{
-    iconv(conversion, nullptr, nullptr, nullptr, nullptr);
-    std::string result(text.size() * 4 + 4, '\0');
-    char *from = text.data();
-    char *to = result.data();
-    std::size_t left = text.size();
-    std::size_t room = result.size();
-    if (iconv(conversion, &from, &left, &to, &room) != 0) // also where something had to be replaced
-        return std::nullopt;
-    result.resize(result.size() - room);
-    return result;
 }
 
 bool isOfRightSize(const QString &path)
@@ -152,28 +130,19 @@ try {
         return nullptr;
     words.close();
     std::unique_ptr<HunspellDictionary> dictionary(new HunspellDictionary(files));
-    const bool works = dictionary->m_toDictionary != noConversion && dictionary->m_fromDictionary != noConversion;
-    return works && dictionary->hasAnyOf(beginning) ? std::move(dictionary) : nullptr;
+    return dictionary->m_encoding.isValid() && dictionary->hasAnyOf(beginning) ? std::move(dictionary) : nullptr;
 } catch (const std::exception &) { // of the library, or no memory
     return nullptr;
 }
 
 HunspellDictionary::HunspellDictionary(const DictionaryFiles &files)
-    : m_hunspell(std::make_unique<Hunspell>(QFile::encodeName(files.affixes).constData(),
-                                            QFile::encodeName(files.words).constData()))
+    : m_hunspell(std::make_unique<Hunspell>(fileNameForHunspell(files.affixes).constData(),
+                                            fileNameForHunspell(files.words).constData())),
+      m_encoding(m_hunspell->get_dict_encoding())
 {
-    const std::string encoding = encodingName(m_hunspell->get_dict_encoding());
-    m_toDictionary = iconv_open(encoding.c_str(), "UTF-8");
-    m_fromDictionary = iconv_open("UTF-8", encoding.c_str());
 }
 
-HunspellDictionary::~HunspellDictionary()
-{
-    for (const iconv_t conversion : {m_toDictionary, m_fromDictionary}) {
-        if (conversion != noConversion)
-            iconv_close(conversion);
-    }
-}
+HunspellDictionary::~HunspellDictionary() = default;
 
 /// The library does not say whether it could make sense of its files. One that has none of the first words in them,
 /// some of which may only be parts of others, could not.
@@ -190,7 +159,7 @@ bool HunspellDictionary::hasAnyOf(const QByteArray &lines) const
 
 bool HunspellDictionary::has(const QString &word) const
 try {
-    const std::optional<std::string> written = converted(m_toDictionary, word.toStdString());
+    const std::optional<std::string> written = m_encoding.fromUtf8(word.toStdString());
     return written && m_hunspell->spell(*written);
 } catch (const std::exception &) {
     return true; // nobody can say
@@ -199,11 +168,11 @@ try {
 QStringList HunspellDictionary::suggestions(const QString &word) const
 try {
     QStringList list;
-    const std::optional<std::string> written = converted(m_toDictionary, word.toStdString());
+    const std::optional<std::string> written = m_encoding.fromUtf8(word.toStdString());
     if (!written)
         return list;
     for (const std::string &one : m_hunspell->suggest(*written)) {
-        if (const std::optional<std::string> text = converted(m_fromDictionary, one))
+        if (const std::optional<std::string> text = m_encoding.toUtf8(one))
             list.append(QString::fromStdString(*text));
     }
     return list;

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "base/spell_checker.h"
-
-#include <iconv.h>
+#include "platform/text_encoding.h"
 
 #include <memory>
 #include <string>
@@ -45,8 +44,7 @@ private:
     bool hasAnyOf(const QByteArray &lines) const;
 
     std::unique_ptr<Hunspell> m_hunspell;
-    iconv_t m_toDictionary;
-    iconv_t m_fromDictionary;
+    TextEncoding m_encoding;
 };
 
 } // namespace nimb

@@ -4,9 +4,7 @@
 #include <QString>
 #include <QtGlobal>
 
-#ifndef Q_OS_UNIX
-#include <QLockFile>
-#endif
+#include <cstdint>
 
 namespace nimb
 {
@@ -23,12 +21,10 @@ public:
     Outcome tryToHold();
 
 private:
-#ifdef Q_OS_UNIX
+    static constexpr std::intptr_t none = -1;
+
     QString m_path;
-    int m_descriptor = -1;
-#else
-    QLockFile m_file;
-#endif
+    std::intptr_t m_handle = none; ///< of the open file, while it is held
 };
 
 } // namespace nimb

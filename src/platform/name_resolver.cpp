@@ -1,5 +1,7 @@
 #include "platform/name_resolver.h"
 
+#include "platform/host_lookup.h"
+
 #include <QHostAddress>
 #include <QUrl>
 
@@ -8,31 +10,10 @@
 #include <system_error>
 #include <thread>
 
-#include <netdb.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
-
 namespace nimb
 {
 namespace
 {
-
-/// First IPv4 address; may take as long as the system likes.
-std::optional<Ipv4Address> lookUp(const std::string &name)
-{
-    addrinfo wanted = {};
-    wanted.ai_family = AF_INET;
-    wanted.ai_socktype = SOCK_DGRAM;
-    addrinfo *found = nullptr;
-    if (getaddrinfo(name.c_str(), nullptr, &wanted, &found) != 0)
-        return std::nullopt;
-    const std::unique_ptr<addrinfo, void (*)(addrinfo *)> owner(found, freeaddrinfo);
-    for (const addrinfo *one = found; one; one = one->ai_next) {
-        if (one->ai_family == AF_INET)
-            return Ipv4Address::of(ntohl(reinterpret_cast<const sockaddr_in *>(one->ai_addr)->sin_addr.s_addr));
-    }
-    return std::nullopt;
-}
 
 /// As the system takes it, empty for what is no name.
 std::string systemName(const QString &name)
@@ -91,7 +72,9 @@ void HostNameResolver::resolve(const QString &name, Found found)
     }
     // QHostInfo would do, but a program that uses it waits at its end until the last lookup has come back.
     try {
-        std::thread([letterbox = m_letterbox, question, known] { letterbox->post(question, lookUp(known)); }).detach();
+        std::thread([letterbox = m_letterbox, question, known] {
+            letterbox->post(question, lookUpHost(known));
+        }).detach();
     } catch (const std::system_error &) {
         m_letterbox->post(question, std::nullopt);
     }

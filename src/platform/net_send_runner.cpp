@@ -1,25 +1,21 @@
 #include "platform/net_send_runner.h"
 
+#include "platform/program_start.h"
+
 #include <QDir>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryFile>
-
-#ifdef Q_OS_WIN
-#include <qt_windows.h>
-#endif
 
 namespace nimb
 {
 namespace
 {
 
-void hideConsole([[maybe_unused]] QProcess &process)
+/// msg.exe takes a text that begins as options do for one.
+QString noOption(const QString &message)
 {
-#ifdef Q_OS_WIN
-    process.setCreateProcessArgumentsModifier(
-        [](QProcess::CreateProcessArguments *start) { start->flags |= CREATE_NO_WINDOW; });
-#endif
+    return message.startsWith(u'/') || message.startsWith(u'-') ? u' ' + message : message;
 }
 
 } // namespace
@@ -28,14 +24,18 @@ MessageCommand messageCommand(MessageSystem system, const QString &computer, con
 {
     if (system == MessageSystem::netSend)
         return {QStringLiteral("net"), {QStringLiteral("send"), computer, message}, {}};
+    if (system == MessageSystem::msg) // whoever sits there; without a text it would read one from its input
+        return {
+            QStringLiteral("msg"), {QStringLiteral("*"), QLatin1String("/SERVER:") + computer, noOption(message)}, {}};
     // One argument with the name in it, so that no name is taken for an option.
     return {QStringLiteral("smbclient"), {QLatin1String("--message=") + computer}, message.toUtf8()};
 }
 
 QString NetSendRunner::missing() const
 {
-    if (m_system == MessageSystem::netSend)
-        return tr("The message was not sent: this system has no \"net\" command.");
+    if (m_system != MessageSystem::smbClient)
+        return tr("The message was not sent: this system has no \"%1\" command.")
+            .arg(messageCommand(m_system, {}, {}).program);
     return tr("The message was not sent: the program smbclient is not installed. Install the package smbclient "
               "(Debian, Ubuntu, Arch) or samba-client (Fedora) and send again.");
 }

@@ -11,15 +11,12 @@ namespace nimb
 {
 
 enum class MessageSystem {
-    netSend,  ///< Windows: "net send"
+    netSend,  ///< "net send", of a Windows with the message service
+    msg,      ///< msg.exe, of a later Windows but for its smallest editions
     smbClient ///< everywhere else: the message service of smbclient
 };
 
-#ifdef Q_OS_WIN
-inline constexpr MessageSystem ownMessageSystem = MessageSystem::netSend;
-#else
-inline constexpr MessageSystem ownMessageSystem = MessageSystem::smbClient;
-#endif
+MessageSystem ownMessageSystem();
 
 /// A program with its arguments, each of which reaches it as one whatever it holds.
 struct MessageCommand {
@@ -37,7 +34,7 @@ class NetSendRunner : public NetSend
     Q_DECLARE_TR_FUNCTIONS(NetSendRunner)
 
 public:
-    explicit NetSendRunner(MessageSystem system = ownMessageSystem) : m_system(system) { }
+    explicit NetSendRunner(MessageSystem system = ownMessageSystem()) : m_system(system) { }
 
     [[nodiscard]] std::optional<QString> send(const QString &computer, const QString &message) override;
 

@@ -38,12 +38,16 @@ private:
     /// output: nothing where the program is missing, takes too long or must not do that; exit status with it.
     using CommandEnded = std::function<void(int status, const QByteArray &output)>;
 
+    /// By the system's table of neighbours.
+    static bool isKnown(Ipv4Address neighbour);
+
+    // Of the firewalls of Linux.
     void run(const QString &program, const QStringList &arguments, CommandEnded ended);
     void askFirewalld(std::uint16_t port, const FirewallRead &read);
     void askNftables(std::uint16_t port, const FirewallRead &read);
 
     const UdpWinsock &m_socket;
-    const std::unique_ptr<QObject> m_life; ///< parent of the commands under way
+    const std::unique_ptr<QObject> m_life; ///< parent of what is under way
 };
 
 } // namespace nimb

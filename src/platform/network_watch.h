@@ -4,69 +4,13 @@
 #include "base/network_watch.h"
 #include "base/timers.h"
 
-#include <QtGlobal>
-
-#ifdef Q_OS_LINUX
-#include <QObject>
-#include <QSocketNotifier>
-
-#include <chrono>
 #include <memory>
-#endif
 
 namespace nimb
 {
 
-#ifdef Q_OS_LINUX
-
-/// The kernel itself tells each change, and that the machine has slept; in between nothing wakes the program. Where the
-/// system gives no descriptor for it, nothing is told.
-class SystemNetworkWatch : public QObject, public NetworkWatch
-{
-public:
-    /// A change is told this long after its first message, for a card that comes up sends a dozen of them.
-    static constexpr std::chrono::milliseconds settlingTime{150};
-
-    /// How long the machine has slept since it was switched on.
-    using Slept = std::function<std::chrono::nanoseconds()>;
-
-    explicit SystemNetworkWatch(Timers &timers, Slept slept = sleptOfMachine);
-    ~SystemNetworkWatch() override;
-
-    void listen(std::function<void(NetworkChange)> changed) override { m_changed = std::move(changed); }
-
-    /// For a test to give it less room for messages.
-    int descriptor() const { return m_descriptor; }
-
-    static std::chrono::nanoseconds sleptOfMachine();
-
-private:
-    /// Calls the procedure when the descriptor has something to say; empty where there is no descriptor.
-    std::unique_ptr<QSocketNotifier> notifier(int descriptor, void (SystemNetworkWatch::*procedure)());
-    void read();
-    void readClock();
-    void note(NetworkChange change);
-
-    int m_descriptor; ///< of netlink
-    int m_clock;      ///< a timer that never ends, and tells when the clock makes a leap, as it does after a sleep
-    Slept m_slept;
-    std::chrono::nanoseconds m_sleptBefore;
-    std::unique_ptr<QSocketNotifier> m_notifier, m_clockNotifier; ///< they go before their descriptors
-    std::unique_ptr<Timer> m_settled;
-    NetworkChange m_noted = NetworkChange::networks; ///< since the timer was started
-    std::function<void(NetworkChange)> m_changed;
-};
-
-#else
-
-/// This system is not asked; a rescan or the next start finds what has changed.
-class SystemNetworkWatch : public NetworkWatch
-{
-public:
-    explicit SystemNetworkWatch(const Timers &) { }
-    void listen(std::function<void(NetworkChange)>) override { }
-};
-
-#endif
+/// Where the system has no way to say it, nothing is told: a rescan or the next start finds what has changed. timers:
+/// outlives the result.
+std::unique_ptr<NetworkWatch> watchNetworks(Timers &timers);
 
 } // namespace nimb

@@ -4,6 +4,9 @@
 #include <QString>
 
 #include <optional>
+#include <utility>
+
+class QFile;
 
 namespace nimb
 {
@@ -18,6 +21,20 @@ namespace nimb
 /// Gives the file another name, at once and for good: what bore that name is gone, and a power cut brings neither state
 /// back half. Empty on success, otherwise the system's reason.
 [[nodiscard]] std::optional<QString> renameForGood(const QString &from, const QString &to);
+
+/// Writes what an open file has in it to the disk, so that a power cut leaves it there. False when the system cannot.
+[[nodiscard]] bool flushToDisk(QFile &file);
+
+/// Device and number; nothing where there is no such file, or the system keeps an open file from being replaced anyway.
+std::optional<std::pair<quint64, quint64>> identityOfFile(const QString &path);
+
+/// Why the last call of the system on this thread has failed, in its own words.
+QString systemTrouble();
+
+/// That call has failed because there was no room on the disk, or none that the user may have. Told only of one that
+/// was made after forgetTrouble().
+bool wasDiskFull();
+void forgetTrouble();
 
 /// Takes the rights that others have to an existing file of this user, and gives none.
 void takeFileFromOthers(const QString &path);

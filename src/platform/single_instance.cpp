@@ -1,6 +1,7 @@
 #include "platform/single_instance.h"
 
 #include "platform/instance_lock.h"
+#include "platform/local_user.h"
 #include "platform/profile_folder.h"
 
 #include <QCryptographicHash>
@@ -17,10 +18,6 @@
 #include <algorithm>
 #include <chrono>
 
-#ifdef Q_OS_UNIX
-#include <unistd.h>
-#endif
-
 namespace nimb
 {
 namespace
@@ -36,43 +33,18 @@ constexpr char endMark = '\0';
 constexpr char acknowledgement = '!';
 constexpr char commandMark = '\1';
 
-QString folderOfSockets()
-{
-    const QString runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    return !runtimeFolder.isEmpty() && QFileInfo(runtimeFolder).isDir() ? runtimeFolder : QDir::tempPath();
-}
-
-QString userName()
-{
-#ifdef Q_OS_UNIX
-    return QString::number(::geteuid());
-#else
-    return qEnvironmentVariable("USERNAME");
-#endif
-}
-
 /// The path of a socket has room for about a hundred bytes, so the folder enters by its hash.
 QString socketPathIn(const QString &sockets, const QString &folder)
 {
     const QString canonical = QFileInfo(folder).canonicalFilePath();
     const QByteArray name = QFile::encodeName(canonical.isEmpty() ? QDir(folder).absolutePath() : canonical);
     const QByteArray hash = QCryptographicHash::hash(name, QCryptographicHash::Sha256).toHex().left(16);
-    return QStringLiteral("%1/nimb-chat-%2-%3").arg(sockets, userName(), QString::fromLatin1(hash));
+    return QStringLiteral("%1nimb-chat-%2-%3").arg(sockets, userNumber(), QString::fromLatin1(hash));
 }
 
 QString socketPathFor(const QString &folder)
 {
-    return socketPathIn(folderOfSockets(), folder);
-}
-
-bool belongsToUs(const QString &path)
-{
-#ifdef Q_OS_UNIX
-    return QFileInfo(path).ownerId() == ::geteuid();
-#else
-    Q_UNUSED(path);
-    return true;
-#endif
+    return socketPathIn(placesOfSockets().constFirst(), folder);
 }
 
 int millisecondsLeft(const QDeadlineTimer &deadline)
@@ -95,7 +67,7 @@ QByteArray messageFor(const QString &caption)
 /// A copy listens there. Whoever connects and says nothing is dropped by it.
 bool isAnswered(const QString &socketPath)
 {
-    if (!belongsToUs(socketPath))
+    if (!belongsToUser(socketPath))
         return false;
     QLocalSocket socket;
     socket.connectToServer(socketPath);
@@ -139,7 +111,7 @@ void SingleInstance::handOver(const QString &expectedCaption)
 {
     const QDeadlineTimer deadline(patience);
     m_socketPath = socketPathFor(m_folder);
-    if (!belongsToUs(m_socketPath))
+    if (!belongsToUser(m_socketPath))
         return;
     QLocalSocket socket;
     socket.connectToServer(m_socketPath);
@@ -211,9 +183,9 @@ std::optional<QByteArray> SingleInstance::ask(const QString &profileFolder, cons
     const QDeadlineTimer deadline(patienceForAnAnswer);
     QLocalSocket socket;
     // Whoever asks from a service or another session may have been told of another folder than the copy was.
-    for (const QString &sockets : {folderOfSockets(), QLatin1String("/run/user/") + userName(), QDir::tempPath()}) {
+    for (const QString &sockets : placesOfSockets()) {
         const QString path = socketPathIn(sockets, QDir(profileFolder).absolutePath());
-        if (!belongsToUs(path))
+        if (!belongsToUser(path))
             continue;
         socket.connectToServer(path);
         if (socket.waitForConnected(millisecondsLeft(deadline)))

@@ -35,6 +35,8 @@ public:
 /// started.
 [[nodiscard]] bool startRegisteredSysInfo(RegistryMachine &machine);
 
+inline constexpr int longestRegistryText = 1024; // characters
+
 /// Text of a registry value: a string (type 1) up to its first NUL and 1024 characters at most, or a 32-bit number
 /// (type 4, lowest byte first) as a signed decimal one. Empty for every other type.
 std::optional<QString> registryText(std::uint32_t type, const QByteArray &data);

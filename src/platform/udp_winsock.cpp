@@ -89,8 +89,7 @@ bool UdpWinsock::startReading()
     } catch (const std::system_error &) {
         return false;
     }
-    m_notifier = std::make_unique<QSocketNotifier>(m_reader->readable(), QSocketNotifier::Read);
-    connect(m_notifier.get(), &QSocketNotifier::activated, this, &UdpWinsock::handOver);
+    m_notifier = std::make_unique<WakeNotifier>(m_reader->readable(), [this] { handOver(); });
     return true;
 }
 

@@ -7,7 +7,6 @@
 #include "protocol/winsock.h"
 
 #include <QObject>
-#include <QSocketNotifier>
 
 #include <map>
 #include <memory>
@@ -90,7 +89,7 @@ private:
     std::optional<DatagramSocket> m_own;
     std::optional<DatagramSocket> m_broadcasts; ///< hears what is sent to every copy on the loopback network
     std::optional<DatagramReader> m_reader;     ///< goes before its sockets, and after what watches it
-    std::unique_ptr<QSocketNotifier> m_notifier;
+    std::unique_ptr<WakeNotifier> m_notifier;
     int m_receiveBufferBytes = 0;
     BindFailure m_bindFailure = BindFailure::none;
 };

@@ -1,7 +1,5 @@
 #include "platform/unix_signals.h"
 
-#ifdef Q_OS_UNIX
-
 #include <atomic>
 #include <utility>
 
@@ -11,8 +9,8 @@ namespace
 {
 
 // A signal handler reaches nothing but what is global.
-std::atomic<int> wakeDescriptor = -1;
-static_assert(std::atomic<int>::is_always_lock_free, "a signal handler must not wait for a lock");
+std::atomic<WakePipe::Handle> wakeDescriptor = WakePipe::none;
+static_assert(std::atomic<WakePipe::Handle>::is_always_lock_free, "a signal handler must not wait for a lock");
 
 void wakeEventLoop(int)
 {
@@ -27,8 +25,7 @@ UnixSignals::UnixSignals(std::function<void()> askedToEnd, QObject *parent)
     take(m_previous[3], SIGPIPE, SIG_IGN);
     if (!m_pipe.isOpen())
         return; // the signals then end the program at once, as they would without us
-    m_notifier = std::make_unique<QSocketNotifier>(m_pipe.readable(), QSocketNotifier::Read);
-    connect(m_notifier.get(), &QSocketNotifier::activated, this, &UnixSignals::wake);
+    m_notifier = std::make_unique<WakeNotifier>(m_pipe.readable(), [this] { wake(); });
     wakeDescriptor = m_pipe.writable();
     take(m_previous[0], SIGTERM, wakeEventLoop);
     take(m_previous[1], SIGINT, wakeEventLoop);
@@ -41,7 +38,7 @@ UnixSignals::~UnixSignals()
         if (previous.signal != 0)
             ::sigaction(previous.signal, &previous.action, nullptr);
     }
-    wakeDescriptor = -1;
+    wakeDescriptor = WakePipe::none;
 }
 
 void UnixSignals::take(Previous &previous, int signal, void (*handler)(int))
@@ -62,5 +59,3 @@ void UnixSignals::wake()
 }
 
 } // namespace nimb
-
-#endif

@@ -1,25 +1,17 @@
-// The polite ways in which the system asks a program to end.
+// The signals by which a Unix asks a program to end.
 #pragma once
 
-#include <QtGlobal>
-
-#include <functional>
-
-#ifdef Q_OS_UNIX
 #include "platform/wake_pipe.h"
 
 #include <QObject>
-#include <QSocketNotifier>
 
 #include <array>
 #include <csignal>
+#include <functional>
 #include <memory>
-#endif
 
 namespace nimb
 {
-
-#ifdef Q_OS_UNIX
 
 /// While it lives, SIGTERM, SIGINT and SIGHUP call a function from the event loop, where everything may be done, and
 /// SIGPIPE is ignored. Signals that come together call it once. One object at a time; what was set before comes back
@@ -41,18 +33,8 @@ private:
 
     std::function<void()> m_askedToEnd;
     WakePipe m_pipe;
-    std::unique_ptr<QSocketNotifier> m_notifier; // goes before its descriptor
+    std::unique_ptr<WakeNotifier> m_notifier; // goes before its descriptor
     std::array<Previous, 4> m_previous;
 };
-
-#else
-
-class UnixSignals
-{
-public:
-    explicit UnixSignals(const std::function<void()> &) { }
-};
-
-#endif
 
 } // namespace nimb

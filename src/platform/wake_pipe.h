@@ -1,13 +1,23 @@
-// Waking another thread, or the event loop from inside a signal handler, by a descriptor that becomes readable.
+// Waking another thread, or the event loop from inside a signal handler, by something that it can wait for.
 #pragma once
+
+#include <QObject>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
 
 namespace nimb
 {
 
-/// A pair of descriptors that never block and are not inherited by child processes.
+/// On Unix a pair of descriptors that never block, on Windows an event; child processes inherit neither.
 class WakePipe
 {
 public:
+    /// What the system waits for: a descriptor, or a handle as wide as a pointer.
+    using Handle = std::intptr_t;
+    static constexpr Handle none = -1;
+
     /// Without descriptors when the system has none left.
     WakePipe();
     ~WakePipe();
@@ -15,20 +25,32 @@ public:
     WakePipe &operator=(const WakePipe &) = delete;
 
     bool isOpen() const { return m_reading != none; }
-    /// Readable from wake() on until calm(); -1 when there is none.
-    int readable() const { return m_reading; }
-    /// What wake(int) takes; -1 when there is none.
-    int writable() const { return m_writing; }
+    /// Readable, or set, from wake() on until calm(); none when there is none.
+    Handle readable() const { return m_reading; }
+    /// What wake(Handle) takes; none when there is none.
+    Handle writable() const { return m_writing; }
     void wake() const { wake(m_writing); }
     /// May be called by a signal handler.
-    static void wake(int writable);
+    static void wake(Handle writable);
     void calm() const;
 
 private:
-    static constexpr int none = -1;
+    Handle m_reading = none;
+    Handle m_writing = none;
+};
 
-    int m_reading = none;
-    int m_writing = none;
+/// Calls a function from the event loop as long as what it watches is readable. Goes before what it watches; its end
+/// may be left to the event loop with QObject::deleteLater().
+class WakeNotifier : public QObject
+{
+public:
+    WakeNotifier(WakePipe::Handle readable, std::function<void()> woken);
+    ~WakeNotifier() override;
+    void setEnabled(bool enabled);
+
+private:
+    class Watch;
+    std::unique_ptr<Watch> m_watch;
 };
 
 } // namespace nimb

@@ -6,10 +6,6 @@
 #include <QFile>
 #include <QFileInfo>
 
-#ifdef Q_OS_UNIX
-#include <unistd.h>
-#endif
-
 namespace nimb
 {
 namespace
@@ -59,11 +55,7 @@ bool NextStartFile::write(const QString &text) const
     // Over what is there: nothing new has to be found on the disk.
     if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) || file.write(bytes) != fileSize)
         return false;
-#ifdef Q_OS_UNIX
-    return ::fsync(file.handle()) == 0;
-#else
-    return true;
-#endif
+    return flushToDisk(file);
 }
 
 } // namespace nimb

@@ -1,7 +1,6 @@
 #include "store/sqlite.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QStringDecoder>
 
 namespace nimb::sqlite
@@ -65,15 +64,6 @@ void check(int code, sqlite3 *database)
 void execute(sqlite3 *database, const char *sql)
 {
     check(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), database);
-}
-
-QByteArray fileName(const QString &path)
-{
-#ifdef Q_OS_WIN
-    return path.toUtf8();
-#else
-    return QFile::encodeName(path);
-#endif
 }
 
 Statement::Statement(sqlite3 *database, const char *sql) : m_database(database)

@@ -27,8 +27,6 @@ using Database = std::unique_ptr<sqlite3, CloseDatabase>;
 QString reasonFor(int code, sqlite3 *database);
 void check(int code, sqlite3 *database);
 void execute(sqlite3 *database, const char *sql);
-/// The path as SQLite wants it.
-QByteArray fileName(const QString &path);
 
 /// One prepared statement. Texts go in and out with their lengths, so that they may hold U+0000.
 class Statement

@@ -1,5 +1,6 @@
 #include "store/sqlite_settings_store.h"
 
+#include "platform/library_file_names.h"
 #include "platform/profile_folder.h"
 #include "store/sqlite.h"
 
@@ -329,7 +330,7 @@ SqliteSettingsStore::Database SqliteSettingsStore::openDatabase(const QString &f
 {
     sqlite3 *opened = nullptr;
     const int flags = access == Access::readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
-    const int code = sqlite3_open_v2(sqlite::fileName(file).constData(), &opened, flags, nullptr);
+    const int code = sqlite3_open_v2(fileNameForSqlite(file).constData(), &opened, flags, nullptr);
     Database database(opened); // to be closed even when it could not be opened
     check(code, opened);
     check(sqlite3_extended_result_codes(opened, 1), opened);

@@ -38,7 +38,7 @@ class DatagramReaderTest : public testing::Test
 protected:
     static bool isReadable(const DatagramReader &reader, int milliseconds)
     {
-        pollfd watched = {.fd = reader.readable(), .events = POLLIN, .revents = 0};
+        pollfd watched = {.fd = static_cast<int>(reader.readable()), .events = POLLIN, .revents = 0};
         return ::poll(&watched, 1, milliseconds) == 1;
     }
 
@@ -46,7 +46,7 @@ protected:
     void waitUntilRead() const
     {
         int bytes = 1;
-        while (::ioctl(m_socket.descriptor(), FIONREAD, &bytes) == 0 && bytes > 0)
+        while (::ioctl(static_cast<int>(m_socket.descriptor()), FIONREAD, &bytes) == 0 && bytes > 0)
             std::this_thread::yield();
     }
 

@@ -359,5 +359,62 @@ TEST(Nftables, EveryChainMayKeepItOut)
     EXPECT_EQ(answer->block, (NftBlock{QStringLiteral("ip"), QStringLiteral("mine"), QStringLiteral("late")}));
 }
 
+// --- Windows
+
+const QString ours = QStringLiteral("C:\\Users\\Ann\\NIMB-Chat\\nimb-chat.exe");
+
+RuleAnswer windowsSays(const QStringList &rules)
+{
+    return windowsAnswer(rules, ours, 5549);
+}
+
+/// As Windows writes them, head: the fields that say whether it is on, which way and for what.
+QString windowsRule(const char *action, const QString &app = ours, const char *more = "",
+                    const char *head = "TRUE|Dir=In|Protocol=17")
+{
+    return QStringLiteral("v2.31|Action=%1|Active=%2|%3App=%4|Name=Chat|")
+        .arg(QLatin1String(action), QLatin1String(head), QLatin1String(more), app);
+}
+
+TEST(WindowsFirewall, WithoutARuleNothingComesIn)
+{
+    EXPECT_EQ(windowsSays({}), RuleAnswer::blocks);
+    EXPECT_EQ(windowsSays({QString(), QStringLiteral("v2.31"), QStringLiteral("|=|")}), RuleAnswer::blocks);
+}
+
+TEST(WindowsFirewall, ARuleForTheProgramLetsItInWhateverTheCaseOfItsName)
+{
+    EXPECT_EQ(windowsSays({windowsRule("Allow")}), RuleAnswer::lets);
+    EXPECT_EQ(windowsSays({windowsRule("Allow", ours.toUpper())}), RuleAnswer::lets);
+    EXPECT_EQ(windowsSays({windowsRule("Allow", QStringLiteral("C:\\other.exe"))}), RuleAnswer::blocks);
+}
+
+TEST(WindowsFirewall, RulesThatAreOffOrForAnotherWayDoNotCount)
+{
+    EXPECT_EQ(windowsSays({windowsRule("Allow", ours, "", "FALSE|Dir=In|Protocol=17")}), RuleAnswer::blocks);
+    EXPECT_EQ(windowsSays({windowsRule("Allow", ours, "", "TRUE|Dir=Out|Protocol=17")}), RuleAnswer::blocks);
+    EXPECT_EQ(windowsSays({windowsRule("Allow", ours, "", "TRUE|Dir=In|Protocol=6")}), RuleAnswer::blocks);
+}
+
+TEST(WindowsFirewall, APortOrARangeOfThemLetsIn)
+{
+    EXPECT_EQ(windowsSays({windowsRule("Allow", ours, "LPort=5549|")}), RuleAnswer::lets);
+    EXPECT_EQ(windowsSays({windowsRule("Allow", ours, "LPort=5550|")}), RuleAnswer::blocks);
+    EXPECT_EQ(windowsSays({windowsRule("Allow", ours, "LPort2_10=5500-5600|")}), RuleAnswer::lets);
+    EXPECT_EQ(windowsSays({windowsRule("Allow", ours, "LPort2_10=5600-5700|")}), RuleAnswer::blocks);
+}
+
+TEST(WindowsFirewall, WhatBlocksGoesBeforeWhatLetsIn)
+{
+    EXPECT_EQ(windowsSays({windowsRule("Allow"), windowsRule("Block")}), RuleAnswer::blocks);
+    EXPECT_EQ(windowsSays({windowsRule("Allow"), windowsRule("Block", ours, "Profile=Public|")}), RuleAnswer::unsure);
+}
+
+TEST(WindowsFirewall, ARuleForSomeNetworksOrNeighboursIsNotSure)
+{
+    EXPECT_EQ(windowsSays({windowsRule("Allow", ours, "Profile=Private|")}), RuleAnswer::unsure);
+    EXPECT_EQ(windowsSays({windowsRule("Allow", ours, "RA4=LocalSubnet|")}), RuleAnswer::unsure);
+}
+
 } // namespace
 } // namespace nimb::test

@@ -30,6 +30,16 @@ TEST_P(AnyText, IsOneArgumentOfNetSend)
     EXPECT_EQ(command.input, QByteArray());
 }
 
+TEST_P(AnyText, IsOneArgumentOfMsgAndNoOption)
+{
+    const MessageCommand command = messageCommand(MessageSystem::msg, QStringLiteral("PC-ANN"), GetParam());
+    EXPECT_EQ(command.program, QStringLiteral("msg"));
+    ASSERT_EQ(command.arguments.size(), 3);
+    EXPECT_EQ(command.arguments.mid(0, 2), QStringList({"*", "/SERVER:PC-ANN"}));
+    EXPECT_EQ(command.arguments.at(2).trimmed(), GetParam().trimmed());
+    EXPECT_FALSE(command.arguments.at(2).startsWith(u'-') || command.arguments.at(2).startsWith(u'/'));
+}
+
 TEST_P(AnyText, IsTheStandardInputOfSmbclient)
 {
     const MessageCommand command = messageCommand(MessageSystem::smbClient, QStringLiteral("PC-ANN"), GetParam());
@@ -61,7 +71,8 @@ INSTANTIATE_TEST_SUITE_P(NetSend, AnyText,
                                          QStringLiteral("$(touch done)"), QStringLiteral("`touch done`"),
                                          QStringLiteral("a; touch done & b | c > done"),
                                          QStringLiteral("one\ntwo\r\nthree\n"), QStringLiteral("-h"),
-                                         QStringLiteral("--message=PC-BEN"), QStringLiteral("%PATH% ^ !x! \\"),
+                                         QStringLiteral("/W"), QStringLiteral("--message=PC-BEN"),
+                                         QStringLiteral("%PATH% ^ !x! \\"),
                                          QString::fromUtf8("Grüße, Ελένη \xF0\x9F\x98\x80"), tenThousand));
 
 class AnyComputer : public testing::TestWithParam<const char *>

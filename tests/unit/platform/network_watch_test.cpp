@@ -1,4 +1,4 @@
-#include "platform/network_watch.h"
+#include "platform/network_watch_linux.h"
 
 #include "on_own_network.h"
 #include "platform/qt_timers.h"

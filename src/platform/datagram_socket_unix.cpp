@@ -16,7 +16,7 @@ namespace nimb
 namespace
 {
 
-constexpr int noDescriptor = -1;
+constexpr DatagramSocket::Descriptor noDescriptor = -1;
 
 sockaddr_in toSystem(Ipv4Endpoint endpoint)
 {
@@ -40,6 +40,11 @@ const sockaddr *general(const sockaddr_in &address)
 sockaddr *general(sockaddr_in &address)
 {
     return reinterpret_cast<sockaddr *>(&address);
+}
+
+int numberOf(DatagramSocket::Descriptor descriptor)
+{
+    return static_cast<int>(descriptor);
 }
 
 bool set(int descriptor, int option, bool isOn)
@@ -160,8 +165,8 @@ int receiveMany(int descriptor, std::span<mmsghdr> headers)
 std::variant<DatagramSocket, DatagramSocket::SystemError> DatagramSocket::open(Ipv4Endpoint local, Sharing sharing)
 {
     DatagramSocket socket(::socket(AF_INET, SOCK_DGRAM, 0)); // closes it on every way out
-    const int descriptor = socket.descriptor();
-    const bool usable = descriptor != noDescriptor && neverBlocksNorInherits(descriptor)
+    const int descriptor = numberOf(socket.descriptor());
+    const bool usable = socket.descriptor() != noDescriptor && neverBlocksNorInherits(descriptor)
         && (sharing != Sharing::shared || switchOn(descriptor, SO_REUSEADDR)) && bindTo(descriptor, local);
     if (!usable)
         return SystemError{errno};
@@ -186,15 +191,15 @@ DatagramSocket &DatagramSocket::operator=(DatagramSocket &&other) noexcept
 DatagramSocket::~DatagramSocket()
 {
     if (m_descriptor != noDescriptor)
-        ::close(m_descriptor);
+        ::close(numberOf(m_descriptor));
 }
 
 int DatagramSocket::growReceiveBuffer(int bytes)
 {
-    setsockopt(m_descriptor, SOL_SOCKET, SO_RCVBUF, &bytes, sizeof bytes);
+    setsockopt(numberOf(m_descriptor), SOL_SOCKET, SO_RCVBUF, &bytes, sizeof bytes);
     int granted = 0;
     socklen_t size = sizeof granted;
-    if (getsockopt(m_descriptor, SOL_SOCKET, SO_RCVBUF, &granted, &size) != 0)
+    if (getsockopt(numberOf(m_descriptor), SOL_SOCKET, SO_RCVBUF, &granted, &size) != 0)
         return 0;
 #ifdef __linux__
     granted /= 2; // Linux doubles what it grants, for its own book-keeping, and reports the double.
@@ -204,12 +209,12 @@ int DatagramSocket::growReceiveBuffer(int bytes)
 
 void DatagramSocket::growSendBuffer(int bytes)
 {
-    setsockopt(m_descriptor, SOL_SOCKET, SO_SNDBUF, &bytes, sizeof bytes);
+    setsockopt(numberOf(m_descriptor), SOL_SOCKET, SO_SNDBUF, &bytes, sizeof bytes);
 }
 
 void DatagramSocket::setBroadcast(bool allowed)
 {
-    set(m_descriptor, SO_BROADCAST, allowed);
+    set(numberOf(m_descriptor), SO_BROADCAST, allowed);
 }
 
 bool DatagramSocket::send(Ipv4Endpoint destination, std::string_view bytes, std::optional<Ipv4Address> source)
@@ -224,7 +229,7 @@ bool DatagramSocket::send(Ipv4Endpoint destination, std::string_view bytes, std:
     SourceNote note;
     if (source)
         note.attachTo(message, *source);
-    const auto attempt = [&] { return ::sendmsg(m_descriptor, &message, 0); };
+    const auto attempt = [&] { return ::sendmsg(numberOf(m_descriptor), &message, 0); };
     auto sent = attempt();
     if (sent < 0 && (errno == EINTR || isEchoOfClosedPort(errno)))
         sent = attempt();
@@ -243,7 +248,7 @@ DatagramSocket::Reception DatagramSocket::receive(Buffers &buffers)
     for (std::size_t i = 0; i < slots.size(); ++i)
         headers[i].msg_hdr = slots[i].headerFor({buffers.buffer(i), Buffers::size});
 
-    const int received = receiveMany(m_descriptor, headers);
+    const int received = receiveMany(numberOf(m_descriptor), headers);
     if (received < 0)
         return {.failed = errno != EAGAIN && errno != EWOULDBLOCK && errno != EINTR};
     Reception reception;
@@ -267,11 +272,11 @@ std::optional<Ipv4Address> sourceAddressTowards(Ipv4Endpoint destination, Ipv4Ad
         return std::nullopt;
     socket->setBroadcast(true);
     const sockaddr_in address = toSystem(destination);
-    if (::connect(socket->descriptor(), general(address), sizeof address) != 0)
+    if (::connect(numberOf(socket->descriptor()), general(address), sizeof address) != 0)
         return std::nullopt;
     sockaddr_in own = {};
     socklen_t size = sizeof own;
-    if (getsockname(socket->descriptor(), general(own), &size) != 0)
+    if (getsockname(numberOf(socket->descriptor()), general(own), &size) != 0)
         return std::nullopt;
     return fromSystem(own).address;
 }

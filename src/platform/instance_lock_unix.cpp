@@ -2,31 +2,27 @@
 
 #include <QFile>
 
-#ifdef Q_OS_UNIX
 #include <cerrno>
 #include <utility>
 
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
-#endif
 
 namespace nimb
 {
-
-#ifdef Q_OS_UNIX
 
 InstanceLock::InstanceLock(QString path) : m_path(std::move(path)) { }
 
 InstanceLock::~InstanceLock()
 {
-    if (m_descriptor != -1)
-        ::close(m_descriptor);
+    if (m_handle != none)
+        ::close(static_cast<int>(m_handle));
 }
 
 InstanceLock::Outcome InstanceLock::tryToHold()
 {
-    if (m_descriptor != -1)
+    if (m_handle != none)
         return Outcome::held;
     const QByteArray name = QFile::encodeName(m_path);
     // Children must not inherit it: a browser that we started would keep the lock after our end.
@@ -36,30 +32,12 @@ InstanceLock::Outcome InstanceLock::tryToHold()
     if (descriptor == -1)
         return Outcome::impossible;
     if (::flock(descriptor, LOCK_EX | LOCK_NB) == 0) {
-        m_descriptor = descriptor;
+        m_handle = descriptor;
         return Outcome::held;
     }
     const bool elsewhere = errno == EWOULDBLOCK;
     ::close(descriptor);
     return elsewhere ? Outcome::heldElsewhere : Outcome::impossible;
 }
-
-#else
-
-InstanceLock::InstanceLock(QString path) : m_file(path)
-{
-    m_file.setStaleLockTime(0); // only a process that no longer runs gives it up
-}
-
-InstanceLock::~InstanceLock() = default;
-
-InstanceLock::Outcome InstanceLock::tryToHold()
-{
-    if (m_file.isLocked() || m_file.tryLock())
-        return Outcome::held;
-    return m_file.error() == QLockFile::LockFailedError ? Outcome::heldElsewhere : Outcome::impossible;
-}
-
-#endif
 
 } // namespace nimb

@@ -1,6 +1,6 @@
-#include "platform/network_watch.h"
+#include "platform/network_watch_linux.h"
 
-#ifdef Q_OS_LINUX
+#include "platform/network_watch.h"
 
 #include <array>
 #include <cerrno>
@@ -137,6 +137,9 @@ void SystemNetworkWatch::read()
         note(NetworkChange::networks);
 }
 
-} // namespace nimb
+std::unique_ptr<NetworkWatch> watchNetworks(Timers &timers)
+{
+    return std::make_unique<SystemNetworkWatch>(timers);
+}
 
-#endif
+} // namespace nimb

@@ -1,11 +1,12 @@
-#include "app/notification_router.h"
+#include "platform/notification_router.h"
 
 #include <utility>
 
 namespace nimb
 {
 
-NotificationRouter::NotificationRouter(const Common &common, Notifications &popUp, bool placed, Reactions reactions)
+NotificationRouter::NotificationRouter(const Common &common, Notifications &popUp, bool placed,
+                                       NoticeReactions reactions)
     : m_popUp(popUp), m_reactions(std::move(reactions))
 {
     if (placed)

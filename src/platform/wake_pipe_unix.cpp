@@ -1,5 +1,7 @@
 #include "platform/wake_pipe.h"
 
+#include <QSocketNotifier>
+
 #include <array>
 #include <cerrno>
 #include <iterator>
@@ -34,25 +36,44 @@ WakePipe::WakePipe()
 
 WakePipe::~WakePipe()
 {
-    for (const int descriptor : {m_reading, m_writing}) {
+    for (const Handle descriptor : {m_reading, m_writing}) {
         if (descriptor != none)
-            ::close(descriptor);
+            ::close(static_cast<int>(descriptor));
     }
 }
 
-void WakePipe::wake(int writable)
+void WakePipe::wake(Handle writable)
 {
     const int kept = errno;
     const char byte = 0;
     // When the pair is full its reader has been woken already.
-    [[maybe_unused]] const auto written = ::write(writable, &byte, 1);
+    [[maybe_unused]] const auto written = ::write(static_cast<int>(writable), &byte, 1);
     errno = kept;
 }
 
 void WakePipe::calm() const
 {
     std::array<char, 64> bytes;
-    while (::read(m_reading, bytes.data(), bytes.size()) == std::ssize(bytes)) { }
+    while (::read(static_cast<int>(m_reading), bytes.data(), bytes.size()) == std::ssize(bytes)) { }
+}
+
+class WakeNotifier::Watch : public QSocketNotifier
+{
+public:
+    using QSocketNotifier::QSocketNotifier;
+};
+
+WakeNotifier::WakeNotifier(WakePipe::Handle readable, std::function<void()> woken)
+    : m_watch(std::make_unique<Watch>(static_cast<qintptr>(readable), QSocketNotifier::Read))
+{
+    connect(m_watch.get(), &QSocketNotifier::activated, this, [woken = std::move(woken)] { woken(); });
+}
+
+WakeNotifier::~WakeNotifier() = default;
+
+void WakeNotifier::setEnabled(bool enabled)
+{
+    m_watch->setEnabled(enabled);
 }
 
 } // namespace nimb

@@ -1,10 +1,10 @@
 // Who shows what: the program's own pop-up, or the desktop.
 #pragma once
 
+#include "platform/desktop.h"
 #include "platform/desktop_notices.h"
 #include "platform/desktop_notifications.h"
 
-#include <functional>
 #include <optional>
 
 namespace nimb
@@ -15,13 +15,8 @@ namespace nimb
 class NotificationRouter : public Notifications
 {
 public:
-    struct Reactions {
-        std::function<void(const NoticePlace &)> open;
-        std::function<void(const NoticePlace &, const QString &)> answer;
-    };
-
     /// placed: windows stand where they are put, so that the pop-up can slide in.
-    NotificationRouter(const Common &common, Notifications &popUp, bool placed, Reactions reactions);
+    NotificationRouter(const Common &common, Notifications &popUp, bool placed, NoticeReactions reactions);
 
     void add(const Notification &notification) override;
     void startTimer() override;
@@ -32,7 +27,7 @@ private:
     void reachDesktop();
 
     Notifications &m_popUp;
-    Reactions m_reactions;
+    NoticeReactions m_reactions;
     std::optional<DesktopNotifications> m_comings;
     std::optional<DesktopNotices> m_notices; ///< from the first notice on: until then nothing needs the bus
 };

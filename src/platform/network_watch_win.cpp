@@ -1,0 +1,115 @@
+#include "platform/network_watch.h"
+
+#include "platform/winsock_start.h"
+
+#include <QAbstractNativeEventFilter>
+#include <QCoreApplication>
+#include <QWinEventNotifier>
+
+#include <chrono>
+
+#include <iphlpapi.h>
+#include <winsock2.h>
+
+namespace nimb
+{
+namespace
+{
+
+/// A card that comes up is told of many times.
+constexpr std::chrono::milliseconds settlingTime{150};
+
+/// Asks once for a change of the system's table of addresses or ways; whoever heard of one asks anew.
+class TableWatch
+{
+public:
+    using Ask = DWORD (*)(PHANDLE, LPOVERLAPPED);
+
+    TableWatch(Ask ask, std::function<void()> changed)
+        : m_ask(ask), m_event(WSACreateEvent()), m_notifier(m_event), m_changed(std::move(changed))
+    {
+        QObject::connect(&m_notifier, &QWinEventNotifier::activated, &m_notifier, [this] {
+            WSAResetEvent(m_event);
+            listen();
+            m_changed();
+        });
+        m_notifier.setEnabled(true);
+        listen();
+    }
+    ~TableWatch()
+    {
+        m_notifier.setEnabled(false);
+        CancelIPChangeNotify(&m_question);
+        WSACloseEvent(m_event);
+    }
+    TableWatch(const TableWatch &) = delete;
+    TableWatch &operator=(const TableWatch &) = delete;
+
+private:
+    void listen()
+    {
+        m_question = {};
+        m_question.hEvent = m_event;
+        HANDLE unused = nullptr;
+        m_ask(&unused, &m_question);
+    }
+
+    Ask m_ask;
+    WSAEVENT m_event;
+    OVERLAPPED m_question = {};
+    QWinEventNotifier m_notifier;
+    std::function<void()> m_changed;
+};
+
+class WindowsNetworkWatch : public NetworkWatch, public QAbstractNativeEventFilter
+{
+public:
+    explicit WindowsNetworkWatch(Timers &timers)
+        : m_settled(timers.oneShot(settlingTime,
+                                   [this] {
+                                       if (m_changed)
+                                           m_changed(m_noted);
+                                   })),
+          m_addresses(&NotifyAddrChange, [this] { note(NetworkChange::networks); }),
+          m_ways(&NotifyRouteChange, [this] { note(NetworkChange::networks); })
+    {
+        QCoreApplication::instance()->installNativeEventFilter(this);
+    }
+
+    void listen(std::function<void(NetworkChange)> changed) override { m_changed = std::move(changed); }
+
+    /// Each window is told that the machine has slept; the first one is enough.
+    bool nativeEventFilter(const QByteArray &, void *message, qintptr *) override
+    {
+        const auto *const heard = static_cast<const MSG *>(message);
+        if (heard->message == WM_POWERBROADCAST && heard->wParam == PBT_APMRESUMEAUTOMATIC)
+            note(NetworkChange::wokeUp);
+        return false;
+    }
+
+private:
+    void note(NetworkChange change)
+    {
+        if (!m_settled->isActive())
+            m_noted = NetworkChange::networks;
+        if (change == NetworkChange::wokeUp)
+            m_noted = change;
+        if (!m_settled->isActive())
+            m_settled->start();
+    }
+
+    std::unique_ptr<Timer> m_settled;
+    NetworkChange m_noted = NetworkChange::networks; ///< since the timer was started
+    std::function<void(NetworkChange)> m_changed;
+    TableWatch m_addresses, m_ways;
+};
+
+} // namespace
+
+std::unique_ptr<NetworkWatch> watchNetworks(Timers &timers)
+{
+    startWinsock();
+    return std::make_unique<WindowsNetworkWatch>(timers);
+}
+
+} // namespace nimb
