@@ -8,9 +8,9 @@ option(NIMB_EMOJI "Offer emoji to choose from, where Unicode's data is found" ON
 set(NIMB_EMOJI_LANGUAGES en de fr es it pl)
 if(NIMB_EMOJI)
   find_path(NIMB_CLDR_FOLDER annotations/en.xml
-    PATHS /usr/share/unicode/cldr/common /usr/share/unicode/cldr /usr/local/share/unicode/cldr/common NO_DEFAULT_PATH)
+    PATHS /usr/share/unicode/cldr/common /usr/share/unicode/cldr /usr/local/share/unicode/cldr/common NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
   find_file(NIMB_EMOJI_ORDER emoji-test.txt
-    PATHS /usr/share/unicode/emoji /usr/share/unicode /usr/local/share/unicode/emoji NO_DEFAULT_PATH)
+    PATHS /usr/share/unicode/emoji /usr/share/unicode /usr/local/share/unicode/emoji NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
   find_package(Python3 COMPONENTS Interpreter QUIET)
   set(NIMB_EMOJI_FOUND ON)
   if(NOT NIMB_CLDR_FOLDER OR NOT NIMB_EMOJI_ORDER OR NOT Python3_Interpreter_FOUND)

@@ -8,6 +8,9 @@ option(NIMB_TRANSLATIONS "Build the translations, where Qt's lrelease is found" 
 set(NIMB_TRANSLATIONS_FOUND OFF)
 if(NIMB_TRANSLATIONS)
   set(tools_of_qt ${QT6_INSTALL_PREFIX}/${QT6_INSTALL_BINS} ${QT6_INSTALL_PREFIX}/${QT6_INSTALL_LIBEXECS})
+  if(QT_HOST_PATH) # built for another system than this one
+    list(APPEND tools_of_qt ${QT_HOST_PATH}/lib/qt6/bin)
+  endif()
   find_program(LRELEASE NAMES lrelease lrelease-qt6 HINTS ${tools_of_qt} NO_DEFAULT_PATH)
   find_program(LRELEASE NAMES lrelease-qt6 lrelease6 lrelease)
   find_program(LUPDATE NAMES lupdate lupdate-qt6 HINTS ${tools_of_qt} NO_DEFAULT_PATH)
