@@ -1,6 +1,8 @@
 #include "platform/command_line.h"
 
 #include <qt_windows.h>
+
+// They build on what stands above.
 #include <shellapi.h>
 
 namespace nimb

@@ -6,8 +6,10 @@
 #include <cerrno>
 #include <utility>
 
-#include <mswsock.h>
 #include <winsock2.h>
+
+// They build on what stands above.
+#include <mswsock.h>
 #include <ws2tcpip.h>
 
 namespace nimb

@@ -5,6 +5,8 @@
 #include <memory>
 
 #include <winsock2.h>
+
+// They build on what stands above.
 #include <ws2tcpip.h>
 
 namespace nimb

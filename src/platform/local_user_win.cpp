@@ -3,6 +3,8 @@
 #include <vector>
 
 #include <qt_windows.h>
+
+// They build on what stands above.
 #include <sddl.h>
 
 namespace nimb

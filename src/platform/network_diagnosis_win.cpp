@@ -10,8 +10,10 @@
 
 #include <vector>
 
-#include <iphlpapi.h>
 #include <winsock2.h>
+
+// They build on what stands above.
+#include <iphlpapi.h>
 #include <ws2tcpip.h>
 
 namespace nimb

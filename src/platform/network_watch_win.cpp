@@ -8,8 +8,10 @@
 
 #include <chrono>
 
-#include <iphlpapi.h>
 #include <winsock2.h>
+
+// They build on what stands above.
+#include <iphlpapi.h>
 
 namespace nimb
 {

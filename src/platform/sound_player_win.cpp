@@ -6,8 +6,10 @@
 
 #include <utility>
 
-#include <mmsystem.h>
 #include <qt_windows.h>
+
+// They build on what stands above.
+#include <mmsystem.h>
 
 namespace nimb
 {
