@@ -1,14 +1,13 @@
 #include "platform/datagram_socket.h"
 
+#include "platform/socket_address.h"
+
 #include <array>
 #include <cerrno>
 #include <cstring>
 #include <utility>
 
-#include <arpa/inet.h>
 #include <fcntl.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
 #include <unistd.h>
 
 namespace nimb
@@ -17,30 +16,6 @@ namespace
 {
 
 constexpr DatagramSocket::Descriptor noDescriptor = -1;
-
-sockaddr_in toSystem(Ipv4Endpoint endpoint)
-{
-    sockaddr_in address = {};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(endpoint.address.number());
-    address.sin_port = htons(endpoint.port);
-    return address;
-}
-
-Ipv4Endpoint fromSystem(const sockaddr_in &address)
-{
-    return {Ipv4Address::of(ntohl(address.sin_addr.s_addr)), ntohs(address.sin_port)};
-}
-
-// The socket calls take every kind of address through a pointer to the general one.
-const sockaddr *general(const sockaddr_in &address)
-{
-    return reinterpret_cast<const sockaddr *>(&address);
-}
-sockaddr *general(sockaddr_in &address)
-{
-    return reinterpret_cast<sockaddr *>(&address);
-}
 
 int numberOf(DatagramSocket::Descriptor descriptor)
 {

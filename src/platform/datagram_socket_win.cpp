@@ -1,16 +1,13 @@
 #include "platform/datagram_socket.h"
 
-#include "platform/winsock_start.h"
+#include "platform/socket_address.h"
+#include "platform/socket_start.h"
 
 #include <array>
 #include <cerrno>
 #include <utility>
 
-#include <winsock2.h>
-
-// They build on what stands above.
 #include <mswsock.h>
-#include <ws2tcpip.h>
 
 namespace nimb
 {
@@ -22,30 +19,6 @@ constexpr auto noDescriptor = static_cast<DatagramSocket::Descriptor>(INVALID_SO
 SOCKET handleOf(DatagramSocket::Descriptor descriptor)
 {
     return static_cast<SOCKET>(descriptor);
-}
-
-sockaddr_in toSystem(Ipv4Endpoint endpoint)
-{
-    sockaddr_in address = {};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(endpoint.address.number());
-    address.sin_port = htons(endpoint.port);
-    return address;
-}
-
-Ipv4Endpoint fromSystem(const sockaddr_in &address)
-{
-    return {Ipv4Address::of(ntohl(address.sin_addr.s_addr)), ntohs(address.sin_port)};
-}
-
-// The socket calls take every kind of address through a pointer to the general one.
-const sockaddr *general(const sockaddr_in &address)
-{
-    return reinterpret_cast<const sockaddr *>(&address);
-}
-sockaddr *general(sockaddr_in &address)
-{
-    return reinterpret_cast<sockaddr *>(&address);
 }
 
 bool set(SOCKET socket, int option, int value)
@@ -120,7 +93,7 @@ LPFN_WSASENDMSG sendWithNote(SOCKET socket)
 
 bool sendFrom(SOCKET socket, sockaddr_in destination, std::string_view bytes, Ipv4Address source)
 {
-    const LPFN_WSASENDMSG send = sendWithNote(socket);
+    static const LPFN_WSASENDMSG send = sendWithNote(socket); // the same for every socket of this kind
     if (!send)
         return false;
     WSABUF data = {static_cast<ULONG>(bytes.size()), const_cast<char *>(bytes.data())}; // it is read only
@@ -144,7 +117,7 @@ bool sendFrom(SOCKET socket, sockaddr_in destination, std::string_view bytes, Ip
 
 std::variant<DatagramSocket, DatagramSocket::SystemError> DatagramSocket::open(Ipv4Endpoint local, Sharing sharing)
 {
-    if (!startWinsock())
+    if (!startSockets())
         return SystemError{ENETDOWN};
     DatagramSocket socket(
         static_cast<Descriptor>(WSASocketW(AF_INET, SOCK_DGRAM, IPPROTO_UDP, nullptr, 0, WSA_FLAG_NO_HANDLE_INHERIT)));

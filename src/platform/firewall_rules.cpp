@@ -471,6 +471,19 @@ bool isInPorts(const QStringList &ports, std::uint16_t port)
 
 } // namespace
 
+Firewall::Verdict verdictOf(RuleAnswer answer)
+{
+    switch (answer) {
+    case RuleAnswer::lets:
+        return Firewall::Verdict::lets;
+    case RuleAnswer::blocks:
+        return Firewall::Verdict::blocks;
+    case RuleAnswer::unsure:
+        break;
+    }
+    return Firewall::Verdict::forSome;
+}
+
 RuleAnswer windowsAnswer(const QStringList &rules, const QString &program, std::uint16_t udpPort)
 {
     bool isLetIn = false, isForSome = false;

@@ -1,6 +1,8 @@
 // What the rules of firewalls say about a UDP port. The texts are those of Debian 12 and 13, Ubuntu and Fedora.
 #pragma once
 
+#include "base/network_diagnosis.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -20,6 +22,9 @@ enum class RuleAnswer {
     blocks,
     unsure, ///< they let some in and not others, or ask what is not understood here
 };
+
+/// As the doctor says it.
+[[nodiscard]] Firewall::Verdict verdictOf(RuleAnswer answer);
 
 /// defaults: /etc/default/ufw; rules: /etc/ufw/user.rules, of which the comments "### tuple ###" count, from which ufw
 /// itself reads its rules.

@@ -110,19 +110,6 @@ QString nftCommand(const NftBlock &block, std::uint16_t port)
         .arg(block.family, block.table, block.chain, QString::number(port));
 }
 
-Firewall::Verdict verdictOf(RuleAnswer answer)
-{
-    switch (answer) {
-    case RuleAnswer::lets:
-        return Firewall::Verdict::lets;
-    case RuleAnswer::blocks:
-        return Firewall::Verdict::blocks;
-    case RuleAnswer::unsure:
-        break;
-    }
-    return Firewall::Verdict::forSome;
-}
-
 /// Rules of nftables, and of iptables in both of its forms, need one of these. Everybody may see whether they are
 /// there.
 bool isLoaded(const char *module)

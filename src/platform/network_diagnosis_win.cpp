@@ -72,19 +72,6 @@ QStringList firewallRules()
     return texts;
 }
 
-Firewall::Verdict verdictOf(RuleAnswer answer)
-{
-    switch (answer) {
-    case RuleAnswer::lets:
-        return Firewall::Verdict::lets;
-    case RuleAnswer::blocks:
-        return Firewall::Verdict::blocks;
-    case RuleAnswer::unsure:
-        break;
-    }
-    return Firewall::Verdict::forSome;
-}
-
 /// The program for which the rules are made: ours for consoles stands beside it.
 QString chatProgram()
 {

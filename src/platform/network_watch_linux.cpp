@@ -60,11 +60,7 @@ std::chrono::nanoseconds timeOf(clockid_t clock)
 SystemNetworkWatch::SystemNetworkWatch(Timers &timers, Slept slept)
     : m_descriptor(openNetlink()), m_clock(openClock()), m_slept(std::move(slept)), m_sleptBefore(m_slept()),
       m_notifier(notifier(m_descriptor, &SystemNetworkWatch::read)),
-      m_clockNotifier(notifier(m_clock, &SystemNetworkWatch::readClock)),
-      m_settled(timers.oneShot(settlingTime, [this] {
-          if (m_changed)
-              m_changed(m_noted);
-      }))
+      m_clockNotifier(notifier(m_clock, &SystemNetworkWatch::readClock)), m_settled(timers)
 {
 }
 
@@ -102,17 +98,7 @@ void SystemNetworkWatch::readClock()
         m_clockNotifier->setEnabled(false); // it would keep the event loop busy
     const std::chrono::nanoseconds slept = m_slept();
     if (slept - std::exchange(m_sleptBefore, slept) >= shortest)
-        note(NetworkChange::wokeUp);
-}
-
-void SystemNetworkWatch::note(NetworkChange change)
-{
-    if (!m_settled->isActive())
-        m_noted = NetworkChange::networks;
-    if (change == NetworkChange::wokeUp)
-        m_noted = change;
-    if (!m_settled->isActive())
-        m_settled->start();
+        m_settled.note(NetworkChange::wokeUp);
 }
 
 /// What the messages say is of no interest: whoever is told looks at all there is.
@@ -134,7 +120,7 @@ void SystemNetworkWatch::read()
     if (!heard && errno != EAGAIN)
         m_notifier->setEnabled(false);
     if (heard)
-        note(NetworkChange::networks);
+        m_settled.note(NetworkChange::networks);
 }
 
 std::unique_ptr<NetworkWatch> watchNetworks(Timers &timers)

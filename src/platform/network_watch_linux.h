@@ -3,6 +3,7 @@
 
 #include "base/network_watch.h"
 #include "base/timers.h"
+#include "platform/settled_change.h"
 
 #include <QObject>
 #include <QSocketNotifier>
@@ -18,16 +19,13 @@ namespace nimb
 class SystemNetworkWatch : public QObject, public NetworkWatch
 {
 public:
-    /// A change is told this long after its first message, for a card that comes up sends a dozen of them.
-    static constexpr std::chrono::milliseconds settlingTime{150};
-
     /// How long the machine has slept since it was switched on.
     using Slept = std::function<std::chrono::nanoseconds()>;
 
     explicit SystemNetworkWatch(Timers &timers, Slept slept = sleptOfMachine);
     ~SystemNetworkWatch() override;
 
-    void listen(std::function<void(NetworkChange)> changed) override { m_changed = std::move(changed); }
+    void listen(std::function<void(NetworkChange)> changed) override { m_settled.listen(std::move(changed)); }
 
     /// For a test to give it less room for messages.
     int descriptor() const { return m_descriptor; }
@@ -39,16 +37,13 @@ private:
     std::unique_ptr<QSocketNotifier> notifier(int descriptor, void (SystemNetworkWatch::*procedure)());
     void read();
     void readClock();
-    void note(NetworkChange change);
 
     int m_descriptor; ///< of netlink
     int m_clock;      ///< a timer that never ends, and tells when the clock makes a leap, as it does after a sleep
     Slept m_slept;
     std::chrono::nanoseconds m_sleptBefore;
     std::unique_ptr<QSocketNotifier> m_notifier, m_clockNotifier; ///< they go before their descriptors
-    std::unique_ptr<Timer> m_settled;
-    NetworkChange m_noted = NetworkChange::networks; ///< since the timer was started
-    std::function<void(NetworkChange)> m_changed;
+    SettledChange m_settled;
 };
 
 } // namespace nimb

@@ -1,12 +1,11 @@
 #include "platform/network_watch.h"
 
-#include "platform/winsock_start.h"
+#include "platform/settled_change.h"
+#include "platform/socket_start.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QCoreApplication>
 #include <QWinEventNotifier>
-
-#include <chrono>
 
 #include <winsock2.h>
 
@@ -17,9 +16,6 @@ namespace nimb
 {
 namespace
 {
-
-/// A card that comes up is told of many times.
-constexpr std::chrono::milliseconds settlingTime{150};
 
 /// Asks once for a change of the system's table of addresses or ways; whoever heard of one asks anew.
 class TableWatch
@@ -67,42 +63,25 @@ class WindowsNetworkWatch : public NetworkWatch, public QAbstractNativeEventFilt
 {
 public:
     explicit WindowsNetworkWatch(Timers &timers)
-        : m_settled(timers.oneShot(settlingTime,
-                                   [this] {
-                                       if (m_changed)
-                                           m_changed(m_noted);
-                                   })),
-          m_addresses(&NotifyAddrChange, [this] { note(NetworkChange::networks); }),
-          m_ways(&NotifyRouteChange, [this] { note(NetworkChange::networks); })
+        : m_settled(timers), m_addresses(&NotifyAddrChange, [this] { m_settled.note(NetworkChange::networks); }),
+          m_ways(&NotifyRouteChange, [this] { m_settled.note(NetworkChange::networks); })
     {
         QCoreApplication::instance()->installNativeEventFilter(this);
     }
 
-    void listen(std::function<void(NetworkChange)> changed) override { m_changed = std::move(changed); }
+    void listen(std::function<void(NetworkChange)> changed) override { m_settled.listen(std::move(changed)); }
 
     /// Each window is told that the machine has slept; the first one is enough.
     bool nativeEventFilter(const QByteArray &, void *message, qintptr *) override
     {
         const auto *const heard = static_cast<const MSG *>(message);
         if (heard->message == WM_POWERBROADCAST && heard->wParam == PBT_APMRESUMEAUTOMATIC)
-            note(NetworkChange::wokeUp);
+            m_settled.note(NetworkChange::wokeUp);
         return false;
     }
 
 private:
-    void note(NetworkChange change)
-    {
-        if (!m_settled->isActive())
-            m_noted = NetworkChange::networks;
-        if (change == NetworkChange::wokeUp)
-            m_noted = change;
-        if (!m_settled->isActive())
-            m_settled->start();
-    }
-
-    std::unique_ptr<Timer> m_settled;
-    NetworkChange m_noted = NetworkChange::networks; ///< since the timer was started
-    std::function<void(NetworkChange)> m_changed;
+    SettledChange m_settled;
     TableWatch m_addresses, m_ways;
 };
 
@@ -110,7 +89,7 @@ private:
 
 std::unique_ptr<NetworkWatch> watchNetworks(Timers &timers)
 {
-    startWinsock();
+    startSockets();
     return std::make_unique<WindowsNetworkWatch>(timers);
 }
 

@@ -66,12 +66,6 @@ Wave waveIn(const QString &path)
 
 } // namespace
 
-SoundPlayer::SoundPlayer(std::optional<QString> file) : m_file(std::move(file))
-{
-    m_next.setSingleShot(true);
-    m_next.callOnTimeout([this] { start(); });
-}
-
 SoundPlayer::~SoundPlayer()
 {
     destroySink();
@@ -87,14 +81,6 @@ void SoundPlayer::destroySink()
     m_sink->disconnect();
     QCoreApplication::removePostedEvents(m_sink.get());
     m_sink.reset();
-}
-
-void SoundPlayer::play()
-{
-    if (m_next.isActive())
-        return;
-    const qint64 since = m_sinceStart.isValid() ? m_sinceStart.elapsed() : shortestSounding;
-    m_next.start(static_cast<int>(qMax<qint64>(0, shortestSounding - since)));
 }
 
 void SoundPlayer::start()

@@ -14,21 +14,7 @@
 namespace nimb
 {
 
-SoundPlayer::SoundPlayer(std::optional<QString> file) : m_file(std::move(file))
-{
-    m_next.setSingleShot(true);
-    m_next.callOnTimeout([this] { start(); });
-}
-
 SoundPlayer::~SoundPlayer() = default;
-
-void SoundPlayer::play()
-{
-    if (m_next.isActive())
-        return;
-    const qint64 since = m_sinceStart.isValid() ? m_sinceStart.elapsed() : shortestSounding;
-    m_next.start(static_cast<int>(qMax<qint64>(0, shortestSounding - since)));
-}
 
 /// Windows plays one sound a program, and begins anew when it is asked for another.
 void SoundPlayer::start()

@@ -1,11 +1,11 @@
-#include "platform/winsock_start.h"
+#include "platform/socket_start.h"
 
 #include <winsock2.h>
 
 namespace nimb
 {
 
-bool startWinsock()
+bool startSockets()
 {
     static const bool started = [] {
         constexpr WORD version = MAKEWORD(2, 2);

@@ -1,0 +1,11 @@
+#include "platform/socket_start.h"
+
+namespace nimb
+{
+
+bool startSockets()
+{
+    return true;
+}
+
+} // namespace nimb
