@@ -24,7 +24,8 @@ protected:
         win.start({"Win"});
         ann.hearUntil("!STATUS Online");
         ann.send("127.0.0.1", "!ONLINE 127.0.0.2 ANN-PC Ann");
-        EXPECT_TRUE(waitUntil([this] { return win.ask({"contacts"}).printed.starts_with("Ann\t127.0.0.2\tonline\t"); }));
+        EXPECT_TRUE(
+            waitUntil([this] { return win.ask({"contacts"}).printed.starts_with("Ann\t127.0.0.2\tonline\t"); }));
     }
     bool annHears(const std::string &datagram)
     {
