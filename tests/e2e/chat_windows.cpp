@@ -29,6 +29,11 @@ constexpr Point privateLog = {200, 140};
 constexpr Point logInside = {11, 58}; // its upper left corner
 constexpr int beginningOfLine = 50;
 constexpr Point inputAboveBottom = {100, 70};
+constexpr Point previewAboveBottom = {40, 215};
+constexpr int toolsAboveBottom = 120;
+// At the right, with both panels open, the avatar stands above the moods.
+constexpr int ownGaugeFromRight = 98;
+constexpr int upperPartOfGauge = 272;
 
 void copyAllAt(const Window &window, Point log)
 {
@@ -211,6 +216,33 @@ void PrivateWindow::sayClipboard() const
     focusInput();
     press("ctrl+v");
     press("Return");
+}
+
+void PrivateWindow::clickTool(Tool tool) const
+{
+    const auto x = [tool] {
+        switch (tool) {
+        case Tool::liveType:
+            return 335;
+        case Tool::mood:
+            return 400;
+        case Tool::avatar:
+            return 475;
+        }
+        return 0;
+    };
+    activate();
+    click(x(), place().height - toolsAboveBottom);
+}
+
+void PrivateWindow::markPreview() const
+{
+    click(previewAboveBottom.x, place().height - previewAboveBottom.y, 3);
+}
+
+void PrivateWindow::clickOwnGauge(int below, int button) const
+{
+    click(place().width - ownGaugeFromRight, upperPartOfGauge + below, 1, button);
 }
 
 std::vector<PrivateWindow::SeenLine> PrivateWindow::linesSeen() const

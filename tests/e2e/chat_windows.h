@@ -79,6 +79,13 @@ public:
     void clickSendLater() const;
     /// Sends what is in the clipboard as a message.
     void sayClipboard() const;
+    enum class Tool { liveType, mood, avatar };
+    /// Presses a button of the row above the input box, which has the caret afterwards.
+    void clickTool(Tool tool) const;
+    /// Marks the line in which the peer's text is seen before it is sent; where there is none, the end of the log.
+    void markPreview() const;
+    /// Presses the own gauge, so many pixels below its upper part. It is there while both panels are open.
+    void clickOwnGauge(int below, int button = 1) const;
 
 private:
     explicit PrivateWindow(const Window &window) : Window(window) { }

@@ -225,7 +225,8 @@ std::size_t Window::numberOfManaged()
 
 std::size_t Window::numberOfVisible()
 {
-    const Outcome search = run(QStringLiteral("xdotool"), {"search", "--onlyvisible", "--class", "^nimb-chat$"});
+    const Outcome search
+        = run(QStringLiteral("xdotool"), {"search", "--onlyvisible", "--class", "^nimb-chat(\\.exe)?$"});
     return static_cast<std::size_t>(search.output.count('\n'));
 }
 

@@ -1,5 +1,6 @@
 // Conferences: one copy hosts and relays, the others join, and everyone reads what the others write.
 #include "chat_windows.h"
+#include "conference_windows.h"
 #include "running_copy.h"
 #include "wire_peer.h"
 
@@ -17,119 +18,6 @@ using testing::ElementsAre;
 using testing::EndsWith;
 using testing::IsEmpty;
 using State = Window::State;
-
-constexpr char hostedFirst[] = "Conference #1 (Hosted here) - NIMB-Chat";
-constexpr char byAnnFirst[] = "Conference #1 (Hosted by 'Ann') - NIMB-Chat";
-constexpr char invitationsCaption[] = "Conference Invitations - NIMB-Chat";
-/// Of every question and every complaint.
-constexpr char boxCaption[] = "NIMB-Chat";
-
-/// The one window of this caption that is seen, apart from a known one of another copy.
-Window shown(const std::string &caption, const Window &apartFrom = {})
-{
-    std::vector<Window> found;
-    waitUntil([&] {
-        found = Window::all(caption);
-        std::erase_if(found, [&](const Window &one) { return one == apartFrom || one.state() != State::shown; });
-        return found.size() == 1;
-    });
-    EXPECT_EQ(found.size(), 1U) << "shown windows with the caption \"" << caption << '"';
-    return found.empty() ? Window() : found.front();
-}
-
-/// The same for a window that the user opens, which has the focus then. Sooner, it could still take it from another.
-Window opened(const std::string &caption, const Window &apartFrom = {})
-{
-    const Window window = shown(caption, apartFrom);
-    EXPECT_TRUE(waitUntil([&] { return window.isActive(); })) << caption << " does not get the focus";
-    return window;
-}
-
-/// Whether it comes to that: closed for good, or hidden.
-bool disappears(const Window &window)
-{
-    return waitUntil([&] { return window.state() == State::hidden; });
-}
-
-class ConferenceWindow : public Window
-{
-public:
-    explicit ConferenceWindow(const Window &window) : Window(window) { }
-
-    void say(const std::string &utf8) const
-    {
-        focusInput();
-        type(utf8);
-        press("Return");
-    }
-    void focusInput() const
-    {
-        activate();
-        click(200, place().height - 55);
-    }
-    void copyLog() const
-    {
-        activate();
-        click(250, 120);
-        press("ctrl+a");
-        press("ctrl+c");
-    }
-    /// At the host; row 0 is its own.
-    void kick(int row) const
-    {
-        const Place inside = place();
-        activate();
-        click(inside.width - 80, 36 + row * 18);
-        click(inside.width - 80, inside.height - 42);
-    }
-};
-
-void hostConference(const MainWindow &main)
-{
-    main.activate();
-    press("alt+c");
-    press("n");
-}
-
-void invite(const MainWindow &main, int row, const std::string &accessKey = "1")
-{
-    main.openContextMenu(row);
-    press(accessKey);
-}
-
-void selectFirst(const Window &invitations)
-{
-    invitations.activate();
-    invitations.click(100, 37);
-}
-
-/// Accepts the invitation in the first row.
-void accept(const Window &invitations)
-{
-    selectFirst(invitations);
-    press("alt+a");
-}
-
-void deny(const Window &invitations)
-{
-    selectFirst(invitations);
-    press("alt+d");
-}
-
-/// As accept(), but done when the click is dealt with; an access key presses its button for a moment first.
-void acceptAtOnce(const Window &invitations)
-{
-    selectFirst(invitations);
-    invitations.click(50, invitations.place().height - 54);
-}
-
-/// Answers the question that is asked, by the access key of the answer, and returns when it is gone.
-void answerQuestion(const std::string &key)
-{
-    const Window box = opened(boxCaption);
-    press(key);
-    EXPECT_TRUE(disappears(box)) << "the question stays";
-}
 
 /// One copy, Bob's, whose contacts are other machines: Ann in row 0 and Ben in row 1.
 class StoryConference : public testing::Test

@@ -16,28 +16,15 @@ using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::MatchesRegex;
+using Tool = PrivateWindow::Tool;
 using namespace std::chrono_literals;
 
-// Private window, by its layout: the tools above the input box, the preview of the peer's text at the log's lower end,
-// and at the right, with both panels open, the avatar above the moods.
-constexpr int toolsAboveBottom = 120;
-constexpr int liveTypeButton = 335;
-constexpr int moodButton = 400;
-constexpr int avatarButton = 475;
-constexpr int previewAboveBottom = 215;
+// Where what is copied is put by the middle button, above the bottom of a private window.
 constexpr int inputAboveBottom = 70;
-constexpr int ownGaugeFromRight = 98;
-constexpr int upperPartOfGauge = 272;
 constexpr int pixelsAMoodUnit = 2;
 
 /// A timer may be early by this share of its time, and never earlier.
 constexpr double earliest = 0.95;
-
-void clickTool(const PrivateWindow &window, int x)
-{
-    window.activate();
-    window.click(x, window.place().height - toolsAboveBottom);
-}
 
 class StoryExtras : public testing::Test
 {
@@ -104,7 +91,7 @@ TEST_F(StoryExtras, WithLiveTypeOffOnlyTheNoticeIsSent)
     const PrivateWindow window = startWithWindow(bob);
     ben.send("127.0.46.1", "-hello");
     const PrivateWindow withBen = PrivateWindow::with("Ben");
-    clickTool(window, liveTypeButton); // the caret is in the input box afterwards
+    window.clickTool(Tool::liveType); // the caret is in the input box afterwards
     type("Nobody sees this yet");
     EXPECT_EQ(ann.next(), "!TYPING");
 
@@ -156,7 +143,7 @@ TEST_F(StoryExtras, WhatOneTypesTheOtherReadsBeforeItIsSent)
     std::string heard;
     EXPECT_TRUE(waitUntil([&] {
         bobsWindow.activate();
-        bobsWindow.click(40, bobsWindow.place().height - previewAboveBottom, 3);
+        bobsWindow.markPreview();
         bobsWindowWithAnn.activate();
         bobsWindowWithAnn.click(100, bobsWindowWithAnn.place().height - inputAboveBottom, 1, 2);
         type(".");
@@ -173,7 +160,7 @@ TEST_F(StoryExtras, AMessageTakesThePlaceOfThePreview)
     ann.send("127.0.46.1", "!LIVETYPE one\r\ntwo\tthree");
     ASSERT_TRUE(isDealtWith(ann));
     const auto textAtThePreview = [&] {
-        window.click(40, window.place().height - previewAboveBottom, 3);
+        window.markPreview();
         window.click(100, window.place().height - inputAboveBottom, 1, 2);
         type(".");
         press("Return");
@@ -203,14 +190,14 @@ TEST_F(StoryExtras, OpeningTheAvatarPanelAsksForTheAvatar)
 {
     RunningCopy bob({"127.0.46.1", "BOB-PC"}, withAnn());
     const PrivateWindow window = startWithWindow(bob);
-    clickTool(window, avatarButton);
+    window.clickTool(Tool::avatar);
     EXPECT_EQ(ann.next(), "?AVATARHEAD");
     ann.send("127.0.46.1", "!AVATARHEAD 2026-07-21 12:00:00");
     EXPECT_EQ(ann.next(), "?AVATARBODY");
     ann.send("127.0.46.1", "!AVATARBODY " + std::string(7500, '\x7F'));
-    clickTool(window, avatarButton); // closed: no question
+    window.clickTool(Tool::avatar); // closed: no question
     EXPECT_THAT(heardUpToABuzz(), ElementsAre("!BUZZ"));
-    clickTool(window, avatarButton);
+    window.clickTool(Tool::avatar);
     EXPECT_EQ(ann.next(), "?AVATARHEAD");
 }
 
@@ -343,24 +330,21 @@ TEST_F(StoryExtras, AClickOnTheOwnGaugeSendsTheMood)
 {
     RunningCopy bob({"127.0.46.1", "BOB-PC"}, withAnn());
     const PrivateWindow window = startWithWindow(bob);
-    clickTool(window, avatarButton);
+    window.clickTool(Tool::avatar);
     EXPECT_EQ(ann.next(), "?AVATARHEAD");
-    clickTool(window, moodButton);
-    const auto clickGauge = [&](int below, int button) {
-        window.click(window.place().width - ownGaugeFromRight, upperPartOfGauge + below, 1, button);
-    };
-    clickGauge(0, 3);
-    clickGauge(0, 2);
+    window.clickTool(Tool::mood);
+    window.clickOwnGauge(0, 3);
+    window.clickOwnGauge(0, 2);
     EXPECT_THAT(heardUpToABuzz(), ElementsAre("!BUZZ"));
 
-    clickGauge(0, 1);
+    window.clickOwnGauge(0);
     const double first = moodIn(ann.next());
-    clickGauge(41, 1);
+    window.clickOwnGauge(41);
     const double second = moodIn(ann.next());
     EXPECT_EQ(second - first, 41.0 / pixelsAMoodUnit);
     EXPECT_THAT((std::vector{first, second}), Each(testing::AllOf(testing::Ge(0), testing::Lt(64))));
-    clickTool(window, moodButton); // closed: it cannot be pressed any more
-    clickGauge(0, 1);
+    window.clickTool(Tool::mood); // closed: it cannot be pressed any more
+    window.clickOwnGauge(0);
     EXPECT_THAT(heardUpToABuzz(), ElementsAre("!BUZZ"));
 }
 

@@ -17,6 +17,11 @@ public:
     {
         qputenv("WINEPREFIX", m_folder.path().toUtf8() + "/wine");
         ASSERT_EQ(QProcess::execute(QStringLiteral(UNDER_WINE), {"wineboot", "--init"}), 0) << "Wine does not start";
+        // Otherwise a program that crashed stands there as if it ran, until somebody closes the box that says so.
+        ASSERT_EQ(QProcess::execute(QStringLiteral(UNDER_WINE),
+                                    {"reg", "add", R"(HKCU\Software\Wine\WineDbg)", "/v", "ShowCrashDialog", "/t",
+                                     "REG_DWORD", "/d", "0", "/f"}),
+                  0);
     }
     void TearDown() override { QProcess::execute(QStringLiteral("wineserver"), {"-k", "-w"}); }
 

@@ -1,5 +1,6 @@
 // What an administrator rolls out: installed without a question, started, and removed while it runs.
 #include "windows_copy.h"
+#include "wire_peer.h"
 
 #include <gmock/gmock.h>
 
@@ -21,9 +22,18 @@ TEST(WindowsInstaller, InstallsSilentlyStartsFromThereAndRemovesWhatItPut)
     EXPECT_EQ(version.status, 0);
     EXPECT_THAT(version.printed, testing::HasSubstr("1.2"));
 
-    // It copies itself elsewhere, so that it can remove itself, and the first process ends before the second.
+    const std::uint16_t port = freePort();
+    WirePeer ann("127.0.0.2", port);
+    WindowsCopy installed(profile(port, {{"127.0.0.2", "Ann", "ANN-PC"}}));
+    installed.RunningCopy::start({program, QStringLiteral("Win")});
+    EXPECT_EQ(ann.next(), "?ONLINE 127.0.0.1 WIN-PC Win");
+
+    // It ends the copy that runs. And it copies itself elsewhere, so that it can remove itself: the first process ends
+    // before the second.
     EXPECT_EQ(runUnderWine({place + "/uninstall.exe", "/S"}).status, 0);
     EXPECT_TRUE(waitUntil([&] { return !QFileInfo::exists(program) && !QFileInfo::exists(place + "/uninstall.exe"); }));
+    EXPECT_EQ(installed.exitStatus(), 0);
+    EXPECT_TRUE(QFileInfo::exists(installed.storeFile())) << "the profile is the user's";
 }
 
 } // namespace
