@@ -48,7 +48,15 @@ VIAddVersionKey "LegalCopyright" "The NIMB-Chat developers"
     nsExec::Exec '"$INSTDIR\nimb-chatctl.exe" quit'
     Pop $0
     ${If} $0 == 0
-      Sleep 2000
+      ${For} $1 1 100 ; until its file can be written to, for at most 20 seconds
+        ClearErrors
+        FileOpen $2 "$INSTDIR\nimb-chat.exe" a
+        ${IfNot} ${Errors}
+          FileClose $2
+          ${ExitFor}
+        ${EndIf}
+        Sleep 200
+      ${Next}
     ${EndIf}
   ${EndIf}
 !macroend

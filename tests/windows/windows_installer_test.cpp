@@ -30,7 +30,8 @@ TEST(WindowsInstaller, InstallsSilentlyStartsFromThereAndRemovesWhatItPut)
 
     // It ends the copy that runs. And it copies itself elsewhere, so that it can remove itself: the first process ends
     // before the second.
-    EXPECT_EQ(runUnderWine({place + "/uninstall.exe", "/S"}).status, 0);
+    EXPECT_EQ(runUnderWine({place + "/uninstall.exe", "/S"}, {"NIMBCHAT_PROFILE=" + installed.profileFolder()}).status,
+              0);
     EXPECT_TRUE(waitUntil([&] { return !QFileInfo::exists(program) && !QFileInfo::exists(place + "/uninstall.exe"); }));
     EXPECT_EQ(installed.exitStatus(), 0);
     EXPECT_TRUE(QFileInfo::exists(installed.storeFile())) << "the profile is the user's";
