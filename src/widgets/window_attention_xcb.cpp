@@ -2,8 +2,6 @@
 
 #include <QApplication>
 #include <QWidget>
-
-#ifdef NIMB_XCB
 #include <QtGui/qguiapplication_platform.h>
 #include <xcb/xcb.h>
 
@@ -11,33 +9,19 @@
 #include <cstdlib>
 #include <cstring>
 #include <memory>
-#endif
 
 namespace nimb
 {
 namespace
 {
 
-#ifdef NIMB_XCB
 /// Null where the windows are no X11 windows.
 xcb_connection_t *connectionToX11()
 {
     const auto *const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     return x11 ? x11->connection() : nullptr;
 }
-#endif
 
-/// An idle program sends its requests to the X server only with the next one. QGuiApplication::sync() would do it too,
-/// but runs events meanwhile.
-void flushRequests()
-{
-#ifdef NIMB_XCB
-    if (xcb_connection_t *const connection = connectionToX11())
-        xcb_flush(connection);
-#endif
-}
-
-#ifdef NIMB_XCB
 /// Of the hints for the window manager: which of them count, and the state in which the window comes up.
 constexpr std::size_t hintFlags = 0, initialState = 2, hintWords = 9;
 constexpr std::uint32_t stateCounts = 2, normalState = 1;
@@ -57,22 +41,22 @@ void setInitialStateNormal(xcb_connection_t *connection, xcb_window_t window)
     xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_HINTS, XCB_ATOM_WM_HINTS, 32, hintWords,
                         hints.data());
 }
-#endif
 
 } // namespace
 
-void forgetMinimisedWish([[maybe_unused]] QWidget &window)
+void forgetMinimisedWish(QWidget &window)
 {
-#ifdef NIMB_XCB
     if (xcb_connection_t *const connection = connectionToX11())
         setInitialStateNormal(connection, static_cast<xcb_window_t>(window.winId()));
-#endif
 }
 
 void flashTaskBarButton(QWidget &window)
 {
     QApplication::alert(&window);
-    flushRequests();
+    // An idle program sends its requests to the X server only with the next one. QGuiApplication::sync() would do it
+    // too, but runs events meanwhile.
+    if (xcb_connection_t *const connection = connectionToX11())
+        xcb_flush(connection);
 }
 
 } // namespace nimb
